@@ -1,0 +1,67 @@
+include(GenerateExportHeader)
+
+# Flags that every target of this tree is compiled with. An interface target, so that installed packages do not carry them.
+add_library(vesk_build_flags INTERFACE)
+if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
+    target_compile_options(vesk_build_flags INTERFACE
+        -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wold-style-cast
+        # Warnings name the source file relative to the tree, on every machine alike.
+        "-ffile-prefix-map=${PROJECT_SOURCE_DIR}/="
+        $<$<BOOL:${VESK_WARNINGS_AS_ERRORS}>:-Werror>)
+    target_link_options(vesk_build_flags INTERFACE
+        $<$<AND:$<PLATFORM_ID:Linux>,$<NOT:$<BOOL:${VESK_SANITIZE}>>>:-Wl,--no-undefined>)
+endif()
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    # A unique symbol pins its library in the process: unloading must really unload.
+    target_compile_options(vesk_build_flags INTERFACE -fno-gnu-unique)
+endif()
+if(VESK_SANITIZE)
+    target_compile_options(vesk_build_flags INTERFACE
+        -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    target_link_options(vesk_build_flags INTERFACE -fsanitize=address,undefined)
+endif()
+
+# vesk_library(<target> ALIAS <Vesk::Name> EXPORT <MACRO> EXPORT_FILE <path below the include root>)
+#
+# A shared library whose published headers stand in include/ beside its CMakeLists.txt (where it has any), and whose
+# export macro comes from a generated header.
+function(vesk_library target)
+    cmake_parse_arguments(ARG "" "ALIAS;EXPORT;EXPORT_FILE" "" ${ARGN})
+    add_library(${target} SHARED)
+    add_library(${ARG_ALIAS} ALIAS ${target})
+    string(REGEX REPLACE "^.*::" "" exported "${ARG_ALIAS}")
+    set_target_properties(${target} PROPERTIES EXPORT_NAME ${exported} VERSION ${PROJECT_VERSION})
+    target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:vesk_build_flags>)
+
+    set(generated "${CMAKE_CURRENT_BINARY_DIR}/include")
+    generate_export_header(${target} EXPORT_MACRO_NAME ${ARG_EXPORT} EXPORT_FILE_NAME "${generated}/${ARG_EXPORT_FILE}")
+    target_include_directories(${target} PUBLIC
+        "$<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}/include>" "$<BUILD_INTERFACE:${generated}>"
+        "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/vesk>")
+    install(TARGETS ${target} EXPORT VeskTargets
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+    if(EXISTS "${CMAKE_CURRENT_SOURCE_DIR}/include")
+        install(DIRECTORY include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vesk)
+    endif()
+    install(DIRECTORY "${generated}/" DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vesk)
+endfunction()
+
+# vesk_test(<name> LABEL <unit|scenario|desktop|consumer> SOURCES <file>... [LIBRARIES <target>...] [TIMEOUT <s>])
+#
+# One Qt Test program; it runs on the offscreen platform with the C.UTF-8 locale unless it is a desktop test.
+function(vesk_test name)
+    cmake_parse_arguments(ARG "" "LABEL;TIMEOUT" "SOURCES;LIBRARIES" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    set_target_properties(${name} PROPERTIES AUTOMOC ON RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
+    target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
+    target_link_libraries(${name} PRIVATE vesk_build_flags ${ARG_LIBRARIES} Qt::Test)
+    if(NOT ARG_TIMEOUT)
+        set(ARG_TIMEOUT 120)
+    endif()
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES LABELS ${ARG_LABEL} TIMEOUT ${ARG_TIMEOUT}
+        ENVIRONMENT "LC_ALL=C.UTF-8;VESK_UNATTENDED=1;UBSAN_OPTIONS=print_stacktrace=1;ASAN_OPTIONS=detect_leaks=1")
+    if(NOT ARG_LABEL STREQUAL "desktop")
+        set_property(TEST ${name} APPEND PROPERTY ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+    endif()
+endfunction()

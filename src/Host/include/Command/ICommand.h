@@ -1,0 +1,36 @@
+#pragma once
+
+#include "Foundation/HostExport.h"
+#include "Foundation/OwnerPtr.h"
+
+#include <string>
+
+namespace vesk
+{
+
+class CommandParameters;
+class IAction;
+class IUiView;
+
+/// Something that the user can have done, registered under an id.
+class VESK_HOST_API ICommand
+{
+public:
+    virtual ~ICommand() = default;
+
+    virtual std::wstring GetCommandId() const = 0;
+
+    /// True when its journal record holds the id alone, false when it holds the parameters too.
+    virtual bool IsJournalIdOnly() const = 0;
+    virtual bool IsEnabled() const = 0;
+    virtual bool IsVisible() const = 0;
+
+    /// True when it runs as an action that goes on until the user ends it.
+    virtual bool IsInteractive() const = 0;
+
+    /// Does what the command is for. An interactive command returns its action, which the action
+    /// manager runs; any other has done its work when it returns an empty pointer.
+    virtual OwnerPtr<IAction> Execute(IUiView* pView, const CommandParameters& parameters) = 0;
+};
+
+}

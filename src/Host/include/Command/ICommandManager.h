@@ -1,0 +1,33 @@
+#pragma once
+
+#include "Foundation/HostExport.h"
+#include "Foundation/OwnerPtr.h"
+
+#include <string>
+
+namespace vesk
+{
+
+class ICommand;
+
+/// The registered commands.
+class VESK_HOST_API ICommandManager
+{
+public:
+    /// The manager; it lives as long as the process.
+    static ICommandManager* Get();
+
+    virtual ~ICommandManager() = default;
+
+    /// The command registered under that id, null when there is none. Not owned.
+    virtual ICommand* GetCommand(const std::wstring& commandId) const = 0;
+
+    /// Registers a command; false, and the new one is freed, when its id is taken.
+    virtual bool AddCommand(OwnerPtr<ICommand> opCommand) = 0;
+
+    /// Frees the command with that id. Must not be called while the command runs.
+    virtual void RemoveCommand(const std::wstring& commandId) = 0;
+    virtual void RemoveAllCommands() = 0;
+};
+
+}

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "Foundation/HostExport.h"
+
+#include <string>
+
+namespace vesk
+{
+
+/// While one lives, changes of the definition with its id are the user's. Scopes may nest.
+///
+/// GUI thread only.
+class VESK_HOST_API ControlDefinitionChangeByUser
+{
+public:
+    explicit ControlDefinitionChangeByUser(const std::wstring& id);
+    ~ControlDefinitionChangeByUser();
+    ControlDefinitionChangeByUser(const ControlDefinitionChangeByUser&) = delete;
+    ControlDefinitionChangeByUser& operator=(const ControlDefinitionChangeByUser&) = delete;
+
+    /// True while a scope with this id lives.
+    static bool IsChangeByUser(const std::wstring& id);
+
+private:
+    std::wstring m_id;
+    const ControlDefinitionChangeByUser* m_pOuter;
+};
+
+/// Marks that a line edit's text is being changed by the user: the edit sets the flag, the end of
+/// a scope object clears it.
+class VESK_HOST_API LineEditTextChangeFlag
+{
+public:
+    LineEditTextChangeFlag() = default;
+    ~LineEditTextChangeFlag();
+    LineEditTextChangeFlag(const LineEditTextChangeFlag&) = delete;
+    LineEditTextChangeFlag& operator=(const LineEditTextChangeFlag&) = delete;
+
+    static bool m_textChangeByUser;
+};
+
+/// Marks that a radio-button group is being changed by the user, in the same way.
+class VESK_HOST_API RadioButtonGroupStateChangeFlag
+{
+public:
+    RadioButtonGroupStateChangeFlag() = default;
+    ~RadioButtonGroupStateChangeFlag();
+    RadioButtonGroupStateChangeFlag(const RadioButtonGroupStateChangeFlag&) = delete;
+    RadioButtonGroupStateChangeFlag& operator=(const RadioButtonGroupStateChangeFlag&) = delete;
+
+    static bool m_stateChangeByUser;
+};
+
+}

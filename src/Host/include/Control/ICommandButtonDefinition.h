@@ -1,0 +1,24 @@
+#pragma once
+
+#include "Control/IControlDefinition.h"
+
+namespace vesk
+{
+
+/// A button that sends a command.
+class VESK_HOST_API ICommandButtonDefinition : public IControlDefinition
+{
+public:
+    /// The command sent by a click.
+    virtual std::wstring GetCommandId() const = 0;
+
+    /// A path or resource name of the icon.
+    virtual std::wstring GetIconPath() const = 0;
+
+    /// 0 icon only, 1 text only, 2 text beside icon, 3 text under icon, 4 as the style says.
+    virtual int GetButtonStyle() const = 0;
+    virtual void SetChecked(bool isChecked) = 0;
+    virtual bool IsChecked() const = 0;
+};
+
+}

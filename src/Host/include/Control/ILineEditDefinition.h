@@ -1,0 +1,48 @@
+#pragma once
+
+#include "Control/IControlDefinition.h"
+#include "Foundation/OwnerPtr.h"
+
+#include <string>
+
+namespace vesk
+{
+
+class ILineEditEvent;
+class ValidatorBase;
+
+/// What a line edit takes; decides its default validator.
+struct LineEditInputType
+{
+    enum : int
+    {
+        Text = 0,
+        Integer = 1,
+        Real = 2,
+    };
+};
+
+/// A single line of text that the user edits.
+class VESK_HOST_API ILineEditDefinition : public IControlDefinition
+{
+public:
+    /// One of LineEditInputType.
+    virtual int GetInputType() const = 0;
+    virtual std::wstring GetText() const = 0;
+
+    /// Sets the text; a different text drops the selection.
+    virtual void SetText(const std::wstring& text) = 0;
+    virtual void ClearText() = 0;
+    virtual std::wstring GetSelectedText() const = 0;
+
+    /// Takes the validator over, freeing the one held before.
+    virtual void SetValidator(OwnerPtr<ValidatorBase> opValidator) = 0;
+
+    /// The validator, not owned by the caller; null when there is none.
+    virtual const ValidatorBase* GetValidator() const = 0;
+
+    /// The event on which the end of editing is told; owned by the definition.
+    virtual ILineEditEvent* GetLineEditEvent() const = 0;
+};
+
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "Control/IControlDefinition.h"
+
+namespace vesk
+{
+
+/// How far a task has come.
+class VESK_HOST_API IProgressBarDefinition : public IControlDefinition
+{
+public:
+    /// 0 to 100.
+    virtual int GetValue() const = 0;
+    virtual bool IsTextVisible() const = 0;
+
+    /// Width in pixels.
+    virtual int GetWidth() const = 0;
+};
+
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "Control/IControlDefinition.h"
+
+#include <string>
+#include <vector>
+
+namespace vesk
+{
+
+/// One button of a radio-button group; whether it is checked is the group's to say.
+class VESK_HOST_API IRadioButtonDefinition : public IControlDefinition
+{
+};
+
+/// Buttons of which one is checked.
+class VESK_HOST_API IRadioButtonGroupDefinition : public IControlDefinition
+{
+public:
+    /// The buttons in display order, owned by the group.
+    virtual std::vector<const IRadioButtonDefinition*> GetRadioButtonDefinitions() const = 0;
+
+    /// The id of the checked button.
+    virtual std::wstring GetCurrentRadioButtonId() const = 0;
+    virtual void SetCurrentRadioButtonId(const std::wstring& radioButtonId) = 0;
+};
+
+}

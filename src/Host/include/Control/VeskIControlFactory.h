@@ -1,0 +1,58 @@
+#pragma once
+
+#include "Foundation/HostExport.h"
+#include "Foundation/OwnerPtr.h"
+#include "View/WindowId.h"
+
+namespace vesk
+{
+
+class ICheckBoxGroupDefinition;
+class IComboBoxDefinition;
+class ICommandButtonDefinition;
+class ICommandButtonMenuDefinition;
+class IControl;
+class ILabelDefinition;
+class ILineEditDefinition;
+class IProgressBarDefinition;
+class IRadioButtonGroupDefinition;
+
+/// Makes the controls that show definitions.
+///
+/// Each operation takes the definition over and returns the control, which owns it from then on.
+/// The result is empty when no control could be made; the definition is then freed.
+class VESK_HOST_API VeskIControlFactory
+{
+public:
+    VeskIControlFactory() = default;
+    virtual ~VeskIControlFactory() = default;
+    VeskIControlFactory(const VeskIControlFactory&) = delete;
+    VeskIControlFactory& operator=(const VeskIControlFactory&) = delete;
+
+    /// The registered factory, null when no control library is loaded. Not owned.
+    static VeskIControlFactory* Get();
+
+    virtual OwnerPtr<IControl>
+    CreateQtButton(OwnerPtr<ICommandButtonDefinition> opDefinition) = 0;
+    virtual OwnerPtr<IControl> CreateQtLineEdit(OwnerPtr<ILineEditDefinition> opDefinition) = 0;
+    virtual OwnerPtr<IControl> CreateQtLabel(OwnerPtr<ILabelDefinition> opDefinition) = 0;
+    virtual OwnerPtr<IControl>
+    CreateQtCommandButtonMenu(OwnerPtr<ICommandButtonMenuDefinition> opDefinition) = 0;
+    virtual OwnerPtr<IControl> CreateQtComboBox(OwnerPtr<IComboBoxDefinition> opDefinition) = 0;
+    virtual OwnerPtr<IControl>
+    CreateQtProgressBar(OwnerPtr<IProgressBarDefinition> opDefinition) = 0;
+
+    /// The group's buttons become children of the widget with that window id.
+    virtual OwnerPtr<IControl>
+    CreateQtRadioButtonGroup(OwnerPtr<IRadioButtonGroupDefinition> opDefinition,
+                             WindowId parentWindowId) = 0;
+    virtual OwnerPtr<IControl>
+    CreateQtCheckBoxGroup(OwnerPtr<ICheckBoxGroupDefinition> opDefinition,
+                          WindowId parentWindowId) = 0;
+
+protected:
+    /// Registers the factory; null withdraws it. Not owned.
+    static void Set(VeskIControlFactory* pFactory);
+};
+
+}

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "Foundation/HostExport.h"
+#include "Geometry/Intervald.h"
+
+namespace vesk
+{
+
+/// What an action hands in to have dimensions shown and typed. Points are world points, ranges are
+/// in the unit shown.
+class VESK_HOST_API ITemporaryDimensionContext
+{
+public:
+    virtual ~ITemporaryDimensionContext() = default;
+
+    /// The values that may be typed in the first and in the second field.
+    virtual Intervald GetFirstValueRange() const = 0;
+    virtual Intervald GetSecondValueRange() const = 0;
+};
+
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "Dimension/InputState.h"
+#include "Geometry/Vector3d.h"
+
+#include <array>
+#include <cstddef>
+
+namespace vesk
+{
+
+/// What the generators found: for each value that can be typed, where its text stands and what it is.
+struct TemporaryDimensionData
+{
+    struct Entry
+    {
+        Vector3d textPosition = Vector3d::Zero();  ///< World position of the text's centre.
+        double value = 0.0;                        ///< In the unit shown; angles in degrees.
+    };
+
+    static constexpr int EntryCount = 6;
+
+    /// The entry of a state from IS_Length to IS_Height.
+    Entry& operator[](InputState state) { return m_entries[static_cast<std::size_t>(state) - 1]; }
+    const Entry& operator[](InputState state) const
+    {
+        return m_entries[static_cast<std::size_t>(state) - 1];
+    }
+
+private:
+    std::array<Entry, EntryCount> m_entries;
+};
+
+}

@@ -1,0 +1,91 @@
+#pragma once
+
+#include "Dimension/InputState.h"
+#include "Foundation/HostExport.h"
+#include "Foundation/OwnerPtr.h"
+
+#include <string>
+#include <vector>
+
+namespace vesk
+{
+
+class IGraphicsNodeGroup;
+class ITemporaryDimensionContext;
+class ITemporaryDimensionHandler;
+class ITemporaryDimensionHandlerFactory;
+
+/// Reaches what handlers offer besides their interface.
+class VESK_HOST_API ITemporaryDimensionHandlerAccess
+{
+public:
+    virtual ~ITemporaryDimensionHandlerAccess() = default;
+
+    /// Has the handler place its editor again.
+    virtual void ResetEditorPosition(ITemporaryDimensionHandler& handler) = 0;
+
+    /// Which value the handler is taking.
+    virtual InputState GetInputState(ITemporaryDimensionHandler& handler) = 0;
+};
+
+/// What was in the editor when a value was taken.
+struct TypedValue
+{
+    std::wstring text;         ///< As it stood there.
+    bool isUnchanged = false;  ///< The field was shown with its current value and nobody typed in it.
+};
+
+/// Owns the handler of the provisional dimensions, and their graphics.
+///
+/// It ends the input before it drops or replaces the handler, and activates the view afterwards.
+class VESK_HOST_API TemporaryDimensionMgr
+{
+public:
+    /// The manager; it lives as long as the process.
+    static TemporaryDimensionMgr* GetInstance();
+
+    /// Registers the factory; null withdraws it, and the handler is dropped. Not owned.
+    void SetHandlerFactory(ITemporaryDimensionHandlerFactory* pFactory);
+
+    /// Chooses how handlers are reached; null for not at all. Not owned.
+    void SetHandlerAccess(ITemporaryDimensionHandlerAccess* pAccess);
+
+    /// Shows a context: keeps, replaces or creates the handler and makes its graphics. An empty
+    /// pointer drops the handler.
+    void SetContext(OwnerPtr<ITemporaryDimensionContext> opContext);
+
+    /// Makes the graphics of a context anew with the handler there is, and places its editor again.
+    void Regenerate(OwnerPtr<ITemporaryDimensionContext> opContext);
+
+    /// Ends the input and drops handler, graphics and locks.
+    void Drop();
+
+    /// Ends the input, if there is one.
+    void EndInput();
+    bool IsInputting() const;
+    bool HasHandler() const;
+
+    /// Hands a key of the view to the handler (codes: ITemporaryDimensionHandler). True when taken.
+    bool OnKeyDown(int virtualKey, bool isCtrl, bool isAlt, bool isShift);
+
+    /// Which value is being typed.
+    InputState GetInputState() const;
+
+    /// The provisional graphics, null when there are none. Not owned; gone with the next change.
+    const IGraphicsNodeGroup* GetGraphics() const;
+
+    /// Values that the cursor no longer changes; their dimensions show it.
+    void SetLocked(InputState field, bool isLocked);
+    bool IsLocked(InputState field) const;
+    std::vector<InputState> GetLocked() const;
+
+    /// What stood in the editor when the value that is now being delivered was taken.
+    void SetTypedValue(const TypedValue& typed);
+    const TypedValue& GetTypedValue() const;
+
+private:
+    TemporaryDimensionMgr();
+    ~TemporaryDimensionMgr();
+};
+
+}

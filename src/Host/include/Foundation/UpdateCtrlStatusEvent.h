@@ -1,0 +1,36 @@
+#pragma once
+
+#include "Foundation/HostExport.h"
+#include "Foundation/IApplication.h"
+
+namespace vesk
+{
+
+/// Asks every control to refresh its status.
+///
+/// Any number of these that wait together refresh the controls once, when the last of them is emitted.
+class VESK_HOST_API UpdateCtrlStatusEvent : public IApplicationEvent
+{
+public:
+    UpdateCtrlStatusEvent();
+    ~UpdateCtrlStatusEvent() override;
+    UpdateCtrlStatusEvent(const UpdateCtrlStatusEvent&) = delete;
+    UpdateCtrlStatusEvent& operator=(const UpdateCtrlStatusEvent&) = delete;
+
+    void Emit() override;
+};
+
+/// Refreshes controls when it is asked to; one instance listens at a time.
+class VESK_HOST_API IControlStatusRefresher
+{
+public:
+    virtual ~IControlStatusRefresher() = default;
+
+    /// Brings every control in step with its definition's visibility and enabled state.
+    virtual void RefreshControls() = 0;
+
+    /// Installs the one that listens; null removes it. Not owned.
+    static void Set(IControlStatusRefresher* pRefresher);
+};
+
+}

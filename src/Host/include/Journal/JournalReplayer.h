@@ -1,0 +1,45 @@
+#pragma once
+
+#include "Foundation/HostExport.h"
+#include "Journal/JournalRecord.h"
+
+#include <string>
+#include <vector>
+
+namespace vesk
+{
+
+/// Repeats what the journal holds of the model besides commands.
+class VESK_HOST_API IJournalReplayTarget
+{
+public:
+    virtual ~IJournalReplayTarget() = default;
+
+    /// Sets a property. False when there is none of that name.
+    virtual bool ReplayProperty(const PropertyRecord& record) = 0;
+
+    /// True when the last undo gave the result that the record names.
+    virtual bool VerifyUndo(const UndoRecord& record) = 0;
+};
+
+/// How a replay went.
+struct JournalReplayResult
+{
+    /// Empty when every record was repeated; else which one was not, and why.
+    std::string failure;
+
+    /// The commands whose completion mark is missing at the end of the journal.
+    std::vector<std::wstring> unfinishedCommands;
+};
+
+/// Repeats a journal through the registered commands, without an event loop.
+class VESK_HOST_API JournalReplayer
+{
+public:
+    /// Repeats the records in order and stops at the first that cannot be done or gives another
+    /// result. What was finished before stays done. Runs no event loop of actions meanwhile.
+    static JournalReplayResult Replay(const std::vector<JournalRecord>& records,
+                                      IJournalReplayTarget& target);
+};
+
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "Foundation/HostExport.h"
+#include "Foundation/OwnerPtr.h"
+
+#include <string>
+
+namespace vesk
+{
+
+class IJournalData;
+class IJournalUiObject;
+
+/// Makes journal records.
+class VESK_HOST_API NqIJournalFactory
+{
+public:
+    /// The installed factory, null when there is none. Not owned.
+    static NqIJournalFactory* GetImpl();
+
+    /// Installs a factory; null removes it. Not owned.
+    static void SetImpl(NqIJournalFactory* pFactory);
+
+    virtual ~NqIJournalFactory() = default;
+
+    /// A record of the class with that name; empty for an unknown name.
+    virtual OwnerPtr<IJournalData> CreateJournalData(const std::wstring& className) = 0;
+    virtual OwnerPtr<IJournalUiObject> CreateJournalUiObject() = 0;
+};
+
+}

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "Validation/ValidatorBase.h"
+
+#include <limits>
+#include <string>
+
+namespace vesk
+{
+
+/// Judges whether a text is a number within bounds. `T` is int or double.
+///
+/// By default every number is accepted. A text is a number when it is one as a whole, in the C
+/// locale; NaN is outside every range.
+template <class T>
+class NumberValidator : public ValidatorBase
+{
+public:
+    NumberValidator() = default;
+    NumberValidator(T bottom, T top, std::wstring tip, bool isBottomInclusive, bool isTopInclusive,
+                    int decimals)
+        : ValidatorBase(std::move(tip)), m_bottom(bottom), m_top(top),
+          m_isBottomInclusive(isBottomInclusive), m_isTopInclusive(isTopInclusive),
+          m_decimals(decimals)
+    {
+    }
+
+    bool ValidateInput(const std::wstring& text) const override;
+
+    /// The tip given at construction, or else one that names the range.
+    std::wstring GetTip() const override;
+
+    /// True within the bounds.
+    bool ValidateValue(T value) const
+    {
+        const bool isAbove = m_isBottomInclusive ? value >= m_bottom : value > m_bottom;
+        const bool isBelow = m_isTopInclusive ? value <= m_top : value < m_top;
+        return isAbove && isBelow;
+    }
+
+    void SetBottom(T bottom, bool isInclusive)
+    {
+        m_bottom = bottom;
+        m_isBottomInclusive = isInclusive;
+    }
+
+    void SetTop(T top, bool isInclusive)
+    {
+        m_top = top;
+        m_isTopInclusive = isInclusive;
+    }
+
+    /// How many decimals the value is shown with; never refuses or rounds a typed number.
+    void SetDecimals(int decimals) { m_decimals = decimals; }
+    int GetDecimals() const { return m_decimals; }
+    T GetBottom() const { return m_bottom; }
+    T GetTop() const { return m_top; }
+
+private:
+    T m_bottom = std::numeric_limits<T>::lowest();
+    T m_top = std::numeric_limits<T>::max();
+    bool m_isBottomInclusive = true;
+    bool m_isTopInclusive = true;
+    int m_decimals = 3;
+};
+
+extern template class VESK_HOST_API NumberValidator<int>;
+extern template class VESK_HOST_API NumberValidator<double>;
+
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "Foundation/HostExport.h"
+
+#include <string>
+#include <utility>
+
+namespace vesk
+{
+
+/// Judges what is typed. It never alters or refuses a character.
+class VESK_HOST_API ValidatorBase
+{
+public:
+    explicit ValidatorBase(std::wstring tip = {}) : m_tip(std::move(tip)) {}
+    virtual ~ValidatorBase() = default;
+
+    /// True when the text as it stands would be accepted.
+    virtual bool ValidateInput(const std::wstring& text) const = 0;
+
+    /// What to tell the user when it would not; may be empty.
+    virtual std::wstring GetTip() const { return m_tip; }
+
+private:
+    std::wstring m_tip;
+};
+
+}
