@@ -1,0 +1,47 @@
+#pragma once
+
+#include "Qtitan/QtitanExport.h"
+
+#include <QPointer>
+#include <QToolButton>
+#include <QWidget>
+
+namespace Qtitan
+{
+
+/// The place of one tool button in a ribbon. It is shown exactly while it holds a button that is
+/// not hidden, and gives the button all of its room.
+class QTITAN_EXPORT RibbonButtonControl : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit RibbonButtonControl(QWidget* pParent = nullptr);
+    ~RibbonButtonControl() override;
+
+    /// The placed button itself; null when there is none, or when it was deleted or has been
+    /// given another parent.
+    QToolButton* widget() const;
+
+    /// Places a button, becomes its parent and gives it the ribbon's icon size; its other
+    /// properties stay. A button placed before is hidden and left without a parent: it is the
+    /// caller's again. Null empties the control.
+    void setWidget(QToolButton* pButton);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    bool event(QEvent* pEvent) override;
+    bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
+    void childEvent(QChildEvent* pEvent) override;
+    void resizeEvent(QResizeEvent* pEvent) override;
+    void showEvent(QShowEvent* pEvent) override;
+
+private:
+    void followButton();
+
+    QPointer<QToolButton> m_pButton;
+};
+
+} // namespace Qtitan

@@ -1,0 +1,134 @@
+#include "KeyTipList.h"
+
+#include "Caption.h"
+#include "Qtitan/RibbonBar.h"
+#include "Qtitan/RibbonButtonControl.h"
+#include "Qtitan/RibbonPage.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QLabel>
+#include <QSet>
+#include <QToolButton>
+
+namespace Qtitan
+{
+
+namespace
+{
+
+/// The keys in the order in which they are given out: 1 to 9, A to Z, then pairs behind a 0.
+/// No key is the beginning of another.
+QStringList allKeys()
+{
+    QStringList keys;
+    for (char c = '1'; c <= '9'; ++c)
+        keys.append(QString(QLatin1Char(c)));
+    for (char c = 'A'; c <= 'Z'; ++c)
+        keys.append(QString(QLatin1Char(c)));
+    const QStringList singles = keys;
+    for (const QString& single : singles)
+        keys.append(QLatin1Char('0') + single);
+    return keys;
+}
+
+/// Wishes first, each to the first who has it; then the free keys in order. What is left over
+/// when all keys are given out goes without.
+void assignKeys(KeyTipList& tips)
+{
+    QStringList free = allKeys();
+    for (KeyTip& tip : tips)
+    {
+        if (!tip.wish.isNull() && free.removeOne(QString(tip.wish)))
+            tip.keys = tip.wish;
+    }
+    for (KeyTip& tip : tips)
+    {
+        if (tip.keys.isEmpty() && !free.isEmpty())
+            tip.keys = free.takeFirst();
+    }
+}
+
+QString captionOf(const QWidget& widget, const QList<QLabel*>& labels)
+{
+    for (const QLabel* pLabel : labels)
+    {
+        if (pLabel->buddy() == &widget)
+            return pLabel->text();
+    }
+    // A tool button doubles the '&' of its action's text.
+    if (const auto* pTool = qobject_cast<const QToolButton*>(&widget);
+        pTool && pTool->defaultAction())
+        return pTool->defaultAction()->text();
+    const auto* pButton = qobject_cast<const QAbstractButton*>(&widget);
+    return pButton != nullptr ? pButton->text() : QString();
+}
+
+bool isReachable(const QWidget& widget)
+{
+    return qobject_cast<const QAbstractButton*>(&widget) != nullptr ||
+           (widget.focusPolicy() & Qt::TabFocus) != 0;
+}
+
+void collectTargets(const QWidget& parent, QList<QWidget*>& targets)
+{
+    const auto children = parent.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    for (QWidget* pChild : children)
+    {
+        if (!pChild->isVisible() || !pChild->isEnabled() || pChild->isWindow())
+            continue;
+        if (isReachable(*pChild))
+            targets.append(pChild);
+        else
+            collectTargets(*pChild, targets);
+    }
+}
+
+/// Below the middle of a large button, at the left end of a row.
+QPoint badgeCentre(const QWidget& target, const RibbonBar& bar)
+{
+    const bool isLarge = qobject_cast<const RibbonButtonControl*>(target.parentWidget()) != nullptr;
+    const QRect rect = target.rect();
+    const QPoint centre = isLarge ? QPoint(rect.center().x(), rect.bottom() - 4)
+                                  : QPoint(rect.left() + 8, rect.center().y());
+    return target.mapTo(const_cast<RibbonBar*>(&bar), centre);
+}
+
+} // namespace
+
+KeyTipList keyTipsOfTabs(const RibbonBar& bar)
+{
+    KeyTipList tips;
+    for (int i = 0; i < bar.pageCount(); ++i)
+    {
+        KeyTip tip;
+        tip.tab = i;
+        tip.wish = mnemonicOf(bar.page(i)->title());
+        tip.centre = QPoint(bar.tabRect(i).center().x(), bar.tabRect(i).bottom() - 4);
+        tips.push_back(tip);
+    }
+    assignKeys(tips);
+    return tips;
+}
+
+KeyTipList keyTipsOfPage(const RibbonBar& bar, const RibbonPage& page)
+{
+    QList<QWidget*> targets;
+    collectTargets(page, targets);
+    const QList<QLabel*> labels = page.findChildren<QLabel*>();
+    const QRect shown(page.mapTo(const_cast<RibbonBar*>(&bar), QPoint()), page.size());
+    KeyTipList tips;
+    for (QWidget* pTarget : targets)
+    {
+        KeyTip tip;
+        tip.pTarget = pTarget;
+        tip.wish = mnemonicOf(captionOf(*pTarget, labels));
+        tip.centre = badgeCentre(*pTarget, bar);
+        if (shown.contains(tip.centre))
+            tips.push_back(tip);
+    }
+    assignKeys(tips);
+    return tips;
+}
+
+} // namespace Qtitan

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QPointer>
+#include <QString>
+#include <QWidget>
+
+#include <vector>
+
+namespace Qtitan
+{
+
+class RibbonBar;
+class RibbonPage;
+
+/// What one key tip leads to: a tab, or a widget on the page.
+struct KeyTip
+{
+    QString keys;
+    QChar wish;
+    int tab = -1;
+    QPointer<QWidget> pTarget;
+    QPoint centre;
+};
+
+using KeyTipList = std::vector<KeyTip>;
+
+/// The key tips of all tabs; centres are in the bar's coordinates.
+KeyTipList keyTipsOfTabs(const RibbonBar& bar);
+
+/// The key tips of what a page shows and can be used: buttons and whatever takes the focus.
+/// Controls that are scrolled out of the page have none, but its scroll buttons have.
+KeyTipList keyTipsOfPage(const RibbonBar& bar, const RibbonPage& page);
+
+} // namespace Qtitan

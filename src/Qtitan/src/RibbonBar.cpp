@@ -1,0 +1,135 @@
+#include "Qtitan/RibbonBar.h"
+
+#include "Caption.h"
+#include "Qtitan/RibbonPage.h"
+#include "RibbonColors.h"
+#include "RibbonKeyTips.h"
+#include "RibbonTabBar.h"
+
+#include <QEvent>
+#include <QPainter>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+namespace Qtitan
+{
+
+RibbonBar::RibbonBar(QWidget* pParent)
+    : QWidget(pParent), m_pTabs(new RibbonTabBar(this)), m_pPages(new QStackedWidget(this))
+{
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    auto* pLayout = new QVBoxLayout(this);
+    pLayout->setContentsMargins(0, 0, 0, 1);
+    pLayout->setSpacing(0);
+    pLayout->addWidget(m_pTabs);
+    pLayout->addWidget(m_pPages);
+    m_pPages->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+
+    connect(m_pTabs, &QTabBar::currentChanged, this, &RibbonBar::OnCurrentTabChanged);
+    connect(m_pTabs, &QTabBar::tabBarDoubleClicked, this, &RibbonBar::OnTabDoubleClicked);
+    connect(m_pPages, &QStackedWidget::widgetRemoved, this, &RibbonBar::OnPageRemoved);
+    applyColors();
+    new RibbonKeyTips(*this);
+}
+
+RibbonBar::~RibbonBar()
+{
+    // The pages go one by one with the base class, when there is nobody left to be told of it.
+    disconnect(m_pPages, nullptr, this, nullptr);
+    disconnect(m_pTabs, nullptr, this, nullptr);
+}
+
+RibbonPage* RibbonBar::addPage(const QString& title)
+{
+    auto* pPage = new RibbonPage(title, m_pPages);
+    m_pPages->addWidget(pPage);
+    // The tab bar would make an Alt shortcut of a single '&'; here it marks a key tip only.
+    const QString caption = plainCaption(title);
+    const int index =
+        m_pTabs->addTab(QString(caption).replace(QLatin1Char('&'), QLatin1String("&&")));
+    m_pTabs->setAccessibleTabName(index, caption);
+    return pPage;
+}
+
+int RibbonBar::pageCount() const
+{
+    return m_pPages->count();
+}
+
+RibbonPage* RibbonBar::page(int index) const
+{
+    return qobject_cast<RibbonPage*>(m_pPages->widget(index));
+}
+
+int RibbonBar::currentPageIndex() const
+{
+    return m_pTabs->currentIndex();
+}
+
+void RibbonBar::setCurrentPageIndex(int index)
+{
+    m_pTabs->setCurrentIndex(index);
+}
+
+bool RibbonBar::isMinimized() const
+{
+    return m_pPages->isHidden();
+}
+
+void RibbonBar::setMinimized(bool minimized)
+{
+    m_pPages->setVisible(!minimized);
+    m_pTabs->setJoinedToPage(!minimized);
+}
+
+QRect RibbonBar::tabRect(int index) const
+{
+    const QRect rect = m_pTabs->tabRect(index);
+    return rect.isEmpty() ? QRect() : rect.translated(m_pTabs->pos());
+}
+
+QSize RibbonBar::minimumSizeHint() const
+{
+    return QSize(m_pTabs->minimumSizeHint().width(), QWidget::minimumSizeHint().height());
+}
+
+void RibbonBar::changeEvent(QEvent* pEvent)
+{
+    QWidget::changeEvent(pEvent);
+    if (pEvent->type() == QEvent::PaletteChange || pEvent->type() == QEvent::StyleChange)
+        applyColors();
+}
+
+void RibbonBar::paintEvent(QPaintEvent*)
+{
+    const RibbonColors colors(palette());
+    QPainter painter(this);
+    painter.fillRect(rect(), colors.tabRow);
+    painter.fillRect(0, height() - 1, width(), 1, colors.line);
+}
+
+void RibbonBar::OnCurrentTabChanged(int index)
+{
+    m_pPages->setCurrentIndex(index);
+    emit currentPageChanged(index);
+}
+
+void RibbonBar::OnTabDoubleClicked(int index)
+{
+    if (index >= 0)
+        setMinimized(!isMinimized());
+}
+
+void RibbonBar::OnPageRemoved(int index)
+{
+    m_pTabs->removeTab(index);
+}
+
+void RibbonBar::applyColors()
+{
+    const QString sheet = ribbonStyleSheet(RibbonColors(palette()));
+    if (sheet != m_pPages->styleSheet())
+        m_pPages->setStyleSheet(sheet);
+}
+
+} // namespace Qtitan

@@ -1,0 +1,96 @@
+#include "RibbonColumn.h"
+
+#include "Caption.h"
+
+#include <QEvent>
+#include <QGridLayout>
+
+#include <algorithm>
+
+namespace Qtitan
+{
+
+RibbonColumn::RibbonColumn(QWidget* pParent) : QWidget(pParent), m_pGrid(new QGridLayout(this))
+{
+    m_pGrid->setContentsMargins(4, 0, 4, 0);
+    m_pGrid->setHorizontalSpacing(6);
+    m_pGrid->setVerticalSpacing(RibbonMetrics::RowSpacing);
+    m_pGrid->setRowStretch(RibbonMetrics::RowsInColumn, 1);
+    m_pGrid->setColumnStretch(1, 1);
+}
+
+bool RibbonColumn::isFull() const
+{
+    return freeRow() == RibbonMetrics::RowsInColumn;
+}
+
+void RibbonColumn::addRow(const QString& label, QWidget* pWidget)
+{
+    const int index = freeRow();
+    Row& row = m_rows.at(static_cast<std::size_t>(index));
+    delete row.pLabel;
+    row.pWidget = pWidget;
+    if (label.isEmpty())
+    {
+        m_pGrid->addWidget(pWidget, index, 0, 1, 2);
+    }
+    else
+    {
+        row.pLabel = new QLabel(label, this);
+        row.pLabel->setBuddy(pWidget);
+        m_pGrid->addWidget(row.pLabel, index, 0);
+        m_pGrid->addWidget(pWidget, index, 1);
+        if (pWidget->accessibleName().isEmpty())
+            pWidget->setAccessibleName(plainCaption(label));
+    }
+    pWidget->installEventFilter(this);
+    followWidgets();
+}
+
+bool RibbonColumn::eventFilter(QObject* pWatched, QEvent* pEvent)
+{
+    const QEvent::Type type = pEvent->type();
+    if (type == QEvent::ShowToParent || type == QEvent::HideToParent)
+        followWidgets();
+    return QWidget::eventFilter(pWatched, pEvent);
+}
+
+void RibbonColumn::changeEvent(QEvent* pEvent)
+{
+    QWidget::changeEvent(pEvent);
+    if (pEvent->type() == QEvent::FontChange || pEvent->type() == QEvent::StyleChange)
+        followWidgets();
+}
+
+void RibbonColumn::childEvent(QChildEvent* pEvent)
+{
+    QWidget::childEvent(pEvent);
+    if (pEvent->removed())
+        followWidgets();
+}
+
+int RibbonColumn::freeRow() const
+{
+    const auto it = std::find_if(m_rows.begin(), m_rows.end(), [this](const Row& row) {
+        return row.pWidget == nullptr || row.pWidget->parentWidget() != this;
+    });
+    return static_cast<int>(it - m_rows.begin());
+}
+
+void RibbonColumn::followWidgets()
+{
+    const int height = RibbonMetrics::rowHeight(*this);
+    bool isAnyShown = false;
+    int index = 0;
+    for (const Row& row : m_rows)
+    {
+        const bool isShown = takesRoom(row.pWidget, this);
+        isAnyShown = isAnyShown || isShown;
+        m_pGrid->setRowMinimumHeight(index++, isShown ? height : 0);
+        if (row.pLabel != nullptr)
+            row.pLabel->setVisible(isShown);
+    }
+    setVisible(isAnyShown);
+}
+
+} // namespace Qtitan

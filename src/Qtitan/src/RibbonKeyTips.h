@@ -1,0 +1,69 @@
+#pragma once
+
+#include "KeyTipList.h"
+
+#include <QObject>
+
+class QKeyEvent;
+class QWindow;
+
+namespace Qtitan
+{
+
+class ClickWatcher;
+class KeyTipBadge;
+
+/// The keyboard's way into a ribbon, as its bar describes it. Watches the window that the bar is
+/// in, from the first time that it is shown there; consumes the keys that it acts on and no other.
+class RibbonKeyTips final : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The bar becomes the parent.
+    explicit RibbonKeyTips(RibbonBar& bar);
+    ~RibbonKeyTips() override;
+
+    bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
+
+private:
+    /// There are tips exactly in Tabs and Controls; AltHeld lasts while nothing but Alt is used.
+    enum class State
+    {
+        Off,
+        AltHeld,
+        Tabs,
+        Controls
+    };
+
+    bool isOn() const;
+    void attach();
+    bool onWindowEvent(QEvent& event);
+    bool onShortcutOverride(QKeyEvent& event);
+    bool onKeyPress(const QKeyEvent& event);
+    bool onKeyPressWhileOff(const QKeyEvent& event);
+    bool onKeyPressWhileOn(const QKeyEvent& event);
+    bool onKeyRelease(const QKeyEvent& event);
+
+    void showTabs();
+    void showControls();
+    void showTips(State state, KeyTipList tips);
+    void goBack();
+    void end();
+    bool isHeld(const QKeyEvent& event) const;
+    bool isTipKey(const QString& key) const;
+    void type(const QString& key);
+    void activate(const KeyTip& tip);
+
+    RibbonBar& m_bar;
+    QPointer<QWindow> m_pWindow;
+    State m_state = State::Off;
+    KeyTipList m_tips;
+    std::vector<QPointer<KeyTipBadge>> m_badges;
+    QString m_typed;
+    /// The key that is held since its press was consumed: its repeats and release go with it.
+    int m_heldKey = 0;
+    ClickWatcher* m_pClicks;
+};
+
+} // namespace Qtitan

@@ -1,0 +1,159 @@
+#include "Qtitan/RibbonPage.h"
+
+#include "Caption.h"
+#include "Qtitan/RibbonGroup.h"
+#include "RibbonColors.h"
+#include "RibbonMetrics.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QToolButton>
+#include <QWheelEvent>
+
+namespace Qtitan
+{
+
+namespace
+{
+
+constexpr int NotchLength = 60;
+constexpr int AngleOfNotch = 120;
+
+} // namespace
+
+RibbonPage::RibbonPage(const QString& title, QWidget* pParent)
+    : QWidget(pParent), m_title(title), m_pContent(new QWidget(this)),
+      m_pGroups(new QHBoxLayout(m_pContent)),
+      m_pLeft(createArrow(Qt::LeftArrow, tr("Scroll left"), -1)),
+      m_pRight(createArrow(Qt::RightArrow, tr("Scroll right"), 1))
+{
+    setAccessibleName(plainCaption(title));
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    m_pGroups->setContentsMargins(2, 0, 2, 1);
+    m_pGroups->setSpacing(0);
+    m_pGroups->addStretch();
+    connect(qApp, &QApplication::focusChanged, this, &RibbonPage::OnFocusChanged);
+}
+
+RibbonPage::~RibbonPage() = default;
+
+QString RibbonPage::title() const
+{
+    return m_title;
+}
+
+RibbonGroup* RibbonPage::addGroup(const QString& title)
+{
+    auto* pGroup = new RibbonGroup(title, m_pContent);
+    m_pGroups->insertWidget(m_pGroups->count() - 1, pGroup);
+    return pGroup;
+}
+
+void RibbonPage::ensureVisible(const QWidget& widget)
+{
+    if (!m_pContent->isAncestorOf(&widget))
+        return;
+    const int left = widget.mapTo(m_pContent, QPoint()).x();
+    // An arrow may cover either end, so the widget keeps clear of both.
+    const int firstOffset = left + widget.width() + RibbonMetrics::ArrowWidth - width();
+    const int lastOffset = left - RibbonMetrics::ArrowWidth;
+    scrollTo(qMin(qMax(m_offset, firstOffset), lastOffset));
+}
+
+QSize RibbonPage::sizeHint() const
+{
+    return m_pContent->sizeHint();
+}
+
+QSize RibbonPage::minimumSizeHint() const
+{
+    return QSize(4 * RibbonMetrics::ArrowWidth, m_pContent->minimumSizeHint().height());
+}
+
+bool RibbonPage::event(QEvent* pEvent)
+{
+    if (pEvent->type() == QEvent::LayoutRequest)
+    {
+        updateGeometry();
+        arrange();
+    }
+    return QWidget::event(pEvent);
+}
+
+void RibbonPage::paintEvent(QPaintEvent*)
+{
+    QPainter(this).fillRect(rect(), RibbonColors(palette()).page);
+}
+
+void RibbonPage::resizeEvent(QResizeEvent* pEvent)
+{
+    QWidget::resizeEvent(pEvent);
+    arrange();
+}
+
+void RibbonPage::showEvent(QShowEvent* pEvent)
+{
+    QWidget::showEvent(pEvent);
+    arrange();
+}
+
+void RibbonPage::wheelEvent(QWheelEvent* pEvent)
+{
+    if (maximumOffset() == 0)
+    {
+        pEvent->ignore();
+        return;
+    }
+    const QPoint delta = pEvent->angleDelta();
+    const int angle = qAbs(delta.x()) > qAbs(delta.y()) ? delta.x() : delta.y();
+    scrollTo(m_offset - angle * NotchLength / AngleOfNotch);
+    pEvent->accept();
+}
+
+void RibbonPage::OnFocusChanged(QWidget*, QWidget* pNow)
+{
+    if (pNow != nullptr)
+        ensureVisible(*pNow);
+}
+
+QToolButton* RibbonPage::createArrow(Qt::ArrowType type, const QString& text, int direction)
+{
+    auto* pArrow = new QToolButton(this);
+    pArrow->setArrowType(type);
+    pArrow->setAutoRaise(true);
+    pArrow->setAutoRepeat(true);
+    pArrow->setFocusPolicy(Qt::TabFocus);
+    pArrow->setToolTip(text);
+    pArrow->setAccessibleName(text);
+    pArrow->hide();
+    connect(pArrow, &QToolButton::clicked, this,
+            [this, direction] { scrollTo(m_offset + direction * width() / 2); });
+    return pArrow;
+}
+
+void RibbonPage::arrange()
+{
+    m_pLeft->setGeometry(0, 0, RibbonMetrics::ArrowWidth, height());
+    m_pRight->setGeometry(width() - RibbonMetrics::ArrowWidth, 0, RibbonMetrics::ArrowWidth,
+                          height());
+    scrollTo(m_offset);
+}
+
+void RibbonPage::scrollTo(int offset)
+{
+    m_offset = qBound(0, offset, maximumOffset());
+    m_pContent->setGeometry(-m_offset, 0, qMax(width(), m_pContent->sizeHint().width()), height());
+    m_pLeft->setVisible(m_offset > 0);
+    m_pRight->setVisible(m_offset < maximumOffset());
+    m_pLeft->raise();
+    m_pRight->raise();
+}
+
+int RibbonPage::maximumOffset() const
+{
+    return qMax(0, m_pContent->sizeHint().width() - width());
+}
+
+} // namespace Qtitan
