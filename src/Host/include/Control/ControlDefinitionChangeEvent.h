@@ -25,6 +25,7 @@ public:
     void RaisePropertyChanged();
 
     /// `type` is one of ControlDefinitionChangeEventType; `pItem` is not owned and may be null.
+    /// It and the caption must stay while the event still calls handlers.
     void RaiseItemsChanged(int type, int index, const std::wstring& caption,
                            const IControlDefinition* pItem);
 

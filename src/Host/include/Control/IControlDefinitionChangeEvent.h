@@ -74,7 +74,7 @@ class VESK_HOST_API IControlDefinitionChangeEventSource
 public:
     virtual ~IControlDefinitionChangeEventSource() = default;
 
-    /// The event; owned by the definition, never null.
+    /// The event; not owned by the caller, null when there is none.
     virtual IControlDefinitionChangeEvent* GetControlDefinitionChangeEvent() const = 0;
 };
 

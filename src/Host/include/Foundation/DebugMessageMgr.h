@@ -51,8 +51,11 @@ public:
     /// Writes the closing lines of suppressed places and closes the file.
     void CloseLog();
 
-    /// Adds an observer (not owned), told until it is removed.
+    /// Adds an observer (not owned), told until it is removed. Null and one that is already there
+    /// are ignored.
     void AddObserver(IDebugWarningObserver* pObserver);
+
+    /// Waits until no other thread is telling the observer any more; it may be destroyed afterwards.
     void RemoveObserver(IDebugWarningObserver* pObserver);
 
 private:

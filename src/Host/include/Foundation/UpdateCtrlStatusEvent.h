@@ -18,6 +18,9 @@ public:
     UpdateCtrlStatusEvent& operator=(const UpdateCtrlStatusEvent&) = delete;
 
     void Emit() override;
+
+private:
+    bool m_isWaiting = true;
 };
 
 /// Refreshes controls when it is asked to; one instance listens at a time.

@@ -11,7 +11,8 @@ namespace vesk
 /// Judges whether a text is a number within bounds. `T` is int or double.
 ///
 /// By default every number is accepted. A text is a number when it is one as a whole, in the C
-/// locale; NaN is outside every range.
+/// locale whatever the current one is; a leading plus sign is allowed, a blank is not. NaN, infinity
+/// and what `T` cannot hold are outside every range.
 template <class T>
 class NumberValidator : public ValidatorBase
 {

@@ -7,6 +7,8 @@ namespace vesk
 {
 
 /// Looks straight down on the world's xy plane, y up.
+///
+/// What is no finite number, and a size, scale or factor that is not positive, changes nothing.
 class VESK_HOST_API ModelView final : public IModelView
 {
 public:
@@ -16,14 +18,16 @@ public:
     int GetWidth() const override;
     int GetHeight() const override;
 
-    /// The world point in the middle of the view.
+    /// The point of the drawing plane in the middle of the view.
     const Vector3d& GetCentre() const;
 
     /// Sets the size in pixels; centre and scale stay.
     void SetSize(int width, int height);
+
+    /// Moves the middle of the view over a world point, whose height does not matter.
     void SetCentre(const Vector3d& centre);
 
-    /// Sets the scale, kept between 1e-9 and 1e9; the centre stays. Not a positive number: nothing changes.
+    /// Sets the scale, kept between 1e-9 and 1e9; the centre stays.
     void SetWorldPerPixel(double worldPerPixel);
 
     /// Magnifies by `factor` so that the world point under (x, y) stays there.
@@ -32,7 +36,8 @@ public:
     /// Moves the picture by a number of pixels.
     void Pan(double dx, double dy);
 
-    /// Shows the box between two corners with a margin of a tenth. An empty box is centred only.
+    /// Shows the box between two corners and leaves at least a tenth of the view free on each side.
+    /// A box that is a point is centred only.
     void Fit(const Vector3d& corner, const Vector3d& oppositeCorner);
 
 private:

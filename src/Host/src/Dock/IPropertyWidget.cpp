@@ -1,0 +1,11 @@
+#include "Dock/IPropertyWidget.h"
+
+namespace vesk
+{
+
+std::wstring IPropertyWidget::GetTypeName()
+{
+    return L"PropertyWidget";
+}
+
+}
