@@ -4,6 +4,7 @@
 #include "Qtitan/RibbonPage.h"
 #include "RibbonColors.h"
 #include "RibbonKeyTips.h"
+#include "RibbonStyleSheet.h"
 #include "RibbonTabBar.h"
 
 #include <QEvent>
@@ -28,7 +29,7 @@ RibbonBar::RibbonBar(QWidget* pParent)
     connect(m_pTabs, &QTabBar::currentChanged, this, &RibbonBar::OnCurrentTabChanged);
     connect(m_pTabs, &QTabBar::tabBarDoubleClicked, this, &RibbonBar::OnTabDoubleClicked);
     connect(m_pPages, &QStackedWidget::widgetRemoved, this, &RibbonBar::OnPageRemoved);
-    applyColors();
+    applyStyleSheet();
     new RibbonKeyTips(*this);
 }
 
@@ -96,8 +97,9 @@ QSize RibbonBar::minimumSizeHint() const
 void RibbonBar::changeEvent(QEvent* pEvent)
 {
     QWidget::changeEvent(pEvent);
-    if (pEvent->type() == QEvent::PaletteChange || pEvent->type() == QEvent::StyleChange)
-        applyColors();
+    const QEvent::Type type = pEvent->type();
+    if (type == QEvent::PaletteChange || type == QEvent::FontChange || type == QEvent::StyleChange)
+        applyStyleSheet();
 }
 
 void RibbonBar::paintEvent(QPaintEvent*)
@@ -125,9 +127,9 @@ void RibbonBar::OnPageRemoved(int index)
     m_pTabs->removeTab(index);
 }
 
-void RibbonBar::applyColors()
+void RibbonBar::applyStyleSheet()
 {
-    const QString sheet = ribbonStyleSheet(RibbonColors(palette()));
+    const QString sheet = ribbonStyleSheet(*this);
     if (sheet != m_pPages->styleSheet())
         m_pPages->setStyleSheet(sheet);
 }

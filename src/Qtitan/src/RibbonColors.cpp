@@ -37,32 +37,4 @@ RibbonColors::RibbonColors(const QPalette& palette)
     checkedEdge = mixed(page, accent, 0.7);
 }
 
-QString ribbonStyleSheet(const RibbonColors& colors)
-{
-    static const QString s_sheet = QStringLiteral(R"(
-Qtitan--RibbonButtonControl > QToolButton, Qtitan--RibbonColumn > QToolButton,
-Qtitan--RibbonPage > QToolButton
-{ border: 1px solid transparent; border-radius: 4px; padding: 2px; }
-Qtitan--RibbonPage > QToolButton { background: %5; border-color: %6; border-radius: 0; padding: 0; }
-Qtitan--RibbonButtonControl > QToolButton[popupMode="1"], Qtitan--RibbonColumn > QToolButton[popupMode="1"]
-{ padding-right: 15px; }
-Qtitan--RibbonButtonControl > QToolButton:checked, Qtitan--RibbonColumn > QToolButton:checked
-{ background: %3; border-color: %4; }
-Qtitan--RibbonButtonControl > QToolButton:hover, Qtitan--RibbonColumn > QToolButton:hover,
-Qtitan--RibbonPage > QToolButton:hover
-{ background: %1; border-color: %3; }
-Qtitan--RibbonButtonControl > QToolButton:checked:hover, Qtitan--RibbonColumn > QToolButton:checked:hover
-{ background: %2; border-color: %4; }
-Qtitan--RibbonButtonControl > QToolButton:pressed, Qtitan--RibbonColumn > QToolButton:pressed,
-Qtitan--RibbonPage > QToolButton:pressed
-{ background: %2; border-color: %4; }
-Qtitan--RibbonButtonControl > QToolButton:focus, Qtitan--RibbonColumn > QToolButton:focus
-{ border-color: %4; }
-Qtitan--RibbonButtonControl > QToolButton::menu-button, Qtitan--RibbonColumn > QToolButton::menu-button
-{ border: none; width: 15px; }
-)");
-    return s_sheet.arg(colors.hover.name(), colors.pressed.name(), colors.checked.name(),
-                       colors.checkedEdge.name(), colors.page.name(), colors.line.name());
-}
-
 } // namespace Qtitan

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QColor>
-#include <QString>
 
 class QPalette;
 
@@ -24,9 +23,5 @@ struct RibbonColors
     QColor checked;
     QColor checkedEdge;
 };
-
-/// The style sheet that gives placed buttons their states. It leaves fonts and text colours to
-/// the palette, and says nothing of any other widget.
-QString ribbonStyleSheet(const RibbonColors& colors);
 
 } // namespace Qtitan

@@ -6,12 +6,25 @@
 namespace Qtitan
 {
 
+namespace
+{
+
+/// Chinese captions often come from a fallback font that is higher than the widget's own: rows and
+/// captions keep one height whatever language they are in.
+int textHeight(const QWidget& widget)
+{
+    const QFontMetrics metrics = widget.fontMetrics();
+    return qMax(metrics.height(), metrics.size(Qt::TextSingleLine, QStringLiteral("国")).height());
+}
+
+} // namespace
+
 namespace RibbonMetrics
 {
 
 int rowHeight(const QWidget& widget)
 {
-    return widget.fontMetrics().height() + 8;
+    return textHeight(widget) + 6;
 }
 
 int contentHeight(const QWidget& widget)
@@ -19,14 +32,21 @@ int contentHeight(const QWidget& widget)
     return RowsInColumn * rowHeight(widget) + (RowsInColumn - 1) * RowSpacing;
 }
 
+int largeButtonPadding(const QWidget& widget)
+{
+    constexpr int BordersAndGaps = 10;
+    const int used = LargeIcon + textHeight(widget) + BordersAndGaps;
+    return qMax(0, (contentHeight(widget) - used) / 2);
+}
+
 int titleHeight(const QWidget& widget)
 {
-    return widget.fontMetrics().height() + 4;
+    return textHeight(widget) + 2;
 }
 
 int tabHeight(const QWidget& widget)
 {
-    return widget.fontMetrics().height() + 14;
+    return textHeight(widget) + 12;
 }
 
 } // namespace RibbonMetrics

@@ -68,7 +68,7 @@ private:
     void OnCurrentTabChanged(int index);
     void OnTabDoubleClicked(int index);
     void OnPageRemoved(int index);
-    void applyColors();
+    void applyStyleSheet();
 
     RibbonTabBar* m_pTabs;
     QStackedWidget* m_pPages;
