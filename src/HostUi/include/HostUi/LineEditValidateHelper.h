@@ -5,6 +5,8 @@
 #include <QObject>
 
 #include <map>
+#include <memory>
+#include <vector>
 
 class QLineEdit;
 
@@ -29,10 +31,8 @@ public:
     void SetValidators(const std::map<QLineEdit*, const ValidatorBase*>& validators);
 
 private:
-    void Detach();
-
     class Watch;
-    std::map<QLineEdit*, Watch*> m_watches;
+    std::vector<std::unique_ptr<Watch>> m_watches;
 };
 
 }

@@ -1,0 +1,88 @@
+#pragma once
+
+#include "HostUi/HostUiExport.h"
+#include "View/IUiView.h"
+#include "View/ModelView.h"
+
+#include <QPointer>
+#include <QWidget>
+
+namespace vesk
+{
+
+class DimensionInputController;
+
+/// The base of drawing views: camera, keys and clicks of the running action, provisional graphics.
+///
+/// The middle button pans, the wheel zooms about the cursor. What the model looks like is the
+/// derived class's.
+class VESK_HOST_UI_API DrawingView : public QWidget, public IUiView
+{
+    Q_OBJECT
+
+public:
+    /// `id` is unique among the views. The controller (not owned) takes the keys of dimension inputs.
+    DrawingView(std::uint32_t id, DimensionInputController& input, QWidget* pParent);
+    ~DrawingView() override;
+
+    std::uint32_t GetId() const override;
+    WindowId GetWindowId() const override;
+    IModelView* GetModelView() const override;
+    void SetViewText(const std::wstring& text) override;
+    void Activate() override;
+    void Redraw() override;
+
+    const QString& GetViewText() const { return m_viewText; }
+    const ModelView& GetCamera() const { return m_camera; }
+
+    /// Shows the box between two world points.
+    void Fit(const Vector3d& corner, const Vector3d& oppositeCorner);
+
+signals:
+    void viewTextChanged(const QString& text);
+
+    /// The cursor moved to a world point, or left the view.
+    void cursorMoved(double x, double y);
+    void cursorLeft();
+
+protected:
+    /// Paints what the view shows below the provisional graphics. The painter draws in pixels.
+    virtual void PaintModel(QPainter& painter) = 0;
+
+    /// The pixel position of a world point.
+    QPointF ToPixel(const Vector3d& world) const;
+
+    bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
+    bool focusNextPrevChild(bool isNext) override;
+    void keyPressEvent(QKeyEvent* pEvent) override;
+    void leaveEvent(QEvent* pEvent) override;
+    void mouseMoveEvent(QMouseEvent* pEvent) override;
+    void mousePressEvent(QMouseEvent* pEvent) override;
+    void mouseReleaseEvent(QMouseEvent* pEvent) override;
+    void paintEvent(QPaintEvent* pEvent) override;
+    void resizeEvent(QResizeEvent* pEvent) override;
+    void showEvent(QShowEvent* pEvent) override;
+    void wheelEvent(QWheelEvent* pEvent) override;
+
+private:
+    /// What the mouse is doing.
+    enum class Drag
+    {
+        None,
+        Pan,
+    };
+
+    void OnCameraChanged();
+    void OnClick(const QPointF& position);
+
+    std::uint32_t m_id;
+    DimensionInputController& m_input;
+    mutable ModelView m_camera;
+    QString m_viewText;
+    Drag m_drag = Drag::None;
+    QPointF m_dragPosition;
+    QPointer<QWidget> m_pWatchedWindow;
+    bool m_hasScale = false;
+};
+
+}

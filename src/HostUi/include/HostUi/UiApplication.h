@@ -1,0 +1,47 @@
+#pragma once
+
+#include "Command/ActionManager.h"
+#include "Foundation/IApplication.h"
+#include "HostUi/HostUiExport.h"
+#include "View/IUiManager.h"
+
+#include <QObject>
+
+class QEventLoop;
+
+namespace vesk
+{
+
+/// The application on Qt: posted events, the event loop of actions, the user-interface services.
+///
+/// Made after QApplication; installed while it lives.
+class VESK_HOST_UI_API UiApplication final : public QObject,
+                                             public IApplication,
+                                             public IUiManager,
+                                             public IActionEventLoop
+{
+    Q_OBJECT
+
+public:
+    UiApplication();
+    ~UiApplication() override;
+
+    void PostEvent(OwnerPtr<IApplicationEvent> opEvent) override;
+    IApplicationWindow* GetMainWindow() const override;
+
+    /// Runs a nested Qt event loop; never more than one at a time.
+    void Run() override;
+    void Quit() override;
+
+    /// The window that the services name as the application's (not owned); null for none.
+    void SetMainWindow(IApplicationWindow* pMainWindow);
+
+protected:
+    void customEvent(QEvent* pEvent) override;
+
+private:
+    IApplicationWindow* m_pMainWindow = nullptr;
+    QEventLoop* m_pActionLoop = nullptr;
+};
+
+}

@@ -1,0 +1,30 @@
+#include "HostUi/ControlLibrary.h"
+
+#include <QCoreApplication>
+
+namespace vesk
+{
+
+ControlLibrary::ControlLibrary()
+    : m_library(QCoreApplication::applicationDirPath() + QStringLiteral("/../lib/VeskUiQtImpl"))
+{
+    m_library.load();
+}
+
+ControlLibrary::~ControlLibrary()
+{
+    if (m_library.isLoaded())
+        m_library.unload();
+}
+
+bool ControlLibrary::IsLoaded() const
+{
+    return m_library.isLoaded();
+}
+
+QString ControlLibrary::GetError() const
+{
+    return m_library.isLoaded() ? QString() : m_library.errorString();
+}
+
+}

@@ -1,0 +1,212 @@
+#include "HostUi/DrawingView.h"
+
+#include "Command/ActionManager.h"
+#include "Command/IAction.h"
+#include "Command/IActionManager.h"
+#include "Dimension/TemporaryDimensionMgr.h"
+#include "HostUi/DimensionInputController.h"
+#include "HostUi/QtText.h"
+#include "ProvisionalPainter.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+#include <cmath>
+
+namespace vesk
+{
+
+DrawingView::DrawingView(std::uint32_t id, DimensionInputController& input, QWidget* pParent)
+    : QWidget(pParent), m_id(id), m_input(input)
+{
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    setCursor(Qt::CrossCursor);
+    setMinimumSize(300, 200);
+    // The host names views by their native window.
+    winId();
+}
+
+DrawingView::~DrawingView() = default;
+
+std::uint32_t DrawingView::GetId() const
+{
+    return m_id;
+}
+
+WindowId DrawingView::GetWindowId() const
+{
+    return internalWinId();
+}
+
+IModelView* DrawingView::GetModelView() const
+{
+    return &m_camera;
+}
+
+void DrawingView::SetViewText(const std::wstring& text)
+{
+    const QString viewText = ToQString(text);
+    if (viewText == m_viewText)
+        return;
+    m_viewText = viewText;
+    emit viewTextChanged(m_viewText);
+}
+
+void DrawingView::Activate()
+{
+    if (!isVisible())
+        return;
+    window()->activateWindow();
+    setFocus(Qt::OtherFocusReason);
+}
+
+void DrawingView::Redraw()
+{
+    update();
+}
+
+void DrawingView::Fit(const Vector3d& corner, const Vector3d& oppositeCorner)
+{
+    m_camera.Fit(corner, oppositeCorner);
+    OnCameraChanged();
+}
+
+QPointF DrawingView::ToPixel(const Vector3d& world) const
+{
+    double x = 0.0;
+    double y = 0.0;
+    double depth = 0.0;
+    m_camera.WorldToScreen(world, x, y, depth);
+    return {x, y};
+}
+
+bool DrawingView::eventFilter(QObject* pWatched, QEvent* pEvent)
+{
+    // The editor floats in a window of its own: it must follow when the view's window moves.
+    if (pWatched == m_pWatchedWindow && pEvent->type() == QEvent::Move)
+        OnCameraChanged();
+    return QWidget::eventFilter(pWatched, pEvent);
+}
+
+bool DrawingView::focusNextPrevChild(bool isNext)
+{
+    // While something is drawn, Tab belongs to the dimensions.
+    return IActionManager::CurrentAction() == nullptr && QWidget::focusNextPrevChild(isNext);
+}
+
+void DrawingView::keyPressEvent(QKeyEvent* pEvent)
+{
+    m_input.OnViewKey(*pEvent);
+}
+
+void DrawingView::leaveEvent(QEvent* pEvent)
+{
+    emit cursorLeft();
+    QWidget::leaveEvent(pEvent);
+}
+
+void DrawingView::mouseMoveEvent(QMouseEvent* pEvent)
+{
+    if (m_drag == Drag::Pan)
+    {
+        const QPointF moved = pEvent->localPos() - m_dragPosition;
+        m_dragPosition = pEvent->localPos();
+        m_camera.Pan(moved.x(), moved.y());
+        OnCameraChanged();
+        return;
+    }
+    const Vector3d world = m_camera.ScreenToWorld(pEvent->localPos().x(), pEvent->localPos().y());
+    emit cursorMoved(world.x(), world.y());
+    ActionManager::ProcessMouseMove(this, world);
+}
+
+void DrawingView::mousePressEvent(QMouseEvent* pEvent)
+{
+    if (pEvent->button() == Qt::MiddleButton)
+    {
+        m_drag = Drag::Pan;
+        m_dragPosition = pEvent->localPos();
+        setCursor(Qt::ClosedHandCursor);
+    }
+    if (pEvent->button() == Qt::LeftButton)
+        OnClick(pEvent->localPos());
+}
+
+void DrawingView::mouseReleaseEvent(QMouseEvent* pEvent)
+{
+    if (pEvent->button() != Qt::MiddleButton)
+        return;
+    m_drag = Drag::None;
+    setCursor(Qt::CrossCursor);
+}
+
+void DrawingView::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillRect(rect(), palette().color(QPalette::Base));
+    PaintModel(painter);
+
+    ProvisionalPainter provisional(painter, m_camera, palette());
+    if (const IAction* pAction = IActionManager::CurrentAction())
+    {
+        if (const OwnerPtr<IGraphicsNodeGroup> opRubberBand = pAction->CreateRubberBand())
+            opRubberBand->Accept(provisional);
+    }
+    if (const IGraphicsNodeGroup* pDimensions = TemporaryDimensionMgr::GetInstance()->GetGraphics())
+        pDimensions->Accept(provisional);
+}
+
+void DrawingView::resizeEvent(QResizeEvent*)
+{
+    m_camera.SetSize(width(), height());
+    OnCameraChanged();
+}
+
+void DrawingView::showEvent(QShowEvent* pEvent)
+{
+    if (!m_hasScale)
+    {
+        // One unit is one device pixel at first, on every screen.
+        m_hasScale = true;
+        m_camera.SetWorldPerPixel(devicePixelRatioF());
+    }
+    if (m_pWatchedWindow != window())
+    {
+        m_pWatchedWindow = window();
+        m_pWatchedWindow->installEventFilter(this);
+    }
+    QWidget::showEvent(pEvent);
+}
+
+void DrawingView::wheelEvent(QWheelEvent* pEvent)
+{
+    constexpr double StepsPerDoubling = 480.0;
+    const double factor = std::pow(2.0, pEvent->angleDelta().y() / StepsPerDoubling);
+    m_camera.ZoomAbout(pEvent->position().x(), pEvent->position().y(), factor);
+    OnCameraChanged();
+    pEvent->accept();
+}
+
+void DrawingView::OnCameraChanged()
+{
+    ActionManager::RefreshViewInput(this);
+    update();
+}
+
+/// A click takes the value being typed, in the direction of the click; a refused one keeps it.
+void DrawingView::OnClick(const QPointF& position)
+{
+    setFocus(Qt::MouseFocusReason);
+    const Vector3d world = m_camera.ScreenToWorld(position.x(), position.y());
+    if (m_input.GetActiveEditor() == nullptr)
+    {
+        ActionManager::ProcessClick(this, world);
+        return;
+    }
+    ActionManager::ProcessMouseMove(this, world);
+    m_input.Commit();
+}
+
+}

@@ -1,0 +1,69 @@
+#include "HostUi/MainWindow.h"
+
+#include "Command/ActionManager.h"
+#include "HostUi/DrawingView.h"
+#include "Qtitan/RibbonBar.h"
+
+#include <QCloseEvent>
+#include <QLabel>
+#include <QStatusBar>
+
+namespace vesk
+{
+
+MainWindow::MainWindow()
+    : m_pRibbon(new Qtitan::RibbonBar(this)), m_pHint(new QLabel(this)), m_pCursor(new QLabel(this))
+{
+    setMenuWidget(m_pRibbon);
+    m_pHint->setObjectName(QStringLiteral("Hint"));
+    m_pCursor->setObjectName(QStringLiteral("CursorPosition"));
+    m_pCursor->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    m_pCursor->setMinimumWidth(m_pCursor->fontMetrics().horizontalAdvance(QStringLiteral(
+        "X -000000.000   Y -000000.000")));
+    constexpr int Margin = 6;
+    m_pHint->setContentsMargins(Margin, 0, Margin, 0);
+    m_pCursor->setContentsMargins(Margin, 0, Margin, 0);
+    statusBar()->addWidget(m_pHint, 1);
+    statusBar()->addPermanentWidget(m_pCursor);
+
+    // The host names windows by their native window.
+    winId();
+    SetMainWindow(this);
+}
+
+MainWindow::~MainWindow()
+{
+    SetMainWindow(nullptr);
+}
+
+WindowId MainWindow::GetWindowId() const
+{
+    return internalWinId();
+}
+
+WindowId MainWindow::GetWinId() const
+{
+    return internalWinId();
+}
+
+void MainWindow::SetDrawingView(DrawingView* pView)
+{
+    setCentralWidget(pView);
+    connect(pView, &DrawingView::viewTextChanged, m_pHint, &QLabel::setText);
+    connect(pView, &DrawingView::cursorMoved, this, &MainWindow::OnCursorMoved);
+    connect(pView, &DrawingView::cursorLeft, m_pCursor, &QLabel::clear);
+}
+
+void MainWindow::closeEvent(QCloseEvent* pEvent)
+{
+    // What is finished stands in the journal already; nothing needs to be asked.
+    ActionManager::Reset();
+    pEvent->accept();
+}
+
+void MainWindow::OnCursorMoved(double x, double y)
+{
+    m_pCursor->setText(QStringLiteral("X %1   Y %2").arg(x, 0, 'f', 3).arg(y, 0, 'f', 3));
+}
+
+}

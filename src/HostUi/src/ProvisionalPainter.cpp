@@ -1,0 +1,93 @@
+#include "ProvisionalPainter.h"
+
+#include "HostUi/QtText.h"
+#include "View/IModelView.h"
+
+#include <QPainter>
+#include <QPalette>
+#include <QPolygonF>
+
+#include <cmath>
+
+namespace vesk
+{
+namespace
+{
+
+struct Pen
+{
+    QColor onLight;
+    QColor onDark;
+    double width;
+};
+
+/// In the order of GraphicsRole.
+const Pen& PenOf(GraphicsRole role)
+{
+    static const Pen pens[] = {
+        {QColor(0x1f, 0x6f, 0xc5), QColor(0x6c, 0xb6, 0xff), 1.6},
+        {QColor(0x6b, 0x75, 0x80), QColor(0x9a, 0xa5, 0xb1), 1.0},
+        {QColor(0x1f, 0x6f, 0xc5), QColor(0x6c, 0xb6, 0xff), 1.0},
+        {QColor(0xb8, 0x6e, 0x00), QColor(0xff, 0xc1, 0x4d), 1.4},
+    };
+    return pens[static_cast<int>(role)];
+}
+
+}
+
+ProvisionalPainter::ProvisionalPainter(QPainter& painter, const IModelView& modelView,
+                                       const QPalette& palette)
+    : m_painter(painter), m_modelView(modelView), m_palette(palette)
+{
+}
+
+void ProvisionalPainter::Visit(const IGraphicsLine& line)
+{
+    SetPen(line.GetRole());
+    m_painter.drawLine(ToPixel(line.GetStart()), ToPixel(line.GetEnd()));
+}
+
+void ProvisionalPainter::Visit(const IGraphicsArc& arc)
+{
+    constexpr double StepRadians = 0.05;
+    const int steps = 1 + static_cast<int>(std::ceil(std::abs(arc.GetSweep()) / StepRadians));
+    QPolygonF points;
+    for (int i = 0; i <= steps; ++i)
+    {
+        const double angle = arc.GetSweep() * i / steps;
+        points << ToPixel(arc.GetCentre() + arc.GetRadius() * (std::cos(angle) * arc.GetXAxis() +
+                                                              std::sin(angle) * arc.GetYAxis()));
+    }
+    SetPen(arc.GetRole());
+    m_painter.drawPolyline(points);
+}
+
+void ProvisionalPainter::Visit(const IGraphicsText& text)
+{
+    constexpr double Padding = 3.0;
+    const QString shown = ToQString(text.GetText());
+    QRectF box = m_painter.fontMetrics().boundingRect(shown);
+    box.moveCenter(ToPixel(text.GetPosition()));
+    box.adjust(-Padding, -1.0, Padding, 1.0);
+    m_painter.fillRect(box, m_palette.color(QPalette::Base));
+    SetPen(text.GetRole());
+    m_painter.drawText(box, Qt::AlignCenter, shown);
+}
+
+QPointF ProvisionalPainter::ToPixel(const Vector3d& world) const
+{
+    double x = 0.0;
+    double y = 0.0;
+    double depth = 0.0;
+    m_modelView.WorldToScreen(world, x, y, depth);
+    return {x, y};
+}
+
+void ProvisionalPainter::SetPen(GraphicsRole role)
+{
+    const Pen& pen = PenOf(role);
+    const bool isDark = m_palette.color(QPalette::Base).lightness() < 128;
+    m_painter.setPen(QPen(isDark ? pen.onDark : pen.onLight, pen.width));
+}
+
+}

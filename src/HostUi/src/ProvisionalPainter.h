@@ -1,0 +1,34 @@
+#pragma once
+
+#include "Graphics/IGraphicsNode.h"
+
+class QPainter;
+class QPalette;
+class QPointF;
+
+namespace vesk
+{
+
+class IModelView;
+
+/// Paints graphics nodes into a view, each role in a colour that stands out from the background.
+class ProvisionalPainter final : public IGraphicsNodeVisitor
+{
+public:
+    /// Both outlive the painter.
+    ProvisionalPainter(QPainter& painter, const IModelView& modelView, const QPalette& palette);
+
+    void Visit(const IGraphicsLine& line) override;
+    void Visit(const IGraphicsArc& arc) override;
+    void Visit(const IGraphicsText& text) override;
+
+private:
+    QPointF ToPixel(const Vector3d& world) const;
+    void SetPen(GraphicsRole role);
+
+    QPainter& m_painter;
+    const IModelView& m_modelView;
+    const QPalette& m_palette;
+};
+
+}

@@ -1,0 +1,66 @@
+#include "HostUi/UiTreeWriter.h"
+
+#include "UiTree.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QSaveFile>
+
+#include <chrono>
+#include <utility>
+
+namespace vesk
+{
+namespace
+{
+
+constexpr std::chrono::milliseconds LatestDelay{150};
+
+}
+
+UiTreeWriter::UiTreeWriter(const QString& path, const DimensionInputController& input,
+                           EntityCount countEntities)
+    : m_path(path), m_input(input), m_countEntities(std::move(countEntities))
+{
+    // A timer of zero comes round when nothing else waits.
+    m_whenIdle.setInterval(0);
+    m_atTheLatest.setInterval(LatestDelay);
+    for (QTimer* pTimer : {&m_whenIdle, &m_atTheLatest})
+    {
+        pTimer->setSingleShot(true);
+        connect(pTimer, &QTimer::timeout, this, &UiTreeWriter::Write);
+    }
+    qApp->installEventFilter(this);
+}
+
+UiTreeWriter::~UiTreeWriter() = default;
+
+bool UiTreeWriter::Write()
+{
+    m_whenIdle.stop();
+    m_atTheLatest.stop();
+    std::string described = DescribeUi(m_input, m_countEntities());
+    if (described == m_written)
+        return true;
+    QSaveFile file(m_path);
+    if (!file.open(QIODevice::WriteOnly))
+        return false;
+    file.write(described.data(), static_cast<qint64>(described.size()));
+    if (!file.commit())
+        return false;
+    m_written = std::move(described);
+    return true;
+}
+
+bool UiTreeWriter::eventFilter(QObject* pWatched, QEvent* pEvent)
+{
+    // Whatever changed, some event went before it; only the writer's own timers count for nothing.
+    const bool isOwn = pWatched == &m_whenIdle || pWatched == &m_atTheLatest;
+    if (isOwn || m_atTheLatest.isActive())
+        return false;
+    m_whenIdle.start();
+    m_atTheLatest.start();
+    return QObject::eventFilter(pWatched, pEvent);
+}
+
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "Command/IAction.h"
+
+class Sketch;
+
+/// Erases each entity that is picked, until the user ends it.
+class EraseAction final : public vesk::IAction
+{
+public:
+    /// The sketch is not owned and outlives the action.
+    explicit EraseAction(Sketch& sketch);
+
+    std::wstring GetViewText() const override;
+    void OnBegin(vesk::IUiView* pView) override;
+    void OnMouseMove(const vesk::Vector3d& world) override;
+    void OnClick(const vesk::Vector3d& world) override;
+    vesk::OwnerPtr<vesk::IGraphicsNodeGroup> CreateRubberBand() const override;
+    bool ReplayPoint(const vesk::Vector3d& world, const std::optional<int>& entity) override;
+
+private:
+    /// The entity nearest to a point, within reach of the cursor; 0 when there is none.
+    int Pick(const vesk::Vector3d& world) const;
+
+    Sketch& m_sketch;
+    vesk::IUiView* m_pView = nullptr;
+
+    /// The entity under the cursor, which a click would erase; 0 for none.
+    int m_hovered = 0;
+};

@@ -1,0 +1,84 @@
+#include "Options.h"
+
+#include <QCommandLineParser>
+#include <QFileInfo>
+
+namespace
+{
+
+struct FileOption
+{
+    const char* name;
+    const char* value;
+    const char* help;
+    QString Options::*member;
+    bool isRead;
+};
+
+constexpr FileOption s_fileOptions[] = {
+    {"journal", "FILE", "record everything done in FILE, replacing it", &Options::journal, false},
+    {"replay", "FILE", "repeat the journal FILE without a window, then exit", &Options::replay,
+     true},
+    {"open", "JOURNAL", "repeat a journal in the window, then go on drawing", &Options::open, true},
+    {"model", "FILE", "write the drawing to FILE as JSON at exit", &Options::model, false},
+    {"ui-tree", "FILE", "keep FILE telling what is on screen, as JSON", &Options::uiTree, false},
+    {"log", "FILE", "log warnings to FILE", &Options::log, false},
+    {"screenshot", "FILE.png", "save a picture of the window at exit", &Options::screenshot, false},
+};
+
+bool CanBeWritten(const QString& path)
+{
+    const QFileInfo file(path);
+    const QFileInfo folder(file.absolutePath());
+    return file.exists() ? file.isFile() && file.isWritable()
+                         : folder.isDir() && folder.isWritable();
+}
+
+QString CheckFile(const FileOption& option, const QString& path)
+{
+    if (option.isRead && !(QFileInfo(path).isFile() && QFileInfo(path).isReadable()))
+        return QStringLiteral("cannot read %1").arg(path);
+    if (!option.isRead && !CanBeWritten(path))
+        return QStringLiteral("cannot write %1").arg(path);
+    return {};
+}
+
+}
+
+Options ParseOptions(const QStringList& arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QStringLiteral("Draws lines of exact length and angle; everything done can be repeated."));
+    const QCommandLineOption help = parser.addHelpOption();
+    const QCommandLineOption version = parser.addVersionOption();
+    for (const FileOption& option : s_fileOptions)
+        parser.addOption(QCommandLineOption(QString::fromLatin1(option.name),
+                                            QString::fromLatin1(option.help),
+                                            QString::fromLatin1(option.value)));
+
+    Options options;
+    if (!parser.parse(arguments))
+        options.error = parser.errorText();
+    else if (!parser.positionalArguments().isEmpty())
+        options.error =
+            QStringLiteral("unexpected argument %1").arg(parser.positionalArguments().front());
+    else if (parser.isSet(help))
+        options.task = Options::Task::ShowHelp;
+    else if (parser.isSet(version))
+        options.task = Options::Task::ShowVersion;
+    options.help = parser.helpText();
+
+    for (const FileOption& option : s_fileOptions)
+    {
+        const QString name = QString::fromLatin1(option.name);
+        options.*option.member = parser.value(name);
+        if (options.error.isEmpty() && parser.isSet(name))
+            options.error = CheckFile(option, options.*option.member);
+    }
+    if (options.task == Options::Task::Draw && parser.isSet(QStringLiteral("replay")))
+        options.task = Options::Task::Replay;
+    if (options.error.isEmpty() && !options.replay.isEmpty() && !options.open.isEmpty())
+        options.error = QStringLiteral("--replay and --open exclude each other");
+    return options;
+}

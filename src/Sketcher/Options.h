@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+/// What the command line asks for. File names are empty where nothing is asked.
+struct Options
+{
+    /// What to do instead of opening the window.
+    enum class Task
+    {
+        Draw,
+        Replay,
+        ShowHelp,
+        ShowVersion,
+    };
+
+    Task task = Task::Draw;
+    QString journal;
+    QString replay;
+    QString open;
+    QString model;
+    QString uiTree;
+    QString log;
+    QString screenshot;
+
+    /// One line; empty when the command line makes sense and every file named can be used.
+    QString error;
+
+    /// What --help prints.
+    QString help;
+};
+
+/// Reads the arguments (the program's name first).
+Options ParseOptions(const QStringList& arguments);

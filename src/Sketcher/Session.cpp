@@ -1,0 +1,186 @@
+#include "Session.h"
+
+#include "CommandTable.h"
+#include "ModelFile.h"
+#include "SketchView.h"
+
+#include "Foundation/DebugMessageMgr.h"
+#include "Foundation/Text.h"
+#include "Journal/JournalFormat.h"
+#include "Journal/JournalManager.h"
+
+#include <QApplication>
+#include <QDateTime>
+#include <QDir>
+#include <QPixmap>
+#include <QStandardPaths>
+#include <QTimer>
+
+#include <iostream>
+
+using namespace vesk;
+
+namespace
+{
+
+constexpr int ExitUnusableFile = 2;
+constexpr int ExitNotRepeated = 3;
+
+/// A file below the user's data folder, which is made when it is missing.
+QString DataFile(const QString& name)
+{
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
+    QDir().mkpath(folder);
+    return folder + QLatin1Char('/') + name;
+}
+
+void Complain(const std::string& text)
+{
+    std::cerr << "sketcher: " << text << std::endl;
+}
+
+}
+
+Session::Session(const Options& options)
+    : m_options(options), m_window(m_sketch, m_input)
+{
+    m_host.GetViewManager().AddView(&m_window.GetView());
+    m_application.SetMainWindow(&m_window);
+    const std::vector<CommandEntry> commands = MakeCommandTable(m_sketch, m_window.GetView());
+    RegisterCommands(commands);
+    m_window.BuildRibbon(commands, m_controls);
+    ActionManager::AddObserver(this);
+    if (!m_options.uiTree.isEmpty())
+        m_pUiTree = std::make_unique<UiTreeWriter>(m_options.uiTree, m_input, [this] {
+            return static_cast<int>(m_sketch.GetEntities().size());
+        });
+}
+
+Session::~Session()
+{
+    ActionManager::Reset();
+    ActionManager::RemoveObserver(this);
+    m_window.ReleaseControls();
+    m_application.SetMainWindow(nullptr);
+    m_host.GetViewManager().RemoveView(&m_window.GetView());
+    DebugMessageMgr::GetDebugMessageMgr()->CloseLog();
+}
+
+int Session::Run()
+{
+    if (!m_library.IsLoaded())
+    {
+        Complain(m_library.GetError().toStdString());
+        return ExitUnusableFile;
+    }
+    // The journal to repeat is read first: it may be the very file that is replaced.
+    const QString& source = m_options.replay.isEmpty() ? m_options.open : m_options.replay;
+    if ((!source.isEmpty() && !ReadJournal(source)) || !OpenLog() || !OpenJournal())
+        return ExitUnusableFile;
+
+    const int code = m_options.task == Options::Task::Replay ? Replay() : Draw();
+    return WriteResults() ? code : ExitUnusableFile;
+}
+
+bool Session::ReplayProperty(const PropertyRecord& record)
+{
+    if (record.object != L"drawing" || record.property != L"name")
+        return false;
+    JournalManager::GetInstance().Add(record);
+    m_sketch.SetName(record.value);
+    return true;
+}
+
+bool Session::VerifyUndo(const UndoRecord& record)
+{
+    return m_sketch.GetLastUndone() == record.entity;
+}
+
+/// Whoever starts a tool wants to draw: the view gets the keyboard.
+void Session::OnActionChanged()
+{
+    const std::wstring running = ActionManager::GetRunningCommandId();
+    if (running == m_runningCommand)
+        return;
+    m_runningCommand = running;
+    if (!running.empty())
+        m_window.GetView().Activate();
+}
+
+bool Session::OpenLog()
+{
+    const QString path =
+        m_options.log.isEmpty() ? DataFile(QStringLiteral("warnings.log")) : m_options.log;
+    const bool isOpen = DebugMessageMgr::GetDebugMessageMgr()->OpenLog(path.toStdString());
+    if (!isOpen)
+        Complain("cannot write " + path.toStdString());
+    return isOpen;
+}
+
+/// Nothing drawn is ever lost: without a name the journal goes below the user's data folder.
+bool Session::OpenJournal()
+{
+    QString path = m_options.journal;
+    if (path.isEmpty() && m_options.task == Options::Task::Replay)
+        return true;
+    if (path.isEmpty())
+        path = DataFile(QStringLiteral("journal-%1-%2.jsonl")
+                            .arg(QDateTime::currentDateTimeUtc().toString(
+                                QStringLiteral("yyyyMMdd-hhmmss")))
+                            .arg(QCoreApplication::applicationPid()));
+    const bool isOpen = JournalManager::GetInstance().Open(path.toStdString());
+    if (!isOpen)
+        Complain("cannot write " + path.toStdString());
+    return isOpen;
+}
+
+bool Session::ReadJournal(const QString& path)
+{
+    std::string error;
+    if (JournalFormat::ReadFile(path.toStdString(), m_records, error))
+        return true;
+    Complain(path.toStdString() + ": " + error);
+    return false;
+}
+
+int Session::Draw()
+{
+    m_window.showMaximized();
+    m_window.GetView().Activate();
+    if (!m_options.open.isEmpty())
+        QTimer::singleShot(0, &m_window, [this] { Repeat(); });
+    return QApplication::exec();
+}
+
+int Session::Replay()
+{
+    return Repeat() ? 0 : ExitNotRepeated;
+}
+
+/// Repeats the journal that was read; tells of what could not be repeated and what was unfinished.
+bool Session::Repeat()
+{
+    const JournalReplayResult result = JournalReplayer::Replay(m_records, *this);
+    for (const std::wstring& commandId : result.unfinishedCommands)
+        Complain("not finished in the journal: " + ToUtf8(commandId));
+    if (!result.failure.empty())
+        Complain(result.failure);
+    return result.failure.empty();
+}
+
+bool Session::WriteResults()
+{
+    bool isWritten = true;
+    const auto note = [&isWritten](bool isDone, const QString& path) {
+        if (!isDone)
+            Complain("cannot write " + path.toStdString());
+        isWritten = isWritten && isDone;
+    };
+    if (!m_options.model.isEmpty())
+        note(WriteModelFile(m_sketch, m_options.model), m_options.model);
+    if (!m_options.screenshot.isEmpty())
+        note(m_window.grab().save(m_options.screenshot, "PNG"), m_options.screenshot);
+    if (m_pUiTree != nullptr)
+        note(m_pUiTree->Write(), m_options.uiTree);
+    return isWritten;
+}

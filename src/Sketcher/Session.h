@@ -1,0 +1,56 @@
+#pragma once
+
+#include "Options.h"
+#include "Sketch.h"
+#include "SketcherWindow.h"
+
+#include "Command/ActionManager.h"
+#include "HostCore.h"
+#include "HostUi/ControlHost.h"
+#include "HostUi/ControlLibrary.h"
+#include "HostUi/DimensionInputController.h"
+#include "HostUi/UiApplication.h"
+#include "HostUi/UiTreeWriter.h"
+#include "Journal/JournalReplayer.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+/// One run of the program: the host, the library, the drawing and the window, in order of life.
+class Session final : public vesk::IJournalReplayTarget, public vesk::IActionObserver
+{
+public:
+    explicit Session(const Options& options);
+    ~Session() override;
+
+    /// Does what the options ask for and returns the program's exit code: 0, or 2 for a file that
+    /// cannot be used, or 3 for a journal that cannot be repeated.
+    int Run();
+
+    bool ReplayProperty(const vesk::PropertyRecord& record) override;
+    bool VerifyUndo(const vesk::UndoRecord& record) override;
+    void OnActionChanged() override;
+
+private:
+    bool OpenLog();
+    bool OpenJournal();
+    bool ReadJournal(const QString& path);
+    int Draw();
+    int Replay();
+    bool Repeat();
+    bool WriteResults();
+
+    Options m_options;
+    std::vector<vesk::JournalRecord> m_records;
+
+    vesk::HostCore m_host;
+    vesk::UiApplication m_application;
+    vesk::ControlLibrary m_library;
+    vesk::DimensionInputController m_input;
+    Sketch m_sketch;
+    SketcherWindow m_window;
+    vesk::ControlHost m_controls;
+    std::unique_ptr<vesk::UiTreeWriter> m_pUiTree;
+    std::wstring m_runningCommand;
+};

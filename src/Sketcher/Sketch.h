@@ -1,0 +1,68 @@
+#pragma once
+
+#include "Geometry/Vector3d.h"
+
+#include <QObject>
+#include <QUndoStack>
+
+#include <string>
+#include <vector>
+
+/// One straight line of the drawing. Its id is never given to another entity.
+struct Entity
+{
+    int id = 0;
+    vesk::Vector3d start = vesk::Vector3d::Zero();
+    vesk::Vector3d end = vesk::Vector3d::Zero();
+};
+
+/// The drawing: entities in the order in which they were drawn, in millimetres, and a name.
+///
+/// Each change of an entity is one undo step. A sketch made by the same changes is the same to the
+/// last bit.
+class Sketch final : public QObject
+{
+    Q_OBJECT
+
+public:
+    Sketch();
+
+    const std::vector<Entity>& GetEntities() const { return m_entities; }
+
+    /// The entity with that id, null when there is none. Valid until the next change.
+    const Entity* Find(int id) const;
+
+    /// Draws a line and returns its id; 0, and nothing is drawn, when it would be shorter than the
+    /// least or longer than the greatest size of the model.
+    int AddLine(const vesk::Vector3d& start, const vesk::Vector3d& end);
+
+    /// False when there is no such entity.
+    bool Erase(int id);
+
+    bool CanUndo() const;
+
+    /// Takes the last change back. The id of the entity that came or went; 0 when there was none.
+    int Undo();
+
+    /// What the last Undo returned.
+    int GetLastUndone() const { return m_lastUndone; }
+
+    const std::wstring& GetName() const { return m_name; }
+
+    /// Not an undo step.
+    void SetName(const std::wstring& name);
+
+signals:
+    void changed();
+
+private:
+    class Step;
+    class AddStep;
+    class EraseStep;
+
+    std::vector<Entity> m_entities;
+    std::wstring m_name;
+    QUndoStack m_steps;
+    int m_lastId = 0;
+    int m_lastUndone = 0;
+};
