@@ -1,0 +1,200 @@
+#include "Desktop/DesktopSession.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QJsonDocument>
+#include <QProcessEnvironment>
+
+namespace vesk
+{
+
+namespace
+{
+
+constexpr int EXIT_TIMEOUT_MS = 30000;
+
+/// So long nothing may move before a window counts as laid out.
+constexpr int REST_MS = 250;
+
+QString ProgramPath()
+{
+    return QDir(QCoreApplication::applicationDirPath()).absoluteFilePath("../bin/sketcher");
+}
+
+}
+
+DesktopSession::DesktopSession(const QString& display) : m_display(display), m_input(display) {}
+
+DesktopSession::~DesktopSession()
+{
+    Kill();
+}
+
+bool DesktopSession::Start(const QStringList& arguments, const Environment& environment)
+{
+    const QStringList files = {
+        "--ui-tree", PathOf("ui.json"),    "--journal", PathOf("journal"),
+        "--model",   PathOf("model.json"), "--log",     PathOf("warnings.log")};
+    QFile::remove(PathOf("ui.json"));
+    QProcessEnvironment variables = MakeEnvironment(environment);
+    variables.insert("DISPLAY", m_display);
+    RunProgram(files + arguments, variables);
+    return m_program.waitForStarted() && WaitUntilSettled();
+}
+
+int DesktopSession::Close()
+{
+    if (m_program.state() == QProcess::NotRunning || !m_input.CloseMainWindow())
+        return -1;
+    return WaitForExit();
+}
+
+void DesktopSession::Kill()
+{
+    if (m_program.state() == QProcess::NotRunning)
+        return;
+    m_program.kill();
+    WaitForExit();
+}
+
+int DesktopSession::RunOffscreen(const QStringList& arguments, const Environment& environment)
+{
+    QProcessEnvironment variables = MakeEnvironment(environment);
+    variables.insert("QT_QPA_PLATFORM", "offscreen");
+    RunProgram(arguments, variables);
+    return WaitForExit();
+}
+
+bool DesktopSession::Click(const QString& id)
+{
+    QPoint place;
+    const bool isThere = WaitFor([&](const UiTree& tree) {
+        const std::optional<UiControl> control = tree.FindControl(id);
+        if (!control || !control->isVisible || !control->isEnabled || control->rect.isEmpty())
+            return false;
+        place = control->rect.center();
+        return true;
+    });
+    return isThere && m_input.Click(place);
+}
+
+bool DesktopSession::ClickView(QPointF world)
+{
+    return Refresh() && m_input.Click(ToScreen(world));
+}
+
+bool DesktopSession::MoveInView(QPointF world)
+{
+    return Refresh() && m_input.MoveTo(ToScreen(world));
+}
+
+QPoint DesktopSession::ToScreen(QPointF world) const
+{
+    return m_tree.FindView().value_or(UiView()).ToScreen(world);
+}
+
+bool DesktopSession::Type(const QString& text, const QStringList& keysAfterwards)
+{
+    return m_input.Keys(InputDriver::Text(text) + keysAfterwards);
+}
+
+bool DesktopSession::WaitForAction(const QString& commandId)
+{
+    return WaitFor([&](const UiTree& tree) { return tree.GetAction() == commandId; });
+}
+
+bool DesktopSession::WaitForEntities(int count)
+{
+    return WaitFor([&](const UiTree& tree) { return tree.GetEntityCount() == count; });
+}
+
+bool DesktopSession::WaitForEditor(const QString& text)
+{
+    return WaitFor([&](const UiTree& tree) {
+        const std::optional<UiEditor> editor = tree.FindEditor();
+        return editor && editor->isVisible && editor->text == text;
+    });
+}
+
+bool DesktopSession::WaitForNoEditor()
+{
+    return WaitFor([](const UiTree& tree) { return !tree.FindEditor(); });
+}
+
+void DesktopSession::SaveEvidence(const QString& folder)
+{
+    QDir(folder).removeRecursively();
+    QDir().mkpath(folder);
+    m_input.TakePicture(folder + "/screen.png");
+    for (const QFileInfo& file : QDir(m_folder.path()).entryInfoList(QDir::Files))
+        QFile::copy(file.filePath(), folder + "/" + file.fileName());
+    QFile errors(folder + "/stderr");
+    if (errors.open(QIODevice::WriteOnly))
+        errors.write(m_errorOutput + m_program.readAllStandardError());
+}
+
+bool DesktopSession::Refresh()
+{
+    const std::optional<UiTree> tree = UiTree::Read(PathOf("ui.json"));
+    if (tree)
+        m_tree = *tree;
+    return tree.has_value();
+}
+
+bool DesktopSession::WaitUntilSettled()
+{
+    // The window manager maximises the window after it was mapped: places hold once they stay.
+    QElapsedTimer atRest;
+    QJsonObject last;
+    return WaitFor(
+        [&](const UiTree& tree) {
+            const bool isNew = tree.GetJson() != last || !atRest.isValid();
+            if (isNew)
+            {
+                last = tree.GetJson();
+                atRest.start();
+            }
+            return tree.FindView() && atRest.hasExpired(REST_MS);
+        },
+        30000);
+}
+
+QProcessEnvironment DesktopSession::MakeEnvironment(const Environment& additions) const
+{
+    QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
+    for (const char* name :
+         {"QT_QPA_PLATFORM", "QT_SCALE_FACTOR", "WAYLAND_DISPLAY", "LANG", "LC_NUMERIC"})
+        variables.remove(name);
+    variables.insert("HOME", m_folder.path());
+    variables.insert("XDG_CONFIG_HOME", PathOf("config"));
+    variables.insert("XDG_DATA_HOME", PathOf("data"));
+    variables.insert("XDG_CACHE_HOME", PathOf("cache"));
+    variables.insert("LC_ALL", "C.UTF-8");
+    variables.insert("VESK_UNATTENDED", "1");
+    for (auto addition = additions.begin(); addition != additions.end(); ++addition)
+        variables.insert(addition.key(), addition.value());
+    return variables;
+}
+
+void DesktopSession::RunProgram(const QStringList& arguments,
+                                const QProcessEnvironment& environment)
+{
+    m_errorOutput.clear();
+    m_program.setStandardOutputFile(QProcess::nullDevice());
+    m_program.setProcessEnvironment(environment);
+    m_program.start(ProgramPath(), arguments);
+}
+
+int DesktopSession::WaitForExit()
+{
+    const bool hasEnded = m_program.waitForFinished(EXIT_TIMEOUT_MS);
+    m_errorOutput += m_program.readAllStandardError();
+    if (!hasEnded)
+    {
+        Kill();
+        return -1;
+    }
+    return m_program.exitStatus() == QProcess::NormalExit ? m_program.exitCode() : -1;
+}
+
+}

@@ -1,0 +1,106 @@
+#pragma once
+
+#include "Desktop/DrawnLine.h"
+#include "Desktop/InputDriver.h"
+#include "Desktop/Polling.h"
+#include "Desktop/UiTree.h"
+
+#include <QMap>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <optional>
+
+namespace vesk
+{
+
+/// The program, running on a display, and a user in front of it.
+///
+/// Its files (what it shows, journal, model, warnings) and its home lie in a folder of this
+/// session. Whoever wants to know what came of an input waits until the program says so; nothing
+/// sleeps.
+class DesktopSession
+{
+public:
+    using Environment = QMap<QString, QString>;
+
+    explicit DesktopSession(const QString& display);
+    ~DesktopSession();
+    DesktopSession(const DesktopSession&) = delete;
+    DesktopSession& operator=(const DesktopSession&) = delete;
+
+    /// Starts the program and waits until its window has come to rest. `arguments` come after the
+    /// files'.
+    bool Start(const QStringList& arguments = {}, const Environment& environment = {});
+
+    /// Closes the main window as a user does. The exit code; -1 when the program did not end by
+    /// itself.
+    int Close();
+
+    /// Ends the program without a warning, as `kill -9` does.
+    void Kill();
+
+    /// Runs the program to its end without a screen, with none of the session's files. The exit
+    /// code; -1 when it did not end by itself. What it said on standard error is `GetErrorOutput`.
+    int RunOffscreen(const QStringList& arguments, const Environment& environment = {});
+
+    const InputDriver& Input() const { return m_input; }
+
+    /// Clicks the control with that id. False when it is not on screen within a few seconds.
+    bool Click(const QString& id);
+
+    /// Clicks the place of a world point in the view.
+    bool ClickView(QPointF world);
+    bool MoveInView(QPointF world);
+
+    /// Where a world point is on the screen, as the view stands now.
+    QPoint ToScreen(QPointF world) const;
+
+    /// Types a text, then presses the named keys, in one stream at 200 keys a second.
+    bool Type(const QString& text, const QStringList& keysAfterwards = {});
+
+    /// Waits until what the program shows fulfils `isTrue`. False when it does not in time.
+    template <class Predicate>
+    bool WaitFor(Predicate isTrue, int timeoutMs = 10000)
+    {
+        return PollUntil([&] { return Refresh() && isTrue(m_tree); }, timeoutMs);
+    }
+
+    bool WaitForAction(const QString& commandId);
+    bool WaitForEntities(int count);
+    bool WaitForEditor(const QString& text);
+    bool WaitForNoEditor();
+
+    /// What the program showed when it was last asked.
+    const UiTree& Tree() const { return m_tree; }
+
+    QString PathOf(const QString& file) const { return m_folder.filePath(file); }
+    QVector<DrawnLine> Lines() const { return ReadLines(PathOf("model.json")); }
+    qint64 GetProcessId() const { return m_program.processId(); }
+
+    /// All that the program wrote to standard error.
+    QString GetErrorOutput() const { return QString::fromUtf8(m_errorOutput); }
+
+    /// The debug warnings that were logged, a line each.
+    QByteArray GetWarnings() const { return ReadBytes(PathOf("warnings.log")); }
+
+    /// Keeps this session's files and a picture of the screen in a folder, to find out what went
+    /// wrong.
+    void SaveEvidence(const QString& folder);
+
+private:
+    bool Refresh();
+    bool WaitUntilSettled();
+    QProcessEnvironment MakeEnvironment(const Environment& additions) const;
+    void RunProgram(const QStringList& arguments, const QProcessEnvironment& environment);
+    int WaitForExit();
+
+    QString m_display;
+    QTemporaryDir m_folder;
+    InputDriver m_input;
+    QProcess m_program;
+    UiTree m_tree;
+    QByteArray m_errorOutput;
+};
+
+}

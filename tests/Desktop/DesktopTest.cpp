@@ -1,0 +1,65 @@
+#include "Desktop/DesktopTest.h"
+
+#include <QCoreApplication>
+
+namespace vesk
+{
+
+bool DesktopTest::BeginLine(QPointF start)
+{
+    return Session().Click("Sketcher.Line") && Session().WaitForAction("Sketcher.Line") &&
+           Session().ClickView(start);
+}
+
+QVector<DrawnLine> DesktopTest::CloseAndReadLines()
+{
+    m_isClosed = true;
+    return Session().Close() == 0 ? Session().Lines() : QVector<DrawnLine>();
+}
+
+void DesktopTest::KillProgram()
+{
+    m_isClosed = true;
+    Session().Kill();
+}
+
+int DesktopTest::CountFromEnvironment(const char* name, int everyday)
+{
+    bool isNumber = false;
+    const int count = qEnvironmentVariableIntValue(name, &isNumber);
+    return isNumber ? count : everyday;
+}
+
+void DesktopTest::initTestCase()
+{
+    QVERIFY2(m_server.Start(), qPrintable(m_server.GetError()));
+}
+
+void DesktopTest::init()
+{
+    m_isClosed = false;
+    m_isErrorOutputAccepted = false;
+    m_pSession = std::make_unique<DesktopSession>(m_server.GetDisplay());
+    QVERIFY2(m_pSession->Start(), "the program does not come up");
+}
+
+void DesktopTest::cleanup()
+{
+    if (!QTest::currentTestFailed())
+        CheckHealth();
+    if (QTest::currentTestFailed())
+        Session().SaveEvidence(QCoreApplication::applicationDirPath() + "/../desktop-failures/" +
+                               metaObject()->className() + "." + QTest::currentTestFunction());
+    m_pSession.reset();
+}
+
+void DesktopTest::CheckHealth()
+{
+    if (!m_isClosed)
+        QCOMPARE(Session().Close(), 0);
+    if (!m_isErrorOutputAccepted)
+        QCOMPARE(Session().GetErrorOutput(), QString());
+    QCOMPARE(Session().GetWarnings(), QByteArray());
+}
+
+}

@@ -1,0 +1,116 @@
+#include "Desktop/InputDriver.h"
+
+#include <QHash>
+#include <QProcess>
+#include <QProcessEnvironment>
+
+namespace vesk
+{
+
+namespace
+{
+
+constexpr int RUN_TIMEOUT_MS = 120000;
+
+QString KeyName(QChar character)
+{
+    static const QHash<QChar, QString> s_names = {
+        {'.', "period"}, {',', "comma"},      {'-', "minus"},      {'+', "plus"},
+        {' ', "space"},  {'(', "parenleft"},  {')', "parenright"}, {'*', "asterisk"},
+        {'/', "slash"},  {'_', "underscore"}, {'=', "equal"},      {'\'', "apostrophe"},
+        {':', "colon"}};
+    return s_names.value(character, QString(character));
+}
+
+}
+
+InputDriver::InputDriver(QString display) : m_display(std::move(display)) {}
+
+bool InputDriver::Keys(const QStringList& keys, int keysPerSecond) const
+{
+    return Xdotool(QStringList{"key", "--delay", QString::number(1000 / keysPerSecond)} + keys);
+}
+
+QStringList InputDriver::Text(const QString& text)
+{
+    QStringList keys;
+    for (const QChar character : text)
+        keys << KeyName(character);
+    return keys;
+}
+
+bool InputDriver::KeyDown(const QString& key) const
+{
+    return Xdotool({"keydown", key});
+}
+
+bool InputDriver::KeyUp(const QString& key) const
+{
+    return Xdotool({"keyup", key});
+}
+
+bool InputDriver::MoveTo(QPoint position) const
+{
+    return Xdotool({"mousemove", QString::number(position.x()), QString::number(position.y())});
+}
+
+bool InputDriver::Click(QPoint position, int button) const
+{
+    return Xdotool({"mousemove", QString::number(position.x()), QString::number(position.y()),
+                    "click", QString::number(button)});
+}
+
+bool InputDriver::ClickAll(const QList<QPoint>& positions) const
+{
+    QStringList arguments;
+    for (const QPoint position : positions)
+        arguments << "mousemove" << QString::number(position.x()) << QString::number(position.y())
+                  << "click"
+                  << "1";
+    return Xdotool(arguments);
+}
+
+bool InputDriver::Wheel(int steps) const
+{
+    return Xdotool(
+        {"click", "--repeat", QString::number(qAbs(steps)), "--delay", "5", steps > 0 ? "4" : "5"});
+}
+
+bool InputDriver::CloseMainWindow() const
+{
+    QByteArray clients;
+    if (!Run("xprop", {"-root", "_NET_CLIENT_LIST"}, &clients))
+        return false;
+    const int begin = clients.indexOf("0x");
+    if (begin < 0)
+        return false;
+    const QByteArray window = clients.mid(begin).split(',').first().trimmed();
+    return Xdotool({"windowactivate", "--sync", QString::fromLatin1(window), "key", "alt+F4"});
+}
+
+bool InputDriver::TakePicture(const QString& file) const
+{
+    return Run("import", {"-window", "root", file});
+}
+
+bool InputDriver::Xdotool(const QStringList& arguments) const
+{
+    return Run("xdotool", arguments);
+}
+
+bool InputDriver::Run(const QString& program, const QStringList& arguments,
+                      QByteArray* pOutput) const
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("DISPLAY", m_display);
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.start(program, arguments);
+    if (!process.waitForFinished(RUN_TIMEOUT_MS))
+        return false;
+    if (pOutput != nullptr)
+        *pOutput = process.readAllStandardOutput();
+    return process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
+}
+
+}

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QPoint>
+#include <QString>
+#include <QStringList>
+
+namespace vesk
+{
+
+/// A hand on the keyboard and the mouse of a display: real X events, to whatever has the focus.
+class InputDriver
+{
+public:
+    explicit InputDriver(QString display = QString());
+
+    /// Presses keys one after the other without a pause between them but the rate's. A text between
+    /// keys goes in as single characters: `Keys({Text("125.5"), {"Tab"}, …})` is one stream.
+    bool Keys(const QStringList& keys, int keysPerSecond = 200) const;
+
+    /// The key names of a text of printable ASCII characters.
+    static QStringList Text(const QString& text);
+
+    bool KeyDown(const QString& key) const;
+    bool KeyUp(const QString& key) const;
+    bool MoveTo(QPoint position) const;
+    bool Click(QPoint position, int button = 1) const;
+
+    /// Clicks the places in turn, as fast as the server takes them.
+    bool ClickAll(const QList<QPoint>& positions) const;
+
+    /// Turns the wheel at the pointer's place; positive turns away from the user.
+    bool Wheel(int steps) const;
+
+    /// Asks the window manager to close the window that was mapped first, as Alt+F4 does.
+    bool CloseMainWindow() const;
+
+    /// Saves a picture of the whole screen.
+    bool TakePicture(const QString& file) const;
+
+private:
+    bool Xdotool(const QStringList& arguments) const;
+    bool Run(const QString& program, const QStringList& arguments,
+             QByteArray* pOutput = nullptr) const;
+
+    QString m_display;
+};
+
+}

@@ -1,0 +1,82 @@
+#include "Desktop/DesktopTest.h"
+
+#include <QRegularExpression>
+
+namespace vesk
+{
+
+namespace
+{
+
+/// So many switches go in as one burst before anybody looks.
+constexpr int BURST = 10;
+
+/// A line of /proc/<pid>/status in kB, -1 when it is not there.
+int ReadStatus(qint64 processId, const char* field)
+{
+    const QString status =
+        QString::fromLatin1(ReadBytes(QString("/proc/%1/status").arg(processId)));
+    const QRegularExpression line(QString("^%1:\\s+(\\d+) kB").arg(field),
+                                  QRegularExpression::MultilineOption);
+    const QRegularExpressionMatch match = line.match(status);
+    return match.hasMatch() ? match.captured(1).toInt() : -1;
+}
+
+}
+
+/// Going from tool to tool all day costs nothing.
+class ToolSwitchTest : public DesktopTest
+{
+    Q_OBJECT
+
+private slots:
+    void manySwitchesLeaveTheStackAsItWas();
+
+private:
+    void Switch(int count);
+};
+
+void ToolSwitchTest::Switch(int count)
+{
+    const QPoint line = Session().Tree().FindControl("Sketcher.Line")->rect.center();
+    const QPoint erase = Session().Tree().FindControl("Sketcher.Erase")->rect.center();
+    QList<QPoint> places;
+    for (int i = 0; i < BURST; ++i)
+        places << (i % 2 == 0 ? line : erase);
+    for (int done = 0; done < count; done += BURST)
+    {
+        QVERIFY(Session().Input().ClickAll(places));
+        QVERIFY(Session().WaitForAction("Sketcher.Erase"));
+    }
+}
+
+void ToolSwitchTest::manySwitchesLeaveTheStackAsItWas()
+{
+    const int count = CountFromEnvironment("VESK_DESKTOP_SWITCHES", 100);
+    QVERIFY(BeginLine());
+    Switch(2 * BURST);
+    const int stackBefore = ReadStatus(Session().GetProcessId(), "VmStk");
+    const int memoryBefore = ReadStatus(Session().GetProcessId(), "VmRSS");
+    QVERIFY(stackBefore > 0);
+
+    Switch(count);
+
+    const int stackAfter = ReadStatus(Session().GetProcessId(), "VmStk");
+    const int memoryAfter = ReadStatus(Session().GetProcessId(), "VmRSS");
+    qInfo("%d switches: stack %d kB, then %d kB; memory %d kB, then %d kB", count, stackBefore,
+          stackAfter, memoryBefore, memoryAfter);
+    QVERIFY(stackAfter - stackBefore <= 16);
+    QVERIFY(memoryAfter - memoryBefore <= 2048 + count);
+
+    QVERIFY(BeginLine(QPointF(-50.0, 0.0)));
+    QVERIFY(Session().Type("12.5", {"Return"}));
+    QVERIFY(Session().WaitForEntities(1));
+    const QVector<DrawnLine> lines = CloseAndReadLines();
+    QCOMPARE(lines.size(), 1);
+    QVERIFY(qAbs(lines[0].GetLength() - 12.5) <= 1e-9);
+}
+
+}
+
+QTEST_GUILESS_MAIN(vesk::ToolSwitchTest)
+#include "ToolSwitchTest.moc"

@@ -1,0 +1,157 @@
+#include "Desktop/DesktopTest.h"
+
+#include <QJsonDocument>
+#include <QRandomGenerator>
+
+namespace vesk
+{
+
+namespace
+{
+
+constexpr double TOLERANCE = 1e-9;
+
+struct TypedValues
+{
+    QString length;
+    QString angle;
+};
+
+/// Numbers as people type them: with and without decimals, up to six of them.
+QVector<TypedValues> RandomValues(int count)
+{
+    QRandomGenerator generator(20261121);
+    QVector<TypedValues> values;
+    for (int i = 0; i < count; ++i)
+    {
+        const double length = 1.0 + generator.generateDouble() * 999.0;
+        const double angle = generator.generateDouble() * 720.0 - 360.0;
+        values << TypedValues{QString::number(length, 'f', generator.bounded(7)),
+                              QString::number(angle, 'f', generator.bounded(7))};
+    }
+    return values;
+}
+
+}
+
+/// A typed value reaches the drawing as it was typed, however soon and however fast.
+class TypedLineTest : public DesktopTest
+{
+    Q_OBJECT
+
+private slots:
+    void lengthAndAngleMakeTheVeryLine();
+    void lengthAloneTakesTheDirectionOfTheCursor();
+    void valueTypedBeforeTheMouseHasMovedGoesAlongX();
+    void mouseMovesLeaveTheTypedTextAlone();
+    void wheelLeavesTheTypedTextAlone();
+    void noneOfManyRandomValuesIsAltered();
+};
+
+void TypedLineTest::lengthAndAngleMakeTheVeryLine()
+{
+    QVERIFY(BeginLine());
+    QVERIFY(Session().Type("125.5", {"Tab", "3", "0", "Return"}));
+
+    QVERIFY(Session().WaitForEntities(1));
+    const QVector<DrawnLine> lines = CloseAndReadLines();
+    QCOMPARE(lines.size(), 1);
+    QVERIFY(qAbs(lines[0].GetLength() - 125.5) <= TOLERANCE);
+    QVERIFY(AngleBetween(lines[0].GetAngle(), 30.0) <= TOLERANCE);
+}
+
+void TypedLineTest::lengthAloneTakesTheDirectionOfTheCursor()
+{
+    QVERIFY(BeginLine());
+    QVERIFY(Session().MoveInView(QPointF(90.0, 120.0)));
+    QVERIFY(Session().Type("75", {"Return"}));
+
+    QVERIFY(Session().WaitForEntities(1));
+    const QVector<DrawnLine> lines = CloseAndReadLines();
+    QCOMPARE(lines.size(), 1);
+    QVERIFY(qAbs(lines[0].GetLength() - 75.0) <= TOLERANCE);
+    // The points under a start and a cursor that rest on whole pixels.
+    QVERIFY(AngleBetween(lines[0].GetAngle(), qRadiansToDegrees(std::atan2(120.0, 90.0))) < 0.5);
+}
+
+void TypedLineTest::valueTypedBeforeTheMouseHasMovedGoesAlongX()
+{
+    QVERIFY(BeginLine());
+    QVERIFY(Session().Type("42.25", {"Return"}));
+
+    QVERIFY(Session().WaitForEntities(1));
+    const QVector<DrawnLine> lines = CloseAndReadLines();
+    QCOMPARE(lines.size(), 1);
+    QVERIFY(qAbs(lines[0].GetLength() - 42.25) <= TOLERANCE);
+    QVERIFY(AngleBetween(lines[0].GetAngle(), 0.0) <= TOLERANCE);
+}
+
+void TypedLineTest::mouseMovesLeaveTheTypedTextAlone()
+{
+    QVERIFY(BeginLine());
+    QVERIFY(Session().Type("61.75"));
+    QVERIFY(Session().WaitForEditor("61.75"));
+    for (int step = 0; step < 40; ++step)
+        QVERIFY(Session().MoveInView(QPointF(5.0 * step, 80.0 - 4.0 * step)));
+    QVERIFY(Session().WaitForEditor("61.75"));
+    QVERIFY(Session().Type("", {"Return"}));
+
+    QVERIFY(Session().WaitForEntities(1));
+    const QVector<DrawnLine> lines = CloseAndReadLines();
+    QCOMPARE(lines.size(), 1);
+    QVERIFY(qAbs(lines[0].GetLength() - 61.75) <= TOLERANCE);
+}
+
+void TypedLineTest::wheelLeavesTheTypedTextAlone()
+{
+    QVERIFY(BeginLine());
+    QVERIFY(Session().MoveInView(QPointF(60.0, 60.0)));
+    QVERIFY(Session().Type("33.125"));
+    QVERIFY(Session().WaitForEditor("33.125"));
+    const double before = Session().Tree().FindView()->worldPerPixel;
+    QVERIFY(Session().Input().Wheel(3));
+    QVERIFY(Session().WaitFor(
+        [&](const UiTree& tree) { return tree.FindView()->worldPerPixel < before; }));
+    QVERIFY(Session().WaitForEditor("33.125"));
+    QVERIFY(Session().Type("", {"Return"}));
+
+    QVERIFY(Session().WaitForEntities(1));
+    const QVector<DrawnLine> lines = CloseAndReadLines();
+    QCOMPARE(lines.size(), 1);
+    QVERIFY(qAbs(lines[0].GetLength() - 33.125) <= TOLERANCE);
+}
+
+void TypedLineTest::noneOfManyRandomValuesIsAltered()
+{
+    const QVector<TypedValues> values =
+        RandomValues(CountFromEnvironment("VESK_DESKTOP_VALUES", 60));
+    QVERIFY(Session().Click("Sketcher.Line"));
+    QVERIFY(Session().WaitForAction("Sketcher.Line"));
+    for (int i = 0; i < values.size(); ++i)
+    {
+        // A start of its own for each keeps the coordinates small, so that 1e-9 can be asked for.
+        QVERIFY(Session().ClickView(QPointF(0.0, 0.0)));
+        QVERIFY(Session().Type(values[i].length, QStringList{"Tab"} +
+                                                     InputDriver::Text(values[i].angle) +
+                                                     QStringList{"Return"}));
+        QVERIFY2(Session().WaitForEntities(i + 1),
+                 qPrintable(values[i].length + " " + values[i].angle));
+        QVERIFY(Session().Click("Sketcher.Line"));
+    }
+
+    const QVector<DrawnLine> lines = CloseAndReadLines();
+    QCOMPARE(lines.size(), values.size());
+    for (int i = 0; i < values.size(); ++i)
+    {
+        const QString typed = values[i].length + " < " + values[i].angle;
+        QVERIFY2(qAbs(lines[i].GetLength() - values[i].length.toDouble()) <= TOLERANCE,
+                 qPrintable(typed));
+        QVERIFY2(AngleBetween(lines[i].GetAngle(), values[i].angle.toDouble()) <= TOLERANCE,
+                 qPrintable(typed));
+    }
+}
+
+}
+
+QTEST_GUILESS_MAIN(vesk::TypedLineTest)
+#include "TypedLineTest.moc"

@@ -1,0 +1,79 @@
+#pragma once
+
+#include <QJsonObject>
+#include <QPoint>
+#include <QPointF>
+#include <QRect>
+#include <QString>
+#include <QVector>
+
+#include <optional>
+
+namespace vesk
+{
+
+/// One control on screen.
+struct UiControl
+{
+    QString id;
+    QString className;
+    QString text;
+    QRect rect; ///< In device pixels of the screen; empty without geometry.
+    bool isVisible = false;
+    bool isEnabled = false;
+    std::optional<bool> isChecked;
+};
+
+/// A drawing view.
+struct UiView
+{
+    QRect rect;
+    double worldPerPixel = 1.0;
+    QPointF centre;
+
+    /// Where a world point is on the screen.
+    QPoint ToScreen(QPointF world) const;
+};
+
+/// The editor of a provisional dimension.
+struct UiEditor
+{
+    QString text;
+    QString selectedText;
+    QString message;
+    QRect rect;
+    bool isVisible = false;
+    bool hasFocus = false;
+    int state = 0;
+    QVector<int> locked;
+};
+
+/// What the program says that it shows, as read from its file.
+class UiTree
+{
+public:
+    /// Reads the file; nothing while there is none, or none that is whole.
+    static std::optional<UiTree> Read(const QString& path);
+
+    /// The control with that id; nothing when there is none.
+    std::optional<UiControl> FindControl(const QString& id) const;
+
+    /// The first view; nothing when there is none.
+    std::optional<UiView> FindView() const;
+
+    /// The open editor; nothing while no dimension is being typed.
+    std::optional<UiEditor> FindEditor() const;
+
+    /// The command whose action runs, empty when none does.
+    QString GetAction() const;
+    QString GetHint() const;
+    int GetEntityCount() const;
+    bool HasWarning() const;
+
+    const QJsonObject& GetJson() const { return m_root; }
+
+private:
+    QJsonObject m_root;
+};
+
+}

@@ -1,0 +1,89 @@
+#include "Desktop/XServer.h"
+
+#include "Desktop/Polling.h"
+
+#include <QProcessEnvironment>
+
+namespace vesk
+{
+
+namespace
+{
+
+constexpr int START_TIMEOUT_MS = 15000;
+
+void End(QProcess& process)
+{
+    if (process.state() == QProcess::NotRunning)
+        return;
+    process.terminate();
+    if (!process.waitForFinished(3000))
+    {
+        process.kill();
+        process.waitForFinished();
+    }
+}
+
+}
+
+XServer::~XServer()
+{
+    End(m_windowManager);
+    End(m_server);
+}
+
+bool XServer::Start()
+{
+    return StartServer() && StartWindowManager();
+}
+
+bool XServer::StartServer()
+{
+    // The number comes on standard output. The key repeat of a real keyboard stays on.
+    m_server.setStandardErrorFile(QProcess::nullDevice());
+    m_server.start("Xvfb", {"-displayfd", "1", "-screen", "0", "1400x1000x24", "-nolisten", "tcp"});
+    if (!m_server.waitForStarted())
+    {
+        m_error = "Xvfb: " + m_server.errorString();
+        return false;
+    }
+    QByteArray number;
+    const bool hasNumber = PollUntil(
+        [&] {
+            m_server.waitForReadyRead(50);
+            number += m_server.readAllStandardOutput();
+            return number.endsWith('\n');
+        },
+        START_TIMEOUT_MS);
+    if (!hasNumber)
+    {
+        m_error = "Xvfb did not tell its display number";
+        return false;
+    }
+    m_display = ":" + QString::fromLatin1(number.trimmed());
+    return true;
+}
+
+bool XServer::StartWindowManager()
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("DISPLAY", m_display);
+    m_windowManager.setProcessEnvironment(environment);
+    m_windowManager.setStandardOutputFile(QProcess::nullDevice());
+    m_windowManager.setStandardErrorFile(QProcess::nullDevice());
+    m_windowManager.start("openbox", QStringList());
+    const bool rules = PollUntil(
+        [&] {
+            QProcess query;
+            query.setProcessEnvironment(environment);
+            query.start("xprop", {"-root", "_NET_SUPPORTING_WM_CHECK"});
+            query.waitForFinished();
+            return query.readAllStandardOutput().contains("window id #");
+        },
+        START_TIMEOUT_MS);
+    if (!rules)
+        m_error = "openbox does not manage " + m_display;
+    return rules;
+}
+
+}

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QProcess>
+#include <QString>
+
+namespace vesk
+{
+
+/// An X server of our own with a window manager, on the first display number that is free.
+class XServer
+{
+public:
+    XServer() = default;
+    ~XServer();
+    XServer(const XServer&) = delete;
+    XServer& operator=(const XServer&) = delete;
+
+    /// Starts both and waits until the window manager rules. False when one of them cannot be
+    /// started; `GetError` then says which.
+    bool Start();
+
+    /// ":7", empty before the start.
+    QString GetDisplay() const { return m_display; }
+    QString GetError() const { return m_error; }
+
+private:
+    bool StartServer();
+    bool StartWindowManager();
+
+    QProcess m_server;
+    QProcess m_windowManager;
+    QString m_display;
+    QString m_error;
+};
+
+}
