@@ -4,10 +4,8 @@
 #include "Qtitan/RibbonPage.h"
 #include "RibbonColors.h"
 #include "RibbonKeyTips.h"
-#include "RibbonStyleSheet.h"
 #include "RibbonTabBar.h"
 
-#include <QEvent>
 #include <QPainter>
 #include <QStackedWidget>
 #include <QVBoxLayout>
@@ -29,7 +27,6 @@ RibbonBar::RibbonBar(QWidget* pParent)
     connect(m_pTabs, &QTabBar::currentChanged, this, &RibbonBar::OnCurrentTabChanged);
     connect(m_pTabs, &QTabBar::tabBarDoubleClicked, this, &RibbonBar::OnTabDoubleClicked);
     connect(m_pPages, &QStackedWidget::widgetRemoved, this, &RibbonBar::OnPageRemoved);
-    applyStyleSheet();
     new RibbonKeyTips(*this);
 }
 
@@ -94,14 +91,6 @@ QSize RibbonBar::minimumSizeHint() const
     return QSize(m_pTabs->minimumSizeHint().width(), QWidget::minimumSizeHint().height());
 }
 
-void RibbonBar::changeEvent(QEvent* pEvent)
-{
-    QWidget::changeEvent(pEvent);
-    const QEvent::Type type = pEvent->type();
-    if (type == QEvent::PaletteChange || type == QEvent::FontChange || type == QEvent::StyleChange)
-        applyStyleSheet();
-}
-
 void RibbonBar::paintEvent(QPaintEvent*)
 {
     const RibbonColors colors(palette());
@@ -125,13 +114,6 @@ void RibbonBar::OnTabDoubleClicked(int index)
 void RibbonBar::OnPageRemoved(int index)
 {
     m_pTabs->removeTab(index);
-}
-
-void RibbonBar::applyStyleSheet()
-{
-    const QString sheet = ribbonStyleSheet(*this);
-    if (sheet != m_pPages->styleSheet())
-        m_pPages->setStyleSheet(sheet);
 }
 
 } // namespace Qtitan

@@ -1,5 +1,6 @@
 #include "Qtitan/RibbonButtonControl.h"
 
+#include "RibbonButtonPainter.h"
 #include "RibbonMetrics.h"
 
 #include <QEvent>
@@ -66,6 +67,11 @@ bool RibbonButtonControl::event(QEvent* pEvent)
 bool RibbonButtonControl::eventFilter(QObject* pWatched, QEvent* pEvent)
 {
     const QEvent::Type type = pEvent->type();
+    if (type == QEvent::Paint && pWatched == m_pButton)
+    {
+        paintRibbonButton(*m_pButton);
+        return true;
+    }
     if (type == QEvent::ShowToParent || type == QEvent::HideToParent)
         followButton();
     return QWidget::eventFilter(pWatched, pEvent);
@@ -76,7 +82,7 @@ void RibbonButtonControl::childEvent(QChildEvent* pEvent)
     QWidget::childEvent(pEvent);
     if (!pEvent->removed())
         return;
-    if (m_pButton != nullptr && m_pButton->parent() != this)
+    if (m_pButton != nullptr && pEvent->child() == m_pButton)
     {
         m_pButton->removeEventFilter(this);
         m_pButton = nullptr;

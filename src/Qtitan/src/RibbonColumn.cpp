@@ -1,9 +1,11 @@
 #include "RibbonColumn.h"
 
 #include "Caption.h"
+#include "RibbonButtonPainter.h"
 
 #include <QEvent>
 #include <QGridLayout>
+#include <QToolButton>
 
 #include <algorithm>
 
@@ -50,6 +52,12 @@ void RibbonColumn::addRow(const QString& label, QWidget* pWidget)
 bool RibbonColumn::eventFilter(QObject* pWatched, QEvent* pEvent)
 {
     const QEvent::Type type = pEvent->type();
+    auto* pButton = qobject_cast<QToolButton*>(pWatched);
+    if (type == QEvent::Paint && pButton != nullptr)
+    {
+        paintRibbonButton(*pButton);
+        return true;
+    }
     if (type == QEvent::ShowToParent || type == QEvent::HideToParent)
         followWidgets();
     return QWidget::eventFilter(pWatched, pEvent);
@@ -65,15 +73,21 @@ void RibbonColumn::changeEvent(QEvent* pEvent)
 void RibbonColumn::childEvent(QChildEvent* pEvent)
 {
     QWidget::childEvent(pEvent);
-    if (pEvent->removed())
-        followWidgets();
+    if (!pEvent->removed())
+        return;
+    for (Row& row : m_rows)
+    {
+        if (row.pWidget == pEvent->child())
+            row.pWidget = nullptr;
+    }
+    pEvent->child()->removeEventFilter(this);
+    followWidgets();
 }
 
 int RibbonColumn::freeRow() const
 {
-    const auto it = std::find_if(m_rows.begin(), m_rows.end(), [this](const Row& row) {
-        return row.pWidget == nullptr || row.pWidget->parentWidget() != this;
-    });
+    const auto it = std::find_if(m_rows.begin(), m_rows.end(),
+                                 [](const Row& row) { return row.pWidget == nullptr; });
     return static_cast<int>(it - m_rows.begin());
 }
 

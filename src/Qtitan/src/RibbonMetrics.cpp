@@ -32,13 +32,6 @@ int contentHeight(const QWidget& widget)
     return RowsInColumn * rowHeight(widget) + (RowsInColumn - 1) * RowSpacing;
 }
 
-int largeButtonPadding(const QWidget& widget)
-{
-    constexpr int BordersAndGaps = 10;
-    const int used = LargeIcon + textHeight(widget) + BordersAndGaps;
-    return qMax(0, (contentHeight(widget) - used) / 2);
-}
-
 int titleHeight(const QWidget& widget)
 {
     return textHeight(widget) + 2;

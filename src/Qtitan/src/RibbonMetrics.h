@@ -21,8 +21,6 @@ constexpr int ArrowWidth = 18;
 
 int rowHeight(const QWidget& widget);
 int contentHeight(const QWidget& widget);
-/// Room above the icon and below the text that centres both in the content height.
-int largeButtonPadding(const QWidget& widget);
 int titleHeight(const QWidget& widget);
 int tabHeight(const QWidget& widget);
 

@@ -4,12 +4,12 @@
 #include "Qtitan/RibbonGroup.h"
 #include "RibbonColors.h"
 #include "RibbonMetrics.h"
+#include "RibbonScrollButton.h"
 
 #include <QApplication>
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QPainter>
-#include <QToolButton>
 #include <QWheelEvent>
 
 namespace Qtitan
@@ -26,14 +26,16 @@ constexpr int AngleOfNotch = 120;
 RibbonPage::RibbonPage(const QString& title, QWidget* pParent)
     : QWidget(pParent), m_title(title), m_pContent(new QWidget(this)),
       m_pGroups(new QHBoxLayout(m_pContent)),
-      m_pLeft(createArrow(Qt::LeftArrow, tr("Scroll left"), -1)),
-      m_pRight(createArrow(Qt::RightArrow, tr("Scroll right"), 1))
+      m_pLeft(new RibbonScrollButton(Qt::LeftArrow, tr("Scroll left"), this)),
+      m_pRight(new RibbonScrollButton(Qt::RightArrow, tr("Scroll right"), this))
 {
     setAccessibleName(plainCaption(title));
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     m_pGroups->setContentsMargins(2, 0, 2, 1);
     m_pGroups->setSpacing(0);
     m_pGroups->addStretch();
+    connect(m_pLeft, &QToolButton::clicked, this, [this] { scrollTo(m_offset - width() / 2); });
+    connect(m_pRight, &QToolButton::clicked, this, [this] { scrollTo(m_offset + width() / 2); });
     connect(qApp, &QApplication::focusChanged, this, &RibbonPage::OnFocusChanged);
 }
 
@@ -116,21 +118,6 @@ void RibbonPage::OnFocusChanged(QWidget*, QWidget* pNow)
 {
     if (pNow != nullptr)
         ensureVisible(*pNow);
-}
-
-QToolButton* RibbonPage::createArrow(Qt::ArrowType type, const QString& text, int direction)
-{
-    auto* pArrow = new QToolButton(this);
-    pArrow->setArrowType(type);
-    pArrow->setAutoRaise(true);
-    pArrow->setAutoRepeat(true);
-    pArrow->setFocusPolicy(Qt::TabFocus);
-    pArrow->setToolTip(text);
-    pArrow->setAccessibleName(text);
-    pArrow->hide();
-    connect(pArrow, &QToolButton::clicked, this,
-            [this, direction] { scrollTo(m_offset + direction * width() / 2); });
-    return pArrow;
 }
 
 void RibbonPage::arrange()

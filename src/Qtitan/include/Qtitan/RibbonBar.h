@@ -61,14 +61,12 @@ signals:
     void currentPageChanged(int index);
 
 protected:
-    void changeEvent(QEvent* pEvent) override;
     void paintEvent(QPaintEvent* pEvent) override;
 
 private:
     void OnCurrentTabChanged(int index);
     void OnTabDoubleClicked(int index);
     void OnPageRemoved(int index);
-    void applyStyleSheet();
 
     RibbonTabBar* m_pTabs;
     QStackedWidget* m_pPages;

@@ -23,8 +23,8 @@ public:
     /// given another parent.
     QToolButton* widget() const;
 
-    /// Places a button, becomes its parent and gives it the ribbon's icon size; its other
-    /// properties stay. A button placed before is hidden and left without a parent: it is the
+    /// Places a button, becomes its parent, draws it and gives it the ribbon's icon size; its
+    /// other properties stay. A button placed before is hidden and left without a parent: it is the
     /// caller's again. Null empties the control.
     void setWidget(QToolButton* pButton);
 

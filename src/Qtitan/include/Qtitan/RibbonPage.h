@@ -5,12 +5,12 @@
 #include <QWidget>
 
 class QHBoxLayout;
-class QToolButton;
 
 namespace Qtitan
 {
 
 class RibbonGroup;
+class RibbonScrollButton;
 
 /// One page of a ribbon: groups from left to right. Where they do not fit, the page scrolls with
 /// the wheel, with a button at each edge that has more behind it, and along with the focus.
@@ -45,7 +45,6 @@ protected:
 
 private:
     void OnFocusChanged(QWidget* pOld, QWidget* pNow);
-    QToolButton* createArrow(Qt::ArrowType type, const QString& text, int direction);
     void arrange();
     void scrollTo(int offset);
     int maximumOffset() const;
@@ -53,8 +52,8 @@ private:
     QString m_title;
     QWidget* m_pContent;
     QHBoxLayout* m_pGroups;
-    QToolButton* m_pLeft;
-    QToolButton* m_pRight;
+    RibbonScrollButton* m_pLeft;
+    RibbonScrollButton* m_pRight;
     int m_offset = 0;
 };
 
