@@ -1,0 +1,94 @@
+#pragma once
+
+#include <Qtitan/RibbonBar.h>
+#include <Qtitan/RibbonButtonControl.h>
+#include <Qtitan/RibbonGroup.h>
+#include <Qtitan/RibbonPage.h>
+
+#include <QAction>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QTest>
+#include <QToolButton>
+#include <QVBoxLayout>
+#include <QWindow>
+
+#include <algorithm>
+#include <memory>
+
+/// A view that takes the focus and every key, and remembers the keys that were pressed.
+class KeyRecorder final : public QWidget
+{
+public:
+    explicit KeyRecorder(QWidget* pParent) : QWidget(pParent) { setFocusPolicy(Qt::StrongFocus); }
+
+    QList<int> pressedKeys;
+
+protected:
+    void keyPressEvent(QKeyEvent* pEvent) override { pressedKeys.append(pEvent->key()); }
+};
+
+/// Text and icon live on an action, as with the buttons that the host places.
+inline QToolButton* createButton(const QString& caption)
+{
+    auto* pButton = new QToolButton;
+    pButton->setDefaultAction(new QAction(caption, pButton));
+    pButton->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    pButton->setAutoRaise(true);
+    return pButton;
+}
+
+/// A window with a ribbon of one page and one group above a view that has the focus.
+struct RibbonFixture
+{
+    RibbonFixture()
+        : window(std::make_unique<QWidget>()), pBar(new Qtitan::RibbonBar(window.get())),
+          pPage(pBar->addPage(QStringLiteral("草图"))),
+          pGroup(pPage->addGroup(QStringLiteral("绘制"))), pView(new KeyRecorder(window.get()))
+    {
+        auto* pLayout = new QVBoxLayout(window.get());
+        pLayout->setContentsMargins(0, 0, 0, 0);
+        pLayout->setSpacing(0);
+        pLayout->addWidget(pBar);
+        pLayout->addWidget(pView, 1);
+    }
+
+    void show(int width = 900)
+    {
+        window->resize(width, 400);
+        window->show();
+        pView->setFocus();
+        window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(window.get()));
+        QCOMPARE(QApplication::focusWidget(), pView);
+    }
+
+    QToolButton* addButton(const QString& caption)
+    {
+        QToolButton* pButton = createButton(caption);
+        pGroup->addButton(pButton);
+        return pButton;
+    }
+
+    /// Types through the window system's door, where shortcuts and filters have their say.
+    void type(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const
+    {
+        QTest::keyClick(window->windowHandle(), key, modifiers);
+    }
+
+    /// The texts of the key tips on show, in the order of their controls.
+    QStringList tips() const
+    {
+        QStringList texts;
+        const auto labels = window->findChildren<QLabel*>(QStringLiteral("qtitan_keyTip"));
+        for (const QLabel* pLabel : labels)
+            texts.append(pLabel->text());
+        return texts;
+    }
+
+    std::unique_ptr<QWidget> window;
+    Qtitan::RibbonBar* pBar;
+    Qtitan::RibbonPage* pPage;
+    Qtitan::RibbonGroup* pGroup;
+    KeyRecorder* pView;
+};

@@ -1,0 +1,137 @@
+#include "RibbonFixture.h"
+
+#include <QLineEdit>
+
+using namespace Qtitan;
+
+class RibbonGroupTest final : public QObject
+{
+    Q_OBJECT
+
+private:
+    static QLabel* labelOf(const RibbonFixture& f, const QWidget* pWidget)
+    {
+        const auto labels = f.pGroup->findChildren<QLabel*>();
+        const auto it = std::find_if(labels.begin(), labels.end(), [pWidget](const QLabel* pLabel) {
+            return pLabel->buddy() == pWidget;
+        });
+        return it == labels.end() ? nullptr : *it;
+    }
+
+private slots:
+    void threeWidgetsStackAndTheFourthStandsBeside()
+    {
+        RibbonFixture f;
+        const QList<QLineEdit*> edits{new QLineEdit, new QLineEdit, new QLineEdit, new QLineEdit};
+
+        f.pGroup->addWidget("长度", edits[0]);
+        f.pGroup->addWidget("角度", edits[1]);
+        f.pGroup->addWidget("半径", edits[2]);
+        f.pGroup->addWidget("高度", edits[3]);
+        f.show();
+
+        const QPoint top = edits[0]->mapTo(f.pGroup, QPoint());
+        QCOMPARE(edits[2]->mapTo(f.pGroup, QPoint()).x(), top.x());
+        QVERIFY(edits[2]->mapTo(f.pGroup, QPoint()).y() > edits[1]->mapTo(f.pGroup, QPoint()).y());
+        QCOMPARE(edits[3]->mapTo(f.pGroup, QPoint()).y(), top.y());
+        QVERIFY(edits[3]->mapTo(f.pGroup, QPoint()).x() >= top.x() + edits[0]->width());
+    }
+
+    void hiddenWidgetTakesItsLabelAlongAndTheRowsCloseUp()
+    {
+        RibbonFixture f;
+        auto* pFirst = new QLineEdit;
+        auto* pSecond = new QLineEdit;
+        f.pGroup->addWidget("长度", pFirst);
+        f.pGroup->addWidget("角度", pSecond);
+        f.show();
+        const int top = pFirst->mapTo(f.pGroup, QPoint()).y();
+
+        pFirst->hide();
+
+        QVERIFY(!labelOf(f, pFirst)->isVisible());
+        QTRY_COMPARE(pSecond->mapTo(f.pGroup, QPoint()).y(), top);
+    }
+
+    void rowOfADeletedWidgetIsUsedAgain()
+    {
+        RibbonFixture f;
+        auto* pGone = new QLineEdit;
+        auto* pNew = new QLineEdit;
+        f.pGroup->addWidget(pGone);
+        f.pGroup->addWidget(new QLineEdit);
+        f.pGroup->addWidget(new QLineEdit);
+        f.show();
+        const QPoint place = pGone->mapTo(f.pGroup, QPoint());
+
+        delete pGone;
+        f.pGroup->addWidget(pNew);
+
+        QTRY_COMPARE(pNew->mapTo(f.pGroup, QPoint()), place);
+    }
+
+    void labelNamesItsWidget()
+    {
+        RibbonFixture f;
+        auto* pEdit = new QLineEdit;
+
+        f.pGroup->addWidget("长度(&E)", pEdit);
+
+        QCOMPARE(pEdit->accessibleName(), QString("长度(E)"));
+        QVERIFY(labelOf(f, pEdit) != nullptr);
+    }
+
+    void titleNamesTheGroupAndFits()
+    {
+        RibbonFixture f;
+
+        RibbonGroup* pGroup = f.pPage->addGroup("A title that is &longer than its content");
+        pGroup->addButton(createButton("L"));
+        f.show();
+
+        QCOMPARE(pGroup->accessibleName(), QString("A title that is longer than its content"));
+        QVERIFY(pGroup->width() > pGroup->fontMetrics().horizontalAdvance(pGroup->title()));
+    }
+
+    void groupHidesWhileAllItsControlsAreHidden()
+    {
+        RibbonFixture f;
+        QToolButton* pButton = f.addButton("直线");
+        auto* pEdit = new QLineEdit;
+        f.pGroup->addWidget("长度", pEdit);
+        f.show();
+
+        pButton->hide();
+        QVERIFY(f.pGroup->isVisible());
+        pEdit->hide();
+        QVERIFY(!f.pGroup->isVisible());
+        pButton->show();
+
+        QVERIFY(f.pGroup->isVisible());
+    }
+
+    void groupHiddenByItsOwnerStaysHidden()
+    {
+        RibbonFixture f;
+        QToolButton* pButton = f.addButton("直线");
+        f.show();
+        f.pGroup->hide();
+
+        pButton->hide();
+        pButton->show();
+
+        QVERIFY(!f.pGroup->isVisible());
+    }
+
+    void nullWidgetIsIgnored()
+    {
+        RibbonFixture f;
+
+        f.pGroup->addWidget(nullptr);
+
+        QVERIFY(f.pGroup->findChildren<QWidget*>().isEmpty());
+    }
+};
+
+QTEST_MAIN(RibbonGroupTest)
+#include "RibbonGroupTest.moc"

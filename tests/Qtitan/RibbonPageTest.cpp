@@ -1,0 +1,138 @@
+#include "RibbonFixture.h"
+
+#include <QWheelEvent>
+
+using namespace Qtitan;
+
+namespace
+{
+
+struct PageFixture : RibbonFixture
+{
+    explicit PageFixture(int width)
+    {
+        for (const char* caption : {"Line", "Arc", "Rectangle", "Circle", "Trim", "Extend", "Last"})
+            pLast = addButton(caption);
+        show(width);
+    }
+
+    QToolButton* arrow(Qt::ArrowType type) const
+    {
+        const auto arrows =
+            pPage->findChildren<QToolButton*>(QString(), Qt::FindDirectChildrenOnly);
+        return *std::find_if(arrows.begin(), arrows.end(), [type](const QToolButton* pArrow) {
+            return pArrow->arrowType() == type;
+        });
+    }
+
+    bool turnWheel(int angle) const
+    {
+        const QPointF centre = QRectF(pPage->rect()).center();
+        QWheelEvent event(centre, pPage->mapToGlobal(centre.toPoint()), QPoint(), QPoint(0, angle),
+                          Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(pPage, &event);
+        return event.isAccepted();
+    }
+
+    bool isLastWhole() const { return pLast->visibleRegion().boundingRect() == pLast->rect(); }
+
+    QToolButton* pLast = nullptr;
+};
+
+} // namespace
+
+class RibbonPageTest final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void widePageHasNoArrowsAndLeavesTheWheelToOthers()
+    {
+        const PageFixture f(900);
+
+        const bool isTaken = f.turnWheel(-120);
+
+        QVERIFY(!isTaken);
+        QVERIFY(f.isLastWhole());
+        QVERIFY(!f.arrow(Qt::LeftArrow)->isVisible());
+        QVERIFY(!f.arrow(Qt::RightArrow)->isVisible());
+    }
+
+    void narrowPageHasAnArrowWhereThereIsMore()
+    {
+        const PageFixture f(250);
+
+        QVERIFY(!f.isLastWhole());
+        QVERIFY(!f.arrow(Qt::LeftArrow)->isVisible());
+        QVERIFY(f.arrow(Qt::RightArrow)->isVisible());
+    }
+
+    void wheelReachesTheLastControlAndComesBack()
+    {
+        const PageFixture f(250);
+
+        QVERIFY(f.turnWheel(-120 * 50));
+        QTRY_VERIFY(f.isLastWhole());
+        QVERIFY(f.arrow(Qt::LeftArrow)->isVisible());
+        QVERIFY(!f.arrow(Qt::RightArrow)->isVisible());
+
+        QVERIFY(f.turnWheel(120 * 50));
+        QVERIFY(!f.arrow(Qt::LeftArrow)->isVisible());
+    }
+
+    void arrowReachesTheLastControl()
+    {
+        const PageFixture f(250);
+        QToolButton* pArrow = f.arrow(Qt::RightArrow);
+
+        for (int clicks = 0; clicks < 10 && pArrow->isVisible(); ++clicks)
+            QTest::mouseClick(pArrow, Qt::LeftButton);
+
+        QTRY_VERIFY(f.isLastWhole());
+        QCOMPARE(QApplication::focusWidget(), f.pView);
+    }
+
+    void lastControlCanBeClickedInANarrowWindow()
+    {
+        const PageFixture f(250);
+        bool isClicked = false;
+        connect(f.pLast, &QToolButton::clicked, this, [&isClicked] { isClicked = true; });
+
+        f.turnWheel(-120 * 50);
+        const QPoint centre = f.pLast->mapTo(f.window.get(), f.pLast->rect().center());
+        QTest::mouseClick(f.window->windowHandle(), Qt::LeftButton, Qt::NoModifier, centre);
+
+        QVERIFY(isClicked);
+    }
+
+    void focusBringsItsControlIntoView()
+    {
+        const PageFixture f(250);
+
+        f.pLast->setFocus(Qt::TabFocusReason);
+
+        QTRY_VERIFY(f.isLastWhole());
+    }
+
+    void pageThatGrowsWideScrollsBack()
+    {
+        const PageFixture f(250);
+        f.turnWheel(-120 * 50);
+
+        f.window->resize(900, 400);
+
+        QTRY_VERIFY(!f.arrow(Qt::LeftArrow)->isVisible());
+        QTRY_VERIFY(!f.arrow(Qt::RightArrow)->isVisible());
+    }
+
+    void windowMayBeNarrowerThanThePage()
+    {
+        const PageFixture f(250);
+
+        QCOMPARE(f.window->width(), 250);
+        QCOMPARE(f.pBar->width(), 250);
+    }
+};
+
+QTEST_MAIN(RibbonPageTest)
+#include "RibbonPageTest.moc"
