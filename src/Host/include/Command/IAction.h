@@ -17,6 +17,7 @@ class ITemporaryDimensionContext;
 class IUiView;
 
 /// A command that goes on until the user ends it: it takes points and typed values from a view.
+/// What an action has no use for, it need not override.
 ///
 /// The action manager owns the action and deletes it after OnEnd, never inside another operation.
 class VESK_HOST_API IAction
@@ -37,29 +38,32 @@ public:
     virtual void OnClick(const Vector3d& world) = 0;
 
     /// The user typed a value.
-    virtual void OnViewInput(const ActionViewInput& input) = 0;
+    virtual void OnViewInput(const ActionViewInput&) {}
 
     /// Drops what the user can take back first (locked values). False when there was nothing.
-    virtual bool OnEscape() = 0;
+    virtual bool OnEscape() { return false; }
 
     /// The action ends; what it has finished stays.
-    virtual void OnEnd() = 0;
+    virtual void OnEnd() {}
 
     /// True when the action has nothing more to do.
-    virtual bool IsFinished() const = 0;
+    virtual bool IsFinished() const { return false; }
 
     /// The dimensions to show and to type now; empty when there are none.
-    virtual OwnerPtr<ITemporaryDimensionContext> CreateDimensionContext() const = 0;
+    virtual OwnerPtr<ITemporaryDimensionContext> CreateDimensionContext() const { return nullptr; }
 
     /// What the action would draw now; empty when there is nothing.
-    virtual OwnerPtr<IGraphicsNodeGroup> CreateRubberBand() const = 0;
+    virtual OwnerPtr<IGraphicsNodeGroup> CreateRubberBand() const { return nullptr; }
 
     /// Repeats a step from the journal: its final point and the entity picked. False when it
     /// cannot be done.
     virtual bool ReplayPoint(const Vector3d& world, const std::optional<int>& entity) = 0;
 
     /// Repeats a typed value from the journal, in model units. False when it cannot be done.
-    virtual bool ReplayValue(InputState field, const std::wstring& text, double value) = 0;
+    virtual bool ReplayValue(InputState /*field*/, const std::wstring& /*text*/, double /*value*/)
+    {
+        return false;
+    }
 };
 
 }

@@ -1,0 +1,90 @@
+#include "KeyCode.h"
+
+#include <QKeyEvent>
+#include <QTest>
+
+Q_DECLARE_METATYPE(Qt::KeyboardModifiers)
+
+class KeyCodeTest final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void keysBecomeTheCodesOfDimensionHandlers_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
+        QTest::addColumn<int>("code");
+
+        const Qt::KeyboardModifiers none = Qt::NoModifier;
+        const Qt::KeyboardModifiers keypad = Qt::KeypadModifier;
+        const Qt::KeyboardModifiers shift = Qt::ShiftModifier;
+        const Qt::KeyboardModifiers ctrl = Qt::ControlModifier;
+        const Qt::KeyboardModifiers meta = Qt::MetaModifier;
+        const Qt::KeyboardModifiers alt = Qt::AltModifier;
+        QTest::newRow("0") << int(Qt::Key_0) << none << 48;
+        QTest::newRow("9") << int(Qt::Key_9) << none << 57;
+        QTest::newRow("a") << int(Qt::Key_A) << none << 65;
+        QTest::newRow("Z") << int(Qt::Key_Z) << shift << 90;
+        QTest::newRow("keypad 0") << int(Qt::Key_0) << keypad << 96;
+        QTest::newRow("keypad 9") << int(Qt::Key_9) << keypad << 105;
+        QTest::newRow("keypad minus") << int(Qt::Key_Minus) << keypad << 109;
+        QTest::newRow("keypad Return") << int(Qt::Key_Enter) << keypad << 0;
+        QTest::newRow("minus") << int(Qt::Key_Minus) << none << 189;
+        QTest::newRow("comma") << int(Qt::Key_Comma) << none << 188;
+        QTest::newRow("shifted comma") << int(Qt::Key_Less) << shift << 188;
+        QTest::newRow("German shifted comma") << int(Qt::Key_Semicolon) << shift << 188;
+        QTest::newRow("less alone") << int(Qt::Key_Less) << none << 0;
+        QTest::newRow("semicolon alone") << int(Qt::Key_Semicolon) << none << 0;
+        QTest::newRow("back quote") << int(Qt::Key_QuoteLeft) << none << 0;
+        QTest::newRow("Ctrl+1") << int(Qt::Key_1) << ctrl << 0;
+        QTest::newRow("Meta+1") << int(Qt::Key_1) << meta << 0;
+        QTest::newRow("Alt+P") << int(Qt::Key_P) << alt << 80;
+        QTest::newRow("F1") << int(Qt::Key_F1) << none << 0;
+        QTest::newRow("Return") << int(Qt::Key_Return) << none << 0;
+    }
+
+    void keysBecomeTheCodesOfDimensionHandlers()
+    {
+        QFETCH(int, key);
+        QFETCH(Qt::KeyboardModifiers, modifiers);
+
+        const QKeyEvent event(QEvent::KeyPress, key, modifiers);
+
+        QTEST(vesk::ToVirtualKey(event), "code");
+    }
+
+    void printableCharactersCanBeginAValue_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
+        QTest::addColumn<bool>("canBegin");
+
+        const Qt::KeyboardModifiers none = Qt::NoModifier;
+        const Qt::KeyboardModifiers alt = Qt::AltModifier;
+        QTest::newRow("point") << "." << none << true;
+        QTest::newRow("minus") << "-" << none << true;
+        QTest::newRow("plus") << "+" << none << true;
+        QTest::newRow("bracket") << "(" << none << true;
+        QTest::newRow("letter") << "s" << none << true;
+        QTest::newRow("digit") << "5" << none << true;
+        QTest::newRow("comma") << "," << none << false;
+        QTest::newRow("blank") << " " << none << false;
+        QTest::newRow("control") << "\r" << none << false;
+        QTest::newRow("none") << "" << none << false;
+        QTest::newRow("Alt+point") << "." << alt << false;
+    }
+
+    void printableCharactersCanBeginAValue()
+    {
+        QFETCH(QString, text);
+        QFETCH(Qt::KeyboardModifiers, modifiers);
+
+        const QKeyEvent event(QEvent::KeyPress, Qt::Key_unknown, modifiers, text);
+
+        QTEST(vesk::CanBeginValue(event), "canBegin");
+    }
+};
+
+QTEST_GUILESS_MAIN(KeyCodeTest)
+#include "KeyCodeTest.moc"

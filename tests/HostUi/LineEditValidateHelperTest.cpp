@@ -1,0 +1,114 @@
+#include "HostUi/LineEditValidateHelper.h"
+
+#include "Validation/NumberValidator.h"
+
+#include <QLineEdit>
+#include <QTest>
+
+#include <memory>
+
+using namespace vesk;
+
+class LineEditValidateHelperTest final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_pEdit = std::make_unique<QLineEdit>(QStringLiteral("5"));
+        m_pEdit->setToolTip(QStringLiteral("tip"));
+        m_pEdit->show();
+    }
+
+    void cleanup() { m_pEdit.reset(); }
+
+    void refusedTextIsMarkedAndExplained()
+    {
+        LineEditValidateHelper helper(nullptr);
+        helper.SetValidators({{m_pEdit.get(), &m_validator}});
+        QVERIFY(!IsMarked());
+
+        m_pEdit->setText("50");
+
+        QVERIFY(IsMarked());
+        QCOMPARE(m_pEdit->toolTip(), QString::fromStdWString(m_validator.GetTip()));
+    }
+
+    void acceptedTextLooksAsBefore()
+    {
+        LineEditValidateHelper helper(nullptr);
+        m_pEdit->setText("50");
+        helper.SetValidators({{m_pEdit.get(), &m_validator}});
+        QVERIFY(IsMarked());
+
+        m_pEdit->setText("7");
+
+        QVERIFY(!IsMarked());
+        QCOMPARE(m_pEdit->toolTip(), QStringLiteral("tip"));
+    }
+
+    void noCharacterIsRefused()
+    {
+        LineEditValidateHelper helper(nullptr);
+        helper.SetValidators({{m_pEdit.get(), &m_validator}});
+        m_pEdit->clear();
+
+        QTest::keyClicks(m_pEdit.get(), "20+2,x y");
+
+        QCOMPARE(m_pEdit->text(), QStringLiteral("20+2,x y"));
+        QVERIFY(m_pEdit->validator() == nullptr);
+    }
+
+    void emptyValidatorLeavesTheEditAlone()
+    {
+        LineEditValidateHelper helper(nullptr);
+        m_pEdit->setText("50");
+        helper.SetValidators({{m_pEdit.get(), &m_validator}});
+
+        helper.SetValidators({{m_pEdit.get(), nullptr}});
+
+        QVERIFY(!IsMarked());
+        QCOMPARE(m_pEdit->toolTip(), QStringLiteral("tip"));
+    }
+
+    void destroyedHelperLeavesTheEditAsItWas()
+    {
+        auto pHelper = std::make_unique<LineEditValidateHelper>(nullptr);
+        m_pEdit->setText("50");
+        pHelper->SetValidators({{m_pEdit.get(), &m_validator}});
+
+        pHelper.reset();
+
+        QVERIFY(!IsMarked());
+        QCOMPARE(m_pEdit->toolTip(), QStringLiteral("tip"));
+    }
+
+    void editMayDieFirst()
+    {
+        LineEditValidateHelper helper(nullptr);
+        m_pEdit->setText("50");
+        helper.SetValidators({{m_pEdit.get(), &m_validator}});
+
+        m_pEdit.reset();
+
+        helper.SetValidators({});
+    }
+
+private:
+    bool IsMarked() const
+    {
+        for (const QWidget* pChild : m_pEdit->findChildren<QWidget*>())
+        {
+            if (pChild->isVisible())
+                return true;
+        }
+        return false;
+    }
+
+    const NumberValidator<double> m_validator{0.0, 10.0, L"", true, true, 3};
+    std::unique_ptr<QLineEdit> m_pEdit;
+};
+
+QTEST_MAIN(LineEditValidateHelperTest)
+#include "LineEditValidateHelperTest.moc"

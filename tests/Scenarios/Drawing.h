@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+#include <QVector>
+
+#include <array>
+
+/// A line of a model file.
+struct DrawnLine
+{
+    std::array<double, 3> start;
+    std::array<double, 3> end;
+
+    double Length() const;
+
+    /// In degrees, above -180 up to 180.
+    double Angle() const;
+};
+
+/// The lines of a model file; empty when it cannot be read.
+QVector<DrawnLine> ReadModel(const QString& path);
+
+/// The whole file.
+QByteArray ReadFile(const QString& path);

@@ -1,0 +1,179 @@
+#include "Drawing.h"
+#include "ScenarioFixture.h"
+#include "ScriptedUser.h"
+
+#include <QFile>
+#include <QProcess>
+#include <QTest>
+
+#include <memory>
+
+namespace
+{
+
+const QString s_line = QStringLiteral("Sketcher.Line");
+const QString s_erase = QStringLiteral("Sketcher.Erase");
+
+void WriteFile(const QString& path, const QByteArray& content)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(content);
+}
+
+/// Every kind of record, with values that no decimal fraction holds.
+void DrawSomething(ScriptedUser& user)
+{
+    user.Click(s_line).ClickAt(-30, -20).Type("33.333333333").Press(Qt::Key_Tab);
+    user.Type("12.34567").Press(Qt::Key_Return);
+    user.MoveTo(71, 43).Type("20.1").Press(Qt::Key_Return);
+    user.ClickAt(-77, 90).Click("Sketcher.Undo").ClickAt(-80, 91).Click("Sketcher.ZoomAll");
+    user.Click(s_erase).ClickAt(-30, -20).Press(Qt::Key_Escape);
+}
+
+/// The program itself, run on a journal.
+struct Outcome
+{
+    int code = -1;
+    QString error;
+};
+
+Outcome RunSketcher(const QStringList& arguments, const QStringList& environment = {})
+{
+    QProcess process;
+    QStringList variables = QProcess::systemEnvironment();
+    process.setEnvironment(variables << environment);
+    process.start(QCoreApplication::applicationDirPath() + QStringLiteral("/../bin/sketcher"),
+                  arguments);
+    if (!process.waitForFinished())
+        return {};
+    return {process.exitCode(), QString::fromUtf8(process.readAllStandardError())};
+}
+
+}
+
+/// Journals of whole sessions, repeated.
+class ReplayTest final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_pFixture = std::make_unique<ScenarioFixture>();
+        ScriptedUser user;
+        DrawSomething(user);
+        QCOMPARE(user.Run(m_pFixture->Draw()), 0);
+        QVERIFY(!ReadModel(m_pFixture->File("model")).isEmpty());
+    }
+
+    void cleanup()
+    {
+        QCOMPARE(m_pFixture->GetWarnings(), QStringList());
+        m_pFixture.reset();
+    }
+
+    void replayGivesTheSameModelToTheLastBit_data()
+    {
+        QTest::addColumn<QStringList>("environment");
+
+        QTest::newRow("as drawn") << QStringList();
+        QTest::newRow("another locale") << QStringList{"LC_ALL=de_DE.UTF-8", "LANG=de_DE.UTF-8"};
+        QTest::newRow("another scale") << QStringList{"QT_SCALE_FACTOR=2"};
+    }
+
+    void replayGivesTheSameModelToTheLastBit()
+    {
+        QFETCH(QStringList, environment);
+
+        const Outcome outcome = RunSketcher(
+            {"--replay", Journal(), "--model", Replayed(), "--log", m_pFixture->File("log2")},
+            environment);
+
+        QCOMPARE(outcome.code, 0);
+        QCOMPARE(outcome.error, QString());
+        QCOMPARE(ReadFile(Replayed()), ReadFile(m_pFixture->File("model")));
+        QCOMPARE(ReadFile(m_pFixture->File("log2")), QByteArray());
+    }
+
+    void replayedJournalIsTheJournal()
+    {
+        const QString again = m_pFixture->File("again");
+
+        const Outcome outcome = RunSketcher({"--replay", Journal(), "--journal", again});
+
+        QCOMPARE(outcome.code, 0);
+        QCOMPARE(ReadFile(again), ReadFile(Journal()));
+    }
+
+    void everyCutLeavesWhatWasFinished()
+    {
+        const QByteArray whole = ReadFile(Journal());
+        const QList<QByteArray> lines = whole.split('\n');
+        QByteArray cut;
+        int drawnBefore = 0;
+
+        for (const QByteArray& line : lines.mid(0, 6))
+        {
+            // A process that was killed leaves a part of its last line at most.
+            cut += line + '\n';
+            WriteFile(m_pFixture->File("cut"), cut + "{\"n\":99,\"ki");
+            const Outcome outcome =
+                RunSketcher({"--replay", m_pFixture->File("cut"), "--model", Replayed()});
+
+            QCOMPARE(outcome.code, 0);
+            QCOMPARE(outcome.error.trimmed(),
+                     QStringLiteral("sketcher: not finished in the journal: Sketcher.Line"));
+            const int drawn = ReadModel(Replayed()).size();
+            QVERIFY(drawn >= drawnBefore);
+            drawnBefore = drawn;
+        }
+        QCOMPARE(drawnBefore, 1);
+    }
+
+    void unknownCommandIsNamed()
+    {
+        WriteFile(m_pFixture->File("bad"),
+                  ReadFile(Journal()) + "{\"n\":1000,\"kind\":\"command\",\"id\":\"Nobody.Knows\"}\n");
+
+        const Outcome outcome =
+            RunSketcher({"--replay", m_pFixture->File("bad"), "--model", Replayed()});
+
+        QCOMPARE(outcome.code, 3);
+        QVERIFY2(outcome.error.contains("Nobody.Knows"), qPrintable(outcome.error));
+        QCOMPARE(ReadFile(Replayed()), ReadFile(m_pFixture->File("model")));
+    }
+
+    void unusableJournalsAndOptionsAreToldInOneLine_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+
+        QTest::newRow("bad line") << QStringList{"--replay", "BAD"};
+        QTest::newRow("no journal") << QStringList{"--replay", "/nonexistent/journal"};
+        QTest::newRow("unknown option") << QStringList{"--nonsense"};
+        QTest::newRow("argument") << QStringList{"drawing"};
+        QTest::newRow("missing value") << QStringList{"--replay"};
+        QTest::newRow("unwritable") << QStringList{"--model", "/nonexistent/model", "--help"};
+    }
+
+    void unusableJournalsAndOptionsAreToldInOneLine()
+    {
+        QFETCH(QStringList, arguments);
+        WriteFile(m_pFixture->File("bad"), "{\"n\":1}\n" + ReadFile(Journal()));
+        arguments.replaceInStrings("BAD", m_pFixture->File("bad"));
+
+        const Outcome outcome = RunSketcher(arguments);
+
+        QCOMPARE(outcome.code, 2);
+        QCOMPARE(outcome.error.count('\n'), 1);
+    }
+
+private:
+    QString Journal() const { return m_pFixture->File("journal"); }
+    QString Replayed() const { return m_pFixture->File("replayed"); }
+
+    std::unique_ptr<ScenarioFixture> m_pFixture;
+};
+
+QTEST_MAIN(ReplayTest)
+#include "ReplayTest.moc"

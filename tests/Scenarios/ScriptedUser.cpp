@@ -1,0 +1,141 @@
+#include "ScriptedUser.h"
+
+#include "Session.h"
+#include "SketchView.h"
+#include "SketcherWindow.h"
+
+#include <QApplication>
+#include <QTest>
+#include <QTimer>
+#include <QToolButton>
+
+#include <utility>
+
+using vesk::Vector3d;
+
+namespace
+{
+
+constexpr qint64 PatienceMs = 5000;
+
+QPoint PixelOf(const SketchView& view, double x, double y)
+{
+    double pixelX = 0.0;
+    double pixelY = 0.0;
+    double depth = 0.0;
+    view.GetCamera().WorldToScreen(Vector3d(x, y, 0.0), pixelX, pixelY, depth);
+    return {qRound(pixelX), qRound(pixelY)};
+}
+
+QWidget* KeyboardTarget()
+{
+    QWidget* pFocus = QApplication::focusWidget();
+    return pFocus != nullptr ? pFocus : ScriptedUser::FindView();
+}
+
+}
+
+ScriptedUser& ScriptedUser::Click(const QString& controlId)
+{
+    return Do([controlId] {
+        QToolButton* pButton = FindButton(controlId);
+        QVERIFY2(pButton != nullptr, qPrintable(controlId));
+        QTest::mouseClick(pButton, Qt::LeftButton);
+    });
+}
+
+ScriptedUser& ScriptedUser::MoveTo(double x, double y)
+{
+    return Do([x, y] { QTest::mouseMove(FindView(), PixelOf(*FindView(), x, y)); });
+}
+
+ScriptedUser& ScriptedUser::ClickAt(double x, double y)
+{
+    return Do([x, y] {
+        QTest::mouseClick(FindView(), Qt::LeftButton, {}, PixelOf(*FindView(), x, y));
+    });
+}
+
+ScriptedUser& ScriptedUser::Type(const QString& text)
+{
+    for (const QChar character : text)
+        Do([character] { QTest::keyClick(KeyboardTarget(), character.toLatin1()); });
+    return *this;
+}
+
+ScriptedUser& ScriptedUser::Press(Qt::Key key, Qt::KeyboardModifiers modifiers)
+{
+    return Do([key, modifiers] { QTest::keyClick(KeyboardTarget(), key, modifiers); });
+}
+
+ScriptedUser& ScriptedUser::Do(std::function<void()> step)
+{
+    m_steps.push_back([step = std::move(step)] {
+        step();
+        return true;
+    });
+    return *this;
+}
+
+ScriptedUser& ScriptedUser::Until(std::function<bool()> condition)
+{
+    m_steps.push_back([this, condition = std::move(condition)] {
+        if (!m_waiting.isValid())
+            m_waiting.start();
+        const bool isGivenUp = m_waiting.elapsed() > PatienceMs;
+        if (!condition() && !isGivenUp)
+            return false;
+        m_waiting.invalidate();
+        if (isGivenUp)
+            QTest::qFail("what was waited for did not happen", __FILE__, __LINE__);
+        return true;
+    });
+    return *this;
+}
+
+int ScriptedUser::Run(const Options& options)
+{
+    Session session(options);
+    Schedule();
+    return session.Run();
+}
+
+SketcherWindow* ScriptedUser::FindWindow()
+{
+    for (QWidget* pWidget : QApplication::topLevelWidgets())
+    {
+        if (auto* pWindow = qobject_cast<SketcherWindow*>(pWidget))
+            return pWindow;
+    }
+    return nullptr;
+}
+
+SketchView* ScriptedUser::FindView()
+{
+    return &FindWindow()->GetView();
+}
+
+QToolButton* ScriptedUser::FindButton(const QString& controlId)
+{
+    return FindWindow()->findChild<QToolButton*>(controlId);
+}
+
+void ScriptedUser::Schedule()
+{
+    QTimer::singleShot(0, this, &ScriptedUser::DoNext);
+}
+
+void ScriptedUser::DoNext()
+{
+    if (m_steps.empty())
+    {
+        FindWindow()->close();
+        return;
+    }
+    // The next step is due before this one returns: this one may run an event loop.
+    Step step = std::move(m_steps.front());
+    m_steps.pop_front();
+    Schedule();
+    if (!step())
+        m_steps.push_front(std::move(step));
+}

@@ -1,0 +1,120 @@
+#include "Sketch.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+#include <limits>
+
+using vesk::Vector3d;
+
+class SketchTest final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void newSketchIsEmpty()
+    {
+        const Sketch sketch;
+
+        QVERIFY(sketch.GetEntities().empty());
+        QVERIFY(!sketch.CanUndo());
+        QVERIFY(!sketch.GetName().empty());
+    }
+
+    void linesKeepTheirOrderAndGetNewIds()
+    {
+        Sketch sketch;
+
+        const int first = sketch.AddLine({0, 0, 0}, {1, 0, 0});
+        const int second = sketch.AddLine({1, 0, 0}, {1, 1, 0});
+
+        QVERIFY(first != 0 && second != 0 && first != second);
+        QCOMPARE(sketch.GetEntities()[0].id, first);
+        QCOMPARE(sketch.Find(second)->end.y(), 1.0);
+    }
+
+    void impossibleLinesAreNotDrawn_data()
+    {
+        QTest::addColumn<double>("length");
+
+        QTest::newRow("none") << 0.0;
+        QTest::newRow("too short") << 0.9e-6;
+        QTest::newRow("too long") << 1.1e9;
+        QTest::newRow("nan") << std::numeric_limits<double>::quiet_NaN();
+        QTest::newRow("infinite") << std::numeric_limits<double>::infinity();
+    }
+
+    void impossibleLinesAreNotDrawn()
+    {
+        QFETCH(double, length);
+        Sketch sketch;
+
+        QCOMPARE(sketch.AddLine({0, 0, 0}, {length, 0, 0}), 0);
+
+        QVERIFY(sketch.GetEntities().empty());
+        QVERIFY(!sketch.CanUndo());
+    }
+
+    void undoTakesBackOneStepAtATime()
+    {
+        Sketch sketch;
+        const int first = sketch.AddLine({0, 0, 0}, {1, 0, 0});
+        const int second = sketch.AddLine({1, 0, 0}, {1, 1, 0});
+
+        QCOMPARE(sketch.Undo(), second);
+        QCOMPARE(sketch.GetLastUndone(), second);
+        QCOMPARE(sketch.Undo(), first);
+        QCOMPARE(sketch.Undo(), 0);
+
+        QVERIFY(sketch.GetEntities().empty());
+    }
+
+    void undoneEraseBringsTheLineBackToItsPlace()
+    {
+        Sketch sketch;
+        const int first = sketch.AddLine({0, 0, 0}, {1, 0, 0});
+        sketch.AddLine({1, 0, 0}, {1, 1, 0});
+
+        QVERIFY(sketch.Erase(first));
+        QCOMPARE(sketch.GetEntities().size(), std::size_t(1));
+        QCOMPARE(sketch.Undo(), first);
+
+        QCOMPARE(sketch.GetEntities().front().id, first);
+        QCOMPARE(sketch.GetEntities().size(), std::size_t(2));
+    }
+
+    void idsAreNeverGivenTwice()
+    {
+        Sketch sketch;
+        const int undone = sketch.AddLine({0, 0, 0}, {1, 0, 0});
+        sketch.Undo();
+
+        QVERIFY(sketch.AddLine({0, 0, 0}, {2, 0, 0}) > undone);
+    }
+
+    void unknownEntityCannotBeErased()
+    {
+        Sketch sketch;
+
+        QVERIFY(!sketch.Erase(7));
+
+        QVERIFY(!sketch.CanUndo());
+    }
+
+    void everyChangeIsTold()
+    {
+        Sketch sketch;
+        const QSignalSpy changes(&sketch, &Sketch::changed);
+
+        const int id = sketch.AddLine({0, 0, 0}, {1, 0, 0});
+        sketch.Erase(id);
+        sketch.Undo();
+        sketch.SetName(L"平面图");
+        sketch.SetName(L"平面图");
+
+        QCOMPARE(changes.count(), 4);
+    }
+};
+
+QTEST_GUILESS_MAIN(SketchTest)
+#include "SketchTest.moc"
