@@ -1,0 +1,23 @@
+#include "Control/ControlStatus.h"
+
+#include "Control/IControlDefinition.h"
+
+#include <QPointer>
+#include <QWidget>
+
+namespace vesk
+{
+
+bool ApplyStatus(QWidget& widget, const IControlDefinition& definition)
+{
+    const QPointer<QWidget> pWidget(&widget);
+    const bool isVisible = definition.IsVisible();
+    const bool isEnabled = definition.IsEnabled();
+
+    pWidget->setVisible(isVisible);
+    if (pWidget != nullptr)
+        pWidget->setEnabled(isEnabled);
+    return pWidget != nullptr;
+}
+
+}

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "CheckSite.h"
+
+#include <memory>
+
+namespace vesk
+{
+
+/// Makes a Qt child of `pParent`, which owns it. Without a parent it warns in the name of
+/// `function` and makes nothing: the result is then null.
+template <class Child, class Parent>
+Child* CreateChild(Parent* pParent, const char* function)
+{
+    auto pChild = std::make_unique<Child>(pParent);
+    if (!Check(pChild->parent() != nullptr, VESK_SITE(function, L"parent cannot be null")))
+        return nullptr;
+    return pChild.release();
+}
+
+}
