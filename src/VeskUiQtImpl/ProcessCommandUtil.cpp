@@ -1,0 +1,208 @@
+#include "ProcessCommandUtil.h"
+
+#include "CheckSite.h"
+#include "Command/ActionManager.h"
+#include "Command/CommandParameters.h"
+#include "Command/IAction.h"
+#include "Command/IActionManager.h"
+#include "Command/ICommand.h"
+#include "Command/ICommandManager.h"
+#include "Foundation/IApplication.h"
+#include "Foundation/UpdateCtrlStatusEvent.h"
+#include "Journal/IJournalData.h"
+#include "Journal/IJournalManager.h"
+#include "Journal/NqIJournalFactory.h"
+#include "View/IUiDocumentViewManager.h"
+#include "View/IUiManager.h"
+#include "View/IUiView.h"
+
+#include <Qtitan/RibbonButtonControl.h>
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QToolButton>
+
+#include <utility>
+
+namespace vesk
+{
+namespace
+{
+
+constexpr wchar_t JournalCommandDataClass[] = L"JournalCommandData";
+
+OwnerPtr<IJournalCommandData> CreateJournalCommandData()
+{
+    NqIJournalFactory* pFactory = NqIJournalFactory::GetImpl();
+    if (pFactory == nullptr)
+        return nullptr;
+    return OwnerPtrCast<IJournalCommandData>(pFactory->CreateJournalData(JournalCommandDataClass));
+}
+
+/// The command with that id; null, with a warning in the name of `function`, when there is none.
+ICommand* FindCommand(const std::wstring& commandId, const char* function)
+{
+    ICommand* pCommand = ICommandManager::Get()->GetCommand(commandId);
+    const std::wstring message = L"无法找到字符串对应的注册命令：" + commandId;
+    Check(pCommand != nullptr, VESK_SITE(function, message.c_str()));
+    return pCommand;
+}
+
+/// Shows what the running action expects. Asks for everything anew: the command may have changed
+/// it.
+void ShowViewText()
+{
+    const IAction* pAction = IActionManager::CurrentAction();
+    const IUiDocumentViewManager* pViewManager = IUiDocumentViewManager::Get();
+    IUiView* pView = pViewManager != nullptr ? pViewManager->GetCurrentUiView() : nullptr;
+    if (pAction != nullptr && pView != nullptr)
+        pView->SetViewText(pAction->GetViewText());
+}
+
+struct ReplayTarget
+{
+    QWidget* pWidget;
+    QPointF position;
+};
+
+/// Where a click reaches the action; without a widget when it stands in no ribbon and in no menu.
+ReplayTarget FindReplayTarget(QAction* pAction)
+{
+    QWidget* pParent = pAction->parentWidget();
+    const auto* pRibbonButton = qobject_cast<Qtitan::RibbonButtonControl*>(pParent);
+    if (pRibbonButton != nullptr && pRibbonButton->widget() != nullptr)
+        return {pRibbonButton->widget(), QPointF(1, 1)};
+    auto* pMenu = qobject_cast<QMenu*>(pParent);
+    if (pMenu == nullptr)
+        return {nullptr, QPointF()};
+    return {pMenu, pMenu->actionGeometry(pAction).center()};
+}
+
+void PostMouseEvent(QEvent::Type type, const ReplayTarget& target)
+{
+    QCoreApplication::postEvent(
+        target.pWidget,
+        new QMouseEvent(type, target.position, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier));
+}
+
+}
+
+bool ProcessCommandUtil::s_isLastCommandExecuted = true;
+QPointer<QAction> ProcessCommandUtil::s_pendingAction;
+
+void ProcessCommandUtil::ProcessRibbonBarCommand(const std::wstring& commandId,
+                                                 const CommandParameters& parameters,
+                                                 QObject* pSender)
+{
+    constexpr char Function[] = "vesk::ProcessCommandUtil::ProcessRibbonBarCommand";
+    if (!Check(pSender != nullptr, VESK_SITE(Function, L"pSender为空")))
+        return;
+    if (!Begin(pSender))
+        return;
+    const IUiDocumentViewManager* pUiViewMgr = IUiDocumentViewManager::Get();
+    if (!Check(pUiViewMgr != nullptr, VESK_SITE(Function, L"pUiViewMgr为空")))
+    {
+        s_isLastCommandExecuted = true;
+        return;
+    }
+
+    if (ICommand* pCommand = FindCommand(commandId, Function))
+    {
+        if (!Journal(*pCommand, parameters, Function))
+            return;
+        ActionManager::ProcessCommand(pUiViewMgr->GetCurrentUiView(), pCommand, parameters,
+                                      nullptr);
+    }
+    ShowViewText();
+    Finish();
+}
+
+void ProcessCommandUtil::ProcessStatusBarCommand(const std::wstring& commandId,
+                                                 const CommandParameters&, QObject* pSender)
+{
+    constexpr char Function[] = "vesk::ProcessCommandUtil::ProcessStatusBarCommand";
+    if (!Begin(pSender))
+        return;
+
+    const CommandParameters noParameters;
+    if (ICommand* pCommand = FindCommand(commandId, Function))
+    {
+        if (!Journal(*pCommand, noParameters, Function))
+            return;
+        ActionManager::SendCommand(pCommand->GetCommandId(), noParameters, nullptr);
+    }
+    IMainWindow::GetMainWindow();
+    Finish();
+}
+
+bool ProcessCommandUtil::IsLastCommandExecuted()
+{
+    return s_isLastCommandExecuted;
+}
+
+/// Begins a command. False, and nothing is begun, for an action chosen while a command runs: that
+/// command is ended and the action put off.
+bool ProcessCommandUtil::Begin(QObject* pSender)
+{
+    const QPointer<QAction> pAction(qobject_cast<QAction*>(pSender));
+    if (pAction == nullptr || s_isLastCommandExecuted)
+    {
+        s_isLastCommandExecuted = false;
+        return true;
+    }
+
+    ActionManager::Reset();
+    s_pendingAction = pAction;
+    s_isLastCommandExecuted = true;
+    return false;
+}
+
+/// Writes the record of a command that is about to run. False, and nothing is to run, without one.
+bool ProcessCommandUtil::Journal(const ICommand& command, const CommandParameters& parameters,
+                                 const char* function)
+{
+    OwnerPtr<IJournalCommandData> opData = CreateJournalCommandData();
+    if (!Check(opData != nullptr, VESK_SITE(function, L"CREATE_JOURNAL_DATA(IJournalCommandData, "
+                                                      L"JOURNAL_COMMAND_DATA)返回空指针")))
+    {
+        s_isLastCommandExecuted = true;
+        return false;
+    }
+
+    opData->SetCommandId(command.GetCommandId());
+    if (command.IsJournalIdOnly())
+    {
+        IJournalManager::Get()->AddCommandData(std::move(opData));
+        return true;
+    }
+    opData->SetCommandParameters(parameters);
+    IJournalManager::Get()->AddCommandDataWithParameters(std::move(opData));
+    return true;
+}
+
+void ProcessCommandUtil::Finish()
+{
+    if (IApplication* pApplication = IApplication::Get())
+        pApplication->PostEvent(MakeOwner<UpdateCtrlStatusEvent>());
+    ReplayPendingAction();
+    s_isLastCommandExecuted = true;
+}
+
+/// Clicks what was put off once more, through the event loop.
+void ProcessCommandUtil::ReplayPendingAction()
+{
+    QAction* pAction = s_pendingAction;
+    s_pendingAction = nullptr;
+    if (pAction == nullptr)
+        return;
+
+    const ReplayTarget target = FindReplayTarget(pAction);
+    if (target.pWidget == nullptr)
+        return;
+    PostMouseEvent(QEvent::MouseButtonPress, target);
+    PostMouseEvent(QEvent::MouseButtonRelease, target);
+}
+
+}
