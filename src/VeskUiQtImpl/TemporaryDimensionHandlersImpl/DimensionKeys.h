@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+class QKeyEvent;
+
+namespace vesk
+{
+
+/// Key codes as the host gives them: digits and capital letters are their ASCII codes.
+namespace VirtualKey
+{
+
+constexpr int Keypad0 = 96;
+constexpr int Keypad9 = 105;
+constexpr int KeypadMinus = 109;
+constexpr int Comma = 188;
+constexpr int Minus = 189;
+
+}
+
+/// Which keys, besides the digits, open a kind's editor with themselves as its text.
+struct OpeningKeys
+{
+    bool hasLetters;
+    bool hasMinus;
+};
+
+bool IsDigitKey(int key);
+bool IsKeypadDigitKey(int key);
+bool IsLetterKey(int key);
+
+/// The minus of the keyboard, of the keypad, and the character itself.
+bool IsMinusKey(int key);
+
+/// The comma of the keyboard and the character itself.
+bool IsCommaKey(int key);
+
+/// The text with which a key opens the editor; none when it does not open it.
+std::optional<QString> OpeningText(const QKeyEvent& event, const OpeningKeys& keys);
+
+/// The Qt modifiers for the host's three flags.
+Qt::KeyboardModifiers ToQtModifiers(bool isCtrl, bool isAlt, bool isShift);
+
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "TemporaryDimensionHandlersImpl/TemporaryDimensionHandler.h"
+
+namespace vesk
+{
+
+/// Shows the length and the angle of a segment while it is drawn, and takes either.
+class LinearTemporaryDimensionHandler final : public TemporaryDimensionHandler
+{
+    Q_OBJECT
+
+public:
+    using TemporaryDimensionHandler::TemporaryDimensionHandler;
+
+    OwnerPtr<IGraphicsNodeGroup>
+    GenerateGraphics(const ITemporaryDimensionContext* pContext) override;
+    bool OnKeyDown(int virtualKey, bool isCtrl, bool isAlt, bool isShift) override;
+    bool UpdateConfig(const ITemporaryDimensionContext* pContext) override;
+    void ShowInputWidget(InputState state, bool editorReady, bool useGivenText,
+                         std::wstring text) override;
+
+    bool event(QEvent* pEvent) override;
+    bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
+
+public slots:
+    void OnEditorReturnPressed() override;
+    void OnEditorTabPressed();
+
+private:
+    bool IsBothEnabled() const { return m_isLengthEnabled && m_isAngleEnabled; }
+    InputState GetStartState() const;
+
+    bool m_isLengthEnabled = false;
+    bool m_isAngleEnabled = false;
+};
+
+}

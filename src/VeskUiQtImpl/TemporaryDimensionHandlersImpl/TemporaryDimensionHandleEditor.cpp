@@ -1,0 +1,10 @@
+#include "TemporaryDimensionHandlersImpl/TemporaryDimensionHandleEditor.h"
+
+namespace vesk
+{
+
+TemporaryDimensionHandleEditor::TemporaryDimensionHandleEditor(QWidget* pParent)
+    : QLineEdit(pParent), m_isViewInput(true)
+{}
+
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QLineEdit>
+
+namespace vesk
+{
+
+/// The line edit in which a dimension is typed; all handlers of a view share one.
+class TemporaryDimensionHandleEditor final : public QLineEdit
+{
+    Q_OBJECT
+
+public:
+    explicit TemporaryDimensionHandleEditor(QWidget* pParent);
+
+private:
+    bool m_isViewInput;
+};
+
+}

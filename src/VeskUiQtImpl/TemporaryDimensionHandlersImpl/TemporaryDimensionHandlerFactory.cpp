@@ -1,0 +1,89 @@
+#include "TemporaryDimensionHandlersImpl/TemporaryDimensionHandlerFactory.h"
+
+#include "CheckSite.h"
+#include "Dimension/ITemporaryDimensionContext.h"
+#include "Dimension/LinearTemporaryDimensionContext.h"
+#include "TemporaryDimensionHandlersImpl/LinearTemporaryDimensionHandler.h"
+#include "View/IUiDocumentViewManager.h"
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <string>
+#include <typeindex>
+
+namespace vesk
+{
+namespace
+{
+
+/// Which handler serves which context.
+struct HandlerKind
+{
+    std::type_index context;
+    std::type_index handler;
+    OwnerPtr<ITemporaryDimensionHandler> (*pCreate)(IUiView* pView);
+};
+
+template <class Handler>
+OwnerPtr<ITemporaryDimensionHandler> CreateHandler(IUiView* pView)
+{
+    return MakeOwner<Handler>(pView);
+}
+
+/// The kind for exactly this class of context; null when there is none.
+const HandlerKind* FindKind(const ITemporaryDimensionContext& context)
+{
+    static const std::array kinds{
+        HandlerKind{typeid(LinearTemporaryDimensionContext),
+                    typeid(LinearTemporaryDimensionHandler),
+                    &CreateHandler<LinearTemporaryDimensionHandler>},
+    };
+    const std::type_index type = typeid(context);
+    const auto found = std::find_if(kinds.begin(), kinds.end(), [&type](const HandlerKind& kind) {
+        return kind.context == type;
+    });
+    return found != kinds.end() ? &*found : nullptr;
+}
+
+IUiView* CurrentView()
+{
+    const IUiDocumentViewManager* pViewManager = IUiDocumentViewManager::Get();
+    return pViewManager != nullptr ? pViewManager->GetCurrentUiView() : nullptr;
+}
+
+/// The name as the compiler gives it, which holds the class name and is plain ASCII.
+std::wstring TypeName(const ITemporaryDimensionContext& context)
+{
+    const char* name = typeid(context).name();
+    return std::wstring(name, name + std::strlen(name));
+}
+
+}
+
+OwnerPtr<ITemporaryDimensionHandler>
+TemporaryDimensionHandlerFactory::UpdateOrCreateHandler(const ITemporaryDimensionContext* pContext,
+                                                        ITemporaryDimensionHandler* pCurrent)
+{
+    constexpr char Function[] = "vesk::TemporaryDimensionHandlerFactory::UpdateOrCreateHandler";
+    if (!Check(pContext != nullptr, VESK_SITE(Function, L"pCtx为空!")))
+        return nullptr;
+    IUiView* pCurrentView = CurrentView();
+    if (!Check(pCurrentView != nullptr, VESK_SITE(Function, L"pCurrentView为空")))
+        return nullptr;
+
+    const HandlerKind* pKind = FindKind(*pContext);
+    const std::wstring noMatch = L"没有匹配的Handler：" + TypeName(*pContext);
+    if (!Check(pKind != nullptr, VESK_SITE(Function, noMatch.c_str())))
+        return nullptr;
+    if (pCurrent != nullptr && pKind->handler == typeid(*pCurrent))
+    {
+        pCurrent->UpdateConfig(pContext);
+        return nullptr;
+    }
+    OwnerPtr<ITemporaryDimensionHandler> opHandler = pKind->pCreate(pCurrentView);
+    opHandler->UpdateConfig(pContext);
+    return opHandler;
+}
+
+}
