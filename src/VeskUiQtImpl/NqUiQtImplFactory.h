@@ -1,0 +1,19 @@
+#pragma once
+
+#include "Control/NqUiInterfaceFactory.h"
+
+namespace vesk
+{
+
+/// Gives the host this library's user-interface services.
+class NqUiQtImplFactory final : public NqUiInterfaceFactory
+{
+public:
+    /// Registers the new factory with the host.
+    NqUiQtImplFactory();
+
+    IPropertyWidget* GetPropertyWidget() override;
+    OwnerPtr<IDebugWarningDialogDisplayer> CreateDebugWarningDialogDisplayer() override;
+};
+
+}

@@ -1,0 +1,70 @@
+#include "Control/VeskControlFactory.h"
+#include "Dimension/TemporaryDimensionMgr.h"
+#include "NqUiQtImplFactory.h"
+#include "TemporaryDimensionHandlersImpl/TemporaryDimensionHandlerFactory.h"
+
+namespace vesk
+{
+namespace
+{
+
+/// Withdraws the user-interface factory, which registered itself, before it is destroyed.
+struct UiFactoryWithdrawal
+{
+    ~UiFactoryWithdrawal() { NqUiInterfaceFactory::m_pFactory = nullptr; }
+};
+
+/// Keeps a control factory registered while it lives.
+class ControlFactoryRegistration
+{
+public:
+    explicit ControlFactoryRegistration(VeskControlFactory* pFactory) { Access::Set(pFactory); }
+    ~ControlFactoryRegistration() { Access::Set(nullptr); }
+    ControlFactoryRegistration(const ControlFactoryRegistration&) = delete;
+    ControlFactoryRegistration& operator=(const ControlFactoryRegistration&) = delete;
+
+private:
+    /// Registering is open to factories only.
+    struct Access : VeskIControlFactory
+    {
+        using VeskIControlFactory::Set;
+    };
+};
+
+/// Keeps a handler factory registered while it lives.
+class HandlerFactoryRegistration
+{
+public:
+    explicit HandlerFactoryRegistration(TemporaryDimensionHandlerFactory* pFactory)
+    {
+        TemporaryDimensionMgr::GetInstance()->SetHandlerFactory(pFactory);
+    }
+    ~HandlerFactoryRegistration()
+    {
+        TemporaryDimensionMgr::GetInstance()->SetHandlerFactory(nullptr);
+    }
+    HandlerFactoryRegistration(const HandlerFactoryRegistration&) = delete;
+    HandlerFactoryRegistration& operator=(const HandlerFactoryRegistration&) = delete;
+};
+
+// What the library makes known when it is loaded, in this order. Each factory stands before its
+// registration and all stand in one file: only so is it certain that unloading withdraws each one
+// before it is destroyed, and all in the reverse order.
+NqUiQtImplFactory s_uiFactory;
+UiFactoryWithdrawal s_uiFactoryWithdrawal;
+
+VeskControlFactory s_controlFactory;
+ControlFactoryRegistration s_controlFactoryRegistration(&s_controlFactory);
+
+TemporaryDimensionHandlerFactory s_handlerFactory;
+HandlerFactoryRegistration s_handlerFactoryRegistration(&s_handlerFactory);
+
+}
+
+/// Stands here because the instance does.
+TemporaryDimensionHandlerFactory* TemporaryDimensionHandlerFactory::GetInstance()
+{
+    return &s_handlerFactory;
+}
+
+}
