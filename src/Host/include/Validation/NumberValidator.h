@@ -2,6 +2,7 @@
 
 #include "Validation/ValidatorBase.h"
 
+#include <cmath>
 #include <limits>
 #include <string>
 
@@ -36,7 +37,7 @@ public:
     {
         const bool isAbove = m_isBottomInclusive ? value >= m_bottom : value > m_bottom;
         const bool isBelow = m_isTopInclusive ? value <= m_top : value < m_top;
-        return isAbove && isBelow;
+        return std::isfinite(value) && isAbove && isBelow;
     }
 
     void SetBottom(T bottom, bool isInclusive)

@@ -74,7 +74,7 @@ template <class T>
 bool NumberValidator<T>::ValidateInput(const std::wstring& text) const
 {
     const std::optional<T> value = ParseNumber<T>(ToUtf8(text));
-    return value.has_value() && std::isfinite(*value) && ValidateValue(*value);
+    return value.has_value() && ValidateValue(*value);
 }
 
 template <class T>

@@ -77,12 +77,15 @@ void ModelView::SetWorldPerPixel(double worldPerPixel)
 
 void ModelView::ZoomAbout(double x, double y, double factor)
 {
-    const Vector3d before = ScreenToWorld(x, y);
-    if (!IsPositive(factor) || !before.allFinite())
+    if (!IsPositive(factor))
         return;
+    ModelView zoomed = *this;
     // A quotient beyond the doubles is beyond the bounds too.
-    m_worldPerPixel = std::clamp(m_worldPerPixel / factor, s_minWorldPerPixel, s_maxWorldPerPixel);
-    SetCentre(m_centre + before - ScreenToWorld(x, y));
+    zoomed.m_worldPerPixel =
+        std::clamp(m_worldPerPixel / factor, s_minWorldPerPixel, s_maxWorldPerPixel);
+    zoomed.m_centre += ScreenToWorld(x, y) - zoomed.ScreenToWorld(x, y);
+    if (zoomed.m_centre.allFinite())
+        *this = zoomed;
 }
 
 void ModelView::Pan(double dx, double dy)
