@@ -1,0 +1,46 @@
+#pragma once
+
+#include "Control/IControlDefinitionChangeEvent.h"
+
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace vesk
+{
+
+/// One change, as its arguments told it.
+struct Change
+{
+    int type;
+    int index;
+    std::wstring caption;
+    const IControlDefinition* pItem;
+    bool isByUser;
+};
+
+/// Keeps the changes of one event and then does what the test wants.
+class ChangeRecorder final : public IControlDefinitionChangeEventHandler
+{
+public:
+    explicit ChangeRecorder(IControlDefinitionChangeEvent& event) { event.Add(this); }
+
+    void On(IControlDefinitionChangeEventArgs* pArgs) override
+    {
+        m_changes.push_back({pArgs->GetType(), pArgs->GetIndex(), pArgs->GetItemCaption(),
+                             pArgs->GetItemDefinition(), pArgs->IsChangeByUser()});
+        if (m_then)
+            std::exchange(m_then, nullptr)();
+    }
+
+    void Then(std::function<void()> action) { m_then = std::move(action); }
+    const std::vector<Change>& GetChanges() const { return m_changes; }
+    int GetCount() const { return static_cast<int>(m_changes.size()); }
+
+private:
+    std::vector<Change> m_changes;
+    std::function<void()> m_then;
+};
+
+}

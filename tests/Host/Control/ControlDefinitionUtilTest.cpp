@@ -1,0 +1,126 @@
+#include "Control/ControlDefinitionUtil.h"
+
+#include "Control/CommandButtonDefinition.h"
+#include "Control/ICheckBoxGroupDefinition.h"
+#include "Control/IComboBoxDefinition.h"
+#include "Control/ICommandButtonMenuDefinition.h"
+#include "Control/IProgressBarDefinition.h"
+#include "Control/IRadioButtonGroupDefinition.h"
+#include "Control/LabelDefinition.h"
+#include "Control/LineEditDefinition.h"
+
+#include <QtTest>
+
+namespace vesk
+{
+
+namespace
+{
+
+class CheckBoxGroup final : public ControlDefinition<ICheckBoxGroupDefinition>
+{
+public:
+    CheckBoxGroup() : ControlDefinition(L"id") {}
+    std::vector<const ICheckBoxDefinition*> GetCheckBoxDefinitions() const override { return {}; }
+    void SetCheckState(const std::wstring& /*checkBoxId*/, int /*checkState*/) override {}
+};
+
+class ComboBox final : public ControlDefinition<IComboBoxDefinition>
+{
+public:
+    ComboBox() : ControlDefinition(L"id") {}
+    std::vector<std::wstring> GetItems() const override { return {}; }
+    void SetCurrentIndex(int /*index*/) override {}
+    int GetCurrentIndex() const override { return -1; }
+};
+
+class ButtonMenu final : public ControlDefinition<ICommandButtonMenuDefinition>
+{
+public:
+    ButtonMenu() : ControlDefinition(L"id") {}
+    std::wstring GetCommandId() const override { return {}; }
+    std::wstring GetIconPath() const override { return {}; }
+    std::vector<const IMenuItemDefinition*> GetMenuItemDefinitions() const override { return {}; }
+};
+
+class ProgressBar final : public ControlDefinition<IProgressBarDefinition>
+{
+public:
+    ProgressBar() : ControlDefinition(L"id") {}
+    int GetValue() const override { return 0; }
+    bool IsTextVisible() const override { return false; }
+    int GetWidth() const override { return 0; }
+};
+
+class RadioButtonGroup final : public ControlDefinition<IRadioButtonGroupDefinition>
+{
+public:
+    RadioButtonGroup() : ControlDefinition(L"id") {}
+    std::vector<const IRadioButtonDefinition*> GetRadioButtonDefinitions() const override
+    {
+        return {};
+    }
+    std::wstring GetCurrentRadioButtonId() const override { return {}; }
+    void SetCurrentRadioButtonId(const std::wstring& /*radioButtonId*/) override {}
+};
+
+/// A label that tells of nothing.
+class SilentLabel final : public ILabelDefinition
+{
+public:
+    std::wstring GetId() const override { return L"id"; }
+    std::wstring GetCaption() const override { return {}; }
+    std::wstring GetTooltip() const override { return {}; }
+    bool IsVisible() const override { return true; }
+    bool IsEnabled() const override { return true; }
+};
+
+template <class TInterface>
+IControlDefinitionChangeEvent* Find(const TInterface* pDefinition)
+{
+    return ControlDefinitionUtil::GetControlDefinitionChangeEvent(pDefinition);
+}
+
+/// True when the event is found through the kind's interface, and null for none.
+template <class TInterface, class TDefinition>
+bool FindsTheEventOf(const TDefinition& definition)
+{
+    const TInterface* const pNone = nullptr;
+    return Find<TInterface>(&definition) == definition.GetControlDefinitionChangeEvent() &&
+           Find<TInterface>(pNone) == nullptr;
+}
+
+}
+
+class ControlDefinitionUtilTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void findsTheEventOfEachKind();
+    void aDefinitionWithoutEventHasNone();
+};
+
+void ControlDefinitionUtilTest::findsTheEventOfEachKind()
+{
+    QVERIFY(FindsTheEventOf<ICommandButtonDefinition>(CommandButtonDefinition(L"id", L"c")));
+    QVERIFY(FindsTheEventOf<ICheckBoxGroupDefinition>(CheckBoxGroup()));
+    QVERIFY(FindsTheEventOf<IComboBoxDefinition>(ComboBox()));
+    QVERIFY(FindsTheEventOf<ICommandButtonMenuDefinition>(ButtonMenu()));
+    QVERIFY(FindsTheEventOf<ILabelDefinition>(LabelDefinition(L"id")));
+    QVERIFY(FindsTheEventOf<ILineEditDefinition>(LineEditDefinition(L"id")));
+    QVERIFY(FindsTheEventOf<IProgressBarDefinition>(ProgressBar()));
+    QVERIFY(FindsTheEventOf<IRadioButtonGroupDefinition>(RadioButtonGroup()));
+}
+
+void ControlDefinitionUtilTest::aDefinitionWithoutEventHasNone()
+{
+    const SilentLabel label;
+
+    QVERIFY(Find<ILabelDefinition>(&label) == nullptr);
+}
+
+}
+
+QTEST_APPLESS_MAIN(vesk::ControlDefinitionUtilTest)
+#include "ControlDefinitionUtilTest.moc"

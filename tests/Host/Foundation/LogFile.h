@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QByteArray>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTemporaryDir>
+#include <QVector>
+
+#include <string>
+
+namespace vesk
+{
+
+/// A place for a log file, gone with this object.
+class LogFile
+{
+public:
+    std::string GetPath() const { return m_folder.filePath("warnings.log").toStdString(); }
+
+    QByteArray Read() const
+    {
+        QFile file(m_folder.filePath("warnings.log"));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    /// Each line as a JSON object; an empty one where the line is none.
+    QVector<QJsonObject> ReadRecords() const { return Parse(Read()); }
+
+    static QVector<QJsonObject> Parse(const QByteArray& text)
+    {
+        QVector<QJsonObject> records;
+        QList<QByteArray> lines = text.split('\n');
+        // The text behind the last line end.
+        if (lines.last().isEmpty())
+            lines.removeLast();
+        for (const QByteArray& line : lines)
+            records.append(QJsonDocument::fromJson(line).object());
+        return records;
+    }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+}

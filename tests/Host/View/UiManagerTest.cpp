@@ -1,0 +1,65 @@
+#include "View/IUiManager.h"
+
+#include <QtTest>
+
+namespace vesk
+{
+
+namespace
+{
+
+class Manager final : public IUiManager
+{
+public:
+    using IUiManager::Set;
+
+    IApplicationWindow* GetMainWindow() const override { return nullptr; }
+};
+
+class MainWindow final : public IMainWindow
+{
+public:
+    using IMainWindow::SetMainWindow;
+
+    WindowId GetWinId() const override { return 5; }
+};
+
+}
+
+class UiManagerTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void theInstalledManagerIsFoundUntilItIsRemoved();
+    void theInstalledMainWindowIsFoundUntilItIsRemoved();
+};
+
+void UiManagerTest::theInstalledManagerIsFoundUntilItIsRemoved()
+{
+    Manager manager;
+    QVERIFY(IUiManager::Get() == nullptr);
+
+    Manager::Set(&manager);
+    QCOMPARE(IUiManager::Get(), static_cast<IUiManager*>(&manager));
+    Manager::Set(nullptr);
+
+    QVERIFY(IUiManager::Get() == nullptr);
+}
+
+void UiManagerTest::theInstalledMainWindowIsFoundUntilItIsRemoved()
+{
+    MainWindow window;
+    QVERIFY(IMainWindow::GetMainWindow() == nullptr);
+
+    MainWindow::SetMainWindow(&window);
+    QCOMPARE(IMainWindow::GetMainWindow(), static_cast<IMainWindow*>(&window));
+    MainWindow::SetMainWindow(nullptr);
+
+    QVERIFY(IMainWindow::GetMainWindow() == nullptr);
+}
+
+}
+
+QTEST_APPLESS_MAIN(vesk::UiManagerTest)
+#include "UiManagerTest.moc"
