@@ -47,7 +47,9 @@ public:
 class VESK_HOST_API ActionManager
 {
 public:
-    /// Ends the running action, and with it what waits to run; nothing happens when none runs.
+    /// Ends the running action; commands that wait for its end take their turn. Nothing happens
+    /// when none runs. Called by an operation of the action itself, the end comes after that
+    /// operation.
     static void Reset();
 
     /// Runs a command now. An interactive one that meets a running action ends it and waits for
@@ -55,14 +57,17 @@ public:
     static void ProcessCommand(IUiView* pView, ICommand* pCommand,
                                const CommandParameters& parameters, ICommand* pPrevious);
 
-    /// Runs the command with that id alone: a running action ends first. An unknown id does nothing.
+    /// Runs the command with that id alone: a running action ends first. An unknown id does
+    /// nothing.
     static void SendCommand(const std::wstring& commandId, const CommandParameters& parameters,
                             ICommand* pPrevious);
 
-    /// Hands a typed value to the running action. The action, and who called, may be gone afterwards.
+    /// Hands a typed value to the running action. The action, and who called, may be gone
+    /// afterwards.
     static void ProcessViewInput(IUiView* pView, const ActionViewInput& input);
 
-    /// Makes the provisional graphics anew and places the editor again; never opens or ends an input.
+    /// Makes the provisional graphics anew and places the editor again; never opens or ends an
+    /// input.
     static void RefreshViewInput(IUiView* pView);
 
     /// Hands the cursor's position, a click and an Escape of the view to the running action.

@@ -14,15 +14,15 @@ struct ActionViewInput
     /// Which value, and how it was given.
     enum Kind : std::int32_t
     {
-        LengthEntered = 1,  ///< With Tab: the value is taken, the input goes on.
+        LengthEntered = 1, ///< With Tab: the value is taken, the input goes on.
         AngleEntered = 2,
-        LengthCommitted = 8,  ///< With Return: the input has ended.
+        LengthCommitted = 8, ///< With Return: the input has ended.
         AngleCommitted = 9,
     };
 
     std::int32_t kind = 0;
-    double value = 0.0;   ///< In the unit shown; 0 when the text is no number.
-    std::wstring text;    ///< The text itself, in raw-text mode only.
+    double value = 0.0; ///< In the unit shown; 0 when the text is no number.
+    std::wstring text;  ///< The text itself, in raw-text mode only.
     Any extra;
 };
 

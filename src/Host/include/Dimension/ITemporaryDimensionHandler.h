@@ -32,8 +32,9 @@ public:
     /// Takes the typed value, as if Return was pressed.
     virtual void OnEditorReturnPressed() = 0;
 
-    /// A key came in the view while nothing was being typed. `virtualKey` is '0' to '9', 'A' to 'Z',
-    /// 96 to 105 for the keypad's digits, 109 and 189 for minus, 188 for the comma. True when taken.
+    /// A key came in the view while nothing was being typed. `virtualKey` is '0' to '9', 'A' to
+    /// 'Z', 96 to 105 for the keypad's digits, 109 and 189 for minus, 188 for the comma. True when
+    /// taken.
     virtual bool OnKeyDown(int virtualKey, bool isCtrl, bool isAlt, bool isShift) = 0;
 
     /// Takes ranges and flags over from a context of the handler's kind. False for any other.

@@ -17,9 +17,9 @@ struct TemporaryDimensionData;
 /// arrows, and the text, in the plane of a coordinate system and of constant size in pixels.
 ///
 /// `pixel` is the world width of one pixel. Each operation fills its entry of `data`. The text is
-/// left out while it is being typed (`state`): the editor stands in its place. The text's position is
-/// such that the editor lies inside the current view and off the end point, which is the cursor, in
-/// views of at least 300 x 200 pixels.
+/// left out while it is being typed (`state`): the editor stands in its place. The text's position
+/// is such that the editor lies inside the current view and off the end point, which is the cursor,
+/// in views of at least 300 x 200 pixels.
 class VESK_HOST_API TemporaryDimensionCommons
 {
 public:

@@ -9,13 +9,14 @@
 namespace vesk
 {
 
-/// What the generators found: for each value that can be typed, where its text stands and what it is.
+/// What the generators found: for each value that can be typed, where its text stands and what it
+/// is.
 struct TemporaryDimensionData
 {
     struct Entry
     {
-        Vector3d textPosition = Vector3d::Zero();  ///< World position of the text's centre.
-        double value = 0.0;                        ///< In the unit shown; angles in degrees.
+        Vector3d textPosition = Vector3d::Zero(); ///< World position of the text's centre.
+        double value = 0.0;                       ///< In the unit shown; angles in degrees.
     };
 
     static constexpr int EntryCount = 6;

@@ -4,6 +4,7 @@
 #include "Foundation/HostExport.h"
 #include "Foundation/OwnerPtr.h"
 
+#include <set>
 #include <string>
 #include <vector>
 
@@ -31,8 +32,10 @@ public:
 /// What was in the editor when a value was taken.
 struct TypedValue
 {
-    std::wstring text;         ///< As it stood there.
-    bool isUnchanged = false;  ///< The field was shown with its current value and nobody typed in it.
+    std::wstring text; ///< As it stood there.
+
+    /// The field was shown with its current value and nobody typed in it.
+    bool isUnchanged = false;
 };
 
 /// Owns the handler of the provisional dimensions, and their graphics.
@@ -51,10 +54,11 @@ public:
     void SetHandlerAccess(ITemporaryDimensionHandlerAccess* pAccess);
 
     /// Shows a context: keeps, replaces or creates the handler and makes its graphics. An empty
-    /// pointer drops the handler.
+    /// pointer drops the handler. A handler of another kind starts without locks.
     void SetContext(OwnerPtr<ITemporaryDimensionContext> opContext);
 
     /// Makes the graphics of a context anew with the handler there is, and places its editor again.
+    /// Without a handler or a context nothing happens.
     void Regenerate(OwnerPtr<ITemporaryDimensionContext> opContext);
 
     /// Ends the input and drops handler, graphics and locks.
@@ -84,8 +88,26 @@ public:
     const TypedValue& GetTypedValue() const;
 
 private:
-    TemporaryDimensionMgr();
-    ~TemporaryDimensionMgr();
+    class Call;
+
+    TemporaryDimensionMgr() = default;
+    ~TemporaryDimensionMgr() = default;
+
+    void Replace(OwnerPtr<ITemporaryDimensionHandler> opHandler);
+    void Retire(OwnerPtr<ITemporaryDimensionHandler> opHandler);
+    void Generate(const ITemporaryDimensionContext& context);
+
+    ITemporaryDimensionHandlerFactory* m_pFactory = nullptr;
+    ITemporaryDimensionHandlerAccess* m_pAccess = nullptr;
+    OwnerPtr<ITemporaryDimensionHandler> m_opHandler;
+    OwnerPtr<IGraphicsNodeGroup> m_opGraphics;
+    std::set<InputState> m_locked;
+    TypedValue m_typed;
+
+    /// Dropped handlers that still have an operation on the stack.
+    std::vector<OwnerPtr<ITemporaryDimensionHandler>> m_retired;
+    int m_callDepth = 0;
+    bool m_isGenerating = false;
 };
 
 }

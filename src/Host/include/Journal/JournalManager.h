@@ -19,21 +19,27 @@ public:
     /// A record was written.
     virtual void OnRecord(const JournalRecord& record) = 0;
 
-    /// A widget was made known. The object is owned by the journal.
+    /// A widget was made known. The object lives as long as the call.
     virtual void OnUiObject(const IJournalUiObject& object, int kind) = 0;
 };
 
 /// The journal of this process.
 ///
 /// Each record is one line, handed to the operating system before what it records is done. While no
-/// file is open, records are numbered and told to the observers all the same.
+/// file is open, records are numbered and told to the observers all the same. When a line cannot be
+/// written, one warning is raised and the file gets no more: what stands in it can be repeated.
+///
+/// Only GetLastLines may be called from any thread.
 class VESK_HOST_API JournalManager : public IJournalManager
 {
 public:
     static JournalManager& GetInstance();
 
-    /// Replaces the file at `path` (UTF-8) and starts numbering anew. False when it cannot be written.
+    /// Replaces the file at `path` (UTF-8) and starts numbering anew. False, and nothing changes,
+    /// when it cannot be written.
     virtual bool Open(const std::string& path) = 0;
+
+    /// Closes the file and forgets the last lines; numbering starts anew.
     virtual void Close() = 0;
 
     /// Writes a record and returns its number. A number of an end record is its command's.

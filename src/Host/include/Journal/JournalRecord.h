@@ -21,23 +21,23 @@ struct CommandRecord
 /// A step of an action is finished.
 struct PointRecord
 {
-    Vector3d point = Vector3d::Zero();  ///< The final world point.
-    std::optional<int> entity;          ///< The entity picked there.
+    Vector3d point = Vector3d::Zero(); ///< The final world point.
+    std::optional<int> entity;         ///< The entity picked there.
 };
 
 /// A value was typed.
 struct ValueRecord
 {
     InputState field = InputState::IS_None;
-    std::wstring text;   ///< As typed.
-    double value = 0.0;  ///< In model units.
+    std::wstring text;  ///< As typed.
+    double value = 0.0; ///< In model units.
 };
 
 /// A property was set by the user.
 struct PropertyRecord
 {
-    std::wstring object;    ///< Whose property: "drawing".
-    std::wstring property;  ///< Which one: "name".
+    std::wstring object;   ///< Whose property: "drawing".
+    std::wstring property; ///< Which one: "name".
     std::wstring value;
 };
 
@@ -50,15 +50,16 @@ struct UndoRecord
 /// A command has come to its end.
 struct EndRecord
 {
-    int command = 0;         ///< The number of the command's record.
-    bool isRefused = false;  ///< It was disabled when its turn came.
+    int command = 0;        ///< The number of the command's record.
+    bool isRefused = false; ///< It was disabled when its turn came.
 };
 
 /// What a journal line says; `number` counts the records from 1, an end repeats its command's.
 struct JournalRecord
 {
     int number = 0;
-    std::variant<CommandRecord, PointRecord, ValueRecord, PropertyRecord, UndoRecord, EndRecord> what;
+    std::variant<CommandRecord, PointRecord, ValueRecord, PropertyRecord, UndoRecord, EndRecord>
+        what;
 };
 
 }

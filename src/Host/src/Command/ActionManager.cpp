@@ -1,0 +1,129 @@
+#include "Command/ActionManager.h"
+
+#include "Command/ActionRunner.h"
+#include "Command/ActionViewInput.h"
+#include "Command/ICommand.h"
+#include "Dimension/ITemporaryDimensionContext.h"
+#include "Dimension/TemporaryDimensionMgr.h"
+#include "View/IUiDocumentViewManager.h"
+#include "View/IUiView.h"
+
+#include <cstdint>
+
+namespace vesk
+{
+
+namespace
+{
+
+ActionRunner& Runner()
+{
+    return ActionRunner::GetInstance();
+}
+
+void Redraw(IUiView* pView)
+{
+    if (pView != nullptr)
+        pView->Redraw();
+}
+
+/// Keeps an input of a view, if a command is about to take its turn: the input was meant for it.
+bool Hold(const IUiView* pView, const std::function<void(IUiView*)>& input)
+{
+    const std::uint32_t viewId = pView != nullptr ? pView->GetId() : 0;
+    return Runner().Hold([viewId, input] {
+        const IUiDocumentViewManager* pManager = IUiDocumentViewManager::Get();
+        input(pManager != nullptr ? pManager->GetUiViewById(viewId) : nullptr);
+    });
+}
+
+}
+
+void ActionManager::Reset()
+{
+    Runner().RequestEnd();
+}
+
+void ActionManager::ProcessCommand(IUiView* pView, ICommand* pCommand,
+                                   const CommandParameters& parameters, ICommand* /*pPrevious*/)
+{
+    if (pCommand != nullptr)
+        Runner().Process(pView, *pCommand, parameters);
+}
+
+void ActionManager::SendCommand(const std::wstring& commandId, const CommandParameters& parameters,
+                                ICommand* /*pPrevious*/)
+{
+    Runner().Send(commandId, parameters);
+}
+
+void ActionManager::ProcessViewInput(IUiView* /*pView*/, const ActionViewInput& input)
+{
+    // A copy: the input may belong to the handler, which the action may have dropped.
+    const ActionViewInput delivered = input;
+    Runner().OperateStep([&delivered](IAction& action) {
+        action.OnViewInput(delivered);
+        TemporaryDimensionMgr::GetInstance()->SetTypedValue({});
+    });
+    TemporaryDimensionMgr::GetInstance()->SetTypedValue({});
+}
+
+void ActionManager::RefreshViewInput(IUiView* pView)
+{
+    Runner().Operate([](const IAction& action) {
+        TemporaryDimensionMgr::GetInstance()->Regenerate(action.CreateDimensionContext());
+    });
+    Redraw(pView);
+}
+
+void ActionManager::ProcessMouseMove(IUiView* pView, const Vector3d& world)
+{
+    Runner().Operate([pView, &world](IAction& action) {
+        action.OnMouseMove(world);
+        TemporaryDimensionMgr::GetInstance()->SetContext(action.CreateDimensionContext());
+        Redraw(pView);
+    });
+}
+
+void ActionManager::ProcessClick(IUiView* pView, const Vector3d& world)
+{
+    if (!Hold(pView, [world](IUiView* pHeld) { ProcessClick(pHeld, world); }))
+        Runner().OperateStep([&world](IAction& action) { action.OnClick(world); });
+}
+
+void ActionManager::ProcessEscape(IUiView* pView)
+{
+    if (Hold(pView, [](IUiView* pHeld) { ProcessEscape(pHeld); }))
+        return;
+    Runner().OperateStep([](IAction& action) {
+        if (!action.OnEscape())
+            Reset();
+    });
+}
+
+void ActionManager::StepDone()
+{
+    Runner().OperateStep([](IAction&) {});
+}
+
+std::wstring ActionManager::GetRunningCommandId()
+{
+    return Runner().GetCommandId();
+}
+
+void ActionManager::SetEventLoop(IActionEventLoop* pEventLoop)
+{
+    Runner().SetEventLoop(pEventLoop);
+}
+
+void ActionManager::AddObserver(IActionObserver* pObserver)
+{
+    Runner().AddObserver(pObserver);
+}
+
+void ActionManager::RemoveObserver(IActionObserver* pObserver)
+{
+    Runner().RemoveObserver(pObserver);
+}
+
+}

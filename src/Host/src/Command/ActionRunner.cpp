@@ -1,0 +1,292 @@
+#include "Command/ActionRunner.h"
+
+#include "Command/ActionManager.h"
+#include "Command/ICommand.h"
+#include "Command/ICommandManager.h"
+#include "Dimension/ITemporaryDimensionContext.h"
+#include "Dimension/TemporaryDimensionMgr.h"
+#include "Foundation/UpdateCtrlStatusEvent.h"
+#include "Journal/JournalManager.h"
+#include "View/IUiDocumentViewManager.h"
+#include "View/IUiView.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace vesk
+{
+
+namespace
+{
+
+/// Sets a flag for as long as it lives.
+class FlagScope
+{
+public:
+    explicit FlagScope(bool& flag) : m_flag(flag) { m_flag = true; }
+    ~FlagScope() { m_flag = false; }
+    FlagScope(const FlagScope&) = delete;
+    FlagScope& operator=(const FlagScope&) = delete;
+
+private:
+    bool& m_flag;
+};
+
+/// The view with that id, or the current one when there is none; null when there is no view at all.
+IUiView* FindView(const std::optional<std::uint32_t>& id)
+{
+    const IUiDocumentViewManager* pManager = IUiDocumentViewManager::Get();
+    if (pManager == nullptr)
+        return nullptr;
+    IUiView* pView = id.has_value() ? pManager->GetUiViewById(*id) : nullptr;
+    return pView != nullptr ? pView : pManager->GetCurrentUiView();
+}
+
+std::optional<std::uint32_t> IdOf(const IUiView* pView)
+{
+    return pView != nullptr ? std::make_optional(pView->GetId()) : std::nullopt;
+}
+
+void ShowText(IUiView* pView, const std::wstring& text)
+{
+    if (pView == nullptr)
+        return;
+    pView->SetViewText(text);
+    pView->Redraw();
+}
+
+void PostStatusRefresh()
+{
+    if (IApplication* pApplication = IApplication::Get())
+        pApplication->PostEvent(MakeOwner<UpdateCtrlStatusEvent>());
+}
+
+/// Completes a command's journal record, if it has one.
+void Complete(int record, bool isRefused)
+{
+    if (record != 0)
+        JournalManager::GetInstance().Add(EndRecord{record, isRefused});
+}
+
+}
+
+ActionRunner& ActionRunner::GetInstance()
+{
+    static ActionRunner* const s_pRunner = new ActionRunner;
+    return *s_pRunner;
+}
+
+void ActionRunner::Process(IUiView* pView, ICommand& command, const CommandParameters& parameters)
+{
+    const std::wstring commandId = command.GetCommandId();
+    const int record = JournalManager::GetInstance().TakeCommandNumber(commandId);
+    const Waiting waiting{commandId, parameters, IdOf(pView), record};
+    if (command.IsInteractive())
+        Take(pView, command, waiting);
+    else
+        Run(pView, command, waiting);
+}
+
+void ActionRunner::Send(const std::wstring& commandId, const CommandParameters& parameters)
+{
+    const int record = JournalManager::GetInstance().TakeCommandNumber(commandId);
+    if (ICommand* pCommand = ICommandManager::Get()->GetCommand(commandId))
+        Take(FindView(std::nullopt), *pCommand, {commandId, parameters, std::nullopt, record});
+    else
+        Complete(record, true);
+}
+
+void ActionRunner::RequestEnd()
+{
+    if (GetAction() == nullptr || m_isEnding)
+        return;
+    m_isEndRequested = true;
+    if (m_pRunningLoop != nullptr)
+        m_pRunningLoop->Quit();
+    else
+        EndIfDue();
+}
+
+bool ActionRunner::Operate(const std::function<void(IAction&)>& operation)
+{
+    if (GetAction() == nullptr || m_isEnding || m_isEndRequested)
+        return false;
+    ++m_operationDepth;
+    operation(*GetAction());
+    if (GetAction()->IsFinished())
+        RequestEnd();
+    --m_operationDepth;
+    EndIfDue();
+    return true;
+}
+
+bool ActionRunner::OperateStep(const std::function<void(IAction&)>& operation)
+{
+    return Operate([this, &operation](IAction& action) {
+        operation(action);
+        if (!m_isEndRequested && !action.IsFinished())
+            ShowStep();
+    });
+}
+
+bool ActionRunner::Hold(std::function<void()> input)
+{
+    if (GetAction() == nullptr || m_waiting.empty())
+        return false;
+    m_held.push_back(std::move(input));
+    return true;
+}
+
+IActionEventLoop* ActionRunner::SetEventLoop(IActionEventLoop* pEventLoop)
+{
+    return std::exchange(m_pEventLoop, pEventLoop);
+}
+
+void ActionRunner::AddObserver(IActionObserver* pObserver)
+{
+    const auto found = std::find(m_observers.begin(), m_observers.end(), pObserver);
+    if (pObserver != nullptr && found == m_observers.end())
+        m_observers.push_back(pObserver);
+}
+
+void ActionRunner::RemoveObserver(IActionObserver* pObserver)
+{
+    m_observers.erase(std::remove(m_observers.begin(), m_observers.end(), pObserver),
+                      m_observers.end());
+}
+
+/// Runs a command alone: at once, or when its turn comes.
+void ActionRunner::Take(IUiView* pView, ICommand& command, Waiting waiting)
+{
+    if (MustWait())
+    {
+        m_waiting.push_back(std::move(waiting));
+        RequestEnd();
+        return;
+    }
+    const FlagScope underWay(m_isUnderWay);
+    Run(pView, command, waiting);
+    RunWaiting();
+}
+
+void ActionRunner::Run(IUiView* pView, ICommand& command, const Waiting& waiting)
+{
+    if (!command.IsEnabled())
+        Complete(waiting.record, true);
+    else if (command.IsInteractive())
+        RunInteractive(pView, command, waiting);
+    else
+        RunPlain(pView, command, waiting);
+}
+
+void ActionRunner::RunPlain(IUiView* pView, ICommand& command, const Waiting& waiting)
+{
+    command.Execute(pView, waiting.parameters);
+    Complete(waiting.record, false);
+}
+
+void ActionRunner::RunInteractive(IUiView* pView, ICommand& command, const Waiting& waiting)
+{
+    if (!Begin(pView, command, waiting))
+        return;
+    DeliverHeld();
+    if (MayGoOn() && m_pEventLoop == nullptr)
+        return;
+    if (MayGoOn())
+    {
+        m_pRunningLoop = m_pEventLoop;
+        m_pRunningLoop->Run();
+        m_pRunningLoop = nullptr;
+    }
+    End();
+}
+
+/// False when there is no action: the command has done its work.
+bool ActionRunner::Begin(IUiView* pView, ICommand& command, const Waiting& waiting)
+{
+    OwnerPtr<IAction> opAction = command.Execute(pView, waiting.parameters);
+    if (opAction == nullptr)
+    {
+        Complete(waiting.record, false);
+        return false;
+    }
+    m_running = {std::move(opAction), waiting.commandId, IdOf(pView), waiting.record};
+    OperateStep([pView](IAction& action) { action.OnBegin(pView); });
+
+    // A replay works without the keyboard.
+    IUiView* pShown = FindView(m_running.viewId);
+    if (m_pEventLoop != nullptr && pShown != nullptr)
+        pShown->Activate();
+    return true;
+}
+
+/// Runs what waits, in order, until one of them goes on without an event loop.
+void ActionRunner::RunWaiting()
+{
+    while (!m_waiting.empty() && GetAction() == nullptr)
+    {
+        const Waiting waiting = std::move(m_waiting.front());
+        m_waiting.pop_front();
+        // Looked up again: it may have been removed while it waited.
+        if (ICommand* pCommand = ICommandManager::Get()->GetCommand(waiting.commandId))
+            Run(FindView(waiting.viewId), *pCommand, waiting);
+        else
+            Complete(waiting.record, true);
+    }
+    m_held.clear();
+}
+
+/// Hands over what came in while the action was waiting for its turn.
+void ActionRunner::DeliverHeld()
+{
+    if (!MayGoOn())
+        return;
+    for (const std::function<void()>& input : std::exchange(m_held, {}))
+        input();
+}
+
+void ActionRunner::EndIfDue()
+{
+    if (!m_isEndRequested || m_operationDepth > 0 || m_isUnderWay)
+        return;
+    const FlagScope underWay(m_isUnderWay);
+    End();
+    RunWaiting();
+}
+
+void ActionRunner::End()
+{
+    m_isEnding = true;
+    GetAction()->OnEnd();
+    Running ended = std::exchange(m_running, {});
+    m_isEndRequested = false;
+    m_isEnding = false;
+
+    TemporaryDimensionMgr::GetInstance()->Drop();
+    ended.opAction.Reset();
+    Complete(ended.record, false);
+    ShowText(FindView(ended.viewId), {});
+    PostStatusRefresh();
+    TellObservers();
+}
+
+void ActionRunner::ShowStep()
+{
+    const std::wstring text = GetAction()->GetViewText();
+    TemporaryDimensionMgr::GetInstance()->SetContext(GetAction()->CreateDimensionContext());
+    ShowText(FindView(m_running.viewId), text);
+    PostStatusRefresh();
+    TellObservers();
+}
+
+void ActionRunner::TellObservers()
+{
+    for (IActionObserver* pObserver : std::vector<IActionObserver*>(m_observers))
+    {
+        const auto found = std::find(m_observers.begin(), m_observers.end(), pObserver);
+        if (found != m_observers.end())
+            pObserver->OnActionChanged();
+    }
+}
+
+}

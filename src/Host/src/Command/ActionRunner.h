@@ -1,0 +1,109 @@
+#pragma once
+
+#include "Command/CommandParameters.h"
+#include "Command/IAction.h"
+#include "Foundation/OwnerPtr.h"
+
+#include <cstdint>
+#include <deque>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace vesk
+{
+
+class IActionEventLoop;
+class IActionObserver;
+class ICommand;
+class IUiView;
+
+/// What the action manager does, and its state: the running action and the commands that wait.
+///
+/// Whoever begins an action also ends it and runs what waits afterwards, in one call on the stack.
+/// Where an action runs without an event loop, whoever asks for its end does so instead, as soon as
+/// none of the action's operations is under way.
+class ActionRunner
+{
+public:
+    /// Never destroyed: libraries that unload at the very end still ask for it.
+    static ActionRunner& GetInstance();
+
+    void Process(IUiView* pView, ICommand& command, const CommandParameters& parameters);
+    void Send(const std::wstring& commandId, const CommandParameters& parameters);
+
+    /// Has the running action end as soon as it can; nothing happens when none runs.
+    void RequestEnd();
+
+    /// Does something with the running action, which lives at least until this returns. False when
+    /// none runs or the one that runs is to end: it takes nothing more.
+    bool Operate(const std::function<void(IAction&)>& operation);
+
+    /// The same, followed by a step unless the action is to end.
+    bool OperateStep(const std::function<void(IAction&)>& operation);
+
+    /// Keeps an input for the command that is about to take its turn. False when none is.
+    bool Hold(std::function<void()> input);
+
+    IAction* GetAction() const { return m_running.opAction.Get(); }
+    const std::wstring& GetCommandId() const { return m_running.commandId; }
+
+    /// True while the running action has an event loop of its own.
+    bool IsInEventLoop() const { return m_pRunningLoop != nullptr; }
+
+    /// Chooses the event loop and returns the one chosen before.
+    IActionEventLoop* SetEventLoop(IActionEventLoop* pEventLoop);
+
+    void AddObserver(IActionObserver* pObserver);
+    void RemoveObserver(IActionObserver* pObserver);
+
+private:
+    struct Waiting
+    {
+        std::wstring commandId;
+        CommandParameters parameters;
+        std::optional<std::uint32_t> viewId; ///< None for the view that is current at its turn.
+        int record = 0;                      ///< Its journal record; 0 when it has none.
+    };
+
+    /// Without an action everything is empty.
+    struct Running
+    {
+        OwnerPtr<IAction> opAction;
+        std::wstring commandId;
+        std::optional<std::uint32_t> viewId;
+        int record = 0;
+    };
+
+    bool MustWait() const { return m_isUnderWay || GetAction() != nullptr; }
+    bool MayGoOn() const { return !m_isEndRequested && m_waiting.empty(); }
+    void Take(IUiView* pView, ICommand& command, Waiting waiting);
+    void Run(IUiView* pView, ICommand& command, const Waiting& waiting);
+    void RunPlain(IUiView* pView, ICommand& command, const Waiting& waiting);
+    void RunInteractive(IUiView* pView, ICommand& command, const Waiting& waiting);
+    bool Begin(IUiView* pView, ICommand& command, const Waiting& waiting);
+    void RunWaiting();
+    void DeliverHeld();
+    void EndIfDue();
+    void End();
+    void ShowStep();
+    void TellObservers();
+
+    Running m_running;
+    std::deque<Waiting> m_waiting;
+    std::vector<std::function<void()>> m_held;
+    std::vector<IActionObserver*> m_observers;
+    IActionEventLoop* m_pEventLoop = nullptr;
+    IActionEventLoop* m_pRunningLoop = nullptr;
+
+    /// How many operations of the running action are on the stack.
+    int m_operationDepth = 0;
+
+    /// True while a call that will run the waiting commands is on the stack.
+    bool m_isUnderWay = false;
+    bool m_isEndRequested = false;
+    bool m_isEnding = false;
+};
+
+}

@@ -1,0 +1,75 @@
+#include "Dimension/DimensionDrawing.h"
+
+#include "Dimension/ITemporaryDimensionContext.h"
+#include "Dimension/ITemporaryDimensionHandler.h"
+#include "Dimension/TemporaryDimensionMgr.h"
+
+#include <cmath>
+#include <utility>
+
+namespace vesk
+{
+
+namespace
+{
+
+GraphicsRole RoleOf(InputState field, InputState state)
+{
+    if (field == state)
+        return GraphicsRole::ActiveDimension;
+    const bool isLocked = TemporaryDimensionMgr::GetInstance()->IsLocked(field);
+    return isLocked ? GraphicsRole::LockedDimension : GraphicsRole::Dimension;
+}
+
+}
+
+DimensionDrawing::DimensionDrawing(const Vector3d& origin, const Coordinate3d& coordinate,
+                                   double pixel, InputState field, InputState state)
+    : m_origin(origin), m_coordinate(coordinate),
+      m_pixel(pixel > 0.0 && std::isfinite(pixel) ? pixel : 1.0), m_role(RoleOf(field, state)),
+      m_opGroup(IGraphicsNodeGroup::Create())
+{}
+
+PlaneVector DimensionDrawing::ToPlane(const Vector3d& world) const
+{
+    const Vector3d offset = world - m_origin;
+    return PlaneVector(offset.dot(m_coordinate.GetX()), offset.dot(m_coordinate.GetY())) / m_pixel;
+}
+
+Vector3d DimensionDrawing::ToWorld(const PlaneVector& point) const
+{
+    return m_origin + m_pixel * (point.x() * m_coordinate.GetX() + point.y() * m_coordinate.GetY());
+}
+
+void DimensionDrawing::AddLine(const PlaneVector& start, const PlaneVector& end)
+{
+    m_opGroup->AddChild(IGraphicsLine::Create(ToWorld(start), ToWorld(end), m_role));
+}
+
+void DimensionDrawing::AddArc(double radius, double sweep)
+{
+    m_opGroup->AddChild(IGraphicsArc::Create(m_origin, m_coordinate.GetX(), m_coordinate.GetY(),
+                                             radius * m_pixel, sweep, m_role));
+}
+
+void DimensionDrawing::AddArrow(const PlaneVector& tip, const PlaneVector& direction, double size)
+{
+    constexpr double Slenderness = 0.35;
+    const PlaneVector back = tip - size * direction;
+    const PlaneVector side = size * Slenderness * TurnLeft(direction);
+    AddLine(tip, back + side);
+    AddLine(tip, back - side);
+}
+
+void DimensionDrawing::AddText(const Vector3d& position, const std::wstring& text)
+{
+    if (m_role != GraphicsRole::ActiveDimension)
+        m_opGroup->AddChild(IGraphicsText::Create(position, text, m_role));
+}
+
+OwnerPtr<IGraphicsNodeGroup> DimensionDrawing::Take()
+{
+    return std::move(m_opGroup);
+}
+
+}

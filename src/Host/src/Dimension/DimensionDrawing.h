@@ -1,0 +1,59 @@
+#pragma once
+
+#include "Dimension/InputState.h"
+#include "Foundation/OwnerPtr.h"
+#include "Geometry/Coordinate3d.h"
+#include "Geometry/Vector3d.h"
+#include "Graphics/IGraphicsNode.h"
+
+#include <Eigen/Core>
+
+#include <string>
+
+namespace vesk
+{
+
+/// A point or direction of the drawing plane, in pixels along its x and y axes.
+using PlaneVector = Eigen::Vector2d;
+
+/// The direction turned by a quarter counter-clockwise.
+inline PlaneVector TurnLeft(const PlaneVector& direction)
+{
+    return {-direction.y(), direction.x()};
+}
+
+/// Draws one provisional dimension in the plane of a coordinate system, seen from a point of it.
+class DimensionDrawing
+{
+public:
+    /// `pixel` is the world width of one pixel. The role comes from the field's state.
+    DimensionDrawing(const Vector3d& origin, const Coordinate3d& coordinate, double pixel,
+                     InputState field, InputState state);
+
+    /// World point to the plane, and back.
+    PlaneVector ToPlane(const Vector3d& world) const;
+    Vector3d ToWorld(const PlaneVector& point) const;
+
+    void AddLine(const PlaneVector& start, const PlaneVector& end);
+
+    /// Adds an arc about the origin, from the x axis by `sweep` radians.
+    void AddArc(double radius, double sweep);
+
+    /// Adds an arrow head that points along a unit vector.
+    void AddArrow(const PlaneVector& tip, const PlaneVector& direction, double size);
+
+    /// Adds the text, unless it is being typed: the editor then stands in its place.
+    void AddText(const Vector3d& position, const std::wstring& text);
+
+    /// What was drawn, given to the caller.
+    OwnerPtr<IGraphicsNodeGroup> Take();
+
+private:
+    Vector3d m_origin;
+    Coordinate3d m_coordinate;
+    double m_pixel;
+    GraphicsRole m_role;
+    OwnerPtr<IGraphicsNodeGroup> m_opGroup;
+};
+
+}

@@ -1,0 +1,205 @@
+#include "Dimension/TemporaryDimensionMgr.h"
+
+#include "Dimension/ITemporaryDimensionContext.h"
+#include "Dimension/ITemporaryDimensionHandler.h"
+#include "Graphics/IGraphicsNode.h"
+#include "View/IUiDocumentViewManager.h"
+#include "View/IUiView.h"
+
+#include <utility>
+
+namespace vesk
+{
+
+namespace
+{
+
+void ActivateView()
+{
+    const IUiDocumentViewManager* pManager = IUiDocumentViewManager::Get();
+    IUiView* pView = pManager != nullptr ? pManager->GetCurrentUiView() : nullptr;
+    if (pView != nullptr)
+        pView->Activate();
+}
+
+}
+
+/// A call into a handler: a handler that is dropped meanwhile is freed after the outermost one.
+class TemporaryDimensionMgr::Call
+{
+public:
+    explicit Call(TemporaryDimensionMgr& manager) : m_manager(manager) { ++m_manager.m_callDepth; }
+
+    ~Call()
+    {
+        if (--m_manager.m_callDepth == 0)
+            std::exchange(m_manager.m_retired, {}).clear();
+    }
+
+    Call(const Call&) = delete;
+    Call& operator=(const Call&) = delete;
+
+private:
+    TemporaryDimensionMgr& m_manager;
+};
+
+TemporaryDimensionMgr* TemporaryDimensionMgr::GetInstance()
+{
+    // Never destroyed: the library of the handlers may be unloaded at the very end.
+    static TemporaryDimensionMgr* const s_pManager = new TemporaryDimensionMgr;
+    return s_pManager;
+}
+
+void TemporaryDimensionMgr::SetHandlerFactory(ITemporaryDimensionHandlerFactory* pFactory)
+{
+    if (pFactory == m_pFactory)
+        return;
+    // Withdrawn first, so that nothing that happens while the handler goes makes a new one of it.
+    m_pFactory = nullptr;
+    Drop();
+    m_pFactory = pFactory;
+}
+
+void TemporaryDimensionMgr::SetHandlerAccess(ITemporaryDimensionHandlerAccess* pAccess)
+{
+    m_pAccess = pAccess;
+}
+
+void TemporaryDimensionMgr::SetContext(OwnerPtr<ITemporaryDimensionContext> opContext)
+{
+    if (opContext == nullptr)
+    {
+        Drop();
+        return;
+    }
+    if (m_pFactory == nullptr)
+        return;
+    const Call call(*this);
+    OwnerPtr<ITemporaryDimensionHandler> opNew =
+        m_pFactory->UpdateOrCreateHandler(opContext.Get(), m_opHandler.Get());
+    if (opNew != nullptr)
+        Replace(std::move(opNew));
+    Generate(*opContext);
+}
+
+void TemporaryDimensionMgr::Regenerate(OwnerPtr<ITemporaryDimensionContext> opContext)
+{
+    if (opContext != nullptr)
+        Generate(*opContext);
+}
+
+void TemporaryDimensionMgr::Drop()
+{
+    m_opGraphics.Reset();
+    m_locked.clear();
+    Retire(std::move(m_opHandler));
+}
+
+void TemporaryDimensionMgr::EndInput()
+{
+    if (!IsInputting())
+        return;
+    const Call call(*this);
+    m_opHandler->EndInput();
+    ActivateView();
+}
+
+bool TemporaryDimensionMgr::IsInputting() const
+{
+    return m_opHandler != nullptr && m_opHandler->IsInputting();
+}
+
+bool TemporaryDimensionMgr::HasHandler() const
+{
+    return m_opHandler != nullptr;
+}
+
+bool TemporaryDimensionMgr::OnKeyDown(int virtualKey, bool isCtrl, bool isAlt, bool isShift)
+{
+    if (m_opHandler == nullptr)
+        return false;
+    const Call call(*this);
+    return m_opHandler->OnKeyDown(virtualKey, isCtrl, isAlt, isShift);
+}
+
+InputState TemporaryDimensionMgr::GetInputState() const
+{
+    const bool isKnown = m_pAccess != nullptr && IsInputting();
+    return isKnown ? m_pAccess->GetInputState(*m_opHandler) : InputState::IS_None;
+}
+
+const IGraphicsNodeGroup* TemporaryDimensionMgr::GetGraphics() const
+{
+    return m_opGraphics.Get();
+}
+
+void TemporaryDimensionMgr::SetLocked(InputState field, bool isLocked)
+{
+    if (isLocked)
+        m_locked.insert(field);
+    else
+        m_locked.erase(field);
+}
+
+bool TemporaryDimensionMgr::IsLocked(InputState field) const
+{
+    return m_locked.count(field) != 0;
+}
+
+std::vector<InputState> TemporaryDimensionMgr::GetLocked() const
+{
+    return {m_locked.begin(), m_locked.end()};
+}
+
+void TemporaryDimensionMgr::SetTypedValue(const TypedValue& typed)
+{
+    m_typed = typed;
+}
+
+const TypedValue& TemporaryDimensionMgr::GetTypedValue() const
+{
+    return m_typed;
+}
+
+void TemporaryDimensionMgr::Replace(OwnerPtr<ITemporaryDimensionHandler> opHandler)
+{
+    OwnerPtr<ITemporaryDimensionHandler> opOld = std::exchange(m_opHandler, std::move(opHandler));
+    if (opOld == nullptr)
+        return;
+    m_opGraphics.Reset();
+    m_locked.clear();
+    Retire(std::move(opOld));
+}
+
+/// Ends the input of a handler that is no longer the manager's, and frees it.
+void TemporaryDimensionMgr::Retire(OwnerPtr<ITemporaryDimensionHandler> opHandler)
+{
+    if (opHandler == nullptr)
+        return;
+    const bool wasInputting = opHandler->IsInputting();
+    {
+        const Call call(*this);
+        opHandler->EndInput();
+        m_retired.push_back(std::move(opHandler));
+    }
+    if (wasInputting)
+        ActivateView();
+}
+
+void TemporaryDimensionMgr::Generate(const ITemporaryDimensionContext& context)
+{
+    ITemporaryDimensionHandler* pHandler = m_opHandler.Get();
+    if (pHandler == nullptr || m_isGenerating)
+        return;
+    const Call call(*this);
+    m_isGenerating = true;
+    OwnerPtr<IGraphicsNodeGroup> opGraphics = pHandler->GenerateGraphics(&context);
+    m_isGenerating = false;
+    if (pHandler != m_opHandler.Get())
+        return;
+    m_opGraphics = std::move(opGraphics);
+    if (m_pAccess != nullptr && pHandler->IsInputting())
+        m_pAccess->ResetEditorPosition(*pHandler);
+}
+
+}

@@ -1,0 +1,29 @@
+#include "HostCore.h"
+
+#include "Command/ActionManager.h"
+#include "Command/ICommand.h"
+#include "Command/ICommandManager.h"
+#include "Dimension/TemporaryDimensionMgr.h"
+#include "Journal/JournalFactory.h"
+#include "Journal/JournalManager.h"
+
+namespace vesk
+{
+
+HostCore::HostCore() : m_pJournalFactory(std::make_unique<JournalFactory>())
+{
+    NqIJournalFactory::SetImpl(m_pJournalFactory.get());
+}
+
+HostCore::~HostCore()
+{
+    ActionManager::Reset();
+    TemporaryDimensionMgr::GetInstance()->Drop();
+    TemporaryDimensionMgr::GetInstance()->SetTypedValue({});
+    ICommandManager::Get()->RemoveAllCommands();
+    JournalManager::GetInstance().Close();
+    if (NqIJournalFactory::GetImpl() == m_pJournalFactory.get())
+        NqIJournalFactory::SetImpl(nullptr);
+}
+
+}

@@ -1,0 +1,13 @@
+#include "Journal/IJournalManager.h"
+
+#include "Journal/JournalManager.h"
+
+namespace vesk
+{
+
+IJournalManager* IJournalManager::Get()
+{
+    return &JournalManager::GetInstance();
+}
+
+}

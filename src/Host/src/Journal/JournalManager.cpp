@@ -1,0 +1,195 @@
+#include "Journal/JournalManager.h"
+
+#include "Foundation/Check.h"
+#include "Journal/IJournalData.h"
+#include "Journal/IJournalUiObject.h"
+#include "Journal/JournalFormat.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <deque>
+#include <filesystem>
+#include <fstream>
+#include <mutex>
+#include <utility>
+
+namespace vesk
+{
+
+namespace
+{
+
+constexpr std::size_t s_keptLines = 20;
+
+/// The lines written last. Safe to use from any thread.
+class LastLines
+{
+public:
+    void Add(const std::string& line)
+    {
+        const std::lock_guard lock(m_mutex);
+        m_lines.push_back(line);
+        if (m_lines.size() > s_keptLines)
+            m_lines.pop_front();
+    }
+
+    void Clear()
+    {
+        const std::lock_guard lock(m_mutex);
+        m_lines.clear();
+    }
+
+    std::vector<std::string> Get() const
+    {
+        const std::lock_guard lock(m_mutex);
+        return {m_lines.begin(), m_lines.end()};
+    }
+
+private:
+    mutable std::mutex m_mutex;
+    std::deque<std::string> m_lines;
+};
+
+class JournalManagerImpl final : public JournalManager
+{
+public:
+    bool Open(const std::string& path) override;
+    void Close() override;
+    int Add(decltype(JournalRecord::what) what) override;
+    int TakeCommandNumber(const std::wstring& commandId) override;
+    std::vector<std::string> GetLastLines() const override { return m_lastLines.Get(); }
+    void AddObserver(IJournalObserver* pObserver) override;
+    void RemoveObserver(IJournalObserver* pObserver) override;
+
+    void AddCommandData(OwnerPtr<IJournalCommandData> opData) override;
+    void AddCommandDataWithParameters(OwnerPtr<IJournalCommandData> opData) override;
+    void AddUiObject(OwnerPtr<IJournalUiObject> opObject, int kind, int reserved) override;
+
+private:
+    /// The command record written last; number 0 once it is taken.
+    struct LastCommand
+    {
+        std::wstring commandId;
+        int number = 0;
+    };
+
+    void Write(const std::string& line);
+
+    template <class Tell>
+    void TellObservers(const Tell& tell)
+    {
+        for (IJournalObserver* pObserver : std::vector<IJournalObserver*>(m_observers))
+        {
+            const auto found = std::find(m_observers.begin(), m_observers.end(), pObserver);
+            if (found != m_observers.end())
+                tell(*pObserver);
+        }
+    }
+
+    std::ofstream m_file;
+    int m_lastNumber = 0;
+    LastCommand m_lastCommand;
+    LastLines m_lastLines;
+    std::vector<IJournalObserver*> m_observers;
+};
+
+bool JournalManagerImpl::Open(const std::string& path)
+{
+    std::ofstream file(std::filesystem::u8path(path), std::ios::binary | std::ios::trunc);
+    if (!file.is_open())
+        return false;
+    Close();
+    m_file = std::move(file);
+    return true;
+}
+
+void JournalManagerImpl::Close()
+{
+    m_file.close();
+    m_file.clear();
+    m_lastNumber = 0;
+    m_lastCommand = {};
+    m_lastLines.Clear();
+}
+
+int JournalManagerImpl::Add(decltype(JournalRecord::what) what)
+{
+    JournalRecord record{0, std::move(what)};
+    if (const auto* pEnd = std::get_if<EndRecord>(&record.what))
+        record.number = pEnd->command;
+    else
+        record.number = ++m_lastNumber;
+    if (const auto* pCommand = std::get_if<CommandRecord>(&record.what))
+        m_lastCommand = {pCommand->commandId, record.number};
+
+    const std::string line = JournalFormat::ToLine(record);
+    m_lastLines.Add(line);
+    Write(line + '\n');
+    TellObservers([&record](IJournalObserver& observer) { observer.OnRecord(record); });
+    return record.number;
+}
+
+int JournalManagerImpl::TakeCommandNumber(const std::wstring& commandId)
+{
+    const bool isLast = m_lastCommand.commandId == commandId;
+    return isLast ? std::exchange(m_lastCommand.number, 0) : 0;
+}
+
+void JournalManagerImpl::AddObserver(IJournalObserver* pObserver)
+{
+    const auto found = std::find(m_observers.begin(), m_observers.end(), pObserver);
+    if (pObserver != nullptr && found == m_observers.end())
+        m_observers.push_back(pObserver);
+}
+
+void JournalManagerImpl::RemoveObserver(IJournalObserver* pObserver)
+{
+    m_observers.erase(std::remove(m_observers.begin(), m_observers.end(), pObserver),
+                      m_observers.end());
+}
+
+void JournalManagerImpl::AddCommandData(OwnerPtr<IJournalCommandData> opData)
+{
+    if (opData != nullptr)
+        Add(CommandRecord{opData->GetCommandId(), {}});
+}
+
+void JournalManagerImpl::AddCommandDataWithParameters(OwnerPtr<IJournalCommandData> opData)
+{
+    if (opData != nullptr)
+        Add(CommandRecord{opData->GetCommandId(), opData->GetCommandParameters()});
+}
+
+void JournalManagerImpl::AddUiObject(OwnerPtr<IJournalUiObject> opObject, int kind,
+                                     int /*reserved*/)
+{
+    // Not kept: the code that frees what it holds may belong to a library that is unloaded.
+    if (opObject != nullptr)
+        TellObservers([&](IJournalObserver& observer) { observer.OnUiObject(*opObject, kind); });
+}
+
+/// Hands a line to the operating system, in one piece.
+void JournalManagerImpl::Write(const std::string& line)
+{
+    if (!m_file.is_open())
+        return;
+    m_file.write(line.data(), static_cast<std::streamsize>(line.size()));
+    m_file.flush();
+    const bool isWritten = m_file.good();
+    // After a line that may be torn no other must follow.
+    if (!isWritten)
+        m_file.close();
+    Check(isWritten, {__FILE__, __LINE__, "vesk::JournalManager::Add", L"日志文件写入失败",
+                      L"vesk-host", L"2026-11-21"});
+}
+
+}
+
+JournalManager& JournalManager::GetInstance()
+{
+    // Never destroyed, so that a warning of a late thread still finds the last lines.
+    static JournalManagerImpl* const s_pManager = new JournalManagerImpl;
+    return *s_pManager;
+}
+
+}

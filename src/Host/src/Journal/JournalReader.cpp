@@ -1,0 +1,270 @@
+#include "Journal/JournalReader.h"
+
+#include "Foundation/Text.h"
+#include "Journal/LocaleFreeJson.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <iterator>
+#include <limits>
+
+namespace vesk
+{
+
+namespace
+{
+
+using Json = nlohmann::ordered_json;
+
+/// In the order of InputState.
+constexpr const char* s_fieldNames[] = {"none",         "length", "angle", "radius",
+                                        "centralAngle", "width",  "height"};
+
+bool ToInteger(const Json& json, int& integer)
+{
+    if (!json.is_number_integer())
+        return false;
+    const bool isTooGreat =
+        json.is_number_unsigned() && json.get<std::uint64_t>() > std::numeric_limits<int>::max();
+    const auto value = json.get<std::int64_t>();
+    if (isTooGreat || value < std::numeric_limits<int>::min() ||
+        value > std::numeric_limits<int>::max())
+        return false;
+    integer = static_cast<int>(value);
+    return true;
+}
+
+/// Null is NaN.
+bool ToReal(const Json& json, double& real)
+{
+    if (!json.is_number() && !json.is_null())
+        return false;
+    real = json.is_null() ? std::numeric_limits<double>::quiet_NaN() : json.get<double>();
+    return true;
+}
+
+/// Adds a parameter; false when the value is of no type that a parameter has.
+bool AddParameter(CommandParameters& parameters, const std::wstring& name, const Json& json)
+{
+    int integer = 0;
+    double real = 0.0;
+    if (json.is_boolean())
+        parameters.Add(name, CommandParameterValue(json.get<bool>()));
+    else if (json.is_string())
+        parameters.Add(name, CommandParameterValue(FromUtf8(json.get<std::string>())));
+    else if (ToInteger(json, integer))
+        parameters.Add(name, CommandParameterValue(integer));
+    else if (!json.is_number_integer() && ToReal(json, real))
+        parameters.Add(name, CommandParameterValue(real));
+    else
+        return false;
+    return true;
+}
+
+std::string Quote(const std::string& text)
+{
+    return '"' + text + '"';
+}
+
+}
+
+const char* NameOf(InputState field)
+{
+    return s_fieldNames[static_cast<std::size_t>(field)];
+}
+
+bool JournalReader::Read()
+{
+    if (!ParseJson(m_text, m_line))
+        return Fail("this is no JSON");
+    if (!m_line.is_object())
+        return Fail("this is no JSON object");
+    if (!TakeInteger("n", m_record.number))
+        return false;
+    if (m_record.number < 1)
+        return Fail("\"n\" is below 1");
+    if (!ReadKind())
+        return false;
+    if (!m_line.empty())
+        return Fail(Quote(m_line.begin().key()) + " does not belong to this kind");
+    return true;
+}
+
+bool JournalReader::ReadKind()
+{
+    struct Kind
+    {
+        const char* name;
+        bool (JournalReader::*read)();
+    };
+    static constexpr Kind s_kinds[] = {
+        {"command", &JournalReader::ReadCommand}, {"point", &JournalReader::ReadPoint},
+        {"value", &JournalReader::ReadValue},     {"property", &JournalReader::ReadProperty},
+        {"undo", &JournalReader::ReadUndo},       {"end", &JournalReader::ReadEnd},
+    };
+    std::string name;
+    if (!TakeText("kind", name))
+        return false;
+    const auto* pKind = std::find_if(std::begin(s_kinds), std::end(s_kinds),
+                                     [&name](const Kind& kind) { return kind.name == name; });
+    if (pKind == std::end(s_kinds))
+        return Fail("unknown kind " + Quote(name));
+    return (this->*pKind->read)();
+}
+
+bool JournalReader::ReadCommand()
+{
+    CommandRecord record;
+    if (!TakeText("id", record.commandId))
+        return false;
+    if (Has("parameters") && !TakeParameters("parameters", record.parameters))
+        return false;
+    m_record.what = record;
+    return true;
+}
+
+bool JournalReader::ReadPoint()
+{
+    PointRecord record;
+    if (!TakePoint("point", record.point))
+        return false;
+    if (Has("entity") && !TakeInteger("entity", record.entity.emplace()))
+        return false;
+    m_record.what = record;
+    return true;
+}
+
+bool JournalReader::ReadValue()
+{
+    ValueRecord record;
+    if (!TakeField("field", record.field) || !TakeText("text", record.text) ||
+        !TakeReal("value", record.value))
+        return false;
+    m_record.what = record;
+    return true;
+}
+
+bool JournalReader::ReadProperty()
+{
+    PropertyRecord record;
+    if (!TakeText("object", record.object) || !TakeText("property", record.property) ||
+        !TakeText("value", record.value))
+        return false;
+    m_record.what = record;
+    return true;
+}
+
+bool JournalReader::ReadUndo()
+{
+    UndoRecord record;
+    if (!TakeInteger("entity", record.entity))
+        return false;
+    m_record.what = record;
+    return true;
+}
+
+bool JournalReader::ReadEnd()
+{
+    std::string result;
+    if (!TakeText("result", result))
+        return false;
+    if (result != "done" && result != "refused")
+        return Fail("unknown result " + Quote(result));
+    m_record.what = EndRecord{m_record.number, result == "refused"};
+    return true;
+}
+
+bool JournalReader::TakeText(const char* key, std::string& text)
+{
+    const Json* pJson = Take(key);
+    if (pJson == nullptr)
+        return false;
+    if (!pJson->is_string())
+        return Fail(Quote(key) + " is no text");
+    text = pJson->get<std::string>();
+    return true;
+}
+
+bool JournalReader::TakeText(const char* key, std::wstring& text)
+{
+    std::string utf8;
+    if (!TakeText(key, utf8))
+        return false;
+    text = FromUtf8(utf8);
+    return true;
+}
+
+bool JournalReader::TakeInteger(const char* key, int& integer)
+{
+    const Json* pJson = Take(key);
+    if (pJson == nullptr)
+        return false;
+    return ToInteger(*pJson, integer) || Fail(Quote(key) + " is no integer");
+}
+
+bool JournalReader::TakeReal(const char* key, double& real)
+{
+    const Json* pJson = Take(key);
+    if (pJson == nullptr)
+        return false;
+    return ToReal(*pJson, real) || Fail(Quote(key) + " is no number");
+}
+
+bool JournalReader::TakePoint(const char* key, Vector3d& point)
+{
+    const Json* pJson = Take(key);
+    if (pJson == nullptr)
+        return false;
+    const bool isPoint = pJson->is_array() && pJson->size() == 3 &&
+                         ToReal((*pJson)[0], point.x()) && ToReal((*pJson)[1], point.y()) &&
+                         ToReal((*pJson)[2], point.z());
+    return isPoint || Fail(Quote(key) + " is no list of three numbers");
+}
+
+bool JournalReader::TakeField(const char* key, InputState& field)
+{
+    std::string name;
+    if (!TakeText(key, name))
+        return false;
+    const auto* pName = std::find(std::begin(s_fieldNames), std::end(s_fieldNames), name);
+    if (pName == std::end(s_fieldNames))
+        return Fail("unknown field " + Quote(name));
+    field = static_cast<InputState>(pName - std::begin(s_fieldNames));
+    return true;
+}
+
+bool JournalReader::TakeParameters(const char* key, CommandParameters& parameters)
+{
+    const Json* pJson = Take(key);
+    if (pJson == nullptr)
+        return false;
+    if (!pJson->is_object())
+        return Fail(Quote(key) + " is no JSON object");
+    for (const auto& member : pJson->items())
+    {
+        if (!AddParameter(parameters, FromUtf8(member.key()), member.value()))
+            return Fail("the parameter " + Quote(member.key()) + " has no value that it can have");
+    }
+    return true;
+}
+
+const JournalReader::Json* JournalReader::Take(const char* key)
+{
+    const auto found = m_line.find(key);
+    if (found == m_line.end())
+    {
+        Fail(Quote(key) + " is missing");
+        return nullptr;
+    }
+    m_taken = std::move(*found);
+    m_line.erase(found);
+    return &m_taken;
+}
+
+bool JournalReader::Fail(const std::string& error)
+{
+    m_error = error;
+    return false;
+}
+
+}

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "Journal/JournalRecord.h"
+
+#include <nlohmann/json.hpp>
+
+#include <string>
+
+namespace vesk
+{
+
+/// The name of a field in the journal, as "length".
+const char* NameOf(InputState field);
+
+/// Reads one line of a journal.
+class JournalReader
+{
+public:
+    explicit JournalReader(const std::string& line) : m_text(line) {}
+
+    /// Reads the line. False when it is no record.
+    bool Read();
+
+    const JournalRecord& GetRecord() const { return m_record; }
+
+    /// Why the line is no record, in one sentence.
+    const std::string& GetError() const { return m_error; }
+
+private:
+    using Json = nlohmann::ordered_json;
+
+    bool ReadKind();
+    bool ReadCommand();
+    bool ReadPoint();
+    bool ReadValue();
+    bool ReadProperty();
+    bool ReadUndo();
+    bool ReadEnd();
+
+    /// Each takes a member out of the line. False when it is missing or of another type.
+    bool TakeText(const char* key, std::string& text);
+    bool TakeText(const char* key, std::wstring& text);
+    bool TakeInteger(const char* key, int& integer);
+    bool TakeReal(const char* key, double& real);
+    bool TakePoint(const char* key, Vector3d& point);
+    bool TakeField(const char* key, InputState& field);
+    bool TakeParameters(const char* key, CommandParameters& parameters);
+
+    /// Takes a member out of the line; null with the error told when there is none.
+    const Json* Take(const char* key);
+    bool Has(const char* key) const { return m_line.contains(key); }
+    bool Fail(const std::string& error);
+
+    std::string m_text;
+    Json m_line;
+    Json m_taken;
+    JournalRecord m_record;
+    std::string m_error;
+};
+
+}
