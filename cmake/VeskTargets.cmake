@@ -30,7 +30,7 @@ function(vesk_library target)
     add_library(${target} SHARED)
     add_library(${ARG_ALIAS} ALIAS ${target})
     string(REGEX REPLACE "^.*::" "" exported "${ARG_ALIAS}")
-    set_target_properties(${target} PROPERTIES EXPORT_NAME ${exported} VERSION ${PROJECT_VERSION})
+    set_target_properties(${target} PROPERTIES EXPORT_NAME ${exported})
     target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:vesk_build_flags>)
 
     set(generated "${CMAKE_CURRENT_BINARY_DIR}/include")

@@ -4,6 +4,7 @@
 #include "ModelFile.h"
 #include "SketchView.h"
 
+#include "Command/ActionManager.h"
 #include "Foundation/DebugMessageMgr.h"
 #include "Foundation/Text.h"
 #include "Journal/JournalFormat.h"
@@ -49,7 +50,6 @@ Session::Session(const Options& options)
     const std::vector<CommandEntry> commands = MakeCommandTable(m_sketch, m_window.GetView());
     RegisterCommands(commands);
     m_window.BuildRibbon(commands, m_controls);
-    ActionManager::AddObserver(this);
     if (!m_options.uiTree.isEmpty())
         m_pUiTree = std::make_unique<UiTreeWriter>(m_options.uiTree, m_input, [this] {
             return static_cast<int>(m_sketch.GetEntities().size());
@@ -59,7 +59,6 @@ Session::Session(const Options& options)
 Session::~Session()
 {
     ActionManager::Reset();
-    ActionManager::RemoveObserver(this);
     m_window.ReleaseControls();
     m_application.SetMainWindow(nullptr);
     m_host.GetViewManager().RemoveView(&m_window.GetView());
@@ -94,17 +93,6 @@ bool Session::ReplayProperty(const PropertyRecord& record)
 bool Session::VerifyUndo(const UndoRecord& record)
 {
     return m_sketch.GetLastUndone() == record.entity;
-}
-
-/// Whoever starts a tool wants to draw: the view gets the keyboard.
-void Session::OnActionChanged()
-{
-    const std::wstring running = ActionManager::GetRunningCommandId();
-    if (running == m_runningCommand)
-        return;
-    m_runningCommand = running;
-    if (!running.empty())
-        m_window.GetView().Activate();
 }
 
 bool Session::OpenLog()

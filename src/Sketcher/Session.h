@@ -4,7 +4,6 @@
 #include "Sketch.h"
 #include "SketcherWindow.h"
 
-#include "Command/ActionManager.h"
 #include "HostCore.h"
 #include "HostUi/ControlHost.h"
 #include "HostUi/ControlLibrary.h"
@@ -14,11 +13,10 @@
 #include "Journal/JournalReplayer.h"
 
 #include <memory>
-#include <string>
 #include <vector>
 
 /// One run of the program: the host, the library, the drawing and the window, in order of life.
-class Session final : public vesk::IJournalReplayTarget, public vesk::IActionObserver
+class Session final : public vesk::IJournalReplayTarget
 {
 public:
     explicit Session(const Options& options);
@@ -30,7 +28,6 @@ public:
 
     bool ReplayProperty(const vesk::PropertyRecord& record) override;
     bool VerifyUndo(const vesk::UndoRecord& record) override;
-    void OnActionChanged() override;
 
 private:
     bool OpenLog();
@@ -52,5 +49,4 @@ private:
     SketcherWindow m_window;
     vesk::ControlHost m_controls;
     std::unique_ptr<vesk::UiTreeWriter> m_pUiTree;
-    std::wstring m_runningCommand;
 };

@@ -26,6 +26,8 @@ std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char** argv)
 {
     QCoreApplication::setApplicationName(QStringLiteral("sketcher"));
     QCoreApplication::setApplicationVersion(QStringLiteral(SKETCHER_VERSION));
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     if (!NeedsDisplay(argc, argv))
         return std::make_unique<QCoreApplication>(argc, argv);
     return std::make_unique<QApplication>(argc, argv);
