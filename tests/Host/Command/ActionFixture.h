@@ -1,0 +1,107 @@
+#pragma once
+
+#include "Command/ActionManager.h"
+#include "Command/Command.h"
+#include "Command/CommandParameters.h"
+#include "Command/ICommandManager.h"
+#include "Host/Command/ActionStandIns.h"
+#include "HostCore.h"
+#include "Journal/JournalManager.h"
+
+#include <map>
+
+namespace vesk
+{
+
+/// A host with a view and an event loop, and commands that are scripted. One at a time.
+class ActionFixture
+{
+public:
+    ActionFixture()
+    {
+        m_core.GetViewManager().AddView(&view);
+        ActionManager::SetEventLoop(&loop);
+    }
+
+    ~ActionFixture()
+    {
+        ActionManager::SetEventLoop(nullptr);
+        ActionManager::Reset();
+    }
+
+    /// Registers an interactive command; `name` is all of ASCII.
+    void AddInteractive(const std::string& name)
+    {
+        Add(name, Command::Kind::Interactive, [this, name](IUiView*, const CommandParameters&) {
+            return MakeOwner<StandInAction>(name, log, scripts[name]);
+        });
+    }
+
+    void AddPlain(const std::string& name, std::function<void()> act = nullptr)
+    {
+        Add(name, Command::Kind::Plain,
+            [this, name, act](IUiView*, const CommandParameters&) -> OwnerPtr<IAction> {
+                log.push_back(name);
+                if (act)
+                    act();
+                return nullptr;
+            });
+    }
+
+    /// Chooses a command as a ribbon button does: the record first.
+    void Choose(const std::string& name)
+    {
+        const std::wstring id(name.begin(), name.end());
+        JournalManager::GetInstance().Add(CommandRecord{id, {}});
+        ActionManager::ProcessCommand(&view, ICommandManager::Get()->GetCommand(id), {}, nullptr);
+    }
+
+    /// Chooses a command as a menu does.
+    void ChooseInMenu(const std::string& name)
+    {
+        const std::wstring id(name.begin(), name.end());
+        JournalManager::GetInstance().Add(CommandRecord{id, {}});
+        ActionManager::SendCommand(id, {}, nullptr);
+    }
+
+    void Click() { ActionManager::ProcessClick(&view, Vector3d::Zero()); }
+    void MoveMouse() { ActionManager::ProcessMouseMove(&view, Vector3d::Zero()); }
+    void PressEscape() { ActionManager::ProcessEscape(&view); }
+    void TypeValue() { ActionManager::ProcessViewInput(&view, {}); }
+
+    /// The position of an entry of the log; past the end when it is not there.
+    std::ptrdiff_t At(const std::string& entry) const
+    {
+        return std::find(log.begin(), log.end(), entry) - log.begin();
+    }
+
+    bool Has(const std::string& entry) const
+    {
+        return std::find(log.begin(), log.end(), entry) != log.end();
+    }
+
+    static bool HasRecord(const std::string& line)
+    {
+        const std::vector<std::string> lines = JournalManager::GetInstance().GetLastLines();
+        return std::find(lines.begin(), lines.end(), line) != lines.end();
+    }
+
+    Log log;
+    std::map<std::string, ActionScript> scripts;
+    std::map<std::string, bool> isDisabled;
+    RecordingView view{1};
+    ScriptedLoop loop;
+    CountingApplication application;
+
+private:
+    void Add(const std::string& name, Command::Kind kind, Command::Execution execute)
+    {
+        ICommandManager::Get()->AddCommand(
+            MakeOwner<Command>(std::wstring(name.begin(), name.end()), kind, std::move(execute),
+                               [this, name] { return !isDisabled[name]; }));
+    }
+
+    HostCore m_core;
+};
+
+}

@@ -1,0 +1,255 @@
+#include "Host/Command/ActionFixture.h"
+
+#include "Command/IActionManager.h"
+#include "Dimension/TemporaryDimensionMgr.h"
+
+#include <QtTest>
+
+#include <memory>
+
+namespace vesk
+{
+
+using Input = std::function<void(ActionFixture&)>;
+
+}
+
+Q_DECLARE_METATYPE(vesk::Input)
+
+namespace vesk
+{
+
+namespace
+{
+
+void AddInputRows()
+{
+    QTest::addColumn<Input>("input");
+    QTest::addColumn<QString>("entry");
+    QTest::newRow("click") << Input(&ActionFixture::Click) << "Line.click";
+    QTest::newRow("move") << Input(&ActionFixture::MoveMouse) << "Line.move";
+    QTest::newRow("typed value") << Input(&ActionFixture::TypeValue) << "Line.input";
+    QTest::newRow("escape") << Input(&ActionFixture::PressEscape) << "Line.escape";
+}
+
+}
+
+/// What the view hands to the running action, and when the action ends of it.
+class ActionInputTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void inputReachesTheRunningAction_data() { AddInputRows(); }
+    void inputReachesTheRunningAction();
+    void inputWithoutAnActionDoesNothing_data() { AddInputRows(); }
+    void inputWithoutAnActionDoesNothing();
+    void anActionThatIsFinishedEnds_data() { AddInputRows(); }
+    void anActionThatIsFinishedEnds();
+    void anActionThatIsToEndTakesNothingMore_data() { AddInputRows(); }
+    void anActionThatIsToEndTakesNothingMore();
+    void escapeDropsLocksFirst();
+    void escapeEndsAnActionWithoutLocks();
+    void clicksForTheNextCommandGoToIt();
+    void anEscapeForTheNextCommandEndsIt();
+    void clicksAfterTheLastActionAreLost();
+    void clicksDoNotWaitForACommandThatIsChosenLater();
+    void theTypedTextIsThereWhileItsValueIsDelivered();
+    void theInputMayBelongToAHandlerThatIsDropped();
+};
+
+void ActionInputTest::inputReachesTheRunningAction()
+{
+    QFETCH(Input, input);
+    QFETCH(QString, entry);
+    ActionFixture f;
+    f.AddInteractive("Line");
+    f.loop.Post([&] { input(f); });
+
+    f.Choose("Line");
+
+    QVERIFY(f.Has(entry.toStdString()));
+}
+
+void ActionInputTest::inputWithoutAnActionDoesNothing()
+{
+    QFETCH(Input, input);
+    ActionFixture f;
+
+    input(f);
+
+    QVERIFY(f.log.empty());
+    QCOMPARE(f.application.GetPostCount(), 0);
+}
+
+void ActionInputTest::anActionThatIsFinishedEnds()
+{
+    QFETCH(Input, input);
+    ActionFixture f;
+    f.AddInteractive("Line");
+    f.scripts["Line"].hasLocks = true;
+    f.loop.Post([&] {
+        f.scripts["Line"].isFinished = true;
+        input(f);
+    });
+    f.loop.Post([&f] { f.log.push_back("later event"); });
+
+    f.Choose("Line");
+
+    QVERIFY(f.Has("Line.end"));
+    QVERIFY(!f.Has("later event"));
+}
+
+void ActionInputTest::anActionThatIsToEndTakesNothingMore()
+{
+    QFETCH(Input, input);
+    QFETCH(QString, entry);
+    ActionFixture f;
+    f.AddInteractive("Line");
+    f.loop.Post([&] {
+        ActionManager::Reset();
+        input(f);
+    });
+
+    f.Choose("Line");
+
+    QVERIFY(!f.Has(entry.toStdString()));
+    QVERIFY(f.Has("Line.end"));
+}
+
+void ActionInputTest::escapeDropsLocksFirst()
+{
+    ActionFixture f;
+    f.AddInteractive("Line");
+    f.scripts["Line"].hasLocks = true;
+    f.loop.Post([&f] { f.PressEscape(); });
+    f.loop.Post([&f] { f.Click(); });
+
+    f.Choose("Line");
+
+    QVERIFY(f.log == (Log{"Line.begin", "Line.escape", "Line.click", "Line.end", "Line.delete"}));
+}
+
+void ActionInputTest::escapeEndsAnActionWithoutLocks()
+{
+    ActionFixture f;
+    f.AddInteractive("Line");
+    f.loop.Post([&f] { f.PressEscape(); });
+    f.loop.Post([&f] { f.Click(); });
+
+    f.Choose("Line");
+
+    QVERIFY(f.log == (Log{"Line.begin", "Line.escape", "Line.end", "Line.delete"}));
+}
+
+void ActionInputTest::clicksForTheNextCommandGoToIt()
+{
+    ActionFixture f;
+    f.AddInteractive("Line");
+    f.AddInteractive("Arc");
+    f.loop.Post([&f] {
+        f.Choose("Arc");
+        f.Click();
+        f.Click();
+    });
+
+    f.Choose("Line");
+
+    QVERIFY(f.log == (Log{"Line.begin", "Line.end", "Line.delete", "Arc.begin", "Arc.click",
+                          "Arc.click", "Arc.end", "Arc.delete"}));
+}
+
+void ActionInputTest::anEscapeForTheNextCommandEndsIt()
+{
+    ActionFixture f;
+    f.AddInteractive("Line");
+    f.AddInteractive("Arc");
+    f.loop.Post([&f] {
+        f.Choose("Arc");
+        f.PressEscape();
+        f.Click();
+    });
+
+    f.Choose("Line");
+
+    QVERIFY(f.log == (Log{"Line.begin", "Line.end", "Line.delete", "Arc.begin", "Arc.escape",
+                          "Arc.end", "Arc.delete"}));
+    QCOMPARE(f.loop.GetRunCount(), 1);
+}
+
+void ActionInputTest::clicksAfterTheLastActionAreLost()
+{
+    ActionFixture f;
+    f.AddInteractive("Line");
+    f.loop.Post([&f] {
+        f.PressEscape();
+        f.Click();
+    });
+
+    f.Choose("Line");
+    f.Choose("Line");
+
+    QVERIFY(!f.Has("Line.click"));
+}
+
+void ActionInputTest::clicksDoNotWaitForACommandThatIsChosenLater()
+{
+    ActionFixture f;
+    f.AddInteractive("Line");
+    f.AddPlain("Undo");
+    f.loop.Post([&f] {
+        f.ChooseInMenu("Undo");
+        f.Click();
+    });
+
+    f.Choose("Line");
+    f.Choose("Line");
+
+    QVERIFY(!f.Has("Line.click"));
+}
+
+void ActionInputTest::theTypedTextIsThereWhileItsValueIsDelivered()
+{
+    TemporaryDimensionMgr& dimensions = *TemporaryDimensionMgr::GetInstance();
+    ActionFixture f;
+    f.AddInteractive("Line");
+    TypedValue seen;
+    f.scripts["Line"].onViewInput = [&](const ActionViewInput&) {
+        seen = dimensions.GetTypedValue();
+    };
+    f.loop.Post([&] {
+        dimensions.SetTypedValue({L"12.5", true});
+        f.TypeValue();
+    });
+
+    f.Choose("Line");
+
+    QCOMPARE(seen.text, std::wstring(L"12.5"));
+    QVERIFY(seen.isUnchanged);
+    QVERIFY(dimensions.GetTypedValue().text.empty());
+    QVERIFY(!dimensions.GetTypedValue().isUnchanged);
+}
+
+void ActionInputTest::theInputMayBelongToAHandlerThatIsDropped()
+{
+    ActionFixture f;
+    f.AddInteractive("Line");
+    auto pInput = std::make_unique<ActionViewInput>();
+    pInput->text = L"a text that is too long to be kept in the string itself";
+    const std::wstring text = pInput->text;
+    std::wstring seen;
+    f.scripts["Line"].onViewInput = [&](const ActionViewInput& input) {
+        pInput.reset();
+        seen = input.text;
+    };
+    f.loop.Post([&] { ActionManager::ProcessViewInput(&f.view, *pInput); });
+
+    f.Choose("Line");
+
+    QCOMPARE(seen, text);
+}
+
+}
+
+QTEST_APPLESS_MAIN(vesk::ActionInputTest)
+#include "ActionInputTest.moc"
