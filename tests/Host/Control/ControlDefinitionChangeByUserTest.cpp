@@ -51,8 +51,11 @@ void ControlDefinitionChangeByUserTest::scopesOfDifferentIdsNest()
     const ControlDefinitionChangeByUser outer(L"a");
     {
         const ControlDefinitionChangeByUser inner(L"b");
+        const ControlDefinitionChangeByUser innermost(L"c");
         QVERIFY(IsMarked(L"a"));
         QVERIFY(IsMarked(L"b"));
+        QVERIFY(IsMarked(L"c"));
+        QVERIFY(!IsMarked(L"d"));
     }
 
     QVERIFY(IsMarked(L"a"));

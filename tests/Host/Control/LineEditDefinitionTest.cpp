@@ -79,6 +79,7 @@ private slots:
     void aSelectionRaisesOneEvent();
     void anEqualSelectionRaisesNone();
     void aSelectionThatIsTheSameOnceCutRaisesNone();
+    void anotherLengthFromTheSameStartRaisesOneEvent();
     void theSameTextSelectedElsewhereRaisesOneEvent();
     void droppingTheSelectionRaisesOneEvent();
     void selectingNothingWhereNothingIsSelectedRaisesNone();
@@ -248,6 +249,17 @@ void LineEditDefinitionTest::aSelectionThatIsTheSameOnceCutRaisesNone()
     f.pDefinition->SetSelection(1, 100);
 
     QCOMPARE(f.pRecorder->GetCount(), 1);
+}
+
+void LineEditDefinitionTest::anotherLengthFromTheSameStartRaisesOneEvent()
+{
+    const Fixture f(L"abc");
+    f.pDefinition->SetSelection(1, 1);
+
+    f.pDefinition->SetSelection(1, 2);
+
+    QCOMPARE(f.pRecorder->GetCount(), 2);
+    QCOMPARE(f.pDefinition->GetSelectedText(), std::wstring(L"bc"));
 }
 
 void LineEditDefinitionTest::theSameTextSelectedElsewhereRaisesOneEvent()

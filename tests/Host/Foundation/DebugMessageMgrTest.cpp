@@ -213,7 +213,8 @@ void DebugMessageMgrTest::noMessageForgesALine()
 
     Warn(1, message.toStdWString());
 
-    const QString line = QString::fromUtf8(log.Read()).chopped(1);
+    QString line = QString::fromUtf8(log.Read());
+    line.chop(1);
     const QRegularExpression lineEnd("[\\x{0A}-\\x{0D}\\x{1C}-\\x{1E}\\x{85}\\x{2028}\\x{2029}]");
     QVERIFY2(!line.contains(lineEnd), qPrintable(line));
     QCOMPARE(log.ReadRecords().value(0)["message"].toString(), message);

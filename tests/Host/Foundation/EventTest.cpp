@@ -117,6 +117,7 @@ private slots:
     void aHandlerSubscribedAgainWhileEmittingIsNotCalledTwice();
     void aHandlerMayEmitAgain();
     void unsubscribingInANestedEmissionHoldsForTheOuterOne();
+    void unsubscribingAnEarlierOneInANestedEmissionShiftsNothing();
     void aHandlerAddedWhileEmittingHearsANestedEmission();
     void destroyingTheEventEndsTheEmission();
     void destroyingTheEventInANestedEmissionEndsBoth();
@@ -301,6 +302,20 @@ void EventTest::unsubscribingInANestedEmissionHoldsForTheOuterOne()
     f.Emit();
 
     QCOMPARE(f.record, std::string("aabbab"));
+}
+
+void EventTest::unsubscribingAnEarlierOneInANestedEmissionShiftsNothing()
+{
+    Fixture f;
+    f.pEvent->Add(&f.d);
+    f.b.Then([&] {
+        f.pEvent->Delete(&f.a);
+        f.Emit();
+    });
+
+    f.Emit();
+
+    QCOMPARE(f.record, std::string("abbcdcd"));
 }
 
 void EventTest::aHandlerAddedWhileEmittingHearsANestedEmission()

@@ -109,6 +109,7 @@ void TextTest::aLoneSurrogateBecomesTheReplacement_data()
     QTest::newRow("high, then a letter") << std::u16string{0xD83D, u'a'} << replacement + "a";
     QTest::newRow("high, then a pair")
         << std::u16string{0xD83D, 0xD83D, 0xDE00} << replacement + "\xF0\x9F\x98\x80";
+    QTest::newRow("low twice") << std::u16string{0xDE00, 0xDE00} << replacement + replacement;
     QTest::newRow("low before high") << std::u16string{0xDE00, 0xD83D} << replacement + replacement;
 }
 
