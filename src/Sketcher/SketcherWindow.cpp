@@ -20,6 +20,12 @@
 
 using namespace vesk;
 
+/// The icons stand in a static library: somebody has to ask for them.
+static void LoadIcons()
+{
+    Q_INIT_RESOURCE(Sketcher);
+}
+
 namespace
 {
 
@@ -38,6 +44,7 @@ OwnerPtr<CommandButtonDefinition> MakeDefinition(const CommandEntry& entry)
 SketcherWindow::SketcherWindow(Sketch& sketch, DimensionInputController& input)
     : m_sketch(sketch), m_pView(new SketchView(sketch, input, this))
 {
+    LoadIcons();
     setWindowIcon(QIcon(QStringLiteral(":/icons/sketcher.svg")));
     SetDrawingView(m_pView);
     resize(1200, 800);

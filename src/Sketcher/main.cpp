@@ -5,7 +5,7 @@
 
 #include <algorithm>
 #include <iostream>
-#include <memory>
+#include <optional>
 #include <string>
 
 namespace
@@ -13,47 +13,63 @@ namespace
 
 constexpr int ExitUnusableOptions = 2;
 
-/// Help and version are asked for where there may be no display.
-bool NeedsDisplay(int argc, char** argv)
+/// Arguments of the toolkit ("-platform offscreen") are for QApplication to take out.
+bool HasToolkitArguments(int argc, char** argv)
 {
-    return std::none_of(argv, argv + argc, [](const std::string& argument) {
-        return argument == "--help" || argument == "-h" || argument == "--version" ||
-               argument == "-v";
+    return std::any_of(argv + 1, argv + argc, [](const std::string& argument) {
+        return argument.size() > 2 && argument[0] == '-' && argument[1] != '-';
     });
 }
 
-std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char** argv)
+/// The exit code of a run that needs no display, or nothing when the program is to run on.
+std::optional<int> Answer(const Options& options)
 {
-    QCoreApplication::setApplicationName(QStringLiteral("sketcher"));
-    QCoreApplication::setApplicationVersion(QStringLiteral(SKETCHER_VERSION));
-    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-    if (!NeedsDisplay(argc, argv))
-        return std::make_unique<QCoreApplication>(argc, argv);
-    return std::make_unique<QApplication>(argc, argv);
-}
-
-}
-
-int main(int argc, char** argv)
-{
-    const std::unique_ptr<QCoreApplication> pApplication = MakeApplication(argc, argv);
-    const Options options = ParseOptions(QCoreApplication::arguments());
     if (!options.error.isEmpty())
     {
         std::cerr << "sketcher: " << options.error.toStdString() << std::endl;
         return ExitUnusableOptions;
     }
     if (options.task == Options::Task::ShowHelp)
-    {
-        std::cout << options.help.toStdString();
-        return 0;
-    }
-    if (options.task == Options::Task::ShowVersion)
-    {
+        std::cout << options.help.toStdString() << std::flush;
+    else if (options.task == Options::Task::ShowVersion)
         std::cout << "sketcher " SKETCHER_VERSION << std::endl;
-        return 0;
-    }
+    else
+        return std::nullopt;
+    return 0;
+}
+
+/// Where no folder for the session's sockets is set, the toolkit makes one; that is nobody's concern.
+void PassMessage(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+    if (!message.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set")))
+        std::cerr << qFormatLogMessage(type, context, message).toStdString() << std::endl;
+}
+
+/// Answers before there is a display, where the arguments allow it.
+std::optional<int> AnswerEarly(int argc, char** argv)
+{
+    if (HasToolkitArguments(argc, argv))
+        return std::nullopt;
+    const QCoreApplication application(argc, argv);
+    return Answer(ParseOptions(QCoreApplication::arguments()));
+}
+
+}
+
+int main(int argc, char** argv)
+{
+    QCoreApplication::setApplicationName(QStringLiteral("sketcher"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(SKETCHER_VERSION));
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    qInstallMessageHandler(&PassMessage);
+    if (const std::optional<int> code = AnswerEarly(argc, argv))
+        return *code;
+
+    const QApplication application(argc, argv);
+    const Options options = ParseOptions(QCoreApplication::arguments());
+    if (const std::optional<int> code = Answer(options))
+        return *code;
     Session session(options);
     return session.Run();
 }

@@ -93,8 +93,8 @@ private slots:
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
         const QVector<DrawnLine> lines = ReadModel(m_pFixture->File("model"));
         QCOMPARE(lines.size(), 1);
-        QVERIFY(qAbs(lines[0].end[0] - 30.0) <= Tolerance);
-        QVERIFY(qAbs(lines[0].end[1] - 40.0) <= Tolerance);
+        QVERIFY(qAbs(lines[0].Way(0) - 30.0) <= Tolerance);
+        QVERIFY(qAbs(lines[0].Way(1) - 40.0) <= Tolerance);
     }
 
     void lengthTypedBeforeTheMouseMovedRunsAlongX()
@@ -123,7 +123,7 @@ private slots:
         QCOMPARE(lines.size(), 3);
         QCOMPARE(lines[1].start, lines[0].end);
         QCOMPARE(lines[2].start, lines[1].end);
-        QCOMPARE(lines[1].end[1], 20.0);
+        QCOMPARE(lines[1].Way(1), 20.0);
     }
 
     void refusedTextStaysSelectedUntilTheNextKey_data()
@@ -217,7 +217,7 @@ private slots:
         const QVector<DrawnLine> lines = ReadModel(m_pFixture->File("model"));
         QCOMPARE(lines.size(), 1);
         QVERIFY(qAbs(lines[0].Length() - 50.0) <= Tolerance);
-        QVERIFY(lines[0].end[0] < 0.0);
+        QVERIFY(lines[0].Way(0) < 0.0);
     }
 
     void mouseMovesLeaveTheTypedTextAlone()
@@ -232,7 +232,7 @@ private slots:
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
         const QVector<DrawnLine> lines = ReadModel(m_pFixture->File("model"));
         QCOMPARE(lines.size(), 1);
-        QVERIFY(qAbs(lines[0].end[1] + 42.125) <= Tolerance);
+        QVERIFY(qAbs(lines[0].Way(1) + 42.125) <= Tolerance);
     }
 
     void clickTakesWhatIsTyped()
@@ -244,7 +244,7 @@ private slots:
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
         const QVector<DrawnLine> lines = ReadModel(m_pFixture->File("model"));
         QCOMPARE(lines.size(), 1);
-        QVERIFY(qAbs(lines[0].end[1] - 25.0) <= Tolerance);
+        QVERIFY(qAbs(lines[0].Way(1) - 25.0) <= Tolerance);
     }
 
     void undoInsideTheActionGoesBackOneSegment()
@@ -258,7 +258,7 @@ private slots:
         const QVector<DrawnLine> lines = ReadModel(m_pFixture->File("model"));
         QCOMPARE(lines.size(), 2);
         QCOMPARE(lines[1].start, lines[0].end);
-        QCOMPARE(lines[1].end[1], 90.0);
+        QCOMPARE(lines[1].Way(0), 40.0);
     }
 
     void pickedLineIsErased()
@@ -271,7 +271,7 @@ private slots:
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
         const QVector<DrawnLine> lines = ReadModel(m_pFixture->File("model"));
         QCOMPARE(lines.size(), 1);
-        QCOMPARE(lines[0].end[1], 100.0);
+        QCOMPARE(lines[0].Way(1), 100.0);
     }
 
     void buttonIsCheckedWhileItsActionRuns()

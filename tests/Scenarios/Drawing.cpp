@@ -8,12 +8,12 @@
 
 double DrawnLine::Length() const
 {
-    return std::hypot(end[0] - start[0], end[1] - start[1], end[2] - start[2]);
+    return std::hypot(Way(0), Way(1), Way(2));
 }
 
 double DrawnLine::Angle() const
 {
-    return std::atan2(end[1] - start[1], end[0] - start[0]) * 180.0 / std::acos(-1.0);
+    return std::atan2(Way(1), Way(0)) * 180.0 / std::acos(-1.0);
 }
 
 QVector<DrawnLine> ReadModel(const QString& path)

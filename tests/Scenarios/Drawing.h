@@ -4,6 +4,7 @@
 #include <QVector>
 
 #include <array>
+#include <cstddef>
 
 /// A line of a model file.
 struct DrawnLine
@@ -11,6 +12,8 @@ struct DrawnLine
     std::array<double, 3> start;
     std::array<double, 3> end;
 
+    /// From start to end along an axis: 0 is x.
+    double Way(std::size_t axis) const { return end[axis] - start[axis]; }
     double Length() const;
 
     /// In degrees, above -180 up to 180.

@@ -5,6 +5,7 @@
 #include "SketcherWindow.h"
 
 #include <QApplication>
+#include <QMouseEvent>
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
@@ -37,16 +38,22 @@ QWidget* KeyboardTarget()
 
 ScriptedUser& ScriptedUser::Click(const QString& controlId)
 {
-    return Do([controlId] {
-        QToolButton* pButton = FindButton(controlId);
-        QVERIFY2(pButton != nullptr, qPrintable(controlId));
-        QTest::mouseClick(pButton, Qt::LeftButton);
+    Until([controlId] {
+        const QToolButton* pButton = FindButton(controlId);
+        return pButton != nullptr && pButton->isEnabled();
     });
+    return Do([controlId] { QTest::mouseClick(FindButton(controlId), Qt::LeftButton); });
 }
 
 ScriptedUser& ScriptedUser::MoveTo(double x, double y)
 {
-    return Do([x, y] { QTest::mouseMove(FindView(), PixelOf(*FindView(), x, y)); });
+    return Do([x, y] {
+        // Without a screen there is no pointer that could be moved.
+        const QPoint pixel = PixelOf(*FindView(), x, y);
+        QMouseEvent move(QEvent::MouseMove, pixel, FindView()->mapToGlobal(pixel), Qt::NoButton,
+                         Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(FindView(), &move);
+    });
 }
 
 ScriptedUser& ScriptedUser::ClickAt(double x, double y)

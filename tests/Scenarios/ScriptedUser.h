@@ -23,7 +23,7 @@ class ScriptedUser final : public QObject
     Q_OBJECT
 
 public:
-    /// Clicks the ribbon button with that id.
+    /// Clicks the ribbon button with that id, once it is enabled.
     ScriptedUser& Click(const QString& controlId);
 
     /// Moves the mouse to, or clicks at, a world point.
