@@ -1,0 +1,54 @@
+#include "Support/HostFixture.h"
+
+#include "Command/ActionManager.h"
+#include "Command/ICommandManager.h"
+#include "Control/ControlDefinitionChangeByUser.h"
+
+namespace vesk::test
+{
+
+HostFixture::HostFixture() : view(1, &window)
+{
+    core.GetViewManager().AddView(&view);
+}
+
+HostFixture::~HostFixture()
+{
+    ActionManager::Reset();
+    ActionManager::SetEventLoop(nullptr);
+    core.GetViewManager().RemoveView(&view);
+    LineEditTextChangeFlag::m_textChangeByUser = false;
+    RadioButtonGroupStateChangeFlag::m_stateChangeByUser = false;
+}
+
+Command* HostFixture::AddCommand(const std::wstring& id,
+                                 std::function<void(const CommandParameters&)> execute)
+{
+    auto opCommand = MakeOwner<Command>(
+        id, Command::Kind::Plain,
+        [execute = std::move(execute)](IUiView*, const CommandParameters& parameters) {
+            execute(parameters);
+            return OwnerPtr<IAction>();
+        });
+    Command* pCommand = opCommand.Get();
+    ICommandManager::Get()->AddCommand(std::move(opCommand));
+    return pCommand;
+}
+
+Command* HostFixture::AddInteractiveCommand(const std::wstring& id)
+{
+    auto opCommand = MakeOwner<Command>(id, Command::Kind::Interactive,
+                                        [this](IUiView*, const CommandParameters&) {
+                                            return OwnerPtr<IAction>(new TestAction(actionLog));
+                                        });
+    Command* pCommand = opCommand.Get();
+    ICommandManager::Get()->AddCommand(std::move(opCommand));
+    return pCommand;
+}
+
+void HostFixture::BeginAction()
+{
+    ActionManager::ProcessCommand(&view, AddInteractiveCommand(L"Test.Action"), {}, nullptr);
+}
+
+}

@@ -1,0 +1,15 @@
+#include "Support/TestAction.h"
+
+#include <utility>
+
+namespace vesk::test
+{
+
+void TestAction::OnViewInput(const ActionViewInput& input)
+{
+    m_log.inputs.push_back(input);
+    if (const auto onInput = std::exchange(m_log.onInput, nullptr))
+        onInput();
+}
+
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "Foundation/IApplication.h"
+
+#include <QObject>
+
+namespace vesk::test
+{
+
+/// An application that posts through Qt. Installed while it lives.
+class TestApplication final : public QObject, public IApplication
+{
+public:
+    TestApplication();
+    ~TestApplication() override;
+
+    void PostEvent(OwnerPtr<IApplicationEvent> opEvent) override;
+    IApplicationWindow* GetMainWindow() const override { return nullptr; }
+
+    /// How many events were posted that refresh the controls.
+    int GetStatusUpdateCount() const { return m_statusUpdateCount; }
+
+protected:
+    void customEvent(QEvent* pEvent) override;
+
+private:
+    IApplication* m_pPrevious;
+    int m_statusUpdateCount = 0;
+};
+
+}

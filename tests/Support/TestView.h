@@ -1,0 +1,49 @@
+#pragma once
+
+#include "View/IUiView.h"
+#include "View/ModelView.h"
+
+#include <QWidget>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace vesk::test
+{
+
+/// A drawing view that records what it is told.
+class TestView final : public QWidget, public IUiView
+{
+public:
+    TestView(std::uint32_t id, QWidget* pParent);
+
+    std::uint32_t GetId() const override { return m_id; }
+    WindowId GetWindowId() const override { return m_windowId; }
+    IModelView* GetModelView() const override { return m_hasModelView ? &m_modelView : nullptr; }
+    void SetViewText(const std::wstring& text) override { m_texts.push_back(text); }
+    void Activate() override {}
+
+    /// The host has the view painted again when its input is refreshed.
+    void Redraw() override;
+
+    ModelView& GetCamera() { return m_modelView; }
+    const std::vector<std::wstring>& GetTexts() const { return m_texts; }
+    int GetRedrawCount() const { return m_redrawCount; }
+
+    /// Called inside the next Redraw, once.
+    void SetOnRedraw(std::function<void()> onRedraw) { m_onRedraw = std::move(onRedraw); }
+    void SetHasModelView(bool hasModelView) { m_hasModelView = hasModelView; }
+    void SetWindowId(WindowId windowId) { m_windowId = windowId; }
+
+private:
+    std::uint32_t m_id;
+    WindowId m_windowId;
+    mutable ModelView m_modelView;
+    bool m_hasModelView = true;
+    std::vector<std::wstring> m_texts;
+    int m_redrawCount = 0;
+    std::function<void()> m_onRedraw;
+};
+
+}
