@@ -1,0 +1,166 @@
+#include "Control/CommandButtonDefinition.h"
+#include "Control/Control.h"
+#include "Control/LabelDefinition.h"
+#include "Control/LineEditDefinition.h"
+#include "Control/QtButton.h"
+#include "Control/QtLabel.h"
+#include "Control/QtLineEdit.h"
+#include "Control/VeskControlFactory.h"
+#include "Support/HostFixture.h"
+#include "Support/MemberAccess.h"
+
+#include <QtTest>
+
+#include <type_traits>
+
+namespace vesk::test
+{
+
+VESK_EXPOSE(ButtonDefinition, OwnerPtr<ICommandButtonDefinition>, QtButton, m_pControlDefinition)
+VESK_EXPOSE(LabelDefinitionMember, OwnerPtr<ILabelDefinition>, QtLabel, m_pControlDefinition)
+VESK_EXPOSE(LineEditDefinitionMember, OwnerPtr<ILineEditDefinition>, QtLineEdit,
+            m_pControlDefinition)
+VESK_EXPOSE(LineEditValidator, OwnerPtr<ValidatorBase>, QtLineEdit, m_pValidator)
+
+/// The host's libraries were compiled against these classes as they stand: bases, members and
+/// virtual operations have their places.
+class ControlLayoutTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void basesStandInOrder();
+    void theDefinitionIsTheFirstMember();
+    void theLineEditsValidatorFollowsItsDefinition();
+    void controlsHaveNoFurtherMembers();
+    void operationsOfAControlHaveTheirSlots();
+    void operationsOfAHandlerAndAnEventHaveTheirSlots();
+    void operationsOfADefinitionHaveTheirSlots();
+    void operationsOfTheFactoryHaveTheirSlots();
+    void theFactoryHasNoMembers();
+    void theBaseForOthersIsAbstractAndAddsNothing();
+};
+
+template <class Widget, class QtBase>
+void CheckBases(const Widget& widget)
+{
+    QCOMPARE(BaseOffsetIn<QtBase>(widget), std::ptrdiff_t(0));
+    QVERIFY(BaseOffsetIn<IControl>(widget) >= std::ptrdiff_t(sizeof(QtBase)));
+    QVERIFY(BaseOffsetIn<IControlDefinitionChangeEventHandler>(widget) >=
+            BaseOffsetIn<IControl>(widget) + std::ptrdiff_t(sizeof(IControl)));
+}
+
+template <class Widget, class Member>
+void CheckFirstMember(const Widget& widget, Member member)
+{
+    const std::ptrdiff_t basesEnd = BaseOffsetIn<IControlDefinitionChangeEventHandler>(widget) +
+                                    std::ptrdiff_t(sizeof(IControlDefinitionChangeEventHandler));
+    QCOMPARE(OffsetIn(widget, member), basesEnd);
+}
+
+void ControlLayoutTest::basesStandInOrder()
+{
+    HostFixture host;
+    const QtButton button(MakeOwner<CommandButtonDefinition>(L"id", L"command"), nullptr);
+    const QtLabel label(MakeOwner<LabelDefinition>(L"id"), nullptr);
+    const QtLineEdit edit(MakeOwner<LineEditDefinition>(L"id"), nullptr);
+
+    CheckBases<QtButton, QToolButton>(button);
+    CheckBases<QtLabel, QLabel>(label);
+    CheckBases<QtLineEdit, QLineEdit>(edit);
+}
+
+void ControlLayoutTest::theDefinitionIsTheFirstMember()
+{
+    HostFixture host;
+    const QtButton button(MakeOwner<CommandButtonDefinition>(L"id", L"command"), nullptr);
+    const QtLabel label(MakeOwner<LabelDefinition>(L"id"), nullptr);
+    const QtLineEdit edit(MakeOwner<LineEditDefinition>(L"id"), nullptr);
+
+    CheckFirstMember(button, MemberOf(ButtonDefinition()));
+    CheckFirstMember(label, MemberOf(LabelDefinitionMember()));
+    CheckFirstMember(edit, MemberOf(LineEditDefinitionMember()));
+}
+
+void ControlLayoutTest::theLineEditsValidatorFollowsItsDefinition()
+{
+    HostFixture host;
+    const QtLineEdit edit(MakeOwner<LineEditDefinition>(L"id"), nullptr);
+
+    QCOMPARE(OffsetIn(edit, MemberOf(LineEditValidator())),
+             OffsetIn(edit, MemberOf(LineEditDefinitionMember())) +
+                 std::ptrdiff_t(sizeof(OwnerPtr<ILineEditDefinition>)));
+}
+
+void ControlLayoutTest::controlsHaveNoFurtherMembers()
+{
+    constexpr std::size_t Interfaces =
+        sizeof(IControl) + sizeof(IControlDefinitionChangeEventHandler);
+    constexpr std::size_t Owner = sizeof(OwnerPtr<IControl>);
+
+    QCOMPARE(sizeof(QtButton), sizeof(QToolButton) + Interfaces + Owner);
+    QCOMPARE(sizeof(QtLabel), sizeof(QLabel) + Interfaces + Owner);
+    QCOMPARE(sizeof(QtLineEdit), sizeof(QLineEdit) + Interfaces + 2 * Owner);
+}
+
+void ControlLayoutTest::operationsOfAControlHaveTheirSlots()
+{
+    QVERIFY(std::has_virtual_destructor<IControl>::value);
+    QCOMPARE(SlotOf(&IControl::GetControlDefinition), std::ptrdiff_t(2));
+    QCOMPARE(SlotOf(&IControl::UpdateStatus), std::ptrdiff_t(3));
+}
+
+void ControlLayoutTest::operationsOfAHandlerAndAnEventHaveTheirSlots()
+{
+    QVERIFY(std::has_virtual_destructor<IControlDefinitionChangeEventHandler>::value);
+    QCOMPARE(SlotOf(&IControlDefinitionChangeEventHandler::On), std::ptrdiff_t(2));
+    QCOMPARE(SlotOf(&IControlDefinitionChangeEvent::Add) + 1,
+             SlotOf(&IControlDefinitionChangeEvent::Delete));
+    QCOMPARE(SlotOf(&IControlDefinitionChangeEventArgs::GetType) + 1,
+             SlotOf(&IControlDefinitionChangeEventArgs::GetIndex));
+}
+
+void ControlLayoutTest::operationsOfADefinitionHaveTheirSlots()
+{
+    QCOMPARE(SlotOf(&IControlDefinition::GetId), std::ptrdiff_t(2));
+    QCOMPARE(SlotOf(&IControlDefinition::GetCaption), std::ptrdiff_t(3));
+    QCOMPARE(SlotOf(&IControlDefinition::GetTooltip), std::ptrdiff_t(4));
+    QCOMPARE(SlotOf(&IControlDefinition::IsVisible), std::ptrdiff_t(5));
+    QCOMPARE(SlotOf(&IControlDefinition::IsEnabled), std::ptrdiff_t(6));
+    QCOMPARE(SlotOf(&ICommandButtonDefinition::GetCommandId), std::ptrdiff_t(7));
+    QCOMPARE(SlotOf(&ICommandButtonDefinition::IsChecked), std::ptrdiff_t(11));
+    QCOMPARE(SlotOf(&ILineEditDefinition::GetInputType), std::ptrdiff_t(7));
+    QCOMPARE(SlotOf(&ILineEditDefinition::GetLineEditEvent), std::ptrdiff_t(14));
+}
+
+void ControlLayoutTest::operationsOfTheFactoryHaveTheirSlots()
+{
+    QCOMPARE(SlotOf(&VeskIControlFactory::CreateQtButton), std::ptrdiff_t(2));
+    QCOMPARE(SlotOf(&VeskIControlFactory::CreateQtLineEdit), std::ptrdiff_t(3));
+    QCOMPARE(SlotOf(&VeskIControlFactory::CreateQtLabel), std::ptrdiff_t(4));
+    QCOMPARE(SlotOf(&VeskIControlFactory::CreateQtCommandButtonMenu), std::ptrdiff_t(5));
+    QCOMPARE(SlotOf(&VeskIControlFactory::CreateQtComboBox), std::ptrdiff_t(6));
+    QCOMPARE(SlotOf(&VeskIControlFactory::CreateQtProgressBar), std::ptrdiff_t(7));
+    QCOMPARE(SlotOf(&VeskIControlFactory::CreateQtRadioButtonGroup), std::ptrdiff_t(8));
+    QCOMPARE(SlotOf(&VeskIControlFactory::CreateQtCheckBoxGroup), std::ptrdiff_t(9));
+}
+
+void ControlLayoutTest::theFactoryHasNoMembers()
+{
+    QCOMPARE(sizeof(VeskControlFactory), sizeof(VeskIControlFactory));
+}
+
+void ControlLayoutTest::theBaseForOthersIsAbstractAndAddsNothing()
+{
+    QVERIFY((std::is_base_of<IControl, Control>::value));
+    QVERIFY(std::is_abstract<Control>::value);
+    QCOMPARE(sizeof(Control), sizeof(IControl));
+    QVERIFY(!(std::is_base_of<Control, QtButton>::value));
+    QVERIFY(!(std::is_base_of<Control, QtLabel>::value));
+    QVERIFY(!(std::is_base_of<Control, QtLineEdit>::value));
+}
+
+}
+
+QTEST_MAIN(vesk::test::ControlLayoutTest)
+#include "ControlLayoutTest.moc"

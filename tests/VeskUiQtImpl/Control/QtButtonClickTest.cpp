@@ -1,0 +1,212 @@
+#include "Control/QtButton.h"
+
+#include "Control/CommandButtonDefinition.h"
+#include "Control/ControlDefinitionChangeByUser.h"
+#include "ProcessCommandUtil.h"
+#include "Support/ChangeByUserFilter.h"
+#include "Support/HostFixture.h"
+
+#include <QAction>
+#include <QtTest>
+
+#include <vector>
+
+namespace vesk::test
+{
+
+/// A checkable command button; its definition tells what the user does, or keeps it to itself.
+struct ClickFixture
+{
+    explicit ClickFixture(bool isEchoing)
+    {
+        OwnerPtr<CommandButtonDefinition> opDefinition;
+        if (isEchoing)
+            opDefinition = MakeOwner<CommandButtonDefinition>(L"Button.Id", L"Test.Command");
+        else
+            opDefinition =
+                MakeOwner<Silent<CommandButtonDefinition>>(L"Button.Id", L"Test.Command");
+        pDefinition = opDefinition.Get();
+        opButton = MakeOwner<QtButton>(std::move(opDefinition), nullptr);
+        host.AddCommand(L"Test.Command", [this](const CommandParameters& parameters) {
+            calls.push_back(parameters);
+            if (onCommand)
+                onCommand();
+        });
+    }
+
+    HostFixture host;
+    CommandButtonDefinition* pDefinition;
+    OwnerPtr<QtButton> opButton;
+    std::vector<CommandParameters> calls;
+    std::function<void()> onCommand;
+};
+
+CommandParameters Clicked(bool isChecked)
+{
+    CommandParameters parameters;
+    parameters.Add(L"Clicked", CommandParameterValue(isChecked));
+    return parameters;
+}
+
+/// Notes of each change whether it was the user's.
+struct ChangeNotes final : IControlDefinitionChangeEventHandler
+{
+    void On(IControlDefinitionChangeEventArgs* pArgs) override
+    {
+        isByUser.push_back(pArgs->IsChangeByUser());
+    }
+
+    std::vector<bool> isByUser;
+};
+
+void AddEchoModes()
+{
+    QTest::addColumn<bool>("isEchoing");
+    QTest::newRow("echoing definition") << true;
+    QTest::newRow("silent definition") << false;
+}
+
+class QtButtonClickTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void sendsItsCommandWithTheNewState_data() { AddEchoModes(); }
+    void sendsItsCommandWithTheNewState();
+    void twoClicksSendTrueThenFalse_data() { AddEchoModes(); }
+    void twoClicksSendTrueThenFalse();
+    void isJournaledOnceWithItsParameters();
+    void writesTheStateAsTheUsersAndOnce();
+    void theUsersScopeIsClosedBeforeTheCommandRuns();
+    void theDefinitionIsCheckedBeforeTheCommandRuns();
+    void theLastCommandIsExecutedOnlyOutsideIt();
+    void refreshesTheControlsAfterwards();
+    void triggeringTheActionSendsNothing();
+    void clickAfterAStatusUpdateNegatesTheAction();
+};
+
+void QtButtonClickTest::sendsItsCommandWithTheNewState()
+{
+    QFETCH(bool, isEchoing);
+    ClickFixture f(isEchoing);
+
+    f.opButton->click();
+
+    QCOMPARE(f.calls.size(), std::size_t(1));
+    QVERIFY(f.calls[0] == Clicked(true));
+    QVERIFY(f.pDefinition->IsChecked());
+    QVERIFY(f.opButton->isChecked());
+    QVERIFY(f.opButton->defaultAction()->isChecked());
+}
+
+void QtButtonClickTest::twoClicksSendTrueThenFalse()
+{
+    QFETCH(bool, isEchoing);
+    ClickFixture f(isEchoing);
+
+    f.opButton->click();
+    f.opButton->click();
+
+    QCOMPARE(f.calls.size(), std::size_t(2));
+    QVERIFY(f.calls[0] == Clicked(true));
+    QVERIFY(f.calls[1] == Clicked(false));
+    QVERIFY(!f.pDefinition->IsChecked());
+}
+
+void QtButtonClickTest::isJournaledOnceWithItsParameters()
+{
+    ClickFixture f(true);
+
+    f.opButton->click();
+
+    QCOMPARE(f.host.journal.GetCommands().size(), std::size_t(1));
+    QCOMPARE(f.host.journal.GetCommands()[0].commandId, std::wstring(L"Test.Command"));
+    QVERIFY(f.host.journal.GetCommands()[0].parameters == Clicked(true));
+}
+
+void QtButtonClickTest::writesTheStateAsTheUsersAndOnce()
+{
+    ClickFixture f(true);
+    ChangeNotes notes;
+    f.pDefinition->GetControlDefinitionChangeEvent()->Add(&notes);
+
+    f.opButton->click();
+
+    QCOMPARE(notes.isByUser, std::vector<bool>{true});
+}
+
+void QtButtonClickTest::theUsersScopeIsClosedBeforeTheCommandRuns()
+{
+    ClickFixture f(true);
+    bool isByUser = true;
+    f.onCommand = [&] { isByUser = ControlDefinitionChangeByUser::IsChangeByUser(L"Button.Id"); };
+
+    f.opButton->click();
+
+    QVERIFY(!isByUser);
+}
+
+void QtButtonClickTest::theDefinitionIsCheckedBeforeTheCommandRuns()
+{
+    ClickFixture f(true);
+    bool isChecked = false;
+    f.onCommand = [&] { isChecked = f.pDefinition->IsChecked(); };
+
+    f.opButton->click();
+
+    QVERIFY(isChecked);
+}
+
+void QtButtonClickTest::theLastCommandIsExecutedOnlyOutsideIt()
+{
+    ClickFixture f(true);
+    bool isExecuted = true;
+    f.onCommand = [&] { isExecuted = ProcessCommandUtil::IsLastCommandExecuted(); };
+    QVERIFY(ProcessCommandUtil::IsLastCommandExecuted());
+
+    f.opButton->click();
+
+    QVERIFY(!isExecuted);
+    QVERIFY(ProcessCommandUtil::IsLastCommandExecuted());
+}
+
+void QtButtonClickTest::refreshesTheControlsAfterwards()
+{
+    ClickFixture f(true);
+    int countInside = -1;
+    f.onCommand = [&] { countInside = f.host.application.GetStatusUpdateCount(); };
+
+    f.opButton->click();
+
+    QCOMPARE(countInside, 0);
+    QCOMPARE(f.host.application.GetStatusUpdateCount(), 1);
+}
+
+void QtButtonClickTest::triggeringTheActionSendsNothing()
+{
+    ClickFixture f(true);
+
+    f.opButton->defaultAction()->trigger();
+
+    QVERIFY(f.calls.empty());
+}
+
+void QtButtonClickTest::clickAfterAStatusUpdateNegatesTheAction()
+{
+    ClickFixture f(false);
+    {
+        const ControlDefinitionChangeByUser untold(L"Button.Id");
+        f.pDefinition->SetChecked(true);
+    }
+    f.opButton->UpdateStatus();
+    QVERIFY(f.opButton->isChecked());
+
+    f.opButton->click();
+
+    QVERIFY(f.calls[0] == Clicked(true));
+}
+
+}
+
+QTEST_MAIN(vesk::test::QtButtonClickTest)
+#include "QtButtonClickTest.moc"

@@ -1,0 +1,486 @@
+#include "Control/QtLineEdit.h"
+
+#include "Control/LineEditDefinitions.h"
+#include "Support/ChangeByUserFilter.h"
+#include "Support/HostFixture.h"
+
+#include <QtTest>
+
+namespace vesk::test
+{
+
+/// Keeps the line-edit events, and what the definition says meanwhile.
+class LineEditEventNotes final : public ILineEditEventHandler
+{
+public:
+    explicit LineEditEventNotes(const LineEditDefinition& definition) : m_definition(definition)
+    {
+        definition.GetLineEditEvent()->Add(this);
+    }
+    ~LineEditEventNotes() override { m_definition.GetLineEditEvent()->Delete(this); }
+    LineEditEventNotes(const LineEditEventNotes&) = delete;
+    LineEditEventNotes& operator=(const LineEditEventNotes&) = delete;
+
+    void On(LineEditEventArgs* pArgs) override
+    {
+        events.push_back(*pArgs);
+        wasEditing = m_definition.IsEditing();
+        wasInUsersScope = ControlDefinitionChangeByUser::IsChangeByUser(m_definition.GetId());
+    }
+
+    std::vector<LineEditEventArgs> events;
+    bool wasEditing = true;
+    bool wasInUsersScope = false;
+
+private:
+    const LineEditDefinition& m_definition;
+};
+
+/// A shown line edit; its definition tells what the user does, or keeps it to itself.
+struct UserFixture
+{
+    explicit UserFixture(const std::wstring& text = L"", bool isEchoing = true)
+    {
+        OwnerPtr<NotingLineEditDefinition> opDefinition;
+        if (isEchoing)
+            opDefinition = MakeOwner<NotingLineEditDefinition>(L"Edit.Id");
+        else
+            opDefinition = MakeOwner<Silent<NotingLineEditDefinition>>(L"Edit.Id");
+        pDefinition = opDefinition.Get();
+        pDefinition->SetText(text);
+        pDefinition->writes.clear();
+        opEdit = MakeOwner<QtLineEdit>(std::move(opDefinition), &parent);
+        parent.show();
+    }
+
+    HostFixture host;
+    QWidget parent;
+    NotingLineEditDefinition* pDefinition;
+    OwnerPtr<QtLineEdit> opEdit;
+};
+
+/// A definition whose event is not the host's own.
+class ForeignEventDefinition final : public LineEditDefinition
+{
+public:
+    using LineEditDefinition::LineEditDefinition;
+
+    ILineEditEvent* GetLineEditEvent() const override { return &m_foreign; }
+
+private:
+    struct ForeignEvent final : ILineEditEvent
+    {
+        void Add(ILineEditEventHandler*) override {}
+        void Delete(ILineEditEventHandler*) override {}
+    };
+    mutable ForeignEvent m_foreign;
+};
+
+void AddEchoModes()
+{
+    QTest::addColumn<bool>("isEchoing");
+    QTest::newRow("echoing definition") << true;
+    QTest::newRow("silent definition") << false;
+}
+
+class QtLineEditUserTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void typingWritesTheTextOnceMarkedAsTheUsers_data() { AddEchoModes(); }
+    void typingWritesTheTextOnceMarkedAsTheUsers();
+    void typingStartsTheStateOfBeingEdited();
+    void theTextFlagLastsOnlyForTheKey();
+    void echoedUserEditKeepsTheCursor_data() { AddEchoModes(); }
+    void echoedUserEditKeepsTheCursor();
+    void echoedUserEditChangesTheTextOnce();
+    void typingOverASelectionGoesOnBehindIt_data() { AddEchoModes(); }
+    void typingOverASelectionGoesOnBehindIt();
+    void typingWritesTextBeyondTheBasicPlane();
+    void changeByProgramIsWrittenInAScopeWithoutTheFlag();
+    void undoIsWrittenToo();
+    void returnTellsTheEndOfEditingOnce();
+    void losingTheFocusTellsTheEndOfEditing();
+    void theEndOfEditingIsToldInTheUsersScope();
+    void foreignEventIsNotTold();
+    void selectingIsWrittenMarkedAsTheUsers_data() { AddEchoModes(); }
+    void selectingIsWrittenMarkedAsTheUsers();
+    void deselectingIsWritten();
+    void anEqualSelectionIsNotWritten();
+    void settingTheTextReachesWidgetAndDefinition();
+    void settingTheTextOfASilencedWidgetIsTheProgramsChange();
+    void settingAnEqualTextWritesNothing();
+    void clearingReachesWidgetAndDefinition();
+    void clearingAnEmptyWidgetEmptiesTheDefinition();
+    void clearingWhatIsEmptyWritesNothing();
+    void selectingAllReachesTheDefinition();
+    void holdsAValidatorOfItsOwn();
+    void writesThroughAReference();
+    void foreignDefinitionIsShownAndEditedButNotMarked();
+    void selectingInAForeignDefinitionIsReported();
+};
+
+void QtLineEditUserTest::typingWritesTheTextOnceMarkedAsTheUsers()
+{
+    QFETCH(bool, isEchoing);
+    UserFixture f(L"", isEchoing);
+
+    QTest::keyClick(f.opEdit.Get(), Qt::Key_7);
+
+    const std::vector<TextWrite> expected{{L"7", true, true}};
+    QVERIFY(f.pDefinition->writes == expected);
+    QCOMPARE(f.opEdit->text(), QString("7"));
+}
+
+void QtLineEditUserTest::typingStartsTheStateOfBeingEdited()
+{
+    UserFixture f;
+    QVERIFY(!f.pDefinition->IsEditing());
+
+    QTest::keyClick(f.opEdit.Get(), Qt::Key_7);
+
+    QVERIFY(f.pDefinition->IsEditing());
+}
+
+void QtLineEditUserTest::theTextFlagLastsOnlyForTheKey()
+{
+    UserFixture f;
+
+    QTest::keyClick(f.opEdit.Get(), Qt::Key_7);
+
+    QVERIFY(!LineEditTextChangeFlag::m_textChangeByUser);
+    QVERIFY(!ControlDefinitionChangeByUser::IsChangeByUser(L"Edit.Id"));
+}
+
+void QtLineEditUserTest::echoedUserEditKeepsTheCursor()
+{
+    QFETCH(bool, isEchoing);
+    UserFixture f(L"1234", isEchoing);
+    f.opEdit->setCursorPosition(2);
+
+    QTest::keyClicks(f.opEdit.Get(), "xy");
+
+    QCOMPARE(f.opEdit->text(), QString("12xy34"));
+    QCOMPARE(f.opEdit->cursorPosition(), 4);
+    QVERIFY(!f.opEdit->hasSelectedText());
+}
+
+void QtLineEditUserTest::echoedUserEditChangesTheTextOnce()
+{
+    UserFixture f(L"12");
+    const QSignalSpy changes(f.opEdit.Get(), &QLineEdit::textChanged);
+
+    QTest::keyClick(f.opEdit.Get(), Qt::Key_3);
+
+    QCOMPARE(changes.count(), 1);
+}
+
+void QtLineEditUserTest::typingOverASelectionGoesOnBehindIt()
+{
+    QFETCH(bool, isEchoing);
+    UserFixture f(L"abcdef", isEchoing);
+    f.opEdit->setSelection(0, 3);
+
+    QTest::keyClicks(f.opEdit.Get(), "xy");
+
+    QCOMPARE(f.opEdit->text(), QString("xydef"));
+    QCOMPARE(f.pDefinition->GetText(), std::wstring(L"xydef"));
+}
+
+void QtLineEditUserTest::typingWritesTextBeyondTheBasicPlane()
+{
+    UserFixture f;
+    const QString symbol = QString::fromUtf8("\xF0\x9F\x93\x90");
+    QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, symbol);
+
+    QCoreApplication::sendEvent(f.opEdit.Get(), &press);
+
+    QCOMPARE(f.pDefinition->GetText(), std::wstring(L"\U0001F4D0"));
+    QCOMPARE(f.opEdit->text(), symbol);
+}
+
+void QtLineEditUserTest::changeByProgramIsWrittenInAScopeWithoutTheFlag()
+{
+    UserFixture f;
+
+    f.opEdit->setText("by program");
+
+    const std::vector<TextWrite> expected{{L"by program", false, true}};
+    QVERIFY(f.pDefinition->writes == expected);
+    QVERIFY(!f.pDefinition->IsEditing());
+}
+
+void QtLineEditUserTest::undoIsWrittenToo()
+{
+    UserFixture f(L"12");
+    QTest::keyClick(f.opEdit.Get(), Qt::Key_3);
+
+    f.opEdit->undo();
+
+    QCOMPARE(f.opEdit->text(), QString("12"));
+    QCOMPARE(f.pDefinition->GetText(), std::wstring(L"12"));
+}
+
+void QtLineEditUserTest::returnTellsTheEndOfEditingOnce()
+{
+    UserFixture f;
+    LineEditEventNotes notes(*f.pDefinition);
+    QTest::keyClicks(f.opEdit.Get(), "42");
+
+    QTest::keyClick(f.opEdit.Get(), Qt::Key_Return);
+
+    QCOMPARE(notes.events.size(), std::size_t(1));
+    QCOMPARE(static_cast<int>(notes.events[0].GetType()), 0);
+    QCOMPARE(notes.events[0].GetId(), std::wstring(L"Edit.Id"));
+    QCOMPARE(notes.events[0].GetText(), std::wstring(L"42"));
+    QVERIFY(!f.pDefinition->IsEditing());
+}
+
+void QtLineEditUserTest::losingTheFocusTellsTheEndOfEditing()
+{
+    UserFixture f;
+    QLineEdit other(&f.parent);
+    other.show();
+    f.parent.activateWindow();
+    f.opEdit->setFocus();
+    QTRY_VERIFY(f.opEdit->hasFocus());
+    QTest::keyClicks(f.opEdit.Get(), "42");
+    LineEditEventNotes notes(*f.pDefinition);
+
+    other.setFocus();
+
+    QCOMPARE(notes.events.size(), std::size_t(1));
+    QVERIFY(!f.pDefinition->IsEditing());
+}
+
+void QtLineEditUserTest::theEndOfEditingIsToldInTheUsersScope()
+{
+    UserFixture f;
+    QTest::keyClicks(f.opEdit.Get(), "42");
+    LineEditEventNotes notes(*f.pDefinition);
+
+    QTest::keyClick(f.opEdit.Get(), Qt::Key_Return);
+
+    QVERIFY(!notes.wasEditing);
+    QVERIFY(notes.wasInUsersScope);
+    QVERIFY(!ControlDefinitionChangeByUser::IsChangeByUser(L"Edit.Id"));
+}
+
+void QtLineEditUserTest::foreignEventIsNotTold()
+{
+    HostFixture host;
+    auto opDefinition = MakeOwner<ForeignEventDefinition>(L"id");
+    const LineEditDefinition& definition = *opDefinition;
+    QtLineEdit edit(std::move(opDefinition), nullptr);
+    QTest::keyClick(&edit, Qt::Key_4);
+    QVERIFY(definition.IsEditing());
+
+    QTest::keyClick(&edit, Qt::Key_Return);
+
+    QVERIFY(!definition.IsEditing());
+}
+
+void QtLineEditUserTest::selectingIsWrittenMarkedAsTheUsers()
+{
+    QFETCH(bool, isEchoing);
+    UserFixture f(L"a\U0001F4D0cdef", isEchoing);
+    bool isByUser = false;
+    struct Notes final : IControlDefinitionChangeEventHandler
+    {
+        explicit Notes(bool& isMarked) : m_isMarked(isMarked) {}
+        void On(IControlDefinitionChangeEventArgs* pArgs) override
+        {
+            m_isMarked = pArgs->IsChangeByUser();
+        }
+        bool& m_isMarked;
+    } notes(isByUser);
+    f.pDefinition->LineEditDefinition::GetControlDefinitionChangeEvent()->Add(&notes);
+
+    f.opEdit->setSelection(1, 4);
+
+    QVERIFY(isByUser);
+    QCOMPARE(f.pDefinition->GetSelectionStart(), 1);
+    QCOMPARE(f.pDefinition->GetSelectedText(), std::wstring(L"\U0001F4D0cd"));
+    QCOMPARE(f.opEdit->selectionLength(), 4);
+}
+
+void QtLineEditUserTest::deselectingIsWritten()
+{
+    UserFixture f(L"abcdef");
+    f.opEdit->setSelection(1, 3);
+
+    f.opEdit->deselect();
+
+    QCOMPARE(f.pDefinition->GetSelectionStart(), -1);
+    QCOMPARE(f.pDefinition->GetSelectedText(), std::wstring());
+}
+
+void QtLineEditUserTest::anEqualSelectionIsNotWritten()
+{
+    UserFixture f(L"abcdef");
+    f.pDefinition->SetSelection(1, 3);
+    struct Notes final : IControlDefinitionChangeEventHandler
+    {
+        void On(IControlDefinitionChangeEventArgs*) override { ++count; }
+        int count = 0;
+    } notes;
+    f.pDefinition->GetControlDefinitionChangeEvent()->Add(&notes);
+
+    QMetaObject::invokeMethod(f.opEdit.Get(), "selectionChanged");
+
+    QCOMPARE(notes.count, 0);
+    QCOMPARE(f.opEdit->selectedText(), QString("bcd"));
+}
+
+void QtLineEditUserTest::settingTheTextReachesWidgetAndDefinition()
+{
+    UserFixture f(L"12");
+
+    f.opEdit->SetText(L"34");
+
+    const std::vector<TextWrite> expected{{L"34", false, true}};
+    QCOMPARE(f.opEdit->text(), QString("34"));
+    QVERIFY(f.pDefinition->writes == expected);
+}
+
+void QtLineEditUserTest::settingTheTextOfASilencedWidgetIsTheProgramsChange()
+{
+    UserFixture f(L"12");
+    const QSignalBlocker silence(f.opEdit.Get());
+
+    f.opEdit->SetText(L"34");
+
+    const std::vector<TextWrite> expected{{L"34", false, false}};
+    QCOMPARE(f.opEdit->text(), QString("34"));
+    QVERIFY(f.pDefinition->writes == expected);
+}
+
+void QtLineEditUserTest::settingAnEqualTextWritesNothing()
+{
+    UserFixture f(L"12");
+
+    f.opEdit->SetText(L"12");
+
+    QVERIFY(f.pDefinition->writes.empty());
+}
+
+void QtLineEditUserTest::clearingReachesWidgetAndDefinition()
+{
+    UserFixture f(L"12");
+
+    f.opEdit->Clear();
+
+    QCOMPARE(f.opEdit->text(), QString());
+    QCOMPARE(f.pDefinition->GetText(), std::wstring());
+    QCOMPARE(f.pDefinition->clearCount, 0);
+}
+
+void QtLineEditUserTest::clearingAnEmptyWidgetEmptiesTheDefinition()
+{
+    UserFixture f(L"12");
+    const QSignalBlocker silence(f.opEdit.Get());
+    f.opEdit->setText("");
+
+    f.opEdit->Clear();
+
+    QCOMPARE(f.pDefinition->GetText(), std::wstring());
+    QCOMPARE(f.pDefinition->clearCount, 1);
+}
+
+void QtLineEditUserTest::clearingWhatIsEmptyWritesNothing()
+{
+    UserFixture f;
+
+    f.opEdit->Clear();
+
+    QCOMPARE(f.pDefinition->clearCount, 0);
+    QVERIFY(f.pDefinition->writes.empty());
+}
+
+void QtLineEditUserTest::selectingAllReachesTheDefinition()
+{
+    UserFixture f(L"abc");
+
+    f.opEdit->SelectAll();
+
+    QCOMPARE(f.opEdit->selectedText(), QString("abc"));
+    QCOMPARE(f.pDefinition->GetSelectionStart(), 0);
+    QCOMPARE(f.pDefinition->GetSelectedText(), std::wstring(L"abc"));
+}
+
+void QtLineEditUserTest::holdsAValidatorOfItsOwn()
+{
+    UserFixture f;
+    bool isFirstDestroyed = false;
+    bool isSecondDestroyed = false;
+    auto opFirst = MakeOwner<NotingValidator>(isFirstDestroyed);
+    const ValidatorBase* pFirst = opFirst.Get();
+
+    f.opEdit->SetValidator(std::move(opFirst));
+    QCOMPARE(f.opEdit->GetValidator(), pFirst);
+    QVERIFY(f.pDefinition->GetValidator() == nullptr);
+
+    f.opEdit->SetValidator(MakeOwner<NotingValidator>(isSecondDestroyed));
+    QVERIFY(isFirstDestroyed);
+    QVERIFY(!isSecondDestroyed);
+
+    f.opEdit->SetValidator(nullptr);
+    QVERIFY(isSecondDestroyed);
+    QVERIFY(f.opEdit->GetValidator() == nullptr);
+}
+
+void QtLineEditUserTest::writesThroughAReference()
+{
+    HostFixture host;
+    LineEditDefinition target(L"target");
+    auto opEdit =
+        MakeOwner<QtLineEdit>(MakeOwner<LineEditDefinitionReference>(L"id", &target), nullptr);
+
+    QTest::keyClicks(opEdit.Get(), "abc");
+    opEdit->setSelection(1, 2);
+
+    QCOMPARE(target.GetText(), std::wstring(L"abc"));
+    QCOMPARE(target.GetSelectionStart(), 1);
+    QCOMPARE(target.GetSelectedText(), std::wstring(L"bc"));
+    QVERIFY(target.IsEditing());
+    QTest::keyClick(opEdit.Get(), Qt::Key_Return);
+    QVERIFY(!target.IsEditing());
+    opEdit.Reset();
+}
+
+void QtLineEditUserTest::foreignDefinitionIsShownAndEditedButNotMarked()
+{
+    HostFixture host;
+    auto opDefinition = MakeOwner<ForeignLineEditDefinition>(LineEditInputType::Text);
+    ForeignLineEditDefinition& definition = *opDefinition;
+    QtLineEdit edit(std::move(opDefinition), nullptr);
+    QCOMPARE(edit.text(), QString("foreign"));
+
+    QTest::keyClick(&edit, Qt::Key_7);
+    EXPECT_WARNING(host.warnings, L"类型不正确", "vesk::QtLineEdit::SetDefinitionIsEditing");
+    QCOMPARE(definition.GetText(), std::wstring(L"foreign7"));
+
+    QTest::keyClick(&edit, Qt::Key_Return);
+    EXPECT_WARNING(host.warnings, L"类型不正确", "vesk::QtLineEdit::SetDefinitionIsEditing");
+
+    definition.GetEvent().RaisePropertyChanged();
+    EXPECT_WARNING(host.warnings, L"类型不正确", "vesk::QtLineEdit::GetDefinitionSelectionStart");
+}
+
+void QtLineEditUserTest::selectingInAForeignDefinitionIsReported()
+{
+    HostFixture host;
+    QtLineEdit edit(MakeOwner<ForeignLineEditDefinition>(LineEditInputType::Text), nullptr);
+
+    edit.setSelection(0, 2);
+
+    EXPECT_WARNING(host.warnings, L"类型不正确", "vesk::QtLineEdit::GetDefinitionSelectionStart");
+    EXPECT_WARNING(host.warnings, L"类型不正确", "vesk::QtLineEdit::SetDefinitionSelection");
+    QCOMPARE(edit.selectedText(), QString("fo"));
+}
+
+}
+
+QTEST_MAIN(vesk::test::QtLineEditUserTest)
+#include "QtLineEditUserTest.moc"
