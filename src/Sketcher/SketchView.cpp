@@ -11,10 +11,17 @@ using vesk::Vector3d;
 namespace
 {
 
-/// The least power of ten whose steps are at least `pixels` apart.
+/// The least of 1, 2, 5, 10, 20 ... that is at least `pixels` wide.
 double GridStep(double worldPerPixel, double pixels)
 {
-    return std::pow(10.0, std::ceil(std::log10(worldPerPixel * pixels)));
+    const double least = worldPerPixel * pixels;
+    const double power = std::pow(10.0, std::floor(std::log10(least)));
+    for (const double factor : {1.0, 2.0, 5.0})
+    {
+        if (factor * power >= least)
+            return factor * power;
+    }
+    return 10.0 * power;
 }
 
 QColor Mix(const QColor& a, const QColor& b, double share)

@@ -1,0 +1,200 @@
+#include "HostUi/ControlHost.h"
+
+#include "Command/ActionManager.h"
+#include "Command/Command.h"
+#include "Command/IAction.h"
+#include "Command/ICommandManager.h"
+#include "Control/CommandButtonDefinition.h"
+#include "Control/ILabelDefinition.h"
+#include "Control/LabelDefinition.h"
+#include "HostCore.h"
+#include "HostUi/ControlLibrary.h"
+#include "HostUi/UiApplication.h"
+
+#include <QAbstractButton>
+#include <QEventLoop>
+#include <QLabel>
+#include <QPointer>
+#include <QTest>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include <memory>
+
+using namespace vesk;
+
+namespace
+{
+
+/// Goes on until it is ended.
+class IdleAction final : public IAction
+{
+public:
+    std::wstring GetViewText() const override { return {}; }
+    void OnBegin(IUiView*) override {}
+    void OnMouseMove(const Vector3d&) override {}
+    void OnClick(const Vector3d&) override {}
+    bool ReplayPoint(const Vector3d&, const std::optional<int>&) override { return false; }
+};
+
+OwnerPtr<IAction> Idle(IUiView*, const CommandParameters&)
+{
+    return MakeOwner<IdleAction>();
+}
+
+OwnerPtr<IAction> Nothing(IUiView*, const CommandParameters&)
+{
+    return nullptr;
+}
+
+}
+
+/// Controls in a window, made by the control library.
+class ControlHostTest final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_pHost = std::make_unique<HostCore>();
+        m_pApplication = std::make_unique<UiApplication>();
+        m_pLibrary = std::make_unique<ControlLibrary>();
+        QVERIFY2(m_pLibrary->IsLoaded(), qPrintable(m_pLibrary->GetError()));
+        m_pPanel = std::make_unique<QWidget>();
+        m_pPanel->setLayout(new QVBoxLayout);
+        m_pPanel->show();
+        m_pControls = std::make_unique<ControlHost>();
+    }
+
+    void cleanup()
+    {
+        ActionManager::Reset();
+        m_pControls.reset();
+        m_pPanel.reset();
+        m_pLibrary.reset();
+        m_pApplication.reset();
+        m_pHost.reset();
+    }
+
+    void controlIsShownOnceItIsPlaced()
+    {
+        auto opDefinition = MakeOwner<LabelDefinition>(L"Label");
+        LabelDefinition* pDefinition = opDefinition.Get();
+        pDefinition->SetVisible(false);
+
+        QWidget* pWidget = m_pControls->Create(std::move(opDefinition));
+        QVERIFY(pWidget != nullptr);
+        QVERIFY(!pWidget->isVisible());
+
+        m_pPanel->layout()->addWidget(pWidget);
+        pDefinition->SetVisible(true);
+        m_pControls->RefreshControls();
+        QTRY_VERIFY(pWidget->isVisible());
+        QVERIFY(!pWidget->isWindow());
+    }
+
+    void buttonFollowsItsCommand()
+    {
+        bool isEnabled = false;
+        AddCommand(L"Plain", Command::Kind::Plain, &Nothing, [&isEnabled] { return isEnabled; });
+        QAbstractButton* pButton = AddButton(L"Plain");
+        QVERIFY(!pButton->isEnabled());
+
+        isEnabled = true;
+        UpdateCtrlStatusEvent().Emit();
+
+        QVERIFY(pButton->isEnabled());
+    }
+
+    void buttonWithoutACommandIsHidden()
+    {
+        const QAbstractButton* pButton = AddButton(L"Unknown");
+
+        QVERIFY(pButton->isHidden());
+    }
+
+    void plainButtonIsUncheckedAfterItsCommand()
+    {
+        AddCommand(L"Plain", Command::Kind::Plain, &Nothing);
+        QAbstractButton* pButton = AddButton(L"Plain");
+
+        QTest::mouseClick(pButton, Qt::LeftButton);
+
+        QTRY_VERIFY(!pButton->isChecked());
+    }
+
+    void buttonIsCheckedWhileItsActionRuns()
+    {
+        AddCommand(L"Tool", Command::Kind::Interactive, &Idle);
+        QAbstractButton* pButton = AddButton(L"Tool");
+        bool wasChecked = false;
+        QTimer::singleShot(50, this, [pButton, &wasChecked] {
+            wasChecked = pButton->isChecked();
+            ActionManager::Reset();
+        });
+
+        QTest::mouseClick(pButton, Qt::LeftButton);
+
+        QVERIFY(wasChecked);
+        QTRY_VERIFY(!pButton->isChecked());
+    }
+
+    void removedControlDiesOnlyWhenNothingRuns()
+    {
+        AddCommand(L"Tool", Command::Kind::Interactive, &Idle);
+        const QPointer<QAbstractButton> pButton = AddButton(L"Tool");
+        bool livedInTheAction = false;
+        QTimer::singleShot(0, this, [this] { m_pControls->Remove(L"Tool"); });
+        QTimer::singleShot(150, this, [&] {
+            livedInTheAction = pButton != nullptr;
+            ActionManager::Reset();
+        });
+
+        // An event loop of its own, as that of a program: tests run in none.
+        QEventLoop outermost;
+        QTimer::singleShot(0, this, [pButton] { QTest::mouseClick(pButton, Qt::LeftButton); });
+        QTimer::singleShot(400, &outermost, &QEventLoop::quit);
+        outermost.exec();
+
+        QVERIFY(livedInTheAction);
+        QVERIFY(pButton == nullptr);
+    }
+
+    void unknownControlCannotBeRemoved()
+    {
+        AddCommand(L"Plain", Command::Kind::Plain, &Nothing);
+        QAbstractButton* pButton = AddButton(L"Plain");
+
+        m_pControls->Remove(L"Nobody");
+
+        QVERIFY(!pButton->isHidden());
+    }
+
+private:
+    static void AddCommand(const std::wstring& id, Command::Kind kind, Command::Execution execute,
+                           Command::Condition isEnabled = {})
+    {
+        ICommandManager::Get()->AddCommand(
+            MakeOwner<Command>(id, kind, std::move(execute), std::move(isEnabled)));
+    }
+
+    QAbstractButton* AddButton(const std::wstring& commandId)
+    {
+        auto opDefinition = MakeOwner<CommandButtonDefinition>(commandId, commandId);
+        opDefinition->SetVisible(false);
+        QWidget* pWidget = m_pControls->Create(std::move(opDefinition));
+        m_pPanel->layout()->addWidget(pWidget);
+        m_pControls->RefreshControls();
+        return qobject_cast<QAbstractButton*>(pWidget);
+    }
+
+    std::unique_ptr<HostCore> m_pHost;
+    std::unique_ptr<UiApplication> m_pApplication;
+    std::unique_ptr<ControlLibrary> m_pLibrary;
+    std::unique_ptr<QWidget> m_pPanel;
+    std::unique_ptr<ControlHost> m_pControls;
+};
+
+QTEST_MAIN(ControlHostTest)
+#include "ControlHostTest.moc"

@@ -1,0 +1,173 @@
+#include "HostUi/DrawingView.h"
+
+#include "HostCore.h"
+#include "HostUi/DimensionInputController.h"
+#include "HostUi/UiApplication.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QTest>
+#include <QVBoxLayout>
+#include <QWheelEvent>
+
+#include <memory>
+
+using namespace vesk;
+
+namespace
+{
+
+class PlainView final : public DrawingView
+{
+public:
+    using DrawingView::DrawingView;
+
+protected:
+    void PaintModel(QPainter&) override {}
+};
+
+void SendMouse(QWidget& widget, QEvent::Type type, QPointF position, Qt::MouseButton button)
+{
+    QMouseEvent event(type, position, button, button, Qt::NoModifier);
+    QCoreApplication::sendEvent(&widget, &event);
+}
+
+void Turn(QWidget& widget, QPointF position, int angle)
+{
+    QWheelEvent event(position, widget.mapToGlobal(position.toPoint()), QPoint(), QPoint(0, angle),
+                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&widget, &event);
+}
+
+}
+
+/// A view in a window beside a line edit.
+class DrawingViewTest final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_pHost = std::make_unique<HostCore>();
+        m_pApplication = std::make_unique<UiApplication>();
+        m_pInput = std::make_unique<DimensionInputController>();
+        m_pWindow = std::make_unique<QWidget>();
+        m_pView = new PlainView(7, *m_pInput, m_pWindow.get());
+        m_pEdit = new QLineEdit(m_pWindow.get());
+        auto* pLayout = new QVBoxLayout(m_pWindow.get());
+        pLayout->addWidget(m_pView);
+        pLayout->addWidget(m_pEdit);
+        m_pHost->GetViewManager().AddView(m_pView);
+        m_pWindow->resize(640, 480);
+        m_pWindow->show();
+        m_pWindow->activateWindow();
+        QVERIFY(QTest::qWaitForWindowExposed(m_pWindow.get()));
+    }
+
+    void cleanup()
+    {
+        m_pHost->GetViewManager().RemoveView(m_pView);
+        m_pWindow.reset();
+        m_pInput.reset();
+        m_pApplication.reset();
+        m_pHost.reset();
+    }
+
+    void hostFindsTheViewByItsWindow()
+    {
+        QCOMPARE(m_pView->GetId(), 7u);
+        QCOMPARE(QWidget::find(m_pView->GetWindowId()), static_cast<QWidget*>(m_pView));
+    }
+
+    void oneUnitIsOneDevicePixelAtFirst()
+    {
+        QCOMPARE(m_pView->GetCamera().GetWorldPerPixel(), m_pView->devicePixelRatioF());
+        QVERIFY(m_pView->GetCamera().GetCentre().isZero());
+    }
+
+    void originStaysInTheMiddleWhileTheViewIsLaidOut()
+    {
+        m_pWindow->resize(900, 700);
+        QCoreApplication::processEvents();
+
+        QCOMPARE(m_pView->GetCamera().GetWidth(), m_pView->width());
+        QVERIFY(m_pView->GetCamera().GetCentre().isZero());
+    }
+
+    void wheelZoomsAboutTheCursor()
+    {
+        const Vector3d before = m_pView->GetCamera().ScreenToWorld(100, 80);
+
+        Turn(*m_pView, {100, 80}, 480);
+
+        QCOMPARE(m_pView->GetCamera().GetWorldPerPixel(), 0.5 * m_pView->devicePixelRatioF());
+        const Vector3d after = m_pView->GetCamera().ScreenToWorld(100, 80);
+        QVERIFY((after - before).norm() < 1e-9);
+    }
+
+    void middleButtonPans()
+    {
+        SendMouse(*m_pView, QEvent::MouseButtonPress, {200, 200}, Qt::MiddleButton);
+        SendMouse(*m_pView, QEvent::MouseMove, {230, 190}, Qt::MiddleButton);
+        SendMouse(*m_pView, QEvent::MouseButtonRelease, {230, 190}, Qt::MiddleButton);
+        SendMouse(*m_pView, QEvent::MouseMove, {300, 300}, Qt::NoButton);
+
+        const double pixel = m_pView->GetCamera().GetWorldPerPixel();
+        const Vector3d centre = m_pView->GetCamera().GetCentre();
+        QVERIFY((centre - Vector3d(-30 * pixel, -10 * pixel, 0)).norm() < 1e-9);
+    }
+
+    void cursorIsToldInWorldCoordinates()
+    {
+        const QSignalSpy moves(m_pView, &DrawingView::cursorMoved);
+
+        SendMouse(*m_pView, QEvent::MouseMove, {50, 60}, Qt::NoButton);
+
+        const Vector3d world = m_pView->GetCamera().ScreenToWorld(50, 60);
+        QCOMPARE(moves.count(), 1);
+        QCOMPARE(moves[0][0].toDouble(), world.x());
+        QCOMPARE(moves[0][1].toDouble(), world.y());
+    }
+
+    void viewTextIsToldWhenItChanges()
+    {
+        const QSignalSpy texts(m_pView, &DrawingView::viewTextChanged);
+
+        m_pView->SetViewText(L"指定起点");
+        m_pView->SetViewText(L"指定起点");
+
+        QCOMPARE(texts.count(), 1);
+        QCOMPARE(m_pView->GetViewText(), QStringLiteral("指定起点"));
+    }
+
+    void tabLeavesTheViewWhileNothingRuns()
+    {
+        m_pView->setFocus();
+
+        QTest::keyClick(m_pView, Qt::Key_Tab);
+
+        QVERIFY(!m_pView->hasFocus());
+    }
+
+    void clickTakesTheKeyboard()
+    {
+        m_pEdit->setFocus();
+
+        QTest::mouseClick(m_pView, Qt::LeftButton);
+
+        QTRY_VERIFY(m_pView->hasFocus());
+    }
+
+private:
+    std::unique_ptr<HostCore> m_pHost;
+    std::unique_ptr<UiApplication> m_pApplication;
+    std::unique_ptr<DimensionInputController> m_pInput;
+    std::unique_ptr<QWidget> m_pWindow;
+    PlainView* m_pView = nullptr;
+    QLineEdit* m_pEdit = nullptr;
+};
+
+QTEST_MAIN(DrawingViewTest)
+#include "DrawingViewTest.moc"

@@ -1,0 +1,163 @@
+#include "HostUi/UiTreeWriter.h"
+
+#include "HostCore.h"
+#include "HostUi/DimensionInputController.h"
+#include "HostUi/UiApplication.h"
+
+#include <nlohmann/json.hpp>
+
+#include <QAction>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QFile>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+#include <memory>
+
+using namespace vesk;
+
+/// A window with a button that stands for a definition, and the file that tells of it.
+class UiTreeWriterTest final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_pHost = std::make_unique<HostCore>();
+        m_pApplication = std::make_unique<UiApplication>();
+        m_pInput = std::make_unique<DimensionInputController>();
+        m_pWindow = std::make_unique<QWidget>();
+        auto* pLayout = new QHBoxLayout(m_pWindow.get());
+        m_pButton = new QPushButton(QStringLiteral("直线"));
+        m_pButton->setObjectName(QStringLiteral("Line"));
+        m_pButton->setProperty("IsDefinition", true);
+        pLayout->addWidget(m_pButton);
+        pLayout->addWidget(new QLabel(QStringLiteral("not a definition")));
+        m_pWindow->show();
+        m_pWriter = std::make_unique<UiTreeWriter>(m_folder.filePath("ui"), *m_pInput,
+                                                   [this] { return m_entityCount; });
+    }
+
+    void cleanup()
+    {
+        m_pWriter.reset();
+        m_pWindow.reset();
+        m_pInput.reset();
+        m_pApplication.reset();
+        m_pHost.reset();
+    }
+
+    void onlyDefinitionsAreTold()
+    {
+        QVERIFY(m_pWriter->Write());
+
+        const nlohmann::json tree = Read();
+        QCOMPARE(tree["controls"].size(), std::size_t(1));
+        const nlohmann::json& control = tree["controls"][0];
+        QVERIFY(control["id"] == "Line");
+        QVERIFY(control["class"] == "QPushButton");
+        QVERIFY(control["text"] == "直线");
+        QVERIFY(control["visible"] == true);
+        QVERIFY(control["enabled"] == true);
+        QVERIFY(control["checked"].is_null());
+        const QPoint corner = m_pButton->mapToGlobal(QPoint(0, 0));
+        const nlohmann::json rect{corner.x(), corner.y(), m_pButton->width(), m_pButton->height()};
+        QVERIFY(control["rect"] == rect);
+        QVERIFY(tree["editor"].is_null());
+        QVERIFY(tree["action"].is_null());
+    }
+
+    void actionsHaveNoRectangle()
+    {
+        auto* pAction = new QAction(QStringLiteral("item"), m_pButton);
+        pAction->setProperty("IsDefinition", true);
+        pAction->setCheckable(true);
+
+        QVERIFY(m_pWriter->Write());
+
+        const nlohmann::json control = Read()["controls"][1];
+        QVERIFY(control["rect"].is_null());
+        QVERIFY(control["checked"] == false);
+        QVERIFY(control["id"] == "");
+    }
+
+    void hiddenAndDisabledControlsAreToldSo()
+    {
+        m_pButton->setEnabled(false);
+        m_pButton->hide();
+
+        QVERIFY(m_pWriter->Write());
+
+        QVERIFY(Read()["controls"][0]["visible"] == false);
+        QVERIFY(Read()["controls"][0]["enabled"] == false);
+    }
+
+    void changeIsWrittenWhenTheLoopIsIdle()
+    {
+        QVERIFY(m_pWriter->Write());
+
+        m_pButton->setText(QStringLiteral("changed"));
+
+        QTRY_COMPARE(QString::fromStdString(Read()["controls"][0]["text"]),
+                     QStringLiteral("changed"));
+    }
+
+    void changeIsWrittenWithinItsTimeInABusyNestedLoop()
+    {
+        QVERIFY(m_pWriter->Write());
+        QElapsedTimer sinceChange;
+        qint64 delay = -1;
+        QEventLoop nested;
+        QTimer busy;
+        connect(&busy, &QTimer::timeout, this, [&] {
+            QCoreApplication::postEvent(m_pButton, new QEvent(QEvent::UpdateLater));
+            if (delay < 0 && Read()["entities"] == 5)
+                delay = sinceChange.elapsed();
+        });
+        busy.start(0);
+        QTimer::singleShot(20, this, [&] {
+            sinceChange.start();
+            m_entityCount = 5;
+        });
+        QTimer::singleShot(600, &nested, &QEventLoop::quit);
+
+        nested.exec();
+
+        QVERIFY(delay >= 0);
+        QVERIFY2(delay <= 200, qPrintable(QString::number(delay)));
+    }
+
+    void fileThatCannotBeWrittenIsToldSo()
+    {
+        UiTreeWriter writer(QStringLiteral("/nonexistent/ui"), *m_pInput, [] { return 0; });
+
+        QVERIFY(!writer.Write());
+    }
+
+private:
+    nlohmann::json Read() const
+    {
+        QFile file(m_folder.filePath("ui"));
+        if (!file.open(QIODevice::ReadOnly))
+            return {};
+        return nlohmann::json::parse(file.readAll().toStdString());
+    }
+
+    QTemporaryDir m_folder;
+    int m_entityCount = 0;
+    std::unique_ptr<HostCore> m_pHost;
+    std::unique_ptr<UiApplication> m_pApplication;
+    std::unique_ptr<DimensionInputController> m_pInput;
+    std::unique_ptr<QWidget> m_pWindow;
+    QPushButton* m_pButton = nullptr;
+    std::unique_ptr<UiTreeWriter> m_pWriter;
+};
+
+QTEST_MAIN(UiTreeWriterTest)
+#include "UiTreeWriterTest.moc"
