@@ -107,7 +107,7 @@ KeyTipList keyTipsOfTabs(const RibbonBar& bar)
         KeyTip tip;
         tip.tab = i;
         tip.wish = mnemonicOf(bar.page(i)->title());
-        tip.centre = QPoint(bar.tabRect(i).center().x(), bar.tabRect(i).bottom() - 4);
+        tip.centre = QPoint(bar.tabRect(i).center().x(), bar.tabRect(i).bottom() + 3);
         tips.push_back(tip);
     }
     assignKeys(tips);

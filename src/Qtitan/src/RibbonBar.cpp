@@ -86,11 +86,6 @@ QRect RibbonBar::tabRect(int index) const
     return rect.isEmpty() ? QRect() : rect.translated(m_pTabs->pos());
 }
 
-QSize RibbonBar::minimumSizeHint() const
-{
-    return QSize(m_pTabs->minimumSizeHint().width(), QWidget::minimumSizeHint().height());
-}
-
 void RibbonBar::paintEvent(QPaintEvent*)
 {
     const RibbonColors colors(palette());

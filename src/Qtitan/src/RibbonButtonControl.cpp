@@ -34,12 +34,10 @@ void RibbonButtonControl::setWidget(QToolButton* pButton)
     m_pButton = pButton;
     if (pButton != nullptr)
     {
-        const bool isWanted = takesRoom(pButton, pButton->parentWidget());
         pButton->setParent(this);
         pButton->setIconSize(QSize(RibbonMetrics::LargeIcon, RibbonMetrics::LargeIcon));
         pButton->installEventFilter(this);
         pButton->setGeometry(rect());
-        pButton->setVisible(isWanted);
     }
     followButton();
     updateGeometry();

@@ -54,8 +54,6 @@ public:
     /// The tab of a page in this widget's coordinates; empty when there is no such page.
     QRect tabRect(int index) const;
 
-    QSize minimumSizeHint() const override;
-
 signals:
     /// The current page is another one, or has another index; -1 when the last page went.
     void currentPageChanged(int index);
