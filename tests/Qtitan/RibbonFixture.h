@@ -16,16 +16,18 @@
 #include <algorithm>
 #include <memory>
 
-/// A view that takes the focus and every key, and remembers the keys that were pressed.
+/// A view that takes the focus and every key, and remembers which came.
 class KeyRecorder final : public QWidget
 {
 public:
     explicit KeyRecorder(QWidget* pParent) : QWidget(pParent) { setFocusPolicy(Qt::StrongFocus); }
 
     QList<int> pressedKeys;
+    QList<int> releasedKeys;
 
 protected:
     void keyPressEvent(QKeyEvent* pEvent) override { pressedKeys.append(pEvent->key()); }
+    void keyReleaseEvent(QKeyEvent* pEvent) override { releasedKeys.append(pEvent->key()); }
 };
 
 /// Text and icon live on an action, as with the buttons that the host places.

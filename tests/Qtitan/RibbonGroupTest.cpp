@@ -70,6 +70,22 @@ private slots:
         QTRY_COMPARE(pNew->mapTo(f.pGroup, QPoint()), place);
     }
 
+    void widgetThatWentToAnotherParentGivesItsRowUp()
+    {
+        RibbonFixture f;
+        auto* pGone = new QLineEdit;
+        auto* pNext = new QLineEdit;
+        f.pGroup->addWidget("长度", pGone);
+        f.pGroup->addWidget("角度", pNext);
+        f.show();
+        const int top = pGone->mapTo(f.pGroup, QPoint()).y();
+
+        pGone->setParent(f.pView);
+
+        QVERIFY(!labelOf(f, pGone)->isVisible());
+        QTRY_COMPARE(pNext->mapTo(f.pGroup, QPoint()).y(), top);
+    }
+
     void labelNamesItsWidget()
     {
         RibbonFixture f;
@@ -108,6 +124,23 @@ private slots:
         pButton->show();
 
         QVERIFY(f.pGroup->isVisible());
+    }
+
+    void groupAddedToAShownPageWaitsForAControl()
+    {
+        RibbonFixture f;
+        f.addButton("直线");
+        f.show();
+        QToolButton* pButton = createButton("浏览器");
+        pButton->hide();
+
+        RibbonGroup* pGroup = f.pPage->addGroup("窗格");
+        pGroup->addButton(pButton);
+        QCoreApplication::processEvents();
+        QVERIFY(!pGroup->isVisible());
+        pButton->show();
+
+        QVERIFY(pGroup->isVisible());
     }
 
     void groupHiddenByItsOwnerStaysHidden()

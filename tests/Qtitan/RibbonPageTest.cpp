@@ -89,6 +89,17 @@ private slots:
             QTest::mouseClick(pArrow, Qt::LeftButton);
 
         QTRY_VERIFY(f.isLastWhole());
+    }
+
+    void clickOnAnArrowLeavesTheFocusInTheView()
+    {
+        const PageFixture f(250);
+        const QToolButton* pArrow = f.arrow(Qt::RightArrow);
+
+        const QPoint centre = pArrow->mapTo(f.window.get(), pArrow->rect().center());
+        QTest::mousePress(f.window->windowHandle(), Qt::LeftButton, Qt::NoModifier, centre);
+
+        QVERIFY(pArrow->isDown());
         QCOMPARE(QApplication::focusWidget(), f.pView);
     }
 
