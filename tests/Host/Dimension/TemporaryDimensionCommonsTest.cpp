@@ -1,0 +1,342 @@
+#include "Dimension/TemporaryDimensionCommons.h"
+
+#include "Dimension/TemporaryDimensionData.h"
+#include "Dimension/TemporaryDimensionMgr.h"
+#include "Dimension/TemporaryDimensionStyle.h"
+#include "Graphics/IGraphicsNode.h"
+#include "Host/Dimension/DrawnNodes.h"
+
+#include <QtTest>
+
+#include <cmath>
+#include <limits>
+
+namespace vesk
+{
+
+namespace
+{
+
+/// A segment and what is generated for it. There is no view.
+struct Fixture
+{
+    OwnerPtr<IGraphicsNodeGroup> MakeLength(InputState state = InputState::IS_None)
+    {
+        return TemporaryDimensionCommons::GenerateLengthDimension(start, end, coordinate, state,
+                                                                  style, pixel, data);
+    }
+
+    OwnerPtr<IGraphicsNodeGroup> MakeAngle(InputState state = InputState::IS_None)
+    {
+        return TemporaryDimensionCommons::GenerateAngleDimension(start, end, coordinate, state,
+                                                                 style, pixel, data);
+    }
+
+    Coordinate3d coordinate;
+    Vector3d start{0, 0, 0};
+    Vector3d end{100, 0, 0};
+    TemporaryDimensionStyle style;
+    double pixel = 1.0;
+    TemporaryDimensionData data;
+};
+
+constexpr double s_degree = 3.14159265358979323846 / 180;
+
+}
+
+class TemporaryDimensionCommonsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup() { TemporaryDimensionMgr::GetInstance()->Drop(); }
+
+    void theLengthIsTheDistance();
+    void theDimensionLineRunsBesideTheSegment();
+    void extensionLinesLeaveAGapAndOvershoot();
+    void arrowsPointAtTheEndsOfTheDimensionLine();
+    void theLengthStandsOffTheArc_data();
+    void theLengthStandsOffTheArc();
+    void theSizeIsConstantInPixels();
+    void theAngleRunsFromMinus180Above180_data();
+    void theAngleRunsFromMinus180Above180();
+    void theArcRunsFromTheXAxisToTheSegment();
+    void theArcOfAShortSegmentIsSmaller();
+    void anAngleOfZeroHasNoArc();
+    void theTextStandsAtItsPosition();
+    void theTextIsLeftOutWhileItIsTyped_data();
+    void theTextIsLeftOutWhileItIsTyped();
+    void aLockedDimensionShowsIt();
+    void dimensionsStandInThePlaneOfTheCoordinateSystem();
+    void whatIsNoSegmentHasNoGraphics_data();
+    void whatIsNoSegmentHasNoGraphics();
+    void aPixelWithoutAWidthCountsAsOne();
+};
+
+void TemporaryDimensionCommonsTest::theLengthIsTheDistance()
+{
+    Fixture f;
+    f.start = {1, 2, 0};
+    f.end = {4, 6, 0};
+
+    f.MakeLength();
+
+    QCOMPARE(f.data[InputState::IS_Length].value, 5.0);
+    QCOMPARE(f.data[InputState::IS_Angle].value, 0.0);
+}
+
+void TemporaryDimensionCommonsTest::theDimensionLineRunsBesideTheSegment()
+{
+    Fixture f;
+
+    const OwnerPtr<IGraphicsNodeGroup> opGroup = f.MakeLength();
+
+    const DrawnNodes drawn(*opGroup);
+    QVERIFY(drawn.HasLine({0, 28, 0}, {100, 28, 0}));
+    QVERIFY(f.data[InputState::IS_Length].textPosition == Vector3d(50, 28, 0));
+}
+
+void TemporaryDimensionCommonsTest::extensionLinesLeaveAGapAndOvershoot()
+{
+    Fixture f;
+
+    const OwnerPtr<IGraphicsNodeGroup> opGroup = f.MakeLength();
+
+    const DrawnNodes drawn(*opGroup);
+    QVERIFY(drawn.HasLine({0, 4, 0}, {0, 34, 0}));
+    QVERIFY(drawn.HasLine({100, 4, 0}, {100, 34, 0}));
+}
+
+void TemporaryDimensionCommonsTest::arrowsPointAtTheEndsOfTheDimensionLine()
+{
+    Fixture f;
+
+    const OwnerPtr<IGraphicsNodeGroup> opGroup = f.MakeLength();
+
+    const DrawnNodes drawn(*opGroup);
+    QCOMPARE(drawn.lines.size(), std::size_t(7));
+    QVERIFY(drawn.HasLine({0, 28, 0}, {8, 30.8, 0}));
+    QVERIFY(drawn.HasLine({0, 28, 0}, {8, 25.2, 0}));
+    QVERIFY(drawn.HasLine({100, 28, 0}, {92, 30.8, 0}));
+    QVERIFY(drawn.HasLine({100, 28, 0}, {92, 25.2, 0}));
+}
+
+void TemporaryDimensionCommonsTest::theLengthStandsOffTheArc_data()
+{
+    QTest::addColumn<double>("degrees");
+    QTest::newRow("right") << 0.0;
+    QTest::newRow("up") << 90.0;
+    QTest::newRow("up right") << 30.0;
+    QTest::newRow("down right") << -30.0;
+    QTest::newRow("up left") << 150.0;
+    QTest::newRow("down left") << -150.0;
+}
+
+void TemporaryDimensionCommonsTest::theLengthStandsOffTheArc()
+{
+    QFETCH(double, degrees);
+    Fixture f;
+    const Vector3d direction(std::cos(degrees * s_degree), std::sin(degrees * s_degree), 0);
+    f.end = 300 * direction;
+
+    f.MakeLength();
+
+    const Vector3d offset = f.data[InputState::IS_Length].textPosition - f.end / 2;
+    const double side = direction.x() * offset.y() - direction.y() * offset.x();
+    QVERIFY(degrees < 0 ? side <= -28 : side >= 28);
+    QVERIFY(std::abs(offset.dot(direction)) < 1e-9);
+}
+
+void TemporaryDimensionCommonsTest::theSizeIsConstantInPixels()
+{
+    Fixture f;
+    f.pixel = 0.5;
+
+    const OwnerPtr<IGraphicsNodeGroup> opGroup = f.MakeLength();
+
+    QVERIFY(DrawnNodes(*opGroup).HasLine({0, 14, 0}, {100, 14, 0}));
+}
+
+void TemporaryDimensionCommonsTest::theAngleRunsFromMinus180Above180_data()
+{
+    QTest::addColumn<double>("x");
+    QTest::addColumn<double>("y");
+    QTest::addColumn<double>("degrees");
+    QTest::newRow("right") << 1.0 << 0.0 << 0.0;
+    QTest::newRow("diagonal") << 1.0 << 1.0 << 45.0;
+    QTest::newRow("up") << 0.0 << 1.0 << 90.0;
+    QTest::newRow("left") << -1.0 << 0.0 << 180.0;
+    QTest::newRow("left, from below") << -1.0 << -0.0 << 180.0;
+    QTest::newRow("down") << 0.0 << -1.0 << -90.0;
+}
+
+void TemporaryDimensionCommonsTest::theAngleRunsFromMinus180Above180()
+{
+    QFETCH(double, x);
+    QFETCH(double, y);
+    QFETCH(double, degrees);
+    Fixture f;
+    f.end = {100 * x, 100 * y, 0};
+
+    f.MakeAngle();
+
+    QCOMPARE(f.data[InputState::IS_Angle].value, degrees);
+}
+
+void TemporaryDimensionCommonsTest::theArcRunsFromTheXAxisToTheSegment()
+{
+    Fixture f;
+    f.start = {10, 20, 0};
+    f.end = {10, -180, 0};
+
+    const OwnerPtr<IGraphicsNodeGroup> opGroup = f.MakeAngle();
+
+    const DrawnNodes drawn(*opGroup);
+    QCOMPARE(drawn.arcs.size(), std::size_t(1));
+    QVERIFY(drawn.arcs[0]->GetCentre() == f.start);
+    QVERIFY(drawn.arcs[0]->GetXAxis() == Vector3d::UnitX());
+    QCOMPARE(drawn.arcs[0]->GetRadius(), 60.0);
+    QCOMPARE(drawn.arcs[0]->GetSweep(), -90 * s_degree);
+    QVERIFY(drawn.HasLine({10, 20, 0}, {82, 20, 0}));
+    QVERIFY(drawn.HasLine({70, 20, 0}, {72.8, 12, 0}));
+    QVERIFY(drawn.HasLine({10, -40, 0}, {18, -37.2, 0}));
+}
+
+void TemporaryDimensionCommonsTest::theArcOfAShortSegmentIsSmaller()
+{
+    Fixture f;
+    f.end = {0, 50, 0};
+
+    const OwnerPtr<IGraphicsNodeGroup> opGroup = f.MakeAngle();
+
+    QCOMPARE(DrawnNodes(*opGroup).arcs[0]->GetRadius(), 30.0);
+}
+
+void TemporaryDimensionCommonsTest::anAngleOfZeroHasNoArc()
+{
+    Fixture f;
+
+    const OwnerPtr<IGraphicsNodeGroup> opGroup = f.MakeAngle();
+
+    const DrawnNodes drawn(*opGroup);
+    QVERIFY(drawn.arcs.empty());
+    QCOMPARE(drawn.texts.size(), std::size_t(1));
+}
+
+void TemporaryDimensionCommonsTest::theTextStandsAtItsPosition()
+{
+    Fixture f;
+    f.end = {0, 200, 0};
+
+    const OwnerPtr<IGraphicsNodeGroup> opLength = f.MakeLength();
+    const OwnerPtr<IGraphicsNodeGroup> opAngle = f.MakeAngle();
+
+    const IGraphicsText& length = *DrawnNodes(*opLength).texts.at(0);
+    const IGraphicsText& angle = *DrawnNodes(*opAngle).texts.at(0);
+    QCOMPARE(length.GetText(), std::wstring(L"200.000"));
+    QVERIFY(length.GetPosition() == f.data[InputState::IS_Length].textPosition);
+    QCOMPARE(angle.GetText(), std::wstring(L"90.00\u00B0"));
+    QVERIFY(angle.GetPosition() == f.data[InputState::IS_Angle].textPosition);
+    QVERIFY(DrawnNodes(*opLength).AreAll(GraphicsRole::Dimension));
+    QVERIFY(DrawnNodes(*opAngle).AreAll(GraphicsRole::Dimension));
+}
+
+void TemporaryDimensionCommonsTest::theTextIsLeftOutWhileItIsTyped_data()
+{
+    QTest::addColumn<int>("state");
+    QTest::addColumn<int>("lengthTexts");
+    QTest::addColumn<int>("angleTexts");
+    QTest::newRow("nothing typed") << 0 << 1 << 1;
+    QTest::newRow("length") << 1 << 0 << 1;
+    QTest::newRow("angle") << 2 << 1 << 0;
+}
+
+void TemporaryDimensionCommonsTest::theTextIsLeftOutWhileItIsTyped()
+{
+    QFETCH(int, state);
+    QFETCH(int, lengthTexts);
+    QFETCH(int, angleTexts);
+    Fixture f;
+    f.end = {80, 60, 0};
+
+    const auto opLength = f.MakeLength(static_cast<InputState>(state));
+    const auto opAngle = f.MakeAngle(static_cast<InputState>(state));
+
+    const DrawnNodes length(*opLength);
+    const DrawnNodes angle(*opAngle);
+    QCOMPARE(static_cast<int>(length.texts.size()), lengthTexts);
+    QCOMPARE(static_cast<int>(angle.texts.size()), angleTexts);
+    QCOMPARE(length.AreAll(GraphicsRole::ActiveDimension), lengthTexts == 0);
+    QCOMPARE(angle.AreAll(GraphicsRole::ActiveDimension), angleTexts == 0);
+}
+
+void TemporaryDimensionCommonsTest::aLockedDimensionShowsIt()
+{
+    Fixture f;
+    f.end = {80, 60, 0};
+    TemporaryDimensionMgr::GetInstance()->SetLocked(InputState::IS_Length, true);
+
+    const OwnerPtr<IGraphicsNodeGroup> opLocked = f.MakeLength();
+    const OwnerPtr<IGraphicsNodeGroup> opTyped = f.MakeLength(InputState::IS_Length);
+    const OwnerPtr<IGraphicsNodeGroup> opOther = f.MakeAngle();
+
+    QVERIFY(DrawnNodes(*opLocked).AreAll(GraphicsRole::LockedDimension));
+    QVERIFY(DrawnNodes(*opTyped).AreAll(GraphicsRole::ActiveDimension));
+    QVERIFY(DrawnNodes(*opOther).AreAll(GraphicsRole::Dimension));
+}
+
+void TemporaryDimensionCommonsTest::dimensionsStandInThePlaneOfTheCoordinateSystem()
+{
+    Fixture f;
+    f.coordinate = Coordinate3d({0, 0, 0}, Vector3d::UnitY(), Vector3d::UnitZ());
+    f.start = {7, 0, 0};
+    f.end = {7, 0, 200};
+
+    const OwnerPtr<IGraphicsNodeGroup> opLength = f.MakeLength();
+    const OwnerPtr<IGraphicsNodeGroup> opAngle = f.MakeAngle();
+
+    QCOMPARE(f.data[InputState::IS_Angle].value, 90.0);
+    QCOMPARE(f.data[InputState::IS_Length].textPosition.x(), 7.0);
+    QCOMPARE(f.data[InputState::IS_Length].textPosition.z(), 100.0);
+    QVERIFY(DrawnNodes(*opAngle).arcs.at(0)->GetXAxis() == Vector3d::UnitY());
+    QVERIFY(DrawnNodes(*opAngle).arcs.at(0)->GetYAxis() == Vector3d::UnitZ());
+    QVERIFY(DrawnNodes(*opLength).lines.at(0)->GetStart().x() == 7.0);
+}
+
+void TemporaryDimensionCommonsTest::whatIsNoSegmentHasNoGraphics_data()
+{
+    QTest::addColumn<double>("x");
+    QTest::newRow("point") << 0.0;
+    QTest::newRow("no number") << std::numeric_limits<double>::quiet_NaN();
+    QTest::newRow("endless") << std::numeric_limits<double>::infinity();
+}
+
+void TemporaryDimensionCommonsTest::whatIsNoSegmentHasNoGraphics()
+{
+    QFETCH(double, x);
+    Fixture f;
+    f.end = {x, 0, 0};
+
+    const OwnerPtr<IGraphicsNodeGroup> opLength = f.MakeLength();
+    const OwnerPtr<IGraphicsNodeGroup> opAngle = f.MakeAngle();
+
+    QCOMPARE(opLength->GetChildCount(), 0);
+    QCOMPARE(opAngle->GetChildCount(), 0);
+    QVERIFY(f.data[InputState::IS_Length].textPosition.allFinite());
+    QVERIFY(f.data[InputState::IS_Angle].textPosition.allFinite());
+}
+
+void TemporaryDimensionCommonsTest::aPixelWithoutAWidthCountsAsOne()
+{
+    Fixture f;
+    f.pixel = 0.0;
+
+    const OwnerPtr<IGraphicsNodeGroup> opGroup = f.MakeLength();
+
+    QVERIFY(DrawnNodes(*opGroup).HasLine({0, 28, 0}, {100, 28, 0}));
+}
+
+}
+
+QTEST_APPLESS_MAIN(vesk::TemporaryDimensionCommonsTest)
+#include "TemporaryDimensionCommonsTest.moc"

@@ -1,0 +1,401 @@
+#include "Dimension/TemporaryDimensionMgr.h"
+
+#include "Host/Command/ActionStandIns.h"
+#include "Host/Dimension/HandlerStandIns.h"
+#include "HostCore.h"
+
+#include <QtTest>
+
+namespace vesk
+{
+
+namespace
+{
+
+TemporaryDimensionMgr& Manager()
+{
+    return *TemporaryDimensionMgr::GetInstance();
+}
+
+/// A host with a view, and handlers that are scripted.
+struct Fixture
+{
+    Fixture() { core.GetViewManager().AddView(&view); }
+
+    void SetContext(int kind) { Manager().SetContext(MakeOwner<StandInContext>(kind)); }
+    void Regenerate(int kind) { Manager().Regenerate(MakeOwner<StandInContext>(kind)); }
+    void PressKey() { Manager().OnKeyDown('1', false, false, false); }
+
+    /// What was logged since the last call.
+    Log TakeLog() { return std::exchange(script.log, {}); }
+
+    RecordingView view{1};
+    HostCore core;
+    HandlerScript script;
+    StandInHandlerFactory factory{script};
+    StandInHandlerAccess access{script};
+};
+
+}
+
+class TemporaryDimensionMgrTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aContextGetsAHandlerAndGraphics();
+    void aContextOfTheSameKindKeepsTheHandler();
+    void aContextOfAnotherKindReplacesTheHandler();
+    void replacingEndsTheInputBeforeTheHandlerIsDropped();
+    void replacingWithoutAnInputLeavesTheKeyboard();
+    void aContextWithoutHandlerKeepsTheCurrentOne();
+    void noContextDropsTheHandler();
+    void withoutAFactoryNothingIsShown();
+    void droppingEndsTheInputAndActivatesTheView();
+    void withdrawingTheFactoryDropsTheHandler();
+    void endingTheInputActivatesTheView();
+    void endingWithoutAnInputDoesNothing();
+    void anOpenEditorFollowsTheContext();
+    void regeneratingPlacesTheEditorAgain();
+    void regeneratingNeverMakesReplacesOrDropsAHandler();
+    void theKindOfInputIsKnownWhileThereIsOne();
+    void aKeyGoesToTheHandler();
+    void aKeyWithoutAHandlerIsNotTaken();
+    void aHandlerDroppedInItsKeyIsFreedAfterIt();
+    void aHandlerDroppedWhileItIsDroppedIsFreedOnce();
+    void aHandlerReplacedWhileItsInputEndsStaysTheNewOne();
+    void aHandlerDroppedWhileItDrawsLeavesNoGraphics();
+    void drawingInsideDrawingDoesNothing();
+    void locksAreRemembered();
+    void locksGoWithTheHandler();
+    void locksOutliveAContextOfTheSameKind();
+};
+
+void TemporaryDimensionMgrTest::aContextGetsAHandlerAndGraphics()
+{
+    Fixture f;
+    QVERIFY(!Manager().HasHandler());
+
+    f.SetContext(1);
+
+    QVERIFY(Manager().HasHandler());
+    QVERIFY(Manager().GetGraphics() != nullptr);
+    QVERIFY(f.TakeLog() == (Log{"1.made", "1.graphics"}));
+}
+
+void TemporaryDimensionMgrTest::aContextOfTheSameKindKeepsTheHandler()
+{
+    Fixture f;
+    f.SetContext(1);
+    f.TakeLog();
+
+    f.SetContext(1);
+
+    QVERIFY(f.TakeLog() == (Log{"1.graphics"}));
+}
+
+void TemporaryDimensionMgrTest::aContextOfAnotherKindReplacesTheHandler()
+{
+    Fixture f;
+    f.SetContext(1);
+    f.TakeLog();
+
+    f.SetContext(2);
+
+    QVERIFY(f.TakeLog() == (Log{"2.made", "1.end input", "2.graphics", "1.delete"}));
+    QVERIFY(Manager().HasHandler());
+}
+
+void TemporaryDimensionMgrTest::replacingEndsTheInputBeforeTheHandlerIsDropped()
+{
+    Fixture f;
+    f.SetContext(1);
+    f.PressKey();
+
+    f.SetContext(2);
+
+    const Log log = f.TakeLog();
+    const auto at = [&log](const char* entry) { return std::find(log.begin(), log.end(), entry); };
+    QVERIFY(at("2.made") < at("1.end input"));
+    QVERIFY(at("1.end input") < at("1.delete"));
+    QVERIFY(at("1.delete") != log.end());
+    QVERIFY(!Manager().IsInputting());
+    QCOMPARE(f.view.GetActivationCount(), 1);
+}
+
+void TemporaryDimensionMgrTest::replacingWithoutAnInputLeavesTheKeyboard()
+{
+    Fixture f;
+    f.SetContext(1);
+
+    f.SetContext(2);
+
+    QCOMPARE(f.view.GetActivationCount(), 0);
+}
+
+void TemporaryDimensionMgrTest::aContextWithoutHandlerKeepsTheCurrentOne()
+{
+    Fixture f;
+    f.SetContext(1);
+    f.TakeLog();
+
+    f.SetContext(0);
+
+    QVERIFY(f.TakeLog() == (Log{"1.graphics"}));
+}
+
+void TemporaryDimensionMgrTest::noContextDropsTheHandler()
+{
+    Fixture f;
+    f.SetContext(1);
+    f.TakeLog();
+
+    Manager().SetContext(nullptr);
+
+    QVERIFY(f.TakeLog() == (Log{"1.end input", "1.delete"}));
+    QVERIFY(!Manager().HasHandler());
+    QVERIFY(Manager().GetGraphics() == nullptr);
+}
+
+void TemporaryDimensionMgrTest::withoutAFactoryNothingIsShown()
+{
+    Fixture f;
+    Manager().SetHandlerFactory(nullptr);
+
+    f.SetContext(1);
+
+    QVERIFY(!Manager().HasHandler());
+    QVERIFY(Manager().GetGraphics() == nullptr);
+}
+
+void TemporaryDimensionMgrTest::droppingEndsTheInputAndActivatesTheView()
+{
+    Fixture f;
+    f.SetContext(1);
+    f.PressKey();
+    f.TakeLog();
+
+    Manager().Drop();
+
+    QVERIFY(f.TakeLog() == (Log{"1.end input", "1.delete"}));
+    QCOMPARE(f.view.GetActivationCount(), 1);
+}
+
+void TemporaryDimensionMgrTest::withdrawingTheFactoryDropsTheHandler()
+{
+    Fixture f;
+    f.SetContext(1);
+    f.TakeLog();
+    f.script.onEndInput = [&f] { f.SetContext(2); };
+
+    Manager().SetHandlerFactory(nullptr);
+
+    QVERIFY(f.TakeLog() == (Log{"1.end input", "1.end input done", "1.delete"}));
+    QVERIFY(!Manager().HasHandler());
+}
+
+void TemporaryDimensionMgrTest::endingTheInputActivatesTheView()
+{
+    Fixture f;
+    f.SetContext(1);
+    f.PressKey();
+    QVERIFY(Manager().IsInputting());
+
+    Manager().EndInput();
+
+    QVERIFY(!Manager().IsInputting());
+    QVERIFY(Manager().HasHandler());
+    QCOMPARE(f.view.GetActivationCount(), 1);
+}
+
+void TemporaryDimensionMgrTest::endingWithoutAnInputDoesNothing()
+{
+    Fixture f;
+    Manager().EndInput();
+    f.SetContext(1);
+    f.TakeLog();
+
+    Manager().EndInput();
+
+    QVERIFY(f.TakeLog().empty());
+    QCOMPARE(f.view.GetActivationCount(), 0);
+}
+
+void TemporaryDimensionMgrTest::anOpenEditorFollowsTheContext()
+{
+    Fixture f;
+    f.SetContext(1);
+    f.PressKey();
+    f.TakeLog();
+
+    f.SetContext(1);
+
+    QVERIFY(f.TakeLog() == (Log{"1.graphics", "place"}));
+}
+
+void TemporaryDimensionMgrTest::regeneratingPlacesTheEditorAgain()
+{
+    Fixture f;
+    f.SetContext(1);
+    f.PressKey();
+    f.TakeLog();
+
+    f.Regenerate(1);
+
+    QVERIFY(f.TakeLog() == (Log{"1.graphics", "place"}));
+    QVERIFY(Manager().IsInputting());
+}
+
+void TemporaryDimensionMgrTest::regeneratingNeverMakesReplacesOrDropsAHandler()
+{
+    Fixture f;
+    f.Regenerate(1);
+    QVERIFY(f.TakeLog().empty());
+    f.SetContext(1);
+    f.TakeLog();
+
+    f.Regenerate(2);
+    Manager().Regenerate(nullptr);
+
+    QVERIFY(f.TakeLog() == (Log{"1.graphics"}));
+    QVERIFY(Manager().HasHandler());
+    QVERIFY(Manager().GetGraphics() != nullptr);
+}
+
+void TemporaryDimensionMgrTest::theKindOfInputIsKnownWhileThereIsOne()
+{
+    Fixture f;
+    f.SetContext(1);
+    QCOMPARE(static_cast<int>(Manager().GetInputState()), 0);
+
+    f.PressKey();
+
+    QCOMPARE(static_cast<int>(Manager().GetInputState()), 2);
+}
+
+void TemporaryDimensionMgrTest::aKeyGoesToTheHandler()
+{
+    Fixture f;
+    f.SetContext(1);
+
+    QVERIFY(Manager().OnKeyDown('1', false, false, false));
+    QVERIFY(!Manager().OnKeyDown('?', false, false, false));
+}
+
+void TemporaryDimensionMgrTest::aKeyWithoutAHandlerIsNotTaken()
+{
+    Fixture f;
+
+    QVERIFY(!Manager().OnKeyDown('1', false, false, false));
+}
+
+void TemporaryDimensionMgrTest::aHandlerDroppedInItsKeyIsFreedAfterIt()
+{
+    Fixture f;
+    f.SetContext(1);
+    f.TakeLog();
+    f.script.onKeyDown = [] { Manager().Drop(); };
+
+    QVERIFY(Manager().OnKeyDown('1', false, false, false));
+
+    QVERIFY(f.TakeLog() == (Log{"1.key", "1.end input", "1.key done", "1.delete"}));
+    QVERIFY(!Manager().HasHandler());
+}
+
+void TemporaryDimensionMgrTest::aHandlerDroppedWhileItIsDroppedIsFreedOnce()
+{
+    Fixture f;
+    f.SetContext(1);
+    f.TakeLog();
+    f.script.onEndInput = [] { Manager().Drop(); };
+
+    Manager().Drop();
+
+    QVERIFY(f.TakeLog() == (Log{"1.end input", "1.end input done", "1.delete"}));
+}
+
+void TemporaryDimensionMgrTest::aHandlerReplacedWhileItsInputEndsStaysTheNewOne()
+{
+    Fixture f;
+    f.SetContext(1);
+    f.TakeLog();
+    f.script.onEndInput = [&f] {
+        f.script.onEndInput = nullptr;
+        f.SetContext(3);
+    };
+
+    f.SetContext(2);
+
+    const Log log = f.TakeLog();
+    QVERIFY(Manager().HasHandler());
+    QVERIFY(Manager().GetGraphics() != nullptr);
+    QCOMPARE(std::count(log.begin(), log.end(), "1.delete"), std::ptrdiff_t(1));
+    QCOMPARE(std::count(log.begin(), log.end(), "2.delete"), std::ptrdiff_t(1));
+    QCOMPARE(std::count(log.begin(), log.end(), "3.delete"), std::ptrdiff_t(0));
+}
+
+void TemporaryDimensionMgrTest::aHandlerDroppedWhileItDrawsLeavesNoGraphics()
+{
+    Fixture f;
+    f.script.onGenerate = [] { Manager().Drop(); };
+
+    f.SetContext(1);
+
+    QVERIFY(Manager().GetGraphics() == nullptr);
+    QVERIFY(!Manager().HasHandler());
+}
+
+void TemporaryDimensionMgrTest::drawingInsideDrawingDoesNothing()
+{
+    Fixture f;
+    f.script.onGenerate = [&f] { f.Regenerate(1); };
+
+    f.SetContext(1);
+
+    QVERIFY(f.TakeLog() == (Log{"1.made", "1.graphics", "1.graphics done"}));
+}
+
+void TemporaryDimensionMgrTest::locksAreRemembered()
+{
+    Fixture f;
+
+    Manager().SetLocked(InputState::IS_Angle, true);
+    Manager().SetLocked(InputState::IS_Length, true);
+    Manager().SetLocked(InputState::IS_Length, true);
+    QVERIFY(Manager().GetLocked() ==
+            (std::vector<InputState>{InputState::IS_Length, InputState::IS_Angle}));
+
+    Manager().SetLocked(InputState::IS_Length, false);
+    QVERIFY(!Manager().IsLocked(InputState::IS_Length));
+    QVERIFY(Manager().IsLocked(InputState::IS_Angle));
+}
+
+void TemporaryDimensionMgrTest::locksGoWithTheHandler()
+{
+    Fixture f;
+    f.SetContext(1);
+    Manager().SetLocked(InputState::IS_Length, true);
+    f.SetContext(2);
+    QVERIFY(Manager().GetLocked().empty());
+
+    Manager().SetLocked(InputState::IS_Length, true);
+    Manager().Drop();
+    QVERIFY(Manager().GetLocked().empty());
+}
+
+void TemporaryDimensionMgrTest::locksOutliveAContextOfTheSameKind()
+{
+    Fixture f;
+    f.SetContext(1);
+    Manager().SetLocked(InputState::IS_Length, true);
+
+    f.SetContext(1);
+    f.Regenerate(1);
+
+    QVERIFY(Manager().IsLocked(InputState::IS_Length));
+}
+
+}
+
+QTEST_APPLESS_MAIN(vesk::TemporaryDimensionMgrTest)
+#include "TemporaryDimensionMgrTest.moc"
