@@ -116,7 +116,7 @@ private slots:
         QEventLoop nested;
         QTimer busy;
         connect(&busy, &QTimer::timeout, this, [&] {
-            QCoreApplication::postEvent(m_pButton, new QEvent(QEvent::UpdateLater));
+            QCoreApplication::postEvent(m_pButton, new QEvent(QEvent::User));
             if (delay < 0 && Read()["entities"] == 5)
                 delay = sinceChange.elapsed();
         });
