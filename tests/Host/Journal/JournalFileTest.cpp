@@ -1,0 +1,154 @@
+#include "Journal/JournalFormat.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace vesk
+{
+
+namespace
+{
+
+/// What reading a file gives.
+struct Reading
+{
+    bool isRead = false;
+    std::vector<JournalRecord> records;
+    QString error;
+};
+
+Reading ReadPath(const QString& path)
+{
+    Reading reading;
+    std::string error;
+    reading.isRead = JournalFormat::ReadFile(path.toStdString(), reading.records, error);
+    reading.error = QString::fromStdString(error);
+    return reading;
+}
+
+Reading ReadContent(const QByteArray& content)
+{
+    const QTemporaryDir folder;
+    // A name that is not ASCII.
+    QFile file(folder.filePath(QString::fromUtf8("日志.jsonl")));
+    file.open(QIODevice::WriteOnly);
+    file.write(content);
+    file.close();
+    return ReadPath(file.fileName());
+}
+
+const QByteArray Command1 = R"({"n":1,"kind":"command","id":"A"})";
+const QByteArray End1 = R"({"n":1,"kind":"end","result":"done"})";
+const QByteArray Undo2 = R"({"n":2,"kind":"undo","entity":1})";
+
+}
+
+class JournalFileTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void recordsAreReadInOrder();
+    void anEmptyFileHoldsNothing();
+    void aTornLastLineIsNothing_data();
+    void aTornLastLineIsNothing();
+    void aBadLineIsNamed_data();
+    void aBadLineIsNamed();
+    void aFileThatCannotBeReadIsTold();
+    void whatWasReadBeforeIsForgotten();
+};
+
+void JournalFileTest::recordsAreReadInOrder()
+{
+    const Reading reading = ReadContent(Command1 + '\n' + Undo2 + "\r\n" + End1 + '\n');
+
+    QVERIFY2(reading.isRead, qPrintable(reading.error));
+    QCOMPARE(reading.records.size(), std::size_t(3));
+    QCOMPARE(reading.records[0].number, 1);
+    QCOMPARE(reading.records[1].number, 2);
+    QVERIFY(std::holds_alternative<EndRecord>(reading.records[2].what));
+}
+
+void JournalFileTest::anEmptyFileHoldsNothing()
+{
+    const Reading reading = ReadContent("");
+
+    QVERIFY2(reading.isRead, qPrintable(reading.error));
+    QVERIFY(reading.records.empty());
+}
+
+void JournalFileTest::aTornLastLineIsNothing_data()
+{
+    QTest::addColumn<QByteArray>("last");
+    QTest::newRow("torn") << QByteArray(R"({"n":2,"kind":"und)");
+    QTest::newRow("whole but for its end") << Undo2;
+    QTest::newRow("rubbish") << QByteArray("\xFF\xFE");
+    QTest::newRow("spaces") << QByteArray("  ");
+}
+
+void JournalFileTest::aTornLastLineIsNothing()
+{
+    QFETCH(QByteArray, last);
+
+    const Reading reading = ReadContent(Command1 + '\n' + last);
+
+    QVERIFY2(reading.isRead, qPrintable(reading.error));
+    QCOMPARE(reading.records.size(), std::size_t(1));
+}
+
+void JournalFileTest::aBadLineIsNamed_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("error");
+    QTest::newRow("rubbish") << Command1 + "\nrubbish\n"
+                             << "line 2: this is no JSON";
+    QTest::newRow("blank") << Command1 + "\n\n" + End1 + '\n' << "line 2: this is no JSON";
+    QTest::newRow("blank at the end") << Command1 + "\n\n"
+                                      << "line 2: this is no JSON";
+    QTest::newRow("number twice") << Command1 + '\n' + Command1 + '\n'
+                                  << "line 2: record 1 comes after record 1";
+    QTest::newRow("number before") << Undo2 + '\n' + Command1 + '\n'
+                                   << "line 2: record 1 comes after record 2";
+    QTest::newRow("end of nothing") << End1 + '\n' << "line 1: no command 1 to end";
+    QTest::newRow("end twice") << Command1 + '\n' + End1 + '\n' + End1 + '\n'
+                               << "line 3: no command 1 to end";
+    QTest::newRow("end of no command")
+        << Undo2 + "\n{\"n\":2,\"kind\":\"end\",\"result\":\"done\"}\n"
+        << "line 2: no command 2 to end";
+}
+
+void JournalFileTest::aBadLineIsNamed()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QString, error);
+
+    const Reading reading = ReadContent(content);
+
+    QVERIFY(!reading.isRead);
+    QCOMPARE(reading.error, error);
+}
+
+void JournalFileTest::aFileThatCannotBeReadIsTold()
+{
+    const QTemporaryDir folder;
+
+    QCOMPARE(ReadPath(folder.filePath("none")).error, QString("the file cannot be read"));
+    QCOMPARE(ReadPath(folder.path()).error, QString("the file cannot be read"));
+    QVERIFY(!ReadPath(folder.path()).isRead);
+}
+
+void JournalFileTest::whatWasReadBeforeIsForgotten()
+{
+    std::vector<JournalRecord> records(3);
+    std::string error;
+
+    QVERIFY(!JournalFormat::ReadFile("", records, error));
+
+    QVERIFY(records.empty());
+}
+
+}
+
+QTEST_APPLESS_MAIN(vesk::JournalFileTest)
+#include "JournalFileTest.moc"

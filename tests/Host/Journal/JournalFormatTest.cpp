@@ -1,0 +1,355 @@
+#include "Journal/JournalFormat.h"
+
+#include <QtTest>
+
+#include <cmath>
+#include <cstring>
+#include <limits>
+
+namespace vesk
+{
+
+namespace
+{
+
+/// The record that a line holds; number 0, and the test fails, when it holds none.
+JournalRecord Read(const std::string& line)
+{
+    JournalRecord record;
+    std::string error;
+    if (!JournalFormat::FromLine(line, record, error))
+        QTest::qFail(qPrintable(QString::fromStdString(error)), __FILE__, __LINE__);
+    return record;
+}
+
+std::string ErrorOf(const std::string& line)
+{
+    JournalRecord record;
+    std::string error;
+    return JournalFormat::FromLine(line, record, error) ? "" : error;
+}
+
+JournalRecord MakeCommand(const CommandParameterValue& value)
+{
+    CommandRecord command{L"Sketcher.Line", {}};
+    command.parameters.Add(L"Value", value);
+    return {1, command};
+}
+
+CommandParameters ReadParameters(const std::string& parameters)
+{
+    const JournalRecord record =
+        Read(R"({"n":1,"kind":"command","id":"A","parameters":)" + parameters + "}");
+    const auto* pCommand = std::get_if<CommandRecord>(&record.what);
+    return pCommand != nullptr ? pCommand->parameters : CommandParameters();
+}
+
+bool IsSameDouble(double a, double b)
+{
+    return std::memcmp(&a, &b, sizeof a) == 0;
+}
+
+}
+
+class JournalFormatTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void eachKindHasItsLine_data();
+    void eachKindHasItsLine();
+    void eachLineReadsBack_data() { eachKindHasItsLine_data(); }
+    void eachLineReadsBack();
+    void doublesReadBackToTheLastBit_data();
+    void doublesReadBackToTheLastBit();
+    void whatIsNoFiniteNumberReadsBackAsNaN_data();
+    void whatIsNoFiniteNumberReadsBackAsNaN();
+    void textsReadBack_data();
+    void textsReadBack();
+    void everyFieldReadsBack_data();
+    void everyFieldReadsBack();
+    void parametersKeepTheirTypes();
+    void integersAreGoodForRealNumbers();
+    void spacesAreAllowed();
+    void aBadLineIsTold_data();
+    void aBadLineIsTold();
+};
+
+void JournalFormatTest::eachKindHasItsLine_data()
+{
+    CommandParameters clicked;
+    clicked.Add(L"Clicked", CommandParameterValue(true));
+    const struct
+    {
+        const char* name;
+        JournalRecord record;
+        const char* line;
+    } rows[] = {
+        {"command",
+         {1, CommandRecord{L"Sketcher.Line", clicked}},
+         R"({"n":1,"kind":"command","id":"Sketcher.Line","parameters":{"Clicked":true}})"},
+        {"command, id only",
+         {1, CommandRecord{L"Sketcher.Undo", {}}},
+         R"({"n":1,"kind":"command","id":"Sketcher.Undo"})"},
+        {"point",
+         {2, PointRecord{{1.5, -2.0, 0.0}, std::nullopt}},
+         R"({"n":2,"kind":"point","point":[1.5,-2.0,0.0]})"},
+        {"point on an entity",
+         {2, PointRecord{{1.0, 2.0, 3.0}, 5}},
+         R"({"n":2,"kind":"point","point":[1.0,2.0,3.0],"entity":5})"},
+        {"value",
+         {3, ValueRecord{InputState::IS_Length, L"125.5", 125.5}},
+         R"({"n":3,"kind":"value","field":"length","text":"125.5","value":125.5})"},
+        {"property",
+         {4, PropertyRecord{L"drawing", L"name", L"图一"}},
+         R"({"n":4,"kind":"property","object":"drawing","property":"name","value":"图一"})"},
+        {"undo", {5, UndoRecord{7}}, R"({"n":5,"kind":"undo","entity":7})"},
+        {"end", {1, EndRecord{1, false}}, R"({"n":1,"kind":"end","result":"done"})"},
+        {"end, refused", {1, EndRecord{1, true}}, R"({"n":1,"kind":"end","result":"refused"})"},
+    };
+    QTest::addColumn<QString>("written");
+    QTest::addColumn<QString>("line");
+    for (const auto& row : rows)
+        QTest::newRow(row.name) << QString::fromStdString(JournalFormat::ToLine(row.record))
+                                << QString::fromUtf8(row.line);
+}
+
+void JournalFormatTest::eachKindHasItsLine()
+{
+    QFETCH(QString, written);
+    QFETCH(QString, line);
+
+    QCOMPARE(written, line);
+}
+
+void JournalFormatTest::eachLineReadsBack()
+{
+    QFETCH(QString, line);
+
+    const JournalRecord record = Read(line.toStdString());
+
+    QCOMPARE(QString::fromStdString(JournalFormat::ToLine(record)), line);
+}
+
+void JournalFormatTest::doublesReadBackToTheLastBit_data()
+{
+    using Limits = std::numeric_limits<double>;
+    QTest::addColumn<double>("value");
+    QTest::newRow("sum") << 0.1 + 0.2;
+    QTest::newRow("third") << 1.0 / 3.0;
+    QTest::newRow("minus zero") << -0.0;
+    QTest::newRow("whole") << 5.0;
+    QTest::newRow("great") << 1e308;
+    QTest::newRow("greatest") << Limits::max();
+    QTest::newRow("lowest") << Limits::lowest();
+    QTest::newRow("least normal") << Limits::min();
+    QTest::newRow("denormal") << 1.5e-310;
+    QTest::newRow("least") << Limits::denorm_min();
+    QTest::newRow("2^53 + 2") << 9007199254740994.0;
+    QTest::newRow("1e23") << 1e23;
+    QTest::newRow("next above one") << std::nextafter(1.0, 2.0);
+}
+
+void JournalFormatTest::doublesReadBackToTheLastBit()
+{
+    QFETCH(double, value);
+
+    const JournalRecord point =
+        Read(JournalFormat::ToLine({1, PointRecord{{value, 0.0, -value}, std::nullopt}}));
+    const JournalRecord typed =
+        Read(JournalFormat::ToLine({1, ValueRecord{InputState::IS_Angle, L"", value}}));
+    const JournalRecord command =
+        Read(JournalFormat::ToLine(MakeCommand(CommandParameterValue(value))));
+
+    QVERIFY(IsSameDouble(std::get<PointRecord>(point.what).point.x(), value));
+    QVERIFY(IsSameDouble(std::get<PointRecord>(point.what).point.z(), -value));
+    QVERIFY(IsSameDouble(std::get<ValueRecord>(typed.what).value, value));
+    const auto& parameters = std::get<CommandRecord>(command.what).parameters;
+    QVERIFY(IsSameDouble(std::get<double>(parameters.Find(L"Value")->Get()), value));
+}
+
+void JournalFormatTest::whatIsNoFiniteNumberReadsBackAsNaN_data()
+{
+    QTest::addColumn<double>("value");
+    QTest::newRow("NaN") << std::numeric_limits<double>::quiet_NaN();
+    QTest::newRow("infinity") << std::numeric_limits<double>::infinity();
+    QTest::newRow("minus infinity") << -std::numeric_limits<double>::infinity();
+}
+
+void JournalFormatTest::whatIsNoFiniteNumberReadsBackAsNaN()
+{
+    QFETCH(double, value);
+
+    const JournalRecord point =
+        Read(JournalFormat::ToLine({1, PointRecord{{value, 1.0, 2.0}, std::nullopt}}));
+    const JournalRecord command =
+        Read(JournalFormat::ToLine(MakeCommand(CommandParameterValue(value))));
+
+    QVERIFY(std::isnan(std::get<PointRecord>(point.what).point.x()));
+    QCOMPARE(std::get<PointRecord>(point.what).point.y(), 1.0);
+    const auto& parameters = std::get<CommandRecord>(command.what).parameters;
+    QVERIFY(std::isnan(std::get<double>(parameters.Find(L"Value")->Get())));
+}
+
+void JournalFormatTest::textsReadBack_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("empty") << "";
+    QTest::newRow("quotes") << R"(a "b" \c\ "1.5")";
+    QTest::newRow("number") << "1.5e3";
+    QTest::newRow("lines") << "a\nb\r\tc";
+    QTest::newRow("Chinese") << QString::fromUtf8("图层：直线");
+    QTest::newRow("beyond the first plane") << QString::fromUtf8("\xF0\x9F\x93\x90");
+    QTest::newRow("zero character") << QString(QChar(0)) + "b";
+    QTest::newRow("braces") << "{[}],:";
+}
+
+void JournalFormatTest::textsReadBack()
+{
+    QFETCH(QString, text);
+    const std::wstring wide = text.toStdWString();
+
+    const std::string line = JournalFormat::ToLine({1, PropertyRecord{wide, wide, wide}});
+    const JournalRecord record = Read(line);
+
+    const auto& property = std::get<PropertyRecord>(record.what);
+    QVERIFY(line.find('\n') == std::string::npos);
+    QCOMPARE(QString::fromStdWString(property.object), text);
+    QCOMPARE(QString::fromStdWString(property.property), text);
+    QCOMPARE(QString::fromStdWString(property.value), text);
+}
+
+void JournalFormatTest::everyFieldReadsBack_data()
+{
+    QTest::addColumn<int>("state");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("length") << 1 << "length";
+    QTest::newRow("angle") << 2 << "angle";
+    QTest::newRow("radius") << 3 << "radius";
+    QTest::newRow("central angle") << 4 << "centralAngle";
+    QTest::newRow("width") << 5 << "width";
+    QTest::newRow("height") << 6 << "height";
+}
+
+void JournalFormatTest::everyFieldReadsBack()
+{
+    QFETCH(int, state);
+    QFETCH(QString, name);
+
+    const std::string line =
+        JournalFormat::ToLine({1, ValueRecord{static_cast<InputState>(state), L"1", 1.0}});
+    const JournalRecord record = Read(line);
+
+    QVERIFY(QString::fromStdString(line).contains("\"field\":\"" + name + '"'));
+    QCOMPARE(static_cast<int>(std::get<ValueRecord>(record.what).field), state);
+}
+
+void JournalFormatTest::parametersKeepTheirTypes()
+{
+    const CommandParameters parameters = ReadParameters(
+        R"({"integer":5,"real":5.0,"exponent":5e0,"yes":true,"no":false,"text":"5"})");
+
+    QVERIFY(*parameters.Find(L"integer") == CommandParameterValue(5));
+    QVERIFY(*parameters.Find(L"real") == CommandParameterValue(5.0));
+    QVERIFY(*parameters.Find(L"exponent") == CommandParameterValue(5.0));
+    QVERIFY(*parameters.Find(L"yes") == CommandParameterValue(true));
+    QVERIFY(*parameters.Find(L"no") == CommandParameterValue(false));
+    QVERIFY(*parameters.Find(L"text") == CommandParameterValue(std::wstring(L"5")));
+}
+
+void JournalFormatTest::integersAreGoodForRealNumbers()
+{
+    const JournalRecord record =
+        Read(R"({"n":1,"kind":"point","point":[1,-2,12345678901234567890]})");
+
+    const Vector3d point = std::get<PointRecord>(record.what).point;
+    QCOMPARE(point.x(), 1.0);
+    QCOMPARE(point.y(), -2.0);
+    QCOMPARE(point.z(), 12345678901234567890.0);
+}
+
+void JournalFormatTest::spacesAreAllowed()
+{
+    const JournalRecord record = Read("{ \"n\" : 1 , \"kind\":\t\"undo\",\"entity\": 7 } \r");
+
+    QCOMPARE(std::get<UndoRecord>(record.what).entity, 7);
+}
+
+void JournalFormatTest::aBadLineIsTold_data()
+{
+    const struct
+    {
+        const char* name;
+        const char* line;
+        const char* error;
+    } rows[] = {
+        {"blank", "", "this is no JSON"},
+        {"text", "hello", "this is no JSON"},
+        {"torn", R"({"n":1,"kind":"und)", "this is no JSON"},
+        {"two values", R"({"n":1} {"n":2})", "this is no JSON"},
+        {"comma", R"({"n":1,5,"kind":"undo","entity":1})", "this is no JSON"},
+        {"number without digits", R"({"n":1,"kind":"undo","entity":-})", "this is no JSON"},
+        {"number without fraction", R"({"n":1,"kind":"point","point":[1.,2,3]})",
+         "this is no JSON"},
+        {"number without whole", R"({"n":1,"kind":"point","point":[.5,2,3]})", "this is no JSON"},
+        {"leading zero", R"({"n":1,"kind":"point","point":[01.5,2,3]})", "this is no JSON"},
+        {"two points", R"({"n":1,"kind":"point","point":[1.5.2,2,3]})", "this is no JSON"},
+        {"exponent without digits", R"({"n":1,"kind":"point","point":[1e+,2,3]})",
+         "this is no JSON"},
+        {"beyond the doubles", R"({"n":1,"kind":"point","point":[1e309,2,3]})", "this is no JSON"},
+        {"number as key", R"({"n":1,1.5:2})", "this is no JSON"},
+        {"bad UTF-8", "{\"n\":1,\"kind\":\"command\",\"id\":\"\xC3(\"}", "this is no JSON"},
+        {"half a character", R"({"n":1,"kind":"command","id":"\ud83d"})", "this is no JSON"},
+        {"list", "[1]", "this is no JSON object"},
+        {"no number", R"({"kind":"undo","entity":1})", R"("n" is missing)"},
+        {"number as text", R"({"n":"1","kind":"undo","entity":1})", R"("n" is no integer)"},
+        {"real as number", R"({"n":1.0,"kind":"undo","entity":1})", R"("n" is no integer)"},
+        {"zero", R"({"n":0,"kind":"undo","entity":1})", R"("n" is below 1)"},
+        {"too great", R"({"n":2147483648,"kind":"undo","entity":1})", R"("n" is no integer)"},
+        {"far too great", R"({"n":18446744073709551615,"kind":"undo","entity":1})",
+         R"("n" is no integer)"},
+        {"no kind", R"({"n":1})", R"("kind" is missing)"},
+        {"kind as number", R"({"n":1,"kind":1})", R"("kind" is no text)"},
+        {"unknown kind", R"({"n":1,"kind":"circle"})", R"(unknown kind "circle")"},
+        {"command without id", R"({"n":1,"kind":"command"})", R"("id" is missing)"},
+        {"parameters as list", R"({"n":1,"kind":"command","id":"A","parameters":[1]})",
+         R"("parameters" is no JSON object)"},
+        {"nested parameter", R"({"n":1,"kind":"command","id":"A","parameters":{"B":{}}})",
+         R"(the parameter "B" has no value that it can have)"},
+        {"great parameter", R"({"n":1,"kind":"command","id":"A","parameters":{"B":5000000000}})",
+         R"(the parameter "B" has no value that it can have)"},
+        {"point of two", R"({"n":1,"kind":"point","point":[1,2]})",
+         R"("point" is no list of three numbers)"},
+        {"point of texts", R"({"n":1,"kind":"point","point":["1.5","2","3"]})",
+         R"("point" is no list of three numbers)"},
+        {"entity as real", R"({"n":1,"kind":"point","point":[1,2,3],"entity":1.5})",
+         R"("entity" is no integer)"},
+        {"unknown field", R"({"n":1,"kind":"value","field":"depth","text":"1","value":1})",
+         R"(unknown field "depth")"},
+        {"value as text", R"({"n":1,"kind":"value","field":"angle","text":"1","value":"1.5"})",
+         R"("value" is no number)"},
+        {"property as number",
+         R"({"n":1,"kind":"property","object":"a","property":"b","value":1.5})",
+         R"("value" is no text)"},
+        {"unknown result", R"({"n":1,"kind":"end","result":"ok"})", R"(unknown result "ok")"},
+        {"more than the kind has", R"({"n":1,"kind":"undo","entity":1,"point":[1,2,3]})",
+         R"("point" does not belong to this kind)"},
+    };
+    QTest::addColumn<QByteArray>("line");
+    QTest::addColumn<QString>("error");
+    for (const auto& row : rows)
+        QTest::newRow(row.name) << QByteArray(row.line) << QString(row.error);
+}
+
+void JournalFormatTest::aBadLineIsTold()
+{
+    QFETCH(QByteArray, line);
+    QFETCH(QString, error);
+
+    QCOMPARE(QString::fromStdString(ErrorOf(line.toStdString())), error);
+}
+
+}
+
+QTEST_APPLESS_MAIN(vesk::JournalFormatTest)
+#include "JournalFormatTest.moc"

@@ -1,0 +1,366 @@
+#include "Journal/JournalManager.h"
+
+#include "Foundation/DebugMessageMgr.h"
+#include "HostCore.h"
+#include "Journal/IJournalData.h"
+#include "Journal/IJournalUiObject.h"
+#include "Journal/JournalFormat.h"
+#include "Journal/NqIJournalFactory.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <atomic>
+#include <functional>
+#include <thread>
+
+namespace vesk
+{
+
+namespace
+{
+
+JournalManager& Journal()
+{
+    return JournalManager::GetInstance();
+}
+
+/// Counts what it hears, and does something each time. Listens while it lives.
+class Observer final : public IJournalObserver
+{
+public:
+    explicit Observer(std::function<void()> act = nullptr) : m_act(std::move(act))
+    {
+        Journal().AddObserver(this);
+    }
+    ~Observer() override { Journal().RemoveObserver(this); }
+
+    void OnRecord(const JournalRecord& record) override
+    {
+        numbers.push_back(record.number);
+        if (m_act)
+            m_act();
+    }
+
+    void OnUiObject(const IJournalUiObject& object, int kind) override
+    {
+        kinds.push_back(kind);
+        uiObject = std::any_cast<int>(object.GetUiObject());
+    }
+
+    std::vector<int> numbers;
+    std::vector<int> kinds;
+    int uiObject = 0;
+
+private:
+    std::function<void()> m_act;
+};
+
+/// Counts warnings and remembers the last one. Listens while it lives.
+class WarningObserver final : public IDebugWarningObserver
+{
+public:
+    WarningObserver() { DebugMessageMgr::GetDebugMessageMgr()->AddObserver(this); }
+    ~WarningObserver() override { DebugMessageMgr::GetDebugMessageMgr()->RemoveObserver(this); }
+
+    void OnDebugWarning(const DebugWarning& warning) override
+    {
+        ++count;
+        last = warning;
+    }
+
+    int count = 0;
+    DebugWarning last;
+};
+
+QByteArray ReadAll(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+OwnerPtr<IJournalCommandData> MakeData()
+{
+    auto opData = OwnerPtrCast<IJournalCommandData>(
+        NqIJournalFactory::GetImpl()->CreateJournalData(L"JournalCommandData"));
+    CommandParameters parameters;
+    parameters.Add(L"Clicked", CommandParameterValue(true));
+    opData->SetCommandId(L"Line");
+    opData->SetCommandParameters(parameters);
+    return opData;
+}
+
+}
+
+class JournalManagerTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup() { Journal().Close(); }
+
+    void recordsAreNumberedAndAnEndRepeatsItsCommand();
+    void eachRecordIsInTheFileBeforeItsNumberIsKnown();
+    void openingReplacesTheFileAndNumbersAnew();
+    void openingWhatCannotBeWrittenChangesNothing();
+    void closingForgetsNumbersAndLines();
+    void withoutAFileRecordsAreNumberedToo();
+    void theNumberOfTheLastCommandIsTakenOnce();
+    void theNumberOfAnotherCommandIsNotTaken();
+    void recordsInBetweenDoNotTakeTheNumber();
+    void theLastTwentyLinesAreKept();
+    void theLastLinesMayBeAskedForFromAnyThread();
+    void observersHearEveryRecord();
+    void anObserverMayRemoveItself();
+    void aFullDiskIsReportedOnceAndTheFileLeftAlone();
+    void aCommandRecordHoldsTheIdOrTheParametersToo();
+    void emptyPointersAreIgnored();
+    void aWidgetIsToldToTheObservers();
+    void theFactoryMakesCommandDataOnly();
+    void withoutAFactoryThereIsNoUiObject();
+};
+
+void JournalManagerTest::recordsAreNumberedAndAnEndRepeatsItsCommand()
+{
+    QCOMPARE(Journal().Add(CommandRecord{L"Line", {}}), 1);
+    QCOMPARE(Journal().Add(PointRecord{{1, 2, 3}, {}}), 2);
+    QCOMPARE(Journal().Add(EndRecord{1, false}), 1);
+    QCOMPARE(Journal().Add(UndoRecord{1}), 3);
+}
+
+void JournalManagerTest::eachRecordIsInTheFileBeforeItsNumberIsKnown()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QString::fromUtf8("日志.jsonl"));
+    QVERIFY(Journal().Open(path.toStdString()));
+    QByteArray seen;
+    const Observer observer([&] { seen = ReadAll(path); });
+
+    Journal().Add(UndoRecord{1});
+    QCOMPARE(seen, QByteArray("{\"n\":1,\"kind\":\"undo\",\"entity\":1}\n"));
+
+    // Longer than any buffer.
+    Journal().Add(PropertyRecord{L"drawing", L"name", std::wstring(100000, L'a')});
+    QCOMPARE(seen.count('\n'), 2);
+    QVERIFY(seen.endsWith("\"}\n"));
+}
+
+void JournalManagerTest::openingReplacesTheFileAndNumbersAnew()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("journal");
+    QVERIFY(Journal().Open(path.toStdString()));
+    Journal().Add(UndoRecord{1});
+    Journal().Add(UndoRecord{2});
+
+    QVERIFY(Journal().Open(path.toStdString()));
+    QCOMPARE(ReadAll(path), QByteArray());
+    Journal().Add(UndoRecord{3});
+
+    QCOMPARE(ReadAll(path), QByteArray("{\"n\":1,\"kind\":\"undo\",\"entity\":3}\n"));
+}
+
+void JournalManagerTest::openingWhatCannotBeWrittenChangesNothing()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("journal");
+    Journal().Open(path.toStdString());
+    Journal().Add(UndoRecord{1});
+
+    QVERIFY(!Journal().Open(folder.path().toStdString()));
+    QVERIFY(!Journal().Open(folder.filePath("none/journal").toStdString()));
+    Journal().Add(UndoRecord{2});
+
+    QCOMPARE(ReadAll(path).count('\n'), 2);
+}
+
+void JournalManagerTest::closingForgetsNumbersAndLines()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("journal");
+    Journal().Open(path.toStdString());
+    Journal().Add(CommandRecord{L"Line", {}});
+
+    Journal().Close();
+
+    QVERIFY(Journal().GetLastLines().empty());
+    QCOMPARE(Journal().TakeCommandNumber(L"Line"), 0);
+    QCOMPARE(Journal().Add(UndoRecord{2}), 1);
+    QCOMPARE(ReadAll(path).count('\n'), 1);
+}
+
+void JournalManagerTest::withoutAFileRecordsAreNumberedToo()
+{
+    const Observer observer;
+
+    Journal().Add(UndoRecord{1});
+    Journal().Add(UndoRecord{2});
+
+    QVERIFY(observer.numbers == (std::vector<int>{1, 2}));
+    QCOMPARE(Journal().GetLastLines().size(), std::size_t(2));
+}
+
+void JournalManagerTest::theNumberOfTheLastCommandIsTakenOnce()
+{
+    Journal().Add(UndoRecord{1});
+    Journal().Add(CommandRecord{L"Line", {}});
+
+    QCOMPARE(Journal().TakeCommandNumber(L"Line"), 2);
+    QCOMPARE(Journal().TakeCommandNumber(L"Line"), 0);
+}
+
+void JournalManagerTest::theNumberOfAnotherCommandIsNotTaken()
+{
+    Journal().Add(CommandRecord{L"Line", {}});
+    Journal().Add(CommandRecord{L"Erase", {}});
+
+    QCOMPARE(Journal().TakeCommandNumber(L"Line"), 0);
+    QCOMPARE(Journal().TakeCommandNumber(L"Erase"), 2);
+}
+
+void JournalManagerTest::recordsInBetweenDoNotTakeTheNumber()
+{
+    Journal().Add(CommandRecord{L"Line", {}});
+    Journal().Add(UndoRecord{1});
+
+    QCOMPARE(Journal().TakeCommandNumber(L"Line"), 1);
+}
+
+void JournalManagerTest::theLastTwentyLinesAreKept()
+{
+    for (int i = 1; i <= 25; ++i)
+        Journal().Add(UndoRecord{i});
+
+    const std::vector<std::string> lines = Journal().GetLastLines();
+
+    QCOMPARE(lines.size(), std::size_t(20));
+    QCOMPARE(lines.front(), JournalFormat::ToLine({6, UndoRecord{6}}));
+    QCOMPARE(lines.back(), JournalFormat::ToLine({25, UndoRecord{25}}));
+}
+
+void JournalManagerTest::theLastLinesMayBeAskedForFromAnyThread()
+{
+    std::atomic<bool> isDone{false};
+    std::atomic<bool> isGood{true};
+    std::thread reader([&] {
+        while (!isDone)
+        {
+            const std::vector<std::string> lines = Journal().GetLastLines();
+            if (lines.size() > 20 || (!lines.empty() && lines.back().back() != '}'))
+                isGood = false;
+        }
+    });
+
+    for (int i = 1; i <= 5000; ++i)
+        Journal().Add(UndoRecord{i});
+    isDone = true;
+    reader.join();
+
+    QVERIFY(isGood);
+}
+
+void JournalManagerTest::observersHearEveryRecord()
+{
+    const Observer observer;
+    Journal().AddObserver(nullptr);
+
+    Journal().Add(CommandRecord{L"Line", {}});
+    Journal().Add(EndRecord{1, false});
+
+    QVERIFY(observer.numbers == (std::vector<int>{1, 1}));
+}
+
+void JournalManagerTest::anObserverMayRemoveItself()
+{
+    Observer* pFirst = nullptr;
+    Observer first([&] { Journal().RemoveObserver(pFirst); });
+    pFirst = &first;
+    const Observer second;
+
+    Journal().Add(UndoRecord{1});
+    Journal().Add(UndoRecord{2});
+
+    QVERIFY(first.numbers == (std::vector<int>{1}));
+    QVERIFY(second.numbers == (std::vector<int>{1, 2}));
+}
+
+void JournalManagerTest::aFullDiskIsReportedOnceAndTheFileLeftAlone()
+{
+    if (!QFile::exists("/dev/full"))
+        QSKIP("This machine has no device that is always full.");
+    const QTemporaryDir folder;
+    DebugMessageMgr::GetDebugMessageMgr()->OpenLog(folder.filePath("log").toStdString());
+    WarningObserver warnings;
+    QVERIFY(Journal().Open("/dev/full"));
+
+    QCOMPARE(Journal().Add(UndoRecord{1}), 1);
+    QCOMPARE(Journal().Add(UndoRecord{2}), 2);
+    DebugMessageMgr::GetDebugMessageMgr()->CloseLog();
+
+    QCOMPARE(warnings.count, 1);
+    QCOMPARE(warnings.last.message, std::wstring(L"日志文件写入失败"));
+    QCOMPARE(warnings.last.function, std::string("vesk::JournalManager::Add"));
+}
+
+void JournalManagerTest::aCommandRecordHoldsTheIdOrTheParametersToo()
+{
+    const HostCore core;
+
+    IJournalManager::Get()->AddCommandData(MakeData());
+    IJournalManager::Get()->AddCommandDataWithParameters(MakeData());
+
+    const std::vector<std::string> lines = Journal().GetLastLines();
+    QCOMPARE(lines.at(0), std::string(R"({"n":1,"kind":"command","id":"Line"})"));
+    QCOMPARE(lines.at(1),
+             std::string(R"({"n":2,"kind":"command","id":"Line","parameters":{"Clicked":true}})"));
+    QCOMPARE(Journal().TakeCommandNumber(L"Line"), 2);
+}
+
+void JournalManagerTest::emptyPointersAreIgnored()
+{
+    const Observer observer;
+
+    IJournalManager::Get()->AddCommandData(nullptr);
+    IJournalManager::Get()->AddCommandDataWithParameters(nullptr);
+    IJournalManager::Get()->AddUiObject(nullptr, 3, 0);
+
+    QVERIFY(observer.numbers.empty());
+    QVERIFY(observer.kinds.empty());
+}
+
+void JournalManagerTest::aWidgetIsToldToTheObservers()
+{
+    const HostCore core;
+    const Observer observer;
+    OwnerPtr<IJournalUiObject> opObject = IJournalUiObject::Create();
+    QVERIFY(opObject != nullptr);
+    opObject->SetUiObject(42);
+
+    IJournalManager::Get()->AddUiObject(std::move(opObject), 3, 0);
+
+    QVERIFY(observer.kinds == (std::vector<int>{3}));
+    QCOMPARE(observer.uiObject, 42);
+}
+
+void JournalManagerTest::theFactoryMakesCommandDataOnly()
+{
+    const HostCore core;
+
+    const OwnerPtr<IJournalCommandData> opData = MakeData();
+
+    QCOMPARE(opData->GetCommandId(), std::wstring(L"Line"));
+    QVERIFY(opData->GetCommandParameters().Find(L"Clicked") != nullptr);
+    QVERIFY(NqIJournalFactory::GetImpl()->CreateJournalData(L"Other") == nullptr);
+}
+
+void JournalManagerTest::withoutAFactoryThereIsNoUiObject()
+{
+    QVERIFY(NqIJournalFactory::GetImpl() == nullptr);
+    QVERIFY(IJournalUiObject::Create() == nullptr);
+}
+
+}
+
+QTEST_APPLESS_MAIN(vesk::JournalManagerTest)
+#include "JournalManagerTest.moc"

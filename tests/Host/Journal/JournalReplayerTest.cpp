@@ -1,0 +1,428 @@
+#include "Journal/JournalReplayer.h"
+
+#include "Command/IActionManager.h"
+#include "Host/Command/ActionFixture.h"
+#include "Journal/JournalFormat.h"
+
+#include <QtTest>
+
+namespace vesk
+{
+
+namespace
+{
+
+/// A target that logs what is repeated of the model, as "undo 5".
+class Target final : public IJournalReplayTarget
+{
+public:
+    explicit Target(Log& log) : m_log(log) {}
+
+    bool ReplayProperty(const PropertyRecord& record) override
+    {
+        m_log.push_back("property " + std::string(record.value.begin(), record.value.end()));
+        return record.object == L"drawing";
+    }
+
+    bool VerifyUndo(const UndoRecord& record) override
+    {
+        m_log.push_back("undo " + std::to_string(record.entity));
+        return record.entity != 13;
+    }
+
+private:
+    Log& m_log;
+};
+
+/// Some commands, and a journal that is put together record by record.
+struct Fixture : ActionFixture
+{
+    Fixture()
+    {
+        AddInteractive("Line");
+        AddInteractive("Erase");
+        AddPlain("Undo");
+        AddPlain("Zoom");
+    }
+
+    Fixture& Command(const std::wstring& id)
+    {
+        records.push_back({++lastNumber, CommandRecord{id, {}}});
+        return *this;
+    }
+
+    Fixture& Point(double x, std::optional<int> entity = {})
+    {
+        records.push_back({++lastNumber, PointRecord{{x, 0, 0}, entity}});
+        return *this;
+    }
+
+    Fixture& Undo(int entity)
+    {
+        records.push_back({++lastNumber, UndoRecord{entity}});
+        return *this;
+    }
+
+    Fixture& End(int command, bool isRefused = false)
+    {
+        records.push_back({command, EndRecord{command, isRefused}});
+        return *this;
+    }
+
+    JournalReplayResult Replay()
+    {
+        Target target(log);
+        return JournalReplayer::Replay(records, target);
+    }
+
+    std::vector<JournalRecord> records;
+    int lastNumber = 0;
+};
+
+QString FailureOf(const JournalReplayResult& result)
+{
+    return QString::fromStdString(result.failure);
+}
+
+}
+
+class JournalReplayerTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void stepsGoToTheActionOfTheirCommand();
+    void theEventLoopIsOffMeanwhile();
+    void anActionEndsAtItsMark();
+    void aPlainCommandInsideAnActionRunsBesideIt();
+    void aPlainCommandThatEndedLaterRunsAfterTheAction();
+    void aCommandRecordedWhileAnotherWasBeingEndedCountsAsAfterIt();
+    void commandsThatWaitedForOneAnotherRunInOrder();
+    void aRefusedCommandIsNotRun();
+    void aRefusedCommandEndsNothing();
+    void anUnfinishedActionKeepsItsSteps();
+    void anUnfinishedActionEndsBeforeTheNext();
+    void aPlainCommandBesideAnUnfinishedActionRunsBesideIt();
+    void anUnfinishedPlainCommandIsRepeatedIfItsResultStands();
+    void anUnfinishedPlainCommandWithoutResultIsNotRepeated();
+    void unfinishedCommandsAreListedInOrder();
+    void anActionThatEndsItselfNeedsNoMark();
+    void propertiesAndUndosGoToTheTarget();
+    void commandsGetTheirParameters();
+    void whatCannotBeDoneIsNamed_data();
+    void whatCannotBeDoneIsNamed();
+    void aFailureStopsTheReplayAndEndsTheAction();
+    void aDisabledCommandIsAFailure();
+    void aReplayInsideAnActionIsRefused();
+    void aReplayWritesTheJournalOfItsOwn();
+};
+
+void JournalReplayerTest::stepsGoToTheActionOfTheirCommand()
+{
+    Fixture f;
+    f.Command(L"Erase").Point(7, 5);
+    f.records.push_back({3, ValueRecord{InputState::IS_Length, L"12", 12}});
+    f.End(1);
+
+    const JournalReplayResult result = f.Replay();
+
+    QCOMPARE(FailureOf(result), QString());
+    QVERIFY(result.unfinishedCommands.empty());
+    QVERIFY(f.log == (Log{"Erase.begin", "Erase.point 7 on 5", "Erase.value 1 12 12", "Erase.end",
+                          "Erase.delete"}));
+}
+
+void JournalReplayerTest::theEventLoopIsOffMeanwhile()
+{
+    Fixture f;
+    f.Command(L"Line").End(1);
+    f.Replay();
+    QCOMPARE(f.loop.GetRunCount(), 0);
+
+    f.Choose("Line");
+
+    QCOMPARE(f.loop.GetRunCount(), 1);
+}
+
+void JournalReplayerTest::anActionEndsAtItsMark()
+{
+    Fixture f;
+    f.Command(L"Line").End(1).Command(L"Undo").Undo(1).End(2);
+
+    f.Replay();
+
+    QVERIFY(f.log == (Log{"Line.begin", "Line.end", "Line.delete", "Undo", "undo 1"}));
+}
+
+void JournalReplayerTest::aPlainCommandInsideAnActionRunsBesideIt()
+{
+    Fixture f;
+    f.Command(L"Line").Point(1).Command(L"Undo").Undo(1).End(3).Point(2).End(1);
+
+    const JournalReplayResult result = f.Replay();
+
+    QCOMPARE(FailureOf(result), QString());
+    QVERIFY(f.log == (Log{"Line.begin", "Line.point 1", "Undo", "undo 1", "Line.point 2",
+                          "Line.end", "Line.delete"}));
+}
+
+void JournalReplayerTest::aPlainCommandThatEndedLaterRunsAfterTheAction()
+{
+    Fixture f;
+    f.Command(L"Line").Point(1).Command(L"Undo").End(1).Undo(1).End(3);
+
+    const JournalReplayResult result = f.Replay();
+
+    QCOMPARE(FailureOf(result), QString());
+    QVERIFY(f.log ==
+            (Log{"Line.begin", "Line.point 1", "Line.end", "Line.delete", "Undo", "undo 1"}));
+}
+
+void JournalReplayerTest::aCommandRecordedWhileAnotherWasBeingEndedCountsAsAfterIt()
+{
+    Fixture f;
+    f.Command(L"Line").Command(L"Erase").Point(1).End(1).Point(2, 1).End(2);
+
+    const JournalReplayResult result = f.Replay();
+
+    QCOMPARE(FailureOf(result), QString());
+    QVERIFY(f.log == (Log{"Line.begin", "Line.point 1", "Line.end", "Line.delete", "Erase.begin",
+                          "Erase.point 2 on 1", "Erase.end", "Erase.delete"}));
+}
+
+void JournalReplayerTest::commandsThatWaitedForOneAnotherRunInOrder()
+{
+    Fixture f;
+    f.Command(L"Line").Command(L"Undo").Command(L"Erase").Command(L"Line");
+    f.End(1).Undo(1).End(2).End(3).Point(9).End(4);
+
+    const JournalReplayResult result = f.Replay();
+
+    QCOMPARE(FailureOf(result), QString());
+    QVERIFY(f.log == (Log{"Line.begin", "Line.end", "Line.delete", "Undo", "Erase.begin", "undo 1",
+                          "Erase.end", "Erase.delete", "Line.begin", "Line.point 9", "Line.end",
+                          "Line.delete"}));
+}
+
+void JournalReplayerTest::aRefusedCommandIsNotRun()
+{
+    Fixture f;
+    f.Command(L"Undo").End(1, true).Command(L"Unknown").End(2, true);
+
+    const JournalReplayResult result = f.Replay();
+
+    QCOMPARE(FailureOf(result), QString());
+    QVERIFY(f.log.empty());
+}
+
+void JournalReplayerTest::aRefusedCommandEndsNothing()
+{
+    Fixture f;
+    f.Command(L"Line").Command(L"Undo").End(2, true).Point(1).End(1);
+
+    const JournalReplayResult result = f.Replay();
+
+    QCOMPARE(FailureOf(result), QString());
+    QVERIFY(f.log == (Log{"Line.begin", "Line.point 1", "Line.end", "Line.delete"}));
+}
+
+void JournalReplayerTest::anUnfinishedActionKeepsItsSteps()
+{
+    Fixture f;
+    f.Command(L"Line").Point(1).Point(2);
+
+    const JournalReplayResult result = f.Replay();
+
+    QCOMPARE(FailureOf(result), QString());
+    QVERIFY(result.unfinishedCommands == (std::vector<std::wstring>{L"Line"}));
+    QVERIFY(f.log ==
+            (Log{"Line.begin", "Line.point 1", "Line.point 2", "Line.end", "Line.delete"}));
+    QVERIFY(IActionManager::CurrentAction() == nullptr);
+}
+
+void JournalReplayerTest::anUnfinishedActionEndsBeforeTheNext()
+{
+    Fixture f;
+    f.Command(L"Line").Point(1).Command(L"Erase").Point(2, 1).End(3);
+
+    const JournalReplayResult result = f.Replay();
+
+    QCOMPARE(FailureOf(result), QString());
+    QVERIFY(result.unfinishedCommands == (std::vector<std::wstring>{L"Line"}));
+    QVERIFY(f.log == (Log{"Line.begin", "Line.point 1", "Line.end", "Line.delete", "Erase.begin",
+                          "Erase.point 2 on 1", "Erase.end", "Erase.delete"}));
+}
+
+void JournalReplayerTest::aPlainCommandBesideAnUnfinishedActionRunsBesideIt()
+{
+    Fixture f;
+    f.Command(L"Line").Point(1).Command(L"Undo").Undo(1).End(3).Point(2);
+
+    const JournalReplayResult result = f.Replay();
+
+    QCOMPARE(FailureOf(result), QString());
+    QVERIFY(f.log == (Log{"Line.begin", "Line.point 1", "Undo", "undo 1", "Line.point 2",
+                          "Line.end", "Line.delete"}));
+}
+
+void JournalReplayerTest::anUnfinishedPlainCommandIsRepeatedIfItsResultStands()
+{
+    Fixture f;
+    f.Command(L"Undo").Undo(1);
+
+    const JournalReplayResult result = f.Replay();
+
+    QVERIFY(result.unfinishedCommands == (std::vector<std::wstring>{L"Undo"}));
+    QVERIFY(f.log == (Log{"Undo", "undo 1"}));
+}
+
+void JournalReplayerTest::anUnfinishedPlainCommandWithoutResultIsNotRepeated()
+{
+    Fixture f;
+    f.Command(L"Line").Point(1).Command(L"Undo");
+
+    const JournalReplayResult result = f.Replay();
+
+    QCOMPARE(FailureOf(result), QString());
+    QVERIFY(result.unfinishedCommands == (std::vector<std::wstring>{L"Line", L"Undo"}));
+    QVERIFY(!f.Has("Undo"));
+}
+
+void JournalReplayerTest::unfinishedCommandsAreListedInOrder()
+{
+    Fixture f;
+    f.Command(L"Line").Command(L"Zoom").End(2).Command(L"Erase").Command(L"Undo").End(4, true);
+
+    const JournalReplayResult result = f.Replay();
+
+    QVERIFY(result.unfinishedCommands == (std::vector<std::wstring>{L"Line", L"Erase"}));
+}
+
+void JournalReplayerTest::anActionThatEndsItselfNeedsNoMark()
+{
+    Fixture f;
+    f.scripts["Line"].isFinished = true;
+    f.Command(L"Line").Command(L"Erase").End(1).Point(1, 1).End(2);
+
+    const JournalReplayResult result = f.Replay();
+
+    QCOMPARE(FailureOf(result), QString());
+    QVERIFY(f.log == (Log{"Line.begin", "Line.end", "Line.delete", "Erase.begin",
+                          "Erase.point 1 on 1", "Erase.end", "Erase.delete"}));
+}
+
+void JournalReplayerTest::propertiesAndUndosGoToTheTarget()
+{
+    Fixture f;
+    f.records = {{1, PropertyRecord{L"drawing", L"name", L"plan"}}, {2, UndoRecord{5}}};
+
+    const JournalReplayResult result = f.Replay();
+
+    QCOMPARE(FailureOf(result), QString());
+    QVERIFY(f.log == (Log{"property plan", "undo 5"}));
+}
+
+void JournalReplayerTest::commandsGetTheirParameters()
+{
+    Fixture f;
+    CommandParameters seen;
+    ICommandManager::Get()->AddCommand(MakeOwner<Command>(
+        L"Colour", Command::Kind::Plain, [&seen](IUiView*, const CommandParameters& parameters) {
+            seen = parameters;
+            return OwnerPtr<IAction>();
+        }));
+    CommandParameters parameters;
+    parameters.Add(L"Colour", CommandParameterValue(7));
+    f.records = {{1, CommandRecord{L"Colour", parameters}}, {1, EndRecord{1, false}}};
+
+    f.Replay();
+
+    QVERIFY(seen == parameters);
+}
+
+void JournalReplayerTest::whatCannotBeDoneIsNamed_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<QString>("failure");
+    QTest::newRow("unknown command") << R"({"n":12,"kind":"command","id":"Sketcher.Foo"})"
+                                     << R"(record 12: unknown command "Sketcher.Foo")";
+    QTest::newRow("point without action") << R"({"n":12,"kind":"point","point":[1,2,3]})"
+                                          << "record 12: a point without a running command";
+    QTest::newRow("value without action")
+        << R"({"n":12,"kind":"value","field":"length","text":"1","value":1})"
+        << "record 12: a value without a running command";
+    QTest::newRow("unknown property")
+        << R"({"n":12,"kind":"property","object":"layer","property":"name","value":"a"})"
+        << R"(record 12: the property "name" of "layer" cannot be set)";
+    QTest::newRow("another undo") << R"({"n":12,"kind":"undo","entity":13})"
+                                  << "record 12: the undo gave another result";
+}
+
+void JournalReplayerTest::whatCannotBeDoneIsNamed()
+{
+    QFETCH(QString, line);
+    QFETCH(QString, failure);
+    Fixture f;
+    JournalRecord record;
+    std::string error;
+    QVERIFY(JournalFormat::FromLine(line.toStdString(), record, error));
+    f.records = {record};
+
+    QCOMPARE(FailureOf(f.Replay()), failure);
+}
+
+void JournalReplayerTest::aFailureStopsTheReplayAndEndsTheAction()
+{
+    Fixture f;
+    f.scripts["Line"].canReplay = false;
+    f.Command(L"Line").Point(1).Point(2).End(1).Command(L"Undo").End(4);
+
+    const JournalReplayResult result = f.Replay();
+
+    QCOMPARE(FailureOf(result), QString("record 2: the point cannot be repeated"));
+    QVERIFY(f.log == (Log{"Line.begin", "Line.point 1", "Line.end", "Line.delete"}));
+}
+
+void JournalReplayerTest::aDisabledCommandIsAFailure()
+{
+    Fixture f;
+    f.isDisabled["Undo"] = true;
+    f.Command(L"Line").Command(L"Undo").End(1).End(2);
+
+    QCOMPARE(FailureOf(f.Replay()), QString(R"(record 2: the command "Undo" is disabled)"));
+    QVERIFY(!f.Has("Undo"));
+}
+
+void JournalReplayerTest::aReplayInsideAnActionIsRefused()
+{
+    Fixture f;
+    f.Command(L"Undo").End(1);
+    QString failure;
+    f.loop.Post([&] { failure = FailureOf(f.Replay()); });
+
+    f.Choose("Line");
+
+    QCOMPARE(failure, QString("a command is running"));
+    QVERIFY(!f.Has("Undo"));
+}
+
+void JournalReplayerTest::aReplayWritesTheJournalOfItsOwn()
+{
+    Fixture f;
+    f.records = {{3, CommandRecord{L"Line", {}}}, {8, CommandRecord{L"Zoom", {}}},
+                 {8, EndRecord{8, false}},        {3, EndRecord{3, false}},
+                 {9, CommandRecord{L"Undo", {}}}, {9, EndRecord{9, true}}};
+
+    f.Replay();
+
+    QVERIFY(
+        JournalManager::GetInstance().GetLastLines() ==
+        (Log{R"({"n":1,"kind":"command","id":"Line"})", R"({"n":2,"kind":"command","id":"Zoom"})",
+             R"({"n":2,"kind":"end","result":"done"})",
+             R"({"n":1,"kind":"end","result":"done"})"}));
+}
+
+}
+
+QTEST_APPLESS_MAIN(vesk::JournalReplayerTest)
+#include "JournalReplayerTest.moc"
