@@ -81,21 +81,19 @@ DimensionInputController::~DimensionInputController()
     JournalManager::GetInstance().RemoveObserver(this);
 }
 
-void DimensionInputController::OnViewKey(QKeyEvent& event)
+bool DimensionInputController::OnViewKey(QKeyEvent& event)
 {
     if (QLineEdit* pEditor = GetActiveEditor())
     {
         QCoreApplication::sendEvent(pEditor, &event);
-        return;
+        return true;
     }
     if (event.key() != Qt::Key_Escape)
-    {
-        OpenInput(event);
-        return;
-    }
+        return OpenInput(event);
     // A key that is held down was meant once.
     if (!event.isAutoRepeat())
         ActionManager::ProcessEscape(CurrentView());
+    return true;
 }
 
 bool DimensionInputController::Commit()
@@ -222,7 +220,8 @@ bool DimensionInputController::IsRefused()
     return true;
 }
 
-void DimensionInputController::OpenInput(const QKeyEvent& event)
+/// False for a key that can open no input.
+bool DimensionInputController::OpenInput(const QKeyEvent& event)
 {
     const int virtualKey = ToVirtualKey(event);
     const Qt::KeyboardModifiers modifiers = event.modifiers();
@@ -232,6 +231,7 @@ void DimensionInputController::OpenInput(const QKeyEvent& event)
                             modifiers & Qt::ShiftModifier);
     if (CanBeginValue(event) && !Manager().IsInputting())
         OpenInputWithText(event.text());
+    return virtualKey != 0 || CanBeginValue(event);
 }
 
 /// Opens the input as a digit would and puts the character in the digit's place.

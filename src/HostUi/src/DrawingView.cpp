@@ -97,7 +97,8 @@ bool DrawingView::focusNextPrevChild(bool isNext)
 
 void DrawingView::keyPressEvent(QKeyEvent* pEvent)
 {
-    m_input.OnViewKey(*pEvent);
+    if (!m_input.OnViewKey(*pEvent))
+        QWidget::keyPressEvent(pEvent);
 }
 
 void DrawingView::leaveEvent(QEvent* pEvent)

@@ -29,8 +29,9 @@ public:
     DimensionInputController();
     ~DimensionInputController() override;
 
-    /// Takes a key that arrived in the view; the key is handled completely.
-    void OnViewKey(QKeyEvent& event);
+    /// Takes a key that arrived in the view. False for a key that means nothing there: it is the
+    /// window's.
+    bool OnViewKey(QKeyEvent& event);
 
     /// Takes the value being typed, as Return would. False when it was refused: the input goes on.
     bool Commit();
@@ -56,7 +57,7 @@ protected:
 private:
     bool FilterEditorKey(QKeyEvent& event);
     bool IsRefused();
-    void OpenInput(const QKeyEvent& event);
+    bool OpenInput(const QKeyEvent& event);
     void OpenInputWithText(const QString& text);
     void OnEditorHidden();
     void OnTextEdited();
