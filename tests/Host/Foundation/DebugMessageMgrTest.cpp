@@ -1,6 +1,7 @@
 #include "Foundation/DebugMessageMgr.h"
 
 #include "Host/Foundation/LogFile.h"
+#include "Host/Foundation/RaiseWarning.h"
 #include "Journal/JournalManager.h"
 
 #include <QCoreApplication>
@@ -9,63 +10,8 @@
 #include <QRegularExpression>
 #include <QtTest>
 
-#include <atomic>
-#include <chrono>
-#include <functional>
-#include <future>
-#include <stdexcept>
-#include <thread>
-#include <vector>
-
 namespace vesk
 {
-
-namespace
-{
-
-DebugMessageMgr& Manager()
-{
-    return *DebugMessageMgr::GetDebugMessageMgr();
-}
-
-void Warn(int line = 1, const std::wstring& message = L"pArgs为空")
-{
-    Manager().ShowDebugWarn("QtButton.cpp", line, "vesk::QtButton::On", message, L"vesk-ui",
-                            L"2026-11-21");
-}
-
-void WarnTimes(int count, int line = 1)
-{
-    for (int i = 0; i < count; ++i)
-        Warn(line);
-}
-
-/// Listens while it lives.
-class Observer final : public IDebugWarningObserver
-{
-public:
-    explicit Observer(std::function<void(const DebugWarning&)> action = nullptr)
-        : m_action(std::move(action))
-    {
-        Manager().AddObserver(this);
-    }
-    ~Observer() override { Manager().RemoveObserver(this); }
-
-    void OnDebugWarning(const DebugWarning& warning) override
-    {
-        ++m_count;
-        if (m_action)
-            m_action(warning);
-    }
-
-    int GetCount() const { return m_count; }
-
-private:
-    std::function<void(const DebugWarning&)> m_action;
-    std::atomic<int> m_count{0};
-};
-
-}
 
 class DebugMessageMgrTest : public QObject
 {
@@ -92,17 +38,6 @@ private slots:
     void aPathThatCannotBeWrittenIsToldAndLeavesTheOldLog();
     void withoutLogWarningsGoToStandardError();
     void afterAFailedOpeningWarningsGoToStandardError();
-    void observersHearTheWarningAfterItWasLogged();
-    void observersHearSuppressedWarningsToo();
-    void anObserverAddedTwiceHearsOnce();
-    void aRemovedObserverHearsNothing();
-    void anObserverMayUseTheManagerInItsCall();
-    void anObserverRemovedByAnotherIsNotCalled();
-    void anObserverMayRemoveItself();
-    void anExceptionOfAnObserverReachesNobody();
-    void aWarningOfAnotherThreadIsToldInThatThread();
-    void removingAnObserverWaitsForItsRunningCall();
-    void warningsOfManyThreadsAreWholeLines();
 };
 
 void DebugMessageMgrTest::aWarningIsOneLineWithAllItsFields()
@@ -351,177 +286,6 @@ void DebugMessageMgrTest::afterAFailedOpeningWarningsGoToStandardError()
 
     QCOMPARE(records.size(), 1);
     QCOMPARE(records[0]["message"].toString(), QString::fromUtf8("pArgs为空"));
-}
-
-void DebugMessageMgrTest::observersHearTheWarningAfterItWasLogged()
-{
-    const LogFile log;
-    Manager().OpenLog(log.GetPath());
-    DebugWarning heard;
-    int lineCount = -1;
-    const Observer observer([&](const DebugWarning& warning) {
-        heard = warning;
-        lineCount = log.ReadRecords().size();
-    });
-
-    Warn(5);
-
-    QCOMPARE(lineCount, 1);
-    QCOMPARE(heard.file, std::string("QtButton.cpp"));
-    QCOMPARE(heard.line, 5);
-    QCOMPARE(heard.function, std::string("vesk::QtButton::On"));
-    QCOMPARE(heard.message, std::wstring(L"pArgs为空"));
-    QCOMPARE(heard.person, std::wstring(L"vesk-ui"));
-    QCOMPARE(heard.date, std::wstring(L"2026-11-21"));
-}
-
-void DebugMessageMgrTest::observersHearSuppressedWarningsToo()
-{
-    const LogFile log;
-    Manager().OpenLog(log.GetPath());
-    const Observer observer;
-
-    WarnTimes(15);
-
-    QCOMPARE(observer.GetCount(), 15);
-}
-
-void DebugMessageMgrTest::anObserverAddedTwiceHearsOnce()
-{
-    const LogFile log;
-    Manager().OpenLog(log.GetPath());
-    Observer observer;
-
-    Manager().AddObserver(&observer);
-    Manager().AddObserver(nullptr);
-    Warn();
-
-    QCOMPARE(observer.GetCount(), 1);
-}
-
-void DebugMessageMgrTest::aRemovedObserverHearsNothing()
-{
-    const LogFile log;
-    Manager().OpenLog(log.GetPath());
-    Observer observer;
-
-    Manager().RemoveObserver(&observer);
-    Warn();
-
-    QCOMPARE(observer.GetCount(), 0);
-}
-
-void DebugMessageMgrTest::anObserverMayUseTheManagerInItsCall()
-{
-    const LogFile log;
-    const LogFile next;
-    Manager().OpenLog(log.GetPath());
-    Observer late;
-    Manager().RemoveObserver(&late);
-    const Observer observer([&](const DebugWarning&) {
-        Manager().OpenLog(next.GetPath());
-        Manager().AddObserver(&late);
-    });
-
-    Warn();
-    Warn();
-
-    QCOMPARE(late.GetCount(), 1);
-    QCOMPARE(log.ReadRecords().size(), 1);
-}
-
-void DebugMessageMgrTest::anObserverRemovedByAnotherIsNotCalled()
-{
-    const LogFile log;
-    Manager().OpenLog(log.GetPath());
-    Observer* pSecond = nullptr;
-    const Observer first([&](const DebugWarning&) { Manager().RemoveObserver(pSecond); });
-    Observer second;
-    pSecond = &second;
-
-    Warn();
-
-    QCOMPARE(second.GetCount(), 0);
-}
-
-void DebugMessageMgrTest::anObserverMayRemoveItself()
-{
-    const LogFile log;
-    Manager().OpenLog(log.GetPath());
-    Observer* pSelf = nullptr;
-    Observer observer([&](const DebugWarning&) { Manager().RemoveObserver(pSelf); });
-    pSelf = &observer;
-
-    WarnTimes(2);
-
-    QCOMPARE(observer.GetCount(), 1);
-}
-
-void DebugMessageMgrTest::anExceptionOfAnObserverReachesNobody()
-{
-    const LogFile log;
-    Manager().OpenLog(log.GetPath());
-    const Observer thrower([](const DebugWarning&) { throw std::runtime_error("observer"); });
-    const Observer other;
-
-    WarnTimes(2);
-
-    QCOMPARE(other.GetCount(), 2);
-}
-
-void DebugMessageMgrTest::aWarningOfAnotherThreadIsToldInThatThread()
-{
-    const LogFile log;
-    Manager().OpenLog(log.GetPath());
-    std::thread::id heardIn;
-    const Observer observer([&](const DebugWarning&) { heardIn = std::this_thread::get_id(); });
-
-    std::thread thread([] { Warn(); });
-    const std::thread::id raisedIn = thread.get_id();
-    thread.join();
-
-    QVERIFY(heardIn == raisedIn);
-}
-
-void DebugMessageMgrTest::removingAnObserverWaitsForItsRunningCall()
-{
-    const LogFile log;
-    Manager().OpenLog(log.GetPath());
-    std::promise<void> entered;
-    std::atomic<bool> isLeft{false};
-    Observer observer([&](const DebugWarning&) {
-        entered.set_value();
-        std::this_thread::sleep_for(std::chrono::milliseconds(100));
-        isLeft = true;
-    });
-    std::thread thread([] { Warn(); });
-    entered.get_future().wait();
-
-    Manager().RemoveObserver(&observer);
-    const bool wasLeft = isLeft;
-    thread.join();
-
-    QVERIFY(wasLeft);
-}
-
-void DebugMessageMgrTest::warningsOfManyThreadsAreWholeLines()
-{
-    const LogFile log;
-    Manager().OpenLog(log.GetPath());
-    const Observer observer;
-    std::vector<std::thread> threads;
-
-    for (int i = 0; i < 8; ++i)
-        threads.emplace_back([i] { WarnTimes(100, i / 2); });
-    for (std::thread& thread : threads)
-        thread.join();
-    Manager().CloseLog();
-
-    const QVector<QJsonObject> records = log.ReadRecords();
-    QCOMPARE(observer.GetCount(), 800);
-    QCOMPARE(records.size(), 4 * 11);
-    QVERIFY(!records.contains(QJsonObject()));
-    QCOMPARE(records.last()["count"].toInt(), 200);
 }
 
 }

@@ -1,0 +1,244 @@
+#include "Foundation/DebugMessageMgr.h"
+
+#include "Host/Foundation/LogFile.h"
+#include "Host/Foundation/RaiseWarning.h"
+
+#include <QtTest>
+
+#include <atomic>
+#include <chrono>
+#include <functional>
+#include <future>
+#include <stdexcept>
+#include <thread>
+#include <utility>
+#include <vector>
+
+namespace vesk
+{
+
+namespace
+{
+
+/// Listens while it lives.
+class Observer final : public IDebugWarningObserver
+{
+public:
+    explicit Observer(std::function<void(const DebugWarning&)> action = nullptr)
+        : m_action(std::move(action))
+    {
+        Manager().AddObserver(this);
+    }
+    ~Observer() override { Manager().RemoveObserver(this); }
+
+    void OnDebugWarning(const DebugWarning& warning) override
+    {
+        ++m_count;
+        if (m_action)
+            m_action(warning);
+    }
+
+    int GetCount() const { return m_count; }
+
+private:
+    std::function<void(const DebugWarning&)> m_action;
+    std::atomic<int> m_count{0};
+};
+
+}
+
+class DebugWarningObserverTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup() { Manager().CloseLog(); }
+
+    void observersHearTheWarningAfterItWasLogged();
+    void observersHearSuppressedWarningsToo();
+    void anObserverAddedTwiceHearsOnce();
+    void aRemovedObserverHearsNothing();
+    void anObserverMayUseTheManagerInItsCall();
+    void anObserverRemovedByAnotherIsNotCalled();
+    void anObserverMayRemoveItself();
+    void anExceptionOfAnObserverReachesNobody();
+    void aWarningOfAnotherThreadIsToldInThatThread();
+    void removingAnObserverWaitsForItsRunningCall();
+    void warningsOfManyThreadsAreWholeLines();
+};
+
+void DebugWarningObserverTest::observersHearTheWarningAfterItWasLogged()
+{
+    const LogFile log;
+    Manager().OpenLog(log.GetPath());
+    DebugWarning heard;
+    int lineCount = -1;
+    const Observer observer([&](const DebugWarning& warning) {
+        heard = warning;
+        lineCount = log.ReadRecords().size();
+    });
+
+    Warn(5);
+
+    QCOMPARE(lineCount, 1);
+    QCOMPARE(heard.file, std::string("QtButton.cpp"));
+    QCOMPARE(heard.line, 5);
+    QCOMPARE(heard.function, std::string("vesk::QtButton::On"));
+    QCOMPARE(heard.message, std::wstring(L"pArgs为空"));
+    QCOMPARE(heard.person, std::wstring(L"vesk-ui"));
+    QCOMPARE(heard.date, std::wstring(L"2026-11-21"));
+}
+
+void DebugWarningObserverTest::observersHearSuppressedWarningsToo()
+{
+    const LogFile log;
+    Manager().OpenLog(log.GetPath());
+    const Observer observer;
+
+    WarnTimes(15);
+
+    QCOMPARE(observer.GetCount(), 15);
+}
+
+void DebugWarningObserverTest::anObserverAddedTwiceHearsOnce()
+{
+    const LogFile log;
+    Manager().OpenLog(log.GetPath());
+    Observer observer;
+
+    Manager().AddObserver(&observer);
+    Manager().AddObserver(nullptr);
+    Warn();
+
+    QCOMPARE(observer.GetCount(), 1);
+}
+
+void DebugWarningObserverTest::aRemovedObserverHearsNothing()
+{
+    const LogFile log;
+    Manager().OpenLog(log.GetPath());
+    Observer observer;
+
+    Manager().RemoveObserver(&observer);
+    Warn();
+
+    QCOMPARE(observer.GetCount(), 0);
+}
+
+void DebugWarningObserverTest::anObserverMayUseTheManagerInItsCall()
+{
+    const LogFile log;
+    const LogFile next;
+    Manager().OpenLog(log.GetPath());
+    Observer late;
+    Manager().RemoveObserver(&late);
+    const Observer observer([&](const DebugWarning&) {
+        Manager().OpenLog(next.GetPath());
+        Manager().AddObserver(&late);
+    });
+
+    Warn();
+    Warn();
+
+    QCOMPARE(late.GetCount(), 1);
+    QCOMPARE(log.ReadRecords().size(), 1);
+}
+
+void DebugWarningObserverTest::anObserverRemovedByAnotherIsNotCalled()
+{
+    const LogFile log;
+    Manager().OpenLog(log.GetPath());
+    Observer* pSecond = nullptr;
+    const Observer first([&](const DebugWarning&) { Manager().RemoveObserver(pSecond); });
+    Observer second;
+    pSecond = &second;
+
+    Warn();
+
+    QCOMPARE(second.GetCount(), 0);
+}
+
+void DebugWarningObserverTest::anObserverMayRemoveItself()
+{
+    const LogFile log;
+    Manager().OpenLog(log.GetPath());
+    Observer* pSelf = nullptr;
+    Observer observer([&](const DebugWarning&) { Manager().RemoveObserver(pSelf); });
+    pSelf = &observer;
+
+    WarnTimes(2);
+
+    QCOMPARE(observer.GetCount(), 1);
+}
+
+void DebugWarningObserverTest::anExceptionOfAnObserverReachesNobody()
+{
+    const LogFile log;
+    Manager().OpenLog(log.GetPath());
+    const Observer thrower([](const DebugWarning&) { throw std::runtime_error("observer"); });
+    const Observer other;
+
+    WarnTimes(2);
+
+    QCOMPARE(other.GetCount(), 2);
+}
+
+void DebugWarningObserverTest::aWarningOfAnotherThreadIsToldInThatThread()
+{
+    const LogFile log;
+    Manager().OpenLog(log.GetPath());
+    std::thread::id heardIn;
+    const Observer observer([&](const DebugWarning&) { heardIn = std::this_thread::get_id(); });
+
+    std::thread thread([] { Warn(); });
+    const std::thread::id raisedIn = thread.get_id();
+    thread.join();
+
+    QVERIFY(heardIn == raisedIn);
+}
+
+void DebugWarningObserverTest::removingAnObserverWaitsForItsRunningCall()
+{
+    const LogFile log;
+    Manager().OpenLog(log.GetPath());
+    std::promise<void> entered;
+    std::atomic<bool> isLeft{false};
+    Observer observer([&](const DebugWarning&) {
+        entered.set_value();
+        std::this_thread::sleep_for(std::chrono::milliseconds(100));
+        isLeft = true;
+    });
+    std::thread thread([] { Warn(); });
+    entered.get_future().wait();
+
+    Manager().RemoveObserver(&observer);
+    const bool wasLeft = isLeft;
+    thread.join();
+
+    QVERIFY(wasLeft);
+}
+
+void DebugWarningObserverTest::warningsOfManyThreadsAreWholeLines()
+{
+    const LogFile log;
+    Manager().OpenLog(log.GetPath());
+    const Observer observer;
+    std::vector<std::thread> threads;
+
+    for (int i = 0; i < 8; ++i)
+        threads.emplace_back([i] { WarnTimes(100, i / 2); });
+    for (std::thread& thread : threads)
+        thread.join();
+    Manager().CloseLog();
+
+    const QVector<QJsonObject> records = log.ReadRecords();
+    QCOMPARE(observer.GetCount(), 800);
+    QCOMPARE(records.size(), 4 * 11);
+    QVERIFY(!records.contains(QJsonObject()));
+    QCOMPARE(records.last()["count"].toInt(), 200);
+}
+
+}
+
+QTEST_APPLESS_MAIN(vesk::DebugWarningObserverTest)
+#include "DebugWarningObserverTest.moc"
