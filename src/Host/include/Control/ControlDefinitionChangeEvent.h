@@ -13,7 +13,8 @@ class IControlDefinition;
 
 /// The concrete change event of the definitions of this host.
 ///
-/// Whether a change is the user's is read when it is raised, from the scope with the definition's id.
+/// Whether a change is the user's is read when it is raised, from the scope with the definition's
+/// id.
 class VESK_HOST_API ControlDefinitionChangeEvent
     : public Event<IControlDefinition, IControlDefinitionChangeEvent,
                    IControlDefinitionChangeEventHandler, IControlDefinitionChangeEventArgs>

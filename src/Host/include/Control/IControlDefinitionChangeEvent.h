@@ -15,11 +15,11 @@ struct ControlDefinitionChangeEventType
 {
     enum : int
     {
-        Add = 0,              ///< An item was appended at the end.
-        Insert = 1,           ///< An item was inserted at the index.
-        Delete = 2,           ///< The item at the index was removed.
-        Clear = 3,            ///< All items were removed.
-        PropertyChanged = 6,  ///< A plain property changed.
+        Add = 0,             ///< An item was appended at the end.
+        Insert = 1,          ///< An item was inserted at the index.
+        Delete = 2,          ///< The item at the index was removed.
+        Clear = 3,           ///< All items were removed.
+        PropertyChanged = 6, ///< A plain property changed.
     };
 };
 

@@ -7,7 +7,6 @@ namespace vesk
 
 /// A text that is only shown: its caption.
 class VESK_HOST_API ILabelDefinition : public IControlDefinition
-{
-};
+{};
 
 }

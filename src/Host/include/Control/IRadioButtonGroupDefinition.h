@@ -10,8 +10,7 @@ namespace vesk
 
 /// One button of a radio-button group; whether it is checked is the group's to say.
 class VESK_HOST_API IRadioButtonDefinition : public IControlDefinition
-{
-};
+{};
 
 /// Buttons of which one is checked.
 class VESK_HOST_API IRadioButtonGroupDefinition : public IControlDefinition

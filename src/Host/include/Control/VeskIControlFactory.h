@@ -32,8 +32,7 @@ public:
     /// The registered factory, null when no control library is loaded. Not owned.
     static VeskIControlFactory* Get();
 
-    virtual OwnerPtr<IControl>
-    CreateQtButton(OwnerPtr<ICommandButtonDefinition> opDefinition) = 0;
+    virtual OwnerPtr<IControl> CreateQtButton(OwnerPtr<ICommandButtonDefinition> opDefinition) = 0;
     virtual OwnerPtr<IControl> CreateQtLineEdit(OwnerPtr<ILineEditDefinition> opDefinition) = 0;
     virtual OwnerPtr<IControl> CreateQtLabel(OwnerPtr<ILabelDefinition> opDefinition) = 0;
     virtual OwnerPtr<IControl>

@@ -10,10 +10,10 @@ struct CheckSite
 {
     const char* file;
     int line;
-    const char* function;    ///< Qualified, as "vesk::QtButton::On".
-    const wchar_t* message;  ///< The failed condition.
-    const wchar_t* person;   ///< Who is responsible for the check.
-    const wchar_t* date;     ///< The day the check was written, "2026-11-21".
+    const char* function;   ///< Qualified, as "vesk::QtButton::On".
+    const wchar_t* message; ///< The failed condition.
+    const wchar_t* person;  ///< Who is responsible for the check.
+    const wchar_t* date;    ///< The day the check was written, "2026-11-21".
 };
 
 /// Reports `site` as a debug warning when `condition` is false, and returns `condition`.

@@ -55,7 +55,8 @@ public:
     /// are ignored.
     void AddObserver(IDebugWarningObserver* pObserver);
 
-    /// Waits until no other thread is telling the observer any more; it may be destroyed afterwards.
+    /// Waits until no other thread is telling the observer any more; it may be destroyed
+    /// afterwards.
     void RemoveObserver(IDebugWarningObserver* pObserver);
 
 private:

@@ -7,7 +7,8 @@
 namespace vesk
 {
 
-/// A list of handlers to which arguments are delivered; the concrete event behind an event interface.
+/// A list of handlers to which arguments are delivered; the concrete event behind an event
+/// interface.
 ///
 /// `TSender` tells whose event it is, `TEvent` is the interface with `Add` and `Delete`, `THandler`
 /// has `On(TArgs*)`. Handlers are not owned.
@@ -27,7 +28,8 @@ public:
 
     ~Event() override
     {
-        for (Emission* pEmission = m_pInnermost; pEmission != nullptr; pEmission = pEmission->pOuter)
+        for (Emission* pEmission = m_pInnermost; pEmission != nullptr;
+             pEmission = pEmission->pOuter)
             pEmission->isEventAlive = false;
     }
 

@@ -11,7 +11,8 @@ namespace vesk
 class VESK_HOST_API IDebugWarningDisplayer
 {
 public:
-    /// Shows one warning and waits for the answer. False when this warning is not to be shown again.
+    /// Shows one warning and waits for the answer. False when this warning is not to be shown
+    /// again.
     virtual bool Display(const std::string& file, int line, const std::string& function,
                          const std::wstring& message, const std::wstring& person,
                          const std::wstring& date) = 0;
@@ -21,7 +22,6 @@ public:
 
 /// Shows them in a dialog.
 class VESK_HOST_API IDebugWarningDialogDisplayer : public IDebugWarningDisplayer
-{
-};
+{};
 
 }

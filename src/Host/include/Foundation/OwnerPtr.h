@@ -63,9 +63,9 @@ public:
     }
 
     OwnerPtr(OwnerPtr&& other) noexcept
-        : m_pObject(std::exchange(other.m_pObject, nullptr)), m_pDeleter(std::move(other.m_pDeleter))
-    {
-    }
+        : m_pObject(std::exchange(other.m_pObject, nullptr)),
+          m_pDeleter(std::move(other.m_pDeleter))
+    {}
 
     OwnerPtr& operator=(OwnerPtr&& other) noexcept
     {
@@ -130,7 +130,8 @@ OwnerPtr<Concrete> MakeOwner(Args&&... args)
     return OwnerPtr<Concrete>(new Concrete(std::forward<Args>(args)...));
 }
 
-/// Checked down-cast that keeps the deleter. An object of another kind is deleted and the result empty.
+/// Checked down-cast that keeps the deleter. An object of another kind is deleted and the result
+/// empty.
 template <class To, class From>
 OwnerPtr<To> OwnerPtrCast(OwnerPtr<From> opObject)
 {

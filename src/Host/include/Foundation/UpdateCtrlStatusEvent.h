@@ -8,7 +8,8 @@ namespace vesk
 
 /// Asks every control to refresh its status.
 ///
-/// Any number of these that wait together refresh the controls once, when the last of them is emitted.
+/// Any number of these that wait together refresh the controls once, when the last of them is
+/// emitted.
 class VESK_HOST_API UpdateCtrlStatusEvent : public IApplicationEvent
 {
 public:

@@ -40,8 +40,7 @@ public:
     WeakReference() = default;
     explicit WeakReference(T* pObject)
         : m_pObject(pObject), m_pToken(pObject != nullptr ? pObject->GetLifeToken() : nullptr)
-    {
-    }
+    {}
 
     /// The object, or null when there is none or it no longer lives.
     T* Get() const { return m_pToken != nullptr && m_pToken->isAlive ? m_pObject : nullptr; }

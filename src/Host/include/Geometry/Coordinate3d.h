@@ -6,7 +6,8 @@
 namespace vesk
 {
 
-/// A right-handed frame: an origin and three unit axes at right angles. Drawing happens in its xy plane.
+/// A right-handed frame: an origin and three unit axes at right angles. Drawing happens in its xy
+/// plane.
 class VESK_HOST_API Coordinate3d
 {
 public:

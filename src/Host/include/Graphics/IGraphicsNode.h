@@ -13,10 +13,10 @@ namespace vesk
 /// What a node stands for; a view chooses colour and pen by it, fit for its background.
 enum class GraphicsRole
 {
-    RubberBand,       ///< What the running action would draw now.
-    Dimension,        ///< A provisional dimension.
-    ActiveDimension,  ///< The dimension whose value is being typed.
-    LockedDimension,  ///< A dimension whose value is fixed.
+    RubberBand,      ///< What the running action would draw now.
+    Dimension,       ///< A provisional dimension.
+    ActiveDimension, ///< The dimension whose value is being typed.
+    LockedDimension, ///< A dimension whose value is fixed.
 };
 
 class IGraphicsNodeGroup;

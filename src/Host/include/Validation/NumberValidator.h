@@ -12,8 +12,8 @@ namespace vesk
 /// Judges whether a text is a number within bounds. `T` is int or double.
 ///
 /// By default every number is accepted. A text is a number when it is one as a whole, in the C
-/// locale whatever the current one is; a leading plus sign is allowed, a blank is not. NaN, infinity
-/// and what `T` cannot hold are outside every range.
+/// locale whatever the current one is; a leading plus sign is allowed, a blank is not. NaN,
+/// infinity and what `T` cannot hold are outside every range.
 template <class T>
 class NumberValidator : public ValidatorBase
 {
@@ -24,8 +24,7 @@ public:
         : ValidatorBase(std::move(tip)), m_bottom(bottom), m_top(top),
           m_isBottomInclusive(isBottomInclusive), m_isTopInclusive(isTopInclusive),
           m_decimals(decimals)
-    {
-    }
+    {}
 
     bool ValidateInput(const std::wstring& text) const override;
 

@@ -14,7 +14,8 @@ public:
     virtual ~IModelView() = default;
 
     /// The view position of a world point; `depth` is its height above the drawing plane.
-    virtual void WorldToScreen(const Vector3d& world, double& x, double& y, double& depth) const = 0;
+    virtual void WorldToScreen(const Vector3d& world, double& x, double& y,
+                               double& depth) const = 0;
 
     /// The point of the drawing plane under a view position.
     virtual Vector3d ScreenToWorld(double x, double y) const = 0;
