@@ -98,16 +98,17 @@ bool DimensionInputController::OnViewKey(QKeyEvent& event)
 
 bool DimensionInputController::Commit()
 {
-    if (GetActiveEditor() == nullptr)
+    QLineEdit* pEditor = GetActiveEditor();
+    if (pEditor == nullptr)
         return true;
     QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
-    QCoreApplication::sendEvent(m_pEditor, &press);
+    QCoreApplication::sendEvent(pEditor, &press);
     return GetActiveEditor() == nullptr;
 }
 
 QLineEdit* DimensionInputController::GetActiveEditor() const
 {
-    return Manager().IsInputting() ? m_pEditor.data() : nullptr;
+    return Manager().IsInputting() ? qobject_cast<QLineEdit*>(m_pEditor) : nullptr;
 }
 
 QString DimensionInputController::GetMessage() const
@@ -187,7 +188,8 @@ void DimensionInputController::OnEditorHidden()
 /// True when the key goes no further.
 bool DimensionInputController::FilterEditorKey(QKeyEvent& event)
 {
-    if (GetActiveEditor() == nullptr)
+    QLineEdit* pEditor = GetActiveEditor();
+    if (pEditor == nullptr)
     {
         // The window system had not yet given the keyboard back to the view.
         if (QWidget* pView = CurrentViewWidget())
@@ -198,21 +200,21 @@ bool DimensionInputController::FilterEditorKey(QKeyEvent& event)
         return true;
     if (!IsCommitting(event.key()))
         return false;
-    if (IsRefused())
+    if (IsRefused(*pEditor))
         return true;
-    Manager().SetTypedValue({ToWide(m_pEditor->text()), !m_isTextTyped});
+    Manager().SetTypedValue({ToWide(pEditor->text()), !m_isTextTyped});
     m_isTextTyped = m_isTextTyped && event.key() != Qt::Key_Tab;
     return false;
 }
 
-bool DimensionInputController::IsRefused()
+bool DimensionInputController::IsRefused(QLineEdit& editor)
 {
     bool isNumber = false;
-    const double value = m_pEditor->text().toDouble(&isNumber);
+    const double value = editor.text().toDouble(&isNumber);
     const Intervald range = CurrentRange(Manager().GetInputState());
     if (isNumber && range.Contains(value))
         return false;
-    m_pEditor->selectAll();
+    editor.selectAll();
     ShowMessage(isNumber ? QStringLiteral("请输入 %1 到 %2 之间的数")
                                .arg(QString::number(range.GetMin(), 'g', 12),
                                     QString::number(range.GetMax(), 'g', 12))

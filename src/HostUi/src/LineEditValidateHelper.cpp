@@ -61,7 +61,8 @@ private:
         m_pMark->raise();
     }
 
-    QPointer<QLineEdit> m_pEdit;
+    /// As a plain widget: it is asked for while the edit is being destroyed, too.
+    QPointer<QWidget> m_pEdit;
     const ValidatorBase* m_pValidator;
     QString m_toolTip;
     QPointer<QWidget> m_pMark;

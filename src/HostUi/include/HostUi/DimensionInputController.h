@@ -56,14 +56,15 @@ protected:
 
 private:
     bool FilterEditorKey(QKeyEvent& event);
-    bool IsRefused();
+    bool IsRefused(QLineEdit& editor);
     bool OpenInput(const QKeyEvent& event);
     void OpenInputWithText(const QString& text);
     void OnEditorHidden();
     void OnTextEdited();
     void ShowMessage(const QString& message);
 
-    QPointer<QLineEdit> m_pEditor;
+    /// As a plain widget: it is asked for while the editor is being destroyed, too.
+    QPointer<QWidget> m_pEditor;
     QPointer<QLabel> m_pMessage;
 
     /// Whether the text of the field is the user's: false while it shows the field's current value.
