@@ -88,12 +88,12 @@ bool TemporaryDimensionHandler::HasEditorFocus()
 void TemporaryDimensionHandler::EndInput()
 {
     m_InputState = InputState::IS_None;
-    // The focus moves in these calls, and who hears of that may drop the handler or the view.
-    const QPointer<TemporaryDimensionHandleEditor> pEditor = m_pEditor;
-    if (pEditor != nullptr)
-        pEditor->clearFocus();
-    if (pEditor != nullptr)
-        pEditor->hide();
+    TemporaryDimensionHandleEditor* pEditor = m_pEditor;
+    if (pEditor == nullptr)
+        return;
+    // The focus moves in these calls, and who hears of that may drop the handler.
+    pEditor->clearFocus();
+    pEditor->hide();
 }
 
 bool TemporaryDimensionHandler::UpdateConfig(const ITemporaryDimensionContext* pContext)
