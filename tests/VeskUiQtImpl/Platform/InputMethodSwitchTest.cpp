@@ -1,0 +1,184 @@
+#include "TemporaryDimensionHandlersImpl/HandlerFixture.h"
+
+#include <QtTest>
+
+namespace vesk::test
+{
+
+/// A main window that takes input methods, and handlers that do not want it to.
+struct InputMethodFixture
+{
+    InputMethodFixture() { host.window.setAttribute(Qt::WA_InputMethodEnabled); }
+
+    OwnerPtr<ITemporaryDimensionHandler> CreateHandler() const
+    {
+        const LinearTemporaryDimensionContext context(Coordinate3d(), Vector3d(0, 0, 0),
+                                                      Vector3d(30, 40, 0));
+        return TemporaryDimensionHandlerFactory::GetInstance()->UpdateOrCreateHandler(&context,
+                                                                                      nullptr);
+    }
+
+    bool IsOn() const { return host.window.testAttribute(Qt::WA_InputMethodEnabled); }
+
+    HostFixture host;
+};
+
+class InputMethodSwitchTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void isOffAsLongAsAHandlerLives();
+    void isRestoredOnlyToWhatItWas();
+    void staysOffWhenTheNewHandlerComesBeforeTheOldOneGoes();
+    void staysOffWhenTheSecondHandlerGoesFirst();
+    void isSwitchedByLaterHandlersToo();
+    void withoutAUiManagerNothingIsSwitchedAndItIsReported();
+    void withoutAMainWindowNothingIsSwitchedAndItIsReported();
+    void withoutAMainWindowWidgetNothingIsSwitched();
+    void handlerThatSwitchedNothingOffSwitchesNothingOn();
+    void handlerThatOutlivesTheUiManagerReportsIt();
+    void handlerThatLostTheWindowIsNotCountedAnyMore();
+};
+
+void InputMethodSwitchTest::isOffAsLongAsAHandlerLives()
+{
+    InputMethodFixture f;
+
+    auto opHandler = f.CreateHandler();
+    QVERIFY(!f.IsOn());
+
+    opHandler.Reset();
+    QVERIFY(f.IsOn());
+}
+
+void InputMethodSwitchTest::isRestoredOnlyToWhatItWas()
+{
+    InputMethodFixture f;
+    f.host.window.setAttribute(Qt::WA_InputMethodEnabled, false);
+
+    f.CreateHandler().Reset();
+
+    QVERIFY(!f.IsOn());
+}
+
+void InputMethodSwitchTest::staysOffWhenTheNewHandlerComesBeforeTheOldOneGoes()
+{
+    InputMethodFixture f;
+    auto opOld = f.CreateHandler();
+    auto opNew = f.CreateHandler();
+
+    opOld.Reset();
+    QVERIFY(!f.IsOn());
+
+    opNew.Reset();
+    QVERIFY(f.IsOn());
+}
+
+void InputMethodSwitchTest::staysOffWhenTheSecondHandlerGoesFirst()
+{
+    InputMethodFixture f;
+    auto opFirst = f.CreateHandler();
+
+    f.CreateHandler().Reset();
+    QVERIFY(!f.IsOn());
+
+    opFirst.Reset();
+    QVERIFY(f.IsOn());
+}
+
+void InputMethodSwitchTest::isSwitchedByLaterHandlersToo()
+{
+    InputMethodFixture f;
+    f.CreateHandler().Reset();
+
+    auto opHandler = f.CreateHandler();
+    QVERIFY(!f.IsOn());
+
+    opHandler.Reset();
+    QVERIFY(f.IsOn());
+}
+
+void InputMethodSwitchTest::withoutAUiManagerNothingIsSwitchedAndItIsReported()
+{
+    InputMethodFixture f;
+    f.host.window.SetManagerInstalled(false);
+
+    auto opHandler = f.CreateHandler();
+    EXPECT_WARNING(f.host.warnings, L"pUiMgr为空！", std::string(BaseClass) + "DisableIme");
+    QVERIFY(f.IsOn());
+
+    opHandler.Reset();
+    EXPECT_WARNING(f.host.warnings, L"pUiMgr为空！", std::string(BaseClass) + "EnableIme");
+}
+
+void InputMethodSwitchTest::withoutAMainWindowNothingIsSwitchedAndItIsReported()
+{
+    InputMethodFixture f;
+    f.host.window.SetNamedWindow(nullptr);
+
+    auto opHandler = f.CreateHandler();
+    EXPECT_WARNING(f.host.warnings, L"pUIMainWnd为空", std::string(BaseClass) + "DisableIme");
+    QVERIFY(f.IsOn());
+
+    opHandler.Reset();
+    EXPECT_WARNING(f.host.warnings, L"pUIMainWnd为空", std::string(BaseClass) + "EnableIme");
+}
+
+void InputMethodSwitchTest::withoutAMainWindowWidgetNothingIsSwitched()
+{
+    InputMethodFixture f;
+    f.host.window.SetWindowId(0);
+
+    const auto opHandler = f.CreateHandler();
+
+    QVERIFY(f.IsOn());
+}
+
+void InputMethodSwitchTest::handlerThatSwitchedNothingOffSwitchesNothingOn()
+{
+    InputMethodFixture f;
+    f.host.window.setAttribute(Qt::WA_InputMethodEnabled, false);
+    f.host.window.SetWindowId(0);
+    auto opHandler = f.CreateHandler();
+    f.host.window.SetWindowId(f.host.window.winId());
+    f.host.window.setAttribute(Qt::WA_InputMethodEnabled);
+    auto opOther = f.CreateHandler();
+    QVERIFY(!f.IsOn());
+
+    opHandler.Reset();
+    QVERIFY(!f.IsOn());
+
+    opOther.Reset();
+    QVERIFY(f.IsOn());
+}
+
+void InputMethodSwitchTest::handlerThatOutlivesTheUiManagerReportsIt()
+{
+    InputMethodFixture f;
+    auto opHandler = f.CreateHandler();
+    f.host.window.SetManagerInstalled(false);
+
+    opHandler.Reset();
+
+    EXPECT_WARNING(f.host.warnings, L"pUiMgr为空！", std::string(BaseClass) + "EnableIme");
+}
+
+void InputMethodSwitchTest::handlerThatLostTheWindowIsNotCountedAnyMore()
+{
+    InputMethodFixture f;
+    auto opHandler = f.CreateHandler();
+    f.host.window.SetWindowId(0);
+    opHandler.Reset();
+    f.host.window.SetWindowId(f.host.window.winId());
+    f.host.window.setAttribute(Qt::WA_InputMethodEnabled);
+
+    f.CreateHandler().Reset();
+
+    QVERIFY(f.IsOn());
+}
+
+}
+
+QTEST_MAIN(vesk::test::InputMethodSwitchTest)
+#include "InputMethodSwitchTest.moc"

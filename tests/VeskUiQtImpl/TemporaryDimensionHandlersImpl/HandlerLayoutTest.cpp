@@ -1,0 +1,98 @@
+#include "TemporaryDimensionHandlersImpl/HandlerFixture.h"
+
+#include "TemporaryDimensionHandlersImpl/LinearTemporaryDimensionHandler.h"
+
+#include <QtTest>
+
+namespace vesk::test
+{
+
+using Base = TemporaryDimensionHandler;
+using Linear = LinearTemporaryDimensionHandler;
+
+VESK_EXPOSE(ViewId, std::uint32_t, Base, m_viewId)
+VESK_EXPOSE(Editor, QPointer<TemporaryDimensionHandleEditor>, Base, m_pEditor)
+VESK_EXPOSE(RawText, bool, Base, m_isRawTextInput)
+VESK_EXPOSE(FirstValidator, NumberValidator<double>, Base, m_firstValueValidator)
+VESK_EXPOSE(SecondValidator, NumberValidator<double>, Base, m_secondValueValidator)
+VESK_EXPOSE(ValidateHelper, OwnerPtr<LineEditValidateHelper>, Base, m_opValidateHelper)
+VESK_EXPOSE(Style, TemporaryDimensionStyle, Base, m_style)
+VESK_EXPOSE(SavedContext, std::optional<InputContext>, Base, m_savedInputContext)
+VESK_EXPOSE(LengthEnabled, bool, Linear, m_isLengthEnabled)
+VESK_EXPOSE(AngleEnabled, bool, Linear, m_isAngleEnabled)
+
+class HandlerLayoutTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void basesStandInOrder();
+    void fieldsStandInOrder();
+    void operationsOfTheHostsInterfaceHaveTheirSlots();
+    void operationsOfTheWidgetSideFollowEachOther();
+    void theEditorAddsOneFlag();
+};
+
+void HandlerLayoutTest::basesStandInOrder()
+{
+    HandlerFixture f;
+
+    QCOMPARE(BaseOffsetIn<QWidget>(f.Handler()), std::ptrdiff_t(0));
+    QCOMPARE(BaseOffsetIn<ITemporaryDimensionHandler>(f.Handler()),
+             std::ptrdiff_t(sizeof(QWidget)));
+}
+
+void HandlerLayoutTest::fieldsStandInOrder()
+{
+    HandlerFixture f;
+    const auto& handler = static_cast<const Linear&>(f.Handler());
+    const std::vector<std::ptrdiff_t> offsets{
+        OffsetIn(handler, MemberOf(ViewId())),
+        OffsetIn(handler, MemberOf(Editor())),
+        OffsetIn(handler, MemberOf(RawText())),
+        OffsetIn(handler, MemberOf(FirstValidator())),
+        OffsetIn(handler, MemberOf(SecondValidator())),
+        OffsetIn(handler, MemberOf(ValidateHelper())),
+        OffsetIn(handler, MemberOf(HandlerState())),
+        OffsetIn(handler, MemberOf(HandlerData())),
+        OffsetIn(handler, MemberOf(Style())),
+        OffsetIn(handler, MemberOf(SavedContext())),
+        OffsetIn(handler, MemberOf(LengthEnabled())),
+        OffsetIn(handler, MemberOf(AngleEnabled())),
+    };
+
+    QVERIFY(offsets.front() >= std::ptrdiff_t(sizeof(QWidget) + sizeof(void*)));
+    QVERIFY(std::is_sorted(offsets.begin(), offsets.end()));
+    QVERIFY(std::adjacent_find(offsets.begin(), offsets.end()) == offsets.end());
+}
+
+void HandlerLayoutTest::operationsOfTheHostsInterfaceHaveTheirSlots()
+{
+    QCOMPARE(SlotOf(&ITemporaryDimensionHandler::GenerateGraphics), std::ptrdiff_t(2));
+    QCOMPARE(SlotOf(&ITemporaryDimensionHandler::IsInputting), std::ptrdiff_t(3));
+    QCOMPARE(SlotOf(&ITemporaryDimensionHandler::HasEditorFocus), std::ptrdiff_t(4));
+    QCOMPARE(SlotOf(&ITemporaryDimensionHandler::EndInput), std::ptrdiff_t(5));
+    QCOMPARE(SlotOf(&ITemporaryDimensionHandler::OnEditorReturnPressed), std::ptrdiff_t(6));
+    QCOMPARE(SlotOf(&ITemporaryDimensionHandler::OnKeyDown), std::ptrdiff_t(7));
+    QCOMPARE(SlotOf(&ITemporaryDimensionHandler::UpdateConfig), std::ptrdiff_t(8));
+}
+
+void HandlerLayoutTest::operationsOfTheWidgetSideFollowEachOther()
+{
+    const std::ptrdiff_t first = SlotOf(&Base::IsRawTextInput);
+
+    // The last operation that a widget has; what overrides the host's interface comes between.
+    QVERIFY(first > SlotOf(&QWidget::setVisible));
+    QCOMPARE(SlotOf(&Base::SetRawTextInput), first + 1);
+    QCOMPARE(SlotOf(&Base::ShowInputWidget), first + 2);
+}
+
+void HandlerLayoutTest::theEditorAddsOneFlag()
+{
+    QCOMPARE(sizeof(TemporaryDimensionHandleEditor), sizeof(QLineEdit) + sizeof(void*));
+}
+
+}
+
+QTEST_MAIN(vesk::test::HandlerLayoutTest)
+#include "HandlerLayoutTest.moc"

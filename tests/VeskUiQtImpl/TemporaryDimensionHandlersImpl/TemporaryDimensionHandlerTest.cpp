@@ -1,0 +1,455 @@
+#include "TemporaryDimensionHandlersImpl/HandlerFixture.h"
+
+#include "Journal/NqIJournalFactory.h"
+#include "View/UiViewUtility.h"
+
+#include <QMetaMethod>
+#include <QtTest>
+
+namespace vesk::test
+{
+
+VESK_EXPOSE(FirstValidator, NumberValidator<double>, TemporaryDimensionHandler,
+            m_firstValueValidator)
+VESK_EXPOSE(SecondValidator, NumberValidator<double>, TemporaryDimensionHandler,
+            m_secondValueValidator)
+
+class TemporaryDimensionHandlerTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void isAWidgetThatIsNeverShown();
+    void offersItsSwitchesToTheHostAsAnObject();
+    void startsWithoutInputAndEditor();
+    void endingWithoutEditorOnlyResetsTheState();
+    void endingHidesTheEditorAndTakesItsFocus();
+    void hasFocusWhenTheEditorHasIt();
+    void theEditorIsAFramelessDialogOfTheView();
+    void theEditorHasTheSizeOfTheStyle();
+    void theEditorLooksAsItShould();
+    void theEditorTakesTheFocus();
+    void theEditorIsSharedByTheHandlersOfAView();
+    void theEditorIsFoundDeepInTheView();
+    void theEditorOutlivesItsHandler();
+    void theEditorFollowsTheCurrentView();
+    void theEditorStaysInItsViewWhenNoneIsCurrent();
+    void theJournalLearnsOfTheEditor();
+    void withoutAJournalTheEditorWorksAndItIsReported();
+    void withoutAViewNoInputBegins();
+    void withoutAViewWidgetNoInputBegins();
+    void theEditorIsCentredOnItsPoint_data();
+    void theEditorIsCentredOnItsPoint();
+    void theEditorOfAnEmbeddedViewIsParkedFarOff();
+    void placingWithoutAnEditorDoesNothing();
+    void placingWithoutAViewDoesNothing();
+    void placingWithoutAViewWidgetIsReported();
+    void placingWithoutInputEndsIt();
+    void placingInAnUnknownStateIsReported();
+    void configurationNeedsAContext();
+    void configurationTakesBothRangesOver();
+    void valuesAreShownWithThreeDecimalsWhenValidated();
+};
+
+void TemporaryDimensionHandlerTest::isAWidgetThatIsNeverShown()
+{
+    HandlerFixture f;
+    f.TypeLength("5");
+
+    const auto* pWidget = dynamic_cast<QWidget*>(f.opHandler.Get());
+
+    QVERIFY(pWidget != nullptr);
+    QVERIFY(pWidget->parent() == nullptr);
+    QVERIFY(!pWidget->isVisible());
+}
+
+void TemporaryDimensionHandlerTest::offersItsSwitchesToTheHostAsAnObject()
+{
+    HandlerFixture f;
+    QCOMPARE(f.Object().property("rawTextInput"), QVariant(false));
+    QCOMPARE(f.Object().property("inputState"), QVariant(0));
+
+    QVERIFY(f.Object().setProperty("rawTextInput", true));
+    f.TypeLength("5");
+
+    QVERIFY(f.Handler().IsRawTextInput());
+    QCOMPARE(f.Object().property("inputState"), QVariant(1));
+    const QMetaObject& meta = *f.Object().metaObject();
+    const QMetaMethod method = meta.method(meta.indexOfMethod("ResetEditorPosition()"));
+    QCOMPARE(method.methodType(), QMetaMethod::Method);
+}
+
+void TemporaryDimensionHandlerTest::startsWithoutInputAndEditor()
+{
+    HandlerFixture f;
+
+    QVERIFY(!f.opHandler->IsInputting());
+    QVERIFY(!f.opHandler->HasEditorFocus());
+    QVERIFY(f.Editor() == nullptr);
+}
+
+void TemporaryDimensionHandlerTest::endingWithoutEditorOnlyResetsTheState()
+{
+    HandlerFixture f;
+    f.SetState(InputState::IS_Angle);
+    QVERIFY(f.opHandler->IsInputting());
+
+    f.opHandler->EndInput();
+
+    QVERIFY(!f.opHandler->IsInputting());
+    QVERIFY(f.Editor() == nullptr);
+}
+
+void TemporaryDimensionHandlerTest::endingHidesTheEditorAndTakesItsFocus()
+{
+    HandlerFixture f;
+    f.TypeLength("5");
+    QTRY_VERIFY(f.Editor()->hasFocus());
+
+    f.opHandler->EndInput();
+
+    QCOMPARE(f.State(), InputState::IS_None);
+    QVERIFY(f.Editor()->isHidden());
+    QVERIFY(f.Editor()->focusWidget() == nullptr);
+    QVERIFY(!f.opHandler->HasEditorFocus());
+}
+
+void TemporaryDimensionHandlerTest::hasFocusWhenTheEditorHasIt()
+{
+    HandlerFixture f;
+
+    f.TypeLength("5");
+
+    QTRY_VERIFY(f.opHandler->HasEditorFocus());
+}
+
+void TemporaryDimensionHandlerTest::theEditorIsAFramelessDialogOfTheView()
+{
+    HandlerFixture f;
+
+    f.TypeLength("5");
+
+    QVERIFY(f.Editor() != nullptr);
+    QCOMPARE(f.Editor()->parent(), &f.host.view);
+    QCOMPARE(int(f.Editor()->windowFlags()), 0x803);
+    QVERIFY(f.Editor()->isVisible());
+    QCOMPARE(QByteArray(f.Editor()->metaObject()->className()),
+             QByteArray("vesk::TemporaryDimensionHandleEditor"));
+}
+
+void TemporaryDimensionHandlerTest::theEditorHasTheSizeOfTheStyle()
+{
+    HandlerFixture f;
+    const TemporaryDimensionStyle style;
+    const QSize size(style.GetEditorWidth(), style.GetEditorHeight());
+
+    f.TypeLength("5");
+
+    QCOMPARE(f.Editor()->size(), size);
+    QCOMPARE(f.Editor()->minimumSize(), size);
+    QCOMPARE(f.Editor()->maximumSize(), size);
+}
+
+void TemporaryDimensionHandlerTest::theEditorLooksAsItShould()
+{
+    HandlerFixture f;
+
+    f.TypeLength("5");
+
+    QCOMPARE(f.Editor()->styleSheet(),
+             QString("QLineEdit{ color:rgba(199, 199, 120, 100%); border:2px solid rgba(199, 199, "
+                     "120, 100%); font:10pt; border-radius:4px}QLineEdit:!enabled{ "
+                     "color:rgba(100, 100, 100, 100%);}QLineEdit:focus{ color:rgba(0, 0, 0, "
+                     "100%); background:rgba(255, 255, 255, 100%);}"));
+    const QPalette palette = f.Editor()->palette();
+    QCOMPARE(palette.brush(QPalette::Active, QPalette::Base), QBrush(Qt::white));
+    QCOMPARE(palette.brush(QPalette::Inactive, QPalette::Base), QBrush(Qt::white));
+    QCOMPARE(palette.brush(QPalette::Disabled, QPalette::Base), QBrush(Qt::white));
+}
+
+void TemporaryDimensionHandlerTest::theEditorTakesTheFocus()
+{
+    HandlerFixture f;
+
+    f.TypeLength("5");
+
+    QTRY_COMPARE(QApplication::focusWidget(), f.Editor());
+}
+
+void TemporaryDimensionHandlerTest::theEditorIsSharedByTheHandlersOfAView()
+{
+    HandlerFixture f;
+    f.TypeLength("5");
+    const QLineEdit* pEditor = f.Editor();
+    f.opHandler->EndInput();
+
+    f.opHandler = f.CreateHandler();
+    f.TypeLength("6");
+
+    QCOMPARE(f.Editor(), pEditor);
+    QCOMPARE(f.host.view.findChildren<QLineEdit*>().size(), 1);
+    QCOMPARE(f.Editor()->text(), QString("6"));
+    QVERIFY(f.Editor()->isVisible());
+}
+
+void TemporaryDimensionHandlerTest::theEditorIsFoundDeepInTheView()
+{
+    HandlerFixture f;
+    f.TypeLength("5");
+    QLineEdit* pEditor = f.Editor();
+    QWidget inner(&f.host.view);
+    pEditor->setParent(&inner, pEditor->windowFlags());
+
+    f.TypeLength("6");
+
+    QCOMPARE(f.host.view.findChildren<QLineEdit*>().size(), 1);
+    QCOMPARE(pEditor->text(), QString("6"));
+    pEditor->setParent(&f.host.view, pEditor->windowFlags());
+}
+
+void TemporaryDimensionHandlerTest::theEditorOutlivesItsHandler()
+{
+    HandlerFixture f;
+    f.TypeLength("5");
+    const QPointer<QLineEdit> pEditor(f.Editor());
+
+    f.opHandler.Reset();
+
+    QVERIFY(pEditor != nullptr);
+}
+
+void TemporaryDimensionHandlerTest::theEditorFollowsTheCurrentView()
+{
+    HandlerFixture f;
+    TestView other(2, &f.host.window);
+    f.host.core.GetViewManager().AddView(&other);
+    f.host.core.GetViewManager().SetCurrentView(&other);
+
+    f.TypeLength("5");
+
+    QVERIFY(f.Editor() == nullptr);
+    QVERIFY(other.findChild<QLineEdit*>("ViewInputLineEdit") != nullptr);
+    f.host.core.GetViewManager().RemoveView(&other);
+}
+
+void TemporaryDimensionHandlerTest::theEditorStaysInItsViewWhenNoneIsCurrent()
+{
+    HandlerFixture f;
+    f.host.core.GetViewManager().SetCurrentView(nullptr);
+
+    f.TypeLength("5");
+
+    QVERIFY(f.Editor() != nullptr);
+}
+
+void TemporaryDimensionHandlerTest::theJournalLearnsOfTheEditor()
+{
+    HandlerFixture f;
+
+    f.TypeLength("5");
+
+    QCOMPARE(f.host.journal.GetUiObjects().size(), std::size_t(1));
+    QCOMPARE(f.host.journal.GetUiObjects()[0].pObject, f.Editor());
+    QCOMPARE(f.host.journal.GetUiObjects()[0].kind, 3);
+}
+
+void TemporaryDimensionHandlerTest::withoutAJournalTheEditorWorksAndItIsReported()
+{
+    HandlerFixture f;
+    NqIJournalFactory* pFactory = NqIJournalFactory::GetImpl();
+    NqIJournalFactory::SetImpl(nullptr);
+
+    f.TypeLength("5");
+
+    NqIJournalFactory::SetImpl(pFactory);
+    EXPECT_WARNING(f.host.warnings, L"vesk::IJournalUiObject::Create()返回空指针",
+                   std::string(BaseClass) + "CreateEditorWidget");
+    QVERIFY(f.opHandler->IsInputting());
+    QCOMPARE(f.Editor()->text(), QString("5"));
+}
+
+void TemporaryDimensionHandlerTest::withoutAViewNoInputBegins()
+{
+    HandlerFixture f;
+    f.host.core.GetViewManager().RemoveView(&f.host.view);
+    const int redrawCount = f.host.view.GetRedrawCount();
+
+    f.TypeLength("5");
+
+    EXPECT_WARNING(f.host.warnings, L"pUIView为空。",
+                   std::string(BaseClass) + "CreateEditorWidget");
+    QVERIFY(!f.opHandler->IsInputting());
+    QVERIFY(f.Editor() == nullptr);
+    QCOMPARE(f.host.view.GetRedrawCount(), redrawCount);
+}
+
+void TemporaryDimensionHandlerTest::withoutAViewWidgetNoInputBegins()
+{
+    HandlerFixture f;
+    f.host.view.SetWindowId(0);
+    const int redrawCount = f.host.view.GetRedrawCount();
+
+    f.TypeLength("5");
+
+    EXPECT_WARNING(f.host.warnings, L"pNqView为空。",
+                   std::string(BaseClass) + "CreateEditorWidget");
+    QVERIFY(!f.opHandler->IsInputting());
+    QVERIFY(f.Editor() == nullptr);
+    QCOMPARE(f.host.view.GetRedrawCount(), redrawCount);
+}
+
+void TemporaryDimensionHandlerTest::theEditorIsCentredOnItsPoint_data()
+{
+    QTest::addColumn<int>("state");
+    QTest::newRow("length") << 1;
+    QTest::newRow("angle") << 2;
+    QTest::newRow("radius") << 3;
+    QTest::newRow("central angle") << 4;
+    QTest::newRow("width") << 5;
+    QTest::newRow("height") << 6;
+}
+
+/// Where the editor's corner belongs for a world point.
+QPoint CornerFor(const TestView& view, const Vector3d& world, const QSize& size)
+{
+    int x = 0;
+    int y = 0;
+    float depth = 0;
+    UiViewUtility::WorldPositionToScreenPosition(&view, world, x, y, depth);
+    return view.mapToGlobal(QPoint(0, 0)) + QPoint(x - size.width() / 2, y - size.height() / 2);
+}
+
+void TemporaryDimensionHandlerTest::theEditorIsCentredOnItsPoint()
+{
+    QFETCH(int, state);
+    HandlerFixture f;
+    f.host.view.move(30, 20);
+    f.TypeLength("5");
+    f.Editor()->setFixedSize(97, 27);
+    const Vector3d world(10.0 * state, -7.0 * state, 0);
+    f.Data()[InputState(state)].textPosition = world;
+    f.SetState(InputState(state));
+
+    QVERIFY(QMetaObject::invokeMethod(&f.Object(), "ResetEditorPosition"));
+
+    QCOMPARE(f.Editor()->pos(), CornerFor(f.host.view, world, QSize(97, 27)));
+    QCOMPARE(f.State(), InputState(state));
+}
+
+void TemporaryDimensionHandlerTest::theEditorOfAnEmbeddedViewIsParkedFarOff()
+{
+    HandlerFixture f;
+    TestView embedded(2, &f.host.view);
+    f.host.core.GetViewManager().AddView(&embedded);
+    f.host.core.GetViewManager().SetCurrentView(&embedded);
+    const Vector3d world(12, 34, 0);
+    f.Data()[InputState::IS_Length].textPosition = world;
+
+    f.TypeLength("5");
+
+    const auto* pEditor = embedded.findChild<QLineEdit*>("ViewInputLineEdit");
+    QCOMPARE(pEditor->pos(), CornerFor(embedded, world, pEditor->size()) + QPoint(10000, 10000));
+    f.host.core.GetViewManager().RemoveView(&embedded);
+}
+
+void TemporaryDimensionHandlerTest::placingWithoutAnEditorDoesNothing()
+{
+    HandlerFixture f;
+    f.SetState(InputState::IS_Length);
+    f.host.view.SetWindowId(0);
+
+    f.Handler().metaObject()->invokeMethod(&f.Object(), "ResetEditorPosition");
+
+    QCOMPARE(f.State(), InputState::IS_Length);
+}
+
+void TemporaryDimensionHandlerTest::placingWithoutAViewDoesNothing()
+{
+    HandlerFixture f;
+    f.TypeLength("5");
+    const QPoint position = f.Editor()->pos();
+    f.Data()[InputState::IS_Length].textPosition = Vector3d(99, 99, 0);
+    f.host.core.GetViewManager().RemoveView(&f.host.view);
+
+    QMetaObject::invokeMethod(&f.Object(), "ResetEditorPosition");
+
+    QCOMPARE(f.Editor()->pos(), position);
+}
+
+void TemporaryDimensionHandlerTest::placingWithoutAViewWidgetIsReported()
+{
+    HandlerFixture f;
+    f.TypeLength("5");
+    const QPoint position = f.Editor()->pos();
+    f.Data()[InputState::IS_Length].textPosition = Vector3d(99, 99, 0);
+    f.host.view.SetWindowId(0);
+
+    QMetaObject::invokeMethod(&f.Object(), "ResetEditorPosition");
+
+    EXPECT_WARNING(f.host.warnings, L"pNqView为空。", std::string(BaseClass) + "SetEditorPosition");
+    QCOMPARE(f.Editor()->pos(), position);
+}
+
+void TemporaryDimensionHandlerTest::placingWithoutInputEndsIt()
+{
+    HandlerFixture f;
+    f.TypeLength("5");
+    f.SetState(InputState::IS_None);
+
+    QMetaObject::invokeMethod(&f.Object(), "ResetEditorPosition");
+
+    QVERIFY(f.Editor()->isHidden());
+}
+
+void TemporaryDimensionHandlerTest::placingInAnUnknownStateIsReported()
+{
+    HandlerFixture f;
+    f.TypeLength("5");
+    const QPoint position = f.Editor()->pos();
+    f.SetState(InputState(7));
+
+    QMetaObject::invokeMethod(&f.Object(), "ResetEditorPosition");
+
+    EXPECT_WARNING(f.host.warnings, L"不该运行至此。",
+                   std::string(BaseClass) + "ResetEditorPosition");
+    QCOMPARE(f.Editor()->pos(), position);
+    QVERIFY(f.Editor()->isVisible());
+}
+
+void TemporaryDimensionHandlerTest::configurationNeedsAContext()
+{
+    HandlerFixture f;
+
+    QVERIFY(!f.opHandler->UpdateConfig(nullptr));
+
+    EXPECT_WARNING(f.host.warnings, L"pCtx为空。", std::string(BaseClass) + "UpdateConfig");
+}
+
+void TemporaryDimensionHandlerTest::configurationTakesBothRangesOver()
+{
+    HandlerFixture f;
+    f.context.SetFirstValueRange({5, 10});
+    f.context.SetSecondValueRange({-20, 30});
+
+    QVERIFY(f.opHandler->UpdateConfig(&f.context));
+
+    const NumberValidator<double>& first = f.Handler().*MemberOf(FirstValidator());
+    const NumberValidator<double>& second = f.Handler().*MemberOf(SecondValidator());
+    QVERIFY(first.ValidateValue(5) && first.ValidateValue(10));
+    QVERIFY(!first.ValidateValue(4.999) && !first.ValidateValue(10.001));
+    QVERIFY(second.ValidateValue(-20) && second.ValidateValue(30));
+    QVERIFY(!second.ValidateValue(-20.001) && !second.ValidateValue(30.001));
+}
+
+void TemporaryDimensionHandlerTest::valuesAreShownWithThreeDecimalsWhenValidated()
+{
+    HandlerFixture f;
+
+    QCOMPARE((f.Handler().*MemberOf(FirstValidator())).GetDecimals(), 3);
+    QCOMPARE((f.Handler().*MemberOf(SecondValidator())).GetDecimals(), 3);
+}
+
+}
+
+QTEST_MAIN(vesk::test::TemporaryDimensionHandlerTest)
+#include "TemporaryDimensionHandlerTest.moc"
