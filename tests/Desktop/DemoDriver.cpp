@@ -56,9 +56,7 @@ bool Draw(DesktopSession& session, const DemoLine& line, int number, const QStri
 {
     if (line.start)
     {
-        const bool begun = session.Click("Sketcher.Line") &&
-                           session.WaitForAction("Sketcher.Line") && session.ClickView(*line.start);
-        if (!begun)
+        if (!session.BeginLine(*line.start))
             return Fail("the line tool does not start");
     }
     if (line.angle.isEmpty() && !session.MoveInView(line.cursor))
@@ -85,11 +83,14 @@ bool DrawAll(DesktopSession& session, const QString& pictures)
     session.Input().Keys({"Escape"});
     if (!session.WaitForAction(QString()) || !session.Click("Sketcher.ZoomAll"))
         return Fail("zooming to all does not work");
-    const bool isShown = session.WaitFor([](const UiTree& tree) {
-        const std::optional<UiControl> button = tree.FindControl("Sketcher.ZoomAll");
-        return button && tree.GetAction().isEmpty();
-    });
-    return session.Input().TakePicture(pictures + "/sketcher.png") && isShown;
+    const double before = session.Tree().FindView()->worldPerPixel;
+    const bool isZoomed = session.WaitFor(
+        [&](const UiTree& tree) { return tree.FindView()->worldPerPixel != before; });
+    if (!isZoomed || !session.BeginLine(QPointF(-150.0, -130.0)) ||
+        !session.MoveInView(QPointF(20.0, 60.0)) || !session.Type("212.5") ||
+        !session.WaitForEditor("212.5"))
+        return Fail("the last picture cannot be taken");
+    return session.Input().TakePicture(pictures + "/sketcher.png");
 }
 
 /// Prints what was typed and what it became. True when they are the same.

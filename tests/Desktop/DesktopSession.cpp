@@ -88,6 +88,18 @@ bool DesktopSession::MoveInView(QPointF world)
     return Refresh() && m_input.MoveTo(ToScreen(world));
 }
 
+bool DesktopSession::BeginLine(QPointF start)
+{
+    const bool waits =
+        Click("Sketcher.Line") && WaitFor([&](const UiTree& tree) {
+            const bool isStart = m_startHint.isEmpty() || tree.GetHint() == m_startHint;
+            return tree.GetAction() == "Sketcher.Line" && !tree.GetHint().isEmpty() && isStart;
+        });
+    m_startHint = m_tree.GetHint();
+    return waits && ClickView(start) &&
+           WaitFor([&](const UiTree& tree) { return tree.GetHint() != m_startHint; });
+}
+
 QPoint DesktopSession::ToScreen(QPointF world) const
 {
     return m_tree.FindView().value_or(UiView()).ToScreen(world);
@@ -169,6 +181,7 @@ QProcessEnvironment DesktopSession::MakeEnvironment(const Environment& additions
     variables.insert("XDG_CONFIG_HOME", PathOf("config"));
     variables.insert("XDG_DATA_HOME", PathOf("data"));
     variables.insert("XDG_CACHE_HOME", PathOf("cache"));
+    variables.insert("XDG_RUNTIME_DIR", m_folder.path());
     variables.insert("LC_ALL", "C.UTF-8");
     variables.insert("VESK_UNATTENDED", "1");
     for (auto addition = additions.begin(); addition != additions.end(); ++addition)

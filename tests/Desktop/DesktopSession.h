@@ -53,6 +53,11 @@ public:
     bool ClickView(QPointF world);
     bool MoveInView(QPointF world);
 
+    /// Starts the line tool (anew, when it runs already) and clicks the point from which to draw.
+    /// Waits for the hint after each click: a window manager may let a key overtake the click
+    /// before it.
+    bool BeginLine(QPointF start = QPointF(0.0, 0.0));
+
     /// Where a world point is on the screen, as the view stands now.
     QPoint ToScreen(QPointF world) const;
 
@@ -100,6 +105,7 @@ private:
     InputDriver m_input;
     QProcess m_program;
     UiTree m_tree;
+    QString m_startHint; ///< What the line tool says while it waits for the first point.
     QByteArray m_errorOutput;
 };
 

@@ -5,12 +5,6 @@
 namespace vesk
 {
 
-bool DesktopTest::BeginLine(QPointF start)
-{
-    return Session().Click("Sketcher.Line") && Session().WaitForAction("Sketcher.Line") &&
-           Session().ClickView(start);
-}
-
 QVector<DrawnLine> DesktopTest::CloseAndReadLines()
 {
     m_isClosed = true;

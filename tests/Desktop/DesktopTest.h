@@ -24,9 +24,6 @@ class DesktopTest : public QObject
 protected:
     DesktopSession& Session() { return *m_pSession; }
 
-    /// Clicks the line tool and the point from which to draw.
-    bool BeginLine(QPointF start = QPointF(0.0, 0.0));
-
     /// Closes the program and returns the lines that it had; empty when it did not end well.
     QVector<DrawnLine> CloseAndReadLines();
 

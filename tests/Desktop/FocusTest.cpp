@@ -37,7 +37,7 @@ void FocusTest::lineEditOfTheRibbonTakesTheKeys()
 
 void FocusTest::digitsTypedInTheLineEditOpenNoDimension()
 {
-    QVERIFY(BeginLine());
+    QVERIFY(Session().BeginLine());
     QVERIFY(Session().MoveInView(QPointF(80.0, 40.0)));
     QVERIFY(Session().Click("Sketcher.DrawingName"));
 
@@ -55,7 +55,7 @@ void FocusTest::startingAToolGivesTheKeysToTheView()
     QVERIFY(Session().Click("Sketcher.DrawingName"));
     QVERIFY(Session().Type("", QStringList{"ctrl+a"} + InputDriver::Text("A")));
     QVERIFY(WaitForName("A"));
-    QVERIFY(BeginLine());
+    QVERIFY(Session().BeginLine());
 
     QVERIFY(Session().Type("64", {"Return"}));
 

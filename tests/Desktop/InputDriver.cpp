@@ -57,7 +57,7 @@ bool InputDriver::MoveTo(QPoint position) const
 bool InputDriver::Click(QPoint position, int button) const
 {
     return Xdotool({"mousemove", QString::number(position.x()), QString::number(position.y()),
-                    "click", QString::number(button)});
+                    "click", "--delay", "5", QString::number(button)});
 }
 
 bool InputDriver::ClickAll(const QList<QPoint>& positions) const
@@ -66,6 +66,8 @@ bool InputDriver::ClickAll(const QList<QPoint>& positions) const
     for (const QPoint position : positions)
         arguments << "mousemove" << QString::number(position.x()) << QString::number(position.y())
                   << "click"
+                  << "--delay"
+                  << "10"
                   << "1";
     return Xdotool(arguments);
 }

@@ -25,7 +25,8 @@ public:
     bool MoveTo(QPoint position) const;
     bool Click(QPoint position, int button = 1) const;
 
-    /// Clicks the places in turn, as fast as the server takes them.
+    /// Clicks the places in turn, about a hundred a second. At more than three hundred Qt itself
+    /// loses some.
     bool ClickAll(const QList<QPoint>& positions) const;
 
     /// Turns the wheel at the pointer's place; positive turns away from the user.

@@ -34,7 +34,7 @@ void RefusedTextTest::refusedTextStaysSelectedAndIsReplaced()
 {
     QFETCH(QString, text);
 
-    QVERIFY(BeginLine());
+    QVERIFY(Session().BeginLine());
     QVERIFY(Session().MoveInView(QPointF(80.0, 40.0)));
     QVERIFY(Session().Type(text, {"Return"}));
 
@@ -54,7 +54,7 @@ void RefusedTextTest::refusedTextStaysSelectedAndIsReplaced()
 
 void RefusedTextTest::emptyTextIsRefused()
 {
-    QVERIFY(BeginLine());
+    QVERIFY(Session().BeginLine());
     QVERIFY(Session().MoveInView(QPointF(80.0, 40.0)));
     QVERIFY(Session().Type("5", {"BackSpace", "Return"}));
     QVERIFY(Session().WaitForEditor(""));
@@ -69,7 +69,7 @@ void RefusedTextTest::emptyTextIsRefused()
 
 void RefusedTextTest::refusedAngleStaysInItsField()
 {
-    QVERIFY(BeginLine());
+    QVERIFY(Session().BeginLine());
     QVERIFY(Session().MoveInView(QPointF(80.0, 40.0)));
     QVERIFY(Session().Type("50", {"Tab", "4", "0", "0", "Return"}));
     QVERIFY(Session().WaitFor([](const UiTree& tree) {

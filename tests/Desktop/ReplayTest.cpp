@@ -37,7 +37,7 @@ private:
 
 void ReplayTest::DrawTwoLines()
 {
-    QVERIFY(BeginLine(QPointF(-100.0, -40.0)));
+    QVERIFY(Session().BeginLine(QPointF(-100.0, -40.0)));
     QVERIFY(Session().Type("125.5", {"Tab", "3", "0", "Return"}));
     QVERIFY(Session().WaitForEntities(1));
     QVERIFY(Session().ClickView(QPointF(37.0, 111.0)));
@@ -51,7 +51,7 @@ void ReplayTest::RunWholeSession()
     QVERIFY(Session().Type("", QStringList{"ctrl+a"} + InputDriver::Text("Plan 7") +
                                    QStringList{"Return"}));
     QVERIFY(Session().Click("Sketcher.ZoomAll"));
-    QVERIFY(BeginLine(QPointF(10.3, -20.7)));
+    QVERIFY(Session().BeginLine(QPointF(10.3, -20.7)));
     QVERIFY(Session().MoveInView(QPointF(40.0, -31.0)));
     QVERIFY(Session().Type("0.333333333", {"Return"}));
     QVERIFY(Session().WaitForEntities(3));

@@ -2,6 +2,7 @@
 
 #include <QJsonDocument>
 #include <QRandomGenerator>
+#include <QtMath>
 
 namespace vesk
 {
@@ -50,7 +51,7 @@ private slots:
 
 void TypedLineTest::lengthAndAngleMakeTheVeryLine()
 {
-    QVERIFY(BeginLine());
+    QVERIFY(Session().BeginLine());
     QVERIFY(Session().Type("125.5", {"Tab", "3", "0", "Return"}));
 
     QVERIFY(Session().WaitForEntities(1));
@@ -62,7 +63,7 @@ void TypedLineTest::lengthAndAngleMakeTheVeryLine()
 
 void TypedLineTest::lengthAloneTakesTheDirectionOfTheCursor()
 {
-    QVERIFY(BeginLine());
+    QVERIFY(Session().BeginLine());
     QVERIFY(Session().MoveInView(QPointF(90.0, 120.0)));
     QVERIFY(Session().Type("75", {"Return"}));
 
@@ -76,7 +77,7 @@ void TypedLineTest::lengthAloneTakesTheDirectionOfTheCursor()
 
 void TypedLineTest::valueTypedBeforeTheMouseHasMovedGoesAlongX()
 {
-    QVERIFY(BeginLine());
+    QVERIFY(Session().BeginLine());
     QVERIFY(Session().Type("42.25", {"Return"}));
 
     QVERIFY(Session().WaitForEntities(1));
@@ -88,7 +89,7 @@ void TypedLineTest::valueTypedBeforeTheMouseHasMovedGoesAlongX()
 
 void TypedLineTest::mouseMovesLeaveTheTypedTextAlone()
 {
-    QVERIFY(BeginLine());
+    QVERIFY(Session().BeginLine());
     QVERIFY(Session().Type("61.75"));
     QVERIFY(Session().WaitForEditor("61.75"));
     for (int step = 0; step < 40; ++step)
@@ -104,7 +105,7 @@ void TypedLineTest::mouseMovesLeaveTheTypedTextAlone()
 
 void TypedLineTest::wheelLeavesTheTypedTextAlone()
 {
-    QVERIFY(BeginLine());
+    QVERIFY(Session().BeginLine());
     QVERIFY(Session().MoveInView(QPointF(60.0, 60.0)));
     QVERIFY(Session().Type("33.125"));
     QVERIFY(Session().WaitForEditor("33.125"));
@@ -125,18 +126,15 @@ void TypedLineTest::noneOfManyRandomValuesIsAltered()
 {
     const QVector<TypedValues> values =
         RandomValues(CountFromEnvironment("VESK_DESKTOP_VALUES", 60));
-    QVERIFY(Session().Click("Sketcher.Line"));
-    QVERIFY(Session().WaitForAction("Sketcher.Line"));
     for (int i = 0; i < values.size(); ++i)
     {
         // A start of its own for each keeps the coordinates small, so that 1e-9 can be asked for.
-        QVERIFY(Session().ClickView(QPointF(0.0, 0.0)));
+        QVERIFY(Session().BeginLine());
         QVERIFY(Session().Type(values[i].length, QStringList{"Tab"} +
                                                      InputDriver::Text(values[i].angle) +
                                                      QStringList{"Return"}));
         QVERIFY2(Session().WaitForEntities(i + 1),
                  qPrintable(values[i].length + " " + values[i].angle));
-        QVERIFY(Session().Click("Sketcher.Line"));
     }
 
     const QVector<DrawnLine> lines = CloseAndReadLines();

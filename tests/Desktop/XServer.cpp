@@ -39,9 +39,11 @@ bool XServer::Start()
 
 bool XServer::StartServer()
 {
-    // The number comes on standard output. The key repeat of a real keyboard stays on.
+    // The number comes on standard output. Without -noreset the server starts anew when a query
+    // ends.
     m_server.setStandardErrorFile(QProcess::nullDevice());
-    m_server.start("Xvfb", {"-displayfd", "1", "-screen", "0", "1400x1000x24", "-nolisten", "tcp"});
+    m_server.start("Xvfb", {"-displayfd", "1", "-screen", "0", "1400x1000x24", "-nolisten", "tcp",
+                            "-noreset"});
     if (!m_server.waitForStarted())
     {
         m_error = "Xvfb: " + m_server.errorString();
