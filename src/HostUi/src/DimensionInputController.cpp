@@ -165,6 +165,12 @@ InputState DimensionInputController::GetInputState(ITemporaryDimensionHandler& h
                               : InputState::IS_None;
 }
 
+bool DimensionInputController::IsRawTextInput(ITemporaryDimensionHandler& handler)
+{
+    const auto* pObject = dynamic_cast<QObject*>(&handler);
+    return pObject != nullptr && pObject->property("rawTextInput").toBool();
+}
+
 bool DimensionInputController::eventFilter(QObject* pWatched, QEvent* pEvent)
 {
     if (pWatched != m_pEditor || pWatched == nullptr)
@@ -200,7 +206,7 @@ bool DimensionInputController::FilterEditorKey(QKeyEvent& event)
         return true;
     if (!IsCommitting(event.key()))
         return false;
-    if (IsRefused(*pEditor))
+    if (!Manager().IsRawTextInput() && IsRefused(*pEditor))
         return true;
     Manager().SetTypedValue({ToWide(pEditor->text()), !m_isTextTyped});
     m_isTextTyped = m_isTextTyped && event.key() != Qt::Key_Tab;

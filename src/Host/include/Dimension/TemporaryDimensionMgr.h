@@ -27,6 +27,9 @@ public:
 
     /// Which value the handler is taking.
     virtual InputState GetInputState(ITemporaryDimensionHandler& handler) = 0;
+
+    /// Whether the handler delivers texts as they stand.
+    virtual bool IsRawTextInput(ITemporaryDimensionHandler&) { return false; }
 };
 
 /// What was in the editor when a value was taken.
@@ -74,6 +77,9 @@ public:
 
     /// Which value is being typed.
     InputState GetInputState() const;
+
+    /// Whether what is being typed is taken as a text, whatever it says: nobody is to judge it.
+    bool IsRawTextInput() const;
 
     /// The provisional graphics, null when there are none. Not owned; gone with the next change.
     const IGraphicsNodeGroup* GetGraphics() const;

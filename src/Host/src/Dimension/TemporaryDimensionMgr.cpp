@@ -128,6 +128,11 @@ InputState TemporaryDimensionMgr::GetInputState() const
     return isKnown ? m_pAccess->GetInputState(*m_opHandler) : InputState::IS_None;
 }
 
+bool TemporaryDimensionMgr::IsRawTextInput() const
+{
+    return m_pAccess != nullptr && IsInputting() && m_pAccess->IsRawTextInput(*m_opHandler);
+}
+
 const IGraphicsNodeGroup* TemporaryDimensionMgr::GetGraphics() const
 {
     return m_opGraphics.Get();

@@ -50,6 +50,7 @@ public:
 
     void ResetEditorPosition(ITemporaryDimensionHandler& handler) override;
     InputState GetInputState(ITemporaryDimensionHandler& handler) override;
+    bool IsRawTextInput(ITemporaryDimensionHandler& handler) override;
 
 protected:
     bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
