@@ -48,6 +48,8 @@ private slots:
     void anActionThatIsFinishedEnds();
     void anActionThatIsToEndTakesNothingMore_data() { AddInputRows(); }
     void anActionThatIsToEndTakesNothingMore();
+    void anActionThatEndsTakesNothingMore_data() { AddInputRows(); }
+    void anActionThatEndsTakesNothingMore();
     void escapeDropsLocksFirst();
     void escapeEndsAnActionWithoutLocks();
     void clicksForTheNextCommandGoToIt();
@@ -115,6 +117,21 @@ void ActionInputTest::anActionThatIsToEndTakesNothingMore()
 
     QVERIFY(!f.Has(entry.toStdString()));
     QVERIFY(f.Has("Line.end"));
+}
+
+void ActionInputTest::anActionThatEndsTakesNothingMore()
+{
+    QFETCH(Input, input);
+    ActionFixture f;
+    f.AddInteractive("Line");
+    f.scripts["Line"].onEnd = [&] {
+        input(f);
+        ActionManager::Reset();
+    };
+
+    f.Choose("Line");
+
+    QVERIFY(f.log == (Log{"Line.begin", "Line.end", "Line.end done", "Line.delete"}));
 }
 
 void ActionInputTest::escapeDropsLocksFirst()

@@ -55,6 +55,7 @@ private slots:
     void theEndClearsTheText();
     void aStepIsShown_data();
     void aStepIsShown();
+    void theLastStepIsShownAsTheEnd();
     void aMouseMoveIsNoStep();
     void aPlainCommandIsNoStep();
     void observersHearOfBeginStepAndEnd();
@@ -130,6 +131,19 @@ void ActionStepTest::aStepIsShown()
     QCOMPARE(text, std::wstring(L"second point"));
     QCOMPARE(posts, 1);
     QCOMPARE(redraws, 1);
+}
+
+void ActionStepTest::theLastStepIsShownAsTheEnd()
+{
+    ActionFixture f;
+    f.AddInteractive("Line");
+    f.scripts["Line"].onClick = [&f] { f.scripts["Line"].isFinished = true; };
+    const Observer observer;
+    f.loop.Post([&f] { f.Click(); });
+
+    f.Choose("Line");
+
+    QCOMPARE(observer.GetCount(), 2);
 }
 
 void ActionStepTest::aMouseMoveIsNoStep()

@@ -161,22 +161,24 @@ void TemporaryDimensionCommonsTest::theAngleRunsFromMinus180Above180_data()
 {
     QTest::addColumn<double>("x");
     QTest::addColumn<double>("y");
+    QTest::addColumn<double>("z");
     QTest::addColumn<double>("degrees");
-    QTest::newRow("right") << 1.0 << 0.0 << 0.0;
-    QTest::newRow("diagonal") << 1.0 << 1.0 << 45.0;
-    QTest::newRow("up") << 0.0 << 1.0 << 90.0;
-    QTest::newRow("left") << -1.0 << 0.0 << 180.0;
-    QTest::newRow("left, from below") << -1.0 << -0.0 << 180.0;
-    QTest::newRow("down") << 0.0 << -1.0 << -90.0;
+    QTest::newRow("right") << 1.0 << 0.0 << 0.0 << 0.0;
+    QTest::newRow("diagonal") << 1.0 << 1.0 << 0.0 << 45.0;
+    QTest::newRow("up") << 0.0 << 1.0 << 0.0 << 90.0;
+    QTest::newRow("left") << -1.0 << 0.0 << 0.0 << 180.0;
+    QTest::newRow("left, every zero negative") << -1.0 << -0.0 << -1.0 << 180.0;
+    QTest::newRow("down") << 0.0 << -1.0 << 0.0 << -90.0;
 }
 
 void TemporaryDimensionCommonsTest::theAngleRunsFromMinus180Above180()
 {
     QFETCH(double, x);
     QFETCH(double, y);
+    QFETCH(double, z);
     QFETCH(double, degrees);
     Fixture f;
-    f.end = {100 * x, 100 * y, 0};
+    f.end = {100 * x, 100 * y, 100 * z};
 
     f.MakeAngle();
 

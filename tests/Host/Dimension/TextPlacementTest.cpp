@@ -198,13 +198,14 @@ void TextPlacementTest::theTextOfASegmentOutsideTheViewIsInIt()
 {
     Fixture f;
     f.camera.SetSize(300, 200);
-    f.start = {1e8, 1e8, 0};
-    f.end = {1e8 + 10, 1e8, 0};
+    f.start = {1e8, 1e8, 5};
+    f.end = {1e8 + 10, 1e8, 5};
 
     f.Generate();
 
     QVERIFY(f.GetView().contains(f.GetEditor(InputState::IS_Length)));
     QVERIFY(f.GetView().contains(f.GetEditor(InputState::IS_Angle)));
+    QCOMPARE(f.data[InputState::IS_Length].textPosition.z(), 5.0);
 }
 
 void TextPlacementTest::theAngleStandsOnTheBisectorWhereThereIsRoom()
@@ -270,8 +271,8 @@ void TextPlacementTest::textsOfAPlaneSeenFromItsEdgeAreNumbers()
     Fixture f;
     f.camera.SetSize(300, 200);
     f.coordinate = Coordinate3d({0, 0, 0}, Vector3d::UnitY(), Vector3d::UnitZ());
-    f.start = {0, 0, 0};
-    f.end = {0, 140, 90};
+    f.start = {0, 1e6, 0};
+    f.end = {0, 1e6, 90};
 
     f.Generate();
 

@@ -94,6 +94,8 @@ private slots:
     void stepsGoToTheActionOfTheirCommand();
     void theEventLoopIsOffMeanwhile();
     void anActionEndsAtItsMark();
+    void aStepBehindTheMarkIsAFailure();
+    void aCommandIsJudgedWhenTheOneBeforeItHasEnded();
     void aPlainCommandInsideAnActionRunsBesideIt();
     void aPlainCommandThatEndedLaterRunsAfterTheAction();
     void aCommandRecordedWhileAnotherWasBeingEndedCountsAsAfterIt();
@@ -152,6 +154,27 @@ void JournalReplayerTest::anActionEndsAtItsMark()
     f.Replay();
 
     QVERIFY(f.log == (Log{"Line.begin", "Line.end", "Line.delete", "Undo", "undo 1"}));
+}
+
+void JournalReplayerTest::aStepBehindTheMarkIsAFailure()
+{
+    Fixture f;
+    f.Command(L"Line").End(1).Point(1);
+
+    QCOMPARE(FailureOf(f.Replay()), QString("record 2: a point without a running command"));
+}
+
+void JournalReplayerTest::aCommandIsJudgedWhenTheOneBeforeItHasEnded()
+{
+    Fixture f;
+    f.isDisabled["Erase"] = true;
+    f.scripts["Line"].onEnd = [&f] { f.isDisabled["Erase"] = false; };
+    f.Command(L"Line").Command(L"Erase").End(2);
+
+    const JournalReplayResult result = f.Replay();
+
+    QCOMPARE(FailureOf(result), QString());
+    QVERIFY(f.Has("Erase.begin"));
 }
 
 void JournalReplayerTest::aPlainCommandInsideAnActionRunsBesideIt()

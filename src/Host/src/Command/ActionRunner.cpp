@@ -98,7 +98,7 @@ void ActionRunner::Send(const std::wstring& commandId, const CommandParameters& 
 
 void ActionRunner::RequestEnd()
 {
-    if (GetAction() == nullptr || m_isEnding)
+    if (GetAction() == nullptr)
         return;
     m_isEndRequested = true;
     if (m_pRunningLoop != nullptr)
@@ -109,7 +109,7 @@ void ActionRunner::RequestEnd()
 
 bool ActionRunner::Operate(const std::function<void(IAction&)>& operation)
 {
-    if (GetAction() == nullptr || m_isEnding || m_isEndRequested)
+    if (GetAction() == nullptr || m_isEndRequested)
         return false;
     ++m_operationDepth;
     operation(*GetAction());
@@ -256,11 +256,10 @@ void ActionRunner::EndIfDue()
 
 void ActionRunner::End()
 {
-    m_isEnding = true;
+    m_isEndRequested = true;
     GetAction()->OnEnd();
     Running ended = std::exchange(m_running, {});
     m_isEndRequested = false;
-    m_isEnding = false;
 
     TemporaryDimensionMgr::GetInstance()->Drop();
     ended.opAction.Reset();

@@ -102,8 +102,9 @@ private:
 
     /// True while a call that will run the waiting commands is on the stack.
     bool m_isUnderWay = false;
+
+    /// True from the request to the end of the end: the action takes nothing more.
     bool m_isEndRequested = false;
-    bool m_isEnding = false;
 };
 
 }

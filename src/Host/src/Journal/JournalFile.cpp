@@ -14,11 +14,7 @@ namespace
 
 bool ReadText(const std::string& path, std::string& text)
 {
-    const std::filesystem::path file = std::filesystem::u8path(path);
-    std::error_code ignored;
-    if (std::filesystem::is_directory(file, ignored))
-        return false;
-    std::ifstream stream(file, std::ios::binary);
+    std::ifstream stream(std::filesystem::u8path(path), std::ios::binary);
     std::ostringstream content;
     // An empty file is content too, but inserting nothing sets the fail bit.
     if (stream.is_open() && stream.peek() != std::ifstream::traits_type::eof())

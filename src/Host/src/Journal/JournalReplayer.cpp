@@ -255,14 +255,15 @@ std::string Replay::RunCommand(const Pending& command)
         return "unknown command " + name;
     if (!IsWorthRunning(command))
         return {};
-    if (!IsBeside(command))
+    if (pCommand->IsInteractive())
+    {
         ActionManager::Reset();
+        m_running = command.number;
+    }
     if (!pCommand->IsEnabled())
         return "the command " + name + " is disabled";
     JournalManager::GetInstance().Add(command.record);
     ActionManager::ProcessCommand(CurrentView(), pCommand, command.record.parameters, nullptr);
-    if (pCommand->IsInteractive())
-        m_running = command.number;
     return {};
 }
 

@@ -1,0 +1,192 @@
+#include "Host/Command/ActionFixture.h"
+#include "Host/Dimension/HandlerStandIns.h"
+
+#include "Command/IActionManager.h"
+
+#include <QtTest>
+
+namespace vesk
+{
+
+namespace
+{
+
+TemporaryDimensionMgr& Dimensions()
+{
+    return *TemporaryDimensionMgr::GetInstance();
+}
+
+/// A line command that shows dimensions, and handlers that are scripted.
+struct Fixture : ActionFixture
+{
+    Fixture()
+    {
+        AddInteractive("Line");
+        scripts["Line"].makeContext = [] { return MakeOwner<StandInContext>(1); };
+    }
+
+    /// Runs the line command with an event.
+    void Run(ScriptedLoop::Event event)
+    {
+        loop.Post(std::move(event));
+        Choose("Line");
+    }
+
+    /// What was logged of the handlers since the last call.
+    Log TakeHandlerLog() { return std::exchange(handlers.log, {}); }
+
+    HandlerScript handlers;
+    StandInHandlerFactory factory{handlers};
+    StandInHandlerAccess access{handlers};
+};
+
+}
+
+/// The provisional dimensions of the running action.
+class ActionDimensionTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void theBeginShowsTheDimensions();
+    void aStepShowsTheDimensionsAnew();
+    void aMouseMoveShowsTheDimensionsAnew();
+    void anActionWithoutDimensionsDropsTheHandler();
+    void refreshingMakesGraphicsOnly();
+    void aHandlerMayRefreshInItsKey();
+    void theEndDropsTheHandlerBeforeTheActionIsFreed();
+    void theActionIsUnknownWhileItsInputEnds();
+    void anActionThatEndsInAKeyLeavesItsHandlerAliveThatLong();
+};
+
+void ActionDimensionTest::theBeginShowsTheDimensions()
+{
+    Fixture f;
+    Log log;
+
+    f.Run([&] { log = f.TakeHandlerLog(); });
+
+    QVERIFY(log == (Log{"1.made", "1.graphics"}));
+}
+
+void ActionDimensionTest::aStepShowsTheDimensionsAnew()
+{
+    Fixture f;
+    Log log;
+
+    f.Run([&] {
+        f.TakeHandlerLog();
+        f.Click();
+        log = f.TakeHandlerLog();
+    });
+
+    QVERIFY(log == (Log{"1.graphics"}));
+}
+
+void ActionDimensionTest::aMouseMoveShowsTheDimensionsAnew()
+{
+    Fixture f;
+    Log log;
+
+    f.Run([&] {
+        Dimensions().OnKeyDown('1', false, false, false);
+        f.TakeHandlerLog();
+        f.MoveMouse();
+        log = f.TakeHandlerLog();
+    });
+
+    QVERIFY(log == (Log{"1.graphics", "place"}));
+}
+
+void ActionDimensionTest::anActionWithoutDimensionsDropsTheHandler()
+{
+    Fixture f;
+    Log log;
+
+    f.Run([&] {
+        f.TakeHandlerLog();
+        f.scripts["Line"].makeContext = nullptr;
+        f.MoveMouse();
+        log = f.TakeHandlerLog();
+    });
+
+    QVERIFY(log == (Log{"1.end input", "1.delete"}));
+}
+
+void ActionDimensionTest::refreshingMakesGraphicsOnly()
+{
+    Fixture f;
+    Log log;
+
+    f.Run([&] {
+        Dimensions().OnKeyDown('1', false, false, false);
+        f.TakeHandlerLog();
+        f.scripts["Line"].makeContext = [] { return MakeOwner<StandInContext>(2); };
+        ActionManager::RefreshViewInput(&f.view);
+        ActionManager::RefreshViewInput(nullptr);
+        log = f.TakeHandlerLog();
+    });
+
+    QVERIFY(log == (Log{"1.graphics", "place", "1.graphics", "place"}));
+}
+
+void ActionDimensionTest::aHandlerMayRefreshInItsKey()
+{
+    Fixture f;
+    f.handlers.onKeyDown = [&f] { ActionManager::RefreshViewInput(&f.view); };
+    Log log;
+
+    f.Run([&] {
+        f.TakeHandlerLog();
+        Dimensions().OnKeyDown('1', false, false, false);
+        log = f.TakeHandlerLog();
+    });
+
+    QVERIFY(log == (Log{"1.key", "1.graphics", "place", "1.key done"}));
+}
+
+void ActionDimensionTest::theEndDropsTheHandlerBeforeTheActionIsFreed()
+{
+    Fixture f;
+    f.handlers.onEndInput = [&f] { f.log.push_back("end input"); };
+
+    f.Run([] { Dimensions().OnKeyDown('1', false, false, false); });
+
+    QVERIFY(f.log == (Log{"Line.begin", "Line.end", "end input", "Line.delete"}));
+    QVERIFY(!Dimensions().HasHandler());
+    QCOMPARE(f.view.GetActivationCount(), 2);
+}
+
+void ActionDimensionTest::theActionIsUnknownWhileItsInputEnds()
+{
+    Fixture f;
+    bool isKnown = true;
+    f.handlers.onEndInput = [&] {
+        isKnown = IActionManager::CurrentAction() != nullptr;
+        ActionManager::RefreshViewInput(&f.view);
+    };
+
+    f.Run([] { Dimensions().OnKeyDown('1', false, false, false); });
+
+    QVERIFY(!isKnown);
+    QVERIFY(!Dimensions().HasHandler());
+}
+
+void ActionDimensionTest::anActionThatEndsInAKeyLeavesItsHandlerAliveThatLong()
+{
+    Fixture f;
+    ActionManager::SetEventLoop(nullptr);
+    f.handlers.onKeyDown = [] { ActionManager::Reset(); };
+    f.Choose("Line");
+    f.TakeHandlerLog();
+
+    Dimensions().OnKeyDown('1', false, false, false);
+
+    QVERIFY(f.TakeHandlerLog() == (Log{"1.key", "1.end input", "1.key done", "1.delete"}));
+    QVERIFY(f.log == (Log{"Line.begin", "Line.end", "Line.delete"}));
+}
+
+}
+
+QTEST_APPLESS_MAIN(vesk::ActionDimensionTest)
+#include "ActionDimensionTest.moc"
