@@ -41,7 +41,7 @@ const QVector<DemoLine>& House()
         {{}, "70.125", "90", {}},
         {{}, "80", "180", {}},
         {{}, "70.125", "-90", {}},
-        {QPointF(-200.0, -150.0), "125.5", "30", {}},
+        {QPointF(150.0, -130.0), "125.5", "30", {}},
     };
     return s_lines;
 }
@@ -63,7 +63,7 @@ bool Draw(DesktopSession& session, const DemoLine& line, int number, const QStri
         return Fail("the mouse does not move");
     if (!session.Type(line.length))
         return Fail("no key goes in");
-    if (number == 3 && session.WaitForEditor(line.length))
+    if (number == 3 && session.WaitForRest())
         session.Input().TakePicture(pictures + "/typing.png");
     QStringList rest;
     if (!line.angle.isEmpty())
@@ -79,6 +79,7 @@ bool DrawAll(DesktopSession& session, const QString& pictures)
         if (!Draw(session, line, ++number, pictures))
             return Fail(qPrintable("no line came of " + line.length + " " + line.angle));
     }
+    session.WaitForRest();
     session.Input().TakePicture(pictures + "/drawing.png");
     session.Input().Keys({"Escape"});
     if (!session.WaitForAction(QString()) || !session.Click("Sketcher.ZoomAll"))
@@ -88,7 +89,7 @@ bool DrawAll(DesktopSession& session, const QString& pictures)
         [&](const UiTree& tree) { return tree.FindView()->worldPerPixel != before; });
     if (!isZoomed || !session.BeginLine(QPointF(-150.0, -130.0)) ||
         !session.MoveInView(QPointF(20.0, 60.0)) || !session.Type("212.5") ||
-        !session.WaitForEditor("212.5"))
+        !session.WaitForRest())
         return Fail("the last picture cannot be taken");
     return session.Input().TakePicture(pictures + "/sketcher.png");
 }

@@ -39,7 +39,7 @@ bool DesktopSession::Start(const QStringList& arguments, const Environment& envi
     QProcessEnvironment variables = MakeEnvironment(environment);
     variables.insert("DISPLAY", m_display);
     RunProgram(files + arguments, variables);
-    return m_program.waitForStarted() && WaitUntilSettled();
+    return m_program.waitForStarted() && WaitForRest();
 }
 
 int DesktopSession::Close()
@@ -153,7 +153,7 @@ bool DesktopSession::Refresh()
     return tree.has_value();
 }
 
-bool DesktopSession::WaitUntilSettled()
+bool DesktopSession::WaitForRest()
 {
     // The window manager maximises the window after it was mapped: places hold once they stay.
     QElapsedTimer atRest;

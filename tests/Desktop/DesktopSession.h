@@ -71,6 +71,9 @@ public:
         return PollUntil([&] { return Refresh() && isTrue(m_tree); }, timeoutMs);
     }
 
+    /// Waits until nothing has moved for a quarter of a second.
+    bool WaitForRest();
+
     bool WaitForAction(const QString& commandId);
     bool WaitForEntities(int count);
     bool WaitForEditor(const QString& text);
@@ -95,7 +98,6 @@ public:
 
 private:
     bool Refresh();
-    bool WaitUntilSettled();
     QProcessEnvironment MakeEnvironment(const Environment& additions) const;
     void RunProgram(const QStringList& arguments, const QProcessEnvironment& environment);
     int WaitForExit();
