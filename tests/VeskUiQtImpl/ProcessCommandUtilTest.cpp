@@ -156,6 +156,7 @@ private slots:
     void plainSenderIsServedAtOnceInsideACommand();
     void plainSenderOfARibbonCommandRunsNested();
     void actionAsSenderIsServedWhenNothingRuns();
+    void actionIsPutOffWithoutAskingForTheViewManager();
 };
 
 void ProcessCommandUtilTest::isExecutedOnlyOutsideACommand()
@@ -502,6 +503,23 @@ void ProcessCommandUtilTest::actionAsSenderIsServedWhenNothingRuns()
 
     ProcessCommandUtil::ProcessRibbonBarCommand(L"Plain", {}, &action);
 
+    QCOMPARE(f.calls.size(), std::size_t(1));
+}
+
+void ProcessCommandUtilTest::actionIsPutOffWithoutAskingForTheViewManager()
+{
+    CommandFixture f;
+    QAction action;
+    bool isExecuted = false;
+    f.onCommand = [&] {
+        const NoViewManager gone;
+        ProcessCommandUtil::ProcessRibbonBarCommand(L"Plain", {}, &action);
+        isExecuted = ProcessCommandUtil::IsLastCommandExecuted();
+    };
+
+    ProcessCommandUtil::ProcessRibbonBarCommand(L"Plain", {}, &f.sender);
+
+    QVERIFY(isExecuted);
     QCOMPARE(f.calls.size(), std::size_t(1));
 }
 

@@ -99,6 +99,15 @@ public:
     int GetInputType() const override { return LineEditInputType::Real; }
 };
 
+/// A definition whose selection has a start and no text.
+class StartOnlyDefinition final : public LineEditDefinition
+{
+public:
+    using LineEditDefinition::LineEditDefinition;
+
+    std::wstring GetSelectedText() const override { return {}; }
+};
+
 /// A validator that notes its end.
 class NotingValidator final : public ValidatorBase
 {

@@ -51,6 +51,8 @@ private slots:
     void followsASelection();
     void deselectsWhenTheDefinitionSelectsNothing();
     void followsTextAndSelectionTogether();
+    void anEqualSelectionKeepsTheCursorAtItsStart();
+    void aStartAloneMovesTheCursor();
     void countsASelectionInUnitsOfQt();
     void ignoresOtherEvents_data();
     void ignoresOtherEvents();
@@ -278,6 +280,33 @@ void QtLineEditTest::followsTextAndSelectionTogether()
 
     QCOMPARE(f.opEdit->text(), QString("uvwxyz"));
     QCOMPARE(f.opEdit->selectedText(), QString("vw"));
+}
+
+void QtLineEditTest::anEqualSelectionKeepsTheCursorAtItsStart()
+{
+    LineEditFixture f(L"abcdef");
+    f.opEdit->setCursorPosition(4);
+    f.opEdit->cursorBackward(true, 3);
+
+    f.pDefinition->SetCaption(L"raises the event");
+
+    QCOMPARE(f.opEdit->selectedText(), QString("bcd"));
+    QCOMPARE(f.opEdit->cursorPosition(), 1);
+}
+
+void QtLineEditTest::aStartAloneMovesTheCursor()
+{
+    HostFixture host;
+    auto opDefinition = MakeOwner<StartOnlyDefinition>(L"id");
+    LineEditDefinition& definition = *opDefinition;
+    definition.SetText(L"abcdef");
+    QtLineEdit edit(std::move(opDefinition), nullptr);
+    QCOMPARE(edit.cursorPosition(), 6);
+
+    definition.SetSelection(2, 1);
+
+    QCOMPARE(edit.cursorPosition(), 2);
+    QVERIFY(!edit.hasSelectedText());
 }
 
 void QtLineEditTest::countsASelectionInUnitsOfQt()

@@ -90,6 +90,7 @@ class QtLineEditUserTest : public QObject
 private slots:
     void typingWritesTheTextOnceMarkedAsTheUsers_data() { AddEchoModes(); }
     void typingWritesTheTextOnceMarkedAsTheUsers();
+    void typingWhatTheDefinitionHoldsWritesNothing();
     void typingStartsTheStateOfBeingEdited();
     void theTextFlagLastsOnlyForTheKey();
     void echoedUserEditKeepsTheCursor_data() { AddEchoModes(); }
@@ -318,19 +319,30 @@ void QtLineEditUserTest::deselectingIsWritten()
 
 void QtLineEditUserTest::anEqualSelectionIsNotWritten()
 {
-    UserFixture f(L"abcdef");
-    f.pDefinition->SetSelection(1, 3);
-    struct Notes final : IControlDefinitionChangeEventHandler
+    HostFixture host;
+    QtLineEdit edit(MakeOwner<ForeignLineEditDefinition>(LineEditInputType::Text), nullptr);
+
+    QMetaObject::invokeMethod(&edit, "selectionChanged");
+
+    // Read it was, and a write would be reported after it.
+    EXPECT_WARNING(host.warnings, L"类型不正确", "vesk::QtLineEdit::GetDefinitionSelectionStart");
+    QVERIFY(host.warnings.IsEmpty());
+}
+
+void QtLineEditUserTest::typingWhatTheDefinitionHoldsWritesNothing()
+{
+    UserFixture f(L"1", false);
     {
-        void On(IControlDefinitionChangeEventArgs*) override { ++count; }
-        int count = 0;
-    } notes;
-    f.pDefinition->GetControlDefinitionChangeEvent()->Add(&notes);
+        const ControlDefinitionChangeByUser untold(L"Edit.Id");
+        f.pDefinition->SetText(L"12");
+    }
+    f.pDefinition->writes.clear();
 
-    QMetaObject::invokeMethod(f.opEdit.Get(), "selectionChanged");
+    QTest::keyClick(f.opEdit.Get(), Qt::Key_2);
 
-    QCOMPARE(notes.count, 0);
-    QCOMPARE(f.opEdit->selectedText(), QString("bcd"));
+    QCOMPARE(f.opEdit->text(), QString("12"));
+    QVERIFY(f.pDefinition->writes.empty());
+    QVERIFY(f.pDefinition->IsEditing());
 }
 
 void QtLineEditUserTest::settingTheTextReachesWidgetAndDefinition()
