@@ -1,5 +1,7 @@
 #include "HostUi/ControlLibrary.h"
 
+#include "HostUi/UiApplication.h"
+
 #include <QCoreApplication>
 
 namespace vesk
@@ -13,8 +15,11 @@ ControlLibrary::ControlLibrary()
 
 ControlLibrary::~ControlLibrary()
 {
-    if (m_library.isLoaded())
-        m_library.unload();
+    if (!m_library.isLoaded())
+        return;
+    // Their deleters are code of the library.
+    UiApplication::DiscardPostedEvents();
+    m_library.unload();
 }
 
 bool ControlLibrary::IsLoaded() const

@@ -69,6 +69,11 @@ void UiApplication::Quit()
         m_pActionLoop->quit();
 }
 
+void UiApplication::DiscardPostedEvents()
+{
+    QCoreApplication::removePostedEvents(nullptr, s_hostEventType);
+}
+
 void UiApplication::SetMainWindow(IApplicationWindow* pMainWindow)
 {
     m_pMainWindow = pMainWindow;
