@@ -46,16 +46,28 @@ std::vector<CommandEntry> MakeCommandTable(Sketch& sketch, SketchView& view)
 {
     const auto hasEntities = [&sketch] { return !sketch.GetEntities().empty(); };
     return {
-        {L"Sketcher.Line", L"绘图", L"直线", L":/icons/line.svg",
-         L"直线：单击或键入长度和角度，逐段绘制 (Ctrl+L)", L"Ctrl+L", Command::Kind::Interactive,
-         Begin<LineAction>(sketch), {}},
-        {L"Sketcher.Erase", L"绘图", L"删除", L":/icons/erase.svg",
-         L"删除：单击要删除的图元 (Ctrl+E)", L"Ctrl+E", Command::Kind::Interactive,
-         Begin<EraseAction>(sketch), {}},
-        {L"Sketcher.Undo", L"编辑", L"撤销", L":/icons/undo.svg", L"撤销上一步 (Ctrl+Z)",
-         L"Ctrl+Z", Command::Kind::Plain, Undo(sketch), [&sketch] { return sketch.CanUndo(); }},
-        {L"Sketcher.ZoomAll", L"视图", L"全部", L":/icons/zoom-all.svg",
-         L"缩放到全部图元 (Ctrl+0)", L"Ctrl+0", Command::Kind::Plain, ZoomAll(view), hasEntities},
+        {L"Sketcher.Line",
+         L"绘图",
+         L"直线",
+         L":/icons/line.svg",
+         L"直线：单击或键入长度和角度，逐段绘制 (Ctrl+L)",
+         L"Ctrl+L",
+         Command::Kind::Interactive,
+         Begin<LineAction>(sketch),
+         {}},
+        {L"Sketcher.Erase",
+         L"绘图",
+         L"删除",
+         L":/icons/erase.svg",
+         L"删除：单击要删除的图元 (Ctrl+E)",
+         L"Ctrl+E",
+         Command::Kind::Interactive,
+         Begin<EraseAction>(sketch),
+         {}},
+        {L"Sketcher.Undo", L"编辑", L"撤销", L":/icons/undo.svg", L"撤销上一步 (Ctrl+Z)", L"Ctrl+Z",
+         Command::Kind::Plain, Undo(sketch), [&sketch] { return sketch.CanUndo(); }},
+        {L"Sketcher.ZoomAll", L"视图", L"全部", L":/icons/zoom-all.svg", L"缩放到全部图元 (Ctrl+0)",
+         L"Ctrl+0", Command::Kind::Plain, ZoomAll(view), hasEntities},
     };
 }
 

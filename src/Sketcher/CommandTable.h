@@ -12,14 +12,14 @@ class SketchView;
 struct CommandEntry
 {
     std::wstring id;
-    std::wstring group;  ///< The ribbon group that holds its button.
+    std::wstring group; ///< The ribbon group that holds its button.
     std::wstring caption;
     std::wstring iconPath;
     std::wstring toolTip;
-    std::wstring keys;  ///< Shortcut, as "Ctrl+Z".
+    std::wstring keys; ///< Shortcut, as "Ctrl+Z".
     vesk::Command::Kind kind = vesk::Command::Kind::Plain;
     vesk::Command::Execution execute;
-    vesk::Command::Condition isEnabled;  ///< Without one the command is always enabled.
+    vesk::Command::Condition isEnabled; ///< Without one the command is always enabled.
 };
 
 /// All commands, in the order of the ribbon. Sketch and view outlive the commands' execution.

@@ -41,8 +41,8 @@ DrawingPanel::DrawingPanel(Sketch& sketch, Qtitan::RibbonGroup& group, ControlHo
     auto opName = MakeOwner<LineEditDefinition>(L"Sketcher.DrawingName");
     opName->SetText(m_shownName);
     m_pName = Place(std::move(opName), QStringLiteral("图名"), group, controls);
-    m_pCount = Place(MakeOwner<LabelDefinition>(L"Sketcher.EntityCount"), QString(), group,
-                     controls);
+    m_pCount =
+        Place(MakeOwner<LabelDefinition>(L"Sketcher.EntityCount"), QString(), group, controls);
     if (m_pName != nullptr)
         m_pName->GetLineEditEvent()->Add(this);
     connect(&sketch, &Sketch::changed, this, &DrawingPanel::OnSketchChanged);

@@ -42,8 +42,7 @@ void Complain(const std::string& text)
 
 }
 
-Session::Session(const Options& options)
-    : m_options(options), m_window(m_sketch, m_input)
+Session::Session(const Options& options) : m_options(options), m_window(m_sketch, m_input)
 {
     m_host.GetViewManager().AddView(&m_window.GetView());
     m_application.SetMainWindow(&m_window);
@@ -112,10 +111,10 @@ bool Session::OpenJournal()
     if (path.isEmpty() && m_options.task == Options::Task::Replay)
         return true;
     if (path.isEmpty())
-        path = DataFile(QStringLiteral("journal-%1-%2.jsonl")
-                            .arg(QDateTime::currentDateTimeUtc().toString(
-                                QStringLiteral("yyyyMMdd-hhmmss")))
-                            .arg(QCoreApplication::applicationPid()));
+        path = DataFile(
+            QStringLiteral("journal-%1-%2.jsonl")
+                .arg(QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMdd-hhmmss")))
+                .arg(QCoreApplication::applicationPid()));
     const bool isOpen = JournalManager::GetInstance().Open(path.toStdString());
     if (!isOpen)
         Complain("cannot write " + path.toStdString());

@@ -43,8 +43,7 @@ class Sketch::EraseStep final : public Step
 public:
     EraseStep(Sketch& sketch, const Entity& entity, std::ptrdiff_t place)
         : Step(sketch, entity.id), m_entity(entity), m_place(place)
-    {
-    }
+    {}
 
     void redo() override { Entities().erase(Entities().begin() + m_place); }
     void undo() override { Entities().insert(Entities().begin() + m_place, m_entity); }

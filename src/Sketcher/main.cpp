@@ -38,7 +38,8 @@ std::optional<int> Answer(const Options& options)
     return 0;
 }
 
-/// Where no folder for the session's sockets is set, the toolkit makes one; that is nobody's concern.
+/// Where no folder for the session's sockets is set, the toolkit makes one; that is nobody's
+/// concern.
 void PassMessage(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
     if (!message.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set")))

@@ -59,13 +59,20 @@ private slots:
         QTest::addColumn<QString>("length");
         QTest::addColumn<QString>("angle");
 
-        QTest::newRow("plain") << "125.5" << "30";
-        QTest::newRow("quarter turn") << "80" << "90";
-        QTest::newRow("negative angle") << "33.25" << "-45";
-        QTest::newRow("long") << "123456.789" << "17.25";
-        QTest::newRow("short") << "0.001" << "179.5";
-        QTest::newRow("leading zeros") << "007.5" << "060";
-        QTest::newRow("leading point") << ".5" << "10";
+        QTest::newRow("plain") << "125.5"
+                               << "30";
+        QTest::newRow("quarter turn") << "80"
+                                      << "90";
+        QTest::newRow("negative angle") << "33.25"
+                                        << "-45";
+        QTest::newRow("long") << "123456.789"
+                              << "17.25";
+        QTest::newRow("short") << "0.001"
+                               << "179.5";
+        QTest::newRow("leading zeros") << "007.5"
+                                       << "060";
+        QTest::newRow("leading point") << ".5"
+                                       << "10";
     }
 
     void typedLengthAndAngleAreExact()

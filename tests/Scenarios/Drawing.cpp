@@ -18,7 +18,8 @@ double DrawnLine::Angle() const
 
 QVector<DrawnLine> ReadModel(const QString& path)
 {
-    const nlohmann::json model = nlohmann::json::parse(ReadFile(path).toStdString(), nullptr, false);
+    const nlohmann::json model =
+        nlohmann::json::parse(ReadFile(path).toStdString(), nullptr, false);
     QVector<DrawnLine> lines;
     if (model.is_discarded())
         return lines;

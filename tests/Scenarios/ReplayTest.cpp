@@ -143,7 +143,8 @@ private slots:
     void unknownCommandIsNamed()
     {
         WriteFile(m_pFixture->File("bad"),
-                  ReadFile(Journal()) + "{\"n\":1000,\"kind\":\"command\",\"id\":\"Nobody.Knows\"}\n");
+                  ReadFile(Journal()) +
+                      "{\"n\":1000,\"kind\":\"command\",\"id\":\"Nobody.Knows\"}\n");
 
         const Outcome outcome =
             RunSketcher({"--replay", m_pFixture->File("bad"), "--model", Replayed()});

@@ -58,9 +58,8 @@ ScriptedUser& ScriptedUser::MoveTo(double x, double y)
 
 ScriptedUser& ScriptedUser::ClickAt(double x, double y)
 {
-    return Do([x, y] {
-        QTest::mouseClick(FindView(), Qt::LeftButton, {}, PixelOf(*FindView(), x, y));
-    });
+    return Do(
+        [x, y] { QTest::mouseClick(FindView(), Qt::LeftButton, {}, PixelOf(*FindView(), x, y)); });
 }
 
 ScriptedUser& ScriptedUser::Type(const QString& text)

@@ -23,9 +23,8 @@ private slots:
         QTemporaryDir folder;
         const QString path = folder.filePath("file");
 
-        const Options options =
-            Parse({"--journal", path, "--model", path, "--ui-tree", path, "--log", path,
-                   "--screenshot", path});
+        const Options options = Parse({"--journal", path, "--model", path, "--ui-tree", path,
+                                       "--log", path, "--screenshot", path});
 
         QCOMPARE(options.error, QString());
         QCOMPARE(options.journal, path);

@@ -12,8 +12,8 @@ class NqIJournalFactory;
 
 /// Brings the platform up and takes it down: one lives for the time in which it is used.
 ///
-/// Destroying it ends the running action, drops the dimension handler, frees all commands and closes
-/// the journal, and leaves every static as it was before.
+/// Destroying it ends the running action, drops the dimension handler, frees all commands and
+/// closes the journal, and leaves every static as it was before.
 class VESK_HOST_API HostCore
 {
 public:

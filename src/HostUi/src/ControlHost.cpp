@@ -26,7 +26,8 @@ constexpr std::chrono::milliseconds RetryInterval{20};
 
 bool IsSafeToDestroy()
 {
-    return QThread::currentThread()->loopLevel() <= 1 && ActionManager::GetRunningCommandId().empty();
+    return QThread::currentThread()->loopLevel() <= 1 &&
+           ActionManager::GetRunningCommandId().empty();
 }
 
 }

@@ -18,8 +18,8 @@ MainWindow::MainWindow()
     m_pHint->setObjectName(QStringLiteral("Hint"));
     m_pCursor->setObjectName(QStringLiteral("CursorPosition"));
     m_pCursor->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    m_pCursor->setMinimumWidth(m_pCursor->fontMetrics().horizontalAdvance(QStringLiteral(
-        "X -000000.000   Y -000000.000")));
+    m_pCursor->setMinimumWidth(m_pCursor->fontMetrics().horizontalAdvance(
+        QStringLiteral("X -000000.000   Y -000000.000")));
     constexpr int Margin = 6;
     m_pHint->setContentsMargins(Margin, 0, Margin, 0);
     m_pCursor->setContentsMargins(Margin, 0, Margin, 0);

@@ -38,8 +38,7 @@ const Pen& PenOf(GraphicsRole role)
 ProvisionalPainter::ProvisionalPainter(QPainter& painter, const IModelView& modelView,
                                        const QPalette& palette)
     : m_painter(painter), m_modelView(modelView), m_palette(palette)
-{
-}
+{}
 
 void ProvisionalPainter::Visit(const IGraphicsLine& line)
 {
@@ -56,7 +55,7 @@ void ProvisionalPainter::Visit(const IGraphicsArc& arc)
     {
         const double angle = arc.GetSweep() * i / steps;
         points << ToPixel(arc.GetCentre() + arc.GetRadius() * (std::cos(angle) * arc.GetXAxis() +
-                                                              std::sin(angle) * arc.GetYAxis()));
+                                                               std::sin(angle) * arc.GetYAxis()));
     }
     SetPen(arc.GetRole());
     m_painter.drawPolyline(points);

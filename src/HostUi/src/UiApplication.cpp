@@ -19,8 +19,7 @@ class QtHostEvent final : public QEvent
 public:
     explicit QtHostEvent(OwnerPtr<IApplicationEvent> opEvent)
         : QEvent(s_hostEventType), m_opEvent(std::move(opEvent))
-    {
-    }
+    {}
 
     void Emit() { m_opEvent->Emit(); }
 

@@ -21,7 +21,8 @@ class VESK_HOST_UI_API DrawingView : public QWidget, public IUiView
     Q_OBJECT
 
 public:
-    /// `id` is unique among the views. The controller (not owned) takes the keys of dimension inputs.
+    /// `id` is unique among the views. The controller (not owned) takes the keys of dimension
+    /// inputs.
     DrawingView(std::uint32_t id, DimensionInputController& input, QWidget* pParent);
     ~DrawingView() override;
 

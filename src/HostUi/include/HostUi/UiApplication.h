@@ -33,7 +33,8 @@ public:
     void Run() override;
     void Quit() override;
 
-    /// Frees the posted events that still wait, unemitted: before the library that posted them goes.
+    /// Frees the posted events that still wait, unemitted: before the library that posted them
+    /// goes.
     static void DiscardPostedEvents();
 
     /// The window that the services name as the application's (not owned); null for none.
