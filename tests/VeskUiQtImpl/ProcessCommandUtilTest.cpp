@@ -1,118 +1,12 @@
-#include "ProcessCommandUtil.h"
+#include "CommandFixture.h"
 
 #include "Command/ActionManager.h"
-#include "Journal/IJournalData.h"
-#include "Journal/IJournalUiObject.h"
-#include "Journal/NqIJournalFactory.h"
-#include "Support/HostFixture.h"
 
 #include <QAction>
 #include <QtTest>
 
 namespace vesk::test
 {
-
-using Operation = void (*)(const std::wstring&, const CommandParameters&, QObject*);
-
-constexpr char Ribbon[] = "vesk::ProcessCommandUtil::ProcessRibbonBarCommand";
-constexpr char StatusBar[] = "vesk::ProcessCommandUtil::ProcessStatusBarCommand";
-
-CommandParameters SomeParameters()
-{
-    CommandParameters parameters;
-    parameters.Add(L"Clicked", CommandParameterValue(true));
-    return parameters;
-}
-
-/// Removes the view manager while it lives.
-class NoViewManager
-{
-public:
-    NoViewManager() : m_pManager(IUiDocumentViewManager::Get()) { Access::Set(nullptr); }
-    ~NoViewManager() { Access::Set(m_pManager); }
-    NoViewManager(const NoViewManager&) = delete;
-    NoViewManager& operator=(const NoViewManager&) = delete;
-
-private:
-    struct Access : IUiDocumentViewManager
-    {
-        using IUiDocumentViewManager::Set;
-    };
-    IUiDocumentViewManager* m_pManager;
-};
-
-/// Makes journal records of another class, and notes their end.
-class ForeignJournalFactory final : public NqIJournalFactory
-{
-public:
-    ForeignJournalFactory() : m_pPrevious(GetImpl()) { SetImpl(this); }
-    ~ForeignJournalFactory() override { SetImpl(m_pPrevious); }
-
-    OwnerPtr<IJournalData> CreateJournalData(const std::wstring& className) override
-    {
-        lastClassName = className;
-        return MakeOwner<ForeignData>(freedCount);
-    }
-    OwnerPtr<IJournalUiObject> CreateJournalUiObject() override { return nullptr; }
-
-    std::wstring lastClassName;
-    int freedCount = 0;
-
-private:
-    class ForeignData final : public IJournalData
-    {
-    public:
-        explicit ForeignData(int& count) : m_count(count) {}
-        ~ForeignData() override { ++m_count; }
-
-    private:
-        int& m_count;
-    };
-
-    NqIJournalFactory* m_pPrevious;
-};
-
-/// A host with one plain command, "Plain", that notes its calls.
-struct CommandFixture
-{
-    CommandFixture()
-    {
-        pCommand = host.AddCommand(L"Plain", [this](const CommandParameters& parameters) {
-            calls.push_back(parameters);
-            wasExecuted = ProcessCommandUtil::IsLastCommandExecuted();
-            recordCountInside = host.journal.GetCommands().size();
-            if (const auto act = std::exchange(onCommand, nullptr))
-                act();
-        });
-    }
-
-    HostFixture host;
-    QObject sender;
-    Command* pCommand;
-    std::vector<CommandParameters> calls;
-
-    /// Called inside the next call of the command, once.
-    std::function<void()> onCommand;
-    bool wasExecuted = true;
-    std::size_t recordCountInside = 0;
-};
-
-}
-
-Q_DECLARE_METATYPE(vesk::test::Operation)
-
-namespace vesk::test
-{
-
-void AddOperations()
-{
-    QTest::addColumn<Operation>("operation");
-    QTest::addColumn<QByteArray>("function");
-    QTest::newRow("ribbon") << Operation(&ProcessCommandUtil::ProcessRibbonBarCommand)
-                            << QByteArray(Ribbon);
-    QTest::newRow("status bar") << Operation(&ProcessCommandUtil::ProcessStatusBarCommand)
-                                << QByteArray(StatusBar);
-}
 
 class ProcessCommandUtilTest : public QObject
 {
@@ -135,28 +29,12 @@ private slots:
     void ribbonCommandShowsWhatTheActionExpects();
     void ribbonCommandShowsItInTheViewThatIsCurrentAfterwards();
     void ribbonCommandShowsNothingWithoutAnAction();
-    void ribbonCommandMayTakeTheViewManagerAway();
-    void statusBarCommandNeedsNoViewManager();
     void controlsAreRefreshedOnceAfterTheCommand_data() { AddOperations(); }
     void controlsAreRefreshedOnceAfterTheCommand();
-    void unknownCommandIsReportedAndControlsAreRefreshed_data() { AddOperations(); }
-    void unknownCommandIsReportedAndControlsAreRefreshed();
-    void unknownRibbonCommandStillShowsTheViewText();
-    void ribbonCommandWithoutSenderIsReported();
-    void ribbonCommandWithoutSenderLeavesTheStateAsItIs();
-    void statusBarCommandNeedsNoSender();
-    void ribbonCommandWithoutViewManagerIsReported();
-    void commandThatCannotBeJournaledIsNotRun_data() { AddOperations(); }
-    void commandThatCannotBeJournaledIsNotRun();
-    void foreignJournalRecordIsFreedAndReported_data() { AddOperations(); }
-    void foreignJournalRecordIsFreedAndReported();
-    void worksWithoutAnApplication_data() { AddOperations(); }
-    void worksWithoutAnApplication();
     void plainSenderIsServedAtOnceInsideACommand_data() { AddOperations(); }
     void plainSenderIsServedAtOnceInsideACommand();
     void plainSenderOfARibbonCommandRunsNested();
     void actionAsSenderIsServedWhenNothingRuns();
-    void actionIsPutOffWithoutAskingForTheViewManager();
 };
 
 void ProcessCommandUtilTest::isExecutedOnlyOutsideACommand()
@@ -295,29 +173,6 @@ void ProcessCommandUtilTest::ribbonCommandShowsNothingWithoutAnAction()
     QVERIFY(f.host.view.GetTexts().empty());
 }
 
-void ProcessCommandUtilTest::ribbonCommandMayTakeTheViewManagerAway()
-{
-    CommandFixture f;
-    f.host.BeginAction();
-    std::unique_ptr<NoViewManager> pGone;
-    f.onCommand = [&] { pGone = std::make_unique<NoViewManager>(); };
-
-    ProcessCommandUtil::ProcessRibbonBarCommand(L"Plain", {}, &f.sender);
-
-    QCOMPARE(f.host.application.GetStatusUpdateCount() > 0, true);
-    pGone.reset();
-}
-
-void ProcessCommandUtilTest::statusBarCommandNeedsNoViewManager()
-{
-    CommandFixture f;
-    const NoViewManager gone;
-
-    ProcessCommandUtil::ProcessStatusBarCommand(L"Plain", {}, &f.sender);
-
-    QCOMPARE(f.calls.size(), std::size_t(1));
-}
-
 void ProcessCommandUtilTest::controlsAreRefreshedOnceAfterTheCommand()
 {
     QFETCH(Operation, operation);
@@ -329,138 +184,6 @@ void ProcessCommandUtilTest::controlsAreRefreshedOnceAfterTheCommand()
 
     QCOMPARE(countInside, 0);
     QCOMPARE(f.host.application.GetStatusUpdateCount(), 1);
-}
-
-void ProcessCommandUtilTest::unknownCommandIsReportedAndControlsAreRefreshed()
-{
-    QFETCH(Operation, operation);
-    QFETCH(QByteArray, function);
-    CommandFixture f;
-
-    operation(L"No.Such", {}, &f.sender);
-
-    EXPECT_WARNING(f.host.warnings, L"无法找到字符串对应的注册命令：No.Such",
-                   function.toStdString());
-    QVERIFY(f.host.journal.GetCommands().empty());
-    QCOMPARE(f.host.application.GetStatusUpdateCount(), 1);
-    QVERIFY(ProcessCommandUtil::IsLastCommandExecuted());
-}
-
-void ProcessCommandUtilTest::unknownRibbonCommandStillShowsTheViewText()
-{
-    CommandFixture f;
-    f.host.BeginAction();
-    const std::size_t count = f.host.view.GetTexts().size();
-
-    ProcessCommandUtil::ProcessRibbonBarCommand(L"No.Such", {}, &f.sender);
-
-    EXPECT_WARNING(f.host.warnings, L"无法找到字符串对应的注册命令：No.Such", Ribbon);
-    QCOMPARE(f.host.view.GetTexts().size(), count + 1);
-}
-
-void ProcessCommandUtilTest::ribbonCommandWithoutSenderIsReported()
-{
-    CommandFixture f;
-    const NoViewManager gone;
-
-    ProcessCommandUtil::ProcessRibbonBarCommand(L"Plain", {}, nullptr);
-
-    EXPECT_WARNING(f.host.warnings, L"pSender为空", Ribbon);
-    QVERIFY(f.calls.empty());
-    QVERIFY(f.host.journal.GetCommands().empty());
-    QCOMPARE(f.host.application.GetStatusUpdateCount(), 0);
-}
-
-void ProcessCommandUtilTest::ribbonCommandWithoutSenderLeavesTheStateAsItIs()
-{
-    CommandFixture f;
-    bool isExecuted = true;
-    f.onCommand = [&] {
-        ProcessCommandUtil::ProcessRibbonBarCommand(L"Plain", {}, nullptr);
-        isExecuted = ProcessCommandUtil::IsLastCommandExecuted();
-    };
-
-    ProcessCommandUtil::ProcessRibbonBarCommand(L"Plain", {}, &f.sender);
-
-    EXPECT_WARNING(f.host.warnings, L"pSender为空", Ribbon);
-    QVERIFY(!isExecuted);
-    QCOMPARE(f.calls.size(), std::size_t(1));
-}
-
-void ProcessCommandUtilTest::statusBarCommandNeedsNoSender()
-{
-    CommandFixture f;
-
-    ProcessCommandUtil::ProcessStatusBarCommand(L"Plain", {}, nullptr);
-
-    QCOMPARE(f.calls.size(), std::size_t(1));
-}
-
-void ProcessCommandUtilTest::ribbonCommandWithoutViewManagerIsReported()
-{
-    CommandFixture f;
-    const NoViewManager gone;
-
-    ProcessCommandUtil::ProcessRibbonBarCommand(L"Plain", {}, &f.sender);
-
-    EXPECT_WARNING(f.host.warnings, L"pUiViewMgr为空", Ribbon);
-    QVERIFY(ProcessCommandUtil::IsLastCommandExecuted());
-    QVERIFY(f.calls.empty());
-    QVERIFY(f.host.journal.GetCommands().empty());
-    QCOMPARE(f.host.application.GetStatusUpdateCount(), 0);
-}
-
-void ProcessCommandUtilTest::commandThatCannotBeJournaledIsNotRun()
-{
-    QFETCH(Operation, operation);
-    QFETCH(QByteArray, function);
-    CommandFixture f;
-    NqIJournalFactory* pFactory = NqIJournalFactory::GetImpl();
-    NqIJournalFactory::SetImpl(nullptr);
-
-    operation(L"Plain", {}, &f.sender);
-
-    NqIJournalFactory::SetImpl(pFactory);
-    EXPECT_WARNING(f.host.warnings,
-                   L"CREATE_JOURNAL_DATA(IJournalCommandData, JOURNAL_COMMAND_DATA)返回空指针",
-                   function.toStdString());
-    QVERIFY(ProcessCommandUtil::IsLastCommandExecuted());
-    QVERIFY(f.calls.empty());
-    QCOMPARE(f.host.application.GetStatusUpdateCount(), 0);
-}
-
-void ProcessCommandUtilTest::foreignJournalRecordIsFreedAndReported()
-{
-    QFETCH(Operation, operation);
-    QFETCH(QByteArray, function);
-    CommandFixture f;
-    const ForeignJournalFactory factory;
-
-    operation(L"Plain", {}, &f.sender);
-
-    EXPECT_WARNING(f.host.warnings,
-                   L"CREATE_JOURNAL_DATA(IJournalCommandData, JOURNAL_COMMAND_DATA)返回空指针",
-                   function.toStdString());
-    QCOMPARE(factory.lastClassName, std::wstring(L"JournalCommandData"));
-    QCOMPARE(factory.freedCount, 1);
-    QVERIFY(f.calls.empty());
-}
-
-void ProcessCommandUtilTest::worksWithoutAnApplication()
-{
-    QFETCH(Operation, operation);
-    CommandFixture f;
-    struct Access : IApplication
-    {
-        using IApplication::Set;
-    };
-    Access::Set(nullptr);
-
-    operation(L"Plain", {}, &f.sender);
-
-    Access::Set(&f.host.application);
-    QCOMPARE(f.calls.size(), std::size_t(1));
-    QCOMPARE(f.host.application.GetStatusUpdateCount(), 0);
 }
 
 void ProcessCommandUtilTest::plainSenderIsServedAtOnceInsideACommand()
@@ -503,23 +226,6 @@ void ProcessCommandUtilTest::actionAsSenderIsServedWhenNothingRuns()
 
     ProcessCommandUtil::ProcessRibbonBarCommand(L"Plain", {}, &action);
 
-    QCOMPARE(f.calls.size(), std::size_t(1));
-}
-
-void ProcessCommandUtilTest::actionIsPutOffWithoutAskingForTheViewManager()
-{
-    CommandFixture f;
-    QAction action;
-    bool isExecuted = false;
-    f.onCommand = [&] {
-        const NoViewManager gone;
-        ProcessCommandUtil::ProcessRibbonBarCommand(L"Plain", {}, &action);
-        isExecuted = ProcessCommandUtil::IsLastCommandExecuted();
-    };
-
-    ProcessCommandUtil::ProcessRibbonBarCommand(L"Plain", {}, &f.sender);
-
-    QVERIFY(isExecuted);
     QCOMPARE(f.calls.size(), std::size_t(1));
 }
 

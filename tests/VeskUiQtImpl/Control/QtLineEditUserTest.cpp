@@ -1,10 +1,4 @@
-#include "Control/QtLineEdit.h"
-
-#include "Control/LineEditDefinitions.h"
-#include "Support/ChangeByUserFilter.h"
-#include "Support/HostFixture.h"
-
-#include <QtTest>
+#include "Control/UserFixture.h"
 
 namespace vesk::test
 {
@@ -36,29 +30,6 @@ private:
     const LineEditDefinition& m_definition;
 };
 
-/// A shown line edit; its definition tells what the user does, or keeps it to itself.
-struct UserFixture
-{
-    explicit UserFixture(const std::wstring& text = L"", bool isEchoing = true)
-    {
-        OwnerPtr<NotingLineEditDefinition> opDefinition;
-        if (isEchoing)
-            opDefinition = MakeOwner<NotingLineEditDefinition>(L"Edit.Id");
-        else
-            opDefinition = MakeOwner<Silent<NotingLineEditDefinition>>(L"Edit.Id");
-        pDefinition = opDefinition.Get();
-        pDefinition->SetText(text);
-        pDefinition->writes.clear();
-        opEdit = MakeOwner<QtLineEdit>(std::move(opDefinition), &parent);
-        parent.show();
-    }
-
-    HostFixture host;
-    QWidget parent;
-    NotingLineEditDefinition* pDefinition;
-    OwnerPtr<QtLineEdit> opEdit;
-};
-
 /// A definition whose event is not the host's own.
 class ForeignEventDefinition final : public LineEditDefinition
 {
@@ -75,13 +46,6 @@ private:
     };
     mutable ForeignEvent m_foreign;
 };
-
-void AddEchoModes()
-{
-    QTest::addColumn<bool>("isEchoing");
-    QTest::newRow("echoing definition") << true;
-    QTest::newRow("silent definition") << false;
-}
 
 class QtLineEditUserTest : public QObject
 {
@@ -105,21 +69,8 @@ private slots:
     void losingTheFocusTellsTheEndOfEditing();
     void theEndOfEditingIsToldInTheUsersScope();
     void foreignEventIsNotTold();
-    void selectingIsWrittenMarkedAsTheUsers_data() { AddEchoModes(); }
-    void selectingIsWrittenMarkedAsTheUsers();
-    void deselectingIsWritten();
-    void anEqualSelectionIsNotWritten();
-    void settingTheTextReachesWidgetAndDefinition();
-    void settingTheTextOfASilencedWidgetIsTheProgramsChange();
-    void settingAnEqualTextWritesNothing();
-    void clearingReachesWidgetAndDefinition();
-    void clearingAnEmptyWidgetEmptiesTheDefinition();
-    void clearingWhatIsEmptyWritesNothing();
-    void selectingAllReachesTheDefinition();
-    void holdsAValidatorOfItsOwn();
     void writesThroughAReference();
     void foreignDefinitionIsShownAndEditedButNotMarked();
-    void selectingInAForeignDefinitionIsReported();
 };
 
 void QtLineEditUserTest::typingWritesTheTextOnceMarkedAsTheUsers()
@@ -282,53 +233,6 @@ void QtLineEditUserTest::foreignEventIsNotTold()
     QVERIFY(!definition.IsEditing());
 }
 
-void QtLineEditUserTest::selectingIsWrittenMarkedAsTheUsers()
-{
-    QFETCH(bool, isEchoing);
-    UserFixture f(L"a\U0001F4D0cdef", isEchoing);
-    bool isByUser = false;
-    struct Notes final : IControlDefinitionChangeEventHandler
-    {
-        explicit Notes(bool& isMarked) : m_isMarked(isMarked) {}
-        void On(IControlDefinitionChangeEventArgs* pArgs) override
-        {
-            m_isMarked = pArgs->IsChangeByUser();
-        }
-        bool& m_isMarked;
-    } notes(isByUser);
-    f.pDefinition->LineEditDefinition::GetControlDefinitionChangeEvent()->Add(&notes);
-
-    f.opEdit->setSelection(1, 4);
-
-    QVERIFY(isByUser);
-    QCOMPARE(f.pDefinition->GetSelectionStart(), 1);
-    QCOMPARE(f.pDefinition->GetSelectedText(), std::wstring(L"\U0001F4D0cd"));
-    QCOMPARE(f.opEdit->selectionLength(), 4);
-}
-
-void QtLineEditUserTest::deselectingIsWritten()
-{
-    UserFixture f(L"abcdef");
-    f.opEdit->setSelection(1, 3);
-
-    f.opEdit->deselect();
-
-    QCOMPARE(f.pDefinition->GetSelectionStart(), -1);
-    QCOMPARE(f.pDefinition->GetSelectedText(), std::wstring());
-}
-
-void QtLineEditUserTest::anEqualSelectionIsNotWritten()
-{
-    HostFixture host;
-    QtLineEdit edit(MakeOwner<ForeignLineEditDefinition>(LineEditInputType::Text), nullptr);
-
-    QMetaObject::invokeMethod(&edit, "selectionChanged");
-
-    // Read it was, and a write would be reported after it.
-    EXPECT_WARNING(host.warnings, L"类型不正确", "vesk::QtLineEdit::GetDefinitionSelectionStart");
-    QVERIFY(host.warnings.IsEmpty());
-}
-
 void QtLineEditUserTest::typingWhatTheDefinitionHoldsWritesNothing()
 {
     UserFixture f(L"1", false);
@@ -343,103 +247,6 @@ void QtLineEditUserTest::typingWhatTheDefinitionHoldsWritesNothing()
     QCOMPARE(f.opEdit->text(), QString("12"));
     QVERIFY(f.pDefinition->writes.empty());
     QVERIFY(f.pDefinition->IsEditing());
-}
-
-void QtLineEditUserTest::settingTheTextReachesWidgetAndDefinition()
-{
-    UserFixture f(L"12");
-
-    f.opEdit->SetText(L"34");
-
-    const std::vector<TextWrite> expected{{L"34", false, true}};
-    QCOMPARE(f.opEdit->text(), QString("34"));
-    QVERIFY(f.pDefinition->writes == expected);
-}
-
-void QtLineEditUserTest::settingTheTextOfASilencedWidgetIsTheProgramsChange()
-{
-    UserFixture f(L"12");
-    const QSignalBlocker silence(f.opEdit.Get());
-
-    f.opEdit->SetText(L"34");
-
-    const std::vector<TextWrite> expected{{L"34", false, false}};
-    QCOMPARE(f.opEdit->text(), QString("34"));
-    QVERIFY(f.pDefinition->writes == expected);
-}
-
-void QtLineEditUserTest::settingAnEqualTextWritesNothing()
-{
-    UserFixture f(L"12");
-
-    f.opEdit->SetText(L"12");
-
-    QVERIFY(f.pDefinition->writes.empty());
-}
-
-void QtLineEditUserTest::clearingReachesWidgetAndDefinition()
-{
-    UserFixture f(L"12");
-
-    f.opEdit->Clear();
-
-    QCOMPARE(f.opEdit->text(), QString());
-    QCOMPARE(f.pDefinition->GetText(), std::wstring());
-    QCOMPARE(f.pDefinition->clearCount, 0);
-}
-
-void QtLineEditUserTest::clearingAnEmptyWidgetEmptiesTheDefinition()
-{
-    UserFixture f(L"12");
-    const QSignalBlocker silence(f.opEdit.Get());
-    f.opEdit->setText("");
-
-    f.opEdit->Clear();
-
-    QCOMPARE(f.pDefinition->GetText(), std::wstring());
-    QCOMPARE(f.pDefinition->clearCount, 1);
-}
-
-void QtLineEditUserTest::clearingWhatIsEmptyWritesNothing()
-{
-    UserFixture f;
-
-    f.opEdit->Clear();
-
-    QCOMPARE(f.pDefinition->clearCount, 0);
-    QVERIFY(f.pDefinition->writes.empty());
-}
-
-void QtLineEditUserTest::selectingAllReachesTheDefinition()
-{
-    UserFixture f(L"abc");
-
-    f.opEdit->SelectAll();
-
-    QCOMPARE(f.opEdit->selectedText(), QString("abc"));
-    QCOMPARE(f.pDefinition->GetSelectionStart(), 0);
-    QCOMPARE(f.pDefinition->GetSelectedText(), std::wstring(L"abc"));
-}
-
-void QtLineEditUserTest::holdsAValidatorOfItsOwn()
-{
-    UserFixture f;
-    bool isFirstDestroyed = false;
-    bool isSecondDestroyed = false;
-    auto opFirst = MakeOwner<NotingValidator>(isFirstDestroyed);
-    const ValidatorBase* pFirst = opFirst.Get();
-
-    f.opEdit->SetValidator(std::move(opFirst));
-    QCOMPARE(f.opEdit->GetValidator(), pFirst);
-    QVERIFY(f.pDefinition->GetValidator() == nullptr);
-
-    f.opEdit->SetValidator(MakeOwner<NotingValidator>(isSecondDestroyed));
-    QVERIFY(isFirstDestroyed);
-    QVERIFY(!isSecondDestroyed);
-
-    f.opEdit->SetValidator(nullptr);
-    QVERIFY(isSecondDestroyed);
-    QVERIFY(f.opEdit->GetValidator() == nullptr);
 }
 
 void QtLineEditUserTest::writesThroughAReference()
@@ -478,18 +285,6 @@ void QtLineEditUserTest::foreignDefinitionIsShownAndEditedButNotMarked()
 
     definition.GetEvent().RaisePropertyChanged();
     EXPECT_WARNING(host.warnings, L"类型不正确", "vesk::QtLineEdit::GetDefinitionSelectionStart");
-}
-
-void QtLineEditUserTest::selectingInAForeignDefinitionIsReported()
-{
-    HostFixture host;
-    QtLineEdit edit(MakeOwner<ForeignLineEditDefinition>(LineEditInputType::Text), nullptr);
-
-    edit.setSelection(0, 2);
-
-    EXPECT_WARNING(host.warnings, L"类型不正确", "vesk::QtLineEdit::GetDefinitionSelectionStart");
-    EXPECT_WARNING(host.warnings, L"类型不正确", "vesk::QtLineEdit::SetDefinitionSelection");
-    QCOMPARE(edit.selectedText(), QString("fo"));
 }
 
 }

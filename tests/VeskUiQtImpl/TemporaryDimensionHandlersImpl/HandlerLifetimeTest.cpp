@@ -80,6 +80,7 @@ private slots:
     void handlerMayDieWhenEscapeHidesTheEditor();
     void handlerMayDieWhenReturnHidesTheEditor();
     void handlerMayDieWhenTheEditorIsShown();
+    void handlerMayDieWhenAReadyEditorIsShown();
     void editorMayDieInTheDeliveryOfReturn();
     void editorMayDieInTheDeliveryOfTab();
     void handlerMayDieWhenEscapeMovesTheFocus();
@@ -202,6 +203,20 @@ void HandlerLifetimeTest::handlerMayDieWhenTheEditorIsShown()
     QVERIFY(f.SendToHandler('6'));
 
     QVERIFY(f.opHandler == nullptr);
+}
+
+void HandlerLifetimeTest::handlerMayDieWhenAReadyEditorIsShown()
+{
+    LifetimeFixture f;
+    f.TypeLength("5");
+    f.Editor()->hide();
+    const int redrawCount = f.pView->GetRedrawCount();
+    const EventTrap trap(f.Editor(), QEvent::Show, [&] { f.opHandler.Reset(); });
+
+    f.Handler().ShowInputWidget(InputState::IS_Length, true, true, L"6");
+
+    QVERIFY(f.opHandler == nullptr);
+    QCOMPARE(f.pView->GetRedrawCount(), redrawCount);
 }
 
 void HandlerLifetimeTest::editorMayDieInTheDeliveryOfReturn()

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "TemporaryDimensionHandlersImpl/HandlerFixture.h"
+
+#include "HostUi/LineEditValidateHelper.h"
+
+namespace vesk::test
+{
+
+/// A handler whose values an action takes.
+struct InputFixture : HandlerFixture
+{
+    explicit InputFixture(bool isLengthEnabled = true, bool isAngleEnabled = true)
+        : HandlerFixture(isLengthEnabled, isAngleEnabled)
+    {
+        host.BeginAction();
+    }
+
+    void TypeAngle(const QString& text)
+    {
+        Handler().ShowInputWidget(InputState::IS_Angle, false, true, text.toStdWString());
+    }
+
+    std::vector<ActionViewInput>& Inputs() { return host.actionLog.inputs; }
+
+    bool IsValidatedLive() const
+    {
+        return Object().findChild<LineEditValidateHelper*>() != nullptr;
+    }
+};
+
+}
