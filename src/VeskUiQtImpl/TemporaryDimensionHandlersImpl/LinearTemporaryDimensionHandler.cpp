@@ -120,7 +120,7 @@ void LinearTemporaryDimensionHandler::ShowInputWidget(InputState state, bool edi
 bool LinearTemporaryDimensionHandler::event(QEvent* pEvent)
 {
     if (pEvent->type() != QEvent::KeyPress)
-        return QObject::event(pEvent);
+        return HandleAsPlainObject(pEvent);
     const auto* pKeyEvent = dynamic_cast<QKeyEvent*>(pEvent);
     if (!Check(pKeyEvent != nullptr, VESK_SITE("vesk::LinearTemporaryDimensionHandler::event",
                                                L"难道pEvent不是键盘事件?")))

@@ -112,8 +112,11 @@ protected:
     /// Hands a key over as a key press, and tells whether it was consumed.
     bool SendKey(int virtualKey, Qt::KeyboardModifiers modifiers, const QString& text);
 
-    /// A key that opens nothing: the host refreshes, the rest is QObject's.
+    /// A key that opens nothing: the host refreshes, the rest is a plain object's.
     bool PassKeyOn(QEvent* pEvent);
+
+    /// Handles an event as any object does: a widget would call every key press consumed.
+    bool HandleAsPlainObject(QEvent* pEvent);
 
     bool FilterEditorEvent(QObject* pWatched, QEvent* pEvent, const EditorRules& rules);
 

@@ -103,7 +103,12 @@ bool TemporaryDimensionHandler::PassKeyOn(QEvent* pEvent)
 {
     const QPointer<TemporaryDimensionHandler> pSelf(this);
     RefreshView();
-    return pSelf != nullptr && QObject::event(pEvent);
+    return pSelf != nullptr && HandleAsPlainObject(pEvent);
+}
+
+bool TemporaryDimensionHandler::HandleAsPlainObject(QEvent* pEvent)
+{
+    return QObject::event(pEvent); // NOLINT(bugprone-parent-virtual-call): the widget is left out
 }
 
 bool TemporaryDimensionHandler::FilterEditorEvent(QObject* pWatched, QEvent* pEvent,
