@@ -29,6 +29,7 @@ private slots:
     void theEditorHasTheSizeOfTheStyle();
     void theEditorLooksAsItShould();
     void theEditorTakesTheFocus();
+    void theEditorsWindowBecomesActiveAgain();
     void theEditorIsSharedByTheHandlersOfAView();
     void theEditorIsFoundDeepInTheView();
     void theEditorOutlivesItsHandler();
@@ -174,6 +175,19 @@ void TemporaryDimensionHandlerTest::theEditorTakesTheFocus()
     f.TypeLength("5");
 
     QTRY_COMPARE(QApplication::focusWidget(), f.Editor());
+}
+
+void TemporaryDimensionHandlerTest::theEditorsWindowBecomesActiveAgain()
+{
+    HandlerFixture f;
+    f.TypeLength("5");
+    QTRY_VERIFY(f.Editor()->isActiveWindow());
+    f.host.window.activateWindow();
+    QTRY_VERIFY(f.host.window.isActiveWindow());
+
+    f.TypeLength("6");
+
+    QTRY_VERIFY(f.Editor()->isActiveWindow());
 }
 
 void TemporaryDimensionHandlerTest::theEditorIsSharedByTheHandlersOfAView()
