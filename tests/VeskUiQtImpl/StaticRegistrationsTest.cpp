@@ -58,6 +58,12 @@ void TemporaryDimensionMgr::SetHandlerFactory(ITemporaryDimensionHandlerFactory*
                    "33ITemporaryDimensionHandlerFactoryE")(this, pFactory);
 }
 
+NqUiInterfaceFactory::~NqUiInterfaceFactory()
+{
+    s_notes << (m_pFactory == nullptr ? "user-interface factory destroyed when it was gone"
+                                      : "user-interface factory destroyed while registered");
+}
+
 }
 
 namespace vesk::test
@@ -157,7 +163,8 @@ void StaticRegistrationsTest::registersInOrderAndWithdrawsInReverse()
     library.Unload();
 
     QCOMPARE(TakeNotes(), (QStringList{"handler factory withdrawn, user-interface factory there",
-                                       "control factory withdrawn, user-interface factory there"}));
+                                       "control factory withdrawn, user-interface factory there",
+                                       "user-interface factory destroyed when it was gone"}));
 }
 
 void StaticRegistrationsTest::leavesNothingRegistered()
