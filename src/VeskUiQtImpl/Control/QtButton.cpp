@@ -8,7 +8,8 @@
 #include "Control/PropertyName.h"
 #include "CreateChild.h"
 #include "ProcessCommandUtil.h"
-#include "TextBoundary.h"
+
+#include <HostUi/QtText.h>
 
 #include <QAction>
 #include <QIcon>

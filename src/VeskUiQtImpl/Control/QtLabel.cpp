@@ -4,7 +4,8 @@
 #include "Control/ControlStatus.h"
 #include "Control/ControlSubscription.h"
 #include "Control/PropertyName.h"
-#include "TextBoundary.h"
+
+#include <HostUi/QtText.h>
 
 #include <QVariant>
 

@@ -7,8 +7,9 @@
 #include "Control/LineEditDefinition.h"
 #include "Control/LineEditEvent.h"
 #include "Control/PropertyName.h"
-#include "TextBoundary.h"
 #include "Validation/NumberValidator.h"
+
+#include <HostUi/QtText.h>
 
 #include <QPointer>
 #include <QVariant>

@@ -6,8 +6,9 @@
 #include "Geometry/Constants.h"
 #include "Graphics/IGraphicsNode.h"
 #include "TemporaryDimensionHandlersImpl/DimensionKeys.h"
-#include "TextBoundary.h"
 #include "View/UiViewUtility.h"
+
+#include <HostUi/QtText.h>
 
 #include <QKeyEvent>
 

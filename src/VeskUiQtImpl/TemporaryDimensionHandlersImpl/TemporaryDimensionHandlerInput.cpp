@@ -1,9 +1,10 @@
 #include "CheckSite.h"
 #include "Command/ActionManager.h"
 #include "TemporaryDimensionHandlersImpl/TemporaryDimensionHandler.h"
-#include "TextBoundary.h"
 #include "View/IUiDocumentViewManager.h"
 #include "View/IUiView.h"
+
+#include <HostUi/QtText.h>
 
 #include <QKeyEvent>
 

@@ -1,4 +1,4 @@
-#include "TextBoundary.h"
+#include "HostUi/QtText.h"
 
 #include <QtTest>
 
@@ -7,7 +7,7 @@ Q_DECLARE_METATYPE(std::wstring)
 namespace vesk::test
 {
 
-class TextBoundaryTest : public QObject
+class QtTextTest : public QObject
 {
     Q_OBJECT
 
@@ -16,7 +16,7 @@ private slots:
     void textSurvivesBothWays();
 };
 
-void TextBoundaryTest::textSurvivesBothWays_data()
+void QtTextTest::textSurvivesBothWays_data()
 {
     QTest::addColumn<std::wstring>("wide");
     QTest::addColumn<QString>("text");
@@ -28,7 +28,7 @@ void TextBoundaryTest::textSurvivesBothWays_data()
     QTest::newRow("zero inside") << std::wstring(L"a\0b", 3) << QString::fromLatin1("a\0b", 3);
 }
 
-void TextBoundaryTest::textSurvivesBothWays()
+void QtTextTest::textSurvivesBothWays()
 {
     QFETCH(std::wstring, wide);
     QFETCH(QString, text);
@@ -39,5 +39,5 @@ void TextBoundaryTest::textSurvivesBothWays()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::test::TextBoundaryTest)
-#include "TextBoundaryTest.moc"
+QTEST_APPLESS_MAIN(vesk::test::QtTextTest)
+#include "QtTextTest.moc"
