@@ -11,7 +11,7 @@ class ITemporaryDimensionContext;
 
 /// Shows the dimensions of a context and takes the values that are typed for them.
 ///
-/// What a handler can do besides, it offers as a QObject: the property "rawTextInput" (bool), the
+/// What a handler can do besides, it offers to the toolkit: the property "rawTextInput" (bool), the
 /// property "inputState" (int, an InputState) and the invokable "ResetEditorPosition".
 class VESK_HOST_API ITemporaryDimensionHandler
 {

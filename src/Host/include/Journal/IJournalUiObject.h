@@ -16,7 +16,7 @@ public:
 
     virtual ~IJournalUiObject() = default;
 
-    /// The widget, as a `QObject*`. Not owned.
+    /// The widget, as a pointer to the toolkit's base class of objects. Not owned.
     virtual void SetUiObject(const Any& uiObject) = 0;
     virtual const Any& GetUiObject() const = 0;
 };
