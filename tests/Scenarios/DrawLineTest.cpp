@@ -7,6 +7,7 @@
 #include "Dimension/TemporaryDimensionMgr.h"
 #include "View/IModelView.h"
 
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QTest>
 #include <QToolButton>
@@ -192,6 +193,25 @@ private slots:
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
         QCOMPARE(ReadModel(m_pFixture->File("model")).size(), 0);
+    }
+
+    void heldEscapeCountsOnceEvenWhereTheRepetitionIsTorn()
+    {
+        const auto press = [] {
+            QKeyEvent event(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+            QCoreApplication::sendEvent(ScriptedUser::FindView(), &event);
+        };
+        ScriptedUser user;
+
+        user.Click(s_line).ClickAt(0, 0).Type("5").Do(press).Do(press);
+        user.Do([] {
+            QVERIFY(!IsInputting());
+            QVERIFY(IsRunning(L"Sketcher.Line"));
+            QTest::keyRelease(ScriptedUser::FindView(), Qt::Key_Escape);
+        });
+        user.Do(press).Until([] { return IsRunning(L""); });
+
+        QCOMPARE(user.Run(m_pFixture->Draw()), 0);
     }
 
     void escapeInTheViewFirstDropsWhatTabLocked()

@@ -61,9 +61,12 @@ Intervald CurrentRange(InputState field)
     return isAngle ? opContext->GetSecondValueRange() : opContext->GetFirstValueRange();
 }
 
-bool IsRepeatedEscape(const QKeyEvent& event)
+bool IsEscapeReleased(const QEvent& event)
 {
-    return event.key() == Qt::Key_Escape && event.isAutoRepeat();
+    if (event.type() != QEvent::KeyRelease)
+        return false;
+    const auto& key = static_cast<const QKeyEvent&>(event);
+    return key.key() == Qt::Key_Escape && !key.isAutoRepeat();
 }
 
 }
@@ -90,8 +93,7 @@ bool DimensionInputController::OnViewKey(QKeyEvent& event)
     }
     if (event.key() != Qt::Key_Escape)
         return OpenInput(event);
-    // A key that is held down was meant once.
-    if (!event.isAutoRepeat())
+    if (IsNewEscape(event))
         ActionManager::ProcessEscape(CurrentView());
     return true;
 }
@@ -173,6 +175,8 @@ bool DimensionInputController::IsRawTextInput(ITemporaryDimensionHandler& handle
 
 bool DimensionInputController::eventFilter(QObject* pWatched, QEvent* pEvent)
 {
+    if (IsEscapeReleased(*pEvent))
+        m_isEscapeDown = false;
     if (pWatched != m_pEditor || pWatched == nullptr)
         return false;
     if (pEvent->type() == QEvent::KeyPress)
@@ -202,8 +206,8 @@ bool DimensionInputController::FilterEditorKey(QKeyEvent& event)
             QCoreApplication::sendEvent(pView, &event);
         return true;
     }
-    if (IsRepeatedEscape(event))
-        return true;
+    if (event.key() == Qt::Key_Escape)
+        return !IsNewEscape(event);
     if (!IsCommitting(event.key()))
         return false;
     if (!Manager().IsRawTextInput() && IsRefused(*pEditor))
@@ -211,6 +215,17 @@ bool DimensionInputController::FilterEditorKey(QKeyEvent& event)
     Manager().SetTypedValue({ToWide(pEditor->text()), !m_isTextTyped});
     m_isTextTyped = m_isTextTyped && event.key() != Qt::Key_Tab;
     return false;
+}
+
+/// A key that is held down was meant once. When the keyboard goes from one window to another the
+/// window system may lose a part of the repetition, whose next press then looks like a new one.
+bool DimensionInputController::IsNewEscape(const QKeyEvent& event)
+{
+    constexpr qint64 LongestRepeatDelayMs = 1000;
+    const bool isHeld = m_isEscapeDown && m_sinceEscape.elapsed() < LongestRepeatDelayMs;
+    m_isEscapeDown = true;
+    m_sinceEscape.start();
+    return !event.isAutoRepeat() && !isHeld;
 }
 
 bool DimensionInputController::IsRefused(QLineEdit& editor)

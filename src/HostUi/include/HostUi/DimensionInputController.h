@@ -4,6 +4,7 @@
 #include "HostUi/HostUiExport.h"
 #include "Journal/JournalManager.h"
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QPointer>
 
@@ -57,6 +58,7 @@ protected:
 
 private:
     bool FilterEditorKey(QKeyEvent& event);
+    bool IsNewEscape(const QKeyEvent& event);
     bool IsRefused(QLineEdit& editor);
     bool OpenInput(const QKeyEvent& event);
     void OpenInputWithText(const QString& text);
@@ -70,6 +72,10 @@ private:
 
     /// Whether the text of the field is the user's: false while it shows the field's current value.
     bool m_isTextTyped = false;
+
+    /// Whether Escape was pressed and its release has not come yet, and since when it was heard of.
+    bool m_isEscapeDown = false;
+    QElapsedTimer m_sinceEscape;
 };
 
 }
