@@ -214,6 +214,28 @@ private slots:
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
     }
 
+    void escapeThatIsPressedAsItIsReleasedIsHeld()
+    {
+        const auto send = [](QEvent::Type type, ulong time) {
+            QKeyEvent event(type, Qt::Key_Escape, Qt::NoModifier);
+            event.setTimestamp(time);
+            QCoreApplication::sendEvent(ScriptedUser::FindView(), &event);
+        };
+        ScriptedUser user;
+
+        user.Click(s_line).ClickAt(0, 0).Type("5").Do([send] {
+            send(QEvent::KeyPress, 100);
+            send(QEvent::KeyRelease, 140);
+            send(QEvent::KeyPress, 140);
+            QVERIFY(IsRunning(L"Sketcher.Line"));
+            send(QEvent::KeyRelease, 180);
+            send(QEvent::KeyPress, 186);
+        });
+        user.Until([] { return IsRunning(L""); });
+
+        QCOMPARE(user.Run(m_pFixture->Draw()), 0);
+    }
+
     void escapeInTheViewFirstDropsWhatTabLocked()
     {
         const auto isLocked = [] {

@@ -61,14 +61,6 @@ Intervald CurrentRange(InputState field)
     return isAngle ? opContext->GetSecondValueRange() : opContext->GetFirstValueRange();
 }
 
-bool IsEscapeReleased(const QEvent& event)
-{
-    if (event.type() != QEvent::KeyRelease)
-        return false;
-    const auto& key = static_cast<const QKeyEvent&>(event);
-    return key.key() == Qt::Key_Escape && !key.isAutoRepeat();
-}
-
 }
 
 DimensionInputController::DimensionInputController()
@@ -175,8 +167,8 @@ bool DimensionInputController::IsRawTextInput(ITemporaryDimensionHandler& handle
 
 bool DimensionInputController::eventFilter(QObject* pWatched, QEvent* pEvent)
 {
-    if (IsEscapeReleased(*pEvent))
-        m_isEscapeDown = false;
+    if (pEvent->type() == QEvent::KeyRelease)
+        NoteRelease(static_cast<QKeyEvent&>(*pEvent));
     if (pWatched != m_pEditor || pWatched == nullptr)
         return false;
     if (pEvent->type() == QEvent::KeyPress)
@@ -217,15 +209,25 @@ bool DimensionInputController::FilterEditorKey(QKeyEvent& event)
     return false;
 }
 
-/// A key that is held down was meant once. When the keyboard goes from one window to another the
-/// window system may lose a part of the repetition, whose next press then looks like a new one.
+void DimensionInputController::NoteRelease(const QKeyEvent& event)
+{
+    if (event.key() != Qt::Key_Escape || event.isAutoRepeat())
+        return;
+    m_isEscapeDown = false;
+    m_escapeReleaseTime = event.timestamp();
+}
+
+/// A key that is held down was meant once. The toolkit does not mark every repetition: when the
+/// keyboard goes to another window a release may be lost, and a release that is read before its
+/// press looks like the end. The two then bear the same time, which no finger can do.
 bool DimensionInputController::IsNewEscape(const QKeyEvent& event)
 {
     constexpr qint64 LongestRepeatDelayMs = 1000;
-    const bool isHeld = m_isEscapeDown && m_sinceEscape.elapsed() < LongestRepeatDelayMs;
+    const bool isDown = m_isEscapeDown && m_sinceEscape.elapsed() < LongestRepeatDelayMs;
+    const bool isTornPair = event.timestamp() != 0 && event.timestamp() == m_escapeReleaseTime;
     m_isEscapeDown = true;
     m_sinceEscape.start();
-    return !event.isAutoRepeat() && !isHeld;
+    return !event.isAutoRepeat() && !isDown && !isTornPair;
 }
 
 bool DimensionInputController::IsRefused(QLineEdit& editor)

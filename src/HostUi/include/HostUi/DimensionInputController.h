@@ -58,6 +58,7 @@ protected:
 
 private:
     bool FilterEditorKey(QKeyEvent& event);
+    void NoteRelease(const QKeyEvent& event);
     bool IsNewEscape(const QKeyEvent& event);
     bool IsRefused(QLineEdit& editor);
     bool OpenInput(const QKeyEvent& event);
@@ -76,6 +77,9 @@ private:
     /// Whether Escape was pressed and its release has not come yet, and since when it was heard of.
     bool m_isEscapeDown = false;
     QElapsedTimer m_sinceEscape;
+
+    /// The window system's time of its last release.
+    unsigned long m_escapeReleaseTime = 0;
 };
 
 }
