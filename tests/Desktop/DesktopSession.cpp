@@ -39,7 +39,12 @@ bool DesktopSession::Start(const QStringList& arguments, const Environment& envi
     QProcessEnvironment variables = MakeEnvironment(environment);
     variables.insert("DISPLAY", m_display);
     RunProgram(files + arguments, variables);
-    return m_program.waitForStarted() && WaitForRest();
+    // The window manager frames and maximises the window when it is mapped. On a busy machine what
+    // the program says comes later: places hold when the server says the same.
+    const auto isPlaced = [&] {
+        return WaitForRest() && m_input.HasWindowAt(m_tree.FindView()->rect);
+    };
+    return m_program.waitForStarted() && PollUntil(isPlaced, 30000);
 }
 
 int DesktopSession::Close()
@@ -155,7 +160,6 @@ bool DesktopSession::Refresh()
 
 bool DesktopSession::WaitForRest()
 {
-    // The window manager maximises the window after it was mapped: places hold once they stay.
     QElapsedTimer atRest;
     QJsonObject last;
     return WaitFor(

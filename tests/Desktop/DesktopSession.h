@@ -1,12 +1,12 @@
 #pragma once
 
+#include "Desktop/ChildProcess.h"
 #include "Desktop/DrawnLine.h"
 #include "Desktop/InputDriver.h"
 #include "Desktop/Polling.h"
 #include "Desktop/UiTree.h"
 
 #include <QMap>
-#include <QProcess>
 #include <QTemporaryDir>
 
 #include <optional>
@@ -54,8 +54,6 @@ public:
     bool MoveInView(QPointF world);
 
     /// Starts the line tool (anew, when it runs already) and clicks the point from which to draw.
-    /// Waits for the hint after each click: a window manager may let a key overtake the click
-    /// before it.
     bool BeginLine(QPointF start = QPointF(0.0, 0.0));
 
     /// Where a world point is on the screen, as the view stands now.
@@ -105,7 +103,7 @@ private:
     QString m_display;
     QTemporaryDir m_folder;
     InputDriver m_input;
-    QProcess m_program;
+    ChildProcess m_program;
     UiTree m_tree;
     QString m_startHint; ///< What the line tool says while it waits for the first point.
     QByteArray m_errorOutput;

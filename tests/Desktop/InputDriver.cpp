@@ -1,5 +1,7 @@
 #include "Desktop/InputDriver.h"
 
+#include "Desktop/Polling.h"
+
 #include <QHash>
 #include <QProcess>
 #include <QProcessEnvironment>
@@ -57,7 +59,8 @@ bool InputDriver::MoveTo(QPoint position) const
 bool InputDriver::Click(QPoint position, int button) const
 {
     return Xdotool({"mousemove", QString::number(position.x()), QString::number(position.y()),
-                    "click", "--delay", "5", QString::number(button)});
+                    "click", "--delay", "5", QString::number(button)}) &&
+           WaitForWindowManager();
 }
 
 bool InputDriver::ClickAll(const QList<QPoint>& positions) const
@@ -93,6 +96,39 @@ bool InputDriver::CloseMainWindow() const
 bool InputDriver::TakePicture(const QString& file) const
 {
     return Run("import", {"-window", "root", file});
+}
+
+bool InputDriver::HasWindowAt(const QRect& rect) const
+{
+    QByteArray windows;
+    const QString size = QString("%1x%2+").arg(rect.width()).arg(rect.height());
+    const QString place = QString("+%1+%2").arg(rect.x()).arg(rect.y());
+    if (!Run("xwininfo", {"-root", "-tree"}, &windows))
+        return false;
+    for (const QByteArray& line : windows.split('\n'))
+    {
+        if (line.contains(size.toLatin1()) && line.endsWith("  " + place.toLatin1()))
+            return true;
+    }
+    return false;
+}
+
+bool InputDriver::WaitForWindowManager() const
+{
+    // It serves one thing after the other: when it has taken this request, it has let the click
+    // through.
+    QByteArray before;
+    if (!Run("xdotool", {"get_num_desktops"}, &before))
+        return false;
+    const QByteArray wanted = before.trimmed() == "2" ? "3" : "2";
+    if (!Xdotool({"set_num_desktops", QString::fromLatin1(wanted)}))
+        return false;
+    return PollUntil(
+        [&] {
+            QByteArray now;
+            return Run("xdotool", {"get_num_desktops"}, &now) && now.trimmed() == wanted;
+        },
+        10000);
 }
 
 bool InputDriver::Xdotool(const QStringList& arguments) const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPoint>
+#include <QRect>
 #include <QString>
 #include <QStringList>
 
@@ -23,6 +24,8 @@ public:
     bool KeyDown(const QString& key) const;
     bool KeyUp(const QString& key) const;
     bool MoveTo(QPoint position) const;
+    /// Clicks, and waits until the window manager has passed the click on: it holds clicks back for
+    /// a moment, and a key that is pressed meanwhile would overtake them.
     bool Click(QPoint position, int button = 1) const;
 
     /// Clicks the places in turn, about a hundred a second. At more than three hundred Qt itself
@@ -32,6 +35,9 @@ public:
     /// Turns the wheel at the pointer's place; positive turns away from the user.
     bool Wheel(int steps) const;
 
+    /// True when the server shows a window at exactly that place.
+    bool HasWindowAt(const QRect& rect) const;
+
     /// Asks the window manager to close the window that was mapped first, as Alt+F4 does.
     bool CloseMainWindow() const;
 
@@ -39,6 +45,7 @@ public:
     bool TakePicture(const QString& file) const;
 
 private:
+    bool WaitForWindowManager() const;
     bool Xdotool(const QStringList& arguments) const;
     bool Run(const QString& program, const QStringList& arguments,
              QByteArray* pOutput = nullptr) const;

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QProcess>
+#include "Desktop/ChildProcess.h"
+
 #include <QString>
 
 namespace vesk
@@ -27,8 +28,8 @@ private:
     bool StartServer();
     bool StartWindowManager();
 
-    QProcess m_server;
-    QProcess m_windowManager;
+    ChildProcess m_server;
+    ChildProcess m_windowManager;
     QString m_display;
     QString m_error;
 };

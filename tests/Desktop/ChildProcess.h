@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QProcess>
+
+namespace vesk
+{
+
+/// A program that ends when the test does, also when the test crashes.
+class ChildProcess final : public QProcess
+{
+protected:
+    void setupChildProcess() override;
+};
+
+}
