@@ -1,6 +1,6 @@
 #include "Journal/JournalManager.h"
 
-#include "Foundation/Check.h"
+#include "Foundation/HostSite.h"
 #include "Journal/IJournalData.h"
 #include "Journal/IJournalUiObject.h"
 #include "Journal/JournalFormat.h"
@@ -179,8 +179,7 @@ void JournalManagerImpl::Write(const std::string& line)
     // After a line that may be torn no other must follow.
     if (!isWritten)
         m_file.close();
-    Check(isWritten, {__FILE__, __LINE__, "vesk::JournalManager::Add", L"日志文件写入失败",
-                      L"vesk-host", L"2026-11-21"});
+    Check(isWritten, VESK_HOST_SITE("vesk::JournalManager::Add", L"日志文件写入失败"));
 }
 
 }

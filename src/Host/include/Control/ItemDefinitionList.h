@@ -1,0 +1,126 @@
+#pragma once
+
+#include "Control/ControlDefinitionChangeEvent.h"
+#include "Control/IControlDefinition.h"
+#include "Control/IControlDefinitionChangeEvent.h"
+#include "Foundation/HostExport.h"
+#include "Foundation/OwnerPtr.h"
+
+#include <cstddef>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace vesk
+{
+
+/// Reports an index that is not from 0 to `last` as a debug warning of `function`; false then.
+VESK_HOST_API bool CheckItemIndex(int index, int last, const char* function);
+
+/// Reports a missing item as a debug warning of `function`; false then.
+VESK_HOST_API bool CheckItem(const IControlDefinition* pItem, const char* function);
+
+/// The items that a definition owns. Each change of the list raises one event of the definition,
+/// each change of an item raises PropertyChanged there.
+///
+/// `TItem` is the class or interface of the items. `function` is the qualified name under which a
+/// bad argument is reported: such a call changes nothing. A handler may destroy the definition, so
+/// nothing follows an event.
+template <class TItem>
+class ItemDefinitionList final : private IControlDefinitionChangeEventHandler
+{
+public:
+    /// `event` is the definition's and outlives the list.
+    explicit ItemDefinitionList(ControlDefinitionChangeEvent& event) : m_event(event) {}
+
+    int GetCount() const { return static_cast<int>(m_items.size()); }
+
+    /// Null for an index that is not in the list.
+    TItem* Get(int index) const
+    {
+        const bool isInside = index >= 0 && index < GetCount();
+        return isInside ? m_items[static_cast<std::size_t>(index)].Get() : nullptr;
+    }
+
+    /// The first item with that id, null when there is none.
+    TItem* Find(const std::wstring& id) const
+    {
+        for (const OwnerPtr<TItem>& opItem : m_items)
+        {
+            if (opItem->GetId() == id)
+                return opItem.Get();
+        }
+        return nullptr;
+    }
+
+    /// The items as what the interface of the definition shows of them.
+    template <class TShown>
+    std::vector<const TShown*> GetAll() const
+    {
+        std::vector<const TShown*> items;
+        items.reserve(m_items.size());
+        for (const OwnerPtr<TItem>& opItem : m_items)
+            items.push_back(opItem.Get());
+        return items;
+    }
+
+    /// Puts an item before the one at `index`; at the end it is an appended one.
+    void Insert(int index, OwnerPtr<TItem> opItem, const char* function)
+    {
+        if (!CheckItem(opItem.Get(), function) || !CheckItemIndex(index, GetCount(), function))
+            return;
+        TItem* pItem = opItem.Get();
+        const bool isAppended = index == GetCount();
+        const std::wstring caption = pItem->GetCaption();
+        if (IControlDefinitionChangeEvent* pItemEvent = FindEvent(*pItem))
+            pItemEvent->Add(this);
+        m_items.insert(m_items.begin() + index, std::move(opItem));
+        m_event.RaiseItemsChanged(isAppended ? ControlDefinitionChangeEventType::Add
+                                             : ControlDefinitionChangeEventType::Insert,
+                                  index, caption, pItem);
+    }
+
+    /// The item lives until its handlers have heard that it is gone.
+    void Delete(int index, const char* function)
+    {
+        if (!CheckItemIndex(index, GetCount() - 1, function))
+            return;
+        const auto place = m_items.begin() + index;
+        const OwnerPtr<TItem> opItem = std::move(*place);
+        m_items.erase(place);
+        if (IControlDefinitionChangeEvent* pItemEvent = FindEvent(*opItem))
+            pItemEvent->Delete(this);
+        const std::wstring caption = opItem->GetCaption();
+        m_event.RaiseItemsChanged(ControlDefinitionChangeEventType::Delete, index, caption,
+                                  opItem.Get());
+    }
+
+    /// An empty list is left alone.
+    void Clear()
+    {
+        if (m_items.empty())
+            return;
+        const std::vector<OwnerPtr<TItem>> items = std::exchange(m_items, {});
+        for (const OwnerPtr<TItem>& opItem : items)
+        {
+            if (IControlDefinitionChangeEvent* pItemEvent = FindEvent(*opItem))
+                pItemEvent->Delete(this);
+        }
+        m_event.RaiseItemsChanged(ControlDefinitionChangeEventType::Clear, -1, std::wstring(),
+                                  nullptr);
+    }
+
+private:
+    static IControlDefinitionChangeEvent* FindEvent(TItem& item)
+    {
+        const auto* pSource = dynamic_cast<const IControlDefinitionChangeEventSource*>(&item);
+        return pSource != nullptr ? pSource->GetControlDefinitionChangeEvent() : nullptr;
+    }
+
+    void On(IControlDefinitionChangeEventArgs*) override { m_event.RaisePropertyChanged(); }
+
+    ControlDefinitionChangeEvent& m_event;
+    std::vector<OwnerPtr<TItem>> m_items;
+};
+
+}

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "Control/ControlDefinition.h"
+#include "Control/IProgressBarDefinition.h"
+
+namespace vesk
+{
+
+/// A progress bar. At first at 0, with its text, 100 pixels wide.
+class VESK_HOST_API ProgressBarDefinition : public ControlDefinition<IProgressBarDefinition>
+{
+public:
+    explicit ProgressBarDefinition(std::wstring id);
+
+    int GetValue() const override;
+    bool IsTextVisible() const override;
+    int GetWidth() const override;
+
+    /// A value below 0 or above 100 is kept; a bar shows no such value.
+    void SetValue(int value);
+    void SetTextVisible(bool isTextVisible);
+
+    /// In pixels.
+    void SetWidth(int width);
+
+private:
+    int m_value = 0;
+    bool m_isTextVisible = true;
+    int m_width = 100;
+};
+
+}

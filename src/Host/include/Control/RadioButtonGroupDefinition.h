@@ -1,0 +1,46 @@
+#pragma once
+
+#include "Control/ControlDefinition.h"
+#include "Control/IRadioButtonGroupDefinition.h"
+#include "Control/ItemDefinitionList.h"
+
+namespace vesk
+{
+
+/// One button of a radio-button group.
+class VESK_HOST_API RadioButtonDefinition : public ControlDefinition<IRadioButtonDefinition>
+{
+public:
+    RadioButtonDefinition(std::wstring id, const std::wstring& caption);
+};
+
+/// A radio-button group; empty at first. A change of a button is a property change of the group.
+///
+/// The current id may name no button: none is checked then. When the current button goes, none is
+/// current. A bad index or a missing button is reported and changes nothing.
+class VESK_HOST_API RadioButtonGroupDefinition
+    : public ControlDefinition<IRadioButtonGroupDefinition>
+{
+public:
+    explicit RadioButtonGroupDefinition(std::wstring id);
+
+    std::vector<const IRadioButtonDefinition*> GetRadioButtonDefinitions() const override;
+    std::wstring GetCurrentRadioButtonId() const override;
+    void SetCurrentRadioButtonId(const std::wstring& radioButtonId) override;
+
+    /// The button with that id, owned by the group; null when there is none.
+    RadioButtonDefinition* Find(const std::wstring& radioButtonId) const;
+
+    void AddRadioButton(OwnerPtr<RadioButtonDefinition> opRadioButton);
+
+    /// Puts a button before the one at `index`; at the end it is an appended one.
+    void InsertRadioButton(int index, OwnerPtr<RadioButtonDefinition> opRadioButton);
+    void DeleteRadioButton(int index);
+    void ClearRadioButtons();
+
+private:
+    std::wstring m_currentRadioButtonId;
+    ItemDefinitionList<RadioButtonDefinition> m_radioButtons{GetEvent()};
+};
+
+}
