@@ -10,7 +10,8 @@ namespace vesk
 
 /// A segment from a start point to the cursor, with its length and its angle to the plane's x axis.
 ///
-/// Lengths from MIN_MODEL_SIZE to MAX_MODEL_SIZE and angles from -360 to 360 degrees may be typed.
+/// Lengths from MIN_MODEL_SIZE to MAX_MODEL_SIZE millimetres and angles from -360 to 360 degrees
+/// may be typed.
 class VESK_HOST_API LinearTemporaryDimensionContext final : public ITemporaryDimensionContext
 {
 public:

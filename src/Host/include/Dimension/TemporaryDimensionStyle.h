@@ -7,7 +7,7 @@
 namespace vesk
 {
 
-/// How provisional dimensions look.
+/// How provisional dimensions look. It asks for the unit of lengths each time.
 class VESK_HOST_API TemporaryDimensionStyle
 {
 public:
@@ -19,7 +19,10 @@ public:
     int GetEditorWidth() const;
     int GetEditorHeight() const;
 
-    /// The text of a length and of an angle in degrees, as the dimension shows it.
+    /// A length of the model in the unit that is shown at this moment.
+    double ToShown(double modelLength) const;
+
+    /// The text of a length in the unit shown, and of an angle in degrees.
     std::wstring FormatLength(double value) const;
     std::wstring FormatAngle(double value) const;
 };

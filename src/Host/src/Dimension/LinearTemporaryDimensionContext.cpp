@@ -1,5 +1,6 @@
 #include "Dimension/LinearTemporaryDimensionContext.h"
 
+#include "Dimension/LengthUnit.h"
 #include "Geometry/Constants.h"
 
 namespace vesk
@@ -9,7 +10,8 @@ LinearTemporaryDimensionContext::LinearTemporaryDimensionContext(const Coordinat
                                                                  const Vector3d& start,
                                                                  const Vector3d& end)
     : m_coordinate(coordinate), m_start(start), m_end(end),
-      m_firstValueRange(Constants::MIN_MODEL_SIZE, Constants::MAX_MODEL_SIZE),
+      m_firstValueRange(LengthUnit::GetCurrent().ToShown(
+          Intervald(Constants::MIN_MODEL_SIZE, Constants::MAX_MODEL_SIZE))),
       m_secondValueRange(-360.0, 360.0)
 {}
 

@@ -146,7 +146,7 @@ OwnerPtr<IGraphicsNodeGroup> TemporaryDimensionCommons::GenerateLengthDimension(
     DrawLength(layout, offset, drawing);
 
     TemporaryDimensionData::Entry& entry = data[InputState::IS_Length];
-    entry.value = (end - start).norm();
+    entry.value = style.ToShown((end - start).norm());
     entry.textPosition = placement.Choose(
         {drawing.ToWorld(layout.middle + offset), drawing.ToWorld(layout.visibleMiddle + offset)});
     drawing.AddText(entry.textPosition, style.FormatLength(entry.value));

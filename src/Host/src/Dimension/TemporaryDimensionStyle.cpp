@@ -1,5 +1,7 @@
 #include "Dimension/TemporaryDimensionStyle.h"
 
+#include "Dimension/LengthUnit.h"
+
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -47,6 +49,11 @@ int TemporaryDimensionStyle::GetEditorWidth() const
 int TemporaryDimensionStyle::GetEditorHeight() const
 {
     return 26;
+}
+
+double TemporaryDimensionStyle::ToShown(double modelLength) const
+{
+    return LengthUnit::GetCurrent().ToShown(modelLength);
 }
 
 std::wstring TemporaryDimensionStyle::FormatLength(double value) const

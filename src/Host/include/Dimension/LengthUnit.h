@@ -1,0 +1,42 @@
+#pragma once
+
+#include "Foundation/HostExport.h"
+#include "Geometry/Intervald.h"
+
+#include <string>
+
+namespace vesk
+{
+
+/// A unit in which lengths are shown and typed. The model is in millimetres, always.
+class VESK_HOST_API LengthUnit
+{
+public:
+    /// `millimetres` is how long one of the unit is, `symbol` what follows a number.
+    LengthUnit(std::wstring symbol, double millimetres);
+
+    const std::wstring& GetSymbol() const { return m_symbol; }
+
+    /// From millimetres to the unit and back.
+    double ToShown(double modelLength) const { return modelLength / m_millimetres; }
+    double ToModel(double shownLength) const { return shownLength * m_millimetres; }
+    Intervald ToShown(const Intervald& modelRange) const;
+
+    static const LengthUnit& Millimetre();
+    static const LengthUnit& Centimetre();
+    static const LengthUnit& Metre();
+    static const LengthUnit& Inch();
+
+    /// The unit in which everything shows its lengths now; millimetres at first. Whoever chooses
+    /// another one ends an open dimension input before.
+    static const LengthUnit& GetCurrent();
+
+    /// `unit` lives as long as it is the current one.
+    static void SetCurrent(const LengthUnit& unit);
+
+private:
+    std::wstring m_symbol;
+    double m_millimetres;
+};
+
+}
