@@ -6,6 +6,8 @@
 
 #include <QtTest>
 
+#include <limits>
+
 namespace vesk
 {
 
@@ -16,7 +18,21 @@ namespace
 class Target final : public IJournalReplayTarget
 {
 public:
-    explicit Target(Log& log) : m_log(log) {}
+    explicit Target(Log& log, std::size_t stopAt) : m_log(log), m_stopAt(stopAt) {}
+
+    bool OnProgress(std::size_t done, std::size_t total) override
+    {
+        m_progress.push_back(std::to_string(done) + " of " + std::to_string(total));
+        return done != m_stopAt;
+    }
+
+    const Log& GetProgress() const { return m_progress; }
+
+    bool ReplaySelection(const SelectionRecord& record) override
+    {
+        m_log.push_back("select " + std::to_string(record.entities.size()));
+        return record.entities != std::vector<int>{13};
+    }
 
     bool ReplayProperty(const PropertyRecord& record) override
     {
@@ -32,6 +48,8 @@ public:
 
 private:
     Log& m_log;
+    std::size_t m_stopAt;
+    Log m_progress;
 };
 
 /// Some commands, and a journal that is put together record by record.
@@ -71,12 +89,18 @@ struct Fixture : ActionFixture
 
     JournalReplayResult Replay()
     {
-        Target target(log);
-        return JournalReplayer::Replay(records, target);
+        Target target(log, stopAt);
+        const JournalReplayResult result = JournalReplayer::Replay(records, target);
+        progress = target.GetProgress();
+        return result;
     }
 
     std::vector<JournalRecord> records;
     int lastNumber = 0;
+
+    /// Before which record the target stops the replay.
+    std::size_t stopAt = std::numeric_limits<std::size_t>::max();
+    Log progress;
 };
 
 QString FailureOf(const JournalReplayResult& result)
@@ -109,7 +133,9 @@ private slots:
     void anUnfinishedPlainCommandWithoutResultIsNotRepeated();
     void unfinishedCommandsAreListedInOrder();
     void anActionThatEndsItselfNeedsNoMark();
-    void propertiesAndUndosGoToTheTarget();
+    void selectionsPropertiesAndUndosGoToTheTarget();
+    void theTargetIsToldHowFarTheReplayHasCome();
+    void theTargetMayStopTheReplay();
     void commandsGetTheirParameters();
     void whatCannotBeDoneIsNamed_data();
     void whatCannotBeDoneIsNamed();
@@ -334,15 +360,41 @@ void JournalReplayerTest::anActionThatEndsItselfNeedsNoMark()
                           "Erase.point 1 on 1", "Erase.end", "Erase.delete"}));
 }
 
-void JournalReplayerTest::propertiesAndUndosGoToTheTarget()
+void JournalReplayerTest::selectionsPropertiesAndUndosGoToTheTarget()
 {
     Fixture f;
-    f.records = {{1, PropertyRecord{L"drawing", L"name", L"plan"}}, {2, UndoRecord{5}}};
+    f.records = {{1, SelectionRecord{{4, 2}}},
+                 {2, PropertyRecord{L"drawing", L"name", L"plan"}},
+                 {3, UndoRecord{5}}};
 
     const JournalReplayResult result = f.Replay();
 
     QCOMPARE(FailureOf(result), QString());
-    QVERIFY(f.log == (Log{"property plan", "undo 5"}));
+    QVERIFY(f.log == (Log{"select 2", "property plan", "undo 5"}));
+}
+
+void JournalReplayerTest::theTargetIsToldHowFarTheReplayHasCome()
+{
+    Fixture f;
+    f.Command(L"Line").Point(1).End(1);
+
+    const JournalReplayResult result = f.Replay();
+
+    QVERIFY(!result.isStopped);
+    QVERIFY(f.progress == (Log{"0 of 3", "1 of 3", "2 of 3"}));
+}
+
+void JournalReplayerTest::theTargetMayStopTheReplay()
+{
+    Fixture f;
+    f.Command(L"Line").Point(1).Point(2).End(1);
+    f.stopAt = 2;
+
+    const JournalReplayResult result = f.Replay();
+
+    QVERIFY(result.isStopped);
+    QCOMPARE(FailureOf(result), QString());
+    QVERIFY(f.log == (Log{"Line.begin", "Line.point 1", "Line.end", "Line.delete"}));
 }
 
 void JournalReplayerTest::commandsGetTheirParameters()
@@ -377,6 +429,8 @@ void JournalReplayerTest::whatCannotBeDoneIsNamed_data()
     QTest::newRow("unknown property")
         << R"({"n":12,"kind":"property","object":"layer","property":"name","value":"a"})"
         << R"(record 12: the property "name" of "layer" cannot be set)";
+    QTest::newRow("missing entity") << R"({"n":12,"kind":"selection","entities":[13]})"
+                                    << "record 12: an entity to select is missing";
     QTest::newRow("another undo") << R"({"n":12,"kind":"undo","entity":13})"
                                   << "record 12: the undo gave another result";
 }

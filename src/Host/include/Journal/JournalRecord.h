@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 #include <variant>
+#include <vector>
 
 namespace vesk
 {
@@ -33,10 +34,16 @@ struct ValueRecord
     double value = 0.0; ///< In model units.
 };
 
+/// The user selected entities: these and no others.
+struct SelectionRecord
+{
+    std::vector<int> entities;
+};
+
 /// A property was set by the user.
 struct PropertyRecord
 {
-    std::wstring object;   ///< Whose property: "drawing".
+    std::wstring object;   ///< Whose property: "drawing", "selection".
     std::wstring property; ///< Which one: "name".
     std::wstring value;
 };
@@ -58,7 +65,8 @@ struct EndRecord
 struct JournalRecord
 {
     int number = 0;
-    std::variant<CommandRecord, PointRecord, ValueRecord, PropertyRecord, UndoRecord, EndRecord>
+    std::variant<CommandRecord, PointRecord, ValueRecord, SelectionRecord, PropertyRecord,
+                 UndoRecord, EndRecord>
         what;
 };
 

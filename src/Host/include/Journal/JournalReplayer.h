@@ -3,6 +3,7 @@
 #include "Foundation/HostExport.h"
 #include "Journal/JournalRecord.h"
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -14,6 +15,12 @@ class VESK_HOST_API IJournalReplayTarget
 {
 public:
     virtual ~IJournalReplayTarget() = default;
+
+    /// Told before each record, how many of all have been repeated. False stops the replay there.
+    virtual bool OnProgress(std::size_t /*done*/, std::size_t /*total*/) { return true; }
+
+    /// Selects entities. False when there is no such entity.
+    virtual bool ReplaySelection(const SelectionRecord& record) = 0;
 
     /// Sets a property. False when there is none of that name.
     virtual bool ReplayProperty(const PropertyRecord& record) = 0;
@@ -27,6 +34,9 @@ struct JournalReplayResult
 {
     /// Empty when every record was repeated; else which one was not, and why.
     std::string failure;
+
+    /// The target stopped the replay.
+    bool isStopped = false;
 
     /// The commands whose completion mark is missing at the end of the journal.
     std::vector<std::wstring> unfinishedCommands;

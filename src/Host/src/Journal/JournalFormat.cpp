@@ -65,6 +65,12 @@ public:
         m_line["value"] = ToJson(record.value);
     }
 
+    void operator()(const SelectionRecord& record) const
+    {
+        m_line["kind"] = "selection";
+        m_line["entities"] = record.entities;
+    }
+
     void operator()(const PropertyRecord& record) const
     {
         m_line["kind"] = "property";

@@ -99,8 +99,9 @@ bool JournalReader::ReadKind()
     };
     static constexpr Kind s_kinds[] = {
         {"command", &JournalReader::ReadCommand}, {"point", &JournalReader::ReadPoint},
-        {"value", &JournalReader::ReadValue},     {"property", &JournalReader::ReadProperty},
-        {"undo", &JournalReader::ReadUndo},       {"end", &JournalReader::ReadEnd},
+        {"value", &JournalReader::ReadValue},     {"selection", &JournalReader::ReadSelection},
+        {"undo", &JournalReader::ReadUndo},       {"property", &JournalReader::ReadProperty},
+        {"end", &JournalReader::ReadEnd},
     };
     std::string name;
     if (!TakeText("kind", name))
@@ -139,6 +140,15 @@ bool JournalReader::ReadValue()
     ValueRecord record;
     if (!TakeField("field", record.field) || !TakeText("text", record.text) ||
         !TakeReal("value", record.value))
+        return false;
+    m_record.what = record;
+    return true;
+}
+
+bool JournalReader::ReadSelection()
+{
+    SelectionRecord record;
+    if (!TakeIntegers("entities", record.entities))
         return false;
     m_record.what = record;
     return true;
@@ -200,6 +210,18 @@ bool JournalReader::TakeInteger(const char* key, int& integer)
     if (pJson == nullptr)
         return false;
     return ToInteger(*pJson, integer) || Fail(Quote(key) + " is no integer");
+}
+
+bool JournalReader::TakeIntegers(const char* key, std::vector<int>& integers)
+{
+    const Json* pJson = Take(key);
+    if (pJson == nullptr)
+        return false;
+    const bool isList =
+        pJson->is_array() && std::all_of(pJson->begin(), pJson->end(), [&](const Json& json) {
+            return ToInteger(json, integers.emplace_back());
+        });
+    return isList || Fail(Quote(key) + " is no list of integers");
 }
 
 bool JournalReader::TakeReal(const char* key, double& real)

@@ -5,6 +5,7 @@
 #include <nlohmann/json.hpp>
 
 #include <string>
+#include <vector>
 
 namespace vesk
 {
@@ -33,6 +34,7 @@ private:
     bool ReadCommand();
     bool ReadPoint();
     bool ReadValue();
+    bool ReadSelection();
     bool ReadProperty();
     bool ReadUndo();
     bool ReadEnd();
@@ -41,6 +43,7 @@ private:
     bool TakeText(const char* key, std::string& text);
     bool TakeText(const char* key, std::wstring& text);
     bool TakeInteger(const char* key, int& integer);
+    bool TakeIntegers(const char* key, std::vector<int>& integers);
     bool TakeReal(const char* key, double& real);
     bool TakePoint(const char* key, Vector3d& point);
     bool TakeField(const char* key, InputState& field);

@@ -90,6 +90,7 @@ public:
     std::string operator()(const CommandRecord& record);
     std::string operator()(const PointRecord& record);
     std::string operator()(const ValueRecord& record);
+    std::string operator()(const SelectionRecord& record);
     std::string operator()(const PropertyRecord& record);
     std::string operator()(const UndoRecord& record);
     std::string operator()(const EndRecord& record);
@@ -145,7 +146,12 @@ JournalReplayResult Replay::Run()
             result.unfinishedCommands.push_back(pCommand->commandId);
     }
     for (m_index = 0; m_index < m_records.size() && result.failure.empty(); ++m_index)
+    {
+        result.isStopped = !m_target.OnProgress(m_index, m_records.size());
+        if (result.isStopped)
+            break;
         result.failure = RunRecord();
+    }
     ActionManager::Reset();
     return result;
 }
@@ -203,6 +209,11 @@ std::string Replay::operator()(const ValueRecord& record)
         isDone = action.ReplayValue(record.field, record.text, record.value);
     });
     return isDone ? "" : "the value cannot be repeated";
+}
+
+std::string Replay::operator()(const SelectionRecord& record)
+{
+    return m_target.ReplaySelection(record) ? "" : "an entity to select is missing";
 }
 
 std::string Replay::operator()(const PropertyRecord& record)
@@ -278,7 +289,7 @@ JournalReplayResult JournalReplayer::Replay(const std::vector<JournalRecord>& re
                                             IJournalReplayTarget& target)
 {
     if (ActionRunner::GetInstance().IsInEventLoop())
-        return {"a command is running", {}};
+        return {"a command is running", false, {}};
     ActionManager::Reset();
     const EventLoopOffScope eventLoopOff;
     return vesk::Replay(records, target).Run();
