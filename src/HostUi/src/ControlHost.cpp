@@ -4,17 +4,26 @@
 #include "Command/ICommand.h"
 #include "Command/ICommandManager.h"
 #include "Control/CommandButtonDefinition.h"
+#include "Control/ICheckBoxGroupDefinition.h"
+#include "Control/IComboBoxDefinition.h"
+#include "Control/ICommandButtonMenuDefinition.h"
 #include "Control/IControl.h"
 #include "Control/ILabelDefinition.h"
 #include "Control/ILineEditDefinition.h"
+#include "Control/IProgressBarDefinition.h"
+#include "Control/IRadioButtonGroupDefinition.h"
 #include "Control/VeskIControlFactory.h"
 
+#include <QAbstractButton>
+#include <QButtonGroup>
+#include <QHBoxLayout>
 #include <QThread>
 #include <QWidget>
 
 #include <algorithm>
 #include <chrono>
 #include <cstddef>
+#include <memory>
 #include <utility>
 
 namespace vesk
@@ -64,12 +73,43 @@ QWidget* ControlHost::Create(OwnerPtr<ILineEditDefinition> opDefinition)
                                : nullptr;
 }
 
+QWidget* ControlHost::Create(OwnerPtr<IComboBoxDefinition> opDefinition)
+{
+    VeskIControlFactory* pFactory = VeskIControlFactory::Get();
+    return pFactory != nullptr ? Adopt(pFactory->CreateQtComboBox(std::move(opDefinition)))
+                               : nullptr;
+}
+
+QWidget* ControlHost::Create(OwnerPtr<IProgressBarDefinition> opDefinition)
+{
+    VeskIControlFactory* pFactory = VeskIControlFactory::Get();
+    return pFactory != nullptr ? Adopt(pFactory->CreateQtProgressBar(std::move(opDefinition)))
+                               : nullptr;
+}
+
+QWidget* ControlHost::Create(OwnerPtr<ICommandButtonMenuDefinition> opDefinition)
+{
+    VeskIControlFactory* pFactory = VeskIControlFactory::Get();
+    return pFactory != nullptr ? Adopt(pFactory->CreateQtCommandButtonMenu(std::move(opDefinition)))
+                               : nullptr;
+}
+
+QWidget* ControlHost::Create(OwnerPtr<ICheckBoxGroupDefinition> opDefinition)
+{
+    return CreateGroup(&VeskIControlFactory::CreateQtCheckBoxGroup, std::move(opDefinition));
+}
+
+QWidget* ControlHost::Create(OwnerPtr<IRadioButtonGroupDefinition> opDefinition)
+{
+    return CreateGroup(&VeskIControlFactory::CreateQtRadioButtonGroup, std::move(opDefinition));
+}
+
 void ControlHost::RefreshControls()
 {
     // By index: a definition's event may bring a new control.
     for (std::size_t i = 0; i < m_controls.size(); ++i)
     {
-        IControl* pControl = m_controls[i].Get();
+        IControl* pControl = m_controls[i].opControl.Get();
         RefreshCommandButton(*pControl);
         pControl->UpdateStatus();
     }
@@ -77,26 +117,49 @@ void ControlHost::RefreshControls()
 
 void ControlHost::Remove(const std::wstring& definitionId)
 {
-    const auto found = std::find_if(
-        m_controls.begin(), m_controls.end(), [&definitionId](const OwnerPtr<IControl>& opControl) {
-            return opControl->GetControlDefinition() != nullptr &&
-                   opControl->GetControlDefinition()->GetId() == definitionId;
+    const auto found =
+        std::find_if(m_controls.begin(), m_controls.end(), [&definitionId](const Placed& placed) {
+            const IControlDefinition* pDefinition = placed.opControl->GetControlDefinition();
+            return pDefinition != nullptr && pDefinition->GetId() == definitionId;
         });
     if (found == m_controls.end())
         return;
     m_removed.push_back(std::move(*found));
     m_controls.erase(found);
-    if (QWidget* pWidget = dynamic_cast<QWidget*>(m_removed.back().Get()))
-        pWidget->hide();
+    if (m_removed.back().pWidget != nullptr)
+        m_removed.back().pWidget->hide();
     m_destroyLater.start();
+}
+
+template <class Definition>
+QWidget* ControlHost::CreateGroup(
+    OwnerPtr<IControl> (VeskIControlFactory::*create)(OwnerPtr<Definition>, WindowId),
+    OwnerPtr<Definition> opDefinition)
+{
+    VeskIControlFactory* pFactory = VeskIControlFactory::Get();
+    if (pFactory == nullptr)
+        return nullptr;
+    auto pPanel = std::make_unique<QWidget>();
+    auto* pLayout = new QHBoxLayout(pPanel.get());
+    pLayout->setContentsMargins(0, 0, 0, 0);
+    OwnerPtr<IControl> opControl = (pFactory->*create)(std::move(opDefinition), pPanel->winId());
+    const auto* pGroup = dynamic_cast<const QButtonGroup*>(opControl.Get());
+    if (pGroup == nullptr)
+        return nullptr;
+    for (QAbstractButton* pButton : pGroup->buttons())
+        pLayout->addWidget(pButton);
+    // Only the making of the group asks for a native window: below others it would not be clipped.
+    pPanel->setAttribute(Qt::WA_NativeWindow, false);
+    m_controls.push_back({std::move(opControl), pPanel.get()});
+    return pPanel.release();
 }
 
 QWidget* ControlHost::Adopt(OwnerPtr<IControl> opControl)
 {
-    QWidget* pWidget = dynamic_cast<QWidget*>(opControl.Get());
+    auto* pWidget = dynamic_cast<QWidget*>(opControl.Get());
     if (pWidget == nullptr)
         return nullptr;
-    m_controls.push_back(std::move(opControl));
+    m_controls.push_back({std::move(opControl), pWidget});
     return pWidget;
 }
 
@@ -117,6 +180,12 @@ void ControlHost::DestroyRemoved()
     if (!IsSafeToDestroy())
         return;
     m_destroyLater.stop();
+    // A control goes before what holds it, a group before its panel.
+    for (Placed& removed : m_removed)
+    {
+        removed.opControl.Reset();
+        delete removed.pWidget;
+    }
     m_removed.clear();
 }
 

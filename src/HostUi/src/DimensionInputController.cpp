@@ -85,8 +85,11 @@ bool DimensionInputController::OnViewKey(QKeyEvent& event)
     }
     if (event.key() != Qt::Key_Escape)
         return OpenInput(event);
-    if (IsNewEscape(event))
-        ActionManager::ProcessEscape(CurrentView());
+    if (!IsNewEscape(event))
+        return true;
+    if (IActionManager::CurrentAction() == nullptr)
+        return false;
+    ActionManager::ProcessEscape(CurrentView());
     return true;
 }
 

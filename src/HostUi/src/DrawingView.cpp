@@ -72,6 +72,18 @@ void DrawingView::Fit(const Vector3d& corner, const Vector3d& oppositeCorner)
     OnCameraChanged();
 }
 
+void DrawingView::Magnify(double factor)
+{
+    m_camera.ZoomAbout(width() / 2.0, height() / 2.0, factor);
+    OnCameraChanged();
+}
+
+void DrawingView::SetPixelsPerUnit(double devicePixels)
+{
+    m_camera.SetWorldPerPixel(devicePixelRatioF() / devicePixels);
+    OnCameraChanged();
+}
+
 QPointF DrawingView::ToPixel(const Vector3d& world) const
 {
     double x = 0.0;
@@ -97,7 +109,11 @@ bool DrawingView::focusNextPrevChild(bool isNext)
 
 void DrawingView::keyPressEvent(QKeyEvent* pEvent)
 {
-    if (!m_input.OnViewKey(*pEvent))
+    if (m_input.OnViewKey(*pEvent))
+        return;
+    if (pEvent->key() == Qt::Key_Escape)
+        OnFreeEscape();
+    else
         QWidget::keyPressEvent(pEvent);
 }
 
@@ -131,7 +147,7 @@ void DrawingView::mousePressEvent(QMouseEvent* pEvent)
         setCursor(Qt::ClosedHandCursor);
     }
     if (pEvent->button() == Qt::LeftButton)
-        OnClick(pEvent->localPos());
+        OnClick(*pEvent);
 }
 
 void DrawingView::mouseReleaseEvent(QMouseEvent* pEvent)
@@ -157,6 +173,7 @@ void DrawingView::paintEvent(QPaintEvent*)
     }
     if (const IGraphicsNodeGroup* pDimensions = TemporaryDimensionMgr::GetInstance()->GetGraphics())
         pDimensions->Accept(provisional);
+    PaintOverlay(painter);
 }
 
 void DrawingView::resizeEvent(QResizeEvent*)
@@ -197,17 +214,19 @@ void DrawingView::OnCameraChanged()
 }
 
 /// A click takes the value being typed, in the direction of the click; a refused one keeps it.
-void DrawingView::OnClick(const QPointF& position)
+void DrawingView::OnClick(const QMouseEvent& event)
 {
     setFocus(Qt::MouseFocusReason);
-    const Vector3d world = m_camera.ScreenToWorld(position.x(), position.y());
-    if (m_input.GetActiveEditor() == nullptr)
+    const Vector3d world = m_camera.ScreenToWorld(event.localPos().x(), event.localPos().y());
+    if (m_input.GetActiveEditor() != nullptr)
     {
-        ActionManager::ProcessClick(this, world);
-        return;
+        ActionManager::ProcessMouseMove(this, world);
+        m_input.Commit();
     }
-    ActionManager::ProcessMouseMove(this, world);
-    m_input.Commit();
+    else if (IActionManager::CurrentAction() != nullptr)
+        ActionManager::ProcessClick(this, world);
+    else
+        OnFreeClick(world, event.modifiers());
 }
 
 }

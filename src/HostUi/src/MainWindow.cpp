@@ -1,7 +1,9 @@
 #include "HostUi/MainWindow.h"
 
 #include "Command/ActionManager.h"
+#include "Dimension/LengthUnit.h"
 #include "HostUi/DrawingView.h"
+#include "HostUi/QtText.h"
 #include "Qtitan/RibbonBar.h"
 
 #include <QCloseEvent>
@@ -19,7 +21,7 @@ MainWindow::MainWindow()
     m_pCursor->setObjectName(QStringLiteral("CursorPosition"));
     m_pCursor->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_pCursor->setMinimumWidth(m_pCursor->fontMetrics().horizontalAdvance(
-        QStringLiteral("X -000000.000   Y -000000.000")));
+        QStringLiteral("X -000000.000   Y -000000.000   mm")));
     constexpr int Margin = 6;
     m_pHint->setContentsMargins(Margin, 0, Margin, 0);
     m_pCursor->setContentsMargins(Margin, 0, Margin, 0);
@@ -63,7 +65,11 @@ void MainWindow::closeEvent(QCloseEvent* pEvent)
 
 void MainWindow::OnCursorMoved(double x, double y)
 {
-    m_pCursor->setText(QStringLiteral("X %1   Y %2").arg(x, 0, 'f', 3).arg(y, 0, 'f', 3));
+    const LengthUnit& unit = LengthUnit::GetCurrent();
+    m_pCursor->setText(QStringLiteral("X %1   Y %2   %3")
+                           .arg(unit.ToShown(x), 0, 'f', 3)
+                           .arg(unit.ToShown(y), 0, 'f', 3)
+                           .arg(ToQString(unit.GetSymbol())));
 }
 
 }

@@ -3,10 +3,11 @@
 #include "Foundation/OwnerPtr.h"
 #include "Foundation/UpdateCtrlStatusEvent.h"
 #include "HostUi/HostUiExport.h"
+#include "View/WindowId.h"
 
+#include <QPointer>
 #include <QTimer>
 
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -16,9 +17,15 @@ namespace vesk
 {
 
 class CommandButtonDefinition;
+class ICheckBoxGroupDefinition;
+class IComboBoxDefinition;
+class ICommandButtonMenuDefinition;
 class IControl;
 class ILabelDefinition;
 class ILineEditDefinition;
+class IProgressBarDefinition;
+class IRadioButtonGroupDefinition;
+class VeskIControlFactory;
 
 /// Owns the controls on screen and keeps them in step with commands and actions.
 ///
@@ -39,6 +46,15 @@ public:
     QWidget* Create(OwnerPtr<CommandButtonDefinition> opDefinition);
     QWidget* Create(OwnerPtr<ILabelDefinition> opDefinition);
     QWidget* Create(OwnerPtr<ILineEditDefinition> opDefinition);
+    QWidget* Create(OwnerPtr<IComboBoxDefinition> opDefinition);
+    QWidget* Create(OwnerPtr<IProgressBarDefinition> opDefinition);
+
+    /// The entries of the menu are visible and enabled as their commands are.
+    QWidget* Create(OwnerPtr<ICommandButtonMenuDefinition> opDefinition);
+
+    /// The widget is a panel with the buttons of the group side by side.
+    QWidget* Create(OwnerPtr<ICheckBoxGroupDefinition> opDefinition);
+    QWidget* Create(OwnerPtr<IRadioButtonGroupDefinition> opDefinition);
 
     /// Has every control take visibility and enabled state over.
     void RefreshControls() override;
@@ -48,12 +64,23 @@ public:
     void Remove(const std::wstring& definitionId);
 
 private:
+    /// A control and the widget that was placed for it: itself, or the panel of a group.
+    struct Placed
+    {
+        OwnerPtr<IControl> opControl;
+        QPointer<QWidget> pWidget;
+    };
+
+    template <class Definition>
+    QWidget* CreateGroup(OwnerPtr<IControl> (VeskIControlFactory::*create)(OwnerPtr<Definition>,
+                                                                           WindowId),
+                         OwnerPtr<Definition> opDefinition);
     QWidget* Adopt(OwnerPtr<IControl> opControl);
     void RefreshCommandButton(IControl& control);
     void DestroyRemoved();
 
-    std::vector<OwnerPtr<IControl>> m_controls;
-    std::vector<OwnerPtr<IControl>> m_removed;
+    std::vector<Placed> m_controls;
+    std::vector<Placed> m_removed;
     QTimer m_destroyLater;
 };
 

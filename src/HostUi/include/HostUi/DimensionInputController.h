@@ -30,8 +30,8 @@ public:
     DimensionInputController();
     ~DimensionInputController() override;
 
-    /// Takes a key that arrived in the view. False for a key that means nothing there: it is the
-    /// window's.
+    /// Takes a key that arrived in the view. False for a key that means nothing here: it is the
+    /// view's or the window's, an Escape without a running action among them.
     bool OnViewKey(QKeyEvent& event);
 
     /// Takes the value being typed, as Return would. False when it was refused: the input goes on.

@@ -39,6 +39,12 @@ public:
     /// Shows the box between two world points.
     void Fit(const Vector3d& corner, const Vector3d& oppositeCorner);
 
+    /// Magnifies by a factor about the middle of the view.
+    void Magnify(double factor);
+
+    /// Shows a unit of the model in that many device pixels; the middle of the view stays.
+    void SetPixelsPerUnit(double devicePixels);
+
 signals:
     void viewTextChanged(const QString& text);
 
@@ -49,6 +55,13 @@ signals:
 protected:
     /// Paints what the view shows below the provisional graphics. The painter draws in pixels.
     virtual void PaintModel(QPainter& painter) = 0;
+
+    /// Paints over everything else.
+    virtual void PaintOverlay(QPainter&) {}
+
+    /// The user clicked, or pressed Escape, while no action runs.
+    virtual void OnFreeClick(const Vector3d& /*world*/, Qt::KeyboardModifiers) {}
+    virtual void OnFreeEscape() {}
 
     /// The pixel position of a world point.
     QPointF ToPixel(const Vector3d& world) const;
@@ -74,7 +87,7 @@ private:
     };
 
     void OnCameraChanged();
-    void OnClick(const QPointF& position);
+    void OnClick(const QMouseEvent& event);
 
     std::uint32_t m_id;
     DimensionInputController& m_input;

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <nlohmann/json.hpp>
+
+class QObject;
+class QRect;
+class QWidget;
+
+namespace vesk
+{
+
+/// Where a part of a widget is on screen, as [x, y, width, height] in global device pixels.
+nlohmann::ordered_json DescribeRect(const QWidget& widget, const QRect& part);
+
+/// What the user sees of a control or a menu entry.
+nlohmann::ordered_json DescribeControl(QObject& object);
+
+}
