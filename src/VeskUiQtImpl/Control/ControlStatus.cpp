@@ -20,4 +20,16 @@ bool ApplyStatus(QWidget& widget, const IControlDefinition& definition)
     return pWidget != nullptr;
 }
 
+void UpdateVisible(QWidget& widget, bool isVisible)
+{
+    if (widget.isVisible() != isVisible)
+        widget.setVisible(isVisible);
+}
+
+void UpdateEnabled(QWidget& widget, bool isEnabled)
+{
+    if (widget.isEnabled() != isEnabled)
+        widget.setEnabled(isEnabled);
+}
+
 }

@@ -13,4 +13,11 @@ class IControlDefinition;
 /// anything.
 bool ApplyStatus(QWidget& widget, const IControlDefinition& definition);
 
+/// Each gives a widget one state where it shows another.
+///
+/// Below a hidden or disabled parent a widget is so whatever it is told, and may then miss a
+/// change: the next ApplyStatus, which does not compare, sets that right.
+void UpdateVisible(QWidget& widget, bool isVisible);
+void UpdateEnabled(QWidget& widget, bool isEnabled);
+
 }

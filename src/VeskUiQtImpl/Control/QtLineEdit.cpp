@@ -106,12 +106,10 @@ void QtLineEdit::On(IControlDefinitionChangeEventArgs* pArgs)
     const QString definitionText = ToQString(m_pControlDefinition->GetText());
     if (text() != definitionText)
         setText(definitionText);
-    // Below a hidden or disabled parent the widget is so whatever it is told: the next
-    // UpdateStatus, which does not compare, sets that right.
-    if (pSelf != nullptr && isVisible() != m_pControlDefinition->IsVisible())
-        setVisible(m_pControlDefinition->IsVisible());
-    if (pSelf != nullptr && isEnabled() != m_pControlDefinition->IsEnabled())
-        setEnabled(m_pControlDefinition->IsEnabled());
+    if (pSelf != nullptr)
+        UpdateVisible(*this, m_pControlDefinition->IsVisible());
+    if (pSelf != nullptr)
+        UpdateEnabled(*this, m_pControlDefinition->IsEnabled());
     if (pSelf != nullptr)
         ApplySelection();
 }
