@@ -2,11 +2,11 @@
 
 #include "CheckSite.h"
 #include "Command/CommandParameters.h"
+#include "Control/ButtonAction.h"
 #include "Control/ControlDefinitionChangeByUser.h"
 #include "Control/ControlStatus.h"
 #include "Control/ControlSubscription.h"
 #include "Control/PropertyName.h"
-#include "CreateChild.h"
 #include "ProcessCommandUtil.h"
 
 #include <HostUi/QtText.h>
@@ -38,21 +38,6 @@ Qt::ToolButtonStyle ToQtButtonStyle(int hostStyle)
     }
 }
 
-/// The action on which the button's look lives; null when it could not be made.
-QAction* CreateAction(const ICommandButtonDefinition& definition, QtButton* pButton)
-{
-    auto* pAction = CreateChild<QAction>(pButton, "vesk::CreateAction");
-    if (pAction == nullptr)
-        return nullptr;
-    pAction->setProperty(PropertyName::IsDefinition, true);
-    pAction->setText(ToQString(definition.GetCaption()));
-    pAction->setCheckable(true);
-    pAction->setToolTip(ToQString(definition.GetTooltip()));
-    pAction->setIcon(QIcon(ToQString(definition.GetIconPath())));
-    pAction->setChecked(definition.IsChecked());
-    return pAction;
-}
-
 /// Writes all three whether they changed or not. Who listens to the action may delete it meanwhile.
 void UpdateAction(const ICommandButtonDefinition& definition, const QPointer<QAction>& pAction)
 {
@@ -76,8 +61,12 @@ QtButton::QtButton(OwnerPtr<ICommandButtonDefinition> pControlDefinition, QWidge
                VESK_SITE("vesk::QtButton::QtButton", L"pControlDefinition为空")))
         return;
 
-    if (QAction* pAction = CreateAction(*m_pControlDefinition, this))
+    QAction* pAction = CreateAction(*m_pControlDefinition, this);
+    if (pAction != nullptr)
+    {
+        pAction->setChecked(m_pControlDefinition->IsChecked());
         setDefaultAction(pAction);
+    }
     setProperty(PropertyName::IsDefinition, true);
     setCheckable(true);
     setAutoRaise(true);

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "CheckSite.h"
+#include "Control/PropertyName.h"
+#include "CreateChild.h"
+
+#include <HostUi/QtText.h>
+
+#include <QAction>
+#include <QIcon>
+#include <QToolButton>
+#include <QVariant>
+
+namespace vesk
+{
+
+/// Makes the checkable action on which the look of a button lives, a child of that button: caption,
+/// tool tip and icon come from the definition. Null, with a warning, when it could not be made.
+template <class Definition>
+QAction* CreateAction(const Definition& definition, QToolButton* pButton)
+{
+    auto* pAction = CreateChild<QAction>(pButton, "vesk::CreateAction");
+    if (pAction == nullptr)
+        return nullptr;
+    pAction->setProperty(PropertyName::IsDefinition, true);
+    pAction->setText(ToQString(definition.GetCaption()));
+    pAction->setCheckable(true);
+    pAction->setToolTip(ToQString(definition.GetTooltip()));
+    pAction->setIcon(QIcon(ToQString(definition.GetIconPath())));
+    return pAction;
+}
+
+}
