@@ -1,0 +1,211 @@
+#pragma once
+
+#include "CheckSite.h"
+#include "Control/IControlDefinition.h"
+#include "Control/IControlDefinitionChangeEvent.h"
+#include "Control/PropertyName.h"
+#include "CreateChild.h"
+
+#include <HostUi/QtText.h>
+
+#include <QBoxLayout>
+#include <QButtonGroup>
+#include <QPointer>
+#include <QVariant>
+#include <QWidget>
+
+#include <cstddef>
+#include <vector>
+
+namespace vesk
+{
+
+/// Makes the button that shows an item, a child of `pParent`, with caption, name and tool tip.
+/// Null, with a warning in the name of `function`, when it could not be made.
+template <class Button>
+Button* CreateItemButton(QWidget* pParent, const IControlDefinition* pDefinition,
+                         const char* function)
+{
+    if (!Check(pParent != nullptr, VESK_SITE(function, L"m_pParent为空")))
+        return nullptr;
+    if (!Check(pDefinition != nullptr, VESK_SITE(function, L"pDefinition为空")))
+        return nullptr;
+
+    auto* pButton = CreateChild<Button>(pParent, function);
+    if (pButton == nullptr)
+        return nullptr;
+    pButton->setText(ToQString(pDefinition->GetCaption()));
+    pButton->setProperty(PropertyName::IsDefinition, true);
+    pButton->setObjectName(ToQString(pDefinition->GetId()));
+    pButton->setToolTip(ToQString(pDefinition->GetTooltip()));
+    return pButton;
+}
+
+/// The buttons of a group at work: how their list, the button group and the layout of the parent
+/// follow the items of a definition.
+///
+/// Made for one operation; it refers to the group's own members. Ids are those of automatic
+/// numbering, one less than the smallest present, but are told to Qt: it would look through all
+/// ids for each button. What is wrong is reported in the name of `function`, the operation of the
+/// group.
+template <class Button>
+class ButtonGroupItems
+{
+public:
+    ButtonGroupItems(QButtonGroup& group, QWidget* pParent, std::vector<Button*>& buttons)
+        : m_group(group), m_pParent(pParent), m_buttons(buttons)
+    {}
+
+    /// Puts a button at the end of list and group.
+    void Append(Button* pButton)
+    {
+        // The last button has the smallest id; one that is in no group has -1.
+        const int smallestId = m_buttons.empty() ? -1 : m_group.id(m_buttons.back());
+        m_group.addButton(pButton, smallestId - 1);
+        m_buttons.push_back(pButton);
+    }
+
+    /// An item came at the end: `append` makes its button, which is then placed after the last one.
+    template <class Item, class AppendItem>
+    void OnAdd(const IControlDefinitionChangeEventArgs* pArgs, AppendItem append,
+               const char* function)
+    {
+        if (!Check(pArgs != nullptr, VESK_SITE(function, L"pArgs为空")))
+            return;
+        if (!Check(m_pParent != nullptr, VESK_SITE(function, L"m_pParent为空")))
+            return;
+        QLayout* pLayout = m_pParent->layout();
+        if (!Check(pLayout != nullptr, VESK_SITE(function, L"pLayout为空")))
+            return;
+
+        // A layout answers for no widget with the place of a spacer.
+        const int lastPlace = m_buttons.empty() ? -1 : pLayout->indexOf(m_buttons.back());
+        const auto* pItem = dynamic_cast<const Item*>(pArgs->GetItemDefinition());
+        if (!Check(pItem != nullptr, VESK_SITE(function, L"pCheckBoxDefine为空")))
+            return;
+        Button* pButton = append(pItem);
+        if (!Check(pButton != nullptr, VESK_SITE(function, L"pControl为空")))
+            return;
+        Place(pLayout, lastPlace + 1, pButton, function);
+    }
+
+    /// An item came before another: `create` makes its button, for which there is `noButton` to say
+    /// when it does not. All buttons are grouped anew, so that their ids stay in order; a failure
+    /// leaves them in no group.
+    template <class Item, class CreateButton>
+    void OnInsert(const IControlDefinitionChangeEventArgs* pArgs, CreateButton create,
+                  const wchar_t* noButton, const char* function)
+    {
+        if (!Check(pArgs != nullptr, VESK_SITE(function, L"pArgs为空")))
+            return;
+        Ungroup(function);
+        const auto* pItem = dynamic_cast<const Item*>(pArgs->GetItemDefinition());
+        if (!Check(pItem != nullptr, VESK_SITE(function, L"pDefinition为空")))
+            return;
+        Button* pButton = create(pItem);
+        if (!Check(pButton != nullptr, VESK_SITE(function, noButton)))
+            return;
+        const int index = pArgs->GetIndex();
+        if (!Check(Has(index), VESK_SITE(function, L"insertControlDefinitionIndex有误")))
+            return;
+        QLayout* pLayout = m_pParent->layout();
+        if (!Check(pLayout != nullptr, VESK_SITE(function, L"pLayout为空")))
+            return;
+
+        const auto next = m_buttons.begin() + index;
+        if (!Place(pLayout, pLayout->indexOf(*next), pButton, function))
+            return;
+        m_buttons.insert(next, pButton);
+        Group(function);
+    }
+
+    /// The item at `index` is gone: its button leaves list and group now, and dies later.
+    void OnDelete(int index, const char* function)
+    {
+        if (!Check(Has(index), VESK_SITE(function, L"deleteControlDefinitionIndex有误")))
+            return;
+        const auto place = m_buttons.begin() + index;
+        if (*place == nullptr)
+            return;
+        m_group.removeButton(*place);
+        (*place)->deleteLater();
+        m_buttons.erase(place);
+    }
+
+    /// All items are gone.
+    void OnClear(const char* function)
+    {
+        for (Button* pButton : m_buttons)
+        {
+            if (!Check(pButton != nullptr, VESK_SITE(function, L"iter为空")))
+                continue;
+            m_group.removeButton(pButton);
+            pButton->deleteLater();
+        }
+        m_buttons.clear();
+    }
+
+    /// Calls `apply(button, item, isAlive)` for each button and its item, in order; `noPair` is to
+    /// say where either is missing. Who hears of a change may do anything: `isAlive()` tells
+    /// whether both still stand in the group, and without the group it ends.
+    template <class Item, class Apply>
+    void ForEach(const std::vector<const Item*>& items, Apply apply, const wchar_t* noPair,
+                 const char* function)
+    {
+        if (!Check(m_buttons.size() == items.size(), VESK_SITE(function, L"数据有误")))
+            return;
+
+        const QPointer<QButtonGroup> pGroup(&m_group);
+        const std::vector<Button*> buttons = m_buttons;
+        for (std::size_t i = 0; i < buttons.size(); ++i)
+        {
+            const auto isAlive = [&] {
+                return pGroup != nullptr && i < m_buttons.size() && m_buttons[i] == buttons[i];
+            };
+            if (!isAlive())
+                return;
+            if (Check(buttons[i] != nullptr && items[i] != nullptr, VESK_SITE(function, noPair)))
+                apply(*buttons[i], *items[i], isAlive);
+        }
+    }
+
+private:
+    bool Has(int index) const
+    {
+        return index >= 0 && static_cast<std::size_t>(index) < m_buttons.size();
+    }
+
+    void Ungroup(const char* function)
+    {
+        for (Button* pButton : m_buttons)
+        {
+            if (Check(pButton != nullptr, VESK_SITE(function, L"iter为空")))
+                m_group.removeButton(pButton);
+        }
+    }
+
+    void Group(const char* function)
+    {
+        int id = -1;
+        for (Button* pButton : m_buttons)
+        {
+            if (Check(pButton != nullptr, VESK_SITE(function, L"iter为空")))
+                m_group.addButton(pButton, --id);
+        }
+    }
+
+    static bool Place(QLayout* pLayout, int position, Button* pButton, const char* function)
+    {
+        auto* pBoxLayout = qobject_cast<QBoxLayout*>(pLayout);
+        if (!Check(pBoxLayout != nullptr, VESK_SITE(function, L"pQBoxLayout为空")))
+            return false;
+        pBoxLayout->insertWidget(position, pButton);
+        return true;
+    }
+
+    QButtonGroup& m_group;
+    QWidget* m_pParent;
+    std::vector<Button*>& m_buttons;
+};
+
+}

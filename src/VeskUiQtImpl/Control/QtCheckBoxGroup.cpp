@@ -1,0 +1,189 @@
+#include "Control/QtCheckBoxGroup.h"
+
+#include "CheckSite.h"
+#include "Control/ButtonGroupItems.h"
+#include "Control/ControlDefinitionChangeByUser.h"
+#include "Control/ControlStatus.h"
+#include "Control/ControlSubscription.h"
+#include "Control/PropertyName.h"
+
+#include <HostUi/QtText.h>
+
+#include <QCheckBox>
+#include <QVariant>
+
+namespace vesk
+{
+namespace
+{
+
+// There are two states only, both ways: a box is never shown partially checked.
+
+Qt::CheckState ToQtCheckState(int hostState)
+{
+    return hostState == 0 ? Qt::Unchecked : Qt::Checked;
+}
+
+int ToHostCheckState(Qt::CheckState state)
+{
+    return state == Qt::Unchecked ? 0 : 2;
+}
+
+}
+
+QtCheckBoxGroup::QtCheckBoxGroup(OwnerPtr<ICheckBoxGroupDefinition> pControlDefinition,
+                                 QWidget* pParent)
+    : QButtonGroup(pParent), m_pControlDefinition(std::move(pControlDefinition)), m_pParent(pParent)
+{
+    if (!Check(m_pControlDefinition != nullptr && m_pParent != nullptr,
+               VESK_SITE("vesk::QtCheckBoxGroup::QtCheckBoxGroup",
+                         L"m_pControlDefinition或pParent是空指针")))
+        return;
+
+    setProperty(PropertyName::IsDefinition, true);
+    setExclusive(false);
+    for (const ICheckBoxDefinition* pDefinition : m_pControlDefinition->GetCheckBoxDefinitions())
+        AddCheckBox(pDefinition);
+    connect(this, QOverload<QAbstractButton*>::of(&QButtonGroup::buttonClicked), this,
+            &QtCheckBoxGroup::OnButtonClicked);
+    Subscribe(m_pControlDefinition.Get(), this);
+}
+
+QtCheckBoxGroup::~QtCheckBoxGroup()
+{
+    Unsubscribe(m_pControlDefinition.Get(), this);
+}
+
+std::vector<QCheckBox*> QtCheckBoxGroup::GetAllControls() const
+{
+    return m_checkBoxes;
+}
+
+IControlDefinition* QtCheckBoxGroup::GetControlDefinition() const
+{
+    return m_pControlDefinition.Get();
+}
+
+void QtCheckBoxGroup::UpdateStatus()
+{
+    constexpr char Function[] = "vesk::QtCheckBoxGroup::UpdateStatus";
+    if (!Check(m_pControlDefinition != nullptr, VESK_SITE(Function, L"pDefinition为空")))
+        return;
+
+    const auto apply = [](QCheckBox& checkBox, const ICheckBoxDefinition& definition, auto) {
+        ApplyStatus(checkBox, definition);
+    };
+    ButtonGroupItems(*this, m_pParent, m_checkBoxes)
+        .ForEach(m_pControlDefinition->GetCheckBoxDefinitions(), apply,
+                 L"checkBoxDefines[i] && checkBoxControls[i]为空", Function);
+}
+
+void QtCheckBoxGroup::On(IControlDefinitionChangeEventArgs* pArgs)
+{
+    constexpr char Function[] = "vesk::QtCheckBoxGroup::On";
+    if (!Check(pArgs != nullptr, VESK_SITE(Function, L"pArgs为空")))
+        return;
+
+    switch (pArgs->GetType())
+    {
+    case ControlDefinitionChangeEventType::Add:
+        OnControlDefinitionChangeEventTypeAdd(pArgs);
+        break;
+    case ControlDefinitionChangeEventType::Insert:
+        OnControlDefinitionChangeEventTypeInsert(pArgs);
+        break;
+    case ControlDefinitionChangeEventType::Delete:
+        ButtonGroupItems(*this, m_pParent, m_checkBoxes).OnDelete(pArgs->GetIndex(), Function);
+        break;
+    case ControlDefinitionChangeEventType::Clear:
+        ButtonGroupItems(*this, m_pParent, m_checkBoxes).OnClear(Function);
+        break;
+    case ControlDefinitionChangeEventType::PropertyChanged:
+        ApplyStates();
+        break;
+    default:
+        break;
+    }
+}
+
+void QtCheckBoxGroup::ApplyStates()
+{
+    constexpr char Function[] = "vesk::QtCheckBoxGroup::On";
+    if (!Check(m_pControlDefinition != nullptr, VESK_SITE(Function, L"pControlDefinition为空")))
+        return;
+
+    const auto apply = [](QCheckBox& checkBox, const ICheckBoxDefinition& definition,
+                          auto isAlive) {
+        const Qt::CheckState state = ToQtCheckState(definition.GetCheckState());
+        if (checkBox.checkState() != state)
+            checkBox.setCheckState(state);
+        if (isAlive())
+            UpdateVisible(checkBox, definition.IsVisible());
+        if (isAlive())
+            UpdateEnabled(checkBox, definition.IsEnabled());
+    };
+    ButtonGroupItems(*this, m_pParent, m_checkBoxes)
+        .ForEach(m_pControlDefinition->GetCheckBoxDefinitions(), apply,
+                 L"checkBoxDefines[i] && checkBoxControls[i]为空", Function);
+}
+
+QCheckBox* QtCheckBoxGroup::AddCheckBox(const ICheckBoxDefinition* pDefinition)
+{
+    constexpr char Function[] = "vesk::QtCheckBoxGroup::AddCheckBox";
+    if (!Check(pDefinition != nullptr, VESK_SITE(Function, L"pDefinition为空")))
+        return nullptr;
+    QCheckBox* pCheckBox = CreateControl(pDefinition);
+    if (!Check(pCheckBox != nullptr, VESK_SITE(Function, L"pCheckBox为空")))
+        return nullptr;
+
+    ButtonGroupItems(*this, m_pParent, m_checkBoxes).Append(pCheckBox);
+    return pCheckBox;
+}
+
+QCheckBox* QtCheckBoxGroup::CreateControl(const ICheckBoxDefinition* pDefinition)
+{
+    auto* pCheckBox =
+        CreateItemButton<QCheckBox>(m_pParent, pDefinition, "vesk::QtCheckBoxGroup::CreateControl");
+    if (pCheckBox == nullptr)
+        return nullptr;
+
+    pCheckBox->setCheckState(ToQtCheckState(pDefinition->GetCheckState()));
+    ApplyStatus(*pCheckBox, *pDefinition);
+    return pCheckBox;
+}
+
+void QtCheckBoxGroup::OnControlDefinitionChangeEventTypeAdd(
+    IControlDefinitionChangeEventArgs* pArgs)
+{
+    const auto append = [this](const ICheckBoxDefinition* pItem) { return AddCheckBox(pItem); };
+    ButtonGroupItems(*this, m_pParent, m_checkBoxes)
+        .OnAdd<ICheckBoxDefinition>(pArgs, append,
+                                    "vesk::QtCheckBoxGroup::OnControlDefinitionChangeEventTypeAdd");
+}
+
+void QtCheckBoxGroup::OnControlDefinitionChangeEventTypeInsert(
+    IControlDefinitionChangeEventArgs* pArgs)
+{
+    const auto create = [this](const ICheckBoxDefinition* pItem) { return CreateControl(pItem); };
+    ButtonGroupItems(*this, m_pParent, m_checkBoxes)
+        .OnInsert<ICheckBoxDefinition>(
+            pArgs, create, L"pCheckBoxControl为空",
+            "vesk::QtCheckBoxGroup::OnControlDefinitionChangeEventTypeInsert");
+}
+
+void QtCheckBoxGroup::OnButtonClicked(QAbstractButton* pButton)
+{
+    constexpr char Function[] = "vesk::QtCheckBoxGroup::OnButtonClicked";
+    if (!Check(m_pControlDefinition != nullptr, VESK_SITE(Function, L"pControlDefinition为空")))
+        return;
+    const auto* pCheckBox = qobject_cast<QCheckBox*>(pButton);
+    if (!Check(pCheckBox != nullptr, VESK_SITE(Function, L"pCheckBox为空")))
+        return;
+
+    const std::wstring checkBoxId = ToWide(pCheckBox->objectName());
+    const int checkState = ToHostCheckState(pCheckBox->checkState());
+    const ControlDefinitionChangeByUser byUser(m_pControlDefinition->GetId());
+    m_pControlDefinition->SetCheckState(checkBoxId, checkState);
+}
+
+}

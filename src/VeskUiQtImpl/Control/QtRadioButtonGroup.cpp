@@ -1,0 +1,178 @@
+#include "Control/QtRadioButtonGroup.h"
+
+#include "CheckSite.h"
+#include "Control/ButtonGroupItems.h"
+#include "Control/ControlDefinitionChangeByUser.h"
+#include "Control/ControlStatus.h"
+#include "Control/ControlSubscription.h"
+#include "Control/PropertyName.h"
+
+#include <HostUi/QtText.h>
+
+#include <QRadioButton>
+#include <QVariant>
+
+namespace vesk
+{
+
+QtRadioButtonGroup::QtRadioButtonGroup(OwnerPtr<IRadioButtonGroupDefinition> pControlDefinition,
+                                       QWidget* pParent)
+    : QButtonGroup(pParent), m_pControlDefinition(std::move(pControlDefinition)), m_pParent(pParent)
+{
+    if (!Check(m_pControlDefinition != nullptr && m_pParent != nullptr,
+               VESK_SITE("vesk::QtRadioButtonGroup::QtRadioButtonGroup",
+                         L"m_pControlDefinition或pParent是空指针")))
+        return;
+
+    setProperty(PropertyName::IsDefinition, true);
+    setExclusive(true);
+    for (const IRadioButtonDefinition* pDefinition :
+         m_pControlDefinition->GetRadioButtonDefinitions())
+        AddRadioButton(pDefinition);
+    connect(this, QOverload<QAbstractButton*>::of(&QButtonGroup::buttonClicked), this,
+            &QtRadioButtonGroup::OnButtonClicked);
+    Subscribe(m_pControlDefinition.Get(), this);
+}
+
+QtRadioButtonGroup::~QtRadioButtonGroup()
+{
+    Unsubscribe(m_pControlDefinition.Get(), this);
+}
+
+std::vector<QRadioButton*> QtRadioButtonGroup::GetAllControls() const
+{
+    return m_radioButtons;
+}
+
+IControlDefinition* QtRadioButtonGroup::GetControlDefinition() const
+{
+    return m_pControlDefinition.Get();
+}
+
+void QtRadioButtonGroup::UpdateStatus()
+{
+    constexpr char Function[] = "vesk::QtRadioButtonGroup::UpdateStatus";
+    if (!Check(m_pControlDefinition != nullptr, VESK_SITE(Function, L"pDefinition为空")))
+        return;
+
+    const auto apply = [](QRadioButton& radioButton, const IRadioButtonDefinition& definition,
+                          auto) { ApplyStatus(radioButton, definition); };
+    ButtonGroupItems(*this, m_pParent, m_radioButtons)
+        .ForEach(m_pControlDefinition->GetRadioButtonDefinitions(), apply,
+                 L"radioButtonDefines[i] && radioButtonControls[i]为空", Function);
+}
+
+void QtRadioButtonGroup::On(IControlDefinitionChangeEventArgs* pArgs)
+{
+    constexpr char Function[] = "vesk::QtRadioButtonGroup::On";
+    if (!Check(pArgs != nullptr, VESK_SITE(Function, L"pArgs为空")))
+        return;
+
+    switch (pArgs->GetType())
+    {
+    case ControlDefinitionChangeEventType::Add:
+        OnControlDefinitionChangeEventTypeAdd(pArgs);
+        break;
+    case ControlDefinitionChangeEventType::Insert:
+        OnControlDefinitionChangeEventTypeInsert(pArgs);
+        break;
+    case ControlDefinitionChangeEventType::Delete:
+        ButtonGroupItems(*this, m_pParent, m_radioButtons).OnDelete(pArgs->GetIndex(), Function);
+        break;
+    case ControlDefinitionChangeEventType::Clear:
+        ButtonGroupItems(*this, m_pParent, m_radioButtons).OnClear(Function);
+        break;
+    case ControlDefinitionChangeEventType::PropertyChanged:
+        ApplyStates();
+        break;
+    default:
+        break;
+    }
+}
+
+void QtRadioButtonGroup::ApplyStates()
+{
+    constexpr char Function[] = "vesk::QtRadioButtonGroup::On";
+    if (!Check(m_pControlDefinition != nullptr, VESK_SITE(Function, L"pControlDefinition为空")))
+        return;
+
+    const auto apply = [this](QRadioButton& radioButton, const IRadioButtonDefinition& definition,
+                              auto isAlive) {
+        // None is ever unchecked here: the group sees to it that one at most is checked.
+        const std::wstring currentId = m_pControlDefinition->GetCurrentRadioButtonId();
+        if (ToWide(radioButton.objectName()) == currentId && !radioButton.isChecked())
+            radioButton.setChecked(true);
+        if (isAlive())
+            UpdateVisible(radioButton, definition.IsVisible());
+        if (isAlive())
+            UpdateEnabled(radioButton, definition.IsEnabled());
+    };
+    ButtonGroupItems(*this, m_pParent, m_radioButtons)
+        .ForEach(m_pControlDefinition->GetRadioButtonDefinitions(), apply,
+                 L"radioButtonGroupDefinition[i] && radioButtonControls[i]为空", Function);
+}
+
+QRadioButton* QtRadioButtonGroup::AddRadioButton(const IRadioButtonDefinition* pDefinition)
+{
+    constexpr char Function[] = "vesk::QtRadioButtonGroup::AddRadioButton";
+    if (!Check(pDefinition != nullptr, VESK_SITE(Function, L"pDefinition为空")))
+        return nullptr;
+    QRadioButton* pRadioButton = CreateControl(pDefinition);
+    if (!Check(pRadioButton != nullptr, VESK_SITE(Function, L"pRadioButton为空")))
+        return nullptr;
+
+    if (pDefinition->GetId() == m_pControlDefinition->GetCurrentRadioButtonId())
+        pRadioButton->setChecked(true);
+    ButtonGroupItems(*this, m_pParent, m_radioButtons).Append(pRadioButton);
+    return pRadioButton;
+}
+
+QRadioButton* QtRadioButtonGroup::CreateControl(const IRadioButtonDefinition* pDefinition)
+{
+    auto* pRadioButton = CreateItemButton<QRadioButton>(m_pParent, pDefinition,
+                                                        "vesk::QtRadioButtonGroup::CreateControl");
+    if (pRadioButton != nullptr)
+        ApplyStatus(*pRadioButton, *pDefinition);
+    return pRadioButton;
+}
+
+void QtRadioButtonGroup::OnControlDefinitionChangeEventTypeAdd(
+    IControlDefinitionChangeEventArgs* pArgs)
+{
+    const auto append = [this](const IRadioButtonDefinition* pItem) {
+        return AddRadioButton(pItem);
+    };
+    ButtonGroupItems(*this, m_pParent, m_radioButtons)
+        .OnAdd<IRadioButtonDefinition>(
+            pArgs, append, "vesk::QtRadioButtonGroup::OnControlDefinitionChangeEventTypeAdd");
+}
+
+void QtRadioButtonGroup::OnControlDefinitionChangeEventTypeInsert(
+    IControlDefinitionChangeEventArgs* pArgs)
+{
+    const auto create = [this](const IRadioButtonDefinition* pItem) {
+        return CreateControl(pItem);
+    };
+    ButtonGroupItems(*this, m_pParent, m_radioButtons)
+        .OnInsert<IRadioButtonDefinition>(
+            pArgs, create, L"pRadioControl为空",
+            "vesk::QtRadioButtonGroup::OnControlDefinitionChangeEventTypeInsert");
+}
+
+void QtRadioButtonGroup::OnButtonClicked(QAbstractButton* pButton)
+{
+    constexpr char Function[] = "vesk::QtRadioButtonGroup::OnButtonClicked";
+    if (!Check(m_pControlDefinition != nullptr, VESK_SITE(Function, L"pControlDefinition为空")))
+        return;
+    const auto* pRadioButton = qobject_cast<QRadioButton*>(pButton);
+    if (!Check(pRadioButton != nullptr, VESK_SITE(Function, L"pCheckBox为空")))
+        return;
+
+    RadioButtonGroupStateChangeFlag::m_stateChangeByUser = true;
+    const RadioButtonGroupStateChangeFlag resetFlag;
+    const std::wstring radioButtonId = ToWide(pRadioButton->objectName());
+    const ControlDefinitionChangeByUser byUser(m_pControlDefinition->GetId());
+    m_pControlDefinition->SetCurrentRadioButtonId(radioButtonId);
+}
+
+}
