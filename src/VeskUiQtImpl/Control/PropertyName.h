@@ -10,6 +10,9 @@ namespace PropertyName
 /// True on every object that stands for a definition of the host.
 constexpr char IsDefinition[] = "IsDefinition";
 
+/// On the action of a menu entry: the id of its command, a QString.
+constexpr char CommandId[] = "CommandId";
+
 }
 
 }

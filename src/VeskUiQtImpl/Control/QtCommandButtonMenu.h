@@ -1,0 +1,55 @@
+#pragma once
+
+#include "Control/ICommandButtonMenuDefinition.h"
+#include "Control/IControl.h"
+#include "Control/IControlDefinitionChangeEvent.h"
+#include "Foundation/OwnerPtr.h"
+
+#include <QToolButton>
+
+class QAction;
+class QMenu;
+
+namespace vesk
+{
+
+/// Shows a command-button-menu definition: the main part sends the definition's own command, the
+/// arrow opens a menu of further commands and sub-menus.
+///
+/// The last entry chosen of the menu itself is checked; an entry of a sub-menu unchecks them all.
+class QtCommandButtonMenu final : public QToolButton,
+                                  public IControl,
+                                  public IControlDefinitionChangeEventHandler
+{
+    Q_OBJECT
+
+public:
+    /// Takes the definition over. With an empty one the button is bare, without a menu.
+    /// Visibility and enabled state come with the first UpdateStatus.
+    explicit QtCommandButtonMenu(OwnerPtr<ICommandButtonMenuDefinition> pControlDefinition);
+    ~QtCommandButtonMenu() override;
+
+    IControlDefinition* GetControlDefinition() const override;
+
+    /// Takes visibility over and, while the button is shown, its enabled state and both states of
+    /// the commands in the menu itself; sub-menus stay.
+    void UpdateStatus() override;
+
+    /// Takes entries over that are added or inserted, and a menu that is cleared.
+    void On(IControlDefinitionChangeEventArgs* pArgs) override;
+
+private slots:
+    void OnMenuItemTriggered(bool checked);
+    void OnMenuTriggered(bool checked);
+
+private:
+    void AddMenuItem(QMenu* pMenu, const IMenuItemDefinition* pMenuItemDefinition);
+
+    void InsertMenuItem(int index, const IControlDefinition* pItemDefinition);
+    void SetUpItem(QAction& action, const ICommandMenuItemDefinition& definition);
+    void CheckOnly(const QAction& chosen);
+
+    OwnerPtr<ICommandButtonMenuDefinition> m_pControlDefinition;
+};
+
+}
