@@ -1,30 +1,19 @@
 #include "Control/VeskControlFactory.h"
 
 #include "CheckSite.h"
-#include "Control/ICheckBoxGroupDefinition.h"
-#include "Control/IComboBoxDefinition.h"
-#include "Control/ICommandButtonMenuDefinition.h"
-#include "Control/IProgressBarDefinition.h"
-#include "Control/IRadioButtonGroupDefinition.h"
 #include "Control/QtButton.h"
+#include "Control/QtCheckBoxGroup.h"
+#include "Control/QtComboBox.h"
+#include "Control/QtCommandButtonMenu.h"
 #include "Control/QtLabel.h"
 #include "Control/QtLineEdit.h"
+#include "Control/QtProgressBar.h"
+#include "Control/QtRadioButtonGroup.h"
 
 #include <QWidget>
 
 namespace vesk
 {
-namespace
-{
-
-/// The kinds of control that the library does not make yet end here: the definition is freed.
-OwnerPtr<IControl> NotMade(const CheckSite& site)
-{
-    Check(false, site);
-    return nullptr;
-}
-
-}
 
 OwnerPtr<IControl>
 VeskControlFactory::CreateQtButton(OwnerPtr<ICommandButtonDefinition> opDefinition)
@@ -43,42 +32,42 @@ OwnerPtr<IControl> VeskControlFactory::CreateQtLabel(OwnerPtr<ILabelDefinition> 
 }
 
 OwnerPtr<IControl>
-VeskControlFactory::CreateQtCommandButtonMenu(OwnerPtr<ICommandButtonMenuDefinition>)
+VeskControlFactory::CreateQtCommandButtonMenu(OwnerPtr<ICommandButtonMenuDefinition> opDefinition)
 {
-    return NotMade(VESK_SITE("vesk::VeskControlFactory::CreateQtCommandButtonMenu",
-                             L"QtCommandButtonMenu尚未实现"));
+    return MakeOwner<QtCommandButtonMenu>(std::move(opDefinition));
 }
 
-OwnerPtr<IControl> VeskControlFactory::CreateQtComboBox(OwnerPtr<IComboBoxDefinition>)
+OwnerPtr<IControl> VeskControlFactory::CreateQtComboBox(OwnerPtr<IComboBoxDefinition> opDefinition)
 {
-    return NotMade(VESK_SITE("vesk::VeskControlFactory::CreateQtComboBox", L"QtComboBox尚未实现"));
-}
-
-OwnerPtr<IControl> VeskControlFactory::CreateQtProgressBar(OwnerPtr<IProgressBarDefinition>)
-{
-    return NotMade(
-        VESK_SITE("vesk::VeskControlFactory::CreateQtProgressBar", L"QtProgressBar尚未实现"));
+    return MakeOwner<QtComboBox>(std::move(opDefinition), nullptr);
 }
 
 OwnerPtr<IControl>
-VeskControlFactory::CreateQtRadioButtonGroup(OwnerPtr<IRadioButtonGroupDefinition>,
-                                             WindowId parentWindowId)
+VeskControlFactory::CreateQtProgressBar(OwnerPtr<IProgressBarDefinition> opDefinition)
 {
-    constexpr char Function[] = "vesk::VeskControlFactory::CreateQtRadioButtonGroup";
-    const QWidget* pParent = QWidget::find(parentWindowId);
-    if (!Check(pParent != nullptr, VESK_SITE(Function, L"pParent为空")))
-        return nullptr;
-    return NotMade(VESK_SITE(Function, L"QtRadioButtonGroup尚未实现"));
+    return MakeOwner<QtProgressBar>(std::move(opDefinition), nullptr);
 }
 
-OwnerPtr<IControl> VeskControlFactory::CreateQtCheckBoxGroup(OwnerPtr<ICheckBoxGroupDefinition>,
-                                                             WindowId parentWindowId)
+OwnerPtr<IControl>
+VeskControlFactory::CreateQtRadioButtonGroup(OwnerPtr<IRadioButtonGroupDefinition> opDefinition,
+                                             WindowId parentWindowId)
 {
-    constexpr char Function[] = "vesk::VeskControlFactory::CreateQtCheckBoxGroup";
-    const QWidget* pParent = QWidget::find(parentWindowId);
-    if (!Check(pParent != nullptr, VESK_SITE(Function, L"pParent为空")))
+    QWidget* pParent = QWidget::find(parentWindowId);
+    if (!Check(pParent != nullptr,
+               VESK_SITE("vesk::VeskControlFactory::CreateQtRadioButtonGroup", L"pParent为空")))
         return nullptr;
-    return NotMade(VESK_SITE(Function, L"QtCheckBoxGroup尚未实现"));
+    return MakeOwner<QtRadioButtonGroup>(std::move(opDefinition), pParent);
+}
+
+OwnerPtr<IControl>
+VeskControlFactory::CreateQtCheckBoxGroup(OwnerPtr<ICheckBoxGroupDefinition> opDefinition,
+                                          WindowId parentWindowId)
+{
+    QWidget* pParent = QWidget::find(parentWindowId);
+    if (!Check(pParent != nullptr,
+               VESK_SITE("vesk::VeskControlFactory::CreateQtCheckBoxGroup", L"pParent为空")))
+        return nullptr;
+    return MakeOwner<QtCheckBoxGroup>(std::move(opDefinition), pParent);
 }
 
 }
