@@ -33,6 +33,32 @@ namespace
 
 constexpr std::chrono::milliseconds RetryInterval{20};
 
+/// Holds the buttons of a group.
+class GroupPanel final : public QWidget
+{
+public:
+    GroupPanel()
+    {
+        auto* pLayout = new QHBoxLayout(this);
+        pLayout->setContentsMargins(0, 0, 0, 0);
+    }
+
+    /// Only the making of a group asks for a native window: inside others it would not be clipped.
+    void DropNativeWindow()
+    {
+        setAttribute(Qt::WA_NativeWindow, false);
+        destroy();
+    }
+
+    void Place(const QList<QAbstractButton*>& buttons)
+    {
+        auto* pLayout = static_cast<QHBoxLayout*>(layout());
+        for (QAbstractButton* pButton : buttons)
+            pLayout->addWidget(pButton);
+        pLayout->addStretch();
+    }
+};
+
 bool IsSafeToDestroy()
 {
     return QThread::currentThread()->loopLevel() <= 1 &&
@@ -139,17 +165,13 @@ QWidget* ControlHost::CreateGroup(
     VeskIControlFactory* pFactory = VeskIControlFactory::Get();
     if (pFactory == nullptr)
         return nullptr;
-    auto pPanel = std::make_unique<QWidget>();
-    auto* pLayout = new QHBoxLayout(pPanel.get());
-    pLayout->setContentsMargins(0, 0, 0, 0);
+    auto pPanel = std::make_unique<GroupPanel>();
     OwnerPtr<IControl> opControl = (pFactory->*create)(std::move(opDefinition), pPanel->winId());
     const auto* pGroup = dynamic_cast<const QButtonGroup*>(opControl.Get());
     if (pGroup == nullptr)
         return nullptr;
-    for (QAbstractButton* pButton : pGroup->buttons())
-        pLayout->addWidget(pButton);
-    // Only the making of the group asks for a native window: below others it would not be clipped.
-    pPanel->setAttribute(Qt::WA_NativeWindow, false);
+    pPanel->Place(pGroup->buttons());
+    pPanel->DropNativeWindow();
     m_controls.push_back({std::move(opControl), pPanel.get()});
     return pPanel.release();
 }
