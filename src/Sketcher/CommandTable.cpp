@@ -2,73 +2,140 @@
 
 #include "EraseAction.h"
 #include "LineAction.h"
-#include "Sketch.h"
 #include "SketchView.h"
+#include "Workspace.h"
+#include "ZoomWindowAction.h"
 
 #include "Command/ActionManager.h"
 #include "Command/ICommandManager.h"
 #include "Journal/JournalManager.h"
+
+#include <utility>
 
 using namespace vesk;
 
 namespace
 {
 
-template <class Action>
-Command::Execution Begin(Sketch& sketch)
+constexpr Command::Kind Plain = Command::Kind::Plain;
+constexpr Command::Kind Interactive = Command::Kind::Interactive;
+
+template <class Action, class Argument>
+Command::Execution Begin(Argument& argument)
 {
-    return [&sketch](IUiView*, const CommandParameters&) -> OwnerPtr<IAction> {
-        return MakeOwner<Action>(sketch);
+    return [&argument](IUiView*, const CommandParameters&) -> OwnerPtr<IAction> {
+        return MakeOwner<Action>(argument);
     };
 }
 
-Command::Execution ZoomAll(SketchView& view)
+template <class Function>
+Command::Execution Do(Function function)
 {
-    return [&view](IUiView*, const CommandParameters&) -> OwnerPtr<IAction> {
-        view.ZoomAll();
+    return [function](IUiView*, const CommandParameters&) -> OwnerPtr<IAction> {
+        function();
         return nullptr;
     };
 }
 
-Command::Execution Undo(Sketch& sketch)
+void Undo(Sketch& sketch)
 {
-    return [&sketch](IUiView*, const CommandParameters&) -> OwnerPtr<IAction> {
-        JournalManager::GetInstance().Add(UndoRecord{sketch.Undo()});
-        // A running action may go on from another point now.
-        ActionManager::StepDone();
-        return nullptr;
-    };
+    JournalManager::GetInstance().Add(UndoRecord{sketch.Undo()});
+    // A running action may go on from another point now.
+    ActionManager::StepDone();
 }
 
-}
-
-std::vector<CommandEntry> MakeCommandTable(Sketch& sketch, SketchView& view)
+std::vector<CommandEntry> MakeDrawingCommands(Workspace& workspace)
 {
-    const auto hasEntities = [&sketch] { return !sketch.GetEntities().empty(); };
+    Sketch& sketch = workspace.sketch;
     return {
         {L"Sketcher.Line",
-         L"绘图",
          L"直线",
          L":/icons/line.svg",
          L"直线：单击或键入长度和角度，逐段绘制 (Ctrl+L)",
+         L"绘图",
+         L"",
          L"Ctrl+L",
-         Command::Kind::Interactive,
-         Begin<LineAction>(sketch),
+         Interactive,
+         Begin<LineAction>(workspace),
          {}},
         {L"Sketcher.Erase",
-         L"绘图",
          L"删除",
          L":/icons/erase.svg",
          L"删除：单击要删除的图元 (Ctrl+E)",
+         L"绘图",
+         L"",
          L"Ctrl+E",
-         Command::Kind::Interactive,
-         Begin<EraseAction>(sketch),
+         Interactive,
+         Begin<EraseAction>(workspace),
          {}},
-        {L"Sketcher.Undo", L"编辑", L"撤销", L":/icons/undo.svg", L"撤销上一步 (Ctrl+Z)", L"Ctrl+Z",
-         Command::Kind::Plain, Undo(sketch), [&sketch] { return sketch.CanUndo(); }},
-        {L"Sketcher.ZoomAll", L"视图", L"全部", L":/icons/zoom-all.svg", L"缩放到全部图元 (Ctrl+0)",
-         L"Ctrl+0", Command::Kind::Plain, ZoomAll(view), hasEntities},
+        {L"Sketcher.Undo", L"撤销", L":/icons/undo.svg", L"撤销上一步 (Ctrl+Z)", L"编辑", L"",
+         L"Ctrl+Z", Plain, Do([&sketch] { Undo(sketch); }), [&sketch] { return sketch.CanUndo(); }},
     };
+}
+
+std::vector<CommandEntry> MakeZoomCommands(const Sketch& sketch, SketchView& view)
+{
+    constexpr double ZoomStep = 2.0;
+    std::vector<CommandEntry> entries = {
+        {L"Sketcher.ZoomAll", L"全部", L":/icons/zoom-all.svg", L"缩放到全部图元 (Ctrl+0)", L"视图",
+         ZoomMenu::Id, L"Ctrl+0", Plain, Do([&view] { view.ZoomAll(); }),
+         [&sketch] { return !sketch.GetEntities().empty(); }},
+        {L"Sketcher.Zoom.Window",
+         L"窗口",
+         L":/icons/zoom-window.svg",
+         L"缩放到两个角点之间",
+         L"",
+         ZoomMenu::Id,
+         L"",
+         Interactive,
+         Begin<ZoomWindowAction>(view),
+         {}},
+        {L"Sketcher.Zoom.In",
+         L"放大",
+         L":/icons/zoom-in.svg",
+         L"放大一倍",
+         L"",
+         ZoomMenu::Id,
+         L"",
+         Plain,
+         Do([&view] { view.Magnify(ZoomStep); }),
+         {}},
+        {L"Sketcher.Zoom.Out",
+         L"缩小",
+         L":/icons/zoom-out.svg",
+         L"缩小一半",
+         L"",
+         ZoomMenu::Id,
+         L"",
+         Plain,
+         Do([&view] { view.Magnify(1.0 / ZoomStep); }),
+         {}},
+    };
+    for (const int percent : {25, 50, 100, 200, 400, 1000})
+    {
+        const std::wstring number = std::to_wstring(percent);
+        entries.push_back({ZoomMenu::ScaleId + (L"." + number),
+                           number + L"%",
+                           L"",
+                           L"按 " + number + L"% 显示",
+                           L"",
+                           ZoomMenu::ScaleId,
+                           L"",
+                           Plain,
+                           Do([&view, percent] { view.SetPixelsPerUnit(percent / 100.0); }),
+                           {}});
+    }
+    return entries;
+}
+
+}
+
+std::vector<CommandEntry> MakeCommandTable(Workspace& workspace, SketchView& view)
+{
+    std::vector<CommandEntry> entries = MakeDrawingCommands(workspace);
+    for (CommandEntry& entry : MakeZoomCommands(workspace.sketch, view))
+        entries.push_back(std::move(entry));
+    return entries;
 }
 
 void RegisterCommands(const std::vector<CommandEntry>& entries)

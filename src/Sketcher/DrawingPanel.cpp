@@ -1,51 +1,28 @@
 #include "DrawingPanel.h"
 
-#include "Sketch.h"
+#include "PlaceControl.h"
+#include "Workspace.h"
 
 #include "Control/LabelDefinition.h"
 #include "Control/LineEditDefinition.h"
-#include "HostUi/ControlHost.h"
-#include "Journal/JournalManager.h"
-#include "Qtitan/RibbonGroup.h"
-#include "Validation/ValidatorBase.h"
-
-#include <QWidget>
+#include "Journal/JournalRecord.h"
 
 #include <utility>
 
 using namespace vesk;
 
-namespace
-{
-
-/// Hands a definition over invisible, places its widget and makes it visible.
-template <class Definition>
-Definition* Place(OwnerPtr<Definition> opDefinition, const QString& label,
-                  Qtitan::RibbonGroup& group, ControlHost& controls)
-{
-    Definition* pDefinition = opDefinition.Get();
-    pDefinition->SetVisible(false);
-    QWidget* pWidget = controls.Create(std::move(opDefinition));
-    if (pWidget == nullptr)
-        return nullptr;
-    group.addWidget(label, pWidget);
-    pDefinition->SetVisible(true);
-    return pDefinition;
-}
-
-}
-
-DrawingPanel::DrawingPanel(Sketch& sketch, Qtitan::RibbonGroup& group, ControlHost& controls)
-    : m_sketch(sketch), m_shownName(sketch.GetName())
+DrawingPanel::DrawingPanel(Workspace& workspace, Qtitan::RibbonGroup& group, ControlHost& controls)
+    : m_sketch(workspace.sketch), m_properties(workspace.properties),
+      m_shownName(workspace.sketch.GetName())
 {
     auto opName = MakeOwner<LineEditDefinition>(L"Sketcher.DrawingName");
     opName->SetText(m_shownName);
-    m_pName = Place(std::move(opName), QStringLiteral("图名"), group, controls);
-    m_pCount =
-        Place(MakeOwner<LabelDefinition>(L"Sketcher.EntityCount"), QString(), group, controls);
+    m_pName = PlaceControl(std::move(opName), QStringLiteral("图名"), group, controls);
+    m_pCount = PlaceControl(MakeOwner<LabelDefinition>(L"Sketcher.EntityCount"), QString(), group,
+                            controls);
     if (m_pName != nullptr)
         m_pName->GetLineEditEvent()->Add(this);
-    connect(&sketch, &Sketch::changed, this, &DrawingPanel::OnSketchChanged);
+    connect(&workspace.sketch, &Sketch::changed, this, &DrawingPanel::OnSketchChanged);
     OnSketchChanged();
 }
 
@@ -59,8 +36,7 @@ void DrawingPanel::On(LineEditEventArgs* pArgs)
 {
     if (pArgs->GetText() == m_sketch.GetName())
         return;
-    JournalManager::GetInstance().Add(PropertyRecord{L"drawing", L"name", pArgs->GetText()});
-    m_sketch.SetName(pArgs->GetText());
+    m_properties.Set(PropertyRecord{L"drawing", L"name", pArgs->GetText()});
 }
 
 void DrawingPanel::OnSketchChanged()

@@ -6,7 +6,9 @@
 
 #include <string>
 
+class PropertyEditor;
 class Sketch;
+struct Workspace;
 
 namespace Qtitan
 {
@@ -27,7 +29,7 @@ class DrawingPanel final : public QObject, public vesk::ILineEditEventHandler
 
 public:
     /// The arguments are not owned; the control host outlives the panel.
-    DrawingPanel(Sketch& sketch, Qtitan::RibbonGroup& group, vesk::ControlHost& controls);
+    DrawingPanel(Workspace& workspace, Qtitan::RibbonGroup& group, vesk::ControlHost& controls);
     ~DrawingPanel() override;
 
     void On(vesk::LineEditEventArgs* pArgs) override;
@@ -36,6 +38,7 @@ private:
     void OnSketchChanged();
 
     Sketch& m_sketch;
+    PropertyEditor& m_properties;
     vesk::LineEditDefinition* m_pName = nullptr;
     vesk::LabelDefinition* m_pCount = nullptr;
     std::wstring m_shownName;

@@ -1,30 +1,14 @@
 #include "EraseAction.h"
 
-#include "Sketch.h"
+#include "Picking.h"
+#include "Workspace.h"
 
 #include "Graphics/IGraphicsNode.h"
 #include "Journal/JournalManager.h"
-#include "View/UiViewUtility.h"
-
-#include <algorithm>
 
 using namespace vesk;
 
-namespace
-{
-
-constexpr int PickPixels = 10;
-
-double DistanceTo(const Entity& entity, const Vector3d& point)
-{
-    const Vector3d way = entity.end - entity.start;
-    const double along = (point - entity.start).dot(way) / way.squaredNorm();
-    return (entity.start + std::clamp(along, 0.0, 1.0) * way - point).norm();
-}
-
-}
-
-EraseAction::EraseAction(Sketch& sketch) : m_sketch(sketch) {}
+EraseAction::EraseAction(Workspace& workspace) : m_sketch(workspace.sketch) {}
 
 std::wstring EraseAction::GetViewText() const
 {
@@ -38,14 +22,14 @@ void EraseAction::OnBegin(IUiView* pView)
 
 void EraseAction::OnMouseMove(const Vector3d& world)
 {
-    m_hovered = Pick(world);
+    m_hovered = PickEntity(m_sketch, world, m_pView);
 }
 
 void EraseAction::OnClick(const Vector3d& world)
 {
-    if (const int picked = Pick(world))
+    if (const int picked = PickEntity(m_sketch, world, m_pView))
         ReplayPoint(world, picked);
-    m_hovered = Pick(world);
+    m_hovered = PickEntity(m_sketch, world, m_pView);
 }
 
 OwnerPtr<IGraphicsNodeGroup> EraseAction::CreateRubberBand() const
@@ -65,19 +49,4 @@ bool EraseAction::ReplayPoint(const Vector3d& world, const std::optional<int>& e
         return false;
     JournalManager::GetInstance().Add(PointRecord{world, entity});
     return true;
-}
-
-int EraseAction::Pick(const Vector3d& world) const
-{
-    double nearest = UiViewUtility::ComputeWorldWidthFromPixel(m_pView, PickPixels);
-    int picked = 0;
-    for (const Entity& entity : m_sketch.GetEntities())
-    {
-        const double distance = DistanceTo(entity, world);
-        if (distance > nearest)
-            continue;
-        nearest = distance;
-        picked = entity.id;
-    }
-    return picked;
 }

@@ -3,13 +3,14 @@
 #include "Command/IAction.h"
 
 class Sketch;
+struct Workspace;
 
 /// Erases each entity that is picked, until the user ends it.
 class EraseAction final : public vesk::IAction
 {
 public:
-    /// The sketch is not owned and outlives the action.
-    explicit EraseAction(Sketch& sketch);
+    /// The workspace is not owned and outlives the action.
+    explicit EraseAction(Workspace& workspace);
 
     std::wstring GetViewText() const override;
     void OnBegin(vesk::IUiView* pView) override;
@@ -19,9 +20,6 @@ public:
     bool ReplayPoint(const vesk::Vector3d& world, const std::optional<int>& entity) override;
 
 private:
-    /// The entity nearest to a point, within reach of the cursor; 0 when there is none.
-    int Pick(const vesk::Vector3d& world) const;
-
     Sketch& m_sketch;
     vesk::IUiView* m_pView = nullptr;
 

@@ -1,8 +1,9 @@
 #include "LineAction.h"
 
 #include "Polar.h"
-#include "Sketch.h"
+#include "Workspace.h"
 
+#include "Dimension/LengthUnit.h"
 #include "Dimension/LinearTemporaryDimensionContext.h"
 #include "Dimension/TemporaryDimensionMgr.h"
 #include "Geometry/Constants.h"
@@ -14,7 +15,9 @@
 
 using namespace vesk;
 
-LineAction::LineAction(Sketch& sketch) : m_sketch(sketch) {}
+LineAction::LineAction(Workspace& workspace)
+    : m_sketch(workspace.sketch), m_snapper(workspace.snapper)
+{}
 
 std::wstring LineAction::GetViewText() const
 {
@@ -29,12 +32,12 @@ void LineAction::OnBegin(IUiView* pView)
 
 void LineAction::OnMouseMove(const Vector3d& world)
 {
-    m_cursor = world;
+    m_cursor = m_snapper.Catch(world, m_pView);
 }
 
 void LineAction::OnClick(const Vector3d& world)
 {
-    m_cursor = world;
+    OnMouseMove(world);
     if (HasLocks() || !RestsOnStart())
         Finish(GetEnd());
 }
@@ -69,6 +72,7 @@ bool LineAction::OnEscape()
 void LineAction::OnEnd()
 {
     Unlock();
+    m_snapper.Release();
 }
 
 OwnerPtr<ITemporaryDimensionContext> LineAction::CreateDimensionContext() const
@@ -151,7 +155,8 @@ void LineAction::TakeValue(const ActionViewInput& input, InputState field)
 
     // A field that was only confirmed keeps its own value, not the rounded one that was shown.
     const double own = isLength ? GetLength() : GetAngle();
-    const double value = typed.isUnchanged ? own : input.value;
+    const double entered = isLength ? LengthUnit::GetCurrent().ToModel(input.value) : input.value;
+    const double value = typed.isUnchanged ? own : entered;
     (isLength ? m_lockedLength : m_lockedAngle) = value;
     TemporaryDimensionMgr::GetInstance()->SetLocked(field, true);
     JournalManager::GetInstance().Add(ValueRecord{field, typed.text, value});

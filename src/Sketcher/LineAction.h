@@ -7,6 +7,8 @@
 #include <vector>
 
 class Sketch;
+class Snapper;
+struct Workspace;
 
 /// Draws segments one after the other until the user ends it.
 ///
@@ -14,8 +16,8 @@ class Sketch;
 class LineAction final : public vesk::IAction
 {
 public:
-    /// The sketch is not owned and outlives the action.
-    explicit LineAction(Sketch& sketch);
+    /// The workspace is not owned and outlives the action.
+    explicit LineAction(Workspace& workspace);
 
     std::wstring GetViewText() const override;
     void OnBegin(vesk::IUiView* pView) override;
@@ -50,6 +52,7 @@ private:
     bool Finish(const vesk::Vector3d& point);
 
     Sketch& m_sketch;
+    Snapper& m_snapper;
     vesk::IUiView* m_pView = nullptr;
     std::optional<vesk::Vector3d> m_firstPoint;
     std::vector<Segment> m_segments;

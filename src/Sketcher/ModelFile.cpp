@@ -2,10 +2,13 @@
 
 #include "Sketch.h"
 
+#include "Foundation/Text.h"
+
 #include <nlohmann/json.hpp>
 
 #include <QSaveFile>
 
+#include <cstddef>
 #include <string>
 
 using Json = nlohmann::ordered_json;
@@ -25,7 +28,12 @@ bool WriteModelFile(const Sketch& sketch, const QString& path)
     Json entities = Json::array();
     for (const Entity& entity : sketch.GetEntities())
         entities.push_back(
-            {{"type", "line"}, {"start", ToJson(entity.start)}, {"end", ToJson(entity.end)}});
+            {{"type", "line"},
+             {"start", ToJson(entity.start)},
+             {"end", ToJson(entity.end)},
+             {"style", vesk::ToUtf8(LineStyles()[static_cast<std::size_t>(entity.pen.style)].name)},
+             {"colour",
+              vesk::ToUtf8(LineColours()[static_cast<std::size_t>(entity.pen.colour)].name)}});
     const std::string text = Json{{"entities", entities}}.dump() + "\n";
 
     QSaveFile file(path);

@@ -9,6 +9,7 @@
 #include "Foundation/Text.h"
 #include "Journal/JournalFormat.h"
 #include "Journal/JournalManager.h"
+#include "Qtitan/RibbonBar.h"
 
 #include <QApplication>
 #include <QDateTime>
@@ -42,16 +43,16 @@ void Complain(const std::string& text)
 
 }
 
-Session::Session(const Options& options) : m_options(options), m_window(m_sketch, m_input)
+Session::Session(const Options& options) : m_options(options), m_window(m_workspace, m_input)
 {
     m_host.GetViewManager().AddView(&m_window.GetView());
     m_application.SetMainWindow(&m_window);
-    const std::vector<CommandEntry> commands = MakeCommandTable(m_sketch, m_window.GetView());
+    const std::vector<CommandEntry> commands = MakeCommandTable(m_workspace, m_window.GetView());
     RegisterCommands(commands);
-    m_window.BuildRibbon(commands, m_controls);
+    m_window.BuildControls(commands, m_controls);
     if (!m_options.uiTree.isEmpty())
         m_pUiTree = std::make_unique<UiTreeWriter>(m_options.uiTree, m_input, [this] {
-            return static_cast<int>(m_sketch.GetEntities().size());
+            return static_cast<int>(m_workspace.sketch.GetEntities().size());
         });
 }
 
@@ -80,18 +81,24 @@ int Session::Run()
     return WriteResults() ? code : ExitUnusableFile;
 }
 
+bool Session::OnProgress(std::size_t done, std::size_t total)
+{
+    return m_pReading == nullptr || m_pReading->Advance(done, total);
+}
+
+bool Session::ReplaySelection(const SelectionRecord& record)
+{
+    return m_workspace.selection.Select(record.entities);
+}
+
 bool Session::ReplayProperty(const PropertyRecord& record)
 {
-    if (record.object != L"drawing" || record.property != L"name")
-        return false;
-    JournalManager::GetInstance().Add(record);
-    m_sketch.SetName(record.value);
-    return true;
+    return m_workspace.properties.Set(record);
 }
 
 bool Session::VerifyUndo(const UndoRecord& record)
 {
-    return m_sketch.GetLastUndone() == record.entity;
+    return m_workspace.sketch.GetLastUndone() == record.entity;
 }
 
 bool Session::OpenLog()
@@ -107,7 +114,7 @@ bool Session::OpenLog()
 /// Nothing drawn is ever lost: without a name the journal goes below the user's data folder.
 bool Session::OpenJournal()
 {
-    QString path = m_options.journal;
+    QString& path = m_options.journal;
     if (path.isEmpty() && m_options.task == Options::Task::Replay)
         return true;
     if (path.isEmpty())
@@ -135,8 +142,24 @@ int Session::Draw()
     m_window.showMaximized();
     m_window.GetView().Activate();
     if (!m_options.open.isEmpty())
-        QTimer::singleShot(0, &m_window, [this] { Repeat(); });
+        QTimer::singleShot(0, &m_window, [this] { Open(); });
     return QApplication::exec();
+}
+
+/// Repeats a journal in the window. Cancelled, it leaves the drawing and the new journal as they
+/// were before.
+void Session::Open()
+{
+    m_pReading = std::make_unique<ReadingMonitor>(*m_window.GetRibbon(), m_window.GetProgress());
+    Repeat();
+    const bool isCancelled = m_pReading->IsCancelled();
+    m_pReading.reset();
+    if (isCancelled)
+    {
+        m_workspace.sketch.Clear();
+        OpenJournal();
+    }
+    m_window.GetView().Activate();
 }
 
 int Session::Replay()
@@ -148,6 +171,8 @@ int Session::Replay()
 bool Session::Repeat()
 {
     const JournalReplayResult result = JournalReplayer::Replay(m_records, *this);
+    if (result.isStopped)
+        return true;
     for (const std::wstring& commandId : result.unfinishedCommands)
         Complain("not finished in the journal: " + ToUtf8(commandId));
     if (!result.failure.empty())
@@ -164,7 +189,7 @@ bool Session::WriteResults()
         isWritten = isWritten && isDone;
     };
     if (!m_options.model.isEmpty())
-        note(WriteModelFile(m_sketch, m_options.model), m_options.model);
+        note(WriteModelFile(m_workspace.sketch, m_options.model), m_options.model);
     if (!m_options.screenshot.isEmpty())
         note(m_window.grab().save(m_options.screenshot, "PNG"), m_options.screenshot);
     if (m_pUiTree != nullptr)

@@ -1,8 +1,9 @@
 #pragma once
 
 #include "Options.h"
-#include "Sketch.h"
+#include "ReadingMonitor.h"
 #include "SketcherWindow.h"
+#include "Workspace.h"
 
 #include "HostCore.h"
 #include "HostUi/ControlHost.h"
@@ -26,6 +27,8 @@ public:
     /// cannot be used, or 3 for a journal that cannot be repeated.
     int Run();
 
+    bool OnProgress(std::size_t done, std::size_t total) override;
+    bool ReplaySelection(const vesk::SelectionRecord& record) override;
     bool ReplayProperty(const vesk::PropertyRecord& record) override;
     bool VerifyUndo(const vesk::UndoRecord& record) override;
 
@@ -35,6 +38,7 @@ private:
     bool ReadJournal(const QString& path);
     int Draw();
     int Replay();
+    void Open();
     bool Repeat();
     bool WriteResults();
 
@@ -45,8 +49,9 @@ private:
     vesk::UiApplication m_application;
     vesk::ControlLibrary m_library;
     vesk::DimensionInputController m_input;
-    Sketch m_sketch;
+    Workspace m_workspace;
     SketcherWindow m_window;
     vesk::ControlHost m_controls;
     std::unique_ptr<vesk::UiTreeWriter> m_pUiTree;
+    std::unique_ptr<ReadingMonitor> m_pReading; ///< While a drawing is opened.
 };

@@ -6,11 +6,19 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <utility>
 
 using vesk::Constants;
 using vesk::Vector3d;
 
-/// A change of one entity.
+namespace
+{
+
+constexpr wchar_t NewName[] = L"未命名";
+
+}
+
+/// A change of entities; it is known by the id of the first.
 class Sketch::Step : public QUndoCommand
 {
 public:
@@ -20,6 +28,7 @@ public:
 
 protected:
     std::vector<Entity>& Entities() { return m_sketch.m_entities; }
+    Entity& Get(int id) { return *m_sketch.FindEntity(id); }
 
 private:
     Sketch& m_sketch;
@@ -53,16 +62,53 @@ private:
     std::ptrdiff_t m_place;
 };
 
-Sketch::Sketch() : m_name(L"未命名")
+class Sketch::PenStep final : public Step
+{
+public:
+    PenStep(Sketch& sketch, const std::vector<int>& ids, int Pen::*part, int value)
+        : Step(sketch, ids.front()), m_part(part), m_value(value)
+    {
+        for (const int id : ids)
+            m_before.emplace_back(id, Get(id).pen.*part);
+    }
+
+    void redo() override
+    {
+        for (const auto& [id, before] : m_before)
+            Get(id).pen.*m_part = m_value;
+    }
+
+    void undo() override
+    {
+        for (const auto& [id, before] : m_before)
+            Get(id).pen.*m_part = before;
+    }
+
+private:
+    int Pen::*m_part;
+    int m_value;
+    std::vector<std::pair<int, int>> m_before;
+};
+
+Sketch::Sketch() : m_name(NewName)
 {
     connect(&m_steps, &QUndoStack::indexChanged, this, &Sketch::changed);
 }
 
 const Entity* Sketch::Find(int id) const
 {
-    const auto found = std::find_if(m_entities.begin(), m_entities.end(),
-                                    [id](const Entity& entity) { return entity.id == id; });
-    return found != m_entities.end() ? &*found : nullptr;
+    // Ids grow in the order of drawing, and an undo puts an entity back in its place.
+    const auto found =
+        std::lower_bound(m_entities.begin(), m_entities.end(), id,
+                         [](const Entity& entity, int sought) { return entity.id < sought; });
+    return found != m_entities.end() && found->id == id ? &*found : nullptr;
+}
+
+Entity* Sketch::FindEntity(int id)
+{
+    const Entity* pEntity = Find(id);
+    return pEntity != nullptr ? &m_entities[static_cast<std::size_t>(pEntity - m_entities.data())]
+                              : nullptr;
 }
 
 int Sketch::AddLine(const Vector3d& start, const Vector3d& end)
@@ -70,7 +116,7 @@ int Sketch::AddLine(const Vector3d& start, const Vector3d& end)
     const double length = (end - start).norm();
     if (!(length >= Constants::MIN_MODEL_SIZE && length <= Constants::MAX_MODEL_SIZE))
         return 0;
-    m_steps.push(new AddStep(*this, Entity{++m_lastId, start, end}));
+    m_steps.push(new AddStep(*this, Entity{++m_lastId, start, end, m_currentPen}));
     return m_lastId;
 }
 
@@ -81,6 +127,26 @@ bool Sketch::Erase(int id)
         return false;
     m_steps.push(new EraseStep(*this, *pEntity, pEntity - m_entities.data()));
     return true;
+}
+
+bool Sketch::SetPen(const std::vector<int>& ids, int Pen::*part, int value)
+{
+    const bool isKnown =
+        std::all_of(ids.begin(), ids.end(), [this](int id) { return Find(id) != nullptr; });
+    const bool isChange = isKnown && std::any_of(ids.begin(), ids.end(), [&](int id) {
+                              return Find(id)->pen.*part != value;
+                          });
+    if (isChange)
+        m_steps.push(new PenStep(*this, ids, part, value));
+    return isChange;
+}
+
+void Sketch::SetCurrentPen(int Pen::*part, int value)
+{
+    if (m_currentPen.*part == value)
+        return;
+    m_currentPen.*part = value;
+    emit changed();
 }
 
 bool Sketch::CanUndo() const
@@ -102,5 +168,16 @@ void Sketch::SetName(const std::wstring& name)
     if (name == m_name)
         return;
     m_name = name;
+    emit changed();
+}
+
+void Sketch::Clear()
+{
+    m_entities.clear();
+    m_name = NewName;
+    m_currentPen = {};
+    m_lastId = 0;
+    m_lastUndone = 0;
+    m_steps.clear();
     emit changed();
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Pen.h"
+
 #include "Geometry/Vector3d.h"
 
 #include <QObject>
@@ -14,6 +16,7 @@ struct Entity
     int id = 0;
     vesk::Vector3d start = vesk::Vector3d::Zero();
     vesk::Vector3d end = vesk::Vector3d::Zero();
+    Pen pen;
 };
 
 /// The drawing: entities in the order in which they were drawn, in millimetres, and a name.
@@ -32,16 +35,25 @@ public:
     /// The entity with that id, null when there is none. Valid until the next change.
     const Entity* Find(int id) const;
 
-    /// Draws a line and returns its id; 0, and nothing is drawn, when it would be shorter than the
-    /// least or longer than the greatest size of the model.
+    /// Draws a line with the current pen and returns its id; 0, and nothing is drawn, when it would
+    /// be shorter than the least or longer than the greatest size of the model.
     int AddLine(const vesk::Vector3d& start, const vesk::Vector3d& end);
 
     /// False when there is no such entity.
     bool Erase(int id);
 
+    /// Gives entities another style or colour. False, and no step is made, when they are all drawn
+    /// so already or one of them does not exist.
+    bool SetPen(const std::vector<int>& ids, int Pen::*part, int value);
+
+    /// How the next entities are drawn. Setting it is not an undo step.
+    const Pen& GetCurrentPen() const { return m_currentPen; }
+    void SetCurrentPen(int Pen::*part, int value);
+
     bool CanUndo() const;
 
-    /// Takes the last change back. The id of the entity that came or went; 0 when there was none.
+    /// Takes the last change back. The id of the entity that came or went, or of the first that was
+    /// changed; 0 when there was none.
     int Undo();
 
     /// What the last Undo returned.
@@ -52,6 +64,9 @@ public:
     /// Not an undo step.
     void SetName(const std::wstring& name);
 
+    /// Makes a new drawing of it, as at first: nothing can be undone.
+    void Clear();
+
 signals:
     void changed();
 
@@ -59,9 +74,13 @@ private:
     class Step;
     class AddStep;
     class EraseStep;
+    class PenStep;
+
+    Entity* FindEntity(int id);
 
     std::vector<Entity> m_entities;
     std::wstring m_name;
+    Pen m_currentPen;
     QUndoStack m_steps;
     int m_lastId = 0;
     int m_lastUndone = 0;

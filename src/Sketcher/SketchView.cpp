@@ -1,28 +1,20 @@
 #include "SketchView.h"
 
-#include "Sketch.h"
+#include "Grid.h"
+#include "Picking.h"
+#include "SnapMarker.h"
+#include "Workspace.h"
 
 #include <QPainter>
 
+#include <algorithm>
 #include <cmath>
+#include <cstddef>
 
 using vesk::Vector3d;
 
 namespace
 {
-
-/// The least of 1, 2, 5, 10, 20 ... that is at least `pixels` wide.
-double GridStep(double worldPerPixel, double pixels)
-{
-    const double least = worldPerPixel * pixels;
-    const double power = std::pow(10.0, std::floor(std::log10(least)));
-    for (const double factor : {1.0, 2.0, 5.0})
-    {
-        if (factor * power >= least)
-            return factor * power;
-    }
-    return 10.0 * power;
-}
 
 QColor Mix(const QColor& a, const QColor& b, double share)
 {
@@ -31,23 +23,32 @@ QColor Mix(const QColor& a, const QColor& b, double share)
                             a.blueF() + (b.blueF() - a.blueF()) * share);
 }
 
+QPen MakePen(const Pen& pen, const QColor& textColour)
+{
+    const QColor& colour = LineColours()[static_cast<std::size_t>(pen.colour)].colour;
+    return {colour.isValid() ? colour : textColour, 1.4,
+            LineStyles()[static_cast<std::size_t>(pen.style)].style, Qt::RoundCap};
 }
 
-SketchView::SketchView(const Sketch& sketch, vesk::DimensionInputController& input,
+}
+
+SketchView::SketchView(Workspace& workspace, vesk::DimensionInputController& input,
                        QWidget* pParent)
-    : DrawingView(1, input, pParent), m_sketch(sketch)
+    : DrawingView(1, input, pParent), m_workspace(workspace)
 {
     setObjectName(QStringLiteral("SketchView"));
-    connect(&sketch, &Sketch::changed, this, qOverload<>(&QWidget::update));
+    connect(&workspace.sketch, &Sketch::changed, this, qOverload<>(&QWidget::update));
+    connect(&workspace.selection, &Selection::changed, this, qOverload<>(&QWidget::update));
 }
 
 void SketchView::ZoomAll()
 {
-    if (m_sketch.GetEntities().empty())
+    const std::vector<Entity>& entities = m_workspace.sketch.GetEntities();
+    if (entities.empty())
         return;
-    Vector3d low = m_sketch.GetEntities().front().start;
+    Vector3d low = entities.front().start;
     Vector3d high = low;
-    for (const Entity& entity : m_sketch.GetEntities())
+    for (const Entity& entity : entities)
     {
         low = low.cwiseMin(entity.start).cwiseMin(entity.end);
         high = high.cwiseMax(entity.start).cwiseMax(entity.end);
@@ -59,17 +60,45 @@ void SketchView::PaintModel(QPainter& painter)
 {
     PaintGrid(painter);
     PaintAxes(painter);
-    painter.setPen(QPen(palette().color(QPalette::Text), 1.4, Qt::SolidLine, Qt::RoundCap));
-    for (const Entity& entity : m_sketch.GetEntities())
+    for (const int id : m_workspace.selection.GetIds())
+        PaintSelected(painter, *m_workspace.sketch.Find(id));
+    const QColor textColour = palette().color(QPalette::Text);
+    for (const Entity& entity : m_workspace.sketch.GetEntities())
+    {
+        painter.setPen(MakePen(entity.pen, textColour));
         painter.drawLine(ToPixel(entity.start), ToPixel(entity.end));
+    }
+}
+
+void SketchView::PaintOverlay(QPainter& painter)
+{
+    if (const std::optional<Snapper::Caught>& caught = m_workspace.snapper.GetCaught())
+        PaintSnapMarker(painter, caught->kind, ToPixel(caught->point));
+}
+
+void SketchView::OnFreeClick(const Vector3d& world, Qt::KeyboardModifiers modifiers)
+{
+    const int picked = PickEntity(m_workspace.sketch, world, this);
+    const bool isAdding = modifiers.testFlag(Qt::ControlModifier);
+    std::vector<int> ids = isAdding ? m_workspace.selection.GetIds() : std::vector<int>();
+    const auto found = std::find(ids.begin(), ids.end(), picked);
+    if (found != ids.end())
+        ids.erase(found);
+    else if (picked != 0)
+        ids.push_back(picked);
+    m_workspace.selection.Select(ids);
+}
+
+void SketchView::OnFreeEscape()
+{
+    m_workspace.selection.Select({});
 }
 
 void SketchView::PaintGrid(QPainter& painter) const
 {
-    constexpr double LeastPixels = 8.0;
     const QColor paper = palette().color(QPalette::Base);
     const QColor ink = palette().color(QPalette::Text);
-    const double step = GridStep(GetCamera().GetWorldPerPixel(), LeastPixels);
+    const double step = GridStep(GetCamera().GetWorldPerPixel());
     PaintGridLines(painter, step, Mix(paper, ink, 0.06));
     PaintGridLines(painter, step * 10.0, Mix(paper, ink, 0.14));
 }
@@ -101,4 +130,21 @@ void SketchView::PaintAxes(QPainter& painter) const
     painter.drawLine(QPointF(0, origin.y()), QPointF(width(), origin.y()));
     painter.setPen(QPen(QColor(0x5f, 0xa8, 0x6a, 150), 1.0));
     painter.drawLine(QPointF(origin.x(), 0), QPointF(origin.x(), height()));
+}
+
+/// A band below the line, and a grip at each end.
+void SketchView::PaintSelected(QPainter& painter, const Entity& entity) const
+{
+    constexpr double BandWidth = 7.0;
+    constexpr double GripSize = 7.0;
+    const QPointF start = ToPixel(entity.start);
+    const QPointF end = ToPixel(entity.end);
+    QColor band = palette().color(QPalette::Highlight);
+    band.setAlpha(110);
+    painter.setPen(QPen(band, BandWidth, Qt::SolidLine, Qt::RoundCap));
+    painter.drawLine(start, end);
+    for (const QPointF& grip : {start, end})
+        painter.fillRect(
+            QRectF(grip.x() - GripSize / 2, grip.y() - GripSize / 2, GripSize, GripSize),
+            palette().color(QPalette::Highlight));
 }

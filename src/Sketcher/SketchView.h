@@ -2,27 +2,33 @@
 
 #include "HostUi/DrawingView.h"
 
-class Sketch;
+struct Entity;
+struct Workspace;
 
-/// Shows the drawing over a grid.
+/// Shows the drawing over a grid; with no action running a click selects, with Ctrl it adds to the
+/// selection or takes out of it, and Escape selects nothing.
 class SketchView final : public vesk::DrawingView
 {
     Q_OBJECT
 
 public:
-    /// Sketch and controller are not owned and outlive the view.
-    SketchView(const Sketch& sketch, vesk::DimensionInputController& input, QWidget* pParent);
+    /// Workspace and controller are not owned and outlive the view.
+    SketchView(Workspace& workspace, vesk::DimensionInputController& input, QWidget* pParent);
 
     /// Shows the whole drawing.
     void ZoomAll();
 
 protected:
     void PaintModel(QPainter& painter) override;
+    void PaintOverlay(QPainter& painter) override;
+    void OnFreeClick(const vesk::Vector3d& world, Qt::KeyboardModifiers modifiers) override;
+    void OnFreeEscape() override;
 
 private:
     void PaintGrid(QPainter& painter) const;
     void PaintGridLines(QPainter& painter, double step, const QColor& color) const;
     void PaintAxes(QPainter& painter) const;
+    void PaintSelected(QPainter& painter, const Entity& entity) const;
 
-    const Sketch& m_sketch;
+    Workspace& m_workspace;
 };

@@ -2,10 +2,16 @@
 
 #include "CommandTable.h"
 #include "DrawingPanel.h"
-#include "Sketch.h"
+#include "PenPanel.h"
 #include "SketchView.h"
+#include "SnapPanel.h"
+#include "UnitPanel.h"
+#include "Workspace.h"
+#include "ZoomMenu.h"
 
 #include "Control/CommandButtonDefinition.h"
+#include "Control/CommandButtonMenuDefinition.h"
+#include "Control/ProgressBarDefinition.h"
 #include "HostUi/ControlHost.h"
 #include "HostUi/QtText.h"
 #include "Qtitan/RibbonBar.h"
@@ -14,6 +20,7 @@
 
 #include <QIcon>
 #include <QShortcut>
+#include <QStatusBar>
 #include <QToolButton>
 
 #include <utility>
@@ -41,28 +48,45 @@ OwnerPtr<CommandButtonDefinition> MakeDefinition(const CommandEntry& entry)
 
 }
 
-SketcherWindow::SketcherWindow(Sketch& sketch, DimensionInputController& input)
-    : m_sketch(sketch), m_pView(new SketchView(sketch, input, this))
+SketcherWindow::SketcherWindow(Workspace& workspace, DimensionInputController& input)
+    : m_workspace(workspace), m_pView(new SketchView(workspace, input, this))
 {
     LoadIcons();
     setWindowIcon(QIcon(QStringLiteral(":/icons/sketcher.svg")));
     SetDrawingView(m_pView);
     resize(1200, 800);
-    connect(&sketch, &Sketch::changed, this, &SketcherWindow::OnSketchChanged);
+    connect(&workspace.sketch, &Sketch::changed, this, &SketcherWindow::OnSketchChanged);
     OnSketchChanged();
 }
 
 SketcherWindow::~SketcherWindow() = default;
 
-void SketcherWindow::BuildRibbon(const std::vector<CommandEntry>& commands, ControlHost& controls)
+void SketcherWindow::BuildControls(const std::vector<CommandEntry>& commands, ControlHost& controls)
 {
     Qtitan::RibbonPage* pPage = GetRibbon()->addPage(QStringLiteral("草图"));
+    BuildButtons(commands, *pPage, controls);
+    BuildPanels(*pPage, controls);
+    BuildProgress(controls);
+    controls.RefreshControls();
+}
+
+void SketcherWindow::ReleaseControls()
+{
+    m_pProgress = nullptr;
+    m_panels.clear();
+}
+
+void SketcherWindow::BuildButtons(const std::vector<CommandEntry>& commands,
+                                  Qtitan::RibbonPage& page, ControlHost& controls)
+{
     Qtitan::RibbonGroup* pGroup = nullptr;
     std::wstring groupTitle;
     for (const CommandEntry& entry : commands)
     {
+        if (entry.group.empty())
+            continue;
         if (pGroup == nullptr || entry.group != groupTitle)
-            pGroup = pPage->addGroup(ToQString(entry.group));
+            pGroup = page.addGroup(ToQString(entry.group));
         groupTitle = entry.group;
         auto* pButton = qobject_cast<QToolButton*>(controls.Create(MakeDefinition(entry)));
         if (pButton == nullptr)
@@ -72,17 +96,44 @@ void SketcherWindow::BuildRibbon(const std::vector<CommandEntry>& commands, Cont
         pShortcut->setContext(Qt::ApplicationShortcut);
         connect(pShortcut, &QShortcut::activated, pButton, &QToolButton::click);
     }
-    m_pPanel = std::make_unique<DrawingPanel>(m_sketch, *pPage->addGroup(QStringLiteral("图纸")),
-                                              controls);
-    controls.RefreshControls();
+
+    // The zoom commands come last.
+    OwnerPtr<CommandButtonMenuDefinition> opZoom = MakeZoomMenu(commands);
+    CommandButtonMenuDefinition* pZoom = opZoom.Get();
+    auto* pZoomButton = qobject_cast<QToolButton*>(
+        controls.Create(OwnerPtr<ICommandButtonMenuDefinition>(std::move(opZoom))));
+    if (pZoomButton == nullptr || pGroup == nullptr)
+        return;
+    pGroup->addButton(pZoomButton);
+    pZoom->SetVisible(true);
 }
 
-void SketcherWindow::ReleaseControls()
+void SketcherWindow::BuildPanels(Qtitan::RibbonPage& page, ControlHost& controls)
 {
-    m_pPanel.reset();
+    m_panels.push_back(
+        std::make_unique<PenPanel>(m_workspace, *page.addGroup(QStringLiteral("线条")), controls));
+    Qtitan::RibbonGroup* pDrafting = page.addGroup(QStringLiteral("绘图设置"));
+    m_panels.push_back(std::make_unique<SnapPanel>(m_workspace.snapper, *pDrafting, controls));
+    m_panels.push_back(std::make_unique<UnitPanel>(*m_pView, *pDrafting, controls));
+    m_panels.push_back(std::make_unique<DrawingPanel>(
+        m_workspace, *page.addGroup(QStringLiteral("图纸")), controls));
+}
+
+void SketcherWindow::BuildProgress(ControlHost& controls)
+{
+    auto opProgress = MakeOwner<ProgressBarDefinition>(L"Sketcher.Progress");
+    ProgressBarDefinition* pProgress = opProgress.Get();
+    pProgress->SetTooltip(L"打开图纸的进度；Esc 取消");
+    pProgress->SetVisible(false);
+    QWidget* pWidget = controls.Create(OwnerPtr<IProgressBarDefinition>(std::move(opProgress)));
+    if (pWidget == nullptr)
+        return;
+    statusBar()->insertPermanentWidget(1, pWidget);
+    pProgress->SetVisible(true);
+    m_pProgress = pProgress;
 }
 
 void SketcherWindow::OnSketchChanged()
 {
-    setWindowTitle(QStringLiteral("%1 - Sketcher").arg(ToQString(m_sketch.GetName())));
+    setWindowTitle(QStringLiteral("%1 - Sketcher").arg(ToQString(m_workspace.sketch.GetName())));
 }

@@ -6,15 +6,21 @@
 #include <string>
 #include <vector>
 
-class DrawingPanel;
-class Sketch;
 class SketchView;
 struct CommandEntry;
+struct Workspace;
+
+namespace Qtitan
+{
+class RibbonGroup;
+class RibbonPage;
+}
 
 namespace vesk
 {
 class ControlHost;
 class DimensionInputController;
+class ProgressBarDefinition;
 }
 
 /// The program's window: ribbon page "草图", the drawing, the status bar.
@@ -24,21 +30,29 @@ class SketcherWindow final : public vesk::MainWindow
 
 public:
     /// The arguments are not owned and outlive the window.
-    SketcherWindow(Sketch& sketch, vesk::DimensionInputController& input);
+    SketcherWindow(Workspace& workspace, vesk::DimensionInputController& input);
     ~SketcherWindow() override;
 
     SketchView& GetView() { return *m_pView; }
 
-    /// Fills the ribbon with a button for each command, and the drawing's panel.
-    void BuildRibbon(const std::vector<CommandEntry>& commands, vesk::ControlHost& controls);
+    /// Makes all controls: a button or a menu entry for each command, and the panels.
+    void BuildControls(const std::vector<CommandEntry>& commands, vesk::ControlHost& controls);
+
+    /// How far the reading of a drawing has come; null when there is no such control. Not owned.
+    vesk::ProgressBarDefinition* GetProgress() const { return m_pProgress; }
 
     /// Drops what refers to the controls, before they go.
     void ReleaseControls();
 
 private:
+    void BuildButtons(const std::vector<CommandEntry>& commands, Qtitan::RibbonPage& page,
+                      vesk::ControlHost& controls);
+    void BuildPanels(Qtitan::RibbonPage& page, vesk::ControlHost& controls);
+    void BuildProgress(vesk::ControlHost& controls);
     void OnSketchChanged();
 
-    Sketch& m_sketch;
+    Workspace& m_workspace;
     SketchView* m_pView;
-    std::unique_ptr<DrawingPanel> m_pPanel;
+    vesk::ProgressBarDefinition* m_pProgress = nullptr;
+    std::vector<std::unique_ptr<QObject>> m_panels;
 };

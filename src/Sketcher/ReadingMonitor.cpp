@@ -1,0 +1,74 @@
+#include "ReadingMonitor.h"
+
+#include "Control/ProgressBarDefinition.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QWidget>
+
+#include <algorithm>
+
+namespace
+{
+
+bool IsInput(QEvent::Type type)
+{
+    switch (type)
+    {
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::Shortcut:
+    case QEvent::ShortcutOverride:
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+    case QEvent::Wheel:
+    case QEvent::ContextMenu:
+        return true;
+    default:
+        return false;
+    }
+}
+
+}
+
+ReadingMonitor::ReadingMonitor(QWidget& controls, vesk::ProgressBarDefinition* pProgress)
+    : m_controls(controls), m_pProgress(pProgress)
+{
+    m_controls.setEnabled(false);
+    qApp->installEventFilter(this);
+    m_sincePause.start();
+}
+
+ReadingMonitor::~ReadingMonitor()
+{
+    m_controls.setEnabled(true);
+    if (m_pProgress != nullptr)
+        m_pProgress->SetValue(0);
+}
+
+bool ReadingMonitor::Advance(std::size_t done, std::size_t total)
+{
+    constexpr qint64 LeastWorkMs = 30;
+    constexpr qint64 MostWorkMs = 100;
+    // The window gets as long as the reading, but never keeps waiting.
+    const qint64 workMs = std::clamp(m_pauseMs, LeastWorkMs, MostWorkMs);
+    if (m_isCancelled || m_sincePause.elapsed() < workMs)
+        return !m_isCancelled;
+    if (m_pProgress != nullptr)
+        m_pProgress->SetValue(static_cast<int>(100 * done / total));
+    m_sincePause.start();
+    QApplication::processEvents();
+    m_pauseMs = m_sincePause.restart();
+    return !m_isCancelled;
+}
+
+bool ReadingMonitor::eventFilter(QObject* pWatched, QEvent* pEvent)
+{
+    const QEvent::Type type = pEvent->type();
+    const bool isEscape =
+        type == QEvent::KeyPress && static_cast<QKeyEvent*>(pEvent)->key() == Qt::Key_Escape;
+    m_isCancelled = m_isCancelled || isEscape || type == QEvent::Close;
+    return IsInput(type) || QObject::eventFilter(pWatched, pEvent);
+}

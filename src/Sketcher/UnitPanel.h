@@ -1,0 +1,35 @@
+#pragma once
+
+#include "Control/IControlDefinitionChangeEvent.h"
+
+#include <QObject>
+
+namespace Qtitan
+{
+class RibbonGroup;
+}
+
+namespace vesk
+{
+class ControlHost;
+class IUiView;
+class RadioButtonGroupDefinition;
+}
+
+/// The unit in which lengths are shown and typed, in the ribbon.
+class UnitPanel final : public QObject, public vesk::IControlDefinitionChangeEventHandler
+{
+    Q_OBJECT
+
+public:
+    /// Shows millimetres. The arguments are not owned; the control host and the view, whose
+    /// dimensions follow the unit, outlive the panel.
+    UnitPanel(vesk::IUiView& view, Qtitan::RibbonGroup& group, vesk::ControlHost& controls);
+    ~UnitPanel() override;
+
+    void On(vesk::IControlDefinitionChangeEventArgs* pArgs) override;
+
+private:
+    vesk::IUiView& m_view;
+    vesk::RadioButtonGroupDefinition* m_pDefinition;
+};

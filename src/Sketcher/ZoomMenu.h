@@ -1,0 +1,16 @@
+#pragma once
+
+#include "Foundation/OwnerPtr.h"
+
+#include <vector>
+
+struct CommandEntry;
+
+namespace vesk
+{
+class CommandButtonMenuDefinition;
+}
+
+/// The button whose menu holds the zoom commands, the fixed scales in a sub-menu.
+vesk::OwnerPtr<vesk::CommandButtonMenuDefinition>
+MakeZoomMenu(const std::vector<CommandEntry>& commands);
