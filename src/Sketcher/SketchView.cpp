@@ -1,6 +1,7 @@
 #include "SketchView.h"
 
 #include "Grid.h"
+#include "LinePainter.h"
 #include "Picking.h"
 #include "SnapMarker.h"
 #include "Workspace.h"
@@ -62,11 +63,13 @@ void SketchView::PaintModel(QPainter& painter)
     PaintAxes(painter);
     for (const int id : m_workspace.selection.GetIds())
         PaintSelected(painter, *m_workspace.sketch.Find(id));
+    constexpr int Margin = 4;
+    const QRectF visible = QRectF(rect()).adjusted(-Margin, -Margin, Margin, Margin);
     const QColor textColour = palette().color(QPalette::Text);
     for (const Entity& entity : m_workspace.sketch.GetEntities())
     {
-        painter.setPen(MakePen(entity.pen, textColour));
-        painter.drawLine(ToPixel(entity.start), ToPixel(entity.end));
+        PaintLine(painter, MakePen(entity.pen, textColour),
+                  QLineF(ToPixel(entity.start), ToPixel(entity.end)), visible);
     }
 }
 
