@@ -17,12 +17,16 @@
 #include <QAbstractButton>
 #include <QButtonGroup>
 #include <QHBoxLayout>
+#include <QMenu>
+#include <QPalette>
 #include <QThread>
+#include <QToolButton>
 #include <QWidget>
 
 #include <algorithm>
 #include <chrono>
 #include <cstddef>
+#include <initializer_list>
 #include <memory>
 #include <utility>
 
@@ -32,6 +36,20 @@ namespace
 {
 
 constexpr std::chrono::milliseconds RetryInterval{20};
+
+/// Gives the menus of a button dark texts: their background is white, whatever the palette says.
+void WriteMenusInDark(QToolButton& button)
+{
+    QPalette palette = button.palette();
+    for (const QPalette::ColorRole role :
+         {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
+    {
+        palette.setColor(role, Qt::black);
+        palette.setColor(QPalette::Disabled, role, Qt::gray);
+    }
+    for (QMenu* pMenu : button.findChildren<QMenu*>())
+        pMenu->setPalette(palette);
+}
 
 /// Holds the buttons of a group.
 class GroupPanel final : public QWidget
@@ -116,8 +134,14 @@ QWidget* ControlHost::Create(OwnerPtr<IProgressBarDefinition> opDefinition)
 QWidget* ControlHost::Create(OwnerPtr<ICommandButtonMenuDefinition> opDefinition)
 {
     VeskIControlFactory* pFactory = VeskIControlFactory::Get();
-    return pFactory != nullptr ? Adopt(pFactory->CreateQtCommandButtonMenu(std::move(opDefinition)))
-                               : nullptr;
+    if (pFactory == nullptr)
+        return nullptr;
+    auto* pButton = qobject_cast<QToolButton*>(
+        Adopt(pFactory->CreateQtCommandButtonMenu(std::move(opDefinition))));
+    if (pButton != nullptr && pButton->menu() != nullptr)
+        QObject::connect(pButton->menu(), &QMenu::aboutToShow, pButton,
+                         [pButton] { WriteMenusInDark(*pButton); });
+    return pButton;
 }
 
 QWidget* ControlHost::Create(OwnerPtr<ICheckBoxGroupDefinition> opDefinition)
