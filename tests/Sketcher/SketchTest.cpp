@@ -33,6 +33,85 @@ private slots:
         QCOMPARE(sketch.Find(second)->end.y(), 1.0);
     }
 
+    void everyEntityIsFoundWhateverCameAndWent()
+    {
+        Sketch sketch;
+        std::vector<int> ids;
+        for (int i = 1; i <= 5; ++i)
+            ids.push_back(sketch.AddLine({0, 0, 0}, {1.0 * i, 0, 0}));
+        sketch.Erase(ids[2]);
+        sketch.Erase(ids[0]);
+        sketch.Undo();
+
+        QVERIFY(sketch.Find(ids[2]) == nullptr);
+        QVERIFY(sketch.Find(0) == nullptr);
+        QVERIFY(sketch.Find(ids[4] + 1) == nullptr);
+        QCOMPARE(sketch.Find(ids[0])->end.x(), 1.0);
+        QCOMPARE(sketch.Find(ids[3])->end.x(), 4.0);
+    }
+
+    void linesAreDrawnWithTheCurrentPen()
+    {
+        Sketch sketch;
+        const int before = sketch.AddLine({0, 0, 0}, {1, 0, 0});
+
+        sketch.SetCurrentPen(&Pen::style, 2);
+        sketch.SetCurrentPen(&Pen::colour, 3);
+
+        const int after = sketch.AddLine({0, 0, 0}, {1, 0, 0});
+        QCOMPARE(sketch.Find(before)->pen.style, 0);
+        QCOMPARE(sketch.Find(after)->pen.style, 2);
+        QCOMPARE(sketch.Find(after)->pen.colour, 3);
+    }
+
+    void anotherPenForSeveralIsOneStep()
+    {
+        Sketch sketch;
+        sketch.SetCurrentPen(&Pen::style, 1);
+        const int first = sketch.AddLine({0, 0, 0}, {1, 0, 0});
+        sketch.SetCurrentPen(&Pen::style, 2);
+        const int second = sketch.AddLine({0, 0, 0}, {1, 0, 0});
+
+        QVERIFY(sketch.SetPen({second, first}, &Pen::style, 3));
+        QCOMPARE(sketch.Find(first)->pen.style, 3);
+        QCOMPARE(sketch.Find(second)->pen.style, 3);
+
+        QCOMPARE(sketch.Undo(), second);
+        QCOMPARE(sketch.Find(first)->pen.style, 1);
+        QCOMPARE(sketch.Find(second)->pen.style, 2);
+    }
+
+    void thePenThatTheyHaveIsNoStep()
+    {
+        Sketch sketch;
+        const int id = sketch.AddLine({0, 0, 0}, {1, 0, 0});
+        QSignalSpy changes(&sketch, &Sketch::changed);
+
+        QVERIFY(!sketch.SetPen({id}, &Pen::style, 0));
+        QVERIFY(!sketch.SetPen({}, &Pen::style, 1));
+        QVERIFY(!sketch.SetPen({id, 99}, &Pen::style, 1));
+
+        QCOMPARE(sketch.Find(id)->pen.style, 0);
+        QCOMPARE(changes.count(), 0);
+    }
+
+    void aClearedSketchIsNew()
+    {
+        Sketch sketch;
+        const int first = sketch.AddLine({0, 0, 0}, {1, 0, 0});
+        const std::wstring name = Sketch().GetName();
+        sketch.SetName(L"plan");
+        sketch.SetCurrentPen(&Pen::colour, 2);
+
+        sketch.Clear();
+
+        QVERIFY(sketch.GetEntities().empty());
+        QVERIFY(!sketch.CanUndo());
+        QCOMPARE(sketch.GetName(), name);
+        QCOMPARE(sketch.GetCurrentPen().colour, 0);
+        QCOMPARE(sketch.AddLine({0, 0, 0}, {1, 0, 0}), first);
+    }
+
     void impossibleLinesAreNotDrawn_data()
     {
         QTest::addColumn<double>("length");

@@ -1,0 +1,59 @@
+#include "Picking.h"
+
+#include "Sketch.h"
+#include "Support/TestView.h"
+
+#include <QTest>
+
+class PickingTest final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void theDistanceIsFromTheNearestPoint_data()
+    {
+        QTest::addColumn<double>("x");
+        QTest::addColumn<double>("y");
+        QTest::addColumn<double>("distance");
+
+        QTest::newRow("beside") << 5.0 << 3.0 << 3.0;
+        QTest::newRow("before the start") << -3.0 << 4.0 << 5.0;
+        QTest::newRow("behind the end") << 13.0 << -4.0 << 5.0;
+        QTest::newRow("on it") << 7.0 << 0.0 << 0.0;
+    }
+
+    void theDistanceIsFromTheNearestPoint()
+    {
+        QFETCH(double, x);
+        QFETCH(double, y);
+        QFETCH(double, distance);
+        Entity line;
+        line.end = {10, 0, 0};
+
+        QCOMPARE(DistanceTo(line, {x, y, 0}), distance);
+    }
+
+    void theNearestWithinReachIsPicked()
+    {
+        Sketch sketch;
+        vesk::test::TestView view(1, nullptr);
+        const int near = sketch.AddLine({0, 4, 0}, {10, 4, 0});
+        sketch.AddLine({0, 9, 0}, {10, 9, 0});
+
+        QCOMPARE(PickEntity(sketch, {5, 0, 0}, &view), near);
+        QCOMPARE(PickEntity(sketch, {5, -6.1, 0}, &view), 0);
+    }
+
+    void ofEqualsTheLastIsPicked()
+    {
+        Sketch sketch;
+        vesk::test::TestView view(1, nullptr);
+        sketch.AddLine({0, 0, 0}, {10, 0, 0});
+        const int last = sketch.AddLine({0, 0, 0}, {10, 0, 0});
+
+        QCOMPARE(PickEntity(sketch, {5, 1, 0}, &view), last);
+    }
+};
+
+QTEST_MAIN(PickingTest)
+#include "PickingTest.moc"

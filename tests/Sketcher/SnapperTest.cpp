@@ -1,0 +1,204 @@
+#include "Snapper.h"
+
+#include "Grid.h"
+#include "Sketch.h"
+#include "Support/TestView.h"
+
+#include <QTest>
+
+Q_DECLARE_METATYPE(vesk::Vector3d)
+
+using vesk::Vector3d;
+
+namespace
+{
+
+/// A view of 400 x 300 at one unit a pixel, the grid at 10, and two crossing lines: from (0, 0) to
+/// (100, 0) and from (80, -30) to (80, 70).
+struct Fixture
+{
+    Fixture()
+    {
+        view.GetCamera().SetSize(400, 300);
+        sketch.AddLine({0, 0, 0}, {100, 0, 0});
+        sketch.AddLine({80, -30, 0}, {80, 70, 0});
+        snapper.SetOn(Snapper::End, false);
+    }
+
+    Vector3d Catch(double x, double y) { return snapper.Catch({x, y, 0}, &view); }
+
+    Sketch sketch;
+    vesk::test::TestView view{1, nullptr};
+    Snapper snapper{sketch};
+};
+
+}
+
+class SnapperTest final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void onlyEndsAreOnAtFirst()
+    {
+        const Sketch sketch;
+        const Snapper snapper(sketch);
+
+        QVERIFY(snapper.IsOn(Snapper::End));
+        QVERIFY(!snapper.IsOn(Snapper::Middle));
+        QVERIFY(!snapper.IsOn(Snapper::Centre));
+        QVERIFY(!snapper.IsOn(Snapper::Intersection));
+        QVERIFY(!snapper.IsOn(Snapper::Grid));
+    }
+
+    void eachSnapCatchesItsPoint_data()
+    {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<Vector3d>("cursor");
+        QTest::addColumn<Vector3d>("caught");
+
+        QTest::newRow("start") << int(Snapper::End) << Vector3d(-3, 4, 0) << Vector3d(0, 0, 0);
+        QTest::newRow("end") << int(Snapper::End) << Vector3d(100, -9.9, 0) << Vector3d(100, 0, 0);
+        QTest::newRow("middle") << int(Snapper::Middle) << Vector3d(52, 3, 0) << Vector3d(50, 0, 0);
+        QTest::newRow("intersection")
+            << int(Snapper::Intersection) << Vector3d(84, 5, 0) << Vector3d(80, 0, 0);
+        QTest::newRow("grid") << int(Snapper::Grid) << Vector3d(-46, 58, 0) << Vector3d(-50, 60, 0);
+    }
+
+    void eachSnapCatchesItsPoint()
+    {
+        QFETCH(int, kind);
+        QFETCH(Vector3d, cursor);
+        QFETCH(Vector3d, caught);
+        Fixture f;
+        QVERIFY(f.Catch(cursor.x(), cursor.y()) == cursor);
+
+        f.snapper.SetOn(static_cast<Snapper::Kind>(kind), true);
+
+        QVERIFY(f.Catch(cursor.x(), cursor.y()) == caught);
+        QCOMPARE(int(f.snapper.GetCaught()->kind), kind);
+        QVERIFY(f.snapper.GetCaught()->point == caught);
+    }
+
+    void whatIsFurtherThanTenPixelsIsNotCaught()
+    {
+        Fixture f;
+        f.snapper.SetOn(Snapper::End, true);
+
+        QVERIFY(f.Catch(0, 10.1) == Vector3d(0, 10.1, 0));
+        QVERIFY(!f.snapper.GetCaught().has_value());
+    }
+
+    void tenPixelsAreTenAtEveryScale()
+    {
+        Fixture f;
+        f.snapper.SetOn(Snapper::End, true);
+        f.view.GetCamera().SetWorldPerPixel(0.1);
+
+        QVERIFY(f.Catch(0, 0.9) == Vector3d(0, 0, 0));
+        QVERIFY(f.Catch(0, 1.1) == Vector3d(0, 1.1, 0));
+    }
+
+    void anEndComesBeforeAllOthers()
+    {
+        Fixture f;
+        f.sketch.AddLine({80, 6, 0}, {200, 200, 0});
+        for (int kind = 0; kind < Snapper::KindCount; ++kind)
+            f.snapper.SetOn(static_cast<Snapper::Kind>(kind), true);
+
+        // The intersection at (80, 0) is nearer.
+        QVERIFY(f.Catch(80, 1) == Vector3d(80, 6, 0));
+    }
+
+    void theNearestOfSeveralEndsWins()
+    {
+        Fixture f;
+        f.sketch.AddLine({4, 0, 0}, {4, 100, 0});
+        f.snapper.SetOn(Snapper::End, true);
+
+        QVERIFY(f.Catch(3, 0) == Vector3d(4, 0, 0));
+        QVERIFY(f.Catch(1, 0) == Vector3d(0, 0, 0));
+    }
+
+    void betweenTheOthersTheNearestWins()
+    {
+        Fixture f;
+        f.snapper.SetOn(Snapper::Middle, true);
+        f.snapper.SetOn(Snapper::Intersection, true);
+        f.sketch.AddLine({45, -50, 0}, {45, 60, 0});
+
+        QVERIFY(f.Catch(46, 0) == Vector3d(45, 0, 0));
+        QVERIFY(f.Catch(49, 0) == Vector3d(50, 0, 0));
+    }
+
+    void theGridComesLast()
+    {
+        Fixture f;
+        f.snapper.SetOn(Snapper::Middle, true);
+        f.snapper.SetOn(Snapper::Grid, true);
+
+        // The grid point (60, 0) is nearer than the middle at (50, 0).
+        QVERIFY(f.Catch(56, 0) == Vector3d(50, 0, 0));
+    }
+
+    void segmentsThatOnlyWouldMeetHaveNoIntersection()
+    {
+        Fixture f;
+        f.sketch.AddLine({30, 5, 0}, {30, 50, 0});
+        f.snapper.SetOn(Snapper::Intersection, true);
+
+        QVERIFY(f.Catch(30, 2) == Vector3d(30, 2, 0));
+    }
+
+    void parallelSegmentsHaveNoIntersection()
+    {
+        Fixture f;
+        f.sketch.AddLine({20, 0, 0}, {60, 0, 0});
+        f.snapper.SetOn(Snapper::Intersection, true);
+
+        QVERIFY(f.Catch(40, 1) == Vector3d(40, 1, 0));
+    }
+
+    void whatWasCaughtIsForgotten()
+    {
+        Fixture f;
+        f.snapper.SetOn(Snapper::End, true);
+        f.Catch(0, 1);
+
+        f.snapper.Release();
+
+        QVERIFY(!f.snapper.GetCaught().has_value());
+    }
+
+    void withoutAViewNothingIsCaught()
+    {
+        Fixture f;
+        f.snapper.SetOn(Snapper::End, true);
+
+        QVERIFY(f.snapper.Catch({0, 1, 0}, nullptr) == Vector3d(0, 1, 0));
+    }
+
+    void theGridHasRoundStepsOfEightPixelsAtLeast_data()
+    {
+        QTest::addColumn<double>("worldPerPixel");
+        QTest::addColumn<double>("step");
+
+        QTest::newRow("one to one") << 1.0 << 10.0;
+        QTest::newRow("just ten") << 1.25 << 10.0;
+        QTest::newRow("twenty") << 1.26 << 20.0;
+        QTest::newRow("fifty") << 3.0 << 50.0;
+        QTest::newRow("hundred") << 7.0 << 100.0;
+        QTest::newRow("near") << 0.001 << 0.01;
+    }
+
+    void theGridHasRoundStepsOfEightPixelsAtLeast()
+    {
+        QFETCH(double, worldPerPixel);
+        QFETCH(double, step);
+
+        QCOMPARE(GridStep(worldPerPixel), step);
+    }
+};
+
+QTEST_MAIN(SnapperTest)
+#include "SnapperTest.moc"
