@@ -2,6 +2,8 @@
 
 #include "Control/IControlDefinitionChangeEvent.h"
 
+#include <string>
+
 namespace vesk::test
 {
 
@@ -9,17 +11,21 @@ namespace vesk::test
 class ChangeArgs final : public IControlDefinitionChangeEventArgs
 {
 public:
-    explicit ChangeArgs(int type = ControlDefinitionChangeEventType::PropertyChanged) : m_type(type)
+    explicit ChangeArgs(int type = ControlDefinitionChangeEventType::PropertyChanged, int index = 0,
+                        const IControlDefinition* pItem = nullptr)
+        : m_type(type), m_index(index), m_pItem(pItem)
     {}
 
     int GetType() const override { return m_type; }
-    int GetIndex() const override { return 0; }
+    int GetIndex() const override { return m_index; }
     std::wstring GetItemCaption() const override { return L"item"; }
-    const IControlDefinition* GetItemDefinition() const override { return nullptr; }
+    const IControlDefinition* GetItemDefinition() const override { return m_pItem; }
     bool IsChangeByUser() const override { return false; }
 
 private:
     int m_type;
+    int m_index;
+    const IControlDefinition* m_pItem;
 };
 
 }

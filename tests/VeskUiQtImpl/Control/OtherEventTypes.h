@@ -2,21 +2,29 @@
 
 #include <QtTest>
 
+#include <initializer_list>
+
 namespace vesk::test
 {
+
+/// A row for each of the types of change.
+inline void AddEventTypes(std::initializer_list<int> types)
+{
+    QTest::addColumn<int>("type");
+    for (const int type : types)
+        QTest::addRow("%d", type) << type;
+}
 
 /// A row for each type of change that is no change of a property.
 inline void AddOtherEventTypes()
 {
-    QTest::addColumn<int>("type");
-    QTest::newRow("add") << 0;
-    QTest::newRow("insert") << 1;
-    QTest::newRow("delete") << 2;
-    QTest::newRow("clear") << 3;
-    QTest::newRow("4") << 4;
-    QTest::newRow("5") << 5;
-    QTest::newRow("7") << 7;
-    QTest::newRow("-1") << -1;
+    AddEventTypes({-1, 0, 1, 2, 3, 4, 5, 7, 8});
+}
+
+/// A row for each type of change that is neither one of items nor one of a property.
+inline void AddUnknownEventTypes()
+{
+    AddEventTypes({-1, 4, 5, 7, 8});
 }
 
 }

@@ -1,9 +1,10 @@
 #include "Control/QtButton.h"
 
+#include "Control/ChangeNotes.h"
 #include "Control/CommandButtonDefinition.h"
 #include "Control/ControlDefinitionChangeByUser.h"
+#include "Control/EchoModes.h"
 #include "ProcessCommandUtil.h"
-#include "Support/ChangeByUserFilter.h"
 #include "Support/HostFixture.h"
 
 #include <QAction>
@@ -19,12 +20,8 @@ struct ClickFixture
 {
     explicit ClickFixture(bool isEchoing)
     {
-        OwnerPtr<CommandButtonDefinition> opDefinition;
-        if (isEchoing)
-            opDefinition = MakeOwner<CommandButtonDefinition>(L"Button.Id", L"Test.Command");
-        else
-            opDefinition =
-                MakeOwner<Silent<CommandButtonDefinition>>(L"Button.Id", L"Test.Command");
+        auto opDefinition =
+            MakeDefinition<CommandButtonDefinition>(isEchoing, L"Button.Id", L"Test.Command");
         pDefinition = opDefinition.Get();
         opButton = MakeOwner<QtButton>(std::move(opDefinition), nullptr);
         host.AddCommand(L"Test.Command", [this](const CommandParameters& parameters) {
@@ -46,24 +43,6 @@ CommandParameters Clicked(bool isChecked)
     CommandParameters parameters;
     parameters.Add(L"Clicked", CommandParameterValue(isChecked));
     return parameters;
-}
-
-/// Notes of each change whether it was the user's.
-struct ChangeNotes final : IControlDefinitionChangeEventHandler
-{
-    void On(IControlDefinitionChangeEventArgs* pArgs) override
-    {
-        isByUser.push_back(pArgs->IsChangeByUser());
-    }
-
-    std::vector<bool> isByUser;
-};
-
-void AddEchoModes()
-{
-    QTest::addColumn<bool>("isEchoing");
-    QTest::newRow("echoing definition") << true;
-    QTest::newRow("silent definition") << false;
 }
 
 class QtButtonClickTest : public QObject

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "Control/EchoModes.h"
 #include "Control/LineEditDefinitions.h"
 #include "Control/QtLineEdit.h"
-#include "Support/ChangeByUserFilter.h"
 #include "Support/HostFixture.h"
 
 #include <QtTest>
@@ -15,11 +15,7 @@ struct UserFixture
 {
     explicit UserFixture(const std::wstring& text = L"", bool isEchoing = true)
     {
-        OwnerPtr<NotingLineEditDefinition> opDefinition;
-        if (isEchoing)
-            opDefinition = MakeOwner<NotingLineEditDefinition>(L"Edit.Id");
-        else
-            opDefinition = MakeOwner<Silent<NotingLineEditDefinition>>(L"Edit.Id");
+        auto opDefinition = MakeDefinition<NotingLineEditDefinition>(isEchoing, L"Edit.Id");
         pDefinition = opDefinition.Get();
         pDefinition->SetText(text);
         pDefinition->writes.clear();
@@ -32,12 +28,5 @@ struct UserFixture
     NotingLineEditDefinition* pDefinition;
     OwnerPtr<QtLineEdit> opEdit;
 };
-
-inline void AddEchoModes()
-{
-    QTest::addColumn<bool>("isEchoing");
-    QTest::newRow("echoing definition") << true;
-    QTest::newRow("silent definition") << false;
-}
 
 }

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "Control/ComboBoxDefinition.h"
+#include "Control/ControlDefinitionChangeByUser.h"
+
+#include <string>
+#include <vector>
+
+namespace vesk::test
+{
+
+/// A current index that was written, and in whose name.
+struct IndexWrite
+{
+    int index;
+    bool isByUser;
+
+    bool operator==(const IndexWrite& other) const
+    {
+        return index == other.index && isByUser == other.isByUser;
+    }
+};
+
+/// A combo-box definition of the host that notes who writes its index.
+struct NotingComboBoxDefinition : ComboBoxDefinition
+{
+    using ComboBoxDefinition::ComboBoxDefinition;
+
+    void SetCurrentIndex(int index) override
+    {
+        writes.push_back({index, ControlDefinitionChangeByUser::IsChangeByUser(GetId())});
+        ComboBoxDefinition::SetCurrentIndex(index);
+    }
+
+    std::vector<IndexWrite> writes;
+};
+
+/// A combo-box definition that holds whatever it is given: its index does not follow its items.
+struct LooseComboBoxDefinition final : ControlDefinition<IComboBoxDefinition>
+{
+    LooseComboBoxDefinition() : ControlDefinition(L"Box.Id") {}
+
+    std::vector<std::wstring> GetItems() const override { return items; }
+    int GetCurrentIndex() const override { return currentIndex; }
+    void SetCurrentIndex(int index) override
+    {
+        writes.push_back({index, ControlDefinitionChangeByUser::IsChangeByUser(GetId())});
+        currentIndex = index;
+    }
+
+    void Raise(int type, int index = -1, const std::wstring& caption = {})
+    {
+        GetEvent().RaiseItemsChanged(type, index, caption, nullptr);
+    }
+
+    std::vector<std::wstring> items;
+    int currentIndex = -1;
+    std::vector<IndexWrite> writes;
+};
+
+}

@@ -1,0 +1,307 @@
+#include "Control/QtProgressBar.h"
+#include "Control/ChangeArgs.h"
+#include "Control/OtherEventTypes.h"
+#include "Control/ProgressBarDefinition.h"
+#include "Support/HostFixture.h"
+
+#include <QtTest>
+
+namespace vesk::test
+{
+
+/// A bar that the host has placed.
+struct ProgressBarFixture
+{
+    ProgressBarFixture()
+    {
+        auto opDefinition = MakeOwner<ProgressBarDefinition>(L"Bar.Id");
+        pDefinition = opDefinition.Get();
+        pDefinition->SetTooltip(L"tip");
+        pDefinition->SetValue(42);
+        pDefinition->SetTextVisible(false);
+        pDefinition->SetWidth(123);
+        opBar = MakeOwner<QtProgressBar>(std::move(opDefinition), &notItsParent);
+    }
+
+    void Show()
+    {
+        opBar->setParent(&parent);
+        parent.show();
+        opBar->show();
+    }
+
+    HostFixture host;
+    QWidget notItsParent;
+    QWidget parent;
+    ProgressBarDefinition* pDefinition;
+    OwnerPtr<QtProgressBar> opBar;
+};
+
+struct BareProgressBarFixture
+{
+    HostFixture host;
+    OwnerPtr<QtProgressBar> opBar = MakeOwner<QtProgressBar>(nullptr, nullptr);
+};
+
+class QtProgressBarTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void showsValueTextAndWidthUnderTheIdOfItsDefinition();
+    void isEighteenPixelsHigh();
+    void hasItsOwnStyleSheetToTheLetter();
+    void hasNoParent();
+    void answersItsDefinition();
+    void hasTheMetaObjectOfAPlainBar();
+    void isBuiltNeitherShownNorHiddenNorDisabled();
+    void followsValueTextAndWidth();
+    void followsVisibilityAndEnabledState();
+    void writesStateWithoutComparing();
+    void keepsItsToolTipWhenTheDefinitionChanges();
+    void keepsItsHeightWhenTheDefinitionChanges();
+    void valueBeyondTheRangeIsQtsToIgnore_data();
+    void valueBeyondTheRangeIsQtsToIgnore();
+    void ignoresOtherEvents_data() { AddOtherEventTypes(); }
+    void ignoresOtherEvents();
+    void reportsMissingArguments();
+    void statusUpdateAppliesVisibilityAndEnabledStateOnly();
+    void withoutDefinitionItIsBareAndReportsIt();
+    void withoutDefinitionItNeverChanges();
+};
+
+void QtProgressBarTest::showsValueTextAndWidthUnderTheIdOfItsDefinition()
+{
+    ProgressBarFixture f;
+
+    QCOMPARE(f.opBar->value(), 42);
+    QVERIFY(!f.opBar->isTextVisible());
+    QCOMPARE(f.opBar->minimumWidth(), 123);
+    QCOMPARE(f.opBar->maximumWidth(), 123);
+    QCOMPARE(f.opBar->toolTip(), QString("tip"));
+    QCOMPARE(f.opBar->objectName(), QString("Bar.Id"));
+    QCOMPARE(f.opBar->property("IsDefinition"), QVariant(true));
+    QCOMPARE(f.opBar->minimum(), 0);
+    QCOMPARE(f.opBar->maximum(), 100);
+}
+
+void QtProgressBarTest::isEighteenPixelsHigh()
+{
+    ProgressBarFixture f;
+
+    QCOMPARE(f.opBar->minimumHeight(), 18);
+    QCOMPARE(f.opBar->maximumHeight(), 18);
+}
+
+void QtProgressBarTest::hasItsOwnStyleSheetToTheLetter()
+{
+    ProgressBarFixture f;
+
+    QCOMPARE(f.opBar->styleSheet(),
+             QString("QProgressBar \n{\nborder: 1px solid #adcdf2;   \ntext-align: center;\n}\n"
+                     "QProgressBar::chunk \n{\nbackground-color: #6babf5;   \n"
+                     "margin - top: 2px;\nmargin - bottom: 2px;\n}\n"));
+}
+
+void QtProgressBarTest::hasNoParent()
+{
+    ProgressBarFixture f;
+
+    QVERIFY(f.opBar->parent() == nullptr);
+    QVERIFY(f.notItsParent.children().isEmpty());
+}
+
+void QtProgressBarTest::answersItsDefinition()
+{
+    ProgressBarFixture f;
+
+    QCOMPARE(f.opBar->GetControlDefinition(), static_cast<IControlDefinition*>(f.pDefinition));
+}
+
+void QtProgressBarTest::hasTheMetaObjectOfAPlainBar()
+{
+    ProgressBarFixture f;
+
+    QCOMPARE(f.opBar->metaObject(), &QProgressBar::staticMetaObject);
+}
+
+void QtProgressBarTest::isBuiltNeitherShownNorHiddenNorDisabled()
+{
+    HostFixture host;
+    auto opDefinition = MakeOwner<ProgressBarDefinition>(L"id");
+    opDefinition->SetVisible(false);
+    opDefinition->SetEnabled(false);
+
+    const QtProgressBar bar(std::move(opDefinition), nullptr);
+
+    QVERIFY(!bar.testAttribute(Qt::WA_WState_ExplicitShowHide));
+    QVERIFY(bar.isEnabled());
+}
+
+void QtProgressBarTest::followsValueTextAndWidth()
+{
+    ProgressBarFixture f;
+    f.Show();
+
+    f.pDefinition->SetValue(7);
+    QCOMPARE(f.opBar->value(), 7);
+    f.pDefinition->SetTextVisible(true);
+    QVERIFY(f.opBar->isTextVisible());
+    f.pDefinition->SetWidth(222);
+    QCOMPARE(f.opBar->minimumWidth(), 222);
+    QCOMPARE(f.opBar->maximumWidth(), 222);
+}
+
+void QtProgressBarTest::followsVisibilityAndEnabledState()
+{
+    ProgressBarFixture f;
+    f.Show();
+
+    f.pDefinition->SetVisible(false);
+    f.pDefinition->SetEnabled(false);
+    QVERIFY(f.opBar->isHidden());
+    QVERIFY(!f.opBar->isEnabled());
+
+    f.pDefinition->SetVisible(true);
+    f.pDefinition->SetEnabled(true);
+    QVERIFY(f.opBar->isVisible());
+    QVERIFY(f.opBar->isEnabled());
+}
+
+void QtProgressBarTest::writesStateWithoutComparing()
+{
+    ProgressBarFixture f;
+    f.Show();
+    f.parent.hide();
+    f.parent.setEnabled(false);
+
+    f.pDefinition->SetVisible(false);
+    f.pDefinition->SetEnabled(false);
+
+    QVERIFY(f.opBar->isHidden());
+    QVERIFY(f.opBar->testAttribute(Qt::WA_ForceDisabled));
+}
+
+void QtProgressBarTest::keepsItsToolTipWhenTheDefinitionChanges()
+{
+    ProgressBarFixture f;
+    f.Show();
+
+    f.pDefinition->SetTooltip(L"another tip");
+
+    QCOMPARE(f.opBar->toolTip(), QString("tip"));
+}
+
+void QtProgressBarTest::keepsItsHeightWhenTheDefinitionChanges()
+{
+    ProgressBarFixture f;
+    f.Show();
+
+    f.pDefinition->SetWidth(500);
+
+    QCOMPARE(f.opBar->minimumHeight(), 18);
+    QCOMPARE(f.opBar->maximumHeight(), 18);
+}
+
+void QtProgressBarTest::valueBeyondTheRangeIsQtsToIgnore_data()
+{
+    QTest::addColumn<int>("value");
+    QTest::newRow("above") << 101;
+    QTest::newRow("below") << -1;
+}
+
+void QtProgressBarTest::valueBeyondTheRangeIsQtsToIgnore()
+{
+    QFETCH(int, value);
+    ProgressBarFixture f;
+    f.Show();
+
+    f.pDefinition->SetValue(value);
+
+    QCOMPARE(f.opBar->value(), 42);
+    QCOMPARE(f.opBar->minimum(), 0);
+    QCOMPARE(f.opBar->maximum(), 100);
+}
+
+void QtProgressBarTest::ignoresOtherEvents()
+{
+    QFETCH(int, type);
+    ProgressBarFixture f;
+    f.opBar->setValue(3);
+    f.opBar->setTextVisible(true);
+    f.opBar->setFixedWidth(5);
+    f.opBar->setEnabled(false);
+    ChangeArgs args(type);
+
+    f.opBar->On(&args);
+
+    QCOMPARE(f.opBar->value(), 3);
+    QVERIFY(f.opBar->isTextVisible());
+    QCOMPARE(f.opBar->minimumWidth(), 5);
+    QVERIFY(!f.opBar->isEnabled());
+    QVERIFY(!f.opBar->testAttribute(Qt::WA_WState_ExplicitShowHide));
+}
+
+void QtProgressBarTest::reportsMissingArguments()
+{
+    ProgressBarFixture f;
+    f.opBar->setValue(3);
+
+    f.opBar->On(nullptr);
+
+    EXPECT_WARNING(f.host.warnings, L"pArgs为空", "vesk::QtProgressBar::On");
+    QCOMPARE(f.opBar->value(), 3);
+}
+
+void QtProgressBarTest::statusUpdateAppliesVisibilityAndEnabledStateOnly()
+{
+    HostFixture host;
+    QWidget parent;
+    auto opDefinition = MakeOwner<ProgressBarDefinition>(L"id");
+    opDefinition->SetVisible(false);
+    opDefinition->SetEnabled(false);
+    QtProgressBar bar(std::move(opDefinition), nullptr);
+    bar.setParent(&parent);
+    bar.setValue(3);
+
+    bar.UpdateStatus();
+
+    QVERIFY(bar.isHidden());
+    QVERIFY(bar.testAttribute(Qt::WA_WState_ExplicitShowHide));
+    QVERIFY(!bar.isEnabled());
+    QCOMPARE(bar.value(), 3);
+}
+
+void QtProgressBarTest::withoutDefinitionItIsBareAndReportsIt()
+{
+    BareProgressBarFixture f;
+
+    EXPECT_WARNING(f.host.warnings, L"pControlDefinition是空指针",
+                   "vesk::QtProgressBar::QtProgressBar");
+    QVERIFY(f.opBar->GetControlDefinition() == nullptr);
+    QVERIFY(!f.opBar->property("IsDefinition").isValid());
+    QCOMPARE(f.opBar->styleSheet(), QString());
+}
+
+void QtProgressBarTest::withoutDefinitionItNeverChanges()
+{
+    BareProgressBarFixture f;
+    EXPECT_WARNING(f.host.warnings, L"pControlDefinition是空指针",
+                   "vesk::QtProgressBar::QtProgressBar");
+    ChangeArgs args;
+
+    f.opBar->On(nullptr);
+    EXPECT_WARNING(f.host.warnings, L"pArgs为空", "vesk::QtProgressBar::On");
+    f.opBar->On(&args);
+    f.opBar->UpdateStatus();
+    EXPECT_WARNING(f.host.warnings, L"m_pControlDefinition为空",
+                   "vesk::QtProgressBar::UpdateStatus");
+
+    QCOMPARE(f.opBar->value(), -1);
+    QVERIFY(!f.opBar->testAttribute(Qt::WA_WState_ExplicitShowHide));
+}
+
+}
+
+QTEST_MAIN(vesk::test::QtProgressBarTest)
+#include "QtProgressBarTest.moc"
