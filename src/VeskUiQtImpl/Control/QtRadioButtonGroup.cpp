@@ -121,7 +121,8 @@ QRadioButton* QtRadioButtonGroup::AddRadioButton(const IRadioButtonDefinition* p
     if (!Check(pRadioButton != nullptr, VESK_SITE(Function, L"pRadioButton为空")))
         return nullptr;
 
-    if (pDefinition->GetId() == m_pControlDefinition->GetCurrentRadioButtonId())
+    if (m_pControlDefinition != nullptr &&
+        pDefinition->GetId() == m_pControlDefinition->GetCurrentRadioButtonId())
         pRadioButton->setChecked(true);
     ButtonGroupItems(*this, m_pParent, m_radioButtons).Append(pRadioButton);
     return pRadioButton;

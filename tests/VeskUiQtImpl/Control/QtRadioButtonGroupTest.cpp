@@ -1,0 +1,297 @@
+#include "Control/QtRadioButtonGroup.h"
+
+#include "Control/ButtonGroupDefinitions.h"
+#include "Control/ChangeNotes.h"
+#include "Control/EchoModes.h"
+#include "Support/HostFixture.h"
+
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalSpy>
+#include <QVBoxLayout>
+#include <QtTest>
+
+namespace vesk::test
+{
+
+using Writes = std::vector<CurrentIdWrite>;
+
+/// A shown group with the buttons a, b and c, of which b is current, in the layout of its parent.
+struct RadioButtonFixture
+{
+    explicit RadioButtonFixture(bool isEchoing = true, const std::wstring& currentId = L"b")
+    {
+        auto opDefinition =
+            MakeDefinition<NotingRadioButtonGroupDefinition>(isEchoing, L"Group.Id");
+        pDefinition = opDefinition.Get();
+        for (const wchar_t* pId : {L"a", L"b", L"c"})
+            pDefinition->AddRadioButton(MakeOwner<RadioButtonDefinition>(pId, pId));
+        pDefinition->SetCurrentRadioButtonId(currentId);
+        pDefinition->writes.clear();
+        pDefinition->RadioButtonGroupDefinition::GetControlDefinitionChangeEvent()->Add(&notes);
+        opGroup = MakeOwner<QtRadioButtonGroup>(std::move(opDefinition), &parent);
+        for (QRadioButton* pButton : opGroup->GetAllControls())
+            pLayout->addWidget(pButton);
+        parent.show();
+    }
+
+    QRadioButton& GetButton(std::size_t index) const
+    {
+        return *opGroup->GetAllControls().at(index);
+    }
+
+    void Click(std::size_t index) const
+    {
+        QTest::mouseClick(&GetButton(index), Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
+    }
+
+    QStringList GetCheckedNames() const
+    {
+        QStringList names;
+        for (const QRadioButton* pButton : opGroup->GetAllControls())
+        {
+            if (pButton->isChecked())
+                names += pButton->objectName();
+        }
+        return names;
+    }
+
+    HostFixture host;
+    QWidget parent;
+    QVBoxLayout* pLayout = new QVBoxLayout(&parent);
+    ChangeNotes notes;
+    NotingRadioButtonGroupDefinition* pDefinition;
+    OwnerPtr<QtRadioButtonGroup> opGroup;
+};
+
+class QtRadioButtonGroupTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void checksTheCurrentButton();
+    void isExclusive();
+    void idThatNamesNoButtonChecksNone_data();
+    void idThatNamesNoButtonChecksNone();
+    void followsTheCurrentId();
+    void idThatNamesNoButtonLeavesTheCheckedOne();
+    void clickIsWrittenAsTheUsers_data() { AddEchoModes(); }
+    void clickIsWrittenAsTheUsers();
+    void keyIsWrittenAsTheUsers();
+    void clickOnTheCheckedButtonIsWrittenAgain();
+    void echoOfAClickTouchesNoButton();
+    void theUsersMarksEndWithTheWriting();
+    void changeByHandIsNotWritten();
+    void addedButtonIsCheckedIfItIsCurrent();
+    void insertedButtonIsNotCheckedUntilTheNextChange();
+    void insertionKeepsTheCheckedButton();
+    void deletedButtonsWriteNothing();
+    void otherButtonsAreReported();
+    void missingItemAtTheStartIsReported();
+    void aThousandChangesOfTheHostAreNoneOfTheUser();
+};
+
+void QtRadioButtonGroupTest::checksTheCurrentButton()
+{
+    RadioButtonFixture f;
+
+    QCOMPARE(f.GetCheckedNames(), QStringList("b"));
+    QCOMPARE(f.opGroup->checkedButton(), &f.GetButton(1));
+}
+
+void QtRadioButtonGroupTest::isExclusive()
+{
+    RadioButtonFixture f;
+
+    f.Click(0);
+
+    QVERIFY(f.opGroup->exclusive());
+    QCOMPARE(f.GetCheckedNames(), QStringList("a"));
+}
+
+void QtRadioButtonGroupTest::idThatNamesNoButtonChecksNone_data()
+{
+    QTest::addColumn<QString>("id");
+    QTest::newRow("empty") << "";
+    QTest::newRow("unknown") << "d";
+    QTest::newRow("in capitals") << "B";
+    QTest::newRow("beginning alike") << "bb";
+}
+
+void QtRadioButtonGroupTest::idThatNamesNoButtonChecksNone()
+{
+    QFETCH(QString, id);
+
+    RadioButtonFixture f(true, id.toStdWString());
+
+    QCOMPARE(f.GetCheckedNames(), QStringList());
+}
+
+void QtRadioButtonGroupTest::followsTheCurrentId()
+{
+    RadioButtonFixture f;
+
+    f.pDefinition->SetCurrentRadioButtonId(L"c");
+
+    QCOMPARE(f.GetCheckedNames(), QStringList("c"));
+}
+
+void QtRadioButtonGroupTest::idThatNamesNoButtonLeavesTheCheckedOne()
+{
+    RadioButtonFixture f;
+
+    f.pDefinition->SetCurrentRadioButtonId(L"none");
+
+    QCOMPARE(f.GetCheckedNames(), QStringList("b"));
+}
+
+void QtRadioButtonGroupTest::clickIsWrittenAsTheUsers()
+{
+    QFETCH(bool, isEchoing);
+    RadioButtonFixture f(isEchoing);
+
+    f.Click(2);
+
+    QVERIFY((f.pDefinition->writes == Writes{{L"c", true, true}}));
+    QCOMPARE(f.notes.isByUser, std::vector<bool>{true});
+    QCOMPARE(f.GetCheckedNames(), QStringList("c"));
+}
+
+void QtRadioButtonGroupTest::keyIsWrittenAsTheUsers()
+{
+    RadioButtonFixture f;
+
+    QTest::keyClick(&f.GetButton(0), Qt::Key_Space);
+
+    QVERIFY((f.pDefinition->writes == Writes{{L"a", true, true}}));
+    QCOMPARE(f.notes.isByUser, std::vector<bool>{true});
+}
+
+void QtRadioButtonGroupTest::clickOnTheCheckedButtonIsWrittenAgain()
+{
+    RadioButtonFixture f;
+
+    f.Click(1);
+
+    QVERIFY((f.pDefinition->writes == Writes{{L"b", true, true}}));
+    QVERIFY(f.notes.isByUser.empty());
+}
+
+void QtRadioButtonGroupTest::echoOfAClickTouchesNoButton()
+{
+    RadioButtonFixture f(true);
+    QSignalSpy clicked(&f.GetButton(0), &QRadioButton::toggled);
+    QSignalSpy current(&f.GetButton(1), &QRadioButton::toggled);
+
+    f.Click(0);
+
+    QCOMPARE(clicked.count(), 1);
+    QCOMPARE(current.count(), 1);
+}
+
+void QtRadioButtonGroupTest::theUsersMarksEndWithTheWriting()
+{
+    RadioButtonFixture f;
+
+    f.Click(0);
+
+    QVERIFY(!ControlDefinitionChangeByUser::IsChangeByUser(L"Group.Id"));
+    QVERIFY(!RadioButtonGroupStateChangeFlag::m_stateChangeByUser);
+}
+
+void QtRadioButtonGroupTest::changeByHandIsNotWritten()
+{
+    RadioButtonFixture f;
+
+    f.GetButton(0).setChecked(true);
+
+    QVERIFY(f.pDefinition->writes.empty());
+}
+
+void QtRadioButtonGroupTest::addedButtonIsCheckedIfItIsCurrent()
+{
+    RadioButtonFixture f(true, L"d");
+
+    f.pDefinition->AddRadioButton(MakeOwner<RadioButtonDefinition>(L"e", L"e"));
+    QCOMPARE(f.GetCheckedNames(), QStringList());
+    f.pDefinition->AddRadioButton(MakeOwner<RadioButtonDefinition>(L"d", L"d"));
+    QCOMPARE(f.GetCheckedNames(), QStringList("d"));
+}
+
+void QtRadioButtonGroupTest::insertedButtonIsNotCheckedUntilTheNextChange()
+{
+    RadioButtonFixture f(true, L"x");
+    f.pDefinition->InsertRadioButton(1, MakeOwner<RadioButtonDefinition>(L"x", L"x"));
+    QCOMPARE(f.GetCheckedNames(), QStringList());
+
+    f.opGroup->UpdateStatus();
+    QCOMPARE(f.GetCheckedNames(), QStringList());
+    f.pDefinition->Find(L"a")->SetTooltip(L"another");
+    QCOMPARE(f.GetCheckedNames(), QStringList("x"));
+}
+
+void QtRadioButtonGroupTest::insertionKeepsTheCheckedButton()
+{
+    RadioButtonFixture f;
+
+    f.pDefinition->InsertRadioButton(0, MakeOwner<RadioButtonDefinition>(L"x", L"x"));
+
+    QCOMPARE(f.GetCheckedNames(), QStringList("b"));
+    QCOMPARE(f.opGroup->checkedButton(), &f.GetButton(2));
+    QVERIFY(f.pDefinition->writes.empty());
+}
+
+void QtRadioButtonGroupTest::deletedButtonsWriteNothing()
+{
+    RadioButtonFixture f;
+    QRadioButton& deleted = f.GetButton(0);
+    f.pDefinition->DeleteRadioButton(0);
+
+    deleted.click();
+
+    QVERIFY(f.pDefinition->writes.empty());
+}
+
+void QtRadioButtonGroupTest::otherButtonsAreReported()
+{
+    RadioButtonFixture f;
+    QPushButton foreign;
+    f.opGroup->addButton(&foreign);
+
+    foreign.click();
+
+    EXPECT_WARNING(f.host.warnings, L"pCheckBox为空", "vesk::QtRadioButtonGroup::OnButtonClicked");
+    QVERIFY(f.pDefinition->writes.empty());
+    QVERIFY(!RadioButtonGroupStateChangeFlag::m_stateChangeByUser);
+}
+
+void QtRadioButtonGroupTest::missingItemAtTheStartIsReported()
+{
+    HostFixture host;
+    QWidget parent;
+    const RadioButtonDefinition item(L"a", L"a");
+    auto opDefinition = MakeOwner<LooseRadioButtonGroupDefinition>();
+    opDefinition->items = {nullptr, &item};
+
+    const QtRadioButtonGroup group(std::move(opDefinition), &parent);
+
+    EXPECT_WARNING(host.warnings, L"pDefinition为空", "vesk::QtRadioButtonGroup::AddRadioButton");
+    QCOMPARE(group.GetAllControls().size(), std::size_t(1));
+}
+
+void QtRadioButtonGroupTest::aThousandChangesOfTheHostAreNoneOfTheUser()
+{
+    RadioButtonFixture f;
+
+    for (int i = 1; i <= 1000; ++i)
+        f.pDefinition->SetCurrentRadioButtonId(i % 2 == 0 ? L"b" : L"c");
+
+    QCOMPARE(f.notes.isByUser.size(), std::size_t(1000));
+    QCOMPARE(f.notes.CountByUser(), 0);
+    QCOMPARE(f.GetCheckedNames(), QStringList("b"));
+}
+
+}
+
+QTEST_MAIN(vesk::test::QtRadioButtonGroupTest)
+#include "QtRadioButtonGroupTest.moc"
