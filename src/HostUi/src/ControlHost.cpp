@@ -13,6 +13,7 @@
 #include "Control/IProgressBarDefinition.h"
 #include "Control/IRadioButtonGroupDefinition.h"
 #include "Control/VeskIControlFactory.h"
+#include "WheelGuard.h"
 
 #include <QAbstractButton>
 #include <QButtonGroup>
@@ -205,6 +206,7 @@ QWidget* ControlHost::Adopt(OwnerPtr<IControl> opControl)
     auto* pWidget = dynamic_cast<QWidget*>(opControl.Get());
     if (pWidget == nullptr)
         return nullptr;
+    WheelGuard::Protect(*pWidget);
     m_controls.push_back({std::move(opControl), pWidget});
     return pWidget;
 }

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QObject>
+
+class QComboBox;
+
+namespace vesk
+{
+
+/// Keeps the wheel from changing a combo box that does not have the focus: whoever scrolls a panel
+/// with the pointer over the box means the panel, so the event goes on to the parent. The wheel
+/// does not give the box the focus either. With the focus it works as usual.
+class WheelGuard final : public QObject
+{
+public:
+    /// Guards the widget if it is a combo box, for as long as it lives.
+    static void Protect(QWidget& widget);
+
+    bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
+
+private:
+    explicit WheelGuard(QComboBox& box);
+};
+
+}
