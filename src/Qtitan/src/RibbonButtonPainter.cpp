@@ -2,6 +2,8 @@
 
 #include "RibbonColors.h"
 
+#include <QCursor>
+#include <QMenu>
 #include <QPainter>
 #include <QStyleOptionToolButton>
 #include <QToolButton>
@@ -53,28 +55,83 @@ QStyleOptionToolButton optionOf(const QToolButton& button)
     return option;
 }
 
-void paintState(QPainter& painter, const QToolButton& button, const RibbonColors& colors)
+/// The part that opens the menu; empty where the whole button does, or nothing.
+QRect menuPart(const QToolButton& button, const QStyleOptionToolButton& option)
 {
-    const bool isHovered = button.isEnabled() && button.underMouse();
-    QColor fill = Qt::transparent;
-    QColor edge = Qt::transparent;
-    if (button.isDown() || (isHovered && button.isChecked()))
-        fill = colors.pressed;
-    else if (button.isChecked())
-        fill = colors.checked;
-    else if (isHovered)
-        fill = colors.hover;
-    if (button.isDown() || button.isChecked() || button.hasFocus())
-        edge = colors.checkedEdge;
-    else if (isHovered)
-        edge = colors.checked;
+    if (!(option.features & QStyleOptionToolButton::MenuButtonPopup))
+        return QRect();
+    return button.style()->subControlRect(QStyle::CC_ToolButton, &option, QStyle::SC_ToolButtonMenu,
+                                          &button);
+}
 
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
+bool isMenuOpen(const QToolButton& button)
+{
+    return button.menu() != nullptr && button.menu()->isVisible();
+}
+
+bool isHovered(const QToolButton& button)
+{
+    return button.isEnabled() && button.underMouse();
+}
+
+QColor fillOf(const QToolButton& button, const RibbonColors& colors)
+{
+    if (button.isDown() || (isHovered(button) && button.isChecked()))
+        return colors.pressed;
+    if (button.isChecked())
+        return colors.checked;
+    return isHovered(button) ? colors.hover : QColor(Qt::transparent);
+}
+
+/// One of the two parts of a split button: the one under the pointer stands out from the other.
+QColor fillOfPart(const QToolButton& button, const RibbonColors& colors, const QRect& part,
+                  bool isPressed)
+{
+    if (isPressed)
+        return colors.pressed;
+    const bool isPointedAt =
+        isHovered(button) && part.contains(button.mapFromGlobal(QCursor::pos()));
+    if (button.isChecked())
+        return isPointedAt ? colors.pressed : colors.checked;
+    if (isPointedAt)
+        return colors.checked;
+    return isHovered(button) || isMenuOpen(button) ? colors.hover : QColor(Qt::transparent);
+}
+
+QColor edgeOf(const QToolButton& button, const RibbonColors& colors)
+{
+    if (button.isDown() || button.isChecked() || button.hasFocus() || isMenuOpen(button))
+        return colors.checkedEdge;
+    return isHovered(button) ? colors.checked : QColor(Qt::transparent);
+}
+
+void paintFrame(QPainter& painter, const QToolButton& button, const QColor& edge,
+                const QColor& fill)
+{
     painter.setPen(edge);
     painter.setBrush(fill);
     const QRectF frame = QRectF(button.rect()).adjusted(0.5, 0.5, -0.5, -0.5);
     painter.drawRoundedRect(frame, CornerRadius, CornerRadius);
+}
+
+void paintState(QPainter& painter, const QToolButton& button, const RibbonColors& colors,
+                const QRect& arrowPart)
+{
+    const QColor edge = edgeOf(button, colors);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (arrowPart.isEmpty())
+    {
+        paintFrame(painter, button, edge, fillOf(button, colors));
+        painter.restore();
+        return;
+    }
+    const QRect mainPart = button.rect().adjusted(0, 0, -arrowPart.width(), 0);
+    painter.setClipRect(mainPart);
+    paintFrame(painter, button, edge, fillOfPart(button, colors, mainPart, button.isDown()));
+    painter.setClipRect(arrowPart);
+    paintFrame(painter, button, edge, fillOfPart(button, colors, arrowPart, isMenuOpen(button)));
+    painter.fillRect(QRect(arrowPart.topLeft(), QSize(1, arrowPart.height())), edge);
     painter.restore();
 }
 
@@ -90,21 +147,14 @@ QRect labelRect(const QToolButton& button, const QStyleOptionToolButton& option,
 }
 
 void paintMenuArrow(QPainter& painter, const QToolButton& button,
-                    const QStyleOptionToolButton& option, const RibbonColors& colors)
+                    const QStyleOptionToolButton& option, const QRect& arrowPart)
 {
-    QRect corner(0, 0, ArrowSize, ArrowSize);
-    corner.moveBottomRight(button.rect().bottomRight() - QPoint(3, 3));
-    if (option.features & QStyleOptionToolButton::MenuButtonPopup)
-    {
-        const QRect part = button.style()->subControlRect(QStyle::CC_ToolButton, &option,
-                                                          QStyle::SC_ToolButtonMenu, &button);
-        corner.moveCenter(part.center());
-        painter.setPen(colors.line);
-        if (option.state & QStyle::State_MouseOver)
-            painter.drawLine(part.left(), part.top() + 5, part.left(), part.bottom() - 5);
-    }
     QStyleOptionToolButton arrow(option);
-    arrow.rect = corner;
+    arrow.rect = QRect(0, 0, ArrowSize, ArrowSize);
+    if (arrowPart.isEmpty())
+        arrow.rect.moveBottomRight(button.rect().bottomRight() - QPoint(3, 3));
+    else
+        arrow.rect.moveCenter(arrowPart.center());
     button.style()->drawPrimitive(QStyle::PE_IndicatorArrowDown, &arrow, &painter, &button);
 }
 
@@ -114,15 +164,13 @@ void paintRibbonButton(QToolButton& button)
 {
     const RibbonColors colors(button.palette());
     QPainter painter(&button);
-    paintState(painter, button, colors);
-
     const QStyleOptionToolButton option = optionOf(button);
-    QRect room = button.rect();
+    const QRect arrowPart = menuPart(button, option);
+    paintState(painter, button, colors, arrowPart);
     if (option.features & QStyleOptionToolButton::HasMenu)
-        paintMenuArrow(painter, button, option, colors);
-    if (option.features & QStyleOptionToolButton::MenuButtonPopup)
-        room = button.style()->subControlRect(QStyle::CC_ToolButton, &option, QStyle::SC_ToolButton,
-                                              &button);
+        paintMenuArrow(painter, button, option, arrowPart);
+
+    const QRect room = button.rect().adjusted(0, 0, -arrowPart.width(), 0);
     QStyleOptionToolButton label(option);
     label.rect = labelRect(button, option, room);
     button.style()->drawControl(QStyle::CE_ToolButtonLabel, &label, &painter, &button);
