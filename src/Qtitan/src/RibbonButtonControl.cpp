@@ -1,6 +1,6 @@
 #include "Qtitan/RibbonButtonControl.h"
 
-#include "RibbonButtonPainter.h"
+#include "RibbonButtonFilter.h"
 #include "RibbonMetrics.h"
 
 #include <QEvent>
@@ -65,11 +65,8 @@ bool RibbonButtonControl::event(QEvent* pEvent)
 bool RibbonButtonControl::eventFilter(QObject* pWatched, QEvent* pEvent)
 {
     const QEvent::Type type = pEvent->type();
-    if (type == QEvent::Paint && pWatched == m_pButton)
-    {
-        paintRibbonButton(*m_pButton);
+    if (m_pButton != nullptr && pWatched == m_pButton && filterRibbonButton(*m_pButton, *pEvent))
         return true;
-    }
     if (type == QEvent::ShowToParent || type == QEvent::HideToParent)
         followButton();
     return QWidget::eventFilter(pWatched, pEvent);

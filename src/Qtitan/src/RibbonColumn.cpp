@@ -1,7 +1,7 @@
 #include "RibbonColumn.h"
 
 #include "Caption.h"
-#include "RibbonButtonPainter.h"
+#include "RibbonButtonFilter.h"
 
 #include <QEvent>
 #include <QGridLayout>
@@ -53,11 +53,8 @@ bool RibbonColumn::eventFilter(QObject* pWatched, QEvent* pEvent)
 {
     const QEvent::Type type = pEvent->type();
     auto* pButton = qobject_cast<QToolButton*>(pWatched);
-    if (type == QEvent::Paint && pButton != nullptr)
-    {
-        paintRibbonButton(*pButton);
+    if (pButton != nullptr && filterRibbonButton(*pButton, *pEvent))
         return true;
-    }
     if (type == QEvent::ShowToParent || type == QEvent::HideToParent)
         followWidgets();
     return QWidget::eventFilter(pWatched, pEvent);

@@ -8,6 +8,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QKeyEvent>
+#include <QToolButton>
 #include <QWindow>
 
 #include <algorithm>
@@ -276,15 +277,24 @@ void RibbonKeyTips::activate(const KeyTip& tip)
     QWidget* pTarget = tip.pTarget;
     if (pTarget == nullptr || !pTarget->isVisible() || !pTarget->isEnabled())
         return;
-    auto* pButton = qobject_cast<QAbstractButton*>(pTarget);
-    if (pButton == nullptr)
-    {
+    if (auto* pButton = qobject_cast<QAbstractButton*>(pTarget))
+        activateButton(*pButton);
+    else
         pTarget->setFocus(Qt::ShortcutFocusReason);
+}
+
+void RibbonKeyTips::activateButton(QAbstractButton& button)
+{
+    auto* pTool = qobject_cast<QToolButton*>(&button);
+    if (pTool != nullptr && pTool->menu() && pTool->popupMode() == QToolButton::InstantPopup)
+    {
+        // click() would trigger its action, too, once the menu has closed.
+        pTool->showMenu();
         return;
     }
     // A page's own buttons scroll it; any other may run a command, and all may be gone after it.
-    const bool isScrollButton = qobject_cast<RibbonPage*>(pButton->parentWidget()) != nullptr;
-    pButton->click();
+    const bool isScrollButton = qobject_cast<RibbonPage*>(button.parentWidget()) != nullptr;
+    button.click();
     if (isScrollButton)
         showControls();
 }

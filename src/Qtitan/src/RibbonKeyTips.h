@@ -4,6 +4,7 @@
 
 #include <QObject>
 
+class QAbstractButton;
 class QKeyEvent;
 class QWindow;
 
@@ -54,6 +55,7 @@ private:
     bool isTipKey(const QString& key) const;
     void type(const QString& key);
     void activate(const KeyTip& tip);
+    void activateButton(QAbstractButton& button);
 
     RibbonBar& m_bar;
     QPointer<QWindow> m_pWindow;

@@ -17,7 +17,9 @@ class RibbonTabBar;
 ///
 /// Keys, while the ribbon's window has the focus: pressing and releasing Alt alone, or F10, shows
 /// key tips over the tabs and then over the controls of the chosen page; Alt and a digit selects
-/// a page. Application shortcuts come first, and any other key goes its way untouched.
+/// a page. The key of a control clicks a button, box or radio button, of a button with a menu its
+/// main part, and gives the focus to anything else; Down and F4 open the menu of the button that
+/// has the focus. Application shortcuts come first, and any other key goes its way untouched.
 class QTITAN_EXPORT RibbonBar : public QWidget
 {
     Q_OBJECT
