@@ -6,8 +6,10 @@
 #include "Foundation/HostExport.h"
 #include "Foundation/OwnerPtr.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <string>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -39,29 +41,22 @@ public:
     TItem* Get(int index) const
     {
         const bool isInside = index >= 0 && index < GetCount();
-        return isInside ? m_items[static_cast<std::size_t>(index)].Get() : nullptr;
+        return isInside ? m_items[static_cast<std::size_t>(index)] : nullptr;
     }
 
     /// The first item with that id, null when there is none.
     TItem* Find(const std::wstring& id) const
     {
-        for (const OwnerPtr<TItem>& opItem : m_items)
-        {
-            if (opItem->GetId() == id)
-                return opItem.Get();
-        }
-        return nullptr;
+        const auto found = std::find_if(m_items.begin(), m_items.end(),
+                                        [&id](const TItem* pItem) { return pItem->GetId() == id; });
+        return found != m_items.end() ? *found : nullptr;
     }
 
     /// The items as what the interface of the definition shows of them.
     template <class TShown>
     std::vector<const TShown*> GetAll() const
     {
-        std::vector<const TShown*> items;
-        items.reserve(m_items.size());
-        for (const OwnerPtr<TItem>& opItem : m_items)
-            items.push_back(opItem.Get());
-        return items;
+        return {m_items.begin(), m_items.end()};
     }
 
     /// Puts an item before the one at `index`; at the end it is an appended one.
@@ -74,7 +69,8 @@ public:
         const std::wstring caption = pItem->GetCaption();
         if (IControlDefinitionChangeEvent* pItemEvent = FindEvent(*pItem))
             pItemEvent->Add(this);
-        m_items.insert(m_items.begin() + index, std::move(opItem));
+        m_items.insert(m_items.begin() + index, pItem);
+        m_owned.emplace(pItem, std::move(opItem));
         m_event.RaiseItemsChanged(isAppended ? ControlDefinitionChangeEventType::Add
                                              : ControlDefinitionChangeEventType::Insert,
                                   index, caption, pItem);
@@ -86,7 +82,8 @@ public:
         if (!CheckItemIndex(index, GetCount() - 1, function))
             return;
         const auto place = m_items.begin() + index;
-        const OwnerPtr<TItem> opItem = std::move(*place);
+        const auto owned = m_owned.extract(*place);
+        const OwnerPtr<TItem>& opItem = owned.mapped();
         m_items.erase(place);
         if (IControlDefinitionChangeEvent* pItemEvent = FindEvent(*opItem))
             pItemEvent->Delete(this);
@@ -100,8 +97,9 @@ public:
     {
         if (m_items.empty())
             return;
-        const std::vector<OwnerPtr<TItem>> items = std::exchange(m_items, {});
-        for (const OwnerPtr<TItem>& opItem : items)
+        m_items.clear();
+        const Owners owned = std::exchange(m_owned, {});
+        for (const auto& [pItem, opItem] : owned)
         {
             if (IControlDefinitionChangeEvent* pItemEvent = FindEvent(*opItem))
                 pItemEvent->Delete(this);
@@ -111,6 +109,8 @@ public:
     }
 
 private:
+    using Owners = std::unordered_map<TItem*, OwnerPtr<TItem>>;
+
     static IControlDefinitionChangeEvent* FindEvent(TItem& item)
     {
         const auto* pSource = dynamic_cast<const IControlDefinitionChangeEventSource*>(&item);
@@ -120,7 +120,10 @@ private:
     void On(IControlDefinitionChangeEventArgs*) override { m_event.RaisePropertyChanged(); }
 
     ControlDefinitionChangeEvent& m_event;
-    std::vector<OwnerPtr<TItem>> m_items;
+
+    // The order stands apart from the owners: to shift pointers in a long list costs nothing.
+    std::vector<TItem*> m_items;
+    Owners m_owned;
 };
 
 }

@@ -69,9 +69,14 @@ public:
 
     OwnerPtr& operator=(OwnerPtr&& other) noexcept
     {
-        OwnerPtr taken(std::move(other));
-        std::swap(m_pObject, taken.m_pObject);
-        std::swap(m_pDeleter, taken.m_pDeleter);
+        if (this == &other)
+            return *this;
+        // What was owned goes last: it may own `other`.
+        const std::unique_ptr<IOwnerPtrDeleter> pOld =
+            std::exchange(m_pDeleter, std::move(other.m_pDeleter));
+        m_pObject = std::exchange(other.m_pObject, nullptr);
+        if (pOld != nullptr)
+            pOld->Delete();
         return *this;
     }
 
