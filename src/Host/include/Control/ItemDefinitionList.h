@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <memory>
 #include <string>
 #include <unordered_map>
 #include <utility>
@@ -27,7 +28,8 @@ VESK_HOST_API bool CheckItem(const IControlDefinition* pItem, const char* functi
 ///
 /// `TItem` is the class or interface of the items. `function` is the qualified name under which a
 /// bad argument is reported: such a call changes nothing. A handler may destroy the definition, so
-/// nothing follows an event.
+/// nothing follows an event. It may remove the item that it hears of, too: an item lives on until
+/// the outermost event of its list is over, for the handlers that hear of it yet.
 template <class TItem>
 class ItemDefinitionList final : private IControlDefinitionChangeEventHandler
 {
@@ -67,6 +69,7 @@ public:
         TItem* pItem = opItem.Get();
         const bool isAppended = index == GetCount();
         const std::wstring caption = pItem->GetCaption();
+        const std::shared_ptr<Removed> pRemoved = GetRemoved();
         if (IControlDefinitionChangeEvent* pItemEvent = FindEvent(*pItem))
             pItemEvent->Add(this);
         m_items.insert(m_items.begin() + index, pItem);
@@ -76,20 +79,17 @@ public:
                                   index, caption, pItem);
     }
 
-    /// The item lives until its handlers have heard that it is gone.
     void Delete(int index, const char* function)
     {
         if (!CheckItemIndex(index, GetCount() - 1, function))
             return;
         const auto place = m_items.begin() + index;
-        const auto owned = m_owned.extract(*place);
-        const OwnerPtr<TItem>& opItem = owned.mapped();
+        TItem* pItem = *place;
+        const std::wstring caption = pItem->GetCaption();
+        const std::shared_ptr<Removed> pRemoved = GetRemoved();
         m_items.erase(place);
-        if (IControlDefinitionChangeEvent* pItemEvent = FindEvent(*opItem))
-            pItemEvent->Delete(this);
-        const std::wstring caption = opItem->GetCaption();
-        m_event.RaiseItemsChanged(ControlDefinitionChangeEventType::Delete, index, caption,
-                                  opItem.Get());
+        Remove(pItem, *pRemoved);
+        m_event.RaiseItemsChanged(ControlDefinitionChangeEventType::Delete, index, caption, pItem);
     }
 
     /// An empty list is left alone.
@@ -97,19 +97,33 @@ public:
     {
         if (m_items.empty())
             return;
-        m_items.clear();
-        const Owners owned = std::exchange(m_owned, {});
-        for (const auto& [pItem, opItem] : owned)
-        {
-            if (IControlDefinitionChangeEvent* pItemEvent = FindEvent(*opItem))
-                pItemEvent->Delete(this);
-        }
+        const std::shared_ptr<Removed> pRemoved = GetRemoved();
+        for (TItem* pItem : std::exchange(m_items, {}))
+            Remove(pItem, *pRemoved);
         m_event.RaiseItemsChanged(ControlDefinitionChangeEventType::Clear, -1, std::wstring(),
                                   nullptr);
     }
 
 private:
-    using Owners = std::unordered_map<TItem*, OwnerPtr<TItem>>;
+    using Removed = std::vector<OwnerPtr<TItem>>;
+
+    /// The removed items that handlers may still hear of; freed with the last call that holds it.
+    std::shared_ptr<Removed> GetRemoved()
+    {
+        std::shared_ptr<Removed> pRemoved = m_pRemoved.lock();
+        if (pRemoved == nullptr)
+            m_pRemoved = pRemoved = std::make_shared<Removed>();
+        return pRemoved;
+    }
+
+    void Remove(TItem* pItem, Removed& removed)
+    {
+        if (IControlDefinitionChangeEvent* pItemEvent = FindEvent(*pItem))
+            pItemEvent->Delete(this);
+        const auto owned = m_owned.find(pItem);
+        removed.push_back(std::move(owned->second));
+        m_owned.erase(owned);
+    }
 
     static IControlDefinitionChangeEvent* FindEvent(TItem& item)
     {
@@ -123,7 +137,8 @@ private:
 
     // The order stands apart from the owners: to shift pointers in a long list costs nothing.
     std::vector<TItem*> m_items;
-    Owners m_owned;
+    std::unordered_map<TItem*, OwnerPtr<TItem>> m_owned;
+    std::weak_ptr<Removed> m_pRemoved;
 };
 
 }

@@ -59,7 +59,7 @@ void RadioButtonGroupDefinition::DeleteRadioButton(int index)
 
 void RadioButtonGroupDefinition::ClearRadioButtons()
 {
-    if (m_radioButtons.GetCount() > 0)
+    if (Find(m_currentRadioButtonId) != nullptr)
         m_currentRadioButtonId.clear();
     m_radioButtons.Clear();
 }
