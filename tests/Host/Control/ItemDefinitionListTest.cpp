@@ -1,0 +1,495 @@
+#include "Control/ItemDefinitionList.h"
+
+#include "Control/ControlDefinitionChangeByUser.h"
+#include "Control/LabelDefinition.h"
+#include "Host/Control/ChangeRecorder.h"
+#include "Support/WarningRecorder.h"
+
+#include <QtTest>
+
+#include <memory>
+
+namespace vesk
+{
+
+namespace
+{
+
+constexpr char s_insert[] = "vesk::Some::Insert";
+constexpr char s_delete[] = "vesk::Some::Delete";
+
+using Type = ControlDefinitionChangeEventType;
+
+/// Tells of its destruction.
+class Item final : public LabelDefinition
+{
+public:
+    Item(const std::wstring& id, int& aliveCount) : LabelDefinition(id), m_aliveCount(aliveCount)
+    {
+        SetCaption(L"caption of " + id);
+        ++m_aliveCount;
+    }
+    ~Item() override { --m_aliveCount; }
+
+private:
+    int& m_aliveCount;
+};
+
+}
+
+/// A list of the items "a", "b" and "c", and what has happened to it since.
+struct ItemListFixture
+{
+    ItemListFixture()
+    {
+        for (const wchar_t* id : {L"a", L"b", L"c"})
+            Insert(pList->GetCount(), id);
+        pRecorder = std::make_unique<ChangeRecorder>(*pEvent);
+    }
+
+    Item* Insert(int index, const std::wstring& id)
+    {
+        auto opItem = MakeOwner<Item>(id, aliveCount);
+        Item* pItem = opItem.Get();
+        pList->Insert(index, std::move(opItem), s_insert);
+        return pItem;
+    }
+
+    std::wstring GetIds() const
+    {
+        std::wstring ids;
+        for (const IControlDefinition* pItem : pList->GetAll<IControlDefinition>())
+            ids += pItem->GetId();
+        return ids;
+    }
+
+    void Destroy()
+    {
+        pList.reset();
+        pEvent.reset();
+    }
+
+    int aliveCount = 0;
+    std::unique_ptr<ControlDefinitionChangeEvent> pEvent =
+        std::make_unique<ControlDefinitionChangeEvent>(L"owner");
+    std::unique_ptr<ItemDefinitionList<LabelDefinition>> pList =
+        std::make_unique<ItemDefinitionList<LabelDefinition>>(*pEvent);
+    std::unique_ptr<ChangeRecorder> pRecorder;
+    test::WarningRecorder warnings;
+};
+
+using Fixture = ItemListFixture;
+
+namespace
+{
+
+/// What a handler that comes last hears of the item of each change.
+class CaptionReader final : public IControlDefinitionChangeEventHandler
+{
+public:
+    explicit CaptionReader(IControlDefinitionChangeEvent& event) { event.Add(this); }
+
+    void On(IControlDefinitionChangeEventArgs* pArgs) override
+    {
+        const IControlDefinition* pItem = pArgs->GetItemDefinition();
+        m_captions += (pItem != nullptr ? pItem->GetCaption() : L"none") + L";";
+    }
+
+    const std::wstring& GetCaptions() const { return m_captions; }
+
+private:
+    std::wstring m_captions;
+};
+
+}
+
+}
+
+using Act = void (*)(vesk::ItemListFixture&);
+Q_DECLARE_METATYPE(Act)
+
+namespace vesk
+{
+
+class ItemDefinitionListTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void insertingRaisesOneEventWithTheItem_data();
+    void insertingRaisesOneEventWithTheItem();
+    void deletingRaisesOneEventWithTheItem_data();
+    void deletingRaisesOneEventWithTheItem();
+    void clearingRaisesOneEventWithoutAnItem();
+    void clearingAnEmptyListRaisesNone();
+    void badIndexOfAnInsertionIsReportedAndChangesNothing_data();
+    void badIndexOfAnInsertionIsReportedAndChangesNothing();
+    void badIndexOfADeletionIsReportedAndChangesNothing_data();
+    void badIndexOfADeletionIsReportedAndChangesNothing();
+    void deletingFromAnEmptyListIsReported();
+    void missingItemIsReportedAndChangesNothing();
+    void itemIsFoundByIndexAndById();
+    void firstOfTwoItemsWithOneIdIsFound();
+    void theListIsRightWhenTheEventIsRaised_data();
+    void theListIsRightWhenTheEventIsRaised();
+    void aChangeOfAnItemIsAPropertyChange();
+    void aChangeOfAnItemIsMarkedWithTheScopeOfTheOwner();
+    void aRemovedItemIsNotHeardAnyMore_data();
+    void aRemovedItemIsNotHeardAnyMore();
+    void removedItemsAreFreed();
+    void aHandlerMayChangeTheListAgain();
+    void aHandlerMayUnsubscribeItself();
+    void aHandlerMayUnsubscribeAnother();
+    void aHandlerMayRemoveTheItemConcerned_data();
+    void aHandlerMayRemoveTheItemConcerned();
+    void aHandlerMayRemoveTheItemThatChanges();
+    void aHandlerMayDestroyEverything_data();
+    void aHandlerMayDestroyEverything();
+};
+
+void ItemDefinitionListTest::insertingRaisesOneEventWithTheItem_data()
+{
+    QTest::addColumn<int>("index");
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QString>("ids");
+    QTest::newRow("first") << 0 << int{Type::Insert} << "xabc";
+    QTest::newRow("inside") << 2 << int{Type::Insert} << "abxc";
+    QTest::newRow("at the end") << 3 << int{Type::Add} << "abcx";
+}
+
+void ItemDefinitionListTest::insertingRaisesOneEventWithTheItem()
+{
+    QFETCH(int, index);
+    QFETCH(int, type);
+    QFETCH(QString, ids);
+    Fixture f;
+
+    const Item* pItem = f.Insert(index, L"x");
+
+    QCOMPARE(f.GetIds(), ids.toStdWString());
+    QCOMPARE(f.pRecorder->GetCount(), 1);
+    const Change& change = f.pRecorder->GetChanges().front();
+    QCOMPARE(change.type, type);
+    QCOMPARE(change.index, index);
+    QCOMPARE(change.caption, std::wstring(L"caption of x"));
+    QCOMPARE(change.pItem, pItem);
+    QVERIFY(!change.isByUser);
+}
+
+void ItemDefinitionListTest::deletingRaisesOneEventWithTheItem_data()
+{
+    QTest::addColumn<int>("index");
+    QTest::addColumn<QString>("id");
+    QTest::addColumn<QString>("ids");
+    QTest::newRow("first") << 0 << "a"
+                           << "bc";
+    QTest::newRow("inside") << 1 << "b"
+                            << "ac";
+    QTest::newRow("last") << 2 << "c"
+                          << "ab";
+}
+
+void ItemDefinitionListTest::deletingRaisesOneEventWithTheItem()
+{
+    QFETCH(int, index);
+    QFETCH(QString, id);
+    QFETCH(QString, ids);
+    Fixture f;
+    const IControlDefinition* pItem = f.pList->Get(index);
+
+    f.pList->Delete(index, s_delete);
+
+    QCOMPARE(f.GetIds(), ids.toStdWString());
+    QCOMPARE(f.pRecorder->GetCount(), 1);
+    const Change& change = f.pRecorder->GetChanges().front();
+    QCOMPARE(change.type, int{Type::Delete});
+    QCOMPARE(change.index, index);
+    QCOMPARE(change.caption, L"caption of " + id.toStdWString());
+    QCOMPARE(change.pItem, pItem);
+}
+
+void ItemDefinitionListTest::clearingRaisesOneEventWithoutAnItem()
+{
+    const Fixture f;
+
+    f.pList->Clear();
+
+    QCOMPARE(f.pList->GetCount(), 0);
+    QCOMPARE(f.pRecorder->GetCount(), 1);
+    const Change& change = f.pRecorder->GetChanges().front();
+    QCOMPARE(change.type, int{Type::Clear});
+    QCOMPARE(change.index, -1);
+    QCOMPARE(change.caption, std::wstring());
+    QVERIFY(change.pItem == nullptr);
+}
+
+void ItemDefinitionListTest::clearingAnEmptyListRaisesNone()
+{
+    const Fixture f;
+    f.pList->Clear();
+
+    f.pList->Clear();
+
+    QCOMPARE(f.pRecorder->GetCount(), 1);
+}
+
+void ItemDefinitionListTest::badIndexOfAnInsertionIsReportedAndChangesNothing_data()
+{
+    QTest::addColumn<int>("index");
+    QTest::newRow("negative") << -1;
+    QTest::newRow("behind the end") << 4;
+}
+
+void ItemDefinitionListTest::badIndexOfAnInsertionIsReportedAndChangesNothing()
+{
+    QFETCH(int, index);
+    Fixture f;
+
+    f.Insert(index, L"x");
+
+    EXPECT_WARNING(f.warnings, L"index不正确", s_insert);
+    QCOMPARE(f.GetIds(), std::wstring(L"abc"));
+    QCOMPARE(f.pRecorder->GetCount(), 0);
+    QCOMPARE(f.aliveCount, 3);
+}
+
+void ItemDefinitionListTest::badIndexOfADeletionIsReportedAndChangesNothing_data()
+{
+    QTest::addColumn<int>("index");
+    QTest::newRow("negative") << -1;
+    QTest::newRow("at the end") << 3;
+    QTest::newRow("behind the end") << 4;
+}
+
+void ItemDefinitionListTest::badIndexOfADeletionIsReportedAndChangesNothing()
+{
+    QFETCH(int, index);
+    Fixture f;
+
+    f.pList->Delete(index, s_delete);
+
+    EXPECT_WARNING(f.warnings, L"index不正确", s_delete);
+    QCOMPARE(f.GetIds(), std::wstring(L"abc"));
+    QCOMPARE(f.pRecorder->GetCount(), 0);
+}
+
+void ItemDefinitionListTest::deletingFromAnEmptyListIsReported()
+{
+    ControlDefinitionChangeEvent event(L"owner");
+    ItemDefinitionList<LabelDefinition> list(event);
+    test::WarningRecorder warnings;
+
+    list.Delete(0, s_delete);
+
+    EXPECT_WARNING(warnings, L"index不正确", s_delete);
+}
+
+void ItemDefinitionListTest::missingItemIsReportedAndChangesNothing()
+{
+    Fixture f;
+
+    f.pList->Insert(1, nullptr, s_insert);
+
+    EXPECT_WARNING(f.warnings, L"opItem为空", s_insert);
+    QCOMPARE(f.GetIds(), std::wstring(L"abc"));
+    QCOMPARE(f.pRecorder->GetCount(), 0);
+}
+
+void ItemDefinitionListTest::itemIsFoundByIndexAndById()
+{
+    const Fixture f;
+
+    QCOMPARE(f.pList->Get(0)->GetId(), std::wstring(L"a"));
+    QCOMPARE(f.pList->Find(L"c"), f.pList->Get(2));
+    QVERIFY(f.pList->Get(-1) == nullptr);
+    QVERIFY(f.pList->Get(3) == nullptr);
+    QVERIFY(f.pList->Find(L"x") == nullptr);
+}
+
+void ItemDefinitionListTest::firstOfTwoItemsWithOneIdIsFound()
+{
+    Fixture f;
+    f.Insert(3, L"b");
+
+    QCOMPARE(f.pList->Find(L"b"), f.pList->Get(1));
+}
+
+void ItemDefinitionListTest::theListIsRightWhenTheEventIsRaised_data()
+{
+    QTest::addColumn<Act>("act");
+    QTest::addColumn<QString>("ids");
+    QTest::newRow("insert") << Act{[](Fixture& f) { f.Insert(0, L"x"); }} << "xabc";
+    QTest::newRow("delete") << Act{[](Fixture& f) { f.pList->Delete(0, s_delete); }} << "bc";
+    QTest::newRow("clear") << Act{[](Fixture& f) { f.pList->Clear(); }} << "";
+}
+
+void ItemDefinitionListTest::theListIsRightWhenTheEventIsRaised()
+{
+    QFETCH(Act, act);
+    QFETCH(QString, ids);
+    Fixture f;
+    std::wstring inside = L"?";
+    f.pRecorder->Then([&] { inside = f.GetIds(); });
+
+    act(f);
+
+    QCOMPARE(inside, ids.toStdWString());
+}
+
+void ItemDefinitionListTest::aChangeOfAnItemIsAPropertyChange()
+{
+    const Fixture f;
+
+    f.pList->Get(1)->SetCaption(L"new");
+
+    QCOMPARE(f.pRecorder->GetCount(), 1);
+    const Change& change = f.pRecorder->GetChanges().front();
+    QCOMPARE(change.type, int{Type::PropertyChanged});
+    QCOMPARE(change.index, -1);
+    QCOMPARE(change.caption, std::wstring());
+    QVERIFY(change.pItem == nullptr);
+    QVERIFY(!change.isByUser);
+}
+
+void ItemDefinitionListTest::aChangeOfAnItemIsMarkedWithTheScopeOfTheOwner()
+{
+    const Fixture f;
+
+    {
+        const ControlDefinitionChangeByUser byUser(L"owner");
+        f.pList->Get(1)->SetCaption(L"by the user");
+    }
+    f.pList->Get(1)->SetCaption(L"by program");
+
+    QVERIFY(f.pRecorder->GetChanges().at(0).isByUser);
+    QVERIFY(!f.pRecorder->GetChanges().at(1).isByUser);
+}
+
+void ItemDefinitionListTest::aRemovedItemIsNotHeardAnyMore_data()
+{
+    QTest::addColumn<Act>("act");
+    QTest::newRow("deleted") << Act{[](Fixture& f) { f.pList->Delete(0, s_delete); }};
+    QTest::newRow("cleared") << Act{[](Fixture& f) { f.pList->Clear(); }};
+}
+
+void ItemDefinitionListTest::aRemovedItemIsNotHeardAnyMore()
+{
+    QFETCH(Act, act);
+    Fixture f;
+    LabelDefinition* pItem = f.pList->Get(0);
+    f.pRecorder->Then([pItem] { pItem->SetCaption(L"while it still lives"); });
+
+    act(f);
+
+    QCOMPARE(f.pRecorder->GetCount(), 1);
+}
+
+void ItemDefinitionListTest::removedItemsAreFreed()
+{
+    const Fixture f;
+
+    f.pList->Delete(1, s_delete);
+    QCOMPARE(f.aliveCount, 2);
+    f.pList->Clear();
+
+    QCOMPARE(f.aliveCount, 0);
+}
+
+void ItemDefinitionListTest::aHandlerMayChangeTheListAgain()
+{
+    Fixture f;
+    f.pRecorder->Then([&] { f.Insert(0, L"y"); });
+
+    f.Insert(3, L"x");
+
+    QCOMPARE(f.GetIds(), std::wstring(L"yabcx"));
+    QCOMPARE(f.pRecorder->GetCount(), 2);
+    QCOMPARE(f.pRecorder->GetChanges().at(1).type, int{Type::Insert});
+}
+
+void ItemDefinitionListTest::aHandlerMayUnsubscribeItself()
+{
+    Fixture f;
+    f.pRecorder->Then([&] { f.pEvent->Delete(f.pRecorder.get()); });
+
+    f.Insert(3, L"x");
+    f.pList->Clear();
+
+    QCOMPARE(f.pRecorder->GetCount(), 1);
+}
+
+void ItemDefinitionListTest::aHandlerMayUnsubscribeAnother()
+{
+    Fixture f;
+    ChangeRecorder other(*f.pEvent);
+    f.pRecorder->Then([&] { f.pEvent->Delete(&other); });
+
+    f.Insert(3, L"x");
+
+    QCOMPARE(f.pRecorder->GetCount(), 1);
+    QCOMPARE(other.GetCount(), 0);
+}
+
+void ItemDefinitionListTest::aHandlerMayRemoveTheItemConcerned_data()
+{
+    QTest::addColumn<Act>("act");
+    QTest::addColumn<QString>("heard");
+    QTest::newRow("delete") << Act{[](Fixture& f) { f.pList->Delete(3, s_delete); }}
+                            << "caption of x;caption of x;";
+    QTest::newRow("clear") << Act{[](Fixture& f) { f.pList->Clear(); }} << "none;caption of x;";
+}
+
+void ItemDefinitionListTest::aHandlerMayRemoveTheItemConcerned()
+{
+    QFETCH(Act, act);
+    QFETCH(QString, heard);
+    Fixture f;
+    const CaptionReader last(*f.pEvent);
+    f.pRecorder->Then([&] { act(f); });
+
+    f.Insert(3, L"x");
+
+    QCOMPARE(last.GetCaptions(), heard.toStdWString());
+    QCOMPARE(f.aliveCount, f.pList->GetCount());
+}
+
+void ItemDefinitionListTest::aHandlerMayRemoveTheItemThatChanges()
+{
+    Fixture f;
+    f.pRecorder->Then([&] { f.pList->Delete(1, s_delete); });
+
+    f.pList->Get(1)->SetCaption(L"new");
+
+    QCOMPARE(f.GetIds(), std::wstring(L"ac"));
+    QCOMPARE(f.pRecorder->GetCount(), 2);
+    QCOMPARE(f.aliveCount, 2);
+}
+
+void ItemDefinitionListTest::aHandlerMayDestroyEverything_data()
+{
+    QTest::addColumn<Act>("act");
+    QTest::newRow("insert") << Act{[](Fixture& f) { f.Insert(1, L"x"); }};
+    QTest::newRow("delete") << Act{[](Fixture& f) { f.pList->Delete(1, s_delete); }};
+    QTest::newRow("clear") << Act{[](Fixture& f) { f.pList->Clear(); }};
+    QTest::newRow("change of an item")
+        << Act{[](Fixture& f) { f.pList->Get(1)->SetCaption(L"new"); }};
+}
+
+void ItemDefinitionListTest::aHandlerMayDestroyEverything()
+{
+    QFETCH(Act, act);
+    Fixture f;
+    const ChangeRecorder last(*f.pEvent);
+    f.pRecorder->Then([&] { f.Destroy(); });
+
+    act(f);
+
+    QCOMPARE(f.pRecorder->GetCount(), 1);
+    QCOMPARE(last.GetCount(), 0);
+    QCOMPARE(f.aliveCount, 0);
+}
+
+}
+
+QTEST_APPLESS_MAIN(vesk::ItemDefinitionListTest)
+#include "ItemDefinitionListTest.moc"
