@@ -62,6 +62,7 @@ private slots:
     void itemsWithoutACurrentOneGetNone_data();
     void itemsWithoutACurrentOneGetNone();
     void aChangeOfTheItemsTellsItsText();
+    void theLastItemOfAllLeavesNoneCurrent_data();
     void theLastItemOfAllLeavesNoneCurrent();
     void clearingAnEmptyListRaisesNone();
     void badIndexIsReportedAndChangesNothing_data();
@@ -187,15 +188,27 @@ void ComboBoxDefinitionTest::aChangeOfTheItemsTellsItsText()
     QCOMPARE(f.pRecorder->GetChanges().at(2).caption, std::wstring());
 }
 
+void ComboBoxDefinitionTest::theLastItemOfAllLeavesNoneCurrent_data()
+{
+    QTest::addColumn<Act>("act");
+    QTest::newRow("delete") << Act{[](Box& b) { b.DeleteItem(0); }};
+    QTest::newRow("clear") << Act{[](Box& b) { b.ClearItems(); }};
+}
+
 void ComboBoxDefinitionTest::theLastItemOfAllLeavesNoneCurrent()
 {
+    QFETCH(Act, act);
     Box box(L"Width");
     box.AddItem(L"a");
+    ChangeRecorder recorder(*box.GetControlDefinitionChangeEvent());
+    int inside = 0;
+    recorder.Then([&] { inside = box.GetCurrentIndex(); });
 
-    box.DeleteItem(0);
+    act(box);
 
     QVERIFY(box.GetItems().empty());
     QCOMPARE(box.GetCurrentIndex(), -1);
+    QCOMPARE(inside, -1);
 }
 
 void ComboBoxDefinitionTest::clearingAnEmptyListRaisesNone()

@@ -31,7 +31,6 @@ public:
 
 private:
     int GetCount() const { return static_cast<int>(m_items.size()); }
-    void Insert(int index, const std::wstring& text, const char* function);
 
     std::vector<std::wstring> m_items;
     int m_currentIndex = -1;

@@ -30,12 +30,23 @@ int ComboBoxDefinition::GetCurrentIndex() const
 
 void ComboBoxDefinition::AddItem(const std::wstring& text)
 {
-    Insert(GetCount(), text, "vesk::ComboBoxDefinition::AddItem");
+    InsertItem(GetCount(), text);
 }
 
 void ComboBoxDefinition::InsertItem(int index, const std::wstring& text)
 {
-    Insert(index, text, "vesk::ComboBoxDefinition::InsertItem");
+    if (!CheckItemIndex(index, GetCount(), "vesk::ComboBoxDefinition::InsertItem"))
+        return;
+    const std::wstring caption = text;
+    const bool isAppended = index == GetCount();
+    if (m_items.empty())
+        m_currentIndex = 0;
+    else if (index <= m_currentIndex)
+        ++m_currentIndex;
+    m_items.insert(m_items.begin() + index, caption);
+    GetEvent().RaiseItemsChanged(isAppended ? ControlDefinitionChangeEventType::Add
+                                            : ControlDefinitionChangeEventType::Insert,
+                                 index, caption, nullptr);
 }
 
 void ComboBoxDefinition::DeleteItem(int index)
@@ -59,22 +70,6 @@ void ComboBoxDefinition::ClearItems()
     m_currentIndex = -1;
     GetEvent().RaiseItemsChanged(ControlDefinitionChangeEventType::Clear, -1, std::wstring(),
                                  nullptr);
-}
-
-void ComboBoxDefinition::Insert(int index, const std::wstring& text, const char* function)
-{
-    if (!CheckItemIndex(index, GetCount(), function))
-        return;
-    const std::wstring caption = text;
-    const bool isAppended = index == GetCount();
-    if (m_items.empty())
-        m_currentIndex = 0;
-    else if (index <= m_currentIndex)
-        ++m_currentIndex;
-    m_items.insert(m_items.begin() + index, caption);
-    GetEvent().RaiseItemsChanged(isAppended ? ControlDefinitionChangeEventType::Add
-                                            : ControlDefinitionChangeEventType::Insert,
-                                 index, caption, nullptr);
 }
 
 }
