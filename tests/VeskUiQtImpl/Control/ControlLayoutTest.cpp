@@ -1,10 +1,20 @@
+#include "Control/CheckBoxGroupDefinition.h"
+#include "Control/ComboBoxDefinition.h"
 #include "Control/CommandButtonDefinition.h"
+#include "Control/CommandButtonMenuDefinition.h"
 #include "Control/Control.h"
 #include "Control/LabelDefinition.h"
 #include "Control/LineEditDefinition.h"
+#include "Control/ProgressBarDefinition.h"
 #include "Control/QtButton.h"
+#include "Control/QtCheckBoxGroup.h"
+#include "Control/QtComboBox.h"
+#include "Control/QtCommandButtonMenu.h"
 #include "Control/QtLabel.h"
 #include "Control/QtLineEdit.h"
+#include "Control/QtProgressBar.h"
+#include "Control/QtRadioButtonGroup.h"
+#include "Control/RadioButtonGroupDefinition.h"
 #include "Control/VeskControlFactory.h"
 #include "Support/HostFixture.h"
 #include "Support/MemberAccess.h"
@@ -20,7 +30,32 @@ VESK_EXPOSE(ButtonDefinition, OwnerPtr<ICommandButtonDefinition>, QtButton, m_pC
 VESK_EXPOSE(LabelDefinitionMember, OwnerPtr<ILabelDefinition>, QtLabel, m_pControlDefinition)
 VESK_EXPOSE(LineEditDefinitionMember, OwnerPtr<ILineEditDefinition>, QtLineEdit,
             m_pControlDefinition)
+VESK_EXPOSE(ComboBoxDefinitionMember, OwnerPtr<IComboBoxDefinition>, QtComboBox,
+            m_pControlDefinition)
+VESK_EXPOSE(ProgressBarDefinitionMember, OwnerPtr<IProgressBarDefinition>, QtProgressBar,
+            m_pControlDefinition)
+VESK_EXPOSE(MenuDefinitionMember, OwnerPtr<ICommandButtonMenuDefinition>, QtCommandButtonMenu,
+            m_pControlDefinition)
+VESK_EXPOSE(CheckBoxGroupMember, OwnerPtr<ICheckBoxGroupDefinition>, QtCheckBoxGroup,
+            m_pControlDefinition)
+VESK_EXPOSE(CheckBoxParent, QWidget*, QtCheckBoxGroup, m_pParent)
+VESK_EXPOSE(CheckBoxList, std::vector<QCheckBox*>, QtCheckBoxGroup, m_checkBoxes)
+VESK_EXPOSE(RadioButtonGroupMember, OwnerPtr<IRadioButtonGroupDefinition>, QtRadioButtonGroup,
+            m_pControlDefinition)
+VESK_EXPOSE(RadioButtonParent, QWidget*, QtRadioButtonGroup, m_pParent)
+VESK_EXPOSE(RadioButtonList, std::vector<QRadioButton*>, QtRadioButtonGroup, m_radioButtons)
 VESK_EXPOSE(LineEditValidator, OwnerPtr<ValidatorBase>, QtLineEdit, m_pValidator)
+
+/// The controls that the library does not export are made by its factory.
+struct MadeByTheFactory
+{
+    OwnerPtr<IControl> opBar =
+        VeskIControlFactory::Get()->CreateQtProgressBar(MakeOwner<ProgressBarDefinition>(L"id"));
+    OwnerPtr<IControl> opMenu = VeskIControlFactory::Get()->CreateQtCommandButtonMenu(
+        MakeOwner<CommandButtonMenuDefinition>(L"id", L"command"));
+    const QtProgressBar& bar = static_cast<QtProgressBar&>(*opBar);
+    const QtCommandButtonMenu& menu = static_cast<QtCommandButtonMenu&>(*opMenu);
+};
 
 /// The host's libraries were compiled against these classes as they stand: bases, members and
 /// virtual operations have their places.
@@ -32,6 +67,7 @@ private slots:
     void basesStandInOrder();
     void theDefinitionIsTheFirstMember();
     void theLineEditsValidatorFollowsItsDefinition();
+    void parentAndListOfAGroupFollowItsDefinition();
     void controlsHaveNoFurtherMembers();
     void operationsOfAControlHaveTheirSlots();
     void operationsOfAHandlerAndAnEventHaveTheirSlots();
@@ -68,6 +104,18 @@ void ControlLayoutTest::basesStandInOrder()
     CheckBases<QtButton, QToolButton>(button);
     CheckBases<QtLabel, QLabel>(label);
     CheckBases<QtLineEdit, QLineEdit>(edit);
+
+    QWidget parent;
+    const QtComboBox box(MakeOwner<ComboBoxDefinition>(L"id"), nullptr);
+    const QtCheckBoxGroup checkBoxes(MakeOwner<CheckBoxGroupDefinition>(L"id"), &parent);
+    const QtRadioButtonGroup radioButtons(MakeOwner<RadioButtonGroupDefinition>(L"id"), &parent);
+    const MadeByTheFactory made;
+
+    CheckBases<QtComboBox, QComboBox>(box);
+    CheckBases<QtCheckBoxGroup, QButtonGroup>(checkBoxes);
+    CheckBases<QtRadioButtonGroup, QButtonGroup>(radioButtons);
+    CheckBases<QtProgressBar, QProgressBar>(made.bar);
+    CheckBases<QtCommandButtonMenu, QToolButton>(made.menu);
 }
 
 void ControlLayoutTest::theDefinitionIsTheFirstMember()
@@ -80,6 +128,18 @@ void ControlLayoutTest::theDefinitionIsTheFirstMember()
     CheckFirstMember(button, MemberOf(ButtonDefinition()));
     CheckFirstMember(label, MemberOf(LabelDefinitionMember()));
     CheckFirstMember(edit, MemberOf(LineEditDefinitionMember()));
+
+    QWidget parent;
+    const QtComboBox box(MakeOwner<ComboBoxDefinition>(L"id"), nullptr);
+    const QtCheckBoxGroup checkBoxes(MakeOwner<CheckBoxGroupDefinition>(L"id"), &parent);
+    const QtRadioButtonGroup radioButtons(MakeOwner<RadioButtonGroupDefinition>(L"id"), &parent);
+    const MadeByTheFactory made;
+
+    CheckFirstMember(box, MemberOf(ComboBoxDefinitionMember()));
+    CheckFirstMember(checkBoxes, MemberOf(CheckBoxGroupMember()));
+    CheckFirstMember(radioButtons, MemberOf(RadioButtonGroupMember()));
+    CheckFirstMember(made.bar, MemberOf(ProgressBarDefinitionMember()));
+    CheckFirstMember(made.menu, MemberOf(MenuDefinitionMember()));
 }
 
 void ControlLayoutTest::theLineEditsValidatorFollowsItsDefinition()
@@ -92,6 +152,23 @@ void ControlLayoutTest::theLineEditsValidatorFollowsItsDefinition()
                  std::ptrdiff_t(sizeof(OwnerPtr<ILineEditDefinition>)));
 }
 
+void ControlLayoutTest::parentAndListOfAGroupFollowItsDefinition()
+{
+    constexpr std::ptrdiff_t Owner = sizeof(OwnerPtr<IControl>);
+    constexpr std::ptrdiff_t Pointer = sizeof(QWidget*);
+    HostFixture host;
+    QWidget parent;
+    const QtCheckBoxGroup checkBoxes(MakeOwner<CheckBoxGroupDefinition>(L"id"), &parent);
+    const QtRadioButtonGroup radioButtons(MakeOwner<RadioButtonGroupDefinition>(L"id"), &parent);
+
+    const std::ptrdiff_t checkBoxStart = OffsetIn(checkBoxes, MemberOf(CheckBoxGroupMember()));
+    QCOMPARE(OffsetIn(checkBoxes, MemberOf(CheckBoxParent())), checkBoxStart + Owner);
+    QCOMPARE(OffsetIn(checkBoxes, MemberOf(CheckBoxList())), checkBoxStart + Owner + Pointer);
+    const std::ptrdiff_t radioStart = OffsetIn(radioButtons, MemberOf(RadioButtonGroupMember()));
+    QCOMPARE(OffsetIn(radioButtons, MemberOf(RadioButtonParent())), radioStart + Owner);
+    QCOMPARE(OffsetIn(radioButtons, MemberOf(RadioButtonList())), radioStart + Owner + Pointer);
+}
+
 void ControlLayoutTest::controlsHaveNoFurtherMembers()
 {
     constexpr std::size_t Interfaces =
@@ -101,6 +178,14 @@ void ControlLayoutTest::controlsHaveNoFurtherMembers()
     QCOMPARE(sizeof(QtButton), sizeof(QToolButton) + Interfaces + Owner);
     QCOMPARE(sizeof(QtLabel), sizeof(QLabel) + Interfaces + Owner);
     QCOMPARE(sizeof(QtLineEdit), sizeof(QLineEdit) + Interfaces + 2 * Owner);
+    QCOMPARE(sizeof(QtComboBox), sizeof(QComboBox) + Interfaces + Owner);
+    QCOMPARE(sizeof(QtProgressBar), sizeof(QProgressBar) + Interfaces + Owner);
+    QCOMPARE(sizeof(QtCommandButtonMenu), sizeof(QToolButton) + Interfaces + Owner);
+
+    constexpr std::size_t Group =
+        sizeof(QButtonGroup) + Interfaces + Owner + sizeof(QWidget*) + sizeof(std::vector<void*>);
+    QCOMPARE(sizeof(QtCheckBoxGroup), Group);
+    QCOMPARE(sizeof(QtRadioButtonGroup), Group);
 }
 
 void ControlLayoutTest::operationsOfAControlHaveTheirSlots()
@@ -131,6 +216,12 @@ void ControlLayoutTest::operationsOfADefinitionHaveTheirSlots()
     QCOMPARE(SlotOf(&ICommandButtonDefinition::IsChecked), std::ptrdiff_t(11));
     QCOMPARE(SlotOf(&ILineEditDefinition::GetInputType), std::ptrdiff_t(7));
     QCOMPARE(SlotOf(&ILineEditDefinition::GetLineEditEvent), std::ptrdiff_t(14));
+    QCOMPARE(SlotOf(&IComboBoxDefinition::GetItems), std::ptrdiff_t(7));
+    QCOMPARE(SlotOf(&IComboBoxDefinition::SetCurrentIndex), std::ptrdiff_t(8));
+    QCOMPARE(SlotOf(&IComboBoxDefinition::GetCurrentIndex), std::ptrdiff_t(9));
+    QCOMPARE(SlotOf(&IProgressBarDefinition::GetValue), std::ptrdiff_t(7));
+    QCOMPARE(SlotOf(&IProgressBarDefinition::IsTextVisible), std::ptrdiff_t(8));
+    QCOMPARE(SlotOf(&IProgressBarDefinition::GetWidth), std::ptrdiff_t(9));
 }
 
 void ControlLayoutTest::operationsOfTheFactoryHaveTheirSlots()
@@ -158,6 +249,11 @@ void ControlLayoutTest::theBaseForOthersIsAbstractAndAddsNothing()
     QVERIFY(!(std::is_base_of<Control, QtButton>::value));
     QVERIFY(!(std::is_base_of<Control, QtLabel>::value));
     QVERIFY(!(std::is_base_of<Control, QtLineEdit>::value));
+    QVERIFY(!(std::is_base_of<Control, QtComboBox>::value));
+    QVERIFY(!(std::is_base_of<Control, QtProgressBar>::value));
+    QVERIFY(!(std::is_base_of<Control, QtCheckBoxGroup>::value));
+    QVERIFY(!(std::is_base_of<Control, QtRadioButtonGroup>::value));
+    QVERIFY(!(std::is_base_of<Control, QtCommandButtonMenu>::value));
 }
 
 }

@@ -58,6 +58,18 @@ struct LooseFixture
     OwnerPtr<QtComboBox> opBox;
 };
 
+/// Names the flag that tells the user's changes from the definition's.
+template <class Tag, bool* pFlag>
+struct ExposeFlag
+{
+    friend bool* FlagOf(Tag) { return pFlag; }
+};
+struct IndexFlag
+{
+    friend bool* FlagOf(IndexFlag);
+};
+template struct ExposeFlag<IndexFlag, &QtComboBox::s_isIndexChangeByUser>;
+
 void ChooseWithTheMouse(QComboBox& box, int index)
 {
     box.showPopup();
@@ -88,6 +100,7 @@ private slots:
     void theUserIsKnownAgainAfterEveryChange();
     void theUserIsKnownAgainAfterAReport();
     void changeInsideAnotherDoesNotEndIt();
+    void flagIsFalseExactlyWhileAChangeIsApplied();
     void changeOfOneBoxCoversAnother();
     void aThousandChangesOfTheHostAreNoneOfTheUser();
     void definitionAndBoxAgreeAfterChangesOfBothSides_data() { AddEchoModes(); }
@@ -252,6 +265,22 @@ void QtComboBoxUserTest::changeInsideAnotherDoesNotEndIt()
     f.pDefinition->Raise(EventType::PropertyChanged);
 
     QVERIFY((f.pDefinition->writes == Writes{{2, false}}));
+}
+
+void QtComboBoxUserTest::flagIsFalseExactlyWhileAChangeIsApplied()
+{
+    LooseFixture f({L"a", L"b", L"c"}, 0);
+    QList<bool> flags;
+    connect(f.opBox.Get(), QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+            [&] { flags += *FlagOf(IndexFlag()); });
+    QVERIFY(*FlagOf(IndexFlag()));
+
+    f.opBox->setCurrentIndex(1);
+    f.pDefinition->currentIndex = 2;
+    f.pDefinition->Raise(EventType::PropertyChanged);
+
+    QCOMPARE(flags, QList<bool>({true, false}));
+    QVERIFY(*FlagOf(IndexFlag()));
 }
 
 void QtComboBoxUserTest::changeOfOneBoxCoversAnother()
