@@ -123,12 +123,9 @@ void QtCommandButtonMenu::On(IControlDefinitionChangeEventArgs* pArgs)
 
     switch (pArgs->GetType())
     {
-    case ControlDefinitionChangeEventType::Add: {
-        const auto* pItem = dynamic_cast<const IMenuItemDefinition*>(pArgs->GetItemDefinition());
-        if (Check(pItem != nullptr, VESK_SITE(Function, L"pMenuItemDefine为空")))
-            AddMenuItem(menu(), pItem);
+    case ControlDefinitionChangeEventType::Add:
+        AppendMenuItem(pArgs->GetItemDefinition());
         break;
-    }
     case ControlDefinitionChangeEventType::Insert:
         InsertMenuItem(pArgs->GetIndex(), pArgs->GetItemDefinition());
         break;
@@ -167,6 +164,13 @@ void QtCommandButtonMenu::AddMenuItem(QMenu* pMenu, const IMenuItemDefinition* p
     pSubMenu->setProperty(PropertyName::IsDefinition, true);
     for (const IMenuItemDefinition* pChild : children)
         AddMenuItem(pSubMenu, pChild);
+}
+
+void QtCommandButtonMenu::AppendMenuItem(const IControlDefinition* pItemDefinition)
+{
+    const auto* pItem = dynamic_cast<const IMenuItemDefinition*>(pItemDefinition);
+    if (Check(pItem != nullptr, VESK_SITE("vesk::QtCommandButtonMenu::On", L"pMenuItemDefine为空")))
+        AddMenuItem(menu(), pItem);
 }
 
 /// What is inserted does not count as a definition to those who look for the property.

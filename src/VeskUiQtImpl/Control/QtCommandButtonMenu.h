@@ -45,6 +45,7 @@ private slots:
 private:
     void AddMenuItem(QMenu* pMenu, const IMenuItemDefinition* pMenuItemDefinition);
 
+    void AppendMenuItem(const IControlDefinition* pItemDefinition);
     void InsertMenuItem(int index, const IControlDefinition* pItemDefinition);
     void SetUpItem(QAction& action, const ICommandMenuItemDefinition& definition);
     void CheckOnly(const QAction& chosen);
