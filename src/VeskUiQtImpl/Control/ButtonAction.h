@@ -15,11 +15,12 @@ namespace vesk
 {
 
 /// Makes the checkable action on which the look of a button lives, a child of that button: caption,
-/// tool tip and icon come from the definition. Null, with a warning, when it could not be made.
+/// tool tip and icon come from the definition. Null, with a warning in the name of `function`, when
+/// it could not be made.
 template <class Definition>
-QAction* CreateAction(const Definition& definition, QToolButton* pButton)
+QAction* CreateAction(const Definition& definition, QToolButton* pButton, const char* function)
 {
-    auto* pAction = CreateChild<QAction>(pButton, "vesk::CreateAction");
+    auto* pAction = CreateChild<QAction>(pButton, function);
     if (pAction == nullptr)
         return nullptr;
     pAction->setProperty(PropertyName::IsDefinition, true);

@@ -61,7 +61,7 @@ QtButton::QtButton(OwnerPtr<ICommandButtonDefinition> pControlDefinition, QWidge
                VESK_SITE("vesk::QtButton::QtButton", L"pControlDefinition为空")))
         return;
 
-    QAction* pAction = CreateAction(*m_pControlDefinition, this);
+    QAction* pAction = CreateAction(*m_pControlDefinition, this, "vesk::CreateAction");
     if (pAction != nullptr)
     {
         pAction->setChecked(m_pControlDefinition->IsChecked());

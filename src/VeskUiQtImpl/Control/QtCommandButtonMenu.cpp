@@ -40,9 +40,9 @@ MenuItems GetChildren(const IControlDefinition* pDefinition)
     return pContainer != nullptr ? pContainer->GetMenuItemDefinitions() : MenuItems();
 }
 
-QMenu* CreateMenu(QToolButton* pButton)
+QMenu* CreateMenu(QToolButton* pButton, const char* function)
 {
-    auto* pMenu = CreateChild<QMenu>(pButton, "vesk::CreateMenu");
+    auto* pMenu = CreateChild<QMenu>(pButton, function);
     if (pMenu == nullptr)
         return nullptr;
     pMenu->setProperty(PropertyName::IsDefinition, true);
@@ -60,12 +60,11 @@ std::wstring GetCommandId(const QAction& action)
 QtCommandButtonMenu::QtCommandButtonMenu(OwnerPtr<ICommandButtonMenuDefinition> pControlDefinition)
     : m_pControlDefinition(std::move(pControlDefinition))
 {
-    if (!Check(
-            m_pControlDefinition != nullptr,
-            VESK_SITE("vesk::QtCommandButtonMenu::QtCommandButtonMenu", L"pControlDefinition为空")))
+    constexpr char Function[] = "vesk::QtCommandButtonMenu::QtCommandButtonMenu";
+    if (!Check(m_pControlDefinition != nullptr, VESK_SITE(Function, L"pControlDefinition为空")))
         return;
 
-    if (QAction* pAction = CreateAction(*m_pControlDefinition, this))
+    if (QAction* pAction = CreateAction(*m_pControlDefinition, this, Function))
     {
         setDefaultAction(pAction);
         connect(pAction, &QAction::triggered, this, &QtCommandButtonMenu::OnMenuTriggered);
@@ -73,7 +72,7 @@ QtCommandButtonMenu::QtCommandButtonMenu(OwnerPtr<ICommandButtonMenuDefinition> 
     setToolButtonStyle(Qt::ToolButtonIconOnly);
     setObjectName(ToQString(m_pControlDefinition->GetId()));
     setProperty(PropertyName::IsDefinition, true);
-    setMenu(CreateMenu(this));
+    setMenu(CreateMenu(this, Function));
     setPopupMode(QToolButton::MenuButtonPopup);
     for (const IMenuItemDefinition* pItem : m_pControlDefinition->GetMenuItemDefinitions())
         AddMenuItem(menu(), pItem);
