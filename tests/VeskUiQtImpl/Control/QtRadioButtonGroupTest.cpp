@@ -78,6 +78,7 @@ private slots:
     void clickIsWrittenAsTheUsers_data() { AddEchoModes(); }
     void clickIsWrittenAsTheUsers();
     void keyIsWrittenAsTheUsers();
+    void arrowKeyIsWrittenAsTheUsers();
     void clickOnTheCheckedButtonIsWrittenAgain();
     void echoOfAClickTouchesNoButton();
     void theUsersMarksEndWithTheWriting();
@@ -164,6 +165,20 @@ void QtRadioButtonGroupTest::keyIsWrittenAsTheUsers()
     QTest::keyClick(&f.GetButton(0), Qt::Key_Space);
 
     QVERIFY((f.pDefinition->writes == Writes{{L"a", true, true}}));
+    QCOMPARE(f.notes.isByUser, std::vector<bool>{true});
+}
+
+void QtRadioButtonGroupTest::arrowKeyIsWrittenAsTheUsers()
+{
+    RadioButtonFixture f;
+    f.parent.activateWindow();
+    f.GetButton(1).setFocus();
+    QTRY_VERIFY(f.GetButton(1).hasFocus());
+
+    QTest::keyClick(&f.GetButton(1), Qt::Key_Down);
+
+    QCOMPARE(f.GetCheckedNames(), QStringList("c"));
+    QVERIFY((f.pDefinition->writes == Writes{{L"c", true, true}}));
     QCOMPARE(f.notes.isByUser, std::vector<bool>{true});
 }
 
