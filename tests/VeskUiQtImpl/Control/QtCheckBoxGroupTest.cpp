@@ -64,6 +64,7 @@ class QtCheckBoxGroupTest : public QObject
 
 private slots:
     void showsTheCheckStates();
+    void followsTheCheckStates();
     void isNotExclusive();
     void anyStateButZeroIsChecked_data();
     void anyStateButZeroIsChecked();
@@ -88,6 +89,17 @@ void QtCheckBoxGroupTest::showsTheCheckStates()
     CheckBoxFixture f;
 
     QCOMPARE(f.GetStates(), OnlyTheSecond);
+}
+
+void QtCheckBoxGroupTest::followsTheCheckStates()
+{
+    CheckBoxFixture f;
+
+    f.pDefinition->Find(L"a")->SetCheckState(2);
+    f.pDefinition->Find(L"b")->SetCheckState(0);
+
+    QCOMPARE(f.GetStates(), QList<Qt::CheckState>({Qt::Checked, Qt::Unchecked, Qt::Unchecked}));
+    QVERIFY(f.pDefinition->writes.empty());
 }
 
 void QtCheckBoxGroupTest::isNotExclusive()

@@ -74,6 +74,7 @@ private slots:
     void idThatNamesNoButtonChecksNone_data();
     void idThatNamesNoButtonChecksNone();
     void followsTheCurrentId();
+    void idThatNamesNoButtonLeavesTheCheckedOne_data();
     void idThatNamesNoButtonLeavesTheCheckedOne();
     void clickIsWrittenAsTheUsers_data() { AddEchoModes(); }
     void clickIsWrittenAsTheUsers();
@@ -137,11 +138,21 @@ void QtRadioButtonGroupTest::followsTheCurrentId()
     QCOMPARE(f.GetCheckedNames(), QStringList("c"));
 }
 
+void QtRadioButtonGroupTest::idThatNamesNoButtonLeavesTheCheckedOne_data()
+{
+    QTest::addColumn<QString>("id");
+    QTest::newRow("empty") << "";
+    QTest::newRow("unknown") << "d";
+    QTest::newRow("in capitals") << "C";
+    QTest::newRow("beginning alike") << "cc";
+}
+
 void QtRadioButtonGroupTest::idThatNamesNoButtonLeavesTheCheckedOne()
 {
+    QFETCH(QString, id);
     RadioButtonFixture f;
 
-    f.pDefinition->SetCurrentRadioButtonId(L"none");
+    f.pDefinition->SetCurrentRadioButtonId(id.toStdWString());
 
     QCOMPARE(f.GetCheckedNames(), QStringList("b"));
 }
