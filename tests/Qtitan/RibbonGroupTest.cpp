@@ -1,5 +1,8 @@
 #include "RibbonFixture.h"
 
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLineEdit>
 
 using namespace Qtitan;
@@ -16,6 +19,16 @@ private:
             return pLabel->buddy() == pWidget;
         });
         return it == labels.end() ? nullptr : *it;
+    }
+
+    static int leftOf(const RibbonFixture& f, const QWidget* pWidget)
+    {
+        return pWidget->mapTo(f.pGroup, QPoint()).x();
+    }
+
+    static int topOf(const RibbonFixture& f, const QWidget* pWidget)
+    {
+        return pWidget->mapTo(f.pGroup, QPoint()).y();
     }
 
 private slots:
@@ -35,6 +48,71 @@ private slots:
         QVERIFY(edits[2]->mapTo(f.pGroup, QPoint()).y() > edits[1]->mapTo(f.pGroup, QPoint()).y());
         QCOMPARE(edits[3]->mapTo(f.pGroup, QPoint()).y(), top.y());
         QVERIFY(edits[3]->mapTo(f.pGroup, QPoint()).x() >= top.x() + edits[0]->width());
+    }
+
+    void widgetThatStacksOthersFillsAColumnAlone_data()
+    {
+        QTest::addColumn<bool>("isGrid");
+        QTest::newRow("vertical") << false;
+        QTest::newRow("grid") << true;
+    }
+
+    void widgetThatStacksOthersFillsAColumnAlone()
+    {
+        QFETCH(bool, isGrid);
+        RibbonFixture f;
+        auto* pBefore = new QLineEdit;
+        auto* pBoxes = new QWidget;
+        auto* pAfter = new QLineEdit;
+        QLayout* pLayout = isGrid ? static_cast<QLayout*>(new QGridLayout) : new QVBoxLayout;
+        pBoxes->setLayout(pLayout);
+        for (const char* caption : {"A", "B", "C", "D"})
+            pLayout->addWidget(new QCheckBox(caption));
+
+        f.pGroup->addWidget(pBefore);
+        f.pGroup->addWidget(pBoxes);
+        f.pGroup->addWidget(pAfter);
+        f.show();
+
+        QVERIFY(leftOf(f, pBoxes) >= leftOf(f, pBefore) + pBefore->width());
+        QVERIFY(leftOf(f, pAfter) >= leftOf(f, pBoxes) + pBoxes->width());
+        QVERIFY(topOf(f, pBoxes) <= topOf(f, pBefore));
+        QCOMPARE(topOf(f, pAfter), topOf(f, pBefore));
+    }
+
+    void boxesInAColumnStandCloseTogether()
+    {
+        RibbonFixture f;
+        auto* pBoxes = new QWidget;
+        auto* pLayout = new QVBoxLayout(pBoxes);
+        auto* pFirst = new QCheckBox("A");
+        auto* pSecond = new QCheckBox("B");
+        pLayout->addWidget(pFirst);
+        pLayout->addWidget(pSecond);
+
+        f.pGroup->addWidget(pBoxes);
+        f.show();
+
+        QCOMPARE(topOf(f, pFirst), topOf(f, pBoxes));
+        QCOMPARE(topOf(f, pSecond), topOf(f, pFirst) + pFirst->height());
+        QCOMPARE(pFirst->height(), pFirst->sizeHint().height());
+    }
+
+    void rowOfBoxesIsOneRowAmongOthers()
+    {
+        RibbonFixture f;
+        auto* pEdit = new QLineEdit;
+        auto* pBoxes = new QWidget;
+        auto* pLayout = new QHBoxLayout(pBoxes);
+        pLayout->addWidget(new QCheckBox("A"));
+        pLayout->addWidget(new QCheckBox("B"));
+
+        f.pGroup->addWidget(pEdit);
+        f.pGroup->addWidget(pBoxes);
+        f.show();
+
+        QCOMPARE(leftOf(f, pBoxes), leftOf(f, pEdit));
+        QVERIFY(topOf(f, pBoxes) >= topOf(f, pEdit) + pEdit->height());
     }
 
     void hiddenWidgetTakesItsLabelAlongAndTheRowsCloseUp()

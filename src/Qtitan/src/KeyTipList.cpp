@@ -4,6 +4,7 @@
 #include "Qtitan/RibbonBar.h"
 #include "Qtitan/RibbonButtonControl.h"
 #include "Qtitan/RibbonPage.h"
+#include "RibbonControls.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -64,26 +65,6 @@ QString captionOf(const QWidget& widget, const QList<QLabel*>& labels)
     return pButton != nullptr ? pButton->text() : QString();
 }
 
-bool isReachable(const QWidget& widget)
-{
-    return qobject_cast<const QAbstractButton*>(&widget) != nullptr ||
-           (widget.focusPolicy() & Qt::TabFocus) != 0;
-}
-
-void collectTargets(const QWidget& parent, QList<QWidget*>& targets)
-{
-    const auto children = parent.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
-    for (QWidget* pChild : children)
-    {
-        if (!pChild->isVisible() || !pChild->isEnabled() || pChild->isWindow())
-            continue;
-        if (isReachable(*pChild))
-            targets.append(pChild);
-        else
-            collectTargets(*pChild, targets);
-    }
-}
-
 /// At the foot of a large button, at the left end of a widget in a row, in the middle of an arrow.
 QPoint badgeCentre(const QWidget& target, const RibbonBar& bar)
 {
@@ -116,13 +97,14 @@ KeyTipList keyTipsOfTabs(const RibbonBar& bar)
 
 KeyTipList keyTipsOfPage(const RibbonBar& bar, const RibbonPage& page)
 {
-    QList<QWidget*> targets;
-    collectTargets(page, targets);
     const QList<QLabel*> labels = page.findChildren<QLabel*>();
     const QRect shown(page.mapTo(const_cast<RibbonBar*>(&bar), QPoint()), page.size());
     KeyTipList tips;
-    for (QWidget* pTarget : targets)
+    const QList<QWidget*> controls = controlsInOrder(page);
+    for (QWidget* pTarget : controls)
     {
+        if (!pTarget->isVisible() || !pTarget->isEnabled())
+            continue;
         KeyTip tip;
         tip.pTarget = pTarget;
         tip.wish = mnemonicOf(captionOf(*pTarget, labels));

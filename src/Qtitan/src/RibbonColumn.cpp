@@ -3,6 +3,7 @@
 #include "Caption.h"
 #include "RibbonButtonFilter.h"
 
+#include <QBoxLayout>
 #include <QEvent>
 #include <QGridLayout>
 #include <QToolButton>
@@ -11,6 +12,31 @@
 
 namespace Qtitan
 {
+
+namespace
+{
+
+constexpr int BoxSpacing = 6;
+
+/// Four rows of boxes fit beside the three rows of a column.
+void tighten(QLayout& layout)
+{
+    layout.setContentsMargins(0, 0, 0, 0);
+    layout.setSpacing(0);
+    if (auto* pGrid = qobject_cast<QGridLayout*>(&layout))
+        pGrid->setHorizontalSpacing(BoxSpacing);
+}
+
+} // namespace
+
+bool isColumnOfItsOwn(const QWidget& widget)
+{
+    const auto* pBox = qobject_cast<const QBoxLayout*>(widget.layout());
+    if (pBox == nullptr)
+        return qobject_cast<const QGridLayout*>(widget.layout()) != nullptr;
+    return pBox->direction() == QBoxLayout::TopToBottom ||
+           pBox->direction() == QBoxLayout::BottomToTop;
+}
 
 RibbonColumn::RibbonColumn(QWidget* pParent) : QWidget(pParent), m_pGrid(new QGridLayout(this))
 {
@@ -32,16 +58,21 @@ void RibbonColumn::addRow(const QString& label, QWidget* pWidget)
     Row& row = m_rows.at(static_cast<std::size_t>(index));
     delete row.pLabel;
     row.pWidget = pWidget;
+    const bool isTall = isColumnOfItsOwn(*pWidget);
+    const int rowSpan = isTall ? RibbonMetrics::RowsInColumn + 1 : 1;
+    const Qt::Alignment alignment = isTall ? Qt::AlignTop : Qt::Alignment();
+    if (isTall)
+        tighten(*pWidget->layout());
     if (label.isEmpty())
     {
-        m_pGrid->addWidget(pWidget, index, 0, 1, 2);
+        m_pGrid->addWidget(pWidget, index, 0, rowSpan, 2, alignment);
     }
     else
     {
         row.pLabel = new QLabel(label, this);
         row.pLabel->setBuddy(pWidget);
         m_pGrid->addWidget(row.pLabel, index, 0);
-        m_pGrid->addWidget(pWidget, index, 1);
+        m_pGrid->addWidget(pWidget, index, 1, rowSpan, 1, alignment);
         if (pWidget->accessibleName().isEmpty())
             pWidget->setAccessibleName(plainCaption(label));
     }

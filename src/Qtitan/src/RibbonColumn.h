@@ -13,6 +13,9 @@ class QGridLayout;
 namespace Qtitan
 {
 
+/// Whether a widget stacks widgets of its own, and so fills a column alone.
+bool isColumnOfItsOwn(const QWidget& widget);
+
 /// A column of up to three widgets with their labels. Rows whose widget is hidden or deleted
 /// close up; the column is hidden when all of them are.
 class RibbonColumn final : public QWidget
@@ -25,7 +28,8 @@ public:
     /// Whether every row holds a living widget.
     bool isFull() const;
 
-    /// Puts a widget into the first free row; an empty label stands for none.
+    /// Puts a widget into the first free row; an empty label stands for none. A widget that is a
+    /// column of its own comes into an empty column, and its layout is made as tight as the rows.
     void addRow(const QString& label, QWidget* pWidget);
 
 protected:

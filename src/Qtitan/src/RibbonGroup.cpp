@@ -55,14 +55,16 @@ void RibbonGroup::addWidget(const QString& label, QWidget* pWidget)
 {
     if (pWidget == nullptr)
         return;
-    if (m_pColumn != nullptr && !m_pColumn->isFull())
+    const bool isAlone = isColumnOfItsOwn(*pWidget);
+    if (!isAlone && m_pColumn != nullptr && !m_pColumn->isFull())
     {
         m_pColumn->addRow(label, pWidget);
         return;
     }
-    m_pColumn = new RibbonColumn(this);
-    m_pColumn->addRow(label, pWidget);
-    append(m_pColumn);
+    auto* pColumn = new RibbonColumn(this);
+    pColumn->addRow(label, pWidget);
+    append(pColumn);
+    m_pColumn = isAlone ? nullptr : pColumn;
 }
 
 QSize RibbonGroup::sizeHint() const

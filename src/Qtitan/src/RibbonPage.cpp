@@ -3,6 +3,7 @@
 #include "Caption.h"
 #include "Qtitan/RibbonGroup.h"
 #include "RibbonColors.h"
+#include "RibbonControls.h"
 #include "RibbonMetrics.h"
 #include "RibbonScrollButton.h"
 
@@ -80,8 +81,15 @@ bool RibbonPage::event(QEvent* pEvent)
     {
         updateGeometry();
         arrange();
+        orderFocus(*this);
     }
     return QWidget::event(pEvent);
+}
+
+bool RibbonPage::focusNextPrevChild(bool next)
+{
+    orderFocus(*this);
+    return QWidget::focusNextPrevChild(next);
 }
 
 void RibbonPage::paintEvent(QPaintEvent*)
@@ -99,6 +107,7 @@ void RibbonPage::showEvent(QShowEvent* pEvent)
 {
     QWidget::showEvent(pEvent);
     arrange();
+    orderFocus(*this);
 }
 
 void RibbonPage::wheelEvent(QWheelEvent* pEvent)

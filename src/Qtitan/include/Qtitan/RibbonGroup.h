@@ -33,7 +33,9 @@ public:
     RibbonButtonControl* addButton(QToolButton* pButton);
 
     /// Stacks a widget; the ribbon becomes its parent. It may be hidden or deleted at any time,
-    /// and gives its place up while it is. Null is ignored.
+    /// and gives its place up while it is. Null is ignored. A widget with a vertical or a grid
+    /// layout, such as a column of boxes, fills a column alone; its layout loses margins and
+    /// spacing.
     void addWidget(QWidget* pWidget);
 
     /// The same with a text before the widget, which names it and shares its visibility. An '&'

@@ -14,6 +14,8 @@ class RibbonScrollButton;
 
 /// One page of a ribbon: groups from left to right. Where they do not fit, the page scrolls with
 /// the wheel, with a button at each edge that has more behind it, and along with the focus.
+/// Tab goes through the controls from left to right and in a column downwards, whatever the order
+/// in which they were made.
 class QTITAN_EXPORT RibbonPage : public QWidget
 {
     Q_OBJECT
@@ -38,6 +40,7 @@ public:
 
 protected:
     bool event(QEvent* pEvent) override;
+    bool focusNextPrevChild(bool next) override;
     void paintEvent(QPaintEvent* pEvent) override;
     void resizeEvent(QResizeEvent* pEvent) override;
     void showEvent(QShowEvent* pEvent) override;
