@@ -154,6 +154,31 @@ private slots:
         QVERIFY(arrow != main);
     }
 
+    void arrowIsPressedWhileTheMenuIsOpen_data()
+    {
+        QTest::addColumn<bool>("isByKey");
+        QTest::newRow("by key") << true;
+        QTest::newRow("by click") << false;
+    }
+
+    void arrowIsPressedWhileTheMenuIsOpen()
+    {
+        QFETCH(bool, isByKey);
+        MenuFixture f;
+        f.window->setPalette(paletteOf(QColor(240, 240, 240), Qt::black));
+        f.pButton->setFocus(Qt::TabFocusReason);
+        QImage image;
+        f.whenOpen([&] { image = f.drawn(); });
+
+        if (isByKey)
+            f.type(Qt::Key_Down);
+        else
+            f.click(f.arrowPlace());
+
+        QVERIFY(image.pixelColor(image.width() - 5, 4).lightness() <
+                image.pixelColor(4, 4).lightness() - 20);
+    }
+
     void clickOnTheMainPartTriggersTheActionOnly()
     {
         MenuFixture f;

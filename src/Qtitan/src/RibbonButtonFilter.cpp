@@ -19,6 +19,20 @@ bool isMenuKey(const QKeyEvent& event)
     return event.key() == Qt::Key_F4 && modifiers == Qt::NoModifier;
 }
 
+bool opensMenu(const QToolButton& button, const QEvent& event)
+{
+    if (button.menu() == nullptr)
+        return false;
+    return event.type() == QEvent::KeyPress && isMenuKey(static_cast<const QKeyEvent&>(event));
+}
+
+/// Shows the arrow pressed while the menu is open: Qt draws the button before it opens the menu,
+/// and again when it is closed.
+void updateOnceMenuIsOpen(QToolButton& button)
+{
+    QMetaObject::invokeMethod(&button, qOverload<>(&QWidget::update), Qt::QueuedConnection);
+}
+
 } // namespace
 
 bool filterRibbonButton(QToolButton& button, const QEvent& event)
@@ -28,12 +42,12 @@ bool filterRibbonButton(QToolButton& button, const QEvent& event)
         paintRibbonButton(button);
         return true;
     }
-    if (event.type() != QEvent::KeyPress || button.menu() == nullptr)
-        return false;
-    if (!isMenuKey(static_cast<const QKeyEvent&>(event)))
-        return false;
-    button.showMenu();
-    return true;
+    const bool isOpening = opensMenu(button, event);
+    if (isOpening || event.type() == QEvent::MouseButtonPress)
+        updateOnceMenuIsOpen(button);
+    if (isOpening)
+        button.showMenu();
+    return isOpening;
 }
 
 } // namespace Qtitan
