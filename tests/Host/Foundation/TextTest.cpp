@@ -11,20 +11,6 @@ Q_DECLARE_METATYPE(std::u16string)
 namespace vesk
 {
 
-namespace
-{
-
-/// `wchar_t` values that no literal can hold.
-std::wstring FromUnits(std::initializer_list<std::uint32_t> units)
-{
-    std::wstring text;
-    for (const std::uint32_t unit : units)
-        text += static_cast<wchar_t>(unit);
-    return text;
-}
-
-}
-
 class TextTest : public QObject
 {
     Q_OBJECT
@@ -38,6 +24,7 @@ private slots:
     void aLoneSurrogateBecomesTheReplacement_data();
     void aLoneSurrogateBecomesTheReplacement();
     void aLoneSurrogateOfFourByteUnitsBecomesTheReplacement();
+    void aUnitBeyondUnicodeBecomesTheReplacement_data();
     void aUnitBeyondUnicodeBecomesTheReplacement();
     void whatIsNoUtf8BecomesTheReplacement_data();
     void whatIsNoUtf8BecomesTheReplacement();
@@ -129,14 +116,22 @@ void TextTest::aLoneSurrogateOfFourByteUnitsBecomesTheReplacement()
                                                      "b"));
 }
 
+void TextTest::aUnitBeyondUnicodeBecomesTheReplacement_data()
+{
+    QTest::addColumn<std::string>("utf8");
+
+    const std::u32string wide{0x110000, 0xFFFFFFFF, 0x80000000};
+    QTest::newRow("char32_t") << WideToUtf8<char32_t>(wide);
+    // A two-byte unit holds nothing beyond Unicode.
+    if constexpr (sizeof(wchar_t) == sizeof(char32_t))
+        QTest::newRow("wchar_t") << ToUtf8(std::wstring(wide.begin(), wide.end()));
+}
+
 void TextTest::aUnitBeyondUnicodeBecomesTheReplacement()
 {
-    if (sizeof(wchar_t) == 2)
-        QSKIP("a two-byte unit holds nothing beyond Unicode");
+    QFETCH(std::string, utf8);
 
-    const std::wstring wide = FromUnits({0x110000, 0xFFFFFFFF, 0x80000000});
-
-    QCOMPARE(ToUtf8(wide), std::string("\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD"));
+    QCOMPARE(utf8, std::string("\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD"));
 }
 
 void TextTest::whatIsNoUtf8BecomesTheReplacement_data()
