@@ -1,8 +1,11 @@
 #include "Drawing.h"
 
+#include "Journal/JournalFormat.h"
+
 #include <nlohmann/json.hpp>
 
 #include <QFile>
+#include <QTest>
 
 #include <cmath>
 
@@ -24,12 +27,30 @@ QVector<DrawnLine> ReadModel(const QString& path)
     if (model.is_discarded())
         return lines;
     for (const nlohmann::json& entity : model["entities"])
-        lines.push_back({entity["start"], entity["end"]});
+        lines.push_back({entity["start"], entity["end"],
+                         QString::fromStdString(entity["style"].get<std::string>()),
+                         QString::fromStdString(entity["colour"].get<std::string>())});
     return lines;
+}
+
+std::vector<vesk::JournalRecord> ReadJournal(const QString& path)
+{
+    std::vector<vesk::JournalRecord> records;
+    std::string error;
+    if (!vesk::JournalFormat::ReadFile(path.toStdString(), records, error))
+        QTest::qFail(error.c_str(), __FILE__, __LINE__);
+    return records;
 }
 
 QByteArray ReadFile(const QString& path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void WriteFile(const QString& path, const QByteArray& content)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(content), content.size());
 }

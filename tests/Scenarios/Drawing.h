@@ -1,16 +1,21 @@
 #pragma once
 
+#include "Journal/JournalRecord.h"
+
 #include <QString>
 #include <QVector>
 
 #include <array>
 #include <cstddef>
+#include <vector>
 
 /// A line of a model file.
 struct DrawnLine
 {
     std::array<double, 3> start;
     std::array<double, 3> end;
+    QString style;
+    QString colour;
 
     /// From start to end along an axis: 0 is x.
     double Way(std::size_t axis) const { return end[axis] - start[axis]; }
@@ -23,5 +28,24 @@ struct DrawnLine
 /// The lines of a model file; empty when it cannot be read.
 QVector<DrawnLine> ReadModel(const QString& path);
 
+/// The records of a journal; the test fails when a line of it is bad.
+std::vector<vesk::JournalRecord> ReadJournal(const QString& path);
+
+/// The records of one kind, in their order.
+template <class Record>
+std::vector<Record> RecordsOf(const std::vector<vesk::JournalRecord>& records)
+{
+    std::vector<Record> found;
+    for (const vesk::JournalRecord& record : records)
+    {
+        if (const auto* pRecord = std::get_if<Record>(&record.what))
+            found.push_back(*pRecord);
+    }
+    return found;
+}
+
 /// The whole file.
 QByteArray ReadFile(const QString& path);
+
+/// Replaces a file; the test fails when it cannot be written.
+void WriteFile(const QString& path, const QByteArray& content);

@@ -1,9 +1,8 @@
 #include "Drawing.h"
 #include "ScenarioFixture.h"
 #include "ScriptedUser.h"
+#include "SketcherProcess.h"
 
-#include <QFile>
-#include <QProcess>
 #include <QTest>
 
 #include <algorithm>
@@ -14,13 +13,6 @@ namespace
 
 const QString s_line = QStringLiteral("Sketcher.Line");
 const QString s_erase = QStringLiteral("Sketcher.Erase");
-
-void WriteFile(const QString& path, const QByteArray& content)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(content);
-}
 
 /// Every kind of record, with values that no decimal fraction holds.
 void DrawSomething(ScriptedUser& user)
@@ -37,25 +29,6 @@ QList<QByteArray> SortedLines(const QString& path)
     QList<QByteArray> lines = ReadFile(path).split('\n');
     std::sort(lines.begin(), lines.end());
     return lines;
-}
-
-/// The program itself, run on a journal.
-struct Outcome
-{
-    int code = -1;
-    QString error;
-};
-
-Outcome RunSketcher(const QStringList& arguments, const QStringList& environment = {})
-{
-    QProcess process;
-    QStringList variables = QProcess::systemEnvironment();
-    process.setEnvironment(variables << environment);
-    process.start(QCoreApplication::applicationDirPath() + QStringLiteral("/../bin/sketcher"),
-                  arguments);
-    if (!process.waitForFinished())
-        return {};
-    return {process.exitCode(), QString::fromUtf8(process.readAllStandardError())};
 }
 
 }

@@ -4,12 +4,17 @@
 #include "SketchView.h"
 #include "SketcherWindow.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
+#include <QComboBox>
+#include <QMenu>
 #include <QMouseEvent>
+#include <QStyleOptionToolButton>
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
 
+#include <algorithm>
 #include <utility>
 
 using vesk::Vector3d;
@@ -28,6 +33,27 @@ QPoint PixelOf(const SketchView& view, double x, double y)
     return {qRound(pixelX), qRound(pixelY)};
 }
 
+QPoint ArrowOf(const QToolButton& button)
+{
+    QStyleOptionToolButton option;
+    option.initFrom(&button);
+    option.features = QStyleOptionToolButton::HasMenu | QStyleOptionToolButton::MenuButtonPopup;
+    option.subControls = QStyle::SC_ToolButton | QStyle::SC_ToolButtonMenu;
+    return button.style()
+        ->subControlRect(QStyle::CC_ToolButton, &option, QStyle::SC_ToolButtonMenu, &button)
+        .center();
+}
+
+QMenu* MenuOf(const QAction& entry)
+{
+    return qobject_cast<QMenu*>(entry.parentWidget());
+}
+
+void ClickEntry(QMenu& menu, QAction& entry)
+{
+    QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(&entry).center());
+}
+
 QWidget* KeyboardTarget()
 {
     QWidget* pFocus = QApplication::focusWidget();
@@ -39,10 +65,48 @@ QWidget* KeyboardTarget()
 ScriptedUser& ScriptedUser::Click(const QString& controlId)
 {
     Until([controlId] {
-        const QToolButton* pButton = FindButton(controlId);
+        const QAbstractButton* pButton = FindButton(controlId);
         return pButton != nullptr && pButton->isEnabled();
     });
     return Do([controlId] { QTest::mouseClick(FindButton(controlId), Qt::LeftButton); });
+}
+
+ScriptedUser& ScriptedUser::OpenMenu(const QString& buttonId)
+{
+    Do([buttonId] {
+        QToolButton* pButton = FindMenuButton(buttonId);
+        QTest::mouseClick(pButton, Qt::LeftButton, {}, ArrowOf(*pButton));
+    });
+    return Until([buttonId] { return FindMenuButton(buttonId)->menu()->isVisible(); });
+}
+
+ScriptedUser& ScriptedUser::Choose(const QString& buttonId, const QString& commandId)
+{
+    OpenMenu(buttonId);
+    Do([buttonId, commandId] {
+        QMenu* pMenu = FindMenuButton(buttonId)->menu();
+        QMenu* pSubMenu = MenuOf(*FindEntry(commandId));
+        if (pSubMenu != pMenu)
+            ClickEntry(*pMenu, *pSubMenu->menuAction());
+    });
+    Until([commandId] { return MenuOf(*FindEntry(commandId))->isVisible(); });
+    return Do([commandId] {
+        QAction* pEntry = FindEntry(commandId);
+        ClickEntry(*MenuOf(*pEntry), *pEntry);
+    });
+}
+
+ScriptedUser& ScriptedUser::ChooseItem(const QString& boxId, int index)
+{
+    Do([boxId] { QTest::mouseClick(FindBox(boxId), Qt::LeftButton); });
+    Until([boxId] { return FindBox(boxId)->view()->isVisible(); });
+    return Do([boxId, index] {
+        QAbstractItemView* pList = FindBox(boxId)->view();
+        QTest::keyClick(pList, Qt::Key_Home);
+        for (int i = 0; i < index; ++i)
+            QTest::keyClick(pList, Qt::Key_Down);
+        QTest::keyClick(pList, Qt::Key_Return);
+    });
 }
 
 ScriptedUser& ScriptedUser::MoveTo(double x, double y)
@@ -56,10 +120,11 @@ ScriptedUser& ScriptedUser::MoveTo(double x, double y)
     });
 }
 
-ScriptedUser& ScriptedUser::ClickAt(double x, double y)
+ScriptedUser& ScriptedUser::ClickAt(double x, double y, Qt::KeyboardModifiers modifiers)
 {
-    return Do(
-        [x, y] { QTest::mouseClick(FindView(), Qt::LeftButton, {}, PixelOf(*FindView(), x, y)); });
+    return Do([x, y, modifiers] {
+        QTest::mouseClick(FindView(), Qt::LeftButton, modifiers, PixelOf(*FindView(), x, y));
+    });
 }
 
 ScriptedUser& ScriptedUser::Type(const QString& text)
@@ -121,9 +186,28 @@ SketchView* ScriptedUser::FindView()
     return &FindWindow()->GetView();
 }
 
-QToolButton* ScriptedUser::FindButton(const QString& controlId)
+QAbstractButton* ScriptedUser::FindButton(const QString& controlId)
+{
+    return FindWindow()->findChild<QAbstractButton*>(controlId);
+}
+
+QToolButton* ScriptedUser::FindMenuButton(const QString& controlId)
 {
     return FindWindow()->findChild<QToolButton*>(controlId);
+}
+
+QComboBox* ScriptedUser::FindBox(const QString& controlId)
+{
+    return FindWindow()->findChild<QComboBox*>(controlId);
+}
+
+QAction* ScriptedUser::FindEntry(const QString& commandId)
+{
+    const QList<QAction*> actions = FindWindow()->findChildren<QAction*>();
+    const auto found = std::find_if(actions.begin(), actions.end(), [&](const QAction* pAction) {
+        return pAction->property("CommandId").toString() == commandId;
+    });
+    return found != actions.end() ? *found : nullptr;
 }
 
 void ScriptedUser::Schedule()

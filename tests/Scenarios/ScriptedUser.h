@@ -10,6 +10,9 @@
 #include <deque>
 #include <functional>
 
+class QAbstractButton;
+class QAction;
+class QComboBox;
 class QToolButton;
 class SketchView;
 class SketcherWindow;
@@ -23,12 +26,22 @@ class ScriptedUser final : public QObject
     Q_OBJECT
 
 public:
-    /// Clicks the ribbon button with that id, once it is enabled.
+    /// Clicks the button of any kind with that id, once it is enabled.
     ScriptedUser& Click(const QString& controlId);
+
+    /// Clicks the arrow of a button with a menu, and waits until the menu is open.
+    ScriptedUser& OpenMenu(const QString& buttonId);
+
+    /// Opens the menu of a button, and the sub-menu that holds the entry, and clicks the entry of
+    /// that command.
+    ScriptedUser& Choose(const QString& buttonId, const QString& commandId);
+
+    /// Opens the list of a combo box with the mouse and takes an item of it with the keys.
+    ScriptedUser& ChooseItem(const QString& boxId, int index);
 
     /// Moves the mouse to, or clicks at, a world point.
     ScriptedUser& MoveTo(double x, double y);
-    ScriptedUser& ClickAt(double x, double y);
+    ScriptedUser& ClickAt(double x, double y, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
     /// Types each character as a key of its own, wherever the keyboard is.
     ScriptedUser& Type(const QString& text);
@@ -46,7 +59,12 @@ public:
     /// The window and its view, inside a step.
     static SketcherWindow* FindWindow();
     static SketchView* FindView();
-    static QToolButton* FindButton(const QString& controlId);
+    static QAbstractButton* FindButton(const QString& controlId);
+    static QToolButton* FindMenuButton(const QString& controlId);
+    static QComboBox* FindBox(const QString& controlId);
+
+    /// The entry of a command in a menu; null when there is none.
+    static QAction* FindEntry(const QString& commandId);
 
 private:
     /// True when the step is done, false to try it again.
