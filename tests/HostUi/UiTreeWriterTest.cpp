@@ -7,6 +7,7 @@
 #include <nlohmann/json.hpp>
 
 #include <QAction>
+#include <QButtonGroup>
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QFile>
@@ -96,6 +97,19 @@ private slots:
 
         QVERIFY(Read()["controls"][0]["visible"] == false);
         QVERIFY(Read()["controls"][0]["enabled"] == false);
+    }
+
+    void groupIsDisabledWithWhatHoldsIt()
+    {
+        auto* pGroup = new QButtonGroup(m_pButton);
+        pGroup->setProperty("IsDefinition", true);
+        QVERIFY(m_pWriter->Write());
+        QVERIFY(Read()["controls"][1]["enabled"] == true);
+
+        m_pButton->setEnabled(false);
+        QVERIFY(m_pWriter->Write());
+
+        QVERIFY(Read()["controls"][1]["enabled"] == false);
     }
 
     void changeIsWrittenWhenTheLoopIsIdle()

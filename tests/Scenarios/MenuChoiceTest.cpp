@@ -4,7 +4,6 @@
 #include "SketchView.h"
 #include "SketcherProcess.h"
 
-#include "Command/ActionManager.h"
 #include "Command/Command.h"
 #include "Command/IAction.h"
 #include "Command/ICommandManager.h"
@@ -32,7 +31,7 @@ const QString s_double = QStringLiteral("Sketcher.Zoom.Scale.200");
 
 bool IsRunning(const QString& commandId)
 {
-    return vesk::ActionManager::GetRunningCommandId() == commandId.toStdWString();
+    return ScriptedUser::IsRunning(commandId);
 }
 
 double PixelsPerUnit()
@@ -168,7 +167,7 @@ private slots:
         if (!toolBefore.isEmpty())
             user.Click(toolBefore);
         user.Click(s_line).ClickAt(0, 0).Choose(s_zoom, s_window);
-        user.Until([] { return IsRunning(s_window); });
+        user.UntilRunning(s_window);
         user.ClickAt(-40, -40).ClickAt(40, 40);
         user.Until([] { return IsRunning("") && PixelsPerUnit() > 1.5; });
 
@@ -250,7 +249,7 @@ private slots:
         for (int i = 0; i < Choices; ++i)
         {
             user.Click(s_line).ClickAt(0, 0).Choose(s_zoom, s_window);
-            user.Until([] { return IsRunning(s_window); });
+            user.UntilRunning(s_window);
             user.Do([&stack] { stack.Note(); });
         }
 
@@ -271,8 +270,8 @@ private slots:
         });
         user.Click(s_line).ClickAt(0, 0);
         user.Until([] { return ScriptedUser::FindEntry(s_zoomIn)->isEnabled(); });
-        user.Choose(s_zoom, s_zoomIn).Until([] { return IsRunning(""); });
-        user.Click(s_erase).Until([] { return IsRunning(s_erase); });
+        user.Choose(s_zoom, s_zoomIn).UntilRunning("");
+        user.Click(s_erase).UntilRunning(s_erase);
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
         QCOMPARE(runs, 0);
@@ -291,7 +290,7 @@ private slots:
         });
         user.Click(s_erase).Click(s_line).ClickAt(0, 0);
         user.Until([] { return ScriptedUser::FindEntry(s_zoomIn)->isEnabled(); });
-        user.Choose(s_zoom, s_zoomIn).Until([] { return IsRunning(""); });
+        user.Choose(s_zoom, s_zoomIn).UntilRunning("");
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
         QCOMPARE(runs, 0);
@@ -324,7 +323,7 @@ private slots:
         ScriptedUser user;
 
         user.Click(s_line).ClickAt(0, 0).ClickAt(50, 0).Click(s_zoom);
-        user.Until([] { return IsRunning(""); });
+        user.UntilRunning("");
         user.Do([] { QCOMPARE(PixelsPerUnit(), 1.0); });
         user.Click(s_zoom).Until([] { return PixelsPerUnit() > 1.5; });
 

@@ -4,6 +4,8 @@
 #include "SketchView.h"
 #include "SketcherWindow.h"
 
+#include "Command/ActionManager.h"
+
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
@@ -127,6 +129,12 @@ ScriptedUser& ScriptedUser::ClickAt(double x, double y, Qt::KeyboardModifiers mo
     });
 }
 
+ScriptedUser& ScriptedUser::DrawLine(double startX, double startY, double endX, double endY)
+{
+    Click(QStringLiteral("Sketcher.Line")).ClickAt(startX, startY).ClickAt(endX, endY);
+    return Press(Qt::Key_Escape).UntilRunning(QString());
+}
+
 ScriptedUser& ScriptedUser::Type(const QString& text)
 {
     for (const QChar character : text)
@@ -146,6 +154,11 @@ ScriptedUser& ScriptedUser::Do(std::function<void()> step)
         return true;
     });
     return *this;
+}
+
+ScriptedUser& ScriptedUser::UntilRunning(const QString& commandId)
+{
+    return Until([commandId] { return IsRunning(commandId); });
 }
 
 ScriptedUser& ScriptedUser::Until(std::function<bool()> condition)
@@ -199,6 +212,11 @@ QToolButton* ScriptedUser::FindMenuButton(const QString& controlId)
 QComboBox* ScriptedUser::FindBox(const QString& controlId)
 {
     return FindWindow()->findChild<QComboBox*>(controlId);
+}
+
+bool ScriptedUser::IsRunning(const QString& commandId)
+{
+    return vesk::ActionManager::GetRunningCommandId() == commandId.toStdWString();
 }
 
 QAction* ScriptedUser::FindEntry(const QString& commandId)

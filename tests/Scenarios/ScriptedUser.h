@@ -43,12 +43,18 @@ public:
     ScriptedUser& MoveTo(double x, double y);
     ScriptedUser& ClickAt(double x, double y, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
+    /// Draws one line between two world points and ends the tool.
+    ScriptedUser& DrawLine(double startX, double startY, double endX, double endY);
+
     /// Types each character as a key of its own, wherever the keyboard is.
     ScriptedUser& Type(const QString& text);
     ScriptedUser& Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
     /// Does something else, or checks something.
     ScriptedUser& Do(std::function<void()> step);
+
+    /// Waits until that command's action runs; none when empty.
+    ScriptedUser& UntilRunning(const QString& commandId);
 
     /// Waits until the condition holds; the test fails after five seconds.
     ScriptedUser& Until(std::function<bool()> condition);
@@ -62,6 +68,9 @@ public:
     static QAbstractButton* FindButton(const QString& controlId);
     static QToolButton* FindMenuButton(const QString& controlId);
     static QComboBox* FindBox(const QString& controlId);
+
+    /// True while that command's action runs; empty: while none does.
+    static bool IsRunning(const QString& commandId);
 
     /// The entry of a command in a menu; null when there is none.
     static QAction* FindEntry(const QString& commandId);

@@ -54,7 +54,7 @@ bool IsOnScreen(const QWidget& widget)
     return widget.isVisible() && !widget.visibleRegion().isEmpty();
 }
 
-/// A menu that hangs on something disabled cannot be opened.
+/// What hangs on something disabled cannot be used.
 bool IsReachable(const QWidget* pWidget)
 {
     while (pWidget != nullptr && pWidget->isEnabled())
@@ -103,7 +103,8 @@ Json DescribeControl(QObject& object)
     control["text"] = ShownText(object).toStdString();
     control["rect"] = nullptr;
     control["visible"] = false;
-    control["enabled"] = true;
+    // What is no widget, a group of buttons, can be used where what holds it can be.
+    control["enabled"] = IsReachable(qobject_cast<QWidget*>(object.parent()));
     if (const auto* pWidget = qobject_cast<const QWidget*>(&object))
         DescribeWidget(*pWidget, control);
     if (auto* pAction = qobject_cast<QAction*>(&object))

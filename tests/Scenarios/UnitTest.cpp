@@ -1,0 +1,163 @@
+#include "Drawing.h"
+#include "ScenarioFixture.h"
+#include "ScriptedUser.h"
+#include "SketchView.h"
+#include "SketcherProcess.h"
+
+#include "Dimension/TemporaryDimensionMgr.h"
+
+#include <QAbstractButton>
+#include <QTest>
+
+#include <memory>
+#include <vector>
+
+namespace
+{
+
+constexpr double Tolerance = 1e-9;
+
+const QString s_line = QStringLiteral("Sketcher.Line");
+
+bool IsInputting()
+{
+    return vesk::TemporaryDimensionMgr::GetInstance()->IsInputting();
+}
+
+}
+
+/// Lengths typed in another unit than the model's.
+class UnitTest final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { m_pFixture = std::make_unique<ScenarioFixture>(); }
+
+    void cleanup()
+    {
+        QCOMPARE(m_pFixture->GetWarnings(), QStringList());
+        m_pFixture.reset();
+    }
+
+    void typedLengthIsOfTheChosenUnit_data()
+    {
+        QTest::addColumn<QString>("unit");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<double>("millimetres");
+
+        QTest::newRow("mm") << "Sketcher.Unit.mm"
+                            << "12" << 12.0;
+        QTest::newRow("cm") << "Sketcher.Unit.cm"
+                            << "12" << 120.0;
+        QTest::newRow("m") << "Sketcher.Unit.m"
+                           << "0.25" << 250.0;
+        QTest::newRow("inch") << "Sketcher.Unit.inch"
+                              << "2" << 50.8;
+    }
+
+    void typedLengthIsOfTheChosenUnit()
+    {
+        QFETCH(QString, unit);
+        QFETCH(QString, typed);
+        QFETCH(double, millimetres);
+        ScriptedUser user;
+
+        user.Click(unit).Do([unit] { QVERIFY(ScriptedUser::FindButton(unit)->isChecked()); });
+        user.Click(s_line).ClickAt(0, 0).Type(typed).Press(Qt::Key_Tab).Type("30");
+        user.Press(Qt::Key_Return);
+
+        QCOMPARE(user.Run(m_pFixture->Draw()), 0);
+        const QVector<DrawnLine> lines = Model();
+        QCOMPARE(lines.size(), 1);
+        QVERIFY(qAbs(lines[0].Length() - millimetres) <= Tolerance);
+        QVERIFY(qAbs(lines[0].Angle() - 30.0) <= Tolerance);
+    }
+
+    void journalHoldsWhatWasTypedAndTheModelsValue()
+    {
+        ScriptedUser user;
+
+        user.Click("Sketcher.Unit.cm").Click(s_line).ClickAt(0, 0).Type("12");
+        user.Press(Qt::Key_Tab).Type("45").Press(Qt::Key_Return);
+
+        QCOMPARE(user.Run(m_pFixture->Draw()), 0);
+        const auto values = RecordsOf<vesk::ValueRecord>(ReadJournal(Journal()));
+        QCOMPARE(values.size(), std::size_t{2});
+        QCOMPARE(QString::fromStdWString(values[0].text), QString("12"));
+        QCOMPARE(values[0].value, 120.0);
+        QCOMPARE(values[1].value, 45.0);
+    }
+
+    void replayInAnotherUnitGivesTheSameModel()
+    {
+        ScriptedUser user;
+
+        user.Click("Sketcher.Unit.inch").Click(s_line).ClickAt(3, 7).Type("1.7");
+        user.Press(Qt::Key_Tab).Type("12.5").Press(Qt::Key_Return);
+        user.Click("Sketcher.Unit.m").ClickAt(-60, 90).Type("0.0333").Press(Qt::Key_Return);
+
+        // A replay shows millimetres.
+        QCOMPARE(user.Run(m_pFixture->Draw()), 0);
+        const QString replayed = m_pFixture->File("replayed");
+        const Outcome outcome = RunSketcher({"--replay", Journal(), "--model", replayed});
+        QCOMPARE(outcome.code, 0);
+        QCOMPARE(outcome.error, QString());
+        QCOMPARE(Model().size(), 3);
+        QCOMPARE(ReadFile(replayed), ReadFile(m_pFixture->File("model")));
+    }
+
+    void otherUnitEndsWhatIsBeingTyped()
+    {
+        ScriptedUser user;
+
+        user.Click(s_line).ClickAt(0, 0).Type("12").Do([] { QVERIFY(IsInputting()); });
+        user.Click("Sketcher.Unit.cm").Do([] {
+            QVERIFY(!IsInputting());
+            QVERIFY(ScriptedUser::IsRunning(s_line));
+        });
+        user.ClickAt(80, 60).ClickAt(200, 60);
+
+        QCOMPARE(user.Run(m_pFixture->Draw()), 0);
+        const QVector<DrawnLine> lines = Model();
+        QCOMPARE(lines.size(), 2);
+        QVERIFY(qAbs(lines[0].Length() - 100.0) <= 1.0);
+        QCOMPARE(RecordsOf<vesk::ValueRecord>(ReadJournal(Journal())).size(), std::size_t{0});
+    }
+
+    void sameUnitAgainKeepsWhatIsBeingTyped()
+    {
+        ScriptedUser user;
+
+        user.Click("Sketcher.Unit.cm").Click(s_line).ClickAt(0, 0).Type("12");
+        user.Click("Sketcher.Unit.cm").Do([] { QVERIFY(IsInputting()); });
+        user.ClickAt(0, 200);
+
+        QCOMPARE(user.Run(m_pFixture->Draw()), 0);
+        const QVector<DrawnLine> lines = Model();
+        QCOMPARE(lines.size(), 1);
+        QVERIFY(qAbs(lines[0].Length() - 120.0) <= Tolerance);
+    }
+
+    void lengthLockedBeforeTheUnitWasChangedStays()
+    {
+        ScriptedUser user;
+
+        user.Click(s_line).ClickAt(0, 0).Type("50").Press(Qt::Key_Tab).Press(Qt::Key_Escape);
+        user.Click("Sketcher.Unit.cm").ClickAt(0, 200);
+
+        QCOMPARE(user.Run(m_pFixture->Draw()), 0);
+        const QVector<DrawnLine> lines = Model();
+        QCOMPARE(lines.size(), 1);
+        QVERIFY(qAbs(lines[0].Length() - 50.0) <= Tolerance);
+    }
+
+private:
+    QString Journal() const { return m_pFixture->File("journal"); }
+    QVector<DrawnLine> Model() const { return ReadModel(m_pFixture->File("model")); }
+
+    std::unique_ptr<ScenarioFixture> m_pFixture;
+};
+
+QTEST_MAIN(UnitTest)
+#include "UnitTest.moc"
