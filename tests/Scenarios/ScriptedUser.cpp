@@ -24,7 +24,7 @@ using vesk::Vector3d;
 namespace
 {
 
-constexpr qint64 PatienceMs = 5000;
+constexpr qint64 PatienceMs = 20000;
 
 QPoint PixelOf(const SketchView& view, double x, double y)
 {

@@ -56,7 +56,7 @@ public:
     /// Waits until that command's action runs; none when empty.
     ScriptedUser& UntilRunning(const QString& commandId);
 
-    /// Waits until the condition holds; the test fails after five seconds.
+    /// Waits until the condition holds; the test fails after twenty seconds.
     ScriptedUser& Until(std::function<bool()> condition);
 
     /// Runs a session with these options and returns its exit code.
