@@ -4,6 +4,7 @@
 #include "Command/Command.h"
 #include "Command/IAction.h"
 #include "Command/ICommandManager.h"
+#include "Control/CheckBoxGroupDefinition.h"
 #include "Control/CommandButtonDefinition.h"
 #include "Control/ILabelDefinition.h"
 #include "Control/LabelDefinition.h"
@@ -12,6 +13,7 @@
 #include "HostUi/UiApplication.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QEventLoop>
 #include <QLabel>
 #include <QPointer>
@@ -159,6 +161,39 @@ private slots:
 
         QVERIFY(livedInTheAction);
         QVERIFY(pButton == nullptr);
+    }
+
+    void tabAndArrowsReachEveryBoxOfAGroup_data()
+    {
+        QTest::addColumn<int>("key");
+
+        QTest::newRow("tab") << static_cast<int>(Qt::Key_Tab);
+        QTest::newRow("arrow") << static_cast<int>(Qt::Key_Right);
+    }
+
+    void tabAndArrowsReachEveryBoxOfAGroup()
+    {
+        QFETCH(int, key);
+        auto opDefinition = MakeOwner<CheckBoxGroupDefinition>(L"Snap");
+        for (const wchar_t* pId : {L"End", L"Middle", L"Centre"})
+            opDefinition->AddCheckBox(MakeOwner<CheckBoxDefinition>(pId, pId));
+        QWidget* pBoxes =
+            m_pControls->Create(OwnerPtr<ICheckBoxGroupDefinition>(std::move(opDefinition)));
+        m_pPanel->layout()->addWidget(pBoxes);
+        pBoxes->show();
+        m_pControls->RefreshControls();
+        m_pPanel->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_pPanel.get()));
+
+        QStringList reached;
+        m_pPanel->findChild<QAbstractButton*>("End")->setFocus();
+        for (int i = 0; i < 3; ++i)
+        {
+            reached << QApplication::focusWidget()->objectName();
+            QTest::keyClick(QApplication::focusWidget(), static_cast<Qt::Key>(key));
+        }
+
+        QCOMPARE(reached, QStringList({"End", "Middle", "Centre"}));
     }
 
     void unknownControlCannotBeRemoved()

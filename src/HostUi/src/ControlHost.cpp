@@ -13,6 +13,7 @@
 #include "Control/IProgressBarDefinition.h"
 #include "Control/IRadioButtonGroupDefinition.h"
 #include "Control/VeskIControlFactory.h"
+#include "TabStopGuard.h"
 #include "WheelGuard.h"
 
 #include <QAbstractButton>
@@ -69,12 +70,14 @@ public:
         destroy();
     }
 
-    void Place(const QList<QAbstractButton*>& buttons)
+    void Place(const QButtonGroup& group)
     {
         auto* pLayout = static_cast<QHBoxLayout*>(layout());
-        for (QAbstractButton* pButton : buttons)
+        for (QAbstractButton* pButton : group.buttons())
             pLayout->addWidget(pButton);
         pLayout->addStretch();
+        if (!group.exclusive())
+            TabStopGuard::Protect(group.buttons(), *this);
     }
 };
 
@@ -195,7 +198,7 @@ QWidget* ControlHost::CreateGroup(
     const auto* pGroup = dynamic_cast<const QButtonGroup*>(opControl.Get());
     if (pGroup == nullptr)
         return nullptr;
-    pPanel->Place(pGroup->buttons());
+    pPanel->Place(*pGroup);
     pPanel->DropNativeWindow();
     m_controls.push_back({std::move(opControl), pPanel.get()});
     return pPanel.release();
