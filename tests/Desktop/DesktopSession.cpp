@@ -83,6 +83,25 @@ bool DesktopSession::Click(const QString& id)
     return isThere && m_input.Click(place);
 }
 
+bool DesktopSession::OpenMenu(const QString& buttonId, const QString& commandId)
+{
+    constexpr int FromTheEdge = 4;
+    QPoint place;
+    const bool isThere = WaitFor([&](const UiTree& tree) {
+        const std::optional<UiControl> button = tree.FindControl(buttonId);
+        if (!button || !button->isVisible || !button->isEnabled)
+            return false;
+        place = QPoint(button->rect.right() - FromTheEdge, button->rect.center().y());
+        return true;
+    });
+    return isThere && m_input.Click(place) && WaitForEntry(commandId);
+}
+
+bool DesktopSession::ClickEntry(const QString& commandId)
+{
+    return WaitForEntry(commandId) && m_input.Click(m_tree.FindEntry(commandId)->rect.center());
+}
+
 bool DesktopSession::ClickView(QPointF world)
 {
     return Refresh() && m_input.Click(ToScreen(world));
@@ -113,6 +132,34 @@ QPoint DesktopSession::ToScreen(QPointF world) const
 bool DesktopSession::Type(const QString& text, const QStringList& keysAfterwards)
 {
     return m_input.Keys(InputDriver::Text(text) + keysAfterwards);
+}
+
+bool DesktopSession::WaitForText(const QString& controlId, const QString& text)
+{
+    return WaitFor([&](const UiTree& tree) {
+        const std::optional<UiControl> control = tree.FindControl(controlId);
+        return control && control->text == text;
+    });
+}
+
+bool DesktopSession::WaitForChecked(const QString& controlId, bool isChecked)
+{
+    return WaitFor([&](const UiTree& tree) {
+        const std::optional<UiControl> control = tree.FindControl(controlId);
+        return control && control->isChecked == isChecked;
+    });
+}
+
+bool DesktopSession::WaitForEntry(const QString& commandId)
+{
+    return WaitFor([&](const UiTree& tree) { return tree.FindEntry(commandId).has_value(); });
+}
+
+bool DesktopSession::WaitForScale(double pixelsPerUnit)
+{
+    return WaitFor([&](const UiTree& tree) {
+        return tree.FindView() && qAbs(tree.FindView()->worldPerPixel * pixelsPerUnit - 1.0) < 1e-9;
+    });
 }
 
 bool DesktopSession::WaitForAction(const QString& commandId)

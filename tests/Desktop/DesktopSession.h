@@ -49,6 +49,12 @@ public:
     /// Clicks the control with that id. False when it is not on screen within a few seconds.
     bool Click(const QString& id);
 
+    /// Opens the menu of a button by its arrow and waits for the entry of that command.
+    bool OpenMenu(const QString& buttonId, const QString& commandId);
+
+    /// Clicks the entry of an open menu.
+    bool ClickEntry(const QString& commandId);
+
     /// Clicks the place of a world point in the view.
     bool ClickView(QPointF world);
     bool MoveInView(QPointF world);
@@ -72,6 +78,10 @@ public:
     /// Waits until nothing has moved for a quarter of a second.
     bool WaitForRest();
 
+    bool WaitForText(const QString& controlId, const QString& text);
+    bool WaitForChecked(const QString& controlId, bool isChecked);
+    bool WaitForEntry(const QString& commandId);
+    bool WaitForScale(double pixelsPerUnit);
     bool WaitForAction(const QString& commandId);
     bool WaitForEntities(int count);
     bool WaitForEditor(const QString& text);

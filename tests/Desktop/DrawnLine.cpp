@@ -43,6 +43,8 @@ QVector<DrawnLine> ReadLines(const QString& modelFile)
         DrawnLine line;
         ReadPoint(entity["start"], line.start);
         ReadPoint(entity["end"], line.end);
+        line.style = entity["style"].toString();
+        line.colour = entity["colour"].toString();
         lines << line;
     }
     return lines;

@@ -12,6 +12,8 @@ struct DrawnLine
 {
     double start[3] = {};
     double end[3] = {};
+    QString style;
+    QString colour;
 
     double GetLength() const;
 

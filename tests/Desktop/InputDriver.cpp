@@ -113,6 +113,13 @@ bool InputDriver::HasWindowAt(const QRect& rect) const
     return false;
 }
 
+int InputDriver::CountWindows() const
+{
+    QByteArray windows;
+    Run("xdotool", {"search", "--onlyvisible", "--class", "sketcher"}, &windows);
+    return windows.count('\n');
+}
+
 bool InputDriver::WaitForWindowManager() const
 {
     // It serves one thing after the other: when it has taken this request, it has let the click

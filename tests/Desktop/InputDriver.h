@@ -38,6 +38,9 @@ public:
     /// True when the server shows a window at exactly that place.
     bool HasWindowAt(const QRect& rect) const;
 
+    /// How many windows of the program the server shows; a list that drops down is one more.
+    int CountWindows() const;
+
     /// Asks the window manager to close the window that was mapped first, as Alt+F4 does.
     bool CloseMainWindow() const;
 

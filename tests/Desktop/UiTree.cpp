@@ -66,6 +66,17 @@ std::optional<UiControl> UiTree::FindControl(const QString& id) const
     return found;
 }
 
+std::optional<UiControl> UiTree::FindEntry(const QString& commandId) const
+{
+    for (const QJsonValue value : m_root["controls"].toArray())
+    {
+        const UiControl control = ToControl(value.toObject());
+        if (control.id == commandId && control.className == "QAction" && !control.rect.isEmpty())
+            return control;
+    }
+    return std::nullopt;
+}
+
 std::optional<UiView> UiTree::FindView() const
 {
     const QJsonArray views = m_root["views"].toArray();

@@ -58,6 +58,9 @@ public:
     /// The control with that id; nothing when there is none.
     std::optional<UiControl> FindControl(const QString& id) const;
 
+    /// The entry of an open menu with that command; nothing while it is not on screen.
+    std::optional<UiControl> FindEntry(const QString& commandId) const;
+
     /// The first view; nothing when there is none.
     std::optional<UiView> FindView() const;
 
