@@ -13,10 +13,11 @@
 #include "Control/IProgressBarDefinition.h"
 #include "Control/IRadioButtonGroupDefinition.h"
 #include "Control/VeskIControlFactory.h"
-#include "TabStopGuard.h"
+#include "GroupFocus.h"
 #include "WheelGuard.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QButtonGroup>
 #include <QHBoxLayout>
 #include <QMenu>
@@ -70,14 +71,12 @@ public:
         destroy();
     }
 
-    void Place(const QButtonGroup& group)
+    void Place(const QList<QAbstractButton*>& buttons)
     {
         auto* pLayout = static_cast<QHBoxLayout*>(layout());
-        for (QAbstractButton* pButton : group.buttons())
+        for (QAbstractButton* pButton : buttons)
             pLayout->addWidget(pButton);
         pLayout->addStretch();
-        if (!group.exclusive())
-            TabStopGuard::Protect(group.buttons(), *this);
     }
 };
 
@@ -94,6 +93,11 @@ ControlHost::ControlHost()
     m_destroyLater.setInterval(RetryInterval);
     QObject::connect(&m_destroyLater, &QTimer::timeout, &m_destroyLater,
                      [this] { DestroyRemoved(); });
+    QObject::connect(qApp, &QApplication::focusChanged, &m_destroyLater,
+                     [](QWidget*, const QWidget* pNow) {
+                         if (pNow != nullptr)
+                             OpenGroupToTab(*pNow);
+                     });
     IControlStatusRefresher::Set(this);
 }
 
@@ -198,7 +202,7 @@ QWidget* ControlHost::CreateGroup(
     const auto* pGroup = dynamic_cast<const QButtonGroup*>(opControl.Get());
     if (pGroup == nullptr)
         return nullptr;
-    pPanel->Place(*pGroup);
+    pPanel->Place(pGroup->buttons());
     pPanel->DropNativeWindow();
     m_controls.push_back({std::move(opControl), pPanel.get()});
     return pPanel.release();
