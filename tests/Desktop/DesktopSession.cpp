@@ -32,6 +32,16 @@ DesktopSession::~DesktopSession()
 
 bool DesktopSession::Start(const QStringList& arguments, const Environment& environment)
 {
+    // The window manager frames and maximises the window when it is mapped. On a busy machine what
+    // the program says comes later: places hold when the server says the same.
+    const auto isPlaced = [&] {
+        return WaitForRest() && m_input.HasWindowAt(m_tree.FindView()->rect);
+    };
+    return Launch(arguments, environment) && PollUntil(isPlaced, 30000);
+}
+
+bool DesktopSession::Launch(const QStringList& arguments, const Environment& environment)
+{
     const QStringList files = {
         "--ui-tree", PathOf("ui.json"),    "--journal", PathOf("journal"),
         "--model",   PathOf("model.json"), "--log",     PathOf("warnings.log")};
@@ -39,12 +49,7 @@ bool DesktopSession::Start(const QStringList& arguments, const Environment& envi
     QProcessEnvironment variables = MakeEnvironment(environment);
     variables.insert("DISPLAY", m_display);
     RunProgram(files + arguments, variables);
-    // The window manager frames and maximises the window when it is mapped. On a busy machine what
-    // the program says comes later: places hold when the server says the same.
-    const auto isPlaced = [&] {
-        return WaitForRest() && m_input.HasWindowAt(m_tree.FindView()->rect);
-    };
-    return m_program.waitForStarted() && PollUntil(isPlaced, 30000);
+    return m_program.waitForStarted();
 }
 
 int DesktopSession::Close()

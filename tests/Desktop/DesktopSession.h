@@ -33,6 +33,9 @@ public:
     /// files'.
     bool Start(const QStringList& arguments = {}, const Environment& environment = {});
 
+    /// Starts the program and waits for nothing.
+    bool Launch(const QStringList& arguments = {}, const Environment& environment = {});
+
     /// Closes the main window as a user does. The exit code; -1 when the program did not end by
     /// itself.
     int Close();
