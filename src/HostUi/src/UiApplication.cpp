@@ -54,6 +54,11 @@ IApplicationWindow* UiApplication::GetMainWindow() const
     return m_pMainWindow;
 }
 
+IDockManager* UiApplication::GetDockManager() const
+{
+    return m_pDockManager;
+}
+
 void UiApplication::Run()
 {
     QEventLoop loop;
@@ -76,6 +81,11 @@ void UiApplication::DiscardPostedEvents()
 void UiApplication::SetMainWindow(IApplicationWindow* pMainWindow)
 {
     m_pMainWindow = pMainWindow;
+}
+
+void UiApplication::SetDockManager(IDockManager* pDockManager)
+{
+    m_pDockManager = pDockManager;
 }
 
 void UiApplication::customEvent(QEvent* pEvent)

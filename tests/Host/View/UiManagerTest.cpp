@@ -14,6 +14,7 @@ public:
     using IUiManager::Set;
 
     IApplicationWindow* GetMainWindow() const override { return nullptr; }
+    IDockManager* GetDockManager() const override { return nullptr; }
 };
 
 class MainWindow final : public IMainWindow

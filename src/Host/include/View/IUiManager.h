@@ -6,6 +6,8 @@
 namespace vesk
 {
 
+class IDockManager;
+
 /// The application's window as the user-interface services see it.
 class VESK_HOST_API IApplicationWindow
 {
@@ -27,6 +29,9 @@ public:
 
     /// The main window, null when there is none. Not owned.
     virtual IApplicationWindow* GetMainWindow() const = 0;
+
+    /// The panes of the main window, null when there are none. Not owned.
+    virtual IDockManager* GetDockManager() const = 0;
 
 protected:
     /// Installs the manager; null removes it. Not owned.

@@ -28,6 +28,7 @@ public:
 
     void PostEvent(OwnerPtr<IApplicationEvent> opEvent) override;
     IApplicationWindow* GetMainWindow() const override;
+    IDockManager* GetDockManager() const override;
 
     /// Runs a nested Qt event loop; never more than one at a time.
     void Run() override;
@@ -40,11 +41,15 @@ public:
     /// The window that the services name as the application's (not owned); null for none.
     void SetMainWindow(IApplicationWindow* pMainWindow);
 
+    /// The panes that the services name as the main window's (not owned); null for none.
+    void SetDockManager(IDockManager* pDockManager);
+
 protected:
     void customEvent(QEvent* pEvent) override;
 
 private:
     IApplicationWindow* m_pMainWindow = nullptr;
+    IDockManager* m_pDockManager = nullptr;
     QEventLoop* m_pActionLoop = nullptr;
 };
 

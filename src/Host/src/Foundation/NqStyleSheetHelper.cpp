@@ -1,0 +1,12 @@
+#include "Foundation/NqStyleSheetHelper.h"
+
+namespace vesk
+{
+
+NqStyleSheetHelper* NqStyleSheetHelper::Instance()
+{
+    static NqStyleSheetHelper s_helper;
+    return &s_helper;
+}
+
+}
