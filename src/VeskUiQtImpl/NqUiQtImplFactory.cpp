@@ -1,6 +1,10 @@
 #include "NqUiQtImplFactory.h"
 
-#include "Foundation/IDebugWarningDisplayer.h"
+#include "CheckSite.h"
+#include "DebugWarningDialogDisplayer.h"
+#include "Dock/IDockManager.h"
+#include "Dock/IPropertyWidget.h"
+#include "View/IUiManager.h"
 
 namespace vesk
 {
@@ -10,16 +14,23 @@ NqUiQtImplFactory::NqUiQtImplFactory()
     m_pFactory = this;
 }
 
-/// There are no panes yet, so there is no property panel.
 IPropertyWidget* NqUiQtImplFactory::GetPropertyWidget()
 {
-    return nullptr;
+    constexpr char Function[] = "vesk::NqUiQtImplFactory::GetPropertyWidget";
+    const IUiManager* pUiManager = IUiManager::Get();
+    if (!Check(pUiManager != nullptr, VESK_SITE(Function, L"pUiManager为空")))
+        return nullptr;
+    IDockManager* pDockManager = pUiManager->GetDockManager();
+    if (!Check(pDockManager != nullptr, VESK_SITE(Function, L"pDockManager为空")))
+        return nullptr;
+
+    const IDock* pDock = pDockManager->GetDock(IPropertyWidget::GetTypeName());
+    return pDock != nullptr ? dynamic_cast<IPropertyWidget*>(pDock->GetWidget()) : nullptr;
 }
 
-/// There is no warning dialog yet: the host's log is where warnings go.
 OwnerPtr<IDebugWarningDialogDisplayer> NqUiQtImplFactory::CreateDebugWarningDialogDisplayer()
 {
-    return nullptr;
+    return MakeOwner<DebugWarningDialogDisplayer>();
 }
 
 }

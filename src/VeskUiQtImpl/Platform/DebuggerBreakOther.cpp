@@ -1,0 +1,13 @@
+#include "Platform/DebuggerBreak.h"
+
+#include <csignal>
+
+namespace vesk
+{
+
+void BreakIntoDebugger()
+{
+    std::raise(SIGTRAP);
+}
+
+}

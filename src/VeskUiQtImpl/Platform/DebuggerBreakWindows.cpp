@@ -1,0 +1,13 @@
+#include "Platform/DebuggerBreak.h"
+
+#include <windows.h>
+
+namespace vesk
+{
+
+void BreakIntoDebugger()
+{
+    DebugBreak();
+}
+
+}
