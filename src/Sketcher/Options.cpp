@@ -1,5 +1,7 @@
 #include "Options.h"
 
+#include "WarningRaiser.h"
+
 #include <QCommandLineParser>
 #include <QFileInfo>
 
@@ -57,6 +59,13 @@ Options ParseOptions(const QStringList& arguments)
                                             QString::fromLatin1(option.help),
                                             QString::fromLatin1(option.value)));
 
+    const QCommandLineOption raiseWarnings(
+        QStringLiteral("raise-warnings"),
+        QStringLiteral("for developers: raise debug warnings; KIND is one of ") +
+            WarningRaiser::GetKinds().join(QStringLiteral(", ")),
+        QStringLiteral("KIND"));
+    parser.addOption(raiseWarnings);
+
     Options options;
     if (!parser.parse(arguments))
         options.error = parser.errorText();
@@ -76,6 +85,10 @@ Options ParseOptions(const QStringList& arguments)
         if (options.error.isEmpty() && parser.isSet(name))
             options.error = CheckFile(option, options.*option.member);
     }
+    options.raiseWarnings = parser.value(raiseWarnings);
+    if (options.error.isEmpty() && parser.isSet(raiseWarnings) &&
+        !WarningRaiser::GetKinds().contains(options.raiseWarnings))
+        options.error = QStringLiteral("unknown kind of warnings %1").arg(options.raiseWarnings);
     if (options.task == Options::Task::Draw && parser.isSet(QStringLiteral("replay")))
         options.task = Options::Task::Replay;
     if (options.error.isEmpty() && !options.replay.isEmpty() && !options.open.isEmpty())

@@ -24,6 +24,9 @@ struct Options
     QString log;
     QString screenshot;
 
+    /// Which debug warnings to raise once the window stands; empty for none.
+    QString raiseWarnings;
+
     /// One line; empty when the command line makes sense and every file named can be used.
     QString error;
 

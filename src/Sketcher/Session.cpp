@@ -77,7 +77,10 @@ int Session::Run()
     if ((!source.isEmpty() && !ReadJournal(source)) || !OpenLog() || !OpenJournal())
         return ExitUnusableFile;
 
-    const int code = m_options.task == Options::Task::Replay ? Replay() : Draw();
+    const bool isReplay = m_options.task == Options::Task::Replay;
+    if (isReplay)
+        DebugMessageMgr::GetDebugMessageMgr()->SetAttended(false);
+    const int code = isReplay ? Replay() : Draw();
     return WriteResults() ? code : ExitUnusableFile;
 }
 
@@ -143,6 +146,9 @@ int Session::Draw()
     m_window.GetView().Activate();
     if (!m_options.open.isEmpty())
         QTimer::singleShot(0, &m_window, [this] { Open(); });
+    if (!m_options.raiseWarnings.isEmpty())
+        m_pWarningRaiser =
+            std::make_unique<WarningRaiser>(m_options.raiseWarnings, m_window.GetView());
     return QApplication::exec();
 }
 

@@ -3,6 +3,7 @@
 #include "Options.h"
 #include "ReadingMonitor.h"
 #include "SketcherWindow.h"
+#include "WarningRaiser.h"
 #include "Workspace.h"
 
 #include "HostCore.h"
@@ -53,5 +54,6 @@ private:
     SketcherWindow m_window;
     vesk::ControlHost m_controls;
     std::unique_ptr<vesk::UiTreeWriter> m_pUiTree;
+    std::unique_ptr<WarningRaiser> m_pWarningRaiser;
     std::unique_ptr<ReadingMonitor> m_pReading; ///< While a drawing is opened.
 };

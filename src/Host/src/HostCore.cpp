@@ -4,6 +4,7 @@
 #include "Command/ICommand.h"
 #include "Command/ICommandManager.h"
 #include "Dimension/TemporaryDimensionMgr.h"
+#include "Foundation/DebugMessageMgr.h"
 #include "Journal/JournalFactory.h"
 #include "Journal/JournalManager.h"
 
@@ -22,6 +23,7 @@ HostCore::~HostCore()
     TemporaryDimensionMgr::GetInstance()->SetTypedValue({});
     ICommandManager::Get()->RemoveAllCommands();
     JournalManager::GetInstance().Close();
+    DebugMessageMgr::GetDebugMessageMgr()->Reset();
     if (NqIJournalFactory::GetImpl() == m_pJournalFactory.get())
         NqIJournalFactory::SetImpl(nullptr);
 }

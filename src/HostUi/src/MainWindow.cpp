@@ -14,7 +14,8 @@ namespace vesk
 {
 
 MainWindow::MainWindow()
-    : m_pRibbon(new Qtitan::RibbonBar(this)), m_pHint(new QLabel(this)), m_pCursor(new QLabel(this))
+    : m_pRibbon(new Qtitan::RibbonBar(this)), m_pHint(new QLabel(this)),
+      m_pCursor(new QLabel(this)), m_pWarningCount(new QLabel(this))
 {
     setMenuWidget(m_pRibbon);
     m_pHint->setObjectName(QStringLiteral("Hint"));
@@ -26,15 +27,21 @@ MainWindow::MainWindow()
     m_pHint->setContentsMargins(Margin, 0, Margin, 0);
     m_pCursor->setContentsMargins(Margin, 0, Margin, 0);
     statusBar()->addWidget(m_pHint, 1);
+    statusBar()->addPermanentWidget(m_pWarningCount);
     statusBar()->addPermanentWidget(m_pCursor);
+    m_pWarningCount->setObjectName(QStringLiteral("WarningCount"));
+    m_pWarningCount->setToolTip(QStringLiteral("对话框打开时发生的警告，见日志"));
+    m_pWarningCount->hide();
 
     // The host names windows by their native window.
     winId();
     SetMainWindow(this);
+    DebugMessageMgr::GetDebugMessageMgr()->AddObserver(this);
 }
 
 MainWindow::~MainWindow()
 {
+    DebugMessageMgr::GetDebugMessageMgr()->RemoveObserver(this);
     SetMainWindow(nullptr);
 }
 
@@ -46,6 +53,14 @@ WindowId MainWindow::GetWindowId() const
 WindowId MainWindow::GetWinId() const
 {
     return internalWinId();
+}
+
+/// In any thread, before the warning is counted: the count is asked for from the event loop, once
+/// however many warnings came.
+void MainWindow::OnDebugWarning(const DebugWarning&)
+{
+    if (!m_isCountStale.exchange(true))
+        QMetaObject::invokeMethod(this, &MainWindow::ShowWarningCount, Qt::QueuedConnection);
 }
 
 void MainWindow::SetDrawingView(DrawingView* pView)
@@ -70,6 +85,14 @@ void MainWindow::OnCursorMoved(double x, double y)
                            .arg(unit.ToShown(x), 0, 'f', 3)
                            .arg(unit.ToShown(y), 0, 'f', 3)
                            .arg(ToQString(unit.GetSymbol())));
+}
+
+void MainWindow::ShowWarningCount()
+{
+    m_isCountStale = false;
+    const int count = DebugMessageMgr::GetDebugMessageMgr()->GetUnshownCount();
+    m_pWarningCount->setText(QStringLiteral("未显示的警告：%1").arg(count));
+    m_pWarningCount->setVisible(count > 0);
 }
 
 }

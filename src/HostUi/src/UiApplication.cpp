@@ -1,9 +1,14 @@
 #include "HostUi/UiApplication.h"
 
-#include <QCoreApplication>
+#include "Foundation/DebugMessageMgr.h"
+
+#include <QApplication>
 #include <QEvent>
 #include <QEventLoop>
+#include <QThread>
+#include <QTimer>
 
+#include <algorithm>
 #include <utility>
 
 namespace vesk
@@ -27,6 +32,23 @@ private:
     OwnerPtr<IApplicationEvent> m_opEvent;
 };
 
+/// Calls a function from the event loop.
+class FunctionEvent final : public IApplicationEvent
+{
+public:
+    explicit FunctionEvent(std::function<void()> function) : m_function(std::move(function)) {}
+
+    void Emit() override { m_function(); }
+
+private:
+    std::function<void()> m_function;
+};
+
+bool IsPainting(const QPointer<QWidget>& pWidget)
+{
+    return pWidget != nullptr && pWidget->testAttribute(Qt::WA_WState_InPaintEvent);
+}
+
 }
 
 UiApplication::UiApplication()
@@ -34,10 +56,13 @@ UiApplication::UiApplication()
     IApplication::Set(this);
     IUiManager::Set(this);
     ActionManager::SetEventLoop(this);
+    DebugMessageMgr::GetDebugMessageMgr()->SetScheduler(this);
+    qApp->installEventFilter(this);
 }
 
 UiApplication::~UiApplication()
 {
+    DebugMessageMgr::GetDebugMessageMgr()->SetScheduler(nullptr);
     ActionManager::SetEventLoop(nullptr);
     IUiManager::Set(nullptr);
     IApplication::Set(nullptr);
@@ -73,6 +98,25 @@ void UiApplication::Quit()
         m_pActionLoop->quit();
 }
 
+bool UiApplication::IsDialogAllowed() const
+{
+    return QThread::currentThread() == thread() &&
+           std::none_of(m_painted.begin(), m_painted.end(), &IsPainting);
+}
+
+void UiApplication::Post(std::function<void()> function)
+{
+    PostEvent(MakeOwner<FunctionEvent>(std::move(function)));
+}
+
+void UiApplication::PostWhenIdle(std::chrono::milliseconds delay, std::function<void()> function)
+{
+    QTimer::singleShot(delay, this, [this, function = std::move(function)] {
+        // A timer of zero comes round when nothing else waits.
+        QTimer::singleShot(0, this, function);
+    });
+}
+
 void UiApplication::DiscardPostedEvents()
 {
     QCoreApplication::removePostedEvents(nullptr, s_hostEventType);
@@ -86,6 +130,18 @@ void UiApplication::SetMainWindow(IApplicationWindow* pMainWindow)
 void UiApplication::SetDockManager(IDockManager* pDockManager)
 {
     m_pDockManager = pDockManager;
+}
+
+bool UiApplication::eventFilter(QObject* pWatched, QEvent* pEvent)
+{
+    if (pEvent->type() == QEvent::Paint && pWatched->isWidgetType())
+    {
+        const auto done = std::remove_if(m_painted.begin(), m_painted.end(),
+                                         [](const auto& pWidget) { return !IsPainting(pWidget); });
+        m_painted.erase(done, m_painted.end());
+        m_painted.emplace_back(static_cast<QWidget*>(pWatched));
+    }
+    return QObject::eventFilter(pWatched, pEvent);
 }
 
 void UiApplication::customEvent(QEvent* pEvent)

@@ -5,6 +5,7 @@
 #include "Command/IActionManager.h"
 #include "ControlDescription.h"
 #include "Dimension/TemporaryDimensionMgr.h"
+#include "Foundation/DebugMessageMgr.h"
 #include "Foundation/Text.h"
 #include "HostUi/DimensionInputController.h"
 #include "HostUi/DrawingView.h"
@@ -15,6 +16,7 @@
 #include <QLineEdit>
 
 #include <cmath>
+#include <optional>
 
 namespace vesk
 {
@@ -73,6 +75,18 @@ Json DescribeEditor(const DimensionInputController& input)
             {"message", Utf8(input.GetMessage())}};
 }
 
+/// The debug warning on screen.
+Json DescribeWarning()
+{
+    const std::optional<ShownDebugWarning> shown =
+        DebugMessageMgr::GetDebugMessageMgr()->GetShownWarning();
+    if (!shown.has_value())
+        return nullptr;
+    return {{"function", shown->function},
+            {"message", ToUtf8(shown->message)},
+            {"suppressed", shown->suppressed}};
+}
+
 }
 
 std::string DescribeUi(const DimensionInputController& input, int entityCount)
@@ -93,7 +107,8 @@ std::string DescribeUi(const DimensionInputController& input, int entityCount)
                 {"editor", DescribeEditor(input)},
                 {"action", commandId.empty() ? Json(nullptr) : Json(commandId)},
                 {"hint", pAction != nullptr ? ToUtf8(pAction->GetViewText()) : std::string()},
-                {"entities", entityCount}}
+                {"entities", entityCount},
+                {"warning", DescribeWarning()}}
         .dump(1);
 }
 

@@ -1,5 +1,7 @@
 #include "Control/NqUiInterfaceFactory.h"
 
+#include "Foundation/WarningDesk.h"
+
 namespace vesk
 {
 
@@ -11,6 +13,8 @@ NqUiInterfaceFactory::~NqUiInterfaceFactory()
 {
     if (m_pFactory == this)
         m_pFactory = nullptr;
+    // The displayer came through this factory: its code goes with it.
+    WarningDesk::GetInstance().DropDisplayer();
 }
 
 }

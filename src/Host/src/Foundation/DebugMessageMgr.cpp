@@ -1,6 +1,7 @@
 #include "Foundation/DebugMessageMgr.h"
 
 #include "Foundation/Text.h"
+#include "Foundation/WarningDesk.h"
 #include "Foundation/WarningLog.h"
 
 #include <algorithm>
@@ -144,6 +145,7 @@ void DebugMessageMgr::ShowDebugWarn(const std::string& file, int line, const std
         const DebugWarning warning{file, line, function, message, person, date};
         Log(warning);
         GetObserverList().Tell(warning);
+        WarningDesk::GetInstance().Present(warning);
     }
     catch (...)
     {
@@ -159,6 +161,31 @@ bool DebugMessageMgr::OpenLog(const std::string& path)
 void DebugMessageMgr::CloseLog()
 {
     WarningLog::GetInstance().Close();
+}
+
+void DebugMessageMgr::SetAttended(bool isAttended)
+{
+    WarningDesk::GetInstance().SetAttended(isAttended);
+}
+
+void DebugMessageMgr::SetScheduler(IDebugWarningScheduler* pScheduler)
+{
+    WarningDesk::GetInstance().SetScheduler(pScheduler);
+}
+
+std::optional<ShownDebugWarning> DebugMessageMgr::GetShownWarning() const
+{
+    return WarningDesk::GetInstance().GetShown();
+}
+
+int DebugMessageMgr::GetUnshownCount() const
+{
+    return WarningDesk::GetInstance().GetUnshownCount();
+}
+
+void DebugMessageMgr::Reset()
+{
+    WarningDesk::GetInstance().Reset();
 }
 
 void DebugMessageMgr::AddObserver(IDebugWarningObserver* pObserver)

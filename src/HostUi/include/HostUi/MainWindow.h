@@ -1,9 +1,12 @@
 #pragma once
 
+#include "Foundation/DebugMessageMgr.h"
 #include "HostUi/HostUiExport.h"
 #include "View/IUiManager.h"
 
 #include <QMainWindow>
+
+#include <atomic>
 
 class QLabel;
 
@@ -17,12 +20,14 @@ namespace vesk
 
 class DrawingView;
 
-/// The main frame: a ribbon above, a drawing view, and a status bar with the hint and the cursor.
+/// The main frame: a ribbon above, a drawing view, and a status bar with the hint, the cursor, and
+/// the number of warnings that were not shown.
 ///
 /// Installed as the host's main window while it lives.
 class VESK_HOST_UI_API MainWindow : public QMainWindow,
                                     public IApplicationWindow,
-                                    public IMainWindow
+                                    public IMainWindow,
+                                    public IDebugWarningObserver
 {
     Q_OBJECT
 
@@ -32,6 +37,8 @@ public:
 
     WindowId GetWindowId() const override;
     WindowId GetWinId() const override;
+
+    void OnDebugWarning(const DebugWarning& warning) override;
 
     /// The ribbon; owned by the window.
     Qtitan::RibbonBar* GetRibbon() const { return m_pRibbon; }
@@ -44,10 +51,15 @@ protected:
 
 private:
     void OnCursorMoved(double x, double y);
+    void ShowWarningCount();
 
     Qtitan::RibbonBar* m_pRibbon;
     QLabel* m_pHint;
     QLabel* m_pCursor;
+
+    /// How many warnings were raised while another was on screen.
+    QLabel* m_pWarningCount;
+    std::atomic<bool> m_isCountStale{false};
 };
 
 }

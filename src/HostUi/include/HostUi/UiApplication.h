@@ -2,10 +2,15 @@
 
 #include "Command/ActionManager.h"
 #include "Foundation/IApplication.h"
+#include "Foundation/IDebugWarningScheduler.h"
 #include "HostUi/HostUiExport.h"
 #include "View/IUiManager.h"
 
 #include <QObject>
+#include <QPointer>
+#include <QWidget>
+
+#include <vector>
 
 class QEventLoop;
 
@@ -18,7 +23,8 @@ namespace vesk
 class VESK_HOST_UI_API UiApplication final : public QObject,
                                              public IApplication,
                                              public IUiManager,
-                                             public IActionEventLoop
+                                             public IActionEventLoop,
+                                             public IDebugWarningScheduler
 {
     Q_OBJECT
 
@@ -34,6 +40,10 @@ public:
     void Run() override;
     void Quit() override;
 
+    bool IsDialogAllowed() const override;
+    void Post(std::function<void()> function) override;
+    void PostWhenIdle(std::chrono::milliseconds delay, std::function<void()> function) override;
+
     /// Frees the posted events that still wait, unemitted: before the library that posted them
     /// goes.
     static void DiscardPostedEvents();
@@ -46,11 +56,15 @@ public:
 
 protected:
     void customEvent(QEvent* pEvent) override;
+    bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
 
 private:
     IApplicationWindow* m_pMainWindow = nullptr;
     IDockManager* m_pDockManager = nullptr;
     QEventLoop* m_pActionLoop = nullptr;
+
+    /// The widgets that were asked to paint and may still be at it.
+    std::vector<QPointer<QWidget>> m_painted;
 };
 
 }
