@@ -27,11 +27,17 @@ protected:
     /// Closes the program and returns the lines that it had; empty when it did not end well.
     QVector<DrawnLine> CloseAndReadLines();
 
+    /// Closes the program as a user does. False when it did not end well.
+    bool CloseProgram();
+
     /// Ends the program as `kill -9` does.
     void KillProgram();
 
     /// This function has read what the program wrote to standard error: it was meant to be there.
     void AcceptErrorOutput() { m_isErrorOutputAccepted = true; }
+
+    /// This function has raised warnings and judges the log itself.
+    void AcceptWarnings() { m_areWarningsAccepted = true; }
 
     /// A number from the environment, for runs that are longer than the everyday one.
     static int CountFromEnvironment(const char* name, int everyday);
@@ -48,6 +54,7 @@ private:
     std::unique_ptr<DesktopSession> m_pSession;
     bool m_isClosed = false;
     bool m_isErrorOutputAccepted = false;
+    bool m_areWarningsAccepted = false;
 };
 
 }

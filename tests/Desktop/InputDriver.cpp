@@ -81,6 +81,13 @@ bool InputDriver::Wheel(int steps) const
         {"click", "--repeat", QString::number(qAbs(steps)), "--delay", "5", steps > 0 ? "4" : "5"});
 }
 
+bool InputDriver::HasKeyboard(const QString& title) const
+{
+    QByteArray name;
+    return Run("xdotool", {"getactivewindow", "getwindowname"}, &name) &&
+           QString::fromUtf8(name).trimmed() == title;
+}
+
 bool InputDriver::CloseMainWindow() const
 {
     QByteArray clients;

@@ -41,6 +41,9 @@ public:
     /// How many windows of the program the server shows; a list that drops down is one more.
     int CountWindows() const;
 
+    /// True when the window with that title has the keyboard.
+    bool HasKeyboard(const QString& title) const;
+
     /// Asks the window manager to close the window that was mapped first, as Alt+F4 does.
     bool CloseMainWindow() const;
 

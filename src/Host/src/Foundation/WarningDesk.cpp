@@ -87,7 +87,7 @@ void WarningDesk::Reset()
 {
     const std::lock_guard lock(m_mutex);
     m_isAttended = IsAttendedAtFirst();
-    m_answers.clear();
+    m_silent.clear();
     m_unshownCount = 0;
 }
 
@@ -123,7 +123,7 @@ bool WarningDesk::Claim(const DebugWarning& warning)
 bool WarningDesk::IsSilent(const DebugWarning& warning) const
 {
     const bool isNobodyThere = !m_isAttended && IApplication::Get() != nullptr;
-    const bool isAnswered = m_answers.count({warning.file, warning.line}) != 0;
+    const bool isAnswered = m_silent.count({warning.file, warning.line}) != 0;
     // While a dialog is open everything is counted, whatever was said of its place.
     return isNobodyThere || (isAnswered && !m_shown.has_value());
 }
@@ -153,21 +153,15 @@ void WarningDesk::ShowPostponed()
 void WarningDesk::Note(const Place& place, bool isToAskAgain)
 {
     const std::lock_guard lock(m_mutex);
-    if (!isToAskAgain)
-    {
-        m_answers[place] = Answer::Ignored;
-        return;
-    }
     // Without an event loop there is nobody who could be flooded.
-    if (m_pScheduler == nullptr)
+    if (isToAskAgain && m_pScheduler == nullptr)
         return;
-    m_answers[place] = Answer::IgnoredOnce;
-    m_pScheduler->PostWhenIdle(s_rest, [this, place] {
-        const std::lock_guard idleLock(m_mutex);
-        const auto found = m_answers.find(place);
-        if (found != m_answers.end() && found->second == Answer::IgnoredOnce)
-            m_answers.erase(found);
-    });
+    m_silent.insert(place);
+    if (isToAskAgain)
+        m_pScheduler->PostWhenIdle(s_rest, [this, place] {
+            const std::lock_guard restLock(m_mutex);
+            m_silent.erase(place);
+        });
 }
 
 IDebugWarningDisplayer* WarningDesk::GetDisplayer()

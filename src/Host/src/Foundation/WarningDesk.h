@@ -4,9 +4,9 @@
 #include "Foundation/IDebugWarningDisplayer.h"
 #include "Foundation/OwnerPtr.h"
 
-#include <map>
 #include <mutex>
 #include <optional>
+#include <set>
 #include <string>
 #include <utility>
 
@@ -41,13 +41,6 @@ public:
 private:
     using Place = std::pair<std::string, int>;
 
-    /// What the user said of a place; nothing yet for one that is not here.
-    enum class Answer
-    {
-        IgnoredOnce, ///< Until the event loop comes to rest.
-        Ignored,
-    };
-
     class Turn;
 
     WarningDesk();
@@ -63,7 +56,9 @@ private:
     bool m_isAttended;
     IDebugWarningScheduler* m_pScheduler = nullptr;
     OwnerPtr<IDebugWarningDialogDisplayer> m_opDisplayer;
-    std::map<Place, Answer> m_answers;
+
+    /// The places that are not shown: for good, or until the event loop comes to rest.
+    std::set<Place> m_silent;
 
     /// The warning on screen, or about to be.
     std::optional<ShownDebugWarning> m_shown;
