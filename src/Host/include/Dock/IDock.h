@@ -29,9 +29,16 @@ public:
     /// is no widget is kept but not shown.
     virtual void SetWidget(OwnerPtr<IWidget> opWidget) = 0;
 
+    /// Gives the pane the title that its user reads.
     virtual void SetTitle(const std::wstring& title) = 0;
+
+    /// The title as it was set last.
     virtual std::wstring GetTitle() const = 0;
+
+    /// Makes the pane visible, as far as the main window is.
     virtual void Show() = 0;
+
+    /// Makes the pane invisible until it is shown.
     virtual void Hide() = 0;
 
     /// Brings the pane to the front of those that it is tabbed with.
@@ -40,7 +47,11 @@ public:
     /// True after Hide, whether or not the main window is visible. A pane behind another tab is not
     /// hidden.
     virtual bool IsHidden() const = 0;
+
+    /// Makes the pane a window of its own, or puts it back into the main window.
     virtual void SetFloating(bool isFloating) = 0;
+
+    /// True when the pane is a window of its own.
     virtual bool IsFloating() const = 0;
 };
 

@@ -65,14 +65,17 @@ public:
     /// Puts the second pane on top of the first.
     virtual void TabifyDock(IDock* first, IDock* second) = 0;
 
-    /// Each shows or hides every pane and remembers nothing.
+    /// Shows every pane, also those that were hidden before all were.
     virtual void ShowAllDockPane() = 0;
+
+    /// Hides every pane and does not remember which were visible.
     virtual void HideAllDockPane() = 0;
 
     /// True when the user can close, move and float the pane.
     virtual bool IsDockable(const std::wstring& name) const = 0;
 
-    /// False when there is no such pane.
+    /// Lets the user close, move and float the pane, or do none of it. False when there is no such
+    /// pane.
     virtual bool SetIsDockable(const std::wstring& name, bool isDockable) = 0;
 
     /// Takes the title away, and with it the means to close, move and float the pane. False when

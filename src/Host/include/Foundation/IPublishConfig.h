@@ -20,6 +20,7 @@ class VESK_HOST_API IConfigRecord
 public:
     virtual ~IConfigRecord() = default;
 
+    /// What the record says, as yes or no.
     virtual bool GetValueAsBool() const = 0;
 };
 
@@ -31,7 +32,10 @@ public:
     /// removed.
     static const IConfigRecord* GetConfigRecord(const std::wstring& name);
 
+    /// Adds the record, or gives the one with that name another value.
     static void SetConfigRecord(const std::wstring& name, bool value);
+
+    /// Takes the record out. Does nothing when there is none with that name.
     static void RemoveConfigRecord(const std::wstring& name);
 };
 

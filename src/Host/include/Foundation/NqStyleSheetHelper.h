@@ -11,6 +11,7 @@ namespace vesk
 class VESK_HOST_API NqStyleSheetHelper
 {
 public:
+    /// The one of the process; never null.
     static NqStyleSheetHelper* Instance();
 
     /// The text of the style sheet; empty at first.

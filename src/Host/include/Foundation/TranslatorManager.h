@@ -21,6 +21,7 @@ public:
 class VESK_HOST_API TranslatorManager
 {
 public:
+    /// The one of the process; never null.
     static TranslatorManager* Get();
 
     /// The text in the user's language; the source text itself where no translation is known.
