@@ -23,14 +23,14 @@ class IPropertyWidget;
 ///
 /// A pane that was added belongs to the window; the manager only knows it, and copies of a manager
 /// know the same panes. Destroyed before the window.
-class DockManagerImpl : public IDockManager
+class VESK_UI_QT_IMPL_API DockManagerImpl : public IDockManager
 {
 public:
     /// The window is not owned.
-    VESK_UI_QT_IMPL_API explicit DockManagerImpl(IApplicationWindow* pMainWindow);
-    VESK_UI_QT_IMPL_API DockManagerImpl(const DockManagerImpl& other);
-    VESK_UI_QT_IMPL_API DockManagerImpl& operator=(const DockManagerImpl& other);
-    VESK_UI_QT_IMPL_API ~DockManagerImpl() override;
+    explicit DockManagerImpl(IApplicationWindow* pMainWindow);
+    DockManagerImpl(const DockManagerImpl& other);
+    DockManagerImpl& operator=(const DockManagerImpl& other);
+    ~DockManagerImpl() override;
 
     OwnerPtr<IDock> CreateDock(const std::wstring& name, const std::wstring& title) const override;
     void AddDock(OwnerPtr<IDock> opDock, DockArea area, DockOrientation orientation) override;
@@ -49,7 +49,7 @@ public:
     void UpdateAllDockStatus() override;
 
     /// The content of the pane that holds the property panel; null when there is none.
-    static VESK_UI_QT_IMPL_API IPropertyWidget* GetPropertyWidget();
+    static IPropertyWidget* GetPropertyWidget();
 
 private:
     Qt::DockWidgetArea GetQtDockArea(DockArea area) const;
