@@ -3,6 +3,9 @@
 #include "Command/ActionManager.h"
 #include "Command/ICommandManager.h"
 #include "Control/ControlDefinitionChangeByUser.h"
+#include "Foundation/IPublishConfig.h"
+#include "Foundation/NqStyleSheetHelper.h"
+#include "Foundation/TranslatorManager.h"
 
 namespace vesk::test
 {
@@ -21,6 +24,9 @@ HostFixture::~HostFixture()
     core.GetViewManager().RemoveView(&view);
     LineEditTextChangeFlag::m_textChangeByUser = false;
     RadioButtonGroupStateChangeFlag::m_stateChangeByUser = false;
+    NqStyleSheetHelper::Instance()->SetCurrentStyleData({});
+    TranslatorManager::Get()->SetTranslator(nullptr);
+    IPublishConfig::RemoveConfigRecord(PublishConfigRecordNames::InHouseMode);
 }
 
 Command* HostFixture::AddCommand(const std::wstring& id,

@@ -15,7 +15,10 @@ public:
     ~TestApplication() override;
 
     void PostEvent(OwnerPtr<IApplicationEvent> opEvent) override;
-    IApplicationWindow* GetMainWindow() const override { return nullptr; }
+    IApplicationWindow* GetMainWindow() const override { return m_pMainWindow; }
+
+    /// Names the application's window (not owned); null, as at first, for none.
+    void SetMainWindow(IApplicationWindow* pMainWindow) { m_pMainWindow = pMainWindow; }
 
     /// How many events were posted that refresh the controls.
     int GetStatusUpdateCount() const { return m_statusUpdateCount; }
@@ -25,6 +28,7 @@ protected:
 
 private:
     IApplication* m_pPrevious;
+    IApplicationWindow* m_pMainWindow = nullptr;
     int m_statusUpdateCount = 0;
 };
 
