@@ -1,0 +1,42 @@
+#include "Foundation/NqStyleSheetHelper.h"
+
+#include <QtTest>
+
+namespace vesk
+{
+
+class NqStyleSheetHelperTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void thereIsOneHelper();
+    void theStyleSheetIsEmptyAtFirst();
+    void theStyleSheetIsTheOneChosenLast();
+};
+
+void NqStyleSheetHelperTest::thereIsOneHelper()
+{
+    QVERIFY(NqStyleSheetHelper::Instance() != nullptr);
+    QCOMPARE(NqStyleSheetHelper::Instance(), NqStyleSheetHelper::Instance());
+}
+
+void NqStyleSheetHelperTest::theStyleSheetIsEmptyAtFirst()
+{
+    QCOMPARE(NqStyleSheetHelper::Instance()->GetCurrentStyleData(), std::wstring());
+}
+
+void NqStyleSheetHelperTest::theStyleSheetIsTheOneChosenLast()
+{
+    NqStyleSheetHelper::Instance()->SetCurrentStyleData(L"QWidget { color: red; }");
+
+    NqStyleSheetHelper::Instance()->SetCurrentStyleData(L"QWidget { font-family: 宋体; }");
+
+    QCOMPARE(NqStyleSheetHelper::Instance()->GetCurrentStyleData(),
+             std::wstring(L"QWidget { font-family: 宋体; }"));
+}
+
+}
+
+QTEST_APPLESS_MAIN(vesk::NqStyleSheetHelperTest)
+#include "NqStyleSheetHelperTest.moc"
