@@ -1,0 +1,255 @@
+#include "DebugWarnFixture.h"
+
+#include <QMetaMethod>
+#include <QtTest>
+
+#include <limits>
+
+namespace vesk::test
+{
+
+/// What the dialog shows and answers.
+class DebugWarnDialogTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void slotsStandInOrder();
+    void fieldsAreShownInHouse_data();
+    void fieldsAreShownInHouse();
+    void theRecordDecidesWhetherItIsPublished_data();
+    void theRecordDecidesWhetherItIsPublished();
+    void lineNumbersAreDecimal_data();
+    void lineNumbersAreDecimal();
+    void textsAreNeverMarkup();
+    void everyButtonEndsTheDialogWithItsAnswer_data();
+    void everyButtonEndsTheDialogWithItsAnswer();
+    void theReportButtonCannotBeClicked();
+    void leavingIsToIgnoreOnce_data();
+    void leavingIsToIgnoreOnce();
+    void returnClicksTheFirstButton_data();
+    void returnClicksTheFirstButton();
+    void userNameAndPasswordAreCopied_data();
+    void userNameAndPasswordAreCopied();
+};
+
+void DebugWarnDialogTest::slotsStandInOrder()
+{
+    const QMetaObject& meta = DebugWarnDialog::staticMetaObject;
+    QByteArrayList found;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
+        found << (meta.method(i).methodType() == QMetaMethod::Slot
+                      ? meta.method(i).methodSignature()
+                      : QByteArray("no slot"));
+
+    QCOMPARE(found, (QByteArrayList{"IgnoreButtonPushed()", "IgnoreAllButtonPushed()",
+                                    "ReportBugButtonPushed()", "DebugButtonPushed()"}));
+    QCOMPARE(meta.className(), "DebugWarnDialog");
+}
+
+void DebugWarnDialogTest::fieldsAreShownInHouse_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("empty") << "";
+    QTest::newRow("Chinese") << QString::fromUtf8("不能删除属性面板");
+    QTest::newRow("beyond the basic plane") << QString::fromUtf8("\xF0\x9F\x93\x90 angle");
+}
+
+void DebugWarnDialogTest::fieldsAreShownInHouse()
+{
+    QFETCH(QString, text);
+    DialogFixture f;
+    const std::string narrow = text.toStdString();
+    const std::wstring wide = text.toStdWString();
+
+    f.dialog.SetInfo(narrow + 'a', 1, narrow + 'b', wide + L'c', wide + L'd', wide + L'e');
+
+    QCOMPARE(f.Box(File).toPlainText(), text + 'a');
+    QCOMPARE(f.Box(Function).toPlainText(), text + 'b');
+    QCOMPARE(f.Box(Message).toPlainText(), text + 'c');
+    QCOMPARE(f.Line(Person).text(), text + 'd');
+    QCOMPARE(f.Line(Date).text(), text + 'e');
+}
+
+void DebugWarnDialogTest::theRecordDecidesWhetherItIsPublished_data()
+{
+    QTest::addColumn<QVariant>("record");
+    QTest::addColumn<bool>("isPublished");
+    QTest::newRow("no record") << QVariant() << false;
+    QTest::newRow("in house") << QVariant(true) << false;
+    QTest::newRow("published") << QVariant(false) << true;
+}
+
+void DebugWarnDialogTest::theRecordDecidesWhetherItIsPublished()
+{
+    QFETCH(QVariant, record);
+    QFETCH(bool, isPublished);
+    DialogFixture f;
+    if (record.isValid())
+        IPublishConfig::SetConfigRecord(PublishConfigRecordNames::InHouseMode, record.toBool());
+    QVERIFY(!f.Button(IgnoreButton).isHidden());
+
+    f.dialog.SetInfo("file", 1, "function", L"message", L"person", L"date");
+
+    QCOMPARE(f.Button(IgnoreButton).isHidden(), isPublished);
+    QCOMPARE(f.Button(DebugButton).isHidden(), isPublished);
+    QVERIFY(!f.Button(IgnoreAllButton).isHidden());
+    QCOMPARE(f.Line(Person).text(), QString(isPublished ? "******" : "person"));
+}
+
+void DebugWarnDialogTest::lineNumbersAreDecimal_data()
+{
+    QTest::addColumn<int>("line");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("zero") << 0 << "0";
+    QTest::newRow("negative") << -17 << "-17";
+    QTest::newRow("thousands") << 1234567 << "1234567";
+    QTest::newRow("greatest") << std::numeric_limits<int>::max() << "2147483647";
+    QTest::newRow("least") << std::numeric_limits<int>::min() << "-2147483648";
+}
+
+void DebugWarnDialogTest::lineNumbersAreDecimal()
+{
+    QFETCH(int, line);
+    DialogFixture f;
+
+    f.dialog.SetInfo("file", line, "function", L"message", L"person", L"date");
+
+    QTEST(f.Line(LineNumber).text(), "text");
+}
+
+void DebugWarnDialogTest::textsAreNeverMarkup()
+{
+    DialogFixture f;
+
+    f.dialog.SetInfo("<b>file</b>", 1, "F<b>::G", L"<b>a</b>\n&lt;", L"<i>p</i>", L"<i>d</i>");
+
+    QCOMPARE(f.Box(File).toPlainText(), QString("<b>file</b>"));
+    QCOMPARE(f.Box(Function).toPlainText(), QString("F<b>::G"));
+    QCOMPARE(f.Box(Message).toPlainText(), QString("<b>a</b>\n&lt;"));
+    QCOMPARE(f.Line(Person).text(), QString("<i>p</i>"));
+    QCOMPARE(f.Line(Date).text(), QString("<i>d</i>"));
+}
+
+void DebugWarnDialogTest::everyButtonEndsTheDialogWithItsAnswer_data()
+{
+    QTest::addColumn<int>("button");
+    QTest::addColumn<int>("answer");
+    QTest::newRow("ignore once") << int(IgnoreButton) << 0;
+    QTest::newRow("ignore all") << int(IgnoreAllButton) << 1;
+    QTest::newRow("report") << int(ReportButton) << 2;
+    QTest::newRow("debug") << int(DebugButton) << 3;
+}
+
+void DebugWarnDialogTest::everyButtonEndsTheDialogWithItsAnswer()
+{
+    QFETCH(int, button);
+    DialogFixture f;
+    QSignalSpy finished(&f.dialog, &QDialog::finished);
+    f.Button(ReportButton).setEnabled(true);
+    f.dialog.show();
+
+    f.Button(button).click();
+
+    QCOMPARE(finished.size(), 1);
+    QTEST(finished[0][0].toInt(), "answer");
+    QVERIFY(!f.dialog.isVisible());
+}
+
+void DebugWarnDialogTest::theReportButtonCannotBeClicked()
+{
+    DialogFixture f;
+    f.dialog.show();
+
+    f.Button(ReportButton).click();
+
+    QVERIFY(f.dialog.isVisible());
+}
+
+void DebugWarnDialogTest::leavingIsToIgnoreOnce_data()
+{
+    QTest::addColumn<bool>("isEscape");
+    QTest::addColumn<bool>("isPublished");
+    QTest::newRow("Escape in house") << true << false;
+    QTest::newRow("Escape when published") << true << true;
+    QTest::newRow("closed in house") << false << false;
+    QTest::newRow("closed when published") << false << true;
+}
+
+void DebugWarnDialogTest::leavingIsToIgnoreOnce()
+{
+    QFETCH(bool, isEscape);
+    QFETCH(bool, isPublished);
+    DialogFixture f(isPublished);
+    QSignalSpy finished(&f.dialog, &QDialog::finished);
+    f.dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&f.dialog));
+
+    if (isEscape)
+        QTest::keyClick(f.dialog.windowHandle(), Qt::Key_Escape);
+    else
+        f.dialog.close();
+
+    QCOMPARE(finished.size(), 1);
+    QCOMPARE(finished[0][0].toInt(), 0);
+}
+
+void DebugWarnDialogTest::returnClicksTheFirstButton_data()
+{
+    QTest::addColumn<bool>("isPublished");
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("answer");
+    QTest::newRow("Return in house") << false << int(Qt::Key_Return) << 0;
+    QTest::newRow("Enter in house") << false << int(Qt::Key_Enter) << 0;
+    QTest::newRow("Return when published") << true << int(Qt::Key_Return) << 1;
+    QTest::newRow("Enter when published") << true << int(Qt::Key_Enter) << 1;
+}
+
+void DebugWarnDialogTest::returnClicksTheFirstButton()
+{
+    QFETCH(bool, isPublished);
+    QFETCH(int, key);
+    DialogFixture f(isPublished);
+    QSignalSpy finished(&f.dialog, &QDialog::finished);
+    f.dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&f.dialog));
+
+    QTest::keyClick(f.dialog.windowHandle(), static_cast<Qt::Key>(key));
+
+    QTRY_COMPARE(finished.size(), 1);
+    QTEST(finished[0][0].toInt(), "answer");
+}
+
+void DebugWarnDialogTest::userNameAndPasswordAreCopied_data()
+{
+    QTest::addColumn<QString>("userName");
+    QTest::addColumn<QString>("password");
+    QTest::addColumn<bool>("isComplete");
+    QTest::newRow("neither") << ""
+                             << "" << false;
+    QTest::newRow("user name") << QString::fromUtf8("用户") << "" << false;
+    QTest::newRow("password") << ""
+                              << "secret" << false;
+    QTest::newRow("both") << QString::fromUtf8("用户") << "secret" << true;
+}
+
+void DebugWarnDialogTest::userNameAndPasswordAreCopied()
+{
+    QFETCH(QString, userName);
+    QFETCH(QString, password);
+    DialogFixture f;
+    f.Line(UserName).setText(userName);
+    f.Line(Password).setText(password);
+    std::wstring userNameCopy = L"before";
+    std::wstring passwordCopy = L"before";
+
+    QTEST(f.dialog.GetUserNameAndPassword(userNameCopy, passwordCopy), "isComplete");
+
+    QCOMPARE(userNameCopy, userName.toStdWString());
+    QCOMPARE(passwordCopy, password.toStdWString());
+}
+
+}
+
+QTEST_MAIN(vesk::test::DebugWarnDialogTest)
+#include "DebugWarnDialogTest.moc"

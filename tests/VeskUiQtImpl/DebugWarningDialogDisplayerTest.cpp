@@ -1,0 +1,383 @@
+#include "DebugWarningDialogDisplayer.h"
+
+#include "Control/NqUiInterfaceFactory.h"
+#include "Foundation/Assert.h"
+#include "Foundation/IPublishConfig.h"
+#include "Host/Foundation/LogFile.h"
+#include "Support/HostFixture.h"
+#include "Support/MemberAccess.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QLineEdit>
+#include <QPointer>
+#include <QProcess>
+#include <QPushButton>
+#include <QStandardPaths>
+#include <QTextEdit>
+#include <QTimer>
+#include <QtTest>
+
+#include <csignal>
+#include <functional>
+
+namespace vesk::test
+{
+namespace
+{
+
+volatile std::sig_atomic_t s_trapCount = 0;
+
+/// Counts the breaks into a debugger, while it lives, instead of ending the process.
+class TrapCounter
+{
+public:
+    TrapCounter()
+    {
+        s_trapCount = 0;
+        m_pPrevious = std::signal(SIGTRAP, [](int) { s_trapCount = s_trapCount + 1; });
+    }
+    ~TrapCounter() { std::signal(SIGTRAP, m_pPrevious); }
+    TrapCounter(const TrapCounter&) = delete;
+    TrapCounter& operator=(const TrapCounter&) = delete;
+
+    int GetCount() const { return s_trapCount; }
+
+private:
+    void (*m_pPrevious)(int);
+};
+
+/// Shows a warning as the host does.
+bool Display()
+{
+    return NqUiInterfaceFactory::m_pFactory->CreateDebugWarningDialogDisplayer()->Display(
+        "File.cpp", 12, "vesk::F::G", L"pDock是空指针", L"vesk-ui", L"2026-11-21");
+}
+
+/// Has the user do something with the dialog as soon as it is shown.
+void WhenShown(std::function<void(QDialog&)> act)
+{
+    QTimer::singleShot(0, qApp, [act = std::move(act)] {
+        auto* pDialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (pDialog != nullptr)
+            act(*pDialog);
+    });
+}
+
+void Click(const QDialog& dialog, const QString& text)
+{
+    for (QPushButton* pButton : dialog.findChildren<QPushButton*>())
+        if (pButton->text() == text)
+            return pButton->click();
+}
+
+/// Runs this program with another task; see the end of the file.
+struct Child
+{
+    Child(const QString& program, const QStringList& arguments)
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        // Leaks cannot be looked for in a process that a debugger watches.
+        environment.insert("ASAN_OPTIONS", "detect_leaks=0");
+        process.setProcessEnvironment(environment);
+        process.start(program, arguments);
+        hasFinished = process.waitForFinished(60000);
+        output = process.readAllStandardOutput();
+        errors = process.readAllStandardError();
+    }
+
+    QProcess process;
+    bool hasFinished = false;
+    QByteArray output;
+    QByteArray errors;
+};
+
+}
+
+class DebugWarningDialogDisplayerTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void operationsHaveTheirSlotsAndThereAreNoMembers();
+    void answersAreTold_data();
+    void answersAreTold();
+    void leavingIsToIgnoreOnce_data();
+    void leavingIsToIgnoreOnce();
+    void theDialogShowsTheWarning();
+    void theDialogStandsOnTheMainWindow();
+    void theDialogStandsAloneWithoutAMainWindow();
+    void theDialogStandsAloneWhenTheWindowIsUnknown();
+    void nothingOfADialogSurvives();
+    void aPublishedProgramHasOneButton();
+    void debuggingBreaksOnce();
+    void withoutADebuggerTheProcessEnds();
+    void aDebuggerStopsTheProcessAndLetsItGoOn();
+    void withoutAnApplicationTheFactIsAsserted();
+    void withoutAnApplicationTheFactIsLogged();
+};
+
+void DebugWarningDialogDisplayerTest::operationsHaveTheirSlotsAndThereAreNoMembers()
+{
+    QCOMPARE(SlotOf(&IDebugWarningDisplayer::Display), std::ptrdiff_t(0));
+    QCOMPARE(sizeof(DebugWarningDialogDisplayer), sizeof(void*));
+    QVERIFY((std::is_base_of_v<IDebugWarningDisplayer, IDebugWarningDialogDisplayer>));
+    QVERIFY((std::is_base_of_v<IDebugWarningDialogDisplayer, DebugWarningDialogDisplayer>));
+}
+
+void DebugWarningDialogDisplayerTest::answersAreTold_data()
+{
+    QTest::addColumn<int>("answer");
+    QTest::addColumn<bool>("isToBeShownAgain");
+    QTest::newRow("ignored once") << 0 << true;
+    QTest::newRow("ignored for good") << 1 << false;
+    QTest::newRow("reported") << 2 << true;
+    QTest::newRow("another") << 7 << true;
+    QTest::newRow("negative") << -1 << true;
+}
+
+void DebugWarningDialogDisplayerTest::answersAreTold()
+{
+    QFETCH(int, answer);
+    HostFixture host;
+    const TrapCounter traps;
+    WhenShown([=](QDialog& dialog) { dialog.done(answer); });
+
+    QTEST(Display(), "isToBeShownAgain");
+
+    QCOMPARE(traps.GetCount(), 0);
+}
+
+void DebugWarningDialogDisplayerTest::leavingIsToIgnoreOnce_data()
+{
+    QTest::addColumn<bool>("isEscape");
+    QTest::newRow("Escape") << true;
+    QTest::newRow("closed") << false;
+}
+
+void DebugWarningDialogDisplayerTest::leavingIsToIgnoreOnce()
+{
+    QFETCH(bool, isEscape);
+    HostFixture host;
+    bool hasAnswered = false;
+    WhenShown([&](QDialog& dialog) {
+        hasAnswered = true;
+        if (isEscape)
+            QTest::keyClick(&dialog, Qt::Key_Escape);
+        else
+            dialog.close();
+    });
+
+    QVERIFY(Display());
+
+    QVERIFY(hasAnswered);
+}
+
+void DebugWarningDialogDisplayerTest::theDialogShowsTheWarning()
+{
+    HostFixture host;
+    QStringList shown;
+    bool isModal = false;
+    WhenShown([&](QDialog& dialog) {
+        isModal = dialog.isModal() && dialog.isVisible();
+        for (const QTextEdit* pBox : dialog.findChildren<QTextEdit*>())
+            shown << pBox->toPlainText();
+        for (const QLineEdit* pLine : dialog.findChildren<QLineEdit*>())
+            shown << pLine->text();
+        dialog.done(0);
+    });
+
+    Display();
+
+    QVERIFY(isModal);
+    QCOMPARE(shown, (QStringList{QString::fromUtf8("pDock是空指针"), "File.cpp", "vesk::F::G", "",
+                                 "", "12", "vesk-ui", "2026-11-21"}));
+}
+
+/// The widget that a dialog shown now stands on.
+QWidget* FindDialogsParent(bool* pWasShown)
+{
+    QWidget* pParent = nullptr;
+    WhenShown([&](QDialog& dialog) {
+        *pWasShown = true;
+        pParent = dialog.parentWidget();
+        dialog.done(0);
+    });
+    Display();
+    return pParent;
+}
+
+void DebugWarningDialogDisplayerTest::theDialogStandsOnTheMainWindow()
+{
+    HostFixture host;
+    TestWindow another;
+    host.application.SetMainWindow(&another);
+    bool wasShown = false;
+
+    QCOMPARE(FindDialogsParent(&wasShown), static_cast<QWidget*>(&another));
+    QVERIFY(wasShown);
+}
+
+void DebugWarningDialogDisplayerTest::theDialogStandsAloneWithoutAMainWindow()
+{
+    HostFixture host;
+    bool wasShown = false;
+
+    QVERIFY(FindDialogsParent(&wasShown) == nullptr);
+    QVERIFY(wasShown);
+}
+
+void DebugWarningDialogDisplayerTest::theDialogStandsAloneWhenTheWindowIsUnknown()
+{
+    HostFixture host;
+    host.application.SetMainWindow(&host.window);
+    host.window.SetWindowId(0);
+    bool wasShown = false;
+
+    QVERIFY(FindDialogsParent(&wasShown) == nullptr);
+    QVERIFY(wasShown);
+}
+
+void DebugWarningDialogDisplayerTest::nothingOfADialogSurvives()
+{
+    HostFixture host;
+    host.application.SetMainWindow(&host.window);
+    QPointer<QDialog> pDialog;
+    WhenShown([&](QDialog& dialog) {
+        pDialog = &dialog;
+        dialog.done(1);
+    });
+
+    QVERIFY(!Display());
+
+    QVERIFY(pDialog.isNull());
+    QVERIFY(host.window.findChildren<QDialog*>().isEmpty());
+}
+
+void DebugWarningDialogDisplayerTest::aPublishedProgramHasOneButton()
+{
+    HostFixture host;
+    IPublishConfig::SetConfigRecord(PublishConfigRecordNames::InHouseMode, false);
+    QStringList visible;
+    WhenShown([&](QDialog& dialog) {
+        for (const QPushButton* pButton : dialog.findChildren<QPushButton*>())
+            if (!pButton->visibleRegion().isEmpty())
+                visible << pButton->text();
+        Click(dialog, QString::fromUtf8("确定"));
+    });
+
+    QVERIFY(!Display());
+
+    QCOMPARE(visible, QStringList(QString::fromUtf8("确定")));
+}
+
+void DebugWarningDialogDisplayerTest::debuggingBreaksOnce()
+{
+    HostFixture host;
+    const TrapCounter traps;
+    WhenShown([](QDialog& dialog) { Click(dialog, QString::fromUtf8("调试")); });
+
+    QVERIFY(Display());
+
+    QCOMPARE(traps.GetCount(), 1);
+}
+
+void DebugWarningDialogDisplayerTest::withoutADebuggerTheProcessEnds()
+{
+    const Child child(QCoreApplication::applicationFilePath(), {"--debug"});
+
+    QVERIFY(child.hasFinished);
+    QCOMPARE(child.process.exitStatus(), QProcess::CrashExit);
+    QCOMPARE(child.process.exitCode(), SIGTRAP);
+}
+
+void DebugWarningDialogDisplayerTest::aDebuggerStopsTheProcessAndLetsItGoOn()
+{
+    const QString gdb = QStandardPaths::findExecutable("gdb");
+    if (gdb.isEmpty())
+        QSKIP("there is no gdb");
+
+    const Child child(gdb,
+                      {"-nx", "-batch", "-ex", "run", "-ex", "echo [stopped]\\n", "-ex", "continue",
+                       "--args", QCoreApplication::applicationFilePath(), "--debug"});
+
+    QVERIFY(child.hasFinished);
+    const int trap = child.output.indexOf("SIGTRAP");
+    const int stopped = child.output.indexOf("[stopped]");
+    const int wentOn = child.output.indexOf("answer 1");
+    const int ended = child.output.indexOf("exited normally");
+    QVERIFY2(0 <= trap && trap < stopped && stopped < wentOn && wentOn < ended,
+             (child.output + child.errors).constData());
+}
+
+void DebugWarningDialogDisplayerTest::withoutAnApplicationTheFactIsAsserted()
+{
+    const Child child(QCoreApplication::applicationFilePath(), {"--before-application"});
+
+    QVERIFY(child.hasFinished);
+    QCOMPARE(child.process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(child.process.exitCode(), 1);
+    QVERIFY2(child.errors.endsWith("VeskUiQtImpl/DebugWarningDialogDisplayer.cpp:58: assertion "
+                                   "failed: false && \"A DBG_WARN is triggered.\"\n"),
+             child.errors.constData());
+    QCOMPARE(child.errors.count('\n'), 1);
+}
+
+void DebugWarningDialogDisplayerTest::withoutAnApplicationTheFactIsLogged()
+{
+    const LogFile log;
+
+    const Child child(QCoreApplication::applicationFilePath(),
+                      {"--before-application", QString::fromStdString(log.GetPath())});
+
+    QVERIFY(child.hasFinished);
+    QCOMPARE(child.process.exitCode(), 1);
+    QCOMPARE(child.errors, QByteArray());
+    const QVector<QJsonObject> records = log.ReadRecords();
+    QCOMPARE(records.size(), 1);
+    QCOMPARE(records[0]["condition"].toString(), QString("false && \"A DBG_WARN is triggered.\""));
+    QVERIFY(records[0]["file"].toString().endsWith("VeskUiQtImpl/DebugWarningDialogDisplayer.cpp"));
+    QCOMPARE(records[0]["line"].toInt(), 58);
+    QCOMPARE(records[0]["function"].toString(),
+             QString("vesk::DebugWarningDialogDisplayer::Display"));
+}
+
+/// Shows a warning before there is any application; exits with the answer. With the path of a log
+/// assertions are off.
+int DisplayBeforeApplication(const char* logPath)
+{
+    if (logPath != nullptr)
+    {
+        SetAssertEnabled(false);
+        DebugMessageMgr::GetDebugMessageMgr()->OpenLog(logPath);
+    }
+    const int answer = Display() ? 1 : 0;
+    DebugMessageMgr::GetDebugMessageMgr()->CloseLog();
+    return answer;
+}
+
+/// Shows a warning, chooses to debug it and tells the answer.
+int DebugWarningInApplication(int argc, char* argv[])
+{
+    const QApplication application(argc, argv);
+    HostFixture host;
+    WhenShown([](QDialog& dialog) { Click(dialog, QString::fromUtf8("调试")); });
+    std::printf("answer %d\n", Display() ? 1 : 0);
+    return 0;
+}
+
+}
+
+int main(int argc, char* argv[])
+{
+    const QByteArray task(argc > 1 ? argv[1] : "");
+    if (task == "--before-application")
+        return vesk::test::DisplayBeforeApplication(argc > 2 ? argv[2] : nullptr);
+    if (task == "--debug")
+        return vesk::test::DebugWarningInApplication(argc, argv);
+    QApplication application(argc, argv);
+    vesk::test::DebugWarningDialogDisplayerTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "DebugWarningDialogDisplayerTest.moc"
