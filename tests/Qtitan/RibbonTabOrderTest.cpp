@@ -121,7 +121,7 @@ private slots:
             f.show(1200);
         auto* pFirst = ControlsFixture::named<QCheckBox>("check0");
         auto* pLayout = qobject_cast<QVBoxLayout*>(f.pChecks->layout());
-        delete pLayout->takeAt(3)->widget();
+        delete pLayout->itemAt(3)->widget();
         pLayout->insertWidget(0, pFirst);
         f.show(1200);
         QCoreApplication::processEvents();

@@ -18,14 +18,14 @@ RibbonButtonControl::~RibbonButtonControl() = default;
 
 QToolButton* RibbonButtonControl::widget() const
 {
-    return m_pButton;
+    return qobject_cast<QToolButton*>(m_pButton.data());
 }
 
 void RibbonButtonControl::setWidget(QToolButton* pButton)
 {
     if (pButton == m_pButton)
         return;
-    if (QToolButton* pOld = m_pButton)
+    if (QWidget* pOld = m_pButton)
     {
         m_pButton = nullptr;
         pOld->removeEventFilter(this);
@@ -65,8 +65,12 @@ bool RibbonButtonControl::event(QEvent* pEvent)
 bool RibbonButtonControl::eventFilter(QObject* pWatched, QEvent* pEvent)
 {
     const QEvent::Type type = pEvent->type();
-    if (m_pButton != nullptr && pWatched == m_pButton && filterRibbonButton(*m_pButton, *pEvent))
-        return true;
+    if (pWatched == m_pButton)
+    {
+        QToolButton* pButton = widget();
+        if (pButton != nullptr && filterRibbonButton(*pButton, *pEvent))
+            return true;
+    }
     if (type == QEvent::ShowToParent || type == QEvent::HideToParent)
         followButton();
     return QWidget::eventFilter(pWatched, pEvent);

@@ -41,7 +41,9 @@ protected:
 private:
     void followButton();
 
-    QPointer<QToolButton> m_pButton;
+    /// A tool button, but no longer one while it is being destroyed: then it must not be looked at
+    /// as one.
+    QPointer<QWidget> m_pButton;
 };
 
 } // namespace Qtitan
