@@ -69,6 +69,7 @@ bool ReadingMonitor::eventFilter(QObject* pWatched, QEvent* pEvent)
     const QEvent::Type type = pEvent->type();
     const bool isEscape =
         type == QEvent::KeyPress && static_cast<QKeyEvent*>(pEvent)->key() == Qt::Key_Escape;
-    m_isCancelled = m_isCancelled || isEscape || type == QEvent::Close;
+    const bool isClosing = type == QEvent::Close && pWatched == m_controls.window();
+    m_isCancelled = m_isCancelled || isEscape || isClosing;
     return IsInput(type) || QObject::eventFilter(pWatched, pEvent);
 }
