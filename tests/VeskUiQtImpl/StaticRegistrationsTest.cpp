@@ -7,10 +7,13 @@
 #include "Dimension/ITemporaryDimensionHandler.h"
 #include "Dimension/LinearTemporaryDimensionContext.h"
 #include "Dimension/TemporaryDimensionMgr.h"
+#include "Foundation/IDebugWarningDisplayer.h"
 #include "Support/HostFixture.h"
 
+#include <QApplication>
 #include <QFile>
 #include <QStringList>
+#include <QTimer>
 #include <QToolButton>
 #include <QtTest>
 
@@ -141,6 +144,7 @@ private slots:
     void leavesNothingRegistered();
     void isReallyUnloaded();
     void isUnloadedAfterWork();
+    void isUnloadedAfterAWarningWasShown();
     void mayBeLoadedAgain();
     void hasNoSymbolThatPinsIt();
 };
@@ -218,6 +222,24 @@ void StaticRegistrationsTest::isUnloadedAfterWork()
     library.Unload();
 
     QVERIFY(!IsLibraryInTheProcess());
+}
+
+void StaticRegistrationsTest::isUnloadedAfterAWarningWasShown()
+{
+    HostFixture host;
+    host.application.SetMainWindow(&host.window);
+    Loaded library;
+    QTimer::singleShot(0, qApp, [] {
+        if (QWidget* pDialog = QApplication::activeModalWidget())
+            pDialog->close();
+    });
+
+    QVERIFY(NqUiInterfaceFactory::m_pFactory->CreateDebugWarningDialogDisplayer()->Display(
+        "File.cpp", 1, "F", L"message", L"person", L"date"));
+    library.Unload();
+
+    QVERIFY(!IsLibraryInTheProcess());
+    QVERIFY(NqUiInterfaceFactory::m_pFactory == nullptr);
 }
 
 void StaticRegistrationsTest::mayBeLoadedAgain()
