@@ -25,6 +25,7 @@ OwnerPtr<CommandButtonMenuDefinition> MakeZoomMenu(const std::vector<CommandEntr
 {
     auto opMenu = MakeOwner<CommandButtonMenuDefinition>(ZoomMenu::Id, L"Sketcher.ZoomAll");
     auto opScales = MakeOwner<MenuItemContainerDefinition>(ZoomMenu::ScaleId, L"比例");
+    opScales->SetIconPath(L":/icons/zoom-scale.svg");
     for (const CommandEntry& entry : commands)
     {
         if (entry.menu == ZoomMenu::Id)

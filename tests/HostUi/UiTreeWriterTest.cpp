@@ -13,11 +13,13 @@
 #include <QFile>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMenu>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 
+#include <initializer_list>
 #include <memory>
 
 using namespace vesk;
@@ -112,6 +114,58 @@ private slots:
         QVERIFY(Read()["controls"][1]["enabled"] == false);
     }
 
+    void entryOfAnOpenMenuHasItsPlace()
+    {
+        const MenuFixture f(*m_pButton);
+        f.pMenu->popup(QPoint(10, 20));
+
+        QVERIFY(m_pWriter->Write());
+
+        const nlohmann::json entry = Find("Zoom.In");
+        const QRect place = f.pMenu->actionGeometry(f.pEntry);
+        const QPoint corner = f.pMenu->mapToGlobal(place.topLeft());
+        QVERIFY(entry["visible"] == true);
+        QVERIFY((entry["rect"] ==
+                 nlohmann::json{corner.x(), corner.y(), place.width(), place.height()}));
+    }
+
+    void entryOfAClosedMenuHasNone()
+    {
+        const MenuFixture f(*m_pButton);
+
+        QVERIFY(m_pWriter->Write());
+
+        QVERIFY(Find("Zoom.In")["visible"] == false);
+        QVERIFY(Find("Zoom.In")["rect"].is_null());
+        QVERIFY(Find("Scales")["rect"].is_null());
+    }
+
+    void closedSubMenuIsWhereItsEntryIs()
+    {
+        const MenuFixture f(*m_pButton);
+        f.pMenu->popup(QPoint(10, 20));
+
+        QVERIFY(m_pWriter->Write());
+
+        const QRect place = f.pMenu->actionGeometry(f.pSubMenu->menuAction());
+        const QPoint corner = f.pMenu->mapToGlobal(place.topLeft());
+        QVERIFY(Find("Scales")["visible"] == true);
+        QVERIFY((Find("Scales")["rect"] ==
+                 nlohmann::json{corner.x(), corner.y(), place.width(), place.height()}));
+    }
+
+    void menuIsDisabledWithItsButton()
+    {
+        const MenuFixture f(*m_pButton);
+        m_pWindow->setEnabled(false);
+
+        QVERIFY(m_pWriter->Write());
+
+        QVERIFY(Find("Menu")["enabled"] == false);
+        QVERIFY(Find("Scales")["enabled"] == false);
+        QVERIFY(Find("Zoom.In")["enabled"] == false);
+    }
+
     void changeIsWrittenWhenTheLoopIsIdle()
     {
         QVERIFY(m_pWriter->Write());
@@ -155,6 +209,36 @@ private slots:
     }
 
 private:
+    /// The menu of a button, with an entry and a sub-menu, all of them definitions.
+    struct MenuFixture
+    {
+        explicit MenuFixture(QPushButton& button)
+            : pMenu(new QMenu(&button)), pSubMenu(pMenu->addMenu(QStringLiteral("比例"))),
+              pEntry(pMenu->addAction(QStringLiteral("放大")))
+        {
+            pMenu->setObjectName(QStringLiteral("Menu"));
+            pSubMenu->setObjectName(QStringLiteral("Scales"));
+            pEntry->setProperty("CommandId", QStringLiteral("Zoom.In"));
+            for (QObject* pObject : std::initializer_list<QObject*>{pMenu, pSubMenu, pEntry})
+                pObject->setProperty("IsDefinition", true);
+        }
+
+        QMenu* pMenu;
+        QMenu* pSubMenu;
+        QAction* pEntry;
+    };
+
+    nlohmann::json Find(const char* id) const
+    {
+        const nlohmann::json tree = Read();
+        for (const nlohmann::json& control : tree["controls"])
+        {
+            if (control["id"] == id)
+                return control;
+        }
+        return {};
+    }
+
     nlohmann::json Read() const
     {
         QFile file(m_folder.filePath("ui"));

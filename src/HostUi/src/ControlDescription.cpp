@@ -69,10 +69,9 @@ void DescribeWidget(const QWidget& widget, Json& control)
     control["enabled"] = widget.isEnabled();
 }
 
-/// Only the entries of an open menu have a place.
-void DescribeAction(QAction& action, Json& control)
+/// Where an action is on screen. Only the entries of an open menu have a place.
+void DescribePlace(QAction& action, Json& control)
 {
-    control["enabled"] = action.isEnabled() && IsReachable(action.parentWidget());
     for (const QWidget* pWidget : action.associatedWidgets())
     {
         const auto* pMenu = qobject_cast<const QMenu*>(pWidget);
@@ -82,6 +81,20 @@ void DescribeAction(QAction& action, Json& control)
         if (pMenu != nullptr)
             control["rect"] = DescribeRect(*pMenu, pMenu->actionGeometry(&action));
     }
+}
+
+void DescribeAction(QAction& action, Json& control)
+{
+    control["enabled"] = action.isEnabled() && IsReachable(action.parentWidget());
+    DescribePlace(action, control);
+}
+
+/// A closed menu is where the entry is that opens it.
+void DescribeClosedMenu(const QMenu& menu, Json& control)
+{
+    control["rect"] = nullptr;
+    control["enabled"] = menu.isEnabled() && IsReachable(menu.parentWidget());
+    DescribePlace(*menu.menuAction(), control);
 }
 
 }
@@ -107,6 +120,9 @@ Json DescribeControl(QObject& object)
     control["enabled"] = IsReachable(qobject_cast<QWidget*>(object.parent()));
     if (const auto* pWidget = qobject_cast<const QWidget*>(&object))
         DescribeWidget(*pWidget, control);
+    const auto* pMenu = qobject_cast<const QMenu*>(&object);
+    if (pMenu != nullptr && !pMenu->isVisible())
+        DescribeClosedMenu(*pMenu, control);
     if (auto* pAction = qobject_cast<QAction*>(&object))
         DescribeAction(*pAction, control);
     control["checked"] = CheckedOf(object);
