@@ -39,6 +39,7 @@ private slots:
     void isHiddenOnlyWhenItWasHidden();
     void raisingBringsATabToTheFront();
     void floatsAndComesBack();
+    void floatsAlsoWhenItIsHidden();
     void itsOwnerDeletesTheWholeDock();
 };
 
@@ -296,6 +297,17 @@ void DockImplTest::floatsAndComesBack()
     pDock->SetFloating(false);
     QVERIFY(!pDock->IsFloating());
     QVERIFY(!WidgetOf(pDock)->isWindow());
+}
+
+void DockImplTest::floatsAlsoWhenItIsHidden()
+{
+    DockFixture f;
+    IDock* pDock = f.Add(L"name");
+    pDock->SetFloating(true);
+
+    pDock->Hide();
+
+    QVERIFY(pDock->IsFloating());
 }
 
 void DockImplTest::itsOwnerDeletesTheWholeDock()
