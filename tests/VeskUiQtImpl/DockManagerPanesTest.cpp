@@ -38,6 +38,7 @@ private slots:
     void aDockWithoutContentIsReportedAndTheOthersComeInStep();
     void aHiddenDockWithoutContentIsNotReported();
     void aDockDeletedOnTheWayIsLeftOut();
+    void aDockTakenOutOnTheWayIsLeftOut();
     void aDockMayDeleteItselfOnTheWay();
     void aDockAddedOnTheWayWaitsForTheNextTime();
 
@@ -377,6 +378,23 @@ void DockManagerPanesTest::aDockDeletedOnTheWayIsLeftOut()
     f.manager.UpdateAllDockStatus();
 
     QCOMPARE(order, QString("ac"));
+}
+
+void DockManagerPanesTest::aDockTakenOutOnTheWayIsLeftOut()
+{
+    DockFixture f;
+    QString order;
+    f.AddUpdated(L"a", [&] {
+        order += 'a';
+        IDock* pNext = f.manager.GetDock(L"b");
+        f.manager.DeleteDock(L"b");
+        pNext->Show();
+    });
+    f.AddUpdated(L"b", [&] { order += 'b'; });
+
+    f.manager.UpdateAllDockStatus();
+
+    QCOMPARE(order, QString("a"));
 }
 
 void DockManagerPanesTest::aDockMayDeleteItselfOnTheWay()
