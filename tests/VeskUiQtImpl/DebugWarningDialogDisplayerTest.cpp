@@ -19,7 +19,9 @@
 #include <QtTest>
 
 #include <csignal>
+#include <cstdio>
 #include <functional>
+#include <type_traits>
 
 namespace vesk::test
 {

@@ -5,6 +5,8 @@
 #include <QPointer>
 #include <QtTest>
 
+#include <memory>
+
 namespace vesk::test
 {
 

@@ -5,6 +5,8 @@
 
 #include <QtTest>
 
+#include <typeinfo>
+
 namespace vesk::test
 {
 
