@@ -296,8 +296,7 @@ void DebugWarningDialogDisplayerTest::withoutADebuggerTheProcessEnds()
 void DebugWarningDialogDisplayerTest::aDebuggerStopsTheProcessAndLetsItGoOn()
 {
     const QString gdb = QStandardPaths::findExecutable("gdb");
-    if (gdb.isEmpty())
-        QSKIP("there is no gdb");
+    QVERIFY2(!gdb.isEmpty(), "gdb is missing; scripts/setup installs it");
 
     const Child child(gdb,
                       {"-nx", "-batch", "-ex", "run", "-ex", "echo [stopped]\\n", "-ex", "continue",
