@@ -38,11 +38,19 @@ std::optional<int> Answer(const Options& options)
     return 0;
 }
 
-/// Where no folder for the session's sockets is set, the toolkit makes one; that is nobody's
-/// concern.
+/// What the toolkit tells of its own housekeeping and nobody can act upon: it makes a folder for the
+/// session's sockets where none is set; and it asks for the window below the cursor, frame by frame,
+/// while the window manager removes one of the frames.
+bool IsHousekeeping(const QString& message)
+{
+    return message.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set")) ||
+           (message.startsWith(QLatin1String("QXcbConnection: XCB error: 3 (BadWindow)")) &&
+            message.contains(QLatin1String("(TranslateCoords)")));
+}
+
 void PassMessage(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
-    if (!message.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set")))
+    if (!IsHousekeeping(message))
         std::cerr << qFormatLogMessage(type, context, message).toStdString() << std::endl;
 }
 
