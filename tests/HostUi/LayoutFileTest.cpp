@@ -1,0 +1,203 @@
+#include "HostUi/LayoutFile.h"
+
+#include "HostUi/PaneRun.h"
+
+#include <QRandomGenerator>
+#include <QTemporaryDir>
+
+#include <functional>
+
+namespace vesk::test
+{
+
+/// Makes a bad file of a good one.
+using Damage = std::function<QByteArray(const QByteArray& good, QRandomGenerator& random)>;
+
+}
+
+Q_DECLARE_METATYPE(vesk::test::Damage)
+
+namespace vesk::test
+{
+
+using Content = LayoutFile::Content;
+
+/// Files that keep layouts, and what may become of them between two runs.
+class LayoutFileTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void whatIsWrittenIsRead();
+    void aFileThatIsNotThereIsMissing();
+    void anythingElseIsDamaged_data();
+    void anythingElseIsDamaged();
+    void oneOfALaterVersionIsNewer();
+    void whatCannotBeReadIsKept_data();
+    void whatCannotBeReadIsKept();
+    void aFolderThatCannotBeMadeIsToldOf();
+    void noFileHarmsTheProgram_data();
+    void noFileHarmsTheProgram();
+
+private:
+    QString Path() const { return m_folder.filePath(QStringLiteral("sub/layout.json")); }
+    void Put(const QByteArray& text) const;
+    static QByteArray Get(const QString& path);
+
+    QTemporaryDir m_folder;
+};
+
+void LayoutFileTest::Put(const QByteArray& text) const
+{
+    QVERIFY(LayoutFile::Write(Path(), "x"));
+    QFile file(Path());
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(text), qint64(text.size()));
+}
+
+QByteArray LayoutFileTest::Get(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void LayoutFileTest::whatIsWrittenIsRead()
+{
+    const QByteArray layout("\0\xff layout", 9);
+
+    QVERIFY(LayoutFile::Write(Path(), layout));
+
+    const LayoutFile::Reading reading = LayoutFile::Read(Path());
+    QVERIFY(reading.content == Content::Layout);
+    QCOMPARE(reading.layout, layout);
+}
+
+void LayoutFileTest::aFileThatIsNotThereIsMissing()
+{
+    QVERIFY(LayoutFile::Read(m_folder.filePath("none")).content == Content::Missing);
+}
+
+void LayoutFileTest::anythingElseIsDamaged_data()
+{
+    QVERIFY(LayoutFile::Write(Path(), "layout"));
+    const QByteArray good = Get(Path());
+    QTest::addColumn<QByteArray>("text");
+
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("no JSON") << QByteArray("layout");
+    QTest::newRow("torn") << good.left(good.size() / 2);
+    QTest::newRow("no version") << QByteArray(good).replace("version", "revision");
+    QTest::newRow("an older version") << QByteArray(good).replace(": 1", ": 0");
+    QTest::newRow("no layout") << QByteArray(good).replace("\"layout\"", "\"other\"");
+    QTest::newRow("another layout")
+        << QByteArray(good).replace(QByteArray("layout").toBase64(), "AAAA");
+    QTest::newRow("no checksum") << QByteArray(good).replace("checksum", "sum");
+}
+
+void LayoutFileTest::anythingElseIsDamaged()
+{
+    QFETCH(QByteArray, text);
+    Put(text);
+
+    const LayoutFile::Reading reading = LayoutFile::Read(Path());
+
+    QVERIFY(reading.content == Content::Damaged);
+    QVERIFY(reading.layout.isEmpty());
+}
+
+void LayoutFileTest::oneOfALaterVersionIsNewer()
+{
+    Put("{\"version\": 2, \"panes\": []}");
+
+    QVERIFY(LayoutFile::Read(Path()).content == Content::Newer);
+}
+
+void LayoutFileTest::whatCannotBeReadIsKept_data()
+{
+    QTest::addColumn<QByteArray>("text");
+
+    QTest::newRow("damaged") << QByteArray("damaged");
+    QTest::newRow("newer") << QByteArray("{\"version\": 7}");
+}
+
+void LayoutFileTest::whatCannotBeReadIsKept()
+{
+    QFETCH(QByteArray, text);
+    Put(text);
+
+    QVERIFY(LayoutFile::Write(Path(), "layout"));
+    QVERIFY(LayoutFile::Write(Path(), "another layout"));
+
+    QCOMPARE(Get(Path() + ".kept"), text);
+    QCOMPARE(LayoutFile::Read(Path()).layout, QByteArray("another layout"));
+}
+
+void LayoutFileTest::aFolderThatCannotBeMadeIsToldOf()
+{
+    QVERIFY(LayoutFile::Write(Path(), "layout"));
+
+    QVERIFY(!LayoutFile::Write(Path() + "/below/layout.json", "layout"));
+}
+
+static QByteArray RandomText(QRandomGenerator& random, int length)
+{
+    QByteArray text(length, '\0');
+    for (char& byte : text)
+        byte = static_cast<char>(random.bounded(256));
+    return text;
+}
+
+void LayoutFileTest::noFileHarmsTheProgram_data()
+{
+    QTest::addColumn<Damage>("damage");
+
+    QTest::newRow("noise") << Damage([](const QByteArray&, QRandomGenerator& random) {
+        return RandomText(random, random.bounded(2000));
+    });
+    QTest::newRow("changed bytes") << Damage([](QByteArray text, QRandomGenerator& random) {
+        for (int i = random.bounded(1, 10); i > 0; --i)
+            text[random.bounded(text.size())] = static_cast<char>(random.bounded(256));
+        return text;
+    });
+    QTest::newRow("cut off") << Damage([](const QByteArray& text, QRandomGenerator& random) {
+        return text.left(random.bounded(text.size()));
+    });
+    QTest::newRow("a part twice") << Damage([](QByteArray text, QRandomGenerator& random) {
+        const int from = random.bounded(text.size());
+        return text.insert(random.bounded(text.size()), text.mid(from, random.bounded(200)));
+    });
+}
+
+/// However the file looks, every pane is somewhere, and showing it makes it visible.
+void LayoutFileTest::noFileHarmsTheProgram()
+{
+    constexpr int Rounds = 2500;
+    QFETCH(Damage, damage);
+    const quint32 seed = QRandomGenerator::global()->generate();
+    QRandomGenerator random(seed);
+    const QByteArray seedText = "seed " + QByteArray::number(seed);
+    Run run;
+    run.Arrange();
+    QVERIFY(LayoutFile::Write(Path(), run.pLayout->Save()));
+    const QByteArray good = Get(Path());
+
+    for (int round = 0; round < Rounds; ++round)
+    {
+        Put(damage(good, random));
+        run.pLayout->Restore(LayoutFile::Read(Path()).layout);
+        // What the toolkit puts off until an event loop runs.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        for (const char* name : {"A", "B", "C", "D", "E", "F"})
+        {
+            QDockWidget* pPane = run.Pane(name);
+            QVERIFY2(IsPlaced(run, pPane), seedText);
+            run.manager.GetDock(ToWide(QLatin1String(name)))->Show();
+            QVERIFY2(pPane->isVisible(), seedText);
+        }
+    }
+}
+
+}
+
+QTEST_MAIN(vesk::test::LayoutFileTest)
+#include "LayoutFileTest.moc"
