@@ -9,11 +9,13 @@
 #include "Foundation/Text.h"
 #include "HostUi/DimensionInputController.h"
 #include "HostUi/DrawingView.h"
+#include "PaneDescription.h"
 
 #include <nlohmann/json.hpp>
 
 #include <QApplication>
 #include <QLineEdit>
+#include <QMainWindow>
 
 #include <cmath>
 #include <optional>
@@ -93,12 +95,15 @@ std::string DescribeUi(const DimensionInputController& input, int entityCount)
 {
     Json controls = Json::array();
     Json views = Json::array();
+    Json panes = Json::array();
     for (QWidget* pWindow : QApplication::topLevelWidgets())
     {
         if (pWindow->parent() != nullptr)
             continue;
         AddControls(*pWindow, controls);
         AddViews(*pWindow, views);
+        if (const auto* pMainWindow = qobject_cast<const QMainWindow*>(pWindow))
+            DescribePanes(*pMainWindow, panes);
     }
     const IAction* pAction = IActionManager::CurrentAction();
     const std::string commandId = ToUtf8(ActionManager::GetRunningCommandId());
@@ -108,6 +113,7 @@ std::string DescribeUi(const DimensionInputController& input, int entityCount)
                 {"action", commandId.empty() ? Json(nullptr) : Json(commandId)},
                 {"hint", pAction != nullptr ? ToUtf8(pAction->GetViewText()) : std::string()},
                 {"entities", entityCount},
+                {"docks", panes},
                 {"warning", DescribeWarning()}}
         .dump(1);
 }

@@ -46,6 +46,10 @@ public:
     /// Shows a drawing view, of which the window becomes the Qt parent, and its texts.
     void SetDrawingView(DrawingView* pView);
 
+signals:
+    /// The window is about to close; panes stand as they did.
+    void closing();
+
 protected:
     void closeEvent(QCloseEvent* pEvent) override;
 
