@@ -1,6 +1,7 @@
 #include "EraseAction.h"
 
 #include "Picking.h"
+#include "ShapeGraphics.h"
 #include "Workspace.h"
 
 #include "Graphics/IGraphicsNode.h"
@@ -35,12 +36,7 @@ void EraseAction::OnClick(const Vector3d& world)
 OwnerPtr<IGraphicsNodeGroup> EraseAction::CreateRubberBand() const
 {
     const Entity* pHovered = m_sketch.Find(m_hovered);
-    if (pHovered == nullptr)
-        return nullptr;
-    OwnerPtr<IGraphicsNodeGroup> opGroup = IGraphicsNodeGroup::Create();
-    opGroup->AddChild(
-        IGraphicsLine::Create(pHovered->start, pHovered->end, GraphicsRole::RubberBand));
-    return opGroup;
+    return pHovered != nullptr ? MakeRubberBand(pHovered->shape) : nullptr;
 }
 
 bool EraseAction::ReplayPoint(const Vector3d& world, const std::optional<int>& entity)

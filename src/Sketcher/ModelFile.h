@@ -6,5 +6,8 @@ class Sketch;
 
 /// Writes the drawing as JSON: `{"entities":[{"type":"line","start":[x,y,z],"end":[x,y,z],
 /// "style":"solid","colour":"default"}]}`.
+///
+/// Instead of start and end, a "circle" has "centre", "radius" and "normal"; an "arc" has these and
+/// "start" and "end", counter-clockwise about the normal; a "rectangle" has "corners", four points.
 /// Numbers read back to the very doubles of the drawing. False when the file cannot be written.
 bool WriteModelFile(const Sketch& sketch, const QString& path);

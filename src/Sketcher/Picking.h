@@ -3,7 +3,6 @@
 #include "Geometry/Vector3d.h"
 
 class Sketch;
-struct Entity;
 
 namespace vesk
 {
@@ -12,9 +11,6 @@ class IUiView;
 
 /// How far the cursor reaches, in the units of the model: 10 pixels of the view. Zero without one.
 double CursorReach(const vesk::IUiView* pView);
-
-/// The distance of a point from an entity.
-double DistanceTo(const Entity& entity, const vesk::Vector3d& point);
 
 /// The entity nearest to a point, within reach of the cursor; of equals the one drawn last. 0 when
 /// there is none.

@@ -5,6 +5,8 @@
 #include "Journal/JournalManager.h"
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 using namespace vesk;
 
@@ -15,7 +17,7 @@ Selection::Selection(const Sketch& sketch) : m_sketch(sketch)
 
 bool Selection::Contains(int id) const
 {
-    return std::find(m_ids.begin(), m_ids.end(), id) != m_ids.end();
+    return std::binary_search(m_ascending.begin(), m_ascending.end(), id);
 }
 
 bool Selection::Select(const std::vector<int>& ids)
@@ -25,17 +27,23 @@ bool Selection::Select(const std::vector<int>& ids)
     if (!isKnown || ids == m_ids)
         return isKnown;
     JournalManager::GetInstance().Add(SelectionRecord{ids});
-    m_ids = ids;
-    emit changed();
+    Set(ids);
     return true;
 }
 
 void Selection::OnSketchChanged()
 {
-    const auto gone = std::remove_if(m_ids.begin(), m_ids.end(),
-                                     [this](int id) { return m_sketch.Find(id) == nullptr; });
-    if (gone == m_ids.end())
-        return;
-    m_ids.erase(gone, m_ids.end());
+    std::vector<int> standing;
+    std::copy_if(m_ids.begin(), m_ids.end(), std::back_inserter(standing),
+                 [this](int id) { return m_sketch.Find(id) != nullptr; });
+    if (standing.size() != m_ids.size())
+        Set(std::move(standing));
+}
+
+void Selection::Set(std::vector<int> ids)
+{
+    m_ids = std::move(ids);
+    m_ascending = m_ids;
+    std::sort(m_ascending.begin(), m_ascending.end());
     emit changed();
 }

@@ -30,6 +30,11 @@ signals:
 private:
     void OnSketchChanged();
 
+    void Set(std::vector<int> ids);
+
     const Sketch& m_sketch;
     std::vector<int> m_ids;
+
+    /// The same in ascending order, to be searched.
+    std::vector<int> m_ascending;
 };

@@ -1,15 +1,10 @@
 #include "Sketch.h"
 
-#include "Geometry/Constants.h"
-
 #include <QUndoCommand>
 
 #include <algorithm>
 #include <cstddef>
 #include <utility>
-
-using vesk::Constants;
-using vesk::Vector3d;
 
 namespace
 {
@@ -90,6 +85,34 @@ private:
     std::vector<std::pair<int, int>> m_before;
 };
 
+class Sketch::ShapeStep final : public Step
+{
+public:
+    ShapeStep(Sketch& sketch, const std::vector<std::pair<int, Shape>>& shapes)
+        : Step(sketch, shapes.front().first), m_others(shapes)
+    {}
+
+    void redo() override { Exchange(); }
+
+    void undo() override
+    {
+        // An entity that is named twice gets its first shape back last.
+        std::reverse(m_others.begin(), m_others.end());
+        Exchange();
+        std::reverse(m_others.begin(), m_others.end());
+    }
+
+private:
+    void Exchange()
+    {
+        for (auto& [id, shape] : m_others)
+            std::swap(Get(id).shape, shape);
+    }
+
+    /// The shapes that the entities do not have now.
+    std::vector<std::pair<int, Shape>> m_others;
+};
+
 Sketch::Sketch() : m_name(NewName)
 {
     connect(&m_steps, &QUndoStack::indexChanged, this, &Sketch::changed);
@@ -111,13 +134,32 @@ Entity* Sketch::FindEntity(int id)
                               : nullptr;
 }
 
-int Sketch::AddLine(const Vector3d& start, const Vector3d& end)
+int Sketch::Add(const Shape& shape)
 {
-    const double length = (end - start).norm();
-    if (!(length >= Constants::MIN_MODEL_SIZE && length <= Constants::MAX_MODEL_SIZE))
+    if (!IsDrawable(shape))
         return 0;
-    m_steps.push(new AddStep(*this, Entity{++m_lastId, start, end, m_currentPen}));
+    m_steps.push(new AddStep(*this, Entity{++m_lastId, shape, m_currentPen}));
     return m_lastId;
+}
+
+int Sketch::AddLine(const vesk::Vector3d& start, const vesk::Vector3d& end)
+{
+    return Add(LineShape{start, end});
+}
+
+bool Sketch::Replace(const std::vector<std::pair<int, Shape>>& shapes)
+{
+    const auto isPossible = [this](const auto& next) {
+        return Find(next.first) != nullptr && IsDrawable(next.second);
+    };
+    const auto isOther = [this](const auto& next) {
+        return !(Find(next.first)->shape == next.second);
+    };
+    const bool isChange = std::all_of(shapes.begin(), shapes.end(), isPossible) &&
+                          std::any_of(shapes.begin(), shapes.end(), isOther);
+    if (isChange)
+        m_steps.push(new ShapeStep(*this, shapes));
+    return isChange;
 }
 
 bool Sketch::Erase(int id)

@@ -1,21 +1,20 @@
 #pragma once
 
 #include "Pen.h"
-
-#include "Geometry/Vector3d.h"
+#include "Shape.h"
 
 #include <QObject>
 #include <QUndoStack>
 
 #include <string>
+#include <utility>
 #include <vector>
 
-/// One straight line of the drawing. Its id is never given to another entity.
+/// One shape of the drawing. Its id is never given to another entity.
 struct Entity
 {
     int id = 0;
-    vesk::Vector3d start = vesk::Vector3d::Zero();
-    vesk::Vector3d end = vesk::Vector3d::Zero();
+    Shape shape;
     Pen pen;
 };
 
@@ -35,9 +34,16 @@ public:
     /// The entity with that id, null when there is none. Valid until the next change.
     const Entity* Find(int id) const;
 
-    /// Draws a line with the current pen and returns its id; 0, and nothing is drawn, when it would
-    /// be shorter than the least or longer than the greatest size of the model.
+    /// Draws a shape with the current pen and returns its id; 0, and nothing is drawn, when it is
+    /// not drawable.
+    int Add(const Shape& shape);
+
+    /// The same with a line.
     int AddLine(const vesk::Vector3d& start, const vesk::Vector3d& end);
+
+    /// Gives entities other shapes; their ids, places and pens stay. False, and no step is made,
+    /// when one of them does not exist, a shape is not drawable, or none of them differs.
+    bool Replace(const std::vector<std::pair<int, Shape>>& shapes);
 
     /// False when there is no such entity.
     bool Erase(int id);
@@ -75,6 +81,7 @@ private:
     class AddStep;
     class EraseStep;
     class PenStep;
+    class ShapeStep;
 
     Entity* FindEntity(int id);
 

@@ -3,6 +3,7 @@
 #include "Grid.h"
 #include "LinePainter.h"
 #include "Picking.h"
+#include "ShapeMeasure.h"
 #include "SnapMarker.h"
 #include "Workspace.h"
 
@@ -47,14 +48,14 @@ void SketchView::ZoomAll()
     const std::vector<Entity>& entities = m_workspace.sketch.GetEntities();
     if (entities.empty())
         return;
-    Vector3d low = entities.front().start;
-    Vector3d high = low;
+    ShapeBounds all = BoundsOf(entities.front().shape);
     for (const Entity& entity : entities)
     {
-        low = low.cwiseMin(entity.start).cwiseMin(entity.end);
-        high = high.cwiseMax(entity.start).cwiseMax(entity.end);
+        const ShapeBounds bounds = BoundsOf(entity.shape);
+        all.low = all.low.cwiseMin(bounds.low);
+        all.high = all.high.cwiseMax(bounds.high);
     }
-    Fit(low, high);
+    Fit(all.low, all.high);
 }
 
 void SketchView::PaintModel(QPainter& painter)
@@ -68,8 +69,9 @@ void SketchView::PaintModel(QPainter& painter)
     const QColor textColour = palette().color(QPalette::Text);
     for (const Entity& entity : m_workspace.sketch.GetEntities())
     {
-        PaintLine(painter, MakePen(entity.pen, textColour),
-                  QLineF(ToPixel(entity.start), ToPixel(entity.end)), visible);
+        if (const auto* pLine = std::get_if<LineShape>(&entity.shape))
+            PaintLine(painter, MakePen(entity.pen, textColour),
+                      QLineF(ToPixel(pLine->start), ToPixel(pLine->end)), visible);
     }
 }
 
@@ -140,8 +142,11 @@ void SketchView::PaintSelected(QPainter& painter, const Entity& entity) const
 {
     constexpr double BandWidth = 7.0;
     constexpr double GripSize = 7.0;
-    const QPointF start = ToPixel(entity.start);
-    const QPointF end = ToPixel(entity.end);
+    const auto* pLine = std::get_if<LineShape>(&entity.shape);
+    if (pLine == nullptr)
+        return;
+    const QPointF start = ToPixel(pLine->start);
+    const QPointF end = ToPixel(pLine->end);
     QColor band = palette().color(QPalette::Highlight);
     band.setAlpha(110);
     painter.setPen(QPen(band, BandWidth, Qt::SolidLine, Qt::RoundCap));

@@ -2,6 +2,7 @@
 
 #include "Grid.h"
 #include "Picking.h"
+#include "ShapeMeasure.h"
 #include "Sketch.h"
 
 #include "View/UiViewUtility.h"
@@ -40,7 +41,7 @@ private:
 };
 
 /// Where two segments cross or touch; nothing for parallel ones.
-std::optional<Vector3d> Intersect(const Entity& first, const Entity& second)
+std::optional<Vector3d> Intersect(const LineShape& first, const LineShape& second)
 {
     const Vector3d a = first.end - first.start;
     const Vector3d b = second.end - second.start;
@@ -54,7 +55,7 @@ std::optional<Vector3d> Intersect(const Entity& first, const Entity& second)
     return isOnBoth ? std::optional<Vector3d>(first.start + onFirst * a) : std::nullopt;
 }
 
-void OfferIntersections(const std::vector<Entity>& entities, Nearest& nearest)
+void OfferIntersections(const std::vector<LineShape>& entities, Nearest& nearest)
 {
     for (auto first = entities.begin(); first != entities.end(); ++first)
     {
@@ -90,10 +91,10 @@ Vector3d Snapper::Catch(const Vector3d& cursor, const IUiView* pView)
 std::optional<Snapper::Caught> Snapper::Find(const Vector3d& cursor, double reach,
                                              double gridStep) const
 {
-    const std::vector<Entity> entities = GetNear(cursor, reach);
+    const std::vector<LineShape> entities = GetNear(cursor, reach);
     Nearest ends(cursor, reach);
     Nearest others(cursor, reach);
-    for (const Entity& entity : entities)
+    for (const LineShape& entity : entities)
     {
         ends.Offer(End, entity.start);
         ends.Offer(End, entity.end);
@@ -111,11 +112,14 @@ std::optional<Snapper::Caught> Snapper::Find(const Vector3d& cursor, double reac
     return grid.Get();
 }
 
-std::vector<Entity> Snapper::GetNear(const Vector3d& cursor, double reach) const
+std::vector<LineShape> Snapper::GetNear(const Vector3d& cursor, double reach) const
 {
-    std::vector<Entity> entities;
-    std::copy_if(m_sketch.GetEntities().begin(), m_sketch.GetEntities().end(),
-                 std::back_inserter(entities),
-                 [&](const Entity& entity) { return DistanceTo(entity, cursor) <= reach; });
-    return entities;
+    std::vector<LineShape> lines;
+    for (const Entity& entity : m_sketch.GetEntities())
+    {
+        const auto* pLine = std::get_if<LineShape>(&entity.shape);
+        if (pLine != nullptr && DistanceTo(entity.shape, cursor) <= reach)
+            lines.push_back(*pLine);
+    }
+    return lines;
 }

@@ -1,13 +1,12 @@
 #pragma once
 
-#include "Geometry/Vector3d.h"
+#include "Shape.h"
 
 #include <array>
 #include <optional>
 #include <vector>
 
 class Sketch;
-struct Entity;
 
 namespace vesk
 {
@@ -55,7 +54,7 @@ public:
 
 private:
     std::optional<Caught> Find(const vesk::Vector3d& cursor, double reach, double gridStep) const;
-    std::vector<Entity> GetNear(const vesk::Vector3d& cursor, double reach) const;
+    std::vector<LineShape> GetNear(const vesk::Vector3d& cursor, double reach) const;
 
     const Sketch& m_sketch;
     std::array<bool, KindCount> m_isOn{};

@@ -10,29 +10,6 @@ class PickingTest final : public QObject
     Q_OBJECT
 
 private slots:
-    void theDistanceIsFromTheNearestPoint_data()
-    {
-        QTest::addColumn<double>("x");
-        QTest::addColumn<double>("y");
-        QTest::addColumn<double>("distance");
-
-        QTest::newRow("beside") << 5.0 << 3.0 << 3.0;
-        QTest::newRow("before the start") << -3.0 << 4.0 << 5.0;
-        QTest::newRow("behind the end") << 13.0 << -4.0 << 5.0;
-        QTest::newRow("on it") << 7.0 << 0.0 << 0.0;
-    }
-
-    void theDistanceIsFromTheNearestPoint()
-    {
-        QFETCH(double, x);
-        QFETCH(double, y);
-        QFETCH(double, distance);
-        Entity line;
-        line.end = {10, 0, 0};
-
-        QCOMPARE(DistanceTo(line, {x, y, 0}), distance);
-    }
-
     void theNearestWithinReachIsPicked()
     {
         Sketch sketch;

@@ -99,6 +99,17 @@ private slots:
         QCOMPARE(f.lines.Get().size(), 1);
     }
 
+    void eachOfManyIsFoundInAnyOrder()
+    {
+        Fixture f;
+
+        f.selection.Select({f.ids[2], f.ids[0]});
+
+        QVERIFY(f.selection.Contains(f.ids[0]));
+        QVERIFY(!f.selection.Contains(f.ids[1]));
+        QVERIFY(f.selection.Contains(f.ids[2]));
+    }
+
     void aChangeOfOthersLeavesTheSelectionAlone()
     {
         Fixture f;

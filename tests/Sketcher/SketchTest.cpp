@@ -4,12 +4,19 @@
 #include <QTest>
 
 #include <limits>
+#include <utility>
 
 using vesk::Vector3d;
 
 class SketchTest final : public QObject
 {
     Q_OBJECT
+
+private:
+    static const LineShape& LineOf(const Sketch& sketch, int id)
+    {
+        return std::get<LineShape>(sketch.Find(id)->shape);
+    }
 
 private slots:
     void newSketchIsEmpty()
@@ -30,7 +37,7 @@ private slots:
 
         QVERIFY(first != 0 && second != 0 && first != second);
         QCOMPARE(sketch.GetEntities()[0].id, first);
-        QCOMPARE(sketch.Find(second)->end.y(), 1.0);
+        QCOMPARE(LineOf(sketch, second).end.y(), 1.0);
     }
 
     void everyEntityIsFoundWhateverCameAndWent()
@@ -46,8 +53,8 @@ private slots:
         QVERIFY(sketch.Find(ids[2]) == nullptr);
         QVERIFY(sketch.Find(0) == nullptr);
         QVERIFY(sketch.Find(ids[4] + 1) == nullptr);
-        QCOMPARE(sketch.Find(ids[0])->end.x(), 1.0);
-        QCOMPARE(sketch.Find(ids[3])->end.x(), 4.0);
+        QCOMPARE(LineOf(sketch, ids[0]).end.x(), 1.0);
+        QCOMPARE(LineOf(sketch, ids[3]).end.x(), 4.0);
     }
 
     void linesAreDrawnWithTheCurrentPen()
@@ -110,6 +117,84 @@ private slots:
         QCOMPARE(sketch.GetName(), name);
         QCOMPARE(sketch.GetCurrentPen().colour, 0);
         QCOMPARE(sketch.AddLine({0, 0, 0}, {1, 0, 0}), first);
+    }
+
+    void anyShapeIsDrawnWithTheCurrentPen()
+    {
+        Sketch sketch;
+        sketch.SetCurrentPen(&Pen::colour, 3);
+        const Shape circle = CircleShape{{1, 2, 0}, 0.1, {0, 0, 1}};
+
+        const int id = sketch.Add(circle);
+
+        QVERIFY(sketch.Find(id)->shape == circle);
+        QCOMPARE(sketch.Find(id)->pen.colour, 3);
+        QCOMPARE(sketch.Undo(), id);
+        QVERIFY(sketch.GetEntities().empty());
+    }
+
+    void otherShapesForSeveralAreOneStep()
+    {
+        Sketch sketch;
+        const int first = sketch.AddLine({0, 0, 0}, {1, 0, 0});
+        const int second = sketch.AddLine({0, 0, 0}, {2, 0, 0});
+        sketch.SetPen({first}, &Pen::style, 2);
+        const Shape line = LineShape{{0, 0, 0}, {0, 5, 0}};
+        const Shape circle = CircleShape{{1, 2, 0}, 3.0, {0, 0, 1}};
+
+        QVERIFY(sketch.Replace({{second, line}, {first, circle}}));
+        QVERIFY(sketch.Find(first)->shape == circle);
+        QVERIFY(sketch.Find(second)->shape == line);
+        QCOMPARE(sketch.Find(first)->pen.style, 2);
+        QCOMPARE(sketch.GetEntities()[0].id, first);
+
+        QCOMPARE(sketch.Undo(), second);
+        QCOMPARE(LineOf(sketch, first).end.x(), 1.0);
+        QCOMPARE(LineOf(sketch, second).end.x(), 2.0);
+        QCOMPARE(sketch.Find(first)->pen.style, 2);
+    }
+
+    void anEntityThatIsReplacedTwiceComesBackAsItWas()
+    {
+        Sketch sketch;
+        const int id = sketch.AddLine({0, 0, 0}, {1, 0, 0});
+
+        QVERIFY(sketch.Replace(
+            {{id, LineShape{{0, 0, 0}, {2, 0, 0}}}, {id, LineShape{{0, 0, 0}, {3, 0, 0}}}}));
+        QCOMPARE(LineOf(sketch, id).end.x(), 3.0);
+
+        QCOMPARE(sketch.Undo(), id);
+        QCOMPARE(LineOf(sketch, id).end.x(), 1.0);
+    }
+
+    void whatCannotBeReplacedIsNoStep_data()
+    {
+        QTest::addColumn<int>("otherId");
+        QTest::addColumn<double>("otherLength");
+        QTest::addColumn<double>("length");
+
+        QTest::newRow("unknown entity") << 99 << 5.0 << 5.0;
+        QTest::newRow("impossible shape") << 2 << 0.0 << 5.0;
+        QTest::newRow("nothing differs") << 2 << 2.0 << 1.0;
+    }
+
+    void whatCannotBeReplacedIsNoStep()
+    {
+        QFETCH(int, otherId);
+        QFETCH(double, otherLength);
+        QFETCH(double, length);
+        Sketch sketch;
+        sketch.AddLine({0, 0, 0}, {1, 0, 0});
+        sketch.AddLine({0, 0, 0}, {2, 0, 0});
+        QSignalSpy changes(&sketch, &Sketch::changed);
+
+        QVERIFY(!sketch.Replace({{1, LineShape{{0, 0, 0}, {length, 0, 0}}},
+                                 {otherId, LineShape{{0, 0, 0}, {otherLength, 0, 0}}}}));
+        QVERIFY(!sketch.Replace({}));
+
+        QCOMPARE(changes.count(), 0);
+        QCOMPARE(LineOf(sketch, 1).end.x(), 1.0);
+        QCOMPARE(LineOf(sketch, 2).end.x(), 2.0);
     }
 
     void impossibleLinesAreNotDrawn_data()
