@@ -1,6 +1,7 @@
 #include "ModelFile.h"
 
 #include "Overloaded.h"
+#include "ShapeKind.h"
 #include "Sketch.h"
 
 #include "Foundation/Text.h"
@@ -22,7 +23,7 @@ Json ToJson(const vesk::Vector3d& point)
     return {point.x(), point.y(), point.z()};
 }
 
-Json ToJson(const Shape& shape)
+Json NumbersOf(const Shape& shape)
 {
     return std::visit(Overloaded{
                           [](const LineShape& line) {
@@ -45,7 +46,7 @@ Json ToJson(const Shape& shape)
                               Json corners = Json::array();
                               for (const vesk::Vector3d& corner : rectangle.corners)
                                   corners.push_back(ToJson(corner));
-                              return Json{{"type", "rectangle"}, {"corners", corners}};
+                              return Json{{"corners", corners}};
                           },
                       },
                       shape);
@@ -53,7 +54,8 @@ Json ToJson(const Shape& shape)
 
 Json ToJson(const Entity& entity)
 {
-    Json json = ToJson(entity.shape);
+    Json json = {{"type", vesk::ToUtf8(KindOf(entity.shape).name)}};
+    json.update(NumbersOf(entity.shape));
     json["style"] = vesk::ToUtf8(LineStyles()[static_cast<std::size_t>(entity.pen.style)].name);
     json["colour"] = vesk::ToUtf8(LineColours()[static_cast<std::size_t>(entity.pen.colour)].name);
     return json;
