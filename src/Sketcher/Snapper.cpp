@@ -1,16 +1,17 @@
 #include "Snapper.h"
 
+#include "Crossings.h"
 #include "Grid.h"
 #include "Picking.h"
 #include "ShapeMeasure.h"
+#include "ShapePieces.h"
 #include "Sketch.h"
+#include "SnapPoints.h"
 
 #include "View/UiViewUtility.h"
 
 #include <algorithm>
 #include <cmath>
-#include <cstddef>
-#include <iterator>
 
 using namespace vesk;
 
@@ -34,36 +35,72 @@ public:
 
     const std::optional<Snapper::Caught>& Get() const { return m_found; }
 
+    /// The distance of what was found; the reach, as long as nothing was.
+    double GetDistance() const { return m_distance; }
+
 private:
     Vector3d m_cursor;
     double m_distance;
     std::optional<Snapper::Caught> m_found;
 };
 
-/// Where two segments cross or touch; nothing for parallel ones.
-std::optional<Vector3d> Intersect(const LineShape& first, const LineShape& second)
+/// A piece of the outline of an entity.
+struct NearPiece
 {
-    const Vector3d a = first.end - first.start;
-    const Vector3d b = second.end - second.start;
-    const double area = a.x() * b.y() - a.y() * b.x();
-    if (area == 0.0)
-        return std::nullopt;
-    const Vector3d way = second.start - first.start;
-    const double onFirst = (way.x() * b.y() - way.y() * b.x()) / area;
-    const double onSecond = (way.x() * a.y() - way.y() * a.x()) / area;
-    const bool isOnBoth = onFirst >= 0.0 && onFirst <= 1.0 && onSecond >= 0.0 && onSecond <= 1.0;
-    return isOnBoth ? std::optional<Vector3d>(first.start + onFirst * a) : std::nullopt;
+    double distance;
+    const Entity* pEntity;
+    Piece piece;
+};
+
+/// The pieces of entities within reach of the cursor, the nearest first.
+std::vector<NearPiece> PiecesNear(const std::vector<const Entity*>& entities,
+                                  const Vector3d& cursor, double reach)
+{
+    std::vector<NearPiece> pieces;
+    for (const Entity* pEntity : entities)
+    {
+        VisitPieces(pEntity->shape, [&](const auto& piece) {
+            const double distance = DistanceTo(piece, cursor);
+            if (distance <= reach)
+                pieces.push_back({distance, pEntity, piece});
+        });
+    }
+    std::stable_sort(pieces.begin(), pieces.end(), [](const NearPiece& a, const NearPiece& b) {
+        return a.distance < b.distance;
+    });
+    return pieces;
 }
 
-void OfferIntersections(const std::vector<LineShape>& entities, Nearest& nearest)
+void OfferIntersections(const std::vector<NearPiece>& pieces, Nearest& nearest)
 {
-    for (auto first = entities.begin(); first != entities.end(); ++first)
+    for (auto second = pieces.begin(); second != pieces.end(); ++second)
     {
-        for (auto second = std::next(first); second != entities.end(); ++second)
+        // No intersection is nearer than either piece.
+        if (second->distance > nearest.GetDistance())
+            return;
+        for (auto first = pieces.begin(); first != second; ++first)
         {
-            if (const std::optional<Vector3d> point = Intersect(*first, *second))
-                nearest.Offer(Snapper::Intersection, *point);
+            if (first->pEntity == second->pEntity)
+                continue;
+            for (const Vector3d& point : Cross(first->piece, second->piece))
+                nearest.Offer(Snapper::Intersection, point);
         }
+    }
+}
+
+void OfferAll(Snapper::Kind kind, const std::vector<Vector3d>& points, Nearest& nearest)
+{
+    for (const Vector3d& point : points)
+        nearest.Offer(kind, point);
+}
+
+/// A centre may be far from its outline.
+void OfferCentres(const Sketch& sketch, Nearest& nearest)
+{
+    for (const Entity& entity : sketch.GetEntities())
+    {
+        if (const std::optional<Vector3d> centre = CentreOf(entity.shape))
+            nearest.Offer(Snapper::Centre, *centre);
     }
 }
 
@@ -91,20 +128,21 @@ Vector3d Snapper::Catch(const Vector3d& cursor, const IUiView* pView)
 std::optional<Snapper::Caught> Snapper::Find(const Vector3d& cursor, double reach,
                                              double gridStep) const
 {
-    const std::vector<LineShape> entities = GetNear(cursor, reach);
+    const std::vector<const Entity*> entities = GetNear(cursor, reach);
     Nearest ends(cursor, reach);
     Nearest others(cursor, reach);
-    for (const LineShape& entity : entities)
+    for (const Entity* pEntity : entities)
     {
-        ends.Offer(End, entity.start);
-        ends.Offer(End, entity.end);
+        OfferAll(End, EndsOf(pEntity->shape), ends);
         if (IsOn(Middle))
-            others.Offer(Middle, (entity.start + entity.end) / 2);
+            OfferAll(Middle, MiddlesOf(pEntity->shape), others);
     }
     if (IsOn(End) && ends.Get().has_value())
         return ends.Get();
+    if (IsOn(Centre))
+        OfferCentres(m_sketch, others);
     if (IsOn(Intersection))
-        OfferIntersections(entities, others);
+        OfferIntersections(PiecesNear(entities, cursor, reach), others);
     if (others.Get().has_value() || !IsOn(Grid))
         return others.Get();
     Nearest grid(cursor, reach);
@@ -112,14 +150,13 @@ std::optional<Snapper::Caught> Snapper::Find(const Vector3d& cursor, double reac
     return grid.Get();
 }
 
-std::vector<LineShape> Snapper::GetNear(const Vector3d& cursor, double reach) const
+std::vector<const Entity*> Snapper::GetNear(const Vector3d& cursor, double reach) const
 {
-    std::vector<LineShape> lines;
+    std::vector<const Entity*> entities;
     for (const Entity& entity : m_sketch.GetEntities())
     {
-        const auto* pLine = std::get_if<LineShape>(&entity.shape);
-        if (pLine != nullptr && DistanceTo(entity.shape, cursor) <= reach)
-            lines.push_back(*pLine);
+        if (DistanceTo(entity.shape, cursor) <= reach)
+            entities.push_back(&entity);
     }
-    return lines;
+    return entities;
 }

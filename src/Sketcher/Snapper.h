@@ -1,12 +1,13 @@
 #pragma once
 
-#include "Shape.h"
+#include "Geometry/Vector3d.h"
 
 #include <array>
 #include <optional>
 #include <vector>
 
 class Sketch;
+struct Entity;
 
 namespace vesk
 {
@@ -54,7 +55,7 @@ public:
 
 private:
     std::optional<Caught> Find(const vesk::Vector3d& cursor, double reach, double gridStep) const;
-    std::vector<LineShape> GetNear(const vesk::Vector3d& cursor, double reach) const;
+    std::vector<const Entity*> GetNear(const vesk::Vector3d& cursor, double reach) const;
 
     const Sketch& m_sketch;
     std::array<bool, KindCount> m_isOn{};

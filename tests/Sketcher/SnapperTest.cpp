@@ -141,6 +141,54 @@ private slots:
         QVERIFY(f.Catch(56, 0) == Vector3d(50, 0, 0));
     }
 
+    void theCentreOfALargeCircleIsCaught()
+    {
+        Fixture f;
+        f.sketch.Add(CircleShape{{-50, 60, 0}, 40, {0, 0, 1}});
+        QVERIFY(f.Catch(-46, 57) == Vector3d(-46, 57, 0));
+
+        f.snapper.SetOn(Snapper::Centre, true);
+
+        QVERIFY(f.Catch(-46, 57) == Vector3d(-50, 60, 0));
+        QCOMPARE(int(f.snapper.GetCaught()->kind), int(Snapper::Centre));
+    }
+
+    void roundAndStraightPiecesIntersect()
+    {
+        Fixture f;
+        f.sketch.Add(CircleShape{{-60, 0, 0}, 100, {0, 0, 1}});
+        f.sketch.Add(CircleShape{{60, 0, 0}, 100, {0, 0, 1}});
+        f.snapper.SetOn(Snapper::Intersection, true);
+
+        QVERIFY((f.Catch(43, 3) - Vector3d(40, 0, 0)).norm() < 1e-9);
+        QVERIFY((f.Catch(2, 77) - Vector3d(0, 80, 0)).norm() < 1e-9);
+    }
+
+    void theSidesOfARectangleIntersectOthersOnly()
+    {
+        Fixture f;
+        f.sketch.Add(RectangleShape{{Vector3d(20, -20, 0), Vector3d(60, -20, 0),
+                                     Vector3d(60, 20, 0), Vector3d(20, 20, 0)}});
+        f.snapper.SetOn(Snapper::Intersection, true);
+
+        QVERIFY(f.Catch(22, 3) == Vector3d(20, 0, 0));
+        QVERIFY(f.Catch(22, 19) == Vector3d(22, 19, 0));
+    }
+
+    void ofManyIntersectionsTheNearestIsCaught()
+    {
+        Fixture f;
+        f.snapper.SetOn(Snapper::Intersection, true);
+        for (int i = 0; i < 5; ++i)
+        {
+            f.sketch.AddLine({-100.0 + 3 * i, -50, 0}, {-100.0 + 3 * i, 50, 0});
+            f.sketch.AddLine({-150, 3.0 * i, 0}, {-50, 3.0 * i, 0});
+        }
+
+        QVERIFY((f.Catch(-96.4, 6.4) - Vector3d(-97, 6, 0)).norm() < 1e-9);
+        QVERIFY((f.Catch(-88.9, 11.2) - Vector3d(-88, 12, 0)).norm() < 1e-9);
+    }
+
     void segmentsThatOnlyWouldMeetHaveNoIntersection()
     {
         Fixture f;
