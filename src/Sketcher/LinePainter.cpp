@@ -36,18 +36,21 @@ std::optional<QLineF> ClipLine(const QLineF& line, const QRectF& rect)
     return QLineF(line.pointAt(from), line.pointAt(to));
 }
 
+void SkipDashes(QPen& pen, double length)
+{
+    if (pen.style() == Qt::SolidLine)
+        return;
+    const QVector<qreal> pattern = pen.dashPattern();
+    const double period = std::accumulate(pattern.begin(), pattern.end(), 0.0);
+    pen.setDashOffset(std::fmod(length / pen.widthF(), period));
+}
+
 void PaintLine(QPainter& painter, QPen pen, const QLineF& line, const QRectF& visible)
 {
     const std::optional<QLineF> seen = ClipLine(line, visible);
     if (!seen.has_value())
         return;
-    if (pen.style() != Qt::SolidLine)
-    {
-        const QVector<qreal> pattern = pen.dashPattern();
-        const double period = std::accumulate(pattern.begin(), pattern.end(), 0.0);
-        const double skipped = QLineF(line.p1(), seen->p1()).length() / pen.widthF();
-        pen.setDashOffset(std::fmod(skipped, period));
-    }
+    SkipDashes(pen, QLineF(line.p1(), seen->p1()).length());
     painter.setPen(pen);
     painter.drawLine(*seen);
 }

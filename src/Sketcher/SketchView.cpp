@@ -1,10 +1,11 @@
 #include "SketchView.h"
 
 #include "Grid.h"
-#include "LinePainter.h"
 #include "Picking.h"
 #include "ShapeMeasure.h"
+#include "ShapePainter.h"
 #include "SnapMarker.h"
+#include "SnapPoints.h"
 #include "Workspace.h"
 
 #include <QPainter>
@@ -64,15 +65,7 @@ void SketchView::PaintModel(QPainter& painter)
     PaintAxes(painter);
     for (const int id : m_workspace.selection.GetIds())
         PaintSelected(painter, *m_workspace.sketch.Find(id));
-    constexpr int Margin = 4;
-    const QRectF visible = QRectF(rect()).adjusted(-Margin, -Margin, Margin, Margin);
-    const QColor textColour = palette().color(QPalette::Text);
-    for (const Entity& entity : m_workspace.sketch.GetEntities())
-    {
-        if (const auto* pLine = std::get_if<LineShape>(&entity.shape))
-            PaintLine(painter, MakePen(entity.pen, textColour),
-                      QLineF(ToPixel(pLine->start), ToPixel(pLine->end)), visible);
-    }
+    PaintEntities(painter);
 }
 
 void SketchView::PaintOverlay(QPainter& painter)
@@ -137,22 +130,37 @@ void SketchView::PaintAxes(QPainter& painter) const
     painter.drawLine(QPointF(origin.x(), 0), QPointF(origin.x(), height()));
 }
 
-/// A band below the line, and a grip at each end.
+void SketchView::PaintEntities(QPainter& painter) const
+{
+    const QRectF visible = GetPaintedRect();
+    const QColor textColour = palette().color(QPalette::Text);
+    for (const Entity& entity : m_workspace.sketch.GetEntities())
+        PaintShape(painter, MakePen(entity.pen, textColour), entity.shape, GetCamera(), visible);
+}
+
+/// A band below the outline, and grips at its ends and centre.
 void SketchView::PaintSelected(QPainter& painter, const Entity& entity) const
 {
     constexpr double BandWidth = 7.0;
     constexpr double GripSize = 7.0;
-    const auto* pLine = std::get_if<LineShape>(&entity.shape);
-    if (pLine == nullptr)
-        return;
-    const QPointF start = ToPixel(pLine->start);
-    const QPointF end = ToPixel(pLine->end);
     QColor band = palette().color(QPalette::Highlight);
     band.setAlpha(110);
-    painter.setPen(QPen(band, BandWidth, Qt::SolidLine, Qt::RoundCap));
-    painter.drawLine(start, end);
-    for (const QPointF& grip : {start, end})
-        painter.fillRect(
-            QRectF(grip.x() - GripSize / 2, grip.y() - GripSize / 2, GripSize, GripSize),
-            palette().color(QPalette::Highlight));
+    PaintShape(painter, QPen(band, BandWidth, Qt::SolidLine, Qt::RoundCap), entity.shape,
+               GetCamera(), GetPaintedRect());
+    std::vector<Vector3d> grips = EndsOf(entity.shape);
+    if (const std::optional<Vector3d> centre = CentreOf(entity.shape))
+        grips.push_back(*centre);
+    for (const Vector3d& grip : grips)
+    {
+        QRectF box(0.0, 0.0, GripSize, GripSize);
+        box.moveCenter(ToPixel(grip));
+        painter.fillRect(box, palette().color(QPalette::Highlight));
+    }
+}
+
+/// The view, and so much around it that no cap or join of a cut shows.
+QRectF SketchView::GetPaintedRect() const
+{
+    constexpr int Margin = 8;
+    return QRectF(rect()).adjusted(-Margin, -Margin, Margin, Margin);
 }

@@ -28,7 +28,9 @@ private:
     void PaintGrid(QPainter& painter) const;
     void PaintGridLines(QPainter& painter, double step, const QColor& color) const;
     void PaintAxes(QPainter& painter) const;
+    void PaintEntities(QPainter& painter) const;
     void PaintSelected(QPainter& painter, const Entity& entity) const;
+    QRectF GetPaintedRect() const;
 
     Workspace& m_workspace;
 };

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QPointF>
+#include <QRectF>
+
+#include <vector>
+
+class QPainter;
+class QPen;
+
+/// An arc on the screen. Angles are in radians, counter-clockwise as it is seen, from the direction
+/// to the right; a negative sweep runs clockwise.
+struct ScreenArc
+{
+    QPointF centre;
+    double radius;
+    double start;
+    double sweep;
+
+    /// The point of the circle at an angle from the start, in the direction of the sweep.
+    QPointF PointAt(double angle) const;
+};
+
+/// A part of an arc, between two angles from its start.
+struct ArcPart
+{
+    double from;
+    double to;
+};
+
+/// The parts of an arc inside a rectangle, in order.
+std::vector<ArcPart> ClipArc(const ScreenArc& arc, const QRectF& rect);
+
+/// Paints what can be seen of an arc in a rectangle. An arc may be as large as it likes: what is
+/// seen is round, and dashed in the same places as all of it would be.
+void PaintArc(QPainter& painter, QPen pen, const ScreenArc& arc, const QRectF& visible);

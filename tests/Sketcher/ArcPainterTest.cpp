@@ -1,0 +1,156 @@
+#include "ArcPainter.h"
+
+#include <QImage>
+#include <QPainter>
+#include <QPen>
+#include <QTest>
+#include <QtMath>
+
+#include <algorithm>
+#include <cmath>
+
+namespace
+{
+
+const double s_turn = 2.0 * std::acos(-1.0);
+
+QImage Paint(const ScreenArc& arc, Qt::PenStyle style = Qt::SolidLine)
+{
+    QImage image(100, 100, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    QPen pen(Qt::black, 1.0, style, Qt::FlatCap);
+    if (style == Qt::CustomDashLine)
+        pen.setDashPattern({4.0, 2.0});
+    PaintArc(painter, pen, arc, QRectF(0, 0, 100, 100));
+    return image;
+}
+
+bool IsInked(const QImage& image, int x, int y)
+{
+    return image.pixelColor(x, y) != QColor(Qt::white);
+}
+
+int CountInked(const QImage& image)
+{
+    int count = 0;
+    for (int i = 0; i < image.width() * image.height(); ++i)
+        count += IsInked(image, i % image.width(), i / image.width()) ? 1 : 0;
+    return count;
+}
+
+}
+
+class ArcPainterTest final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void theWholeOfAnArcInsideIsLeft()
+    {
+        const std::vector<ArcPart> parts =
+            ClipArc({{50, 50}, 20, 1.0, -2.0}, QRectF(0, 0, 100, 100));
+
+        QCOMPARE(parts.size(), std::size_t{1});
+        QCOMPARE(parts[0].from, 0.0);
+        QCOMPARE(parts[0].to, 2.0);
+    }
+
+    void whatIsInsideIsExactlyTheParts_data()
+    {
+        QTest::addColumn<double>("x");
+        QTest::addColumn<double>("y");
+        QTest::addColumn<double>("radius");
+        QTest::addColumn<double>("start");
+        QTest::addColumn<double>("sweep");
+
+        QTest::newRow("circle over all sides") << 50.0 << 50.0 << 60.0 << 0.0 << s_turn;
+        QTest::newRow("clockwise") << 50.0 << 50.0 << 60.0 << 0.3 << -s_turn;
+        QTest::newRow("over the left side") << 10.0 << 50.0 << 30.0 << -0.5 << 4.0;
+        QTest::newRow("in a corner") << 100.0 << 100.0 << 30.0 << 2.0 << 6.0;
+        QTest::newRow("around it") << 50.0 << 50.0 << 90.0 << 0.0 << s_turn;
+        QTest::newRow("beside it") << 200.0 << 50.0 << 90.0 << 0.0 << s_turn;
+        QTest::newRow("far centre") << 50.0 << -9900.0 << 9950.0 << -2.0 << 1.5;
+    }
+
+    void whatIsInsideIsExactlyTheParts()
+    {
+        QFETCH(double, x);
+        QFETCH(double, y);
+        QFETCH(double, radius);
+        QFETCH(double, start);
+        QFETCH(double, sweep);
+        const ScreenArc arc{{x, y}, radius, start, sweep};
+        const QRectF rect(0, 0, 100, 100);
+        constexpr int Steps = 20000;
+
+        const std::vector<ArcPart> parts = ClipArc(arc, rect);
+
+        for (int i = 0; i <= Steps; ++i)
+        {
+            const double angle = std::abs(sweep) * i / Steps;
+            const QPointF point = arc.PointAt(angle);
+            const bool isOnSide = rect.adjusted(-0.01, -0.01, 0.01, 0.01).contains(point) !=
+                                  rect.adjusted(0.01, 0.01, -0.01, -0.01).contains(point);
+            const bool isInPart =
+                std::any_of(parts.begin(), parts.end(), [angle](const ArcPart& part) {
+                    return angle >= part.from && angle <= part.to;
+                });
+            QVERIFY(isOnSide || isInPart == rect.contains(point));
+        }
+    }
+
+    void aCircleIsRound()
+    {
+        const QImage image = Paint({{50.5, 50.5}, 40, 0, s_turn});
+
+        for (int degrees = 0; degrees < 360; ++degrees)
+        {
+            const double angle = degrees * s_turn / 360.0;
+            const QPointF point = ScreenArc{{50.5, 50.5}, 40, 0, s_turn}.PointAt(angle);
+            const QRect around(qFloor(point.x()) - 1, qFloor(point.y()) - 1, 3, 3);
+            QVERIFY2(CountInked(image.copy(around)) > 0, qPrintable(QString::number(degrees)));
+        }
+        QVERIFY(!IsInked(image, 50, 50));
+    }
+
+    void anArcRunsTheWayOfItsSweep()
+    {
+        const double quarter = s_turn / 4.0;
+        const QImage up = Paint({{50.5, 50.5}, 40, 0, quarter});
+        const QImage down = Paint({{50.5, 50.5}, 40, 0, -quarter});
+
+        QVERIFY(CountInked(up.copy(50, 0, 50, 50)) > 40);
+        QCOMPARE(CountInked(up.copy(0, 52, 100, 48)), 0);
+        QVERIFY(CountInked(down.copy(50, 51, 50, 49)) > 40);
+        QCOMPARE(CountInked(down.copy(0, 0, 100, 49)), 0);
+    }
+
+    void ofAHugeCircleTheNearPartIsStraight()
+    {
+        const QImage image = Paint({{50.5 - 1e9, 50.5}, 1e9, 0, s_turn});
+
+        QCOMPARE(CountInked(image), 100);
+        QVERIFY(IsInked(image, 50, 0));
+        QVERIFY(IsInked(image, 50, 99));
+    }
+
+    void aHugeArcIsDashedWhereASmallerOneIs()
+    {
+        // A circle that begins 24 dashes and gaps of 4 + 2 pixels before the picture.
+        constexpr double Radius = 1e6;
+        const auto arcFrom = [](double length) {
+            return ScreenArc{{50.5 - Radius, 100.0}, Radius, -length / Radius, s_turn / 4.0};
+        };
+
+        const QImage image = Paint(arcFrom(0), Qt::CustomDashLine);
+
+        QVERIFY(CountInked(image) > 50);
+        QVERIFY(CountInked(image) < 80);
+        QCOMPARE(Paint(arcFrom(144), Qt::CustomDashLine), image);
+        QVERIFY(Paint(arcFrom(147), Qt::CustomDashLine) != image);
+    }
+};
+
+QTEST_MAIN(ArcPainterTest)
+#include "ArcPainterTest.moc"
