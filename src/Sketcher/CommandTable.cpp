@@ -1,5 +1,6 @@
 #include "CommandTable.h"
 
+#include "EntityEdit.h"
 #include "EraseAction.h"
 #include "LineAction.h"
 #include "SketchView.h"
@@ -9,7 +10,9 @@
 #include "Command/ActionManager.h"
 #include "Command/ICommandManager.h"
 #include "Journal/JournalManager.h"
+#include "View/IUiDocumentViewManager.h"
 
+#include <optional>
 #include <utility>
 
 using namespace vesk;
@@ -44,6 +47,13 @@ void Undo(Sketch& sketch)
     ActionManager::StepDone();
 }
 
+void SetProperty(Sketch& sketch, const CommandParameters& parameters)
+{
+    const std::optional<EntityEdit> edit = EntityEdit::From(parameters);
+    if (edit.has_value() && edit->Apply(sketch))
+        ActionManager::StepDone();
+}
+
 std::vector<CommandEntry> MakeDrawingCommands(Workspace& workspace)
 {
     Sketch& sketch = workspace.sketch;
@@ -70,6 +80,19 @@ std::vector<CommandEntry> MakeDrawingCommands(Workspace& workspace)
          {}},
         {L"Sketcher.Undo", L"撤销", L":/icons/undo.svg", L"撤销上一步 (Ctrl+Z)", L"编辑", L"",
          L"Ctrl+Z", Plain, Do([&sketch] { Undo(sketch); }), [&sketch] { return sketch.CanUndo(); }},
+        {EntityEdit::CommandId,
+         L"设置特性",
+         L"",
+         L"",
+         L"",
+         L"",
+         L"",
+         Plain,
+         [&sketch](IUiView*, const CommandParameters& parameters) -> OwnerPtr<IAction> {
+             SetProperty(sketch, parameters);
+             return nullptr;
+         },
+         {}},
     };
 }
 
@@ -143,4 +166,11 @@ void RegisterCommands(const std::vector<CommandEntry>& entries)
     for (const CommandEntry& entry : entries)
         ICommandManager::Get()->AddCommand(
             MakeOwner<Command>(entry.id, entry.kind, entry.execute, entry.isEnabled));
+}
+
+void RunCommand(const std::wstring& id, const CommandParameters& parameters)
+{
+    JournalManager::GetInstance().Add(CommandRecord{id, parameters});
+    ActionManager::ProcessCommand(IUiDocumentViewManager::Get()->GetCurrentUiView(),
+                                  ICommandManager::Get()->GetCommand(id), parameters, nullptr);
 }

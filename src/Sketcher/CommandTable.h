@@ -32,11 +32,22 @@ std::vector<CommandEntry> MakeCommandTable(Workspace& workspace, SketchView& vie
 /// Registers the commands with the host.
 void RegisterCommands(const std::vector<CommandEntry>& entries);
 
+/// Journals a registered command and runs it now in the current view, as its button would.
+void RunCommand(const std::wstring& id, const vesk::CommandParameters& parameters);
+
 /// The menu of the zoom button, and its sub-menu of fixed scales.
 namespace ZoomMenu
 {
 
 constexpr wchar_t Id[] = L"Sketcher.Zoom";
 constexpr wchar_t ScaleId[] = L"Sketcher.Zoom.Scale";
+
+}
+
+/// The menu of the panes' button.
+namespace PaneMenu
+{
+
+constexpr wchar_t Id[] = L"Sketcher.Panes";
 
 }

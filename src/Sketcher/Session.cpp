@@ -1,12 +1,14 @@
 #include "Session.h"
 
 #include "CommandTable.h"
+#include "DockManagerImpl.h"
 #include "ModelFile.h"
 #include "SketchView.h"
 
 #include "Command/ActionManager.h"
 #include "Foundation/DebugMessageMgr.h"
 #include "Foundation/Text.h"
+#include "HostUi/LayoutFile.h"
 #include "Journal/JournalFormat.h"
 #include "Journal/JournalManager.h"
 #include "Qtitan/RibbonBar.h"
@@ -19,6 +21,7 @@
 #include <QTimer>
 
 #include <iostream>
+#include <utility>
 
 using namespace vesk;
 
@@ -36,6 +39,13 @@ QString DataFile(const QString& name)
     return folder + QLatin1Char('/') + name;
 }
 
+/// Where the layout of the panes is kept, below the user's configuration folder.
+QString LayoutPath()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) +
+           QStringLiteral("/layout.json");
+}
+
 void Complain(const std::string& text)
 {
     std::cerr << "sketcher: " << text << std::endl;
@@ -43,13 +53,21 @@ void Complain(const std::string& text)
 
 }
 
-Session::Session(const Options& options) : m_options(options), m_window(m_workspace, m_input)
+Session::Session(const Options& options)
+    : m_options(options), m_window(m_workspace, m_input),
+      m_pDocks(std::make_unique<DockManagerImpl>(&m_window))
 {
     m_host.GetViewManager().AddView(&m_window.GetView());
     m_application.SetMainWindow(&m_window);
-    const std::vector<CommandEntry> commands = MakeCommandTable(m_workspace, m_window.GetView());
+    m_application.SetDockManager(m_pDocks.get());
+    m_pPanes = std::make_unique<Panes>(m_workspace, m_window, *m_pDocks, m_controls, m_input);
+    std::vector<CommandEntry> commands = MakeCommandTable(m_workspace, m_window.GetView());
+    for (CommandEntry& entry : m_pPanes->MakeCommands())
+        commands.push_back(std::move(entry));
     RegisterCommands(commands);
     m_window.BuildControls(commands, m_controls);
+    if (QMenu* pMenu = m_window.GetPaneMenu())
+        m_pPanes->Mark(*pMenu);
     if (!m_options.uiTree.isEmpty())
         m_pUiTree = std::make_unique<UiTreeWriter>(m_options.uiTree, m_input, [this] {
             return static_cast<int>(m_workspace.sketch.GetEntities().size());
@@ -60,6 +78,7 @@ Session::~Session()
 {
     ActionManager::Reset();
     m_window.ReleaseControls();
+    m_application.SetDockManager(nullptr);
     m_application.SetMainWindow(nullptr);
     m_host.GetViewManager().RemoveView(&m_window.GetView());
     DebugMessageMgr::GetDebugMessageMgr()->CloseLog();
@@ -140,8 +159,30 @@ bool Session::ReadJournal(const QString& path)
     return false;
 }
 
+void Session::RestoreLayout()
+{
+    const LayoutFile::Reading reading = LayoutFile::Read(LayoutPath());
+    if (reading.content == LayoutFile::Content::Missing)
+        return;
+    const bool isRestored = m_pPanes->GetLayout().Restore(reading.layout);
+    const bool isNewer = reading.content == LayoutFile::Content::Newer;
+    if (!isRestored)
+        m_window.ShowNotice(isNewer ? QStringLiteral("面板布局来自更新的版本，已用默认布局")
+                                    : QStringLiteral("面板布局文件已损坏，已用默认布局"));
+}
+
+void Session::SaveLayout()
+{
+    if (!LayoutFile::Write(LayoutPath(), m_pPanes->GetLayout().Save()))
+        Complain("cannot write " + LayoutPath().toStdString());
+}
+
 int Session::Draw()
 {
+    // Sizes of panes hold for the window's size.
+    m_window.setWindowState(Qt::WindowMaximized);
+    RestoreLayout();
+    QObject::connect(&m_window, &MainWindow::closing, &m_window, [this] { SaveLayout(); });
     m_window.showMaximized();
     m_window.GetView().Activate();
     if (!m_options.open.isEmpty())

@@ -1,11 +1,13 @@
 #pragma once
 
 #include "Options.h"
+#include "Panes/Panes.h"
 #include "ReadingMonitor.h"
 #include "SketcherWindow.h"
 #include "WarningRaiser.h"
 #include "Workspace.h"
 
+#include "Dock/IDockManager.h"
 #include "HostCore.h"
 #include "HostUi/ControlHost.h"
 #include "HostUi/ControlLibrary.h"
@@ -37,6 +39,8 @@ private:
     bool OpenLog();
     bool OpenJournal();
     bool ReadJournal(const QString& path);
+    void RestoreLayout();
+    void SaveLayout();
     int Draw();
     int Replay();
     void Open();
@@ -52,7 +56,9 @@ private:
     vesk::DimensionInputController m_input;
     Workspace m_workspace;
     SketcherWindow m_window;
+    const std::unique_ptr<vesk::IDockManager> m_pDocks;
     vesk::ControlHost m_controls;
+    std::unique_ptr<Panes> m_pPanes;
     std::unique_ptr<vesk::UiTreeWriter> m_pUiTree;
     std::unique_ptr<WarningRaiser> m_pWarningRaiser;
     std::unique_ptr<ReadingMonitor> m_pReading; ///< While a drawing is opened.

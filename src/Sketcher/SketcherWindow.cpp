@@ -1,5 +1,6 @@
 #include "SketcherWindow.h"
 
+#include "CommandMenus.h"
 #include "CommandTable.h"
 #include "DrawingPanel.h"
 #include "PenPanel.h"
@@ -7,7 +8,6 @@
 #include "SnapPanel.h"
 #include "UnitPanel.h"
 #include "Workspace.h"
-#include "ZoomMenu.h"
 
 #include "Control/CommandButtonDefinition.h"
 #include "Control/CommandButtonMenuDefinition.h"
@@ -23,6 +23,7 @@
 #include <QStatusBar>
 #include <QToolButton>
 
+#include <map>
 #include <utility>
 
 using namespace vesk;
@@ -79,15 +80,14 @@ void SketcherWindow::ReleaseControls()
 void SketcherWindow::BuildButtons(const std::vector<CommandEntry>& commands,
                                   Qtitan::RibbonPage& page, ControlHost& controls)
 {
-    Qtitan::RibbonGroup* pGroup = nullptr;
-    std::wstring groupTitle;
+    std::map<std::wstring, Qtitan::RibbonGroup*> groups;
     for (const CommandEntry& entry : commands)
     {
         if (entry.group.empty())
             continue;
-        if (pGroup == nullptr || entry.group != groupTitle)
+        Qtitan::RibbonGroup*& pGroup = groups[entry.group];
+        if (pGroup == nullptr)
             pGroup = page.addGroup(ToQString(entry.group));
-        groupTitle = entry.group;
         auto* pButton = qobject_cast<QToolButton*>(controls.Create(MakeDefinition(entry)));
         if (pButton == nullptr)
             continue;
@@ -96,16 +96,22 @@ void SketcherWindow::BuildButtons(const std::vector<CommandEntry>& commands,
         pShortcut->setContext(Qt::ApplicationShortcut);
         connect(pShortcut, &QShortcut::activated, pButton, &QToolButton::click);
     }
+    AddMenu(MakeZoomMenu(commands), *groups[L"视图"], controls);
+    m_pPaneMenu = AddMenu(MakePaneMenu(commands), *groups[L"面板"], controls);
+}
 
-    // The zoom commands come last.
-    OwnerPtr<CommandButtonMenuDefinition> opZoom = MakeZoomMenu(commands);
-    CommandButtonMenuDefinition* pZoom = opZoom.Get();
-    auto* pZoomButton = qobject_cast<QToolButton*>(
-        controls.Create(OwnerPtr<ICommandButtonMenuDefinition>(std::move(opZoom))));
-    if (pZoomButton == nullptr || pGroup == nullptr)
-        return;
-    pGroup->addButton(pZoomButton);
-    pZoom->SetVisible(true);
+/// Places a button with a menu and returns the menu; null when there is none.
+QMenu* SketcherWindow::AddMenu(OwnerPtr<CommandButtonMenuDefinition> opDefinition,
+                               Qtitan::RibbonGroup& group, ControlHost& controls)
+{
+    CommandButtonMenuDefinition* pDefinition = opDefinition.Get();
+    auto* pButton = qobject_cast<QToolButton*>(
+        controls.Create(OwnerPtr<ICommandButtonMenuDefinition>(std::move(opDefinition))));
+    if (pButton == nullptr)
+        return nullptr;
+    group.addButton(pButton);
+    pDefinition->SetVisible(true);
+    return pButton->menu();
 }
 
 void SketcherWindow::BuildPanels(Qtitan::RibbonPage& page, ControlHost& controls)

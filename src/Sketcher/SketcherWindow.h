@@ -1,11 +1,13 @@
 #pragma once
 
+#include "Foundation/OwnerPtr.h"
 #include "HostUi/MainWindow.h"
 
 #include <memory>
 #include <string>
 #include <vector>
 
+class QMenu;
 class SketchView;
 struct CommandEntry;
 struct Workspace;
@@ -18,6 +20,7 @@ class RibbonPage;
 
 namespace vesk
 {
+class CommandButtonMenuDefinition;
 class ControlHost;
 class DimensionInputController;
 class ProgressBarDefinition;
@@ -41,12 +44,17 @@ public:
     /// How far the reading of a drawing has come; null when there is no such control. Not owned.
     vesk::ProgressBarDefinition* GetProgress() const { return m_pProgress; }
 
+    /// The menu that shows and hides panes; null when there is no such control. Not owned.
+    QMenu* GetPaneMenu() const { return m_pPaneMenu; }
+
     /// Drops what refers to the controls, before they go.
     void ReleaseControls();
 
 private:
     void BuildButtons(const std::vector<CommandEntry>& commands, Qtitan::RibbonPage& page,
                       vesk::ControlHost& controls);
+    QMenu* AddMenu(vesk::OwnerPtr<vesk::CommandButtonMenuDefinition> opDefinition,
+                   Qtitan::RibbonGroup& group, vesk::ControlHost& controls);
     void BuildPanels(Qtitan::RibbonPage& page, vesk::ControlHost& controls);
     void BuildProgress(vesk::ControlHost& controls);
     void OnSketchChanged();
@@ -54,5 +62,6 @@ private:
     Workspace& m_workspace;
     SketchView* m_pView;
     vesk::ProgressBarDefinition* m_pProgress = nullptr;
+    QMenu* m_pPaneMenu = nullptr;
     std::vector<std::unique_ptr<QObject>> m_panels;
 };

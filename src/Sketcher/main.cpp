@@ -38,9 +38,9 @@ std::optional<int> Answer(const Options& options)
     return 0;
 }
 
-/// What the toolkit tells of its own housekeeping and nobody can act upon: it makes a folder for the
-/// session's sockets where none is set; and it asks for the window below the cursor, frame by frame,
-/// while the window manager removes one of the frames.
+/// What the toolkit tells of its own housekeeping and nobody can act upon: it makes a folder for
+/// the session's sockets where none is set; and it asks for the window below the cursor, frame by
+/// frame, while the window manager removes one of the frames.
 bool IsHousekeeping(const QString& message)
 {
     return message.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set")) ||

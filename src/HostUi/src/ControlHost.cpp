@@ -173,6 +173,17 @@ void ControlHost::RefreshControls()
     }
 }
 
+std::vector<IControlDefinition*> ControlHost::GetDefinitions() const
+{
+    std::vector<IControlDefinition*> definitions;
+    for (const Placed& placed : m_controls)
+    {
+        if (IControlDefinition* pDefinition = placed.opControl->GetControlDefinition())
+            definitions.push_back(pDefinition);
+    }
+    return definitions;
+}
+
 void ControlHost::Remove(const std::wstring& definitionId)
 {
     const auto found =

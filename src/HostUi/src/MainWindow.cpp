@@ -71,6 +71,12 @@ void MainWindow::SetDrawingView(DrawingView* pView)
     connect(pView, &DrawingView::cursorLeft, m_pCursor, &QLabel::clear);
 }
 
+void MainWindow::ShowNotice(const QString& text)
+{
+    constexpr int DurationMs = 10000;
+    statusBar()->showMessage(text, DurationMs);
+}
+
 void MainWindow::closeEvent(QCloseEvent* pEvent)
 {
     // What is finished stands in the journal already; nothing needs to be asked.

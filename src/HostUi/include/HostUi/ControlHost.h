@@ -21,6 +21,7 @@ class ICheckBoxGroupDefinition;
 class IComboBoxDefinition;
 class ICommandButtonMenuDefinition;
 class IControl;
+class IControlDefinition;
 class ILabelDefinition;
 class ILineEditDefinition;
 class IProgressBarDefinition;
@@ -58,6 +59,10 @@ public:
 
     /// Has every control take visibility and enabled state over.
     void RefreshControls() override;
+
+    /// The definitions of all controls, in the order in which they were made. Not owned; none for a
+    /// control without one.
+    std::vector<IControlDefinition*> GetDefinitions() const;
 
     /// Destroys the control of the definition with that id once this is safe: when the outermost
     /// event loop runs and no action is under way. A control must not die inside its own signal.

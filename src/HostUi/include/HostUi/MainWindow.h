@@ -46,6 +46,9 @@ public:
     /// Shows a drawing view, of which the window becomes the Qt parent, and its texts.
     void SetDrawingView(DrawingView* pView);
 
+    /// Shows a text in the status bar for some seconds.
+    void ShowNotice(const QString& text);
+
 signals:
     /// The window is about to close; panes stand as they did.
     void closing();

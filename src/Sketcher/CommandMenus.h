@@ -14,3 +14,7 @@ class CommandButtonMenuDefinition;
 /// The button whose menu holds the zoom commands, the fixed scales in a sub-menu.
 vesk::OwnerPtr<vesk::CommandButtonMenuDefinition>
 MakeZoomMenu(const std::vector<CommandEntry>& commands);
+
+/// The button whose menu shows and hides panes; its main part shows all of them.
+vesk::OwnerPtr<vesk::CommandButtonMenuDefinition>
+MakePaneMenu(const std::vector<CommandEntry>& commands);

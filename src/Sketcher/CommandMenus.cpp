@@ -1,4 +1,4 @@
-#include "ZoomMenu.h"
+#include "CommandMenus.h"
 
 #include "CommandTable.h"
 
@@ -37,6 +37,21 @@ OwnerPtr<CommandButtonMenuDefinition> MakeZoomMenu(const std::vector<CommandEntr
     opMenu->SetCaption(L"缩放");
     opMenu->SetTooltip(L"缩放到全部图元；箭头打开更多缩放命令");
     opMenu->SetIconPath(L":/icons/zoom.svg");
+    opMenu->SetVisible(false);
+    return opMenu;
+}
+
+OwnerPtr<CommandButtonMenuDefinition> MakePaneMenu(const std::vector<CommandEntry>& commands)
+{
+    auto opMenu = MakeOwner<CommandButtonMenuDefinition>(PaneMenu::Id, L"Sketcher.ShowAllPanes");
+    for (const CommandEntry& entry : commands)
+    {
+        if (entry.menu == PaneMenu::Id)
+            opMenu->AddMenuItem(MakeItem(entry));
+    }
+    opMenu->SetCaption(L"面板");
+    opMenu->SetTooltip(L"显示全部面板；箭头逐个显示或隐藏");
+    opMenu->SetIconPath(L":/icons/panes.svg");
     opMenu->SetVisible(false);
     return opMenu;
 }

@@ -1,0 +1,87 @@
+#include "Panes/EntityPane.h"
+
+#include "Panes/EntityModel.h"
+#include "Workspace.h"
+
+#include <QHeaderView>
+#include <QItemSelectionModel>
+#include <QScopedValueRollback>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+EntityPane::EntityPane(Workspace& workspace)
+    : m_workspace(workspace), m_pModel(new EntityModel(workspace.sketch, this)),
+      m_pView(new QTreeView)
+{
+    m_pView->setObjectName(QStringLiteral("Entities"));
+    m_pView->setModel(m_pModel);
+    m_pView->setRootIsDecorated(false);
+    m_pView->setUniformRowHeights(true);
+    m_pView->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    m_pView->setFrameShape(QFrame::NoFrame);
+    // Widths that fit contents would have to be measured row by row.
+    m_pView->header()->setSectionResizeMode(QHeaderView::Interactive);
+    const int digit = fontMetrics().horizontalAdvance(QLatin1Char('0'));
+    for (const int column : {EntityModel::NumberColumn, EntityModel::KindColumn})
+        m_pView->header()->resizeSection(column, 7 * digit);
+
+    auto* pLayout = new QVBoxLayout(this);
+    pLayout->setContentsMargins(0, 0, 0, 0);
+    pLayout->addWidget(m_pView);
+    connect(m_pView->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &EntityPane::OnSelected);
+    UpdateStatus();
+}
+
+void EntityPane::UpdateStatus()
+{
+    const QScopedValueRollback<bool> showing(m_isShowing, true);
+    m_pModel->Refresh();
+    const std::vector<int>& ids = m_workspace.selection.GetIds();
+    const QItemSelection rows = ToRows(ids);
+    if (rows == m_pView->selectionModel()->selection())
+        return;
+    m_pView->selectionModel()->select(rows, QItemSelectionModel::ClearAndSelect |
+                                                QItemSelectionModel::Rows);
+    if (!ids.empty())
+        m_pView->scrollTo(m_pModel->index(m_pModel->GetRow(ids.back()), 0));
+}
+
+void EntityPane::OnSelected()
+{
+    if (m_isShowing)
+        return;
+    std::vector<int> ids;
+    for (const QItemSelectionRange& range : m_pView->selectionModel()->selection())
+    {
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            ids.push_back(m_pModel->GetId(row));
+    }
+    // Rows of which the drawing knows nothing any more cannot be selected there.
+    ids.erase(std::remove_if(ids.begin(), ids.end(),
+                             [this](int id) { return m_workspace.sketch.Find(id) == nullptr; }),
+              ids.end());
+    m_workspace.selection.Select(ids);
+}
+
+/// As few ranges as there can be.
+QItemSelection EntityPane::ToRows(const std::vector<int>& ids) const
+{
+    std::vector<int> rows;
+    for (const int id : ids)
+        rows.push_back(m_pModel->GetRow(id));
+    std::sort(rows.begin(), rows.end());
+    QItemSelection selection;
+    const int lastColumn = m_pModel->columnCount() - 1;
+    for (std::size_t i = 0; i < rows.size();)
+    {
+        std::size_t end = i + 1;
+        while (end < rows.size() && rows[end] == rows[end - 1] + 1)
+            ++end;
+        selection.select(m_pModel->index(rows[i], 0), m_pModel->index(rows[end - 1], lastColumn));
+        i = end;
+    }
+    return selection;
+}

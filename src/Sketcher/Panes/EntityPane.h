@@ -1,0 +1,32 @@
+#pragma once
+
+#include "Dock/IPropertyWidget.h"
+
+#include <QWidget>
+
+class EntityModel;
+class QItemSelection;
+class QTreeView;
+struct Workspace;
+
+/// The entities of the drawing as a list. What is selected in it is selected in the drawing, and
+/// the other way round.
+class EntityPane final : public QWidget, public vesk::IWidget
+{
+    Q_OBJECT
+
+public:
+    /// The workspace is not owned and outlives the pane's use.
+    explicit EntityPane(Workspace& workspace);
+
+    void UpdateStatus() override;
+
+private:
+    void OnSelected();
+    QItemSelection ToRows(const std::vector<int>& ids) const;
+
+    Workspace& m_workspace;
+    EntityModel* m_pModel;
+    QTreeView* m_pView;
+    bool m_isShowing = false;
+};

@@ -1,0 +1,53 @@
+#include "Panes/JournalPane.h"
+
+#include "Panes/JournalModel.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QListView>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+JournalPane::JournalPane() : m_pModel(new JournalModel(this)), m_pView(new QListView)
+{
+    m_pView->setObjectName(QStringLiteral("JournalRecords"));
+    m_pView->setModel(m_pModel);
+    m_pView->setUniformItemSizes(true);
+    m_pView->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    m_pView->setFrameShape(QFrame::NoFrame);
+
+    auto* pCopy = new QAction(QStringLiteral("复制记录"), m_pView);
+    pCopy->setShortcut(QKeySequence::Copy);
+    pCopy->setShortcutContext(Qt::WidgetShortcut);
+    connect(pCopy, &QAction::triggered, this, &JournalPane::Copy);
+    m_pView->addAction(pCopy);
+    m_pView->setContextMenuPolicy(Qt::ActionsContextMenu);
+
+    auto* pLayout = new QVBoxLayout(this);
+    pLayout->setContentsMargins(0, 0, 0, 0);
+    pLayout->addWidget(m_pView);
+}
+
+/// Goes along with the newest record, unless its reader has scrolled back.
+void JournalPane::UpdateStatus()
+{
+    const QScrollBar* pBar = m_pView->verticalScrollBar();
+    const bool isAtEnd = pBar->value() == pBar->maximum();
+    m_pModel->Refresh();
+    if (isAtEnd)
+        m_pView->scrollToBottom();
+}
+
+void JournalPane::Copy() const
+{
+    QModelIndexList indexes = m_pView->selectionModel()->selectedIndexes();
+    std::sort(indexes.begin(), indexes.end());
+    QString text;
+    for (const QModelIndex& index : indexes)
+        text += m_pModel->GetLine(index.row()) + QLatin1Char('\n');
+    if (!text.isEmpty())
+        QApplication::clipboard()->setText(text);
+}

@@ -1,0 +1,172 @@
+#include "Panes/Panes.h"
+
+#include "Panes/EntityPane.h"
+#include "Panes/JournalPane.h"
+#include "Panes/PropertyPane.h"
+#include "SketcherWindow.h"
+#include "Workspace.h"
+
+#include "Dock/IDockManager.h"
+#include "Dock/IPropertyWidget.h"
+#include "HostUi/Inspector.h"
+#include "HostUi/QtText.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QPointer>
+
+#include <algorithm>
+#include <utility>
+
+using namespace vesk;
+
+namespace
+{
+
+constexpr wchar_t EntitiesName[] = L"Entities";
+constexpr wchar_t JournalName[] = L"Journal";
+constexpr wchar_t InspectorName[] = L"Inspector";
+constexpr wchar_t CommandPrefix[] = L"Sketcher.Pane.";
+
+/// In the order of the menu.
+std::vector<PanePlace> FactoryPlaces()
+{
+    constexpr int SideWidth = 230;
+    constexpr int BottomHeight = 150;
+    return {
+        {IPropertyWidget::GetTypeName(), DockArea::Right, SideWidth, L""},
+        {EntitiesName, DockArea::Left, SideWidth, L""},
+        {JournalName, DockArea::Bottom, BottomHeight, L""},
+        {InspectorName, DockArea::Bottom, BottomHeight, JournalName},
+    };
+}
+
+}
+
+Panes::Panes(Workspace& workspace, SketcherWindow& window, IDockManager& docks,
+             ControlHost& controls, const DimensionInputController& input)
+    : m_docks(docks), m_layout(window, docks, FactoryPlaces())
+{
+    auto opInspector = MakeOwner<Inspector>(controls, input);
+    m_pInspector = opInspector.Get();
+    Add(IPropertyWidget::GetTypeName(), L"特性", MakeOwner<PropertyPane>(workspace, controls));
+    Add(EntitiesName, L"图元", MakeOwner<EntityPane>(workspace));
+    Add(JournalName, L"日志", MakeOwner<JournalPane>());
+    Add(InspectorName, L"检查器", std::move(opInspector));
+    m_layout.RestoreDefault();
+
+    // Any number of changes at once bring the panes in step once.
+    m_refresh.setSingleShot(true);
+    connect(&m_refresh, &QTimer::timeout, this, [this] { m_docks.UpdateAllDockStatus(); });
+    const auto refresh = [this] { m_refresh.start(0); };
+    connect(&workspace.sketch, &Sketch::changed, this, refresh);
+    connect(&workspace.selection, &Selection::changed, this, refresh);
+    connect(&m_layout, &PaneLayout::visibilityChanged, this, refresh);
+    JournalManager::GetInstance().AddObserver(this);
+}
+
+Panes::~Panes()
+{
+    JournalManager::GetInstance().RemoveObserver(this);
+    m_pInspector->Stop();
+}
+
+std::vector<CommandEntry> Panes::MakeCommands()
+{
+    const auto doing = [](auto function) {
+        return [function](IUiView*, const CommandParameters&) -> OwnerPtr<IAction> {
+            function();
+            return nullptr;
+        };
+    };
+    std::vector<CommandEntry> entries = {
+        {L"Sketcher.HideAllPanes",
+         L"隐藏全部面板",
+         L":/icons/panes-hide.svg",
+         L"隐藏全部面板；再按一次恢复原样 (Ctrl+H)",
+         L"面板",
+         L"",
+         L"Ctrl+H",
+         Command::Kind::Plain,
+         doing([this] { m_layout.ToggleAllHidden(); }),
+         {}},
+        {L"Sketcher.DefaultLayout",
+         L"恢复默认布局",
+         L":/icons/panes-default.svg",
+         L"恢复面板的默认布局",
+         L"面板",
+         L"",
+         L"",
+         Command::Kind::Plain,
+         doing([this] { m_layout.RestoreDefault(); }),
+         {}},
+        {L"Sketcher.ShowAllPanes",
+         L"显示全部面板",
+         L"",
+         L"显示全部面板",
+         L"",
+         L"",
+         L"",
+         Command::Kind::Plain,
+         doing([this] { m_docks.ShowAllDockPane(); }),
+         {}},
+    };
+    for (const PanePlace& place : FactoryPlaces())
+        entries.push_back({CommandPrefix + place.name,
+                           m_docks.GetDock(place.name)->GetTitle(),
+                           L"",
+                           L"显示或隐藏此面板",
+                           L"",
+                           PaneMenu::Id,
+                           L"",
+                           Command::Kind::Plain,
+                           doing([this, name = place.name] { Toggle(name); }),
+                           {}});
+    return entries;
+}
+
+void Panes::Mark(QMenu& menu)
+{
+    const auto mark = [this, pMenu = QPointer<QMenu>(&menu)] {
+        if (pMenu == nullptr)
+            return;
+        for (QAction* pAction : pMenu->actions())
+        {
+            const QString commandId = pAction->property("CommandId").toString();
+            const QString name = commandId.mid(ToQString(CommandPrefix).size());
+            if (const IDock* pDock = m_docks.GetDock(ToWide(name)))
+                pAction->setChecked(!pDock->IsHidden());
+        }
+    };
+    connect(&m_layout, &PaneLayout::visibilityChanged, this, mark);
+    // Whoever marks the chosen entry of a menu does not know what the marks mean here.
+    for (const QAction* pAction : menu.actions())
+        connect(pAction, &QAction::toggled, this, mark);
+    mark();
+}
+
+void Panes::OnRecord(const JournalRecord&)
+{
+    m_refresh.start(0);
+}
+
+void Panes::OnUiObject(const IJournalUiObject&, int) {}
+
+void Panes::Add(const std::wstring& name, const wchar_t* title, OwnerPtr<IWidget> opContent)
+{
+    OwnerPtr<IDock> opDock = m_docks.CreateDock(name, title);
+    opDock->SetWidget(std::move(opContent));
+    m_docks.AddDock(std::move(opDock), DockArea::Bottom, DockOrientation::Horizontal);
+}
+
+void Panes::Toggle(const std::wstring& name)
+{
+    IDock* pDock = m_docks.GetDock(name);
+    if (!pDock->IsHidden())
+    {
+        pDock->Hide();
+        return;
+    }
+    pDock->Show();
+    pDock->Raise();
+}

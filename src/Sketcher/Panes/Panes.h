@@ -1,0 +1,61 @@
+#pragma once
+
+#include "CommandTable.h"
+
+#include "Command/ActionManager.h"
+#include "HostUi/PaneLayout.h"
+#include "Journal/JournalManager.h"
+
+#include <QObject>
+#include <QTimer>
+
+#include <string>
+#include <vector>
+
+class QMenu;
+class SketcherWindow;
+struct Workspace;
+
+namespace vesk
+{
+class ControlHost;
+class DimensionInputController;
+class IDockManager;
+class Inspector;
+}
+
+/// The panes of the window: properties, entities, journal and inspector. Makes and places them,
+/// keeps them in step with what they show, and has the commands that show and hide them.
+class Panes final : public QObject, public vesk::IJournalObserver
+{
+    Q_OBJECT
+
+public:
+    /// Makes all panes, in their factory places. The arguments are not owned; they outlive this.
+    Panes(Workspace& workspace, SketcherWindow& window, vesk::IDockManager& docks,
+          vesk::ControlHost& controls, const vesk::DimensionInputController& input);
+    ~Panes() override;
+
+    vesk::PaneLayout& GetLayout() { return m_layout; }
+
+    std::vector<CommandEntry> MakeCommands();
+
+    /// Keeps the marks of the menu's entries, of those that show or hide a pane, at the truth. The
+    /// menu is not owned and may go first.
+    void Mark(QMenu& menu);
+
+    void OnRecord(const vesk::JournalRecord& record) override;
+    void OnUiObject(const vesk::IJournalUiObject& object, int kind) override;
+
+private:
+    void Add(const std::wstring& name, const wchar_t* title,
+             vesk::OwnerPtr<vesk::IWidget> opContent);
+    void Toggle(const std::wstring& name);
+
+    vesk::IDockManager& m_docks;
+    vesk::Inspector* m_pInspector; ///< Owned by its pane.
+    vesk::PaneLayout m_layout;
+
+    /// Runs out when the panes are to come in step.
+    QTimer m_refresh;
+};

@@ -1,0 +1,176 @@
+#include "Panes/PropertyPane.h"
+
+#include "CommandTable.h"
+#include "EntityEdit.h"
+#include "ShapeKind.h"
+#include "Workspace.h"
+
+#include "Control/LineEditDefinition.h"
+#include "Dimension/LengthUnit.h"
+#include "HostUi/ControlHost.h"
+#include "HostUi/QtText.h"
+
+#include <QFormLayout>
+#include <QLabel>
+#include <QLocale>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+using namespace vesk;
+
+namespace
+{
+
+constexpr int LengthDecimals = 3;
+constexpr int AngleDecimals = 2;
+
+QLabel* MakeMessage()
+{
+    auto* pMessage = new QLabel;
+    pMessage->setWordWrap(true);
+    pMessage->setMargin(4);
+    pMessage->setStyleSheet(
+        QStringLiteral("background: #b03a37; color: white; border-radius: 4px"));
+    pMessage->hide();
+    return pMessage;
+}
+
+}
+
+PropertyPane::PropertyPane(Workspace& workspace, ControlHost& controls)
+    : m_workspace(workspace), m_pTitle(new QLabel), m_pMessage(MakeMessage())
+{
+    auto* pForm = new QWidget;
+    auto* pRows = new QFormLayout(pForm);
+    pRows->addRow(m_pTitle);
+    for (const ShapeProperty& property : AllProperties())
+        AddRow(property, controls, *pRows);
+    pRows->addRow(m_pMessage);
+
+    auto* pScroll = new QScrollArea;
+    pScroll->setWidget(pForm);
+    pScroll->setWidgetResizable(true);
+    pScroll->setFrameShape(QFrame::NoFrame);
+    auto* pLayout = new QVBoxLayout(this);
+    pLayout->setContentsMargins(0, 0, 0, 0);
+    pLayout->addWidget(pScroll);
+    UpdateStatus();
+}
+
+PropertyPane::~PropertyPane() = default;
+
+void PropertyPane::UpdateStatus()
+{
+    const std::vector<int>& ids = m_workspace.selection.GetIds();
+    const bool isOther = ids != m_shownIds;
+    m_shownIds = ids;
+    ShowTitle();
+    for (Row& row : m_rows)
+        ShowRow(row, isOther);
+    if (isOther)
+        ShowMessage(QString());
+}
+
+void PropertyPane::On(LineEditEventArgs* pArgs)
+{
+    const auto row = std::find_if(m_rows.begin(), m_rows.end(), [pArgs](const Row& known) {
+        return known.pDefinition->GetId() == pArgs->GetId();
+    });
+    // What the field shows already, rounded, is not meant as a new value.
+    if (row == m_rows.end() || pArgs->GetText() == row->shown)
+        return;
+    Commit(*row, pArgs->GetText());
+}
+
+void PropertyPane::AddRow(const ShapeProperty& property, ControlHost& controls, QFormLayout& layout)
+{
+    auto opDefinition = MakeOwner<LineEditDefinition>(L"Sketcher.Property." + property.name);
+    LineEditDefinition* pDefinition = opDefinition.Get();
+    pDefinition->SetVisible(false);
+    QWidget* pWidget = controls.Create(OwnerPtr<ILineEditDefinition>(std::move(opDefinition)));
+    if (pWidget == nullptr)
+        return;
+    auto* pCaption = new QLabel(ToQString(property.caption));
+    pCaption->setBuddy(pWidget);
+    layout.addRow(pCaption, pWidget);
+    pDefinition->GetLineEditEvent()->Add(this);
+    m_rows.push_back({property, pCaption, pDefinition, {}});
+}
+
+void PropertyPane::ShowTitle()
+{
+    if (m_shownIds.empty())
+        m_pTitle->setText(QStringLiteral("未选图元"));
+    else if (m_shownIds.size() > 1)
+        m_pTitle->setText(QStringLiteral("已选 %1 个图元").arg(m_shownIds.size()));
+    else
+        m_pTitle->setText(
+            QStringLiteral("%1 #%2")
+                .arg(ToQString(KindOf(m_workspace.sketch.Find(m_shownIds.front())->shape).caption))
+                .arg(m_shownIds.front()));
+}
+
+/// Shows a value. Only another one replaces what is being typed, unless it is of other entities.
+void PropertyPane::ShowRow(Row& row, bool isAnew)
+{
+    const bool isCommon = IsCommon(row.property);
+    row.pCaption->setVisible(isCommon);
+    row.pDefinition->SetVisible(isCommon);
+    const std::wstring text = isCommon ? GetText(row.property) : std::wstring();
+    if (isAnew || text != row.shown)
+        row.pDefinition->SetText(text);
+    row.shown = text;
+}
+
+bool PropertyPane::IsCommon(const ShapeProperty& property) const
+{
+    return !m_shownIds.empty() && std::all_of(m_shownIds.begin(), m_shownIds.end(), [&](int id) {
+        return FindProperty(m_workspace.sketch.Find(id)->shape, property.name) != nullptr;
+    });
+}
+
+/// In the unit shown; empty when the entities differ.
+std::wstring PropertyPane::GetText(const ShapeProperty& property) const
+{
+    const auto valueOf = [&](int id) {
+        const Shape& shape = m_workspace.sketch.Find(id)->shape;
+        return FindProperty(shape, property.name)->get(shape);
+    };
+    const double value = valueOf(m_shownIds.front());
+    const bool isCommon = std::all_of(m_shownIds.begin(), m_shownIds.end(),
+                                      [&](int id) { return valueOf(id) == value; });
+    if (!isCommon)
+        return {};
+    const double shown = property.isAngle ? value : LengthUnit::GetCurrent().ToShown(value);
+    return ToWide(QString::number(shown, 'f', property.isAngle ? AngleDecimals : LengthDecimals));
+}
+
+void PropertyPane::Commit(const Row& row, const std::wstring& text)
+{
+    bool isNumber = false;
+    const double typed = QLocale::c().toDouble(ToQString(text).trimmed(), &isNumber);
+    if (!isNumber || !std::isfinite(typed))
+    {
+        ShowMessage(QStringLiteral("%1：这不是一个数").arg(ToQString(row.property.caption)));
+        return;
+    }
+    const double value = row.property.isAngle ? typed : LengthUnit::GetCurrent().ToModel(typed);
+    const EntityEdit edit{m_shownIds, row.property.name, value};
+    if (!edit.IsPossible(m_workspace.sketch))
+    {
+        ShowMessage(QStringLiteral("%1：以此值无法绘制图元").arg(ToQString(row.property.caption)));
+        return;
+    }
+    ShowMessage(QString());
+    RunCommand(EntityEdit::CommandId, edit.ToParameters());
+}
+
+void PropertyPane::ShowMessage(const QString& message)
+{
+    m_pMessage->setText(message);
+    m_pMessage->setVisible(!message.isEmpty());
+}

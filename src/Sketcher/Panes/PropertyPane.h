@@ -1,0 +1,66 @@
+#pragma once
+
+#include "ShapeProperty.h"
+
+#include "Control/LineEditEvent.h"
+#include "Dock/IPropertyWidget.h"
+
+#include <QWidget>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+class QFormLayout;
+class QLabel;
+struct Workspace;
+
+namespace vesk
+{
+class ControlHost;
+class LineEditDefinition;
+}
+
+/// The values of the selected entities, each in a line edit: those that all of them have.
+///
+/// A value that the user finishes is sent as a command; one that makes no sense stays in its field,
+/// and a message says why. Values that differ between the entities are left empty.
+class PropertyPane final : public QWidget,
+                           public vesk::IPropertyWidget,
+                           public vesk::ILineEditEventHandler
+{
+    Q_OBJECT
+
+public:
+    /// The arguments are not owned. The controls are destroyed before the pane.
+    PropertyPane(Workspace& workspace, vesk::ControlHost& controls);
+    ~PropertyPane() override;
+
+    void UpdateStatus() override;
+    void On(vesk::LineEditEventArgs* pArgs) override;
+
+private:
+    struct Row
+    {
+        ShapeProperty property;
+        QLabel* pCaption;
+        vesk::LineEditDefinition* pDefinition; ///< Owned by its control.
+        std::wstring shown;
+    };
+
+    void AddRow(const ShapeProperty& property, vesk::ControlHost& controls, QFormLayout& layout);
+    void ShowTitle();
+    void ShowRow(Row& row, bool isAnew);
+    bool IsCommon(const ShapeProperty& property) const;
+    std::wstring GetText(const ShapeProperty& property) const;
+    void Commit(const Row& row, const std::wstring& text);
+    void ShowMessage(const QString& message);
+
+    Workspace& m_workspace;
+    QLabel* m_pTitle;
+    QLabel* m_pMessage;
+    std::vector<Row> m_rows;
+
+    /// The selection that the fields show.
+    std::vector<int> m_shownIds;
+};
