@@ -39,11 +39,13 @@ std::optional<int> Answer(const Options& options)
 }
 
 /// What the toolkit tells of its own housekeeping and nobody can act upon: it makes a folder for
-/// the session's sockets where none is set; and it asks for the window below the cursor, frame by
-/// frame, while the window manager removes one of the frames.
+/// the session's sockets where none is set; it asks for the window below the cursor, frame by
+/// frame, while the window manager removes one of the frames; and a display that is no screen
+/// cannot do all that windows ask of it.
 bool IsHousekeeping(const QString& message)
 {
     return message.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set")) ||
+           message.startsWith(QLatin1String("This plugin does not support")) ||
            (message.startsWith(QLatin1String("QXcbConnection: XCB error: 3 (BadWindow)")) &&
             message.contains(QLatin1String("(TranslateCoords)")));
 }

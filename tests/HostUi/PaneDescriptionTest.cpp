@@ -101,7 +101,10 @@ void PaneDescriptionTest::aHiddenPaneIsNotVisible()
     Run run;
     run.Arrange();
 
-    QVERIFY(!Describe(run)[4]["visible"].get<bool>());
+    const Json pane = Describe(run)[4];
+
+    QVERIFY(!pane["visible"].get<bool>());
+    QVERIFY(pane["rect"].is_null());
 }
 
 void PaneDescriptionTest::panesThatTheManagerDoesNotKnowAreLeftOut()

@@ -86,7 +86,7 @@ Json DescribePane(const QMainWindow& window, const std::string& name, const QDoc
     const QDockWidget& front = FrontOf(window, pane);
     return {{"name", name},
             {"title", pane.windowTitle().toStdString()},
-            {"rect", DescribeRect(front, front.rect())},
+            {"rect", pane.isHidden() ? Json(nullptr) : DescribeRect(front, front.rect())},
             {"visible", !pane.isHidden()},
             {"current", &front == &pane},
             {"floating", pane.isFloating()},
