@@ -3,8 +3,9 @@
 #include "Control/ProgressBarDefinition.h"
 
 #include <QApplication>
+#include <QDockWidget>
 #include <QKeyEvent>
-#include <QWidget>
+#include <QMainWindow>
 
 #include <algorithm>
 
@@ -33,17 +34,17 @@ bool IsInput(QEvent::Type type)
 
 }
 
-ReadingMonitor::ReadingMonitor(QWidget& controls, vesk::ProgressBarDefinition* pProgress)
-    : m_controls(controls), m_pProgress(pProgress)
+ReadingMonitor::ReadingMonitor(QMainWindow& window, vesk::ProgressBarDefinition* pProgress)
+    : m_window(window), m_pProgress(pProgress)
 {
-    m_controls.setEnabled(false);
+    SetEnabled(false);
     qApp->installEventFilter(this);
     m_sincePause.start();
 }
 
 ReadingMonitor::~ReadingMonitor()
 {
-    m_controls.setEnabled(true);
+    SetEnabled(true);
     if (m_pProgress != nullptr)
         m_pProgress->SetValue(0);
 }
@@ -69,7 +70,14 @@ bool ReadingMonitor::eventFilter(QObject* pWatched, QEvent* pEvent)
     const QEvent::Type type = pEvent->type();
     const bool isEscape =
         type == QEvent::KeyPress && static_cast<QKeyEvent*>(pEvent)->key() == Qt::Key_Escape;
-    const bool isClosing = type == QEvent::Close && pWatched == m_controls.window();
+    const bool isClosing = type == QEvent::Close && pWatched == &m_window;
     m_isCancelled = m_isCancelled || isEscape || isClosing;
     return IsInput(type) || QObject::eventFilter(pWatched, pEvent);
+}
+
+void ReadingMonitor::SetEnabled(bool isEnabled)
+{
+    m_window.menuWidget()->setEnabled(isEnabled);
+    for (QDockWidget* pPane : m_window.findChildren<QDockWidget*>())
+        pPane->setEnabled(isEnabled);
 }

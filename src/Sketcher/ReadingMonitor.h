@@ -5,7 +5,7 @@
 
 #include <cstddef>
 
-class QWidget;
+class QMainWindow;
 
 namespace vesk
 {
@@ -21,9 +21,9 @@ class ReadingMonitor final : public QObject
     Q_OBJECT
 
 public:
-    /// `controls` is disabled as long as the monitor lives. Neither is owned; the definition may be
-    /// null.
-    ReadingMonitor(QWidget& controls, vesk::ProgressBarDefinition* pProgress);
+    /// The window's ribbon and panes are disabled as long as the monitor lives. Neither argument is
+    /// owned; the definition may be null.
+    ReadingMonitor(QMainWindow& window, vesk::ProgressBarDefinition* pProgress);
     ~ReadingMonitor() override;
 
     /// Shows how far the reading has come and handles what waits. False once it was cancelled.
@@ -35,7 +35,9 @@ protected:
     bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
 
 private:
-    QWidget& m_controls;
+    void SetEnabled(bool isEnabled);
+
+    QMainWindow& m_window;
     vesk::ProgressBarDefinition* m_pProgress;
     QElapsedTimer m_sincePause;
     qint64 m_pauseMs = 0;

@@ -9,9 +9,9 @@
 #include "Foundation/DebugMessageMgr.h"
 #include "Foundation/Text.h"
 #include "HostUi/LayoutFile.h"
+#include "HostUi/PublishConfigFile.h"
 #include "Journal/JournalFormat.h"
 #include "Journal/JournalManager.h"
-#include "Qtitan/RibbonBar.h"
 
 #include <QApplication>
 #include <QDateTime>
@@ -39,6 +39,12 @@ QString DataFile(const QString& name)
     return folder + QLatin1Char('/') + name;
 }
 
+/// What is delivered with the program, beside the folder of programs.
+QString SharedFile(const QString& name)
+{
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/../share/sketcher/") + name;
+}
+
 /// Where the layout of the panes is kept, below the user's configuration folder.
 QString LayoutPath()
 {
@@ -54,9 +60,11 @@ void Complain(const std::string& text)
 }
 
 Session::Session(const Options& options)
-    : m_options(options), m_window(m_workspace, m_input),
-      m_pDocks(std::make_unique<DockManagerImpl>(&m_window))
+    : m_options(options),
+      m_translations(SharedFile(QStringLiteral("translations")), QStringLiteral("sketcher")),
+      m_window(m_workspace, m_input), m_pDocks(std::make_unique<DockManagerImpl>(&m_window))
 {
+    LoadPublishConfig(SharedFile(QStringLiteral("publish.ini")));
     m_host.GetViewManager().AddView(&m_window.GetView());
     m_application.SetMainWindow(&m_window);
     m_application.SetDockManager(m_pDocks.get());
@@ -197,7 +205,7 @@ int Session::Draw()
 /// were before.
 void Session::Open()
 {
-    m_pReading = std::make_unique<ReadingMonitor>(*m_window.GetRibbon(), m_window.GetProgress());
+    m_pReading = std::make_unique<ReadingMonitor>(m_window, m_window.GetProgress());
     Repeat();
     const bool isCancelled = m_pReading->IsCancelled();
     m_pReading.reset();

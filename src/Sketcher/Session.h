@@ -12,6 +12,7 @@
 #include "HostUi/ControlHost.h"
 #include "HostUi/ControlLibrary.h"
 #include "HostUi/DimensionInputController.h"
+#include "HostUi/TranslationCatalogue.h"
 #include "HostUi/UiApplication.h"
 #include "HostUi/UiTreeWriter.h"
 #include "Journal/JournalReplayer.h"
@@ -52,6 +53,7 @@ private:
 
     vesk::HostCore m_host;
     vesk::UiApplication m_application;
+    vesk::TranslationCatalogue m_translations;
     vesk::ControlLibrary m_library;
     vesk::DimensionInputController m_input;
     Workspace m_workspace;

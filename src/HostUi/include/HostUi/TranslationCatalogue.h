@@ -1,0 +1,33 @@
+#pragma once
+
+#include "Foundation/TranslatorManager.h"
+#include "HostUi/HostUiExport.h"
+
+#include <QLocale>
+#include <QString>
+#include <QTranslator>
+
+namespace vesk
+{
+
+/// The translations of one locale: a catalogue of the toolkit's, `<name>_<locale>.qm`. Installed as
+/// the host's translator while it lives.
+///
+/// Without a catalogue for the locale nothing is translated, and the source texts stand.
+class VESK_HOST_UI_API TranslationCatalogue final : public ITranslator
+{
+public:
+    /// Loads the catalogue from a folder.
+    TranslationCatalogue(const QString& folder, const QString& name,
+                         const QLocale& locale = QLocale());
+    ~TranslationCatalogue() override;
+    TranslationCatalogue(const TranslationCatalogue&) = delete;
+    TranslationCatalogue& operator=(const TranslationCatalogue&) = delete;
+
+    std::wstring Translate(const std::wstring& context, const std::wstring& text) const override;
+
+private:
+    QTranslator m_catalogue;
+};
+
+}

@@ -1,0 +1,91 @@
+#include "HostUi/TranslationCatalogue.h"
+
+#include <QtTest>
+
+namespace vesk
+{
+
+/// Catalogues of translations, of which `catalogue_de.qm` is one; it is made of `catalogue_de.ts`.
+class TranslationCatalogueTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void textsOfTheCatalogueAreTranslated();
+    void otherTextsStand_data();
+    void otherTextsStand();
+    void localesWithoutACatalogueKeepTheSourceTexts_data();
+    void localesWithoutACatalogueKeepTheSourceTexts();
+    void nothingIsTranslatedWhenTheCatalogueIsGone();
+
+private:
+    static std::wstring Translate(const std::wstring& context, const std::wstring& text)
+    {
+        return TranslatorManager::Get()->Translate(context, text);
+    }
+
+    const QString m_folder = QStringLiteral(VESK_TEST_DATA);
+    const QString m_name = QStringLiteral("catalogue");
+};
+
+void TranslationCatalogueTest::textsOfTheCatalogueAreTranslated()
+{
+    const TranslationCatalogue catalogue(m_folder, m_name, QLocale(QLocale::German));
+
+    QCOMPARE(Translate(L"VeskUiQtImpl", L"忽略一次"), std::wstring(L"Einmal übergehen"));
+}
+
+void TranslationCatalogueTest::otherTextsStand_data()
+{
+    QTest::addColumn<QString>("context");
+    QTest::addColumn<QString>("text");
+
+    QTest::newRow("another text") << "VeskUiQtImpl"
+                                  << "忽略所有";
+    QTest::newRow("another context") << "Sketcher"
+                                     << "忽略一次";
+    QTest::newRow("beyond the basic plane") << "VeskUiQtImpl"
+                                            << "𠀀";
+    QTest::newRow("no text") << "VeskUiQtImpl"
+                             << "";
+}
+
+void TranslationCatalogueTest::otherTextsStand()
+{
+    QFETCH(QString, context);
+    QFETCH(QString, text);
+    const TranslationCatalogue catalogue(m_folder, m_name, QLocale(QLocale::German));
+
+    QCOMPARE(Translate(context.toStdWString(), text.toStdWString()), text.toStdWString());
+}
+
+void TranslationCatalogueTest::localesWithoutACatalogueKeepTheSourceTexts_data()
+{
+    QTest::addColumn<QLocale>("locale");
+
+    QTest::newRow("C") << QLocale::c();
+    QTest::newRow("Chinese") << QLocale(QLocale::Chinese);
+    QTest::newRow("English") << QLocale(QLocale::English);
+}
+
+void TranslationCatalogueTest::localesWithoutACatalogueKeepTheSourceTexts()
+{
+    QFETCH(QLocale, locale);
+    const TranslationCatalogue catalogue(m_folder, m_name, locale);
+
+    QCOMPARE(Translate(L"VeskUiQtImpl", L"忽略一次"), std::wstring(L"忽略一次"));
+}
+
+void TranslationCatalogueTest::nothingIsTranslatedWhenTheCatalogueIsGone()
+{
+    {
+        const TranslationCatalogue catalogue(m_folder, m_name, QLocale(QLocale::German));
+    }
+
+    QCOMPARE(Translate(L"VeskUiQtImpl", L"忽略一次"), std::wstring(L"忽略一次"));
+}
+
+}
+
+QTEST_GUILESS_MAIN(vesk::TranslationCatalogueTest)
+#include "TranslationCatalogueTest.moc"
