@@ -65,16 +65,21 @@ QString captionOf(const QWidget& widget, const QList<QLabel*>& labels)
     return pButton != nullptr ? pButton->text() : QString();
 }
 
+bool isLargeButton(const QWidget& widget)
+{
+    const auto* pControl = qobject_cast<const RibbonButtonControl*>(widget.parentWidget());
+    return pControl != nullptr && pControl->form() == RibbonButtonForm::Large;
+}
+
 /// At the foot of a large button, at the left end of a widget in a row, in the middle of an arrow.
 QPoint badgeCentre(const QWidget& target, const RibbonBar& bar)
 {
-    const bool isLarge = qobject_cast<const RibbonButtonControl*>(target.parentWidget()) != nullptr;
     const bool isArrow = qobject_cast<const RibbonPage*>(target.parentWidget()) != nullptr;
     const QRect rect = target.rect();
     if (isArrow)
         return target.mapTo(const_cast<RibbonBar*>(&bar), rect.center());
-    const QPoint centre = isLarge ? QPoint(rect.center().x(), rect.bottom() - 4)
-                                  : QPoint(rect.left() + 2, rect.center().y());
+    const QPoint centre = isLargeButton(target) ? QPoint(rect.center().x(), rect.bottom() - 4)
+                                                : QPoint(rect.left() + 2, rect.center().y());
     return target.mapTo(const_cast<RibbonBar*>(&bar), centre);
 }
 

@@ -1,6 +1,7 @@
 #include "Qtitan/RibbonButtonControl.h"
 
 #include "RibbonButtonFilter.h"
+#include "RibbonButtonLayout.h"
 #include "RibbonMetrics.h"
 
 #include <QEvent>
@@ -8,13 +9,42 @@
 namespace Qtitan
 {
 
-RibbonButtonControl::RibbonButtonControl(QWidget* pParent) : QWidget(pParent)
+namespace
 {
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+
+struct FormMetrics
+{
+    int iconSize;
+    QSizePolicy::Policy horizontal;
+    QSizePolicy::Policy vertical;
+};
+
+/// Small buttons are as wide as their column, so that their edges and arrows stand in line.
+constexpr FormMetrics s_large{RibbonMetrics::LargeIcon, QSizePolicy::Fixed, QSizePolicy::Expanding};
+constexpr FormMetrics s_small{RibbonMetrics::SmallIcon, QSizePolicy::Minimum,
+                              QSizePolicy::Preferred};
+
+const FormMetrics& metricsOf(RibbonButtonForm form)
+{
+    return form == RibbonButtonForm::Small ? s_small : s_large;
+}
+
+} // namespace
+
+RibbonButtonControl::RibbonButtonControl(QWidget* pParent, RibbonButtonForm form)
+    : QWidget(pParent), m_form(form)
+{
+    const FormMetrics& metrics = metricsOf(m_form);
+    setSizePolicy(metrics.horizontal, metrics.vertical);
     followButton();
 }
 
 RibbonButtonControl::~RibbonButtonControl() = default;
+
+RibbonButtonForm RibbonButtonControl::form() const
+{
+    return m_form;
+}
 
 QToolButton* RibbonButtonControl::widget() const
 {
@@ -35,7 +65,8 @@ void RibbonButtonControl::setWidget(QToolButton* pButton)
     if (pButton != nullptr)
     {
         pButton->setParent(this);
-        pButton->setIconSize(QSize(RibbonMetrics::LargeIcon, RibbonMetrics::LargeIcon));
+        const int iconSize = metricsOf(m_form).iconSize;
+        pButton->setIconSize(QSize(iconSize, iconSize));
         pButton->installEventFilter(this);
         pButton->setGeometry(rect());
     }
@@ -45,9 +76,8 @@ void RibbonButtonControl::setWidget(QToolButton* pButton)
 
 QSize RibbonButtonControl::sizeHint() const
 {
-    if (m_pButton == nullptr)
-        return QSize(0, 0);
-    return m_pButton->sizeHint().expandedTo(QSize(RibbonMetrics::LargeButtonWidth, 0));
+    const QToolButton* pButton = widget();
+    return pButton != nullptr ? ribbonButtonSize(*pButton, m_form) : QSize(0, 0);
 }
 
 QSize RibbonButtonControl::minimumSizeHint() const
@@ -68,7 +98,7 @@ bool RibbonButtonControl::eventFilter(QObject* pWatched, QEvent* pEvent)
     if (pWatched == m_pButton)
     {
         QToolButton* pButton = widget();
-        if (pButton != nullptr && filterRibbonButton(*pButton, *pEvent))
+        if (pButton != nullptr && filterRibbonButton(*pButton, m_form, *pEvent))
             return true;
     }
     if (type == QEvent::ShowToParent || type == QEvent::HideToParent)

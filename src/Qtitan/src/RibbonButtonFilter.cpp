@@ -35,11 +35,11 @@ void updateOnceMenuIsOpen(QToolButton& button)
 
 } // namespace
 
-bool filterRibbonButton(QToolButton& button, const QEvent& event)
+bool filterRibbonButton(QToolButton& button, RibbonButtonForm form, const QEvent& event)
 {
     if (event.type() == QEvent::Paint)
     {
-        paintRibbonButton(button);
+        paintRibbonButton(button, form);
         return true;
     }
     const bool isOpening = opensMenu(button, event);

@@ -1,11 +1,11 @@
 #include "RibbonButtonPainter.h"
 
+#include "RibbonButtonLayout.h"
 #include "RibbonColors.h"
 
 #include <QCursor>
 #include <QMenu>
 #include <QPainter>
-#include <QStyleOptionToolButton>
 #include <QToolButton>
 
 namespace Qtitan
@@ -15,54 +15,6 @@ namespace
 {
 
 constexpr qreal CornerRadius = 4;
-constexpr int ArrowSize = 7;
-
-QStyle::State stateOf(const QToolButton& button)
-{
-    QStyle::State state = QStyle::State_None;
-    state.setFlag(QStyle::State_Enabled, button.isEnabled());
-    state.setFlag(QStyle::State_Active, button.isActiveWindow());
-    state.setFlag(QStyle::State_AutoRaise, button.autoRaise());
-    state.setFlag(QStyle::State_On, button.isChecked());
-    state.setFlag(QStyle::State_MouseOver, button.isEnabled() && button.underMouse());
-    return state;
-}
-
-QStyleOptionToolButton optionOf(const QToolButton& button)
-{
-    QStyleOptionToolButton option;
-    option.initFrom(&button);
-    option.state = stateOf(button);
-    option.subControls = QStyle::SC_ToolButton;
-    option.icon = button.icon();
-    option.iconSize = button.iconSize();
-    option.text = button.text();
-    option.arrowType = button.arrowType();
-    option.font = button.font();
-    option.toolButtonStyle = button.toolButtonStyle();
-    if (option.toolButtonStyle == Qt::ToolButtonFollowStyle)
-    {
-        const int style = button.style()->styleHint(QStyle::SH_ToolButtonStyle, &option, &button);
-        option.toolButtonStyle = static_cast<Qt::ToolButtonStyle>(style);
-    }
-    if (button.arrowType() != Qt::NoArrow)
-        option.features |= QStyleOptionToolButton::Arrow;
-    const bool hasMenu = button.menu() != nullptr;
-    if (hasMenu || button.popupMode() == QToolButton::MenuButtonPopup)
-        option.features |= QStyleOptionToolButton::HasMenu;
-    if (button.popupMode() == QToolButton::MenuButtonPopup)
-        option.features |= QStyleOptionToolButton::MenuButtonPopup;
-    return option;
-}
-
-/// The part that opens the menu; empty where the whole button does, or nothing.
-QRect menuPart(const QToolButton& button, const QStyleOptionToolButton& option)
-{
-    if (!(option.features & QStyleOptionToolButton::MenuButtonPopup))
-        return QRect();
-    return button.style()->subControlRect(QStyle::CC_ToolButton, &option, QStyle::SC_ToolButtonMenu,
-                                          &button);
-}
 
 bool isMenuOpen(const QToolButton& button)
 {
@@ -135,45 +87,25 @@ void paintState(QPainter& painter, const QToolButton& button, const RibbonColors
     painter.restore();
 }
 
-/// The label without the room that a caption under its icon would leave between the two.
-QRect labelRect(const QToolButton& button, const QStyleOptionToolButton& option, const QRect& room)
+void paintMenuArrow(QPainter& painter, const QToolButton& button, const RibbonButtonLayout& layout)
 {
-    if (option.toolButtonStyle != Qt::ToolButtonTextUnderIcon || option.icon.isNull())
-        return room;
-    const QFontMetrics metrics = button.fontMetrics();
-    const int textHeight = metrics.size(Qt::TextShowMnemonic, option.text).height();
-    const int slack = room.height() - option.iconSize.height() - textHeight - 6;
-    return slack > 0 ? room.adjusted(0, slack / 2, 0, slack / 2 - slack) : room;
-}
-
-void paintMenuArrow(QPainter& painter, const QToolButton& button,
-                    const QStyleOptionToolButton& option, const QRect& arrowPart)
-{
-    QStyleOptionToolButton arrow(option);
-    arrow.rect = QRect(0, 0, ArrowSize, ArrowSize);
-    if (arrowPart.isEmpty())
-        arrow.rect.moveBottomRight(button.rect().bottomRight() - QPoint(3, 3));
-    else
-        arrow.rect.moveCenter(arrowPart.center());
+    QStyleOptionToolButton arrow(layout.option);
+    arrow.rect = layout.arrow;
     button.style()->drawPrimitive(QStyle::PE_IndicatorArrowDown, &arrow, &painter, &button);
 }
 
 } // namespace
 
-void paintRibbonButton(QToolButton& button)
+void paintRibbonButton(QToolButton& button, RibbonButtonForm form)
 {
     const RibbonColors colors(button.palette());
+    const RibbonButtonLayout layout(button, form);
     QPainter painter(&button);
-    const QStyleOptionToolButton option = optionOf(button);
-    const QRect arrowPart = menuPart(button, option);
-    paintState(painter, button, colors, arrowPart);
-    if (option.features & QStyleOptionToolButton::HasMenu)
-        paintMenuArrow(painter, button, option, arrowPart);
-
-    const QRect room = button.rect().adjusted(0, 0, -arrowPart.width(), 0);
-    QStyleOptionToolButton label(option);
-    label.rect = labelRect(button, option, room);
-    button.style()->drawControl(QStyle::CE_ToolButtonLabel, &label, &painter, &button);
+    paintState(painter, button, colors, layout.menuPart);
+    if (!layout.arrow.isEmpty())
+        paintMenuArrow(painter, button, layout);
+    for (const QStyleOptionToolButton& label : layout.labels)
+        button.style()->drawControl(QStyle::CE_ToolButtonLabel, &label, &painter, &button);
 }
 
 } // namespace Qtitan

@@ -1,6 +1,7 @@
 #include "RibbonColumn.h"
 
 #include "Caption.h"
+#include "Qtitan/RibbonButtonControl.h"
 #include "RibbonButtonFilter.h"
 
 #include <QBoxLayout>
@@ -84,7 +85,8 @@ bool RibbonColumn::eventFilter(QObject* pWatched, QEvent* pEvent)
 {
     const QEvent::Type type = pEvent->type();
     auto* pButton = qobject_cast<QToolButton*>(pWatched);
-    if (pButton != nullptr && filterRibbonButton(*pButton, *pEvent))
+    // A button that is stacked without a form is arranged by its own style, as a large one is.
+    if (pButton != nullptr && filterRibbonButton(*pButton, RibbonButtonForm::Large, *pEvent))
         return true;
     if (type == QEvent::ShowToParent || type == QEvent::HideToParent)
         followWidgets();

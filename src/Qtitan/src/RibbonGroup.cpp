@@ -46,6 +46,14 @@ RibbonButtonControl* RibbonGroup::addButton(QToolButton* pButton)
     return pControl;
 }
 
+RibbonButtonControl* RibbonGroup::addSmallButton(QToolButton* pButton)
+{
+    auto* pControl = new RibbonButtonControl(this, RibbonButtonForm::Small);
+    pControl->setWidget(pButton);
+    addWidget(pControl);
+    return pControl;
+}
+
 void RibbonGroup::addWidget(QWidget* pWidget)
 {
     addWidget(QString(), pWidget);

@@ -12,6 +12,7 @@ namespace RibbonMetrics
 {
 
 constexpr int LargeIcon = 32;
+constexpr int SmallIcon = 16;
 constexpr int LargeButtonWidth = 52;
 constexpr int RowsInColumn = 3;
 constexpr int RowSpacing = 2;

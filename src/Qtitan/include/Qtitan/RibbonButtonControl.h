@@ -9,6 +9,16 @@
 namespace Qtitan
 {
 
+/// How a button stands in a ribbon.
+enum class RibbonButtonForm
+{
+    /// As high as the page, with an icon of 32 pixels, arranged as the button's own style says.
+    Large,
+    /// One row high, with an icon of 16 pixels and the caption at its right, also where the
+    /// button's own style puts it under the icon. A button of its icon or its text alone stays so.
+    Small
+};
+
 /// The place of one tool button in a ribbon. It is shown exactly while it holds a button that is
 /// not hidden, and gives the button all of its room.
 class QTITAN_EXPORT RibbonButtonControl : public QWidget
@@ -16,14 +26,17 @@ class QTITAN_EXPORT RibbonButtonControl : public QWidget
     Q_OBJECT
 
 public:
-    explicit RibbonButtonControl(QWidget* pParent = nullptr);
+    explicit RibbonButtonControl(QWidget* pParent = nullptr,
+                                 RibbonButtonForm form = RibbonButtonForm::Large);
     ~RibbonButtonControl() override;
+
+    RibbonButtonForm form() const;
 
     /// The placed button itself; null when there is none, or when it was deleted or has been
     /// given another parent.
     QToolButton* widget() const;
 
-    /// Places a button, becomes its parent, draws it and gives it the ribbon's icon size; its
+    /// Places a button, becomes its parent, draws it and gives it the icon size of the form; its
     /// other properties stay. A button placed before is hidden and left without a parent: it is the
     /// caller's again. Null empties the control.
     void setWidget(QToolButton* pButton);
@@ -41,6 +54,7 @@ protected:
 private:
     void followButton();
 
+    const RibbonButtonForm m_form;
     /// A tool button, but no longer one while it is being destroyed: then it must not be looked at
     /// as one.
     QPointer<QWidget> m_pButton;

@@ -13,8 +13,9 @@ namespace Qtitan
 class RibbonButtonControl;
 class RibbonColumn;
 
-/// A titled part of a page. Large buttons stand side by side; other widgets stack in columns of
-/// three beside them, in the order in which they are added. A group whose controls are all hidden
+/// A titled part of a page. Large buttons stand side by side; small buttons and other widgets stack
+/// in columns of three beside them, in the order in which they are added: what follows a large
+/// button begins a column of its own. A group whose controls are all hidden
 /// hides until one of them is shown.
 class QTITAN_EXPORT RibbonGroup : public QWidget
 {
@@ -31,6 +32,11 @@ public:
     /// Places a button as a large one and returns its control, which the group owns and which
     /// becomes the button's parent. The button may be hidden, disabled or deleted at any time.
     RibbonButtonControl* addButton(QToolButton* pButton);
+
+    /// Stacks a button as a small one and returns its control, which the ribbon owns and which
+    /// becomes the button's parent. The button may be hidden, disabled or deleted at any time, and
+    /// gives its place up while it is; the row stays the control's.
+    RibbonButtonControl* addSmallButton(QToolButton* pButton);
 
     /// Stacks a widget; the ribbon becomes its parent. It may be hidden or deleted at any time,
     /// and gives its place up while it is. Null is ignored. A widget with a vertical or a grid
