@@ -62,30 +62,15 @@ QRect menuPartOf(const QToolButton& button, const QStyleOptionToolButton& option
                                           &button);
 }
 
-bool hasIcon(const QStyleOptionToolButton& option)
-{
-    const bool isShown = option.toolButtonStyle != Qt::ToolButtonTextOnly;
-    return isShown && (!option.icon.isNull() || option.features & QStyleOptionToolButton::Arrow);
-}
-
-/// As with any tool button, one that is to show its icon alone and has none shows its text.
-bool hasCaption(const QStyleOptionToolButton& option)
-{
-    return option.toolButtonStyle != Qt::ToolButtonIconOnly || !hasIcon(option);
-}
-
 QSize captionSize(const QStyleOptionToolButton& option)
 {
     return option.fontMetrics.size(Qt::TextShowMnemonic, option.text);
 }
 
-/// Captions of buttons with and without an icon begin in one line, unless text alone is wanted.
-int captionLeft(const QStyleOptionToolButton& option)
+/// Captions begin in one line, whether their buttons have an icon or not.
+int smallCaptionLeft(const QStyleOptionToolButton& option)
 {
-    const bool hasIconRoom = hasIcon(option) ||
-                             option.toolButtonStyle == Qt::ToolButtonTextBesideIcon ||
-                             option.toolButtonStyle == Qt::ToolButtonTextUnderIcon;
-    return hasIconRoom ? SmallMargin + option.iconSize.width() + SmallMargin : SmallMargin;
+    return SmallMargin + option.iconSize.width() + SmallMargin;
 }
 
 /// The width that a small button keeps free at its right end for what tells of a menu.
@@ -136,12 +121,14 @@ QStyleOptionToolButton smallLabel(const QStyleOptionToolButton& option,
 
 std::vector<QStyleOptionToolButton> smallLabels(const QStyleOptionToolButton& option)
 {
+    const bool hasIcon =
+        !option.icon.isNull() || (option.features & QStyleOptionToolButton::Arrow) != 0;
     std::vector<QStyleOptionToolButton> labels;
-    if (hasIcon(option))
+    if (hasIcon)
         labels.push_back(
             smallLabel(option, Qt::ToolButtonIconOnly, SmallMargin, option.iconSize.width()));
-    if (hasCaption(option))
-        labels.push_back(smallLabel(option, Qt::ToolButtonTextOnly, captionLeft(option),
+    if (!option.text.isEmpty())
+        labels.push_back(smallLabel(option, Qt::ToolButtonTextOnly, smallCaptionLeft(option),
                                     captionSize(option).width()));
     return labels;
 }
@@ -149,8 +136,9 @@ std::vector<QStyleOptionToolButton> smallLabels(const QStyleOptionToolButton& op
 QSize smallSize(const QToolButton& button)
 {
     const QStyleOptionToolButton option = optionOf(button);
-    const int content = hasCaption(option) ? captionLeft(option) + captionSize(option).width()
-                                           : SmallMargin + option.iconSize.width();
+    const int content = option.text.isEmpty()
+                            ? SmallMargin + option.iconSize.width()
+                            : smallCaptionLeft(option) + captionSize(option).width();
     const int height =
         qMax(RibbonMetrics::rowHeight(button), option.iconSize.height() + SmallMargin);
     return QSize(content + SmallMargin + smallArrowRoom(button, option), height);

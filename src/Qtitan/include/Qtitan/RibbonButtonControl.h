@@ -14,8 +14,8 @@ enum class RibbonButtonForm
 {
     /// As high as the page, with an icon of 32 pixels, arranged as the button's own style says.
     Large,
-    /// One row high, with an icon of 16 pixels and the caption at its right, also where the
-    /// button's own style puts it under the icon. A button of its icon or its text alone stays so.
+    /// One row high, with an icon of 16 pixels at the left and the caption at its right, whatever
+    /// the button's own style says.
     Small
 };
 
