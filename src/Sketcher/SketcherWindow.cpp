@@ -37,6 +37,9 @@ static void LoadIcons()
 namespace
 {
 
+/// The tools with which one draws are the ones reached for all day.
+constexpr wchar_t LargeGroup[] = L"绘图";
+
 OwnerPtr<CommandButtonDefinition> MakeDefinition(const CommandEntry& entry)
 {
     auto opDefinition = MakeOwner<CommandButtonDefinition>(entry.id, entry.id);
@@ -91,7 +94,10 @@ void SketcherWindow::BuildButtons(const std::vector<CommandEntry>& commands,
         auto* pButton = qobject_cast<QToolButton*>(controls.Create(MakeDefinition(entry)));
         if (pButton == nullptr)
             continue;
-        pGroup->addButton(pButton);
+        if (entry.group == LargeGroup)
+            pGroup->addButton(pButton);
+        else
+            pGroup->addSmallButton(pButton);
         auto* pShortcut = new QShortcut(QKeySequence(ToQString(entry.keys)), this);
         pShortcut->setContext(Qt::ApplicationShortcut);
         connect(pShortcut, &QShortcut::activated, pButton, &QToolButton::click);
@@ -109,7 +115,7 @@ QMenu* SketcherWindow::AddMenu(OwnerPtr<CommandButtonMenuDefinition> opDefinitio
         controls.Create(OwnerPtr<ICommandButtonMenuDefinition>(std::move(opDefinition))));
     if (pButton == nullptr)
         return nullptr;
-    group.addButton(pButton);
+    group.addSmallButton(pButton);
     pDefinition->SetVisible(true);
     return pButton->menu();
 }

@@ -75,6 +75,22 @@ bool InputDriver::ClickAll(const QList<QPoint>& positions) const
     return Xdotool(arguments);
 }
 
+bool InputDriver::Drag(QPoint from, QPoint to) const
+{
+    constexpr int Steps = 20;
+    QStringList arguments = {"mousemove", QString::number(from.x()), QString::number(from.y()),
+                             "mousedown", "1"};
+    for (int step = 1; step <= Steps; ++step)
+    {
+        const QPoint place = from + (to - from) * step / Steps;
+        arguments << "mousemove" << QString::number(place.x()) << QString::number(place.y())
+                  << "sleep"
+                  << "0.02";
+    }
+    return Xdotool(arguments + QStringList{"sleep", "0.3", "mouseup", "1"}) &&
+           WaitForWindowManager();
+}
+
 bool InputDriver::Wheel(int steps) const
 {
     return Xdotool(

@@ -32,6 +32,9 @@ public:
     /// loses some.
     bool ClickAll(const QList<QPoint>& positions) const;
 
+    /// Drags with the left button, in steps as a hand makes them, and rests before letting go.
+    bool Drag(QPoint from, QPoint to) const;
+
     /// Turns the wheel at the pointer's place; positive turns away from the user.
     bool Wheel(int steps) const;
 

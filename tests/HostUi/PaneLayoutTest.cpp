@@ -44,6 +44,7 @@ class PaneLayoutTest : public QObject
 
 private slots:
     void hidingAllAndBackIsExact();
+    void aPaneThatReachesBeyondTheScreenStaysWhereItIs();
     void whileAllAreHiddenTheFormerLayoutIsSaved();
     void showingAPaneEndsTheHiddenState();
     void theFactoryLayoutEndsTheHiddenState();
@@ -83,6 +84,24 @@ void PaneLayoutTest::hidingAllAndBackIsExact()
         QCOMPARE(Describe(run), seen);
         QVERIFY(!run.pLayout->IsAllHidden());
     }
+}
+
+void PaneLayoutTest::aPaneThatReachesBeyondTheScreenStaysWhereItIs()
+{
+    Run run;
+    run.Arrange();
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    const QRect place(screen.right() - 100, 50, 260, 180);
+    run.Pane("D")->setGeometry(place);
+    const QByteArray saved = run.pLayout->Save();
+
+    run.pLayout->ToggleAllHidden();
+    run.pLayout->ToggleAllHidden();
+    QCOMPARE(run.Pane("D")->geometry(), place);
+
+    Run next;
+    QVERIFY(next.pLayout->Restore(saved));
+    QCOMPARE(next.Pane("D")->geometry(), place);
 }
 
 void PaneLayoutTest::whileAllAreHiddenTheFormerLayoutIsSaved()

@@ -2,6 +2,7 @@
 
 #include "HostUi/QtText.h"
 
+#include <QDataStream>
 #include <QDockWidget>
 #include <QEvent>
 #include <QGuiApplication>
@@ -9,6 +10,7 @@
 #include <QMainWindow>
 #include <QScopedValueRollback>
 #include <QScreen>
+#include <QTimer>
 
 #include <algorithm>
 #include <map>
@@ -21,6 +23,9 @@ namespace
 
 /// Of saveState's format here.
 constexpr int StateVersion = 1;
+
+/// Of the stream that holds the toolkit's state and the places of floating panes.
+constexpr QDataStream::Version StreamVersion = QDataStream::Qt_5_12;
 
 /// How much of a floating pane has to be on a screen, in pixels.
 constexpr QSize LeastInReach(64, 32);
@@ -59,7 +64,19 @@ PaneLayout::~PaneLayout() = default;
 QByteArray PaneLayout::Save()
 {
     Prepare();
-    return IsAllHidden() ? m_beforeHiding : m_window.saveState(StateVersion);
+    if (IsAllHidden())
+        return m_beforeHiding;
+    QMap<QString, QRect> places = m_unknownPlaces;
+    for (const Pane& pane : FindPanes())
+    {
+        if (pane.pDock->IsFloating())
+            places[pane.pWidget->objectName()] = pane.pWidget->geometry();
+    }
+    QByteArray layout;
+    QDataStream stream(&layout, QIODevice::WriteOnly);
+    stream.setVersion(StreamVersion);
+    stream << m_window.saveState(StateVersion) << places;
+    return layout;
 }
 
 bool PaneLayout::Restore(const QByteArray& layout)
@@ -174,11 +191,36 @@ bool PaneLayout::Apply(const QByteArray& layout)
 {
     const QScopedValueRollback<bool> applying(m_isApplying, true);
     Prepare();
-    if (!m_window.restoreState(layout, StateVersion))
+    QByteArray state;
+    QMap<QString, QRect> places;
+    QDataStream stream(layout);
+    stream.setVersion(StreamVersion);
+    stream >> state >> places;
+    if (stream.status() != QDataStream::Ok || !m_window.restoreState(state, StateVersion))
         return false;
     PlaceLost();
+    PlaceFloating(places);
     BringFloatingIntoReach();
     return true;
+}
+
+/// Puts floating panes exactly where they were: the toolkit would push those that reach beyond the
+/// screen back into it.
+void PaneLayout::PlaceFloating(QMap<QString, QRect> places)
+{
+    for (const Pane& pane : FindPanes())
+    {
+        const QRect place = places.take(pane.pWidget->objectName());
+        if (!place.isValid() || !pane.pDock->IsFloating())
+            continue;
+        pane.pWidget->setGeometry(place);
+        // It must not come up before the window.
+        if (m_window.isVisible() || pane.pDock->IsHidden())
+            continue;
+        pane.pDock->Hide();
+        QTimer::singleShot(0, pane.pWidget, &QWidget::show);
+    }
+    m_unknownPlaces = places;
 }
 
 /// Gives the panes of an area the same share of it.

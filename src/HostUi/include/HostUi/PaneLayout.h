@@ -5,7 +5,9 @@
 
 #include <QByteArray>
 #include <QList>
+#include <QMap>
 #include <QObject>
+#include <QRect>
 
 #include <string>
 #include <vector>
@@ -40,7 +42,7 @@ public:
     PaneLayout(QMainWindow& window, IDockManager& docks, std::vector<PanePlace> places);
     ~PaneLayout() override;
 
-    /// The layout as it is; while all panes are hidden at once, as it was before.
+    /// The layout as it is, in a form of its own; while all panes are hidden at once, as it was before.
     QByteArray Save();
 
     /// Brings a layout back that Save returned, of this run or an earlier one. False, and the
@@ -77,6 +79,7 @@ private:
     QDockWidget* FindWidget(const std::wstring& name) const;
     void Prepare();
     bool Apply(const QByteArray& layout);
+    void PlaceFloating(QMap<QString, QRect> places);
     void ShareOut(DockArea area, const QList<QDockWidget*>& panes);
     void PlaceLost();
 
@@ -86,6 +89,9 @@ private:
 
     /// While all panes are hidden at once.
     QByteArray m_beforeHiding;
+
+    /// Where panes floated that a layout named and nobody has added.
+    QMap<QString, QRect> m_unknownPlaces;
     bool m_isApplying = false;
 };
 

@@ -1,0 +1,278 @@
+#include "Desktop/DesktopTest.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+
+namespace vesk
+{
+
+namespace
+{
+
+const QString s_entities = QStringLiteral("Entities");
+const QString s_properties = QStringLiteral("PropertyWidget");
+const QString s_journal = QStringLiteral("Journal");
+const QString s_inspector = QStringLiteral("Inspector");
+
+const QString s_menu = QStringLiteral("Sketcher.Panes");
+const QString s_hideAll = QStringLiteral("Sketcher.HideAllPanes");
+const QString s_default = QStringLiteral("Sketcher.DefaultLayout");
+
+QString CommandOf(const QString& pane)
+{
+    return QStringLiteral("Sketcher.Pane.") + pane;
+}
+
+QRect RectOf(const QJsonObject& json)
+{
+    const QJsonArray rect = json["rect"].toArray();
+    return {rect[0].toInt(), rect[1].toInt(), rect[2].toInt(), rect[3].toInt()};
+}
+
+QJsonObject FindPane(const UiTree& tree, const QString& name)
+{
+    for (const QJsonValue& pane : tree.GetJson()["docks"].toArray())
+    {
+        if (pane["name"].toString() == name)
+            return pane.toObject();
+    }
+    return {};
+}
+
+/// Says which pane differs.
+void CompareLayouts(const QJsonArray& actual, const QJsonArray& expected)
+{
+    const auto toLines = [](const QJsonArray& panes) {
+        QStringList lines;
+        for (const QJsonValue& pane : panes)
+            lines << QString::fromUtf8(
+                QJsonDocument(pane.toObject()).toJson(QJsonDocument::Compact));
+        return lines;
+    };
+    QCOMPARE(toLines(actual), toLines(expected));
+}
+
+}
+
+/// Panes, dragged, tabbed, floated, closed and brought back by a user's hand.
+class PaneTest : public DesktopTest
+{
+    Q_OBJECT
+
+private slots:
+    void theViewHasRoomBesideThePanes();
+    void arrangedPanesComeBackInTheNextRun();
+    void allAreHiddenAndComeBackAsTheyWere();
+    void theFactoryLayoutComesBack();
+    void thePanesFollowTheDrawing();
+    void aValueIsEditedInThePane();
+    void aDamagedLayoutFileIsSurvived();
+
+private:
+    QJsonObject Pane(const QString& name) { return FindPane(Session().Tree(), name); }
+    QJsonArray Layout();
+    bool Drag(const QString& pane, QPoint to);
+    bool WaitForArea(const QString& pane, const QString& area);
+    bool WaitForPane(const QString& pane, const char* property, bool is);
+    bool ClickTitle(const QString& pane, int fromTheRight);
+    bool Restart();
+};
+
+/// What the user would call the layout.
+QJsonArray PaneTest::Layout()
+{
+    Session().WaitForRest();
+    return Session().Tree().GetJson()["docks"].toArray();
+}
+
+/// Takes a pane by its title.
+bool PaneTest::Drag(const QString& pane, QPoint to)
+{
+    const QRect rect = RectOf(Pane(pane));
+    return Session().Input().Drag(QPoint(rect.left() + 60, rect.top() + 9), to);
+}
+
+bool PaneTest::WaitForArea(const QString& pane, const QString& area)
+{
+    return Session().WaitFor([&](const UiTree& tree) {
+        const QJsonObject json = FindPane(tree, pane);
+        return json["area"] == area && !json["floating"].toBool();
+    });
+}
+
+bool PaneTest::WaitForPane(const QString& pane, const char* property, bool is)
+{
+    return Session().WaitFor(
+        [&](const UiTree& tree) { return FindPane(tree, pane)[property].toBool() == is; });
+}
+
+bool PaneTest::ClickTitle(const QString& pane, int fromTheRight)
+{
+    const QRect rect = RectOf(Pane(pane));
+    return Session().Input().Click(QPoint(rect.right() - fromTheRight, rect.top() + 9));
+}
+
+bool PaneTest::Restart()
+{
+    return Session().Close() == 0 && Session().Start();
+}
+
+void PaneTest::theViewHasRoomBesideThePanes()
+{
+    const UiView view = Session().Tree().FindView().value_or(UiView());
+
+    QVERIFY(view.rect.width() >= 600);
+    QVERIFY(view.rect.height() >= 500);
+    for (const QString& name : {s_entities, s_properties, s_journal, s_inspector})
+        QVERIFY2(Pane(name)["visible"].toBool(), qPrintable(name));
+    for (const QString& id : {s_menu, s_hideAll, s_default})
+    {
+        const std::optional<UiControl> control = Session().Tree().FindControl(id);
+        QVERIFY2(control && control->isVisible && control->isEnabled, qPrintable(id));
+    }
+}
+
+void PaneTest::arrangedPanesComeBackInTheNextRun()
+{
+    constexpr int CloseButton = 9;
+    const QRect properties = RectOf(Pane(s_properties));
+
+    // To another area, below the pane that is there.
+    QVERIFY(Drag(s_entities, QPoint(properties.center().x(), properties.bottom() - 20)));
+    QVERIFY(WaitForArea(s_entities, "right"));
+    QVERIFY(Session().WaitForRest());
+    QVERIFY(Pane(s_entities)["tabbedWith"].toArray().isEmpty());
+
+    // Onto another pane: a tab.
+    QVERIFY(Drag(s_entities, RectOf(Pane(s_properties)).center()));
+    QVERIFY(Session().WaitFor([](const UiTree& tree) {
+        return FindPane(tree, s_entities)["tabbedWith"] == QJsonArray{s_properties};
+    }));
+
+    // A window of its own.
+    QVERIFY(Session().WaitForRest());
+    QVERIFY(Drag(s_journal, QPoint(500, 400)));
+    QVERIFY(WaitForPane(s_journal, "floating", true));
+
+    // Closed, and brought back by the menu.
+    QVERIFY(Session().WaitForRest());
+    QVERIFY(ClickTitle(s_inspector, CloseButton));
+    QVERIFY(WaitForPane(s_inspector, "visible", false));
+    QVERIFY(Session().OpenMenu(s_menu, CommandOf(s_inspector)));
+    QCOMPARE(Session().Tree().FindEntry(CommandOf(s_inspector))->isChecked,
+             std::make_optional(false));
+    QVERIFY(Session().ClickEntry(CommandOf(s_inspector)));
+    QVERIFY(WaitForPane(s_inspector, "visible", true));
+
+    // And one hidden by the menu.
+    QVERIFY(Session().OpenMenu(s_menu, CommandOf(s_properties)));
+    QCOMPARE(Session().Tree().FindEntry(CommandOf(s_properties))->isChecked,
+             std::make_optional(true));
+    QVERIFY(Session().ClickEntry(CommandOf(s_properties)));
+    QVERIFY(WaitForPane(s_properties, "visible", false));
+
+    const QJsonArray before = Layout();
+    QVERIFY(Restart());
+    CompareLayouts(Layout(), before);
+}
+
+void PaneTest::allAreHiddenAndComeBackAsTheyWere()
+{
+    QVERIFY(Session().OpenMenu(s_menu, CommandOf(s_entities)));
+    QVERIFY(Session().ClickEntry(CommandOf(s_entities)));
+    QVERIFY(WaitForPane(s_entities, "visible", false));
+    const QJsonArray before = Layout();
+
+    QVERIFY(Session().Click(s_hideAll));
+    QVERIFY(WaitForPane(s_journal, "visible", false));
+    for (const QString& name : {s_entities, s_properties, s_inspector})
+        QVERIFY2(!Pane(name)["visible"].toBool(), qPrintable(name));
+    // Closed now, the next run has the layout that was there before.
+    QVERIFY(Restart());
+    CompareLayouts(Layout(), before);
+
+    QVERIFY(Session().Click(s_hideAll));
+    QVERIFY(WaitForPane(s_journal, "visible", false));
+    QVERIFY(Session().Click(s_hideAll));
+    QVERIFY(WaitForPane(s_journal, "visible", true));
+    CompareLayouts(Layout(), before);
+}
+
+void PaneTest::theFactoryLayoutComesBack()
+{
+    const QJsonArray factory = Layout();
+    QVERIFY(Drag(s_entities, QPoint(500, 400)));
+    QVERIFY(WaitForPane(s_entities, "floating", true));
+    QVERIFY(Session().OpenMenu(s_menu, CommandOf(s_journal)));
+    QVERIFY(Session().ClickEntry(CommandOf(s_journal)));
+    QVERIFY(WaitForPane(s_journal, "visible", false));
+
+    QVERIFY(Session().Click(s_default));
+
+    QVERIFY(WaitForPane(s_journal, "visible", true));
+    CompareLayouts(Layout(), factory);
+}
+
+void PaneTest::thePanesFollowTheDrawing()
+{
+    QVERIFY(Session().BeginLine());
+    QVERIFY(Session().Type("100", {"Return"}));
+    QVERIFY(Session().WaitForEntities(1));
+    QVERIFY(Session().Type("", {"Escape"}));
+    QVERIFY(Session().WaitForAction(QString()));
+
+    // The first row of the list, below its header.
+    const QRect list = RectOf(Pane(s_entities));
+    QVERIFY(Session().Input().Click(QPoint(list.left() + 30, list.top() + 54)));
+
+    QVERIFY(Session().WaitForText("Sketcher.Property.length", "100.000"));
+    CloseProgram();
+    QVERIFY(ReadBytes(Session().PathOf("journal")).contains("\"selection\""));
+}
+
+void PaneTest::aValueIsEditedInThePane()
+{
+    QVERIFY(Session().BeginLine());
+    QVERIFY(Session().Type("100", {"Return", "Escape"}));
+    QVERIFY(Session().WaitForAction(QString()));
+    QVERIFY(Session().Type("", {"Escape"}));
+    const QRect list = RectOf(Pane(s_entities));
+    QVERIFY(Session().Input().Click(QPoint(list.left() + 30, list.top() + 54)));
+    QVERIFY(Session().WaitForText("Sketcher.Property.length", "100.000"));
+
+    QVERIFY(Session().Click("Sketcher.Property.length"));
+    QVERIFY(Session().Type("", {"ctrl+a"}));
+    QVERIFY(Session().Type("62.5", {"Return"}));
+    QVERIFY(Session().WaitForRest());
+
+    const QVector<DrawnLine> lines = CloseAndReadLines();
+    QCOMPARE(lines.size(), 1);
+    QCOMPARE(lines[0].GetLength(), 62.5);
+    QVERIFY(ReadBytes(Session().PathOf("journal")).contains("Sketcher.SetProperty"));
+}
+
+void PaneTest::aDamagedLayoutFileIsSurvived()
+{
+    const QJsonArray factory = Layout();
+    QCOMPARE(Session().Close(), 0);
+    const QString path = Session().PathOf("config/sketcher/layout.json");
+    QByteArray text = ReadBytes(path);
+    QVERIFY(!text.isEmpty());
+    text[text.size() / 2] = '!';
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(text);
+    file.close();
+
+    QVERIFY(Session().Start());
+
+    CompareLayouts(Layout(), factory);
+    QCOMPARE(Session().Close(), 0);
+    QVERIFY(Session().Start());
+    QCOMPARE(ReadBytes(path + ".kept"), text);
+}
+
+}
+
+QTEST_GUILESS_MAIN(vesk::PaneTest)
+#include "PaneTest.moc"
