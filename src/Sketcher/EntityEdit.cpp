@@ -33,20 +33,35 @@ std::wstring ToText(const std::vector<int>& ids)
     return text;
 }
 
-std::vector<int> FromText(const std::wstring& text)
+/// Nothing when the text is anything but ids.
+std::optional<std::vector<int>> FromText(const std::wstring& text)
 {
     std::wistringstream stream(text);
     std::vector<int> ids;
-    for (int id = 0; stream >> id;)
+    while (stream >> std::ws && !stream.eof())
+    {
+        int id = 0;
+        if (!(stream >> id))
+            return std::nullopt;
         ids.push_back(id);
+    }
     return ids;
 }
 
 using Shapes = std::vector<std::pair<int, Shape>>;
 
-/// The shapes as they would be; empty when an entity is missing or has no such value.
+/// The shape with the value; to the last bit the same when it has that value already.
+Shape ChangedShape(const Shape& shape, const ShapeProperty& property, double value)
+{
+    return property.get(shape) == value ? shape : property.set(shape, value);
+}
+
+/// The shapes as they would be; empty when an entity is missing or has no such value, or when the
+/// value is no number.
 Shapes ChangedShapes(const EntityEdit& edit, const Sketch& sketch)
 {
+    if (!std::isfinite(edit.value))
+        return {};
     Shapes shapes;
     for (const int id : edit.entities)
     {
@@ -55,7 +70,7 @@ Shapes ChangedShapes(const EntityEdit& edit, const Sketch& sketch)
             pEntity != nullptr ? FindProperty(pEntity->shape, edit.property) : nullptr;
         if (pProperty == nullptr)
             return {};
-        shapes.emplace_back(id, pProperty->set(pEntity->shape, edit.value));
+        shapes.emplace_back(id, ChangedShape(pEntity->shape, *pProperty, edit.value));
     }
     return shapes;
 }
@@ -78,15 +93,18 @@ std::optional<EntityEdit> EntityEdit::From(const CommandParameters& parameters)
     const auto* pValue = Find<double>(parameters, ValueName);
     if (pEntities == nullptr || pProperty == nullptr || pValue == nullptr)
         return std::nullopt;
-    return EntityEdit{FromText(*pEntities), *pProperty, *pValue};
+    std::optional<std::vector<int>> ids = FromText(*pEntities);
+    if (!ids.has_value())
+        return std::nullopt;
+    return EntityEdit{std::move(*ids), *pProperty, *pValue};
 }
 
 bool EntityEdit::IsPossible(const Sketch& sketch) const
 {
     const Shapes shapes = ChangedShapes(*this, sketch);
-    return !shapes.empty() && std::isfinite(value) &&
-           std::all_of(shapes.begin(), shapes.end(),
-                       [](const auto& changed) { return IsDrawable(changed.second); });
+    return !shapes.empty() && std::all_of(shapes.begin(), shapes.end(), [](const auto& changed) {
+        return IsDrawable(changed.second);
+    });
 }
 
 bool EntityEdit::Apply(Sketch& sketch) const

@@ -13,6 +13,12 @@ namespace
 
 using Properties = std::vector<ShapeProperty>;
 
+/// That far in the direction of a vector. A negative length would turn it round: it gives none.
+Vector3d Along(const Vector3d& direction, double length)
+{
+    return std::max(length, 0.0) * direction.normalized();
+}
+
 template <class Kind, Vector3d Kind::*point, int axis>
 ShapeProperty Coordinate(const wchar_t* name, const wchar_t* caption)
 {
@@ -36,7 +42,7 @@ ShapeProperty LineLength()
             [](const Shape& shape) { return (LineOf(shape).end - LineOf(shape).start).norm(); },
             [](const Shape& shape, double value) -> Shape {
                 LineShape line = LineOf(shape);
-                line.end = line.start + value * (line.end - line.start).normalized();
+                line.end = line.start + Along(line.end - line.start, value);
                 return line;
             }};
 }
@@ -75,8 +81,8 @@ ShapeProperty ArcRadius()
             [](const Shape& shape) { return std::get<ArcShape>(shape).radius; },
             [](const Shape& shape, double value) -> Shape {
                 ArcShape arc = std::get<ArcShape>(shape);
-                arc.start = arc.centre + value * (arc.start - arc.centre).normalized();
-                arc.end = arc.centre + value * (arc.end - arc.centre).normalized();
+                arc.start = arc.centre + Along(arc.start - arc.centre, value);
+                arc.end = arc.centre + Along(arc.end - arc.centre, value);
                 arc.radius = value;
                 return arc;
             }};
@@ -123,7 +129,7 @@ ShapeProperty RectangleSide(const wchar_t* name, const wchar_t* caption)
                 auto& corners = rectangle.corners;
                 const Vector3d side = corners[corner] - corners[0];
                 const Vector3d across = corners[4 - corner] - corners[0];
-                corners[corner] = corners[0] + value * side.normalized();
+                corners[corner] = corners[0] + Along(side, value);
                 corners[2] = corners[corner] + across;
                 return rectangle;
             }};
