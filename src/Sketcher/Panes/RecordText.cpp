@@ -20,13 +20,23 @@ QString NumberText(double value)
     return QString::number(value, 'g', QLocale::FloatingPointShortest);
 }
 
+/// A text of the user's, or a list of entities, may have any length and lines.
+QString Shortened(QString text)
+{
+    constexpr int MostShown = 80;
+    text.replace(QLatin1String("\r\n"), QLatin1String(" "));
+    for (const char lineEnd : {'\n', '\r'})
+        text.replace(QLatin1Char(lineEnd), QLatin1Char(' '));
+    return text.size() > MostShown ? text.left(MostShown) + QStringLiteral("…") : text;
+}
+
 QString ValueText(const CommandParameterValue& value)
 {
     return std::visit(Overloaded{
                           [](bool isOn) { return QVariant(isOn).toString(); },
                           [](int number) { return QString::number(number); },
                           [](double number) { return NumberText(number); },
-                          [](const std::wstring& text) { return ToQString(text); },
+                          [](const std::wstring& text) { return Shortened(ToQString(text)); },
                       },
                       value.Get());
 }
@@ -70,13 +80,14 @@ QString DescribeRecord(const JournalRecord& record)
             [](const PointRecord& point) { return PointText(point); },
             [](const ValueRecord& value) {
                 return QStringLiteral("%1 “%2” = %3")
-                    .arg(FieldCaption(value.field), ToQString(value.text), NumberText(value.value));
+                    .arg(FieldCaption(value.field), Shortened(ToQString(value.text)),
+                         NumberText(value.value));
             },
             [](const SelectionRecord& selection) { return SelectionText(selection); },
             [](const PropertyRecord& property) {
                 return QStringLiteral("%1.%2 = %3")
                     .arg(ToQString(property.object), ToQString(property.property),
-                         ToQString(property.value));
+                         Shortened(ToQString(property.value)));
             },
             [](const UndoRecord& undo) { return QStringLiteral("撤销 #%1").arg(undo.entity); },
             [](const EndRecord& end) {
