@@ -126,7 +126,9 @@ void SketcherWindow::BuildPanels(Qtitan::RibbonPage& page, ControlHost& controls
         std::make_unique<PenPanel>(m_workspace, *page.addGroup(QStringLiteral("线条")), controls));
     Qtitan::RibbonGroup* pDrafting = page.addGroup(QStringLiteral("绘图设置"));
     m_panels.push_back(std::make_unique<SnapPanel>(m_workspace.snapper, *pDrafting, controls));
-    m_panels.push_back(std::make_unique<UnitPanel>(*m_pView, *pDrafting, controls));
+    auto pUnits = std::make_unique<UnitPanel>(*m_pView, *pDrafting, controls);
+    connect(pUnits.get(), &UnitPanel::unitChanged, this, &SketcherWindow::unitChanged);
+    m_panels.push_back(std::move(pUnits));
     m_panels.push_back(std::make_unique<DrawingPanel>(
         m_workspace, *page.addGroup(QStringLiteral("图纸")), controls));
 }

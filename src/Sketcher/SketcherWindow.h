@@ -50,6 +50,10 @@ public:
     /// Drops what refers to the controls, before they go.
     void ReleaseControls();
 
+signals:
+    /// Lengths are shown in another unit from now on.
+    void unitChanged();
+
 private:
     void BuildButtons(const std::vector<CommandEntry>& commands, Qtitan::RibbonPage& page,
                       vesk::ControlHost& controls);

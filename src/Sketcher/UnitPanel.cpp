@@ -70,5 +70,6 @@ void UnitPanel::On(IControlDefinitionChangeEventArgs*)
         TemporaryDimensionMgr::GetInstance()->EndInput();
         LengthUnit::SetCurrent(choice.unit());
         ActionManager::RefreshViewInput(&m_view);
+        emit unitChanged();
     }
 }

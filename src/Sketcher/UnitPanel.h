@@ -29,6 +29,10 @@ public:
 
     void On(vesk::IControlDefinitionChangeEventArgs* pArgs) override;
 
+signals:
+    /// Lengths are shown in another unit from now on.
+    void unitChanged();
+
 private:
     vesk::IUiView& m_view;
     vesk::RadioButtonGroupDefinition* m_pDefinition;

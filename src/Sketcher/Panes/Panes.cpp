@@ -62,6 +62,7 @@ Panes::Panes(Workspace& workspace, SketcherWindow& window, IDockManager& docks,
     connect(&workspace.sketch, &Sketch::changed, this, refresh);
     connect(&workspace.selection, &Selection::changed, this, refresh);
     connect(&m_layout, &PaneLayout::visibilityChanged, this, refresh);
+    connect(&window, &SketcherWindow::unitChanged, this, refresh);
     JournalManager::GetInstance().AddObserver(this);
 }
 
