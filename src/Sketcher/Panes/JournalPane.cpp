@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QListView>
+#include <QPersistentModelIndex>
 #include <QScrollBar>
 #include <QVBoxLayout>
 
@@ -36,9 +37,13 @@ void JournalPane::UpdateStatus()
 {
     const QScrollBar* pBar = m_pView->verticalScrollBar();
     const bool isAtEnd = pBar->value() == pBar->maximum();
+    // Older records may go, and those that are read move up in the list.
+    const QPersistentModelIndex top = m_pView->indexAt(QPoint(0, 0));
     m_pModel->Refresh();
     if (isAtEnd)
         m_pView->scrollToBottom();
+    else if (top.isValid())
+        m_pView->scrollTo(top, QAbstractItemView::PositionAtTop);
 }
 
 void JournalPane::Copy() const
