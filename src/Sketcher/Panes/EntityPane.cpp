@@ -40,11 +40,13 @@ void EntityPane::UpdateStatus()
     const QScopedValueRollback<bool> showing(m_isShowing, true);
     m_pModel->Refresh();
     const std::vector<int>& ids = m_workspace.selection.GetIds();
-    const QItemSelection rows = ToRows(ids);
-    if (rows == m_pView->selectionModel()->selection())
+    const std::vector<int> rows = ToRows(ids);
+    std::vector<int> rowsBefore = GetSelectedRows();
+    std::sort(rowsBefore.begin(), rowsBefore.end());
+    if (rows == rowsBefore)
         return;
-    m_pView->selectionModel()->select(rows, QItemSelectionModel::ClearAndSelect |
-                                                QItemSelectionModel::Rows);
+    m_pView->selectionModel()->select(ToSelection(rows), QItemSelectionModel::ClearAndSelect |
+                                                             QItemSelectionModel::Rows);
     if (!ids.empty())
         m_pView->scrollTo(m_pModel->index(m_pModel->GetRow(ids.back()), 0));
 }
@@ -54,11 +56,8 @@ void EntityPane::OnSelected()
     if (m_isShowing)
         return;
     std::vector<int> ids;
-    for (const QItemSelectionRange& range : m_pView->selectionModel()->selection())
-    {
-        for (int row = range.top(); row <= range.bottom(); ++row)
-            ids.push_back(m_pModel->GetId(row));
-    }
+    for (const int row : GetSelectedRows())
+        ids.push_back(m_pModel->GetId(row));
     // Rows of which the drawing knows nothing any more cannot be selected there.
     ids.erase(std::remove_if(ids.begin(), ids.end(),
                              [this](int id) { return m_workspace.sketch.Find(id) == nullptr; }),
@@ -66,13 +65,32 @@ void EntityPane::OnSelected()
     m_workspace.selection.Select(ids);
 }
 
-/// As few ranges as there can be.
-QItemSelection EntityPane::ToRows(const std::vector<int>& ids) const
+/// In the order in which they were selected.
+std::vector<int> EntityPane::GetSelectedRows() const
+{
+    std::vector<int> rows;
+    for (const QItemSelectionRange& range : m_pView->selectionModel()->selection())
+    {
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            rows.push_back(row);
+    }
+    return rows;
+}
+
+/// Ascending, each once.
+std::vector<int> EntityPane::ToRows(const std::vector<int>& ids) const
 {
     std::vector<int> rows;
     for (const int id : ids)
         rows.push_back(m_pModel->GetRow(id));
     std::sort(rows.begin(), rows.end());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+    return rows;
+}
+
+/// As few ranges as there can be.
+QItemSelection EntityPane::ToSelection(const std::vector<int>& rows) const
+{
     QItemSelection selection;
     const int lastColumn = m_pModel->columnCount() - 1;
     for (std::size_t i = 0; i < rows.size();)

@@ -23,7 +23,9 @@ public:
 
 private:
     void OnSelected();
-    QItemSelection ToRows(const std::vector<int>& ids) const;
+    std::vector<int> GetSelectedRows() const;
+    std::vector<int> ToRows(const std::vector<int>& ids) const;
+    QItemSelection ToSelection(const std::vector<int>& rows) const;
 
     Workspace& m_workspace;
     EntityModel* m_pModel;
