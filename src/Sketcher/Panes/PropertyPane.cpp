@@ -12,7 +12,6 @@
 
 #include <QFormLayout>
 #include <QLabel>
-#include <QLocale>
 #include <QScrollArea>
 #include <QVBoxLayout>
 
@@ -31,6 +30,7 @@ constexpr int AngleDecimals = 2;
 QLabel* MakeMessage()
 {
     auto* pMessage = new QLabel;
+    pMessage->setObjectName(QStringLiteral("PropertyMessage"));
     pMessage->setWordWrap(true);
     pMessage->setMargin(4);
     pMessage->setStyleSheet(
@@ -44,6 +44,7 @@ QLabel* MakeMessage()
 PropertyPane::PropertyPane(Workspace& workspace, ControlHost& controls)
     : m_workspace(workspace), m_pTitle(new QLabel), m_pMessage(MakeMessage())
 {
+    m_pTitle->setObjectName(QStringLiteral("PropertyTitle"));
     auto* pForm = new QWidget;
     auto* pRows = new QFormLayout(pForm);
     pRows->addRow(m_pTitle);
@@ -71,8 +72,6 @@ void PropertyPane::UpdateStatus()
     ShowTitle();
     for (Row& row : m_rows)
         ShowRow(row, isOther);
-    if (isOther)
-        ShowMessage(QString());
 }
 
 void PropertyPane::On(LineEditEventArgs* pArgs)
@@ -80,10 +79,13 @@ void PropertyPane::On(LineEditEventArgs* pArgs)
     const auto row = std::find_if(m_rows.begin(), m_rows.end(), [pArgs](const Row& known) {
         return known.pDefinition->GetId() == pArgs->GetId();
     });
-    // What the field shows already, rounded, is not meant as a new value.
-    if (row == m_rows.end() || pArgs->GetText() == row->shown)
+    if (row == m_rows.end())
         return;
-    Commit(*row, pArgs->GetText());
+    // What the field shows already, rounded, is not meant as a new value.
+    if (pArgs->GetText() == row->shown)
+        Accept(*row);
+    else
+        Commit(*row, pArgs->GetText());
 }
 
 void PropertyPane::AddRow(const ShapeProperty& property, ControlHost& controls, QFormLayout& layout)
@@ -122,7 +124,10 @@ void PropertyPane::ShowRow(Row& row, bool isAnew)
     row.pDefinition->SetVisible(isCommon);
     const std::wstring text = isCommon ? GetText(row.property) : std::wstring();
     if (isAnew || text != row.shown)
+    {
         row.pDefinition->SetText(text);
+        Accept(row);
+    }
     row.shown = text;
 }
 
@@ -133,8 +138,8 @@ bool PropertyPane::IsCommon(const ShapeProperty& property) const
     });
 }
 
-/// In the unit shown; empty when the entities differ.
-std::wstring PropertyPane::GetText(const ShapeProperty& property) const
+/// The value that all entities have; nothing when they differ.
+std::optional<double> PropertyPane::GetValue(const ShapeProperty& property) const
 {
     const auto valueOf = [&](int id) {
         const Shape& shape = m_workspace.sketch.Find(id)->shape;
@@ -143,34 +148,60 @@ std::wstring PropertyPane::GetText(const ShapeProperty& property) const
     const double value = valueOf(m_shownIds.front());
     const bool isCommon = std::all_of(m_shownIds.begin(), m_shownIds.end(),
                                       [&](int id) { return valueOf(id) == value; });
-    if (!isCommon)
+    return isCommon ? std::make_optional(value) : std::nullopt;
+}
+
+/// In the unit shown; empty when the entities differ.
+std::wstring PropertyPane::GetText(const ShapeProperty& property) const
+{
+    const std::optional<double> value = GetValue(property);
+    if (!value.has_value())
         return {};
-    const double shown = property.isAngle ? value : LengthUnit::GetCurrent().ToShown(value);
+    const double shown = property.isAngle ? *value : LengthUnit::GetCurrent().ToShown(*value);
     return ToWide(QString::number(shown, 'f', property.isAngle ? AngleDecimals : LengthDecimals));
 }
 
-void PropertyPane::Commit(const Row& row, const std::wstring& text)
+void PropertyPane::Commit(Row& row, const std::wstring& text)
 {
+    // Not by a locale: that would take the comma of 1,500 for a mark of thousands.
     bool isNumber = false;
-    const double typed = QLocale::c().toDouble(ToQString(text).trimmed(), &isNumber);
+    const double typed = ToQString(text).trimmed().toDouble(&isNumber);
     if (!isNumber || !std::isfinite(typed))
     {
-        ShowMessage(QStringLiteral("%1：这不是一个数").arg(ToQString(row.property.caption)));
+        Refuse(row, QStringLiteral("这不是一个数"));
         return;
     }
     const double value = row.property.isAngle ? typed : LengthUnit::GetCurrent().ToModel(typed);
     const EntityEdit edit{m_shownIds, row.property.name, value};
     if (!edit.IsPossible(m_workspace.sketch))
     {
-        ShowMessage(QStringLiteral("%1：以此值无法绘制图元").arg(ToQString(row.property.caption)));
+        Refuse(row, QStringLiteral("以此值无法绘制图元"));
         return;
     }
-    ShowMessage(QString());
+    Accept(row);
+    if (GetValue(row.property) == value)
+    {
+        row.pDefinition->SetText(row.shown);
+        return;
+    }
+    // The field may be left before the new value is shown: that is no second edit.
+    row.shown = text;
     RunCommand(EntityEdit::CommandId, edit.ToParameters());
 }
 
-void PropertyPane::ShowMessage(const QString& message)
+/// Tells why the text of a field is not taken.
+void PropertyPane::Refuse(const Row& row, const QString& reason)
 {
-    m_pMessage->setText(message);
-    m_pMessage->setVisible(!message.isEmpty());
+    m_refusedId = row.pDefinition->GetId();
+    m_pMessage->setText(QStringLiteral("%1：%2").arg(ToQString(row.property.caption), reason));
+    m_pMessage->show();
+}
+
+/// Takes the message away that is about this field.
+void PropertyPane::Accept(const Row& row)
+{
+    if (m_refusedId != row.pDefinition->GetId())
+        return;
+    m_refusedId.clear();
+    m_pMessage->hide();
 }

@@ -52,13 +52,18 @@ private:
     void ShowTitle();
     void ShowRow(Row& row, bool isAnew);
     bool IsCommon(const ShapeProperty& property) const;
+    std::optional<double> GetValue(const ShapeProperty& property) const;
     std::wstring GetText(const ShapeProperty& property) const;
-    void Commit(const Row& row, const std::wstring& text);
-    void ShowMessage(const QString& message);
+    void Commit(Row& row, const std::wstring& text);
+    void Refuse(const Row& row, const QString& reason);
+    void Accept(const Row& row);
 
     Workspace& m_workspace;
     QLabel* m_pTitle;
     QLabel* m_pMessage;
+
+    /// The id of the field that the message is about; empty without one.
+    std::wstring m_refusedId;
     std::vector<Row> m_rows;
 
     /// The selection that the fields show.
