@@ -1,0 +1,325 @@
+#include "Panes/EntityPane.h"
+
+#include "RecordedLines.h"
+#include "Workspace.h"
+
+#include <QElapsedTimer>
+#include <QTest>
+#include <QTreeView>
+
+#include <algorithm>
+#include <functional>
+#include <memory>
+#include <vector>
+
+using Ids = std::vector<int>;
+
+namespace
+{
+
+/// A drawing of lines, of which the first three are erased: ids are not rows.
+struct Fixture
+{
+    explicit Fixture(int lines = 8)
+    {
+        for (int i = 0; i < lines + 3; ++i)
+            workspace.sketch.AddLine({0, 1.0 * i, 0}, {10, 1.0 * i, 0});
+        for (const int id : {1, 2, 3})
+            workspace.sketch.Erase(id);
+        pPane = std::make_unique<EntityPane>(workspace);
+        pList = pPane->findChild<QTreeView*>("Entities");
+        pPane->resize(240, 300);
+        pPane->show();
+        pPane->UpdateStatus();
+        pLines = std::make_unique<RecordedLines>();
+    }
+
+    void ClickRow(int row, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        const QModelIndex index = pList->model()->index(row, 1);
+        QTest::mouseClick(pList->viewport(), Qt::LeftButton, modifiers,
+                          pList->visualRect(index).center());
+        pPane->UpdateStatus();
+    }
+
+    void PressInList(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        QTest::keyClick(pList, key, modifiers);
+        pPane->UpdateStatus();
+    }
+
+    /// The ids that stand in the selected rows, ascending.
+    Ids SelectedInList() const
+    {
+        Ids ids;
+        for (const QModelIndex& index : pList->selectionModel()->selectedRows())
+            ids.push_back(index.data().toInt());
+        std::sort(ids.begin(), ids.end());
+        return ids;
+    }
+
+    Ids SelectedInDrawing() const
+    {
+        Ids ids = workspace.selection.GetIds();
+        std::sort(ids.begin(), ids.end());
+        return ids;
+    }
+
+    bool IsSeen(int row) const
+    {
+        const QRect place = pList->visualRect(pList->model()->index(row, 0));
+        return place.isValid() && pList->viewport()->rect().contains(place);
+    }
+
+    Workspace workspace;
+    std::unique_ptr<EntityPane> pPane;
+    QTreeView* pList = nullptr;
+    std::unique_ptr<RecordedLines> pLines;
+};
+
+/// How long something takes that is to be there at once.
+void Measure(const char* what, const std::function<void()>& step)
+{
+    // A machine that does much else is forgiven; one row after the other would take longer.
+    constexpr qint64 MostMs = 3000;
+    QElapsedTimer timer;
+    timer.start();
+    step();
+    const qint64 elapsed = timer.nsecsElapsed();
+    qInfo("%s: %.1f ms", what, static_cast<double>(elapsed) / 1e6);
+    QVERIFY(elapsed / 1000000 < MostMs);
+}
+
+}
+
+/// Entities selected in the list and in the drawing.
+class EntityPaneTest final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void clickedRowIsSelectedInTheDrawing()
+    {
+        Fixture f;
+
+        f.ClickRow(2);
+
+        QCOMPARE(f.workspace.selection.GetIds(), Ids{6});
+        QCOMPARE(f.pLines->Get(), QStringList(R"({"kind":"selection","entities":[6]})"));
+        QCOMPARE(f.SelectedInList(), Ids{6});
+    }
+
+    void aClickOnTheSelectedRowIsNothing()
+    {
+        Fixture f;
+        f.ClickRow(2);
+
+        f.ClickRow(2);
+
+        QCOMPARE(f.pLines->Get().size(), 1);
+    }
+
+    void rowsThatAreApartAreSelectedTogether()
+    {
+        Fixture f;
+
+        f.ClickRow(5);
+        f.ClickRow(0, Qt::ControlModifier);
+        f.ClickRow(1, Qt::ControlModifier);
+        f.ClickRow(3, Qt::ControlModifier);
+
+        QCOMPARE(f.SelectedInDrawing(), (Ids{4, 5, 7, 9}));
+        QCOMPARE(f.SelectedInList(), (Ids{4, 5, 7, 9}));
+        QCOMPARE(f.pLines->Get().size(), 4);
+    }
+
+    void aRangeIsOneRecord()
+    {
+        Fixture f;
+        f.ClickRow(1);
+
+        f.ClickRow(6, Qt::ShiftModifier);
+
+        QCOMPARE(f.SelectedInDrawing(), (Ids{5, 6, 7, 8, 9, 10}));
+        QCOMPARE(f.pLines->Get().size(), 2);
+    }
+
+    void keysSelectToo()
+    {
+        Fixture f;
+        f.ClickRow(1);
+
+        f.PressInList(Qt::Key_Down);
+        QCOMPARE(f.SelectedInDrawing(), Ids{6});
+        f.PressInList(Qt::Key_A, Qt::ControlModifier);
+
+        QCOMPARE(f.SelectedInDrawing().size(), std::size_t{8});
+        QCOMPARE(f.pLines->Get().size(), 3);
+    }
+
+    void aRowTakenOutOfTheMiddleLeavesTheOthers()
+    {
+        Fixture f;
+        f.PressInList(Qt::Key_A, Qt::ControlModifier);
+
+        f.ClickRow(4, Qt::ControlModifier);
+
+        QCOMPARE(f.SelectedInDrawing(), (Ids{4, 5, 6, 7, 9, 10, 11}));
+        QCOMPARE(f.SelectedInList(), (Ids{4, 5, 6, 7, 9, 10, 11}));
+        QCOMPARE(f.pLines->Get().size(), 2);
+    }
+
+    void theDrawingsSelectionIsTakenOverAndNotRecordedAgain_data()
+    {
+        QTest::addColumn<QVector<int>>("ids");
+
+        QTest::newRow("one") << QVector<int>{9};
+        QTest::newRow("neighbours") << QVector<int>{5, 4, 6};
+        QTest::newRow("apart, as picked") << QVector<int>{11, 4, 8};
+        QTest::newRow("all") << QVector<int>{4, 5, 6, 7, 8, 9, 10, 11};
+        QTest::newRow("none") << QVector<int>{};
+    }
+
+    void theDrawingsSelectionIsTakenOverAndNotRecordedAgain()
+    {
+        QFETCH(QVector<int>, ids);
+        Fixture f;
+        f.ClickRow(6);
+        const Ids picked(ids.begin(), ids.end());
+
+        f.workspace.selection.Select(picked);
+        f.pPane->UpdateStatus();
+        f.pPane->UpdateStatus();
+
+        QCOMPARE(f.SelectedInList(), f.SelectedInDrawing());
+        QCOMPARE(f.workspace.selection.GetIds(), picked);
+        QCOMPARE(f.pLines->Get().size(), 2);
+    }
+
+    void anErasedEntityLeavesTheListAndTheSelection()
+    {
+        Fixture f;
+        f.PressInList(Qt::Key_A, Qt::ControlModifier);
+
+        f.workspace.sketch.Erase(7);
+        f.pPane->UpdateStatus();
+
+        QCOMPARE(f.pList->model()->rowCount(), 7);
+        QCOMPARE(f.SelectedInList(), (Ids{4, 5, 6, 8, 9, 10, 11}));
+        QCOMPARE(f.SelectedInDrawing(), (Ids{4, 5, 6, 8, 9, 10, 11}));
+        QCOMPARE(f.pLines->Get().size(), 1);
+    }
+
+    void anEntityThatComesBackIsNotSelected()
+    {
+        Fixture f;
+        f.ClickRow(3);
+        f.workspace.sketch.Erase(7);
+        f.pPane->UpdateStatus();
+
+        f.workspace.sketch.Undo();
+        f.pPane->UpdateStatus();
+
+        QCOMPARE(f.pList->model()->rowCount(), 8);
+        QCOMPARE(f.SelectedInList(), Ids{});
+        QCOMPARE(f.SelectedInDrawing(), Ids{});
+        QCOMPARE(f.pLines->Get().size(), 1);
+    }
+
+    void aNewEntityLeavesTheSelectionAlone()
+    {
+        Fixture f;
+        f.ClickRow(3);
+
+        f.workspace.sketch.AddLine({0, 0, 0}, {1, 0, 0});
+        f.pPane->UpdateStatus();
+
+        QCOMPARE(f.SelectedInList(), Ids{7});
+        QCOMPARE(f.pLines->Get().size(), 1);
+    }
+
+    void aRowWhoseEntityIsGoneAlreadySelectsNothing()
+    {
+        Fixture f;
+        f.workspace.sketch.Erase(6);
+
+        f.ClickRow(2);
+
+        QCOMPARE(f.SelectedInDrawing(), Ids{});
+        QCOMPARE(f.SelectedInList(), Ids{});
+        QCOMPARE(f.pLines->Get().size(), 0);
+    }
+
+    void whatIsSelectedInTheDrawingComesIntoSight()
+    {
+        Fixture f(500);
+        QVERIFY(!f.IsSeen(400));
+
+        f.workspace.selection.Select({404});
+        f.pPane->UpdateStatus();
+
+        QVERIFY(f.IsSeen(400));
+    }
+
+    void theListStaysWhereItsReaderScrolledTo()
+    {
+        Fixture f(500);
+        f.workspace.selection.Select({404});
+        f.pPane->UpdateStatus();
+
+        f.pList->scrollToTop();
+        f.workspace.sketch.AddLine({0, 0, 0}, {1, 0, 0});
+        f.pPane->UpdateStatus();
+
+        QVERIFY(f.IsSeen(0));
+    }
+
+    void whatTheUserSelectsInTheListDoesNotMoveIt()
+    {
+        Fixture f(500);
+        Ids ids;
+        for (const Entity& entity : f.workspace.sketch.GetEntities())
+            ids.push_back(entity.id);
+        ids.erase(ids.begin() + 450);
+        f.workspace.selection.Select(ids);
+        f.pPane->UpdateStatus();
+        f.pList->scrollToTop();
+
+        f.ClickRow(5, Qt::ControlModifier);
+
+        QVERIFY(f.IsSeen(0));
+        QCOMPARE(f.SelectedInDrawing().size(), std::size_t{498});
+    }
+
+    void tenThousandEntitiesAreListedAndSelectedAtOnce()
+    {
+        constexpr int Count = 10000;
+        Fixture f(Count);
+        Ids all;
+        for (const Entity& entity : f.workspace.sketch.GetEntities())
+            all.push_back(entity.id);
+
+        Measure("select all in the list", [&f] {
+            f.PressInList(Qt::Key_A, Qt::ControlModifier);
+            f.pList->viewport()->repaint();
+        });
+        QCOMPARE(f.SelectedInDrawing().size(), all.size());
+        f.workspace.selection.Select({});
+        f.pPane->UpdateStatus();
+
+        Measure("select all in the drawing", [&] {
+            f.workspace.selection.Select(all);
+            f.pPane->UpdateStatus();
+            f.pList->viewport()->repaint();
+        });
+        QCOMPARE(f.SelectedInList(), all);
+        Measure("scroll to the end", [&f] {
+            f.pList->scrollToBottom();
+            f.pList->viewport()->repaint();
+        });
+        QVERIFY(f.IsSeen(Count - 1));
+    }
+};
+
+QTEST_MAIN(EntityPaneTest)
+#include "EntityPaneTest.moc"
