@@ -193,6 +193,8 @@ void ControlHost::Remove(const std::wstring& definitionId)
         });
     if (found == m_controls.end())
         return;
+    if (m_pRemovalObserver != nullptr)
+        m_pRemovalObserver->OnControlRemoved(*found->opControl->GetControlDefinition());
     m_removed.push_back(std::move(*found));
     m_controls.erase(found);
     if (m_removed.back().pWidget != nullptr)

@@ -7,7 +7,6 @@
 #include "Control/IControlDefinitionChangeEvent.h"
 #include "DefinitionText.h"
 #include "Dimension/TemporaryDimensionMgr.h"
-#include "HostUi/ControlHost.h"
 #include "HostUi/DimensionInputController.h"
 #include "HostUi/FieldCaption.h"
 #include "HostUi/QtText.h"
@@ -83,7 +82,13 @@ void SetCell(QTreeWidgetItem& item, int column, const QString& text)
 class Inspector::Watch final : public IControlDefinitionChangeEventHandler
 {
 public:
-    Watch(Inspector& inspector, std::wstring id) : m_inspector(inspector), m_id(std::move(id)) {}
+    Watch(Inspector& inspector, std::wstring id, IControlDefinitionChangeEvent& event)
+        : m_inspector(inspector), m_id(std::move(id)), m_event(event)
+    {
+        m_event.Add(this);
+    }
+
+    ~Watch() override { m_event.Delete(this); }
 
     void On(IControlDefinitionChangeEventArgs* pArgs) override
     {
@@ -94,9 +99,10 @@ public:
 private:
     Inspector& m_inspector;
     std::wstring m_id;
+    IControlDefinitionChangeEvent& m_event;
 };
 
-Inspector::Inspector(const ControlHost& controls, const DimensionInputController& input)
+Inspector::Inspector(ControlHost& controls, const DimensionInputController& input)
     : m_pControls(&controls), m_pInput(&input), m_pState(new QLabel),
       m_pDefinitions(new QTreeWidget), m_pEvents(new QListWidget)
 {
@@ -124,10 +130,14 @@ Inspector::Inspector(const ControlHost& controls, const DimensionInputController
 
     m_refresh.setInterval(RefreshInterval);
     connect(&m_refresh, &QTimer::timeout, this, &Inspector::UpdateStatus);
+    controls.SetRemovalObserver(this);
     Listen();
 }
 
-Inspector::~Inspector() = default;
+Inspector::~Inspector()
+{
+    Stop();
+}
 
 void Inspector::UpdateStatus()
 {
@@ -138,10 +148,18 @@ void Inspector::UpdateStatus()
     ShowDefinitions();
 }
 
+/// Its event may not outlive it, and the next definition may stand in the same place.
+void Inspector::OnControlRemoved(const IControlDefinition& definition)
+{
+    m_watches.erase(&definition);
+}
+
 void Inspector::Stop()
 {
     m_refresh.stop();
     m_watches.clear();
+    if (m_pControls != nullptr)
+        m_pControls->SetRemovalObserver(nullptr);
     m_pControls = nullptr;
 }
 
@@ -159,26 +177,18 @@ void Inspector::hideEvent(QHideEvent* pEvent)
     QWidget::hideEvent(pEvent);
 }
 
-/// Listens to definitions that are new and forgets those that are gone.
+/// Listens to definitions that are new.
 void Inspector::Listen()
 {
-    std::map<const IControlDefinition*, std::unique_ptr<Watch>> watches;
     for (const IControlDefinition* pDefinition : m_pControls->GetDefinitions())
     {
-        const auto known = m_watches.find(pDefinition);
-        if (known != m_watches.end())
-        {
-            watches[pDefinition] = std::move(known->second);
-            continue;
-        }
         const auto* pSource = dynamic_cast<const IControlDefinitionChangeEventSource*>(pDefinition);
-        if (pSource == nullptr || pSource->GetControlDefinitionChangeEvent() == nullptr)
-            continue;
-        auto pWatch = std::make_unique<Watch>(*this, pDefinition->GetId());
-        pSource->GetControlDefinitionChangeEvent()->Add(pWatch.get());
-        watches[pDefinition] = std::move(pWatch);
+        IControlDefinitionChangeEvent* pEvent =
+            pSource != nullptr ? pSource->GetControlDefinitionChangeEvent() : nullptr;
+        std::unique_ptr<Watch>& pWatch = m_watches[pDefinition];
+        if (pWatch == nullptr && pEvent != nullptr)
+            pWatch = std::make_unique<Watch>(*this, pDefinition->GetId(), *pEvent);
     }
-    m_watches = std::move(watches);
 }
 
 void Inspector::AddEvent(const std::wstring& id, const IControlDefinitionChangeEventArgs& args)

@@ -28,6 +28,17 @@ class IProgressBarDefinition;
 class IRadioButtonGroupDefinition;
 class VeskIControlFactory;
 
+/// Hears of controls that go.
+class VESK_HOST_UI_API IControlRemovalObserver
+{
+public:
+    virtual ~IControlRemovalObserver() = default;
+
+    /// The control of this definition is being removed. The definition still lives, but nobody may
+    /// use it after the call.
+    virtual void OnControlRemoved(const IControlDefinition& definition) = 0;
+};
+
 /// Owns the controls on screen and keeps them in step with commands and actions.
 ///
 /// A definition is handed over invisible, so that no control opens as a window of its own; whoever
@@ -68,6 +79,9 @@ public:
     /// event loop runs and no action is under way. A control must not die inside its own signal.
     void Remove(const std::wstring& definitionId);
 
+    /// Has an observer, which is not owned, hear of each control that is removed; null for none.
+    void SetRemovalObserver(IControlRemovalObserver* pObserver) { m_pRemovalObserver = pObserver; }
+
 private:
     /// A control and the widget that was placed for it: itself, or the panel of a group.
     struct Placed
@@ -87,6 +101,7 @@ private:
     std::vector<Placed> m_controls;
     std::vector<Placed> m_removed;
     QTimer m_destroyLater;
+    IControlRemovalObserver* m_pRemovalObserver = nullptr;
 };
 
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Dock/IPropertyWidget.h"
+#include "HostUi/ControlHost.h"
 #include "HostUi/HostUiExport.h"
 
 #include <QTimer>
@@ -17,7 +18,6 @@ class QTreeWidget;
 namespace vesk
 {
 
-class ControlHost;
 class DimensionInputController;
 class IControlDefinition;
 class IControlDefinitionChangeEventArgs;
@@ -26,17 +26,20 @@ class IControlDefinitionChangeEventArgs;
 /// change events as they happen and who made them, the running action, and the dimension input.
 ///
 /// Keeps itself in step while it can be seen. It keeps the newest 1,000 events.
-class VESK_HOST_UI_API Inspector final : public QWidget, public IWidget
+class VESK_HOST_UI_API Inspector final : public QWidget,
+                                         public IWidget,
+                                         public IControlRemovalObserver
 {
     Q_OBJECT
 
 public:
     /// Listens to the definitions that there are then, and later to new ones. The arguments are not
-    /// owned; Stop is called before they go.
-    Inspector(const ControlHost& controls, const DimensionInputController& input);
+    /// owned; Stop is called before they go. The only observer of removals.
+    Inspector(ControlHost& controls, const DimensionInputController& input);
     ~Inspector() override;
 
     void UpdateStatus() override;
+    void OnControlRemoved(const IControlDefinition& definition) override;
 
     /// Looks at nothing any more.
     void Stop();
@@ -53,7 +56,7 @@ private:
     void ShowState();
     void ShowDefinitions();
 
-    const ControlHost* m_pControls;
+    ControlHost* m_pControls;
     const DimensionInputController* m_pInput;
     QLabel* m_pState;
     QTreeWidget* m_pDefinitions;

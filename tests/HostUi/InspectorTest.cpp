@@ -1,0 +1,349 @@
+#include "HostUi/Inspector.h"
+
+#include "Command/ActionManager.h"
+#include "Control/CheckBoxGroupDefinition.h"
+#include "Control/ComboBoxDefinition.h"
+#include "Control/ControlDefinitionChangeByUser.h"
+#include "Control/LabelDefinition.h"
+#include "Control/LineEditDefinition.h"
+#include "HostUi/ControlHost.h"
+#include "HostUi/ControlLibrary.h"
+#include "HostUi/DimensionInputController.h"
+#include "Support/HostFixture.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QRegularExpression>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+#include <memory>
+
+using namespace vesk;
+
+namespace
+{
+
+constexpr int MostEvents = 1000;
+constexpr int RefreshMs = 200;
+
+/// An inspector on screen, and controls in a window beside it.
+struct Fixture
+{
+    Fixture()
+    {
+        panel.setLayout(new QVBoxLayout);
+        panel.show();
+        pEdit = Add<ILineEditDefinition>(MakeOwner<LineEditDefinition>(L"Edit"));
+        pInspector = std::make_unique<Inspector>(*pControls, input);
+        pInspector->resize(600, 300);
+        pInspector->show();
+    }
+
+    ~Fixture()
+    {
+        if (pInspector != nullptr)
+            pInspector->Stop();
+        pControls.reset();
+    }
+
+    template <class Interface, class Definition>
+    Definition* Add(OwnerPtr<Definition> opDefinition)
+    {
+        Definition* pDefinition = opDefinition.Get();
+        pDefinition->SetVisible(false);
+        panel.layout()->addWidget(pControls->Create(OwnerPtr<Interface>(std::move(opDefinition))));
+        pDefinition->SetVisible(true);
+        return pDefinition;
+    }
+
+    /// The rows, each with its cells.
+    QStringList Rows() const
+    {
+        const auto* pTree = pInspector->findChild<QTreeWidget*>("InspectorDefinitions");
+        QStringList rows;
+        for (int row = 0; row < pTree->topLevelItemCount(); ++row)
+        {
+            QStringList cells;
+            for (int column = 0; column < pTree->columnCount(); ++column)
+                cells << pTree->topLevelItem(row)->text(column);
+            rows << cells.join('|');
+        }
+        return rows;
+    }
+
+    QListWidget* EventList() const
+    {
+        return pInspector->findChild<QListWidget*>("InspectorEvents");
+    }
+
+    /// What happened, without the times.
+    QStringList Events() const
+    {
+        const int timeSize = static_cast<int>(qstrlen("HH:mm:ss.zzz  "));
+        QStringList events;
+        for (int row = 0; row < EventList()->count(); ++row)
+            events << EventList()->item(row)->text().mid(timeSize);
+        return events;
+    }
+
+    QString State() const { return pInspector->findChild<QLabel*>()->text(); }
+
+    test::HostFixture host;
+    ControlLibrary library;
+    DimensionInputController input;
+    QWidget panel;
+    std::unique_ptr<ControlHost> pControls = std::make_unique<ControlHost>();
+    LineEditDefinition* pEdit = nullptr;
+    std::unique_ptr<Inspector> pInspector;
+};
+
+}
+
+/// Definitions, their events and the running action as the inspector shows them.
+class InspectorTest final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void definitionsAreListedInTheirOrder()
+    {
+        Fixture f;
+        f.pEdit->SetText(L"abc");
+        f.Add<ILabelDefinition>(MakeOwner<LabelDefinition>(L"Label"))->SetEnabled(false);
+
+        f.pInspector->UpdateStatus();
+
+        QCOMPARE(f.Rows(), QStringList({"Edit|输入框|abc|是|是", "Label|标签||是|否"}));
+    }
+
+    void aShownInspectorKeepsItselfInStep()
+    {
+        Fixture f;
+
+        f.pEdit->SetVisible(false);
+
+        QTRY_COMPARE(f.Rows(), QStringList("Edit|输入框||否|是"));
+    }
+
+    void aHiddenInspectorRestsAndIsInStepWhenItIsShown()
+    {
+        Fixture f;
+        f.pInspector->hide();
+        f.pEdit->SetText(L"abc");
+        QTimer refreshes;
+        refreshes.start(2 * RefreshMs);
+        QVERIFY(QSignalSpy(&refreshes, &QTimer::timeout).wait());
+        QCOMPARE(f.Rows(), QStringList("Edit|输入框||是|是"));
+
+        f.pInspector->show();
+
+        QCOMPARE(f.Rows(), QStringList("Edit|输入框|abc|是|是"));
+    }
+
+    void eventsTellWhoMadeThem()
+    {
+        Fixture f;
+
+        f.pEdit->SetText(L"a");
+        {
+            const ControlDefinitionChangeByUser byUser(L"Edit");
+            f.pEdit->SetText(L"ab");
+        }
+        {
+            const ControlDefinitionChangeByUser byUser(L"Other");
+            f.pEdit->SetText(L"abc");
+        }
+
+        QCOMPARE(f.Events(),
+                 QStringList({"Edit  属性  程序", "Edit  属性  用户", "Edit  属性  程序"}));
+    }
+
+    void whatTheUserTypesIsTheUsers()
+    {
+        Fixture f;
+
+        QTest::keyClicks(f.panel.findChild<QLineEdit*>(), "a");
+
+        QVERIFY(!f.Events().isEmpty());
+        QCOMPARE(f.Events().front(), QStringLiteral("Edit  属性  用户"));
+    }
+
+    void eachTypeOfEventIsNamedWithItsIndex()
+    {
+        Fixture f;
+        auto* pBox = f.Add<IComboBoxDefinition>(MakeOwner<ComboBoxDefinition>(L"Box"));
+        f.pInspector->UpdateStatus();
+
+        pBox->AddItem(L"a");
+        pBox->InsertItem(0, L"b");
+        pBox->DeleteItem(1);
+        pBox->ClearItems();
+
+        QStringList named;
+        for (const QString& event : f.Events())
+            named << event.section("  ", 1, 1);
+        named.removeAll(QStringLiteral("属性"));
+        QCOMPARE(named, QStringList({"添加 [0]", "插入 [0]", "删除 [1]", "清空"}));
+    }
+
+    void eventsHaveTheTime()
+    {
+        Fixture f;
+
+        f.pEdit->SetText(L"a");
+
+        const QRegularExpression time("^\\d\\d:\\d\\d:\\d\\d\\.\\d{3}  Edit  ");
+        QVERIFY(time.match(f.EventList()->item(0)->text()).hasMatch());
+    }
+
+    void eventsAreHeardWhileTheInspectorIsHidden()
+    {
+        Fixture f;
+        f.pInspector->hide();
+
+        f.pEdit->SetText(L"a");
+
+        QCOMPARE(f.Events().size(), 1);
+    }
+
+    void aNewDefinitionIsHeardOf()
+    {
+        Fixture f;
+        auto* pLabel = f.Add<ILabelDefinition>(MakeOwner<LabelDefinition>(L"Label"));
+        f.pInspector->UpdateStatus();
+
+        pLabel->SetCaption(L"a");
+
+        QCOMPARE(f.Events(), QStringList("Label  属性  程序"));
+    }
+
+    void aDefinitionThatGoesIsForgotten()
+    {
+        Fixture f;
+        auto* pLabel = f.Add<ILabelDefinition>(MakeOwner<LabelDefinition>(L"Label"));
+        f.pInspector->UpdateStatus();
+        QCOMPARE(f.Rows().size(), 2);
+
+        f.pControls->Remove(L"Label");
+        f.pInspector->UpdateStatus();
+        pLabel->SetCaption(L"still there");
+
+        QCOMPARE(f.Rows(), QStringList("Edit|输入框||是|是"));
+        QCOMPARE(f.Events(), QStringList());
+        QTRY_VERIFY(f.panel.findChild<QLabel*>("Label") == nullptr);
+        f.pInspector->UpdateStatus();
+    }
+
+    /// Definitions take the memory of one another when they go and come at once.
+    void whatComesInTheStepsOfWhatWentIsHeardOf()
+    {
+        constexpr int Rounds = 30;
+        Fixture f;
+        for (int round = 0; round < Rounds; ++round)
+        {
+            auto* pLabel = f.Add<ILabelDefinition>(MakeOwner<LabelDefinition>(L"Label"));
+            f.pInspector->UpdateStatus();
+            const int before = f.Events().size();
+
+            pLabel->SetCaption(L"a");
+
+            QCOMPARE(f.Events().size(), before + 1);
+            f.pControls->Remove(L"Label");
+            QTRY_VERIFY(f.panel.findChild<QLabel*>("Label") == nullptr);
+        }
+    }
+
+    void theNewestThousandEventsAreKept()
+    {
+        Fixture f;
+
+        {
+            const ControlDefinitionChangeByUser byUser(L"Edit");
+            f.pEdit->SetText(L"a");
+        }
+        for (int i = 0; i < MostEvents - 1; ++i)
+            f.pEdit->SetEnabled(i % 2 == 1);
+        QCOMPARE(f.Events().size(), MostEvents);
+        QCOMPARE(f.Events().front(), QStringLiteral("Edit  属性  用户"));
+
+        f.pEdit->SetText(L"ab");
+
+        QCOMPARE(f.Events().size(), MostEvents);
+        QVERIFY(!f.Events().contains("Edit  属性  用户"));
+    }
+
+    void theListGoesAlongUnlessItsReaderScrolledBack()
+    {
+        Fixture f;
+        for (int i = 0; i < 200; ++i)
+            f.pEdit->SetEnabled(i % 2 == 1);
+        QScrollBar* pBar = f.EventList()->verticalScrollBar();
+        QCOMPARE(pBar->value(), pBar->maximum());
+        QVERIFY(pBar->maximum() > 0);
+
+        f.EventList()->scrollToTop();
+        f.pEdit->SetText(L"a");
+
+        QCOMPARE(pBar->value(), 0);
+    }
+
+    void afterStopNothingIsHeard()
+    {
+        Fixture f;
+
+        f.pInspector->Stop();
+        f.pEdit->SetText(L"a");
+        f.pInspector->UpdateStatus();
+        f.pInspector->hide();
+        f.pInspector->show();
+
+        QCOMPARE(f.Events(), QStringList());
+        QCOMPARE(f.Rows(), QStringList("Edit|输入框||是|是"));
+    }
+
+    void definitionsOutliveTheInspector()
+    {
+        Fixture f;
+
+        f.pInspector.reset();
+        f.pEdit->SetText(L"a");
+        f.pControls->Remove(L"Edit");
+
+        QTRY_VERIFY(f.panel.findChild<QLineEdit*>("Edit") == nullptr);
+    }
+
+    void theRunningActionIsTold()
+    {
+        Fixture f;
+        QCOMPARE(f.State(), QStringLiteral("动作：无\n尺寸输入：无"));
+
+        f.host.BeginAction();
+        f.pInspector->UpdateStatus();
+        QCOMPARE(f.State(), QStringLiteral("动作：Test.Action（test action）\n尺寸输入：无"));
+
+        ActionManager::Reset();
+        f.pInspector->UpdateStatus();
+        QCOMPARE(f.State(), QStringLiteral("动作：无\n尺寸输入：无"));
+    }
+
+    void aGroupShowsTheStatesOfItsBoxes()
+    {
+        Fixture f;
+        auto opGroup = MakeOwner<CheckBoxGroupDefinition>(L"Snap");
+        opGroup->AddCheckBox(MakeOwner<CheckBoxDefinition>(L"End", L"端点"));
+        f.Add<ICheckBoxGroupDefinition>(std::move(opGroup));
+
+        f.pInspector->UpdateStatus();
+
+        QCOMPARE(f.Rows().back(), QStringLiteral("Snap|复选组|End=0|是|是"));
+    }
+};
+
+QTEST_MAIN(InspectorTest)
+#include "InspectorTest.moc"
