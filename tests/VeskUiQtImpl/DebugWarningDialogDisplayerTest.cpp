@@ -14,6 +14,7 @@
 #include <QProcess>
 #include <QPushButton>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 #include <QTextEdit>
 #include <QTimer>
 #include <QtTest>
@@ -115,7 +116,9 @@ private slots:
     void debuggingBreaksOnce();
     void withoutADebuggerTheProcessEnds();
     void aDebuggerStopsTheProcessAndLetsItGoOn();
+    void withoutAnApplicationTheFactIsAsserted_data();
     void withoutAnApplicationTheFactIsAsserted();
+    void withoutAnApplicationTheFactIsLogged_data();
     void withoutAnApplicationTheFactIsLogged();
 };
 
@@ -311,9 +314,23 @@ void DebugWarningDialogDisplayerTest::aDebuggerStopsTheProcessAndLetsItGoOn()
              (child.output + child.errors).constData());
 }
 
+static void AddTimesWithoutApplication()
+{
+    QTest::addColumn<QString>("task");
+
+    QTest::newRow("before it exists") << "--before-application";
+    QTest::newRow("after it is gone") << "--after-application";
+}
+
+void DebugWarningDialogDisplayerTest::withoutAnApplicationTheFactIsAsserted_data()
+{
+    AddTimesWithoutApplication();
+}
+
 void DebugWarningDialogDisplayerTest::withoutAnApplicationTheFactIsAsserted()
 {
-    const Child child(QCoreApplication::applicationFilePath(), {"--before-application"});
+    QFETCH(QString, task);
+    const Child child(QCoreApplication::applicationFilePath(), {task});
 
     QVERIFY(child.hasFinished);
     QCOMPARE(child.process.exitStatus(), QProcess::NormalExit);
@@ -324,12 +341,18 @@ void DebugWarningDialogDisplayerTest::withoutAnApplicationTheFactIsAsserted()
     QCOMPARE(child.errors.count('\n'), 1);
 }
 
+void DebugWarningDialogDisplayerTest::withoutAnApplicationTheFactIsLogged_data()
+{
+    AddTimesWithoutApplication();
+}
+
 void DebugWarningDialogDisplayerTest::withoutAnApplicationTheFactIsLogged()
 {
+    QFETCH(QString, task);
     const LogFile log;
 
     const Child child(QCoreApplication::applicationFilePath(),
-                      {"--before-application", QString::fromStdString(log.GetPath())});
+                      {task, QString::fromStdString(log.GetPath())});
 
     QVERIFY(child.hasFinished);
     QCOMPARE(child.process.exitCode(), 1);
@@ -343,9 +366,9 @@ void DebugWarningDialogDisplayerTest::withoutAnApplicationTheFactIsLogged()
              QString("vesk::DebugWarningDialogDisplayer::Display"));
 }
 
-/// Shows a warning before there is any application; exits with the answer. With the path of a log
+/// Shows a warning while there is no application; exits with the answer. With the path of a log
 /// assertions are off.
-int DisplayBeforeApplication(const char* logPath)
+int DisplayWithoutApplication(const char* logPath)
 {
     if (logPath != nullptr)
     {
@@ -355,6 +378,19 @@ int DisplayBeforeApplication(const char* logPath)
     const int answer = Display() ? 1 : 0;
     DebugMessageMgr::GetDebugMessageMgr()->CloseLog();
     return answer;
+}
+
+/// The same after an application has come and gone.
+int DisplayAfterApplication(int argc, char* argv[])
+{
+    {
+        // As a session has it: without it the toolkit would make a folder and say so.
+        const QTemporaryDir runtimeFolder;
+        qputenv("XDG_RUNTIME_DIR", runtimeFolder.path().toUtf8());
+        const QApplication application(argc, argv);
+        const HostFixture host;
+    }
+    return DisplayWithoutApplication(argc > 2 ? argv[2] : nullptr);
 }
 
 /// Shows a warning, chooses to debug it and tells the answer.
@@ -373,7 +409,9 @@ int main(int argc, char* argv[])
 {
     const QByteArray task(argc > 1 ? argv[1] : "");
     if (task == "--before-application")
-        return vesk::test::DisplayBeforeApplication(argc > 2 ? argv[2] : nullptr);
+        return vesk::test::DisplayWithoutApplication(argc > 2 ? argv[2] : nullptr);
+    if (task == "--after-application")
+        return vesk::test::DisplayAfterApplication(argc, argv);
     if (task == "--debug")
         return vesk::test::DebugWarningInApplication(argc, argv);
     QApplication application(argc, argv);
