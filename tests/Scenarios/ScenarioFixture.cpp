@@ -1,13 +1,29 @@
 #include "ScenarioFixture.h"
 
-ScenarioFixture::ScenarioFixture()
+#include <QFile>
+#include <QStandardPaths>
+
+namespace
 {
+
+constexpr char ConfigFolder[] = "XDG_CONFIG_HOME";
+
+}
+
+ScenarioFixture::ScenarioFixture() : m_configBefore(qgetenv(ConfigFolder))
+{
+    // Neither the user's own layout of panes nor another test's.
+    qputenv(ConfigFolder, QFile::encodeName(File(QStringLiteral("config"))));
     vesk::DebugMessageMgr::GetDebugMessageMgr()->AddObserver(this);
 }
 
 ScenarioFixture::~ScenarioFixture()
 {
     vesk::DebugMessageMgr::GetDebugMessageMgr()->RemoveObserver(this);
+    if (m_configBefore.isNull())
+        qunsetenv(ConfigFolder);
+    else
+        qputenv(ConfigFolder, m_configBefore);
 }
 
 void ScenarioFixture::OnDebugWarning(const vesk::DebugWarning& warning)
@@ -19,6 +35,12 @@ void ScenarioFixture::OnDebugWarning(const vesk::DebugWarning& warning)
 QString ScenarioFixture::File(const QString& name) const
 {
     return m_folder.filePath(name);
+}
+
+QString ScenarioFixture::LayoutFile()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) +
+           QStringLiteral("/layout.json");
 }
 
 Options ScenarioFixture::Draw() const

@@ -7,7 +7,7 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
-/// Files of one session, and every warning that it raised.
+/// Files of one session, a configuration folder of its own, and every warning that it raised.
 class ScenarioFixture final : public vesk::IDebugWarningObserver
 {
 public:
@@ -18,6 +18,9 @@ public:
 
     /// A file in a folder that lives as long as the fixture.
     QString File(const QString& name) const;
+
+    /// Where a session keeps the layout of its panes.
+    static QString LayoutFile();
 
     /// Options that name the journal "journal", the model "model" and the log "log".
     Options Draw() const;
@@ -30,5 +33,6 @@ public:
 
 private:
     QTemporaryDir m_folder;
+    QByteArray m_configBefore;
     QStringList m_warnings;
 };

@@ -1,0 +1,188 @@
+#include "Drawing.h"
+#include "PaneDriver.h"
+#include "ScenarioFixture.h"
+#include "ScriptedUser.h"
+#include "SketcherProcess.h"
+
+#include "HostUi/LayoutFile.h"
+
+#include <nlohmann/json.hpp>
+
+#include <QDir>
+#include <QFileInfo>
+#include <QStatusBar>
+#include <QTest>
+
+#include <memory>
+
+using vesk::LayoutFile;
+
+namespace
+{
+
+const QString s_hideAll = QStringLiteral("Sketcher.HideAllPanes");
+
+/// Runs a session that starts with these panes visible, and hides one more.
+void RunOnce(const ScenarioFixture& fixture, const QString& atStart, const QString& hidden)
+{
+    ScriptedUser user;
+    user.Do([=] {
+        QCOMPARE(PaneDriver::Visible(), atStart);
+        QCOMPARE(PaneDriver::Marked(), atStart);
+        if (!hidden.isEmpty())
+            PaneDriver::Dock(hidden).Hide();
+    });
+    QCOMPARE(user.Run(fixture.Draw()), 0);
+}
+
+void Put(const QByteArray& text)
+{
+    QDir().mkpath(QFileInfo(ScenarioFixture::LayoutFile()).path());
+    WriteFile(ScenarioFixture::LayoutFile(), text);
+}
+
+/// What the window says below, once it is on screen.
+QString NoticeOf(const ScenarioFixture& fixture)
+{
+    QString notice;
+    ScriptedUser user;
+    user.Do([&notice] {
+        notice = ScriptedUser::FindWindow()->statusBar()->currentMessage();
+        QCOMPARE(PaneDriver::Visible(), QStringLiteral("1111"));
+        QCOMPARE(PaneDriver::Marked(), QStringLiteral("1111"));
+    });
+    if (user.Run(fixture.Draw()) != 0)
+        QTest::qFail("the session did not end well", __FILE__, __LINE__);
+    return notice;
+}
+
+}
+
+/// The layout of the panes from one session to the next.
+class PaneLayoutTest final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QCoreApplication::setApplicationName(QStringLiteral("sketcher")); }
+    void init() { m_pFixture = std::make_unique<ScenarioFixture>(); }
+
+    void cleanup()
+    {
+        QCOMPARE(m_pFixture->GetWarnings(), QStringList());
+        m_pFixture.reset();
+    }
+
+    void theLayoutComesBackInTheNextSession()
+    {
+        RunOnce(*m_pFixture, "1111", "Journal");
+        RunOnce(*m_pFixture, "1101", "Entities");
+        RunOnce(*m_pFixture, "1001", QString());
+    }
+
+    void aSessionThatEndsWithAllHiddenSavesWhatWasBefore()
+    {
+        ScriptedUser user;
+        user.Do([] { PaneDriver::Dock("Entities").Hide(); }).Click(s_hideAll);
+        QCOMPARE(user.Run(m_pFixture->Draw()), 0);
+
+        RunOnce(*m_pFixture, "1011", QString());
+    }
+
+    void placesAndSizesComeBack()
+    {
+        QRect before;
+        ScriptedUser user;
+        user.Do([] {
+                PaneDriver::Manager().TabifyDock(&PaneDriver::Dock("Entities"),
+                                                 &PaneDriver::Dock("Journal"));
+                ScriptedUser::FindWindow()->resizeDocks({&PaneDriver::Widget("Entities")}, {270},
+                                                        Qt::Horizontal);
+            })
+            .Do([&before] { before = PaneDriver::Widget("Journal").geometry(); });
+        QCOMPARE(user.Run(m_pFixture->Draw()), 0);
+        QVERIFY(before.isValid());
+
+        ScriptedUser next;
+        next.Do([&before] { QCOMPARE(PaneDriver::Widget("Journal").geometry(), before); });
+        QCOMPARE(next.Run(m_pFixture->Draw()), 0);
+    }
+
+    void withoutAFileTheFactoryLayoutStandsAndNothingIsSaid()
+    {
+        QVERIFY(!QFileInfo::exists(ScenarioFixture::LayoutFile()));
+
+        QCOMPARE(NoticeOf(*m_pFixture), QString());
+
+        QVERIFY(LayoutFile::Read(ScenarioFixture::LayoutFile()).content ==
+                LayoutFile::Content::Layout);
+    }
+
+    void aFileThatCannotBeUsedIsToldOfAndKept_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QString>("notice");
+
+        const QString damaged = QStringLiteral("面板布局文件已损坏，已用默认布局");
+        QTest::newRow("empty") << QByteArray() << damaged;
+        QTest::newRow("noise") << QByteArray("\0\1\2{", 4) << damaged;
+        QTest::newRow("torn") << QByteArray("{\"version\": 1, \"layout\": \"AAA") << damaged;
+        QTest::newRow("newer") << QByteArray("{\"version\": 2}")
+                               << QStringLiteral("面板布局来自更新的版本，已用默认布局");
+    }
+
+    void aFileThatCannotBeUsedIsToldOfAndKept()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(QString, notice);
+        Put(text);
+
+        QCOMPARE(NoticeOf(*m_pFixture), notice);
+
+        QCOMPARE(ReadFile(ScenarioFixture::LayoutFile() + ".kept"), text);
+        QCOMPARE(NoticeOf(*m_pFixture), QString());
+    }
+
+    void aSavedLayoutThatIsNoneOfAWindowIsToldOf()
+    {
+        QVERIFY(LayoutFile::Write(ScenarioFixture::LayoutFile(), "no state of a window"));
+
+        QCOMPARE(NoticeOf(*m_pFixture), QStringLiteral("面板布局文件已损坏，已用默认布局"));
+    }
+
+    void aReplayNeitherReadsNorWritesALayout_data()
+    {
+        QTest::addColumn<bool>("hasLayout");
+
+        QTest::newRow("with a layout") << true;
+        QTest::newRow("without one") << false;
+    }
+
+    void aReplayNeitherReadsNorWritesALayout()
+    {
+        QFETCH(bool, hasLayout);
+        RunOnce(*m_pFixture, "1111", "Journal");
+        if (!hasLayout)
+            QVERIFY(QFile::remove(ScenarioFixture::LayoutFile()));
+        const QByteArray before = ReadFile(ScenarioFixture::LayoutFile());
+        const QString tree = m_pFixture->File("tree");
+
+        const Outcome outcome =
+            RunSketcher({"--replay", m_pFixture->File("journal"), "--ui-tree", tree});
+
+        QCOMPARE(outcome.code, 0);
+        QCOMPARE(outcome.error, QString());
+        QCOMPARE(QFileInfo::exists(ScenarioFixture::LayoutFile()), hasLayout);
+        QCOMPARE(ReadFile(ScenarioFixture::LayoutFile()), before);
+        const auto docks = nlohmann::json::parse(ReadFile(tree).toStdString())["docks"];
+        QCOMPARE(docks.size(), std::size_t{4});
+        for (const nlohmann::json& dock : docks)
+            QVERIFY2(dock["visible"].get<bool>(), dock.dump().c_str());
+    }
+
+private:
+    std::unique_ptr<ScenarioFixture> m_pFixture;
+};
+
+QTEST_MAIN(PaneLayoutTest)
+#include "PaneLayoutTest.moc"
