@@ -16,8 +16,15 @@ struct ActionViewInput
     {
         LengthEntered = 1, ///< With Tab: the value is taken, the input goes on.
         AngleEntered = 2,
+        WidthEntered = 6,
+        HeightEntered = 7,
         LengthCommitted = 8, ///< With Return: the input has ended.
         AngleCommitted = 9,
+        RadiusCommitted = 10,
+        RadiusWithAngleCommitted = 11, ///< A radius shown together with its central angle.
+        CentralAngleCommitted = 12,    ///< A central angle or a rotation.
+        WidthCommitted = 13,
+        HeightCommitted = 14,
     };
 
     std::int32_t kind = 0;

@@ -1,7 +1,6 @@
 #include "Dimension/LinearTemporaryDimensionContext.h"
 
-#include "Dimension/LengthUnit.h"
-#include "Geometry/Constants.h"
+#include "Dimension/DimensionRanges.h"
 
 namespace vesk
 {
@@ -9,10 +8,8 @@ namespace vesk
 LinearTemporaryDimensionContext::LinearTemporaryDimensionContext(const Coordinate3d& coordinate,
                                                                  const Vector3d& start,
                                                                  const Vector3d& end)
-    : m_coordinate(coordinate), m_start(start), m_end(end),
-      m_firstValueRange(LengthUnit::GetCurrent().ToShown(
-          Intervald(Constants::MIN_MODEL_SIZE, Constants::MAX_MODEL_SIZE))),
-      m_secondValueRange(-360.0, 360.0)
+    : m_coordinate(coordinate), m_start(start), m_end(end), m_firstValueRange(DefaultLengthRange()),
+      m_secondValueRange(DefaultAngleRange())
 {}
 
 Intervald LinearTemporaryDimensionContext::GetFirstValueRange() const

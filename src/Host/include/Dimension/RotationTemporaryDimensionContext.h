@@ -1,0 +1,41 @@
+#pragma once
+
+#include "Dimension/ITemporaryDimensionContext.h"
+#include "Foundation/HostExport.h"
+#include "Geometry/Coordinate3d.h"
+#include "Geometry/Vector3d.h"
+
+namespace vesk
+{
+
+/// A turn about a centre, from the direction of one point to that of another, which is the
+/// cursor's; counter-clockwise when positive.
+///
+/// Angles from -360 to 360 degrees may be typed, unless the range is set otherwise.
+class VESK_HOST_API RotationTemporaryDimensionContext final : public ITemporaryDimensionContext
+{
+public:
+    RotationTemporaryDimensionContext(const Coordinate3d& coordinate, const Vector3d& centre,
+                                      const Vector3d& from, const Vector3d& to);
+
+    /// Not used: the angle is all that can be typed.
+    Intervald GetFirstValueRange() const override;
+    Intervald GetSecondValueRange() const override { return m_angleRange; }
+
+    const Coordinate3d& GetCoordinate() const { return m_coordinate; }
+    const Vector3d& GetCentre() const { return m_centre; }
+    const Vector3d& GetFromPoint() const { return m_from; }
+    const Vector3d& GetToPoint() const { return m_to; }
+
+    /// Sets the range of the angle, in degrees.
+    void SetSecondValueRange(const Intervald& range) { m_angleRange = range; }
+
+private:
+    Coordinate3d m_coordinate;
+    Vector3d m_centre;
+    Vector3d m_from;
+    Vector3d m_to;
+    Intervald m_angleRange;
+};
+
+}
