@@ -4,7 +4,7 @@
 #include "Dimension/ITemporaryDimensionHandler.h"
 #include "Dimension/TemporaryDimensionMgr.h"
 
-#include <cmath>
+#include <algorithm>
 #include <utility>
 
 namespace vesk
@@ -21,14 +21,30 @@ GraphicsRole RoleOf(InputState field, InputState state)
     return isLocked ? GraphicsRole::LockedDimension : GraphicsRole::Dimension;
 }
 
+/// Beyond every model and every view, and yet so near to one that products of some stay finite.
+constexpr double s_mostCoordinate = 1e30;
+constexpr double s_leastPixel = 1e-15;
+constexpr double s_mostPixel = 1e15;
+
+bool IsPixel(double width)
+{
+    return width >= s_leastPixel && width <= s_mostPixel;
+}
+
 }
 
 DimensionDrawing::DimensionDrawing(const Vector3d& origin, const Coordinate3d& coordinate,
                                    double pixel, InputState field, InputState state)
-    : m_origin(origin), m_coordinate(coordinate),
-      m_pixel(pixel > 0.0 && std::isfinite(pixel) ? pixel : 1.0), m_role(RoleOf(field, state)),
-      m_opGroup(IGraphicsNodeGroup::Create())
+    : m_origin(origin), m_coordinate(coordinate), m_pixel(IsPixel(pixel) ? pixel : 1.0),
+      m_role(RoleOf(field, state)), m_opGroup(IGraphicsNodeGroup::Create())
 {}
+
+bool DimensionDrawing::AreDrawable(std::initializer_list<Vector3d> points)
+{
+    return std::all_of(points.begin(), points.end(), [](const Vector3d& point) {
+        return (point.array().abs() <= s_mostCoordinate).all();
+    });
+}
 
 PlaneVector DimensionDrawing::ToPlane(const Vector3d& world) const
 {
@@ -46,10 +62,12 @@ void DimensionDrawing::AddLine(const PlaneVector& start, const PlaneVector& end)
     m_opGroup->AddChild(IGraphicsLine::Create(ToWorld(start), ToWorld(end), m_role));
 }
 
-void DimensionDrawing::AddArc(double radius, double sweep)
+void DimensionDrawing::AddArc(const PlaneVector& from, double radius, double sweep)
 {
-    m_opGroup->AddChild(IGraphicsArc::Create(m_origin, m_coordinate.GetX(), m_coordinate.GetY(),
-                                             radius * m_pixel, sweep, m_role));
+    const Vector3d xAxis = from.x() * m_coordinate.GetX() + from.y() * m_coordinate.GetY();
+    const Vector3d yAxis = from.x() * m_coordinate.GetY() - from.y() * m_coordinate.GetX();
+    m_opGroup->AddChild(
+        IGraphicsArc::Create(m_origin, xAxis, yAxis, radius * m_pixel, sweep, m_role));
 }
 
 void DimensionDrawing::AddArrow(const PlaneVector& tip, const PlaneVector& direction, double size)

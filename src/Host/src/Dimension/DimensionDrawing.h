@@ -1,34 +1,29 @@
 #pragma once
 
 #include "Dimension/InputState.h"
+#include "Dimension/PlaneVector.h"
 #include "Foundation/OwnerPtr.h"
 #include "Geometry/Coordinate3d.h"
 #include "Geometry/Vector3d.h"
 #include "Graphics/IGraphicsNode.h"
 
-#include <Eigen/Core>
-
+#include <initializer_list>
 #include <string>
 
 namespace vesk
 {
 
-/// A point or direction of the drawing plane, in pixels along its x and y axes.
-using PlaneVector = Eigen::Vector2d;
-
-/// The direction turned by a quarter counter-clockwise.
-inline PlaneVector TurnLeft(const PlaneVector& direction)
-{
-    return {-direction.y(), direction.x()};
-}
-
 /// Draws one provisional dimension in the plane of a coordinate system, seen from a point of it.
 class DimensionDrawing
 {
 public:
-    /// `pixel` is the world width of one pixel. The role comes from the field's state.
+    /// `pixel` is the world width of one pixel; what is none counts as 1. The role comes from the
+    /// field's state.
     DimensionDrawing(const Vector3d& origin, const Coordinate3d& coordinate, double pixel,
                      InputState field, InputState state);
+
+    /// Whether all are points that some model could hold: numbers with which can be calculated.
+    static bool AreDrawable(std::initializer_list<Vector3d> points);
 
     /// World point to the plane, and back.
     PlaneVector ToPlane(const Vector3d& world) const;
@@ -36,8 +31,8 @@ public:
 
     void AddLine(const PlaneVector& start, const PlaneVector& end);
 
-    /// Adds an arc about the origin, from the x axis by `sweep` radians.
-    void AddArc(double radius, double sweep);
+    /// Adds an arc about the origin, from a unit vector by `sweep` radians.
+    void AddArc(const PlaneVector& from, double radius, double sweep);
 
     /// Adds an arrow head that points along a unit vector.
     void AddArrow(const PlaneVector& tip, const PlaneVector& direction, double size);

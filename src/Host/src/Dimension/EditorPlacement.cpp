@@ -22,6 +22,15 @@ constexpr double s_viewMargin = 3.0;
 constexpr double s_cursorMargin = 10.0;
 constexpr double s_textMargin = 4.0;
 
+/// And between it and the lines of its dimension.
+constexpr double s_lineMargin = 12.0;
+
+/// What touches an obstacle is off it, wherever a rounded edge of the obstacle lies.
+constexpr double s_touch = 1e-6;
+
+/// A plane seen more nearly from its edge, as the part of a length across it that is still seen.
+constexpr double s_edgeOn = 0.1;
+
 const IModelView* FindModelView()
 {
     const IUiDocumentViewManager* pManager = IUiDocumentViewManager::Get();
@@ -68,6 +77,22 @@ bool EditorPlacement::Fits(const Vector3d& position) const
     return m_pModelView == nullptr || IsFree(ToPixel(position), m_obstacles);
 }
 
+double EditorPlacement::GetClearance(const PlaneVector& normal) const
+{
+    Pixel across = normal;
+    double seen = 1.0;
+    if (m_pModelView != nullptr)
+    {
+        const Eigen::Matrix2d pixelsPerStep = GetPixelsPerStep(m_origin);
+        const Pixel side = TurnLeft(pixelsPerStep * TurnLeft(normal)).normalized();
+        const double part = std::abs(side.dot(pixelsPerStep * normal));
+        const bool isEdgeOn = !(part > s_edgeOn);
+        across = isEdgeOn ? across : side;
+        seen = isEdgeOn ? seen : part;
+    }
+    return (m_editorReach.dot(across.cwiseAbs()) + s_lineMargin) / seen;
+}
+
 Vector3d EditorPlacement::GetVisibleMiddle(const Vector3d& start, const Vector3d& end) const
 {
     double from = 0.0;
@@ -99,7 +124,7 @@ Vector3d EditorPlacement::Choose(const std::vector<Vector3d>& places) const
 
 bool EditorPlacement::Obstacle::Holds(const Pixel& pixel) const
 {
-    return ((pixel - centre).cwiseAbs().array() < reach.array()).all();
+    return ((pixel - centre).cwiseAbs().array() < reach.array() - s_touch).all();
 }
 
 EditorPlacement::Pixel EditorPlacement::ToPixel(const Vector3d& world) const
@@ -114,19 +139,28 @@ EditorPlacement::Pixel EditorPlacement::ToPixel(const Vector3d& world) const
 Vector3d EditorPlacement::ToWorld(const Pixel& pixel) const
 {
     const Vector3d& normal = m_coordinate.GetZ();
-    const double step = m_pModelView->GetWorldPerPixel();
     Vector3d world = m_pModelView->ScreenToWorld(pixel.x(), pixel.y());
     world += (m_origin - world).dot(normal) * normal;
 
-    Eigen::Matrix2d pixelsPerStep;
-    const Pixel at = ToPixel(world);
-    pixelsPerStep.col(0) = ToPixel(world + step * m_coordinate.GetX()) - at;
-    pixelsPerStep.col(1) = ToPixel(world + step * m_coordinate.GetY()) - at;
+    const Eigen::Matrix2d pixelsPerStep = GetPixelsPerStep(world);
     constexpr double EdgeOn = 1e-3;
     if (!(std::abs(pixelsPerStep.determinant()) > EdgeOn))
         return world;
-    const Pixel steps = pixelsPerStep.inverse() * (pixel - at);
+    const double step = m_pModelView->GetWorldPerPixel();
+    const Pixel steps = pixelsPerStep.inverse() * (pixel - ToPixel(world));
     return world + step * (steps.x() * m_coordinate.GetX() + steps.y() * m_coordinate.GetY());
+}
+
+/// What one pixel's step along the plane's x axis and along its y axis moves on the view.
+Eigen::Matrix2d EditorPlacement::GetPixelsPerStep(const Vector3d& at) const
+{
+    // A longer step: far from the origin the coordinates of a short one are rounded away.
+    constexpr double Steps = 128.0;
+    const double span = Steps * m_pModelView->GetWorldPerPixel();
+    Eigen::Matrix2d pixels;
+    pixels.col(0) = ToPixel(at + span * m_coordinate.GetX()) - ToPixel(at);
+    pixels.col(1) = ToPixel(at + span * m_coordinate.GetY()) - ToPixel(at);
+    return pixels / Steps;
 }
 
 bool EditorPlacement::IsInside(const Pixel& pixel) const

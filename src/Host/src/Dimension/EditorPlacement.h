@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Dimension/PlaneVector.h"
 #include "Geometry/Coordinate3d.h"
 #include "Geometry/Vector3d.h"
 
@@ -29,6 +30,10 @@ public:
     /// True when an editor at `position` is inside the view and off everything.
     bool Fits(const Vector3d& position) const;
 
+    /// How far an editor's centre must be from a line of the plane so that it does not touch it, in
+    /// pixels along `normal`, a unit vector at right angles to the line.
+    double GetClearance(const PlaneVector& normal) const;
+
     /// The middle of the segment's visible part; of the whole segment when the view shows none.
     Vector3d GetVisibleMiddle(const Vector3d& start, const Vector3d& end) const;
 
@@ -50,6 +55,7 @@ private:
 
     Pixel ToPixel(const Vector3d& world) const;
     Vector3d ToWorld(const Pixel& pixel) const;
+    Eigen::Matrix2d GetPixelsPerStep(const Vector3d& at) const;
     bool IsInside(const Pixel& pixel) const;
     bool IsFree(const Pixel& pixel, const std::vector<Obstacle>& obstacles) const;
     Pixel Clamp(const Pixel& pixel) const;

@@ -1,0 +1,77 @@
+#include "Dimension/StraightDimension.h"
+
+#include "Dimension/DimensionDrawing.h"
+#include "Dimension/EditorPlacement.h"
+
+#include <algorithm>
+
+namespace vesk
+{
+
+namespace
+{
+
+// In pixels.
+constexpr double s_arrowSize = 8.0;
+constexpr double s_leastOffset = 28.0;
+constexpr double s_extensionGap = 4.0;
+constexpr double s_extensionOvershoot = 6.0;
+
+/// The arrows take no more than this part of a short dimension line each.
+constexpr double s_arrowPart = 1.0 / 3;
+
+double GetOffset(const MeasuredSide& side, const EditorPlacement& placement)
+{
+    return std::max(s_leastOffset, placement.GetClearance(side.outwards));
+}
+
+/// The middle of the dimension line, and of that part of it beside which the view shows the side.
+std::vector<Vector3d> GetPlaces(const MeasuredSide& side, const EditorPlacement& placement,
+                                const DimensionDrawing& drawing)
+{
+    const PlaneVector offset = GetOffset(side, placement) * side.outwards;
+    const PlaneVector middle = (side.start + side.end) / 2;
+    const Vector3d visibleMiddle =
+        placement.GetVisibleMiddle(drawing.ToWorld(side.start), drawing.ToWorld(side.end));
+    return {drawing.ToWorld(middle + offset),
+            drawing.ToWorld(drawing.ToPlane(visibleMiddle) + offset)};
+}
+
+void Draw(const MeasuredSide& side, double offset, DimensionDrawing& drawing)
+{
+    const double length = (side.end - side.start).norm();
+    if (!(length > 0.0))
+        return;
+    const PlaneVector near = s_extensionGap * side.outwards;
+    const PlaneVector far = (offset + s_extensionOvershoot) * side.outwards;
+    drawing.AddLine(side.start + near, side.start + far);
+    drawing.AddLine(side.end + near, side.end + far);
+
+    const PlaneVector start = side.start + offset * side.outwards;
+    const PlaneVector end = side.end + offset * side.outwards;
+    drawing.AddLine(start, end);
+
+    const PlaneVector direction = (side.end - side.start) / length;
+    const double arrowSize = std::min(s_arrowSize, s_arrowPart * length);
+    drawing.AddArrow(start, -direction, arrowSize);
+    drawing.AddArrow(end, direction, arrowSize);
+}
+
+}
+
+std::vector<Vector3d> DrawStraightDimension(const std::vector<MeasuredSide>& sides,
+                                            const EditorPlacement& placement,
+                                            DimensionDrawing& drawing)
+{
+    const auto hasRoom = [&](const MeasuredSide& side) {
+        const std::vector<Vector3d> places = GetPlaces(side, placement, drawing);
+        return std::any_of(places.begin(), places.end(),
+                           [&](const Vector3d& place) { return placement.Fits(place); });
+    };
+    const auto found = std::find_if(sides.begin(), sides.end(), hasRoom);
+    const MeasuredSide& side = found != sides.end() ? *found : sides.front();
+    Draw(side, GetOffset(side, placement), drawing);
+    return GetPlaces(side, placement, drawing);
+}
+
+}
