@@ -1,0 +1,56 @@
+#include "Dimension/RadiusDimension.h"
+
+#include "Dimension/DimensionDrawing.h"
+#include "Dimension/EditorPlacement.h"
+
+#include <algorithm>
+
+namespace vesk
+{
+
+namespace
+{
+
+// In pixels.
+constexpr double s_arrowSize = 8.0;
+constexpr double s_shortLength = 24.0;
+
+/// The part of a short radius that its arrow may take.
+constexpr double s_arrowPart = 1.0 / 3;
+
+/// From the centre; without a radius the x axis.
+PlaneVector DirectionOf(const RadiusLeader& leader)
+{
+    const PlaneVector along = leader.tip - leader.centre;
+    const double length = along.norm();
+    return length > 0.0 ? PlaneVector(along / length) : PlaneVector::UnitX();
+}
+
+}
+
+void DrawRadiusLeader(const RadiusLeader& leader, DimensionDrawing& drawing)
+{
+    const double radius = (leader.tip - leader.centre).norm();
+    if (!(radius > 0.0))
+        return;
+    const PlaneVector direction = DirectionOf(leader);
+    const double length = std::min(s_shortLength, radius);
+    const PlaneVector start =
+        leader.isWhole ? leader.centre : PlaneVector(leader.tip - length * direction);
+    drawing.AddLine(start, leader.tip);
+    drawing.AddArrow(leader.tip, direction, std::min(s_arrowSize, s_arrowPart * radius));
+}
+
+std::vector<Vector3d> GetRadiusPlaces(const RadiusLeader& leader, const EditorPlacement& placement,
+                                      const DimensionDrawing& drawing)
+{
+    const PlaneVector normal = leader.textSide * TurnLeft(DirectionOf(leader));
+    const PlaneVector offset = placement.GetClearance(normal) * normal;
+    const PlaneVector middle = (leader.centre + leader.tip) / 2;
+    const PlaneVector visibleMiddle = drawing.ToPlane(
+        placement.GetVisibleMiddle(drawing.ToWorld(leader.centre), drawing.ToWorld(leader.tip)));
+    return {drawing.ToWorld(middle + offset), drawing.ToWorld(visibleMiddle + offset),
+            drawing.ToWorld(middle - offset), drawing.ToWorld(visibleMiddle - offset)};
+}
+
+}
