@@ -93,6 +93,16 @@ double EditorPlacement::GetClearance(const PlaneVector& normal) const
     return (m_editorReach.dot(across.cwiseAbs()) + s_lineMargin) / seen;
 }
 
+double EditorPlacement::GetCover(const PlaneVector& direction) const
+{
+    Pixel along = direction;
+    if (m_pModelView != nullptr)
+        along = GetPixelsPerStep(m_origin) * direction;
+    // A component of zero covers without end that way; the least counts.
+    const Eigen::Array2d steps = m_editorReach.array() / along.array().abs().max(s_edgeOn / 100);
+    return 2 * steps.minCoeff();
+}
+
 Vector3d EditorPlacement::GetVisibleMiddle(const Vector3d& start, const Vector3d& end) const
 {
     double from = 0.0;

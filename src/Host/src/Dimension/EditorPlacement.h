@@ -34,6 +34,10 @@ public:
     /// pixels along `normal`, a unit vector at right angles to the line.
     double GetClearance(const PlaneVector& normal) const;
 
+    /// How much of a line of the plane an editor covers that stands on it, in pixels along
+    /// `direction`, a unit vector.
+    double GetCover(const PlaneVector& direction) const;
+
     /// The middle of the segment's visible part; of the whole segment when the view shows none.
     Vector3d GetVisibleMiddle(const Vector3d& start, const Vector3d& end) const;
 

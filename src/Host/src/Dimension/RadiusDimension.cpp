@@ -44,13 +44,16 @@ void DrawRadiusLeader(const RadiusLeader& leader, DimensionDrawing& drawing)
 std::vector<Vector3d> GetRadiusPlaces(const RadiusLeader& leader, const EditorPlacement& placement,
                                       const DimensionDrawing& drawing)
 {
-    const PlaneVector normal = leader.textSide * TurnLeft(DirectionOf(leader));
+    const PlaneVector direction = DirectionOf(leader);
+    const PlaneVector normal = leader.textSide * TurnLeft(direction);
     const PlaneVector offset = placement.GetClearance(normal) * normal;
     const PlaneVector middle = (leader.centre + leader.tip) / 2;
     const PlaneVector visibleMiddle = drawing.ToPlane(
         placement.GetVisibleMiddle(drawing.ToWorld(leader.centre), drawing.ToWorld(leader.tip)));
+    const PlaneVector behind = leader.centre - placement.GetClearance(direction) * direction;
     return {drawing.ToWorld(middle + offset), drawing.ToWorld(visibleMiddle + offset),
-            drawing.ToWorld(middle - offset), drawing.ToWorld(visibleMiddle - offset)};
+            drawing.ToWorld(middle - offset), drawing.ToWorld(visibleMiddle - offset),
+            drawing.ToWorld(behind)};
 }
 
 }

@@ -20,16 +20,30 @@ constexpr double s_extensionOvershoot = 6.0;
 /// The arrows take no more than this part of a short dimension line each.
 constexpr double s_arrowPart = 1.0 / 3;
 
-double GetOffset(const MeasuredSide& side, const EditorPlacement& placement)
+/// How far the dimension line and the text are from the side.
+struct Offsets
 {
-    return std::max(s_leastOffset, placement.GetClearance(side.outwards));
+    double line;
+    double text;
+};
+
+/// The text stands on its line; outside it where it would hide the whole of it.
+Offsets GetOffsets(const MeasuredSide& side, const EditorPlacement& placement)
+{
+    const double clearance = placement.GetClearance(side.outwards);
+    const bool isHidden =
+        (side.end - side.start).norm() < placement.GetCover(TurnLeft(side.outwards));
+    if (isHidden)
+        return {s_leastOffset, s_leastOffset + clearance};
+    const double offset = std::max(s_leastOffset, clearance);
+    return {offset, offset};
 }
 
-/// The middle of the dimension line, and of that part of it beside which the view shows the side.
+/// At the middle of the side, and of that part of it which the view shows.
 std::vector<Vector3d> GetPlaces(const MeasuredSide& side, const EditorPlacement& placement,
                                 const DimensionDrawing& drawing)
 {
-    const PlaneVector offset = GetOffset(side, placement) * side.outwards;
+    const PlaneVector offset = GetOffsets(side, placement).text * side.outwards;
     const PlaneVector middle = (side.start + side.end) / 2;
     const Vector3d visibleMiddle =
         placement.GetVisibleMiddle(drawing.ToWorld(side.start), drawing.ToWorld(side.end));
@@ -70,7 +84,7 @@ std::vector<Vector3d> DrawStraightDimension(const std::vector<MeasuredSide>& sid
     };
     const auto found = std::find_if(sides.begin(), sides.end(), hasRoom);
     const MeasuredSide& side = found != sides.end() ? *found : sides.front();
-    Draw(side, GetOffset(side, placement), drawing);
+    Draw(side, GetOffsets(side, placement).line, drawing);
     return GetPlaces(side, placement, drawing);
 }
 
