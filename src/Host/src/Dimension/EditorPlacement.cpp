@@ -98,9 +98,7 @@ double EditorPlacement::GetCover(const PlaneVector& direction) const
     Pixel along = direction;
     if (m_pModelView != nullptr)
         along = GetPixelsPerStep(m_origin) * direction;
-    // A component of zero covers without end that way; the least counts.
-    const Eigen::Array2d steps = m_editorReach.array() / along.array().abs().max(s_edgeOn / 100);
-    return 2 * steps.minCoeff();
+    return 2 * (m_editorReach.array() / along.array().abs()).minCoeff();
 }
 
 Vector3d EditorPlacement::GetVisibleMiddle(const Vector3d& start, const Vector3d& end) const

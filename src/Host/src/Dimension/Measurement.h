@@ -24,11 +24,12 @@ double MeasureAlong(const Vector3d& axis, const Vector3d& start, const Vector3d&
 /// The distance in the plane.
 double MeasureRadius(const Coordinate3d& coordinate, const Vector3d& centre, const Vector3d& point);
 
-/// The direction of a segment: from the x axis, above -180 up to 180; 0 for a point.
+/// The direction of a segment: from the x axis, above -180 up to 180; 0 for points up
+/// to DOUBLE_EPS apart.
 double MeasureDirection(const Coordinate3d& coordinate, const Vector3d& start, const Vector3d& end);
 
 /// The angle by which the direction of `from` turns to that of `to`, above -180 up to 180; 0 where
-/// one of them is the centre.
+/// one of them is the centre or up to DOUBLE_EPS from it.
 double MeasureTurn(const Coordinate3d& coordinate, const Vector3d& centre, const Vector3d& from,
                    const Vector3d& to);
 
