@@ -3,6 +3,7 @@
 #include "Graphics/IGraphicsNode.h"
 
 #include <algorithm>
+#include <cmath>
 #include <vector>
 
 namespace vesk
@@ -27,12 +28,44 @@ public:
         });
     }
 
+    /// An arc about a centre, from one direction by some radians.
+    bool HasArc(const Vector3d& centre, double radius, const Vector3d& from, double sweep) const
+    {
+        constexpr double Tolerance = 1e-6;
+        return std::any_of(arcs.begin(), arcs.end(), [&](const IGraphicsArc* pArc) {
+            return (pArc->GetCentre() - centre).norm() < Tolerance &&
+                   std::abs(pArc->GetRadius() - radius) < Tolerance &&
+                   (pArc->GetXAxis() - from).norm() < Tolerance &&
+                   std::abs(pArc->GetSweep() - sweep) < Tolerance;
+        });
+    }
+
     bool AreAll(GraphicsRole role) const
     {
         const auto has = [role](const auto* pNode) { return pNode->GetRole() == role; };
         return std::all_of(lines.begin(), lines.end(), has) &&
                std::all_of(arcs.begin(), arcs.end(), has) &&
                std::all_of(texts.begin(), texts.end(), has);
+    }
+
+    /// Every coordinate and every measure is a finite number.
+    bool AreNumbers() const
+    {
+        return std::all_of(lines.begin(), lines.end(),
+                           [](const IGraphicsLine* pLine) {
+                               return pLine->GetStart().allFinite() && pLine->GetEnd().allFinite();
+                           }) &&
+               std::all_of(arcs.begin(), arcs.end(),
+                           [](const IGraphicsArc* pArc) {
+                               return pArc->GetCentre().allFinite() &&
+                                      pArc->GetXAxis().allFinite() &&
+                                      pArc->GetYAxis().allFinite() &&
+                                      std::isfinite(pArc->GetRadius()) &&
+                                      std::isfinite(pArc->GetSweep());
+                           }) &&
+               std::all_of(texts.begin(), texts.end(), [](const IGraphicsText* pText) {
+                   return pText->GetPosition().allFinite();
+               });
     }
 
     std::vector<const IGraphicsLine*> lines;
