@@ -95,12 +95,13 @@ public:
             2 * std::min(48 / std::abs(outwards.imag()), 13 / std::abs(outwards.real()));
         const Wide clearance = 48 * std::abs(outwards.real()) + 13 * std::abs(outwards.imag()) + 12;
         const Wide offset = length < covered ? 28 : std::max(Wide(28), clearance);
-        const Complex near = start + 4 * m_pixel * outwards;
+        const Complex gap = start + 4 * m_pixel * outwards;
         const Complex line = start + offset * m_pixel * outwards;
-        const Complex far = start + (offset + 6) * m_pixel * outwards;
+        const Complex reach = start + (offset + 6) * m_pixel * outwards;
         const Wide arrow = std::min(Wide(8), length / 3) * m_pixel;
         const Complex direction = along / std::abs(along);
-        return HasLines(group, {{near, far}, {near + along, far + along}, {line, line + along}}) &&
+        return HasLines(group,
+                        {{gap, reach}, {gap + along, reach + along}, {line, line + along}}) &&
                HasArrow(group, line, -direction, arrow) &&
                HasArrow(group, line + along, direction, arrow) &&
                DrawnNodes(group).lines.size() == 7;

@@ -56,10 +56,10 @@ void Draw(const MeasuredSide& side, double offset, DimensionDrawing& drawing)
     const double length = (side.end - side.start).norm();
     if (!(length > 0.0))
         return;
-    const PlaneVector near = s_extensionGap * side.outwards;
-    const PlaneVector far = (offset + s_extensionOvershoot) * side.outwards;
-    drawing.AddLine(side.start + near, side.start + far);
-    drawing.AddLine(side.end + near, side.end + far);
+    const PlaneVector gap = s_extensionGap * side.outwards;
+    const PlaneVector reach = (offset + s_extensionOvershoot) * side.outwards;
+    drawing.AddLine(side.start + gap, side.start + reach);
+    drawing.AddLine(side.end + gap, side.end + reach);
 
     const PlaneVector start = side.start + offset * side.outwards;
     const PlaneVector end = side.end + offset * side.outwards;
