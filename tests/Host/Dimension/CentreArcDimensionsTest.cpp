@@ -78,6 +78,7 @@ private slots:
     void anAngleOfZeroHasNoArc();
     void aCircleOfNoRadiusHasItsTextsOnly();
     void anEndAtTheCentreHasNoAngle();
+    void anEndHardlyOffTheCentreHasNoAngle();
     void theTextsAreTheValues();
     void theTextIsLeftOutWhileItIsTyped();
     void aLockedAngleShowsIt();
@@ -117,9 +118,10 @@ void CentreArcDimensionsTest::theAngleRunsFromMinus180Above180()
 void CentreArcDimensionsTest::anAngleIsNoNegativeZero()
 {
     Fixture f;
+    f.coordinate = Coordinate3d({0, 0, 0}, Vector3d::UnitZ(), -Vector3d::UnitY());
     f.centre = {0, 0, 0};
-    f.start = {-200, 0, 0};
-    f.end = {-300, -0.0, 0};
+    f.start = {0, -0.0, 200};
+    f.end = {-0.0, 0, 300};
 
     f.MakeAngle();
 
@@ -305,6 +307,17 @@ void CentreArcDimensionsTest::anEndAtTheCentreHasNoAngle()
     QVERIFY(DrawnNodes(*opAngle).arcs.empty());
     QCOMPARE(DrawnNodes(*opAngle).lines.size(), std::size_t(1));
     QVERIFY(DrawnNodes(*opAngle).HasLine(f.centre, f.start));
+}
+
+void CentreArcDimensionsTest::anEndHardlyOffTheCentreHasNoAngle()
+{
+    Fixture f;
+    f.centre = {0, 0, 0};
+    f.end = {0, 1e-10, 0};
+
+    f.MakeAngle();
+
+    QVERIFY(f.GetAngle() == 0.0);
 }
 
 void CentreArcDimensionsTest::theTextsAreTheValues()
