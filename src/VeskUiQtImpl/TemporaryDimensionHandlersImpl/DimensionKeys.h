@@ -21,12 +21,17 @@ constexpr int Minus = 189;
 
 }
 
-/// Which keys, besides the digits, open a kind's editor with themselves as its text.
-struct OpeningKeys
+/// Which keys open a kind's editor; each set holds the one before.
+enum class OpeningKeys
 {
-    bool hasLetters;
-    bool hasMinus;
+    Digits,
+    DigitsAndMinus,
+    AllCharacters, ///< Letters, and the comma that leads to the second field.
 };
+
+bool HasMinus(OpeningKeys keys);
+bool HasLetters(OpeningKeys keys);
+bool HasComma(OpeningKeys keys);
 
 bool IsDigitKey(int key);
 bool IsKeypadDigitKey(int key);
@@ -39,7 +44,13 @@ bool IsMinusKey(int key);
 bool IsCommaKey(int key);
 
 /// The text with which a key opens the editor; none when it does not open it.
-std::optional<QString> OpeningText(const QKeyEvent& event, const OpeningKeys& keys);
+std::optional<QString> OpeningText(const QKeyEvent& event, OpeningKeys keys);
+
+/// Whether a key that came in the view is one for the handler.
+bool IsTakenFromView(int virtualKey, OpeningKeys keys);
+
+/// The text of a key that came in the view, letters in lower case; empty for the comma.
+QString TextOf(int virtualKey);
 
 /// The Qt modifiers for the host's three flags.
 Qt::KeyboardModifiers ToQtModifiers(bool isCtrl, bool isAlt, bool isShift);

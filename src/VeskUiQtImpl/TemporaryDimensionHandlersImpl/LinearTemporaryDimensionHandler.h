@@ -28,8 +28,7 @@ public slots:
     void OnEditorTabPressed();
 
 private:
-    bool IsBothEnabled() const { return m_isLengthEnabled && m_isAngleEnabled; }
-    InputState GetStartState() const;
+    DimensionKind GetKind() const;
 
     bool m_isLengthEnabled = false;
     bool m_isAngleEnabled = false;

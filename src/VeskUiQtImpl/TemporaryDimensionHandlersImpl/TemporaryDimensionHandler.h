@@ -6,7 +6,7 @@
 #include "Dimension/TemporaryDimensionData.h"
 #include "Dimension/TemporaryDimensionStyle.h"
 #include "Platform/InputMethodSwitch.h"
-#include "TemporaryDimensionHandlersImpl/DimensionField.h"
+#include "TemporaryDimensionHandlersImpl/DimensionKind.h"
 #include "TemporaryDimensionHandlersImpl/TemporaryDimensionHandleEditor.h"
 #include "Validation/NumberValidator.h"
 
@@ -74,66 +74,48 @@ public:
     void EnableIme();
 
 protected:
-    /// What stood in the editor when its value was taken.
-    struct EditorValue
+    /// What a kind draws into.
+    struct Drawing
     {
-        ActionViewInput record;
-        bool isNumber;
+        OwnerPtr<IGraphicsNodeGroup> opGroup;
+        std::optional<double> pixel; ///< World width of a pixel; empty when nothing can be drawn.
     };
 
     /// How a kind answers the keys of its editor.
     struct EditorRules
     {
-        const char* function; ///< Who warns.
-        bool commitsWithSpace;
-        bool handsEscapeOn;          ///< To the view, after the input has ended.
-        std::function<void()> onTab; ///< Empty: Tab is the editor's own.
+        DimensionKind kind;
+        const char* function;        ///< Who warns.
+        std::function<void()> onTab; ///< Left out by kinds that do not switch.
     };
 
-    /// The view the handler works in; null when it is gone.
-    IUiView* FindView() const;
+    /// An empty group that no view picks.
+    static OwnerPtr<IGraphicsNodeGroup> CreateGroup();
 
-    /// The view when it can be drawn in; else null, with a warning in the name of `function`.
-    IUiView* FindDrawableView(const char* function) const;
+    /// Makes what a kind draws into. In the name of `function` it warns when there is no context
+    /// (then there is no group either), when it is another kind's (`wrongContext`), and when the
+    /// view cannot be drawn in.
+    Drawing BeginDrawing(const ITemporaryDimensionContext* pContext, bool isOwnContext,
+                         const char* function, const wchar_t* wrongContext) const;
 
-    /// Enters a state; without `editorReady` the editor is fetched. False, and no input runs, when
-    /// there is no editor.
-    bool BeginInput(InputState state, bool editorReady);
+    /// Opens the editor on a field of the kind. Any other state is warned of.
+    void ShowField(const DimensionKind& kind, const char* function, const FieldRequest& request);
 
-    /// The current value of a field, as its dimension shows it.
-    QString FormatValue(const DimensionField& field) const;
+    /// Has an event open the editor if it is a key of the kind. The rest is a plain object's: a
+    /// widget would call every key press consumed.
+    bool HandleEvent(QEvent* pEvent, const DimensionKind& kind, const char* function);
 
-    /// Shows the editor with a text at its field.
-    void ShowEditor(const QString& text, bool isSelected);
-
-    /// Has the host make the dimensions of the handler's view anew.
-    void RefreshView();
-
-    /// Hands a key over as a key press, and tells whether it was consumed.
-    bool SendKey(int virtualKey, Qt::KeyboardModifiers modifiers, const QString& text);
-
-    /// A key that opens nothing: the host refreshes, the rest is a plain object's.
-    bool PassKeyOn(QEvent* pEvent);
-
-    /// Handles an event as any object does: a widget would call every key press consumed.
-    bool HandleAsPlainObject(QEvent* pEvent);
+    /// Sends a key of the view to `event` as a key press if the kind takes it.
+    bool SendViewKey(const DimensionKind& kind, int virtualKey, Qt::KeyboardModifiers modifiers);
 
     bool FilterEditorEvent(QObject* pWatched, QEvent* pEvent, const EditorRules& rules);
 
-    /// True when there is an input whose value can be taken.
-    bool HasEditorValue() const;
+    /// Takes the typed value: the input ends and the value is delivered. One that is refused stays
+    /// in the editor, selected.
+    void CommitValue(const DimensionKind& kind, const char* function);
 
-    /// Reads the editor. In raw-text mode the live validation ends with it.
-    EditorValue TakeEditorValue();
-
-    /// Judges a value. One that is refused stays in the editor, selected.
-    bool IsAccepted(const EditorValue& value, const DimensionField& field);
-
-    /// Ends the input and delivers the record.
-    void Commit(const ActionViewInput& record);
-
-    /// Delivers the record and goes on with the next field.
-    void CommitAndSwitch(const ActionViewInput& record, InputState next);
+    /// Takes the typed value in the same way, but goes on with the next field.
+    void CommitValueAndSwitch(const DimensionKind& kind, const char* function);
 
     std::uint32_t m_viewId;
     QPointer<TemporaryDimensionHandleEditor> m_pEditor;
@@ -148,14 +130,31 @@ protected:
     TemporaryDimensionStyle m_style;
 
 private:
+    /// A value that was taken, and the field in which it stood.
+    struct TakenValue
+    {
+        DimensionField field;
+        ActionViewInput record;
+    };
+
     int GetInputState() const { return static_cast<int>(m_InputState); }
+    IUiView* FindView() const;
+    IUiView* FindDrawableView(const char* function) const;
+    void RefreshView();
     void RefreshViewId();
     bool FindOrCreateEditor(QWidget* pViewWidget);
     bool ActivateEditor(QWidget* pViewWidget);
     void StyleEditor();
     void RegisterEditor();
+    bool BeginInput(InputState state, bool editorReady);
+    QString FormatValue(const DimensionField& field) const;
+    void ShowEditor(const QString& text, bool isSelected);
+    bool PassKeyOn(QEvent* pEvent);
+    bool HandleAsPlainObject(QEvent* pEvent);
     bool HandleEditorKey(QObject* pWatched, QKeyEvent& event, const EditorRules& rules);
     bool HandleEscape(const QPointer<QObject>& pWatched, QKeyEvent& event, bool isHandedOn);
+    std::optional<TakenValue> TakeValue(const DimensionKind& kind, const char* function);
+    bool IsAccepted(double value, bool isNumber, const DimensionField& field);
     const NumberValidator<double>& ValidatorOf(const DimensionField& field) const;
 
     /// What the main window had; empty when this handler switched nothing off.

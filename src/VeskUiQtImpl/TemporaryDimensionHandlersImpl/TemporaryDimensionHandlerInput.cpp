@@ -1,29 +1,14 @@
 #include "CheckSite.h"
 #include "Command/ActionManager.h"
 #include "TemporaryDimensionHandlersImpl/TemporaryDimensionHandler.h"
-#include "View/IUiDocumentViewManager.h"
-#include "View/IUiView.h"
+#include "TemporaryDimensionHandlersImpl/ViewLookup.h"
 
 #include <HostUi/QtText.h>
-
-#include <QKeyEvent>
 
 namespace vesk
 {
 namespace
 {
-
-IUiView* FindViewById(std::uint32_t id)
-{
-    const IUiDocumentViewManager* pViewManager = IUiDocumentViewManager::Get();
-    return pViewManager != nullptr ? pViewManager->GetUiViewById(id) : nullptr;
-}
-
-QWidget* FindViewWidget(std::uint32_t id)
-{
-    const IUiView* pView = FindViewById(id);
-    return pView != nullptr ? QWidget::find(pView->GetWindowId()) : nullptr;
-}
 
 /// Without a view there is nobody to deliver to.
 void Deliver(std::uint32_t viewId, const ActionViewInput& record)
@@ -34,21 +19,37 @@ void Deliver(std::uint32_t viewId, const ActionViewInput& record)
 
 }
 
+/// The view the handler works in; null when it is gone.
 IUiView* TemporaryDimensionHandler::FindView() const
 {
     return FindViewById(m_viewId);
 }
 
-IUiView* TemporaryDimensionHandler::FindDrawableView(const char* function) const
+/// Has the host make the dimensions of the handler's view anew.
+void TemporaryDimensionHandler::RefreshView()
 {
-    IUiView* pView = FindView();
-    if (!Check(pView != nullptr, VESK_SITE(function, L"pUIView为空！")))
-        return nullptr;
-    if (!Check(pView->GetModelView() != nullptr, VESK_SITE(function, L"pModelView为空！")))
-        return nullptr;
-    return pView;
+    if (IUiView* pView = FindView())
+        ActionManager::RefreshViewInput(pView);
 }
 
+void TemporaryDimensionHandler::ShowField(const DimensionKind& kind, const char* function,
+                                          const FieldRequest& request)
+{
+    const DimensionField* pField = FindField(kind, request.state);
+    if (!Check(pField != nullptr, VESK_SITE(function, L"InputState输入非法!")))
+        return;
+    if (!BeginInput(request.state, request.editorReady))
+        return;
+
+    const bool isOpenedByKey = pField->rule == FieldRule::OpenedByKey && !request.editorReady;
+    const bool isGivenText = request.useGivenText || isOpenedByKey;
+    const bool isSelected =
+        pField->rule == FieldRule::ReachedByTab ? kind.switchesWithTab : request.editorReady;
+    ShowEditor(isGivenText ? ToQString(request.text) : FormatValue(*pField), isSelected);
+}
+
+/// Enters a state; without `editorReady` the editor is fetched. False, and no input runs, when
+/// there is no editor.
 bool TemporaryDimensionHandler::BeginInput(InputState state, bool editorReady)
 {
     const QPointer<TemporaryDimensionHandler> pSelf(this);
@@ -62,13 +63,15 @@ bool TemporaryDimensionHandler::BeginInput(InputState state, bool editorReady)
     return m_pEditor != nullptr;
 }
 
+/// The current value of a field, as its dimension shows it.
 QString TemporaryDimensionHandler::FormatValue(const DimensionField& field) const
 {
-    const int decimals = field.decimals == ValueSlot::First ? m_style.GetFirstValueDecimals()
-                                                            : m_style.GetSecondValueDecimals();
+    const int decimals = field.slot == ValueSlot::First ? m_style.GetFirstValueDecimals()
+                                                        : m_style.GetSecondValueDecimals();
     return QString::number(m_data[field.state].value, 'f', decimals);
 }
 
+/// Shows the editor with a text at its field.
 void TemporaryDimensionHandler::ShowEditor(const QString& text, bool isSelected)
 {
     const QPointer<TemporaryDimensionHandler> pSelf(this);
@@ -87,138 +90,79 @@ void TemporaryDimensionHandler::ShowEditor(const QString& text, bool isSelected)
     RefreshView();
 }
 
-void TemporaryDimensionHandler::RefreshView()
+void TemporaryDimensionHandler::CommitValue(const DimensionKind& kind, const char* function)
 {
-    if (IUiView* pView = FindView())
-        ActionManager::RefreshViewInput(pView);
-}
+    std::optional<TakenValue> taken = TakeValue(kind, function);
+    if (!taken.has_value())
+        return;
 
-bool TemporaryDimensionHandler::SendKey(int virtualKey, Qt::KeyboardModifiers modifiers,
-                                        const QString& text)
-{
-    QKeyEvent keyEvent(QEvent::KeyPress, virtualKey, modifiers, text);
-    return event(&keyEvent);
-}
-
-bool TemporaryDimensionHandler::PassKeyOn(QEvent* pEvent)
-{
-    const QPointer<TemporaryDimensionHandler> pSelf(this);
-    RefreshView();
-    return pSelf != nullptr && HandleAsPlainObject(pEvent);
-}
-
-bool TemporaryDimensionHandler::HandleAsPlainObject(QEvent* pEvent)
-{
-    return QObject::event(pEvent); // NOLINT(bugprone-parent-virtual-call): the widget is left out
-}
-
-bool TemporaryDimensionHandler::FilterEditorEvent(QObject* pWatched, QEvent* pEvent,
-                                                  const EditorRules& rules)
-{
-    if (pEvent->type() == QEvent::KeyRelease)
-        return true;
-    auto* pKeyEvent =
-        pEvent->type() == QEvent::KeyPress ? dynamic_cast<QKeyEvent*>(pEvent) : nullptr;
-    if (pKeyEvent == nullptr)
-        return QObject::eventFilter(pWatched, pEvent);
-    if (!Check(FindView() != nullptr, VESK_SITE(rules.function, L"pUIView指针不能为空")))
-        return false;
-    if (!Check(FindViewWidget(m_viewId) != nullptr,
-               VESK_SITE(rules.function, L"pViewWidget指针不能为空")))
-        return false;
-
-    return HandleEditorKey(pWatched, *pKeyEvent, rules);
-}
-
-/// Answers true for an editor that died: Qt would deliver the key to it otherwise.
-bool TemporaryDimensionHandler::HandleEditorKey(QObject* pWatched, QKeyEvent& event,
-                                                const EditorRules& rules)
-{
-    const QPointer<QObject> pEditor(pWatched);
-    const int key = event.key();
-    if (key == Qt::Key_Return || key == Qt::Key_Enter ||
-        (key == Qt::Key_Space && rules.commitsWithSpace))
-    {
-        OnEditorReturnPressed();
-        return pEditor == nullptr;
-    }
-    if (key == Qt::Key_Escape)
-        return HandleEscape(pEditor, event, rules.handsEscapeOn);
-    if (key == Qt::Key_Tab && rules.onTab)
-    {
-        rules.onTab();
-        return true;
-    }
-    return QObject::eventFilter(pWatched, &event);
-}
-
-bool TemporaryDimensionHandler::HandleEscape(const QPointer<QObject>& pWatched, QKeyEvent& event,
-                                             bool isHandedOn)
-{
-    const QPointer<TemporaryDimensionHandler> pSelf(this);
+    taken->record.kind = taken->field.returnKind;
+    RefreshViewId();
     const std::uint32_t viewId = m_viewId;
     EndInput();
-    if (!isHandedOn)
-        return pWatched == nullptr || (pSelf != nullptr && IsInputting());
-
-    QObject* pViewWidget = FindViewWidget(viewId);
-    const bool isConsumed = pViewWidget != nullptr && pViewWidget->event(&event);
-    return pWatched == nullptr || isConsumed;
+    Deliver(viewId, taken->record);
 }
 
-bool TemporaryDimensionHandler::HasEditorValue() const
+void TemporaryDimensionHandler::CommitValueAndSwitch(const DimensionKind& kind,
+                                                     const char* function)
 {
-    return m_InputState != InputState::IS_None && m_pEditor != nullptr;
+    std::optional<TakenValue> taken = TakeValue(kind, function);
+    if (!taken.has_value())
+        return;
+
+    taken->record.kind = taken->field.tabKind;
+    const QPointer<TemporaryDimensionHandler> pSelf(this);
+    Deliver(m_viewId, taken->record);
+    if (pSelf == nullptr)
+        return;
+    if (m_opValidateHelper != nullptr && m_pEditor != nullptr)
+        m_opValidateHelper->SetValidators({{m_pEditor, nullptr}});
+    ShowInputWidget(taken->field.next, true, false, L"");
 }
 
-TemporaryDimensionHandler::EditorValue TemporaryDimensionHandler::TakeEditorValue()
+/// Reads and judges the editor; nothing when no value is being typed, or a wrong one. In raw-text
+/// mode every text is right, and the live validation ends with it.
+std::optional<TemporaryDimensionHandler::TakenValue>
+TemporaryDimensionHandler::TakeValue(const DimensionKind& kind, const char* function)
 {
-    EditorValue value;
+    if (!IsInputting() || m_pEditor == nullptr)
+        return std::nullopt;
+    TakenValue taken;
     const QString text = m_pEditor->text();
-    value.record.value = text.toDouble(&value.isNumber);
-    if (!m_isRawTextInput)
-        return value;
-    value.record.text = ToWide(text);
-    m_opValidateHelper.Reset();
-    return value;
+    bool isNumber = false;
+    taken.record.value = text.toDouble(&isNumber);
+    if (m_isRawTextInput)
+    {
+        taken.record.text = ToWide(text);
+        m_opValidateHelper.Reset();
+    }
+
+    const DimensionField* pField = FindField(kind, m_InputState);
+    if (!Check(pField != nullptr, VESK_SITE(function, kind.wrongState)))
+        return std::nullopt;
+    taken.field = *pField;
+    if (!m_isRawTextInput &&
+        !IsAccepted(taken.record.value, isNumber || !kind.needsNumber, *pField))
+        return std::nullopt;
+    return taken;
 }
 
-bool TemporaryDimensionHandler::IsAccepted(const EditorValue& value, const DimensionField& field)
+/// Judges a value. One that is refused stays in the editor, selected.
+bool TemporaryDimensionHandler::IsAccepted(double value, bool isNumber, const DimensionField& field)
 {
-    if (m_isRawTextInput)
-        return true;
     const NumberValidator<double>& validator = ValidatorOf(field);
     if (m_opValidateHelper != nullptr)
         m_opValidateHelper->SetValidators({{m_pEditor, &validator}});
-    if (value.isNumber && validator.ValidateValue(value.record.value))
+    if (isNumber && validator.ValidateValue(value))
         return true;
     m_pEditor->selectAll();
     return false;
 }
 
-void TemporaryDimensionHandler::Commit(const ActionViewInput& record)
-{
-    RefreshViewId();
-    const std::uint32_t viewId = m_viewId;
-    EndInput();
-    Deliver(viewId, record);
-}
-
-void TemporaryDimensionHandler::CommitAndSwitch(const ActionViewInput& record, InputState next)
-{
-    const QPointer<TemporaryDimensionHandler> pSelf(this);
-    Deliver(m_viewId, record);
-    if (pSelf == nullptr)
-        return;
-    if (m_opValidateHelper != nullptr && m_pEditor != nullptr)
-        m_opValidateHelper->SetValidators({{m_pEditor, nullptr}});
-    ShowInputWidget(next, true, false, L"");
-}
-
 const NumberValidator<double>&
 TemporaryDimensionHandler::ValidatorOf(const DimensionField& field) const
 {
-    return field.validator == ValueSlot::First ? m_firstValueValidator : m_secondValueValidator;
+    return field.slot == ValueSlot::First ? m_firstValueValidator : m_secondValueValidator;
 }
 
 }

@@ -1,0 +1,23 @@
+#include "TemporaryDimensionHandlersImpl/ViewLookup.h"
+
+#include "View/IUiDocumentViewManager.h"
+#include "View/IUiView.h"
+
+#include <QWidget>
+
+namespace vesk
+{
+
+IUiView* FindViewById(std::uint32_t id)
+{
+    const IUiDocumentViewManager* pViewManager = IUiDocumentViewManager::Get();
+    return pViewManager != nullptr ? pViewManager->GetUiViewById(id) : nullptr;
+}
+
+QWidget* FindViewWidget(std::uint32_t id)
+{
+    const IUiView* pView = FindViewById(id);
+    return pView != nullptr ? QWidget::find(pView->GetWindowId()) : nullptr;
+}
+
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <cstdint>
+
+class QWidget;
+
+namespace vesk
+{
+
+class IUiView;
+
+/// The host's view of an id; null when there is none, or none any more.
+IUiView* FindViewById(std::uint32_t id);
+
+/// Its widget; null when there is none.
+QWidget* FindViewWidget(std::uint32_t id);
+
+}
