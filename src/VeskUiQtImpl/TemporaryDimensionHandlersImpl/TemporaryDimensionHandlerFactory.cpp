@@ -1,9 +1,17 @@
 #include "TemporaryDimensionHandlersImpl/TemporaryDimensionHandlerFactory.h"
 
 #include "CheckSite.h"
+#include "Dimension/CentralAngleTemporaryDimensionContext.h"
 #include "Dimension/ITemporaryDimensionContext.h"
 #include "Dimension/LinearTemporaryDimensionContext.h"
+#include "Dimension/RadiusTemporaryDimensionContext.h"
+#include "Dimension/RectangleTemporaryDimensionContext.h"
+#include "Dimension/RotationTemporaryDimensionContext.h"
+#include "TemporaryDimensionHandlersImpl/CentralAngleTemporaryDimensionHandler.h"
 #include "TemporaryDimensionHandlersImpl/LinearTemporaryDimensionHandler.h"
+#include "TemporaryDimensionHandlersImpl/RadiusTemporaryDimensionHandler.h"
+#include "TemporaryDimensionHandlersImpl/RectangleTemporaryDimensionHandler.h"
+#include "TemporaryDimensionHandlersImpl/RotationTemporaryDimensionHandler.h"
 #include "View/IUiDocumentViewManager.h"
 
 #include <algorithm>
@@ -31,13 +39,21 @@ OwnerPtr<ITemporaryDimensionHandler> CreateHandler(IUiView* pView)
     return MakeOwner<Handler>(pView);
 }
 
+template <class Context, class Handler>
+HandlerKind KindOf()
+{
+    return {typeid(Context), typeid(Handler), &CreateHandler<Handler>};
+}
+
 /// The kind for exactly this class of context; null when there is none.
 const HandlerKind* FindKind(const ITemporaryDimensionContext& context)
 {
     static const std::array kinds{
-        HandlerKind{typeid(LinearTemporaryDimensionContext),
-                    typeid(LinearTemporaryDimensionHandler),
-                    &CreateHandler<LinearTemporaryDimensionHandler>},
+        KindOf<LinearTemporaryDimensionContext, LinearTemporaryDimensionHandler>(),
+        KindOf<RadiusTemporaryDimensionContext, RadiusTemporaryDimensionHandler>(),
+        KindOf<CentralAngleTemporaryDimensionContext, CentralAngleTemporaryDimensionHandler>(),
+        KindOf<RotationTemporaryDimensionContext, RotationTemporaryDimensionHandler>(),
+        KindOf<RectangleTemporaryDimensionContext, RectangleTemporaryDimensionHandler>(),
     };
     const std::type_index type = typeid(context);
     const auto found = std::find_if(kinds.begin(), kinds.end(), [&type](const HandlerKind& kind) {

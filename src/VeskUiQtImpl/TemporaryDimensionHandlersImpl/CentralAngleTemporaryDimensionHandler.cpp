@@ -1,0 +1,79 @@
+#include "TemporaryDimensionHandlersImpl/CentralAngleTemporaryDimensionHandler.h"
+
+#include "Dimension/CentralAngleTemporaryDimensionContext.h"
+#include "Dimension/TemporaryDimensionCommons.h"
+#include "Graphics/IGraphicsNode.h"
+
+namespace vesk
+{
+namespace
+{
+
+constexpr DimensionKind MakeKind()
+{
+    DimensionKind kind;
+    kind.fields[0] = {InputState::IS_CentralAngle, ValueSlot::Second, FieldRule::StandsAlone,
+                      ActionViewInput::CentralAngleCommitted};
+    kind.start = InputState::IS_CentralAngle;
+    kind.wrongState = L"m_InputState怎么不是IS_CentralAngle?";
+    kind.openingKeys = OpeningKeys::DigitsAndMinus;
+    kind.commitsWithSpace = false;
+    return kind;
+}
+
+constexpr DimensionKind Kind = MakeKind();
+
+}
+
+OwnerPtr<IGraphicsNodeGroup>
+CentralAngleTemporaryDimensionHandler::GenerateGraphics(const ITemporaryDimensionContext* pContext)
+{
+    const auto* pCentralAngle =
+        dynamic_cast<const CentralAngleTemporaryDimensionContext*>(pContext);
+    Drawing drawing = BeginDrawing(pContext, pCentralAngle != nullptr,
+                                   "vesk::CentralAngleTemporaryDimensionHandler::GenerateGraphics",
+                                   L"pCentralAngleCtx为空");
+    if (!drawing.pixel.has_value())
+        return std::move(drawing.opGroup);
+
+    drawing.opGroup->AddChild(
+        TemporaryDimensionCommons::GenerateCentralAngleDimensionForCenterEndArc(
+            pCentralAngle->GetCentre(), pCentralAngle->GetStartPoint(),
+            pCentralAngle->GetEndPoint(), pCentralAngle->GetCursorPoint(), true,
+            pCentralAngle->GetCoordinate(), m_InputState, m_style, *drawing.pixel, m_data));
+    drawing.opGroup->AddChild(TemporaryDimensionCommons::GenerateRadiusDimensionForCenterEndArc(
+        pCentralAngle->GetCentre(), pCentralAngle->GetStartPoint(), pCentralAngle->GetEndPoint(),
+        true, pCentralAngle->GetCoordinate(), m_InputState, m_style, *drawing.pixel, m_data));
+    return std::move(drawing.opGroup);
+}
+
+bool CentralAngleTemporaryDimensionHandler::OnKeyDown(int virtualKey, bool isCtrl, bool isAlt,
+                                                      bool isShift)
+{
+    return SendViewKey(Kind, virtualKey, ToQtModifiers(isCtrl, isAlt, isShift));
+}
+
+void CentralAngleTemporaryDimensionHandler::ShowInputWidget(InputState state, bool editorReady,
+                                                            bool useGivenText, std::wstring text)
+{
+    ShowField(Kind, "vesk::CentralAngleTemporaryDimensionHandler::ShowInputWidget",
+              {state, editorReady, useGivenText, std::move(text)});
+}
+
+bool CentralAngleTemporaryDimensionHandler::event(QEvent* pEvent)
+{
+    return HandleEvent(pEvent, Kind, "vesk::CentralAngleTemporaryDimensionHandler::event");
+}
+
+bool CentralAngleTemporaryDimensionHandler::eventFilter(QObject* pWatched, QEvent* pEvent)
+{
+    return FilterEditorEvent(
+        pWatched, pEvent, {Kind, "vesk::CentralAngleTemporaryDimensionHandler::eventFilter", {}});
+}
+
+void CentralAngleTemporaryDimensionHandler::OnEditorReturnPressed()
+{
+    CommitValue(Kind, "vesk::CentralAngleTemporaryDimensionHandler::OnEditorReturnPressed");
+}
+
+}
