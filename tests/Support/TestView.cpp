@@ -1,5 +1,7 @@
 #include "Support/TestView.h"
 
+#include <QKeyEvent>
+
 #include <utility>
 
 namespace vesk::test
@@ -18,6 +20,14 @@ void TestView::Redraw()
     ++m_redrawCount;
     if (const auto onRedraw = std::exchange(m_onRedraw, nullptr))
         onRedraw();
+}
+
+void TestView::keyPressEvent(QKeyEvent* pEvent)
+{
+    QWidget::keyPressEvent(pEvent);
+    m_keys.push_back(pEvent->key());
+    if (const auto onKey = std::exchange(m_onKey, nullptr))
+        onKey();
 }
 
 }

@@ -27,6 +27,12 @@ public:
     /// The host has the view painted again when its input is refreshed.
     void Redraw() override;
 
+    /// Keys pressed in the view, and those handed to it directly; they stay unaccepted.
+    const std::vector<int>& GetKeys() const { return m_keys; }
+
+    /// Called inside the next key press, once.
+    void SetOnKey(std::function<void()> onKey) { m_onKey = std::move(onKey); }
+
     ModelView& GetCamera() { return m_modelView; }
     const std::vector<std::wstring>& GetTexts() const { return m_texts; }
     int GetRedrawCount() const { return m_redrawCount; }
@@ -36,6 +42,9 @@ public:
     void SetHasModelView(bool hasModelView) { m_hasModelView = hasModelView; }
     void SetWindowId(WindowId windowId) { m_windowId = windowId; }
 
+protected:
+    void keyPressEvent(QKeyEvent* pEvent) override;
+
 private:
     std::uint32_t m_id;
     WindowId m_windowId;
@@ -44,6 +53,8 @@ private:
     std::vector<std::wstring> m_texts;
     int m_redrawCount = 0;
     std::function<void()> m_onRedraw;
+    std::vector<int> m_keys;
+    std::function<void()> m_onKey;
 };
 
 }

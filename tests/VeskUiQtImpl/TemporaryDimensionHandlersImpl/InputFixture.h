@@ -16,12 +16,7 @@ struct InputFixture : HandlerFixture
         host.BeginAction();
     }
 
-    void TypeAngle(const QString& text)
-    {
-        Handler().ShowInputWidget(InputState::IS_Angle, false, true, text.toStdWString());
-    }
-
-    std::vector<ActionViewInput>& Inputs() { return host.actionLog.inputs; }
+    void TypeAngle(const QString& text) { Type(InputState::IS_Angle, text); }
 
     bool IsValidatedLive() const
     {
