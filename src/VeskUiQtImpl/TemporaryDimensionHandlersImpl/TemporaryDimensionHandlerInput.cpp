@@ -48,8 +48,8 @@ void TemporaryDimensionHandler::ShowField(const DimensionKind& kind, const char*
     ShowEditor(isGivenText ? ToQString(request.text) : FormatValue(*pField), isSelected);
 }
 
-/// Enters a state; without `editorReady` the editor is fetched. False, and no input runs, when
-/// there is no editor.
+/// Enters a state; without `editorReady` the editor is fetched. False when there is no editor, and
+/// no input then runs, or when the host ended the input as the focus moved.
 bool TemporaryDimensionHandler::BeginInput(InputState state, bool editorReady)
 {
     const QPointer<TemporaryDimensionHandler> pSelf(this);
@@ -60,7 +60,7 @@ bool TemporaryDimensionHandler::BeginInput(InputState state, bool editorReady)
         return false;
     if (m_pEditor == nullptr)
         EndInput();
-    return m_pEditor != nullptr;
+    return m_InputState == state;
 }
 
 /// The current value of a field, as its dimension shows it.
@@ -113,7 +113,8 @@ void TemporaryDimensionHandler::CommitValueAndSwitch(const DimensionKind& kind,
     taken->record.kind = taken->field.tabKind;
     const QPointer<TemporaryDimensionHandler> pSelf(this);
     Deliver(m_viewId, taken->record);
-    if (pSelf == nullptr)
+    // The action may have ended the input, and the handler may only still be on the stack.
+    if (pSelf == nullptr || !IsInputting())
         return;
     if (m_opValidateHelper != nullptr && m_pEditor != nullptr)
         m_opValidateHelper->SetValidators({{m_pEditor, nullptr}});
