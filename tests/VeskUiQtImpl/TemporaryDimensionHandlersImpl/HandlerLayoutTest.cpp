@@ -1,6 +1,11 @@
 #include "TemporaryDimensionHandlersImpl/HandlerFixture.h"
 
+#include "TemporaryDimensionHandlersImpl/CentralAngleTemporaryDimensionHandler.h"
+#include "TemporaryDimensionHandlersImpl/KindTable.h"
 #include "TemporaryDimensionHandlersImpl/LinearTemporaryDimensionHandler.h"
+#include "TemporaryDimensionHandlersImpl/RadiusTemporaryDimensionHandler.h"
+#include "TemporaryDimensionHandlersImpl/RectangleTemporaryDimensionHandler.h"
+#include "TemporaryDimensionHandlersImpl/RotationTemporaryDimensionHandler.h"
 
 #include <QtTest>
 
@@ -9,6 +14,7 @@ namespace vesk::test
 
 using Base = TemporaryDimensionHandler;
 using Linear = LinearTemporaryDimensionHandler;
+using Radius = RadiusTemporaryDimensionHandler;
 
 VESK_EXPOSE(ViewId, std::uint32_t, Base, m_viewId)
 VESK_EXPOSE(Editor, QPointer<TemporaryDimensionHandleEditor>, Base, m_pEditor)
@@ -20,22 +26,32 @@ VESK_EXPOSE(Style, TemporaryDimensionStyle, Base, m_style)
 VESK_EXPOSE(SavedContext, std::optional<InputContext>, Base, m_savedInputContext)
 VESK_EXPOSE(LengthEnabled, bool, Linear, m_isLengthEnabled)
 VESK_EXPOSE(AngleEnabled, bool, Linear, m_isAngleEnabled)
+VESK_EXPOSE(CentralAngleShown, bool, Radius, m_isCentralAngleShown)
 
 class HandlerLayoutTest : public QObject
 {
     Q_OBJECT
 
 private slots:
+    void basesStandInOrder_data();
     void basesStandInOrder();
     void fieldsStandInOrder();
+    void theRadiusAddsOneFlag();
+    void theOtherKindsAddNothing();
     void operationsOfTheHostsInterfaceHaveTheirSlots();
     void operationsOfTheWidgetSideFollowEachOther();
     void theEditorAddsOneFlag();
 };
 
+void HandlerLayoutTest::basesStandInOrder_data()
+{
+    AddKindRows();
+}
+
 void HandlerLayoutTest::basesStandInOrder()
 {
-    HandlerFixture f;
+    FETCH_KIND(rules);
+    KindFixture f(rules.pCreateContext());
 
     QCOMPARE(BaseOffsetIn<QWidget>(f.Handler()), std::ptrdiff_t(0));
     QCOMPARE(BaseOffsetIn<ITemporaryDimensionHandler>(f.Handler()),
@@ -64,6 +80,24 @@ void HandlerLayoutTest::fieldsStandInOrder()
     QVERIFY(offsets.front() >= std::ptrdiff_t(sizeof(QWidget) + sizeof(void*)));
     QVERIFY(std::is_sorted(offsets.begin(), offsets.end()));
     QVERIFY(std::adjacent_find(offsets.begin(), offsets.end()) == offsets.end());
+}
+
+void HandlerLayoutTest::theRadiusAddsOneFlag()
+{
+    KindFixture f(CreateRadius<false>());
+    const auto& handler = static_cast<const Radius&>(f.Handler());
+
+    QVERIFY(OffsetIn(handler, MemberOf(CentralAngleShown())) >
+            OffsetIn(handler, MemberOf(SavedContext())));
+    QVERIFY(sizeof(Radius) <= sizeof(Base) + sizeof(void*));
+    QCOMPARE(sizeof(Radius), sizeof(Linear));
+}
+
+void HandlerLayoutTest::theOtherKindsAddNothing()
+{
+    QCOMPARE(sizeof(CentralAngleTemporaryDimensionHandler), sizeof(Base));
+    QCOMPARE(sizeof(RectangleTemporaryDimensionHandler), sizeof(Base));
+    QCOMPARE(sizeof(RotationTemporaryDimensionHandler), sizeof(Base));
 }
 
 void HandlerLayoutTest::operationsOfTheHostsInterfaceHaveTheirSlots()

@@ -1,298 +1,442 @@
-#include "TemporaryDimensionHandlersImpl/HandlerFixture.h"
+#include "TemporaryDimensionHandlersImpl/LifetimeFixture.h"
 
 #include <QtTest>
-
-#include <memory>
 
 namespace vesk::test
 {
 
-/// A handler in a view that may go before it, and an action that takes its values.
-struct LifetimeFixture : HandlerFixture
-{
-    LifetimeFixture() : pView(std::make_unique<TestView>(2, &host.window))
-    {
-        host.BeginAction();
-        host.core.GetViewManager().AddView(pView.get());
-        host.core.GetViewManager().SetCurrentView(pView.get());
-        opHandler = CreateHandler();
-    }
-
-    ~LifetimeFixture()
-    {
-        ActionManager::Reset();
-        DropView();
-    }
-
-    void DropView()
-    {
-        host.core.GetViewManager().RemoveView(pView.get());
-        pView.reset();
-    }
-
-    QLineEdit* Editor() const { return pView->findChild<QLineEdit*>("ViewInputLineEdit"); }
-
-    bool FilterKey(int key)
-    {
-        QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
-        return Object().eventFilter(Editor(), &press);
-    }
-
-    std::unique_ptr<TestView> pView;
-};
-
-/// Does something once when a widget gets an event of a type.
-class EventTrap final : public QObject
-{
-public:
-    EventTrap(QWidget* pWidget, QEvent::Type type, std::function<void()> act)
-        : m_type(type), m_act(std::move(act))
-    {
-        pWidget->installEventFilter(this);
-    }
-
-    bool eventFilter(QObject*, QEvent* pEvent) override
-    {
-        if (pEvent->type() != m_type)
-            return false;
-        if (const auto act = std::exchange(m_act, nullptr))
-            act();
-        return false;
-    }
-
-private:
-    QEvent::Type m_type;
-    std::function<void()> m_act;
-};
-
+/// Who may die while the host has control: handler, editor and view, in every kind.
 class HandlerLifetimeTest : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void handlerMayDieInTheDeliveryOfReturn_data();
-    void handlerMayDieInTheDeliveryOfReturn();
-    void handlerMayDieInTheDeliveryOfTab();
-    void handlerMayDieInTheDeliveryOfARealKey();
-    void handlerMayDieWhenAKeyOpensTheEditor();
-    void handlerMayDieWhenAMinusOpensTheEditor();
-    void handlerMayDieWhenAKeyRefreshesTheView();
-    void handlerMayDieWhenEscapeHidesTheEditor();
-    void handlerMayDieWhenReturnHidesTheEditor();
+    void deathInTheDeliveryOfAValue_data();
+    void deathInTheDeliveryOfAValue();
+    void whatReturnFiltersWhenTheEditorDied_data();
+    void whatReturnFiltersWhenTheEditorDied();
+    void inputThatTheActionEndedStaysEnded_data();
+    void inputThatTheActionEndedStaysEnded();
+    void deathWhenAKeyRefreshesTheView_data();
+    void deathWhenAKeyRefreshesTheView();
+    void noSecondRefreshAfterTheHandlerDied_data();
+    void noSecondRefreshAfterTheHandlerDied();
+    void deathWhenEscapeReachesTheView_data();
+    void deathWhenEscapeReachesTheView();
+    void handlerMayDieInEachEventOfTheEditor_data();
+    void handlerMayDieInEachEventOfTheEditor();
+    void handlerMayDieWhenTheFocusChanges_data();
+    void handlerMayDieWhenTheFocusChanges();
+    void handlerMayDieWhenTheEditorIsShown_data();
     void handlerMayDieWhenTheEditorIsShown();
+    void handlerMayDieWhenAReadyEditorIsShown_data();
     void handlerMayDieWhenAReadyEditorIsShown();
-    void editorMayDieInTheDeliveryOfReturn();
-    void editorMayDieInTheDeliveryOfTab();
-    void handlerMayDieWhenEscapeMovesTheFocus();
-    void handlerOutlivesItsView();
+    void inputThatEndsWhenTheEditorIsShownStaysEnded_data();
+    void inputThatEndsWhenTheEditorIsShownStaysEnded();
+    void deathWhenAKeyIsReported_data();
+    void deathWhenAKeyIsReported();
+    void deathWhenAValueIsReported_data();
+    void deathWhenAValueIsReported();
+    void handlerMayDieWhenAKeyWithoutAFieldIsReported();
+    void threeMayGoInAnyOrder_data();
+    void threeMayGoInAnyOrder();
+    void handlerWorksOnInAnotherViewAfterItsOwnDied_data();
     void handlerWorksOnInAnotherViewAfterItsOwnDied();
+    void handlersMayGoInAnyOrder_data();
     void handlersMayGoInAnyOrder();
-    void oldHandlerKeepsOutOfTheKeysOfTheNewOne();
+    void oldHandlerKeepsOutOfTheReturnOfTheNewOne_data();
+    void oldHandlerKeepsOutOfTheReturnOfTheNewOne();
 };
 
-void HandlerLifetimeTest::handlerMayDieInTheDeliveryOfReturn_data()
+/// A row for each kind, key and victim.
+void AddDeathRows(
+    const std::vector<std::pair<const char*, int>>& keys,
+    bool (*pIsWanted)(const KindRules&, int) = [](const KindRules&, int) { return true; })
 {
+    QTest::addColumn<int>("kind");
     QTest::addColumn<int>("key");
-    QTest::newRow("Return") << int(Qt::Key_Return);
-    QTest::newRow("Enter") << int(Qt::Key_Enter);
-    QTest::newRow("Space") << int(Qt::Key_Space);
+    QTest::addColumn<QString>("victim");
+    for (std::size_t kind = 0; kind < AllKinds().size(); ++kind)
+    {
+        for (const auto& [name, key] : keys)
+        {
+            if (!pIsWanted(AllKinds()[kind], key))
+                continue;
+            for (const char* victim : {"handler", "editor", "view"})
+                QTest::addRow("%s, %s, %s", AllKinds()[kind].name, name, victim)
+                    << int(kind) << key << QString(victim);
+        }
+    }
 }
 
-void HandlerLifetimeTest::handlerMayDieInTheDeliveryOfReturn()
+void HandlerLifetimeTest::deathInTheDeliveryOfAValue_data()
 {
+    AddDeathRows({{"Return", Qt::Key_Return},
+                  {"Enter", Qt::Key_Enter},
+                  {"Space", Qt::Key_Space},
+                  {"Tab", Qt::Key_Tab}},
+                 [](const KindRules& rules, int key) {
+                     return (key != Qt::Key_Space || rules.hasSpace) &&
+                            (key != Qt::Key_Tab || rules.hasTab);
+                 });
+}
+
+void HandlerLifetimeTest::deathInTheDeliveryOfAValue()
+{
+    FETCH_KIND(rules);
     QFETCH(int, key);
-    LifetimeFixture f;
-    f.TypeLength("5");
-    f.host.actionLog.onInput = [&] { f.opHandler.Reset(); };
+    QFETCH(QString, victim);
+    LifetimeFixture f(rules);
+    f.TypeFirst("5");
+    f.host.actionLog.onInput = [&] { f.Kill(victim); };
+
+    f.PressInEditor(key);
+
+    QCOMPARE(f.Inputs().size(), std::size_t(1));
+    QCOMPARE(f.Editor() == nullptr, victim != "handler");
+    QVERIFY(f.opHandler == nullptr || !f.opHandler->IsInputting());
+    QVERIFY(f.Editor() == nullptr || key == Qt::Key_Tab || f.Editor()->isHidden());
+}
+
+void HandlerLifetimeTest::whatReturnFiltersWhenTheEditorDied_data()
+{
+    AddDeathRows({{"Return", Qt::Key_Return}});
+}
+
+void HandlerLifetimeTest::whatReturnFiltersWhenTheEditorDied()
+{
+    FETCH_KIND(rules);
+    QFETCH(int, key);
+    QFETCH(QString, victim);
+    LifetimeFixture f(rules);
+    f.TypeFirst("5");
+    f.host.actionLog.onInput = [&] { f.Kill(victim); };
 
     const bool isSwallowed = f.FilterKey(key);
 
-    QVERIFY(!isSwallowed);
-    QVERIFY(f.opHandler == nullptr);
-    QCOMPARE(f.host.actionLog.inputs.size(), std::size_t(1));
+    QCOMPARE(isSwallowed, victim != "handler");
 }
 
-void HandlerLifetimeTest::handlerMayDieInTheDeliveryOfTab()
+void HandlerLifetimeTest::inputThatTheActionEndedStaysEnded_data()
 {
-    LifetimeFixture f;
-    f.TypeLength("5");
-    f.host.actionLog.onInput = [&] { f.opHandler.Reset(); };
+    AddKindRows([](const KindRules& rules) { return rules.hasTab; });
+}
+
+void HandlerLifetimeTest::inputThatTheActionEndedStaysEnded()
+{
+    FETCH_KIND(rules);
+    LifetimeFixture f(rules);
+    f.TypeFirst("5");
+    f.host.actionLog.onInput = [&] { f.opHandler->EndInput(); };
 
     QVERIFY(f.FilterKey(Qt::Key_Tab));
 
-    QVERIFY(f.opHandler == nullptr);
-    QCOMPARE(f.Editor()->text(), QString("5"));
-}
-
-void HandlerLifetimeTest::handlerMayDieInTheDeliveryOfARealKey()
-{
-    LifetimeFixture f;
-    f.TypeLength("5");
-    f.host.actionLog.onInput = [&] { f.opHandler.Reset(); };
-
-    QTest::keyClick(f.Editor(), Qt::Key_Return);
-
-    QVERIFY(f.opHandler == nullptr);
+    QVERIFY(!f.opHandler->IsInputting());
     QVERIFY(f.Editor()->isHidden());
 }
 
-void HandlerLifetimeTest::handlerMayDieWhenAKeyOpensTheEditor()
+void HandlerLifetimeTest::deathWhenAKeyRefreshesTheView_data()
 {
-    LifetimeFixture f;
-    f.pView->SetOnRedraw([&] { f.opHandler.Reset(); });
-
-    QVERIFY(f.SendToHandler('5'));
-
-    QVERIFY(f.opHandler == nullptr);
+    AddDeathRows({{"digit", '5'}, {"minus", '-'}, {"other key", Qt::Key_F5}});
 }
 
-void HandlerLifetimeTest::handlerMayDieWhenAMinusOpensTheEditor()
+void HandlerLifetimeTest::deathWhenAKeyRefreshesTheView()
 {
-    LifetimeFixture f;
+    FETCH_KIND(rules);
+    QFETCH(int, key);
+    QFETCH(QString, victim);
+    LifetimeFixture f(rules);
+    f.pView->SetOnRedraw([&] { f.Kill(victim); });
+
+    QCOMPARE(f.SendToHandler(key), key == '5');
+
+    QCOMPARE(f.opHandler == nullptr, victim == "handler");
+    if (f.opHandler != nullptr)
+        f.UseHandler();
+    QVERIFY(f.Inputs().empty());
+}
+
+void HandlerLifetimeTest::noSecondRefreshAfterTheHandlerDied_data()
+{
+    AddKindRows([](const KindRules& rules) { return rules.hasMinus; });
+}
+
+void HandlerLifetimeTest::noSecondRefreshAfterTheHandlerDied()
+{
+    FETCH_KIND(rules);
+    LifetimeFixture f(rules);
     f.pView->SetOnRedraw([&] { f.opHandler.Reset(); });
     const int redrawCount = f.pView->GetRedrawCount();
 
     QVERIFY(!f.SendToHandler('-'));
 
-    QVERIFY(f.opHandler == nullptr);
     QCOMPARE(f.pView->GetRedrawCount(), redrawCount + 1);
 }
 
-void HandlerLifetimeTest::handlerMayDieWhenAKeyRefreshesTheView()
+void HandlerLifetimeTest::deathWhenEscapeReachesTheView_data()
 {
-    LifetimeFixture f;
-    f.pView->SetOnRedraw([&] { f.opHandler.Reset(); });
-
-    QVERIFY(!f.SendToHandler(Qt::Key_F5));
-
-    QVERIFY(f.opHandler == nullptr);
+    AddDeathRows({{"Escape", Qt::Key_Escape}},
+                 [](const KindRules& rules, int) { return rules.isEscapeHandedOn; });
 }
 
-void HandlerLifetimeTest::handlerMayDieWhenEscapeHidesTheEditor()
+void HandlerLifetimeTest::deathWhenEscapeReachesTheView()
 {
-    LifetimeFixture f;
-    f.TypeLength("5");
-    const EventTrap trap(f.Editor(), QEvent::Hide, [&] { f.opHandler.Reset(); });
+    FETCH_KIND(rules);
+    QFETCH(int, key);
+    QFETCH(QString, victim);
+    LifetimeFixture f(rules);
+    f.TypeFirst("5");
+    f.pView->SetOnKey([&] { f.Kill(victim); });
 
-    QVERIFY(!f.FilterKey(Qt::Key_Escape));
+    f.PressInEditor(key);
+
+    QCOMPARE(f.opHandler == nullptr, victim == "handler");
+    QCOMPARE(f.pView == nullptr, victim == "view");
+    QVERIFY(f.opHandler == nullptr || !f.opHandler->IsInputting());
+}
+
+void HandlerLifetimeTest::handlerMayDieInEachEventOfTheEditor_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("type");
+    for (std::size_t kind = 0; kind < AllKinds().size(); ++kind)
+    {
+        QTest::addRow("%s, Escape hides", AllKinds()[kind].name)
+            << int(kind) << int(Qt::Key_Escape) << int(QEvent::Hide);
+        QTest::addRow("%s, Return hides", AllKinds()[kind].name)
+            << int(kind) << int(Qt::Key_Return) << int(QEvent::Hide);
+        QTest::addRow("%s, Escape takes the focus", AllKinds()[kind].name)
+            << int(kind) << int(Qt::Key_Escape) << int(QEvent::FocusOut);
+        QTest::addRow("%s, Return takes the focus", AllKinds()[kind].name)
+            << int(kind) << int(Qt::Key_Return) << int(QEvent::FocusOut);
+    }
+}
+
+void HandlerLifetimeTest::handlerMayDieInEachEventOfTheEditor()
+{
+    FETCH_KIND(rules);
+    QFETCH(int, key);
+    QFETCH(int, type);
+    LifetimeFixture f(rules);
+    f.TypeFirst("5");
+    QTRY_VERIFY(f.Editor()->hasFocus());
+    const EventTrap trap(f.Editor(), QEvent::Type(type), [&] { f.opHandler.Reset(); });
+
+    f.PressInEditor(key);
 
     QVERIFY(f.opHandler == nullptr);
     QVERIFY(f.Editor()->isHidden());
+    QCOMPARE(f.Inputs().size(), std::size_t(key == Qt::Key_Return ? 1 : 0));
 }
 
-void HandlerLifetimeTest::handlerMayDieWhenReturnHidesTheEditor()
+void HandlerLifetimeTest::handlerMayDieWhenTheFocusChanges_data()
 {
-    LifetimeFixture f;
-    f.TypeLength("5");
-    const EventTrap trap(f.Editor(), QEvent::Hide, [&] { f.opHandler.Reset(); });
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<int>("key");
+    for (std::size_t kind = 0; kind < AllKinds().size(); ++kind)
+    {
+        QTest::addRow("%s, Escape", AllKinds()[kind].name) << int(kind) << int(Qt::Key_Escape);
+        QTest::addRow("%s, Return", AllKinds()[kind].name) << int(kind) << int(Qt::Key_Return);
+    }
+}
 
-    QVERIFY(!f.FilterKey(Qt::Key_Return));
+/// The editor may not: the toolkit goes on with the widget whose focus it took.
+void HandlerLifetimeTest::handlerMayDieWhenTheFocusChanges()
+{
+    FETCH_KIND(rules);
+    QFETCH(int, key);
+    LifetimeFixture f(rules);
+    f.TypeFirst("5");
+    QTRY_VERIFY(f.Editor()->hasFocus());
+    QObject context;
+    connect(qApp, &QApplication::focusChanged, &context, [&] { f.opHandler.Reset(); });
+
+    f.PressInEditor(key);
 
     QVERIFY(f.opHandler == nullptr);
-    QCOMPARE(f.host.actionLog.inputs.size(), std::size_t(1));
-    QCOMPARE(f.host.actionLog.inputs[0].value, 5.0);
+    QVERIFY(f.Editor()->isHidden());
+    QCOMPARE(f.Inputs().size(), std::size_t(key == Qt::Key_Return ? 1 : 0));
+}
+
+void HandlerLifetimeTest::handlerMayDieWhenTheEditorIsShown_data()
+{
+    AddKindRows();
 }
 
 void HandlerLifetimeTest::handlerMayDieWhenTheEditorIsShown()
 {
-    LifetimeFixture f;
-    f.TypeLength("5");
+    FETCH_KIND(rules);
+    LifetimeFixture f(rules);
+    f.TypeFirst("5");
     f.opHandler->EndInput();
     const EventTrap trap(f.Editor(), QEvent::Show, [&] { f.opHandler.Reset(); });
 
     QVERIFY(f.SendToHandler('6'));
 
     QVERIFY(f.opHandler == nullptr);
+    QCOMPARE(f.Editor()->text(), QString("5"));
+}
+
+void HandlerLifetimeTest::handlerMayDieWhenAReadyEditorIsShown_data()
+{
+    AddKindRows();
 }
 
 void HandlerLifetimeTest::handlerMayDieWhenAReadyEditorIsShown()
 {
-    LifetimeFixture f;
-    f.TypeLength("5");
+    FETCH_KIND(rules);
+    LifetimeFixture f(rules);
+    f.TypeFirst("5");
     f.Editor()->hide();
     const int redrawCount = f.pView->GetRedrawCount();
     const EventTrap trap(f.Editor(), QEvent::Show, [&] { f.opHandler.Reset(); });
 
-    f.Handler().ShowInputWidget(InputState::IS_Length, true, true, L"6");
+    f.Handler().ShowInputWidget(rules.StartState(), true, true, L"6");
 
     QVERIFY(f.opHandler == nullptr);
     QCOMPARE(f.pView->GetRedrawCount(), redrawCount);
 }
 
-void HandlerLifetimeTest::editorMayDieInTheDeliveryOfReturn()
+void HandlerLifetimeTest::inputThatEndsWhenTheEditorIsShownStaysEnded_data()
 {
-    LifetimeFixture f;
-    f.TypeLength("5");
-    const QPointer<QLineEdit> pEditor(f.Editor());
-    f.host.actionLog.onInput = [&] { f.DropView(); };
-    QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r");
-
-    QCoreApplication::sendEvent(pEditor, &press);
-
-    QVERIFY(pEditor == nullptr);
-    QVERIFY(!f.opHandler->IsInputting());
+    AddKindRows();
 }
 
-void HandlerLifetimeTest::editorMayDieInTheDeliveryOfTab()
+void HandlerLifetimeTest::inputThatEndsWhenTheEditorIsShownStaysEnded()
 {
-    LifetimeFixture f;
-    f.TypeLength("5");
-    const QPointer<QLineEdit> pEditor(f.Editor());
-    f.host.actionLog.onInput = [&] { f.DropView(); };
+    FETCH_KIND(rules);
+    LifetimeFixture f(rules);
+    f.TypeFirst("5");
+    f.opHandler->EndInput();
+    const int redrawCount = f.pView->GetRedrawCount();
+    const EventTrap trap(f.Editor(), QEvent::Show, [&] { f.opHandler->EndInput(); });
 
-    QVERIFY(f.FilterKey(Qt::Key_Tab));
+    QVERIFY(f.SendToHandler('6'));
 
-    QVERIFY(pEditor == nullptr);
     QVERIFY(!f.opHandler->IsInputting());
+    QCOMPARE(f.Editor()->text(), QString("5"));
+    QCOMPARE(f.pView->GetRedrawCount(), redrawCount);
 }
 
-void HandlerLifetimeTest::handlerMayDieWhenEscapeMovesTheFocus()
+void HandlerLifetimeTest::deathWhenAKeyIsReported_data()
 {
-    LifetimeFixture f;
-    f.TypeLength("5");
-    QTRY_VERIFY(f.Editor()->hasFocus());
-    QObject context;
-    connect(qApp, &QApplication::focusChanged, &context, [&] { f.opHandler.Reset(); });
+    AddDeathRows({{"Return", Qt::Key_Return}, {"other key", Qt::Key_7}});
+}
 
-    QVERIFY(!f.FilterKey(Qt::Key_Escape));
+void HandlerLifetimeTest::deathWhenAKeyIsReported()
+{
+    FETCH_KIND(rules);
+    QFETCH(int, key);
+    QFETCH(QString, victim);
+    LifetimeFixture f(rules);
+    f.TypeFirst("5");
+    f.host.core.GetViewManager().RemoveView(f.pView.get());
+    const WarningTrap trap([&] { f.Kill(victim); });
+
+    f.PressInEditor(key);
+
+    EXPECT_WARNING(f.host.warnings, L"pUIView指针不能为空", rules.NameOf("eventFilter"));
+    QCOMPARE(f.Editor() == nullptr, victim != "handler");
+    QVERIFY(f.Inputs().empty());
+}
+
+void HandlerLifetimeTest::deathWhenAValueIsReported_data()
+{
+    AddDeathRows({{"Return", Qt::Key_Return}});
+}
+
+void HandlerLifetimeTest::deathWhenAValueIsReported()
+{
+    FETCH_KIND(rules);
+    QFETCH(int, key);
+    QFETCH(QString, victim);
+    LifetimeFixture f(rules);
+    f.TypeFirst("5");
+    f.SetState(InputState(7));
+    const WarningTrap trap([&] { f.Kill(victim); });
+
+    f.PressInEditor(key);
+
+    EXPECT_WARNING(f.host.warnings, rules.wrongState, rules.NameOf("OnEditorReturnPressed"));
+    QCOMPARE(f.Editor() == nullptr, victim != "handler");
+}
+
+void HandlerLifetimeTest::handlerMayDieWhenAKeyWithoutAFieldIsReported()
+{
+    KindFixture f(CreateLinearContext(false, false));
+    const WarningTrap trap([&] { f.opHandler.Reset(); });
+
+    QVERIFY(!f.SendToHandler('5'));
+
+    EXPECT_WARNING(f.host.warnings, L"无法设置EnInputState的类型，将按IS_Length设置",
+                   std::string(LinearClass) + "event");
+    QVERIFY(f.opHandler == nullptr);
+    QVERIFY(f.Editor() == nullptr);
+}
+
+void HandlerLifetimeTest::threeMayGoInAnyOrder_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QStringList>("order");
+    QStringList order{"editor", "handler", "view"};
+    do
+    {
+        for (std::size_t kind = 0; kind < AllKinds().size(); ++kind)
+            QTest::addRow("%s: %s", AllKinds()[kind].name, qPrintable(order.join(", ")))
+                << int(kind) << order;
+    } while (std::next_permutation(order.begin(), order.end()));
+}
+
+void HandlerLifetimeTest::threeMayGoInAnyOrder()
+{
+    FETCH_KIND(rules);
+    QFETCH(QStringList, order);
+    LifetimeFixture f(rules);
+    f.TypeFirst("5");
+
+    f.Kill(order[0]);
+    if (f.opHandler != nullptr)
+        f.UseHandler();
+    f.Kill(order[1]);
+    if (f.opHandler != nullptr)
+        f.UseHandler();
+    f.Kill(order[2]);
 
     QVERIFY(f.opHandler == nullptr);
-    QVERIFY(f.Editor()->isHidden());
+    QVERIFY(f.pView == nullptr);
 }
 
-void HandlerLifetimeTest::handlerOutlivesItsView()
+void HandlerLifetimeTest::handlerWorksOnInAnotherViewAfterItsOwnDied_data()
 {
-    LifetimeFixture f;
-    f.TypeLength("5");
-
-    f.DropView();
-
-    QVERIFY(!f.opHandler->HasEditorFocus());
-    f.opHandler->OnEditorReturnPressed();
-    QMetaObject::invokeMethod(&f.Object(), "ResetEditorPosition");
-    f.opHandler->EndInput();
-    QVERIFY(!f.opHandler->IsInputting());
-    QVERIFY(f.host.actionLog.inputs.empty());
+    AddKindRows();
 }
 
 void HandlerLifetimeTest::handlerWorksOnInAnotherViewAfterItsOwnDied()
 {
-    LifetimeFixture f;
-    f.TypeLength("5");
+    FETCH_KIND(rules);
+    LifetimeFixture f(rules);
+    f.TypeFirst("5");
     f.DropView();
     f.opHandler->EndInput();
 
-    f.TypeLength("6");
+    f.TypeFirst("6");
 
     const auto* pEditor = f.host.view.findChild<QLineEdit*>("ViewInputLineEdit");
     QVERIFY(pEditor != nullptr);
     QCOMPARE(pEditor->text(), QString("6"));
 }
 
+void HandlerLifetimeTest::handlersMayGoInAnyOrder_data()
+{
+    AddKindRows();
+}
+
 void HandlerLifetimeTest::handlersMayGoInAnyOrder()
 {
-    LifetimeFixture f;
-    f.TypeLength("5");
+    FETCH_KIND(rules);
+    LifetimeFixture f(rules);
+    f.TypeFirst("5");
     auto opSecond = f.CreateHandler();
     auto opThird = f.CreateHandler();
 
@@ -303,18 +447,24 @@ void HandlerLifetimeTest::handlersMayGoInAnyOrder()
     QCOMPARE(f.Editor()->text(), QString("7"));
 }
 
-void HandlerLifetimeTest::oldHandlerKeepsOutOfTheKeysOfTheNewOne()
+void HandlerLifetimeTest::oldHandlerKeepsOutOfTheReturnOfTheNewOne_data()
 {
-    LifetimeFixture f;
-    f.TypeLength("5");
+    AddKindRows();
+}
+
+void HandlerLifetimeTest::oldHandlerKeepsOutOfTheReturnOfTheNewOne()
+{
+    FETCH_KIND(rules);
+    LifetimeFixture f(rules);
+    f.TypeFirst("5");
     f.opHandler->EndInput();
     auto opOld = std::exchange(f.opHandler, f.CreateHandler());
-    f.TypeLength("6");
+    f.TypeFirst("6");
 
     QTest::keyClick(f.Editor(), Qt::Key_Return);
 
-    QCOMPARE(f.host.actionLog.inputs.size(), std::size_t(1));
-    QCOMPARE(f.host.actionLog.inputs[0].value, 6.0);
+    QCOMPARE(f.Inputs().size(), std::size_t(1));
+    QCOMPARE(f.Inputs()[0].value, 6.0);
 }
 
 }

@@ -1,11 +1,10 @@
 #pragma once
 
 #include "Dimension/CentralAngleTemporaryDimensionContext.h"
-#include "Dimension/LinearTemporaryDimensionContext.h"
 #include "Dimension/RadiusTemporaryDimensionContext.h"
 #include "Dimension/RectangleTemporaryDimensionContext.h"
 #include "Dimension/RotationTemporaryDimensionContext.h"
-#include "TemporaryDimensionHandlersImpl/KindFixture.h"
+#include "TemporaryDimensionHandlersImpl/HandlerFixture.h"
 
 #include <QtTest>
 
@@ -53,11 +52,7 @@ struct KindRules
 template <bool isLengthEnabled, bool isAngleEnabled>
 OwnerPtr<ITemporaryDimensionContext> CreateLinear()
 {
-    auto opContext = MakeOwner<LinearTemporaryDimensionContext>(Coordinate3d(), Vector3d(0, 0, 0),
-                                                                Vector3d(30, 40, 0));
-    opContext->SetLengthEnabled(isLengthEnabled);
-    opContext->SetAngleEnabled(isAngleEnabled);
-    return opContext;
+    return CreateLinearContext(isLengthEnabled, isAngleEnabled);
 }
 
 template <bool isCentralAngleShown>

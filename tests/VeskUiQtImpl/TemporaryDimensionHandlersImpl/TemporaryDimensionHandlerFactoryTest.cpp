@@ -1,7 +1,7 @@
 #include "TemporaryDimensionHandlersImpl/TemporaryDimensionHandlerFactory.h"
 
 #include "Dimension/TemporaryDimensionMgr.h"
-#include "TemporaryDimensionHandlersImpl/HandlerFixture.h"
+#include "TemporaryDimensionHandlersImpl/KindTable.h"
 
 #include <QtTest>
 
@@ -10,6 +10,11 @@
 
 namespace vesk::test
 {
+
+VESK_EXPOSE(FirstValidator, NumberValidator<double>, TemporaryDimensionHandler,
+            m_firstValueValidator)
+VESK_EXPOSE(SecondValidator, NumberValidator<double>, TemporaryDimensionHandler,
+            m_secondValueValidator)
 
 constexpr char Function[] = "vesk::TemporaryDimensionHandlerFactory::UpdateOrCreateHandler";
 
@@ -48,9 +53,12 @@ private slots:
     void needsAContext();
     void needsACurrentView();
     void needsAViewManager();
+    void makesAConfiguredHandlerOfTheRightKind_data();
     void makesAConfiguredHandlerOfTheRightKind();
-    void keepsAHandlerThatFitsAndConfiguresIt();
-    void replacesAHandlerOfAnotherKind();
+    void keepsAHandlerThatFits_data();
+    void keepsAHandlerThatFits();
+    void configuresAHandlerThatItKeeps();
+    void replacesAHandlerOfAnotherClass();
     void reportsAContextThatNoHandlerFits();
     void keepsQuietAboutAHandlerThatDoesNotFitAnUnknownContext();
     void worksInTheCurrentView();
@@ -95,27 +103,84 @@ void TemporaryDimensionHandlerFactoryTest::needsAViewManager()
     EXPECT_WARNING(host.warnings, L"pCurrentView为空", Function);
 }
 
-void TemporaryDimensionHandlerFactoryTest::makesAConfiguredHandlerOfTheRightKind()
+/// The class of a handler, as its Qt object names it.
+std::string ClassOf(ITemporaryDimensionHandler& handler)
 {
-    HandlerFixture f;
-
-    QCOMPARE(QByteArray(f.Object().metaObject()->className()),
-             QByteArray("vesk::LinearTemporaryDimensionHandler"));
-    QCOMPARE(f.opHandler->GenerateGraphics(&f.context)->GetChildCount(), 2);
+    return dynamic_cast<QObject&>(handler).metaObject()->className();
 }
 
-void TemporaryDimensionHandlerFactoryTest::keepsAHandlerThatFitsAndConfiguresIt()
+/// Whether the bounds of a handler's values are those of a context.
+bool IsConfigured(ITemporaryDimensionHandler& handler, const ITemporaryDimensionContext& context)
+{
+    auto& base = static_cast<TemporaryDimensionHandler&>(handler);
+    const NumberValidator<double>& first = base.*MemberOf(FirstValidator());
+    const NumberValidator<double>& second = base.*MemberOf(SecondValidator());
+    return first.GetBottom() == context.GetFirstValueRange().GetMin() &&
+           first.GetTop() == context.GetFirstValueRange().GetMax() &&
+           second.GetBottom() == context.GetSecondValueRange().GetMin() &&
+           second.GetTop() == context.GetSecondValueRange().GetMax();
+}
+
+void TemporaryDimensionHandlerFactoryTest::makesAConfiguredHandlerOfTheRightKind_data()
+{
+    AddKindRows();
+}
+
+void TemporaryDimensionHandlerFactoryTest::makesAConfiguredHandlerOfTheRightKind()
+{
+    FETCH_KIND(rules);
+    HostFixture host;
+    const auto opContext = rules.pCreateContext();
+
+    const auto opHandler = Factory().UpdateOrCreateHandler(opContext.Get(), nullptr);
+
+    QVERIFY(opHandler != nullptr);
+    QCOMPARE(ClassOf(*opHandler), rules.handler);
+    QVERIFY(IsConfigured(*opHandler, *opContext));
+}
+
+void TemporaryDimensionHandlerFactoryTest::keepsAHandlerThatFits_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<int>("currentKind");
+    for (std::size_t kind = 0; kind < AllKinds().size(); ++kind)
+    {
+        for (std::size_t current = 0; current < AllKinds().size(); ++current)
+            QTest::addRow("%s after %s", AllKinds()[kind].name, AllKinds()[current].name)
+                << int(kind) << int(current);
+    }
+}
+
+void TemporaryDimensionHandlerFactoryTest::keepsAHandlerThatFits()
+{
+    FETCH_KIND(rules);
+    QFETCH(int, currentKind);
+    const KindRules& currentRules = AllKinds()[std::size_t(currentKind)];
+    KindFixture f(currentRules.pCreateContext());
+    const auto opContext = rules.pCreateContext();
+
+    const auto opNew = Factory().UpdateOrCreateHandler(opContext.Get(), f.opHandler.Get());
+
+    const bool isKept = rules.handler == currentRules.handler;
+    QCOMPARE(opNew == nullptr, isKept);
+    ITemporaryDimensionHandler& handler = isKept ? *f.opHandler : *opNew;
+    QCOMPARE(ClassOf(handler), rules.handler);
+    QVERIFY(IsConfigured(handler, *opContext));
+}
+
+void TemporaryDimensionHandlerFactoryTest::configuresAHandlerThatItKeeps()
 {
     HandlerFixture f;
-    f.context.SetAngleEnabled(false);
+    f.context.SetFirstValueRange({5, 10});
+    QVERIFY(!IsConfigured(*f.opHandler, f.context));
 
     const auto opNew = Factory().UpdateOrCreateHandler(&f.context, f.opHandler.Get());
 
     QVERIFY(opNew == nullptr);
-    QCOMPARE(f.opHandler->GenerateGraphics(&f.context)->GetChildCount(), 1);
+    QVERIFY(IsConfigured(*f.opHandler, f.context));
 }
 
-void TemporaryDimensionHandlerFactoryTest::replacesAHandlerOfAnotherKind()
+void TemporaryDimensionHandlerFactoryTest::replacesAHandlerOfAnotherClass()
 {
     HandlerFixture f;
     ForeignHandler foreign;

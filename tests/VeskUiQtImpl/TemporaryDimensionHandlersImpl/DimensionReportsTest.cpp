@@ -1,0 +1,232 @@
+#include "TemporaryDimensionHandlersImpl/KindTable.h"
+
+#include <QtTest>
+
+namespace vesk::test
+{
+
+/// What every kind reports, and in whose name.
+class DimensionReportsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void graphicsWithoutContext_data();
+    void graphicsWithoutContext();
+    void graphicsOfAForeignContext_data();
+    void graphicsOfAForeignContext();
+    void graphicsWithoutView_data();
+    void graphicsWithoutView();
+    void graphicsWithoutModelView_data();
+    void graphicsWithoutModelView();
+    void configurationWithoutContext_data();
+    void configurationWithoutContext();
+    void statesOfOtherKinds_data();
+    void statesOfOtherKinds();
+    void valueInAStateOfAnotherKind_data();
+    void valueInAStateOfAnotherKind();
+    void tabInAStateOfAnotherKind_data();
+    void tabInAStateOfAnotherKind();
+    void eventThatIsNoKeyAfterAll_data();
+    void eventThatIsNoKeyAfterAll();
+    void nothingOfOtherEvents_data();
+    void nothingOfOtherEvents();
+};
+
+void DimensionReportsTest::graphicsWithoutContext_data()
+{
+    AddKindRows();
+}
+
+void DimensionReportsTest::graphicsWithoutContext()
+{
+    FETCH_KIND(rules);
+    KindFixture f(rules.pCreateContext());
+
+    QVERIFY(f.opHandler->GenerateGraphics(nullptr) == nullptr);
+
+    EXPECT_WARNING(f.host.warnings, L"pCtx为空", rules.NameOf("GenerateGraphics"));
+}
+
+void DimensionReportsTest::graphicsOfAForeignContext_data()
+{
+    AddKindRows();
+}
+
+void DimensionReportsTest::graphicsOfAForeignContext()
+{
+    FETCH_KIND(rules);
+    KindFixture f(rules.pCreateContext());
+    const ForeignContext context;
+
+    const auto opGroup = f.opHandler->GenerateGraphics(&context);
+
+    EXPECT_WARNING(f.host.warnings, rules.wrongContext, rules.NameOf("GenerateGraphics"));
+    QVERIFY(opGroup != nullptr);
+    QCOMPARE(opGroup->GetChildCount(), 0);
+    QVERIFY(!opGroup->IsPickable());
+}
+
+void DimensionReportsTest::graphicsWithoutView_data()
+{
+    AddKindRows();
+}
+
+void DimensionReportsTest::graphicsWithoutView()
+{
+    FETCH_KIND(rules);
+    KindFixture f(rules.pCreateContext());
+    f.host.core.GetViewManager().RemoveView(&f.host.view);
+
+    const auto opGroup = f.opHandler->GenerateGraphics(f.opContext.Get());
+
+    EXPECT_WARNING(f.host.warnings, L"pUIView为空！", rules.NameOf("GenerateGraphics"));
+    QVERIFY(opGroup != nullptr);
+    QCOMPARE(opGroup->GetChildCount(), 0);
+}
+
+void DimensionReportsTest::graphicsWithoutModelView_data()
+{
+    AddKindRows();
+}
+
+void DimensionReportsTest::graphicsWithoutModelView()
+{
+    FETCH_KIND(rules);
+    KindFixture f(rules.pCreateContext());
+    f.host.view.SetHasModelView(false);
+
+    const auto opGroup = f.opHandler->GenerateGraphics(f.opContext.Get());
+
+    EXPECT_WARNING(f.host.warnings, L"pModelView为空！", rules.NameOf("GenerateGraphics"));
+    QVERIFY(opGroup != nullptr);
+    QCOMPARE(opGroup->GetChildCount(), 0);
+}
+
+void DimensionReportsTest::configurationWithoutContext_data()
+{
+    AddKindRows();
+}
+
+void DimensionReportsTest::configurationWithoutContext()
+{
+    FETCH_KIND(rules);
+    KindFixture f(rules.pCreateContext());
+
+    QVERIFY(!f.opHandler->UpdateConfig(nullptr));
+
+    EXPECT_WARNING(f.host.warnings, L"pCtx为空。", std::string(BaseClass) + "UpdateConfig");
+}
+
+void DimensionReportsTest::statesOfOtherKinds_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<int>("state");
+    for (std::size_t kind = 0; kind < AllKinds().size(); ++kind)
+    {
+        for (int state = 0; state <= 7; ++state)
+        {
+            if (!AllKinds()[kind].HasState(InputState(state)))
+                QTest::addRow("%s, state %d", AllKinds()[kind].name, state) << int(kind) << state;
+        }
+    }
+}
+
+void DimensionReportsTest::statesOfOtherKinds()
+{
+    FETCH_KIND(rules);
+    QFETCH(int, state);
+    KindFixture f(rules.pCreateContext());
+
+    f.Type(InputState(state), "5");
+
+    EXPECT_WARNING(f.host.warnings, L"InputState输入非法!", rules.NameOf("ShowInputWidget"));
+    QVERIFY(!f.opHandler->IsInputting());
+    QVERIFY(f.Editor() == nullptr);
+}
+
+void DimensionReportsTest::valueInAStateOfAnotherKind_data()
+{
+    AddKindRows();
+}
+
+void DimensionReportsTest::valueInAStateOfAnotherKind()
+{
+    FETCH_KIND(rules);
+    KindFixture f(rules.pCreateContext());
+    f.host.BeginAction();
+    f.Type(rules.StartState(), "5");
+    f.SetState(rules.HasState(InputState::IS_Radius) ? InputState::IS_Length
+                                                     : InputState::IS_Radius);
+
+    f.opHandler->OnEditorReturnPressed();
+
+    EXPECT_WARNING(f.host.warnings, rules.wrongState, rules.NameOf("OnEditorReturnPressed"));
+    QVERIFY(f.Inputs().empty());
+    QVERIFY(f.Editor()->isVisible());
+    QVERIFY(!f.Editor()->hasSelectedText());
+}
+
+void DimensionReportsTest::tabInAStateOfAnotherKind_data()
+{
+    AddKindRows([](const KindRules& rules) { return rules.hasTab; });
+}
+
+void DimensionReportsTest::tabInAStateOfAnotherKind()
+{
+    FETCH_KIND(rules);
+    KindFixture f(rules.pCreateContext());
+    f.host.BeginAction();
+    f.Type(rules.StartState(), "5");
+    f.SetState(InputState::IS_Radius);
+
+    QVERIFY(QMetaObject::invokeMethod(&f.Object(), "OnEditorTabPressed"));
+
+    EXPECT_WARNING(f.host.warnings, rules.wrongState, rules.NameOf("OnEditorTabPressed"));
+    QVERIFY(f.Inputs().empty());
+}
+
+void DimensionReportsTest::eventThatIsNoKeyAfterAll_data()
+{
+    AddKindRows();
+}
+
+void DimensionReportsTest::eventThatIsNoKeyAfterAll()
+{
+    FETCH_KIND(rules);
+    KindFixture f(rules.pCreateContext());
+    QEvent fake(QEvent::KeyPress);
+
+    QVERIFY(!f.Object().event(&fake));
+
+    EXPECT_WARNING(f.host.warnings, L"难道pEvent不是键盘事件?", rules.NameOf("event"));
+    QCOMPARE(f.host.view.GetRedrawCount(), 0);
+}
+
+void DimensionReportsTest::nothingOfOtherEvents_data()
+{
+    AddKindRows();
+}
+
+void DimensionReportsTest::nothingOfOtherEvents()
+{
+    FETCH_KIND(rules);
+    KindFixture f(rules.pCreateContext());
+    f.Type(rules.StartState(), "5");
+    const int redrawCount = f.host.view.GetRedrawCount();
+    QEvent fontChange(QEvent::FontChange);
+    QEvent focusOut(QEvent::FocusOut);
+    QEvent fake(QEvent::KeyPress);
+
+    QVERIFY(!f.Object().event(&fontChange));
+    QVERIFY(!f.Object().eventFilter(f.Editor(), &focusOut));
+    QVERIFY(!f.Object().eventFilter(f.Editor(), &fake));
+
+    QVERIFY(f.opHandler->IsInputting());
+    QCOMPARE(f.host.view.GetRedrawCount(), redrawCount);
+}
+
+}
+
+QTEST_MAIN(vesk::test::DimensionReportsTest)
+#include "DimensionReportsTest.moc"
