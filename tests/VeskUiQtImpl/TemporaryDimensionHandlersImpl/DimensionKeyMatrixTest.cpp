@@ -109,7 +109,7 @@ std::vector<int> AllCodes()
     std::vector<int> codes{Qt::Key_Return, Qt::Key_Enter, Qt::Key_Tab,       Qt::Key_Backtab,
                            Qt::Key_Escape, Qt::Key_Left,  Qt::Key_Backspace, Qt::Key_Delete,
                            Qt::Key_F5,     Qt::Key_Shift};
-    for (int code = 0; code <= 112; ++code)
+    for (int code = Qt::Key_Space; code <= 112; ++code)
         codes.push_back(code);
     for (int code = 186; code <= 191; ++code)
         codes.push_back(code);
@@ -122,7 +122,7 @@ std::vector<Key> AllKeys(Door door)
     std::vector<Key> keys;
     for (const Qt::KeyboardModifiers modifiers :
          {Qt::KeyboardModifiers(Qt::NoModifier), Qt::KeyboardModifiers(Qt::ShiftModifier),
-          Qt::KeyboardModifiers(Qt::AltModifier), Qt::KeyboardModifiers(Qt::ControlModifier),
+          Qt::KeyboardModifiers(Qt::AltModifier),
           Qt::ShiftModifier | Qt::AltModifier | Qt::ControlModifier})
     {
         for (const int code : AllCodes())
