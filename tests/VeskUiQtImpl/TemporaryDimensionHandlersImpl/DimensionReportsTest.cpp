@@ -169,7 +169,7 @@ void DimensionReportsTest::valueInAStateOfAnotherKind()
 
 void DimensionReportsTest::tabInAStateOfAnotherKind_data()
 {
-    AddKindRows([](const KindRules& rules) { return rules.hasTab; });
+    AddKindRows([](const KindRules& rules) { return rules.Has(SwitchesWithTab); });
 }
 
 void DimensionReportsTest::tabInAStateOfAnotherKind()

@@ -76,8 +76,8 @@ void HandlerLifetimeTest::deathInTheDeliveryOfAValue_data()
                   {"Space", Qt::Key_Space},
                   {"Tab", Qt::Key_Tab}},
                  [](const KindRules& rules, int key) {
-                     return (key != Qt::Key_Space || rules.hasSpace) &&
-                            (key != Qt::Key_Tab || rules.hasTab);
+                     return (key != Qt::Key_Space || rules.Has(CommitsWithSpace)) &&
+                            (key != Qt::Key_Tab || rules.Has(SwitchesWithTab));
                  });
 }
 
@@ -119,7 +119,7 @@ void HandlerLifetimeTest::whatReturnFiltersWhenTheEditorDied()
 
 void HandlerLifetimeTest::inputThatTheActionEndedStaysEnded_data()
 {
-    AddKindRows([](const KindRules& rules) { return rules.hasTab; });
+    AddKindRows([](const KindRules& rules) { return rules.Has(SwitchesWithTab); });
 }
 
 void HandlerLifetimeTest::inputThatTheActionEndedStaysEnded()
@@ -158,7 +158,7 @@ void HandlerLifetimeTest::deathWhenAKeyRefreshesTheView()
 
 void HandlerLifetimeTest::noSecondRefreshAfterTheHandlerDied_data()
 {
-    AddKindRows([](const KindRules& rules) { return rules.hasMinus; });
+    AddKindRows([](const KindRules& rules) { return rules.Has(OpensWithMinus); });
 }
 
 void HandlerLifetimeTest::noSecondRefreshAfterTheHandlerDied()
@@ -176,7 +176,7 @@ void HandlerLifetimeTest::noSecondRefreshAfterTheHandlerDied()
 void HandlerLifetimeTest::deathWhenEscapeReachesTheView_data()
 {
     AddDeathRows({{"Escape", Qt::Key_Escape}},
-                 [](const KindRules& rules, int) { return rules.isEscapeHandedOn; });
+                 [](const KindRules& rules, int) { return rules.Has(HandsEscapeOn); });
 }
 
 void HandlerLifetimeTest::deathWhenEscapeReachesTheView()

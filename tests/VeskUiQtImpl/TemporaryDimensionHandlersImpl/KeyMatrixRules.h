@@ -114,22 +114,24 @@ private:
     bool IsTakenFromView(const Key& key) const
     {
         const bool isHosts = key.code == 'P' && key.modifiers.testFlag(Qt::AltModifier);
-        return IsDigit(key.code) || (m_kind.hasMinus && (key.code == 109 || key.code == 189)) ||
-               (m_kind.hasLetters && (key.code == 188 || IsBetween(key.code, 65, 90)) && !isHosts);
+        return IsDigit(key.code) ||
+               (m_kind.Has(OpensWithMinus) && (key.code == 109 || key.code == 189)) ||
+               (m_kind.Has(OpensWithLetters) && (key.code == 188 || IsBetween(key.code, 65, 90)) &&
+                !isHosts);
     }
 
     QString OpeningText(int code, const QString& text) const
     {
         if (IsDigit(code))
             return QString::number((code - 48) % 48);
-        if (m_kind.hasLetters && IsBetween(code, 65, 90))
+        if (m_kind.Has(OpensWithLetters) && IsBetween(code, 65, 90))
             return text;
-        return m_kind.hasMinus && IsMinus(code) ? "-" : "";
+        return m_kind.Has(OpensWithMinus) && IsMinus(code) ? "-" : "";
     }
 
     Outcome ExpectFromEvent(const Key& key, const QString& text, Outcome outcome) const
     {
-        const bool isComma = m_kind.hasLetters && m_kind.hasTab &&
+        const bool isComma = m_kind.Has(OpensWithLetters) && m_kind.Has(SwitchesWithTab) &&
                              (key.code == 44 || key.code == 188) &&
                              key.modifiers.testFlag(Qt::ShiftModifier);
         const QString opening = OpeningText(key.code, text);
@@ -181,11 +183,11 @@ private:
             outcome.warnings << Warning(m_kind.NameOf("eventFilter"), L"pUIView指针不能为空");
         else if (m_view == ViewIs::WithoutWidget)
             outcome.warnings << Warning(m_kind.NameOf("eventFilter"), L"pViewWidget指针不能为空");
-        else if (isReturn || (m_kind.hasSpace && key.code == Qt::Key_Space))
+        else if (isReturn || (m_kind.Has(CommitsWithSpace) && key.code == Qt::Key_Space))
             Commit(outcome);
         else if (key.code == Qt::Key_Escape)
             Escape(outcome);
-        else if (m_kind.hasTab && key.code == Qt::Key_Tab)
+        else if (m_kind.Has(SwitchesWithTab) && key.code == Qt::Key_Tab)
             Switch(outcome);
         return outcome;
     }
@@ -222,8 +224,8 @@ private:
     {
         outcome.state = InputState::IS_None;
         outcome.selected.clear();
-        outcome.result = m_kind.isEscapeHandedOn;
-        outcome.viewKeyCount += m_kind.isEscapeHandedOn ? 1 : 0;
+        outcome.result = m_kind.Has(HandsEscapeOn);
+        outcome.viewKeyCount += m_kind.Has(HandsEscapeOn) ? 1 : 0;
     }
 
     void Switch(Outcome& outcome) const
