@@ -1,0 +1,44 @@
+#pragma once
+
+#include "FormulaUnits.h"
+
+#include <QString>
+
+#include <optional>
+
+namespace mu
+{
+class Parser;
+}
+
+namespace vesk
+{
+
+/// A function that may be typed.
+struct FormulaFunction
+{
+    /// How its argument and its result hang together.
+    enum class Rule
+    {
+        Keeps,   ///< The result is what the argument is.
+        Halves,  ///< The argument is the square of what the result is.
+        OfAngle, ///< The argument is an angle, the result a number.
+        ToAngle, ///< The other way round.
+    };
+
+    const char* name;      ///< As typed.
+    const char* evaluator; ///< As the evaluator knows it; angles in degrees.
+    Rule rule;
+
+    /// What the result is; nothing when it cannot be.
+    std::optional<Dimension> ResultOf(const Dimension& argument) const;
+};
+
+/// The function of that name, null when there is none.
+const FormulaFunction* FindFunction(const QString& name);
+
+/// Gives the evaluator the functions of angles in degrees. They are exact wherever a table of
+/// angles is: sin 30 is a half.
+void DefineDegreeFunctions(mu::Parser& parser);
+
+}
