@@ -72,9 +72,8 @@ QString ShortestNumber(double value)
     const double size = std::abs(value);
     const bool isFixed = size == 0.0 || (size >= LeastFixed && size < GreatestFixed);
     std::array<char, 32> digits;
-    const std::to_chars_result result =
-        isFixed ? std::to_chars(digits.begin(), digits.end(), value, std::chars_format::fixed)
-                : std::to_chars(digits.begin(), digits.end(), value);
+    const auto format = isFixed ? std::chars_format::fixed : std::chars_format::scientific;
+    const std::to_chars_result result = std::to_chars(digits.begin(), digits.end(), value, format);
     return QString::fromLatin1(digits.data(), static_cast<int>(result.ptr - digits.data()));
 }
 
