@@ -145,7 +145,7 @@ private slots:
         QTest::newRow("two points") << "1..2";
         QTest::newRow("zero") << "0";
         QTest::newRow("negative") << "-5";
-        QTest::newRow("comma") << "1,5";
+        QTest::newRow("comma of thousands") << "1,500";
         QTest::newRow("sign") << "+";
     }
 

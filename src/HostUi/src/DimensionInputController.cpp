@@ -5,8 +5,11 @@
 #include "Command/IActionManager.h"
 #include "Dimension/ITemporaryDimensionContext.h"
 #include "Dimension/ITemporaryDimensionHandler.h"
-#include "Geometry/Constants.h"
+#include "Dimension/LengthUnit.h"
+#include "EditorNotes.h"
+#include "EscapeKey.h"
 #include "HostUi/QtText.h"
+#include "InputJudge.h"
 #include "Journal/IJournalUiObject.h"
 #include "KeyCode.h"
 #include "View/IUiDocumentViewManager.h"
@@ -14,8 +17,8 @@
 
 #include <QGuiApplication>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QLineEdit>
+#include <QMouseEvent>
 
 namespace vesk
 {
@@ -30,12 +33,6 @@ TemporaryDimensionMgr& Manager()
     return *TemporaryDimensionMgr::GetInstance();
 }
 
-bool IsCommitting(int key)
-{
-    return key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Tab ||
-           key == Qt::Key_Space;
-}
-
 IUiView* CurrentView()
 {
     const IUiDocumentViewManager* pViews = IUiDocumentViewManager::Get();
@@ -48,22 +45,20 @@ QWidget* CurrentViewWidget()
     return pView != nullptr ? QWidget::find(pView->GetWindowId()) : nullptr;
 }
 
-/// The range of the field's values in the dimensions of the running action.
-Intervald CurrentRange(InputState field)
+/// The field that is being typed in.
+InputField CurrentField()
 {
     const IAction* pAction = IActionManager::CurrentAction();
     OwnerPtr<ITemporaryDimensionContext> opContext;
     if (pAction != nullptr)
         opContext = pAction->CreateDimensionContext();
-    if (opContext == nullptr)
-        return {-Constants::MAX_MODEL_SIZE, Constants::MAX_MODEL_SIZE};
-    const bool isAngle = field == InputState::IS_Angle || field == InputState::IS_CentralAngle;
-    return isAngle ? opContext->GetSecondValueRange() : opContext->GetFirstValueRange();
+    return FindInputField(opContext.Get(), Manager().GetInputState());
 }
 
 }
 
 DimensionInputController::DimensionInputController()
+    : m_pNotes(std::make_unique<EditorNotes>()), m_pEscape(std::make_unique<EscapeKey>())
 {
     JournalManager::GetInstance().AddObserver(this);
     Manager().SetHandlerAccess(this);
@@ -85,7 +80,7 @@ bool DimensionInputController::OnViewKey(QKeyEvent& event)
     }
     if (event.key() != Qt::Key_Escape)
         return OpenInput(event);
-    if (!IsNewEscape(event))
+    if (!m_pEscape->Press(event))
         return true;
     if (IActionManager::CurrentAction() == nullptr)
         return false;
@@ -110,28 +105,25 @@ QLineEdit* DimensionInputController::GetActiveEditor() const
 
 QString DimensionInputController::GetMessage() const
 {
-    const bool isShown = m_pMessage != nullptr && m_pMessage->isVisible();
-    return isShown && GetActiveEditor() != nullptr ? m_pMessage->text() : QString();
+    return GetActiveEditor() != nullptr ? m_refusal : QString();
 }
 
-void DimensionInputController::PlaceMessage()
+std::optional<double> DimensionInputController::GetValue() const
 {
-    if (m_pMessage == nullptr)
-        return;
-    if (GetActiveEditor() == nullptr)
-    {
-        m_pMessage->hide();
-        return;
-    }
-    constexpr int Gap = 4;
-    const QWidget* pView = m_pMessage->parentWidget();
-    const QPoint corner = pView->mapFromGlobal(m_pEditor->geometry().bottomLeft());
-    const QSize size = m_pMessage->sizeHint();
-    const bool hasRoomBelow = corner.y() + Gap + size.height() <= pView->height();
-    const int y =
-        hasRoomBelow ? corner.y() + Gap : corner.y() - m_pEditor->height() - Gap - size.height();
-    const int x = qBound(0, corner.x(), qMax(0, pView->width() - size.width()));
-    m_pMessage->setGeometry(QRect(QPoint(x, y), size));
+    const QLineEdit* pEditor = GetActiveEditor();
+    if (pEditor == nullptr)
+        return std::nullopt;
+    const TypedReading reading =
+        ReadTypedText(pEditor->text(), CurrentField().quantity, LengthUnit::GetCurrent());
+    const bool isRead = reading.isPlain || !Manager().IsRawTextInput();
+    return reading.fault == TypedTextFault::None && isRead ? std::optional(reading.value)
+                                                           : std::nullopt;
+}
+
+void DimensionInputController::SetKeyStripShown(bool isShown)
+{
+    m_isKeyStripShown = isShown;
+    UpdateNotes();
 }
 
 void DimensionInputController::OnRecord(const JournalRecord&) {}
@@ -146,13 +138,14 @@ void DimensionInputController::OnUiObject(const IJournalUiObject& object, int ki
         return;
     m_pEditor = pEditor;
     connect(pEditor, &QLineEdit::textEdited, this, &DimensionInputController::OnTextEdited);
+    connect(pEditor, &QLineEdit::textChanged, this, &DimensionInputController::UpdateNotes);
 }
 
 void DimensionInputController::ResetEditorPosition(ITemporaryDimensionHandler& handler)
 {
     if (auto* pObject = dynamic_cast<QObject*>(&handler))
         QMetaObject::invokeMethod(pObject, "ResetEditorPosition");
-    PlaceMessage();
+    UpdateNotes();
 }
 
 InputState DimensionInputController::GetInputState(ITemporaryDimensionHandler& handler)
@@ -171,19 +164,37 @@ bool DimensionInputController::IsRawTextInput(ITemporaryDimensionHandler& handle
 bool DimensionInputController::eventFilter(QObject* pWatched, QEvent* pEvent)
 {
     if (pEvent->type() == QEvent::KeyRelease)
-        NoteRelease(static_cast<QKeyEvent&>(*pEvent));
-    if (pWatched != m_pEditor || pWatched == nullptr)
-        return false;
-    if (pEvent->type() == QEvent::KeyPress)
-        return FilterEditorKey(static_cast<QKeyEvent&>(*pEvent));
-    if (pEvent->type() == QEvent::Hide)
+        m_pEscape->Release(static_cast<QKeyEvent&>(*pEvent));
+    NoteCursor(pWatched, *pEvent);
+    return pWatched == m_pEditor && pWatched != nullptr && FilterEditorEvent(*pEvent);
+}
+
+void DimensionInputController::NoteCursor(const QObject* pWatched, const QEvent& event)
+{
+    const bool isMouse =
+        event.type() == QEvent::MouseMove || event.type() == QEvent::MouseButtonPress;
+    if ((!isMouse && event.type() != QEvent::Leave) || pWatched != CurrentViewWidget())
+        return;
+    m_cursor.reset();
+    if (isMouse)
+        m_cursor = static_cast<const QMouseEvent&>(event).pos();
+}
+
+bool DimensionInputController::FilterEditorEvent(QEvent& event)
+{
+    if (event.type() == QEvent::KeyPress)
+        return FilterEditorKey(static_cast<QKeyEvent&>(event));
+    if (event.type() == QEvent::Hide)
         OnEditorHidden();
+    if (event.type() == QEvent::Move || event.type() == QEvent::Resize)
+        UpdateNotes();
     return false;
 }
 
 void DimensionInputController::OnEditorHidden()
 {
-    PlaceMessage();
+    m_refusal.clear();
+    m_pNotes->Hide();
     // Without a window manager nobody else gives the keyboard back.
     IUiView* pView = CurrentView();
     if (pView != nullptr && QGuiApplication::applicationState() == Qt::ApplicationActive)
@@ -202,50 +213,29 @@ bool DimensionInputController::FilterEditorKey(QKeyEvent& event)
         return true;
     }
     if (event.key() == Qt::Key_Escape)
-        return !IsNewEscape(event);
-    if (!IsCommitting(event.key()))
+        return !m_pEscape->Press(event);
+    const InputField field = CurrentField();
+    if (!field.IsCommitting(event.key()))
         return false;
-    if (!Manager().IsRawTextInput() && IsRefused(*pEditor))
+    const TypedValue typed{ToWide(pEditor->text()), !m_isTextTyped};
+    if (!Manager().IsRawTextInput() && !IsAccepted(*pEditor, field))
         return true;
-    Manager().SetTypedValue({ToWide(pEditor->text()), !m_isTextTyped});
+    Manager().SetTypedValue(typed);
     m_isTextTyped = m_isTextTyped && event.key() != Qt::Key_Tab;
     return false;
 }
 
-void DimensionInputController::NoteRelease(const QKeyEvent& event)
+/// Puts a number in the place of what comes to one. What is refused stays, selected.
+bool DimensionInputController::IsAccepted(QLineEdit& editor, const InputField& field)
 {
-    if (event.key() != Qt::Key_Escape || event.isAutoRepeat())
-        return;
-    m_isEscapeDown = false;
-    m_escapeReleaseTime = event.timestamp();
-}
-
-/// A key that is held down was meant once. The toolkit does not mark every repetition: when the
-/// keyboard goes to another window a release may be lost, and a release that is read before its
-/// press looks like the end. The two then bear the same time, which no finger can do.
-bool DimensionInputController::IsNewEscape(const QKeyEvent& event)
-{
-    constexpr qint64 LongestRepeatDelayMs = 1000;
-    const bool isDown = m_isEscapeDown && m_sinceEscape.elapsed() < LongestRepeatDelayMs;
-    const bool isTornPair = event.timestamp() != 0 && event.timestamp() == m_escapeReleaseTime;
-    m_isEscapeDown = true;
-    m_sinceEscape.start();
-    return !event.isAutoRepeat() && !isDown && !isTornPair;
-}
-
-bool DimensionInputController::IsRefused(QLineEdit& editor)
-{
-    bool isNumber = false;
-    const double value = editor.text().toDouble(&isNumber);
-    const Intervald range = CurrentRange(Manager().GetInputState());
-    if (isNumber && range.Contains(value))
-        return false;
-    editor.selectAll();
-    ShowMessage(isNumber ? QStringLiteral("请输入 %1 到 %2 之间的数")
-                               .arg(QString::number(range.GetMin(), 'g', 12),
-                                    QString::number(range.GetMax(), 'g', 12))
-                         : QStringLiteral("这不是一个数"));
-    return true;
+    const InputVerdict verdict = JudgeInput(editor.text(), field, LengthUnit::GetCurrent());
+    m_refusal = verdict.refusal;
+    if (!verdict.refusal.isEmpty())
+        editor.selectAll();
+    else if (verdict.replacement.has_value())
+        editor.setText(*verdict.replacement);
+    UpdateNotes();
+    return verdict.refusal.isEmpty();
 }
 
 /// False for a key that can open no input.
@@ -273,26 +263,28 @@ void DimensionInputController::OpenInputWithText(const QString& text)
 void DimensionInputController::OnTextEdited()
 {
     m_isTextTyped = true;
-    ShowMessage(QString());
+    m_refusal.clear();
+    UpdateNotes();
 }
 
-void DimensionInputController::ShowMessage(const QString& message)
+void DimensionInputController::UpdateNotes()
 {
+    const QLineEdit* pEditor = GetActiveEditor();
     QWidget* pView = CurrentViewWidget();
-    if (m_pMessage == nullptr && pView != nullptr && !message.isEmpty())
+    if (pEditor == nullptr || pView == nullptr || !pEditor->isVisible())
     {
-        m_pMessage = new QLabel(pView);
-        m_pMessage->setAttribute(Qt::WA_TransparentForMouseEvents);
-        m_pMessage->setMargin(4);
-        m_pMessage->setStyleSheet(
-            QStringLiteral("background: #b03a37; color: white; border-radius: 4px"));
-    }
-    if (m_pMessage == nullptr)
+        m_pNotes->Hide();
         return;
-    m_pMessage->setText(message);
-    PlaceMessage();
-    m_pMessage->setVisible(!message.isEmpty());
-    m_pMessage->raise();
+    }
+    const InputField field = CurrentField();
+    NoteTexts texts;
+    texts.refusal = m_refusal;
+    if (!Manager().IsRawTextInput())
+        texts.value = DescribeValue(pEditor->text(), field.quantity, LengthUnit::GetCurrent());
+    if (m_isKeyStripShown)
+        texts.keys = DescribeKeys(field);
+    const QPoint corner = pView->mapFromGlobal(pEditor->mapToGlobal(QPoint(0, 0)));
+    m_pNotes->Show(*pView, QRect(corner, pEditor->size()), m_cursor, texts);
 }
 
 }

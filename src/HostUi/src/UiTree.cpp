@@ -17,7 +17,6 @@
 #include <QLineEdit>
 #include <QMainWindow>
 
-#include <cmath>
 #include <optional>
 
 namespace vesk
@@ -64,8 +63,7 @@ Json DescribeEditor(const DimensionInputController& input)
     Json locked = Json::array();
     for (const InputState state : manager.GetLocked())
         locked.push_back(static_cast<int>(state));
-    bool isNumber = false;
-    const double value = pEditor->text().toDouble(&isNumber);
+    const std::optional<double> value = input.GetValue();
     return {{"text", Utf8(pEditor->text())},
             {"selectedText", Utf8(pEditor->selectedText())},
             {"rect", DescribeRect(*pEditor, pEditor->rect())},
@@ -73,7 +71,7 @@ Json DescribeEditor(const DimensionInputController& input)
             {"focus", pEditor->hasFocus()},
             {"state", static_cast<int>(manager.GetInputState())},
             {"locked", locked},
-            {"value", isNumber && std::isfinite(value) ? Json(value) : Json(nullptr)},
+            {"value", value.has_value() ? Json(*value) : Json(nullptr)},
             {"message", Utf8(input.GetMessage())}};
 }
 

@@ -4,22 +4,30 @@
 #include "HostUi/HostUiExport.h"
 #include "Journal/JournalManager.h"
 
-#include <QElapsedTimer>
 #include <QObject>
+#include <QPoint>
 #include <QPointer>
 
+#include <memory>
+#include <optional>
+
 class QKeyEvent;
-class QLabel;
 class QLineEdit;
 
 namespace vesk
 {
 
+class EditorNotes;
+class EscapeKey;
+struct InputField;
+
 /// Sees to it that every key of a dimension input arrives, in order and in the right place.
 ///
 /// While a value is being typed, keys go to the editor, wherever the window system delivered them;
-/// otherwise to the view. A text that makes no sense is refused in place when it is committed: it
-/// stays, is selected, and a message beside the editor says why. Installed while it lives.
+/// otherwise to the view. A text that is to be taken is judged before the handler sees the key: a
+/// formula, or a number with a unit, gives way to the number that it comes to, and what has no
+/// clear value is refused in place: it stays, is selected, and a message beside the editor says
+/// why. What a handler takes as a text is left alone. Installed while it lives.
 class VESK_HOST_UI_API DimensionInputController final : public QObject,
                                                         public IJournalObserver,
                                                         public ITemporaryDimensionHandlerAccess
@@ -43,8 +51,13 @@ public:
     /// Why the text was refused; empty while nothing is refused.
     QString GetMessage() const;
 
-    /// Puts the message beside the editor again, after the editor was moved.
-    void PlaceMessage();
+    /// What the text of the editor comes to, in the unit shown, whether in range or not; nothing
+    /// where it has no clear value.
+    std::optional<double> GetValue() const;
+
+    /// Whether a strip beside the editor tells what the keys do there. It does at first.
+    bool IsKeyStripShown() const { return m_isKeyStripShown; }
+    void SetKeyStripShown(bool isShown);
 
     void OnRecord(const JournalRecord& record) override;
     void OnUiObject(const IJournalUiObject& object, int kind) override;
@@ -57,29 +70,30 @@ protected:
     bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
 
 private:
+    void NoteCursor(const QObject* pWatched, const QEvent& event);
+    bool FilterEditorEvent(QEvent& event);
     bool FilterEditorKey(QKeyEvent& event);
-    void NoteRelease(const QKeyEvent& event);
-    bool IsNewEscape(const QKeyEvent& event);
-    bool IsRefused(QLineEdit& editor);
+    bool IsAccepted(QLineEdit& editor, const InputField& field);
     bool OpenInput(const QKeyEvent& event);
     void OpenInputWithText(const QString& text);
     void OnEditorHidden();
     void OnTextEdited();
-    void ShowMessage(const QString& message);
+    void UpdateNotes();
 
     /// As a plain widget: it is asked for while the editor is being destroyed, too.
     QPointer<QWidget> m_pEditor;
-    QPointer<QLabel> m_pMessage;
+    std::unique_ptr<EditorNotes> m_pNotes;
+    std::unique_ptr<EscapeKey> m_pEscape;
+
+    /// Why the text as it stands was refused.
+    QString m_refusal;
+    bool m_isKeyStripShown = true;
+
+    /// Where the cursor is in the current view; nothing while it is elsewhere.
+    std::optional<QPoint> m_cursor;
 
     /// Whether the text of the field is the user's: false while it shows the field's current value.
     bool m_isTextTyped = false;
-
-    /// Whether Escape was pressed and its release has not come yet, and since when it was heard of.
-    bool m_isEscapeDown = false;
-    QElapsedTimer m_sinceEscape;
-
-    /// The window system's time of its last release.
-    unsigned long m_escapeReleaseTime = 0;
 };
 
 }

@@ -1,0 +1,75 @@
+#include "InputField.h"
+
+#include "Dimension/CentralAngleTemporaryDimensionContext.h"
+#include "Dimension/LinearTemporaryDimensionContext.h"
+#include "Dimension/RadiusTemporaryDimensionContext.h"
+#include "Dimension/RectangleTemporaryDimensionContext.h"
+#include "Dimension/RotationTemporaryDimensionContext.h"
+#include "Geometry/Constants.h"
+
+#include <typeindex>
+
+namespace vesk
+{
+namespace
+{
+
+/// What the handler of a kind of context does with the keys of a field.
+struct FieldKeys
+{
+    std::type_index context;
+    InputState state;
+    bool commitsWithSpace;
+    const char16_t* next;
+};
+
+const FieldKeys s_fields[] = {
+    {typeid(LinearTemporaryDimensionContext), InputState::IS_Length, true, u"角度"},
+    {typeid(LinearTemporaryDimensionContext), InputState::IS_Angle, true, u"长度"},
+    {typeid(RadiusTemporaryDimensionContext), InputState::IS_Radius, true, u""},
+    {typeid(CentralAngleTemporaryDimensionContext), InputState::IS_CentralAngle, false, u""},
+    {typeid(RectangleTemporaryDimensionContext), InputState::IS_Width, true, u"高度"},
+    {typeid(RectangleTemporaryDimensionContext), InputState::IS_Height, true, u"宽度"},
+    {typeid(RotationTemporaryDimensionContext), InputState::IS_CentralAngle, true, u""},
+};
+
+bool IsAngle(InputState state)
+{
+    return state == InputState::IS_Angle || state == InputState::IS_CentralAngle;
+}
+
+/// Tab leads from one field to the other only where there are both.
+bool HasOtherField(const ITemporaryDimensionContext& context)
+{
+    const auto* pLinear = dynamic_cast<const LinearTemporaryDimensionContext*>(&context);
+    return pLinear == nullptr || (pLinear->IsLengthEnabled() && pLinear->IsAngleEnabled());
+}
+
+}
+
+bool InputField::IsCommitting(int key) const
+{
+    return key == Qt::Key_Return || key == Qt::Key_Enter ||
+           (key == Qt::Key_Space && commitsWithSpace) || (key == Qt::Key_Tab && !next.isEmpty());
+}
+
+InputField FindInputField(const ITemporaryDimensionContext* pContext, InputState state)
+{
+    InputField field;
+    field.quantity = IsAngle(state) ? Quantity::Angle : Quantity::Length;
+    field.range = {-Constants::MAX_MODEL_SIZE, Constants::MAX_MODEL_SIZE};
+    if (pContext == nullptr)
+        return field;
+    field.range = IsAngle(state) ? pContext->GetSecondValueRange() : pContext->GetFirstValueRange();
+    for (const FieldKeys& keys : s_fields)
+    {
+        if (keys.context != typeid(*pContext) || keys.state != state)
+            continue;
+        field.commitsWithSpace = keys.commitsWithSpace;
+        if (HasOtherField(*pContext))
+            field.next = QString::fromUtf16(keys.next);
+    }
+    return field;
+}
+
+}

@@ -1,0 +1,70 @@
+#include "InputJudge.h"
+
+#include "Dimension/LengthUnit.h"
+#include "Dimension/TemporaryDimensionStyle.h"
+#include "HostUi/QtText.h"
+
+#include <QRegularExpression>
+#include <QStringList>
+
+namespace vesk
+{
+namespace
+{
+
+QString DescribeRange(const Intervald& range)
+{
+    return QStringLiteral("请输入 %1 到 %2 之间的数")
+        .arg(QString::number(range.GetMin(), 'g', 12), QString::number(range.GetMax(), 'g', 12));
+}
+
+/// As dimensions show it, without zeros at the end; with some digits where none would be left.
+QString Round(double value, Quantity quantity)
+{
+    constexpr int FewDigits = 3;
+    const TemporaryDimensionStyle style;
+    const QString text = ToQString(quantity == Quantity::Length ? style.FormatLength(value)
+                                                                : style.FormatAngle(value));
+    if (text.toDouble() == 0.0 && value != 0.0)
+        return QString::number(value, 'g', FewDigits);
+    static const QRegularExpression s_lastZeros(QStringLiteral("\\.?0*$"));
+    return QString(text).remove(s_lastZeros);
+}
+
+}
+
+InputVerdict JudgeInput(const QString& text, const InputField& field, const LengthUnit& unit)
+{
+    const TypedReading reading = ReadTypedText(text, field.quantity, unit);
+    if (reading.fault != TypedTextFault::None)
+        return {DescribeFault(reading.fault), std::nullopt};
+    if (!field.range.Contains(reading.value))
+        return {DescribeRange(field.range), std::nullopt};
+    if (reading.isPlain)
+        return {};
+    return {{}, ShortestNumber(reading.value)};
+}
+
+QString DescribeValue(const QString& text, Quantity quantity, const LengthUnit& unit)
+{
+    const TypedReading reading = ReadTypedText(text, quantity, unit);
+    if (reading.fault != TypedTextFault::None || reading.isPlain)
+        return {};
+    const QString symbol = quantity == Quantity::Length
+                               ? QLatin1Char(' ') + ToQString(unit.GetSymbol())
+                               : QString(QChar(0xb0));
+    return QStringLiteral("= ") + Round(reading.value, quantity) + symbol;
+}
+
+QString DescribeKeys(const InputField& field)
+{
+    const QString pattern = QStringLiteral("<b>%1</b>&nbsp;%2");
+    QStringList keys;
+    if (!field.next.isEmpty())
+        keys << pattern.arg(QStringLiteral("Tab"), field.next);
+    keys << pattern.arg(QStringLiteral("Enter"), QStringLiteral("确定"))
+         << pattern.arg(QStringLiteral("Esc"), QStringLiteral("取消"));
+    return keys.join(QStringLiteral(" · "));
+}
+
+}

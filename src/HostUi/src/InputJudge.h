@@ -1,0 +1,34 @@
+#pragma once
+
+#include "InputField.h"
+
+#include <QString>
+
+#include <optional>
+
+namespace vesk
+{
+
+class LengthUnit;
+
+/// What is to be done with a text that is to be taken as a field's value.
+struct InputVerdict
+{
+    /// Why it is refused; empty for a value that can be taken.
+    QString refusal;
+
+    /// The number to put in its place; nothing where it is to stay as it is.
+    std::optional<QString> replacement;
+};
+
+/// Judges a text. Only numbers of the field's range are ever taken.
+InputVerdict JudgeInput(const QString& text, const InputField& field, const LengthUnit& unit);
+
+/// What a text comes to, for the user to read beside it: "= 70.711 mm". Empty for a plain number
+/// and where there is no value.
+QString DescribeValue(const QString& text, Quantity quantity, const LengthUnit& unit);
+
+/// What the keys do in a field: "Tab 角度 · Enter 确定 · Esc 取消", the keys in bold.
+QString DescribeKeys(const InputField& field);
+
+}
