@@ -9,6 +9,7 @@
 
 #include "Command/ActionManager.h"
 #include "Command/ICommandManager.h"
+#include "HostUi/DimensionInputController.h"
 #include "Journal/JournalManager.h"
 #include "View/IUiDocumentViewManager.h"
 
@@ -96,6 +97,20 @@ std::vector<CommandEntry> MakeDrawingCommands(Workspace& workspace)
     };
 }
 
+CommandEntry MakeKeyStripCommand(DimensionInputController& input)
+{
+    return {L"Sketcher.KeyStrip",
+            L"按键提示",
+            L":/icons/key-strip.svg",
+            L"键入数值时显示或隐藏按键提示",
+            L"视图",
+            L"",
+            L"",
+            Plain,
+            Do([&input] { input.SetKeyStripShown(!input.IsKeyStripShown()); }),
+            {}};
+}
+
 std::vector<CommandEntry> MakeZoomCommands(const Sketch& sketch, SketchView& view)
 {
     constexpr double ZoomStep = 2.0;
@@ -153,9 +168,11 @@ std::vector<CommandEntry> MakeZoomCommands(const Sketch& sketch, SketchView& vie
 
 }
 
-std::vector<CommandEntry> MakeCommandTable(Workspace& workspace, SketchView& view)
+std::vector<CommandEntry> MakeCommandTable(Workspace& workspace, SketchView& view,
+                                           DimensionInputController& input)
 {
     std::vector<CommandEntry> entries = MakeDrawingCommands(workspace);
+    entries.push_back(MakeKeyStripCommand(input));
     for (CommandEntry& entry : MakeZoomCommands(workspace.sketch, view))
         entries.push_back(std::move(entry));
     return entries;

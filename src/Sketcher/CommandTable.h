@@ -8,6 +8,11 @@
 class SketchView;
 struct Workspace;
 
+namespace vesk
+{
+class DimensionInputController;
+}
+
 /// One command of the program: where it is shown, and what is done.
 struct CommandEntry
 {
@@ -25,9 +30,10 @@ struct CommandEntry
     vesk::Command::Condition isEnabled; ///< Without one the command is always enabled.
 };
 
-/// All commands, in the order of the ribbon and of the menus. Workspace and view outlive the
-/// commands' execution.
-std::vector<CommandEntry> MakeCommandTable(Workspace& workspace, SketchView& view);
+/// All commands, in the order of the ribbon and of the menus. The arguments outlive the commands'
+/// execution.
+std::vector<CommandEntry> MakeCommandTable(Workspace& workspace, SketchView& view,
+                                           vesk::DimensionInputController& input);
 
 /// Registers the commands with the host.
 void RegisterCommands(const std::vector<CommandEntry>& entries);

@@ -69,7 +69,7 @@ Session::Session(const Options& options)
     m_application.SetMainWindow(&m_window);
     m_application.SetDockManager(m_pDocks.get());
     m_pPanes = std::make_unique<Panes>(m_workspace, m_window, *m_pDocks, m_controls, m_input);
-    std::vector<CommandEntry> commands = MakeCommandTable(m_workspace, m_window.GetView());
+    std::vector<CommandEntry> commands = MakeCommandTable(m_workspace, m_window.GetView(), m_input);
     for (CommandEntry& entry : m_pPanes->MakeCommands())
         commands.push_back(std::move(entry));
     RegisterCommands(commands);
