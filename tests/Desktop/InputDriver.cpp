@@ -20,7 +20,7 @@ QString KeyName(QChar character)
         {'.', "period"}, {',', "comma"},      {'-', "minus"},      {'+', "plus"},
         {' ', "space"},  {'(', "parenleft"},  {')', "parenright"}, {'*', "asterisk"},
         {'/', "slash"},  {'_', "underscore"}, {'=', "equal"},      {'\'', "apostrophe"},
-        {':', "colon"}};
+        {':', "colon"},  {'"', "quotedbl"},   {'^', "asciicircum"}};
     return s_names.value(character, QString(character));
 }
 

@@ -104,6 +104,8 @@ std::optional<UiEditor> UiTree::FindEditor() const
     editor.isVisible = json["visible"].toBool();
     editor.hasFocus = json["focus"].toBool();
     editor.state = json["state"].toInt();
+    if (json["value"].isDouble())
+        editor.value = json["value"].toDouble();
     for (const QJsonValue state : json["locked"].toArray())
         editor.locked << state.toInt();
     return editor;

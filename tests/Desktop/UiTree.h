@@ -45,6 +45,7 @@ struct UiEditor
     bool isVisible = false;
     bool hasFocus = false;
     int state = 0;
+    std::optional<double> value; ///< Nothing where the text has none.
     QVector<int> locked;
 };
 

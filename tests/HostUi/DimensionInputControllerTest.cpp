@@ -331,6 +331,25 @@ private slots:
         QCOMPARE(f.script.taken[0].text, QString("5"));
     }
 
+    void tabWithoutAnInputIsKeptFromTheWindow_data()
+    {
+        QTest::addColumn<int>("key");
+
+        QTest::newRow("Tab") << int(Qt::Key_Tab);
+        QTest::newRow("Shift+Tab") << int(Qt::Key_Backtab);
+    }
+
+    void tabWithoutAnInputIsKeptFromTheWindow()
+    {
+        QFETCH(int, key);
+        InputFixture f(Linear());
+        QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+
+        QVERIFY(f.controller.OnViewKey(press));
+        ActionManager::Reset();
+        QVERIFY(!f.controller.OnViewKey(press));
+    }
+
     void clickTakesWhatIsClearOnly()
     {
         InputFixture f(Linear());

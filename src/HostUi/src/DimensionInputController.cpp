@@ -78,6 +78,9 @@ bool DimensionInputController::OnViewKey(QKeyEvent& event)
         QCoreApplication::sendEvent(pEditor, &event);
         return true;
     }
+    // Left over, it would be offered to the window, which moves the focus.
+    if (event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab)
+        return IActionManager::CurrentAction() != nullptr;
     if (event.key() != Qt::Key_Escape)
         return OpenInput(event);
     if (!m_pEscape->Press(event))

@@ -1,0 +1,160 @@
+#include "Desktop/DesktopTest.h"
+
+#include <cmath>
+
+namespace vesk
+{
+
+namespace
+{
+
+constexpr double TOLERANCE = 1e-9;
+
+}
+
+/// Lengths and angles as people type them, with real keys.
+class TypedValueTest : public DesktopTest
+{
+    Q_OBJECT
+
+private slots:
+    void clearTextMakesTheVeryLine_data();
+    void clearTextMakesTheVeryLine();
+    void unclearTextIsRefusedWithItsReason_data();
+    void unclearTextIsRefusedWithItsReason();
+    void treeTellsWhatTheTextComesTo();
+    void formulaIsTakenAtFullSpeedWithTab();
+    void tabBeforeTheFirstDigitLosesNone();
+    void stripCommandIsOnTheRibbonAndLeavesTheTextAlone();
+
+private:
+    bool DrawsOneLine(double length);
+};
+
+void TypedValueTest::clearTextMakesTheVeryLine_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<double>("millimetres");
+    QTest::newRow("centimetres") << "10cm" << 100.0;
+    QTest::newRow("decimal comma") << "3,5" << 3.5;
+    QTest::newRow("point first") << ".5" << 0.5;
+    QTest::newRow("root") << "sqrt(2)*50" << std::sqrt(2.0) * 50.0;
+    QTest::newRow("parentheses first") << "(3+4)*2" << 14.0;
+    QTest::newRow("sum") << "20+2" << 22.0;
+    QTest::newRow("half an inch") << "1/2in" << 12.7;
+    QTest::newRow("feet and inches") << "10'6\"" << 3200.4;
+    QTest::newRow("sum of lengths") << "1m+5cm" << 1050.0;
+}
+
+void TypedValueTest::clearTextMakesTheVeryLine()
+{
+    QFETCH(QString, text);
+    QFETCH(double, millimetres);
+
+    QVERIFY(Session().BeginLine());
+    QVERIFY(Session().MoveInView(QPointF(80.0, 40.0)));
+    QVERIFY(Session().Type(text, {"Return"}));
+
+    QVERIFY(DrawsOneLine(millimetres));
+}
+
+void TypedValueTest::unclearTextIsRefusedWithItsReason_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("thousands or decimals") << "1,000";
+    QTest::newRow("both signs") << "1.000,5";
+    QTest::newRow("degrees") << "30d";
+    QTest::newRow("hexadecimal") << "0x10";
+    QTest::newRow("mixed") << "1m+5";
+    QTest::newRow("assignment") << "a=5";
+    QTest::newRow("feet less inches") << "10'-6\"";
+}
+
+void TypedValueTest::unclearTextIsRefusedWithItsReason()
+{
+    QFETCH(QString, text);
+
+    QVERIFY(Session().BeginLine());
+    QVERIFY(Session().MoveInView(QPointF(80.0, 40.0)));
+    QVERIFY(Session().Type(text, {"Return"}));
+    QVERIFY(Session().WaitFor([&](const UiTree& tree) {
+        const std::optional<UiEditor> editor = tree.FindEditor();
+        return editor && editor->selectedText == text && !editor->message.isEmpty() &&
+               !editor->value.has_value();
+    }));
+    QCOMPARE(Session().Tree().GetEntityCount(), 0);
+
+    QVERIFY(Session().Type("2cm", {"Return"}));
+
+    QVERIFY(DrawsOneLine(20.0));
+}
+
+void TypedValueTest::treeTellsWhatTheTextComesTo()
+{
+    QVERIFY(Session().Click("Sketcher.Unit.cm"));
+    QVERIFY(Session().BeginLine());
+    QVERIFY(Session().MoveInView(QPointF(80.0, 40.0)));
+
+    QVERIFY(Session().Type("2*1m"));
+
+    QVERIFY(Session().WaitFor([](const UiTree& tree) {
+        const std::optional<UiEditor> editor = tree.FindEditor();
+        return editor && editor->text == "2*1m" && editor->value == 200.0 &&
+               editor->message.isEmpty() && editor->hasFocus;
+    }));
+    QVERIFY(Session().Type("+"));
+    QVERIFY(Session().WaitFor([](const UiTree& tree) {
+        const std::optional<UiEditor> editor = tree.FindEditor();
+        return editor && editor->text == "2*1m+" && !editor->value.has_value();
+    }));
+}
+
+void TypedValueTest::formulaIsTakenAtFullSpeedWithTab()
+{
+    QVERIFY(Session().BeginLine());
+    QVERIFY(Session().Type("2*3cm", QStringList{"Tab"} + InputDriver::Text("90/4+7.5") +
+                                        QStringList{"Return"}));
+
+    QVERIFY(Session().WaitForEntities(1));
+    const QVector<DrawnLine> lines = CloseAndReadLines();
+    QCOMPARE(lines.size(), 1);
+    QVERIFY(qAbs(lines[0].GetLength() - 60.0) <= TOLERANCE);
+    QVERIFY(AngleBetween(lines[0].GetAngle(), 30.0) <= TOLERANCE);
+}
+
+void TypedValueTest::tabBeforeTheFirstDigitLosesNone()
+{
+    QVERIFY(Session().BeginLine());
+    QVERIFY(Session().MoveInView(QPointF(80.0, 40.0)));
+    QVERIFY(Session().Input().Keys(QStringList{"Tab"} + InputDriver::Text("42.25") +
+                                   QStringList{"Return"}));
+
+    QVERIFY(DrawsOneLine(42.25));
+}
+
+void TypedValueTest::stripCommandIsOnTheRibbonAndLeavesTheTextAlone()
+{
+    const std::optional<UiControl> button = Session().Tree().FindControl("Sketcher.KeyStrip");
+    QVERIFY(button && button->isVisible && button->isEnabled);
+
+    QVERIFY(Session().Click("Sketcher.KeyStrip"));
+    QVERIFY(Session().BeginLine());
+    QVERIFY(Session().MoveInView(QPointF(80.0, 40.0)));
+    QVERIFY(Session().Type("10cm", {"Return"}));
+
+    QVERIFY(DrawsOneLine(100.0));
+}
+
+/// Waits for the line and compares it with what was typed.
+bool TypedValueTest::DrawsOneLine(double length)
+{
+    if (!Session().WaitForEntities(1))
+        return false;
+    const QVector<DrawnLine> lines = CloseAndReadLines();
+    return lines.size() == 1 && qAbs(lines[0].GetLength() - length) <= TOLERANCE;
+}
+
+}
+
+QTEST_GUILESS_MAIN(vesk::TypedValueTest)
+#include "TypedValueTest.moc"
