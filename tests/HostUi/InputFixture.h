@@ -1,0 +1,134 @@
+#pragma once
+
+#include "HostUi/DimensionInputController.h"
+#include "HostUi/TypingHandler.h"
+
+#include "Command/ActionManager.h"
+#include "Command/Command.h"
+#include "Command/ICommandManager.h"
+#include "Dimension/CentralAngleTemporaryDimensionContext.h"
+#include "Dimension/LinearTemporaryDimensionContext.h"
+#include "Dimension/RadiusTemporaryDimensionContext.h"
+#include "Support/HostFixture.h"
+
+#include <QCoreApplication>
+#include <QLabel>
+
+#include <functional>
+
+namespace vesk::test
+{
+
+using ContextMaker = std::function<OwnerPtr<ITemporaryDimensionContext>()>;
+
+inline OwnerPtr<ITemporaryDimensionContext> MakeLinear()
+{
+    return MakeOwner<LinearTemporaryDimensionContext>(Coordinate3d(), Vector3d::Zero(),
+                                                      Vector3d(30, 40, 0));
+}
+
+inline OwnerPtr<ITemporaryDimensionContext> MakeRadius()
+{
+    return MakeOwner<RadiusTemporaryDimensionContext>(Coordinate3d(), Vector3d::Zero(),
+                                                      Vector3d(30, 0, 0), Vector3d(0, 30, 0));
+}
+
+inline OwnerPtr<ITemporaryDimensionContext> MakeCentralAngle()
+{
+    return MakeOwner<CentralAngleTemporaryDimensionContext>(Coordinate3d(), Vector3d::Zero(),
+                                                            Vector3d(30, 0, 0), Vector3d(0, 30, 0),
+                                                            Vector3d(0, 40, 0));
+}
+
+/// An action that does nothing but show dimensions.
+class DimensionAction final : public IAction
+{
+public:
+    explicit DimensionAction(const ContextMaker& makeContext) : m_makeContext(makeContext) {}
+
+    std::wstring GetViewText() const override { return {}; }
+    void OnBegin(IUiView*) override {}
+    void OnMouseMove(const Vector3d&) override {}
+    void OnClick(const Vector3d&) override {}
+    OwnerPtr<ITemporaryDimensionContext> CreateDimensionContext() const override
+    {
+        return m_makeContext();
+    }
+    bool ReplayPoint(const Vector3d&, const std::optional<int>&) override { return false; }
+
+private:
+    ContextMaker m_makeContext;
+};
+
+/// A view in which an action shows dimensions, and somebody at the keyboard.
+struct InputFixture
+{
+    explicit InputFixture(const TypingScript& typing, const ContextMaker& makeContext = &MakeLinear)
+        : script(typing)
+    {
+        host.window.show();
+        auto opCommand = MakeOwner<Command>(
+            L"Test", Command::Kind::Interactive, [makeContext](IUiView*, const CommandParameters&) {
+                return OwnerPtr<IAction>(new DimensionAction(makeContext));
+            });
+        Command* pCommand = opCommand.Get();
+        ICommandManager::Get()->AddCommand(std::move(opCommand));
+        ActionManager::ProcessCommand(&host.view, pCommand, {}, nullptr);
+    }
+    ~InputFixture() { ActionManager::Reset(); }
+
+    InputFixture& Type(const QString& text)
+    {
+        for (const QChar character : text)
+            Press(0, QString(character));
+        return *this;
+    }
+
+    InputFixture& Press(int key, const QString& text = QString())
+    {
+        const int code = text.isEmpty() ? key : text.front().toUpper().unicode();
+        QKeyEvent press(QEvent::KeyPress, code, Qt::NoModifier, text);
+        if (Editor()->isVisible())
+            QCoreApplication::sendEvent(Editor(), &press);
+        else
+            controller.OnViewKey(press);
+        return *this;
+    }
+
+    InputFixture& PressShiftComma()
+    {
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_Less, Qt::ShiftModifier, QStringLiteral("<"));
+        controller.OnViewKey(press);
+        return *this;
+    }
+
+    QLineEdit* Editor() const { return host.view.findChild<QLineEdit*>("Editor"); }
+
+    /// The text of a note; none while it does not show.
+    QString Note(const char* name) const
+    {
+        const auto* pNote = host.view.findChild<QLabel*>(QLatin1String(name));
+        return pNote != nullptr && pNote->isVisible() ? pNote->text() : QString();
+    }
+
+    HostFixture host;
+    TypingScript script;
+    DimensionInputController controller;
+    TypingHandlerFactory factory{host.view, script};
+};
+
+inline TypingScript Linear()
+{
+    TypingScript script;
+    script.commitKeys = {Qt::Key_Space, Qt::Key_Tab};
+    return script;
+}
+
+inline TypingScript CentralAngle()
+{
+    TypingScript script;
+    script.state = InputState::IS_CentralAngle;
+    return script;
+}
+
+}
