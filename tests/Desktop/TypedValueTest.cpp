@@ -38,6 +38,7 @@ void TypedValueTest::clearTextMakesTheVeryLine_data()
     QTest::newRow("centimetres") << "10cm" << 100.0;
     QTest::newRow("decimal comma") << "3,5" << 3.5;
     QTest::newRow("point first") << ".5" << 0.5;
+    QTest::newRow("comma first") << ",5" << 0.5;
     QTest::newRow("root") << "sqrt(2)*50" << std::sqrt(2.0) * 50.0;
     QTest::newRow("parentheses first") << "(3+4)*2" << 14.0;
     QTest::newRow("sum") << "20+2" << 22.0;

@@ -180,14 +180,33 @@ private slots:
         QVERIFY(!f.script.taken[0].typed.isUnchanged);
     }
 
-    void letterOpensTheInputWithItself()
+    void characterOpensTheInputWithItself_data()
     {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("number");
+
+        QTest::newRow("parenthesis") << "(2+3)"
+                                     << "5";
+        QTest::newRow("letter") << "sqrt(4)"
+                                << "2";
+        QTest::newRow("sign") << "+(7)"
+                              << "7";
+        QTest::newRow("comma") << ",5"
+                               << "0.5";
+    }
+
+    void characterOpensTheInputWithItself()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, number);
         InputFixture f(Linear());
 
-        f.Type("(2+3)").Press(Qt::Key_Return);
+        f.Type(text).Press(Qt::Key_Return);
 
         QCOMPARE(f.script.taken.size(), std::size_t(1));
-        QCOMPARE(f.script.taken[0].text, QString("5"));
+        QCOMPARE(f.script.taken[0].text, number);
+        QCOMPARE(ToQString(f.script.taken[0].typed.text), text);
+        QVERIFY(!f.script.taken[0].typed.isUnchanged);
     }
 
     void tabWithoutAnInputIsKeptFromTheWindow_data()

@@ -68,7 +68,8 @@ private slots:
         QTest::newRow("bracket") << "(" << none << true;
         QTest::newRow("letter") << "s" << none << true;
         QTest::newRow("digit") << "5" << none << true;
-        QTest::newRow("comma") << "," << none << false;
+        QTest::newRow("decimal comma") << "," << none << true;
+        QTest::newRow("Shift+comma") << "<" << Qt::KeyboardModifiers(Qt::ShiftModifier) << false;
         QTest::newRow("blank") << " " << none << false;
         QTest::newRow("control") << "\r" << none << false;
         QTest::newRow("none") << "" << none << false;

@@ -77,10 +77,13 @@ public:
 
     void OnEditorReturnPressed() override { Take(); }
 
-    /// Any key opens the editor: the comma with the current value, the others with their character.
-    bool OnKeyDown(int virtualKey, bool, bool, bool) override
+    /// Shift and the comma open the editor with the current value, any other key but the comma with
+    /// its character.
+    bool OnKeyDown(int virtualKey, bool, bool, bool isShift) override
     {
         constexpr int Comma = 188;
+        if (virtualKey == Comma && !isShift)
+            return false;
         m_state = m_script.state;
         m_pEditor->show();
         m_pEditor->setText(virtualKey == Comma ? m_script.currentValue

@@ -246,10 +246,10 @@ bool DimensionInputController::OpenInput(const QKeyEvent& event)
 {
     const int virtualKey = ToVirtualKey(event);
     const Qt::KeyboardModifiers modifiers = event.modifiers();
-    m_isTextTyped = virtualKey != VirtualComma;
     if (virtualKey != 0)
         Manager().OnKeyDown(virtualKey, false, modifiers & Qt::AltModifier,
                             modifiers & Qt::ShiftModifier);
+    m_isTextTyped = virtualKey != VirtualComma || !Manager().IsInputting();
     if (CanBeginValue(event) && !Manager().IsInputting())
         OpenInputWithText(event.text());
     return virtualKey != 0 || CanBeginValue(event);

@@ -49,7 +49,7 @@ bool CanBeginValue(const QKeyEvent& event)
     if (event.text().size() != 1)
         return false;
     const QChar character = event.text().front();
-    return character.isLetterOrNumber() || QStringLiteral(".-+(").contains(character);
+    return character.isLetterOrNumber() || QStringLiteral(".,-+(").contains(character);
 }
 
 }
