@@ -23,21 +23,21 @@ class NoteLayoutTest final : public QObject
 private slots:
     void noteStandsRightBelowTheEditor()
     {
-        NoteLayout layout(s_view, QRect(QPoint(50, 40), s_editor), std::nullopt);
+        NoteLayout layout({s_view, QRect(QPoint(50, 40), s_editor), std::nullopt, {}});
 
         QCOMPARE(layout.PlaceBelow(s_strip), QRect(QPoint(50, 70), s_strip));
     }
 
     void noteStandsRightBesideTheEditor()
     {
-        NoteLayout layout(s_view, QRect(QPoint(50, 40), s_editor), std::nullopt);
+        NoteLayout layout({s_view, QRect(QPoint(50, 40), s_editor), std::nullopt, {}});
 
         QCOMPARE(layout.PlaceBeside(s_value), QRect(QPoint(150, 41), s_value));
     }
 
     void secondNoteStandsBelowTheFirst()
     {
-        NoteLayout layout(s_view, QRect(QPoint(50, 40), s_editor), std::nullopt);
+        NoteLayout layout({s_view, QRect(QPoint(50, 40), s_editor), std::nullopt, {}});
         layout.PlaceBelow(s_refusal);
 
         QCOMPARE(layout.PlaceBelow(s_strip), QRect(QPoint(50, 98), s_strip));
@@ -45,7 +45,7 @@ private slots:
 
     void noteStandsAboveWhereThereIsNoRoomBelow()
     {
-        NoteLayout layout(s_view, QRect(QPoint(50, 270), s_editor), std::nullopt);
+        NoteLayout layout({s_view, QRect(QPoint(50, 270), s_editor), std::nullopt, {}});
 
         QCOMPARE(layout.PlaceBelow(s_strip), QRect(QPoint(50, 242), s_strip));
     }
@@ -53,11 +53,31 @@ private slots:
     void noteKeepsOffTheCursor()
     {
         const QPoint cursor(100, 80);
-        NoteLayout layout(s_view, QRect(QPoint(50, 40), s_editor), cursor);
+        NoteLayout layout({s_view, QRect(QPoint(50, 40), s_editor), cursor, {}});
 
         const QRect place = layout.PlaceBelow(s_strip);
 
         QVERIFY(!place.adjusted(-10, -10, 10, 10).contains(cursor));
+    }
+
+    void noteKeepsOffTheTextsOfDimensions()
+    {
+        const QRect text(100, 75, 50, 16);
+        NoteLayout layout({s_view, QRect(QPoint(50, 40), s_editor), std::nullopt, {text}});
+
+        const QRect place = layout.PlaceBelow(s_strip);
+
+        QVERIFY(!place.intersects(text));
+        QVERIFY(QRect(QPoint(0, 0), s_view).contains(place));
+    }
+
+    void noteCoversATextWhereThereIsNoOtherRoom()
+    {
+        const QSize view(240, 60);
+        const QRect editor(QPoint(0, 0), s_editor);
+        NoteLayout layout({view, editor, std::nullopt, {QRect(0, 0, 240, 60)}});
+
+        QCOMPARE(layout.PlaceBelow(s_strip), QRect(QPoint(0, 30), s_strip));
     }
 
     void notesStandApartInsideTheViewWhereverTheEditorIs_data()
@@ -84,7 +104,7 @@ private slots:
         QFETCH(QPoint, cursor);
         const QRect view(0, 0, 300, 200);
         const QRect editorRect(editor, s_editor);
-        NoteLayout layout(view.size(), editorRect, cursor);
+        NoteLayout layout({view.size(), editorRect, cursor, {QRect(30, 80, 60, 16)}});
 
         const QRect value = layout.PlaceBeside(s_value);
         const QRect refusal = layout.PlaceBelow(s_refusal);
@@ -103,14 +123,14 @@ private slots:
 
     void noteGreaterThanTheViewFillsIt()
     {
-        NoteLayout layout(QSize(100, 20), QRect(QPoint(0, 0), s_editor), std::nullopt);
+        NoteLayout layout({QSize(100, 20), QRect(QPoint(0, 0), s_editor), std::nullopt, {}});
 
         QCOMPARE(layout.PlaceBelow(s_strip), QRect(0, 0, 100, 20));
     }
 
     void editorFarOutsideLeavesTheNoteInside()
     {
-        NoteLayout layout(s_view, QRect(QPoint(10050, 10040), s_editor), std::nullopt);
+        NoteLayout layout({s_view, QRect(QPoint(10050, 10040), s_editor), std::nullopt, {}});
 
         QVERIFY(QRect(QPoint(0, 0), s_view).contains(layout.PlaceBelow(s_strip)));
     }

@@ -12,6 +12,8 @@
 #include "InputJudge.h"
 #include "Journal/IJournalUiObject.h"
 #include "KeyCode.h"
+#include "NoteLayout.h"
+#include "TextCollector.h"
 #include "View/IUiDocumentViewManager.h"
 #include "View/IUiView.h"
 
@@ -287,7 +289,10 @@ void DimensionInputController::UpdateNotes()
     if (m_isKeyStripShown)
         texts.keys = DescribeKeys(field);
     const QPoint corner = pView->mapFromGlobal(pEditor->mapToGlobal(QPoint(0, 0)));
-    m_pNotes->Show(*pView, QRect(corner, pEditor->size()), m_cursor, texts);
+    m_pNotes->Show(*pView,
+                   {pView->size(), QRect(corner, pEditor->size()), m_cursor,
+                    FindDimensionTexts(*CurrentView(), *pView)},
+                   texts);
 }
 
 }

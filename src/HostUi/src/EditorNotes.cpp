@@ -67,10 +67,9 @@ EditorNotes::~EditorNotes()
     delete m_pKeys;
 }
 
-void EditorNotes::Show(QWidget& view, const QRect& editor, const std::optional<QPoint>& cursor,
-                       const NoteTexts& texts)
+void EditorNotes::Show(QWidget& view, const EditorScene& scene, const NoteTexts& texts)
 {
-    NoteLayout layout(view.size(), editor, cursor);
+    NoteLayout layout(scene);
     if (Prepare(m_pValue, Value, texts.value, view))
         ShowAt(*m_pValue, layout.PlaceBeside(m_pValue->sizeHint()));
     if (Prepare(m_pRefusal, Refusal, texts.refusal, view))

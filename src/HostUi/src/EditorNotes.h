@@ -1,17 +1,15 @@
 #pragma once
 
-#include <QPoint>
 #include <QPointer>
-#include <QRect>
 #include <QString>
-
-#include <optional>
 
 class QLabel;
 class QWidget;
 
 namespace vesk
 {
+
+struct EditorScene;
 
 /// What stands beside the editor of a value: why its text was refused, what the text comes to, and
 /// what the keys do. An empty text is not shown.
@@ -28,10 +26,8 @@ class EditorNotes
 public:
     ~EditorNotes();
 
-    /// Shows these notes, and no others, about an editor. The view is not owned; the rectangle and
-    /// the cursor are in its pixels, no cursor is elsewhere.
-    void Show(QWidget& view, const QRect& editor, const std::optional<QPoint>& cursor,
-              const NoteTexts& texts);
+    /// Shows these notes, and no others, on a view (not owned).
+    void Show(QWidget& view, const EditorScene& scene, const NoteTexts& texts);
     void Hide();
 
 private:

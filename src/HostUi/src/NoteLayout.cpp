@@ -12,14 +12,41 @@ constexpr int Gap = 4;
 /// Room for the cross of the cursor.
 constexpr int CursorReach = 14;
 
+enum class Side
+{
+    Left,
+    Top,
+};
+
+/// A position, and all at which something of that length touches what is taken.
+std::vector<int> FindStops(int position, int length, const std::vector<QRect>& taken, Side side)
+{
+    std::vector<int> stops{position};
+    for (const QRect& rect : taken)
+    {
+        const int begin = side == Side::Left ? rect.left() : rect.top();
+        const int end = side == Side::Left ? rect.right() : rect.bottom();
+        stops.push_back(begin - Gap - length);
+        stops.push_back(end + 1 + Gap);
+    }
+    return stops;
 }
 
-NoteLayout::NoteLayout(const QSize& view, const QRect& editor, const std::optional<QPoint>& cursor)
-    : m_view(QPoint(0, 0), view), m_editor(editor), m_taken{editor}
+bool IsFree(const QRect& rect, const std::vector<QRect>& taken)
 {
-    if (cursor.has_value())
-        m_taken.emplace_back(*cursor - QPoint(CursorReach, CursorReach),
-                             *cursor + QPoint(CursorReach, CursorReach));
+    return std::none_of(taken.begin(), taken.end(),
+                        [&rect](const QRect& other) { return other.intersects(rect); });
+}
+
+}
+
+NoteLayout::NoteLayout(const EditorScene& scene)
+    : m_view(QPoint(0, 0), scene.view), m_editor(scene.editor), m_taken{scene.editor},
+      m_texts(scene.texts)
+{
+    if (scene.cursor.has_value())
+        m_taken.emplace_back(*scene.cursor - QPoint(CursorReach, CursorReach),
+                             *scene.cursor + QPoint(CursorReach, CursorReach));
 }
 
 QRect NoteLayout::PlaceBelow(const QSize& size)
@@ -35,9 +62,22 @@ QRect NoteLayout::PlaceBeside(const QSize& size)
 
 QRect NoteLayout::Place(const QRect& wanted)
 {
-    const QSize size = wanted.size().boundedTo(m_view.size());
-    const std::vector<int> lefts = FindStops(wanted.left(), size.width(), m_view.width(), true);
-    const std::vector<int> tops = FindStops(wanted.top(), size.height(), m_view.height(), false);
+    const QRect note(wanted.topLeft(), wanted.size().boundedTo(m_view.size()));
+    Rects all = m_taken;
+    all.insert(all.end(), m_texts.begin(), m_texts.end());
+    std::optional<QRect> place = FindNearest(note, all);
+    if (!place.has_value())
+        place = FindNearest(note, m_taken);
+    m_taken.push_back(place.value_or(QRect(Clamp(note), note.size())));
+    return m_taken.back();
+}
+
+/// The nearest free place is the wanted one inside the view, or touches something.
+std::optional<QRect> NoteLayout::FindNearest(const QRect& wanted, const Rects& taken) const
+{
+    const QPoint clamped = Clamp(wanted);
+    const std::vector<int> lefts = FindStops(clamped.x(), wanted.width(), taken, Side::Left);
+    const std::vector<int> tops = FindStops(clamped.y(), wanted.height(), taken, Side::Top);
     std::optional<QRect> nearest;
     const auto distance = [&wanted](const QRect& rect) {
         return (rect.topLeft() - wanted.topLeft()).manhattanLength();
@@ -46,36 +86,19 @@ QRect NoteLayout::Place(const QRect& wanted)
     {
         for (const int top : tops)
         {
-            const QRect rect(QPoint(left, top), size);
-            if (IsFree(rect) && (!nearest || distance(rect) < distance(*nearest)))
+            const QRect rect(QPoint(left, top), wanted.size());
+            const bool isFree = m_view.contains(rect) && IsFree(rect, taken);
+            if (isFree && (!nearest || distance(rect) < distance(*nearest)))
                 nearest = rect;
         }
     }
-    const QRect place = nearest.value_or(QRect(QPoint(lefts.front(), tops.front()), size));
-    m_taken.push_back(place);
-    return place;
+    return nearest;
 }
 
-/// The wanted position inside the view, and those at which the note touches something: the nearest
-/// free place is at such positions.
-std::vector<int> NoteLayout::FindStops(int wanted, int length, int viewLength, bool isAcross) const
+QPoint NoteLayout::Clamp(const QRect& wanted) const
 {
-    std::vector<int> stops{qBound(0, wanted, viewLength - length)};
-    for (const QRect& taken : m_taken)
-    {
-        const int begin = isAcross ? taken.left() : taken.top();
-        const int end = isAcross ? taken.right() : taken.bottom();
-        stops.push_back(begin - Gap - length);
-        stops.push_back(end + 1 + Gap);
-    }
-    return stops;
-}
-
-bool NoteLayout::IsFree(const QRect& rect) const
-{
-    return m_view.contains(rect) &&
-           std::none_of(m_taken.begin(), m_taken.end(),
-                        [&rect](const QRect& taken) { return taken.intersects(rect); });
+    return {qBound(0, wanted.left(), m_view.width() - wanted.width()),
+            qBound(0, wanted.top(), m_view.height() - wanted.height())};
 }
 
 }

@@ -1,6 +1,7 @@
 #include "ProvisionalPainter.h"
 
 #include "HostUi/QtText.h"
+#include "TextCollector.h"
 #include "View/IModelView.h"
 
 #include <QPainter>
@@ -63,14 +64,10 @@ void ProvisionalPainter::Visit(const IGraphicsArc& arc)
 
 void ProvisionalPainter::Visit(const IGraphicsText& text)
 {
-    constexpr double Padding = 3.0;
-    const QString shown = ToQString(text.GetText());
-    QRectF box = m_painter.fontMetrics().boundingRect(shown);
-    box.moveCenter(ToPixel(text.GetPosition()));
-    box.adjust(-Padding, -1.0, Padding, 1.0);
+    const QRectF box = TextCollector(m_modelView, m_painter.fontMetrics()).BoxOf(text);
     m_painter.fillRect(box, m_palette.color(QPalette::Base));
     SetPen(text.GetRole());
-    m_painter.drawText(box, Qt::AlignCenter, shown);
+    m_painter.drawText(box, Qt::AlignCenter, ToQString(text.GetText()));
 }
 
 QPointF ProvisionalPainter::ToPixel(const Vector3d& world) const
