@@ -292,11 +292,26 @@ private slots:
         QCOMPARE(shown.toDouble(), value);
     }
 
+    void textOfSeveralScreensIsNoFormula_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<TypedTextFault>("fault");
+
+        QTest::newRow("as long as can be")
+            << QStringLiteral("1+").repeated(149) + "1" << TypedTextFault::None;
+        QTest::newRow("as deep as can be")
+            << QString(149, '(') + "1" + QString(149, ')') << TypedTextFault::None;
+        QTest::newRow("too long") << QStringLiteral("1+").repeated(150) + "1"
+                                  << TypedTextFault::NotANumber;
+        QTest::newRow("much too deep") << QString(100000, '(') << TypedTextFault::NotANumber;
+    }
+
     void textOfSeveralScreensIsNoFormula()
     {
-        const QString deep = QString(100000, QLatin1Char('(')) + QStringLiteral("1");
+        QFETCH(QString, text);
+        QFETCH(TypedTextFault, fault);
 
-        QCOMPARE(ReadLength(deep).fault, TypedTextFault::NotANumber);
+        QCOMPARE(ReadLength(text).fault, fault);
     }
 
     void shortestNumberIsReadable_data()
@@ -415,8 +430,8 @@ private:
     {
         for (const char* text :
              {"1m+5", "5+1m", "10'+6", "2cm*3cm", "10cm/2cm", "1/(2cm)", "10/5/2in", "sqrt(2cm)",
-              "(1m+2)cm", "2^(1cm)", "(2cm)^0.5", "(2cm)^-1", "(2cm)^100", "asin(1cm)", "sin(1cm)",
-              "6-1/2\"", "(2cm)cm"})
+              "sqrt(2cm)*3cm", "(1m+2)cm", "2^(1cm)", "(2cm)^0.5", "(2cm)^-1", "(2cm)^100",
+              "asin(1cm)", "sin(1cm)", "6-1/2\"", "(2cm)cm"})
             AddFault(text, TypedTextFault::MixedUnits);
         for (const char* text : {"30d", "30\xc2\xb0", "45d+15d", "asin(0.5)"})
             AddFault(text, TypedTextFault::WrongQuantity);
