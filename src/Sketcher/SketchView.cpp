@@ -1,19 +1,21 @@
 #include "SketchView.h"
 
 #include "Grid.h"
-#include "Picking.h"
 #include "ShapeMeasure.h"
 #include "ShapePainter.h"
 #include "SnapMarker.h"
 #include "SnapPoints.h"
 #include "Workspace.h"
 
+#include "Command/IActionManager.h"
+
+#include <QMouseEvent>
 #include <QPainter>
 
-#include <algorithm>
 #include <cmath>
 #include <cstddef>
 
+using vesk::IActionManager;
 using vesk::Vector3d;
 
 namespace
@@ -37,7 +39,7 @@ QPen MakePen(const Pen& pen, const QColor& textColour)
 
 SketchView::SketchView(Workspace& workspace, vesk::DimensionInputController& input,
                        QWidget* pParent)
-    : DrawingView(1, input, pParent), m_workspace(workspace)
+    : DrawingView(1, input, pParent), m_workspace(workspace), m_mouse(workspace, *this)
 {
     setObjectName(QStringLiteral("SketchView"));
     connect(&workspace.sketch, &Sketch::changed, this, qOverload<>(&QWidget::update));
@@ -72,24 +74,51 @@ void SketchView::PaintOverlay(QPainter& painter)
 {
     if (const std::optional<Snapper::Caught>& caught = m_workspace.snapper.GetCaught())
         PaintSnapMarker(painter, caught->kind, ToPixel(caught->point));
+    m_mouse.Paint(painter);
 }
 
 void SketchView::OnFreeClick(const Vector3d& world, Qt::KeyboardModifiers modifiers)
 {
-    const int picked = PickEntity(m_workspace.sketch, world, this);
-    const bool isAdding = modifiers.testFlag(Qt::ControlModifier);
-    std::vector<int> ids = isAdding ? m_workspace.selection.GetIds() : std::vector<int>();
-    const auto found = std::find(ids.begin(), ids.end(), picked);
-    if (found != ids.end())
-        ids.erase(found);
-    else if (picked != 0)
-        ids.push_back(picked);
-    m_workspace.selection.Select(ids);
+    m_mouse.Press(world, modifiers);
 }
 
 void SketchView::OnFreeEscape()
 {
-    m_workspace.selection.Select({});
+    if (m_mouse.IsPressed())
+        DropPress();
+    else
+        m_workspace.selection.Select({});
+}
+
+void SketchView::mouseMoveEvent(QMouseEvent* pEvent)
+{
+    DrawingView::mouseMoveEvent(pEvent);
+    if (!m_mouse.IsPressed())
+        return;
+    // The release may have gone elsewhere, and a command may have begun meanwhile.
+    if (!pEvent->buttons().testFlag(Qt::LeftButton) || IActionManager::CurrentAction() != nullptr)
+    {
+        DropPress();
+        return;
+    }
+    m_mouse.MoveTo(GetCamera().ScreenToWorld(pEvent->localPos().x(), pEvent->localPos().y()));
+    update();
+}
+
+void SketchView::mouseReleaseEvent(QMouseEvent* pEvent)
+{
+    DrawingView::mouseReleaseEvent(pEvent);
+    if (pEvent->button() != Qt::LeftButton)
+        return;
+    if (IActionManager::CurrentAction() == nullptr)
+        m_mouse.Release(GetCamera().ScreenToWorld(pEvent->localPos().x(), pEvent->localPos().y()));
+    DropPress();
+}
+
+void SketchView::DropPress()
+{
+    m_mouse.Drop();
+    update();
 }
 
 void SketchView::PaintGrid(QPainter& painter) const

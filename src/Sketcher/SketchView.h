@@ -1,12 +1,14 @@
 #pragma once
 
+#include "MouseSelection.h"
+
 #include "HostUi/DrawingView.h"
 
 struct Entity;
 struct Workspace;
 
-/// Shows the drawing over a grid; with no action running a click selects, with Ctrl it adds to the
-/// selection or takes out of it, and Escape selects nothing.
+/// Shows the drawing over a grid. With no action running the mouse selects; Escape ends a drag,
+/// else it selects nothing.
 class SketchView final : public vesk::DrawingView
 {
     Q_OBJECT
@@ -24,7 +26,11 @@ protected:
     void OnFreeClick(const vesk::Vector3d& world, Qt::KeyboardModifiers modifiers) override;
     void OnFreeEscape() override;
 
+    void mouseMoveEvent(QMouseEvent* pEvent) override;
+    void mouseReleaseEvent(QMouseEvent* pEvent) override;
+
 private:
+    void DropPress();
     void PaintGrid(QPainter& painter) const;
     void PaintGridLines(QPainter& painter, double step, const QColor& color) const;
     void PaintAxes(QPainter& painter) const;
@@ -33,4 +39,6 @@ private:
     QRectF GetPaintedRect() const;
 
     Workspace& m_workspace;
+
+    MouseSelection m_mouse;
 };

@@ -9,6 +9,18 @@
 
 #include <cmath>
 
+namespace
+{
+
+nlohmann::json EntitiesOf(const QString& path)
+{
+    const nlohmann::json model =
+        nlohmann::json::parse(ReadFile(path).toStdString(), nullptr, false);
+    return model.is_discarded() ? nlohmann::json::array() : model["entities"];
+}
+
+}
+
 double DrawnLine::Length() const
 {
     return std::hypot(Way(0), Way(1), Way(2));
@@ -19,17 +31,32 @@ double DrawnLine::Angle() const
     return std::atan2(Way(1), Way(0)) * 180.0 / std::acos(-1.0);
 }
 
+std::vector<DrawnEntity> ReadEntities(const QString& path)
+{
+    std::vector<DrawnEntity> drawn;
+    for (const nlohmann::json& entity : EntitiesOf(path))
+    {
+        const DrawnEntity::Point none{};
+        drawn.push_back({QString::fromStdString(entity["type"].get<std::string>()),
+                         entity.value("start", none), entity.value("end", none),
+                         entity.value("centre", none), entity.value("radius", 0.0),
+                         entity.value("normal", none),
+                         entity.value("corners", std::vector<DrawnEntity::Point>())});
+    }
+    return drawn;
+}
+
 QVector<DrawnLine> ReadModel(const QString& path)
 {
-    const nlohmann::json model =
-        nlohmann::json::parse(ReadFile(path).toStdString(), nullptr, false);
     QVector<DrawnLine> lines;
-    if (model.is_discarded())
-        return lines;
-    for (const nlohmann::json& entity : model["entities"])
+    for (const nlohmann::json& entity : EntitiesOf(path))
+    {
+        if (entity["type"] != "line")
+            continue;
         lines.push_back({entity["start"], entity["end"],
                          QString::fromStdString(entity["style"].get<std::string>()),
                          QString::fromStdString(entity["colour"].get<std::string>())});
+    }
     return lines;
 }
 

@@ -25,6 +25,23 @@ struct DrawnLine
     double Angle() const;
 };
 
+/// An entity of a model file; what its kind does not have is empty.
+struct DrawnEntity
+{
+    using Point = std::array<double, 3>;
+
+    QString type;
+    Point start{};
+    Point end{};
+    Point centre{};
+    double radius = 0.0;
+    Point normal{};
+    std::vector<Point> corners;
+};
+
+/// All entities of a model file; empty when it cannot be read.
+std::vector<DrawnEntity> ReadEntities(const QString& path);
+
 /// The lines of a model file; empty when it cannot be read.
 QVector<DrawnLine> ReadModel(const QString& path);
 

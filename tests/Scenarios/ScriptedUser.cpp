@@ -56,6 +56,16 @@ void ClickEntry(QMenu& menu, QAction& entry)
     QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(&entry).center());
 }
 
+/// Without a screen there is no pointer that could be moved.
+void MoveMouse(double x, double y, Qt::MouseButtons buttons)
+{
+    SketchView* pView = ScriptedUser::FindView();
+    const QPoint pixel = PixelOf(*pView, x, y);
+    QMouseEvent move(QEvent::MouseMove, pixel, pView->mapToGlobal(pixel), Qt::NoButton, buttons,
+                     Qt::NoModifier);
+    QCoreApplication::sendEvent(pView, &move);
+}
+
 QWidget* KeyboardTarget()
 {
     QWidget* pFocus = QApplication::focusWidget();
@@ -113,13 +123,33 @@ ScriptedUser& ScriptedUser::ChooseItem(const QString& boxId, int index)
 
 ScriptedUser& ScriptedUser::MoveTo(double x, double y)
 {
-    return Do([x, y] {
-        // Without a screen there is no pointer that could be moved.
-        const QPoint pixel = PixelOf(*FindView(), x, y);
-        QMouseEvent move(QEvent::MouseMove, pixel, FindView()->mapToGlobal(pixel), Qt::NoButton,
-                         Qt::NoButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(FindView(), &move);
+    return Do([x, y] { MoveMouse(x, y, Qt::NoButton); });
+}
+
+ScriptedUser& ScriptedUser::PressAt(double x, double y, Qt::KeyboardModifiers modifiers)
+{
+    return Do([x, y, modifiers] {
+        QTest::mousePress(FindView(), Qt::LeftButton, modifiers, PixelOf(*FindView(), x, y));
     });
+}
+
+ScriptedUser& ScriptedUser::DragTo(double x, double y)
+{
+    return Do([x, y] { MoveMouse(x, y, Qt::LeftButton); });
+}
+
+ScriptedUser& ScriptedUser::ReleaseAt(double x, double y)
+{
+    return Do([x, y] {
+        QTest::mouseRelease(FindView(), Qt::LeftButton, {}, PixelOf(*FindView(), x, y));
+    });
+}
+
+ScriptedUser& ScriptedUser::Drag(double startX, double startY, double endX, double endY,
+                                 Qt::KeyboardModifiers modifiers)
+{
+    PressAt(startX, startY, modifiers).DragTo((startX + endX) / 2, (startY + endY) / 2);
+    return DragTo(endX, endY).ReleaseAt(endX, endY);
 }
 
 ScriptedUser& ScriptedUser::ClickAt(double x, double y, Qt::KeyboardModifiers modifiers)

@@ -43,6 +43,15 @@ public:
     ScriptedUser& MoveTo(double x, double y);
     ScriptedUser& ClickAt(double x, double y, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
+    /// Presses the left button at a world point, moves the mouse with it, releases it.
+    ScriptedUser& PressAt(double x, double y, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    ScriptedUser& DragTo(double x, double y);
+    ScriptedUser& ReleaseAt(double x, double y);
+
+    /// All three.
+    ScriptedUser& Drag(double startX, double startY, double endX, double endY,
+                       Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+
     /// Draws one line between two world points and ends the tool.
     ScriptedUser& DrawLine(double startX, double startY, double endX, double endY);
 
