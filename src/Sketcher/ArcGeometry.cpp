@@ -42,6 +42,11 @@ double SweepOf(const ArcShape& arc)
     return angle > 0.0 ? angle : s_turn;
 }
 
+double CentralAngleOf(const ArcShape& arc)
+{
+    return SweepOf(arc) / s_turn * 360.0;
+}
+
 Vector3d PointAt(const ArcShape& arc, double angle)
 {
     return arc.centre + std::cos(angle) * (arc.start - arc.centre) +

@@ -15,6 +15,9 @@ double AngleTo(const ArcShape& arc, const vesk::Vector3d& point);
 /// The angle from start to end, above 0 up to the whole turn, in radians.
 double SweepOf(const ArcShape& arc);
 
+/// The same in degrees.
+double CentralAngleOf(const ArcShape& arc);
+
 /// The point at an angle from the start, in radians.
 vesk::Vector3d PointAt(const ArcShape& arc, double angle);
 

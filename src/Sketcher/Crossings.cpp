@@ -1,5 +1,6 @@
 #include "Crossings.h"
 
+#include "Polar.h"
 #include "ShapeMeasure.h"
 
 #include "Geometry/Constants.h"
@@ -17,12 +18,6 @@ namespace
 double Tolerance(double size)
 {
     return Constants::DOUBLE_EPS + 1e-12 * size;
-}
-
-/// In the plane, a quarter turn counter-clockwise.
-Vector3d Turned(const Vector3d& way)
-{
-    return {-way.y(), way.x(), 0.0};
 }
 
 /// Adds the points at `offset` on either side of `middle`; the only one where they coincide.
@@ -48,9 +43,9 @@ Crossings CrossWhole(const LineShape& first, const LineShape& second)
     Crossings points;
     const Vector3d a = first.end - first.start;
     const Vector3d b = second.end - second.start;
-    const double area = Turned(a).dot(b);
+    const double area = QuarterTurned(a).dot(b);
     if (area != 0.0)
-        points.Add(first.start + Turned(second.start - first.start).dot(b) / area * a);
+        points.Add(first.start + QuarterTurned(second.start - first.start).dot(b) / area * a);
     return points;
 }
 
@@ -82,7 +77,7 @@ Crossings CrossWhole(const ArcShape& first, const ArcShape& second)
     const double half = HalfChord(first.radius, std::abs(along));
     const Vector3d way = between / distance;
     if (half >= 0.0)
-        AddPair(first.centre + along * way, half * Turned(way), points);
+        AddPair(first.centre + along * way, half * QuarterTurned(way), points);
     return points;
 }
 

@@ -34,5 +34,18 @@ Vector3d DirectionOf(double degrees)
 
 double AngleOf(const Vector3d& direction)
 {
-    return std::atan2(direction.y(), direction.x()) * s_degreesPerRadian;
+    return AngleBetween(Vector3d::UnitX(), direction);
+}
+
+double AngleBetween(const Vector3d& from, const Vector3d& to)
+{
+    const double degrees =
+        std::atan2(QuarterTurned(from).dot(to), from.dot(to)) * s_degreesPerRadian;
+    // Minus zero would turn the other way.
+    return degrees <= -180.0 ? 180.0 : degrees;
+}
+
+Vector3d QuarterTurned(const Vector3d& way)
+{
+    return {-way.y(), way.x(), 0.0};
 }

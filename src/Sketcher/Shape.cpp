@@ -1,5 +1,7 @@
 #include "Shape.h"
 
+#include "ArcGeometry.h"
+
 #include "Geometry/Constants.h"
 
 #include <algorithm>
@@ -11,9 +13,12 @@ using vesk::Vector3d;
 namespace
 {
 
-bool IsSize(double size)
+/// Whether a size at some place is in range. Turned about, a shape on the limit is still drawn.
+bool IsSize(double size, const Vector3d& place)
 {
-    return size >= Constants::MIN_MODEL_SIZE && size <= Constants::MAX_MODEL_SIZE;
+    const double rounding = 1e-15 * (size + place.norm());
+    return std::isfinite(rounding) && size >= Constants::MIN_MODEL_SIZE - rounding &&
+           size <= Constants::MAX_MODEL_SIZE + rounding;
 }
 
 /// How far a computed point may be off: it is rounded with its size and with its place.
@@ -37,17 +42,22 @@ bool IsOnCircle(const ArcShape& arc, const Vector3d& point)
 
 struct Drawability
 {
-    bool operator()(const LineShape& line) const { return IsSize((line.end - line.start).norm()); }
+    bool operator()(const LineShape& line) const
+    {
+        return IsSize((line.end - line.start).norm(), line.start);
+    }
 
     bool operator()(const CircleShape& circle) const
     {
-        return circle.centre.allFinite() && IsSize(circle.radius) && IsUnit(circle.normal);
+        return circle.centre.allFinite() && IsSize(circle.radius, Vector3d::Zero()) &&
+               IsUnit(circle.normal);
     }
 
     bool operator()(const ArcShape& arc) const
     {
         return (*this)(CircleShape{arc.centre, arc.radius, arc.normal}) &&
-               IsOnCircle(arc, arc.start) && IsOnCircle(arc, arc.end);
+               IsOnCircle(arc, arc.start) && IsOnCircle(arc, arc.end) &&
+               SweepOf(arc) * arc.radius >= Constants::MIN_MODEL_SIZE;
     }
 
     bool operator()(const RectangleShape& rectangle) const
@@ -57,7 +67,7 @@ struct Drawability
         const Vector3d height = c - b;
         const double longer = std::max(width.norm(), height.norm());
         const double tolerance = Tolerance(longer, b);
-        return IsSize(width.norm()) && IsSize(height.norm()) &&
+        return IsSize(width.norm(), b) && IsSize(height.norm(), b) &&
                (a + height - d).norm() <= tolerance &&
                std::abs(width.dot(height)) <= tolerance * longer;
     }

@@ -47,6 +47,6 @@ bool operator==(const ArcShape& a, const ArcShape& b);
 bool operator==(const RectangleShape& a, const RectangleShape& b);
 
 /// True when a shape can stand in a drawing: all numbers are finite; length, radius, width and
-/// height lie between the least and the greatest size of the model; an arc's ends lie on its circle
-/// and a rectangle has right angles, but for rounding.
+/// height lie between the least and the greatest size of the model; an arc is as long as the least
+/// and its ends lie on its circle; a rectangle has right angles. Rounding does not matter.
 bool IsDrawable(const Shape& shape);

@@ -48,6 +48,47 @@ private slots:
             QVERIFY(std::abs(AngleOf(direction) - degrees) < 1e-12);
         }
     }
+
+    void anAngleBetweenIsTheShorterWay_data()
+    {
+        QTest::addColumn<double>("from");
+        QTest::addColumn<double>("to");
+        QTest::addColumn<double>("between");
+
+        QTest::newRow("quarter") << 0.0 << 90.0 << 90.0;
+        QTest::newRow("quarter back") << 90.0 << 0.0 << -90.0;
+        QTest::newRow("half") << 0.0 << 180.0 << 180.0;
+        QTest::newRow("half from above") << 90.0 << 270.0 << 180.0;
+        QTest::newRow("over the left") << 170.0 << -170.0 << 20.0;
+        QTest::newRow("back over the left") << -170.0 << 170.0 << -20.0;
+        QTest::newRow("none") << 33.0 << 33.0 << 0.0;
+    }
+
+    void anAngleBetweenIsTheShorterWay()
+    {
+        QFETCH(double, from);
+        QFETCH(double, to);
+        QFETCH(double, between);
+
+        const double angle = AngleBetween(3.0 * DirectionOf(from), 0.1 * DirectionOf(to));
+
+        QVERIFY(std::abs(angle - between) < 1e-12);
+    }
+
+    void quarterTurnsBetweenAreExact()
+    {
+        QCOMPARE(AngleBetween({7, 0, 0}, {0, 3, 0}), 90.0);
+        QCOMPARE(AngleBetween({0, 3, 0}, {7, 0, 0}), -90.0);
+        QCOMPARE(AngleBetween({7, 0, 0}, {-7, 0, 0}), 180.0);
+        QCOMPARE(AngleBetween({7, 0, 0}, {-7, -0.0, 0}), 180.0);
+        QCOMPARE(AngleBetween({3, 4, 0}, {-4, 3, 0}), 90.0);
+    }
+
+    void whatHasNoDirectionMakesNoAngle()
+    {
+        QCOMPARE(AngleBetween({0, 0, 0}, {1, 2, 0}), 0.0);
+        QCOMPARE(AngleBetween({1, 2, 0}, {0, 0, 0}), 0.0);
+    }
 };
 
 QTEST_GUILESS_MAIN(PolarTest)

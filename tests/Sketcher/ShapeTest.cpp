@@ -2,6 +2,7 @@
 
 #include <QTest>
 
+#include <cmath>
 #include <limits>
 
 Q_DECLARE_METATYPE(Shape)
@@ -39,6 +40,8 @@ private slots:
         QTest::newRow("whole turn") << Shape(ArcShape{{1, 1, 0}, 2, {3, 1, 0}, {3, 1, 0}, -s_up});
         QTest::newRow("arc with rounded ends")
             << Shape(ArcShape{{1e6, 0, 0}, 0.1, {1e6 + 0.1, 0, 0}, {1e6, 0.1, 0}, s_up});
+        QTest::newRow("longest line, rounded up")
+            << Shape(LineShape{{0, 0, 0}, {0, std::nextafter(1e9, 2e9), 0}});
         QTest::newRow("rectangle") << Shape(MakeRectangle(1e-6, 1e9));
         QTest::newRow("turned rectangle") << Shape(RectangleShape{
             {Vector3d(0, 0, 0), Vector3d(3, 4, 0), Vector3d(-1, 7, 0), Vector3d(-4, 3, 0)}});
@@ -70,6 +73,13 @@ private slots:
             << Shape(ArcShape{{0, 0, 0}, 2, {2, 0, 0}, {0, 1.9, 0}, s_up});
         QTest::newRow("end above the plane")
             << Shape(ArcShape{{0, 0, 0}, 2, {2, 0, 0}, {0, 0, 2}, s_up});
+        QTest::newRow("too short an arc")
+            << Shape(ArcShape{{0, 0, 0}, 2, {2, 0, 0}, {2, 0.9e-6, 0}, s_up});
+        QTest::newRow("line to infinity")
+            << Shape(LineShape{{0, 0, 0}, {std::numeric_limits<double>::infinity(), 0, 0}});
+        QTest::newRow("line at infinity")
+            << Shape(LineShape{{std::numeric_limits<double>::infinity(), 0, 0},
+                               {std::numeric_limits<double>::infinity(), 1, 0}});
         QTest::newRow("no width") << Shape(MakeRectangle(0, 1));
         QTest::newRow("no height") << Shape(MakeRectangle(1, 0.9e-6));
         QTest::newRow("too wide") << Shape(MakeRectangle(1.1e9, 1));
