@@ -1,0 +1,40 @@
+#pragma once
+
+#include "Dimension/InputState.h"
+#include "Journal/JournalRecord.h"
+
+#include <optional>
+#include <vector>
+
+/// The values that the user has typed for a step of an action, in model units. The cursor no longer
+/// changes them; their dimensions show it.
+class TypedValues final
+{
+public:
+    TypedValues() = default;
+    ~TypedValues() { Clear(); }
+    TypedValues(const TypedValues&) = delete;
+    TypedValues& operator=(const TypedValues&) = delete;
+
+    bool IsEmpty() const { return m_values.empty(); }
+    std::optional<double> Get(vesk::InputState field) const;
+
+    /// Takes a value instead of the one that its field had.
+    void Take(const vesk::ValueRecord& value);
+
+    /// Writes those values to the journal that were not yet written, in the order of taking.
+    void Record();
+
+    /// Drops one value, or all.
+    void Drop(vesk::InputState field);
+    void Clear();
+
+private:
+    struct Value
+    {
+        vesk::ValueRecord record;
+        bool isRecorded;
+    };
+
+    std::vector<Value> m_values;
+};
