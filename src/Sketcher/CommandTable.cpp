@@ -1,8 +1,13 @@
 #include "CommandTable.h"
 
+#include "ArcCentreAction.h"
+#include "ArcThreePointsAction.h"
+#include "CircleAction.h"
 #include "EntityEdit.h"
 #include "EraseAction.h"
 #include "LineAction.h"
+#include "RectangleAction.h"
+#include "RotateAction.h"
 #include "SketchView.h"
 #include "Workspace.h"
 #include "ZoomWindowAction.h"
@@ -55,9 +60,17 @@ void SetProperty(Sketch& sketch, const CommandParameters& parameters)
         ActionManager::StepDone();
 }
 
+template <class Action>
+CommandEntry MakeAction(const std::wstring& id, const std::wstring& caption,
+                        const std::wstring& iconPath, const std::wstring& toolTip,
+                        const std::wstring& group, const std::wstring& keys, Workspace& workspace)
+{
+    return {id,  caption, iconPath,    toolTip + L" (" + keys + L")", group,
+            L"", keys,    Interactive, Begin<Action>(workspace),      {}};
+}
+
 std::vector<CommandEntry> MakeDrawingCommands(Workspace& workspace)
 {
-    Sketch& sketch = workspace.sketch;
     return {
         {L"Sketcher.Line",
          L"直线",
@@ -69,6 +82,18 @@ std::vector<CommandEntry> MakeDrawingCommands(Workspace& workspace)
          Interactive,
          Begin<LineAction>(workspace),
          {}},
+        MakeAction<RectangleAction>(L"Sketcher.Rectangle", L"矩形", L":/icons/rectangle.svg",
+                                    L"矩形：单击两个对角点，或键入宽度和高度", L"绘图", L"Ctrl+R",
+                                    workspace),
+        MakeAction<CircleAction>(L"Sketcher.Circle", L"圆", L":/icons/circle.svg",
+                                 L"圆：单击圆心和圆上一点，或键入半径", L"绘图", L"Ctrl+I",
+                                 workspace),
+        MakeAction<ArcThreePointsAction>(
+            L"Sketcher.Arc3Points", L"三点圆弧", L":/icons/arc-three-points.svg",
+            L"三点圆弧：单击起点、端点和弧上一点，或键入半径", L"绘图", L"Ctrl+3", workspace),
+        MakeAction<ArcCentreAction>(L"Sketcher.ArcCentre", L"圆心圆弧", L":/icons/arc-centre.svg",
+                                    L"圆心圆弧：单击圆心、起点和端点，或键入圆心角", L"绘图",
+                                    L"Ctrl+4", workspace),
         {L"Sketcher.Erase",
          L"删除",
          L":/icons/erase.svg",
@@ -79,8 +104,18 @@ std::vector<CommandEntry> MakeDrawingCommands(Workspace& workspace)
          Interactive,
          Begin<EraseAction>(workspace),
          {}},
+    };
+}
+
+std::vector<CommandEntry> MakeEditCommands(Workspace& workspace)
+{
+    Sketch& sketch = workspace.sketch;
+    return {
         {L"Sketcher.Undo", L"撤销", L":/icons/undo.svg", L"撤销上一步 (Ctrl+Z)", L"编辑", L"",
          L"Ctrl+Z", Plain, Do([&sketch] { Undo(sketch); }), [&sketch] { return sketch.CanUndo(); }},
+        MakeAction<RotateAction>(L"Sketcher.Rotate", L"旋转", L":/icons/rotate.svg",
+                                 L"旋转：将所选图元绕一点转到另一方向，或键入角度", L"编辑",
+                                 L"Ctrl+T", workspace),
         {EntityEdit::CommandId,
          L"设置特性",
          L"",
@@ -172,6 +207,8 @@ std::vector<CommandEntry> MakeCommandTable(Workspace& workspace, SketchView& vie
                                            DimensionInputController& input)
 {
     std::vector<CommandEntry> entries = MakeDrawingCommands(workspace);
+    for (CommandEntry& entry : MakeEditCommands(workspace))
+        entries.push_back(std::move(entry));
     entries.push_back(MakeKeyStripCommand(input));
     for (CommandEntry& entry : MakeZoomCommands(workspace.sketch, view))
         entries.push_back(std::move(entry));

@@ -1,0 +1,109 @@
+#include "ArcThreePointsAction.h"
+
+#include "ArcConstruction.h"
+#include "Polar.h"
+#include "ShapeGraphics.h"
+#include "Workspace.h"
+
+#include "Dimension/LengthUnit.h"
+#include "Dimension/RadiusTemporaryDimensionContext.h"
+#include "Geometry/Constants.h"
+#include "Graphics/IGraphicsNode.h"
+
+using namespace vesk;
+
+ArcThreePointsAction::ArcThreePointsAction(Workspace& workspace) : DrawingAction(workspace) {}
+
+std::wstring ArcThreePointsAction::GetViewText() const
+{
+    if (!m_start.has_value())
+        return L"三点圆弧：单击起点；Esc 结束";
+    if (!m_end.has_value())
+        return L"三点圆弧：单击端点；Esc 结束";
+    return L"三点圆弧：单击弧上一点，或键入半径；Esc 结束";
+}
+
+OwnerPtr<ITemporaryDimensionContext> ArcThreePointsAction::CreateDimensionContext() const
+{
+    if (!m_end.has_value())
+        return nullptr;
+    auto opContext = MakeOwner<RadiusTemporaryDimensionContext>(
+        Coordinate3d(), *m_start, *m_end, HasValues() ? GetEnd() : GetCursorOffChord());
+    const double least = (*m_end - *m_start).norm() / 2;
+    opContext->SetFirstValueRange(
+        LengthUnit::GetCurrent().ToShown(Intervald(least, Constants::MAX_MODEL_SIZE)));
+    return opContext;
+}
+
+OwnerPtr<IGraphicsNodeGroup> ArcThreePointsAction::CreateRubberBand() const
+{
+    if (!m_start.has_value())
+        return nullptr;
+    if (!m_end.has_value())
+        return MakeRubberBand(LineShape{*m_start, GetCursor()});
+    const std::optional<ArcShape> arc = MakeArc(GetEnd());
+    return arc.has_value() ? MakeRubberBand(*arc) : MakeRubberBand(LineShape{*m_start, *m_end});
+}
+
+std::optional<Vector3d> ArcThreePointsAction::GetStart() const
+{
+    return m_end.has_value() ? m_end : m_start;
+}
+
+Vector3d ArcThreePointsAction::GetEnd() const
+{
+    if (!HasValues())
+        return GetCursor();
+    return TopOfArc(*m_start, *m_end, GetValue(InputState::IS_Radius), GetCursorOffChord());
+}
+
+bool ArcThreePointsAction::Expects(InputState field) const
+{
+    return field == InputState::IS_Radius && m_end.has_value();
+}
+
+double ArcThreePointsAction::ReadCursor(InputState) const
+{
+    const std::optional<ArcShape> arc = ArcThrough(*m_start, *m_end, GetCursorOffChord());
+    return arc.has_value() ? arc->radius : 0.0;
+}
+
+/// Takes the start, then the end, then draws the arc.
+bool ArcThreePointsAction::Finish(const Vector3d& end)
+{
+    if (!m_start.has_value())
+    {
+        m_start = end;
+        return true;
+    }
+    if (!m_end.has_value())
+    {
+        if (!IsDrawable(LineShape{*m_start, end}))
+            return false;
+        m_end = end;
+        return true;
+    }
+    const std::optional<ArcShape> arc = MakeArc(end);
+    if (!arc.has_value() || GetWorkspace().sketch.Add(*arc) == 0)
+        return false;
+    m_start.reset();
+    m_end.reset();
+    return true;
+}
+
+std::optional<ArcShape> ArcThreePointsAction::MakeArc(const Vector3d& point) const
+{
+    if (const std::optional<double> radius = GetTyped(InputState::IS_Radius))
+        return ArcOfRadius(*m_start, *m_end, *radius, point);
+    return ArcThrough(*m_start, *m_end, point);
+}
+
+/// The cursor; where it makes no arc, as on the chord, a pixel to the left of the way from start to
+/// end: there is always a radius to show.
+Vector3d ArcThreePointsAction::GetCursorOffChord() const
+{
+    const Vector3d cursor = GetCursorOff(*m_end);
+    if (ArcThrough(*m_start, *m_end, cursor).has_value())
+        return cursor;
+    return cursor + GetPixel() * QuarterTurned(*m_end - *m_start).normalized();
+}
