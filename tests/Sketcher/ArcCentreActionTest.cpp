@@ -1,0 +1,182 @@
+#include "ArcCentreAction.h"
+
+#include "ActionFixture.h"
+#include "ArcGeometry.h"
+
+#include "Dimension/CentralAngleTemporaryDimensionContext.h"
+
+#include <cmath>
+
+using namespace vesk;
+using Fixture = ActionFixture<ArcCentreAction>;
+
+namespace
+{
+
+/// At the last step of an arc about (10, 20) that starts at (15, 20).
+void BeginArc(Fixture& f)
+{
+    f.Begin();
+    f.ClickAt(10, 20);
+    f.ClickAt(15, 20);
+}
+
+}
+
+class ArcCentreActionTest final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aClickMakesTheShorterArc()
+    {
+        Fixture f;
+        f.workspace.snapper.SetOn(Snapper::End, false);
+        BeginArc(f);
+        f.ClickAt(10, 99);
+        const ArcShape up = f.Drawn<ArcShape>();
+        f.ClickAt(10, 20);
+        f.ClickAt(15, 20);
+        f.ClickAt(10, -99);
+        const ArcShape down = f.Drawn<ArcShape>();
+
+        QVERIFY(up.start == Vector3d(15, 20, 0) && up.end == Vector3d(10, 25, 0));
+        QVERIFY(down.start == Vector3d(10, 15, 0) && down.end == Vector3d(15, 20, 0));
+        QCOMPARE(up.radius, 5.0);
+        QVERIFY(f.IsRepeated());
+    }
+
+    void clickedArcsAreRepeatedToTheLastBit()
+    {
+        Fixture f;
+        f.workspace.snapper.SetOn(Snapper::End, false);
+        f.Begin();
+
+        for (int i = 1; i <= 50; ++i)
+        {
+            f.ClickAt(i / 3.0, -i * 1.7);
+            f.ClickAt(i * 7.1, std::sqrt(i));
+            f.ClickAt(-i, i * i / 7.0);
+        }
+
+        QCOMPARE(f.Count(), std::size_t{50});
+        QVERIFY(f.IsRepeated());
+    }
+
+    void aTypedAngleMakesItsArc_data()
+    {
+        QTest::addColumn<double>("degrees");
+
+        QTest::newRow("quarter") << 90.0;
+        QTest::newRow("clockwise") << -90.0;
+        QTest::newRow("long way") << 300.0;
+        QTest::newRow("long way clockwise") << -300.0;
+        QTest::newRow("crooked") << 12.34567;
+        QTest::newRow("whole turn") << 360.0;
+        QTest::newRow("whole turn clockwise") << -360.0;
+    }
+
+    void aTypedAngleMakesItsArc()
+    {
+        QFETCH(double, degrees);
+        Fixture f;
+        BeginArc(f);
+        f.MoveTo(-30, 5);
+
+        f.Type(ActionViewInput::CentralAngleCommitted, degrees);
+
+        const ArcShape arc = f.Drawn<ArcShape>();
+        QVERIFY(arc.normal == Vector3d(0, 0, 1));
+        QVERIFY((degrees > 0 ? arc.start : arc.end) == Vector3d(15, 20, 0));
+        QVERIFY(std::abs(CentralAngleOf(arc) - std::abs(degrees)) < 1e-9);
+        QVERIFY(f.IsRepeated());
+    }
+
+    void anAngleThatIsOnlyConfirmedIsNotRounded()
+    {
+        Fixture f;
+        BeginArc(f);
+        f.MoveTo(13, 21);
+
+        f.Type(ActionViewInput::CentralAngleCommitted, 18.43, true);
+
+        const double degrees = std::atan2(1, 3) * 180.0 / std::acos(-1.0);
+        QVERIFY(std::abs(CentralAngleOf(f.Drawn<ArcShape>()) - degrees) < 1e-9);
+        QVERIFY(f.IsRepeated());
+    }
+
+    void theEndOfferedLiesOnTheCircle()
+    {
+        Fixture f;
+        BeginArc(f);
+
+        f.MoveTo(13, 24);
+
+        const auto opContext = f.Offered<CentralAngleTemporaryDimensionContext>();
+        QVERIFY(opContext->GetCentre() == Vector3d(10, 20, 0));
+        QVERIFY(opContext->GetStartPoint() == Vector3d(15, 20, 0));
+        QVERIFY((opContext->GetEndPoint() - Vector3d(13, 24, 0)).norm() < 1e-12);
+        QVERIFY(opContext->GetCursorPoint() == Vector3d(13, 24, 0));
+    }
+
+    void atRestTheCursorIsAPixelAway_data()
+    {
+        QTest::addColumn<double>("x");
+
+        QTest::newRow("on the start") << 15.0;
+        QTest::newRow("on the centre") << 10.0;
+    }
+
+    void atRestTheCursorIsAPixelAway()
+    {
+        QFETCH(double, x);
+        Fixture f;
+        BeginArc(f);
+
+        f.ClickAt(x, 20);
+
+        QCOMPARE(f.Count(), std::size_t{0});
+        const auto opContext = f.Offered<CentralAngleTemporaryDimensionContext>();
+        QVERIFY(opContext->GetCursorPoint() == Vector3d(x + 1, 20, 0));
+        QVERIFY(opContext->GetEndPoint() == Vector3d(15, 20, 0));
+    }
+
+    void whatIsNoArcIsNotDrawn()
+    {
+        Fixture f;
+        f.workspace.snapper.SetOn(Snapper::End, false);
+        f.Begin();
+
+        f.ClickAt(10, 20);
+        f.ClickAt(10, 20);
+        f.ClickAt(15, 20);
+        f.ClickAt(77, 20);
+        f.Type(ActionViewInput::CentralAngleCommitted, 0.0);
+        f.Type(ActionViewInput::CentralAngleCommitted, 1e-12);
+        QCOMPARE(f.Count(), std::size_t{0});
+        QCOMPARE(f.records.size(), std::size_t{2});
+        f.ClickAt(10, 77);
+
+        QCOMPARE(f.Count(), std::size_t{1});
+        QVERIFY(f.IsRepeated());
+    }
+
+    void everyStepHasItsHint()
+    {
+        Fixture f;
+        f.Begin();
+
+        const std::wstring first = f.action.GetViewText();
+        f.ClickAt(10, 20);
+        const std::wstring second = f.action.GetViewText();
+        f.ClickAt(15, 20);
+        const std::wstring third = f.action.GetViewText();
+        f.ClickAt(10, 25);
+
+        QVERIFY(first != second && second != third && first != third);
+        QCOMPARE(f.action.GetViewText(), first);
+    }
+};
+
+QTEST_MAIN(ArcCentreActionTest)
+#include "ArcCentreActionTest.moc"

@@ -1,0 +1,202 @@
+#include "ArcThreePointsAction.h"
+
+#include "ActionFixture.h"
+#include "ArcGeometry.h"
+#include "ShapeMeasure.h"
+
+#include "Dimension/LengthUnit.h"
+#include "Dimension/RadiusTemporaryDimensionContext.h"
+
+#include <cmath>
+
+using namespace vesk;
+using Fixture = ActionFixture<ArcThreePointsAction>;
+
+class ArcThreePointsActionTest final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup() { LengthUnit::SetCurrent(LengthUnit::Millimetre()); }
+
+    void threePointsMakeAnArc()
+    {
+        Fixture f;
+        f.Begin();
+
+        f.ClickAt(-5, 0);
+        f.ClickAt(5, 0);
+        f.ClickAt(3, -4);
+
+        const ArcShape arc = f.Drawn<ArcShape>();
+        QVERIFY(arc.start == Vector3d(-5, 0, 0) && arc.end == Vector3d(5, 0, 0));
+        QVERIFY(arc.centre.norm() < 1e-12);
+        QVERIFY(arc.normal == Vector3d(0, 0, 1));
+        QVERIFY(f.IsRepeated());
+    }
+
+    void clickedArcsAreRepeatedToTheLastBit()
+    {
+        Fixture f;
+        f.workspace.snapper.SetOn(Snapper::End, false);
+        f.Begin();
+
+        for (int i = 1; i <= 50; ++i)
+        {
+            f.ClickAt(i / 3.0, -i * 1.7);
+            f.ClickAt(i * 7.1, std::sqrt(i));
+            f.ClickAt(-i, i * i / 7.0);
+        }
+
+        QCOMPARE(f.Count(), std::size_t{50});
+        QVERIFY(f.IsRepeated());
+    }
+
+    void aTypedRadiusMakesTheShorterArcOnTheCursorsSide_data()
+    {
+        QTest::addColumn<double>("radius");
+        QTest::addColumn<double>("cursorY");
+
+        QTest::newRow("above") << 13.0 << 90.0;
+        QTest::newRow("below") << 13.0 << -1.0;
+        QTest::newRow("half circle") << 5.0 << 2.0;
+        QTest::newRow("tenth") << 5.1 << -2.0;
+        QTest::newRow("greatest") << 1e9 << 2.0;
+    }
+
+    void aTypedRadiusMakesTheShorterArcOnTheCursorsSide()
+    {
+        QFETCH(double, radius);
+        QFETCH(double, cursorY);
+        Fixture f;
+        f.Begin();
+        f.ClickAt(-5, 0);
+        f.ClickAt(5, 0);
+        f.MoveTo(40, cursorY);
+
+        f.Type(ActionViewInput::RadiusCommitted, radius);
+
+        const ArcShape arc = f.Drawn<ArcShape>();
+        QCOMPARE(arc.radius, radius);
+        QVERIFY(arc.start.x() == (cursorY > 0 ? 5 : -5));
+        QVERIFY(CentralAngleOf(arc) <= 180.0 + 1e-9);
+        QVERIFY(f.IsRepeated());
+    }
+
+    void aRadiusCanBeTypedBeforeTheMouseMoves_data()
+    {
+        QTest::addColumn<double>("endX");
+        QTest::addColumn<double>("endY");
+
+        QTest::newRow("chord along x") << 10.0 << 0.0;
+        QTest::newRow("chord back along x") << -10.0 << 0.0;
+        QTest::newRow("chord along y") << 0.0 << 10.0;
+    }
+
+    void aRadiusCanBeTypedBeforeTheMouseMoves()
+    {
+        QFETCH(double, endX);
+        QFETCH(double, endY);
+        Fixture f;
+        f.Begin();
+        f.ClickAt(0, 0);
+        f.ClickAt(endX, endY);
+
+        const auto opContext = f.Offered<RadiusTemporaryDimensionContext>();
+        const Vector3d off = opContext->GetThirdPoint() - opContext->GetFirstPoint();
+        QVERIFY(std::abs(off.x() * endY - off.y() * endX) > 1.0);
+        f.Type(ActionViewInput::RadiusCommitted, 7);
+
+        QCOMPARE(f.Drawn<ArcShape>().radius, 7.0);
+        QVERIFY(f.IsRepeated());
+    }
+
+    void theRangeBeginsAtHalfTheChordInTheUnitShown()
+    {
+        LengthUnit::SetCurrent(LengthUnit::Centimetre());
+        Fixture f;
+        f.Begin();
+        f.ClickAt(-50, 0);
+        QVERIFY(f.Offered<RadiusTemporaryDimensionContext>() == nullptr);
+        f.ClickAt(50, 0);
+
+        const Intervald range = f.Offered<RadiusTemporaryDimensionContext>()->GetFirstValueRange();
+
+        QCOMPARE(range.GetMin(), 5.0);
+        QCOMPARE(range.GetMax(), 1e8);
+    }
+
+    void theLeastRadiusOfTheRangeIsTaken()
+    {
+        LengthUnit::SetCurrent(LengthUnit::Inch());
+        Fixture f;
+        f.Begin();
+        f.ClickAt(-1.0 / 3.0, 0.1);
+        f.ClickAt(7.7, 8.9);
+        f.MoveTo(0, 8);
+
+        const double least =
+            f.Offered<RadiusTemporaryDimensionContext>()->GetFirstValueRange().GetMin();
+        f.Type(ActionViewInput::RadiusCommitted, least);
+
+        QVERIFY(std::abs(CentralAngleOf(f.Drawn<ArcShape>()) - 180.0) < 1e-4);
+        QVERIFY(f.IsRepeated());
+    }
+
+    void theThreePointsAreOffered()
+    {
+        Fixture f;
+        f.Begin();
+        f.ClickAt(-5, 0);
+        f.ClickAt(5, 1);
+
+        f.MoveTo(2, 30);
+
+        const auto opContext = f.Offered<RadiusTemporaryDimensionContext>();
+        QVERIFY(opContext->GetFirstPoint() == Vector3d(-5, 0, 0));
+        QVERIFY(opContext->GetSecondPoint() == Vector3d(5, 1, 0));
+        QVERIFY(opContext->GetThirdPoint() == Vector3d(2, 30, 0));
+        QVERIFY(!opContext->IsCentralAngleShown());
+    }
+
+    void whatIsNoArcIsNotDrawn()
+    {
+        Fixture f;
+        f.workspace.snapper.SetOn(Snapper::End, false);
+        f.Begin();
+
+        f.ClickAt(-5, 0);
+        f.ClickAt(-5, 0);
+        QCOMPARE(f.records.size(), std::size_t{1});
+        f.ClickAt(5, 0);
+        f.ClickAt(5, 0);
+        f.ClickAt(-5, 0);
+        f.ClickAt(1, 0);
+        f.Type(ActionViewInput::RadiusCommitted, 1.0);
+
+        QCOMPARE(f.Count(), std::size_t{0});
+        QCOMPARE(f.records.size(), std::size_t{2});
+        f.ClickAt(0, 5);
+        QCOMPARE(f.Count(), std::size_t{1});
+        QVERIFY(f.IsRepeated());
+    }
+
+    void everyStepHasItsHint()
+    {
+        Fixture f;
+        f.Begin();
+
+        const std::wstring first = f.action.GetViewText();
+        f.ClickAt(-5, 0);
+        const std::wstring second = f.action.GetViewText();
+        f.ClickAt(5, 0);
+        const std::wstring third = f.action.GetViewText();
+        f.ClickAt(0, 5);
+
+        QVERIFY(first != second && second != third && first != third);
+        QCOMPARE(f.action.GetViewText(), first);
+    }
+};
+
+QTEST_MAIN(ArcThreePointsActionTest)
+#include "ArcThreePointsActionTest.moc"
