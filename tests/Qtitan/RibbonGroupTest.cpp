@@ -115,6 +115,70 @@ private slots:
         QVERIFY(topOf(f, pBoxes) >= topOf(f, pEdit) + pEdit->height());
     }
 
+    void threeSmallButtonsStackAndTheFourthStandsBeside()
+    {
+        RibbonFixture f;
+        const QList<QToolButton*> buttons{createButton("A"), createButton("B"), createButton("C"),
+                                          createButton("D")};
+
+        f.pGroup->addSmallButton(buttons[0]);
+        f.pGroup->addSmallButton(buttons[1]);
+        f.pGroup->addSmallButton(buttons[2]);
+        f.pGroup->addSmallButton(buttons[3]);
+        f.show();
+
+        QCOMPARE(leftOf(f, buttons[2]), leftOf(f, buttons[0]));
+        QVERIFY(topOf(f, buttons[1]) >= topOf(f, buttons[0]) + buttons[0]->height());
+        QVERIFY(topOf(f, buttons[2]) >= topOf(f, buttons[1]) + buttons[1]->height());
+        QCOMPARE(topOf(f, buttons[3]), topOf(f, buttons[0]));
+        QVERIFY(leftOf(f, buttons[3]) >= leftOf(f, buttons[0]) + buttons[0]->width());
+    }
+
+    void largeButtonPartsTheColumnsOfSmallOnes()
+    {
+        RibbonFixture f;
+        QToolButton* pBefore = createButton("A");
+        QToolButton* pAfter = createButton("C");
+
+        f.pGroup->addSmallButton(pBefore);
+        const QToolButton* pLarge = f.addButton("B");
+        f.pGroup->addSmallButton(pAfter);
+        f.show();
+
+        QVERIFY(leftOf(f, pLarge) >= leftOf(f, pBefore) + pBefore->width());
+        QVERIFY(leftOf(f, pAfter) >= leftOf(f, pLarge) + pLarge->width());
+        QCOMPARE(topOf(f, pAfter), topOf(f, pBefore));
+    }
+
+    void smallButtonsAndWidgetsShareAColumn()
+    {
+        RibbonFixture f;
+        auto* pFirst = new QLineEdit;
+        QToolButton* pSecond = createButton("B");
+        auto* pThird = new QLineEdit;
+
+        f.pGroup->addWidget(pFirst);
+        f.pGroup->addSmallButton(pSecond);
+        f.pGroup->addWidget(pThird);
+        f.show();
+
+        QCOMPARE(leftOf(f, pSecond), leftOf(f, pFirst));
+        QCOMPARE(leftOf(f, pThird), leftOf(f, pFirst));
+        QVERIFY(topOf(f, pSecond) >= topOf(f, pFirst) + pFirst->height());
+        QVERIFY(topOf(f, pThird) >= topOf(f, pSecond) + pSecond->height());
+    }
+
+    void smallButtonsLeaveTheGroupAsHighAsALargeOne()
+    {
+        RibbonFixture f;
+        RibbonGroup* pSmall = f.pPage->addGroup("B");
+        f.addButton("A");
+        for (const char* caption : {"A", "B", "C"})
+            pSmall->addSmallButton(createButton(caption));
+
+        QCOMPARE(pSmall->sizeHint().height(), f.pGroup->sizeHint().height());
+    }
+
     void hiddenWidgetTakesItsLabelAlongAndTheRowsCloseUp()
     {
         RibbonFixture f;

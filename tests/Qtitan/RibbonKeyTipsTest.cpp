@@ -113,6 +113,26 @@ private slots:
         QCOMPARE(f.pView->releasedKeys, QList<int>{Qt::Key_Alt});
     }
 
+    void keyOfASmallButtonClicksItAndStandsBeforeItsCaption()
+    {
+        TipsFixture f;
+        QToolButton* pSmall = createButton("&Zoom");
+        f.pGroup->addSmallButton(pSmall);
+        QSignalSpy spy(pSmall, &QToolButton::clicked);
+        QCoreApplication::processEvents();
+        f.type(Qt::Key_Alt);
+        f.type(Qt::Key_1);
+        QCOMPARE(f.tips(), (QStringList{"L", "1", "2", "Z"}));
+        const QRect badge = f.window->findChildren<QLabel*>("qtitan_keyTip").last()->geometry();
+        const QRect place(pSmall->mapTo(f.pBar, QPoint()), pSmall->size());
+
+        f.type(Qt::Key_Z);
+
+        QVERIFY(badge.top() >= place.top() - 2 && badge.bottom() <= place.bottom() + 2);
+        QVERIFY(badge.left() < place.left() && badge.right() < place.left() + 20);
+        QCOMPARE(spy.count(), 1);
+    }
+
     void keyOfALineEditGivesItTheFocusAndTypesNothing()
     {
         TipsFixture f;

@@ -11,10 +11,18 @@ using namespace Qtitan;
 namespace
 {
 
+/// How a button comes into the ribbon.
+enum class Placing
+{
+    Large,
+    Small,
+    Stacked
+};
+
 /// A ribbon with one button that has an action and a menu.
 struct MenuFixture : RibbonFixture
 {
-    explicit MenuFixture(bool isLarge = true)
+    explicit MenuFixture(Placing placing = Placing::Large)
         : pButton(createButton("Circle(&C)")), pMenu(new QMenu(window.get())),
           pEntry(pMenu->addAction("&Three points")),
           mainSpy(pButton->defaultAction(), &QAction::triggered),
@@ -26,11 +34,18 @@ struct MenuFixture : RibbonFixture
         pButton->setToolButtonStyle(Qt::ToolButtonIconOnly);
         pButton->setPopupMode(QToolButton::MenuButtonPopup);
         pButton->setMenu(pMenu);
-        if (isLarge)
+        place(placing);
+        show();
+    }
+
+    void place(Placing placing) const
+    {
+        if (placing == Placing::Large)
             pGroup->addButton(pButton);
+        else if (placing == Placing::Small)
+            pGroup->addSmallButton(pButton);
         else
             pGroup->addWidget(pButton);
-        show();
     }
 
     QPoint arrowPlace() const { return {pButton->width() - 5, pButton->height() / 2}; }
@@ -85,28 +100,44 @@ QPalette paletteOf(const QColor& window, const QColor& text)
 
 } // namespace
 
+Q_DECLARE_METATYPE(Placing)
+
 class RibbonMenuButtonTest final : public QObject
 {
     Q_OBJECT
 
+private:
+    static void addForms()
+    {
+        QTest::addColumn<Placing>("placing");
+        QTest::newRow("large") << Placing::Large;
+        QTest::newRow("small") << Placing::Small;
+    }
+
 private slots:
     void arrowStandsOutAtTheRightEdge_data()
     {
-        QTest::addColumn<bool>("isLarge");
+        QTest::addColumn<Placing>("placing");
         QTest::addColumn<QColor>("window");
         QTest::addColumn<QColor>("text");
-        QTest::newRow("large, light") << true << QColor(240, 240, 240) << QColor(Qt::black);
-        QTest::newRow("large, dark") << true << QColor(40, 40, 40) << QColor(Qt::white);
-        QTest::newRow("small, light") << false << QColor(240, 240, 240) << QColor(Qt::black);
-        QTest::newRow("small, dark") << false << QColor(40, 40, 40) << QColor(Qt::white);
+        QTest::newRow("large, light")
+            << Placing::Large << QColor(240, 240, 240) << QColor(Qt::black);
+        QTest::newRow("large, dark") << Placing::Large << QColor(40, 40, 40) << QColor(Qt::white);
+        QTest::newRow("small, light")
+            << Placing::Small << QColor(240, 240, 240) << QColor(Qt::black);
+        QTest::newRow("small, dark") << Placing::Small << QColor(40, 40, 40) << QColor(Qt::white);
+        QTest::newRow("stacked, light")
+            << Placing::Stacked << QColor(240, 240, 240) << QColor(Qt::black);
+        QTest::newRow("stacked, dark")
+            << Placing::Stacked << QColor(40, 40, 40) << QColor(Qt::white);
     }
 
     void arrowStandsOutAtTheRightEdge()
     {
-        QFETCH(bool, isLarge);
+        QFETCH(Placing, placing);
         QFETCH(QColor, window);
         QFETCH(QColor, text);
-        const MenuFixture f(isLarge);
+        const MenuFixture f(placing);
         f.window->setPalette(paletteOf(window, text));
 
         const QImage image = f.drawn();
@@ -130,17 +161,48 @@ private slots:
         QCOMPARE(f.pButton->toolButtonStyle(), Qt::ToolButtonIconOnly);
     }
 
+    void arrowOfASmallButtonStandsClearOfItsCaption_data()
+    {
+        QTest::addColumn<QToolButton::ToolButtonPopupMode>("mode");
+        QTest::newRow("split") << QToolButton::MenuButtonPopup;
+        QTest::newRow("whole") << QToolButton::InstantPopup;
+    }
+
+    void arrowOfASmallButtonStandsClearOfItsCaption()
+    {
+        QFETCH(QToolButton::ToolButtonPopupMode, mode);
+        const MenuFixture f(Placing::Small);
+        f.pButton->setPopupMode(mode);
+        f.pButton->updateGeometry();
+        QCoreApplication::processEvents();
+        const int captionEnd =
+            24 + f.pButton->fontMetrics().size(Qt::TextShowMnemonic, f.pButton->text()).width();
+        const QImage withArrow = f.drawn();
+
+        f.pButton->setMenu(nullptr);
+        f.pButton->setPopupMode(QToolButton::DelayedPopup);
+        const QImage plain = f.drawn().copy(0, 0, withArrow.width(), withArrow.height());
+
+        const QRect head(0, 0, captionEnd, withArrow.height());
+        QCOMPARE(withArrow.copy(head), plain.copy(head));
+        QVERIFY(withArrow != plain);
+    }
+
     void partUnderThePointerStandsOut_data()
     {
+        QTest::addColumn<Placing>("placing");
         QTest::addColumn<bool>("isOnArrow");
-        QTest::newRow("main part") << false;
-        QTest::newRow("arrow") << true;
+        QTest::newRow("main part, large") << Placing::Large << false;
+        QTest::newRow("main part, small") << Placing::Small << false;
+        QTest::newRow("arrow, large") << Placing::Large << true;
+        QTest::newRow("arrow, small") << Placing::Small << true;
     }
 
     void partUnderThePointerStandsOut()
     {
+        QFETCH(Placing, placing);
         QFETCH(bool, isOnArrow);
-        const MenuFixture f;
+        const MenuFixture f(placing);
         f.window->setPalette(paletteOf(QColor(240, 240, 240), Qt::black));
         const QColor page = f.drawn().pixelColor(4, 4);
 
@@ -156,15 +218,19 @@ private slots:
 
     void arrowIsPressedWhileTheMenuIsOpen_data()
     {
+        QTest::addColumn<Placing>("placing");
         QTest::addColumn<bool>("isByKey");
-        QTest::newRow("by key") << true;
-        QTest::newRow("by click") << false;
+        QTest::newRow("by key, large") << Placing::Large << true;
+        QTest::newRow("by key, small") << Placing::Small << true;
+        QTest::newRow("by click, large") << Placing::Large << false;
+        QTest::newRow("by click, small") << Placing::Small << false;
     }
 
     void arrowIsPressedWhileTheMenuIsOpen()
     {
+        QFETCH(Placing, placing);
         QFETCH(bool, isByKey);
-        MenuFixture f;
+        MenuFixture f(placing);
         f.window->setPalette(paletteOf(QColor(240, 240, 240), Qt::black));
         f.pButton->setFocus(Qt::TabFocusReason);
         QImage image;
@@ -179,9 +245,12 @@ private slots:
                 image.pixelColor(4, 4).lightness() - 20);
     }
 
+    void clickOnTheMainPartTriggersTheActionOnly_data() { addForms(); }
+
     void clickOnTheMainPartTriggersTheActionOnly()
     {
-        MenuFixture f;
+        QFETCH(Placing, placing);
+        MenuFixture f(placing);
         f.whenOpen([] {});
 
         f.click(f.mainPlace());
@@ -191,9 +260,12 @@ private slots:
         QVERIFY(!f.wasOpen);
     }
 
+    void clickOnTheArrowOpensTheMenuOnly_data() { addForms(); }
+
     void clickOnTheArrowOpensTheMenuOnly()
     {
-        MenuFixture f;
+        QFETCH(Placing, placing);
+        MenuFixture f(placing);
         f.whenOpen([] {});
 
         f.click(f.arrowPlace());
@@ -204,25 +276,28 @@ private slots:
 
     void keyOpensTheMenuOfTheFocusedButton_data()
     {
-        QTest::addColumn<bool>("isLarge");
+        QTest::addColumn<Placing>("placing");
         QTest::addColumn<Qt::Key>("key");
         QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
         const Qt::KeyboardModifiers none;
         const Qt::KeyboardModifiers alt(Qt::AltModifier);
-        QTest::newRow("Down, large") << true << Qt::Key_Down << none;
-        QTest::newRow("Alt+Down, large") << true << Qt::Key_Down << alt;
-        QTest::newRow("F4, large") << true << Qt::Key_F4 << none;
-        QTest::newRow("Down, small") << false << Qt::Key_Down << none;
-        QTest::newRow("Alt+Down, small") << false << Qt::Key_Down << alt;
-        QTest::newRow("F4, small") << false << Qt::Key_F4 << none;
+        QTest::newRow("Down, large") << Placing::Large << Qt::Key_Down << none;
+        QTest::newRow("Alt+Down, large") << Placing::Large << Qt::Key_Down << alt;
+        QTest::newRow("F4, large") << Placing::Large << Qt::Key_F4 << none;
+        QTest::newRow("Down, small") << Placing::Small << Qt::Key_Down << none;
+        QTest::newRow("Alt+Down, small") << Placing::Small << Qt::Key_Down << alt;
+        QTest::newRow("F4, small") << Placing::Small << Qt::Key_F4 << none;
+        QTest::newRow("Down, stacked") << Placing::Stacked << Qt::Key_Down << none;
+        QTest::newRow("Alt+Down, stacked") << Placing::Stacked << Qt::Key_Down << alt;
+        QTest::newRow("F4, stacked") << Placing::Stacked << Qt::Key_F4 << none;
     }
 
     void keyOpensTheMenuOfTheFocusedButton()
     {
-        QFETCH(bool, isLarge);
+        QFETCH(Placing, placing);
         QFETCH(Qt::Key, key);
         QFETCH(Qt::KeyboardModifiers, modifiers);
-        MenuFixture f(isLarge);
+        MenuFixture f(placing);
         f.pButton->setFocus(Qt::TabFocusReason);
         f.whenOpen([&f] { QTest::keyClick(f.pMenu, Qt::Key_T); });
 

@@ -58,23 +58,24 @@ struct ControlsFixture : RibbonFixture
         return pRadios->findChild<QRadioButton*>("radio" + QString::number(index));
     }
 
-    /// The names of what has the focus after each of so many Tabs.
-    QStringList tabThrough(int count, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const
-    {
-        QStringList names;
-        for (int i = 0; i < count; ++i)
-        {
-            type(modifiers ? Qt::Key_Backtab : Qt::Key_Tab, modifiers);
-            names << QApplication::focusWidget()->objectName();
-        }
-        return names;
-    }
-
     QWidget* pChecks;
     QWidget* pRadios;
     QComboBox* pBox;
     QToolButton* pButton;
 };
+
+/// The names of what has the focus after each of so many Tabs.
+QStringList tabThrough(const RibbonFixture& f, int count,
+                       Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+{
+    QStringList names;
+    for (int i = 0; i < count; ++i)
+    {
+        f.type(modifiers ? Qt::Key_Backtab : Qt::Key_Tab, modifiers);
+        names << QApplication::focusWidget()->objectName();
+    }
+    return names;
+}
 
 const QStringList s_order{"button", "box", "check1", "check2", "check3", "check4", "radio0"};
 
@@ -92,7 +93,25 @@ private slots:
         f.show(1200);
         f.pButton->setFocus(Qt::TabFocusReason);
 
-        QCOMPARE(f.tabThrough(6), s_order.mid(1));
+        QCOMPARE(tabThrough(f, 6), s_order.mid(1));
+    }
+
+    void tabGoesDownTheSmallButtons()
+    {
+        RibbonFixture f;
+        f.pView->setObjectName("view");
+        for (const char* name : {"A", "B", "C", "D"})
+        {
+            QToolButton* pButton = createButton(name);
+            pButton->setObjectName(name);
+            f.pGroup->addSmallButton(pButton);
+        }
+        QToolButton* pLarge = f.addButton("E");
+        pLarge->setObjectName("E");
+        f.show();
+        f.pBar->findChild<QToolButton*>("A")->setFocus(Qt::TabFocusReason);
+
+        QCOMPARE(tabThrough(f, 5), (QStringList{"B", "C", "D", "E", "view"}));
     }
 
     void backtabGoesTheOtherWayFromTheView()
@@ -100,7 +119,7 @@ private slots:
         ControlsFixture f;
         f.show(1200);
 
-        const QStringList names = f.tabThrough(7, Qt::ShiftModifier);
+        const QStringList names = tabThrough(f, 7, Qt::ShiftModifier);
 
         QCOMPARE(names,
                  (QStringList{"radio3", "check4", "check3", "check2", "check1", "box", "button"}));
@@ -127,7 +146,7 @@ private slots:
         QCoreApplication::processEvents();
         f.pBox->setFocus(Qt::TabFocusReason);
 
-        const QStringList names = f.tabThrough(4);
+        const QStringList names = tabThrough(f, 4);
 
         QCOMPARE(names, (QStringList{"check0", "check1", "check2", "check3"}));
     }
@@ -140,7 +159,7 @@ private slots:
         f.pChecks->findChild<QWidget*>("check3")->setEnabled(false);
         f.pBox->setFocus(Qt::TabFocusReason);
 
-        QCOMPARE(f.tabThrough(3), (QStringList{"check1", "check4", "radio0"}));
+        QCOMPARE(tabThrough(f, 3), (QStringList{"check1", "check4", "radio0"}));
     }
 
     void tabInANarrowRibbonBringsEveryControlIntoView()
@@ -149,7 +168,7 @@ private slots:
         f.show(250);
         f.pButton->setFocus(Qt::TabFocusReason);
 
-        QCOMPARE(f.tabThrough(6), s_order.mid(1));
+        QCOMPARE(tabThrough(f, 6), s_order.mid(1));
 
         QTRY_COMPARE(f.radio(0)->visibleRegion().boundingRect(), f.radio(0)->rect());
     }
