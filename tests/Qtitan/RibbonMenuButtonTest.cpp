@@ -22,7 +22,8 @@ enum class Placing
 /// A ribbon with one button that has an action and a menu.
 struct MenuFixture : RibbonFixture
 {
-    explicit MenuFixture(Placing placing = Placing::Large)
+    explicit MenuFixture(Placing placing = Placing::Large,
+                         QToolButton::ToolButtonPopupMode popupMode = QToolButton::MenuButtonPopup)
         : pButton(createButton("Circle(&C)")), pMenu(new QMenu(window.get())),
           pEntry(pMenu->addAction("&Three points")),
           mainSpy(pButton->defaultAction(), &QAction::triggered),
@@ -32,7 +33,7 @@ struct MenuFixture : RibbonFixture
         icon.fill(Qt::green);
         pButton->defaultAction()->setIcon(icon);
         pButton->setToolButtonStyle(Qt::ToolButtonIconOnly);
-        pButton->setPopupMode(QToolButton::MenuButtonPopup);
+        pButton->setPopupMode(popupMode);
         pButton->setMenu(pMenu);
         place(placing);
         show();
@@ -171,10 +172,7 @@ private slots:
     void arrowOfASmallButtonStandsClearOfItsCaption()
     {
         QFETCH(QToolButton::ToolButtonPopupMode, mode);
-        const MenuFixture f(Placing::Small);
-        f.pButton->setPopupMode(mode);
-        f.pButton->updateGeometry();
-        QCoreApplication::processEvents();
+        const MenuFixture f(Placing::Small, mode);
         const int captionEnd =
             24 + f.pButton->fontMetrics().size(Qt::TextShowMnemonic, f.pButton->text()).width();
         const QImage withArrow = f.drawn();
