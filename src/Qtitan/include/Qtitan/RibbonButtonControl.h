@@ -12,7 +12,7 @@ namespace Qtitan
 /// How a button stands in a ribbon.
 enum class RibbonButtonForm
 {
-    /// As high as the page, with an icon of 32 pixels, arranged as the button's own style says.
+    /// As high as its group, with an icon of 32 pixels, arranged as the button's own style says.
     Large,
     /// One row high, with an icon of 16 pixels at the left and the caption at its right, whatever
     /// the button's own style says.
@@ -30,6 +30,7 @@ public:
                                  RibbonButtonForm form = RibbonButtonForm::Large);
     ~RibbonButtonControl() override;
 
+    /// The form that the control was made in; it keeps it for good.
     RibbonButtonForm form() const;
 
     /// The placed button itself; null when there is none, or when it was deleted or has been

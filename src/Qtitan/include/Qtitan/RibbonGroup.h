@@ -15,8 +15,8 @@ class RibbonColumn;
 
 /// A titled part of a page. Large buttons stand side by side; small buttons and other widgets stack
 /// in columns of three beside them, in the order in which they are added: what follows a large
-/// button begins a column of its own. A group whose controls are all hidden
-/// hides until one of them is shown.
+/// button begins a new column. A group whose controls are all hidden hides until one of them is
+/// shown.
 class QTITAN_EXPORT RibbonGroup : public QWidget
 {
     Q_OBJECT
@@ -33,9 +33,9 @@ public:
     /// becomes the button's parent. The button may be hidden, disabled or deleted at any time.
     RibbonButtonControl* addButton(QToolButton* pButton);
 
-    /// Stacks a button as a small one and returns its control, which the ribbon owns and which
-    /// becomes the button's parent. The button may be hidden, disabled or deleted at any time, and
-    /// gives its place up while it is; the row stays the control's.
+    /// Stacks a button as a small one and returns its control, which the group owns and which
+    /// becomes the button's parent. The button may be hidden, disabled or deleted at any time. It
+    /// gives its place up while it is hidden or gone; the row stays the control's.
     RibbonButtonControl* addSmallButton(QToolButton* pButton);
 
     /// Stacks a widget; the ribbon becomes its parent. It may be hidden or deleted at any time,
