@@ -118,7 +118,7 @@ void CentreArcDimensionsTest::theAngleRunsFromMinus180Above180()
 void CentreArcDimensionsTest::anAngleIsNoNegativeZero()
 {
     Fixture f;
-    f.coordinate = Coordinate3d({0, 0, 0}, Vector3d::UnitZ(), -Vector3d::UnitY());
+    f.coordinate = Coordinate3d({0, 0, 0}, {0, 0, 1}, {0, -1, 0});
     f.centre = {0, 0, 0};
     f.start = {0, -0.0, 200};
     f.end = {-0.0, 0, 300};

@@ -57,12 +57,19 @@ struct Fixture
         return QRect(ToPixel(cursor), QSize(1, 1)).marginsAdded(QMargins(8, 8, 8, 8));
     }
 
+    /// Up to a hundredth of a pixel.
+    bool IsInPlane(const GeneratorKind& kind) const
+    {
+        const Vector3d offset = input.data[kind.field].textPosition - points[0];
+        return std::abs(offset.dot(input.coordinate.GetZ())) < 0.01 * input.pixel;
+    }
+
     bool IsPlaced(const GeneratorKind& kind) const
     {
         const QRect whole(0, 0, camera.GetWidth(), camera.GetHeight());
         const QRect editor = GetEditor(kind);
         return whole.marginsRemoved(QMargins(2, 2, 2, 2)).contains(editor) &&
-               !editor.intersects(GetCursor(kind));
+               !editor.intersects(GetCursor(kind)) && IsInPlane(kind);
     }
 
     bool IsPlaced(const GeneratorPair& pair) const
