@@ -9,17 +9,6 @@ namespace
 const QString s_style = QStringLiteral("Sketcher.LineStyle");
 const QString s_colour = QStringLiteral("Sketcher.LineColour");
 
-/// F10 shows the keys of the tabs, the tab's shows those of its controls: counted from the left,
-/// what is disabled left out. A button is clicked by its key, any other control gets the focus.
-QStringList KeysTo(const QString& controlKey)
-{
-    return {"F10", "1", controlKey};
-}
-
-/// While Undo and zooming to all are disabled.
-const QString s_styleKey = QStringLiteral("4");
-const QString s_colourKey = QStringLiteral("5");
-
 }
 
 /// The controls of the ribbon, each used with the mouse and with the keys alone.
@@ -81,7 +70,7 @@ void ControlsTest::comboBoxTakesTheClickedItem()
 
 void ControlsTest::comboBoxIsUsedWithTheKeys()
 {
-    QVERIFY(Session().Type("", KeysTo(s_styleKey) + QStringList{"Down"}));
+    QVERIFY(Session().Type("", Session().KeysTo(s_style) + QStringList{"Down"}));
     QVERIFY(Session().WaitForText(s_style, "虚线"));
     QVERIFY(Session().Type("", {"Down", "Down", "Up"}));
     QVERIFY(Session().WaitForText(s_style, "点线"));
@@ -119,7 +108,7 @@ void ControlsTest::wheelOverABoxWithoutTheFocusChangesNothing()
 
 void ControlsTest::wheelOverTheBoxWithTheFocusChangesIt()
 {
-    QVERIFY(Session().Type("", KeysTo(s_styleKey) + QStringList{"Down"}));
+    QVERIFY(Session().Type("", Session().KeysTo(s_style) + QStringList{"Down"}));
     QVERIFY(Session().WaitForText(s_style, "虚线"));
 
     QVERIFY(Session().Input().MoveTo(CentreOf(s_style)));
@@ -152,7 +141,7 @@ void ControlsTest::checkBoxIsUsedWithTheKeys()
 {
     QVERIFY(Session().WaitForChecked("Sketcher.Snap.End", true));
 
-    QVERIFY(Session().Type("", KeysTo(s_colourKey) + QStringList{"Tab", "space"}));
+    QVERIFY(Session().Type("", Session().KeysTo(s_colour) + QStringList{"Tab", "space"}));
     QVERIFY(Session().WaitForChecked("Sketcher.Snap.End", false));
     // Tab and the arrows both go from one box to the next.
     QVERIFY(Session().Type("", {"Tab", "space", "Tab", "Right", "Right", "space"}));
@@ -163,7 +152,7 @@ void ControlsTest::checkBoxIsUsedWithTheKeys()
     QVERIFY(Session().Type("", {"space"}));
     QVERIFY(Session().WaitForChecked("Sketcher.Snap.Grid", false));
     // The key that stands on the box itself.
-    QVERIFY(Session().Type("", KeysTo("8")));
+    QVERIFY(Session().Type("", Session().KeysTo("Sketcher.Snap.Centre")));
     QVERIFY(Session().WaitForChecked("Sketcher.Snap.Centre", true));
 }
 
@@ -183,13 +172,13 @@ void ControlsTest::radioButtonIsClicked()
 
 void ControlsTest::radioButtonIsUsedWithTheKeys()
 {
-    QVERIFY(Session().Type("", KeysTo(s_colourKey) +
+    QVERIFY(Session().Type("", Session().KeysTo(s_colour) +
                                    QStringList{"Tab", "Tab", "Tab", "Tab", "Tab", "Tab", "Right"}));
     QVERIFY(Session().WaitForChecked("Sketcher.Unit.cm", true));
     QVERIFY(Session().Type("", {"Right", "Right"}));
     QVERIFY(Session().WaitForChecked("Sketcher.Unit.inch", true));
     QVERIFY(DrawLineAlongX("2", 1));
-    QVERIFY(Session().Type("", KeysTo("F")));
+    QVERIFY(Session().Type("", Session().KeysTo("Sketcher.Unit.m")));
     QVERIFY(Session().WaitForChecked("Sketcher.Unit.m", true));
     QVERIFY(DrawLineAlongX("0.05", 2));
 
@@ -201,8 +190,8 @@ void ControlsTest::radioButtonIsUsedWithTheKeys()
 
 void ControlsTest::lineEditIsUsedWithTheKeys()
 {
-    QVERIFY(Session().Type("", KeysTo("F") + QStringList{"ctrl+a"} + InputDriver::Text("Plan C") +
-                                   QStringList{"Return"}));
+    QVERIFY(Session().Type("", Session().KeysTo("Sketcher.DrawingName") + QStringList{"ctrl+a"} +
+                                   InputDriver::Text("Plan C") + QStringList{"Return"}));
 
     QVERIFY(Session().WaitForText("Sketcher.DrawingName", "Plan C"));
     QCOMPARE(Session().Tree().GetAction(), QString());
@@ -210,7 +199,7 @@ void ControlsTest::lineEditIsUsedWithTheKeys()
 
 void ControlsTest::commandButtonIsUsedWithTheKeys()
 {
-    QVERIFY(Session().Type("", KeysTo("1")));
+    QVERIFY(Session().Type("", Session().KeysTo("Sketcher.Line")));
     QVERIFY(Session().WaitForAction("Sketcher.Line"));
     QVERIFY(Session().ClickView(QPointF(0.0, 0.0)));
     QVERIFY(Session().Type("25", {"Return"}));

@@ -88,6 +88,12 @@ bool DesktopSession::Click(const QString& id)
     return isThere && m_input.Click(place);
 }
 
+QStringList DesktopSession::KeysTo(const QString& id)
+{
+    Refresh();
+    return {"F10", "1", m_tree.GetKeyTip(id)};
+}
+
 bool DesktopSession::OpenMenu(const QString& buttonId, const QString& commandId)
 {
     constexpr int FromTheEdge = 4;

@@ -52,6 +52,10 @@ public:
     /// Clicks the control with that id. False when it is not on screen within a few seconds.
     bool Click(const QString& id);
 
+    /// The keys that click a button of the ribbon, or give another control of it the focus: F10
+    /// shows those of the tabs, the tab's shows those of its controls.
+    QStringList KeysTo(const QString& id);
+
     /// Opens the menu of a button by its arrow and waits for the entry of that command.
     bool OpenMenu(const QString& buttonId, const QString& commandId);
 

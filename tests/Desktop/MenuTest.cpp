@@ -13,9 +13,6 @@ const QString s_zoomWindow = QStringLiteral("Sketcher.Zoom.Window");
 const QString s_double = QStringLiteral("Sketcher.Zoom.Scale.200");
 const QString s_quarter = QStringLiteral("Sketcher.Zoom.Scale.25");
 
-/// The focus on the button with the menu: the key of the box behind it, and one step back.
-const QStringList s_keysToTheButton = {"F10", "1", "4", "shift+Tab"};
-
 }
 
 /// The button with a menu, its main part, its arrow and its entries.
@@ -37,8 +34,17 @@ private slots:
     void mainPartOnlyEndsTheLine();
 
 private:
+    QStringList KeysToTheButton();
     bool OpenSubMenu();
 };
+
+/// The focus on the button: its own key would click it, so to the box behind the next group and
+/// four steps back.
+QStringList MenuTest::KeysToTheButton()
+{
+    return Session().KeysTo("Sketcher.LineStyle") +
+           QStringList{"shift+Tab", "shift+Tab", "shift+Tab", "shift+Tab"};
+}
 
 /// Moves the mouse down to the last entry, which is the sub-menu, and waits until it is open.
 bool MenuTest::OpenSubMenu()
@@ -84,7 +90,7 @@ void MenuTest::menuIsUsedWithTheKeys()
 {
     QFETCH(QString, key);
 
-    QVERIFY(Session().Type("", s_keysToTheButton + QStringList{key}));
+    QVERIFY(Session().Type("", KeysToTheButton() + QStringList{key}));
     QVERIFY(Session().WaitForEntry(s_zoomIn));
     // In an empty drawing the first entry is disabled.
     QVERIFY(Session().Type("", {"Down", "Down", "Return"}));
@@ -94,7 +100,7 @@ void MenuTest::menuIsUsedWithTheKeys()
 
 void MenuTest::subMenuIsUsedWithTheKeys()
 {
-    QVERIFY(Session().Type("", s_keysToTheButton + QStringList{"Down"}));
+    QVERIFY(Session().Type("", KeysToTheButton() + QStringList{"Down"}));
     QVERIFY(Session().WaitForEntry(s_zoomIn));
     QVERIFY(Session().Type("", {"Up", "Right"}));
     QVERIFY(Session().WaitForEntry(s_quarter));

@@ -59,6 +59,10 @@ public:
     /// The control with that id; nothing when there is none.
     std::optional<UiControl> FindControl(const QString& id) const;
 
+    /// The key that the ribbon shows on a control: digits, then letters, counted from the left;
+    /// what cannot be used is left out. Empty when the control has none.
+    QString GetKeyTip(const QString& id) const;
+
     /// The entry of an open menu with that command; nothing while it is not on screen.
     std::optional<UiControl> FindEntry(const QString& commandId) const;
 
