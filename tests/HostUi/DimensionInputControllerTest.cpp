@@ -113,6 +113,19 @@ private slots:
         QCOMPARE(f.controller.GetMessage(), QString());
     }
 
+    void commaAloneIsATextThatSomebodyTyped()
+    {
+        TypingScript script = Linear();
+        script.isRawTextInput = true;
+        InputFixture f(script);
+
+        f.Type(",").Press(Qt::Key_Return);
+
+        QCOMPARE(f.script.taken.size(), std::size_t(1));
+        QCOMPARE(f.script.taken[0].text, QString(","));
+        QVERIFY(!f.script.taken[0].typed.isUnchanged);
+    }
+
     void spaceIsABlankWhereItTakesNoValue()
     {
         InputFixture f(CentralAngle(), &MakeCentralAngle);
