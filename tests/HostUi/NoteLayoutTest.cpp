@@ -73,11 +73,11 @@ private slots:
 
     void noteCoversATextWhereThereIsNoOtherRoom()
     {
-        const QSize view(240, 60);
-        const QRect editor(QPoint(0, 0), s_editor);
-        NoteLayout layout({view, editor, std::nullopt, {QRect(0, 0, 240, 60)}});
+        const QSize view(240, 90);
+        const QRect editor(QPoint(0, 60), s_editor);
+        NoteLayout layout({view, editor, std::nullopt, {QRect(QPoint(0, 0), view)}});
 
-        QCOMPARE(layout.PlaceBelow(s_strip), QRect(QPoint(0, 30), s_strip));
+        QCOMPARE(layout.PlaceBelow(s_strip), QRect(QPoint(0, 32), s_strip));
     }
 
     void notesStandApartInsideTheViewWhereverTheEditorIs_data()
