@@ -8,6 +8,7 @@
 #include <QPalette>
 #include <QPolygonF>
 
+#include <algorithm>
 #include <cmath>
 
 namespace vesk
@@ -34,6 +35,17 @@ const Pen& PenOf(GraphicsRole role)
     return pens[static_cast<int>(role)];
 }
 
+/// So many chords that they cannot be told from an arc; of a huge one, of which little is seen, as
+/// many as are painted in no time.
+int CountChords(double radiusPixels, double sweep)
+{
+    constexpr double Deviation = 0.1;
+    constexpr double GreatestStep = 0.05;
+    constexpr double Most = 5000.0;
+    const double step = std::min(GreatestStep, std::sqrt(8.0 * Deviation / radiusPixels));
+    return 1 + static_cast<int>(std::min(Most, std::abs(sweep) / step));
+}
+
 }
 
 ProvisionalPainter::ProvisionalPainter(QPainter& painter, const IModelView& modelView,
@@ -49,8 +61,7 @@ void ProvisionalPainter::Visit(const IGraphicsLine& line)
 
 void ProvisionalPainter::Visit(const IGraphicsArc& arc)
 {
-    constexpr double StepRadians = 0.05;
-    const int steps = 1 + static_cast<int>(std::ceil(std::abs(arc.GetSweep()) / StepRadians));
+    const int steps = CountChords(arc.GetRadius() / m_modelView.GetWorldPerPixel(), arc.GetSweep());
     QPolygonF points;
     for (int i = 0; i <= steps; ++i)
     {
