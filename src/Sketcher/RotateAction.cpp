@@ -11,10 +11,20 @@
 #include "Graphics/IGraphicsNode.h"
 #include "Journal/JournalManager.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <utility>
 #include <vector>
 
 using namespace vesk;
+
+namespace
+{
+
+/// So many of the turned entities are shown beforehand that the picture follows the cursor.
+constexpr std::size_t MostShown = 500;
+
+}
 
 RotateAction::RotateAction(Workspace& workspace) : DrawingAction(workspace) {}
 
@@ -86,8 +96,10 @@ OwnerPtr<IGraphicsNodeGroup> RotateAction::CreateRubberBand() const
     if (!m_from.has_value())
         return opGroup;
     const double degrees = GetValue(InputState::IS_CentralAngle);
-    for (const int id : GetWorkspace().selection.GetIds())
-        AddRubberBand(*opGroup, Rotated(sketch.Find(id)->shape, *m_centre, degrees));
+    const std::vector<int>& ids = GetWorkspace().selection.GetIds();
+    const std::size_t shown = std::min(ids.size(), MostShown);
+    for (std::size_t i = 0; i < shown; ++i)
+        AddRubberBand(*opGroup, Rotated(sketch.Find(ids[i])->shape, *m_centre, degrees));
     return opGroup;
 }
 

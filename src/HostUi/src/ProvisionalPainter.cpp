@@ -40,7 +40,7 @@ const Pen& PenOf(GraphicsRole role)
 int CountChords(double radiusPixels, double sweep)
 {
     constexpr double Deviation = 0.1;
-    constexpr double GreatestStep = 0.05;
+    constexpr double GreatestStep = 0.3;
     constexpr double Most = 5000.0;
     const double step = std::min(GreatestStep, std::sqrt(8.0 * Deviation / radiusPixels));
     return 1 + static_cast<int>(std::min(Most, std::abs(sweep) / step));
