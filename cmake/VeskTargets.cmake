@@ -48,7 +48,8 @@ endfunction()
 
 # vesk_test(<name> LABEL <unit|scenario|desktop|consumer> SOURCES <file>... [LIBRARIES <target>...] [TIMEOUT <s>])
 #
-# One Qt Test program; it runs on the offscreen platform with the C.UTF-8 locale unless it is a desktop test.
+# One Qt Test program; it runs with the C.UTF-8 locale, and on the offscreen platform unless it is a desktop test.
+# On Windows real windows open.
 function(vesk_test name)
     cmake_parse_arguments(ARG "" "LABEL;TIMEOUT" "SOURCES;LIBRARIES" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
@@ -61,7 +62,7 @@ function(vesk_test name)
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES LABELS ${ARG_LABEL} TIMEOUT ${ARG_TIMEOUT}
         ENVIRONMENT "LC_ALL=C.UTF-8;VESK_UNATTENDED=1;UBSAN_OPTIONS=print_stacktrace=1;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0")
-    if(NOT ARG_LABEL STREQUAL "desktop")
+    if(NOT ARG_LABEL STREQUAL "desktop" AND NOT WIN32)
         set_property(TEST ${name} APPEND PROPERTY ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
     endif()
 endfunction()

@@ -1,0 +1,18 @@
+# 64-bit Windows programs made by mingw-w64 (the variant with POSIX threads: std::thread and std::mutex need it).
+#
+# CMAKE_PREFIX_PATH names the Qt for Windows and whatever else the programs are built with: packages and headers come
+# from there only, never from the machine that builds. moc, rcc and uic run on that machine; Qt's own package knows them.
+set(CMAKE_SYSTEM_NAME Windows)
+set(CMAKE_SYSTEM_PROCESSOR x86_64)
+
+set(CMAKE_CXX_COMPILER x86_64-w64-mingw32-g++-posix)
+set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
+
+set(CMAKE_FIND_ROOT_PATH ${CMAKE_PREFIX_PATH})
+set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
+set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
+list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES CMAKE_PREFIX_PATH)
+
+set(CMAKE_CROSSCOMPILING_EMULATOR wine)
