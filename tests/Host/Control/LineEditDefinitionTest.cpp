@@ -200,6 +200,8 @@ void LineEditDefinitionTest::aSelectionIsCountedInUtf16Units_data()
     const QString wide = QString::fromUcs4(U"a\U0001F600b\u4e2d\U00020000");
     QTest::newRow("behind a pair") << wide << 3 << 1 << 3 << "b";
     QTest::newRow("a pair") << wide << 1 << 2 << 1 << QString::fromUcs4(U"\U0001F600");
+    QTest::newRow("half a pair") << wide << 1 << 1 << 1 << QString::fromUcs4(U"\U0001F600");
+    QTest::newRow("the other half") << wide << 2 << 1 << 1 << QString::fromUcs4(U"\U0001F600");
     QTest::newRow("from a pair on") << wide << 1 << 4 << 1 << wide.mid(1, 4);
     QTest::newRow("last pair") << wide << 5 << 2 << 5 << wide.mid(5);
     QTest::newRow("all with pairs") << wide << 0 << 7 << 0 << wide;

@@ -26,6 +26,7 @@ private slots:
     void aLoneSurrogateOfFourByteUnitsBecomesTheReplacement();
     void aUnitBeyondUnicodeBecomesTheReplacement_data();
     void aUnitBeyondUnicodeBecomesTheReplacement();
+    void charactersAreCountedInUtf16Units();
     void whatIsNoUtf8BecomesTheReplacement_data();
     void whatIsNoUtf8BecomesTheReplacement();
 };
@@ -132,6 +133,31 @@ void TextTest::aUnitBeyondUnicodeBecomesTheReplacement()
     QFETCH(std::string, utf8);
 
     QCOMPARE(utf8, std::string("\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD"));
+}
+
+namespace
+{
+
+/// The UTF-16 units that each character of a text takes.
+template <class Wide>
+QVector<int> CountUnits(const std::basic_string<Wide>& text)
+{
+    QVector<int> units;
+    for (std::size_t index = 0; index < text.size();)
+        units << TakeUtf16Units<Wide>(text, index);
+    return units;
+}
+
+}
+
+void TextTest::charactersAreCountedInUtf16Units()
+{
+    const QVector<int> expected{1, 2, 1, 2};
+
+    QCOMPARE(CountUnits<char16_t>(u"a\U0001F600\uffff\U0010FFFF"), expected);
+    QCOMPARE(CountUnits<char32_t>(U"a\U0001F600\uffff\U0010FFFF"), expected);
+    QCOMPARE(CountUnits<wchar_t>(L"a\U0001F600\uffff\U0010FFFF"), expected);
+    QCOMPARE(CountUnits<char16_t>({0xD83D, u'a', 0xDE00}), (QVector<int>{1, 1, 1}));
 }
 
 void TextTest::whatIsNoUtf8BecomesTheReplacement_data()

@@ -1,7 +1,9 @@
 #include "Control/LineEditDefinition.h"
 
+#include "Foundation/WideText.h"
 #include "Validation/ValidatorBase.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <utility>
 
@@ -17,12 +19,6 @@ struct Selection
     std::wstring text;
 };
 
-/// How many UTF-16 units one element of a wide text takes.
-constexpr int CountUtf16Units(wchar_t character)
-{
-    return static_cast<std::uint32_t>(character) > 0xFFFF ? 2 : 1;
-}
-
 /// The characters of `text` that overlap the given UTF-16 units: no half of one can be selected.
 Selection Select(const std::wstring& text, int start, int length)
 {
@@ -31,13 +27,14 @@ Selection Select(const std::wstring& text, int start, int length)
         return selection;
     const std::int64_t end = std::int64_t{start} + length;
     int from = 0;
-    for (const wchar_t character : text)
+    for (std::size_t index = 0; index < text.size();)
     {
-        const int to = from + CountUtf16Units(character);
+        const std::size_t first = index;
+        const int to = from + TakeUtf16Units<wchar_t>(text, index);
         if (to > start && from < end)
         {
             selection.start = selection.text.empty() ? from : selection.start;
-            selection.text += character;
+            selection.text.append(text, first, index - first);
         }
         from = to;
     }

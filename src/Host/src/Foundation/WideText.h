@@ -44,6 +44,23 @@ std::uint32_t TakeUtf16(std::basic_string_view<Wide> text, std::size_t& index)
     return 0x10000 + ((unit - 0xD800) << 10) + (next - 0xDC00);
 }
 
+/// How many UTF-16 units the character at `index` of a wide text takes; moves the index behind it.
+template <class Wide>
+int TakeUtf16Units(std::basic_string_view<Wide> text, std::size_t& index)
+{
+    const std::size_t first = index;
+    if constexpr (sizeof(Wide) == 2)
+    {
+        TakeUtf16(text, index);
+        return static_cast<int>(index - first);
+    }
+    else
+    {
+        ++index;
+        return static_cast<std::uint32_t>(text[first]) > 0xFFFF ? 2 : 1;
+    }
+}
+
 /// UTF-8 of wide text in either width of `wchar_t`.
 template <class Wide>
 std::string WideToUtf8(std::basic_string_view<Wide> text)
