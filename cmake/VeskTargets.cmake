@@ -31,6 +31,10 @@ function(vesk_library target)
     add_library(${ARG_ALIAS} ALIAS ${target})
     string(REGEX REPLACE "^.*::" "" exported "${ARG_ALIAS}")
     set_target_properties(${target} PROPERTIES EXPORT_NAME ${exported})
+    if(WIN32)
+        # All compilers name it alike: whoever loads it at run time knows no more than the name.
+        set_target_properties(${target} PROPERTIES PREFIX "")
+    endif()
     target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:vesk_build_flags>)
 
     set(generated "${CMAKE_CURRENT_BINARY_DIR}/include")
@@ -39,7 +43,8 @@ function(vesk_library target)
         "$<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}/include>" "$<BUILD_INTERFACE:${generated}>"
         "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/vesk>")
     install(TARGETS ${target} EXPORT VeskTargets
-        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
+        ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
     if(EXISTS "${CMAKE_CURRENT_SOURCE_DIR}/include")
         install(DIRECTORY include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vesk)
     endif()

@@ -8,7 +8,8 @@ namespace vesk
 {
 
 ControlLibrary::ControlLibrary()
-    : m_library(QCoreApplication::applicationDirPath() + QStringLiteral("/../lib/VeskUiQtImpl"))
+    : m_library(QCoreApplication::applicationDirPath() +
+                QStringLiteral("/../" VESK_LIBRARY_FOLDER "/VeskUiQtImpl"))
 {
     m_library.load();
 }

@@ -15,7 +15,8 @@ namespace vesk
 class VESK_HOST_UI_API ControlLibrary
 {
 public:
-    /// Loads the library from the folder `lib` beside the program's own folder.
+    /// Loads the library from the folder `lib`, on Windows `bin`, beside the program's own
+    /// folder.
     ControlLibrary();
     ~ControlLibrary();
     ControlLibrary(const ControlLibrary&) = delete;
