@@ -1,3 +1,4 @@
+#include "Support/Platform/InputMethod.h"
 #include "TemporaryDimensionHandlersImpl/HandlerFixture.h"
 
 #include <QtTest>
@@ -8,7 +9,7 @@ namespace vesk::test
 /// A main window that takes input methods, and handlers that do not want it to.
 struct InputMethodFixture
 {
-    InputMethodFixture() { host.window.setAttribute(Qt::WA_InputMethodEnabled); }
+    InputMethodFixture() { SetTakesInputMethod(host.window, true); }
 
     OwnerPtr<ITemporaryDimensionHandler> CreateHandler() const
     {
@@ -18,7 +19,7 @@ struct InputMethodFixture
                                                                                       nullptr);
     }
 
-    bool IsOn() const { return host.window.testAttribute(Qt::WA_InputMethodEnabled); }
+    bool IsOn() const { return TakesInputMethod(host.window); }
 
     HostFixture host;
 };
@@ -55,7 +56,7 @@ void InputMethodSwitchTest::isOffAsLongAsAHandlerLives()
 void InputMethodSwitchTest::isRestoredOnlyToWhatItWas()
 {
     InputMethodFixture f;
-    f.host.window.setAttribute(Qt::WA_InputMethodEnabled, false);
+    SetTakesInputMethod(f.host.window, false);
 
     f.CreateHandler().Reset();
 
@@ -138,11 +139,11 @@ void InputMethodSwitchTest::withoutAMainWindowWidgetNothingIsSwitched()
 void InputMethodSwitchTest::handlerThatSwitchedNothingOffSwitchesNothingOn()
 {
     InputMethodFixture f;
-    f.host.window.setAttribute(Qt::WA_InputMethodEnabled, false);
+    SetTakesInputMethod(f.host.window, false);
     f.host.window.SetWindowId(0);
     auto opHandler = f.CreateHandler();
     f.host.window.SetWindowId(f.host.window.winId());
-    f.host.window.setAttribute(Qt::WA_InputMethodEnabled);
+    SetTakesInputMethod(f.host.window, true);
     auto opOther = f.CreateHandler();
     QVERIFY(!f.IsOn());
 
@@ -171,7 +172,7 @@ void InputMethodSwitchTest::handlerThatLostTheWindowIsNotCountedAnyMore()
     f.host.window.SetWindowId(0);
     opHandler.Reset();
     f.host.window.SetWindowId(f.host.window.winId());
-    f.host.window.setAttribute(Qt::WA_InputMethodEnabled);
+    SetTakesInputMethod(f.host.window, true);
 
     f.CreateHandler().Reset();
 

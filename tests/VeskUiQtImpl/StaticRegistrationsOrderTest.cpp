@@ -1,0 +1,136 @@
+#include "Control/NqUiInterfaceFactory.h"
+#include "Control/VeskIControlFactory.h"
+#include "Dimension/TemporaryDimensionMgr.h"
+#include "Support/Platform/LoadedLibrary.h"
+
+#include <QFile>
+#include <QStringList>
+#include <QtTest>
+
+#include <dlfcn.h>
+#include <elf.h>
+
+#include <cstring>
+#include <utility>
+
+namespace
+{
+
+/// What the library registered and withdrew, in order, as the host's operations were told.
+QStringList s_notes;
+
+QString Describe(const char* what, const void* pFactory)
+{
+    const bool hasUiFactory = vesk::NqUiInterfaceFactory::m_pFactory != nullptr;
+    return QString("%1 %2, user-interface factory %3")
+        .arg(what, pFactory != nullptr ? "registered" : "withdrawn",
+             hasUiFactory ? "there" : "gone");
+}
+
+/// The host's own operation, which stands behind the one of this program.
+template <class Function>
+Function Next(const char* symbol)
+{
+    return reinterpret_cast<Function>(dlsym(RTLD_NEXT, symbol));
+}
+
+}
+
+namespace vesk
+{
+
+// The program's operations stand before the host's: they note the call and hand it on.
+void VeskIControlFactory::Set(VeskIControlFactory* pFactory)
+{
+    s_notes << Describe("control factory", pFactory);
+    Next<void (*)(VeskIControlFactory*)>("_ZN4vesk19VeskIControlFactory3SetEPS0_")(pFactory);
+}
+
+void TemporaryDimensionMgr::SetHandlerFactory(ITemporaryDimensionHandlerFactory* pFactory)
+{
+    s_notes << Describe("handler factory", pFactory);
+    using Function = void (*)(TemporaryDimensionMgr*, ITemporaryDimensionHandlerFactory*);
+    Next<Function>("_ZN4vesk21TemporaryDimensionMgr17SetHandlerFactoryEPNS_"
+                   "33ITemporaryDimensionHandlerFactoryE")(this, pFactory);
+}
+
+NqUiInterfaceFactory::~NqUiInterfaceFactory()
+{
+    s_notes << (m_pFactory == nullptr ? "user-interface factory destroyed when it was gone"
+                                      : "user-interface factory destroyed while registered");
+}
+
+}
+
+namespace vesk::test
+{
+
+QStringList TakeNotes()
+{
+    return std::exchange(s_notes, {});
+}
+
+template <class T>
+T ReadAt(const QByteArray& bytes, quint64 offset)
+{
+    T value;
+    std::memcpy(&value, bytes.constData() + offset, sizeof value);
+    return value;
+}
+
+/// How many symbols of the kind that pins a library in the process a file has.
+int CountUniqueSymbols(const QByteArray& elf)
+{
+    const auto header = ReadAt<Elf64_Ehdr>(elf, 0);
+    int count = 0;
+    for (int i = 0; i < header.e_shnum; ++i)
+    {
+        const auto section =
+            ReadAt<Elf64_Shdr>(elf, header.e_shoff + quint64(i) * header.e_shentsize);
+        if (section.sh_type != SHT_DYNSYM)
+            continue;
+        for (quint64 at = 0; at < section.sh_size; at += sizeof(Elf64_Sym))
+        {
+            const auto symbol = ReadAt<Elf64_Sym>(elf, section.sh_offset + at);
+            count += ELF64_ST_BIND(symbol.st_info) == STB_GNU_UNIQUE ? 1 : 0;
+        }
+    }
+    return count;
+}
+
+class StaticRegistrationsOrderTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void registersInOrderAndWithdrawsInReverse();
+    void hasNoSymbolThatPinsIt();
+};
+
+void StaticRegistrationsOrderTest::registersInOrderAndWithdrawsInReverse()
+{
+    LoadedLibrary library(VESK_LIBRARY_PATH);
+    QVERIFY2(library.IsLoaded(), qPrintable(library.GetError()));
+    QCOMPARE(TakeNotes(),
+             (QStringList{"control factory registered, user-interface factory there",
+                          "handler factory registered, user-interface factory there"}));
+
+    library.Unload();
+
+    QCOMPARE(TakeNotes(), (QStringList{"handler factory withdrawn, user-interface factory there",
+                                       "control factory withdrawn, user-interface factory there",
+                                       "user-interface factory destroyed when it was gone"}));
+}
+
+void StaticRegistrationsOrderTest::hasNoSymbolThatPinsIt()
+{
+    QFile file(VESK_LIBRARY_PATH);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+
+    QCOMPARE(CountUniqueSymbols(file.readAll()), 0);
+}
+
+}
+
+QTEST_MAIN(vesk::test::StaticRegistrationsOrderTest)
+#include "StaticRegistrationsOrderTest.moc"
