@@ -12,7 +12,7 @@ class IControlDefinition;
 class VESK_HOST_API IControl : public WeakReferenceable
 {
 public:
-    virtual ~IControl() = default;
+    virtual ~IControl();
 
     /// The definition shown; owned by the control, null when it was made without one.
     virtual IControlDefinition* GetControlDefinition() const = 0;

@@ -14,7 +14,7 @@ class IWidget;
 class VESK_HOST_API IDock
 {
 public:
-    virtual ~IDock() = default;
+    virtual ~IDock();
 
     /// Identifies the pane; never changes.
     virtual const std::wstring& GetName() const = 0;

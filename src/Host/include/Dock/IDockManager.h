@@ -35,7 +35,7 @@ enum class DockOrientation : int
 class VESK_HOST_API IDockManager
 {
 public:
-    virtual ~IDockManager() = default;
+    virtual ~IDockManager();
 
     /// Makes a pane, which is nowhere until it is added. Owned by the caller.
     virtual OwnerPtr<IDock> CreateDock(const std::wstring& name,

@@ -1,0 +1,10 @@
+#include "Control/IControl.h"
+
+namespace vesk
+{
+
+// Here, so that the class has its tables in the host: where imports are named it is looked for
+// there.
+IControl::~IControl() = default;
+
+}
