@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QProcess>
+#include <QSysInfo>
 #include <QTemporaryDir>
 
 #include <clocale>
@@ -11,10 +12,33 @@ namespace vesk
 
 /// The C locale's decimal point, as set by a locale that is made for the test. Back to "C"
 /// afterwards.
+///
+/// Windows does not let locales be made: there one of its own is taken, and the symbol is a comma.
 class DecimalPointScope
 {
 public:
     explicit DecimalPointScope(const QByteArray& symbol)
+    {
+        if (IsAnySymbolPossible())
+            SetOwnLocale(symbol);
+        else
+            setlocale(LC_NUMERIC, "German_Germany.1252");
+    }
+
+    ~DecimalPointScope()
+    {
+        setlocale(LC_NUMERIC, "C");
+        qunsetenv("LOCPATH");
+    }
+
+    DecimalPointScope(const DecimalPointScope&) = delete;
+    DecimalPointScope& operator=(const DecimalPointScope&) = delete;
+
+    /// True where a decimal point can be another than that of a locale of the system.
+    static bool IsAnySymbolPossible() { return QSysInfo::productType() != "windows"; }
+
+private:
+    void SetOwnLocale(const QByteArray& symbol)
     {
         QFile source(m_folder.filePath("source"));
         source.open(QIODevice::WriteOnly);
@@ -28,16 +52,6 @@ public:
         setlocale(LC_NUMERIC, "points");
     }
 
-    ~DecimalPointScope()
-    {
-        setlocale(LC_NUMERIC, "C");
-        qunsetenv("LOCPATH");
-    }
-
-    DecimalPointScope(const DecimalPointScope&) = delete;
-    DecimalPointScope& operator=(const DecimalPointScope&) = delete;
-
-private:
     QTemporaryDir m_folder;
 };
 

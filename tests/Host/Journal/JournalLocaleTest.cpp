@@ -25,7 +25,8 @@ void JournalLocaleTest::numbersAreTheSameInEveryLocale_data()
     QTest::addColumn<QByteArray>("symbol");
     QTest::addColumn<QByteArray>("decimalPoint");
     QTest::newRow("comma") << QByteArray(",") << QByteArray(",");
-    QTest::newRow("of two bytes") << QByteArray("<U066B>") << QByteArray("\xD9\xAB");
+    if (DecimalPointScope::IsAnySymbolPossible())
+        QTest::newRow("of two bytes") << QByteArray("<U066B>") << QByteArray("\xD9\xAB");
 }
 
 void JournalLocaleTest::numbersAreTheSameInEveryLocale()
