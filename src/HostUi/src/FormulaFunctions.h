@@ -6,11 +6,6 @@
 
 #include <optional>
 
-namespace mu
-{
-class Parser;
-}
-
 namespace vesk
 {
 
@@ -36,9 +31,5 @@ struct FormulaFunction
 
 /// The function of that name, null when there is none.
 const FormulaFunction* FindFunction(const QString& name);
-
-/// Gives the evaluator the functions of angles in degrees. They are exact wherever a table of
-/// angles is: sin 30 is a half.
-void DefineDegreeFunctions(mu::Parser& parser);
 
 }

@@ -1,9 +1,7 @@
 #include "HostUi/TypedText.h"
 
-#include "FormulaFunctions.h"
+#include "FormulaEvaluation.h"
 #include "FormulaReader.h"
-
-#include <muParser.h>
 
 #include <QRegularExpression>
 
@@ -23,18 +21,6 @@ bool IsPlain(const QString& text)
     static const QRegularExpression s_pattern(
         QStringLiteral(R"(\A *[+-]?([0-9]+\.?[0-9]*|\.[0-9]+)([eE][+-]?[0-9]+)? *\z)"));
     return s_pattern.match(text).hasMatch();
-}
-
-/// Every number has a name: of the evaluator's own ways to write numbers none is ever met.
-double Evaluate(const CheckedFormula& formula)
-{
-    mu::Parser parser;
-    parser.EnableOptimizer(false);
-    DefineDegreeFunctions(parser);
-    for (std::size_t i = 0; i < formula.operands.size(); ++i)
-        parser.DefineConst('v' + std::to_string(i), formula.operands[i]);
-    parser.SetExpr(formula.expression);
-    return parser.Eval();
 }
 
 TypedReading MakeReading(double value, bool isPlain)
