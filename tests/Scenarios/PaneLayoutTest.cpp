@@ -26,7 +26,8 @@ const QString s_hideAll = QStringLiteral("Sketcher.HideAllPanes");
 void RunOnce(const ScenarioFixture& fixture, const QString& atStart, const QString& hidden)
 {
     ScriptedUser user;
-    user.Do([=] {
+    // Floating panes come after the window.
+    user.Until([] { return ScriptedUser::FindWindow()->isVisible(); }).Do([=] {
         QCOMPARE(PaneDriver::Visible(), atStart);
         QCOMPARE(PaneDriver::Marked(), atStart);
         if (!hidden.isEmpty())
@@ -92,20 +93,49 @@ private slots:
     void placesAndSizesComeBack()
     {
         QRect before;
+        QSize window;
         ScriptedUser user;
         user.Do([] {
+                ScriptedUser::FindWindow()->setAnimated(false);
                 PaneDriver::Manager().TabifyDock(&PaneDriver::Dock("Entities"),
                                                  &PaneDriver::Dock("Journal"));
                 ScriptedUser::FindWindow()->resizeDocks({&PaneDriver::Widget("Entities")}, {270},
                                                         Qt::Horizontal);
             })
-            .Do([&before] { before = PaneDriver::Widget("Journal").geometry(); });
+            .Do([&] {
+                before = PaneDriver::Widget("Journal").geometry();
+                window = ScriptedUser::FindWindow()->size();
+            });
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
         QVERIFY(before.isValid());
 
         ScriptedUser next;
+        next.Until([&window] { return ScriptedUser::FindWindow()->size() == window; });
         next.Do([&before] { QCOMPARE(PaneDriver::Widget("Journal").geometry(), before); });
         QCOMPARE(next.Run(m_pFixture->Draw()), 0);
+    }
+
+    void aFloatingPaneFloatsAgainAndIsMarked()
+    {
+        const QRect place(60, 70, 300, 200);
+        ScriptedUser user;
+        user.Do([place] {
+            PaneDriver::Dock("Journal").SetFloating(true);
+            PaneDriver::Widget("Journal").setGeometry(place);
+        });
+        user.Click(s_hideAll).Click(s_hideAll);
+        QCOMPARE(user.Run(m_pFixture->Draw()), 0);
+
+        ScriptedUser next;
+        next.Until([] { return PaneDriver::Visible() == "1111"; }).Do([place] {
+            QVERIFY(PaneDriver::Dock("Journal").IsFloating());
+            QCOMPARE(PaneDriver::Widget("Journal").geometry(), place);
+            QCOMPARE(PaneDriver::Marked(), QStringLiteral("1111"));
+        });
+        next.Click(s_hideAll).Do([] { QCOMPARE(PaneDriver::Visible(), QStringLiteral("0000")); });
+        QCOMPARE(next.Run(m_pFixture->Draw()), 0);
+
+        RunOnce(*m_pFixture, "1111", QString());
     }
 
     void withoutAFileTheFactoryLayoutStandsAndNothingIsSaid()
