@@ -45,8 +45,9 @@ void EntityPane::UpdateStatus()
     std::sort(rowsBefore.begin(), rowsBefore.end());
     if (rows == rowsBefore)
         return;
-    m_pView->selectionModel()->select(ToSelection(rows), QItemSelectionModel::ClearAndSelect |
-                                                             QItemSelectionModel::Rows);
+    // In two steps: in one, the toolkit compares each range with each of those before.
+    m_pView->selectionModel()->clearSelection();
+    m_pView->selectionModel()->select(ToSelection(rows), QItemSelectionModel::Select);
     if (!ids.empty())
         m_pView->scrollTo(m_pModel->index(m_pModel->GetRow(ids.back()), 0));
 }

@@ -69,6 +69,7 @@ void PropertyPane::UpdateStatus()
     const std::vector<int>& ids = m_workspace.selection.GetIds();
     const bool isOther = ids != m_shownIds;
     m_shownIds = ids;
+    FindKinds();
     ShowTitle();
     for (Row& row : m_rows)
         ShowRow(row, isOther);
@@ -103,6 +104,20 @@ void PropertyPane::AddRow(const ShapeProperty& property, ControlHost& controls, 
     m_rows.push_back({property, pCaption, pDefinition, {}});
 }
 
+void PropertyPane::FindKinds()
+{
+    m_kinds.clear();
+    for (const int id : m_shownIds)
+    {
+        const Shape& shape = m_workspace.sketch.Find(id)->shape;
+        const bool isKnown =
+            std::any_of(m_kinds.begin(), m_kinds.end(),
+                        [&shape](const Shape& known) { return known.index() == shape.index(); });
+        if (!isKnown)
+            m_kinds.push_back(shape);
+    }
+}
+
 void PropertyPane::ShowTitle()
 {
     if (m_shownIds.empty())
@@ -133,9 +148,10 @@ void PropertyPane::ShowRow(Row& row, bool isAnew)
 
 bool PropertyPane::IsCommon(const ShapeProperty& property) const
 {
-    return !m_shownIds.empty() && std::all_of(m_shownIds.begin(), m_shownIds.end(), [&](int id) {
-        return FindProperty(m_workspace.sketch.Find(id)->shape, property.name) != nullptr;
-    });
+    return !m_kinds.empty() &&
+           std::all_of(m_kinds.begin(), m_kinds.end(), [&property](const Shape& shape) {
+               return FindProperty(shape, property.name) != nullptr;
+           });
 }
 
 /// The value that all entities have; nothing when they differ.

@@ -49,6 +49,7 @@ private:
     };
 
     void AddRow(const ShapeProperty& property, vesk::ControlHost& controls, QFormLayout& layout);
+    void FindKinds();
     void ShowTitle();
     void ShowRow(Row& row, bool isAnew);
     bool IsCommon(const ShapeProperty& property) const;
@@ -68,4 +69,7 @@ private:
 
     /// The selection that the fields show.
     std::vector<int> m_shownIds;
+
+    /// One shape of each kind in it.
+    std::vector<Shape> m_kinds;
 };
