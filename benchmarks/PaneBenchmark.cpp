@@ -64,8 +64,6 @@ struct Bench
             const double angle = 0.001 * i;
             all.push_back(workspace.sketch.AddLine({0, 0, 0}, {10 + angle, 1.0 * i, 0}));
         }
-        for (int i = 0; i < EntityCount; i += 2)
-            everySecond.push_back(all[static_cast<std::size_t>(i)]);
         for (QWidget* pPane : {static_cast<QWidget*>(&entities), static_cast<QWidget*>(&journal),
                                static_cast<QWidget*>(pProperties.get())})
         {
@@ -120,7 +118,6 @@ struct Bench
         std::make_unique<PropertyPane>(workspace, *controls);
     QTreeView* pList = nullptr;
     std::vector<int> all;
-    std::vector<int> everySecond;
 };
 
 std::vector<Step> MakeSteps(Bench& bench)
@@ -130,7 +127,6 @@ std::vector<Step> MakeSteps(Bench& bench)
         {"scroll down and up", [&bench] { bench.Scroll(); }, {}},
         {"select nothing", [&bench] { bench.Select({}); }, {}},
         {"select all in the drawing", [&bench] { bench.Select(bench.all); }, {}},
-        {"select every second", [&bench] { bench.Select(bench.everySecond); }, {}},
         {"one more entity",
          [&bench] {
              bench.workspace.sketch.AddLine({0, 0, 0}, {1, 0, 0});
