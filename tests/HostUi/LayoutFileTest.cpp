@@ -89,6 +89,8 @@ void LayoutFileTest::anythingElseIsDamaged_data()
     QTest::newRow("no version") << QByteArray(good).replace("version", "revision");
     QTest::newRow("an older version") << QByteArray(good).replace(": 1", ": 0");
     QTest::newRow("no layout") << QByteArray(good).replace("\"layout\"", "\"other\"");
+    QVERIFY(LayoutFile::Write(Path(), ""));
+    QTest::newRow("an empty layout") << Get(Path());
     QTest::newRow("another layout")
         << QByteArray(good).replace(QByteArray("layout").toBase64(), "AAAA");
     QTest::newRow("no checksum") << QByteArray(good).replace("checksum", "sum");
