@@ -26,6 +26,7 @@ private slots:
     void keyDuringAnInputOnlyRefreshesTheView_data();
     void keyDuringAnInputOnlyRefreshesTheView();
     void eventThatIsNoKeyAfterAllIsReported();
+    void eventThatIsNoKeyIsNotReportedAsOneWithoutAField();
     void otherEventsAreThoseOfAPlainObject();
     void viewKeysAreTaken_data();
     void viewKeysAreTaken();
@@ -227,6 +228,17 @@ void LinearDimensionKeysTest::eventThatIsNoKeyAfterAllIsReported()
     EXPECT_WARNING(f.host.warnings, L"难道pEvent不是键盘事件?", std::string(LinearClass) + "event");
     QVERIFY(!isConsumed);
     QCOMPARE(f.host.view.GetRedrawCount(), 0);
+}
+
+void LinearDimensionKeysTest::eventThatIsNoKeyIsNotReportedAsOneWithoutAField()
+{
+    HandlerFixture f(false, false);
+    QEvent fake(QEvent::KeyPress);
+
+    QVERIFY(!f.Object().event(&fake));
+
+    EXPECT_WARNING(f.host.warnings, L"难道pEvent不是键盘事件?", std::string(LinearClass) + "event");
+    QVERIFY(f.host.warnings.IsEmpty());
 }
 
 void LinearDimensionKeysTest::otherEventsAreThoseOfAPlainObject()
