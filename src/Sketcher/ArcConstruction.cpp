@@ -13,8 +13,6 @@ using vesk::Vector3d;
 namespace
 {
 
-constexpr double WholeTurn = 360.0;
-
 std::optional<ArcShape> IfDrawable(const ArcShape& arc)
 {
     return IsDrawable(arc) ? std::optional<ArcShape>(arc) : std::nullopt;
@@ -79,14 +77,12 @@ Vector3d TopOfArc(const Vector3d& start, const Vector3d& end, double radius, con
 std::optional<ArcShape> ArcByAngle(const Vector3d& centre, const Vector3d& start, double degrees)
 {
     constexpr double Slack = 1.0;
-    const double sweep = std::abs(degrees);
-    if (!(sweep > 0.0 && sweep <= WholeTurn))
-        return std::nullopt;
     ArcShape arc{centre, (start - centre).norm(), start, Rotated(start, centre, degrees)};
     if (degrees < 0.0)
         std::swap(arc.start, arc.end);
-    // A gap smaller than the rounding closes, or opens all around.
-    return std::abs(CentralAngleOf(arc) - sweep) <= Slack ? IfDrawable(arc) : std::nullopt;
+    // No angle, one lost in rounding and more than a turn have another arc's end.
+    const double missing = std::abs(degrees) - CentralAngleOf(arc);
+    return std::abs(missing) <= Slack ? IfDrawable(arc) : std::nullopt;
 }
 
 std::optional<ArcShape> ArcBetween(const Vector3d& centre, const Vector3d& start,

@@ -41,7 +41,7 @@ double AngleBetween(const Vector3d& from, const Vector3d& to)
 {
     const double degrees =
         std::atan2(QuarterTurned(from).dot(to), from.dot(to)) * s_degreesPerRadian;
-    // Minus zero would turn the other way.
+    // A hair beyond the half turn is rounded to it, and would turn the other way.
     return degrees <= -180.0 ? 180.0 : degrees;
 }
 

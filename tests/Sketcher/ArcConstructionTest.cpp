@@ -171,6 +171,7 @@ private slots:
         QFETCH(double, degrees);
 
         QVERIFY(!ArcByAngle({0.3, 0, 0}, s_right, degrees).has_value());
+        QVERIFY(!ArcByAngle({0.3, 100, 0}, {5, 100, 0}, degrees).has_value());
     }
 
     void aGapLostInRoundingMakesNoShortArc()

@@ -80,7 +80,7 @@ private slots:
         QCOMPARE(AngleBetween({7, 0, 0}, {0, 3, 0}), 90.0);
         QCOMPARE(AngleBetween({0, 3, 0}, {7, 0, 0}), -90.0);
         QCOMPARE(AngleBetween({7, 0, 0}, {-7, 0, 0}), 180.0);
-        QCOMPARE(AngleBetween({7, 0, 0}, {-7, -0.0, 0}), 180.0);
+        QCOMPARE(AngleBetween({7, 0, 0}, {-7, -1e-20, 0}), 180.0);
         QCOMPARE(AngleBetween({3, 4, 0}, {-4, 3, 0}), 90.0);
     }
 

@@ -184,6 +184,34 @@ private slots:
         QCOMPARE(RecordCount<PointRecord>(f), 2);
     }
 
+    void aValueAloneIsRepeated()
+    {
+        Fixture f;
+        f.Begin();
+        f.ClickAt(0, 0);
+
+        f.Type(ActionViewInput::WidthEntered, 33.5);
+
+        QCOMPARE(RecordCount<ValueRecord>(f), 1);
+        QVERIFY(f.IsRepeated());
+    }
+
+    void whatIsNotAskedForIsNotTaken()
+    {
+        Fixture f;
+        f.Begin();
+        f.Type(ActionViewInput::WidthEntered, 33.5);
+        f.ClickAt(0, 0);
+        f.MoveTo(20, 30);
+
+        f.Type(ActionViewInput::LengthEntered, 33.5);
+        f.Type(ActionViewInput::RadiusCommitted, 33.5);
+
+        QVERIFY(!f.action.OnEscape());
+        QCOMPARE(f.Count(), std::size_t{0});
+        QCOMPARE(f.records.size(), std::size_t{1});
+    }
+
     void atRestTheOtherCornerIsAPixelAway()
     {
         Fixture f;

@@ -3,6 +3,7 @@
 #include "ActionFixture.h"
 #include "ShapeRotation.h"
 
+#include "Dimension/LengthUnit.h"
 #include "Dimension/RotationTemporaryDimensionContext.h"
 
 using namespace vesk;
@@ -83,6 +84,31 @@ private slots:
                 Rotated(Shape(LineShape{{0, 0, 0}, {40, 0, 0}}), {10, 20, 0}, degrees));
         QVERIFY(f.action.IsFinished());
         QVERIFY(f.IsRepeated(&SelectTwo));
+    }
+
+    void anAngleHasNothingToDoWithTheUnitOfLengths()
+    {
+        LengthUnit::SetCurrent(LengthUnit::Inch());
+        Fixture f;
+        BeginTurn(f);
+
+        f.Type(ActionViewInput::CentralAngleCommitted, 90);
+
+        LengthUnit::SetCurrent(LengthUnit::Millimetre());
+        QVERIFY(ShapeOf(f, 1) == Shape(LineShape{{30, 10, 0}, {30, 50, 0}}));
+    }
+
+    void aClickOnTheCentreGivesNoDirection()
+    {
+        Fixture f;
+        SelectTwo(f.workspace);
+        f.Begin();
+        f.ClickAt(10, 20);
+        f.ClickAt(10, 70);
+
+        f.ClickAt(10, 20);
+
+        QVERIFY(!f.action.IsFinished());
     }
 
     void aCrookedDirectionIsRepeatedToTheLastBit()
