@@ -173,7 +173,7 @@ void LayoutFileTest::noFileHarmsTheProgram_data()
 /// However the file looks, every pane is somewhere, and showing it makes it visible.
 void LayoutFileTest::noFileHarmsTheProgram()
 {
-    constexpr int Rounds = 300;
+    constexpr int Rounds = 2500;
     QFETCH(Damage, damage);
     const quint32 seed = QRandomGenerator::global()->generate();
     QRandomGenerator random(seed);
