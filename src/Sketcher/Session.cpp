@@ -190,7 +190,7 @@ int Session::Draw()
     // Sizes of panes hold for the window's size.
     m_window.setWindowState(Qt::WindowMaximized);
     RestoreLayout();
-    QObject::connect(&m_window, &MainWindow::closing, &m_window, [this] { SaveLayout(); });
+    QObject::connect(&m_window, &MainWindow::closeAccepted, &m_window, [this] { SaveLayout(); });
     m_window.showMaximized();
     m_window.GetView().Activate();
     if (!m_options.open.isEmpty())

@@ -79,6 +79,7 @@ struct Fixture
 
     QListWidget* EventList() const
     {
+        pInspector->UpdateStatus();
         return pInspector->findChild<QListWidget*>("InspectorEvents");
     }
 

@@ -49,7 +49,7 @@ private:
 
 void LayoutFileTest::Put(const QByteArray& text) const
 {
-    QVERIFY(LayoutFile::Write(Path(), "x"));
+    QDir().mkpath(QFileInfo(Path()).path());
     QFile file(Path());
     QVERIFY(file.open(QIODevice::WriteOnly));
     QCOMPARE(file.write(text), qint64(text.size()));

@@ -146,6 +146,7 @@ void Inspector::UpdateStatus()
     Listen();
     ShowState();
     ShowDefinitions();
+    ShowEvents();
 }
 
 /// Its event may not outlive it, and the next definition may stand in the same place.
@@ -198,12 +199,22 @@ void Inspector::AddEvent(const std::wstring& id, const IControlDefinitionChangeE
     if (args.GetIndex() >= 0)
         text += QStringLiteral(" [%1]").arg(args.GetIndex());
     text += args.IsChangeByUser() ? QStringLiteral("  用户") : QStringLiteral("  程序");
+    m_newEvents.append(text);
+    if (m_newEvents.size() > MostEvents)
+        m_newEvents.removeFirst();
+}
 
+/// Goes along with the newest event, unless its reader has scrolled back.
+void Inspector::ShowEvents()
+{
+    if (m_newEvents.isEmpty())
+        return;
     const QScrollBar* pBar = m_pEvents->verticalScrollBar();
     const bool isAtEnd = pBar->value() == pBar->maximum();
-    m_pEvents->addItem(text);
-    if (m_pEvents->count() > MostEvents)
+    for (int surplus = m_pEvents->count() + m_newEvents.size() - MostEvents; surplus > 0; --surplus)
         delete m_pEvents->takeItem(0);
+    m_pEvents->addItems(m_newEvents);
+    m_newEvents.clear();
     if (isAtEnd)
         m_pEvents->scrollToBottom();
 }

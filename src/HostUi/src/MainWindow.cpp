@@ -81,7 +81,7 @@ void MainWindow::closeEvent(QCloseEvent* pEvent)
 {
     // What is finished stands in the journal already; nothing needs to be asked.
     ActionManager::Reset();
-    emit closing();
+    emit closeAccepted();
     pEvent->accept();
 }
 

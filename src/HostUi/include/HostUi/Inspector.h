@@ -4,6 +4,7 @@
 #include "HostUi/ControlHost.h"
 #include "HostUi/HostUiExport.h"
 
+#include <QStringList>
 #include <QTimer>
 #include <QWidget>
 
@@ -55,12 +56,16 @@ private:
     void AddEvent(const std::wstring& id, const IControlDefinitionChangeEventArgs& args);
     void ShowState();
     void ShowDefinitions();
+    void ShowEvents();
 
     ControlHost* m_pControls;
     const DimensionInputController* m_pInput;
     QLabel* m_pState;
     QTreeWidget* m_pDefinitions;
     QListWidget* m_pEvents;
+
+    /// Those that are not in the list yet: there may be thousands at a time.
+    QStringList m_newEvents;
     QTimer m_refresh;
 
     /// One for each definition listened to.

@@ -51,7 +51,7 @@ public:
 
 signals:
     /// The window is about to close; panes stand as they did.
-    void closing();
+    void closeAccepted();
 
 protected:
     void closeEvent(QCloseEvent* pEvent) override;

@@ -42,7 +42,8 @@ public:
     PaneLayout(QMainWindow& window, IDockManager& docks, std::vector<PanePlace> places);
     ~PaneLayout() override;
 
-    /// The layout as it is, in a form of its own; while all panes are hidden at once, as it was before.
+    /// The layout as it is, in a form of its own; while all panes are hidden at once, as it was
+    /// before.
     QByteArray Save();
 
     /// Brings a layout back that Save returned, of this run or an earlier one. False, and the
