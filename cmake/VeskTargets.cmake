@@ -62,7 +62,12 @@ function(vesk_test name)
     target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
     target_link_libraries(${name} PRIVATE vesk_build_flags ${ARG_LIBRARIES} Qt::Test)
     if(NOT ARG_TIMEOUT)
-        set(ARG_TIMEOUT 120)
+        # Real windows take their time.
+        if(WIN32)
+            set(ARG_TIMEOUT 600)
+        else()
+            set(ARG_TIMEOUT 120)
+        endif()
     endif()
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES LABELS ${ARG_LABEL} TIMEOUT ${ARG_TIMEOUT}

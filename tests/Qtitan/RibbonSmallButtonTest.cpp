@@ -231,14 +231,13 @@ private slots:
         SmallFixture f;
         f.show();
         QCursor::setPos(f.pView->mapToGlobal(f.pView->rect().center()));
-        QCoreApplication::processEvents();
+        QTRY_VERIFY(!f.pButton->underMouse());
         const QImage before = f.drawn(f.pButton);
 
         bring(f.pButton);
 
-        const QImage after = f.drawn(f.pButton);
         const QPoint edge(before.width() / 2, 0);
-        QVERIFY(after.pixelColor(edge) != before.pixelColor(edge));
+        QTRY_VERIFY(f.drawn(f.pButton).pixelColor(edge) != before.pixelColor(edge));
     }
 
     void disabledButtonIsPale()
