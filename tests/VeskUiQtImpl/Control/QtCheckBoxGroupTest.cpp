@@ -37,6 +37,8 @@ struct CheckBoxFixture
 
     void Click(std::size_t index) const
     {
+        // A box that was just added has no place yet, and not each style takes a click anywhere.
+        pLayout->activate();
         QTest::mouseClick(&GetBox(index), Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
     }
 
