@@ -77,7 +77,8 @@ private:
         QImage image(200, 200, QImage::Format_RGB32);
         image.fill(Qt::white);
         QPainter painter(&image);
-        ProvisionalPainter provisional(painter, modelView, QPalette(Qt::white));
+        const QPalette palette(Qt::white);
+        ProvisionalPainter provisional(painter, modelView, palette);
         node.Accept(provisional);
         return image;
     }
