@@ -47,6 +47,8 @@ PropertyPane::PropertyPane(Workspace& workspace, ControlHost& controls)
     m_pTitle->setObjectName(QStringLiteral("PropertyTitle"));
     auto* pForm = new QWidget;
     auto* pRows = new QFormLayout(pForm);
+    // Rows that are hidden keep their spacing.
+    pRows->setVerticalSpacing(2);
     pRows->addRow(m_pTitle);
     for (const ShapeProperty& property : AllProperties())
         AddRow(property, controls, *pRows);
