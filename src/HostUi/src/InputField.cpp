@@ -6,6 +6,7 @@
 #include "Dimension/RectangleTemporaryDimensionContext.h"
 #include "Dimension/RotationTemporaryDimensionContext.h"
 #include "Geometry/Constants.h"
+#include "HostUi/FieldCaption.h"
 
 #include <typeindex>
 
@@ -20,17 +21,17 @@ struct FieldKeys
     std::type_index context;
     InputState state;
     bool commitsWithSpace;
-    const char16_t* next;
+    InputState next = InputState::IS_None; ///< The field that Tab leads to, if it does.
 };
 
 const FieldKeys s_fields[] = {
-    {typeid(LinearTemporaryDimensionContext), InputState::IS_Length, true, u"角度"},
-    {typeid(LinearTemporaryDimensionContext), InputState::IS_Angle, true, u"长度"},
-    {typeid(RadiusTemporaryDimensionContext), InputState::IS_Radius, true, u""},
-    {typeid(CentralAngleTemporaryDimensionContext), InputState::IS_CentralAngle, false, u""},
-    {typeid(RectangleTemporaryDimensionContext), InputState::IS_Width, true, u"高度"},
-    {typeid(RectangleTemporaryDimensionContext), InputState::IS_Height, true, u"宽度"},
-    {typeid(RotationTemporaryDimensionContext), InputState::IS_CentralAngle, true, u""},
+    {typeid(LinearTemporaryDimensionContext), InputState::IS_Length, true, InputState::IS_Angle},
+    {typeid(LinearTemporaryDimensionContext), InputState::IS_Angle, true, InputState::IS_Length},
+    {typeid(RadiusTemporaryDimensionContext), InputState::IS_Radius, true},
+    {typeid(CentralAngleTemporaryDimensionContext), InputState::IS_CentralAngle, false},
+    {typeid(RectangleTemporaryDimensionContext), InputState::IS_Width, true, InputState::IS_Height},
+    {typeid(RectangleTemporaryDimensionContext), InputState::IS_Height, true, InputState::IS_Width},
+    {typeid(RotationTemporaryDimensionContext), InputState::IS_CentralAngle, true},
 };
 
 bool IsAngle(InputState state)
@@ -67,7 +68,7 @@ InputField FindInputField(const ITemporaryDimensionContext* pContext, InputState
             continue;
         field.commitsWithSpace = keys.commitsWithSpace;
         if (HasOtherField(*pContext))
-            field.next = QString::fromUtf16(keys.next);
+            field.next = FieldCaption(keys.next);
     }
     return field;
 }
