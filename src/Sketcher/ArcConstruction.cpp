@@ -18,23 +18,26 @@ std::optional<ArcShape> IfDrawable(const ArcShape& arc)
     return IsDrawable(arc) ? std::optional<ArcShape>(arc) : std::nullopt;
 }
 
-/// The chord of an arc, and what a radius makes of it.
+/// The chord of an arc, and what a radius and a third point make of it.
 struct Chord
 {
-    Chord(const Vector3d& start, const Vector3d& end, double radius, const Vector3d& side)
+    Chord(const Vector3d& start, const Vector3d& end, double radius, const Vector3d& third)
         : half((end - start).norm() / 2), middle((start + end) / 2)
     {
         const Vector3d left = QuarterTurned(end - start).normalized();
-        isLeft = left.dot(side - start) >= 0.0;
+        isLeft = left.dot(third - start) >= 0.0;
         outwards = isLeft ? left : Vector3d(-left);
         height = std::sqrt(std::max(0.0, (radius - half) * (radius + half)));
+        // From a point of the longer arc the chord is seen at an acute angle.
+        if ((start - third).dot(end - third) > 0.0)
+            height = -height;
     }
 
     double half;
     Vector3d middle;
     Vector3d outwards; ///< From the chord towards the arc.
     bool isLeft;
-    double height; ///< From the centre to the chord.
+    double height; ///< From the centre to the chord; negative in the longer arc.
 };
 
 }
@@ -56,9 +59,9 @@ std::optional<ArcShape> ArcThrough(const Vector3d& start, const Vector3d& end,
 }
 
 std::optional<ArcShape> ArcOfRadius(const Vector3d& start, const Vector3d& end, double radius,
-                                    const Vector3d& side)
+                                    const Vector3d& third)
 {
-    const Chord chord(start, end, radius, side);
+    const Chord chord(start, end, radius, third);
     ArcShape arc{chord.middle - chord.height * chord.outwards, radius, start, end};
     // What bulges to the left of the way runs clockwise along it.
     if (chord.isLeft)
@@ -66,11 +69,12 @@ std::optional<ArcShape> ArcOfRadius(const Vector3d& start, const Vector3d& end, 
     return IfDrawable(arc);
 }
 
-Vector3d TopOfArc(const Vector3d& start, const Vector3d& end, double radius, const Vector3d& side)
+Vector3d TopOfArc(const Vector3d& start, const Vector3d& end, double radius, const Vector3d& third)
 {
-    const Chord chord(start, end, radius, side);
-    // The difference of radius and height, without the loss of a difference.
-    const double rise = chord.half * chord.half / (radius + chord.height);
+    const Chord chord(start, end, radius, third);
+    // In the shorter arc without the loss of a difference.
+    const double rise = chord.height < 0.0 ? radius - chord.height
+                                           : chord.half * chord.half / (radius + chord.height);
     return chord.middle + rise * chord.outwards;
 }
 

@@ -12,14 +12,15 @@
 std::optional<ArcShape> ArcThrough(const vesk::Vector3d& start, const vesk::Vector3d& end,
                                    const vesk::Vector3d& point);
 
-/// The shorter arc of that radius from `start` to `end`, on the side of the chord where a point is;
-/// to the left of the way when it is on neither.
+/// The arc of that radius from `start` to `end` that is most like the one through a third point: on
+/// its side of the chord, to the left of the way when it is on neither, and the longer of the two
+/// arcs there where that one is longer than half a turn.
 std::optional<ArcShape> ArcOfRadius(const vesk::Vector3d& start, const vesk::Vector3d& end,
-                                    double radius, const vesk::Vector3d& side);
+                                    double radius, const vesk::Vector3d& third);
 
 /// The point of that arc which is farthest from the chord.
 vesk::Vector3d TopOfArc(const vesk::Vector3d& start, const vesk::Vector3d& end, double radius,
-                        const vesk::Vector3d& side);
+                        const vesk::Vector3d& third);
 
 /// About a centre from `start` by a central angle in degrees, clockwise when negative; by 360 or
 /// -360 the whole turn.

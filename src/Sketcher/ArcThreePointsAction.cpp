@@ -98,12 +98,14 @@ std::optional<ArcShape> ArcThreePointsAction::MakeArc(const Vector3d& point) con
     return ArcThrough(*m_start, *m_end, point);
 }
 
-/// The cursor; where it makes no arc, as on the chord, a pixel to the left of the way from start to
-/// end: there is always a radius to show.
+/// The cursor. Where it makes no arc there is still a radius to show: of the half circle to the
+/// left of the way before it has left the end, and on the chord of the arc a pixel to the left.
 Vector3d ArcThreePointsAction::GetCursorOffChord() const
 {
-    const Vector3d cursor = GetCursorOff(*m_end);
-    if (ArcThrough(*m_start, *m_end, cursor).has_value())
-        return cursor;
-    return cursor + GetPixel() * QuarterTurned(*m_end - *m_start).normalized();
+    const Vector3d left = QuarterTurned(*m_end - *m_start);
+    if (RestsOn(*m_end))
+        return (*m_start + *m_end + left) / 2;
+    if (ArcThrough(*m_start, *m_end, GetCursor()).has_value())
+        return GetCursor();
+    return GetCursor() + GetPixel() * left.normalized();
 }

@@ -5,8 +5,8 @@
 #include "Shape.h"
 
 /// Draws arcs through three points, one after the other, until the user ends it: the start, the
-/// end, then a point between them. A radius that is typed makes the shorter arc on the side of the
-/// cursor.
+/// end, then a point between them. A radius that is typed keeps the side of the arc that the cursor
+/// shows, and whether it is the longer one.
 class ArcThreePointsAction final : public DrawingAction
 {
 public:

@@ -190,7 +190,7 @@ void ShapeTest::arcThroughThreePointsIsTyped()
 
     const QJsonObject entity = CloseAndReadEntity();
     QCOMPARE(entity["radius"].toDouble(), 100.0);
-    // The shorter arc, on the cursor's side of the chord.
+    // Like the arc that the cursor shows: the shorter one, below the chord.
     QVERIFY(At(entity["centre"], 1) > 0);
 }
 

@@ -133,16 +133,27 @@ private slots:
         QCOMPARE(RunToOne(user).radius, 90.0);
     }
 
-    void typedRadiusMakesTheShorterArcOnTheCursorsSide()
+    void typedRadiusMakesTheArcThatTheCursorShows_data()
     {
+        QTest::addColumn<double>("cursorY");
+        QTest::addColumn<bool>("isLonger");
+
+        QTest::newRow("shorter") << -30.0 << false;
+        QTest::newRow("longer") << -80.0 << true;
+    }
+
+    void typedRadiusMakesTheArcThatTheCursorShows()
+    {
+        QFETCH(double, cursorY);
+        QFETCH(bool, isLonger);
         ScriptedUser user;
 
-        user.Click(s_threePoints).ClickAt(-50, 0).ClickAt(50, 0).MoveTo(20, -80);
+        user.Click(s_threePoints).ClickAt(-50, 0).ClickAt(50, 0).MoveTo(20, cursorY);
         user.Type("70.1").Press(Qt::Key_Return);
 
         const DrawnEntity drawn = RunToOne(user);
         QCOMPARE(drawn.radius, 70.1);
-        QVERIFY(drawn.centre[1] > drawn.start[1]);
+        QCOMPARE(drawn.centre[1] < drawn.start[1], isLonger);
         QVERIFY(drawn.end[0] > drawn.start[0]);
     }
 

@@ -72,33 +72,38 @@ private slots:
         QVERIFY(!ArcThrough(s_left, s_right, {0, 1e-9, 0}).has_value());
     }
 
-    void aRadiusMakesTheShorterArcOnItsSide_data()
+    void aRadiusMakesTheArcLikeThatThroughAPoint_data()
     {
         QTest::addColumn<double>("radius");
-        QTest::addColumn<double>("side");
+        QTest::addColumn<double>("height");
+        QTest::addColumn<bool>("isLonger");
 
-        QTest::newRow("above") << 13.0 << 20.0;
-        QTest::newRow("below") << 13.0 << -0.1;
-        QTest::newRow("half circle above") << 5.0 << 1.0;
-        QTest::newRow("half circle below") << 5.0 << -1.0;
-        QTest::newRow("flat") << 1e6 << 1.0;
+        QTest::newRow("above") << 13.0 << 3.9 << false;
+        QTest::newRow("below") << 13.0 << -0.1 << false;
+        QTest::newRow("longer above") << 13.0 << 4.1 << true;
+        QTest::newRow("longer below") << 13.0 << -20.0 << true;
+        QTest::newRow("half circle above") << 5.0 << 1.0 << false;
+        QTest::newRow("half circle below") << 5.0 << -10.0 << false;
+        QTest::newRow("flat") << 1e6 << 1.0 << false;
     }
 
-    void aRadiusMakesTheShorterArcOnItsSide()
+    void aRadiusMakesTheArcLikeThatThroughAPoint()
     {
         QFETCH(double, radius);
-        QFETCH(double, side);
+        QFETCH(double, height);
+        QFETCH(bool, isLonger);
 
-        const std::optional<ArcShape> arc = ArcOfRadius(s_left, s_right, radius, {3, side, 0});
-        const Vector3d top = TopOfArc(s_left, s_right, radius, {3, side, 0});
+        const std::optional<ArcShape> arc = ArcOfRadius(s_left, s_right, radius, {3, height, 0});
+        const Vector3d top = TopOfArc(s_left, s_right, radius, {3, height, 0});
 
         QVERIFY(arc.has_value());
         QCOMPARE(arc->radius, radius);
-        QVERIFY(arc->start == (side > 0 ? s_right : s_left));
-        QVERIFY(CentralAngleOf(*arc) <= 180.0 + 1e-9);
-        QCOMPARE(std::signbit(top.y()), std::signbit(side));
+        QVERIFY(arc->start == (height > 0 ? s_right : s_left));
+        QCOMPARE(CentralAngleOf(*arc) > 180.0 + 1e-9, isLonger);
+        QCOMPARE(std::signbit(top.y()), std::signbit(height));
         QVERIFY(DistanceTo(*arc, top) <= 1e-9);
         QVERIFY(std::abs(top.x()) <= 1e-12);
+        QVERIFY(ArcOfRadius(s_left, s_right, radius, top)->centre == arc->centre);
     }
 
     void onTheChordTheLeftSideCounts()

@@ -1,6 +1,7 @@
 #include "ArcThreePointsAction.h"
 
 #include "ActionFixture.h"
+#include "ArcConstruction.h"
 #include "ArcGeometry.h"
 #include "ShapeMeasure.h"
 
@@ -11,6 +12,8 @@
 
 using namespace vesk;
 using Fixture = ActionFixture<ArcThreePointsAction>;
+
+Q_DECLARE_METATYPE(Vector3d)
 
 class ArcThreePointsActionTest final : public QObject
 {
@@ -52,34 +55,65 @@ private slots:
         QVERIFY(f.IsRepeated());
     }
 
-    void aTypedRadiusMakesTheShorterArcOnTheCursorsSide_data()
+    void aTypedRadiusMakesTheArcThatTheCursorShows_data()
     {
         QTest::addColumn<double>("radius");
-        QTest::addColumn<double>("cursorY");
+        QTest::addColumn<Vector3d>("cursor");
+        QTest::addColumn<bool>("isLonger");
 
-        QTest::newRow("above") << 13.0 << 90.0;
-        QTest::newRow("below") << 13.0 << -1.0;
-        QTest::newRow("half circle") << 5.0 << 2.0;
-        QTest::newRow("tenth") << 5.1 << -2.0;
-        QTest::newRow("greatest") << 1e9 << 2.0;
+        QTest::newRow("above") << 13.0 << Vector3d(1, 4, 0) << false;
+        QTest::newRow("below") << 13.0 << Vector3d(-4, -1, 0) << false;
+        QTest::newRow("longer above") << 13.0 << Vector3d(1, 6, 0) << true;
+        QTest::newRow("longer below") << 13.0 << Vector3d(40, -90, 0) << true;
+        QTest::newRow("half circle") << 5.0 << Vector3d(0, 2, 0) << false;
+        QTest::newRow("tenth") << 5.1 << Vector3d(0, -2, 0) << false;
+        QTest::newRow("greatest") << 1e9 << Vector3d(0, 2, 0) << false;
     }
 
-    void aTypedRadiusMakesTheShorterArcOnTheCursorsSide()
+    void aTypedRadiusMakesTheArcThatTheCursorShows()
     {
         QFETCH(double, radius);
-        QFETCH(double, cursorY);
+        QFETCH(Vector3d, cursor);
+        QFETCH(bool, isLonger);
         Fixture f;
         f.Begin();
         f.ClickAt(-5, 0);
         f.ClickAt(5, 0);
-        f.MoveTo(40, cursorY);
+        f.MoveTo(cursor.x(), cursor.y());
 
         f.Type(ActionViewInput::RadiusCommitted, radius);
 
         const ArcShape arc = f.Drawn<ArcShape>();
         QCOMPARE(arc.radius, radius);
-        QVERIFY(arc.start.x() == (cursorY > 0 ? 5 : -5));
-        QVERIFY(CentralAngleOf(arc) <= 180.0 + 1e-9);
+        QVERIFY(arc.start.x() == (cursor.y() > 0 ? 5 : -5));
+        QCOMPARE(CentralAngleOf(arc) > 180.0 + 1e-9, isLonger);
+        QVERIFY(f.IsRepeated());
+    }
+
+    void aRadiusConfirmedUnchangedKeepsTheArcThatIsShown_data()
+    {
+        QTest::addColumn<Vector3d>("cursor");
+
+        QTest::newRow("shorter") << Vector3d(1, 2, 0);
+        QTest::newRow("longer") << Vector3d(-3, 17, 0);
+        QTest::newRow("beyond the end") << Vector3d(9, -1, 0);
+    }
+
+    void aRadiusConfirmedUnchangedKeepsTheArcThatIsShown()
+    {
+        QFETCH(Vector3d, cursor);
+        Fixture f;
+        f.Begin();
+        f.ClickAt(-5, 0);
+        f.ClickAt(5, 0);
+        f.MoveTo(cursor.x(), cursor.y());
+        const ArcShape shown = *ArcThrough({-5, 0, 0}, {5, 0, 0}, cursor);
+
+        f.Type(ActionViewInput::RadiusCommitted, shown.radius, true);
+
+        const ArcShape arc = f.Drawn<ArcShape>();
+        QVERIFY(arc.start == shown.start && arc.end == shown.end);
+        QVERIFY((arc.centre - shown.centre).norm() <= 1e-9);
         QVERIFY(f.IsRepeated());
     }
 
@@ -102,12 +136,13 @@ private slots:
         f.ClickAt(0, 0);
         f.ClickAt(endX, endY);
 
+        // It shows the half circle to the left of the way.
         const auto opContext = f.Offered<RadiusTemporaryDimensionContext>();
-        const Vector3d off = opContext->GetThirdPoint() - opContext->GetFirstPoint();
-        QVERIFY(std::abs(off.x() * endY - off.y() * endX) > 1.0);
+        QVERIFY(opContext->GetThirdPoint() == Vector3d((endX - endY) / 2, (endX + endY) / 2, 0));
         f.Type(ActionViewInput::RadiusCommitted, 7);
 
         QCOMPARE(f.Drawn<ArcShape>().radius, 7.0);
+        QVERIFY(CentralAngleOf(f.Drawn<ArcShape>()) < 180.0);
         QVERIFY(f.IsRepeated());
     }
 
