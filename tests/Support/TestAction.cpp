@@ -12,4 +12,9 @@ void TestAction::OnViewInput(const ActionViewInput& input)
         onInput();
 }
 
+OwnerPtr<ITemporaryDimensionContext> TestAction::CreateDimensionContext() const
+{
+    return m_log.createContext ? m_log.createContext() : nullptr;
+}
+
 }

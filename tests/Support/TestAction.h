@@ -19,6 +19,9 @@ struct ActionLog
 
     /// Called inside the next delivery of a typed value, once.
     std::function<void()> onInput;
+
+    /// Makes the dimensions of each step; none without it.
+    std::function<OwnerPtr<ITemporaryDimensionContext>()> createContext;
     int endCount = 0;
 };
 
@@ -36,7 +39,7 @@ public:
     bool OnEscape() override { return false; }
     void OnEnd() override { ++m_log.endCount; }
     bool IsFinished() const override { return false; }
-    OwnerPtr<ITemporaryDimensionContext> CreateDimensionContext() const override { return nullptr; }
+    OwnerPtr<ITemporaryDimensionContext> CreateDimensionContext() const override;
     OwnerPtr<IGraphicsNodeGroup> CreateRubberBand() const override { return nullptr; }
     bool ReplayPoint(const Vector3d&, const std::optional<int>&) override { return false; }
     bool ReplayValue(InputState, const std::wstring&, double) override { return false; }
