@@ -64,6 +64,7 @@ private:
     bool Begin(const QString& command);
     bool ClickPoints(const QVector<QPointF>& points);
     bool TypeValue(const QString& text);
+    bool DrawLine();
     QJsonArray CloseAndReadEntities();
     QJsonObject CloseAndReadEntity();
 };
@@ -87,6 +88,14 @@ bool ShapeTest::ClickPoints(const QVector<QPointF>& points)
 bool ShapeTest::TypeValue(const QString& text)
 {
     return Session().Type(text, {"Return"}) && Session().WaitForNoEditor();
+}
+
+/// A line to the right of 100, from the middle of the view.
+bool ShapeTest::DrawLine()
+{
+    return Session().BeginLine(QPointF(0, 0)) && Session().Type("100", {"Tab"}) && TypeValue("0") &&
+           Session().WaitForEntities(1) && Session().Type("", {"Escape"}) &&
+           Session().WaitForAction(QString());
 }
 
 QJsonArray ShapeTest::CloseAndReadEntities()
@@ -255,12 +264,7 @@ void ShapeTest::selectionIsTurned_data()
 void ShapeTest::selectionIsTurned()
 {
     QFETCH(QString, angle);
-    QVERIFY(Session().BeginLine(QPointF(0, 0)));
-    QVERIFY(Session().Type("100", {"Tab"}));
-    QVERIFY(TypeValue("0"));
-    QVERIFY(Session().WaitForEntities(1));
-    QVERIFY(Session().Type("", {"Escape"}));
-    QVERIFY(Session().WaitForAction(QString()));
+    QVERIFY(DrawLine());
     QVERIFY(ClickPoints({{50, 0}}));
 
     QVERIFY(Begin(s_rotate));
@@ -348,12 +352,7 @@ void ShapeTest::boxSelects()
     QFETCH(QPointF, from);
     QFETCH(QPointF, to);
     QFETCH(bool, isSelected);
-    QVERIFY(Session().BeginLine(QPointF(0, 0)));
-    QVERIFY(Session().Type("100", {"Tab"}));
-    QVERIFY(TypeValue("0"));
-    QVERIFY(Session().WaitForEntities(1));
-    QVERIFY(Session().Type("", {"Escape"}));
-    QVERIFY(Session().WaitForAction(QString()));
+    QVERIFY(DrawLine());
 
     QVERIFY(Session().Input().Drag(Session().ToScreen(from), Session().ToScreen(to)));
     QVERIFY(Session().WaitForRest());
@@ -397,6 +396,7 @@ void ShapeTest::editorsStandInTheViewAndOffTheCursor_data()
     QTest::newRow("arc through three points")
         << s_arc3Points << QVector<QPointF>{{-60, 0}, {60, 0}};
     QTest::newRow("arc about a centre") << s_arcCentre << QVector<QPointF>{{0, 0}, {80, 0}};
+    QTest::newRow("turn") << s_rotate << QVector<QPointF>{{0, 0}, {100, 0}};
 }
 
 /// With the cursor at every edge and corner of the view.
@@ -405,6 +405,9 @@ void ShapeTest::editorsStandInTheViewAndOffTheCursor()
     constexpr int Margin = 6;
     QFETCH(QString, command);
     QFETCH(QVector<QPointF>, points);
+    // What a turn needs: something selected.
+    QVERIFY(DrawLine());
+    QVERIFY(ClickPoints({{50, 0}}));
     QVERIFY(Begin(command));
     QVERIFY(ClickPoints(points));
     QVERIFY(Session().MoveInView(QPointF(100, 80)));
