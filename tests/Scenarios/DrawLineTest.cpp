@@ -55,6 +55,25 @@ private slots:
         m_pFixture.reset();
     }
 
+    void hintThatComesAndGoesLeavesTheViewWhereItIs()
+    {
+        QRect busy;
+        QRect idle;
+        const auto read = [](QRect& rect) {
+            return [&rect] {
+                QCoreApplication::sendPostedEvents();
+                rect = ScriptedUser::FindView()->geometry();
+            };
+        };
+        ScriptedUser user;
+
+        user.Click(s_line).UntilRunning(s_line).Do(read(busy));
+        user.Press(Qt::Key_Escape).UntilRunning({}).Do(read(idle)).Run();
+
+        QVERIFY(idle.isValid());
+        QCOMPARE(busy, idle);
+    }
+
     void typedLengthAndAngleAreExact_data()
     {
         QTest::addColumn<QString>("length");

@@ -25,6 +25,10 @@ MainWindow::MainWindow()
         QStringLiteral("X -000000.000   Y -000000.000   mm")));
     constexpr int Margin = 6;
     m_pHint->setContentsMargins(Margin, 0, Margin, 0);
+    // As high without a hint: the drawing does not move when one comes or goes.
+    m_pHint->setText(QStringLiteral("汉"));
+    m_pHint->setMinimumHeight(m_pHint->sizeHint().height());
+    m_pHint->clear();
     m_pCursor->setContentsMargins(Margin, 0, Margin, 0);
     statusBar()->addWidget(m_pHint, 1);
     statusBar()->addPermanentWidget(m_pWarningCount);
