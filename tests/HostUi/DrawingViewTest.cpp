@@ -6,11 +6,13 @@
 
 #include <QApplication>
 #include <QLineEdit>
+#include <QPainter>
 #include <QSignalSpy>
 #include <QTest>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
+#include <functional>
 #include <memory>
 
 using namespace vesk;
@@ -22,9 +24,19 @@ class PlainView final : public DrawingView
 {
 public:
     using DrawingView::DrawingView;
+    using DrawingView::UpdateModel;
+
+    int GetPaintCount() const { return m_paintCount; }
 
 protected:
-    void PaintModel(QPainter&) override {}
+    void PaintModel(QPainter& painter) override
+    {
+        ++m_paintCount;
+        painter.fillRect(10, 10, 20, 20, Qt::red);
+    }
+
+private:
+    int m_paintCount = 0;
 };
 
 void SendMouse(QWidget& widget, QEvent::Type type, QPointF position, Qt::MouseButton button)
@@ -41,6 +53,8 @@ void Turn(QWidget& widget, QPointF position, int angle)
 }
 
 }
+
+Q_DECLARE_METATYPE(std::function<void(PlainView&)>)
 
 /// A view in a window beside a line edit.
 class DrawingViewTest final : public QObject
@@ -129,6 +143,48 @@ private slots:
         QCOMPARE(moves.count(), 1);
         QCOMPARE(moves[0][0].toDouble(), world.x());
         QCOMPARE(moves[0][1].toDouble(), world.y());
+    }
+
+    void modelIsPaintedOnceWhileOnlyTheCursorMoves()
+    {
+        m_pView->repaint();
+        const int paintCount = m_pView->GetPaintCount();
+
+        SendMouse(*m_pView, QEvent::MouseMove, {50, 60}, Qt::NoButton);
+        m_pView->Redraw();
+        const QImage picture = m_pView->grab().toImage();
+
+        QCOMPARE(m_pView->GetPaintCount(), paintCount);
+        QCOMPARE(picture.pixelColor(15, 15), QColor(Qt::red));
+        QCOMPARE(picture.pixelColor(40, 40), m_pView->palette().color(QPalette::Base));
+    }
+
+    void modelIsPaintedAnewWhenItLooksDifferent_data()
+    {
+        QTest::addColumn<std::function<void(PlainView&)>>("change");
+
+        const auto add = [](const char* name, std::function<void(PlainView&)> change) {
+            QTest::newRow(name) << std::move(change);
+        };
+        add("model", [](PlainView& view) { view.UpdateModel(); });
+        add("zoom", [](PlainView& view) { Turn(view, {100, 80}, 480); });
+        add("fit", [](PlainView& view) { view.Fit({0, 0, 0}, {7, 7, 0}); });
+        add("size", [](PlainView& view) { view.resize(320, 210); });
+        add("palette", [](PlainView& view) { view.setPalette(QPalette(Qt::darkBlue)); });
+    }
+
+    void modelIsPaintedAnewWhenItLooksDifferent()
+    {
+        QFETCH(std::function<void(PlainView&)>, change);
+        m_pView->repaint();
+        const int paintCount = m_pView->GetPaintCount();
+
+        change(*m_pView);
+        const QImage picture = m_pView->grab().toImage();
+
+        QVERIFY(m_pView->GetPaintCount() > paintCount);
+        QCOMPARE(picture.size(), m_pView->size());
+        QCOMPARE(picture.pixelColor(40, 40), m_pView->palette().color(QPalette::Base));
     }
 
     void viewTextIsToldWhenItChanges()

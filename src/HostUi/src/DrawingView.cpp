@@ -93,6 +93,19 @@ QPointF DrawingView::ToPixel(const Vector3d& world) const
     return {x, y};
 }
 
+void DrawingView::UpdateModel()
+{
+    m_modelPicture = {};
+    update();
+}
+
+void DrawingView::changeEvent(QEvent* pEvent)
+{
+    if (pEvent->type() == QEvent::PaletteChange)
+        UpdateModel();
+    QWidget::changeEvent(pEvent);
+}
+
 bool DrawingView::eventFilter(QObject* pWatched, QEvent* pEvent)
 {
     // The editor floats in a window of its own: it must follow when the view's window moves.
@@ -162,8 +175,7 @@ void DrawingView::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillRect(rect(), palette().color(QPalette::Base));
-    PaintModel(painter);
+    painter.drawPixmap(0, 0, GetModelPicture());
 
     ProvisionalPainter provisional(painter, m_camera, palette());
     if (const IAction* pAction = IActionManager::CurrentAction())
@@ -210,7 +222,21 @@ void DrawingView::wheelEvent(QWheelEvent* pEvent)
 void DrawingView::OnCameraChanged()
 {
     ActionManager::RefreshViewInput(this);
-    update();
+    UpdateModel();
+}
+
+const QPixmap& DrawingView::GetModelPicture()
+{
+    const double ratio = devicePixelRatioF();
+    if (!m_modelPicture.isNull() && m_modelPicture.devicePixelRatioF() == ratio)
+        return m_modelPicture;
+    m_modelPicture = QPixmap(size() * ratio);
+    m_modelPicture.setDevicePixelRatio(ratio);
+    m_modelPicture.fill(palette().color(QPalette::Base));
+    QPainter painter(&m_modelPicture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    PaintModel(painter);
+    return m_modelPicture;
 }
 
 /// A click takes the value being typed, in the direction of the click; a refused one keeps it.

@@ -4,6 +4,7 @@
 #include "View/IUiView.h"
 #include "View/ModelView.h"
 
+#include <QPixmap>
 #include <QPointer>
 #include <QWidget>
 
@@ -53,8 +54,13 @@ signals:
     void cursorLeft();
 
 protected:
-    /// Paints what the view shows below the provisional graphics. The painter draws in pixels.
+    /// Paints what the view shows below the provisional graphics. The painter draws in pixels. What
+    /// is painted is kept while only the cursor and the provisional graphics move: until
+    /// UpdateModel is called, or the camera, the size or the palette changes.
     virtual void PaintModel(QPainter& painter) = 0;
+
+    /// Has the model painted anew: it looks different now.
+    void UpdateModel();
 
     /// Paints over everything else.
     virtual void PaintOverlay(QPainter&) {}
@@ -66,6 +72,7 @@ protected:
     /// The pixel position of a world point.
     QPointF ToPixel(const Vector3d& world) const;
 
+    void changeEvent(QEvent* pEvent) override;
     bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
     bool focusNextPrevChild(bool isNext) override;
     void keyPressEvent(QKeyEvent* pEvent) override;
@@ -88,6 +95,7 @@ private:
 
     void OnCameraChanged();
     void OnClick(const QMouseEvent& event);
+    const QPixmap& GetModelPicture();
 
     std::uint32_t m_id;
     DimensionInputController& m_input;
@@ -97,6 +105,9 @@ private:
     QPointF m_dragPosition;
     QPointer<QWidget> m_pWatchedWindow;
     bool m_hasScale = false;
+
+    /// The model as it was painted; null when it must be painted anew.
+    QPixmap m_modelPicture;
 };
 
 }
