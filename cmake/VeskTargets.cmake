@@ -64,8 +64,8 @@ function(vesk_test name)
     if(NOT ARG_TIMEOUT)
         set(ARG_TIMEOUT 120)
     endif()
-    if(WIN32)
-        # Real windows take their time.
+    if(WIN32 OR VESK_SANITIZE)
+        # Real windows take their time, and so do sanitizers.
         math(EXPR ARG_TIMEOUT "${ARG_TIMEOUT} * 5")
     endif()
     add_test(NAME ${name} COMMAND ${name})
