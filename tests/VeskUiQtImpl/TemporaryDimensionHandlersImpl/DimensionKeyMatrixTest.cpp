@@ -29,8 +29,7 @@ struct MatrixFixture : KindFixture
         host.view.SetWindowId(windowId);
         delete Editor();
         opHandler = CreateHandler();
-        for (const FieldRules& field : kind.fields)
-            Data()[field.state].value = ShownValue(field.state);
+        kind.ShowValuesIn(Data());
         Open();
         if (view == ViewIs::Gone)
             host.core.GetViewManager().RemoveView(&host.view);

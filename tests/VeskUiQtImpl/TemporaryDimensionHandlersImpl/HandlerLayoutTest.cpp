@@ -7,6 +7,7 @@
 #include "TemporaryDimensionHandlersImpl/RectangleTemporaryDimensionHandler.h"
 #include "TemporaryDimensionHandlersImpl/RotationTemporaryDimensionHandler.h"
 
+#include <QMetaMethod>
 #include <QtTest>
 
 namespace vesk::test
@@ -41,6 +42,8 @@ private slots:
     void operationsOfTheHostsInterfaceHaveTheirSlots();
     void operationsOfTheWidgetSideFollowEachOther();
     void theEditorAddsOneFlag();
+    void whatTheEditorCallsIsASlot_data();
+    void whatTheEditorCallsIsASlot();
 };
 
 void HandlerLayoutTest::basesStandInOrder_data()
@@ -124,6 +127,30 @@ void HandlerLayoutTest::operationsOfTheWidgetSideFollowEachOther()
 void HandlerLayoutTest::theEditorAddsOneFlag()
 {
     QCOMPARE(sizeof(TemporaryDimensionHandleEditor), sizeof(QLineEdit) + sizeof(void*));
+}
+
+void HandlerLayoutTest::whatTheEditorCallsIsASlot_data()
+{
+    AddKindRows();
+}
+
+void HandlerLayoutTest::whatTheEditorCallsIsASlot()
+{
+    FETCH_KIND(rules);
+    KindFixture f(rules.pCreateContext());
+    const QMetaObject& meta = *f.Object().metaObject();
+
+    QStringList slotNames;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
+    {
+        if (meta.method(i).methodType() == QMetaMethod::Slot)
+            slotNames << QString::fromLatin1(meta.method(i).methodSignature());
+    }
+
+    QStringList expected{"OnEditorReturnPressed()"};
+    if (rules.fields.size() > 1)
+        expected << "OnEditorTabPressed()";
+    QCOMPARE(slotNames, expected);
 }
 
 }

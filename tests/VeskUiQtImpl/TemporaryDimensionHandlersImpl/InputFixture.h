@@ -2,8 +2,6 @@
 
 #include "TemporaryDimensionHandlersImpl/HandlerFixture.h"
 
-#include "HostUi/LineEditValidateHelper.h"
-
 namespace vesk::test
 {
 
@@ -17,11 +15,6 @@ struct InputFixture : HandlerFixture
     }
 
     void TypeAngle(const QString& text) { Type(InputState::IS_Angle, text); }
-
-    bool IsValidatedLive() const
-    {
-        return Object().findChild<LineEditValidateHelper*>() != nullptr;
-    }
 };
 
 }

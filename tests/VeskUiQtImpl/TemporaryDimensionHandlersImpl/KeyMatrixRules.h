@@ -78,11 +78,6 @@ struct Outcome
     }
 };
 
-inline double ShownValue(InputState state)
-{
-    return 10.0 + int(state) + 0.98765;
-}
-
 inline QString Warning(const std::string& function, const std::wstring& message)
 {
     return QString::fromStdString(function) + ": " + QString::fromStdWString(message);
@@ -166,10 +161,9 @@ private:
 
     static void Show(Outcome& outcome, const FieldRules& field, const QString& text)
     {
-        const QString value = QString::number(ShownValue(field.state), 'f', field.decimals);
         outcome.state = field.state;
-        outcome.text = text.isEmpty() ? value : text;
-        outcome.selected = field.isSelectedByTheFirstKey ? outcome.text : QString();
+        outcome.text = text.isEmpty() ? field.ShownText() : text;
+        outcome.selected = field.selected == Selected::Always ? outcome.text : QString();
         ++outcome.refreshCount;
     }
 

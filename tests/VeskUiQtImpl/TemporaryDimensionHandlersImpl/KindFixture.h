@@ -4,6 +4,7 @@
 #include "Dimension/ITemporaryDimensionContext.h"
 #include "Dimension/ITemporaryDimensionHandler.h"
 #include "Graphics/IGraphicsNode.h"
+#include "HostUi/LineEditValidateHelper.h"
 #include "Support/HostFixture.h"
 #include "Support/MemberAccess.h"
 #include "TemporaryDimensionHandlersImpl/TemporaryDimensionHandler.h"
@@ -79,6 +80,11 @@ struct KindFixture
 
     /// Takes the context's ranges and flags over, as when an action hands it in again.
     void Configure() { opHandler->UpdateConfig(opContext.Get()); }
+
+    bool IsValidatedLive() const
+    {
+        return Object().findChild<LineEditValidateHelper*>() != nullptr;
+    }
 
     std::vector<ActionViewInput>& Inputs() { return host.actionLog.inputs; }
 

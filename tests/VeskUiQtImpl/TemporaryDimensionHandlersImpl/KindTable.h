@@ -13,14 +13,30 @@
 namespace vesk::test
 {
 
+/// When the text of a field is selected as the field is shown.
+enum class Selected
+{
+    Never,
+    InAnOpenEditor, ///< Not in one just fetched.
+    Always,
+};
+
 /// What is expected of one value of a kind.
 struct FieldRules
 {
+    const char* name;
     InputState state;
     int decimals;
     int returnKind;
     int tabKind;
-    bool isSelectedByTheFirstKey;
+    Selected selected;
+    bool isOpenedWithText; ///< An editor just fetched shows the given text, whatever is told.
+    Intervald range;       ///< To which tests narrow what is accepted.
+    void (*pNarrow)(ITemporaryDimensionContext&, const Intervald&);
+
+    /// The value that tests have shown as the current one.
+    double ShownValue() const { return 10.0 + int(state) + 0.98765; }
+    QString ShownText() const { return QString::number(ShownValue(), 'f', decimals); }
 };
 
 /// What a kind does with keys beside digits, Return and Enter; together a set.
@@ -55,7 +71,26 @@ struct KindRules
         return std::any_of(fields.begin(), fields.end(),
                            [state](const FieldRules& field) { return field.state == state; });
     }
+
+    /// Gives every field its shown value.
+    void ShowValuesIn(TemporaryDimensionData& data) const
+    {
+        for (const FieldRules& field : fields)
+            data[field.state].value = field.ShownValue();
+    }
 };
+
+template <typename Context>
+void NarrowFirst(ITemporaryDimensionContext& context, const Intervald& range)
+{
+    static_cast<Context&>(context).SetFirstValueRange(range);
+}
+
+template <typename Context>
+void NarrowSecond(ITemporaryDimensionContext& context, const Intervald& range)
+{
+    static_cast<Context&>(context).SetSecondValueRange(range);
+}
 
 template <bool isLengthEnabled, bool isAngleEnabled>
 OwnerPtr<ITemporaryDimensionContext> CreateLinear()
@@ -91,6 +126,34 @@ inline OwnerPtr<ITemporaryDimensionContext> CreateRotation()
                                                         Vector3d(30, 0, 0), Vector3d(0, 30, 0));
 }
 
+/// The values of the kinds. Where what is no number counts as 0, the range leaves that out.
+// clang-format off
+namespace Field
+{
+
+constexpr FieldRules Length{"length", InputState::IS_Length, 3, 8, 1,
+    Selected::InAnOpenEditor, true, {0, 10}, &NarrowFirst<LinearTemporaryDimensionContext>};
+constexpr FieldRules Angle{"angle", InputState::IS_Angle, 2, 9, 2,
+    Selected::Never, false, {-45, 45}, &NarrowSecond<LinearTemporaryDimensionContext>};
+constexpr FieldRules AngleBesideLength{"angle", InputState::IS_Angle, 2, 9, 2,
+    Selected::Always, false, {-45, 45}, &NarrowSecond<LinearTemporaryDimensionContext>};
+constexpr FieldRules Radius{"radius", InputState::IS_Radius, 3, 10, 0,
+    Selected::InAnOpenEditor, true, {5, 10}, &NarrowFirst<RadiusTemporaryDimensionContext>};
+constexpr FieldRules RadiusBesideAngle{"radius", InputState::IS_Radius, 3, 11, 0,
+    Selected::InAnOpenEditor, true, {5, 10}, &NarrowFirst<RadiusTemporaryDimensionContext>};
+constexpr FieldRules CentralAngle{"central angle", InputState::IS_CentralAngle, 2, 12, 0,
+    Selected::InAnOpenEditor, false, {-45, 45},
+    &NarrowSecond<CentralAngleTemporaryDimensionContext>};
+constexpr FieldRules Rotation{"angle", InputState::IS_CentralAngle, 2, 12, 0,
+    Selected::InAnOpenEditor, false, {-45, 45}, &NarrowSecond<RotationTemporaryDimensionContext>};
+constexpr FieldRules Width{"width", InputState::IS_Width, 3, 13, 6,
+    Selected::InAnOpenEditor, true, {0, 10}, &NarrowFirst<RectangleTemporaryDimensionContext>};
+constexpr FieldRules Height{"height", InputState::IS_Height, 3, 14, 7,
+    Selected::Always, false, {0, 10}, &NarrowFirst<RectangleTemporaryDimensionContext>};
+
+}
+// clang-format on
+
 /// The five kinds, and what changes with a context's flags.
 inline const std::vector<KindRules>& AllKinds()
 {
@@ -98,40 +161,38 @@ inline const std::vector<KindRules>& AllKinds()
     static const std::string radius = "vesk::RadiusTemporaryDimensionHandler";
     static const wchar_t* linearState = L"m_InputState怎么不是IS_Length或IS_Angle?";
     static const wchar_t* radiusState = L"m_InputState怎么不是IS_Radius?";
-    static const FieldRules length{InputState::IS_Length, 3, 8, 1, false};
-    static const FieldRules angle{InputState::IS_Angle, 2, 9, 2, false};
-    static const FieldRules angleBesideLength{InputState::IS_Angle, 2, 9, 2, true};
-    static const FieldRules centralAngle{InputState::IS_CentralAngle, 2, 12, 0, false};
     // clang-format off
     static const std::vector<KindRules> kinds{
-        {"linear", linear, L"pLinearCtx为空", linearState, {length, angleBesideLength}, 0,
+        {"linear", linear, L"pLinearCtx为空", linearState,
+         {Field::Length, Field::AngleBesideLength}, 0,
          OpensWithLetters | OpensWithMinus | CommitsWithSpace | SwitchesWithTab,
          &CreateLinear<true, true>},
-        {"linear, length only", linear, L"pLinearCtx为空", linearState, {length, angle}, 0,
+        {"linear, length only", linear, L"pLinearCtx为空", linearState,
+         {Field::Length, Field::Angle}, 0,
          OpensWithLetters | OpensWithMinus | CommitsWithSpace,
          &CreateLinear<true, false>},
-        {"linear, angle only", linear, L"pLinearCtx为空", linearState, {length, angle}, 1,
+        {"linear, angle only", linear, L"pLinearCtx为空", linearState,
+         {Field::Length, Field::Angle}, 1,
          OpensWithLetters | OpensWithMinus | CommitsWithSpace,
          &CreateLinear<false, true>},
-        {"radius", radius, L"pRadiusCtx为空", radiusState,
-         {{InputState::IS_Radius, 3, 10, 0, false}}, 0,
+        {"radius", radius, L"pRadiusCtx为空", radiusState, {Field::Radius}, 0,
          CommitsWithSpace | HandsEscapeOn,
          &CreateRadius<false>},
         {"radius with central angle", radius, L"pRadiusCtx为空", radiusState,
-         {{InputState::IS_Radius, 3, 11, 0, false}}, 0,
+         {Field::RadiusBesideAngle}, 0,
          CommitsWithSpace | HandsEscapeOn,
          &CreateRadius<true>},
         {"central angle", "vesk::CentralAngleTemporaryDimensionHandler", L"pCentralAngleCtx为空",
-         L"m_InputState怎么不是IS_CentralAngle?", {centralAngle}, 0,
+         L"m_InputState怎么不是IS_CentralAngle?", {Field::CentralAngle}, 0,
          OpensWithMinus | HandsEscapeOn,
          &CreateCentralAngle},
         {"rectangle", "vesk::RectangleTemporaryDimensionHandler", L"pRectangleCtx为空",
          L"m_enInputState怎么不是IS_Width或IS_Height?",
-         {{InputState::IS_Width, 3, 13, 6, false}, {InputState::IS_Height, 3, 14, 7, true}}, 0,
+         {Field::Width, Field::Height}, 0,
          CommitsWithSpace | SwitchesWithTab | HandsEscapeOn,
          &CreateRectangle},
         {"rotation", "vesk::RotationTemporaryDimensionHandler", L"pRotationCtx为空",
-         L"m_InputState怎么不是CentralAngle?", {centralAngle}, 0,
+         L"m_InputState怎么不是CentralAngle?", {Field::Rotation}, 0,
          OpensWithMinus | CommitsWithSpace | HandsEscapeOn,
          &CreateRotation},
     };
@@ -139,8 +200,13 @@ inline const std::vector<KindRules>& AllKinds()
     return kinds;
 }
 
+inline bool IsAnyKind(const KindRules&)
+{
+    return true;
+}
+
 /// Adds a row for each kind, for FETCH_KIND.
-inline void AddKindRows(bool (*pIsWanted)(const KindRules&) = [](const KindRules&) { return true; })
+inline void AddKindRows(bool (*pIsWanted)(const KindRules&) = &IsAnyKind)
 {
     QTest::addColumn<int>("kind");
     for (std::size_t i = 0; i < AllKinds().size(); ++i)
