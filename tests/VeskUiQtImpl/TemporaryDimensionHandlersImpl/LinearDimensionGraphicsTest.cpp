@@ -13,13 +13,8 @@ private slots:
     void showsWhatTheContextEnables_data();
     void showsWhatTheContextEnables();
     void fillsInValuesAndTextPositions();
-    void cannotBePicked();
-    void withoutContextThereIsNothingAndItIsReported();
-    void foreignContextGivesAnEmptyGroupAndIsReported();
     void coincidingPointsHaveNoDimensions_data();
     void coincidingPointsHaveNoDimensions();
-    void withoutViewTheGroupIsEmptyAndItIsReported();
-    void withoutModelViewTheGroupIsEmptyAndItIsReported();
     void coincidingPointsNeedNoView();
     void configurationOfAForeignContextIsReported();
     void configurationTakesTheFlagsOver();
@@ -62,35 +57,6 @@ void LinearDimensionGraphicsTest::fillsInValuesAndTextPositions()
     QVERIFY(f.Data()[InputState::IS_Angle].textPosition != Vector3d(0, 0, 0));
 }
 
-void LinearDimensionGraphicsTest::cannotBePicked()
-{
-    HandlerFixture f;
-
-    QVERIFY(!f.opHandler->GenerateGraphics(&f.context)->IsPickable());
-}
-
-void LinearDimensionGraphicsTest::withoutContextThereIsNothingAndItIsReported()
-{
-    HandlerFixture f;
-
-    QVERIFY(f.opHandler->GenerateGraphics(nullptr) == nullptr);
-
-    EXPECT_WARNING(f.host.warnings, L"pCtx为空", std::string(LinearClass) + "GenerateGraphics");
-}
-
-void LinearDimensionGraphicsTest::foreignContextGivesAnEmptyGroupAndIsReported()
-{
-    HandlerFixture f;
-    const ForeignContext context;
-
-    const auto opGroup = f.opHandler->GenerateGraphics(&context);
-
-    EXPECT_WARNING(f.host.warnings, L"pLinearCtx为空",
-                   std::string(LinearClass) + "GenerateGraphics");
-    QVERIFY(opGroup != nullptr);
-    QCOMPARE(opGroup->GetChildCount(), 0);
-}
-
 void LinearDimensionGraphicsTest::coincidingPointsHaveNoDimensions_data()
 {
     QTest::addColumn<double>("distance");
@@ -112,30 +78,6 @@ void LinearDimensionGraphicsTest::coincidingPointsHaveNoDimensions()
 
     QVERIFY(opGroup != nullptr);
     QCOMPARE(opGroup->GetChildCount(), count);
-}
-
-void LinearDimensionGraphicsTest::withoutViewTheGroupIsEmptyAndItIsReported()
-{
-    HandlerFixture f;
-    f.host.core.GetViewManager().RemoveView(&f.host.view);
-
-    const auto opGroup = f.opHandler->GenerateGraphics(&f.context);
-
-    EXPECT_WARNING(f.host.warnings, L"pUIView为空！",
-                   std::string(LinearClass) + "GenerateGraphics");
-    QCOMPARE(opGroup->GetChildCount(), 0);
-}
-
-void LinearDimensionGraphicsTest::withoutModelViewTheGroupIsEmptyAndItIsReported()
-{
-    HandlerFixture f;
-    f.host.view.SetHasModelView(false);
-
-    const auto opGroup = f.opHandler->GenerateGraphics(&f.context);
-
-    EXPECT_WARNING(f.host.warnings, L"pModelView为空！",
-                   std::string(LinearClass) + "GenerateGraphics");
-    QCOMPARE(opGroup->GetChildCount(), 0);
 }
 
 void LinearDimensionGraphicsTest::coincidingPointsNeedNoView()
