@@ -49,9 +49,11 @@ bool HasNot(const KindRules& kind)
     return !kind.Has(rule);
 }
 
+/// An event comes with a text that is not the key's own.
 bool Press(KindInputFixture& f, int key, bool isEvent)
 {
-    return isEvent ? f.SendToHandler(key) : f.opHandler->OnKeyDown(key, false, false, false);
+    return isEvent ? f.SendToHandler(key, Qt::NoModifier, "?")
+                   : f.opHandler->OnKeyDown(key, false, false, false);
 }
 
 }
