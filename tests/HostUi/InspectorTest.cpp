@@ -290,6 +290,7 @@ private slots:
 
         f.EventList()->scrollToTop();
         f.pEdit->SetText(L"a");
+        f.pInspector->UpdateStatus();
 
         QCOMPARE(pBar->value(), 0);
     }
@@ -306,6 +307,18 @@ private slots:
 
         QCOMPARE(f.Events(), QStringList());
         QCOMPARE(f.Rows(), QStringList("Edit|输入框||是|是"));
+    }
+
+    void definitionsMayGoAfterStop()
+    {
+        Fixture f;
+
+        f.pInspector->Stop();
+        f.pControls->Remove(L"Edit");
+        QTRY_VERIFY(f.panel.findChild<QLineEdit*>("Edit") == nullptr);
+
+        // Reads freed memory if it still listens.
+        f.pInspector.reset();
     }
 
     void definitionsOutliveTheInspector()
