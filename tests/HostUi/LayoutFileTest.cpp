@@ -63,7 +63,7 @@ QByteArray LayoutFileTest::Get(const QString& path)
 
 void LayoutFileTest::whatIsWrittenIsRead()
 {
-    const QByteArray layout("\0\xff layout", 9);
+    const QByteArray layout("\0\xff layout \n", 11);
 
     QVERIFY(LayoutFile::Write(Path(), layout));
 
