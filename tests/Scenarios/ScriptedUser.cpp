@@ -56,14 +56,9 @@ void ClickEntry(QMenu& menu, QAction& entry)
     QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(&entry).center());
 }
 
-/// Without a screen there is no pointer that could be moved.
 void MoveMouse(double x, double y, Qt::MouseButtons buttons)
 {
-    SketchView* pView = ScriptedUser::FindView();
-    const QPoint pixel = PixelOf(*pView, x, y);
-    QMouseEvent move(QEvent::MouseMove, pixel, pView->mapToGlobal(pixel), Qt::NoButton, buttons,
-                     Qt::NoModifier);
-    QCoreApplication::sendEvent(pView, &move);
+    ScriptedUser::MovePointer(PixelOf(*ScriptedUser::FindView(), x, y), buttons);
 }
 
 QWidget* KeyboardTarget()
@@ -174,7 +169,7 @@ ScriptedUser& ScriptedUser::Type(const QString& text)
 
 ScriptedUser& ScriptedUser::Press(Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
-    return Do([key, modifiers] { QTest::keyClick(KeyboardTarget(), key, modifiers); });
+    return Do([key, modifiers] { PressNow(key, modifiers); });
 }
 
 ScriptedUser& ScriptedUser::Do(std::function<void()> step)
@@ -212,6 +207,19 @@ int ScriptedUser::Run(const Options& options)
     Session session(options);
     Schedule();
     return session.Run();
+}
+
+void ScriptedUser::MovePointer(const QPoint& pixel, Qt::MouseButtons buttons)
+{
+    SketchView* pView = FindView();
+    QMouseEvent move(QEvent::MouseMove, pixel, pView->mapToGlobal(pixel), Qt::NoButton, buttons,
+                     Qt::NoModifier);
+    QCoreApplication::sendEvent(pView, &move);
+}
+
+void ScriptedUser::PressNow(Qt::Key key, Qt::KeyboardModifiers modifiers)
+{
+    QTest::keyClick(KeyboardTarget(), key, modifiers);
 }
 
 SketcherWindow* ScriptedUser::FindWindow()

@@ -4,6 +4,7 @@
 
 #include <QElapsedTimer>
 #include <QObject>
+#include <QPoint>
 #include <QPointF>
 #include <QString>
 
@@ -70,6 +71,13 @@ public:
 
     /// Runs a session with these options and returns its exit code.
     int Run(const Options& options = {});
+
+    /// Moves the mouse within the view, inside a step: without a screen there is no pointer that
+    /// could be moved.
+    static void MovePointer(const QPoint& pixel, Qt::MouseButtons buttons = Qt::NoButton);
+
+    /// Presses a key wherever the keyboard is, inside a step.
+    static void PressNow(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
     /// The window and its view, inside a step.
     static SketcherWindow* FindWindow();

@@ -1,0 +1,86 @@
+#pragma once
+
+#include <Qt>
+
+/// What the user of a random sitting chooses from. What stands twice is chosen twice as often.
+namespace RandomTables
+{
+
+struct Tool
+{
+    const char* id;
+    Qt::Key key; ///< With Ctrl.
+    int points;  ///< So many clicks before a value can be typed.
+};
+
+/// Those that draw come first.
+constexpr Tool Tools[] = {
+    {"Sketcher.Line", Qt::Key_L, 1},      {"Sketcher.Rectangle", Qt::Key_R, 1},
+    {"Sketcher.Circle", Qt::Key_I, 1},    {"Sketcher.Arc3Points", Qt::Key_3, 2},
+    {"Sketcher.ArcCentre", Qt::Key_4, 2}, {"Sketcher.Rotate", Qt::Key_T, 2},
+    {"Sketcher.Erase", Qt::Key_E, 0},
+};
+constexpr int DrawingTools = 5;
+constexpr int RotateTool = 5;
+constexpr int EraseTool = 6;
+
+constexpr const char* ZoomEntries[] = {
+    "Sketcher.ZoomAll",        "Sketcher.Zoom.In",         "Sketcher.Zoom.Out",
+    "Sketcher.Zoom.Window",    "Sketcher.Zoom.Window",     "Sketcher.Zoom.Scale.25",
+    "Sketcher.Zoom.Scale.50",  "Sketcher.Zoom.Scale.100",  "Sketcher.Zoom.Scale.200",
+    "Sketcher.Zoom.Scale.400", "Sketcher.Zoom.Scale.1000",
+};
+
+constexpr const char* Settings[] = {
+    "Sketcher.Snap.End",          "Sketcher.Snap.Middle",
+    "Sketcher.Snap.Centre",       "Sketcher.Snap.Grid",
+    "Sketcher.Snap.Intersection", "Sketcher.Unit.mm",
+    "Sketcher.Unit.cm",           "Sketcher.Unit.m",
+    "Sketcher.Unit.inch",
+};
+
+constexpr const char* Pens[] = {"Sketcher.LineStyle", "Sketcher.LineColour"};
+
+constexpr const char* PaneCommands[] = {"Sketcher.HideAllPanes", "Sketcher.DefaultLayout"};
+
+constexpr const char* Values[] = {
+    "50",    "12.5",    ".7",   "90",  "-90", "45",  "180",     "360",   "0",   "100",
+    "1,5",   "2cm",     "1in",  "3'",  "30d", "2*3", "1/3",     "10+5",  "(4)", "-0",
+    "1e-12", "1e9",     "-.5",  "abc", "5mm", "7 ",  "x",       "1 1/2", "0.1", "250",
+    "-12.5", "sqrt(2)", "-270", "-",   "75",  "60",  "33.3333", "1e-6",  "200", "123.4567890123",
+};
+
+constexpr char Characters[] = {'0', '1', '2', '3', '4', '5', '6', '7', '8', '9',  '.',
+                               ',', '-', '+', '(', ')', 'a', 'b', 'm', 'x', '\'', ' '};
+
+struct KeyChoice
+{
+    const char* name;
+    Qt::Key key;
+    Qt::KeyboardModifier modifier;
+};
+
+/// With these a value is taken, or locked and the next field shown.
+constexpr KeyChoice CommittingKeys[] = {
+    {"Return", Qt::Key_Return, Qt::NoModifier},   {"Return", Qt::Key_Return, Qt::NoModifier},
+    {"Return", Qt::Key_Return, Qt::NoModifier},   {"Enter", Qt::Key_Enter, Qt::KeypadModifier},
+    {"Enter", Qt::Key_Enter, Qt::KeypadModifier}, {"Tab", Qt::Key_Tab, Qt::NoModifier},
+    {"Tab", Qt::Key_Tab, Qt::NoModifier},         {"Space", Qt::Key_Space, Qt::NoModifier},
+};
+
+constexpr KeyChoice OtherKeys[] = {
+    {"Escape", Qt::Key_Escape, Qt::NoModifier},
+    {"Escape", Qt::Key_Escape, Qt::NoModifier},
+    {"Shift+Tab", Qt::Key_Backtab, Qt::ShiftModifier},
+    {"Backspace", Qt::Key_Backspace, Qt::NoModifier},
+    {"Backspace", Qt::Key_Backspace, Qt::NoModifier},
+    {"Left", Qt::Key_Left, Qt::NoModifier},
+    {"Delete", Qt::Key_Delete, Qt::NoModifier},
+    {"Shift+comma", Qt::Key_Less, Qt::ShiftModifier},
+    {"keypad 5", Qt::Key_5, Qt::KeypadModifier},
+    {"keypad -", Qt::Key_Minus, Qt::KeypadModifier},
+    {"Ctrl+A", Qt::Key_A, Qt::ControlModifier},
+    {"Ctrl+Z", Qt::Key_Z, Qt::ControlModifier},
+};
+
+}

@@ -1,0 +1,184 @@
+#include "RandomUser.h"
+
+#include "PaneDriver.h"
+#include "RandomTables.h"
+
+using namespace RandomTables;
+
+RandomUser::RandomUser(unsigned seed, ScriptedUser& user, SittingWatch& watch)
+    : m_random(seed), m_user(user), m_watch(watch)
+{}
+
+void RandomUser::Plan()
+{
+    const int count = 30 + Choose(31);
+    while (m_noted < count)
+    {
+        DoSomething();
+        FidgetSometimes();
+    }
+}
+
+QStringList RandomUser::AllCommands()
+{
+    QStringList ids = {"Sketcher.Undo", "Sketcher.KeyStrip", "Sketcher.SetProperty"};
+    for (const Tool& tool : Tools)
+        ids << tool.id;
+    for (const char* id : ZoomEntries)
+        ids << id;
+    for (const char* id : PaneCommands)
+        ids << id;
+    for (const QString& name : PaneDriver::Names())
+        ids << PaneDriver::CommandOf(name);
+    ids.removeDuplicates();
+    return ids;
+}
+
+void RandomUser::DoSomething()
+{
+    switch (Choose(12))
+    {
+    case 0:
+    case 1:
+        return Turn();
+    case 2:
+        return Erase();
+    case 3:
+        return IsOneIn(2) ? Select() : SelectAll();
+    case 4:
+        return EditProperty();
+    case 5:
+        return Arrange();
+    default:
+        return Draw();
+    }
+}
+
+/// The points of shapes, each with values by the keys or a last point by a click.
+void RandomUser::Draw()
+{
+    const int tool = Choose(DrawingTools);
+    if (IsOneIn(2))
+        Press("Escape", Qt::Key_Escape);
+    BeginTool(tool);
+    for (int i = 1 + Choose(2); i > 0; --i)
+    {
+        ClickPoints(Tools[tool].points);
+        MoveMouse();
+        EnterValues();
+        if (IsOneIn(3))
+            ClickView();
+    }
+}
+
+void RandomUser::Turn()
+{
+    SelectAll();
+    BeginTool(RotateTool);
+    ClickPoints(Tools[RotateTool].points);
+    MoveMouse();
+    EnterValues();
+}
+
+void RandomUser::Erase()
+{
+    BeginTool(EraseTool);
+    ClickPoints(Choose(3));
+    if (IsOneIn(2))
+        Press("Escape", Qt::Key_Escape);
+}
+
+void RandomUser::Select()
+{
+    Press("Escape", Qt::Key_Escape);
+    Press("Escape", Qt::Key_Escape);
+    DragBetween(Place(), Place());
+}
+
+/// By a window as large as the view.
+void RandomUser::SelectAll()
+{
+    constexpr double Far = 10000.0;
+    Press("Escape", Qt::Key_Escape);
+    Press("Escape", Qt::Key_Escape);
+    Press("Ctrl+0", Qt::Key_0, Qt::ControlModifier, Act::Zoom);
+    DragBetween({-Far, -Far}, {Far, Far});
+}
+
+void RandomUser::EditProperty()
+{
+    IsOneIn(2) ? Select() : SelectAll();
+    if (IsOneIn(2))
+        ClickView();
+    EnterProperty(Pick(Values));
+    if (!IsOneIn(4))
+        Press("Return", Qt::Key_Return);
+}
+
+void RandomUser::Arrange()
+{
+    if (IsOneIn(3))
+        ClickButton(Pick(PaneCommands));
+    else
+        ChooseEntry("Sketcher.Panes", PaneDriver::CommandOf(Pick(PaneDriver::Names())));
+}
+
+void RandomUser::Fidget()
+{
+    switch (Choose(16))
+    {
+    case 0:
+    case 1:
+        return MoveMouse();
+    case 2:
+    case 3:
+        return ClickView();
+    case 4:
+        return DragBetween(Place(), Place());
+    case 5:
+    case 6:
+        return Zoom();
+    case 7:
+        return ChooseEntry("Sketcher.Zoom", Pick(ZoomEntries));
+    case 8:
+        return BeginTool(Choose(static_cast<int>(std::size(Tools))));
+    case 9:
+        return ClickButton("Sketcher.Undo");
+    case 10:
+    case 11:
+        return ChangeSetting();
+    case 12:
+    case 13:
+        return PressAnyKey();
+    case 14:
+        return Type(QString(QChar(Pick(Characters))));
+    default:
+        return TypeValue();
+    }
+}
+
+void RandomUser::FidgetSometimes()
+{
+    if (IsOneIn(4))
+        Fidget();
+}
+
+/// One or two, as it were with Tab between them.
+void RandomUser::EnterValues()
+{
+    for (int i = 1 + Choose(2); i > 0; --i)
+    {
+        FidgetSometimes();
+        TypeValue();
+        PressCommittingKey();
+    }
+}
+
+void RandomUser::ClickPoints(int count)
+{
+    for (int i = 0; i < count; ++i)
+    {
+        FidgetSometimes();
+        ClickView();
+    }
+}

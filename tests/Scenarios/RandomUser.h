@@ -1,0 +1,79 @@
+#pragma once
+
+#include "SittingWatch.h"
+
+#include <QPointF>
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+#include <iterator>
+#include <random>
+
+class ScriptedUser;
+
+/// A user who draws, and who does anything at any moment. The seed says beforehand what is done.
+class RandomUser final
+{
+public:
+    /// User and watch are not owned and outlive the sitting.
+    RandomUser(unsigned seed, ScriptedUser& user, SittingWatch& watch);
+
+    /// Notes the acts of a sitting, 30 to 60 of them or a few more.
+    void Plan();
+
+    /// The commands that are begun in some sittings or other.
+    static QStringList AllCommands();
+
+private:
+    using Act = SittingWatch::Act;
+
+    /// Whole things that are done with the program, more or less well.
+    void DoSomething();
+    void Draw();
+    void Turn();
+    void Erase();
+    void Select();
+    void SelectAll();
+    void EditProperty();
+    void Arrange();
+
+    /// One act of any kind, wherever it falls.
+    void Fidget();
+    void FidgetSometimes();
+
+    void ClickView();
+    void ClickPoints(int count);
+    void MoveMouse();
+    void DragBetween(const QPointF& start, const QPointF& end);
+    void Zoom();
+    void ResizeWindow();
+    void ChooseEntry(const QString& menu, const QString& command);
+    void BeginTool(int tool);
+    void ClickButton(const QString& id, Act act = Act::Button);
+    void ChangeSetting();
+    void EnterProperty(const QString& text);
+    void EnterValues();
+    void TypeValue();
+    void PressCommittingKey();
+    void PressAnyKey();
+    void Press(const QString& name, Qt::Key key, Qt::KeyboardModifiers modifiers = {},
+               Act act = Act::Other);
+    void Type(const QString& text);
+
+    void Do(const QString& name, Act act, std::function<void()> work);
+    int Choose(int count);
+    bool IsOneIn(int count) { return Choose(count) == 0; }
+    QPointF Place();
+
+    template <class Table>
+    auto Pick(const Table& table)
+    {
+        return table[static_cast<std::size_t>(Choose(static_cast<int>(std::size(table))))];
+    }
+
+    std::mt19937 m_random;
+    ScriptedUser& m_user;
+    SittingWatch& m_watch;
+    int m_noted = 0;
+};

@@ -1,0 +1,238 @@
+#include "RandomTables.h"
+#include "RandomUser.h"
+#include "ScriptedUser.h"
+#include "SketchView.h"
+#include "SketcherWindow.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QLineEdit>
+#include <QTest>
+#include <QWheelEvent>
+
+#include <cstddef>
+#include <utility>
+#include <vector>
+
+using namespace RandomTables;
+
+namespace
+{
+
+/// Inside the view, whatever its size is by now.
+QPoint ToPixel(const QPointF& place)
+{
+    constexpr int Margin = 3;
+    const QRect inside =
+        ScriptedUser::FindView()->rect().adjusted(Margin, Margin, -Margin, -Margin);
+    const QPoint pixel = inside.center() + place.toPoint();
+    return {qBound(inside.left(), pixel.x(), inside.right()),
+            qBound(inside.top(), pixel.y(), inside.bottom())};
+}
+
+void TurnWheel(const QPoint& pixel, int steps)
+{
+    constexpr int StepAngle = 120;
+    SketchView* pView = ScriptedUser::FindView();
+    QWheelEvent wheel(pixel, pView->mapToGlobal(pixel), QPoint(), QPoint(0, StepAngle * steps),
+                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(pView, &wheel);
+}
+
+void ClickIfPossible(const QString& id)
+{
+    QAbstractButton* pButton = ScriptedUser::FindButton(id);
+    if (pButton != nullptr && pButton->isEnabled() && pButton->isVisible())
+        QTest::mouseClick(pButton, Qt::LeftButton);
+}
+
+/// A disabled entry leaves its menu open.
+void CloseMenus()
+{
+    while (QWidget* pMenu = QApplication::activePopupWidget())
+        pMenu->close();
+}
+
+/// The fields that the selected entities have in common.
+std::vector<QLineEdit*> ShownProperties()
+{
+    std::vector<QLineEdit*> shown;
+    for (QLineEdit* pField : ScriptedUser::FindWindow()->findChildren<QLineEdit*>())
+    {
+        if (pField->isVisible() && pField->objectName().startsWith("Sketcher.Property."))
+            shown.push_back(pField);
+    }
+    return shown;
+}
+
+void TypeProperty(std::size_t number, const QString& text)
+{
+    const std::vector<QLineEdit*> shown = ShownProperties();
+    if (shown.empty())
+        return;
+    QLineEdit* pField = shown[number % shown.size()];
+    QTest::mouseClick(pField, Qt::LeftButton);
+    pField->selectAll();
+    QTest::keyClicks(pField, text);
+}
+
+QString TellPlace(const QPointF& place)
+{
+    return QStringLiteral(" %1,%2").arg(place.x()).arg(place.y());
+}
+
+}
+
+void RandomUser::ClickView()
+{
+    const QPointF place = Place();
+    const Qt::KeyboardModifiers modifiers = IsOneIn(8) ? Qt::ShiftModifier : Qt::NoModifier;
+    const bool isDouble = IsOneIn(12);
+    Do((isDouble ? "double click" : "click") + TellPlace(place), Act::Other,
+       [place, modifiers, isDouble] {
+           SketchView* pView = ScriptedUser::FindView();
+           if (isDouble)
+               QTest::mouseDClick(pView, Qt::LeftButton, modifiers, ToPixel(place));
+           else
+               QTest::mouseClick(pView, Qt::LeftButton, modifiers, ToPixel(place));
+       });
+}
+
+void RandomUser::MoveMouse()
+{
+    const QPointF place = Place();
+    Do("move" + TellPlace(place), Act::Other,
+       [place] { ScriptedUser::MovePointer(ToPixel(place)); });
+}
+
+/// With the left button, or with the middle one.
+void RandomUser::DragBetween(const QPointF& start, const QPointF& end)
+{
+    const Qt::MouseButton button = IsOneIn(5) ? Qt::MiddleButton : Qt::LeftButton;
+    const Act act = button == Qt::MiddleButton ? Act::Zoom : Act::Other;
+    Do((act == Act::Zoom ? "pan" : "drag") + TellPlace(start) + TellPlace(end), act,
+       [start, end, button] {
+           QTest::mousePress(ScriptedUser::FindView(), button, {}, ToPixel(start));
+           ScriptedUser::MovePointer(ToPixel((start + end) / 2), button);
+           ScriptedUser::MovePointer(ToPixel(end), button);
+           QTest::mouseRelease(ScriptedUser::FindView(), button, {}, ToPixel(end));
+       });
+}
+
+void RandomUser::Zoom()
+{
+    const QPointF place = Place();
+    const int most = IsOneIn(8) ? 60 : 4;
+    const int steps = (1 + Choose(most)) * (IsOneIn(2) ? 1 : -1);
+    switch (Choose(5))
+    {
+    case 0:
+        return ClickButton("Sketcher.ZoomAll", Act::Zoom);
+    case 1:
+        return Press("Ctrl+0", Qt::Key_0, Qt::ControlModifier, Act::Zoom);
+    case 2:
+        return ResizeWindow();
+    default:
+        Do(QStringLiteral("wheel %1").arg(steps) + TellPlace(place), Act::Zoom,
+           [place, steps] { TurnWheel(ToPixel(place), steps); });
+    }
+}
+
+void RandomUser::ResizeWindow()
+{
+    const QSize size(500 + Choose(900), 450 + Choose(550));
+    Do(QStringLiteral("resize %1x%2").arg(size.width()).arg(size.height()), Act::Zoom,
+       [size] { ScriptedUser::FindWindow()->resize(size); });
+}
+
+void RandomUser::ChooseEntry(const QString& menu, const QString& command)
+{
+    Do("choose " + command, Act::Button, [] {});
+    m_user.Choose(menu, command).Do(&CloseMenus);
+}
+
+void RandomUser::BeginTool(int tool)
+{
+    if (IsOneIn(4))
+        Press(Tools[tool].id, Tools[tool].key, Qt::ControlModifier);
+    else
+        ClickButton(Tools[tool].id);
+}
+
+void RandomUser::ClickButton(const QString& id, Act act)
+{
+    Do("button " + id, act, [id] { ClickIfPossible(id); });
+}
+
+void RandomUser::ChangeSetting()
+{
+    if (IsOneIn(4))
+        return ClickButton("Sketcher.KeyStrip");
+    if (!IsOneIn(4))
+        return ClickButton(Pick(Settings));
+    const QString box = Pick(Pens);
+    Do("box " + box, Act::Other, [] {});
+    m_user.ChooseItem(box, Choose(3)).Do(&CloseMenus);
+}
+
+void RandomUser::EnterProperty(const QString& text)
+{
+    const auto number = static_cast<std::size_t>(Choose(100));
+    Do("property " + text, Act::Other, [number, text] { TypeProperty(number, text); });
+}
+
+/// Sometimes with something else between its characters.
+void RandomUser::TypeValue()
+{
+    const QString text = Pick(Values);
+    if (!IsOneIn(6))
+        return Type(text);
+    const int cut = Choose(text.size() + 1);
+    Type(text.left(cut));
+    IsOneIn(2) ? Zoom() : MoveMouse();
+    Type(text.mid(cut));
+}
+
+void RandomUser::PressCommittingKey()
+{
+    if (IsOneIn(8))
+        return PressAnyKey();
+    const KeyChoice choice = Pick(CommittingKeys);
+    Press(choice.name, choice.key, choice.modifier, Act::CommittingKey);
+}
+
+void RandomUser::PressAnyKey()
+{
+    const KeyChoice choice = Pick(OtherKeys);
+    Press(choice.name, choice.key, choice.modifier);
+}
+
+void RandomUser::Press(const QString& name, Qt::Key key, Qt::KeyboardModifiers modifiers, Act act)
+{
+    Do("press " + name, act, [key, modifiers] { ScriptedUser::PressNow(key, modifiers); });
+}
+
+void RandomUser::Type(const QString& text)
+{
+    Do("type " + text, Act::Other, [] {});
+    m_user.Type(text);
+}
+
+void RandomUser::Do(const QString& name, Act act, std::function<void()> work)
+{
+    ++m_noted;
+    m_user.Do([this, name, act, work = std::move(work)] { m_watch.Do(name, act, work); });
+}
+
+int RandomUser::Choose(int count)
+{
+    return static_cast<int>(m_random() % static_cast<unsigned>(count));
+}
+
+/// From the middle of the view, in pixels; often the same places again, and often on a line.
+QPointF RandomUser::Place()
+{
+    if (!IsOneIn(3))
+        return {60.0 * (Choose(5) - 2), 60.0 * (Choose(5) - 2)};
+    return {Choose(500) - 250.0, Choose(400) - 200.0};
+}

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "Dimension/InputState.h"
+#include "Journal/JournalManager.h"
+
+#include <QMap>
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+#include <optional>
+
+/// What the users of some sittings did, by the ids of commands.
+struct SittingTally
+{
+    int sittings = 0;
+    int acts = 0;
+    QMap<QString, int> begun;     ///< Commands that were recorded.
+    QMap<QString, int> committed; ///< Values that a key had taken, by the action that took them.
+    int refused = 0;              ///< Values that a key should have taken, and that stayed.
+    int zoomsWithin = 0;          ///< Zooms beside a value that was being typed.
+    int switchesWithin = 0;       ///< Buttons clicked beside such a value.
+};
+
+/// Looks over the shoulder of a sitting's user: keeps what was done, in order, and what it led to.
+class SittingWatch final : public vesk::IJournalObserver
+{
+public:
+    enum class Act
+    {
+        Other,
+        CommittingKey,
+        Button,
+        Zoom, ///< Must leave a value that is being typed as it is.
+    };
+
+    explicit SittingWatch(SittingTally& tally);
+    ~SittingWatch() override;
+    SittingWatch(const SittingWatch&) = delete;
+    SittingWatch& operator=(const SittingWatch&) = delete;
+
+    /// Does an act. It may run the event loop of an action, and the acts that follow.
+    void Do(const QString& name, Act act, const std::function<void()>& work);
+
+    const QStringList& GetActs() const { return m_acts; }
+
+    /// What no user should see; empty when all is well.
+    const QStringList& GetFaults() const { return m_faults; }
+
+    void OnRecord(const vesk::JournalRecord& record) override;
+    void OnUiObject(const vesk::IJournalUiObject& object, int kind) override;
+
+private:
+    /// A value that is being typed.
+    struct Input
+    {
+        vesk::InputState state;
+        QString text;
+        QString selectedText;
+    };
+
+    static std::optional<Input> FindInput();
+    void Judge(const QString& name, Act act, const Input& before);
+
+    SittingTally& m_tally;
+    QStringList m_acts;
+    QStringList m_faults;
+    Act m_act = Act::Other; ///< The one begun last.
+};

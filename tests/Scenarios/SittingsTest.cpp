@@ -1,0 +1,169 @@
+#include "Drawing.h"
+#include "RandomUser.h"
+#include "ScenarioFixture.h"
+#include "ScriptedUser.h"
+#include "Session.h"
+#include "SittingWatch.h"
+
+#include <QTest>
+
+#include <iostream>
+#include <sstream>
+#include <streambuf>
+
+namespace
+{
+
+/// What the toolkit and the program say while it lives.
+class Listener
+{
+public:
+    Listener() : m_streamBefore(std::cerr.rdbuf(m_stream.rdbuf()))
+    {
+        s_messages.clear();
+        m_handlerBefore = qInstallMessageHandler(&Listener::Note);
+    }
+
+    ~Listener()
+    {
+        qInstallMessageHandler(m_handlerBefore);
+        std::cerr.rdbuf(m_streamBefore);
+    }
+
+    Listener(const Listener&) = delete;
+    Listener& operator=(const Listener&) = delete;
+
+    QStringList GetHeard() const
+    {
+        const QString complaints = QString::fromStdString(m_stream.str());
+        return complaints.isEmpty() ? s_messages : s_messages + QStringList(complaints);
+    }
+
+private:
+    /// A display that is no screen cannot do all that windows ask of it, and says so.
+    static void Note(QtMsgType type, const QMessageLogContext&, const QString& message)
+    {
+        if (type != QtDebugMsg && !message.startsWith("This plugin does not support"))
+            s_messages << message;
+    }
+
+    inline static QStringList s_messages;
+
+    std::ostringstream m_stream;
+    std::streambuf* m_streamBefore;
+    QtMessageHandler m_handlerBefore;
+};
+
+/// VESK_SITTINGS asks for another number of them.
+unsigned CountSittings()
+{
+    const int count = qEnvironmentVariableIntValue("VESK_SITTINGS");
+    return count > 0 ? static_cast<unsigned>(count) : 500;
+}
+
+}
+
+/// Whatever a user of the whole program does, nothing breaks, and the journal makes the same
+/// drawing to the last bit.
+class SittingsTest final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void sittingIsRepeatedToTheLastBit_data()
+    {
+        QTest::addColumn<unsigned>("seed");
+
+        for (unsigned seed = 1; seed <= CountSittings(); ++seed)
+            QTest::newRow(QByteArray::number(seed).constData()) << seed;
+    }
+
+    void sittingIsRepeatedToTheLastBit()
+    {
+        QFETCH(unsigned, seed);
+        const ScenarioFixture f;
+        const Listener listener;
+
+        QStringList faults = Sit(f, seed);
+        faults += Repeat(f);
+
+        faults += f.GetWarnings() + listener.GetHeard();
+        if (!faults.isEmpty())
+            QFAIL(qPrintable(faults.join('\n') + "\nafter:\n" + m_acts.join('\n')));
+    }
+
+    void sittingsDidEverything()
+    {
+        QStringList notDone = RandomUser::AllCommands();
+        for (const QString& id : m_tally.begun.keys())
+            notDone.removeAll(id);
+
+        QCOMPARE(notDone, QStringList());
+    }
+
+    void valuesOfEveryKindWereTakenByKeys_data()
+    {
+        QTest::addColumn<QString>("command");
+
+        QTest::newRow("length and angle") << "Sketcher.Line";
+        QTest::newRow("width and height") << "Sketcher.Rectangle";
+        QTest::newRow("radius") << "Sketcher.Circle";
+        QTest::newRow("radius of three points") << "Sketcher.Arc3Points";
+        QTest::newRow("central angle") << "Sketcher.ArcCentre";
+        QTest::newRow("turn") << "Sketcher.Rotate";
+    }
+
+    void valuesOfEveryKindWereTakenByKeys()
+    {
+        QFETCH(QString, command);
+
+        QVERIFY2(m_tally.committed[command] >= m_tally.sittings / 10,
+                 qPrintable(QString::number(m_tally.committed[command])));
+    }
+
+    void valuesWereDisturbedAndRefused()
+    {
+        QVERIFY(m_tally.refused >= m_tally.sittings / 10);
+        QVERIFY(m_tally.zoomsWithin >= m_tally.sittings / 10);
+        QVERIFY(m_tally.switchesWithin >= m_tally.sittings / 10);
+    }
+
+    void cleanupTestCase()
+    {
+        qInfo() << m_tally.sittings << "sittings of" << m_tally.acts << "acts," << m_tally.refused
+                << "values refused," << m_tally.zoomsWithin << "zooms and" << m_tally.switchesWithin
+                << "buttons within, taken by keys:" << m_tally.committed;
+    }
+
+private:
+    /// What was not as it should be. The journal and the model are in the fixture's files then.
+    QStringList Sit(const ScenarioFixture& f, unsigned seed)
+    {
+        SittingWatch watch(m_tally);
+        ScriptedUser user;
+        RandomUser random(seed, user, watch);
+        random.Plan();
+        const int code = user.Run(f.Draw());
+        m_acts = watch.GetActs();
+        return watch.GetFaults() + Expect(code == 0, "ended with another code than 0");
+    }
+
+    static QStringList Repeat(const ScenarioFixture& f)
+    {
+        const QString repeated = f.File("repeated");
+        const int code = Session(f.Replay(f.File("journal"), repeated)).Run();
+        const bool isSame = ReadFile(repeated) == ReadFile(f.File("model"));
+        return Expect(code == 0, "cannot be repeated") + Expect(isSame, "repeated otherwise");
+    }
+
+    static QStringList Expect(bool isSo, const QString& fault)
+    {
+        return isSo ? QStringList() : QStringList(fault);
+    }
+
+    SittingTally m_tally;
+    QStringList m_acts;
+};
+
+QTEST_MAIN(SittingsTest)
+#include "SittingsTest.moc"
