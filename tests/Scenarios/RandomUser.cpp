@@ -14,8 +14,11 @@ void RandomUser::Plan()
     const int count = 30 + Choose(31);
     while (m_noted < count)
     {
+        if (IsOneIn(5))
+            BeginBurst();
         DoSomething();
         FidgetSometimes();
+        EndBurst();
     }
 }
 
@@ -36,19 +39,23 @@ QStringList RandomUser::AllCommands()
 
 void RandomUser::DoSomething()
 {
-    switch (Choose(12))
+    switch (Choose(16))
     {
     case 0:
     case 1:
-        return Turn();
     case 2:
-        return Erase();
+        return Turn();
     case 3:
-        return IsOneIn(2) ? Select() : SelectAll();
+        return Erase();
     case 4:
-        return EditProperty();
+        return IsOneIn(2) ? Select() : SelectAll();
     case 5:
+    case 6:
+        return EditProperty();
+    case 7:
         return Arrange();
+    case 8:
+        return ClickButton("Sketcher.Undo");
     default:
         return Draw();
     }
@@ -107,12 +114,12 @@ void RandomUser::SelectAll()
 
 void RandomUser::EditProperty()
 {
-    IsOneIn(2) ? Select() : SelectAll();
-    if (IsOneIn(2))
-        ClickView();
-    EnterProperty(Pick(Values));
-    if (!IsOneIn(4))
+    IsOneIn(3) ? SelectAll() : ClickRow();
+    for (int i = 1 + Choose(2); i > 0; --i)
+    {
+        EnterProperty(Pick(Values));
         Press("Return", Qt::Key_Return);
+    }
 }
 
 void RandomUser::Arrange()

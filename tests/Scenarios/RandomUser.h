@@ -9,6 +9,7 @@
 #include <functional>
 #include <iterator>
 #include <random>
+#include <vector>
 
 class ScriptedUser;
 
@@ -52,6 +53,7 @@ private:
     void BeginTool(int tool);
     void ClickButton(const QString& id, Act act = Act::Button);
     void ChangeSetting();
+    void ClickRow();
     void EnterProperty(const QString& text);
     void EnterValues();
     void TypeValue();
@@ -61,7 +63,13 @@ private:
                Act act = Act::Other);
     void Type(const QString& text);
 
+    /// What is done until the end of a burst comes so fast that all of it waits in the queue of
+    /// events before the first is done.
+    void BeginBurst();
+    void EndBurst();
+
     void Do(const QString& name, Act act, std::function<void()> work);
+    void Note(std::function<void()> step);
     int Choose(int count);
     bool IsOneIn(int count) { return Choose(count) == 0; }
     QPointF Place();
@@ -76,4 +84,8 @@ private:
     ScriptedUser& m_user;
     SittingWatch& m_watch;
     int m_noted = 0;
+
+    /// The acts of the burst that is being noted.
+    std::vector<std::function<void()>> m_burst;
+    bool m_isBurst = false;
 };

@@ -8,9 +8,12 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QTest>
+#include <QTimer>
+#include <QTreeView>
 #include <QWheelEvent>
 
 #include <cstddef>
+#include <memory>
 #include <utility>
 #include <vector>
 
@@ -63,6 +66,18 @@ std::vector<QLineEdit*> ShownProperties()
             shown.push_back(pField);
     }
     return shown;
+}
+
+/// In the list of entities.
+void ClickListed(int number)
+{
+    auto* pList = ScriptedUser::FindWindow()->findChild<QTreeView*>("Entities");
+    const int count = pList->model()->rowCount();
+    if (count == 0 || !pList->isVisible())
+        return;
+    const QModelIndex index = pList->model()->index(number % count, 1);
+    pList->scrollTo(index);
+    QTest::mouseClick(pList->viewport(), Qt::LeftButton, {}, pList->visualRect(index).center());
 }
 
 void TypeProperty(std::size_t number, const QString& text)
@@ -147,6 +162,7 @@ void RandomUser::ResizeWindow()
 
 void RandomUser::ChooseEntry(const QString& menu, const QString& command)
 {
+    EndBurst();
     Do("choose " + command, Act::Button, [] {});
     m_user.Choose(menu, command).Do(&CloseMenus);
 }
@@ -171,8 +187,15 @@ void RandomUser::ChangeSetting()
     if (!IsOneIn(4))
         return ClickButton(Pick(Settings));
     const QString box = Pick(Pens);
+    EndBurst();
     Do("box " + box, Act::Other, [] {});
     m_user.ChooseItem(box, Choose(3)).Do(&CloseMenus);
+}
+
+void RandomUser::ClickRow()
+{
+    const int number = Choose(100);
+    Do(QStringLiteral("row %1").arg(number), Act::Other, [number] { ClickListed(number); });
 }
 
 void RandomUser::EnterProperty(const QString& text)
@@ -215,13 +238,43 @@ void RandomUser::Press(const QString& name, Qt::Key key, Qt::KeyboardModifiers m
 void RandomUser::Type(const QString& text)
 {
     Do("type " + text, Act::Other, [] {});
-    m_user.Type(text);
+    for (const QChar character : text)
+        Note([character] { ScriptedUser::TypeNow(character); });
+}
+
+void RandomUser::BeginBurst()
+{
+    m_isBurst = true;
+}
+
+void RandomUser::EndBurst()
+{
+    m_isBurst = false;
+    if (m_burst.empty())
+        return;
+    const auto pLeft = std::make_shared<std::size_t>(m_burst.size());
+    m_user.Do([this, pLeft, burst = std::exchange(m_burst, {})] {
+        for (const std::function<void()>& work : burst)
+            QTimer::singleShot(0, &m_user, [pLeft, work] {
+                --*pLeft;
+                work();
+            });
+    });
+    m_user.Until([pLeft] { return *pLeft == 0; });
 }
 
 void RandomUser::Do(const QString& name, Act act, std::function<void()> work)
 {
     ++m_noted;
-    m_user.Do([this, name, act, work = std::move(work)] { m_watch.Do(name, act, work); });
+    Note([this, name, act, work = std::move(work)] { m_watch.Do(name, act, work); });
+}
+
+void RandomUser::Note(std::function<void()> step)
+{
+    if (m_isBurst)
+        m_burst.push_back(std::move(step));
+    else
+        m_user.Do(std::move(step));
 }
 
 int RandomUser::Choose(int count)

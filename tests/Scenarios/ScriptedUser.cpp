@@ -163,7 +163,7 @@ ScriptedUser& ScriptedUser::DrawLine(double startX, double startY, double endX, 
 ScriptedUser& ScriptedUser::Type(const QString& text)
 {
     for (const QChar character : text)
-        Do([character] { QTest::keyClick(KeyboardTarget(), character.toLatin1()); });
+        Do([character] { TypeNow(character); });
     return *this;
 }
 
@@ -215,6 +215,11 @@ void ScriptedUser::MovePointer(const QPoint& pixel, Qt::MouseButtons buttons)
     QMouseEvent move(QEvent::MouseMove, pixel, pView->mapToGlobal(pixel), Qt::NoButton, buttons,
                      Qt::NoModifier);
     QCoreApplication::sendEvent(pView, &move);
+}
+
+void ScriptedUser::TypeNow(QChar character)
+{
+    QTest::keyClick(KeyboardTarget(), character.toLatin1());
 }
 
 void ScriptedUser::PressNow(Qt::Key key, Qt::KeyboardModifiers modifiers)

@@ -76,7 +76,8 @@ public:
     /// could be moved.
     static void MovePointer(const QPoint& pixel, Qt::MouseButtons buttons = Qt::NoButton);
 
-    /// Presses a key wherever the keyboard is, inside a step.
+    /// Presses a key, or types a character, wherever the keyboard is, inside a step.
+    static void TypeNow(QChar character);
     static void PressNow(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
     /// The window and its view, inside a step.

@@ -15,6 +15,7 @@ struct SittingTally
 {
     int sittings = 0;
     int acts = 0;
+    int entities = 0;             ///< In the drawings at the end.
     QMap<QString, int> begun;     ///< Commands that were recorded.
     QMap<QString, int> committed; ///< Values that a key had taken, by the action that took them.
     int refused = 0;              ///< Values that a key should have taken, and that stayed.
