@@ -241,6 +241,25 @@ private slots:
         QVERIFY(!f.controller.OnViewKey(press));
     }
 
+    void keyThatTheEditorLeavesIsKeptFromTheWindow_data()
+    {
+        tabWithoutAnInputIsKeptFromTheWindow_data();
+        QTest::newRow("F5") << int(Qt::Key_F5);
+    }
+
+    void keyThatTheEditorLeavesIsKeptFromTheWindow()
+    {
+        QFETCH(int, key);
+        InputFixture f(CentralAngle(), &MakeCentralAngle);
+        QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+
+        f.Type("5");
+        QVERIFY(f.controller.OnViewKey(press));
+
+        QVERIFY(press.isAccepted());
+        QCOMPARE(f.Editor()->text(), QString("5"));
+    }
+
     void clickTakesWhatIsClearOnly()
     {
         InputFixture f(Linear());

@@ -123,6 +123,17 @@ private slots:
         QCOMPARE(RunToOne(user).radius, 25.0);
     }
 
+    void tabThatReachesTheViewLeavesTheKeyboardToTheRadius()
+    {
+        ScriptedUser user;
+
+        user.Click(s_circle).ClickAt(0, 0).MoveTo(40, 0).Type("2");
+        user.Do([] { ScriptedUser::FindView()->Activate(); }).Press(Qt::Key_Tab);
+        user.Type("5").Press(Qt::Key_Return);
+
+        QCOMPARE(RunToOne(user).radius, 25.0);
+    }
+
     void escapeInTheEditorLeavesTheCircleToTheCursor()
     {
         ScriptedUser user;

@@ -78,6 +78,8 @@ bool DimensionInputController::OnViewKey(QKeyEvent& event)
     if (QLineEdit* pEditor = GetActiveEditor())
     {
         QCoreApplication::sendEvent(pEditor, &event);
+        // What the editor leaves would be offered to the window, too.
+        event.accept();
         return true;
     }
     // Left over, it would be offered to the window, which moves the focus.
