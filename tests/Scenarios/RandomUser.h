@@ -60,7 +60,7 @@ private:
     void PressCommittingKey();
     void PressAnyKey();
     void Press(const QString& name, Qt::Key key, Qt::KeyboardModifiers modifiers = {},
-               Act act = Act::Other);
+               Act act = Act::Key);
     void Type(const QString& text);
 
     /// What is done until the end of a burst comes so fast that all of it waits in the queue of

@@ -239,7 +239,7 @@ void RandomUser::Type(const QString& text)
 {
     Do("type " + text, Act::Other, [] {});
     for (const QChar character : text)
-        Note([character] { ScriptedUser::TypeNow(character); });
+        Note([this, character] { m_watch.Type(character); });
 }
 
 void RandomUser::BeginBurst()

@@ -9,7 +9,18 @@
 
 #include <QLineEdit>
 
+using vesk::TemporaryDimensionMgr;
 using vesk::ToQString;
+
+namespace
+{
+
+QLineEdit* FindEditor()
+{
+    return ScriptedUser::FindView()->findChild<QLineEdit*>("ViewInputLineEdit");
+}
+
+}
 
 SittingWatch::SittingWatch(SittingTally& tally) : m_tally(tally)
 {
@@ -35,8 +46,27 @@ void SittingWatch::Do(const QString& name, Act act, const std::function<void()>&
 
     work();
 
-    if (before.has_value())
-        Judge(name, act, *before);
+    // With other acts the window may be closed by now.
+    if (!before.has_value())
+        return;
+    if (act == Act::Zoom)
+        JudgeZoom(name, *before);
+    if (act == Act::Key || act == Act::CommittingKey)
+        JudgeKey(name, act, *before);
+}
+
+void SittingWatch::Type(QChar character)
+{
+    const std::optional<Input> before = FindInput();
+    const bool isExpected = before.has_value()
+                                ? before->hasKeyboard
+                                : TemporaryDimensionMgr::GetInstance()->HasHandler() &&
+                                      ScriptedUser::FindView()->hasFocus();
+
+    ScriptedUser::TypeNow(character);
+
+    if (isExpected && character.isDigit())
+        JudgeDigit(character, before);
 }
 
 void SittingWatch::OnRecord(const vesk::JournalRecord& record)
@@ -51,23 +81,38 @@ void SittingWatch::OnUiObject(const vesk::IJournalUiObject&, int) {}
 
 std::optional<SittingWatch::Input> SittingWatch::FindInput()
 {
-    const vesk::TemporaryDimensionMgr& manager = *vesk::TemporaryDimensionMgr::GetInstance();
-    const auto* pEditor = ScriptedUser::FindView()->findChild<QLineEdit*>("ViewInputLineEdit");
+    const TemporaryDimensionMgr& manager = *TemporaryDimensionMgr::GetInstance();
+    const QLineEdit* pEditor = FindEditor();
     if (!manager.IsInputting() || pEditor == nullptr)
         return std::nullopt;
-    return Input{manager.GetInputState(), pEditor->text(), pEditor->selectedText()};
+    return Input{manager.GetInputState(), pEditor->text(), pEditor->selectedText(),
+                 pEditor->hasFocus() || ScriptedUser::FindView()->hasFocus()};
 }
 
-void SittingWatch::Judge(const QString& name, Act act, const Input& before)
+void SittingWatch::JudgeKey(const QString& name, Act act, const Input& before)
 {
-    // With other acts the window may be closed by now.
-    if (act != Act::CommittingKey && act != Act::Zoom)
-        return;
     const std::optional<Input> after = FindInput();
-    const bool isKept =
-        after.has_value() && after->state == before.state && after->text == before.text;
-    if (act == Act::Zoom && !isKept)
-        m_faults << name + QStringLiteral(" changed what was being typed: ") + before.text;
+    if (!after.has_value())
+        return;
+    if (before.hasKeyboard && !after->hasKeyboard)
+        m_faults << name + QStringLiteral(" took the keyboard away");
+    const bool isKept = after->state == before.state && after->text == before.text;
     if (act == Act::CommittingKey && isKept && after->selectedText == after->text)
         ++m_tally.refused;
+}
+
+void SittingWatch::JudgeZoom(const QString& name, const Input& before)
+{
+    const std::optional<Input> after = FindInput();
+    if (!after.has_value() || after->state != before.state || after->text != before.text)
+        m_faults << name + QStringLiteral(" changed what was being typed: ") + before.text;
+}
+
+void SittingWatch::JudgeDigit(QChar digit, const std::optional<Input>& before)
+{
+    const int length =
+        before.has_value() ? before->text.size() - before->selectedText.size() + 1 : 1;
+    const std::optional<Input> after = FindInput();
+    if (!after.has_value() || after->text.size() != length || !after->text.contains(digit))
+        m_faults << m_acts.back() + QStringLiteral(" lost a digit: ") + digit;
 }

@@ -30,6 +30,7 @@ public:
     enum class Act
     {
         Other,
+        Key, ///< Must leave the keyboard where a value is being typed, as long as one is.
         CommittingKey,
         Button,
         Zoom, ///< Must leave a value that is being typed as it is.
@@ -42,6 +43,10 @@ public:
 
     /// Does an act. It may run the event loop of an action, and the acts that follow.
     void Do(const QString& name, Act act, const std::function<void()>& work);
+
+    /// Types a character wherever the keyboard is. No digit must be lost, neither to a value nor to
+    /// a dimension that waits for one.
+    void Type(QChar character);
 
     const QStringList& GetActs() const { return m_acts; }
 
@@ -58,10 +63,13 @@ private:
         vesk::InputState state;
         QString text;
         QString selectedText;
+        bool hasKeyboard; ///< A click on another control takes it away.
     };
 
     static std::optional<Input> FindInput();
-    void Judge(const QString& name, Act act, const Input& before);
+    void JudgeKey(const QString& name, Act act, const Input& before);
+    void JudgeZoom(const QString& name, const Input& before);
+    void JudgeDigit(QChar digit, const std::optional<Input>& before);
 
     SittingTally& m_tally;
     QStringList m_acts;
