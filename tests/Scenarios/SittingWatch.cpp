@@ -4,11 +4,13 @@
 #include "SketchView.h"
 
 #include "Command/ActionManager.h"
+#include "Dimension/LengthUnit.h"
 #include "Dimension/TemporaryDimensionMgr.h"
 #include "HostUi/QtText.h"
 
 #include <QLineEdit>
 
+using vesk::LengthUnit;
 using vesk::TemporaryDimensionMgr;
 using vesk::ToQString;
 
@@ -39,6 +41,7 @@ void SittingWatch::Do(const QString& name, Act act, const std::function<void()>&
     ++m_tally.acts;
     m_act = act;
     const std::optional<Input> before = FindInput();
+    const LengthUnit* pUnitBefore = &LengthUnit::GetCurrent();
     if (before.has_value() && act == Act::Zoom)
         ++m_tally.zoomsWithin;
     if (before.has_value() && act == Act::Button && !before->text.isEmpty())
@@ -46,9 +49,11 @@ void SittingWatch::Do(const QString& name, Act act, const std::function<void()>&
 
     work();
 
-    // With other acts the window may be closed by now.
+    // With some other acts the window may be closed by now.
     if (!before.has_value())
         return;
+    if (&LengthUnit::GetCurrent() != pUnitBefore && FindInput().has_value())
+        m_faults << name + QStringLiteral(" kept a value of another unit");
     if (act == Act::Zoom)
         JudgeZoom(name, *before);
     if (act == Act::Key || act == Act::CommittingKey)
