@@ -99,7 +99,7 @@ void RandomUser::Select()
 {
     Press("Escape", Qt::Key_Escape);
     Press("Escape", Qt::Key_Escape);
-    DragBetween(Place(), Place());
+    DragAnywhere();
 }
 
 /// By a window as large as the view.
@@ -141,7 +141,7 @@ void RandomUser::Fidget()
     case 3:
         return ClickView();
     case 4:
-        return DragBetween(Place(), Place());
+        return DragAnywhere();
     case 5:
     case 6:
         return Zoom();

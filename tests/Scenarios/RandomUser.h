@@ -46,6 +46,7 @@ private:
     void ClickView();
     void ClickPoints(int count);
     void MoveMouse();
+    void DragAnywhere();
     void DragBetween(const QPointF& start, const QPointF& end);
     void Zoom();
     void ResizeWindow();
