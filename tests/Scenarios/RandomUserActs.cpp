@@ -5,11 +5,8 @@
 #include "SketcherWindow.h"
 
 #include <QTest>
-#include <QTimer>
 #include <QWheelEvent>
 
-#include <cstddef>
-#include <memory>
 #include <utility>
 
 using namespace RandomTables;
@@ -159,17 +156,8 @@ void RandomUser::BeginBurst()
 void RandomUser::EndBurst()
 {
     m_isBurst = false;
-    if (m_burst.empty())
-        return;
-    const auto pLeft = std::make_shared<std::size_t>(m_burst.size());
-    m_user.Do([this, pLeft, burst = std::exchange(m_burst, {})] {
-        for (const std::function<void()>& work : burst)
-            QTimer::singleShot(0, &m_user, [pLeft, work] {
-                --*pLeft;
-                work();
-            });
-    });
-    m_user.Until([pLeft] { return *pLeft == 0; });
+    if (!m_burst.empty())
+        m_user.DoAtOnce(std::exchange(m_burst, {}));
 }
 
 void RandomUser::Do(const QString& name, Act act, std::function<void()> work)

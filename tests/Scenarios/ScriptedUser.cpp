@@ -17,6 +17,8 @@
 #include <QToolButton>
 
 #include <algorithm>
+#include <cstddef>
+#include <memory>
 #include <utility>
 
 using vesk::Vector3d;
@@ -179,6 +181,19 @@ ScriptedUser& ScriptedUser::Do(std::function<void()> step)
         return true;
     });
     return *this;
+}
+
+ScriptedUser& ScriptedUser::DoAtOnce(const std::vector<std::function<void()>>& steps)
+{
+    const auto pLeft = std::make_shared<std::size_t>(steps.size());
+    const auto post = [this, pLeft](const std::function<void()>& step) {
+        QTimer::singleShot(0, this, [pLeft, step] {
+            --*pLeft;
+            step();
+        });
+    };
+    Do([steps, post] { std::for_each(steps.begin(), steps.end(), post); });
+    return Until([pLeft] { return *pLeft == 0; });
 }
 
 ScriptedUser& ScriptedUser::UntilRunning(const QString& commandId)

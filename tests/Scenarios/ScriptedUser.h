@@ -10,6 +10,7 @@
 
 #include <deque>
 #include <functional>
+#include <vector>
 
 class QAbstractButton;
 class QAction;
@@ -62,6 +63,10 @@ public:
 
     /// Does something else, or checks something.
     ScriptedUser& Do(std::function<void()> step);
+
+    /// Does all of that as somebody faster than the program: everything waits in the queue of
+    /// events before the first of it is done.
+    ScriptedUser& DoAtOnce(const std::vector<std::function<void()>>& steps);
 
     /// Waits until that command's action runs; none when empty.
     ScriptedUser& UntilRunning(const QString& commandId);

@@ -67,10 +67,12 @@ void SittingWatch::Type(QChar character)
                                 ? before->hasKeyboard
                                 : TemporaryDimensionMgr::GetInstance()->HasHandler() &&
                                       ScriptedUser::FindView()->hasFocus();
+    // It waits for a command that waits, too.
+    const bool isHeld = vesk::ActionManager::IsCommandWaiting();
 
     ScriptedUser::TypeNow(character);
 
-    if (isExpected && character.isDigit())
+    if (isExpected && !isHeld && character.isDigit())
         JudgeDigit(character, before);
 }
 

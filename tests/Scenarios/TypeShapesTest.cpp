@@ -6,10 +6,12 @@
 
 #include "Dimension/TemporaryDimensionMgr.h"
 
+#include <QAbstractButton>
 #include <QLineEdit>
 #include <QTest>
 
 #include <cmath>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -34,6 +36,16 @@ QLineEdit* FindEditor()
 bool IsInputting()
 {
     return vesk::TemporaryDimensionMgr::GetInstance()->IsInputting();
+}
+
+/// Takes the tool and clicks the centre, before what follows.
+std::vector<std::function<void()>> BeginCircle(const std::vector<std::function<void()>>& rest)
+{
+    std::vector<std::function<void()>> steps = {
+        [] { QTest::mouseClick(ScriptedUser::FindButton(s_circle), Qt::LeftButton); },
+        [] { QTest::mouseClick(ScriptedUser::FindView(), Qt::LeftButton); }};
+    steps.insert(steps.end(), rest.begin(), rest.end());
+    return steps;
 }
 
 double Distance(const Point& a, const Point& b)
@@ -132,6 +144,45 @@ private slots:
         user.Type("5").Press(Qt::Key_Return);
 
         QCOMPARE(RunToOne(user).radius, 25.0);
+    }
+
+    void whatIsTypedAheadOfAToolIsMeantForIt_data()
+    {
+        QTest::addColumn<QString>("typedBefore");
+
+        QTest::newRow("nothing open") << "";
+        QTest::newRow("value open") << "3";
+    }
+
+    void whatIsTypedAheadOfAToolIsMeantForIt()
+    {
+        QFETCH(QString, typedBefore);
+        ScriptedUser user;
+
+        user.Click("Sketcher.Line").ClickAt(-50, -50).MoveTo(20, 30).Type(typedBefore);
+        user.DoAtOnce(
+            BeginCircle({[] { ScriptedUser::TypeNow('2'); }, [] { ScriptedUser::TypeNow('5'); },
+                         [] { ScriptedUser::PressNow(Qt::Key_Return); }}));
+
+        QCOMPARE(RunToOne(user).radius, 25.0);
+    }
+
+    void escapeTypedAheadOfAToolEndsTheInputThere_data()
+    {
+        whatIsTypedAheadOfAToolIsMeantForIt_data();
+    }
+
+    void escapeTypedAheadOfAToolEndsTheInputThere()
+    {
+        QFETCH(QString, typedBefore);
+        ScriptedUser user;
+
+        user.Click("Sketcher.Line").ClickAt(-50, -50).MoveTo(20, 30).Type(typedBefore);
+        user.DoAtOnce(BeginCircle(
+            {[] { ScriptedUser::TypeNow('2'); }, [] { ScriptedUser::PressNow(Qt::Key_Escape); },
+             [] { ScriptedUser::TypeNow('7'); }, [] { ScriptedUser::PressNow(Qt::Key_Return); }}));
+
+        QCOMPARE(RunToOne(user).radius, 7.0);
     }
 
     void escapeInTheEditorLeavesTheCircleToTheCursor()

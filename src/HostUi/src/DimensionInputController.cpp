@@ -47,6 +47,15 @@ QWidget* CurrentViewWidget()
     return pView != nullptr ? QWidget::find(pView->GetWindowId()) : nullptr;
 }
 
+/// An Escape that was kept: ends the input or, when there is none, is the action's.
+void TakeEscape()
+{
+    if (Manager().IsInputting())
+        Manager().EndInput();
+    else
+        ActionManager::ProcessEscape(CurrentView());
+}
+
 /// The field that is being typed in.
 InputField CurrentField()
 {
@@ -75,6 +84,11 @@ DimensionInputController::~DimensionInputController()
 
 bool DimensionInputController::OnViewKey(QKeyEvent& event)
 {
+    if (ActionManager::IsCommandWaiting())
+    {
+        HoldKey(event);
+        return true;
+    }
     if (QLineEdit* pEditor = GetActiveEditor())
     {
         QCoreApplication::sendEvent(pEditor, &event);
@@ -219,6 +233,11 @@ bool DimensionInputController::FilterEditorKey(QKeyEvent& event)
             QCoreApplication::sendEvent(pView, &event);
         return true;
     }
+    if (ActionManager::IsCommandWaiting())
+    {
+        HoldKey(event);
+        return true;
+    }
     if (event.key() == Qt::Key_Escape)
         return !m_pEscape->Press(event);
     const InputField field = CurrentField();
@@ -243,6 +262,27 @@ bool DimensionInputController::IsAccepted(QLineEdit& editor, const InputField& f
         editor.setText(*verdict.replacement);
     UpdateNotes();
     return verdict.refusal.isEmpty();
+}
+
+/// Keeps a key that is meant for a command which has not begun yet.
+void DimensionInputController::HoldKey(QKeyEvent& event)
+{
+    event.accept();
+    if (event.key() == Qt::Key_Escape)
+    {
+        // Judged now: its release will not wait.
+        if (m_pEscape->Press(event))
+            ActionManager::HoldInput(&TakeEscape);
+        return;
+    }
+    const QPointer<DimensionInputController> pSelf(this);
+    const QKeyEvent kept(event.type(), event.key(), event.modifiers(), event.text(),
+                         event.isAutoRepeat(), static_cast<ushort>(event.count()));
+    ActionManager::HoldInput([pSelf, kept] {
+        QKeyEvent again(kept);
+        if (pSelf != nullptr)
+            pSelf->OnViewKey(again);
+    });
 }
 
 /// False for a key that can open no input.

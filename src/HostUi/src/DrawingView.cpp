@@ -239,12 +239,13 @@ const QPixmap& DrawingView::GetModelPicture()
     return m_modelPicture;
 }
 
-/// A click takes the value being typed, in the direction of the click; a refused one keeps it.
+/// A click takes the value being typed, in the direction of the click; a refused one keeps it. Not
+/// where a command waits for its turn: then the value goes with its action.
 void DrawingView::OnClick(const QMouseEvent& event)
 {
     setFocus(Qt::MouseFocusReason);
     const Vector3d world = m_camera.ScreenToWorld(event.localPos().x(), event.localPos().y());
-    if (m_input.GetActiveEditor() != nullptr)
+    if (m_input.GetActiveEditor() != nullptr && !ActionManager::IsCommandWaiting())
     {
         ActionManager::ProcessMouseMove(this, world);
         m_input.Commit();

@@ -53,6 +53,8 @@ private slots:
     void escapeDropsLocksFirst();
     void escapeEndsAnActionWithoutLocks();
     void clicksForTheNextCommandGoToIt();
+    void otherInputForTheNextCommandIsDoneInOrder();
+    void noInputIsKeptWhereNoCommandWaits();
     void anEscapeForTheNextCommandEndsIt();
     void clicksAfterTheLastActionAreLost();
     void clicksDoNotWaitForACommandThatIsChosenLater();
@@ -174,6 +176,40 @@ void ActionInputTest::clicksForTheNextCommandGoToIt()
 
     QVERIFY(f.log == (Log{"Line.begin", "Line.end", "Line.delete", "Arc.begin", "Arc.click",
                           "Arc.click", "Arc.end", "Arc.delete"}));
+}
+
+void ActionInputTest::otherInputForTheNextCommandIsDoneInOrder()
+{
+    ActionFixture f;
+    f.AddInteractive("Line");
+    f.AddInteractive("Arc");
+    f.loop.Post([&f] {
+        f.Choose("Arc");
+        QVERIFY(ActionManager::IsCommandWaiting());
+        f.Click();
+        QVERIFY(ActionManager::HoldInput([&f] { f.log.push_back("key"); }));
+        f.Click();
+    });
+
+    f.Choose("Line");
+
+    QVERIFY(f.log == (Log{"Line.begin", "Line.end", "Line.delete", "Arc.begin", "Arc.click", "key",
+                          "Arc.click", "Arc.end", "Arc.delete"}));
+}
+
+void ActionInputTest::noInputIsKeptWhereNoCommandWaits()
+{
+    ActionFixture f;
+    f.AddInteractive("Line");
+    f.loop.Post([&f] {
+        QVERIFY(!ActionManager::IsCommandWaiting());
+        QVERIFY(!ActionManager::HoldInput([&f] { f.log.push_back("key"); }));
+    });
+
+    f.Choose("Line");
+
+    QVERIFY(!ActionManager::HoldInput([&f] { f.log.push_back("key"); }));
+    QVERIFY(!f.Has("key"));
 }
 
 void ActionInputTest::anEscapeForTheNextCommandEndsIt()

@@ -3,6 +3,7 @@
 #include "Foundation/HostExport.h"
 #include "Geometry/Vector3d.h"
 
+#include <functional>
 #include <string>
 
 namespace vesk
@@ -76,6 +77,14 @@ public:
 
     /// Drops the action's locked values or, when there are none, ends it.
     static void ProcessEscape(IUiView* pView);
+
+    /// True while a command waits for the running action to end: what the user does in a view is
+    /// meant for that command.
+    static bool IsCommandWaiting();
+
+    /// Keeps such an input, which is done once the command has begun, in the order of all that was
+    /// kept, and dropped when it runs no action. False, and nothing is kept, when none waits.
+    static bool HoldInput(std::function<void()> input);
 
     /// Sets the view text, remakes the provisional graphics and posts a refresh; an action whose
     /// state changed from outside (an undo) calls it.

@@ -9,6 +9,7 @@
 #include "View/IUiView.h"
 
 #include <cstdint>
+#include <utility>
 
 namespace vesk
 {
@@ -99,6 +100,16 @@ void ActionManager::ProcessEscape(IUiView* pView)
         if (!action.OnEscape())
             Reset();
     });
+}
+
+bool ActionManager::IsCommandWaiting()
+{
+    return Runner().IsCommandWaiting();
+}
+
+bool ActionManager::HoldInput(std::function<void()> input)
+{
+    return Runner().Hold(std::move(input));
 }
 
 void ActionManager::StepDone()

@@ -131,7 +131,7 @@ bool ActionRunner::OperateStep(const std::function<void(IAction&)>& operation)
 
 bool ActionRunner::Hold(std::function<void()> input)
 {
-    if (GetAction() == nullptr || m_waiting.empty())
+    if (!IsCommandWaiting())
         return false;
     m_held.push_back(std::move(input));
     return true;

@@ -43,6 +43,9 @@ public:
     /// The same, followed by a step unless the action is to end.
     bool OperateStep(const std::function<void(IAction&)>& operation);
 
+    /// True while a command waits for the end of the running action.
+    bool IsCommandWaiting() const { return GetAction() != nullptr && !m_waiting.empty(); }
+
     /// Keeps an input for the command that is about to take its turn. False when none is.
     bool Hold(std::function<void()> input);
 

@@ -74,6 +74,7 @@ private:
     bool FilterEditorEvent(QEvent& event);
     bool FilterEditorKey(QKeyEvent& event);
     bool IsAccepted(QLineEdit& editor, const InputField& field);
+    void HoldKey(QKeyEvent& event);
     bool OpenInput(const QKeyEvent& event);
     void OpenInputWithText(const QString& text);
     void OnEditorHidden();
