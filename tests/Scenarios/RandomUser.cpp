@@ -12,6 +12,7 @@ RandomUser::RandomUser(unsigned seed, ScriptedUser& user, SittingWatch& watch)
 void RandomUser::Plan()
 {
     const int count = 30 + Choose(31);
+    ResizeWindow({1400, 1000});
     while (m_noted < count)
     {
         if (IsOneIn(5))

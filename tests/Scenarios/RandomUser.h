@@ -3,6 +3,7 @@
 #include "SittingWatch.h"
 
 #include <QPointF>
+#include <QSize>
 #include <QString>
 #include <QStringList>
 
@@ -49,7 +50,7 @@ private:
     void DragAnywhere();
     void DragBetween(const QPointF& start, const QPointF& end);
     void Zoom();
-    void ResizeWindow();
+    void ResizeWindow(const QSize& size);
     void ChooseEntry(const QString& menu, const QString& command);
     void BeginTool(int tool);
     void ClickButton(const QString& id, Act act = Act::Button);

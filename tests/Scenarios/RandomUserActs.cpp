@@ -89,6 +89,7 @@ void RandomUser::Zoom()
     const QPointF place = Place();
     const int most = IsOneIn(8) ? 60 : 4;
     const int steps = (1 + Choose(most)) * (IsOneIn(2) ? 1 : -1);
+    const QSize size(500 + 10 * Choose(90), 450 + 10 * Choose(55));
     switch (Choose(5))
     {
     case 0:
@@ -96,16 +97,15 @@ void RandomUser::Zoom()
     case 1:
         return Press("Ctrl+0", Qt::Key_0, Qt::ControlModifier, Act::Zoom);
     case 2:
-        return ResizeWindow();
+        return ResizeWindow(size);
     default:
         Do(QStringLiteral("wheel %1").arg(steps) + TellPlace(place), Act::Zoom,
            [place, steps] { TurnWheel(ToPixel(place), steps); });
     }
 }
 
-void RandomUser::ResizeWindow()
+void RandomUser::ResizeWindow(const QSize& size)
 {
-    const QSize size(500 + Choose(900), 450 + Choose(550));
     Do(QStringLiteral("resize %1x%2").arg(size.width()).arg(size.height()), Act::Zoom,
        [size] { ScriptedUser::FindWindow()->resize(size); });
 }
@@ -184,5 +184,5 @@ QPointF RandomUser::Place()
 {
     if (!IsOneIn(3))
         return {60.0 * (Choose(5) - 2), 60.0 * (Choose(5) - 2)};
-    return {Choose(500) - 250.0, Choose(400) - 200.0};
+    return {Choose(700) - 350.0, Choose(600) - 300.0};
 }
