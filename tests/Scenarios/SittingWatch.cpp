@@ -10,6 +10,7 @@
 
 #include <QLineEdit>
 
+using vesk::ActionManager;
 using vesk::LengthUnit;
 using vesk::TemporaryDimensionMgr;
 using vesk::ToQString;
@@ -47,6 +48,9 @@ void SittingWatch::Do(const QString& name, Act act, const std::function<void()>&
     if (before.has_value() && act == Act::Button && !before->text.isEmpty())
         ++m_tally.switchesWithin;
 
+    if (before.has_value() && !ActionManager::IsCommandWaiting())
+        JudgeEditor(name);
+
     work();
 
     // With some other acts the window may be closed by now.
@@ -68,7 +72,7 @@ void SittingWatch::Type(QChar character)
                                 : TemporaryDimensionMgr::GetInstance()->HasHandler() &&
                                       ScriptedUser::FindView()->hasFocus();
     // It waits for a command that waits, too.
-    const bool isHeld = vesk::ActionManager::IsCommandWaiting();
+    const bool isHeld = ActionManager::IsCommandWaiting();
 
     ScriptedUser::TypeNow(character);
 
@@ -81,7 +85,7 @@ void SittingWatch::OnRecord(const vesk::JournalRecord& record)
     if (const auto* pCommand = std::get_if<vesk::CommandRecord>(&record.what))
         ++m_tally.begun[ToQString(pCommand->commandId)];
     if (std::holds_alternative<vesk::ValueRecord>(record.what) && m_act == Act::CommittingKey)
-        ++m_tally.committed[ToQString(vesk::ActionManager::GetRunningCommandId())];
+        ++m_tally.committed[ToQString(ActionManager::GetRunningCommandId())];
 }
 
 void SittingWatch::OnUiObject(const vesk::IJournalUiObject&, int) {}
@@ -106,6 +110,15 @@ void SittingWatch::JudgeKey(const QString& name, Act act, const Input& before)
     const bool isKept = after->state == before.state && after->text == before.text;
     if (act == Act::CommittingKey && isKept && after->selectedText == after->text)
         ++m_tally.refused;
+}
+
+void SittingWatch::JudgeEditor(const QString& name)
+{
+    const SketchView& view = *ScriptedUser::FindView();
+    const QLineEdit& editor = *FindEditor();
+    const QRect covered(view.mapFromGlobal(editor.mapToGlobal(QPoint(0, 0))), editor.size());
+    if (!editor.isVisible() || !view.rect().contains(covered))
+        m_faults << QStringLiteral("the editor is not in the view before ") + name;
 }
 
 void SittingWatch::JudgeZoom(const QString& name, const Input& before)

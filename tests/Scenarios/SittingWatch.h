@@ -67,6 +67,7 @@ private:
     };
 
     static std::optional<Input> FindInput();
+    void JudgeEditor(const QString& name);
     void JudgeKey(const QString& name, Act act, const Input& before);
     void JudgeZoom(const QString& name, const Input& before);
     void JudgeDigit(QChar digit, const std::optional<Input>& before);
