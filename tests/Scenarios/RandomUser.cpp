@@ -2,8 +2,27 @@
 
 #include "PaneDriver.h"
 #include "RandomTables.h"
+#include "ScriptedUser.h"
+
+#include <QAbstractButton>
+
+#include <algorithm>
+#include <iterator>
 
 using namespace RandomTables;
+
+namespace
+{
+
+/// The button of a tool is checked exactly while the tool runs.
+bool AreButtonsRight()
+{
+    return std::all_of(std::begin(Tools), std::end(Tools), [](const Tool& tool) {
+        return ScriptedUser::FindButton(tool.id)->isChecked() == ScriptedUser::IsRunning(tool.id);
+    });
+}
+
+}
 
 RandomUser::RandomUser(unsigned seed, ScriptedUser& user, SittingWatch& watch)
     : m_random(seed), m_user(user), m_watch(watch)
@@ -20,6 +39,7 @@ void RandomUser::Plan()
         DoSomething();
         FidgetSometimes();
         EndBurst();
+        m_user.Until(&AreButtonsRight);
     }
 }
 
