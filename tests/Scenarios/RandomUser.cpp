@@ -111,7 +111,8 @@ void RandomUser::Turn()
 void RandomUser::Erase()
 {
     BeginTool(EraseTool);
-    ClickPoints(Choose(3));
+    for (int i = Choose(4); i > 0; --i)
+        m_clicked.empty() ? ClickView() : ClickAt(Pick(m_clicked));
     if (IsOneIn(2))
         Press("Escape", Qt::Key_Escape);
 }

@@ -45,6 +45,7 @@ private:
     void FidgetSometimes();
 
     void ClickView();
+    void ClickAt(const QPointF& place);
     void ClickPoints(int count);
     void MoveMouse();
     void DragAnywhere();
@@ -86,6 +87,7 @@ private:
     ScriptedUser& m_user;
     SittingWatch& m_watch;
     int m_noted = 0;
+    std::vector<QPointF> m_clicked;
 
     /// The acts of the burst that is being noted.
     std::vector<std::function<void()>> m_burst;

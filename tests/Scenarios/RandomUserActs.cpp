@@ -43,7 +43,12 @@ QString TellPlace(const QPointF& place)
 
 void RandomUser::ClickView()
 {
-    const QPointF place = Place();
+    ClickAt(Place());
+}
+
+void RandomUser::ClickAt(const QPointF& place)
+{
+    m_clicked.push_back(place);
     const Qt::KeyboardModifiers modifiers = IsOneIn(8) ? Qt::ShiftModifier : Qt::NoModifier;
     const bool isDouble = IsOneIn(12);
     Do((isDouble ? "double click" : "click") + TellPlace(place), Act::Other,
@@ -179,10 +184,14 @@ int RandomUser::Choose(int count)
     return static_cast<int>(m_random() % static_cast<unsigned>(count));
 }
 
-/// From the middle of the view, in pixels; often the same places again, and often on a line.
+/// From the middle of the view, in pixels; often a place clicked before, and often on a line.
 QPointF RandomUser::Place()
 {
-    if (!IsOneIn(3))
-        return {60.0 * (Choose(5) - 2), 60.0 * (Choose(5) - 2)};
-    return {Choose(700) - 350.0, Choose(600) - 300.0};
+    constexpr double Step = 60.0;
+    const int kind = Choose(4);
+    if (kind == 0 && !m_clicked.empty())
+        return Pick(m_clicked);
+    if (kind == 1)
+        return {Choose(700) - 350.0, Choose(600) - 300.0};
+    return {Step * (Choose(5) - 2), Step * (Choose(5) - 2)};
 }
