@@ -216,19 +216,22 @@ private slots:
 
     void heldEscapeCountsOnceEvenWhereTheRepetitionIsTorn()
     {
-        const auto press = [] {
-            QKeyEvent event(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
-            QCoreApplication::sendEvent(ScriptedUser::FindView(), &event);
+        const auto press = [](ulong time) {
+            return [time] {
+                QKeyEvent event(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+                event.setTimestamp(time);
+                QCoreApplication::sendEvent(ScriptedUser::FindView(), &event);
+            };
         };
         ScriptedUser user;
 
-        user.Click(s_line).ClickAt(0, 0).Type("5").Do(press).Do(press);
+        user.Click(s_line).ClickAt(0, 0).Type("5").Do(press(1000)).Do(press(1500));
         user.Do([] {
             QVERIFY(!IsInputting());
             QVERIFY(IsRunning(L"Sketcher.Line"));
             QTest::keyRelease(ScriptedUser::FindView(), Qt::Key_Escape);
         });
-        user.Do(press).Until([] { return IsRunning(L""); });
+        user.Do(press(1900)).Until([] { return IsRunning(L""); });
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
     }

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QElapsedTimer>
-
 class QKeyEvent;
 
 namespace vesk
@@ -18,11 +16,14 @@ public:
     void Release(const QKeyEvent& event);
 
 private:
-    /// Whether it was pressed and its release has not come yet, and since when it was heard of.
-    bool m_isDown = false;
-    QElapsedTimer m_sincePress;
+    bool IsHeld(const QKeyEvent& event) const;
 
-    /// The window system's time of its last release.
+    /// Whether it was pressed and its release has not come yet, and whether it repeats itself.
+    bool m_isDown = false;
+    bool m_isRepeating = false;
+
+    /// The window system's times of its last press and release.
+    unsigned long m_pressTime = 0;
     unsigned long m_releaseTime = 0;
 };
 
