@@ -77,6 +77,16 @@ private slots:
         QVERIFY(!f.Press(1560));
     }
 
+    void pressThatIsHandedOnIsNone()
+    {
+        Finger f;
+        f.Press(1000);
+
+        QVERIFY(!f.Press(1000));
+        f.Release(1080);
+        QVERIFY(f.Press(1100));
+    }
+
     void secondPressIsNewThoughTheReleaseOfTheFirstWasLost_data()
     {
         QTest::addColumn<int>("interval");

@@ -25,14 +25,15 @@ void EscapeKey::Release(const QKeyEvent& event)
 }
 
 /// While the keyboard goes from one window to another a release may be lost: that of a repetition,
-/// or that of a finger, which may press again sooner than the first repetition comes.
+/// or that of a finger, which may press again sooner than the first repetition comes. The press
+/// that an editor hands on to its view is still the same.
 bool EscapeKey::IsHeld(const QKeyEvent& event) const
 {
     constexpr unsigned long ShortestDelayMs = 150;
     constexpr unsigned long LongestDelayMs = 1000;
     const unsigned long sincePress = event.timestamp() - m_pressTime;
-    return m_isDown && (m_isRepeating || sincePress >= ShortestDelayMs) &&
-           sincePress < LongestDelayMs;
+    const bool mayRepeat = m_isRepeating || sincePress == 0 || sincePress >= ShortestDelayMs;
+    return m_isDown && mayRepeat && sincePress < LongestDelayMs;
 }
 
 }
