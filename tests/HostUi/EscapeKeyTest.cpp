@@ -104,6 +104,15 @@ private slots:
         QVERIFY(f.Press(1000 + static_cast<unsigned long>(interval)));
     }
 
+    void pressThatIsHandedOnIsNoSignOfARepetition()
+    {
+        Finger f;
+        f.Press(1000);
+        f.Press(1000);
+
+        QVERIFY(f.Press(1120));
+    }
+
     void releaseOfAnotherKeyIsNotItsOwn()
     {
         Finger f;
