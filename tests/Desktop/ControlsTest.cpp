@@ -43,7 +43,7 @@ bool ControlsTest::OpenListOf(const QString& boxId)
 {
     const int before = Session().Input().CountWindows();
     return Session().Click(boxId) &&
-           PollUntil([&] { return Session().Input().CountWindows() > before; }, 10000);
+           PollUntil([&] { return Session().Input().CountWindows() > before; });
 }
 
 bool ControlsTest::DrawLineAlongX(const QString& length, int number)
@@ -77,7 +77,7 @@ void ControlsTest::comboBoxIsUsedWithTheKeys()
 
     const int before = Session().Input().CountWindows();
     QVERIFY(Session().Type("", {"Tab", "alt+Down"}));
-    QVERIFY(PollUntil([&] { return Session().Input().CountWindows() > before; }, 10000));
+    QVERIFY(PollUntil([&] { return Session().Input().CountWindows() > before; }));
     QVERIFY(Session().Type("", {"Down", "Down", "Down", "Return"}));
     QVERIFY(Session().WaitForText(s_colour, "绿色"));
 

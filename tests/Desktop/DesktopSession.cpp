@@ -11,8 +11,6 @@ namespace vesk
 namespace
 {
 
-constexpr int EXIT_TIMEOUT_MS = 30000;
-
 /// So long nothing may move before a window counts as laid out.
 constexpr int REST_MS = 250;
 
@@ -37,7 +35,7 @@ bool DesktopSession::Start(const QStringList& arguments, const Environment& envi
     const auto isPlaced = [&] {
         return WaitForRest() && m_input.HasWindowAt(m_tree.FindView()->rect);
     };
-    return Launch(arguments, environment) && PollUntil(isPlaced, 30000);
+    return Launch(arguments, environment) && PollUntil(isPlaced);
 }
 
 bool DesktopSession::Launch(const QStringList& arguments, const Environment& environment)
@@ -220,17 +218,15 @@ bool DesktopSession::WaitForRest()
 {
     QElapsedTimer atRest;
     QJsonObject last;
-    return WaitFor(
-        [&](const UiTree& tree) {
-            const bool isNew = tree.GetJson() != last || !atRest.isValid();
-            if (isNew)
-            {
-                last = tree.GetJson();
-                atRest.start();
-            }
-            return tree.FindView() && atRest.hasExpired(REST_MS);
-        },
-        30000);
+    return WaitFor([&](const UiTree& tree) {
+        const bool isNew = tree.GetJson() != last || !atRest.isValid();
+        if (isNew)
+        {
+            last = tree.GetJson();
+            atRest.start();
+        }
+        return tree.FindView() && atRest.hasExpired(REST_MS);
+    });
 }
 
 QProcessEnvironment DesktopSession::MakeEnvironment(const Environment& additions) const
@@ -262,7 +258,7 @@ void DesktopSession::RunProgram(const QStringList& arguments,
 
 int DesktopSession::WaitForExit()
 {
-    const bool hasEnded = m_program.waitForFinished(EXIT_TIMEOUT_MS);
+    const bool hasEnded = m_program.waitForFinished(PATIENCE_MS);
     m_errorOutput += m_program.readAllStandardError();
     if (!hasEnded)
     {

@@ -77,7 +77,7 @@ public:
 
     /// Waits until what the program shows fulfils `isTrue`. False when it does not in time.
     template <class Predicate>
-    bool WaitFor(Predicate isTrue, int timeoutMs = 10000)
+    bool WaitFor(Predicate isTrue, int timeoutMs = PATIENCE_MS)
     {
         return PollUntil([&] { return Refresh() && isTrue(m_tree); }, timeoutMs);
     }

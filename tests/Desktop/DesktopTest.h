@@ -2,9 +2,9 @@
 
 #include "Desktop/DesktopSession.h"
 #include "Desktop/XServer.h"
+#include "Support/TestValues.h"
 
 #include <QObject>
-#include <QTest>
 
 #include <memory>
 

@@ -12,8 +12,6 @@ namespace vesk
 namespace
 {
 
-constexpr int RUN_TIMEOUT_MS = 120000;
-
 QString KeyName(QChar character)
 {
     static const QHash<QChar, QString> s_names = {
@@ -153,12 +151,10 @@ bool InputDriver::WaitForWindowManager() const
     const QByteArray wanted = before.trimmed() == "2" ? "3" : "2";
     if (!Xdotool({"set_num_desktops", QString::fromLatin1(wanted)}))
         return false;
-    return PollUntil(
-        [&] {
-            QByteArray now;
-            return Run("xdotool", {"get_num_desktops"}, &now) && now.trimmed() == wanted;
-        },
-        10000);
+    return PollUntil([&] {
+        QByteArray now;
+        return Run("xdotool", {"get_num_desktops"}, &now) && now.trimmed() == wanted;
+    });
 }
 
 bool InputDriver::Xdotool(const QStringList& arguments) const
@@ -174,7 +170,7 @@ bool InputDriver::Run(const QString& program, const QStringList& arguments,
     QProcess process;
     process.setProcessEnvironment(environment);
     process.start(program, arguments);
-    if (!process.waitForFinished(RUN_TIMEOUT_MS))
+    if (!process.waitForFinished(PATIENCE_MS))
         return false;
     if (pOutput != nullptr)
         *pOutput = process.readAllStandardOutput();

@@ -6,9 +6,13 @@
 namespace vesk
 {
 
+/// How long a test waits for what must come. Only a test that fails waits so long: no machine is
+/// too slow.
+constexpr int PATIENCE_MS = 120000;
+
 /// Asks again and again until `isTrue()` holds. False when it did not within the time.
 template <class Predicate>
-bool PollUntil(Predicate isTrue, int timeoutMs)
+bool PollUntil(Predicate isTrue, int timeoutMs = PATIENCE_MS)
 {
     QElapsedTimer timer;
     timer.start();

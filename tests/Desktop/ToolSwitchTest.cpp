@@ -35,6 +35,7 @@ private slots:
 private:
     void Switch(int count);
     bool EndWithErase(QPoint erase);
+    int CountCommands();
 };
 
 bool ToolSwitchTest::EndWithErase(QPoint erase)
@@ -45,6 +46,12 @@ bool ToolSwitchTest::EndWithErase(QPoint erase)
            (Session().Input().Click(erase) && Session().WaitFor(runs));
 }
 
+int ToolSwitchTest::CountCommands()
+{
+    return ReadBytes(Session().PathOf("journal")).count("\"kind\":\"command\"");
+}
+
+/// Switches until the program has begun so many commands: a busy machine may lose clicks.
 void ToolSwitchTest::Switch(int count)
 {
     const QPoint line = Session().Tree().FindControl("Sketcher.Line")->rect.center();
@@ -52,7 +59,8 @@ void ToolSwitchTest::Switch(int count)
     QList<QPoint> places;
     for (int i = 0; i < BURST; ++i)
         places << (i % 2 == 0 ? line : erase);
-    for (int done = 0; done < count; done += BURST)
+    const int last = CountCommands() + count;
+    while (CountCommands() < last)
     {
         QVERIFY(Session().Input().ClickAll(places));
         QVERIFY(EndWithErase(erase));
@@ -83,9 +91,6 @@ void ToolSwitchTest::manySwitchesLeaveTheStackAsItWas()
     const QVector<DrawnLine> lines = CloseAndReadLines();
     QCOMPARE(lines.size(), 1);
     QVERIFY(qAbs(lines[0].GetLength() - 12.5) <= 1e-9);
-    const int commands = ReadBytes(Session().PathOf("journal")).count("\"kind\":\"command\"");
-    qInfo("%d clicks, %d commands in the journal", 1 + 2 * BURST + count + 1, commands);
-    QVERIFY(commands >= (2 * BURST + count) * 95 / 100);
 }
 
 }

@@ -48,8 +48,7 @@ bool WarningTest::WaitForWarning(const QString& function)
         return tree.GetJson()["warning"].toObject()["function"] == "WarningRaiser::" + function;
     };
     return Session().WaitFor(isShown) &&
-           PollUntil([this] { return Session().Input().HasKeyboard(QStringLiteral("调试警告")); },
-                     10000);
+           PollUntil([this] { return Session().Input().HasKeyboard(QStringLiteral("调试警告")); });
 }
 
 bool WarningTest::WaitForNoWarning()
@@ -122,11 +121,9 @@ void WarningTest::aStormFromPaintingShowsOneDialog()
     const int windows = Session().Input().CountWindows();
 
     // The storm goes on behind the dialog.
-    QVERIFY(Session().WaitFor(
-        [](const UiTree& tree) {
-            return tree.GetJson()["warning"].toObject()["suppressed"].toInt() > 50;
-        },
-        30000));
+    QVERIFY(Session().WaitFor([](const UiTree& tree) {
+        return tree.GetJson()["warning"].toObject()["suppressed"].toInt() > 50;
+    }));
 
     QCOMPARE(Session().Input().CountWindows(), windows);
     QVERIFY(Session().Input().Keys({"Tab", "Return"}));

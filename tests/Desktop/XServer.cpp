@@ -10,8 +10,6 @@ namespace vesk
 namespace
 {
 
-constexpr int START_TIMEOUT_MS = 15000;
-
 void End(QProcess& process)
 {
     if (process.state() == QProcess::NotRunning)
@@ -50,13 +48,11 @@ bool XServer::StartServer()
         return false;
     }
     QByteArray number;
-    const bool hasNumber = PollUntil(
-        [&] {
-            m_server.waitForReadyRead(50);
-            number += m_server.readAllStandardOutput();
-            return number.endsWith('\n');
-        },
-        START_TIMEOUT_MS);
+    const bool hasNumber = PollUntil([&] {
+        m_server.waitForReadyRead(50);
+        number += m_server.readAllStandardOutput();
+        return number.endsWith('\n');
+    });
     if (!hasNumber)
     {
         m_error = "Xvfb did not tell its display number";
@@ -74,15 +70,13 @@ bool XServer::StartWindowManager()
     m_windowManager.setStandardOutputFile(QProcess::nullDevice());
     m_windowManager.setStandardErrorFile(QProcess::nullDevice());
     m_windowManager.start("openbox", QStringList());
-    const bool rules = PollUntil(
-        [&] {
-            QProcess query;
-            query.setProcessEnvironment(environment);
-            query.start("xprop", {"-root", "_NET_SUPPORTING_WM_CHECK"});
-            query.waitForFinished();
-            return query.readAllStandardOutput().contains("window id #");
-        },
-        START_TIMEOUT_MS);
+    const bool rules = PollUntil([&] {
+        QProcess query;
+        query.setProcessEnvironment(environment);
+        query.start("xprop", {"-root", "_NET_SUPPORTING_WM_CHECK"});
+        query.waitForFinished();
+        return query.readAllStandardOutput().contains("window id #");
+    });
     if (!rules)
         m_error = "openbox does not manage " + m_display;
     return rules;

@@ -5,6 +5,7 @@
 #include "SketcherWindow.h"
 
 #include "Command/ActionManager.h"
+#include "Support/TestValues.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -12,7 +13,6 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QStyleOptionToolButton>
-#include <QTest>
 #include <QTimer>
 #include <QToolButton>
 
@@ -26,7 +26,7 @@ using vesk::Vector3d;
 namespace
 {
 
-constexpr qint64 PatienceMs = 20000;
+constexpr qint64 PatienceMs = 120000;
 
 QPoint PixelOf(const SketchView& view, double x, double y)
 {
