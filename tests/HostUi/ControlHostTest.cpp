@@ -11,13 +11,13 @@
 #include "HostCore.h"
 #include "HostUi/ControlLibrary.h"
 #include "HostUi/UiApplication.h"
+#include "Support/TestValues.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QEventLoop>
 #include <QLabel>
 #include <QPointer>
-#include <QTest>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -183,7 +183,7 @@ private slots:
         pBoxes->show();
         m_pControls->RefreshControls();
         m_pPanel->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(m_pPanel.get()));
+        QVERIFY(QTest::qWaitForWindowActive(m_pPanel.get(), vesk::test::PatienceMs));
 
         QStringList reached;
         m_pPanel->findChild<QAbstractButton*>("End")->setFocus();

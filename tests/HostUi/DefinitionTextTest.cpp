@@ -8,8 +8,7 @@
 #include "Control/LineEditDefinition.h"
 #include "Control/ProgressBarDefinition.h"
 #include "Control/RadioButtonGroupDefinition.h"
-
-#include <QTest>
+#include "Support/TestValues.h"
 
 using namespace vesk;
 

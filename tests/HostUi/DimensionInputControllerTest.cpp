@@ -2,8 +2,7 @@
 
 #include "Dimension/LengthUnit.h"
 #include "HostUi/QtText.h"
-
-#include <QTest>
+#include "Support/TestValues.h"
 
 using namespace vesk;
 using namespace vesk::test;

@@ -3,12 +3,12 @@
 #include "HostCore.h"
 #include "HostUi/DimensionInputController.h"
 #include "HostUi/UiApplication.h"
+#include "Support/TestValues.h"
 
 #include <QApplication>
 #include <QLineEdit>
 #include <QPainter>
 #include <QSignalSpy>
-#include <QTest>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
@@ -77,7 +77,7 @@ private slots:
         m_pWindow->resize(640, 480);
         m_pWindow->show();
         m_pWindow->activateWindow();
-        QVERIFY(QTest::qWaitForWindowExposed(m_pWindow.get()));
+        QVERIFY(QTest::qWaitForWindowExposed(m_pWindow.get(), vesk::test::PatienceMs));
     }
 
     void cleanup()

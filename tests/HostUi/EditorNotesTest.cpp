@@ -1,8 +1,9 @@
 #include "HostUi/InputFixture.h"
 
+#include "Support/TestValues.h"
+
 #include <QLabel>
 #include <QMouseEvent>
-#include <QTest>
 
 using namespace vesk;
 using namespace vesk::test;

@@ -1,7 +1,8 @@
 #include "EscapeKey.h"
 
+#include "Support/TestValues.h"
+
 #include <QKeyEvent>
-#include <QTest>
 
 using namespace vesk;
 

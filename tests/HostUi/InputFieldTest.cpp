@@ -7,8 +7,7 @@
 #include "Dimension/RotationTemporaryDimensionContext.h"
 #include "Foundation/OwnerPtr.h"
 #include "Geometry/Constants.h"
-
-#include <QTest>
+#include "Support/TestValues.h"
 
 #include <functional>
 

@@ -1,8 +1,7 @@
 #include "InputJudge.h"
 
 #include "Dimension/LengthUnit.h"
-
-#include <QTest>
+#include "Support/TestValues.h"
 
 using namespace vesk;
 

@@ -10,6 +10,7 @@
 #include "HostUi/ControlLibrary.h"
 #include "HostUi/DimensionInputController.h"
 #include "Support/HostFixture.h"
+#include "Support/TestValues.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -17,7 +18,6 @@
 #include <QRegularExpression>
 #include <QScrollBar>
 #include <QSignalSpy>
-#include <QTest>
 #include <QTimer>
 #include <QTreeWidget>
 #include <QVBoxLayout>

@@ -1,7 +1,8 @@
 #include "KeyCode.h"
 
+#include "Support/TestValues.h"
+
 #include <QKeyEvent>
-#include <QTest>
 
 Q_DECLARE_METATYPE(Qt::KeyboardModifiers)
 

@@ -1,9 +1,9 @@
 #include "HostUi/LineEditValidateHelper.h"
 
+#include "Support/TestValues.h"
 #include "Validation/NumberValidator.h"
 
 #include <QLineEdit>
-#include <QTest>
 
 #include <memory>
 

@@ -1,6 +1,6 @@
 #include "NoteLayout.h"
 
-#include <QTest>
+#include "Support/TestValues.h"
 
 using namespace vesk;
 

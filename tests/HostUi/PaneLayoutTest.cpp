@@ -1,9 +1,9 @@
 #include "HostUi/PaneLayout.h"
 
 #include "HostUi/PaneRun.h"
+#include "Support/TestValues.h"
 
 #include <QSignalSpy>
-#include <QtTest>
 
 namespace vesk::test
 {

@@ -4,12 +4,12 @@
 #include "HostUi/PaneLayout.h"
 #include "HostUi/QtText.h"
 #include "Support/HostFixture.h"
+#include "Support/TestValues.h"
 
 #include <QDockWidget>
 #include <QLabel>
 #include <QMainWindow>
 #include <QScreen>
-#include <QtTest>
 
 #include <memory>
 

@@ -1,11 +1,11 @@
 #include "ProvisionalPainter.h"
 
+#include "Support/TestValues.h"
 #include "View/ModelView.h"
 
 #include <QImage>
 #include <QPainter>
 #include <QPalette>
-#include <QTest>
 
 #include <cmath>
 

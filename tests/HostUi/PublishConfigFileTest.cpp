@@ -1,9 +1,9 @@
 #include "HostUi/PublishConfigFile.h"
 
 #include "Foundation/IPublishConfig.h"
+#include "Support/TestValues.h"
 
 #include <QTemporaryDir>
-#include <QtTest>
 
 #include <optional>
 

@@ -1,6 +1,6 @@
 #include "HostUi/QtText.h"
 
-#include <QtTest>
+#include "Support/TestValues.h"
 
 Q_DECLARE_METATYPE(std::wstring)
 

@@ -2,9 +2,9 @@
 
 #include "Dimension/LengthUnit.h"
 #include "HostUi/TypedText.h"
+#include "Support/TestValues.h"
 
 #include <QRegularExpression>
-#include <QTest>
 
 #include <limits>
 

@@ -1,6 +1,6 @@
 #include "HostUi/TranslationCatalogue.h"
 
-#include <QtTest>
+#include "Support/TestValues.h"
 
 namespace vesk
 {

@@ -2,9 +2,9 @@
 
 #include "Dimension/LengthUnit.h"
 #include "Host/DecimalPointScope.h"
+#include "Support/TestValues.h"
 
 #include <QLocale>
-#include <QTest>
 
 #include <clocale>
 #include <cmath>

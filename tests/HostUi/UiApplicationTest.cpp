@@ -1,6 +1,6 @@
 #include "HostUi/UiApplication.h"
 
-#include <QtTest>
+#include "Support/TestValues.h"
 
 #include <cstddef>
 

@@ -10,13 +10,13 @@
 #include "Control/IRadioButtonGroupDefinition.h"
 #include "Control/LabelDefinition.h"
 #include "Control/VeskIControlFactory.h"
+#include "Support/TestValues.h"
 
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QTest>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 #include <QWindow>
@@ -101,7 +101,7 @@ struct PanelFixture
         window.show();
         pView->setFocus();
         window.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&window));
+        QVERIFY(QTest::qWaitForWindowActive(&window, vesk::test::PatienceMs));
         QCOMPARE(QApplication::focusWidget(), pView);
     }
 
@@ -187,7 +187,7 @@ private slots:
         PanelFixture f;
         f.Show();
 
-        QVERIFY((f.pBox->focusPolicy() & Qt::StrongFocus) == Qt::StrongFocus);
+        QCOMPARE((f.pBox->focusPolicy() & Qt::StrongFocus), Qt::StrongFocus);
         QTest::keyClick(f.window.windowHandle(), Qt::Key_Tab);
         QTest::keyClick(f.window.windowHandle(), Qt::Key_Tab);
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Support/TestValues.h"
+
 #include <Qtitan/RibbonBar.h>
 #include <Qtitan/RibbonButtonControl.h>
 #include <Qtitan/RibbonGroup.h>
@@ -8,7 +10,6 @@
 #include <QAction>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QTest>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <QWindow>
@@ -61,7 +62,7 @@ struct RibbonFixture
         window->show();
         pView->setFocus();
         window->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(window.get()));
+        QVERIFY(QTest::qWaitForWindowActive(window.get(), vesk::test::PatienceMs));
         QCOMPARE(QApplication::focusWidget(), pView);
     }
 

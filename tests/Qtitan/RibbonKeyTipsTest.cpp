@@ -362,7 +362,7 @@ private slots:
         QAction* pAction = menu.addAction("&Zoom");
         QSignalSpy spy(pAction, &QAction::triggered);
         menu.popup(f.window->mapToGlobal(QPoint(50, 300)));
-        QVERIFY(QTest::qWaitForWindowExposed(&menu));
+        QVERIFY(QTest::qWaitForWindowExposed(&menu, vesk::test::PatienceMs));
 
         f.type(Qt::Key_F10);
         QCOMPARE(f.tips(), QStringList());

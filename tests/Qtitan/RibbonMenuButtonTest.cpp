@@ -57,9 +57,11 @@ struct MenuFixture : RibbonFixture
     bool pointAt(const QPoint& place) const
     {
         QCursor::setPos(pButton->mapToGlobal(place));
-        return QTest::qWaitFor([&] {
-            return pButton->underMouse() && pButton->mapFromGlobal(QCursor::pos()) == place;
-        });
+        return QTest::qWaitFor(
+            [&] {
+                return pButton->underMouse() && pButton->mapFromGlobal(QCursor::pos()) == place;
+            },
+            vesk::test::PatienceMs);
     }
 
     void click(const QPoint& place) const

@@ -104,7 +104,7 @@ private slots:
 
         QVERIFY(f.pControl != nullptr);
         QCOMPARE(f.pControl->widget(), f.pButton);
-        QVERIFY(f.pControl->form() == RibbonButtonForm::Small);
+        QCOMPARE(int(f.pControl->form()), int(RibbonButtonForm::Small));
         QCOMPARE(f.pButton->iconSize(), QSize(16, 16));
     }
 

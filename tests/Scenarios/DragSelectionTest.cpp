@@ -3,10 +3,10 @@
 #include "ScriptedUser.h"
 #include "SketchView.h"
 #include "SketcherProcess.h"
+#include "Support/TestValues.h"
 
 #include <QApplication>
 #include <QImage>
-#include <QTest>
 
 #include <memory>
 #include <vector>

@@ -5,11 +5,11 @@
 
 #include "Command/ActionManager.h"
 #include "Dimension/TemporaryDimensionMgr.h"
+#include "Support/TestValues.h"
 #include "View/IModelView.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QTest>
 #include <QToolButton>
 
 #include <algorithm>

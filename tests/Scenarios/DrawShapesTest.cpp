@@ -7,8 +7,7 @@
 #include "Command/ActionManager.h"
 #include "Command/ActionViewInput.h"
 #include "Dimension/TemporaryDimensionMgr.h"
-
-#include <QTest>
+#include "Support/TestValues.h"
 
 #include <algorithm>
 #include <memory>

@@ -1,11 +1,11 @@
 #include "Drawing.h"
 
 #include "Journal/JournalFormat.h"
+#include "Support/TestValues.h"
 
 #include <nlohmann/json.hpp>
 
 #include <QFile>
-#include <QTest>
 
 #include <cmath>
 

@@ -7,10 +7,10 @@
 #include "Command/Command.h"
 #include "Command/IAction.h"
 #include "Command/ICommandManager.h"
+#include "Support/TestValues.h"
 #include "View/ModelView.h"
 
 #include <QMenu>
-#include <QTest>
 #include <QToolButton>
 
 #include <algorithm>

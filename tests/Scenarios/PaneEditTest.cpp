@@ -3,10 +3,10 @@
 #include "ScenarioFixture.h"
 #include "ScriptedUser.h"
 #include "SketcherProcess.h"
+#include "Support/TestValues.h"
 
 #include <QLabel>
 #include <QLineEdit>
-#include <QTest>
 #include <QTreeView>
 
 #include <memory>
@@ -120,7 +120,7 @@ private slots:
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
         const auto selections = Records<vesk::SelectionRecord>();
         QCOMPARE(selections.size(), std::size_t{3});
-        QVERIFY(selections[1].entities.size() == 2);
+        QCOMPARE(selections[1].entities.size(), 2);
         VerifyReplay();
     }
 

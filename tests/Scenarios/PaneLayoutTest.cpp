@@ -5,13 +5,13 @@
 #include "SketcherProcess.h"
 
 #include "HostUi/LayoutFile.h"
+#include "Support/TestValues.h"
 
 #include <nlohmann/json.hpp>
 
 #include <QDir>
 #include <QFileInfo>
 #include <QStatusBar>
-#include <QTest>
 
 #include <memory>
 

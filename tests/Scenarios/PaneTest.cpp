@@ -2,9 +2,9 @@
 #include "PaneDriver.h"
 #include "ScenarioFixture.h"
 #include "ScriptedUser.h"
+#include "Support/TestValues.h"
 
 #include <QRandomGenerator>
-#include <QTest>
 
 #include <functional>
 #include <memory>

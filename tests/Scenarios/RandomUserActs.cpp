@@ -3,8 +3,8 @@
 #include "ScriptedUser.h"
 #include "SketchView.h"
 #include "SketcherWindow.h"
+#include "Support/TestValues.h"
 
-#include <QTest>
 #include <QWheelEvent>
 
 #include <utility>

@@ -2,11 +2,11 @@
 #include "RandomUser.h"
 #include "ScriptedUser.h"
 #include "SketcherWindow.h"
+#include "Support/TestValues.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QLineEdit>
-#include <QTest>
 #include <QTreeView>
 
 #include <cstddef>

@@ -2,8 +2,7 @@
 #include "ScenarioFixture.h"
 #include "ScriptedUser.h"
 #include "SketcherProcess.h"
-
-#include <QTest>
+#include "Support/TestValues.h"
 
 #include <algorithm>
 #include <memory>

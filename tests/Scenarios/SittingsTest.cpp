@@ -4,8 +4,7 @@
 #include "ScriptedUser.h"
 #include "Session.h"
 #include "SittingWatch.h"
-
-#include <QTest>
+#include "Support/TestValues.h"
 
 #include <iostream>
 #include <sstream>

@@ -1,9 +1,9 @@
 #include "Drawing.h"
 #include "ScenarioFixture.h"
 #include "ScriptedUser.h"
+#include "Support/TestValues.h"
 
 #include <QAbstractButton>
-#include <QTest>
 
 #include <array>
 #include <cmath>

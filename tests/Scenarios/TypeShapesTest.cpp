@@ -5,10 +5,10 @@
 #include "SketcherProcess.h"
 
 #include "Dimension/TemporaryDimensionMgr.h"
+#include "Support/TestValues.h"
 
 #include <QAbstractButton>
 #include <QLineEdit>
-#include <QTest>
 
 #include <cmath>
 #include <functional>

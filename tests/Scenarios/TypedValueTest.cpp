@@ -5,9 +5,9 @@
 #include "SketcherProcess.h"
 
 #include "Dimension/TemporaryDimensionMgr.h"
+#include "Support/TestValues.h"
 
 #include <QLabel>
-#include <QTest>
 
 #include <cmath>
 #include <memory>
@@ -84,9 +84,9 @@ private slots:
         const auto values = RecordsOf<vesk::ValueRecord>(ReadJournal(Journal()));
         QCOMPARE(values.size(), std::size_t(2));
         QCOMPARE(QString::fromStdWString(values[0].text), length);
-        QVERIFY(values[0].value == millimetres);
+        QCOMPARE_EXACTLY(values[0].value, millimetres);
         QCOMPARE(QString::fromStdWString(values[1].text), angle);
-        QVERIFY(values[1].value == degrees);
+        QCOMPARE_EXACTLY(values[1].value, degrees);
         QCOMPARE(ReadModel(m_pFixture->File("model")).size(), 1);
     }
 

@@ -5,9 +5,9 @@
 #include "SketcherProcess.h"
 
 #include "Dimension/TemporaryDimensionMgr.h"
+#include "Support/TestValues.h"
 
 #include <QAbstractButton>
-#include <QTest>
 
 #include <memory>
 #include <vector>

@@ -9,10 +9,10 @@
 #include "Graphics/IGraphicsNode.h"
 #include "Journal/JournalFormat.h"
 #include "Journal/JournalManager.h"
+#include "Support/TestValues.h"
 #include "Support/TestView.h"
 
 #include <QString>
-#include <QTest>
 
 #include <string>
 #include <vector>

@@ -40,8 +40,10 @@ private slots:
         f.ClickAt(10, -99);
         const ArcShape down = f.Drawn<ArcShape>();
 
-        QVERIFY(up.start == Vector3d(15, 20, 0) && up.end == Vector3d(10, 25, 0));
-        QVERIFY(down.start == Vector3d(10, 15, 0) && down.end == Vector3d(15, 20, 0));
+        QCOMPARE(up.start, Vector3d(15, 20, 0));
+        QCOMPARE(up.end, Vector3d(10, 25, 0));
+        QCOMPARE(down.start, Vector3d(10, 15, 0));
+        QCOMPARE(down.end, Vector3d(15, 20, 0));
         QCOMPARE(up.radius, 5.0);
         QVERIFY(f.IsRepeated());
     }
@@ -86,8 +88,8 @@ private slots:
         f.Type(ActionViewInput::CentralAngleCommitted, degrees);
 
         const ArcShape arc = f.Drawn<ArcShape>();
-        QVERIFY(arc.normal == Vector3d(0, 0, 1));
-        QVERIFY((degrees > 0 ? arc.start : arc.end) == Vector3d(15, 20, 0));
+        QCOMPARE(arc.normal, Vector3d(0, 0, 1));
+        QCOMPARE((degrees > 0 ? arc.start : arc.end), Vector3d(15, 20, 0));
         QVERIFY(std::abs(CentralAngleOf(arc) - std::abs(degrees)) < 1e-9);
         QVERIFY(f.IsRepeated());
     }
@@ -113,10 +115,10 @@ private slots:
         f.MoveTo(13, 24);
 
         const auto opContext = f.Offered<CentralAngleTemporaryDimensionContext>();
-        QVERIFY(opContext->GetCentre() == Vector3d(10, 20, 0));
-        QVERIFY(opContext->GetStartPoint() == Vector3d(15, 20, 0));
+        QCOMPARE(opContext->GetCentre(), Vector3d(10, 20, 0));
+        QCOMPARE(opContext->GetStartPoint(), Vector3d(15, 20, 0));
         QVERIFY((opContext->GetEndPoint() - Vector3d(13, 24, 0)).norm() < 1e-12);
-        QVERIFY(opContext->GetCursorPoint() == Vector3d(13, 24, 0));
+        QCOMPARE(opContext->GetCursorPoint(), Vector3d(13, 24, 0));
     }
 
     void atRestTheCursorIsAPixelAway_data()
@@ -137,8 +139,8 @@ private slots:
 
         QCOMPARE(f.Count(), std::size_t{0});
         const auto opContext = f.Offered<CentralAngleTemporaryDimensionContext>();
-        QVERIFY(opContext->GetCursorPoint() == Vector3d(x + 1, 20, 0));
-        QVERIFY(opContext->GetEndPoint() == Vector3d(15, 20, 0));
+        QCOMPARE(opContext->GetCursorPoint(), Vector3d(x + 1, 20, 0));
+        QCOMPARE(opContext->GetEndPoint(), Vector3d(15, 20, 0));
     }
 
     void whatIsNoArcIsNotDrawn()

@@ -3,8 +3,7 @@
 #include "ArcGeometry.h"
 #include "Polar.h"
 #include "ShapeMeasure.h"
-
-#include <QTest>
+#include "Support/TestValues.h"
 
 #include <cmath>
 #include <random>
@@ -44,7 +43,7 @@ private slots:
             const std::optional<ArcShape> arc = ArcThrough(start, end, point);
 
             QVERIFY(arc.has_value());
-            QVERIFY(arc->normal == Vector3d(0, 0, 1));
+            QCOMPARE(arc->normal, Vector3d(0, 0, 1));
             QVERIFY((arc->start == start && arc->end == end) ||
                     (arc->start == end && arc->end == start));
             const double tolerance = 1e-12 * arc->radius * arc->radius;
@@ -58,8 +57,10 @@ private slots:
         const std::optional<ArcShape> above = ArcThrough(s_left, s_right, {0, 5, 0});
         const std::optional<ArcShape> below = ArcThrough(s_left, s_right, {0, -5, 0});
 
-        QVERIFY(above->start == s_right && above->end == s_left);
-        QVERIFY(below->start == s_left && below->end == s_right);
+        QCOMPARE(above->start, s_right);
+        QCOMPARE(above->end, s_left);
+        QCOMPARE(below->start, s_left);
+        QCOMPARE(below->end, s_right);
         QVERIFY(IsNear(above->centre, {0, 0, 0}));
         QCOMPARE(above->radius, 5.0);
     }
@@ -98,17 +99,17 @@ private slots:
 
         QVERIFY(arc.has_value());
         QCOMPARE(arc->radius, radius);
-        QVERIFY(arc->start == (height > 0 ? s_right : s_left));
+        QCOMPARE(arc->start, (height > 0 ? s_right : s_left));
         QCOMPARE(CentralAngleOf(*arc) > 180.0 + 1e-9, isLonger);
         QCOMPARE(std::signbit(top.y()), std::signbit(height));
         QVERIFY(DistanceTo(*arc, top) <= 1e-9);
         QVERIFY(std::abs(top.x()) <= 1e-12);
-        QVERIFY(ArcOfRadius(s_left, s_right, radius, top)->centre == arc->centre);
+        QCOMPARE(ArcOfRadius(s_left, s_right, radius, top)->centre, arc->centre);
     }
 
     void onTheChordTheLeftSideCounts()
     {
-        QVERIFY(ArcOfRadius(s_left, s_right, 13, s_right)->start == s_right);
+        QCOMPARE(ArcOfRadius(s_left, s_right, 13, s_right)->start, s_right);
         QVERIFY(TopOfArc(s_left, s_right, 13, s_right).y() > 0);
     }
 
@@ -142,8 +143,8 @@ private slots:
         const std::optional<ArcShape> arc = ArcByAngle({0, 0, 0}, s_right, degrees);
 
         QVERIFY(arc.has_value());
-        QVERIFY(arc->start == start);
-        QVERIFY(arc->end == end);
+        QCOMPARE(arc->start, start);
+        QCOMPARE(arc->end, end);
         QCOMPARE(arc->radius, 5.0);
         QCOMPARE(CentralAngleOf(*arc), std::abs(degrees));
     }
@@ -156,7 +157,7 @@ private slots:
             const auto back = ArcByAngle({3, -7, 0}, {5, 1, 0}, -degrees);
             QVERIFY(std::abs(CentralAngleOf(*arc) - degrees) <= 1e-9);
             QVERIFY(std::abs(CentralAngleOf(*back) - degrees) <= 1e-9);
-            QVERIFY(arc->start == back->end);
+            QCOMPARE(arc->start, back->end);
         }
     }
 
@@ -191,9 +192,11 @@ private slots:
         const auto up = ArcBetween({0, 0, 0}, s_right, {0, 5, 0});
         const auto down = ArcBetween({0, 0, 0}, s_right, {0, -5, 0});
 
-        QVERIFY(up->start == s_right && up->end == Vector3d(0, 5, 0));
-        QVERIFY(down->start == Vector3d(0, -5, 0) && down->end == s_right);
-        QVERIFY(ArcBetween({0, 0, 0}, s_right, s_left)->start == s_right);
+        QCOMPARE(up->start, s_right);
+        QCOMPARE(up->end, Vector3d(0, 5, 0));
+        QCOMPARE(down->start, Vector3d(0, -5, 0));
+        QCOMPARE(down->end, s_right);
+        QCOMPARE(ArcBetween({0, 0, 0}, s_right, s_left)->start, s_right);
         QVERIFY(!ArcBetween({0, 0, 0}, s_right, s_right).has_value());
         QVERIFY(!ArcBetween({0, 0, 0}, s_right, {0, 6, 0}).has_value());
     }

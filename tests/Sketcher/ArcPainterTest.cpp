@@ -1,9 +1,10 @@
 #include "ArcPainter.h"
 
+#include "Support/TestValues.h"
+
 #include <QImage>
 #include <QPainter>
 #include <QPen>
-#include <QTest>
 #include <QtMath>
 
 #include <algorithm>

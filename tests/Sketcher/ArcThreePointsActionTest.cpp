@@ -7,6 +7,7 @@
 
 #include "Dimension/LengthUnit.h"
 #include "Dimension/RadiusTemporaryDimensionContext.h"
+#include "ShapeValues.h"
 
 #include <cmath>
 
@@ -32,9 +33,10 @@ private slots:
         f.ClickAt(3, -4);
 
         const ArcShape arc = f.Drawn<ArcShape>();
-        QVERIFY(arc.start == Vector3d(-5, 0, 0) && arc.end == Vector3d(5, 0, 0));
+        QCOMPARE(arc.start, Vector3d(-5, 0, 0));
+        QCOMPARE(arc.end, Vector3d(5, 0, 0));
         QVERIFY(arc.centre.norm() < 1e-12);
-        QVERIFY(arc.normal == Vector3d(0, 0, 1));
+        QCOMPARE(arc.normal, Vector3d(0, 0, 1));
         QVERIFY(f.IsRepeated());
     }
 
@@ -85,7 +87,7 @@ private slots:
 
         const ArcShape arc = f.Drawn<ArcShape>();
         QCOMPARE(arc.radius, radius);
-        QVERIFY(arc.start.x() == (cursor.y() > 0 ? 5 : -5));
+        QCOMPARE_EXACTLY(arc.start.x(), (cursor.y() > 0 ? 5 : -5));
         QCOMPARE(CentralAngleOf(arc) > 180.0 + 1e-9, isLonger);
         QVERIFY(f.IsRepeated());
     }
@@ -112,7 +114,8 @@ private slots:
         f.Type(ActionViewInput::RadiusCommitted, shown.radius, true);
 
         const ArcShape arc = f.Drawn<ArcShape>();
-        QVERIFY(arc.start == shown.start && arc.end == shown.end);
+        QCOMPARE(arc.start, shown.start);
+        QCOMPARE(arc.end, shown.end);
         QVERIFY((arc.centre - shown.centre).norm() <= 1e-9);
         QVERIFY(f.IsRepeated());
     }
@@ -138,7 +141,7 @@ private slots:
 
         // It shows the half circle to the left of the way.
         const auto opContext = f.Offered<RadiusTemporaryDimensionContext>();
-        QVERIFY(opContext->GetThirdPoint() == Vector3d((endX - endY) / 2, (endX + endY) / 2, 0));
+        QCOMPARE(opContext->GetThirdPoint(), Vector3d((endX - endY) / 2, (endX + endY) / 2, 0));
         f.Type(ActionViewInput::RadiusCommitted, 7);
 
         QCOMPARE(f.Drawn<ArcShape>().radius, 7.0);
@@ -188,9 +191,9 @@ private slots:
         f.MoveTo(2, 30);
 
         const auto opContext = f.Offered<RadiusTemporaryDimensionContext>();
-        QVERIFY(opContext->GetFirstPoint() == Vector3d(-5, 0, 0));
-        QVERIFY(opContext->GetSecondPoint() == Vector3d(5, 1, 0));
-        QVERIFY(opContext->GetThirdPoint() == Vector3d(2, 30, 0));
+        QCOMPARE(opContext->GetFirstPoint(), Vector3d(-5, 0, 0));
+        QCOMPARE(opContext->GetSecondPoint(), Vector3d(5, 1, 0));
+        QCOMPARE(opContext->GetThirdPoint(), Vector3d(2, 30, 0));
         QVERIFY(!opContext->IsCentralAngleShown());
     }
 

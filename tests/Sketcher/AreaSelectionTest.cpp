@@ -1,8 +1,7 @@
 #include "AreaSelection.h"
 
 #include "Sketch.h"
-
-#include <QTest>
+#include "Support/TestValues.h"
 
 using vesk::Vector3d;
 
@@ -101,9 +100,8 @@ private slots:
         sketch.Add(Line(0, 60, 100, 60));
         const int inside = sketch.Add(Line(10, 10, 90, 40));
 
-        QVERIFY(FindInArea(sketch, s_area, AreaRule::Holds) == std::vector<int>{inside});
-        QVERIFY(FindInArea(sketch, s_area, AreaRule::Touches) ==
-                (std::vector<int>{across, inside}));
+        QCOMPARE(FindInArea(sketch, s_area, AreaRule::Holds), std::vector<int>{inside});
+        QCOMPARE(FindInArea(sketch, s_area, AreaRule::Touches), (std::vector<int>{across, inside}));
     }
 };
 

@@ -5,6 +5,7 @@
 
 #include "Dimension/LengthUnit.h"
 #include "Dimension/RadiusTemporaryDimensionContext.h"
+#include "ShapeValues.h"
 
 #include <cmath>
 
@@ -26,7 +27,7 @@ private slots:
         f.ClickAt(10, 20);
         f.ClickAt(13, 24);
 
-        QVERIFY(f.Drawn<CircleShape>() == (CircleShape{{10, 20, 0}, 5, {0, 0, 1}}));
+        QCOMPARE(f.Drawn<CircleShape>(), (CircleShape{{10, 20, 0}, 5, {0, 0, 1}}));
         QVERIFY(f.IsRepeated());
     }
 
@@ -68,7 +69,7 @@ private slots:
         f.Type(ActionViewInput::RadiusCommitted, radius);
 
         QCOMPARE(f.Drawn<CircleShape>().radius, radius);
-        QVERIFY(f.Drawn<CircleShape>().centre == Vector3d(1000.1, -33.3, 0));
+        QCOMPARE(f.Drawn<CircleShape>().centre, Vector3d(1000.1, -33.3, 0));
         QVERIFY(f.IsRepeated());
     }
 
@@ -109,8 +110,8 @@ private slots:
 
         QCOMPARE(f.records.size(), std::size_t{3});
         QCOMPARE(std::get<ValueRecord>(f.records[1].what).value, 10.0);
-        QVERIFY(std::get<ValueRecord>(f.records[1].what).field == InputState::IS_Radius);
-        QVERIFY(std::get<PointRecord>(f.records[2].what).point == Vector3d(1, 12, 0));
+        QCOMPARE(std::get<ValueRecord>(f.records[1].what).field, InputState::IS_Radius);
+        QCOMPARE(std::get<PointRecord>(f.records[2].what).point, Vector3d(1, 12, 0));
     }
 
     void aRadiusThatCannotBeIsForgotten()
@@ -139,7 +140,7 @@ private slots:
 
         const auto opContext = f.Offered<RadiusTemporaryDimensionContext>();
         QVERIFY(!opContext->IsCentralAngleShown());
-        QVERIFY(opContext->GetThirdPoint() == Vector3d(13, 24, 0));
+        QCOMPARE(opContext->GetThirdPoint(), Vector3d(13, 24, 0));
         const std::optional<ArcShape> arc = ArcThrough(
             opContext->GetFirstPoint(), opContext->GetSecondPoint(), opContext->GetThirdPoint());
         QVERIFY((arc->centre - Vector3d(10, 20, 0)).norm() < 1e-12);
@@ -155,8 +156,8 @@ private slots:
         f.ClickAt(10, 20);
 
         QCOMPARE(f.Count(), std::size_t{0});
-        QVERIFY(f.Offered<RadiusTemporaryDimensionContext>()->GetThirdPoint() ==
-                Vector3d(11, 20, 0));
+        QCOMPARE(f.Offered<RadiusTemporaryDimensionContext>()->GetThirdPoint(),
+                 Vector3d(11, 20, 0));
     }
 };
 

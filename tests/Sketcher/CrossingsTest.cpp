@@ -2,8 +2,7 @@
 
 #include "ArcGeometry.h"
 #include "ShapeMeasure.h"
-
-#include <QTest>
+#include "Support/TestValues.h"
 
 #include <algorithm>
 #include <cmath>

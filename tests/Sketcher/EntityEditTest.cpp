@@ -1,11 +1,13 @@
 #include "EntityEdit.h"
 
 #include "ShapeProperty.h"
+#include "ShapeValues.h"
 #include "Sketch.h"
+#include "Support/HostValues.h"
+#include "Support/TestValues.h"
 
 #include <QRandomGenerator>
 #include <QSignalSpy>
-#include <QTest>
 
 #include <cmath>
 #include <limits>
@@ -74,7 +76,7 @@ private slots:
     {
         const EntityEdit edit{{7, 12, 3}, L"start.x", -0.1};
 
-        QVERIFY(edit.ToParameters() == Parameters(L"7 12 3", L"start.x", -0.1));
+        QCOMPARE(edit.ToParameters(), Parameters(L"7 12 3", L"start.x", -0.1));
     }
 
     void parametersReadBackAreTheSameEdit_data()
@@ -96,9 +98,9 @@ private slots:
         const auto edit = EntityEdit::From(EntityEdit{ids, L"radius", value}.ToParameters());
 
         QVERIFY(edit.has_value());
-        QVERIFY(edit->entities == ids);
+        QCOMPARE(edit->entities, ids);
         QCOMPARE(edit->property, std::wstring(L"radius"));
-        QVERIFY(edit->value == value);
+        QCOMPARE_EXACTLY(edit->value, value);
     }
 
     void otherParametersAreNoEdit_data()
@@ -152,7 +154,7 @@ private slots:
         QCOMPARE(f.changes.count(), 4);
 
         QCOMPARE(f.sketch.Undo(), 2);
-        QVERIFY(f.Shapes() == before);
+        QCOMPARE(f.Shapes(), before);
     }
 
     void anEntityNamedTwiceIsOneToo()
@@ -164,7 +166,7 @@ private slots:
         QCOMPARE(f.Get(1, L"radius"), 7.0);
 
         f.sketch.Undo();
-        QVERIFY(f.Shapes() == before);
+        QCOMPARE(f.Shapes(), before);
     }
 
     void whatIsNotPossibleChangesNothing_data()
@@ -205,7 +207,7 @@ private slots:
         QVERIFY(!edit.IsPossible(f.sketch));
         QVERIFY(!edit.Apply(f.sketch));
 
-        QVERIFY(f.Shapes() == before);
+        QCOMPARE(f.Shapes(), before);
         QCOMPARE(f.changes.count(), 0);
     }
 

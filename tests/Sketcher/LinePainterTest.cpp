@@ -1,9 +1,10 @@
 #include "LinePainter.h"
 
+#include "Support/TestValues.h"
+
 #include <QImage>
 #include <QPainter>
 #include <QPen>
-#include <QTest>
 
 class LinePainterTest final : public QObject
 {

@@ -1,10 +1,10 @@
 #include "ModelFile.h"
 
 #include "Sketch.h"
+#include "Support/TestValues.h"
 
 #include <QFile>
 #include <QTemporaryDir>
-#include <QTest>
 
 using vesk::Vector3d;
 

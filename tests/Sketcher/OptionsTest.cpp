@@ -1,8 +1,9 @@
 #include "Options.h"
 
+#include "Support/TestValues.h"
+
 #include <QFile>
 #include <QTemporaryDir>
-#include <QTest>
 
 class OptionsTest final : public QObject
 {

@@ -1,9 +1,8 @@
 #include "Picking.h"
 
 #include "Sketch.h"
+#include "Support/TestValues.h"
 #include "Support/TestView.h"
-
-#include <QTest>
 
 class PickingTest final : public QObject
 {

@@ -1,6 +1,6 @@
 #include "Polar.h"
 
-#include <QTest>
+#include "Support/TestValues.h"
 
 #include <cmath>
 

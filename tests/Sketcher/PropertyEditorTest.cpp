@@ -1,9 +1,8 @@
 #include "PropertyEditor.h"
 
 #include "RecordedLines.h"
+#include "Support/TestValues.h"
 #include "Workspace.h"
-
-#include <QTest>
 
 using vesk::PropertyRecord;
 

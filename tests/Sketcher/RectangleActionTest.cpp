@@ -4,6 +4,7 @@
 
 #include "Dimension/LengthUnit.h"
 #include "Dimension/RectangleTemporaryDimensionContext.h"
+#include "ShapeValues.h"
 
 using namespace vesk;
 using Fixture = ActionFixture<RectangleAction>;
@@ -24,9 +25,9 @@ private slots:
         f.ClickAt(10, 20);
         f.ClickAt(-30, 70);
 
-        QVERIFY(f.Drawn<RectangleShape>().corners ==
-                (Corners{Vector3d(10, 20, 0), Vector3d(-30, 20, 0), Vector3d(-30, 70, 0),
-                         Vector3d(10, 70, 0)}));
+        QCOMPARE(f.Drawn<RectangleShape>().corners,
+                 (Corners{Vector3d(10, 20, 0), Vector3d(-30, 20, 0), Vector3d(-30, 70, 0),
+                          Vector3d(10, 70, 0)}));
         QVERIFY(f.IsRepeated());
     }
 
@@ -76,7 +77,7 @@ private slots:
         f.Type(ActionViewInput::WidthEntered, 33.5);
         f.Type(ActionViewInput::HeightCommitted, 13.25);
 
-        QVERIFY(f.Drawn<RectangleShape>().corners[2] == Vector3d(x, y, 0));
+        QCOMPARE(f.Drawn<RectangleShape>().corners[2], Vector3d(x, y, 0));
         QCOMPARE(RecordCount<ValueRecord>(f), 2);
         QVERIFY(f.IsRepeated());
     }
@@ -90,10 +91,10 @@ private slots:
         f.Type(ActionViewInput::WidthEntered, 33.5);
         f.MoveTo(-90, 17);
         QVERIFY(TemporaryDimensionMgr::GetInstance()->IsLocked(InputState::IS_Width));
-        QVERIFY(Opposite(f) == Vector3d(-33.5, 17, 0));
+        QCOMPARE(Opposite(f), Vector3d(-33.5, 17, 0));
         f.ClickAt(90, -18);
 
-        QVERIFY(f.Drawn<RectangleShape>().corners[2] == Vector3d(33.5, -18, 0));
+        QCOMPARE(f.Drawn<RectangleShape>().corners[2], Vector3d(33.5, -18, 0));
         QVERIFY(!TemporaryDimensionMgr::GetInstance()->IsLocked(InputState::IS_Width));
         QVERIFY(f.IsRepeated());
     }
@@ -109,7 +110,7 @@ private slots:
         QVERIFY(!f.action.OnEscape());
         f.ClickAt(7, 8);
 
-        QVERIFY(f.Drawn<RectangleShape>().corners[2] == Vector3d(7, 8, 0));
+        QCOMPARE(f.Drawn<RectangleShape>().corners[2], Vector3d(7, 8, 0));
         QVERIFY(f.IsRepeated());
     }
 
@@ -123,7 +124,7 @@ private slots:
         QCOMPARE(f.Count(), std::size_t{0});
         f.Type(ActionViewInput::HeightCommitted, 5.0);
 
-        QVERIFY(f.Drawn<RectangleShape>().corners[2] == Vector3d(33.5, 5, 0));
+        QCOMPARE(f.Drawn<RectangleShape>().corners[2], Vector3d(33.5, 5, 0));
         QVERIFY(f.IsRepeated());
     }
 
@@ -136,7 +137,7 @@ private slots:
 
         f.Type(ActionViewInput::WidthCommitted, 33.5);
 
-        QVERIFY(f.Drawn<RectangleShape>().corners[2] == Vector3d(-33.5, 11, 0));
+        QCOMPARE(f.Drawn<RectangleShape>().corners[2], Vector3d(-33.5, 11, 0));
         QVERIFY(f.IsRepeated());
     }
 
@@ -150,7 +151,7 @@ private slots:
         f.Type(ActionViewInput::WidthEntered, 2.0);
         f.Type(ActionViewInput::HeightCommitted, 1.0);
 
-        QVERIFY(f.Drawn<RectangleShape>().corners[2] == Vector3d(50.8, 25.4, 0));
+        QCOMPARE(f.Drawn<RectangleShape>().corners[2], Vector3d(50.8, 25.4, 0));
         QVERIFY(f.IsRepeated());
     }
 
@@ -164,7 +165,7 @@ private slots:
         f.Type(ActionViewInput::WidthEntered, 33.333, true);
         f.Type(ActionViewInput::HeightCommitted, 28.571, true);
 
-        QVERIFY(f.Drawn<RectangleShape>().corners[2] == Vector3d(100.0 / 3.0, -200.0 / 7.0, 0));
+        QCOMPARE(f.Drawn<RectangleShape>().corners[2], Vector3d(100.0 / 3.0, -200.0 / 7.0, 0));
         QVERIFY(f.IsRepeated());
     }
 
@@ -220,7 +221,7 @@ private slots:
 
         f.ClickAt(10, 20);
 
-        QVERIFY(Opposite(f) == Vector3d(11, 20, 0));
+        QCOMPARE(Opposite(f), Vector3d(11, 20, 0));
     }
 
     void aCornerIsCaught()
@@ -233,7 +234,7 @@ private slots:
         f.ClickAt(0, 0);
         f.ClickAt(96, 53);
 
-        QVERIFY(f.Drawn<RectangleShape>().corners[2] == Vector3d(100, 50, 0));
+        QCOMPARE(f.Drawn<RectangleShape>().corners[2], Vector3d(100, 50, 0));
     }
 
 private:

@@ -117,7 +117,7 @@ private slots:
     void circles() { QVERIFY(RunAll<CircleAction>(&PrepareNothing) > Runs / 2); }
     void threePointArcs() { QVERIFY(RunAll<ArcThreePointsAction>(&PrepareNothing) > Runs / 2); }
     void centreArcs() { QVERIFY(RunAll<ArcCentreAction>(&PrepareNothing) > Runs / 2); }
-    void turns() { QVERIFY(RunAll<RotateAction>(&DrawThree) == Runs); }
+    void turns() { QCOMPARE(RunAll<RotateAction>(&DrawThree), Runs); }
 };
 
 QTEST_MAIN(RepeatedActionTest)

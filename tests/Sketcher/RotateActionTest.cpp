@@ -5,6 +5,7 @@
 
 #include "Dimension/LengthUnit.h"
 #include "Dimension/RotationTemporaryDimensionContext.h"
+#include "ShapeValues.h"
 
 using namespace vesk;
 using Fixture = ActionFixture<RotateAction>;
@@ -51,14 +52,14 @@ private slots:
         f.ClickAt(10, 99);
 
         QVERIFY(f.action.IsFinished());
-        QVERIFY(ShapeOf(f, 1) == Shape(LineShape{{30, 10, 0}, {30, 50, 0}}));
-        QVERIFY(ShapeOf(f, 2) == Shape(CircleShape{{-70, 110, 0}, 1.0 / 3.0, {0, 0, 1}}));
-        QVERIFY(ShapeOf(f, 3) == Shape(LineShape{{0, -80, 0}, {40, -80, 0}}));
+        QCOMPARE(ShapeOf(f, 1), Shape(LineShape{{30, 10, 0}, {30, 50, 0}}));
+        QCOMPARE(ShapeOf(f, 2), Shape(CircleShape{{-70, 110, 0}, 1.0 / 3.0, {0, 0, 1}}));
+        QCOMPARE(ShapeOf(f, 3), Shape(LineShape{{0, -80, 0}, {40, -80, 0}}));
         QVERIFY(f.IsRepeated(&SelectTwo));
 
         QCOMPARE(f.workspace.sketch.Undo(), 2);
-        QVERIFY(ShapeOf(f, 1) == Shape(LineShape{{0, 0, 0}, {40, 0, 0}}));
-        QVERIFY(ShapeOf(f, 2) == Shape(CircleShape{{100, 100, 0}, 1.0 / 3.0, {0, 0, 1}}));
+        QCOMPARE(ShapeOf(f, 1), Shape(LineShape{{0, 0, 0}, {40, 0, 0}}));
+        QCOMPARE(ShapeOf(f, 2), Shape(CircleShape{{100, 100, 0}, 1.0 / 3.0, {0, 0, 1}}));
     }
 
     void aTypedAngleTurnsByIt_data()
@@ -80,8 +81,8 @@ private slots:
 
         f.Type(ActionViewInput::CentralAngleCommitted, degrees);
 
-        QVERIFY(ShapeOf(f, 1) ==
-                Rotated(Shape(LineShape{{0, 0, 0}, {40, 0, 0}}), {10, 20, 0}, degrees));
+        QCOMPARE(ShapeOf(f, 1),
+                 Rotated(Shape(LineShape{{0, 0, 0}, {40, 0, 0}}), {10, 20, 0}, degrees));
         QVERIFY(f.action.IsFinished());
         QVERIFY(f.IsRepeated(&SelectTwo));
     }
@@ -95,7 +96,7 @@ private slots:
         f.Type(ActionViewInput::CentralAngleCommitted, 90);
 
         LengthUnit::SetCurrent(LengthUnit::Millimetre());
-        QVERIFY(ShapeOf(f, 1) == Shape(LineShape{{30, 10, 0}, {30, 50, 0}}));
+        QCOMPARE(ShapeOf(f, 1), Shape(LineShape{{30, 10, 0}, {30, 50, 0}}));
     }
 
     void aClickOnTheCentreGivesNoDirection()
@@ -135,9 +136,9 @@ private slots:
         f.ClickAt(50, -40);
         f.ClickAt(0, 10);
 
-        QVERIFY(f.workspace.selection.GetIds() == (std::vector<int>{1, 3}));
+        QCOMPARE(f.workspace.selection.GetIds(), (std::vector<int>{1, 3}));
         QVERIFY(f.action.IsFinished());
-        QVERIFY(ShapeOf(f, 1) == Shape(LineShape{{-40, -40, 0}, {-40, 0, 0}}));
+        QCOMPARE(ShapeOf(f, 1), Shape(LineShape{{-40, -40, 0}, {-40, 0, 0}}));
         QVERIFY(f.IsRepeated(&DrawThree));
     }
 
@@ -153,7 +154,7 @@ private slots:
         f.ClickAt(80, 0);
         f.Type(ActionViewInput::CentralAngleCommitted, 90);
 
-        QVERIFY(ShapeOf(f, 1) == Shape(LineShape{{40, -40, 0}, {40, 0, 0}}));
+        QCOMPARE(ShapeOf(f, 1), Shape(LineShape{{40, -40, 0}, {40, 0, 0}}));
         QVERIFY(f.IsRepeated(&DrawThree));
     }
 
@@ -169,7 +170,7 @@ private slots:
         f.ClickAt(90, -79);
         f.Type(ActionViewInput::CentralAngleCommitted, 180);
         QVERIFY(f.action.IsFinished());
-        QVERIFY(ShapeOf(f, 1) == Shape(LineShape{{40, -158, 0}, {0, -158, 0}}));
+        QCOMPARE(ShapeOf(f, 1), Shape(LineShape{{40, -158, 0}, {0, -158, 0}}));
     }
 
     void noTurnIsNothing()
@@ -208,7 +209,7 @@ private slots:
         f.Type(ActionViewInput::CentralAngleCommitted, 90);
 
         QVERIFY(f.action.IsFinished());
-        QVERIFY(ShapeOf(f, 1) == Shape(LineShape{{0, 0, 0}, {0, 40, 0}}));
+        QCOMPARE(ShapeOf(f, 1), Shape(LineShape{{0, 0, 0}, {0, 40, 0}}));
     }
 
     void directionsAreOffered()
@@ -216,14 +217,14 @@ private slots:
         Fixture f;
         BeginTurn(f);
         const auto opAtRest = f.Offered<RotationTemporaryDimensionContext>();
-        QVERIFY(opAtRest->GetToPoint() == Vector3d(61, 20, 0));
+        QCOMPARE(opAtRest->GetToPoint(), Vector3d(61, 20, 0));
 
         f.MoveTo(13, 24);
 
         const auto opContext = f.Offered<RotationTemporaryDimensionContext>();
-        QVERIFY(opContext->GetCentre() == Vector3d(10, 20, 0));
-        QVERIFY(opContext->GetFromPoint() == Vector3d(60, 20, 0));
-        QVERIFY(opContext->GetToPoint() == Vector3d(13, 24, 0));
+        QCOMPARE(opContext->GetCentre(), Vector3d(10, 20, 0));
+        QCOMPARE(opContext->GetFromPoint(), Vector3d(60, 20, 0));
+        QCOMPARE(opContext->GetToPoint(), Vector3d(13, 24, 0));
     }
 
     void everyStepHasItsHint()

@@ -2,9 +2,9 @@
 
 #include "RecordedLines.h"
 #include "Sketch.h"
+#include "Support/TestValues.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 using Ids = std::vector<int>;
 
@@ -49,7 +49,7 @@ private slots:
 
         QVERIFY(f.selection.Select({f.ids[2], f.ids[1]}));
 
-        QVERIFY(f.selection.GetIds() == (Ids{f.ids[2], f.ids[1]}));
+        QCOMPARE(f.selection.GetIds(), (Ids{f.ids[2], f.ids[1]}));
         QVERIFY(!f.selection.Contains(f.ids[0]));
         QCOMPARE(f.changes.count(), 2);
     }
@@ -83,7 +83,7 @@ private slots:
 
         QVERIFY(!f.selection.Select({f.ids[0], 99}));
 
-        QVERIFY(f.selection.GetIds() == Ids{f.ids[1]});
+        QCOMPARE(f.selection.GetIds(), Ids{f.ids[1]});
         QCOMPARE(f.lines.Get().size(), 1);
     }
 
@@ -94,7 +94,7 @@ private slots:
 
         f.sketch.Erase(f.ids[1]);
 
-        QVERIFY(f.selection.GetIds() == (Ids{f.ids[0], f.ids[2]}));
+        QCOMPARE(f.selection.GetIds(), (Ids{f.ids[0], f.ids[2]}));
         QCOMPARE(f.changes.count(), 2);
         QCOMPARE(f.lines.Get().size(), 1);
     }

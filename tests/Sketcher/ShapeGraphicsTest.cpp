@@ -3,8 +3,7 @@
 #include "ShapeMeasure.h"
 
 #include "Graphics/IGraphicsNode.h"
-
-#include <QTest>
+#include "Support/TestValues.h"
 
 #include <cmath>
 

@@ -1,6 +1,6 @@
 #include "ShapeKind.h"
 
-#include <QTest>
+#include "Support/TestValues.h"
 
 class ShapeKindTest final : public QObject
 {

@@ -1,8 +1,7 @@
 #include "ShapeMeasure.h"
 
 #include "ArcGeometry.h"
-
-#include <QTest>
+#include "Support/TestValues.h"
 
 #include <algorithm>
 #include <cmath>

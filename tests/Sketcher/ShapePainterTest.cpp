@@ -2,12 +2,12 @@
 
 #include "ShapeMeasure.h"
 
+#include "Support/TestValues.h"
 #include "View/ModelView.h"
 
 #include <QImage>
 #include <QPainter>
 #include <QPen>
-#include <QTest>
 
 using namespace vesk;
 

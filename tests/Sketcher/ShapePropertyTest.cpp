@@ -1,7 +1,9 @@
 #include "ShapeProperty.h"
 
+#include "ShapeValues.h"
+#include "Support/TestValues.h"
+
 #include <QSet>
-#include <QTest>
 
 #include <array>
 #include <cmath>

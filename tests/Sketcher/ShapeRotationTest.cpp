@@ -2,9 +2,10 @@
 
 #include "ArcGeometry.h"
 #include "ShapeMeasure.h"
+#include "ShapeValues.h"
+#include "Support/TestValues.h"
 
 #include <Eigen/Geometry>
-#include <QTest>
 
 #include <cmath>
 
@@ -44,15 +45,15 @@ private slots:
         QFETCH(double, degrees);
         QFETCH(Vector3d, turned);
 
-        QVERIFY(Rotated(Vector3d(8, 5, 0), s_centre, degrees) == turned);
+        QCOMPARE(Rotated(Vector3d(8, 5, 0), s_centre, degrees), turned);
     }
 
     void aWholeTurnChangesNoBit()
     {
         const Vector3d point(0.1, 1e9 / 3.0, 0);
 
-        QVERIFY(Rotated(point, Vector3d(0.7, -1.0 / 3.0, 0), 360.0) == point);
-        QVERIFY(Rotated(point, Vector3d(0.7, -1.0 / 3.0, 0), -360.0) == point);
+        QCOMPARE(Rotated(point, Vector3d(0.7, -1.0 / 3.0, 0), 360.0), point);
+        QCOMPARE(Rotated(point, Vector3d(0.7, -1.0 / 3.0, 0), -360.0), point);
     }
 
     void pointsTurnAsAMatrixTurnsThem()

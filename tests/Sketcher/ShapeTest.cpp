@@ -1,6 +1,7 @@
 #include "Shape.h"
 
-#include <QTest>
+#include "ShapeValues.h"
+#include "Support/TestValues.h"
 
 #include <cmath>
 #include <limits>
@@ -100,10 +101,10 @@ private slots:
     {
         const Shape circle = CircleShape{{1, 2, 0}, 3, s_up};
 
-        QVERIFY(circle == Shape(CircleShape{{1, 2, 0}, 3, s_up}));
+        QCOMPARE(circle, Shape(CircleShape{{1, 2, 0}, 3, s_up}));
         QVERIFY(!(circle == Shape(CircleShape{{1, 2, 0}, 3, -s_up})));
         QVERIFY(!(circle == Shape(LineShape{{1, 2, 0}, {3, 0, 0}})));
-        QVERIFY(Shape(MakeRectangle(1, 2)) == Shape(MakeRectangle(1, 2)));
+        QCOMPARE(Shape(MakeRectangle(1, 2)), Shape(MakeRectangle(1, 2)));
         QVERIFY(!(Shape(MakeRectangle(1, 2)) == Shape(MakeRectangle(1, 3))));
     }
 };

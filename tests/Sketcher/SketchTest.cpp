@@ -1,7 +1,9 @@
 #include "Sketch.h"
 
+#include "ShapeValues.h"
+#include "Support/TestValues.h"
+
 #include <QSignalSpy>
-#include <QTest>
 
 #include <limits>
 #include <utility>
@@ -127,7 +129,7 @@ private slots:
 
         const int id = sketch.Add(circle);
 
-        QVERIFY(sketch.Find(id)->shape == circle);
+        QCOMPARE(sketch.Find(id)->shape, circle);
         QCOMPARE(sketch.Find(id)->pen.colour, 3);
         QCOMPARE(sketch.Undo(), id);
         QVERIFY(sketch.GetEntities().empty());
@@ -143,8 +145,8 @@ private slots:
         const Shape circle = CircleShape{{1, 2, 0}, 3.0, {0, 0, 1}};
 
         QVERIFY(sketch.Replace({{second, line}, {first, circle}}));
-        QVERIFY(sketch.Find(first)->shape == circle);
-        QVERIFY(sketch.Find(second)->shape == line);
+        QCOMPARE(sketch.Find(first)->shape, circle);
+        QCOMPARE(sketch.Find(second)->shape, line);
         QCOMPARE(sketch.Find(first)->pen.style, 2);
         QCOMPARE(sketch.GetEntities()[0].id, first);
 

@@ -1,6 +1,7 @@
 #include "SnapPoints.h"
 
-#include <QTest>
+#include "ShapeValues.h"
+#include "Support/TestValues.h"
 
 #include <cmath>
 
@@ -24,17 +25,17 @@ class SnapPointsTest final : public QObject
 private slots:
     void endsAreWhereAPieceBegins()
     {
-        QVERIFY(EndsOf(LineShape{{1, 2, 0}, {3, 4, 0}}) == (Points{{1, 2, 0}, {3, 4, 0}}));
-        QVERIFY(EndsOf(s_arc) == (Points{{5, 0, 0}, {0, 5, 0}}));
-        QVERIFY(EndsOf(s_rectangle) == (Points{{0, 0, 0}, {8, 0, 0}, {8, 6, 0}, {0, 6, 0}}));
+        QCOMPARE(EndsOf(LineShape{{1, 2, 0}, {3, 4, 0}}), (Points{{1, 2, 0}, {3, 4, 0}}));
+        QCOMPARE(EndsOf(s_arc), (Points{{5, 0, 0}, {0, 5, 0}}));
+        QCOMPARE(EndsOf(s_rectangle), (Points{{0, 0, 0}, {8, 0, 0}, {8, 6, 0}, {0, 6, 0}}));
         QVERIFY(EndsOf(CircleShape{{1, 1, 0}, 2, s_up}).empty());
-        QVERIFY(EndsOf(ArcShape{{0, 0, 0}, 5, {5, 0, 0}, {5, 0, 0}, s_up}) == (Points{{5, 0, 0}}));
+        QCOMPARE(EndsOf(ArcShape{{0, 0, 0}, 5, {5, 0, 0}, {5, 0, 0}, s_up}), (Points{{5, 0, 0}}));
     }
 
     void middlesLieOnTheOutline()
     {
-        QVERIFY(MiddlesOf(LineShape{{1, 2, 0}, {3, 4, 0}}) == (Points{{2, 3, 0}}));
-        QVERIFY(MiddlesOf(s_rectangle) == (Points{{4, 0, 0}, {8, 3, 0}, {4, 6, 0}, {0, 3, 0}}));
+        QCOMPARE(MiddlesOf(LineShape{{1, 2, 0}, {3, 4, 0}}), (Points{{2, 3, 0}}));
+        QCOMPARE(MiddlesOf(s_rectangle), (Points{{4, 0, 0}, {8, 3, 0}, {4, 6, 0}, {0, 3, 0}}));
         QVERIFY(MiddlesOf(CircleShape{{1, 1, 0}, 2, s_up}).empty());
 
         const double half = 5 / std::sqrt(2.0);
@@ -46,9 +47,9 @@ private slots:
     void whatIsRoundOrClosedHasACentre()
     {
         QVERIFY(!CentreOf(LineShape{{1, 2, 0}, {3, 4, 0}}).has_value());
-        QVERIFY(CentreOf(CircleShape{{1, 2, 0}, 2, s_up}) == Vector3d(1, 2, 0));
-        QVERIFY(CentreOf(s_arc) == Vector3d(0, 0, 0));
-        QVERIFY(CentreOf(s_rectangle) == Vector3d(4, 3, 0));
+        QCOMPARE(CentreOf(CircleShape{{1, 2, 0}, 2, s_up}), Vector3d(1, 2, 0));
+        QCOMPARE(CentreOf(s_arc), Vector3d(0, 0, 0));
+        QCOMPARE(CentreOf(s_rectangle), Vector3d(4, 3, 0));
     }
 };
 

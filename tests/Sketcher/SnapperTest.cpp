@@ -2,9 +2,8 @@
 
 #include "Grid.h"
 #include "Sketch.h"
+#include "Support/TestValues.h"
 #include "Support/TestView.h"
-
-#include <QTest>
 
 Q_DECLARE_METATYPE(vesk::Vector3d)
 
@@ -71,13 +70,13 @@ private slots:
         QFETCH(Vector3d, cursor);
         QFETCH(Vector3d, caught);
         Fixture f;
-        QVERIFY(f.Catch(cursor.x(), cursor.y()) == cursor);
+        QCOMPARE(f.Catch(cursor.x(), cursor.y()), cursor);
 
         f.snapper.SetOn(static_cast<Snapper::Kind>(kind), true);
 
-        QVERIFY(f.Catch(cursor.x(), cursor.y()) == caught);
+        QCOMPARE(f.Catch(cursor.x(), cursor.y()), caught);
         QCOMPARE(int(f.snapper.GetCaught()->kind), kind);
-        QVERIFY(f.snapper.GetCaught()->point == caught);
+        QCOMPARE(f.snapper.GetCaught()->point, caught);
     }
 
     void whatIsFurtherThanTenPixelsIsNotCaught()
@@ -85,7 +84,7 @@ private slots:
         Fixture f;
         f.snapper.SetOn(Snapper::End, true);
 
-        QVERIFY(f.Catch(0, 10.1) == Vector3d(0, 10.1, 0));
+        QCOMPARE(f.Catch(0, 10.1), Vector3d(0, 10.1, 0));
         QVERIFY(!f.snapper.GetCaught().has_value());
     }
 
@@ -95,8 +94,8 @@ private slots:
         f.snapper.SetOn(Snapper::End, true);
         f.view.GetCamera().SetWorldPerPixel(0.1);
 
-        QVERIFY(f.Catch(0, 0.9) == Vector3d(0, 0, 0));
-        QVERIFY(f.Catch(0, 1.1) == Vector3d(0, 1.1, 0));
+        QCOMPARE(f.Catch(0, 0.9), Vector3d(0, 0, 0));
+        QCOMPARE(f.Catch(0, 1.1), Vector3d(0, 1.1, 0));
     }
 
     void anEndComesBeforeAllOthers()
@@ -107,7 +106,7 @@ private slots:
             f.snapper.SetOn(static_cast<Snapper::Kind>(kind), true);
 
         // The intersection at (80, 0) is nearer.
-        QVERIFY(f.Catch(80, 1) == Vector3d(80, 6, 0));
+        QCOMPARE(f.Catch(80, 1), Vector3d(80, 6, 0));
     }
 
     void theNearestOfSeveralEndsWins()
@@ -116,8 +115,8 @@ private slots:
         f.sketch.AddLine({4, 0, 0}, {4, 100, 0});
         f.snapper.SetOn(Snapper::End, true);
 
-        QVERIFY(f.Catch(3, 0) == Vector3d(4, 0, 0));
-        QVERIFY(f.Catch(1, 0) == Vector3d(0, 0, 0));
+        QCOMPARE(f.Catch(3, 0), Vector3d(4, 0, 0));
+        QCOMPARE(f.Catch(1, 0), Vector3d(0, 0, 0));
     }
 
     void betweenTheOthersTheNearestWins()
@@ -127,8 +126,8 @@ private slots:
         f.snapper.SetOn(Snapper::Intersection, true);
         f.sketch.AddLine({45, -50, 0}, {45, 60, 0});
 
-        QVERIFY(f.Catch(46, 0) == Vector3d(45, 0, 0));
-        QVERIFY(f.Catch(49, 0) == Vector3d(50, 0, 0));
+        QCOMPARE(f.Catch(46, 0), Vector3d(45, 0, 0));
+        QCOMPARE(f.Catch(49, 0), Vector3d(50, 0, 0));
     }
 
     void theGridComesLast()
@@ -138,18 +137,18 @@ private slots:
         f.snapper.SetOn(Snapper::Grid, true);
 
         // The grid point (60, 0) is nearer than the middle at (50, 0).
-        QVERIFY(f.Catch(56, 0) == Vector3d(50, 0, 0));
+        QCOMPARE(f.Catch(56, 0), Vector3d(50, 0, 0));
     }
 
     void theCentreOfALargeCircleIsCaught()
     {
         Fixture f;
         f.sketch.Add(CircleShape{{-50, 60, 0}, 40, {0, 0, 1}});
-        QVERIFY(f.Catch(-46, 57) == Vector3d(-46, 57, 0));
+        QCOMPARE(f.Catch(-46, 57), Vector3d(-46, 57, 0));
 
         f.snapper.SetOn(Snapper::Centre, true);
 
-        QVERIFY(f.Catch(-46, 57) == Vector3d(-50, 60, 0));
+        QCOMPARE(f.Catch(-46, 57), Vector3d(-50, 60, 0));
         QCOMPARE(int(f.snapper.GetCaught()->kind), int(Snapper::Centre));
     }
 
@@ -171,8 +170,8 @@ private slots:
                                      Vector3d(60, 20, 0), Vector3d(20, 20, 0)}});
         f.snapper.SetOn(Snapper::Intersection, true);
 
-        QVERIFY(f.Catch(22, 3) == Vector3d(20, 0, 0));
-        QVERIFY(f.Catch(22, 19) == Vector3d(22, 19, 0));
+        QCOMPARE(f.Catch(22, 3), Vector3d(20, 0, 0));
+        QCOMPARE(f.Catch(22, 19), Vector3d(22, 19, 0));
     }
 
     void ofManyIntersectionsTheNearestIsCaught()
@@ -195,7 +194,7 @@ private slots:
         f.sketch.AddLine({30, 5, 0}, {30, 50, 0});
         f.snapper.SetOn(Snapper::Intersection, true);
 
-        QVERIFY(f.Catch(30, 2) == Vector3d(30, 2, 0));
+        QCOMPARE(f.Catch(30, 2), Vector3d(30, 2, 0));
     }
 
     void parallelSegmentsHaveNoIntersection()
@@ -204,7 +203,7 @@ private slots:
         f.sketch.AddLine({20, 0, 0}, {60, 0, 0});
         f.snapper.SetOn(Snapper::Intersection, true);
 
-        QVERIFY(f.Catch(40, 1) == Vector3d(40, 1, 0));
+        QCOMPARE(f.Catch(40, 1), Vector3d(40, 1, 0));
     }
 
     void whatWasCaughtIsForgotten()
@@ -223,7 +222,7 @@ private slots:
         Fixture f;
         f.snapper.SetOn(Snapper::End, true);
 
-        QVERIFY(f.snapper.Catch({0, 1, 0}, nullptr) == Vector3d(0, 1, 0));
+        QCOMPARE(f.snapper.Catch({0, 1, 0}, nullptr), Vector3d(0, 1, 0));
     }
 
     void theGridHasRoundStepsOfEightPixelsAtLeast_data()

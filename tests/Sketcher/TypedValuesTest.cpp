@@ -3,8 +3,8 @@
 #include "RecordedLines.h"
 
 #include "Dimension/TemporaryDimensionMgr.h"
-
-#include <QTest>
+#include "Support/HostValues.h"
+#include "Support/TestValues.h"
 
 using vesk::InputState;
 using vesk::TemporaryDimensionMgr;

@@ -1,6 +1,6 @@
 #include "Support/WarningRecorder.h"
 
-#include <QtTest>
+#include "Support/TestValues.h"
 
 namespace vesk::test
 {

@@ -2,8 +2,7 @@
 
 #include "ProcessCommandUtil.h"
 #include "Support/HostFixture.h"
-
-#include <QtTest>
+#include "Support/TestValues.h"
 
 #include <utility>
 

@@ -1,7 +1,8 @@
 #include "DebugWarnFixture.h"
 
+#include "Support/TestValues.h"
+
 #include <QMetaMethod>
-#include <QtTest>
 
 #include <limits>
 
@@ -183,7 +184,7 @@ void DebugWarnDialogTest::leavingIsToIgnoreOnce()
     DialogFixture f(isPublished);
     QSignalSpy finished(&f.dialog, &QDialog::finished);
     f.dialog.show();
-    QVERIFY(QTest::qWaitForWindowActive(&f.dialog));
+    QVERIFY(QTest::qWaitForWindowActive(&f.dialog, vesk::test::PatienceMs));
 
     if (isEscape)
         QTest::keyClick(f.dialog.windowHandle(), Qt::Key_Escape);
@@ -212,7 +213,7 @@ void DebugWarnDialogTest::returnClicksTheFirstButton()
     DialogFixture f(isPublished);
     QSignalSpy finished(&f.dialog, &QDialog::finished);
     f.dialog.show();
-    QVERIFY(QTest::qWaitForWindowActive(&f.dialog));
+    QVERIFY(QTest::qWaitForWindowActive(&f.dialog, vesk::test::PatienceMs));
 
     QTest::keyClick(f.dialog.windowHandle(), static_cast<Qt::Key>(key));
 

@@ -1,11 +1,11 @@
 #include "DebugWarnFixture.h"
 #include "Foundation/TranslatorManager.h"
 #include "Support/MemberAccess.h"
+#include "Support/TestValues.h"
 
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QtTest>
 
 namespace vesk::test
 {
@@ -180,7 +180,7 @@ void DebugWarnFormTest::theReportGroupShowsNothing()
     DialogFixture f;
     const auto* pGroup = f.dialog.findChild<QGroupBox*>();
     f.dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&f.dialog));
+    QVERIFY(QTest::qWaitForWindowExposed(&f.dialog, vesk::test::PatienceMs));
     int seen = 0;
     for (const QWidget* pWidget : pGroup->findChildren<QWidget*>())
         seen += pWidget->visibleRegion().isEmpty() ? 0 : 1;
@@ -194,7 +194,7 @@ void DebugWarnFormTest::theButtonsFillTheirRowFromLeftToRight()
     DialogFixture f;
     const QWidget& row = *f.Button(IgnoreButton).parentWidget();
     f.dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&f.dialog));
+    QVERIFY(QTest::qWaitForWindowExposed(&f.dialog, vesk::test::PatienceMs));
 
     QVERIFY(qobject_cast<QHBoxLayout*>(row.layout()) != nullptr);
     QCOMPARE(row.layout()->contentsMargins(), QMargins());

@@ -8,6 +8,7 @@
 #include "Support/MemberAccess.h"
 #include "Support/Platform/BreakCounter.h"
 #include "Support/Platform/Debugger.h"
+#include "Support/TestValues.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -18,7 +19,6 @@
 #include <QTemporaryDir>
 #include <QTextEdit>
 #include <QTimer>
-#include <QtTest>
 
 #include <cstdio>
 #include <functional>

@@ -2,9 +2,9 @@
 
 #include "DockFixture.h"
 #include "Foundation/NqStyleSheetHelper.h"
+#include "Support/TestValues.h"
 
 #include <QPointer>
-#include <QtTest>
 
 #include <type_traits>
 

@@ -1,8 +1,7 @@
 #include "DockManagerImpl.h"
 
 #include "DockFixture.h"
-
-#include <QtTest>
+#include "Support/TestValues.h"
 
 namespace vesk::test
 {

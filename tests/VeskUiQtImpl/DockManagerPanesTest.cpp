@@ -1,9 +1,9 @@
 #include "DockManagerImpl.h"
 
 #include "DockFixture.h"
+#include "Support/TestValues.h"
 
 #include <QPointer>
-#include <QtTest>
 
 namespace vesk::test
 {

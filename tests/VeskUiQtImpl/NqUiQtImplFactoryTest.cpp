@@ -2,8 +2,7 @@
 
 #include "DockFixture.h"
 #include "Foundation/IDebugWarningDisplayer.h"
-
-#include <QtTest>
+#include "Support/TestValues.h"
 
 #include <typeinfo>
 

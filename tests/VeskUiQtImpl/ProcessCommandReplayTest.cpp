@@ -3,6 +3,7 @@
 #include "Journal/NqIJournalFactory.h"
 #include "Support/HostFixture.h"
 #include "Support/TestEventLoop.h"
+#include "Support/TestValues.h"
 
 #include <Qtitan/RibbonButtonControl.h>
 
@@ -10,7 +11,6 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QToolButton>
-#include <QtTest>
 
 namespace vesk::test
 {

@@ -1,9 +1,10 @@
 #include "CommandFixture.h"
 
 #include "Command/ActionManager.h"
+#include "Support/HostValues.h"
+#include "Support/TestValues.h"
 
 #include <QAction>
-#include <QtTest>
 
 namespace vesk::test
 {
@@ -68,8 +69,8 @@ void ProcessCommandUtilTest::ribbonCommandIsJournaledAndRunWithItsParameters()
     ProcessCommandUtil::ProcessRibbonBarCommand(L"Plain", SomeParameters(), &f.sender);
 
     QCOMPARE(f.calls.size(), std::size_t(1));
-    QVERIFY(f.calls[0] == SomeParameters());
-    QVERIFY(f.host.journal.GetCommands()[0].parameters == SomeParameters());
+    QCOMPARE(f.calls[0], SomeParameters());
+    QCOMPARE(f.host.journal.GetCommands()[0].parameters, SomeParameters());
 }
 
 void ProcessCommandUtilTest::statusBarCommandIgnoresItsParameters()

@@ -2,10 +2,10 @@
 #include "Control/VeskIControlFactory.h"
 #include "Dimension/TemporaryDimensionMgr.h"
 #include "Support/Platform/LoadedLibrary.h"
+#include "Support/TestValues.h"
 
 #include <QFile>
 #include <QStringList>
-#include <QtTest>
 
 #include <dlfcn.h>
 #include <elf.h>

@@ -10,11 +10,11 @@
 #include "Foundation/IDebugWarningDisplayer.h"
 #include "Support/HostFixture.h"
 #include "Support/Platform/LoadedLibrary.h"
+#include "Support/TestValues.h"
 
 #include <QApplication>
 #include <QTimer>
 #include <QToolButton>
-#include <QtTest>
 
 namespace vesk::test
 {

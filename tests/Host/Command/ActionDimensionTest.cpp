@@ -2,8 +2,7 @@
 #include "Host/Dimension/HandlerStandIns.h"
 
 #include "Command/IActionManager.h"
-
-#include <QtTest>
+#include "Support/TestValues.h"
 
 namespace vesk
 {
@@ -66,7 +65,7 @@ void ActionDimensionTest::theBeginShowsTheDimensions()
 
     f.Run([&] { log = f.TakeHandlerLog(); });
 
-    QVERIFY(log == (Log{"1.made", "1.graphics"}));
+    QCOMPARE(log, (Log{"1.made", "1.graphics"}));
 }
 
 void ActionDimensionTest::aStepShowsTheDimensionsAnew()
@@ -80,7 +79,7 @@ void ActionDimensionTest::aStepShowsTheDimensionsAnew()
         log = f.TakeHandlerLog();
     });
 
-    QVERIFY(log == (Log{"1.graphics"}));
+    QCOMPARE(log, (Log{"1.graphics"}));
 }
 
 void ActionDimensionTest::aMouseMoveShowsTheDimensionsAnew()
@@ -95,7 +94,7 @@ void ActionDimensionTest::aMouseMoveShowsTheDimensionsAnew()
         log = f.TakeHandlerLog();
     });
 
-    QVERIFY(log == (Log{"1.graphics", "place"}));
+    QCOMPARE(log, (Log{"1.graphics", "place"}));
 }
 
 void ActionDimensionTest::anActionWithoutDimensionsDropsTheHandler()
@@ -110,7 +109,7 @@ void ActionDimensionTest::anActionWithoutDimensionsDropsTheHandler()
         log = f.TakeHandlerLog();
     });
 
-    QVERIFY(log == (Log{"1.end input", "1.delete"}));
+    QCOMPARE(log, (Log{"1.end input", "1.delete"}));
 }
 
 void ActionDimensionTest::refreshingMakesGraphicsOnly()
@@ -127,7 +126,7 @@ void ActionDimensionTest::refreshingMakesGraphicsOnly()
         log = f.TakeHandlerLog();
     });
 
-    QVERIFY(log == (Log{"1.graphics", "place", "1.graphics", "place"}));
+    QCOMPARE(log, (Log{"1.graphics", "place", "1.graphics", "place"}));
 }
 
 void ActionDimensionTest::aHandlerMayRefreshInItsKey()
@@ -142,7 +141,7 @@ void ActionDimensionTest::aHandlerMayRefreshInItsKey()
         log = f.TakeHandlerLog();
     });
 
-    QVERIFY(log == (Log{"1.key", "1.graphics", "place", "1.key done"}));
+    QCOMPARE(log, (Log{"1.key", "1.graphics", "place", "1.key done"}));
 }
 
 void ActionDimensionTest::theEndDropsTheHandlerBeforeTheActionIsFreed()
@@ -152,7 +151,7 @@ void ActionDimensionTest::theEndDropsTheHandlerBeforeTheActionIsFreed()
 
     f.Run([] { Dimensions().OnKeyDown('1', false, false, false); });
 
-    QVERIFY(f.log == (Log{"Line.begin", "Line.end", "end input", "Line.delete"}));
+    QCOMPARE(f.log, (Log{"Line.begin", "Line.end", "end input", "Line.delete"}));
     QVERIFY(!Dimensions().HasHandler());
     QCOMPARE(f.view.GetActivationCount(), 2);
 }
@@ -182,8 +181,8 @@ void ActionDimensionTest::anActionThatEndsInAKeyLeavesItsHandlerAliveThatLong()
 
     Dimensions().OnKeyDown('1', false, false, false);
 
-    QVERIFY(f.TakeHandlerLog() == (Log{"1.key", "1.end input", "1.key done", "1.delete"}));
-    QVERIFY(f.log == (Log{"Line.begin", "Line.end", "Line.delete"}));
+    QCOMPARE(f.TakeHandlerLog(), (Log{"1.key", "1.end input", "1.key done", "1.delete"}));
+    QCOMPARE(f.log, (Log{"Line.begin", "Line.end", "Line.delete"}));
 }
 
 }

@@ -2,8 +2,7 @@
 
 #include "Command/IActionManager.h"
 #include "Dimension/TemporaryDimensionMgr.h"
-
-#include <QtTest>
+#include "Support/TestValues.h"
 
 #include <memory>
 
@@ -133,7 +132,7 @@ void ActionInputTest::anActionThatEndsTakesNothingMore()
 
     f.Choose("Line");
 
-    QVERIFY(f.log == (Log{"Line.begin", "Line.end", "Line.end done", "Line.delete"}));
+    QCOMPARE(f.log, (Log{"Line.begin", "Line.end", "Line.end done", "Line.delete"}));
 }
 
 void ActionInputTest::escapeDropsLocksFirst()
@@ -146,7 +145,7 @@ void ActionInputTest::escapeDropsLocksFirst()
 
     f.Choose("Line");
 
-    QVERIFY(f.log == (Log{"Line.begin", "Line.escape", "Line.click", "Line.end", "Line.delete"}));
+    QCOMPARE(f.log, (Log{"Line.begin", "Line.escape", "Line.click", "Line.end", "Line.delete"}));
 }
 
 void ActionInputTest::escapeEndsAnActionWithoutLocks()
@@ -158,7 +157,7 @@ void ActionInputTest::escapeEndsAnActionWithoutLocks()
 
     f.Choose("Line");
 
-    QVERIFY(f.log == (Log{"Line.begin", "Line.escape", "Line.end", "Line.delete"}));
+    QCOMPARE(f.log, (Log{"Line.begin", "Line.escape", "Line.end", "Line.delete"}));
 }
 
 void ActionInputTest::clicksForTheNextCommandGoToIt()
@@ -174,8 +173,8 @@ void ActionInputTest::clicksForTheNextCommandGoToIt()
 
     f.Choose("Line");
 
-    QVERIFY(f.log == (Log{"Line.begin", "Line.end", "Line.delete", "Arc.begin", "Arc.click",
-                          "Arc.click", "Arc.end", "Arc.delete"}));
+    QCOMPARE(f.log, (Log{"Line.begin", "Line.end", "Line.delete", "Arc.begin", "Arc.click",
+                         "Arc.click", "Arc.end", "Arc.delete"}));
 }
 
 void ActionInputTest::otherInputForTheNextCommandIsDoneInOrder()
@@ -193,8 +192,8 @@ void ActionInputTest::otherInputForTheNextCommandIsDoneInOrder()
 
     f.Choose("Line");
 
-    QVERIFY(f.log == (Log{"Line.begin", "Line.end", "Line.delete", "Arc.begin", "Arc.click", "key",
-                          "Arc.click", "Arc.end", "Arc.delete"}));
+    QCOMPARE(f.log, (Log{"Line.begin", "Line.end", "Line.delete", "Arc.begin", "Arc.click", "key",
+                         "Arc.click", "Arc.end", "Arc.delete"}));
 }
 
 void ActionInputTest::noInputIsKeptWhereNoCommandWaits()
@@ -225,8 +224,8 @@ void ActionInputTest::anEscapeForTheNextCommandEndsIt()
 
     f.Choose("Line");
 
-    QVERIFY(f.log == (Log{"Line.begin", "Line.end", "Line.delete", "Arc.begin", "Arc.escape",
-                          "Arc.end", "Arc.delete"}));
+    QCOMPARE(f.log, (Log{"Line.begin", "Line.end", "Line.delete", "Arc.begin", "Arc.escape",
+                         "Arc.end", "Arc.delete"}));
     QCOMPARE(f.loop.GetRunCount(), 1);
 }
 

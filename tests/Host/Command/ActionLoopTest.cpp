@@ -1,8 +1,7 @@
 #include "Host/Command/ActionFixture.h"
 
 #include "Command/IActionManager.h"
-
-#include <QtTest>
+#include "Support/TestValues.h"
 
 namespace vesk
 {
@@ -41,7 +40,7 @@ void ActionLoopTest::anActionRunsInTheLoopFromBeginToEnd()
 
     f.Choose("Line");
 
-    QVERIFY(f.log == (Log{"Line.begin", "Line.click", "Line.end", "Line.delete"}));
+    QCOMPARE(f.log, (Log{"Line.begin", "Line.click", "Line.end", "Line.delete"}));
     QCOMPARE(f.loop.GetRunCount(), 1);
 }
 
@@ -71,7 +70,7 @@ void ActionLoopTest::anApplicationThatEndsEndsTheAction()
 
     f.Choose("Line");
 
-    QVERIFY(f.log == (Log{"Line.begin", "Line.end", "Line.delete"}));
+    QCOMPARE(f.log, (Log{"Line.begin", "Line.end", "Line.delete"}));
 }
 
 void ActionLoopTest::aPlainCommandRunsBesideTheAction()
@@ -84,7 +83,7 @@ void ActionLoopTest::aPlainCommandRunsBesideTheAction()
 
     f.Choose("Line");
 
-    QVERIFY(f.log == (Log{"Line.begin", "ZoomAll", "Line.click", "Line.end", "Line.delete"}));
+    QCOMPARE(f.log, (Log{"Line.begin", "ZoomAll", "Line.click", "Line.end", "Line.delete"}));
 }
 
 void ActionLoopTest::theNextInteractiveCommandBeginsWhenTheActionIsGone()
@@ -97,8 +96,8 @@ void ActionLoopTest::theNextInteractiveCommandBeginsWhenTheActionIsGone()
 
     f.Choose("Line");
 
-    QVERIFY(f.log == (Log{"Line.begin", "Line.end", "Line.delete", "Erase.begin", "Erase.click",
-                          "Erase.end", "Erase.delete"}));
+    QCOMPARE(f.log, (Log{"Line.begin", "Line.end", "Line.delete", "Erase.begin", "Erase.click",
+                         "Erase.end", "Erase.delete"}));
     QCOMPARE(f.loop.GetGreatestDepth(), 1);
 }
 
@@ -110,8 +109,8 @@ void ActionLoopTest::theSameCommandStartsAnew()
 
     f.Choose("Line");
 
-    QVERIFY(f.log == (Log{"Line.begin", "Line.end", "Line.delete", "Line.begin", "Line.end",
-                          "Line.delete"}));
+    QCOMPARE(f.log, (Log{"Line.begin", "Line.end", "Line.delete", "Line.begin", "Line.end",
+                         "Line.delete"}));
 }
 
 void ActionLoopTest::manySwitchesNeverNestTheLoop()
@@ -138,7 +137,7 @@ void ActionLoopTest::aCommandOfAMenuEndsTheActionFirst()
 
     f.Choose("Line");
 
-    QVERIFY(f.log == (Log{"Line.begin", "Line.end", "Line.delete", "Undo"}));
+    QCOMPARE(f.log, (Log{"Line.begin", "Line.end", "Line.delete", "Undo"}));
 }
 
 void ActionLoopTest::aCommandOfAMenuRunsAtOnceWhenNoneRuns()
@@ -150,7 +149,7 @@ void ActionLoopTest::aCommandOfAMenuRunsAtOnceWhenNoneRuns()
     f.ChooseInMenu("Undo");
     f.ChooseInMenu("Line");
 
-    QVERIFY(f.log == (Log{"Undo", "Line.begin", "Line.end", "Line.delete"}));
+    QCOMPARE(f.log, (Log{"Undo", "Line.begin", "Line.end", "Line.delete"}));
     QCOMPARE(f.loop.GetRunCount(), 1);
 }
 
@@ -168,8 +167,8 @@ void ActionLoopTest::waitingCommandsRunInOrder()
 
     f.Choose("Line");
 
-    QVERIFY(f.log == (Log{"Line.begin", "Line.end", "Line.delete", "Undo", "New", "Line.begin",
-                          "Line.end", "Line.delete"}));
+    QCOMPARE(f.log, (Log{"Line.begin", "Line.end", "Line.delete", "Undo", "New", "Line.begin",
+                         "Line.end", "Line.delete"}));
 }
 
 void ActionLoopTest::aCommandBehindWhichAnotherWaitsEndsWithoutALoop()
@@ -185,8 +184,8 @@ void ActionLoopTest::aCommandBehindWhichAnotherWaitsEndsWithoutALoop()
 
     f.Choose("Line");
 
-    QVERIFY(f.log == (Log{"Line.begin", "Line.end", "Line.delete", "Erase.begin", "Erase.end",
-                          "Erase.delete", "Arc.begin", "Arc.end", "Arc.delete"}));
+    QCOMPARE(f.log, (Log{"Line.begin", "Line.end", "Line.delete", "Erase.begin", "Erase.end",
+                         "Erase.delete", "Arc.begin", "Arc.end", "Arc.delete"}));
     QCOMPARE(f.loop.GetRunCount(), 2);
 }
 
@@ -199,8 +198,8 @@ void ActionLoopTest::aCommandChosenWhileAnActionEndsRunsAfterIt()
 
     f.Choose("Line");
 
-    QVERIFY(f.log == (Log{"Line.begin", "Line.end", "Line.end done", "Line.delete", "Erase.begin",
-                          "Erase.end", "Erase.delete"}));
+    QCOMPARE(f.log, (Log{"Line.begin", "Line.end", "Line.end done", "Line.delete", "Erase.begin",
+                         "Erase.end", "Erase.delete"}));
     QCOMPARE(f.loop.GetGreatestDepth(), 1);
 }
 
@@ -213,8 +212,8 @@ void ActionLoopTest::aCommandChosenWhileAnActionIsMadeRunsAfterIt()
 
     f.Choose("Line");
 
-    QVERIFY(f.log == (Log{"Line.begin", "Line.begin done", "Line.end", "Line.delete", "Erase.begin",
-                          "Erase.end", "Erase.delete"}));
+    QCOMPARE(f.log, (Log{"Line.begin", "Line.begin done", "Line.end", "Line.delete", "Erase.begin",
+                         "Erase.end", "Erase.delete"}));
     QCOMPARE(f.loop.GetRunCount(), 1);
 }
 
@@ -230,7 +229,7 @@ void ActionLoopTest::resetKeepsTheCommandsThatWait()
 
     f.Choose("Line");
 
-    QVERIFY(f.log == (Log{"Line.begin", "Line.end", "Line.delete", "Undo"}));
+    QCOMPARE(f.log, (Log{"Line.begin", "Line.end", "Line.delete", "Undo"}));
 }
 
 void ActionLoopTest::resetWithoutAnActionDoesNothing()
@@ -242,7 +241,7 @@ void ActionLoopTest::resetWithoutAnActionDoesNothing()
     ActionManager::Reset();
     f.Choose("Line");
 
-    QVERIFY(f.log == (Log{"Line.begin", "Line.click", "Line.end", "Line.delete"}));
+    QCOMPARE(f.log, (Log{"Line.begin", "Line.click", "Line.end", "Line.delete"}));
     QCOMPARE(f.application.GetPostCount(), 3);
 }
 
@@ -271,7 +270,7 @@ void ActionLoopTest::noCommandAndAnUnknownIdDoNothing()
 
     f.Choose("Line");
 
-    QVERIFY(f.log == (Log{"Line.begin", "Line.click", "Line.end", "Line.delete"}));
+    QCOMPARE(f.log, (Log{"Line.begin", "Line.click", "Line.end", "Line.delete"}));
 }
 
 }

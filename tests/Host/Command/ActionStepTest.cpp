@@ -1,8 +1,7 @@
 #include "Host/Command/ActionFixture.h"
 
 #include "Dimension/LinearTemporaryDimensionContext.h"
-
-#include <QtTest>
+#include "Support/TestValues.h"
 
 namespace vesk
 {
@@ -192,7 +191,7 @@ void ActionStepTest::observersHearOfBeginStepAndEnd()
 
     f.Choose("Line");
 
-    QVERIFY(heard == (Log{"Line", "Line", ""}));
+    QCOMPARE(heard, (Log{"Line", "Line", ""}));
 }
 
 void ActionStepTest::anObserverAddedTwiceHearsOnce()
@@ -284,7 +283,7 @@ void ActionStepTest::aViewThatIsGoneIsNotTold()
     ActionManager::ProcessCommand(pView.get(), ICommandManager::Get()->GetCommand(L"Line"), {},
                                   nullptr);
 
-    QVERIFY(f.log == (Log{"Line.begin", "Line.click", "Line.end", "Line.delete"}));
+    QCOMPARE(f.log, (Log{"Line.begin", "Line.click", "Line.end", "Line.delete"}));
 }
 
 }

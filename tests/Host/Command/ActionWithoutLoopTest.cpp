@@ -1,8 +1,7 @@
 #include "Host/Command/ActionFixture.h"
 
 #include "Command/IActionManager.h"
-
-#include <QtTest>
+#include "Support/TestValues.h"
 
 namespace vesk
 {
@@ -42,7 +41,7 @@ void ActionWithoutLoopTest::aCommandBeginsItsActionAndReturns()
     f.Choose("Line");
     f.Click();
 
-    QVERIFY(f.log == (Log{"Line.begin", "Line.click"}));
+    QCOMPARE(f.log, (Log{"Line.begin", "Line.click"}));
     QCOMPARE(ActionManager::GetRunningCommandId(), std::wstring(L"Line"));
 }
 
@@ -56,7 +55,7 @@ void ActionWithoutLoopTest::theNextInteractiveCommandEndsTheAction()
     f.Choose("Line");
     f.Choose("Erase");
 
-    QVERIFY(f.log == (Log{"Line.begin", "Line.end", "Line.delete", "Erase.begin"}));
+    QCOMPARE(f.log, (Log{"Line.begin", "Line.end", "Line.delete", "Erase.begin"}));
 }
 
 void ActionWithoutLoopTest::aCommandOfAMenuEndsTheActionFirst()
@@ -69,7 +68,7 @@ void ActionWithoutLoopTest::aCommandOfAMenuEndsTheActionFirst()
     f.Choose("Line");
     f.ChooseInMenu("Undo");
 
-    QVERIFY(f.log == (Log{"Line.begin", "Line.end", "Line.delete", "Undo"}));
+    QCOMPARE(f.log, (Log{"Line.begin", "Line.end", "Line.delete", "Undo"}));
 }
 
 void ActionWithoutLoopTest::resetEndsTheActionAtOnce()
@@ -81,7 +80,7 @@ void ActionWithoutLoopTest::resetEndsTheActionAtOnce()
 
     ActionManager::Reset();
 
-    QVERIFY(f.log == (Log{"Line.begin", "Line.end", "Line.delete"}));
+    QCOMPARE(f.log, (Log{"Line.begin", "Line.end", "Line.delete"}));
     QVERIFY(IActionManager::CurrentAction() == nullptr);
 }
 
@@ -142,8 +141,8 @@ void ActionWithoutLoopTest::aCommandChosenInAnOperationRunsAfterIt()
     f.Choose("Line");
     f.Click();
 
-    QVERIFY(f.log == (Log{"Line.begin", "Line.click", "Line.click done", "Line.end", "Line.delete",
-                          "Erase.begin"}));
+    QCOMPARE(f.log, (Log{"Line.begin", "Line.click", "Line.click done", "Line.end", "Line.delete",
+                         "Erase.begin"}));
 }
 
 void ActionWithoutLoopTest::anActionThatIsFinishedAtItsBeginEndsAtOnce()
@@ -155,7 +154,7 @@ void ActionWithoutLoopTest::anActionThatIsFinishedAtItsBeginEndsAtOnce()
 
     f.Choose("Line");
 
-    QVERIFY(f.log == (Log{"Line.begin", "Line.end", "Line.delete"}));
+    QCOMPARE(f.log, (Log{"Line.begin", "Line.end", "Line.delete"}));
 }
 
 void ActionWithoutLoopTest::theViewKeepsItsKeyboard()

@@ -1,6 +1,7 @@
 #include "Host/Command/ActionFixture.h"
 
-#include <QtTest>
+#include "Support/HostValues.h"
+#include "Support/TestValues.h"
 
 namespace vesk
 {
@@ -124,7 +125,7 @@ void CommandRecordTest::aPlainCommandDisabledBesideAnActionIsRefused()
 
     f.Choose("Line");
 
-    QVERIFY(f.log == (Log{"Line.begin", "Line.click", "Line.end", "Line.delete"}));
+    QCOMPARE(f.log, (Log{"Line.begin", "Line.click", "Line.end", "Line.delete"}));
     QVERIFY(f.HasRecord(R"({"n":2,"kind":"end","result":"refused"})"));
 }
 
@@ -162,7 +163,7 @@ void CommandRecordTest::aCommandThatWaitsKeepsItsParameters()
     f.Choose("Line");
 
     QVERIFY(seen.Find(L"Steps") != nullptr);
-    QVERIFY(*seen.Find(L"Steps") == CommandParameterValue(3));
+    QCOMPARE(*seen.Find(L"Steps"), CommandParameterValue(3));
 }
 
 void CommandRecordTest::theRecordIsCompletedWhenTheActionIsGone()
@@ -173,7 +174,7 @@ void CommandRecordTest::theRecordIsCompletedWhenTheActionIsGone()
 
     f.Choose("Line");
 
-    QVERIFY(f.log == (Log{"Line.begin", "Line.end", "Line.delete", "end 1"}));
+    QCOMPARE(f.log, (Log{"Line.begin", "Line.end", "Line.delete", "end 1"}));
 }
 
 void CommandRecordTest::recordsAreCompletedInTheOrderOfTheEnds()
@@ -188,8 +189,8 @@ void CommandRecordTest::recordsAreCompletedInTheOrderOfTheEnds()
 
     f.Choose("Line");
 
-    QVERIFY(f.log == (Log{"Line.begin", "Undo", "end 2", "Line.end", "Line.delete", "end 1",
-                          "Erase.begin", "Erase.end", "Erase.delete", "end 3"}));
+    QCOMPARE(f.log, (Log{"Line.begin", "Undo", "end 2", "Line.end", "Line.delete", "end 1",
+                         "Erase.begin", "Erase.end", "Erase.delete", "end 3"}));
 }
 
 void CommandRecordTest::aCommandWithoutARecordWritesNoEnd()

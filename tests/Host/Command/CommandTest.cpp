@@ -3,8 +3,8 @@
 #include "Command/CommandParameters.h"
 #include "Command/IAction.h"
 #include "Command/ICommandManager.h"
-
-#include <QtTest>
+#include "Support/HostValues.h"
+#include "Support/TestValues.h"
 
 namespace vesk
 {
@@ -90,7 +90,7 @@ void CommandTest::aCommandExecutesItsFunction()
     const OwnerPtr<IAction> opAction = command.Execute(nullptr, parameters);
 
     QVERIFY(opAction == nullptr);
-    QVERIFY(seen == parameters);
+    QCOMPARE(seen, parameters);
 }
 
 void CommandTest::aRegisteredCommandIsFoundByItsId()
@@ -138,7 +138,7 @@ void CommandTest::aParameterOfTheSameNameReplacesTheFirst()
     parameters.Add(L"Steps", CommandParameterValue(std::wstring(L"all")));
 
     QCOMPARE(parameters.GetAll().size(), std::size_t(1));
-    QVERIFY(*parameters.Find(L"Steps") == CommandParameterValue(std::wstring(L"all")));
+    QCOMPARE(*parameters.Find(L"Steps"), CommandParameterValue(std::wstring(L"all")));
     QVERIFY(parameters.Find(L"Other") == nullptr);
 }
 
@@ -146,7 +146,7 @@ void CommandTest::parametersOfAnotherTypeAreNotEqual()
 {
     QVERIFY(!(CommandParameterValue(1) == CommandParameterValue(1.0)));
     QVERIFY(!(CommandParameterValue(1) == CommandParameterValue(true)));
-    QVERIFY(CommandParameterValue(1.0) == CommandParameterValue(1.0));
+    QCOMPARE(CommandParameterValue(1.0), CommandParameterValue(1.0));
 }
 
 }

@@ -9,8 +9,7 @@
 #include "Host/Dimension/HandlerStandIns.h"
 #include "Journal/JournalManager.h"
 #include "Journal/NqIJournalFactory.h"
-
-#include <QtTest>
+#include "Support/TestValues.h"
 
 #include <memory>
 
@@ -74,7 +73,7 @@ void HostCoreTest::itEndsTheActionThatRuns()
 
     pCore.reset();
 
-    QVERIFY(log == (Log{"Line.begin", "Line.end", "Line.delete"}));
+    QCOMPARE(log, (Log{"Line.begin", "Line.end", "Line.delete"}));
     QVERIFY(IActionManager::CurrentAction() == nullptr);
 }
 

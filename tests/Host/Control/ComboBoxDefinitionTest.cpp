@@ -2,9 +2,8 @@
 
 #include "Control/ControlDefinitionChangeByUser.h"
 #include "Host/Control/ChangeRecorder.h"
+#include "Support/TestValues.h"
 #include "Support/WarningRecorder.h"
-
-#include <QtTest>
 
 #include <memory>
 

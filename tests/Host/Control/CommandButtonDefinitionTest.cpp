@@ -2,8 +2,7 @@
 
 #include "Control/LabelDefinition.h"
 #include "Host/Control/ChangeRecorder.h"
-
-#include <QtTest>
+#include "Support/TestValues.h"
 
 #include <memory>
 

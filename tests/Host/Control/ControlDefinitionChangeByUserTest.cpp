@@ -1,6 +1,6 @@
 #include "Control/ControlDefinitionChangeByUser.h"
 
-#include <QtTest>
+#include "Support/TestValues.h"
 
 namespace vesk
 {

@@ -4,8 +4,7 @@
 #include "Control/LabelDefinition.h"
 #include "Host/AllocationCounter.h"
 #include "Host/Control/ChangeRecorder.h"
-
-#include <QtTest>
+#include "Support/TestValues.h"
 
 #include <memory>
 

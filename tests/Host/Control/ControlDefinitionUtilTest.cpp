@@ -8,8 +8,7 @@
 #include "Control/IRadioButtonGroupDefinition.h"
 #include "Control/LabelDefinition.h"
 #include "Control/LineEditDefinition.h"
-
-#include <QtTest>
+#include "Support/TestValues.h"
 
 namespace vesk
 {

@@ -10,8 +10,7 @@
 #include "Control/NqUiInterfaceFactory.h"
 #include "Control/VeskIControlFactory.h"
 #include "Foundation/IDebugWarningDisplayer.h"
-
-#include <QtTest>
+#include "Support/TestValues.h"
 
 #include <memory>
 

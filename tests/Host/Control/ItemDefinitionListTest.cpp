@@ -3,9 +3,8 @@
 #include "Control/ControlDefinitionChangeByUser.h"
 #include "Control/LabelDefinition.h"
 #include "Host/Control/ChangeRecorder.h"
+#include "Support/TestValues.h"
 #include "Support/WarningRecorder.h"
-
-#include <QtTest>
 
 #include <memory>
 

@@ -3,9 +3,8 @@
 #include "Control/ControlDefinitionChangeByUser.h"
 #include "Control/ControlDefinitionUtil.h"
 #include "Host/Control/ChangeRecorder.h"
+#include "Support/TestValues.h"
 #include "Validation/NumberValidator.h"
-
-#include <QtTest>
 
 #include <memory>
 

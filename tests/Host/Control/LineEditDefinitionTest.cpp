@@ -2,9 +2,8 @@
 
 #include "Control/ControlDefinitionChangeByUser.h"
 #include "Host/Control/ChangeRecorder.h"
+#include "Support/TestValues.h"
 #include "Validation/NumberValidator.h"
-
-#include <QtTest>
 
 #include <limits>
 #include <memory>

@@ -1,8 +1,7 @@
 #include "Control/ProgressBarDefinition.h"
 
 #include "Host/Control/ChangeRecorder.h"
-
-#include <QtTest>
+#include "Support/TestValues.h"
 
 #include <memory>
 

@@ -5,8 +5,7 @@
 #include "Dimension/TemporaryDimensionStyle.h"
 #include "Graphics/IGraphicsNode.h"
 #include "Host/Dimension/DrawnNodes.h"
-
-#include <QtTest>
+#include "Support/TestValues.h"
 
 #include <cmath>
 
@@ -125,7 +124,7 @@ void CentreArcDimensionsTest::anAngleIsNoNegativeZero()
 
     f.MakeAngle();
 
-    QVERIFY(f.GetAngle() == 0.0);
+    QCOMPARE_EXACTLY(f.GetAngle(), 0.0);
     QVERIFY(!std::signbit(f.GetAngle()));
 }
 
@@ -145,7 +144,7 @@ void CentreArcDimensionsTest::theRadiusIsTheDistanceToTheStart()
 
     f.MakeRadius();
 
-    QVERIFY(f.GetRadius() == 50.0);
+    QCOMPARE_EXACTLY(f.GetRadius(), 50.0);
 }
 
 void CentreArcDimensionsTest::theRadiusIsInTheUnitShown()
@@ -289,8 +288,8 @@ void CentreArcDimensionsTest::aCircleOfNoRadiusHasItsTextsOnly()
 
     QCOMPARE(opAngle->GetChildCount(), 1);
     QCOMPARE(opRadius->GetChildCount(), 1);
-    QVERIFY(f.GetRadius() == 0.0);
-    QVERIFY(f.GetAngle() == 0.0);
+    QCOMPARE_EXACTLY(f.GetRadius(), 0.0);
+    QCOMPARE_EXACTLY(f.GetAngle(), 0.0);
     QVERIFY((f.GetRadiusPosition() - f.centre).norm() < 100);
     QVERIFY((f.GetAnglePosition() - f.centre).norm() < 100);
 }
@@ -303,7 +302,7 @@ void CentreArcDimensionsTest::anEndAtTheCentreHasNoAngle()
 
     const OwnerPtr<IGraphicsNodeGroup> opAngle = f.MakeAngle();
 
-    QVERIFY(f.GetAngle() == 0.0);
+    QCOMPARE_EXACTLY(f.GetAngle(), 0.0);
     QVERIFY(DrawnNodes(*opAngle).arcs.empty());
     QCOMPARE(DrawnNodes(*opAngle).lines.size(), std::size_t(1));
     QVERIFY(DrawnNodes(*opAngle).HasLine(f.centre, f.start));
@@ -317,7 +316,7 @@ void CentreArcDimensionsTest::anEndHardlyOffTheCentreHasNoAngle()
 
     f.MakeAngle();
 
-    QVERIFY(f.GetAngle() == 0.0);
+    QCOMPARE_EXACTLY(f.GetAngle(), 0.0);
 }
 
 void CentreArcDimensionsTest::theTextsAreTheValues()
@@ -330,9 +329,9 @@ void CentreArcDimensionsTest::theTextsAreTheValues()
     const IGraphicsText& radius = *DrawnNodes(*opRadius).texts.at(0);
     const IGraphicsText& angle = *DrawnNodes(*opAngle).texts.at(0);
     QCOMPARE(radius.GetText(), std::wstring(L"R200.000"));
-    QVERIFY(radius.GetPosition() == f.GetRadiusPosition());
+    QCOMPARE(radius.GetPosition(), f.GetRadiusPosition());
     QCOMPARE(angle.GetText(), std::wstring(L"90.00\u00B0"));
-    QVERIFY(angle.GetPosition() == f.GetAnglePosition());
+    QCOMPARE(angle.GetPosition(), f.GetAnglePosition());
     QVERIFY(DrawnNodes(*opRadius).AreAll(GraphicsRole::Dimension));
     QVERIFY(DrawnNodes(*opAngle).AreAll(GraphicsRole::Dimension));
 }

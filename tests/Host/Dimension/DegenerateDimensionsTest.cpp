@@ -1,10 +1,10 @@
 #include "Host/Dimension/DrawnNodes.h"
 #include "Host/Dimension/GeneratorKinds.h"
 #include "Host/View/StubView.h"
+#include "Support/HostValues.h"
+#include "Support/TestValues.h"
 #include "View/IUiDocumentViewManager.h"
 #include "View/ModelView.h"
-
-#include <QtTest>
 
 #include <cmath>
 #include <limits>
@@ -178,8 +178,8 @@ void DegenerateDimensionsTest::whatIsNoPointLeavesTheData()
     const OwnerPtr<IGraphicsNodeGroup> opGroup = generator.pGenerate(points, input);
 
     QCOMPARE(opGroup->GetChildCount(), 0);
-    QVERIFY(input.data[generator.field].textPosition == Vector3d(1, 2, 3));
-    QVERIFY(input.data[generator.field].value == 4.0);
+    QCOMPARE(input.data[generator.field].textPosition, Vector3d(1, 2, 3));
+    QCOMPARE_EXACTLY(input.data[generator.field].value, 4.0);
 }
 
 void DegenerateDimensionsTest::whatIsNoPixelCountsAsOne_data()
@@ -208,7 +208,7 @@ void DegenerateDimensionsTest::whatIsNoPixelCountsAsOne()
     const OwnerPtr<IGraphicsNodeGroup> opGroup = generator.pGenerate(points, none);
 
     QVERIFY(DrawnNodes(*opGroup).AreNumbers());
-    QVERIFY(none.data[generator.field].textPosition == one.data[generator.field].textPosition);
+    QCOMPARE(none.data[generator.field].textPosition, one.data[generator.field].textPosition);
 }
 
 void DegenerateDimensionsTest::anglesNeverReachMinusAHalfTurn_data()
@@ -233,7 +233,7 @@ void DegenerateDimensionsTest::anglesNeverReachMinusAHalfTurn()
 
     const OwnerPtr<IGraphicsNodeGroup> opGroup = generator.pGenerate(points, input);
 
-    QVERIFY(input.data[generator.field].value == 180.0);
+    QCOMPARE_EXACTLY(input.data[generator.field].value, 180.0);
     QVERIFY(DrawnNodes(*opGroup).arcs.at(0)->GetSweep() > 3.14);
 }
 

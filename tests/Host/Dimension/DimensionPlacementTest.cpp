@@ -1,5 +1,6 @@
 #include "Host/Dimension/GeneratorKinds.h"
 #include "Host/View/StubView.h"
+#include "Support/TestValues.h"
 #include "View/IUiDocumentViewManager.h"
 #include "View/ModelView.h"
 #include "View/UiViewUtility.h"
@@ -7,7 +8,6 @@
 #include <Eigen/Geometry>
 
 #include <QRect>
-#include <QtTest>
 
 #include <cmath>
 #include <random>

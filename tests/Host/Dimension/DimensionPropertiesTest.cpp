@@ -1,8 +1,8 @@
 #include "Host/Dimension/DrawnNodes.h"
 #include "Host/Dimension/GeneratorKinds.h"
 #include "Host/Dimension/RandomPlane.h"
-
-#include <QtTest>
+#include "Support/HostValues.h"
+#include "Support/TestValues.h"
 
 #include <cmath>
 #include <limits>
@@ -140,7 +140,7 @@ void DimensionPropertiesTest::anglesAreWhatTheyWereMadeFrom()
         const Wide expected = std::arg(from) * DegreesPerRadian;
         QVERIFY(direction.IsWithin(AngleBetween(along, expected), unit, s_limit));
         QVERIFY(central.IsWithin(AngleBetween(angle, turn), unit, s_limit));
-        QVERIFY(input.data[InputState::IS_CentralAngle].value == angle);
+        QCOMPARE_EXACTLY(input.data[InputState::IS_CentralAngle].value, angle);
         QVERIFY(angle > -180.0 && angle <= 180.0);
     }
     direction.Print();

@@ -6,8 +6,8 @@
 #include "Dimension/TemporaryDimensionData.h"
 #include "Dimension/TemporaryDimensionStyle.h"
 #include "Graphics/IGraphicsNode.h"
-
-#include <QtTest>
+#include "Support/HostValues.h"
+#include "Support/TestValues.h"
 
 using Unit = const vesk::LengthUnit*;
 Q_DECLARE_METATYPE(Unit)

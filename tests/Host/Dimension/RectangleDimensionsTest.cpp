@@ -5,8 +5,8 @@
 #include "Dimension/TemporaryDimensionStyle.h"
 #include "Graphics/IGraphicsNode.h"
 #include "Host/Dimension/DrawnNodes.h"
-
-#include <QtTest>
+#include "Support/HostValues.h"
+#include "Support/TestValues.h"
 
 namespace vesk
 {
@@ -99,8 +99,8 @@ void RectangleDimensionsTest::theValuesAreTheExtentsAlongTheAxes()
     f.MakeWidth();
     f.MakeHeight();
 
-    QVERIFY(f.GetWidth() == 30.5);
-    QVERIFY(f.GetHeight() == 40.25);
+    QCOMPARE_EXACTLY(f.GetWidth(), 30.5);
+    QCOMPARE_EXACTLY(f.GetHeight(), 40.25);
 }
 
 void RectangleDimensionsTest::theValuesAreInTheUnitShown()
@@ -227,7 +227,7 @@ void RectangleDimensionsTest::aPointHasTwoTexts()
 
     QCOMPARE(opWidth->GetChildCount(), 1);
     QCOMPARE(opHeight->GetChildCount(), 1);
-    QVERIFY(f.GetWidth() == 0.0);
+    QCOMPARE_EXACTLY(f.GetWidth(), 0.0);
     QVERIFY(f.GetWidthPosition() != f.GetHeightPosition());
 }
 
@@ -241,9 +241,9 @@ void RectangleDimensionsTest::theTextsAreTheValues()
     const IGraphicsText& width = *DrawnNodes(*opWidth).texts.at(0);
     const IGraphicsText& height = *DrawnNodes(*opHeight).texts.at(0);
     QCOMPARE(width.GetText(), std::wstring(L"200.000"));
-    QVERIFY(width.GetPosition() == f.GetWidthPosition());
+    QCOMPARE(width.GetPosition(), f.GetWidthPosition());
     QCOMPARE(height.GetText(), std::wstring(L"100.000"));
-    QVERIFY(height.GetPosition() == f.GetHeightPosition());
+    QCOMPARE(height.GetPosition(), f.GetHeightPosition());
     QVERIFY(DrawnNodes(*opWidth).AreAll(GraphicsRole::Dimension));
 }
 

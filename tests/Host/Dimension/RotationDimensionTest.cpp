@@ -4,8 +4,7 @@
 #include "Dimension/TemporaryDimensionStyle.h"
 #include "Graphics/IGraphicsNode.h"
 #include "Host/Dimension/DrawnNodes.h"
-
-#include <QtTest>
+#include "Support/TestValues.h"
 
 #include <cmath>
 
@@ -94,7 +93,7 @@ void RotationDimensionTest::theAngleRunsFromMinus180Above180()
 
     f.Make();
 
-    QVERIFY(f.GetAngle() == degrees);
+    QCOMPARE_EXACTLY(f.GetAngle(), degrees);
 }
 
 void RotationDimensionTest::theTurnIsAnArcWithAnArrowAtItsEnd()
@@ -217,7 +216,7 @@ void RotationDimensionTest::aPointAtTheCentreHasNoDirection()
     const OwnerPtr<IGraphicsNodeGroup> opTurn = f.Make();
 
     const DrawnNodes drawn(*opTurn);
-    QVERIFY(f.GetAngle() == 0.0);
+    QCOMPARE_EXACTLY(f.GetAngle(), 0.0);
     QVERIFY(drawn.arcs.empty());
     QCOMPARE(static_cast<int>(drawn.lines.size()), lines);
     QCOMPARE(drawn.texts.at(0)->GetText(), std::wstring(L"0.00\u00B0"));
@@ -243,7 +242,7 @@ void RotationDimensionTest::theTextIsTheValue()
 
     const IGraphicsText& text = *DrawnNodes(*opTurn).texts.at(0);
     QCOMPARE(text.GetText(), std::wstring(L"90.00\u00B0"));
-    QVERIFY(text.GetPosition() == f.GetPosition());
+    QCOMPARE(text.GetPosition(), f.GetPosition());
     QVERIFY(DrawnNodes(*opTurn).AreAll(GraphicsRole::Dimension));
 }
 
@@ -276,7 +275,7 @@ void RotationDimensionTest::otherTextsPlayNoPart()
 
     f.Make();
 
-    QVERIFY(f.GetPosition() == alone);
+    QCOMPARE(f.GetPosition(), alone);
 }
 
 }

@@ -5,8 +5,8 @@
 #include "Dimension/TemporaryDimensionStyle.h"
 #include "Graphics/IGraphicsNode.h"
 #include "Host/Dimension/DrawnNodes.h"
-
-#include <QtTest>
+#include "Support/HostValues.h"
+#include "Support/TestValues.h"
 
 #include <cmath>
 #include <limits>
@@ -93,7 +93,7 @@ void TemporaryDimensionCommonsTest::theDimensionLineRunsBesideTheSegment()
 
     const DrawnNodes drawn(*opGroup);
     QVERIFY(drawn.HasLine({0, 28, 0}, {100, 28, 0}));
-    QVERIFY(f.data[InputState::IS_Length].textPosition == Vector3d(50, 28, 0));
+    QCOMPARE(f.data[InputState::IS_Length].textPosition, Vector3d(50, 28, 0));
 }
 
 void TemporaryDimensionCommonsTest::extensionLinesLeaveAGapAndOvershoot()
@@ -195,8 +195,8 @@ void TemporaryDimensionCommonsTest::theArcRunsFromTheXAxisToTheSegment()
 
     const DrawnNodes drawn(*opGroup);
     QCOMPARE(drawn.arcs.size(), std::size_t(1));
-    QVERIFY(drawn.arcs[0]->GetCentre() == f.start);
-    QVERIFY(drawn.arcs[0]->GetXAxis() == Vector3d::UnitX());
+    QCOMPARE(drawn.arcs[0]->GetCentre(), f.start);
+    QCOMPARE(drawn.arcs[0]->GetXAxis(), Vector3d(Vector3d::UnitX()));
     QCOMPARE(drawn.arcs[0]->GetRadius(), 60.0);
     QCOMPARE(drawn.arcs[0]->GetSweep(), -90 * s_degree);
     QVERIFY(drawn.HasLine({10, 20, 0}, {82, 20, 0}));
@@ -236,9 +236,9 @@ void TemporaryDimensionCommonsTest::theTextStandsAtItsPosition()
     const IGraphicsText& length = *DrawnNodes(*opLength).texts.at(0);
     const IGraphicsText& angle = *DrawnNodes(*opAngle).texts.at(0);
     QCOMPARE(length.GetText(), std::wstring(L"200.000"));
-    QVERIFY(length.GetPosition() == f.data[InputState::IS_Length].textPosition);
+    QCOMPARE(length.GetPosition(), f.data[InputState::IS_Length].textPosition);
     QCOMPARE(angle.GetText(), std::wstring(L"90.00\u00B0"));
-    QVERIFY(angle.GetPosition() == f.data[InputState::IS_Angle].textPosition);
+    QCOMPARE(angle.GetPosition(), f.data[InputState::IS_Angle].textPosition);
     QVERIFY(DrawnNodes(*opLength).AreAll(GraphicsRole::Dimension));
     QVERIFY(DrawnNodes(*opAngle).AreAll(GraphicsRole::Dimension));
 }
@@ -300,9 +300,9 @@ void TemporaryDimensionCommonsTest::dimensionsStandInThePlaneOfTheCoordinateSyst
     QCOMPARE(f.data[InputState::IS_Angle].value, 90.0);
     QCOMPARE(f.data[InputState::IS_Length].textPosition.x(), 7.0);
     QCOMPARE(f.data[InputState::IS_Length].textPosition.z(), 100.0);
-    QVERIFY(DrawnNodes(*opAngle).arcs.at(0)->GetXAxis() == Vector3d::UnitY());
-    QVERIFY(DrawnNodes(*opAngle).arcs.at(0)->GetYAxis() == Vector3d::UnitZ());
-    QVERIFY(DrawnNodes(*opLength).lines.at(0)->GetStart().x() == 7.0);
+    QCOMPARE(DrawnNodes(*opAngle).arcs.at(0)->GetXAxis(), Vector3d(Vector3d::UnitY()));
+    QCOMPARE(DrawnNodes(*opAngle).arcs.at(0)->GetYAxis(), Vector3d(Vector3d::UnitZ()));
+    QCOMPARE_EXACTLY(DrawnNodes(*opLength).lines.at(0)->GetStart().x(), 7.0);
 }
 
 void TemporaryDimensionCommonsTest::whatIsNoSegmentHasNoGraphics_data()

@@ -3,8 +3,8 @@
 #include "Host/Command/ActionStandIns.h"
 #include "Host/Dimension/HandlerStandIns.h"
 #include "HostCore.h"
-
-#include <QtTest>
+#include "Support/HostValues.h"
+#include "Support/TestValues.h"
 
 namespace vesk
 {
@@ -80,7 +80,7 @@ void TemporaryDimensionMgrTest::aContextGetsAHandlerAndGraphics()
 
     QVERIFY(Manager().HasHandler());
     QVERIFY(Manager().GetGraphics() != nullptr);
-    QVERIFY(f.TakeLog() == (Log{"1.made", "1.graphics"}));
+    QCOMPARE(f.TakeLog(), (Log{"1.made", "1.graphics"}));
 }
 
 void TemporaryDimensionMgrTest::aContextOfTheSameKindKeepsTheHandler()
@@ -91,7 +91,7 @@ void TemporaryDimensionMgrTest::aContextOfTheSameKindKeepsTheHandler()
 
     f.SetContext(1);
 
-    QVERIFY(f.TakeLog() == (Log{"1.graphics"}));
+    QCOMPARE(f.TakeLog(), (Log{"1.graphics"}));
 }
 
 void TemporaryDimensionMgrTest::aContextOfAnotherKindReplacesTheHandler()
@@ -102,7 +102,7 @@ void TemporaryDimensionMgrTest::aContextOfAnotherKindReplacesTheHandler()
 
     f.SetContext(2);
 
-    QVERIFY(f.TakeLog() == (Log{"2.made", "1.end input", "2.graphics", "1.delete"}));
+    QCOMPARE(f.TakeLog(), (Log{"2.made", "1.end input", "2.graphics", "1.delete"}));
     QVERIFY(Manager().HasHandler());
 }
 
@@ -141,7 +141,7 @@ void TemporaryDimensionMgrTest::aContextWithoutHandlerKeepsTheCurrentOne()
 
     f.SetContext(0);
 
-    QVERIFY(f.TakeLog() == (Log{"1.graphics"}));
+    QCOMPARE(f.TakeLog(), (Log{"1.graphics"}));
 }
 
 void TemporaryDimensionMgrTest::noContextDropsTheHandler()
@@ -152,7 +152,7 @@ void TemporaryDimensionMgrTest::noContextDropsTheHandler()
 
     Manager().SetContext(nullptr);
 
-    QVERIFY(f.TakeLog() == (Log{"1.end input", "1.delete"}));
+    QCOMPARE(f.TakeLog(), (Log{"1.end input", "1.delete"}));
     QVERIFY(!Manager().HasHandler());
     QVERIFY(Manager().GetGraphics() == nullptr);
 }
@@ -177,7 +177,7 @@ void TemporaryDimensionMgrTest::droppingEndsTheInputAndActivatesTheView()
 
     Manager().Drop();
 
-    QVERIFY(f.TakeLog() == (Log{"1.end input", "1.delete"}));
+    QCOMPARE(f.TakeLog(), (Log{"1.end input", "1.delete"}));
     QCOMPARE(f.view.GetActivationCount(), 1);
 }
 
@@ -190,7 +190,7 @@ void TemporaryDimensionMgrTest::withdrawingTheFactoryDropsTheHandler()
 
     Manager().SetHandlerFactory(nullptr);
 
-    QVERIFY(f.TakeLog() == (Log{"1.end input", "1.end input done", "1.delete"}));
+    QCOMPARE(f.TakeLog(), (Log{"1.end input", "1.end input done", "1.delete"}));
     QVERIFY(!Manager().HasHandler());
 }
 
@@ -230,7 +230,7 @@ void TemporaryDimensionMgrTest::anOpenEditorFollowsTheContext()
 
     f.SetContext(1);
 
-    QVERIFY(f.TakeLog() == (Log{"1.graphics", "place"}));
+    QCOMPARE(f.TakeLog(), (Log{"1.graphics", "place"}));
 }
 
 void TemporaryDimensionMgrTest::regeneratingPlacesTheEditorAgain()
@@ -242,7 +242,7 @@ void TemporaryDimensionMgrTest::regeneratingPlacesTheEditorAgain()
 
     f.Regenerate(1);
 
-    QVERIFY(f.TakeLog() == (Log{"1.graphics", "place"}));
+    QCOMPARE(f.TakeLog(), (Log{"1.graphics", "place"}));
     QVERIFY(Manager().IsInputting());
 }
 
@@ -257,7 +257,7 @@ void TemporaryDimensionMgrTest::regeneratingNeverMakesReplacesOrDropsAHandler()
     f.Regenerate(2);
     Manager().Regenerate(nullptr);
 
-    QVERIFY(f.TakeLog() == (Log{"1.graphics"}));
+    QCOMPARE(f.TakeLog(), (Log{"1.graphics"}));
     QVERIFY(Manager().HasHandler());
     QVERIFY(Manager().GetGraphics() != nullptr);
 }
@@ -298,7 +298,7 @@ void TemporaryDimensionMgrTest::aHandlerDroppedInItsKeyIsFreedAfterIt()
 
     QVERIFY(Manager().OnKeyDown('1', false, false, false));
 
-    QVERIFY(f.TakeLog() == (Log{"1.key", "1.end input", "1.key done", "1.delete"}));
+    QCOMPARE(f.TakeLog(), (Log{"1.key", "1.end input", "1.key done", "1.delete"}));
     QVERIFY(!Manager().HasHandler());
 }
 
@@ -311,7 +311,7 @@ void TemporaryDimensionMgrTest::aHandlerDroppedWhileItIsDroppedIsFreedOnce()
 
     Manager().Drop();
 
-    QVERIFY(f.TakeLog() == (Log{"1.end input", "1.end input done", "1.delete"}));
+    QCOMPARE(f.TakeLog(), (Log{"1.end input", "1.end input done", "1.delete"}));
 }
 
 void TemporaryDimensionMgrTest::aHandlerReplacedWhileItsInputEndsStaysTheNewOne()
@@ -352,7 +352,7 @@ void TemporaryDimensionMgrTest::drawingInsideDrawingDoesNothing()
 
     f.SetContext(1);
 
-    QVERIFY(f.TakeLog() == (Log{"1.made", "1.graphics", "1.graphics done"}));
+    QCOMPARE(f.TakeLog(), (Log{"1.made", "1.graphics", "1.graphics done"}));
 }
 
 void TemporaryDimensionMgrTest::locksAreRemembered()
@@ -362,8 +362,8 @@ void TemporaryDimensionMgrTest::locksAreRemembered()
     Manager().SetLocked(InputState::IS_Angle, true);
     Manager().SetLocked(InputState::IS_Length, true);
     Manager().SetLocked(InputState::IS_Length, true);
-    QVERIFY(Manager().GetLocked() ==
-            (std::vector<InputState>{InputState::IS_Length, InputState::IS_Angle}));
+    QCOMPARE(Manager().GetLocked(),
+             (std::vector<InputState>{InputState::IS_Length, InputState::IS_Angle}));
 
     Manager().SetLocked(InputState::IS_Length, false);
     QVERIFY(!Manager().IsLocked(InputState::IS_Length));

@@ -2,8 +2,8 @@
 
 #include "Dimension/LinearTemporaryDimensionContext.h"
 #include "Dimension/TemporaryDimensionData.h"
-
-#include <QtTest>
+#include "Support/HostValues.h"
+#include "Support/TestValues.h"
 
 #include <limits>
 
@@ -90,8 +90,8 @@ void TemporaryDimensionStyleTest::aLinearContextTakesLengthsAndAnglesOfTheModel(
     QCOMPARE(context.GetFirstValueRange().GetMax(), 1e9);
     QCOMPARE(context.GetSecondValueRange().GetMin(), -360.0);
     QCOMPARE(context.GetSecondValueRange().GetMax(), 360.0);
-    QVERIFY(context.GetStartPoint() == Vector3d(1, 2, 3));
-    QVERIFY(context.GetEndPoint() == Vector3d(4, 5, 6));
+    QCOMPARE(context.GetStartPoint(), Vector3d(1, 2, 3));
+    QCOMPARE(context.GetEndPoint(), Vector3d(4, 5, 6));
     QVERIFY(context.IsLengthEnabled() && context.IsAngleEnabled());
 }
 

@@ -3,12 +3,13 @@
 #include "Dimension/TemporaryDimensionStyle.h"
 #include "Graphics/IGraphicsNode.h"
 #include "Host/View/StubView.h"
+#include "Support/HostValues.h"
+#include "Support/TestValues.h"
 #include "View/IUiDocumentViewManager.h"
 #include "View/ModelView.h"
 #include "View/UiViewUtility.h"
 
 #include <QRect>
-#include <QtTest>
 
 #include <cmath>
 #include <random>
@@ -248,7 +249,7 @@ void TextPlacementTest::anAngleAloneKeepsOffNothing()
 
     f.Generate(false);
 
-    QVERIFY(f.data[InputState::IS_Angle].textPosition == preferred);
+    QCOMPARE(f.data[InputState::IS_Angle].textPosition, preferred);
 }
 
 void TextPlacementTest::textsOfATiltedPlaneAreInTheView()

@@ -5,8 +5,8 @@
 #include "Dimension/TemporaryDimensionStyle.h"
 #include "Graphics/IGraphicsNode.h"
 #include "Host/Dimension/DrawnNodes.h"
-
-#include <QtTest>
+#include "Support/HostValues.h"
+#include "Support/TestValues.h"
 
 #include <cmath>
 
@@ -107,7 +107,7 @@ void ThreePointArcDimensionsTest::theRadiusIsThatOfTheCircle()
 
     f.MakeRadius();
 
-    QVERIFY(f.GetRadius() == 125.0);
+    QCOMPARE_EXACTLY(f.GetRadius(), 125.0);
 }
 
 void ThreePointArcDimensionsTest::theRadiusIsInTheUnitShown()
@@ -288,9 +288,9 @@ void ThreePointArcDimensionsTest::theTextsAreTheValues()
     const IGraphicsText& radius = *DrawnNodes(*opRadius).texts.at(0);
     const IGraphicsText& angle = *DrawnNodes(*opAngle).texts.at(0);
     QCOMPARE(radius.GetText(), std::wstring(L"R125.000"));
-    QVERIFY(radius.GetPosition() == f.GetRadiusPosition());
+    QCOMPARE(radius.GetPosition(), f.GetRadiusPosition());
     QCOMPARE(angle.GetText(), std::wstring(L"90.00\u00B0"));
-    QVERIFY(angle.GetPosition() == f.GetAnglePosition());
+    QCOMPARE(angle.GetPosition(), f.GetAnglePosition());
     QVERIFY(DrawnNodes(*opRadius).AreAll(GraphicsRole::Dimension));
     QVERIFY(DrawnNodes(*opAngle).AreAll(GraphicsRole::Dimension));
 }
@@ -367,10 +367,10 @@ void ThreePointArcDimensionsTest::withoutACircleNothingIsDrawn()
 
     QCOMPARE(opRadius->GetChildCount(), 0);
     QCOMPARE(opAngle->GetChildCount(), 0);
-    QVERIFY(f.GetRadius() == 0.0);
-    QVERIFY(f.GetAngle() == 0.0);
+    QCOMPARE_EXACTLY(f.GetRadius(), 0.0);
+    QCOMPARE_EXACTLY(f.GetAngle(), 0.0);
     QVERIFY((f.GetRadiusPosition() - third - Vector3d(0, 25, 0)).norm() < 1e-9);
-    QVERIFY(f.GetAnglePosition() == third);
+    QCOMPARE(f.GetAnglePosition(), third);
 }
 
 void ThreePointArcDimensionsTest::pointsOffThePlaneCountAsSeenAlongItsNormal()

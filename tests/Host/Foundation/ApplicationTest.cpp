@@ -1,7 +1,6 @@
 #include "Foundation/IApplication.h"
 #include "Foundation/Platform.h"
-
-#include <QtTest>
+#include "Support/TestValues.h"
 
 namespace vesk
 {

@@ -2,10 +2,10 @@
 
 #include "Foundation/DebugMessageMgr.h"
 #include "Host/Foundation/LogFile.h"
+#include "Support/TestValues.h"
 
 #include <QCoreApplication>
 #include <QProcess>
-#include <QtTest>
 
 namespace vesk
 {

@@ -2,8 +2,7 @@
 
 #include "Foundation/DebugMessageMgr.h"
 #include "Host/Foundation/LogFile.h"
-
-#include <QtTest>
+#include "Support/TestValues.h"
 
 namespace vesk
 {

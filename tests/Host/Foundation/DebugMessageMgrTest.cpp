@@ -3,12 +3,12 @@
 #include "Host/Foundation/LogFile.h"
 #include "Host/Foundation/RaiseWarning.h"
 #include "Journal/JournalManager.h"
+#include "Support/TestValues.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QProcess>
 #include <QRegularExpression>
-#include <QtTest>
 
 namespace vesk
 {

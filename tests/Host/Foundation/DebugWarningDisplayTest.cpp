@@ -3,8 +3,7 @@
 #include "Foundation/IDebugWarningDisplayer.h"
 #include "Foundation/IDebugWarningScheduler.h"
 #include "Host/Foundation/RaiseWarning.h"
-
-#include <QtTest>
+#include "Support/TestValues.h"
 
 #include <functional>
 #include <stdexcept>
@@ -157,7 +156,7 @@ void DebugWarningDisplayTest::aWarningIsShown()
 
     Warn(7);
 
-    QVERIFY(f.user.shownLines == Lines{7});
+    QCOMPARE(f.user.shownLines, Lines{7});
 }
 
 void DebugWarningDisplayTest::theDisplayerIsMadeOnce()
@@ -180,7 +179,7 @@ void DebugWarningDisplayTest::theDisplayerGoesWithTheFactory()
 
     Warn(2);
 
-    QVERIFY(user.shownLines == Lines{1});
+    QCOMPARE(user.shownLines, Lines{1});
 }
 
 void DebugWarningDisplayTest::withoutDisplayerTheNextWarningAsksAgain()
@@ -191,7 +190,7 @@ void DebugWarningDisplayTest::withoutDisplayerTheNextWarningAsksAgain()
 
     Warn(1);
 
-    QVERIFY(f.user.shownLines == Lines{1});
+    QCOMPARE(f.user.shownLines, Lines{1});
 }
 
 void DebugWarningDisplayTest::theShownWarningIsKnownWhileItIsShown()
@@ -221,7 +220,7 @@ void DebugWarningDisplayTest::warningsRaisedMeanwhileAreCountedAndNotShown()
 
     Warn(1);
 
-    QVERIFY(f.user.shownLines == Lines{1});
+    QCOMPARE(f.user.shownLines, Lines{1});
     QCOMPARE(suppressed, 4);
     QCOMPARE(Manager().GetUnshownCount(), 4);
 }
@@ -233,7 +232,7 @@ void DebugWarningDisplayTest::aPlaceThatIsIgnoredIsNotShownAgain()
 
     WarnTimes(3, 7);
 
-    QVERIFY(f.user.shownLines == Lines{7});
+    QCOMPARE(f.user.shownLines, Lines{7});
     QCOMPARE(Manager().GetUnshownCount(), 0);
 }
 
@@ -245,7 +244,7 @@ void DebugWarningDisplayTest::anotherPlaceIsShown()
     Warn(7);
     Warn(8);
 
-    QVERIFY(f.user.shownLines == (Lines{7, 8}));
+    QCOMPARE(f.user.shownLines, (Lines{7, 8}));
 }
 
 void DebugWarningDisplayTest::aPlaceIgnoredOnceRestsUntilTheEventLoopDoes()
@@ -253,12 +252,12 @@ void DebugWarningDisplayTest::aPlaceIgnoredOnceRestsUntilTheEventLoopDoes()
     Fixture f;
 
     WarnTimes(10000, 7);
-    QVERIFY(f.user.shownLines == Lines{7});
-    QVERIFY(f.scheduler.delays == std::vector<std::chrono::milliseconds>{std::chrono::seconds(1)});
+    QCOMPARE(f.user.shownLines, Lines{7});
+    QCOMPARE(f.scheduler.delays, std::vector<std::chrono::milliseconds>{std::chrono::seconds(1)});
 
     f.scheduler.Rest();
     Warn(7);
-    QVERIFY(f.user.shownLines == (Lines{7, 7}));
+    QCOMPARE(f.user.shownLines, (Lines{7, 7}));
 }
 
 void DebugWarningDisplayTest::aPlaceIgnoredForGoodStaysSoWhenTheEventLoopRests()
@@ -272,7 +271,7 @@ void DebugWarningDisplayTest::aPlaceIgnoredForGoodStaysSoWhenTheEventLoopRests()
     f.scheduler.Rest();
     Warn(7);
 
-    QVERIFY(f.user.shownLines == (Lines{7, 7}));
+    QCOMPARE(f.user.shownLines, (Lines{7, 7}));
 }
 
 void DebugWarningDisplayTest::withoutEventLoopAPlaceIgnoredOnceIsShownAgain()
@@ -282,7 +281,7 @@ void DebugWarningDisplayTest::withoutEventLoopAPlaceIgnoredOnceIsShownAgain()
 
     WarnTimes(2, 7);
 
-    QVERIFY(f.user.shownLines == (Lines{7, 7}));
+    QCOMPARE(f.user.shownLines, (Lines{7, 7}));
 }
 
 void DebugWarningDisplayTest::whereNoDialogIsAllowedItOpensFromTheEventLoop()
@@ -295,7 +294,7 @@ void DebugWarningDisplayTest::whereNoDialogIsAllowedItOpensFromTheEventLoop()
     f.scheduler.isAllowed = true;
     f.scheduler.ComeRound();
 
-    QVERIFY(f.user.shownLines == Lines{7});
+    QCOMPARE(f.user.shownLines, Lines{7});
 }
 
 void DebugWarningDisplayTest::ofManyPostponedWarningsOneIsShown()
@@ -308,7 +307,7 @@ void DebugWarningDisplayTest::ofManyPostponedWarningsOneIsShown()
     f.scheduler.isAllowed = true;
     f.scheduler.ComeRound();
 
-    QVERIFY(f.user.shownLines == Lines{7});
+    QCOMPARE(f.user.shownLines, Lines{7});
     QCOMPARE(Manager().GetUnshownCount(), 4);
 }
 
@@ -326,7 +325,7 @@ void DebugWarningDisplayTest::aPostponedWarningOfAPlaceThatWasIgnoredIsNotShown(
 
     f.scheduler.ComeRound();
 
-    QVERIFY(f.user.shownLines == Lines{7});
+    QCOMPARE(f.user.shownLines, Lines{7});
 }
 
 void DebugWarningDisplayTest::aWarningOfAnotherThreadOpensFromTheEventLoop()
@@ -338,7 +337,7 @@ void DebugWarningDisplayTest::aWarningOfAnotherThreadOpensFromTheEventLoop()
 
     f.scheduler.ComeRound();
 
-    QVERIFY(f.user.shownLines == Lines{9});
+    QCOMPARE(f.user.shownLines, Lines{9});
 }
 
 void DebugWarningDisplayTest::unattendedNothingIsShownWhileThereIsAnApplication()
@@ -360,7 +359,7 @@ void DebugWarningDisplayTest::unattendedWithoutApplicationItIsShown()
 
     Warn(7);
 
-    QVERIFY(f.user.shownLines == Lines{7});
+    QCOMPARE(f.user.shownLines, Lines{7});
 }
 
 void DebugWarningDisplayTest::aDisplayerThatThrowsLeavesTheNextItsTurn()
@@ -371,7 +370,7 @@ void DebugWarningDisplayTest::aDisplayerThatThrowsLeavesTheNextItsTurn()
     Warn(7);
     Warn(8);
 
-    QVERIFY(f.user.shownLines == (Lines{7, 8}));
+    QCOMPARE(f.user.shownLines, (Lines{7, 8}));
 }
 
 void DebugWarningDisplayTest::afterAResetEverythingIsShownAgain()
@@ -386,7 +385,7 @@ void DebugWarningDisplayTest::afterAResetEverythingIsShownAgain()
 
     QCOMPARE(Manager().GetUnshownCount(), 0);
     Warn(7);
-    QVERIFY(f.user.shownLines == (Lines{7, 7}));
+    QCOMPARE(f.user.shownLines, (Lines{7, 7}));
 }
 
 }

@@ -2,8 +2,7 @@
 
 #include "Host/Foundation/LogFile.h"
 #include "Host/Foundation/RaiseWarning.h"
-
-#include <QtTest>
+#include "Support/TestValues.h"
 
 #include <atomic>
 #include <chrono>

@@ -1,8 +1,7 @@
 #include "Foundation/Event.h"
 
 #include "Host/AllocationCounter.h"
-
-#include <QtTest>
+#include "Support/TestValues.h"
 
 #include <functional>
 #include <memory>

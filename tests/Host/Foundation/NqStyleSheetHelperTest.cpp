@@ -1,6 +1,6 @@
 #include "Foundation/NqStyleSheetHelper.h"
 
-#include <QtTest>
+#include "Support/TestValues.h"
 
 namespace vesk
 {

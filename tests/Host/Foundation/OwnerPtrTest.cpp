@@ -1,6 +1,6 @@
 #include "Foundation/OwnerPtr.h"
 
-#include <QtTest>
+#include "Support/TestValues.h"
 
 #include <memory>
 

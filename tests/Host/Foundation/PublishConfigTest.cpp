@@ -1,6 +1,6 @@
 #include "Foundation/IPublishConfig.h"
 
-#include <QtTest>
+#include "Support/TestValues.h"
 
 namespace vesk
 {

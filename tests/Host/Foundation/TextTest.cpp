@@ -1,8 +1,7 @@
 #include "Foundation/Text.h"
 
 #include "Foundation/WideText.h"
-
-#include <QtTest>
+#include "Support/TestValues.h"
 
 Q_DECLARE_METATYPE(std::string)
 Q_DECLARE_METATYPE(std::wstring)

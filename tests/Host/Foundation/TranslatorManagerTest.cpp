@@ -1,6 +1,6 @@
 #include "Foundation/TranslatorManager.h"
 
-#include <QtTest>
+#include "Support/TestValues.h"
 
 namespace vesk
 {

@@ -1,6 +1,6 @@
 #include "Foundation/UpdateCtrlStatusEvent.h"
 
-#include <QtTest>
+#include "Support/TestValues.h"
 
 #include <functional>
 #include <memory>

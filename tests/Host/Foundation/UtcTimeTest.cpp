@@ -1,7 +1,8 @@
 #include "Foundation/UtcTime.h"
 
+#include "Support/TestValues.h"
+
 #include <QDateTime>
-#include <QtTest>
 
 Q_DECLARE_METATYPE(std::string)
 

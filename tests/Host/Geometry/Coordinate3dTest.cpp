@@ -1,9 +1,9 @@
 #include "Geometry/Coordinate3d.h"
 
 #include "Geometry/Constants.h"
+#include "Support/TestValues.h"
 
 #include <Eigen/Geometry>
-#include <QtTest>
 
 #include <limits>
 

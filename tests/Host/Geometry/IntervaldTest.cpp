@@ -1,6 +1,6 @@
 #include "Geometry/Intervald.h"
 
-#include <QtTest>
+#include "Support/TestValues.h"
 
 #include <limits>
 

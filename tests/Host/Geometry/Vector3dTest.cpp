@@ -1,6 +1,6 @@
 #include "Geometry/Vector3d.h"
 
-#include <QtTest>
+#include "Support/TestValues.h"
 
 #include <limits>
 

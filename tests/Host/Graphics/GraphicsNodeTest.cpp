@@ -1,6 +1,7 @@
 #include "Graphics/IGraphicsNode.h"
 
-#include <QtTest>
+#include "Support/HostValues.h"
+#include "Support/TestValues.h"
 
 #include <string>
 #include <utility>

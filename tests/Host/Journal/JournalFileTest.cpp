@@ -1,8 +1,9 @@
 #include "Journal/JournalFormat.h"
 
+#include "Support/TestValues.h"
+
 #include <QFile>
 #include <QTemporaryDir>
-#include <QtTest>
 
 namespace vesk
 {

@@ -1,6 +1,7 @@
 #include "Journal/JournalFormat.h"
 
-#include <QtTest>
+#include "Support/HostValues.h"
+#include "Support/TestValues.h"
 
 #include <cmath>
 #include <cstring>
@@ -217,7 +218,7 @@ void JournalFormatTest::textsReadBack()
     const JournalRecord record = Read(line);
 
     const auto& property = std::get<PropertyRecord>(record.what);
-    QVERIFY(line.find('\n') == std::string::npos);
+    QCOMPARE(line.find('\n'), std::string::npos);
     QCOMPARE(QString::fromStdWString(property.object), text);
     QCOMPARE(QString::fromStdWString(property.property), text);
     QCOMPARE(QString::fromStdWString(property.value), text);
@@ -253,12 +254,12 @@ void JournalFormatTest::parametersKeepTheirTypes()
     const CommandParameters parameters = ReadParameters(
         R"({"integer":5,"real":5.0,"exponent":5e0,"yes":true,"no":false,"text":"5"})");
 
-    QVERIFY(*parameters.Find(L"integer") == CommandParameterValue(5));
-    QVERIFY(*parameters.Find(L"real") == CommandParameterValue(5.0));
-    QVERIFY(*parameters.Find(L"exponent") == CommandParameterValue(5.0));
-    QVERIFY(*parameters.Find(L"yes") == CommandParameterValue(true));
-    QVERIFY(*parameters.Find(L"no") == CommandParameterValue(false));
-    QVERIFY(*parameters.Find(L"text") == CommandParameterValue(std::wstring(L"5")));
+    QCOMPARE(*parameters.Find(L"integer"), CommandParameterValue(5));
+    QCOMPARE(*parameters.Find(L"real"), CommandParameterValue(5.0));
+    QCOMPARE(*parameters.Find(L"exponent"), CommandParameterValue(5.0));
+    QCOMPARE(*parameters.Find(L"yes"), CommandParameterValue(true));
+    QCOMPARE(*parameters.Find(L"no"), CommandParameterValue(false));
+    QCOMPARE(*parameters.Find(L"text"), CommandParameterValue(std::wstring(L"5")));
 }
 
 void JournalFormatTest::integersAreGoodForRealNumbers()

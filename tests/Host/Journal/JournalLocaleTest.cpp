@@ -2,8 +2,7 @@
 
 #include "Dimension/TemporaryDimensionStyle.h"
 #include "Host/DecimalPointScope.h"
-
-#include <QtTest>
+#include "Support/TestValues.h"
 
 #include <clocale>
 
@@ -45,7 +44,7 @@ void JournalLocaleTest::numbersAreTheSameInEveryLocale()
     QCOMPARE(QString::fromStdString(line),
              QString(R"({"n":1,"kind":"point","point":[1.5,-0.1,2.5e-300]})"));
     QVERIFY2(isRead, error.c_str());
-    QVERIFY(std::get<PointRecord>(record.what).point == Vector3d(1.5, -0.1, 2.5e-300));
+    QCOMPARE(std::get<PointRecord>(record.what).point, Vector3d(1.5, -0.1, 2.5e-300));
     QCOMPARE(TemporaryDimensionStyle().FormatLength(1234.5), std::wstring(L"1234.500"));
 }
 

@@ -6,10 +6,10 @@
 #include "Journal/IJournalUiObject.h"
 #include "Journal/JournalFormat.h"
 #include "Journal/NqIJournalFactory.h"
+#include "Support/TestValues.h"
 
 #include <QFile>
 #include <QTemporaryDir>
-#include <QtTest>
 
 #include <atomic>
 #include <functional>
@@ -197,7 +197,7 @@ void JournalManagerTest::withoutAFileRecordsAreNumberedToo()
     Journal().Add(UndoRecord{1});
     Journal().Add(UndoRecord{2});
 
-    QVERIFY(observer.numbers == (std::vector<int>{1, 2}));
+    QCOMPARE(observer.numbers, (std::vector<int>{1, 2}));
     QCOMPARE(Journal().GetLastLines().size(), std::size_t(2));
 }
 
@@ -268,7 +268,7 @@ void JournalManagerTest::observersHearEveryRecord()
     Journal().Add(CommandRecord{L"Line", {}});
     Journal().Add(EndRecord{1, false});
 
-    QVERIFY(observer.numbers == (std::vector<int>{1, 1}));
+    QCOMPARE(observer.numbers, (std::vector<int>{1, 1}));
 }
 
 void JournalManagerTest::anObserverMayRemoveItself()
@@ -281,8 +281,8 @@ void JournalManagerTest::anObserverMayRemoveItself()
     Journal().Add(UndoRecord{1});
     Journal().Add(UndoRecord{2});
 
-    QVERIFY(first.numbers == (std::vector<int>{1}));
-    QVERIFY(second.numbers == (std::vector<int>{1, 2}));
+    QCOMPARE(first.numbers, (std::vector<int>{1}));
+    QCOMPARE(second.numbers, (std::vector<int>{1, 2}));
 }
 
 void JournalManagerTest::aFullDiskIsReportedOnceAndTheFileLeftAlone()
@@ -337,7 +337,7 @@ void JournalManagerTest::aWidgetIsToldToTheObservers()
 
     IJournalManager::Get()->AddUiObject(std::move(opObject), 3, 0);
 
-    QVERIFY(observer.kinds == (std::vector<int>{3}));
+    QCOMPARE(observer.kinds, (std::vector<int>{3}));
     QCOMPARE(observer.uiObject, 42);
 }
 

@@ -3,8 +3,8 @@
 #include "Command/IActionManager.h"
 #include "Host/Journal/ReplayFixture.h"
 #include "Journal/JournalFormat.h"
-
-#include <QtTest>
+#include "Support/HostValues.h"
+#include "Support/TestValues.h"
 
 namespace vesk
 {
@@ -67,8 +67,8 @@ void JournalReplayerTest::stepsGoToTheActionOfTheirCommand()
 
     QCOMPARE(FailureOf(result), QString());
     QVERIFY(result.unfinishedCommands.empty());
-    QVERIFY(f.log == (Log{"Erase.begin", "Erase.point 7 on 5", "Erase.value 1 12 12", "Erase.end",
-                          "Erase.delete"}));
+    QCOMPARE(f.log, (Log{"Erase.begin", "Erase.point 7 on 5", "Erase.value 1 12 12", "Erase.end",
+                         "Erase.delete"}));
 }
 
 void JournalReplayerTest::theEventLoopIsOffMeanwhile()
@@ -90,7 +90,7 @@ void JournalReplayerTest::anActionEndsAtItsMark()
 
     f.Replay();
 
-    QVERIFY(f.log == (Log{"Line.begin", "Line.end", "Line.delete", "Undo", "undo 1"}));
+    QCOMPARE(f.log, (Log{"Line.begin", "Line.end", "Line.delete", "Undo", "undo 1"}));
 }
 
 void JournalReplayerTest::aStepBehindTheMarkIsAFailure()
@@ -122,8 +122,8 @@ void JournalReplayerTest::aPlainCommandInsideAnActionRunsBesideIt()
     const JournalReplayResult result = f.Replay();
 
     QCOMPARE(FailureOf(result), QString());
-    QVERIFY(f.log == (Log{"Line.begin", "Line.point 1", "Undo", "undo 1", "Line.point 2",
-                          "Line.end", "Line.delete"}));
+    QCOMPARE(f.log, (Log{"Line.begin", "Line.point 1", "Undo", "undo 1", "Line.point 2", "Line.end",
+                         "Line.delete"}));
 }
 
 void JournalReplayerTest::aPlainCommandThatEndedLaterRunsAfterTheAction()
@@ -134,8 +134,8 @@ void JournalReplayerTest::aPlainCommandThatEndedLaterRunsAfterTheAction()
     const JournalReplayResult result = f.Replay();
 
     QCOMPARE(FailureOf(result), QString());
-    QVERIFY(f.log ==
-            (Log{"Line.begin", "Line.point 1", "Line.end", "Line.delete", "Undo", "undo 1"}));
+    QCOMPARE(f.log,
+             (Log{"Line.begin", "Line.point 1", "Line.end", "Line.delete", "Undo", "undo 1"}));
 }
 
 void JournalReplayerTest::aCommandRecordedWhileAnotherWasBeingEndedCountsAsAfterIt()
@@ -146,8 +146,8 @@ void JournalReplayerTest::aCommandRecordedWhileAnotherWasBeingEndedCountsAsAfter
     const JournalReplayResult result = f.Replay();
 
     QCOMPARE(FailureOf(result), QString());
-    QVERIFY(f.log == (Log{"Line.begin", "Line.point 1", "Line.end", "Line.delete", "Erase.begin",
-                          "Erase.point 2 on 1", "Erase.end", "Erase.delete"}));
+    QCOMPARE(f.log, (Log{"Line.begin", "Line.point 1", "Line.end", "Line.delete", "Erase.begin",
+                         "Erase.point 2 on 1", "Erase.end", "Erase.delete"}));
 }
 
 void JournalReplayerTest::commandsThatWaitedForOneAnotherRunInOrder()
@@ -159,9 +159,9 @@ void JournalReplayerTest::commandsThatWaitedForOneAnotherRunInOrder()
     const JournalReplayResult result = f.Replay();
 
     QCOMPARE(FailureOf(result), QString());
-    QVERIFY(f.log == (Log{"Line.begin", "Line.end", "Line.delete", "Undo", "Erase.begin", "undo 1",
-                          "Erase.end", "Erase.delete", "Line.begin", "Line.point 9", "Line.end",
-                          "Line.delete"}));
+    QCOMPARE(f.log, (Log{"Line.begin", "Line.end", "Line.delete", "Undo", "Erase.begin", "undo 1",
+                         "Erase.end", "Erase.delete", "Line.begin", "Line.point 9", "Line.end",
+                         "Line.delete"}));
 }
 
 void JournalReplayerTest::aRefusedCommandIsNotRun()
@@ -183,7 +183,7 @@ void JournalReplayerTest::aRefusedCommandEndsNothing()
     const JournalReplayResult result = f.Replay();
 
     QCOMPARE(FailureOf(result), QString());
-    QVERIFY(f.log == (Log{"Line.begin", "Line.point 1", "Line.end", "Line.delete"}));
+    QCOMPARE(f.log, (Log{"Line.begin", "Line.point 1", "Line.end", "Line.delete"}));
 }
 
 void JournalReplayerTest::anUnfinishedActionKeepsItsSteps()
@@ -194,9 +194,8 @@ void JournalReplayerTest::anUnfinishedActionKeepsItsSteps()
     const JournalReplayResult result = f.Replay();
 
     QCOMPARE(FailureOf(result), QString());
-    QVERIFY(result.unfinishedCommands == (std::vector<std::wstring>{L"Line"}));
-    QVERIFY(f.log ==
-            (Log{"Line.begin", "Line.point 1", "Line.point 2", "Line.end", "Line.delete"}));
+    QCOMPARE(result.unfinishedCommands, (std::vector<std::wstring>{L"Line"}));
+    QCOMPARE(f.log, (Log{"Line.begin", "Line.point 1", "Line.point 2", "Line.end", "Line.delete"}));
     QVERIFY(IActionManager::CurrentAction() == nullptr);
 }
 
@@ -208,9 +207,9 @@ void JournalReplayerTest::anUnfinishedActionEndsBeforeTheNext()
     const JournalReplayResult result = f.Replay();
 
     QCOMPARE(FailureOf(result), QString());
-    QVERIFY(result.unfinishedCommands == (std::vector<std::wstring>{L"Line"}));
-    QVERIFY(f.log == (Log{"Line.begin", "Line.point 1", "Line.end", "Line.delete", "Erase.begin",
-                          "Erase.point 2 on 1", "Erase.end", "Erase.delete"}));
+    QCOMPARE(result.unfinishedCommands, (std::vector<std::wstring>{L"Line"}));
+    QCOMPARE(f.log, (Log{"Line.begin", "Line.point 1", "Line.end", "Line.delete", "Erase.begin",
+                         "Erase.point 2 on 1", "Erase.end", "Erase.delete"}));
 }
 
 void JournalReplayerTest::aPlainCommandBesideAnUnfinishedActionRunsBesideIt()
@@ -221,8 +220,8 @@ void JournalReplayerTest::aPlainCommandBesideAnUnfinishedActionRunsBesideIt()
     const JournalReplayResult result = f.Replay();
 
     QCOMPARE(FailureOf(result), QString());
-    QVERIFY(f.log == (Log{"Line.begin", "Line.point 1", "Undo", "undo 1", "Line.point 2",
-                          "Line.end", "Line.delete"}));
+    QCOMPARE(f.log, (Log{"Line.begin", "Line.point 1", "Undo", "undo 1", "Line.point 2", "Line.end",
+                         "Line.delete"}));
 }
 
 void JournalReplayerTest::anUnfinishedPlainCommandIsRepeatedIfItsResultStands()
@@ -232,8 +231,8 @@ void JournalReplayerTest::anUnfinishedPlainCommandIsRepeatedIfItsResultStands()
 
     const JournalReplayResult result = f.Replay();
 
-    QVERIFY(result.unfinishedCommands == (std::vector<std::wstring>{L"Undo"}));
-    QVERIFY(f.log == (Log{"Undo", "undo 1"}));
+    QCOMPARE(result.unfinishedCommands, (std::vector<std::wstring>{L"Undo"}));
+    QCOMPARE(f.log, (Log{"Undo", "undo 1"}));
 }
 
 void JournalReplayerTest::anUnfinishedPlainCommandWithoutResultIsNotRepeated()
@@ -244,7 +243,7 @@ void JournalReplayerTest::anUnfinishedPlainCommandWithoutResultIsNotRepeated()
     const JournalReplayResult result = f.Replay();
 
     QCOMPARE(FailureOf(result), QString());
-    QVERIFY(result.unfinishedCommands == (std::vector<std::wstring>{L"Line", L"Undo"}));
+    QCOMPARE(result.unfinishedCommands, (std::vector<std::wstring>{L"Line", L"Undo"}));
     QVERIFY(!f.Has("Undo"));
 }
 
@@ -255,7 +254,7 @@ void JournalReplayerTest::unfinishedCommandsAreListedInOrder()
 
     const JournalReplayResult result = f.Replay();
 
-    QVERIFY(result.unfinishedCommands == (std::vector<std::wstring>{L"Line", L"Erase"}));
+    QCOMPARE(result.unfinishedCommands, (std::vector<std::wstring>{L"Line", L"Erase"}));
 }
 
 void JournalReplayerTest::anActionThatEndsItselfNeedsNoMark()
@@ -267,8 +266,8 @@ void JournalReplayerTest::anActionThatEndsItselfNeedsNoMark()
     const JournalReplayResult result = f.Replay();
 
     QCOMPARE(FailureOf(result), QString());
-    QVERIFY(f.log == (Log{"Line.begin", "Line.end", "Line.delete", "Erase.begin",
-                          "Erase.point 1 on 1", "Erase.end", "Erase.delete"}));
+    QCOMPARE(f.log, (Log{"Line.begin", "Line.end", "Line.delete", "Erase.begin",
+                         "Erase.point 1 on 1", "Erase.end", "Erase.delete"}));
 }
 
 void JournalReplayerTest::selectionsPropertiesAndUndosGoToTheTarget()
@@ -281,7 +280,7 @@ void JournalReplayerTest::selectionsPropertiesAndUndosGoToTheTarget()
     const JournalReplayResult result = f.Replay();
 
     QCOMPARE(FailureOf(result), QString());
-    QVERIFY(f.log == (Log{"select 2", "property plan", "undo 5"}));
+    QCOMPARE(f.log, (Log{"select 2", "property plan", "undo 5"}));
 }
 
 void JournalReplayerTest::theTargetIsToldHowFarTheReplayHasCome()
@@ -292,7 +291,7 @@ void JournalReplayerTest::theTargetIsToldHowFarTheReplayHasCome()
     const JournalReplayResult result = f.Replay();
 
     QVERIFY(!result.isStopped);
-    QVERIFY(f.progress == (Log{"0 of 3", "1 of 3", "2 of 3"}));
+    QCOMPARE(f.progress, (Log{"0 of 3", "1 of 3", "2 of 3"}));
 }
 
 void JournalReplayerTest::theTargetMayStopTheReplay()
@@ -305,7 +304,7 @@ void JournalReplayerTest::theTargetMayStopTheReplay()
 
     QVERIFY(result.isStopped);
     QCOMPARE(FailureOf(result), QString());
-    QVERIFY(f.log == (Log{"Line.begin", "Line.point 1", "Line.end", "Line.delete"}));
+    QCOMPARE(f.log, (Log{"Line.begin", "Line.point 1", "Line.end", "Line.delete"}));
 }
 
 void JournalReplayerTest::commandsGetTheirParameters()
@@ -323,7 +322,7 @@ void JournalReplayerTest::commandsGetTheirParameters()
 
     f.Replay();
 
-    QVERIFY(seen == parameters);
+    QCOMPARE(seen, parameters);
 }
 
 void JournalReplayerTest::whatCannotBeDoneIsNamed_data()
@@ -368,7 +367,7 @@ void JournalReplayerTest::aFailureStopsTheReplayAndEndsTheAction()
     const JournalReplayResult result = f.Replay();
 
     QCOMPARE(FailureOf(result), QString("record 2: the point cannot be repeated"));
-    QVERIFY(f.log == (Log{"Line.begin", "Line.point 1", "Line.end", "Line.delete"}));
+    QCOMPARE(f.log, (Log{"Line.begin", "Line.point 1", "Line.end", "Line.delete"}));
 }
 
 void JournalReplayerTest::aDisabledCommandIsAFailure()
@@ -403,8 +402,8 @@ void JournalReplayerTest::aReplayWritesTheJournalOfItsOwn()
 
     f.Replay();
 
-    QVERIFY(
-        JournalManager::GetInstance().GetLastLines() ==
+    QCOMPARE(
+        JournalManager::GetInstance().GetLastLines(),
         (Log{R"({"n":1,"kind":"command","id":"Line"})", R"({"n":2,"kind":"command","id":"Zoom"})",
              R"({"n":2,"kind":"end","result":"done"})",
              R"({"n":1,"kind":"end","result":"done"})"}));

@@ -1,8 +1,7 @@
 #include "Validation/NumberValidator.h"
 
 #include "Host/DecimalPointScope.h"
-
-#include <QtTest>
+#include "Support/TestValues.h"
 
 #include <clocale>
 #include <limits>

@@ -1,6 +1,6 @@
 #include "View/ModelView.h"
 
-#include <QtTest>
+#include "Support/TestValues.h"
 
 #include <cmath>
 #include <limits>

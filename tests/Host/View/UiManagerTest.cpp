@@ -1,6 +1,6 @@
 #include "View/IUiManager.h"
 
-#include <QtTest>
+#include "Support/TestValues.h"
 
 namespace vesk
 {

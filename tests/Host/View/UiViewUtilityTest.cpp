@@ -1,8 +1,7 @@
 #include "View/UiViewUtility.h"
 
 #include "Host/View/StubView.h"
-
-#include <QtTest>
+#include "Support/TestValues.h"
 
 #include <limits>
 

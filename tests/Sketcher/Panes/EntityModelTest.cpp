@@ -3,12 +3,12 @@
 #include "Sketch.h"
 
 #include "Dimension/LengthUnit.h"
+#include "Support/TestValues.h"
 
 #include <QAbstractItemModelTester>
 #include <QPersistentModelIndex>
 #include <QRandomGenerator>
 #include <QSignalSpy>
-#include <QTest>
 
 #include <vector>
 

@@ -3,12 +3,12 @@
 #include "Panes/RecordText.h"
 
 #include "Journal/JournalFormat.h"
+#include "Support/TestValues.h"
 
 #include <QAbstractItemModelTester>
 #include <QFile>
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTest>
 
 using namespace vesk;
 

@@ -1,6 +1,7 @@
 #include "Panes/JournalPane.h"
 
 #include "Journal/JournalManager.h"
+#include "Support/TestValues.h"
 
 #include <QAction>
 #include <QApplication>
@@ -9,7 +10,6 @@
 #include <QListView>
 #include <QScrollBar>
 #include <QTemporaryDir>
-#include <QTest>
 
 using namespace vesk;
 
@@ -28,7 +28,7 @@ struct Fixture
         pList = pane.findChild<QListView*>("JournalRecords");
         pList->setFocus();
         pane.activateWindow();
-        if (!QTest::qWaitForWindowActive(&pane))
+        if (!QTest::qWaitForWindowActive(&pane, vesk::test::PatienceMs))
             qFatal("the pane does not become active");
     }
 

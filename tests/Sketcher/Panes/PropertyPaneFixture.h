@@ -8,10 +8,10 @@
 #include "HostUi/ControlHost.h"
 #include "HostUi/ControlLibrary.h"
 #include "Support/HostFixture.h"
+#include "Support/TestValues.h"
 
 #include <QLabel>
 #include <QLineEdit>
-#include <QTest>
 
 #include <memory>
 #include <optional>
@@ -48,7 +48,7 @@ struct PropertyPaneFixture
         pPane->resize(300, 600);
         pPane->show();
         pPane->activateWindow();
-        if (!QTest::qWaitForWindowActive(pPane.get()))
+        if (!QTest::qWaitForWindowActive(pPane.get(), vesk::test::PatienceMs))
             qFatal("the pane does not become active");
         controls->RefreshControls();
     }

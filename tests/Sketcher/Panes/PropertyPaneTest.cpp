@@ -130,9 +130,9 @@ private slots:
         QCOMPARE(f.Radius(CircleId), 12.5);
         QCOMPARE(f.Commands().size(), std::size_t{1});
         QCOMPARE(f.Commands()[0].commandId, std::wstring(L"Sketcher.SetProperty"));
-        QVERIFY(f.Commands()[0].parameters ==
-                (EntityEdit{{CircleId}, L"radius", 12.5}.ToParameters()));
-        QVERIFY(f.recordedAtRun == std::vector<std::size_t>{1});
+        QCOMPARE(f.Commands()[0].parameters,
+                 (EntityEdit{{CircleId}, L"radius", 12.5}.ToParameters()));
+        QCOMPARE(f.recordedAtRun, std::vector<std::size_t>{1});
     }
 
     void leavingTheFieldEditsToo()

@@ -1,8 +1,7 @@
 #include "Panes/RecordText.h"
 
 #include "Journal/JournalRecord.h"
-
-#include <QTest>
+#include "Support/TestValues.h"
 
 using namespace vesk;
 

@@ -3,6 +3,7 @@
 #include "Control/CheckBoxGroupDefinition.h"
 #include "Control/ControlDefinitionChangeByUser.h"
 #include "Control/RadioButtonGroupDefinition.h"
+#include "Support/TestValues.h"
 
 #include <string>
 #include <vector>
@@ -23,6 +24,11 @@ struct CheckStateWrite
     }
 };
 
+inline char* toString(const CheckStateWrite& write)
+{
+    return ShowFields(write.id, write.checkState, write.isByUser);
+}
+
 /// A current button that was written, in whose name, and whether the host's flag was set.
 struct CurrentIdWrite
 {
@@ -35,6 +41,11 @@ struct CurrentIdWrite
         return id == other.id && isByUser == other.isByUser && isFlagSet == other.isFlagSet;
     }
 };
+
+inline char* toString(const CurrentIdWrite& write)
+{
+    return ShowFields(write.id, write.isByUser, write.isFlagSet);
+}
 
 /// Definitions of the host that note who writes.
 struct NotingCheckBoxGroupDefinition : CheckBoxGroupDefinition

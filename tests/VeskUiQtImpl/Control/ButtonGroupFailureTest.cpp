@@ -1,8 +1,8 @@
 #include "Control/ButtonGroupFixture.h"
 #include "Control/LabelDefinition.h"
+#include "Support/TestValues.h"
 
 #include <QGridLayout>
-#include <QtTest>
 
 namespace vesk::test
 {

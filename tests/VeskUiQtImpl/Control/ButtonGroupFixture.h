@@ -5,13 +5,13 @@
 #include "Control/QtCheckBoxGroup.h"
 #include "Control/QtRadioButtonGroup.h"
 #include "Support/HostFixture.h"
+#include "Support/TestValues.h"
 
 #include <QAbstractButton>
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QLabel>
 #include <QRadioButton>
-#include <QtTest>
 
 #include <deque>
 #include <memory>

@@ -1,7 +1,8 @@
 #include "Control/ButtonGroupFixture.h"
 
+#include "Support/TestValues.h"
+
 #include <QPointer>
-#include <QtTest>
 
 namespace vesk::test
 {

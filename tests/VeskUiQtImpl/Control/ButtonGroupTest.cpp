@@ -1,7 +1,6 @@
 #include "Control/ButtonGroupFixture.h"
 #include "Control/OtherEventTypes.h"
-
-#include <QtTest>
+#include "Support/TestValues.h"
 
 namespace vesk::test
 {

@@ -2,6 +2,7 @@
 
 #include "Control/ComboBoxDefinition.h"
 #include "Control/ControlDefinitionChangeByUser.h"
+#include "Support/TestValues.h"
 
 #include <string>
 #include <vector>
@@ -20,6 +21,11 @@ struct IndexWrite
         return index == other.index && isByUser == other.isByUser;
     }
 };
+
+inline char* toString(const IndexWrite& write)
+{
+    return ShowFields(write.index, write.isByUser);
+}
 
 /// A combo-box definition of the host that notes who writes its index.
 struct NotingComboBoxDefinition : ComboBoxDefinition

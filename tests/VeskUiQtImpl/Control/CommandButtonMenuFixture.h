@@ -6,11 +6,11 @@
 #include "Control/IControl.h"
 #include "Control/VeskIControlFactory.h"
 #include "Support/HostFixture.h"
+#include "Support/TestValues.h"
 
 #include <QAction>
 #include <QMenu>
 #include <QToolButton>
-#include <QtTest>
 
 #include <functional>
 #include <string>

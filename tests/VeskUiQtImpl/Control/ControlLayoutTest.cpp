@@ -18,8 +18,7 @@
 #include "Control/VeskControlFactory.h"
 #include "Support/HostFixture.h"
 #include "Support/MemberAccess.h"
-
-#include <QtTest>
+#include "Support/TestValues.h"
 
 #include <type_traits>
 

@@ -6,9 +6,9 @@
 #include "Control/QtLineEdit.h"
 #include "ProcessCommandUtil.h"
 #include "Support/HostFixture.h"
+#include "Support/TestValues.h"
 
 #include <QAction>
-#include <QtTest>
 
 namespace vesk::test
 {

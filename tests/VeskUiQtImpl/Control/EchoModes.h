@@ -2,8 +2,7 @@
 
 #include "Foundation/OwnerPtr.h"
 #include "Support/ChangeByUserFilter.h"
-
-#include <QtTest>
+#include "Support/TestValues.h"
 
 #include <utility>
 

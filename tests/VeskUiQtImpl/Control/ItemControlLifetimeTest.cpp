@@ -9,6 +9,7 @@
 #include "Control/VeskIControlFactory.h"
 #include "ProcessCommandUtil.h"
 #include "Support/HostFixture.h"
+#include "Support/TestValues.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -17,7 +18,6 @@
 #include <QRadioButton>
 #include <QToolButton>
 #include <QVBoxLayout>
-#include <QtTest>
 
 #include <memory>
 

@@ -2,6 +2,7 @@
 
 #include "Control/ControlDefinitionChangeByUser.h"
 #include "Control/LineEditDefinition.h"
+#include "Support/TestValues.h"
 #include "Validation/ValidatorBase.h"
 
 #include <string>
@@ -23,6 +24,11 @@ struct TextWrite
                isMarkedByScope == other.isMarkedByScope;
     }
 };
+
+inline char* toString(const TextWrite& write)
+{
+    return ShowFields(write.text, write.isMarkedByFlag, write.isMarkedByScope);
+}
 
 /// The host's line-edit definition, which notes what is written into it.
 class NotingLineEditDefinition : public LineEditDefinition

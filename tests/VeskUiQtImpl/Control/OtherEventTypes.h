@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtTest>
+#include "Support/TestValues.h"
 
 #include <initializer_list>
 

@@ -6,9 +6,10 @@
 #include "Control/EchoModes.h"
 #include "ProcessCommandUtil.h"
 #include "Support/HostFixture.h"
+#include "Support/HostValues.h"
+#include "Support/TestValues.h"
 
 #include <QAction>
-#include <QtTest>
 
 #include <vector>
 
@@ -72,7 +73,7 @@ void QtButtonClickTest::sendsItsCommandWithTheNewState()
     f.opButton->click();
 
     QCOMPARE(f.calls.size(), std::size_t(1));
-    QVERIFY(f.calls[0] == Clicked(true));
+    QCOMPARE(f.calls[0], Clicked(true));
     QVERIFY(f.pDefinition->IsChecked());
     QVERIFY(f.opButton->isChecked());
     QVERIFY(f.opButton->defaultAction()->isChecked());
@@ -87,8 +88,8 @@ void QtButtonClickTest::twoClicksSendTrueThenFalse()
     f.opButton->click();
 
     QCOMPARE(f.calls.size(), std::size_t(2));
-    QVERIFY(f.calls[0] == Clicked(true));
-    QVERIFY(f.calls[1] == Clicked(false));
+    QCOMPARE(f.calls[0], Clicked(true));
+    QCOMPARE(f.calls[1], Clicked(false));
     QVERIFY(!f.pDefinition->IsChecked());
 }
 
@@ -100,7 +101,7 @@ void QtButtonClickTest::isJournaledOnceWithItsParameters()
 
     QCOMPARE(f.host.journal.GetCommands().size(), std::size_t(1));
     QCOMPARE(f.host.journal.GetCommands()[0].commandId, std::wstring(L"Test.Command"));
-    QVERIFY(f.host.journal.GetCommands()[0].parameters == Clicked(true));
+    QCOMPARE(f.host.journal.GetCommands()[0].parameters, Clicked(true));
 }
 
 void QtButtonClickTest::writesTheStateAsTheUsersAndOnce()
@@ -182,7 +183,7 @@ void QtButtonClickTest::clickAfterAStatusUpdateNegatesTheAction()
 
     f.opButton->click();
 
-    QVERIFY(f.calls[0] == Clicked(true));
+    QCOMPARE(f.calls[0], Clicked(true));
 }
 
 }

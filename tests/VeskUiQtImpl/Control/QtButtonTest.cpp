@@ -4,10 +4,10 @@
 #include "Control/CommandButtonDefinition.h"
 #include "Control/OtherEventTypes.h"
 #include "Support/HostFixture.h"
+#include "Support/TestValues.h"
 
 #include <QAction>
 #include <QTemporaryDir>
-#include <QtTest>
 
 namespace vesk::test
 {

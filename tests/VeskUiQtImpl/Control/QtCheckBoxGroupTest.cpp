@@ -4,12 +4,12 @@
 #include "Control/ChangeNotes.h"
 #include "Control/EchoModes.h"
 #include "Support/HostFixture.h"
+#include "Support/TestValues.h"
 
 #include <QCheckBox>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QVBoxLayout>
-#include <QtTest>
 
 namespace vesk::test
 {
@@ -148,7 +148,7 @@ void QtCheckBoxGroupTest::clickChecksAndUnchecksAsTheUser()
     f.Click(0);
     f.Click(1);
 
-    QVERIFY((f.pDefinition->writes == Writes{{L"a", 2, true}, {L"b", 0, true}}));
+    QCOMPARE(f.pDefinition->writes, (Writes{{L"a", 2, true}, {L"b", 0, true}}));
     QCOMPARE(f.notes.isByUser, std::vector<bool>({true, true}));
     QCOMPARE(f.GetStates(), QList<Qt::CheckState>({Qt::Checked, Qt::Unchecked, Qt::Unchecked}));
 }
@@ -159,7 +159,7 @@ void QtCheckBoxGroupTest::keyIsAClickToo()
 
     QTest::keyClick(&f.GetBox(2), Qt::Key_Space);
 
-    QVERIFY((f.pDefinition->writes == Writes{{L"c", 2, true}}));
+    QCOMPARE(f.pDefinition->writes, (Writes{{L"c", 2, true}}));
 }
 
 void QtCheckBoxGroupTest::echoOfAClickTouchesNoBox()
@@ -190,7 +190,7 @@ void QtCheckBoxGroupTest::partlyCheckedBoxIsWrittenAsChecked()
 
     f.Click(0);
 
-    QVERIFY((f.pDefinition->writes == Writes{{L"a", 2, true}}));
+    QCOMPARE(f.pDefinition->writes, (Writes{{L"a", 2, true}}));
 }
 
 void QtCheckBoxGroupTest::changeByHandIsNotWritten()
@@ -221,7 +221,7 @@ void QtCheckBoxGroupTest::addedBoxesAreClickable()
 
     f.Click(3);
 
-    QVERIFY((f.pDefinition->writes == Writes{{L"d", 2, true}}));
+    QCOMPARE(f.pDefinition->writes, (Writes{{L"d", 2, true}}));
 }
 
 void QtCheckBoxGroupTest::insertedBoxesAreClickable()
@@ -235,7 +235,7 @@ void QtCheckBoxGroupTest::insertedBoxesAreClickable()
     f.Click(0);
     f.Click(1);
 
-    QVERIFY((f.pDefinition->writes == Writes{{L"x", 0, true}, {L"a", 2, true}}));
+    QCOMPARE(f.pDefinition->writes, (Writes{{L"x", 0, true}, {L"a", 2, true}}));
 }
 
 void QtCheckBoxGroupTest::deletedBoxesWriteNothing()

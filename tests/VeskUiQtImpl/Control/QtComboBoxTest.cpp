@@ -4,8 +4,7 @@
 #include "Control/ComboBoxDefinitions.h"
 #include "Control/OtherEventTypes.h"
 #include "Support/HostFixture.h"
-
-#include <QtTest>
+#include "Support/TestValues.h"
 
 namespace vesk::test
 {

@@ -6,10 +6,10 @@
 #include "Control/EchoModes.h"
 #include "Control/OtherEventTypes.h"
 #include "Support/HostFixture.h"
+#include "Support/TestValues.h"
 
 #include <QAbstractItemView>
 #include <QSignalSpy>
-#include <QtTest>
 
 #include <functional>
 
@@ -116,7 +116,7 @@ void QtComboBoxUserTest::itemChosenWithTheMouseIsWrittenOnceAsTheUsers()
     ChooseWithTheMouse(*f.opBox, 2);
 
     QCOMPARE(f.opBox->currentIndex(), 2);
-    QVERIFY((f.pDefinition->writes == Writes{{2, true}}));
+    QCOMPARE(f.pDefinition->writes, (Writes{{2, true}}));
     QCOMPARE(f.notes.isByUser, std::vector<bool>{true});
     QCOMPARE(spy.count(), 1);
 }
@@ -129,7 +129,7 @@ void QtComboBoxUserTest::keyIsWrittenOnceAsTheUsers()
     QTest::keyClick(f.opBox.Get(), Qt::Key_Down);
 
     QCOMPARE(f.opBox->currentIndex(), 1);
-    QVERIFY((f.pDefinition->writes == Writes{{1, true}}));
+    QCOMPARE(f.pDefinition->writes, (Writes{{1, true}}));
     QCOMPARE(f.notes.isByUser, std::vector<bool>{true});
 }
 
@@ -187,7 +187,7 @@ void QtComboBoxUserTest::indexMovedWithTheItemsIsWrittenBackUnmarked()
     f.pDefinition->Raise(type, index, L"item");
 
     QCOMPARE(f.opBox->currentIndex(), newIndex);
-    QVERIFY((f.pDefinition->writes == Writes{{newIndex, false}}));
+    QCOMPARE(f.pDefinition->writes, (Writes{{newIndex, false}}));
 }
 
 void QtComboBoxUserTest::removingTheCurrentItemWritesTheNewIndexBackUnmarked()
@@ -198,7 +198,7 @@ void QtComboBoxUserTest::removingTheCurrentItemWritesTheNewIndexBackUnmarked()
     f.pDefinition->Raise(EventType::Delete, 1);
 
     QCOMPARE(f.opBox->currentText(), QString("c"));
-    QVERIFY((f.pDefinition->writes == Writes{{1, false}}));
+    QCOMPARE(f.pDefinition->writes, (Writes{{1, false}}));
 }
 
 void QtComboBoxUserTest::removingTheCurrentItemBeforeAnotherWritesNothing()
@@ -219,7 +219,7 @@ void QtComboBoxUserTest::indexBeyondTheItemsIsWrittenBackAsNone()
     f.pDefinition->Raise(EventType::PropertyChanged);
 
     QCOMPARE(f.opBox->currentIndex(), -1);
-    QVERIFY((f.pDefinition->writes == Writes{{-1, false}}));
+    QCOMPARE(f.pDefinition->writes, (Writes{{-1, false}}));
 }
 
 void QtComboBoxUserTest::theUserIsKnownAgainAfterEveryChange_data()
@@ -236,7 +236,7 @@ void QtComboBoxUserTest::theUserIsKnownAgainAfterEveryChange()
 
     f.opBox->setCurrentIndex(2);
 
-    QVERIFY((f.pDefinition->writes == Writes{{2, true}}));
+    QCOMPARE(f.pDefinition->writes, (Writes{{2, true}}));
 }
 
 void QtComboBoxUserTest::theUserIsKnownAgainAfterAReport()
@@ -247,7 +247,7 @@ void QtComboBoxUserTest::theUserIsKnownAgainAfterAReport()
 
     f.opBox->setCurrentIndex(1);
 
-    QVERIFY((f.pDefinition->writes == Writes{{1, true}}));
+    QCOMPARE(f.pDefinition->writes, (Writes{{1, true}}));
 }
 
 void QtComboBoxUserTest::changeInsideAnotherDoesNotEndIt()
@@ -264,7 +264,7 @@ void QtComboBoxUserTest::changeInsideAnotherDoesNotEndIt()
 
     f.pDefinition->Raise(EventType::PropertyChanged);
 
-    QVERIFY((f.pDefinition->writes == Writes{{2, false}}));
+    QCOMPARE(f.pDefinition->writes, (Writes{{2, false}}));
 }
 
 void QtComboBoxUserTest::flagIsFalseExactlyWhileAChangeIsApplied()
@@ -296,7 +296,7 @@ void QtComboBoxUserTest::changeOfOneBoxCoversAnother()
 
     f.pDefinition->Raise(EventType::PropertyChanged);
 
-    QVERIFY((pOther->writes == Writes{{1, false}}));
+    QCOMPARE(pOther->writes, (Writes{{1, false}}));
 }
 
 void QtComboBoxUserTest::aThousandChangesOfTheHostAreNoneOfTheUser()
@@ -325,7 +325,7 @@ void QtComboBoxUserTest::definitionAndBoxAgreeAfterChangesOfBothSides()
 
     QCOMPARE(f.opBox->currentText(), QString("b"));
     QCOMPARE(f.pDefinition->GetCurrentIndex(), f.opBox->currentIndex());
-    QVERIFY((f.pDefinition->writes == Writes{{4, true}, {1, true}}));
+    QCOMPARE(f.pDefinition->writes, (Writes{{4, true}, {1, true}}));
 }
 
 }

@@ -1,7 +1,7 @@
 #include "Control/CommandButtonMenuFixture.h"
 #include "ProcessCommandUtil.h"
-
-#include <QtTest>
+#include "Support/HostValues.h"
+#include "Support/TestValues.h"
 
 namespace vesk::test
 {
@@ -245,9 +245,9 @@ void QtCommandButtonMenuCommandTest::commandsAreJournaledWithoutParameters()
     const auto& records = f.host.journal.GetCommands();
     QCOMPARE(records.size(), std::size_t(2));
     QCOMPARE(records[0].commandId, std::wstring(L"Main"));
-    QVERIFY(records[0].parameters == CommandParameters());
+    QCOMPARE(records[0].parameters, CommandParameters());
     QCOMPARE(records[1].commandId, std::wstring(L"A"));
-    QVERIFY(records[1].parameters == CommandParameters());
+    QCOMPARE(records[1].parameters, CommandParameters());
 }
 
 void QtCommandButtonMenuCommandTest::entryChosenWhileACommandRunsIsPutOff()

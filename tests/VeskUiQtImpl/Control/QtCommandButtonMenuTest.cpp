@@ -1,8 +1,7 @@
 #include "Control/CommandButtonMenuFixture.h"
 #include "Control/LabelDefinition.h"
 #include "Control/OtherEventTypes.h"
-
-#include <QtTest>
+#include "Support/TestValues.h"
 
 namespace vesk::test
 {

@@ -4,9 +4,8 @@
 #include "Control/LineEditDefinitions.h"
 #include "Control/OtherEventTypes.h"
 #include "Support/HostFixture.h"
+#include "Support/TestValues.h"
 #include "Validation/NumberValidator.h"
-
-#include <QtTest>
 
 namespace vesk::test
 {

@@ -81,7 +81,7 @@ void QtLineEditUserTest::typingWritesTheTextOnceMarkedAsTheUsers()
     QTest::keyClick(f.opEdit.Get(), Qt::Key_7);
 
     const std::vector<TextWrite> expected{{L"7", true, true}};
-    QVERIFY(f.pDefinition->writes == expected);
+    QCOMPARE(f.pDefinition->writes, expected);
     QCOMPARE(f.opEdit->text(), QString("7"));
 }
 
@@ -159,7 +159,7 @@ void QtLineEditUserTest::changeByProgramIsWrittenInAScopeWithoutTheFlag()
     f.opEdit->setText("by program");
 
     const std::vector<TextWrite> expected{{L"by program", false, true}};
-    QVERIFY(f.pDefinition->writes == expected);
+    QCOMPARE(f.pDefinition->writes, expected);
     QVERIFY(!f.pDefinition->IsEditing());
 }
 

@@ -78,7 +78,7 @@ void QtLineEditWriteTest::settingTheTextReachesWidgetAndDefinition()
 
     const std::vector<TextWrite> expected{{L"34", false, true}};
     QCOMPARE(f.opEdit->text(), QString("34"));
-    QVERIFY(f.pDefinition->writes == expected);
+    QCOMPARE(f.pDefinition->writes, expected);
 }
 
 void QtLineEditWriteTest::settingTheTextOfASilencedWidgetIsTheProgramsChange()
@@ -90,7 +90,7 @@ void QtLineEditWriteTest::settingTheTextOfASilencedWidgetIsTheProgramsChange()
 
     const std::vector<TextWrite> expected{{L"34", false, false}};
     QCOMPARE(f.opEdit->text(), QString("34"));
-    QVERIFY(f.pDefinition->writes == expected);
+    QCOMPARE(f.pDefinition->writes, expected);
 }
 
 void QtLineEditWriteTest::settingAnEqualTextWritesNothing()

@@ -3,8 +3,7 @@
 #include "Control/OtherEventTypes.h"
 #include "Control/ProgressBarDefinition.h"
 #include "Support/HostFixture.h"
-
-#include <QtTest>
+#include "Support/TestValues.h"
 
 namespace vesk::test
 {

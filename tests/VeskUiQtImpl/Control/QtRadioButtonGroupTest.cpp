@@ -4,12 +4,12 @@
 #include "Control/ChangeNotes.h"
 #include "Control/EchoModes.h"
 #include "Support/HostFixture.h"
+#include "Support/TestValues.h"
 
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalSpy>
 #include <QVBoxLayout>
-#include <QtTest>
 
 namespace vesk::test
 {
@@ -164,7 +164,7 @@ void QtRadioButtonGroupTest::clickIsWrittenAsTheUsers()
 
     f.Click(2);
 
-    QVERIFY((f.pDefinition->writes == Writes{{L"c", true, true}}));
+    QCOMPARE(f.pDefinition->writes, (Writes{{L"c", true, true}}));
     QCOMPARE(f.notes.isByUser, std::vector<bool>{true});
     QCOMPARE(f.GetCheckedNames(), QStringList("c"));
 }
@@ -175,7 +175,7 @@ void QtRadioButtonGroupTest::keyIsWrittenAsTheUsers()
 
     QTest::keyClick(&f.GetButton(0), Qt::Key_Space);
 
-    QVERIFY((f.pDefinition->writes == Writes{{L"a", true, true}}));
+    QCOMPARE(f.pDefinition->writes, (Writes{{L"a", true, true}}));
     QCOMPARE(f.notes.isByUser, std::vector<bool>{true});
 }
 
@@ -189,7 +189,7 @@ void QtRadioButtonGroupTest::arrowKeyIsWrittenAsTheUsers()
     QTest::keyClick(&f.GetButton(1), Qt::Key_Down);
 
     QCOMPARE(f.GetCheckedNames(), QStringList("c"));
-    QVERIFY((f.pDefinition->writes == Writes{{L"c", true, true}}));
+    QCOMPARE(f.pDefinition->writes, (Writes{{L"c", true, true}}));
     QCOMPARE(f.notes.isByUser, std::vector<bool>{true});
 }
 
@@ -199,7 +199,7 @@ void QtRadioButtonGroupTest::clickOnTheCheckedButtonIsWrittenAgain()
 
     f.Click(1);
 
-    QVERIFY((f.pDefinition->writes == Writes{{L"b", true, true}}));
+    QCOMPARE(f.pDefinition->writes, (Writes{{L"b", true, true}}));
     QVERIFY(f.notes.isByUser.empty());
 }
 

@@ -4,10 +4,10 @@
 #include "Control/RandomGroupSequences.h"
 #include "Control/VeskIControlFactory.h"
 #include "Support/HostFixture.h"
+#include "Support/TestValues.h"
 
 #include <QMenu>
 #include <QToolButton>
-#include <QtTest>
 
 #include <algorithm>
 #include <random>

@@ -5,11 +5,11 @@
 #include "Control/QtRadioButtonGroup.h"
 #include "Control/RadioButtonGroupDefinition.h"
 #include "Control/RandomSequence.h"
+#include "Support/TestValues.h"
 
 #include <QCheckBox>
 #include <QRadioButton>
 #include <QVBoxLayout>
-#include <QtTest>
 
 #include <algorithm>
 #include <iterator>

@@ -4,8 +4,7 @@
 #include "Control/LineEditDefinitions.h"
 #include "Control/QtLineEdit.h"
 #include "Support/HostFixture.h"
-
-#include <QtTest>
+#include "Support/TestValues.h"
 
 namespace vesk::test
 {

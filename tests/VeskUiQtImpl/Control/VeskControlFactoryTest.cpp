@@ -15,10 +15,10 @@
 #include "Control/QtLineEdit.h"
 #include "Control/QtRadioButtonGroup.h"
 #include "Support/HostFixture.h"
+#include "Support/TestValues.h"
 
 #include <QProgressBar>
 #include <QToolButton>
-#include <QtTest>
 
 namespace vesk::test
 {

@@ -1,8 +1,9 @@
 #include "TemporaryDimensionHandlersImpl/HandlerFixture.h"
 
+#include "Support/TestValues.h"
+
 #include <QStyle>
 #include <QStyleFactory>
-#include <QtTest>
 
 namespace vesk::test
 {

@@ -1,7 +1,6 @@
 #include "Support/Platform/InputMethod.h"
+#include "Support/TestValues.h"
 #include "TemporaryDimensionHandlersImpl/HandlerFixture.h"
-
-#include <QtTest>
 
 namespace vesk::test
 {

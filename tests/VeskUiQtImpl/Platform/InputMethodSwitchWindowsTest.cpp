@@ -1,6 +1,6 @@
 #include "TemporaryDimensionHandlersImpl/HandlerFixture.h"
 
-#include <QtTest>
+#include "Support/TestValues.h"
 
 #include <windows.h>
 

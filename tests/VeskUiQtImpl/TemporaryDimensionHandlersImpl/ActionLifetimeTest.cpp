@@ -1,8 +1,7 @@
 #include "Command/ActionManager.h"
 #include "Dimension/TemporaryDimensionMgr.h"
+#include "Support/TestValues.h"
 #include "TemporaryDimensionHandlersImpl/LifetimeFixture.h"
-
-#include <QtTest>
 
 namespace vesk::test
 {

@@ -2,10 +2,9 @@
 #include "Dimension/RadiusTemporaryDimensionContext.h"
 #include "Dimension/RectangleTemporaryDimensionContext.h"
 #include "Dimension/RotationTemporaryDimensionContext.h"
+#include "Support/TestValues.h"
 #include "TemporaryDimensionHandlersImpl/GeneratorFixture.h"
 #include "TemporaryDimensionHandlersImpl/KindTable.h"
-
-#include <QtTest>
 
 namespace vesk::test
 {

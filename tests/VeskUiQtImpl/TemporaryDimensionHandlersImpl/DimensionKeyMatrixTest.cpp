@@ -1,6 +1,6 @@
 #include "TemporaryDimensionHandlersImpl/KeyMatrixRules.h"
 
-#include <QtTest>
+#include "Support/TestValues.h"
 
 Q_DECLARE_METATYPE(vesk::test::Typed)
 Q_DECLARE_METATYPE(vesk::test::Door)

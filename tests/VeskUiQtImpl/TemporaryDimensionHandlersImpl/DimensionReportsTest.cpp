@@ -1,6 +1,6 @@
 #include "TemporaryDimensionHandlersImpl/KindTable.h"
 
-#include <QtTest>
+#include "Support/TestValues.h"
 
 namespace vesk::test
 {

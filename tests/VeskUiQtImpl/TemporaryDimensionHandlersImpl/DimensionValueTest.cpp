@@ -1,6 +1,6 @@
 #include "TemporaryDimensionHandlersImpl/KindInputFixture.h"
 
-#include <QtTest>
+#include "Support/TestValues.h"
 
 Q_DECLARE_METATYPE(vesk::InputState)
 

@@ -1,5 +1,6 @@
 #include "TemporaryDimensionHandlersImpl/HandlerFixture.h"
 
+#include "Support/TestValues.h"
 #include "TemporaryDimensionHandlersImpl/CentralAngleTemporaryDimensionHandler.h"
 #include "TemporaryDimensionHandlersImpl/KindTable.h"
 #include "TemporaryDimensionHandlersImpl/LinearTemporaryDimensionHandler.h"
@@ -8,7 +9,6 @@
 #include "TemporaryDimensionHandlersImpl/RotationTemporaryDimensionHandler.h"
 
 #include <QMetaMethod>
-#include <QtTest>
 
 namespace vesk::test
 {

@@ -1,6 +1,6 @@
 #include "TemporaryDimensionHandlersImpl/LifetimeFixture.h"
 
-#include <QtTest>
+#include "Support/TestValues.h"
 
 namespace vesk::test
 {

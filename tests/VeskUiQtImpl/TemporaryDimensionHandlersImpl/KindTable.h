@@ -4,9 +4,8 @@
 #include "Dimension/RadiusTemporaryDimensionContext.h"
 #include "Dimension/RectangleTemporaryDimensionContext.h"
 #include "Dimension/RotationTemporaryDimensionContext.h"
+#include "Support/TestValues.h"
 #include "TemporaryDimensionHandlersImpl/HandlerFixture.h"
-
-#include <QtTest>
 
 #include <algorithm>
 

@@ -1,6 +1,7 @@
 #include "TemporaryDimensionHandlersImpl/HandlerFixture.h"
 
-#include <QtTest>
+#include "Support/HostValues.h"
+#include "Support/TestValues.h"
 
 namespace vesk::test
 {

@@ -1,7 +1,7 @@
 #include "Dimension/RadiusTemporaryDimensionContext.h"
+#include "Support/HostValues.h"
+#include "Support/TestValues.h"
 #include "TemporaryDimensionHandlersImpl/GeneratorFixture.h"
-
-#include <QtTest>
 
 Q_DECLARE_METATYPE(vesk::Vector3d)
 
@@ -64,9 +64,11 @@ void RadiusDimensionTest::showsLinesAndCentralAngleWhenAsked()
     const auto* pToSecond = dynamic_cast<const IGraphicsLine*>(opGroup->GetChild(1));
     const auto* pToThird = dynamic_cast<const IGraphicsLine*>(opGroup->GetChild(2));
     QVERIFY(pToSecond != nullptr && pToThird != nullptr);
-    QVERIFY(pToSecond->GetStart() == First && pToSecond->GetEnd() == Second);
-    QVERIFY(pToThird->GetStart() == First && pToThird->GetEnd() == Third);
-    QVERIFY(pToSecond->GetRole() == GraphicsRole::Dimension);
+    QCOMPARE(pToSecond->GetStart(), First);
+    QCOMPARE(pToSecond->GetEnd(), Second);
+    QCOMPARE(pToThird->GetStart(), First);
+    QCOMPARE(pToThird->GetEnd(), Third);
+    QCOMPARE(pToSecond->GetRole(), GraphicsRole::Dimension);
 }
 
 void RadiusDimensionTest::showsNoCentralAngleWhereThereIsNone_data()

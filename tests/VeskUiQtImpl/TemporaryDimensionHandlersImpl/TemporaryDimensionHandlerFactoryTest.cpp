@@ -1,9 +1,8 @@
 #include "TemporaryDimensionHandlersImpl/TemporaryDimensionHandlerFactory.h"
 
 #include "Dimension/TemporaryDimensionMgr.h"
+#include "Support/TestValues.h"
 #include "TemporaryDimensionHandlersImpl/KindTable.h"
-
-#include <QtTest>
 
 #include <cstring>
 #include <typeinfo>

@@ -1,10 +1,11 @@
 #include "TemporaryDimensionHandlersImpl/HandlerFixture.h"
 
 #include "Journal/NqIJournalFactory.h"
+#include "Support/HostValues.h"
+#include "Support/TestValues.h"
 #include "View/UiViewUtility.h"
 
 #include <QMetaMethod>
-#include <QtTest>
 
 namespace vesk::test
 {
