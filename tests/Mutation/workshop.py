@@ -1,0 +1,215 @@
+"""The copy of the tree in which faults are made: it is built here, and test programs run against it.
+
+The sources stay untouched. The copy lies below build/mutation and is kept for the next run.
+"""
+import concurrent.futures
+import contextlib
+import dataclasses
+import fcntl
+import filecmp
+import json
+import os
+import pathlib
+import shlex
+import shutil
+import signal
+import subprocess
+import tempfile
+import threading
+import time
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+WORK = ROOT / "build" / "mutation"
+COPY = WORK / "tree"
+BUILD = COPY / "build" / "dev"
+TABLES = pathlib.Path(__file__).resolve().parent
+# As the tree itself is built, so that the compiler cache serves both. A library that changed links no program anew.
+CONFIGURE = ["cmake", "--preset", "dev", "-DCMAKE_LINK_DEPENDS_NO_SHARED=ON"]
+MEMCHECK = ["valgrind", "--quiet", "--error-exitcode=9"]
+ADDRESS_SPACE = 8 << 30
+
+
+class Problem(Exception):
+    """Something is wrong with a table, an option or the tree, not with a test."""
+
+
+@dataclasses.dataclass
+class Program:
+    """A test program, and what it takes when nothing is wrong."""
+    name: str
+    folder: str
+    label: str
+    environment: dict
+    seconds: float = 1.0
+    cpu: float = 1.0
+
+
+@dataclasses.dataclass
+class Outcome:
+    status: int
+    timed_out: bool
+    seconds: float
+    cpu: float
+    output: str
+
+    @property
+    def passed(self):
+        return self.status == 0 and not self.timed_out
+
+
+@contextlib.contextmanager
+def alone():
+    """Two runs would build in each other's way."""
+    WORK.mkdir(parents=True, exist_ok=True)
+    with open(WORK / "lock", "w", encoding="ascii") as lock:
+        try:
+            fcntl.flock(lock, fcntl.LOCK_EX | fcntl.LOCK_NB)
+        except BlockingIOError:
+            raise Problem(f"another run is at work in {WORK.relative_to(ROOT)}") from None
+        yield
+
+
+def copy_file(name):
+    source, target = ROOT / name, COPY / name
+    if target.exists() and filecmp.cmp(source, target, shallow=False):
+        return
+    target.parent.mkdir(parents=True, exist_ok=True)
+    shutil.copy(source, target)
+    os.utime(target)
+
+
+def copy_tree():
+    listed = subprocess.run(["git", "ls-files", "-z", "--cached", "--others", "--exclude-standard"],
+                            cwd=ROOT, check=True, capture_output=True, text=True).stdout
+    names = {name for name in listed.split("\0") if (ROOT / name).is_file()}
+    for name in names:
+        copy_file(name)
+    for path in COPY.rglob("*"):
+        name = path.relative_to(COPY)
+        if path.is_file() and name.parts[0] != "build" and str(name) not in names:
+            path.unlink()
+
+
+def write(path, text):
+    """Leaves the time of a file alone whose text stays, so that nothing is built for it."""
+    if not path.exists() or path.read_text(encoding="utf-8") != text:
+        path.write_text(text, encoding="utf-8")
+
+
+def environment():
+    return dict(os.environ, CCACHE_BASEDIR=str(COPY), CCACHE_NOHASHDIR="1", LC_ALL="C.UTF-8")
+
+
+def run(command, **options):
+    return subprocess.run(command, cwd=COPY, env=environment(), stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
+                          text=True, errors="replace", check=False, **options)
+
+
+def prepare():
+    copy_tree()
+    result = run(CONFIGURE)
+    if result.returncode != 0:
+        raise Problem("cannot be configured:\n" + result.stdout[-2000:])
+
+
+def programs():
+    """All test programs by name."""
+    result = run(["ctest", "--test-dir", str(BUILD), "--show-only=json-v1"])
+    if result.returncode != 0:
+        raise Problem("the tests cannot be listed:\n" + result.stdout[-2000:])
+    found = {}
+    for test in json.loads(result.stdout)["tests"]:
+        properties = {entry["name"]: entry["value"] for entry in test["properties"]}
+        folder = pathlib.Path(properties["WORKING_DIRECTORY"]).relative_to(BUILD / "tests")
+        variables = dict(line.split("=", 1) for line in properties.get("ENVIRONMENT", []))
+        label = properties.get("LABELS", [""])[0]
+        found[test["name"]] = Program(test["name"], str(folder), label, variables)
+    return found
+
+
+def compile_commands():
+    """How each source of a library is compiled, without output and without what clang does not know."""
+    commands = {}
+    for entry in json.loads((BUILD / "compile_commands.json").read_text(encoding="utf-8")):
+        words = shlex.split(entry["command"])
+        output = words[words.index("-o") + 1]
+        name = pathlib.Path(entry["file"])
+        if not output.startswith("src/") or not name.is_relative_to(COPY / "src"):
+            continue
+        if words[0].endswith("ccache"):
+            del words[0]
+        words = words[:words.index("-o")] + words[words.index("-o") + 2:words.index("-c")]
+        commands[str(name.relative_to(COPY))] = [word for word in words if word != "-fno-gnu-unique"]
+    return commands
+
+
+def build(targets, jobs):
+    """What ninja printed when the targets cannot be built, else nothing."""
+    result = run(["nice", "ninja", "-C", str(BUILD), "-k0", f"-j{jobs}", *targets])
+    return result.stdout if result.returncode != 0 else ""
+
+
+def limited(command, cpu, with_address_space):
+    limits = [f"--cpu={int(cpu) + 1}", "--core=0"]
+    if with_address_space:
+        limits.append(f"--as={ADDRESS_SPACE}")
+    return ["prlimit", *limits, "--", *command]
+
+
+def read_until_failure(process):
+    """Nothing that comes after the first failure is of interest."""
+    lines = []
+    for line in process.stdout:
+        lines.append(line)
+        if line.startswith("FAIL!"):
+            break
+    return "".join(lines), bool(lines) and lines[-1].startswith("FAIL!")
+
+
+def end(process):
+    with contextlib.suppress(ProcessLookupError):
+        os.killpg(process.pid, signal.SIGKILL)
+
+
+def execute(program, variables=None, checker="", allowance=1):
+    """Runs a program until it ends or fails for the first time.
+
+    Processor time is limited to a multiple of what the program takes when nothing is wrong; so is the time on the
+    clock, but that says little on a machine with other work: the caller repeats what ran into it.
+    """
+    wall = (20 + 10 * program.seconds) * allowance * (30 if checker else 1)
+    cpu = (10 + 10 * program.cpu) * allowance * (30 if checker else 1)
+    command = (MEMCHECK if checker == "memory" else []) + [str(BUILD / "tests" / program.name)]
+    with tempfile.TemporaryDirectory(dir=WORK, prefix="home-") as home:
+        settings = dict(environment(), **program.environment, HOME=home, TMPDIR=home, **(variables or {}))
+        started = time.monotonic()
+        process = subprocess.Popen(limited(command, cpu, not checker), cwd=BUILD / "tests" / program.folder,
+                                   env=settings, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+                                   stderr=subprocess.STDOUT, text=True, errors="replace", start_new_session=True)
+        expired = threading.Event()
+        timer = threading.Timer(wall, lambda: (expired.set(), end(process)))
+        timer.start()
+        try:
+            output, failed = read_until_failure(process)
+            if failed:
+                end(process)
+            _, status, usage = os.wait4(process.pid, 0)
+        finally:
+            timer.cancel()
+            end(process)
+            process.stdout.close()
+    process.returncode = os.waitstatus_to_exitcode(status)
+    return Outcome(1 if failed else process.returncode, expired.is_set(), time.monotonic() - started,
+                   usage.ru_utime + usage.ru_stime, output)
+
+
+def measure(chosen, jobs, variables_of=lambda program: {}):
+    """Runs each program without a fault, notes what it takes and answers those that fail even so."""
+    def one(program):
+        program.seconds, program.cpu = 60.0, 60.0
+        outcome = execute(program, variables_of(program))
+        program.seconds, program.cpu = outcome.seconds, outcome.cpu
+        return outcome.passed
+    with concurrent.futures.ThreadPoolExecutor(jobs) as pool:
+        passed = list(pool.map(one, chosen))
+    return [program for program, good in zip(chosen, passed) if not good and not one(program)]
