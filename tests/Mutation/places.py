@@ -199,7 +199,7 @@ class Scan:
         visitor = VISITORS.get(cursor.kind.name)
         if visitor is not None:
             visitor(self, cursor, children)
-        if cursor.spelling.startswith("operator") and re.search(r"[\w)\]]\s*$", self.text[:self.extent(cursor)[0]][-80:]):
+        if cursor.spelling.startswith("operator") and self.has_left_operand(cursor):
             self.add_operator(*self.extent(cursor))
         for child in children:
             self.visit(child)
@@ -211,6 +211,10 @@ class Scan:
             for other in others.get(symbol, []):
                 first = start + gap.index(symbol)
                 self.add(first, first + len(symbol), other, kind)
+
+    def has_left_operand(self, cursor):
+        start, _ = self.extent(cursor)
+        return re.search(r"[\w)\]]\s*$", self.text[max(start - 80, 0):start]) is not None
 
     def visit_binary(self, _cursor, children):
         if len(children) == 2:
@@ -252,7 +256,9 @@ class Scan:
 
     def is_turned_round_otherwise(self, cursor):
         children = list(cursor.get_children())
-        while cursor.kind.name == "UNEXPOSED_EXPR" and len(children) == 1 and self.extent(children[0]) == self.extent(cursor):
+        while cursor.kind.name == "UNEXPOSED_EXPR" and len(children) == 1:
+            if self.extent(children[0]) != self.extent(cursor):
+                break
             cursor = children[0]
             children = list(cursor.get_children())
         if cursor.kind.name == "UNARY_OPERATOR":

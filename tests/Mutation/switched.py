@@ -54,7 +54,7 @@ def batches(faults):
 
 
 def install(name, text):
-    """Puts a text in the place of a source. No warning is of interest in it, which GCC grants to system headers only."""
+    """Puts a text in the place of a source. Nobody wants warnings of it: GCC gives none for system headers."""
     path = COPY / name
     quiet = f'#pragma GCC system_header\n#line 1 "{path}"\n{text}'
     if path.suffix == ".h":
@@ -75,7 +75,7 @@ class Switchboard:
         self.faults = []
 
     def compile_in(self, faults, targets, also=()):
-        """Compiles the faults in, and in the sources of `also` what tells of functions. Answers what does not compile."""
+        """Answers the faults that do not compile. The sources of `also` tell of their functions, too."""
         wanted, self.faults = faults, list(faults)
         for number, fault in enumerate(faults, 1):
             fault.number = number
@@ -100,7 +100,8 @@ class Switchboard:
             if not body.switchable or body.start < here:
                 continue
             faults = [fault for fault in self.faults if fault.source is source and fault.place.body == number]
-            parts += [text[here:body.start], self.switch(source, number, faults, marked), text[body.start:body.end], "}"]
+            choice = self.switch(source, number, faults, marked)
+            parts += [text[here:body.start], choice, text[body.start:body.end], "}"]
             here = body.end
         return "".join(parts) + text[here:]
 
