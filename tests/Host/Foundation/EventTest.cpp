@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <memory>
+#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
@@ -63,9 +64,9 @@ private:
 };
 
 /// Three handlers a, b and c on one event.
-struct Fixture
+struct EventFixture
 {
-    Fixture()
+    EventFixture()
     {
         pEvent->Add(&a);
         pEvent->Add(&b);
@@ -83,6 +84,8 @@ struct Fixture
     Handler d{record, 'd'};
 };
 
+using Fixture = EventFixture;
+
 /// Counts its calls without allocating.
 class CountingHandler final : public IHandler
 {
@@ -95,6 +98,14 @@ private:
 };
 
 }
+
+}
+
+using Act = void (*)(vesk::EventFixture&);
+Q_DECLARE_METATYPE(Act)
+
+namespace vesk
+{
 
 class EventTest : public QObject
 {
@@ -121,6 +132,11 @@ private slots:
     void destroyingTheEventEndsTheEmission();
     void destroyingTheEventInANestedEmissionEndsBoth();
     void anEventOutlivesAHandlerDestroyedInItsOwnCall();
+    void aHandlerThatThrowsKeepsTheOthersFromNothing();
+    void theEventIsUsableAfterAnException_data();
+    void theEventIsUsableAfterAnException();
+    void destroyingTheEventInAHandlerThatThrowsEndsTheEmission();
+    void anExceptionInANestedEmissionLeavesBoth();
     void emittingAllocatesNothing();
     void emittingFromAHandlerThatUnsubscribesAllocatesNothing();
 };
@@ -367,6 +383,75 @@ void EventTest::anEventOutlivesAHandlerDestroyedInItsOwnCall()
     f.Emit();
 
     QCOMPARE(f.record, std::string("abcabc"));
+}
+
+void EventTest::aHandlerThatThrowsKeepsTheOthersFromNothing()
+{
+    Fixture f;
+    f.a.Then([] { throw std::runtime_error("a"); });
+    f.b.Then([] { throw std::logic_error("b"); });
+
+    // The first of them.
+    QVERIFY_EXCEPTION_THROWN(f.Emit(), std::runtime_error);
+
+    QCOMPARE(f.record, std::string("abc"));
+}
+
+void EventTest::theEventIsUsableAfterAnException_data()
+{
+    QTest::addColumn<Act>("act");
+    QTest::addColumn<QByteArray>("record");
+    QTest::newRow("emitting") << Act{[](Fixture& f) { f.Emit(); }} << QByteArray("abc");
+    QTest::newRow("subscribing") << Act{[](Fixture& f) {
+        f.pEvent->Add(&f.d);
+        f.Emit();
+    }} << QByteArray("abcd");
+    QTest::newRow("unsubscribing") << Act{[](Fixture& f) {
+        f.pEvent->Delete(&f.b);
+        f.Emit();
+    }} << QByteArray("ac");
+    QTest::newRow("destroying") << Act{[](Fixture& f) { f.pEvent.reset(); }} << QByteArray();
+}
+
+void EventTest::theEventIsUsableAfterAnException()
+{
+    QFETCH(Act, act);
+    QFETCH(QByteArray, record);
+    Fixture f;
+    f.a.Then([] { throw std::runtime_error("a"); });
+    QVERIFY_EXCEPTION_THROWN(f.Emit(), std::runtime_error);
+    f.record.clear();
+
+    act(f);
+
+    QCOMPARE(f.record, record.toStdString());
+}
+
+void EventTest::destroyingTheEventInAHandlerThatThrowsEndsTheEmission()
+{
+    Fixture f;
+    f.a.Then([&] {
+        f.pEvent.reset();
+        throw std::runtime_error("a");
+    });
+
+    QVERIFY_EXCEPTION_THROWN(f.Emit(), std::runtime_error);
+
+    QCOMPARE(f.record, std::string("a"));
+}
+
+void EventTest::anExceptionInANestedEmissionLeavesBoth()
+{
+    Fixture f;
+    f.a.Then([&] {
+        f.b.Then([] { throw std::runtime_error("b"); });
+        f.Emit();
+    });
+
+    QVERIFY_EXCEPTION_THROWN(f.Emit(), std::runtime_error);
+    f.Emit();
+
+    QCOMPARE(f.record, std::string("aabcbcabc"));
 }
 
 void EventTest::emittingAllocatesNothing()

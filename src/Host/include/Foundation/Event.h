@@ -1,5 +1,8 @@
 #pragma once
 
+#include "Foundation/EmissionScope.h"
+#include "Foundation/FirstException.h"
+
 #include <algorithm>
 #include <cstddef>
 #include <vector>
@@ -15,7 +18,8 @@ namespace vesk
 ///
 /// Emitting survives re-entry: a handler may subscribe, unsubscribe itself or another, emit again,
 /// or destroy the event itself. A handler added while emitting first hears the next emission; one
-/// removed hears nothing more. Emitting allocates nothing.
+/// removed hears nothing more. One that throws keeps the others from nothing: the first exception
+/// leaves the emission when all have been called. Emitting allocates nothing.
 template <class TSender, class TEvent, class THandler, class TArgs>
 class Event : public TEvent
 {
@@ -26,12 +30,7 @@ public:
     Event(const Event&) = delete;
     Event& operator=(const Event&) = delete;
 
-    ~Event() override
-    {
-        for (Emission* pEmission = m_pInnermost; pEmission != nullptr;
-             pEmission = pEmission->pOuter)
-            pEmission->isEventAlive = false;
-    }
+    ~Event() override { EmissionScope::EndAll(m_pInnermost); }
 
     /// Subscribes a handler; null and a handler that is already subscribed are ignored.
     void Add(THandler* pHandler) override
@@ -55,23 +54,7 @@ public:
     }
 
     /// Calls `On(pArgs)` of each handler in the order of subscription. `pArgs` is not owned.
-    void Emit(TArgs* pArgs)
-    {
-        Emission emission{m_pInnermost};
-        m_pInnermost = &emission;
-        const std::size_t count = m_handlers.size();
-        for (std::size_t i = 0; i < count; ++i)
-        {
-            if (THandler* pHandler = m_handlers[i])
-                pHandler->On(pArgs);
-            if (!emission.isEventAlive)
-                return;
-        }
-        m_pInnermost = emission.pOuter;
-        if (m_pInnermost == nullptr)
-            m_handlers.erase(std::remove(m_handlers.begin(), m_handlers.end(), nullptr),
-                             m_handlers.end());
-    }
+    void Emit(TArgs* pArgs) { EmitTo(m_handlers.size(), pArgs); }
 
     /// True when nobody listens.
     bool IsEmpty() const
@@ -80,21 +63,62 @@ public:
                            [](const THandler* pHandler) { return pHandler == nullptr; });
     }
 
-private:
-    /// One running `Emit`; lives on the stack of that call.
-    struct Emission
+protected:
+    /// As long as it lives, no handler changes its place.
+    class Emission final : public EmissionScope
     {
-        Emission* pOuter;
-        bool isEventAlive = true;
+    public:
+        explicit Emission(Event& event) : EmissionScope(event.m_pInnermost), m_event(event) {}
+
+        ~Emission()
+        {
+            if (IsEventAlive() && IsOutermost())
+                m_event.DropEmptyPlaces();
+        }
+
+    private:
+        Event& m_event;
     };
 
+    /// How many places handlers have: whoever subscribes from now on comes behind them.
+    std::size_t GetPlaceCount() const { return m_handlers.size(); }
+
+    /// Calls the handlers in the first `placeCount` places.
+    void EmitTo(std::size_t placeCount, TArgs* pArgs)
+    {
+        Emission emission(*this);
+        FirstException exception;
+        for (std::size_t place = 0; emission.IsEventAlive() && place < placeCount; ++place)
+        {
+            emission.SetPlace(place);
+            if (THandler* pHandler = m_handlers[place])
+                exception.Catch([&] { pHandler->On(pArgs); });
+        }
+        exception.Throw();
+    }
+
+    /// The handler that is being called, by the innermost emission; null when none is.
+    THandler* GetCalledHandler() const
+    {
+        const std::size_t place =
+            m_pInnermost != nullptr ? m_pInnermost->GetPlace() : EmissionScope::NoPlace;
+        return place < m_handlers.size() ? m_handlers[place] : nullptr;
+    }
+
+private:
     bool Contains(const THandler* pHandler) const
     {
         return std::find(m_handlers.begin(), m_handlers.end(), pHandler) != m_handlers.end();
     }
 
+    void DropEmptyPlaces()
+    {
+        m_handlers.erase(std::remove(m_handlers.begin(), m_handlers.end(), nullptr),
+                         m_handlers.end());
+    }
+
     std::vector<THandler*> m_handlers;
-    Emission* m_pInnermost = nullptr;
+    EmissionScope* m_pInnermost = nullptr;
 };
 
 }

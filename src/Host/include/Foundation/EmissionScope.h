@@ -1,0 +1,39 @@
+#pragma once
+
+#include "Foundation/HostExport.h"
+
+#include <cstddef>
+
+namespace vesk
+{
+
+/// One emission of an event, linked with those around it. On the stack of the call that emits, and
+/// unlinked however that call ends; the event may die first.
+class VESK_HOST_API EmissionScope
+{
+public:
+    static constexpr std::size_t NoPlace = static_cast<std::size_t>(-1);
+
+    /// `pInnermost` is the event's; it points to this scope until the scope ends.
+    explicit EmissionScope(EmissionScope*& pInnermost);
+    ~EmissionScope();
+    EmissionScope(const EmissionScope&) = delete;
+    EmissionScope& operator=(const EmissionScope&) = delete;
+
+    /// Tells all emissions of an event that it dies.
+    static void EndAll(EmissionScope* pInnermost);
+
+    bool IsEventAlive() const { return m_ppInnermost != nullptr; }
+    bool IsOutermost() const { return m_pOuter == nullptr; }
+
+    /// Of the handler that is being called.
+    std::size_t GetPlace() const { return m_place; }
+    void SetPlace(std::size_t place) { m_place = place; }
+
+private:
+    EmissionScope** m_ppInnermost;
+    EmissionScope* m_pOuter;
+    std::size_t m_place = NoPlace;
+};
+
+}
