@@ -2,6 +2,9 @@
 
 #include "Support/TestValues.h"
 
+#include <map>
+#include <memory>
+
 namespace vesk
 {
 
@@ -25,6 +28,9 @@ private slots:
     void scopesOfDifferentIdsNest();
     void scopesOfTheSameIdNest();
     void copiesTheId();
+    void scopesMayEndInAnyOrder_data();
+    void scopesMayEndInAnyOrder();
+    void aScopeThatBeginsAfterAnotherEndedOutOfOrderIsFound();
     void theLineEditFlagIsClearedAtTheEndOfAScope();
     void theRadioButtonFlagIsClearedAtTheEndOfAScope();
 };
@@ -81,6 +87,59 @@ void ControlDefinitionChangeByUserTest::copiesTheId()
 
     QVERIFY(IsMarked(L"a"));
     QVERIFY(!IsMarked(L"b"));
+}
+
+void ControlDefinitionChangeByUserTest::scopesMayEndInAnyOrder_data()
+{
+    QTest::addColumn<QByteArray>("order");
+    QTest::newRow("as they began") << QByteArray("abc");
+    QTest::newRow("youngest, oldest, middle") << QByteArray("cab");
+    QTest::newRow("middle, oldest, youngest") << QByteArray("bac");
+    QTest::newRow("middle, youngest, oldest") << QByteArray("bca");
+    QTest::newRow("oldest, youngest, middle") << QByteArray("acb");
+}
+
+void ControlDefinitionChangeByUserTest::scopesMayEndInAnyOrder()
+{
+    QFETCH(QByteArray, order);
+    std::map<char, std::unique_ptr<ControlDefinitionChangeByUser>> scopes;
+    for (const char id : {'a', 'b', 'c'})
+        scopes[id] = std::make_unique<ControlDefinitionChangeByUser>(
+            std::wstring(1, static_cast<wchar_t>(id)));
+    QByteArray marked;
+
+    for (const char ended : order)
+    {
+        scopes.erase(ended);
+        marked += IsMarked(L"a") ? 'a' : '-';
+        marked += IsMarked(L"b") ? 'b' : '-';
+        marked += IsMarked(L"c") ? 'c' : '-';
+    }
+
+    QByteArray expected;
+    for (int ended = 1; ended <= order.size(); ++ended)
+    {
+        for (const char id : {'a', 'b', 'c'})
+            expected += order.indexOf(id) >= ended ? id : '-';
+    }
+    QCOMPARE(marked, expected);
+}
+
+void ControlDefinitionChangeByUserTest::aScopeThatBeginsAfterAnotherEndedOutOfOrderIsFound()
+{
+    auto pOld = std::make_unique<ControlDefinitionChangeByUser>(L"a");
+    const ControlDefinitionChangeByUser young(L"b");
+    pOld.reset();
+
+    {
+        const ControlDefinitionChangeByUser youngest(L"c");
+        QVERIFY(IsMarked(L"c"));
+        QVERIFY(IsMarked(L"b"));
+        QVERIFY(!IsMarked(L"a"));
+    }
+
+    QVERIFY(!IsMarked(L"c"));
+    QVERIFY(IsMarked(L"b"));
 }
 
 void ControlDefinitionChangeByUserTest::theLineEditFlagIsClearedAtTheEndOfAScope()

@@ -7,7 +7,8 @@
 namespace vesk
 {
 
-/// While one lives, changes of the definition with its id are the user's. Scopes may nest.
+/// While one lives, changes of the definition with its id are the user's. Scopes may nest, and end
+/// in any order.
 ///
 /// GUI thread only.
 class VESK_HOST_API ControlDefinitionChangeByUser
@@ -23,7 +24,10 @@ public:
 
 private:
     std::wstring m_id;
-    const ControlDefinitionChangeByUser* m_pOuter;
+
+    // All that live are linked, the youngest first.
+    ControlDefinitionChangeByUser* m_pOlder;
+    ControlDefinitionChangeByUser* m_pYounger = nullptr;
 };
 
 /// Marks that a line edit's text is being changed by the user: the edit sets the flag, the end of

@@ -6,7 +6,7 @@ namespace vesk
 namespace
 {
 
-const ControlDefinitionChangeByUser* s_pInnermost = nullptr;
+ControlDefinitionChangeByUser* s_pYoungest = nullptr;
 
 }
 
@@ -14,21 +14,25 @@ bool LineEditTextChangeFlag::m_textChangeByUser = false;
 bool RadioButtonGroupStateChangeFlag::m_stateChangeByUser = false;
 
 ControlDefinitionChangeByUser::ControlDefinitionChangeByUser(const std::wstring& id)
-    : m_id(id), m_pOuter(s_pInnermost)
+    : m_id(id), m_pOlder(s_pYoungest)
 {
-    s_pInnermost = this;
+    if (m_pOlder != nullptr)
+        m_pOlder->m_pYounger = this;
+    s_pYoungest = this;
 }
 
 ControlDefinitionChangeByUser::~ControlDefinitionChangeByUser()
 {
-    s_pInnermost = m_pOuter;
+    if (m_pOlder != nullptr)
+        m_pOlder->m_pYounger = m_pYounger;
+    (m_pYounger != nullptr ? m_pYounger->m_pOlder : s_pYoungest) = m_pOlder;
 }
 
 bool ControlDefinitionChangeByUser::IsChangeByUser(const std::wstring& id)
 {
-    const ControlDefinitionChangeByUser* pScope = s_pInnermost;
+    const ControlDefinitionChangeByUser* pScope = s_pYoungest;
     while (pScope != nullptr && pScope->m_id != id)
-        pScope = pScope->m_pOuter;
+        pScope = pScope->m_pOlder;
     return pScope != nullptr;
 }
 
