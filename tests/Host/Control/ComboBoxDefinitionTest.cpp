@@ -72,6 +72,7 @@ private slots:
     void theStateIsRightWhenTheEventIsRaised_data();
     void theStateIsRightWhenTheEventIsRaised();
     void aHandlerMayChangeItAgain();
+    void aHandlerMayChooseAnItemThatItAdds();
     void aHandlerMayDestroyIt_data();
     void aHandlerMayDestroyIt();
 };
@@ -323,7 +324,23 @@ void ComboBoxDefinitionTest::aHandlerMayChangeItAgain()
     f.pBox->InsertItem(0, L"x");
 
     QCOMPARE(f.GetState(), std::wstring(L"[a]bc"));
-    QCOMPARE(f.pRecorder->GetCount(), 2);
+    // The last one tells of the index.
+    QCOMPARE(f.pRecorder->GetCount(), 3);
+    QCOMPARE(f.pRecorder->GetChanges().at(1).type, int{Type::Delete});
+    QCOMPARE(f.pRecorder->GetChanges().at(2).type, int{Type::PropertyChanged});
+}
+
+void ComboBoxDefinitionTest::aHandlerMayChooseAnItemThatItAdds()
+{
+    const ComboBoxFixture f(0);
+    f.pRecorder->Then([&] {
+        f.pBox->AddItem(L"y");
+        f.pBox->SetCurrentIndex(4);
+    });
+
+    f.pBox->AddItem(L"x");
+
+    QCOMPARE(f.GetState(), std::wstring(L"abcx[y]"));
 }
 
 void ComboBoxDefinitionTest::aHandlerMayDestroyIt_data()

@@ -402,8 +402,9 @@ void ItemDefinitionListTest::aHandlerMayChangeTheListAgain()
     f.Insert(3, L"x");
 
     QCOMPARE(f.GetIds(), std::wstring(L"yabcx"));
-    QCOMPARE(f.pRecorder->GetCount(), 2);
+    QCOMPARE(f.pRecorder->GetCount(), 3);
     QCOMPARE(f.pRecorder->GetChanges().at(1).type, int{Type::Insert});
+    QCOMPARE(f.pRecorder->GetChanges().at(2).type, int{Type::PropertyChanged});
 }
 
 void ItemDefinitionListTest::aHandlerMayUnsubscribeItself()
@@ -434,8 +435,8 @@ void ItemDefinitionListTest::aHandlerMayRemoveTheItemConcerned_data()
     QTest::addColumn<Act>("act");
     QTest::addColumn<QString>("heard");
     QTest::newRow("delete") << Act{[](Fixture& f) { f.pList->Delete(3, s_delete); }}
-                            << "caption of x;caption of x;";
-    QTest::newRow("clear") << Act{[](Fixture& f) { f.pList->Clear(); }} << "none;caption of x;";
+                            << "caption of x;caption of x;none;";
+    QTest::newRow("clear") << Act{[](Fixture& f) { f.pList->Clear(); }} << "caption of x;none;none;";
 }
 
 void ItemDefinitionListTest::aHandlerMayRemoveTheItemConcerned()

@@ -10,7 +10,8 @@ namespace vesk
 /// empty list becomes current, items that come or go before the current one move the index, and
 /// when the current one goes, the item that takes its place, or else the last one, is current.
 ///
-/// A bad index is reported and changes nothing.
+/// A bad index is reported and changes nothing. An index that a control writes while it still hears
+/// of earlier changes of the items changes nothing either.
 class VESK_HOST_API ComboBoxDefinition : public ControlDefinition<IComboBoxDefinition>
 {
 public:

@@ -29,7 +29,7 @@ VESK_HOST_API bool CheckItem(const IControlDefinition* pItem, const char* functi
 /// `TItem` is the class or interface of the items. `function` is the qualified name under which a
 /// bad argument is reported: such a call changes nothing. A handler may destroy the definition, so
 /// nothing follows an event. It may remove the item that it hears of, too: an item lives on until
-/// the outermost event of its list is over, for the handlers that hear of it yet.
+/// the outermost change of its list has been told, for the handlers that hear of it yet.
 template <class TItem>
 class ItemDefinitionList final : private IControlDefinitionChangeEventHandler
 {
@@ -76,7 +76,7 @@ public:
         m_owned.emplace(pItem, std::move(opItem));
         m_event.RaiseItemsChanged(isAppended ? ControlDefinitionChangeEventType::Add
                                              : ControlDefinitionChangeEventType::Insert,
-                                  index, caption, pItem);
+                                  index, caption, pItem, pRemoved);
     }
 
     void Delete(int index, const char* function)
@@ -89,7 +89,8 @@ public:
         const std::shared_ptr<Removed> pRemoved = GetRemoved();
         m_items.erase(place);
         Remove(pItem, *pRemoved);
-        m_event.RaiseItemsChanged(ControlDefinitionChangeEventType::Delete, index, caption, pItem);
+        m_event.RaiseItemsChanged(ControlDefinitionChangeEventType::Delete, index, caption, pItem,
+                                  pRemoved);
     }
 
     /// An empty list is left alone.
@@ -101,7 +102,7 @@ public:
         for (TItem* pItem : std::exchange(m_items, {}))
             Remove(pItem, *pRemoved);
         m_event.RaiseItemsChanged(ControlDefinitionChangeEventType::Clear, -1, std::wstring(),
-                                  nullptr);
+                                  nullptr, pRemoved);
     }
 
 private:

@@ -18,6 +18,8 @@ std::vector<std::wstring> ComboBoxDefinition::GetItems() const
 
 void ComboBoxDefinition::SetCurrentIndex(int index)
 {
+    if (GetEvent().RefuseFromBehind())
+        return;
     if (Check(index >= -1 && index < GetCount(),
               VESK_HOST_SITE("vesk::ComboBoxDefinition::SetCurrentIndex", L"index不正确")))
         Change(m_currentIndex, index);

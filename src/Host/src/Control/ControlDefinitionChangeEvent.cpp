@@ -1,6 +1,12 @@
 #include "Control/ControlDefinitionChangeEvent.h"
 
 #include "Control/ControlDefinitionChangeByUser.h"
+#include "Control/IControl.h"
+
+#include <cstddef>
+#include <list>
+#include <utility>
+#include <vector>
 
 namespace vesk
 {
@@ -31,7 +37,55 @@ private:
     bool m_isByUser;
 };
 
+/// A change of items that is yet to be told.
+struct WaitingChange
+{
+    int type;
+    int index;
+    std::wstring caption;
+    const IControlDefinition* pItem;
+    std::shared_ptr<const void> pKept;
+    bool isByUser;
+    std::size_t placeCount; ///< Of the handlers that were there when it happened.
+};
+
 }
+
+/// A change of items that is being told, and what has happened since.
+struct ControlDefinitionChangeEvent::Telling
+{
+    Telling(ControlDefinitionChangeEvent& told, bool isByUserThen)
+        : emission(told), event(told), isByUser(isByUserThen)
+    {
+        event.m_pTelling = this;
+    }
+    ~Telling() { End(); }
+    Telling(const Telling&) = delete;
+    Telling& operator=(const Telling&) = delete;
+
+    bool IsEventAlive() const { return emission.IsEventAlive(); }
+    bool IsFollowed() const { return !items.empty() || !properties.empty(); }
+
+    /// Keeps a change of properties; several in a row with the same mark are one.
+    void AddProperty(bool isPropertyByUser)
+    {
+        if (properties.empty() || properties.back() != isPropertyByUser)
+            properties.push_back(isPropertyByUser);
+    }
+
+    /// From now on nothing waits any more.
+    void End()
+    {
+        if (IsEventAlive() && event.m_pTelling == this)
+            event.m_pTelling = nullptr;
+    }
+
+    Emission emission;
+    ControlDefinitionChangeEvent& event;
+    const bool isByUser;
+    std::list<WaitingChange> items; ///< Stay to the end: a handler may add to them.
+    std::vector<bool> properties;   ///< For each whether it is the user's.
+};
 
 ControlDefinitionChangeEvent::ControlDefinitionChangeEvent(const std::wstring& definitionId)
     : m_definitionId(definitionId)
@@ -39,17 +93,75 @@ ControlDefinitionChangeEvent::ControlDefinitionChangeEvent(const std::wstring& d
 
 void ControlDefinitionChangeEvent::RaisePropertyChanged()
 {
-    RaiseItemsChanged(ControlDefinitionChangeEventType::PropertyChanged, -1, std::wstring(),
-                      nullptr);
+    const bool isByUser = ControlDefinitionChangeByUser::IsChangeByUser(m_definitionId);
+    if (m_pTelling != nullptr)
+        m_pTelling->AddProperty(isByUser);
+    else
+        EmitProperty(isByUser);
 }
 
 void ControlDefinitionChangeEvent::RaiseItemsChanged(int type, int index,
                                                      const std::wstring& caption,
-                                                     const IControlDefinition* pItem)
+                                                     const IControlDefinition* pItem,
+                                                     std::shared_ptr<const void> pKept)
 {
     const bool isByUser = ControlDefinitionChangeByUser::IsChangeByUser(m_definitionId);
+    if (m_pTelling != nullptr)
+    {
+        m_pTelling->items.push_back(
+            {type, index, caption, pItem, std::move(pKept), isByUser, GetPlaceCount()});
+        return;
+    }
+
+    Telling telling(*this, isByUser);
+    FirstException exception;
     ChangeEventArgs args(type, index, caption, pItem, isByUser);
+    exception.Catch([&] { Emit(&args); });
+    TellWaiting(telling, exception);
+    exception.Throw();
+}
+
+/// Tells what has happened meanwhile, until nothing does or the event has died.
+void ControlDefinitionChangeEvent::TellWaiting(Telling& telling, FirstException& exception)
+{
+    const auto& items = telling.items;
+    for (auto item = items.begin(); telling.IsEventAlive() && item != items.end(); ++item)
+    {
+        ChangeEventArgs args(item->type, item->index, item->caption, item->pItem, item->isByUser);
+        exception.Catch([&] { EmitTo(item->placeCount, &args); });
+    }
+    if (!telling.IsEventAlive() || !telling.IsFollowed())
+        return;
+
+    if (telling.properties.empty())
+        telling.AddProperty(false);
+    telling.End();
+    for (const bool isByUser : telling.properties)
+    {
+        if (telling.IsEventAlive())
+            exception.Catch([&] { EmitProperty(isByUser); });
+    }
+}
+
+void ControlDefinitionChangeEvent::EmitProperty(bool isByUser)
+{
+    const std::wstring noCaption;
+    ChangeEventArgs args(ControlDefinitionChangeEventType::PropertyChanged, -1, noCaption, nullptr,
+                         isByUser);
     Emit(&args);
+}
+
+bool ControlDefinitionChangeEvent::RefuseFromBehind()
+{
+    if (m_pTelling == nullptr)
+        return false;
+    const bool isFromControl = dynamic_cast<const IControl*>(GetCalledHandler()) != nullptr;
+    const bool isFromUser = ControlDefinitionChangeByUser::IsChangeByUser(m_definitionId);
+    const bool isRefused =
+        isFromControl ? m_pTelling->IsFollowed() : isFromUser && !m_pTelling->isByUser;
+    if (isRefused)
+        m_pTelling->AddProperty(false);
+    return isRefused;
 }
 
 }
