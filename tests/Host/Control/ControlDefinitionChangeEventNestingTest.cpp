@@ -93,6 +93,7 @@ private slots:
     void ofTwoExceptionsTheFirstLeaves();
     void theEventIsUsableAfterAnException();
     void aControlThatIsBehindIsRefusedAndSetRight();
+    void aControlThatIsYetToHearOfPropertiesIsRefused();
     void aControlThatHasHeardEverythingIsNotRefused();
     void theProgramIsNeverRefused();
     void aHandlerThatHasLeftIsNoControl();
@@ -423,6 +424,19 @@ void ControlDefinitionChangeEventNestingTest::aControlThatIsBehindIsRefusedAndSe
     // The last one is the change of properties, when the control knows all.
     QCOMPARE(refused, (std::vector<bool>{true, true, false}));
     QCOMPARE(Fixture::GetHeard(f.second), std::wstring(L"ab*"));
+}
+
+void ControlDefinitionChangeEventNestingTest::aControlThatIsYetToHearOfPropertiesIsRefused()
+{
+    Fixture f;
+    StandInControl control(*f.pEvent);
+    std::vector<bool> refused;
+    control.Then([&] { refused.push_back(f.pEvent->RefuseFromBehind()); });
+    f.first.Then([&] { f.Add(L"a"); });
+
+    f.pEvent->RaisePropertyChanged();
+
+    QCOMPARE(refused, (std::vector<bool>{true, false, false}));
 }
 
 void ControlDefinitionChangeEventNestingTest::aControlThatHasHeardEverythingIsNotRefused()
