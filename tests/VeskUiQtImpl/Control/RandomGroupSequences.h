@@ -18,11 +18,6 @@
 namespace vesk::test
 {
 
-inline void FlushDeleted()
-{
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-}
-
 /// The texts of the buttons that stand in a layout, in the order of the layout.
 inline QStringList PlacedTexts(const QWidget& panel)
 {
@@ -61,10 +56,20 @@ class GroupSequence : public Sequence
 public:
     GroupSequence(unsigned seed, QWidget& window) : Sequence(seed), m_panel(&window) {}
 
-    void Step() override
+protected:
+    void Change() override
     {
         const int count = static_cast<int>(m_items.size());
-        switch (m_dice.Throw(count > 0 ? 7 : 2))
+        if (count > 0 && m_dice.Throw(7) == 0)
+            Click(m_dice.Throw(count));
+        else
+            ChangeByProgram();
+    }
+
+    void ChangeByProgram() override
+    {
+        const int count = static_cast<int>(m_items.size());
+        switch (m_dice.Throw(count > 0 ? 6 : 2))
         {
         case 0:
         case 1:
@@ -73,15 +78,12 @@ public:
             return Delete(m_dice.Throw(count));
         case 3:
             return m_dice.Throw(8) == 0 ? Clear() : Insert(m_dice.Throw(count + 1));
-        case 4:
-        case 5:
-            return ChangeState(m_dice.Throw(count));
         default:
-            return Click(m_dice.Throw(count));
+            return ChangeState(m_dice.Throw(count));
         }
     }
 
-    QString Compare() const override
+    QString CompareControl() const override
     {
         const QStringList items = ToTexts(m_items);
         const QButtonGroup& group = GetGroup();
@@ -97,13 +99,13 @@ public:
                Difference("checked", shown, checked);
     }
 
-protected:
     virtual void InsertItem(int index, const std::wstring& name) = 0;
     virtual void DeleteItem(int index) = 0;
     virtual void ClearItems() = 0;
     virtual void ChangeState(int index) = 0;
     virtual void NoteClick(const std::wstring& name) = 0;
     virtual bool IsChecked(const std::wstring& name) const = 0;
+    virtual bool MayGo(const std::wstring&) const { return true; }
     virtual const QButtonGroup& GetGroup() const = 0;
     virtual QStringList GetDefined() const = 0;
 
@@ -131,16 +133,16 @@ private:
 
     void Delete(int index)
     {
+        if (!MayGo(GetName(index)))
+            return;
         m_items.erase(m_items.begin() + index);
         DeleteItem(index);
-        FlushDeleted();
     }
 
     void Clear()
     {
         m_items.clear();
         ClearItems();
-        FlushDeleted();
     }
 
     void Click(int index)
@@ -157,7 +159,9 @@ public:
     {
         auto opDefinition = MakeOwner<CheckBoxGroupDefinition>(L"Checks");
         m_pDefinition = opDefinition.Get();
+        m_pDefinition->GetControlDefinitionChangeEvent()->Add(&m_before);
         m_opGroup = MakeOwner<QtCheckBoxGroup>(std::move(opDefinition), &Prepare(m_panel));
+        m_pDefinition->GetControlDefinitionChangeEvent()->Add(&m_behind);
         m_panel.show();
     }
 
@@ -211,7 +215,9 @@ public:
     {
         auto opDefinition = MakeOwner<RadioButtonGroupDefinition>(L"Radios");
         m_pDefinition = opDefinition.Get();
+        m_pDefinition->GetControlDefinitionChangeEvent()->Add(&m_before);
         m_opGroup = MakeOwner<QtRadioButtonGroup>(std::move(opDefinition), &Prepare(m_panel));
+        m_pDefinition->GetControlDefinitionChangeEvent()->Add(&m_behind);
         m_panel.show();
     }
 
@@ -227,7 +233,14 @@ protected:
     void ChangeState(int index) override
     {
         m_current = GetName(index);
+        m_stepOfChoice = GetStep();
         m_pDefinition->SetCurrentRadioButtonId(m_current);
+    }
+
+    /// A group never unchecks the former button: it must have heard of a choice that goes again.
+    bool MayGo(const std::wstring& name) const override
+    {
+        return name != m_current || m_stepOfChoice != GetStep();
     }
 
     void NoteClick(const std::wstring& name) override { m_current = name; }
@@ -254,6 +267,7 @@ private:
     RadioButtonGroupDefinition* m_pDefinition;
     OwnerPtr<QtRadioButtonGroup> m_opGroup;
     std::wstring m_current;
+    int m_stepOfChoice = 0;
 };
 
 }
