@@ -7,6 +7,7 @@
 #include "Command/IActionManager.h"
 #include "Command/ICommand.h"
 #include "Command/ICommandManager.h"
+#include "Foundation/FirstException.h"
 #include "Foundation/IApplication.h"
 #include "Foundation/UpdateCtrlStatusEvent.h"
 #include "Journal/IJournalData.h"
@@ -61,6 +62,19 @@ void ShowViewText()
         pView->SetViewText(pAction->GetViewText());
 }
 
+/// The time in which a command is executed: whatever ends it, it is executed then.
+class ExecutedAtTheEnd
+{
+public:
+    explicit ExecutedAtTheEnd(bool& isExecuted) : m_isExecuted(isExecuted) {}
+    ~ExecutedAtTheEnd() { m_isExecuted = true; }
+    ExecutedAtTheEnd(const ExecutedAtTheEnd&) = delete;
+    ExecutedAtTheEnd& operator=(const ExecutedAtTheEnd&) = delete;
+
+private:
+    bool& m_isExecuted;
+};
+
 struct ReplayTarget
 {
     QWidget* pWidget;
@@ -101,22 +115,24 @@ void ProcessCommandUtil::ProcessRibbonBarCommand(const std::wstring& commandId,
         return;
     if (!Begin(pSender))
         return;
+    const ExecutedAtTheEnd executed(s_isLastCommandExecuted);
     const IUiDocumentViewManager* pUiViewMgr = IUiDocumentViewManager::Get();
     if (!Check(pUiViewMgr != nullptr, VESK_SITE(Function, L"pUiViewMgr为空")))
-    {
-        s_isLastCommandExecuted = true;
         return;
-    }
 
+    FirstException exception;
     if (ICommand* pCommand = FindCommand(commandId, Function))
     {
         if (!Journal(*pCommand, parameters, Function))
             return;
-        ActionManager::ProcessCommand(pUiViewMgr->GetCurrentUiView(), pCommand, parameters,
-                                      nullptr);
+        exception.Catch([&] {
+            ActionManager::ProcessCommand(pUiViewMgr->GetCurrentUiView(), pCommand, parameters,
+                                          nullptr);
+        });
     }
-    ShowViewText();
-    Finish();
+    exception.Catch(&ShowViewText);
+    exception.Catch(&Finish);
+    exception.Throw();
 }
 
 void ProcessCommandUtil::ProcessStatusBarCommand(const std::wstring& commandId,
@@ -125,16 +141,20 @@ void ProcessCommandUtil::ProcessStatusBarCommand(const std::wstring& commandId,
     constexpr char Function[] = "vesk::ProcessCommandUtil::ProcessStatusBarCommand";
     if (!Begin(pSender))
         return;
+    const ExecutedAtTheEnd executed(s_isLastCommandExecuted);
 
+    FirstException exception;
     const CommandParameters noParameters;
     if (ICommand* pCommand = FindCommand(commandId, Function))
     {
         if (!Journal(*pCommand, noParameters, Function))
             return;
-        ActionManager::SendCommand(pCommand->GetCommandId(), noParameters, nullptr);
+        exception.Catch(
+            [&] { ActionManager::SendCommand(pCommand->GetCommandId(), noParameters, nullptr); });
     }
     IMainWindow::GetMainWindow();
-    Finish();
+    exception.Catch(&Finish);
+    exception.Throw();
 }
 
 bool ProcessCommandUtil::IsLastCommandExecuted()
@@ -153,9 +173,11 @@ bool ProcessCommandUtil::Begin(QObject* pSender)
         return true;
     }
 
-    ActionManager::Reset();
+    FirstException exception;
+    exception.Catch(&ActionManager::Reset);
     s_pendingAction = pAction;
     s_isLastCommandExecuted = true;
+    exception.Throw();
     return false;
 }
 
@@ -166,10 +188,7 @@ bool ProcessCommandUtil::Journal(const ICommand& command, const CommandParameter
     OwnerPtr<IJournalCommandData> opData = CreateJournalCommandData();
     if (!Check(opData != nullptr, VESK_SITE(function, L"CREATE_JOURNAL_DATA(IJournalCommandData, "
                                                       L"JOURNAL_COMMAND_DATA)返回空指针")))
-    {
-        s_isLastCommandExecuted = true;
         return false;
-    }
 
     opData->SetCommandId(command.GetCommandId());
     if (command.IsJournalIdOnly())
@@ -182,12 +201,16 @@ bool ProcessCommandUtil::Journal(const ICommand& command, const CommandParameter
     return true;
 }
 
+/// Refreshes the controls and turns to what the user chose meanwhile.
 void ProcessCommandUtil::Finish()
 {
-    if (IApplication* pApplication = IApplication::Get())
-        pApplication->PostEvent(MakeOwner<UpdateCtrlStatusEvent>());
-    ReplayPendingAction();
-    s_isLastCommandExecuted = true;
+    FirstException exception;
+    exception.Catch([] {
+        if (IApplication* pApplication = IApplication::Get())
+            pApplication->PostEvent(MakeOwner<UpdateCtrlStatusEvent>());
+    });
+    exception.Catch(&ReplayPendingAction);
+    exception.Throw();
 }
 
 /// Clicks what was put off once more, through the event loop.
