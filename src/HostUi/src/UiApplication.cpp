@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QEventLoop>
+#include <QScopedValueRollback>
 #include <QThread>
 #include <QTimer>
 
@@ -87,9 +88,8 @@ IDockManager* UiApplication::GetDockManager() const
 void UiApplication::Run()
 {
     QEventLoop loop;
-    m_pActionLoop = &loop;
+    const QScopedValueRollback<QEventLoop*> running(m_pActionLoop, &loop);
     loop.exec();
-    m_pActionLoop = nullptr;
 }
 
 void UiApplication::Quit()

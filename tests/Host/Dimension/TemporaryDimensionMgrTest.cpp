@@ -6,6 +6,8 @@
 #include "Support/HostValues.h"
 #include "Support/TestValues.h"
 
+#include <stdexcept>
+
 namespace vesk
 {
 
@@ -44,6 +46,9 @@ class TemporaryDimensionMgrTest : public QObject
 
 private slots:
     void aContextGetsAHandlerAndGraphics();
+    void graphicsAreMadeAgainAfterAHandlerThatThrew();
+    void aHandlerThatThrowsAtItsEndIsDropped();
+    void aFactoryIsRegisteredEvenIfTheOldHandlerThrows();
     void aContextOfTheSameKindKeepsTheHandler();
     void aContextOfAnotherKindReplacesTheHandler();
     void replacingEndsTheInputBeforeTheHandlerIsDropped();
@@ -81,6 +86,50 @@ void TemporaryDimensionMgrTest::aContextGetsAHandlerAndGraphics()
     QVERIFY(Manager().HasHandler());
     QVERIFY(Manager().GetGraphics() != nullptr);
     QCOMPARE(f.TakeLog(), (Log{"1.made", "1.graphics"}));
+}
+
+void TemporaryDimensionMgrTest::graphicsAreMadeAgainAfterAHandlerThatThrew()
+{
+    Fixture f;
+    f.script.onGenerate = [] { throw std::runtime_error("graphics"); };
+    QVERIFY_EXCEPTION_THROWN(f.SetContext(1), std::runtime_error);
+    f.script.onGenerate = nullptr;
+
+    f.SetContext(1);
+
+    QVERIFY(Manager().GetGraphics() != nullptr);
+}
+
+void TemporaryDimensionMgrTest::aHandlerThatThrowsAtItsEndIsDropped()
+{
+    Fixture f;
+    f.SetContext(1);
+    f.script.onKeyDown = [&f] {
+        f.script.onEndInput = [] { throw std::runtime_error("end"); };
+        QVERIFY_EXCEPTION_THROWN(Manager().Drop(), std::runtime_error);
+        f.script.log.push_back("dropped");
+    };
+    f.TakeLog();
+
+    f.PressKey();
+
+    // It lives on while its operation is on the stack.
+    QVERIFY(f.TakeLog() == (Log{"1.key", "1.end input", "dropped", "1.key done", "1.delete"}));
+    QVERIFY(!Manager().HasHandler());
+}
+
+void TemporaryDimensionMgrTest::aFactoryIsRegisteredEvenIfTheOldHandlerThrows()
+{
+    HandlerScript otherScript;
+    StandInHandlerFactory other(otherScript);
+    Fixture f;
+    f.SetContext(1);
+    f.script.onEndInput = [] { throw std::runtime_error("end"); };
+
+    QVERIFY_EXCEPTION_THROWN(Manager().SetHandlerFactory(&other), std::runtime_error);
+
+    f.SetContext(2);
+    QCOMPARE(otherScript.log.front(), std::string("2.made"));
 }
 
 void TemporaryDimensionMgrTest::aContextOfTheSameKindKeepsTheHandler()

@@ -70,7 +70,12 @@ public:
     ~Scheduler() override { Manager().SetScheduler(nullptr); }
 
     bool IsDialogAllowed() const override { return isAllowed; }
-    void Post(std::function<void()> function) override { posted.push_back(std::move(function)); }
+    void Post(std::function<void()> function) override
+    {
+        if (std::exchange(isFailing, false))
+            throw std::bad_alloc();
+        posted.push_back(std::move(function));
+    }
 
     void PostWhenIdle(std::chrono::milliseconds delay, std::function<void()> function) override
     {
@@ -91,6 +96,7 @@ public:
     }
 
     bool isAllowed = true;
+    bool isFailing = false;
     std::vector<std::function<void()>> posted;
     std::vector<std::function<void()>> idle;
     std::vector<std::chrono::milliseconds> delays;
@@ -130,6 +136,7 @@ class DebugWarningDisplayTest : public QObject
 
 private slots:
     void aWarningIsShown();
+    void aDialogThatCouldNotBePutOffKeepsNoOtherBack();
     void theDisplayerIsMadeOnce();
     void theDisplayerGoesWithTheFactory();
     void withoutDisplayerTheNextWarningAsksAgain();
@@ -282,6 +289,19 @@ void DebugWarningDisplayTest::withoutEventLoopAPlaceIgnoredOnceIsShownAgain()
     WarnTimes(2, 7);
 
     QCOMPARE(f.user.shownLines, (Lines{7, 7}));
+}
+
+void DebugWarningDisplayTest::aDialogThatCouldNotBePutOffKeepsNoOtherBack()
+{
+    Fixture f;
+    f.scheduler.isAllowed = false;
+    f.scheduler.isFailing = true;
+    Warn(7);
+    f.scheduler.isAllowed = true;
+
+    Warn(8);
+
+    QVERIFY(f.user.shownLines == (Lines{8}));
 }
 
 void DebugWarningDisplayTest::whereNoDialogIsAllowedItOpensFromTheEventLoop()

@@ -6,6 +6,8 @@
 #include "Support/HostValues.h"
 #include "Support/TestValues.h"
 
+#include <stdexcept>
+
 namespace vesk
 {
 
@@ -51,6 +53,7 @@ private slots:
     void whatCannotBeDoneIsNamed_data();
     void whatCannotBeDoneIsNamed();
     void aFailureStopsTheReplayAndEndsTheAction();
+    void anExceptionStopsTheReplayAndEndsTheAction();
     void aDisabledCommandIsAFailure();
     void aReplayInsideAnActionIsRefused();
     void aReplayWritesTheJournalOfItsOwn();
@@ -368,6 +371,18 @@ void JournalReplayerTest::aFailureStopsTheReplayAndEndsTheAction()
 
     QCOMPARE(FailureOf(result), QString("record 2: the point cannot be repeated"));
     QCOMPARE(f.log, (Log{"Line.begin", "Line.point 1", "Line.end", "Line.delete"}));
+}
+
+void JournalReplayerTest::anExceptionStopsTheReplayAndEndsTheAction()
+{
+    Fixture f;
+    f.AddPlain("Fail", [] { throw std::runtime_error("command"); });
+    f.Command(L"Line").Point(1).Command(L"Fail").End(3).End(1);
+
+    QVERIFY_EXCEPTION_THROWN(f.Replay(), std::runtime_error);
+
+    QVERIFY(f.log == (Log{"Line.begin", "Line.point 1", "Fail", "Line.end", "Line.delete"}));
+    QVERIFY(ActionManager::GetRunningCommandId().empty());
 }
 
 void JournalReplayerTest::aDisabledCommandIsAFailure()

@@ -23,6 +23,8 @@ public:
         }
     }
 
+    bool IsKept() const { return m_pThrown != nullptr; }
+
     /// Throws what was kept; nothing happens when nothing was.
     void Throw() const
     {

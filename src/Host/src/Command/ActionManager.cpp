@@ -22,6 +22,16 @@ ActionRunner& Runner()
     return ActionRunner::GetInstance();
 }
 
+/// The time in which a value is delivered: at its end there is no typed value any more.
+class TypedValueScope
+{
+public:
+    TypedValueScope() = default;
+    ~TypedValueScope() { TemporaryDimensionMgr::GetInstance()->SetTypedValue({}); }
+    TypedValueScope(const TypedValueScope&) = delete;
+    TypedValueScope& operator=(const TypedValueScope&) = delete;
+};
+
 void Redraw(IUiView* pView)
 {
     if (pView != nullptr)
@@ -62,11 +72,11 @@ void ActionManager::ProcessViewInput(IUiView* /*pView*/, const ActionViewInput& 
 {
     // A copy: the input may belong to the handler, which the action may have dropped.
     const ActionViewInput delivered = input;
+    const TypedValueScope outer;
     Runner().OperateStep([&delivered](IAction& action) {
+        const TypedValueScope inner;
         action.OnViewInput(delivered);
-        TemporaryDimensionMgr::GetInstance()->SetTypedValue({});
     });
-    TemporaryDimensionMgr::GetInstance()->SetTypedValue({});
 }
 
 void ActionManager::RefreshViewInput(IUiView* pView)

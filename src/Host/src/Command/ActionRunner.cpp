@@ -5,6 +5,8 @@
 #include "Command/ICommandManager.h"
 #include "Dimension/ITemporaryDimensionContext.h"
 #include "Dimension/TemporaryDimensionMgr.h"
+#include "Foundation/FirstException.h"
+#include "Foundation/ScopedValue.h"
 #include "Foundation/UpdateCtrlStatusEvent.h"
 #include "Journal/JournalManager.h"
 #include "View/IUiDocumentViewManager.h"
@@ -19,17 +21,11 @@ namespace vesk
 namespace
 {
 
-/// Sets a flag for as long as it lives.
-class FlagScope
+/// Has the runner take up what an exception has left waiting.
+class TakeUpEvent final : public IApplicationEvent
 {
 public:
-    explicit FlagScope(bool& flag) : m_flag(flag) { m_flag = true; }
-    ~FlagScope() { m_flag = false; }
-    FlagScope(const FlagScope&) = delete;
-    FlagScope& operator=(const FlagScope&) = delete;
-
-private:
-    bool& m_flag;
+    void Emit() override { ActionRunner::GetInstance().TakeUp(); }
 };
 
 /// The view with that id, or the current one when there is none; null when there is no view at all.
@@ -69,6 +65,40 @@ void Complete(int record, bool isRefused)
 }
 
 }
+
+/// The time in which a call is under way that runs the waiting commands. What still waits when an
+/// exception has ended it is taken up from the event loop.
+class ActionRunner::Turn
+{
+public:
+    explicit Turn(ActionRunner& runner) : m_runner(runner) { m_runner.m_isUnderWay = true; }
+
+    ~Turn()
+    {
+        m_runner.m_isUnderWay = false;
+        if (m_runner.GetAction() != nullptr)
+            return;
+        if (m_runner.m_waiting.empty())
+            m_runner.m_held.clear();
+        else
+            PostTakeUp();
+    }
+
+    Turn(const Turn&) = delete;
+    Turn& operator=(const Turn&) = delete;
+
+private:
+    static void PostTakeUp()
+    {
+        FirstException outOfMemory;
+        outOfMemory.Catch([] {
+            if (IApplication* pApplication = IApplication::Get())
+                pApplication->PostEvent(MakeOwner<TakeUpEvent>());
+        });
+    }
+
+    ActionRunner& m_runner;
+};
 
 ActionRunner& ActionRunner::GetInstance()
 {
@@ -111,12 +141,19 @@ bool ActionRunner::Operate(const std::function<void(IAction&)>& operation)
 {
     if (GetAction() == nullptr || m_isEndRequested)
         return false;
-    ++m_operationDepth;
-    operation(*GetAction());
-    if (GetAction()->IsFinished())
-        RequestEnd();
-    --m_operationDepth;
-    EndIfDue();
+    FirstException exception;
+    {
+        const ScopedValue<int> depth(m_operationDepth, m_operationDepth + 1);
+        exception.Catch([&] { operation(*GetAction()); });
+        exception.Catch([this] {
+            if (GetAction()->IsFinished())
+                RequestEnd();
+        });
+    }
+    if (exception.IsKept() && IsEndDue())
+        m_running.record = 0;
+    exception.Catch([this] { EndIfDue(); });
+    exception.Throw();
     return true;
 }
 
@@ -164,8 +201,19 @@ void ActionRunner::Take(IUiView* pView, ICommand& command, Waiting waiting)
         RequestEnd();
         return;
     }
-    const FlagScope underWay(m_isUnderWay);
-    Run(pView, command, waiting);
+    const Turn turn(*this);
+    if (m_waiting.empty())
+        Run(pView, command, waiting);
+    else
+        m_waiting.push_back(std::move(waiting));
+    RunWaiting();
+}
+
+void ActionRunner::TakeUp()
+{
+    if (MustWait())
+        return;
+    const Turn turn(*this);
     RunWaiting();
 }
 
@@ -187,36 +235,42 @@ void ActionRunner::RunPlain(IUiView* pView, ICommand& command, const Waiting& wa
 
 void ActionRunner::RunInteractive(IUiView* pView, ICommand& command, const Waiting& waiting)
 {
-    if (!Begin(pView, command, waiting))
-        return;
-    DeliverHeld();
-    if (MayGoOn() && m_pEventLoop == nullptr)
-        return;
-    if (MayGoOn())
-    {
-        m_pRunningLoop = m_pEventLoop;
-        m_pRunningLoop->Run();
-        m_pRunningLoop = nullptr;
-    }
-    End();
-}
-
-/// False when there is no action: the command has done its work.
-bool ActionRunner::Begin(IUiView* pView, ICommand& command, const Waiting& waiting)
-{
     OwnerPtr<IAction> opAction = command.Execute(pView, waiting.parameters);
     if (opAction == nullptr)
     {
         Complete(waiting.record, false);
-        return false;
+        return;
     }
     m_running = {std::move(opAction), waiting.commandId, IdOf(pView), waiting.record};
+
+    FirstException exception;
+    bool isOver = true;
+    exception.Catch([&] { isOver = RunAction(pView); });
+    if (!isOver)
+        return;
+    if (exception.IsKept())
+        m_running.record = 0;
+    exception.Catch([this] { End(); });
+    exception.Throw();
+}
+
+/// Begins the action and runs it as long as it goes on. False when it goes on without an event
+/// loop.
+bool ActionRunner::RunAction(IUiView* pView)
+{
     OperateStep([pView](IAction& action) { action.OnBegin(pView); });
 
     // A replay works without the keyboard.
     IUiView* pShown = FindView(m_running.viewId);
     if (m_pEventLoop != nullptr && pShown != nullptr)
         pShown->Activate();
+    DeliverHeld();
+    if (!MayGoOn())
+        return true;
+    if (m_pEventLoop == nullptr)
+        return false;
+    const ScopedValue<IActionEventLoop*> runningLoop(m_pRunningLoop, m_pEventLoop);
+    m_pRunningLoop->Run();
     return true;
 }
 
@@ -247,26 +301,30 @@ void ActionRunner::DeliverHeld()
 
 void ActionRunner::EndIfDue()
 {
-    if (!m_isEndRequested || m_operationDepth > 0 || m_isUnderWay)
+    if (!IsEndDue())
         return;
-    const FlagScope underWay(m_isUnderWay);
+    const Turn turn(*this);
     End();
     RunWaiting();
 }
 
+/// Whatever throws, the action is gone afterwards; its command gets no mark then.
 void ActionRunner::End()
 {
+    FirstException exception;
     m_isEndRequested = true;
-    GetAction()->OnEnd();
+    exception.Catch([this] { GetAction()->OnEnd(); });
     Running ended = std::exchange(m_running, {});
     m_isEndRequested = false;
 
-    TemporaryDimensionMgr::GetInstance()->Drop();
+    exception.Catch([] { TemporaryDimensionMgr::GetInstance()->Drop(); });
     ended.opAction.Reset();
-    Complete(ended.record, false);
-    ShowText(FindView(ended.viewId), {});
-    PostStatusRefresh();
-    TellObservers();
+    if (!exception.IsKept())
+        exception.Catch([&ended] { Complete(ended.record, false); });
+    exception.Catch([&ended] { ShowText(FindView(ended.viewId), {}); });
+    exception.Catch(&PostStatusRefresh);
+    exception.Catch([this] { TellObservers(); });
+    exception.Throw();
 }
 
 void ActionRunner::ShowStep()
@@ -280,12 +338,14 @@ void ActionRunner::ShowStep()
 
 void ActionRunner::TellObservers()
 {
+    FirstException exception;
     for (IActionObserver* pObserver : std::vector<IActionObserver*>(m_observers))
     {
         const auto found = std::find(m_observers.begin(), m_observers.end(), pObserver);
         if (found != m_observers.end())
-            pObserver->OnActionChanged();
+            exception.Catch([pObserver] { pObserver->OnActionChanged(); });
     }
+    exception.Throw();
 }
 
 }

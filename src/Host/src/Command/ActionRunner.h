@@ -24,6 +24,9 @@ class IUiView;
 /// Whoever begins an action also ends it and runs what waits afterwards, in one call on the stack.
 /// Where an action runs without an event loop, whoever asks for its end does so instead, as soon as
 /// none of the action's operations is under way.
+///
+/// After an exception everything is as if the command had returned, except that its record gets no
+/// mark and that what waits runs from the application's event loop.
 class ActionRunner
 {
 public:
@@ -43,8 +46,14 @@ public:
     /// The same, followed by a step unless the action is to end.
     bool OperateStep(const std::function<void(IAction&)>& operation);
 
-    /// True while a command waits for the end of the running action.
-    bool IsCommandWaiting() const { return GetAction() != nullptr && !m_waiting.empty(); }
+    /// True while a command waits for the end of the running action, or to be taken up.
+    bool IsCommandWaiting() const
+    {
+        return !m_waiting.empty() && (GetAction() != nullptr || !m_isUnderWay);
+    }
+
+    /// Runs the commands that an exception has left waiting.
+    void TakeUp();
 
     /// Keeps an input for the command that is about to take its turn. False when none is.
     bool Hold(std::function<void()> input);
@@ -62,6 +71,8 @@ public:
     void RemoveObserver(IActionObserver* pObserver);
 
 private:
+    class Turn;
+
     struct Waiting
     {
         std::wstring commandId;
@@ -80,12 +91,13 @@ private:
     };
 
     bool MustWait() const { return m_isUnderWay || GetAction() != nullptr; }
+    bool IsEndDue() const { return m_isEndRequested && m_operationDepth == 0 && !m_isUnderWay; }
     bool MayGoOn() const { return !m_isEndRequested && m_waiting.empty(); }
     void Take(IUiView* pView, ICommand& command, Waiting waiting);
     void Run(IUiView* pView, ICommand& command, const Waiting& waiting);
     void RunPlain(IUiView* pView, ICommand& command, const Waiting& waiting);
     void RunInteractive(IUiView* pView, ICommand& command, const Waiting& waiting);
-    bool Begin(IUiView* pView, ICommand& command, const Waiting& waiting);
+    bool RunAction(IUiView* pView);
     void RunWaiting();
     void DeliverHeld();
     void EndIfDue();

@@ -2,6 +2,8 @@
 
 #include "Dimension/ITemporaryDimensionContext.h"
 #include "Dimension/ITemporaryDimensionHandler.h"
+#include "Foundation/FirstException.h"
+#include "Foundation/ScopedValue.h"
 #include "Graphics/IGraphicsNode.h"
 #include "View/IUiDocumentViewManager.h"
 #include "View/IUiView.h"
@@ -56,8 +58,10 @@ void TemporaryDimensionMgr::SetHandlerFactory(ITemporaryDimensionHandlerFactory*
         return;
     // Withdrawn first, so that nothing that happens while the handler goes makes a new one of it.
     m_pFactory = nullptr;
-    Drop();
+    FirstException exception;
+    exception.Catch([this] { Drop(); });
     m_pFactory = pFactory;
+    exception.Throw();
 }
 
 void TemporaryDimensionMgr::SetHandlerAccess(ITemporaryDimensionHandlerAccess* pAccess)
@@ -181,11 +185,12 @@ void TemporaryDimensionMgr::Retire(OwnerPtr<ITemporaryDimensionHandler> opHandle
 {
     if (opHandler == nullptr)
         return;
-    const bool wasInputting = opHandler->IsInputting();
+    ITemporaryDimensionHandler& handler = *opHandler;
+    const bool wasInputting = handler.IsInputting();
     {
         const Call call(*this);
-        opHandler->EndInput();
         m_retired.push_back(std::move(opHandler));
+        handler.EndInput();
     }
     if (wasInputting)
         ActivateView();
@@ -197,9 +202,11 @@ void TemporaryDimensionMgr::Generate(const ITemporaryDimensionContext& context)
     if (pHandler == nullptr || m_isGenerating)
         return;
     const Call call(*this);
-    m_isGenerating = true;
-    OwnerPtr<IGraphicsNodeGroup> opGraphics = pHandler->GenerateGraphics(&context);
-    m_isGenerating = false;
+    OwnerPtr<IGraphicsNodeGroup> opGraphics;
+    {
+        const ScopedValue<bool> generating(m_isGenerating, true);
+        opGraphics = pHandler->GenerateGraphics(&context);
+    }
     if (pHandler != m_opHandler.Get())
         return;
     m_opGraphics = std::move(opGraphics);

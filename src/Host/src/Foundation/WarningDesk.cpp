@@ -114,8 +114,9 @@ bool WarningDesk::Claim(const DebugWarning& warning)
         m_shown = ShownDebugWarning{warning.function, warning.message, 0};
         return true;
     }
-    m_postponed = warning;
+    // First what may fail: a warning that nobody is going to show would keep back all others.
     m_pScheduler->Post([] { GetInstance().ShowPostponed(); });
+    m_postponed = warning;
     return false;
 }
 
@@ -156,12 +157,12 @@ void WarningDesk::Note(const Place& place, bool isToAskAgain)
     // Without an event loop there is nobody who could be flooded.
     if (isToAskAgain && m_pScheduler == nullptr)
         return;
-    m_silent.insert(place);
     if (isToAskAgain)
         m_pScheduler->PostWhenIdle(s_rest, [this, place] {
             const std::lock_guard restLock(m_mutex);
             m_silent.erase(place);
         });
+    m_silent.insert(place);
 }
 
 IDebugWarningDisplayer* WarningDesk::GetDisplayer()

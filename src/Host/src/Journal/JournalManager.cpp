@@ -115,14 +115,14 @@ void JournalManagerImpl::Close()
 int JournalManagerImpl::Add(decltype(JournalRecord::what) what)
 {
     JournalRecord record{0, std::move(what)};
-    if (const auto* pEnd = std::get_if<EndRecord>(&record.what))
-        record.number = pEnd->command;
-    else
-        record.number = ++m_lastNumber;
+    const auto* pEnd = std::get_if<EndRecord>(&record.what);
+    record.number = pEnd != nullptr ? pEnd->command : m_lastNumber + 1;
+    const std::string line = JournalFormat::ToLine(record);
+    if (pEnd == nullptr)
+        m_lastNumber = record.number;
     if (const auto* pCommand = std::get_if<CommandRecord>(&record.what))
         m_lastCommand = {pCommand->commandId, record.number};
 
-    const std::string line = JournalFormat::ToLine(record);
     m_lastLines.Add(line);
     Write(line + '\n');
     TellObservers([&record](IJournalObserver& observer) { observer.OnRecord(record); });

@@ -4,6 +4,7 @@
 #include "Command/ActionRunner.h"
 #include "Command/ICommand.h"
 #include "Command/ICommandManager.h"
+#include "Foundation/FirstException.h"
 #include "Foundation/Text.h"
 #include "Journal/JournalManager.h"
 #include "View/IUiDocumentViewManager.h"
@@ -152,7 +153,6 @@ JournalReplayResult Replay::Run()
             break;
         result.failure = RunRecord();
     }
-    ActionManager::Reset();
     return result;
 }
 
@@ -292,7 +292,13 @@ JournalReplayResult JournalReplayer::Replay(const std::vector<JournalRecord>& re
         return {"a command is running", false, {}};
     ActionManager::Reset();
     const EventLoopOffScope eventLoopOff;
-    return vesk::Replay(records, target).Run();
+    JournalReplayResult result;
+    FirstException exception;
+    exception.Catch([&] { result = vesk::Replay(records, target).Run(); });
+    // No action goes on without its loop afterwards.
+    exception.Catch(&ActionManager::Reset);
+    exception.Throw();
+    return result;
 }
 
 }
