@@ -66,8 +66,8 @@ struct ControlDefinitionChangeEvent::Telling
     bool IsEventAlive() const { return emission.IsEventAlive(); }
     bool IsFollowed() const { return !items.empty() || !properties.empty(); }
 
-    /// True when not every handler knows all properties yet.
-    bool IsOneOfMany() const { return IsFollowed() || !emission.IsOutermost(); }
+    /// True when whoever is being told may not know all items and properties yet.
+    bool AreHandlersBehind() const { return IsFollowed() || !emission.IsOutermost(); }
 
     /// Keeps a change of properties; several in a row with the same mark are one.
     void AddProperty(bool isPropertyByUser)
@@ -161,7 +161,7 @@ bool ControlDefinitionChangeEvent::RefuseFromBehind()
     const bool isFromControl = dynamic_cast<const IControl*>(GetCalledHandler()) != nullptr;
     const bool isFromUser = ControlDefinitionChangeByUser::IsChangeByUser(m_definitionId);
     const bool isRefused =
-        isFromControl ? m_pTelling->IsOneOfMany() : isFromUser && !m_pTelling->isByUser;
+        isFromControl ? m_pTelling->AreHandlersBehind() : isFromUser && !m_pTelling->isByUser;
     if (isRefused)
         m_pTelling->AddProperty(false);
     return isRefused;
