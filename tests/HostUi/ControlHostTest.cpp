@@ -8,6 +8,7 @@
 #include "Control/CommandButtonDefinition.h"
 #include "Control/ILabelDefinition.h"
 #include "Control/LabelDefinition.h"
+#include "Foundation/DebugMessageMgr.h"
 #include "HostCore.h"
 #include "HostUi/ControlLibrary.h"
 #include "HostUi/UiApplication.h"
@@ -21,7 +22,9 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include <functional>
 #include <memory>
+#include <utility>
 
 using namespace vesk;
 
@@ -37,6 +40,19 @@ public:
     void OnMouseMove(const Vector3d&) override {}
     void OnClick(const Vector3d&) override {}
     bool ReplayPoint(const Vector3d&, const std::optional<int>&) override { return false; }
+};
+
+/// Counts the debug warnings while it lives.
+class WarningCounter final : public IDebugWarningObserver
+{
+public:
+    WarningCounter() { DebugMessageMgr::GetDebugMessageMgr()->AddObserver(this); }
+    ~WarningCounter() override { DebugMessageMgr::GetDebugMessageMgr()->RemoveObserver(this); }
+    void OnDebugWarning(const DebugWarning&) override { ++m_count; }
+    int GetCount() const { return m_count; }
+
+private:
+    int m_count = 0;
 };
 
 OwnerPtr<IAction> Idle(IUiView*, const CommandParameters&)
@@ -107,6 +123,41 @@ private slots:
         UpdateCtrlStatusEvent().Emit();
 
         QVERIFY(pButton->isEnabled());
+    }
+
+    void groupThatIsYetToHearOfItsItemsIsRefreshedAfterwards()
+    {
+        /// Refreshes the controls as a dialog does that it opens.
+        class Refresher final : public IControlDefinitionChangeEventHandler
+        {
+        public:
+            explicit Refresher(std::function<void()> act) : m_act(std::move(act)) {}
+            void On(IControlDefinitionChangeEventArgs* pArgs) override
+            {
+                if (pArgs->GetType() == ControlDefinitionChangeEventType::Add)
+                    m_act();
+            }
+
+        private:
+            std::function<void()> m_act;
+        };
+        auto opDefinition = MakeOwner<CheckBoxGroupDefinition>(L"Group");
+        CheckBoxGroupDefinition* pDefinition = opDefinition.Get();
+        Refresher refresher([this, pDefinition] {
+            pDefinition->Find(L"Box")->SetEnabled(false);
+            m_pControls->RefreshControls();
+        });
+        pDefinition->GetControlDefinitionChangeEvent()->Add(&refresher);
+        QWidget* pGroup = m_pControls->Create(std::move(opDefinition));
+        m_pPanel->layout()->addWidget(pGroup);
+        const WarningCounter warnings;
+
+        pDefinition->AddCheckBox(MakeOwner<CheckBoxDefinition>(L"Box", L"Box"));
+
+        const auto* pBox = pGroup->findChild<QAbstractButton*>(QStringLiteral("Box"));
+        QVERIFY(pBox != nullptr);
+        QVERIFY(!pBox->isEnabled());
+        QCOMPARE(warnings.GetCount(), 0);
     }
 
     void buttonWithoutACommandIsHidden()

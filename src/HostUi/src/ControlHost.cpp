@@ -4,6 +4,7 @@
 #include "Command/ICommand.h"
 #include "Command/ICommandManager.h"
 #include "Control/CommandButtonDefinition.h"
+#include "Control/ControlDefinitionChangeEvent.h"
 #include "Control/ICheckBoxGroupDefinition.h"
 #include "Control/IComboBoxDefinition.h"
 #include "Control/ICommandButtonMenuDefinition.h"
@@ -79,6 +80,20 @@ public:
         pLayout->addStretch();
     }
 };
+
+/// The event of a group that may not know the items of its definition yet: it takes their states
+/// over with the change of properties that comes when it does. Null where nothing is in the way.
+ControlDefinitionChangeEvent* FindEventThatTellsItems(const IControl& control)
+{
+    if (dynamic_cast<const QButtonGroup*>(&control) == nullptr)
+        return nullptr;
+    const auto* pSource =
+        dynamic_cast<const IControlDefinitionChangeEventSource*>(control.GetControlDefinition());
+    auto* pEvent = pSource != nullptr ? dynamic_cast<ControlDefinitionChangeEvent*>(
+                                            pSource->GetControlDefinitionChangeEvent())
+                                      : nullptr;
+    return pEvent != nullptr && pEvent->IsTellingItems() ? pEvent : nullptr;
+}
 
 bool IsSafeToDestroy()
 {
@@ -169,7 +184,11 @@ void ControlHost::RefreshControls()
     {
         IControl* pControl = m_controls[i].opControl.Get();
         RefreshCommandButton(*pControl);
-        pControl->UpdateStatus();
+        ControlDefinitionChangeEvent* pEvent = FindEventThatTellsItems(*pControl);
+        if (pEvent != nullptr)
+            pEvent->RaisePropertyChanged();
+        else
+            pControl->UpdateStatus();
     }
 }
 
