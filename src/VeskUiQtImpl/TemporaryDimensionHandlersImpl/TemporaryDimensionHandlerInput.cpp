@@ -1,5 +1,6 @@
 #include "CheckSite.h"
 #include "Command/ActionManager.h"
+#include "Foundation/FirstException.h"
 #include "TemporaryDimensionHandlersImpl/TemporaryDimensionHandler.h"
 #include "TemporaryDimensionHandlersImpl/ViewLookup.h"
 
@@ -54,13 +55,13 @@ bool TemporaryDimensionHandler::BeginInput(InputState state, bool editorReady)
 {
     const QPointer<TemporaryDimensionHandler> pSelf(this);
     m_InputState = state;
+    FirstException exception;
     if (!editorReady)
-        CreateEditorWidget();
-    if (pSelf == nullptr)
-        return false;
-    if (m_pEditor == nullptr)
+        exception.Catch([this] { CreateEditorWidget(); });
+    if (pSelf != nullptr && (m_pEditor == nullptr || exception.IsKept()))
         EndInput();
-    return m_InputState == state;
+    exception.Throw();
+    return pSelf != nullptr && m_InputState == state;
 }
 
 /// The current value of a field, as its dimension shows it.
