@@ -158,6 +158,7 @@ private slots:
     void radioButtonsShowTheLastChoice();
     void statesOfManyAreTakenOverAtTheEnd_data() { AddPlaces(); }
     void statesOfManyAreTakenOverAtTheEnd();
+    void statesAreTakenOverWhenABoxGoesMeanwhile();
     void menuKeepsTheOrderOfItsEntries_data() { AddPlaces(); }
     void menuKeepsTheOrderOfItsEntries();
     void lineEditShowsWhatTheHostMakesOfATypedText_data() { AddPlaces(); }
@@ -332,6 +333,23 @@ void NestedChangesTest::statesOfManyAreTakenOverAtTheEnd()
 
     QVERIFY(!f.opControl->buttons().at(0)->isEnabled());
     QVERIFY(f.opControl->buttons().at(1)->isHidden());
+}
+
+void NestedChangesTest::statesAreTakenOverWhenABoxGoesMeanwhile()
+{
+    CheckBoxes f(true);
+    f.pDefinition->AddCheckBox(MakeBox(L"a"));
+    f.pDefinition->AddCheckBox(MakeBox(L"b"));
+    QObject::connect(f.opControl->buttons().at(0), &QAbstractButton::toggled,
+                     [&f] { f.pDefinition->DeleteCheckBox(0); });
+    f.handler.Once([&f] {
+        f.pDefinition->SetCheckState(L"a", 2);
+        f.pDefinition->SetCheckState(L"b", 2);
+    });
+
+    f.pDefinition->AddCheckBox(MakeBox(L"c"));
+
+    QCOMPARE(Shown(*f.opControl), QString("[b]c"));
 }
 
 void NestedChangesTest::menuKeepsTheOrderOfItsEntries()

@@ -133,7 +133,7 @@ void ControlDefinitionChangeEvent::TellWaiting(Telling& telling, FirstException&
         ChangeEventArgs args(item->type, item->index, item->caption, item->pItem, item->isByUser);
         exception.Catch([&] { EmitTo(item->placeCount, &args); });
     }
-    if (!telling.IsEventAlive() || !telling.IsFollowed())
+    if (!telling.IsEventAlive() || !telling.AreHandlersBehind())
         return;
 
     if (telling.properties.empty())
