@@ -1,11 +1,11 @@
 #include "Control/ControlDefinitionChangeEvent.h"
 
 #include "Control/ControlDefinitionChangeByUser.h"
-#include "Control/IControl.h"
-#include "Host/Control/ChangeRecorder.h"
+#include "Host/Control/ChangeEventFixture.h"
 
 #include <QtTest>
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <stdexcept>
@@ -17,52 +17,7 @@ namespace
 {
 
 using Type = ControlDefinitionChangeEventType;
-
-/// An event with two handlers; the changes of items are told apart by their captions.
-struct Fixture
-{
-    void Add(const std::wstring& caption)
-    {
-        pEvent->RaiseItemsChanged(Type::Add, 0, caption, nullptr);
-    }
-
-    /// What a handler heard: captions of items, '*' for a change of properties, '!' for the user.
-    static std::wstring GetHeard(const ChangeRecorder& recorder)
-    {
-        std::wstring heard;
-        for (const Change& change : recorder.GetChanges())
-        {
-            heard += change.type == Type::PropertyChanged ? L"*" : change.caption;
-            heard += change.isByUser ? L"!" : L"";
-        }
-        return heard;
-    }
-
-    std::unique_ptr<ControlDefinitionChangeEvent> pEvent =
-        std::make_unique<ControlDefinitionChangeEvent>(L"id");
-    ChangeRecorder first{*pEvent};
-    ChangeRecorder second{*pEvent};
-};
-
-/// A control that does something when it hears of a change.
-class StandInControl final : public IControl, public IControlDefinitionChangeEventHandler
-{
-public:
-    explicit StandInControl(IControlDefinitionChangeEvent& event) { event.Add(this); }
-
-    IControlDefinition* GetControlDefinition() const override { return nullptr; }
-    void UpdateStatus() override {}
-    void On(IControlDefinitionChangeEventArgs*) override
-    {
-        if (m_then)
-            m_then();
-    }
-
-    void Then(std::function<void()> action) { m_then = std::move(action); }
-
-private:
-    std::function<void()> m_then;
-};
+using Fixture = ChangeEventFixture;
 
 }
 
@@ -92,13 +47,6 @@ private slots:
     void anExceptionOfALaterChangeLeavesTheOutermostCall();
     void ofTwoExceptionsTheFirstLeaves();
     void theEventIsUsableAfterAnException();
-    void aControlThatIsBehindIsRefusedAndSetRight();
-    void aControlThatIsYetToHearOfPropertiesIsRefused();
-    void aControlThatHasHeardEverythingIsNotRefused();
-    void theProgramIsNeverRefused();
-    void aHandlerThatHasLeftIsNoControl();
-    void aChoiceOfTheUserFromAnOldListIsRefusedAndSetRight();
-    void aProgramThatActsOnAChoiceOfTheUserIsNotRefused();
 };
 
 void ControlDefinitionChangeEventNestingTest::changesOfItemsReachEveryHandlerInTheirOrder()
@@ -410,107 +358,6 @@ void ControlDefinitionChangeEventNestingTest::theEventIsUsableAfterAnException()
 
     QCOMPARE(Fixture::GetHeard(f.first), std::wstring(L"ab*c*"));
     QCOMPARE(Fixture::GetHeard(f.second), std::wstring(L"ab*c*"));
-}
-
-void ControlDefinitionChangeEventNestingTest::aControlThatIsBehindIsRefusedAndSetRight()
-{
-    Fixture f;
-    StandInControl control(*f.pEvent);
-    std::vector<bool> refused;
-    control.Then([&] { refused.push_back(f.pEvent->RefuseFromBehind()); });
-    f.first.Then([&] { f.Add(L"b"); });
-
-    f.Add(L"a");
-
-    // The last one is the change of properties, when the control knows all.
-    QCOMPARE(refused, (std::vector<bool>{true, true, false}));
-    QCOMPARE(Fixture::GetHeard(f.second), std::wstring(L"ab*"));
-}
-
-void ControlDefinitionChangeEventNestingTest::aControlThatIsYetToHearOfPropertiesIsRefused()
-{
-    Fixture f;
-    StandInControl control(*f.pEvent);
-    std::vector<bool> refused;
-    control.Then([&] { refused.push_back(f.pEvent->RefuseFromBehind()); });
-    f.first.Then([&] { f.Add(L"a"); });
-
-    f.pEvent->RaisePropertyChanged();
-
-    QCOMPARE(refused, (std::vector<bool>{true, false, false}));
-}
-
-void ControlDefinitionChangeEventNestingTest::aControlThatHasHeardEverythingIsNotRefused()
-{
-    Fixture f;
-    StandInControl control(*f.pEvent);
-    std::vector<bool> refused;
-    control.Then([&] { refused.push_back(f.pEvent->RefuseFromBehind()); });
-
-    f.Add(L"a");
-    f.pEvent->RaisePropertyChanged();
-
-    QCOMPARE(refused, (std::vector<bool>{false, false}));
-    QCOMPARE(Fixture::GetHeard(f.second), std::wstring(L"a*"));
-}
-
-void ControlDefinitionChangeEventNestingTest::theProgramIsNeverRefused()
-{
-    Fixture f;
-    bool isRefused = false;
-    f.first.Then([&] {
-        f.Add(L"b");
-        isRefused = f.pEvent->RefuseFromBehind();
-    });
-
-    f.Add(L"a");
-
-    QVERIFY(!isRefused);
-    QVERIFY(!f.pEvent->RefuseFromBehind());
-}
-
-void ControlDefinitionChangeEventNestingTest::aHandlerThatHasLeftIsNoControl()
-{
-    Fixture f;
-    auto pControl = std::make_unique<StandInControl>(*f.pEvent);
-    bool isRefused = true;
-    f.first.Then([&] { f.Add(L"b"); });
-    const std::function<void()> leave = [&] {
-        f.pEvent->Delete(pControl.get());
-        isRefused = f.pEvent->RefuseFromBehind();
-    };
-    pControl->Then(leave);
-
-    f.Add(L"a");
-
-    QVERIFY(!isRefused);
-}
-
-void ControlDefinitionChangeEventNestingTest::aChoiceOfTheUserFromAnOldListIsRefusedAndSetRight()
-{
-    Fixture f;
-    bool isRefused = false;
-    f.first.Then([&] {
-        const ControlDefinitionChangeByUser byUser(L"id");
-        isRefused = f.pEvent->RefuseFromBehind();
-    });
-
-    f.Add(L"a");
-
-    QVERIFY(isRefused);
-    QCOMPARE(Fixture::GetHeard(f.second), std::wstring(L"a*"));
-}
-
-void ControlDefinitionChangeEventNestingTest::aProgramThatActsOnAChoiceOfTheUserIsNotRefused()
-{
-    Fixture f;
-    bool isRefused = true;
-    f.first.Then([&] { isRefused = f.pEvent->RefuseFromBehind(); });
-    const ControlDefinitionChangeByUser byUser(L"id");
-
-    f.Add(L"a");
-
-    QVERIFY(!isRefused);
 }
 
 }

@@ -461,7 +461,9 @@ void ItemDefinitionListTest::aHandlerMayRemoveTheItemThatChanges()
     f.pList->Get(1)->SetCaption(L"new");
 
     QCOMPARE(f.GetIds(), std::wstring(L"ac"));
-    QCOMPARE(f.pRecorder->GetCount(), 2);
+    // The change of the item, the removal, and the properties that follow it.
+    QCOMPARE(f.pRecorder->GetCount(), 3);
+    QCOMPARE(f.pRecorder->GetChanges().at(1).type, int{Type::Delete});
     QCOMPARE(f.aliveCount, 2);
 }
 
