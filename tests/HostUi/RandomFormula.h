@@ -1,24 +1,52 @@
 #pragma once
 
 #include <QRandomGenerator>
+#include <QRegularExpression>
 #include <QString>
 #include <QStringList>
+
+#include <boost/multiprecision/cpp_int.hpp>
 
 #include <cmath>
 
 namespace vesk
 {
 
+using Rational = boost::multiprecision::cpp_rational;
+
+/// The very number that a text of decimal digits says.
+inline Rational ReadDecimal(const QString& text)
+{
+    static const QRegularExpression s_firstZeros(QStringLiteral("^0+(?=.)"));
+    const QStringList parts = text.toLower().split('e');
+    const int point = parts.front().indexOf('.');
+    const int decimals = point < 0 ? 0 : parts.front().size() - point - 1;
+    const int exponent = (parts.size() > 1 ? parts.back().toInt() : 0) - decimals;
+    const QString digits = QString(parts.front()).remove('.').remove(s_firstZeros);
+    Rational value(boost::multiprecision::cpp_int(digits.toStdString()));
+    for (int i = 0; i < std::abs(exponent); ++i)
+        value *= exponent > 0 ? Rational(10) : Rational(1, 10);
+    return value;
+}
+
+/// Whether no double is nearer to a number.
+inline bool IsNearest(double value, const Rational& number)
+{
+    const Rational error = abs(Rational(value) - number);
+    const auto isNotNearer = [&](double other) {
+        return Rational(abs(Rational(other) - number)) >= error;
+    };
+    return isNotNearer(std::nextafter(value, HUGE_VAL)) &&
+           isNotNearer(std::nextafter(value, -HUGE_VAL));
+}
+
 /// A formula as somebody might type it, and its value, found while it was made.
 struct RandomFormula
 {
     QString text;
 
-    /// In millimetres for a length.
-    double value = 0.0;
-
-    /// No rounding error of the value exceeds this by more than some parts in 10^15.
-    double size = 0.0;
+    /// In millimetres for a length. A root is a double, all else is exact.
+    Rational value;
 
     bool hasUnit = false;
 
@@ -78,13 +106,22 @@ public:
         }
     }
 
+    /// Two to five lengths in any units, added and subtracted.
+    RandomFormula MakeSum()
+    {
+        RandomFormula sum = LengthLiteral();
+        for (int i = 1 + Pick(4); i > 0; --i)
+            sum = Sum(sum, LengthLiteral());
+        return sum;
+    }
+
     int Pick(int count) { return m_random.bounded(count); }
 
 private:
     struct Unit
     {
         const char* name;
-        double millimetres;
+        int tenths;
     };
 
     RandomFormula Literal()
@@ -98,14 +135,14 @@ private:
                                 whole + '.' + digits + "e-1",
                                 "1" + digits + "E-2"};
         const QString text = forms[Pick(forms.size())];
-        return {text, text.toDouble(), text.toDouble()};
+        return {text, ReadDecimal(text)};
     }
 
     RandomFormula LengthLiteral()
     {
-        constexpr Unit Units[] = {{"mm", 1.0},   {"cm", 10.0}, {"dm", 100.0},  {"m", 1000.0},
-                                  {"km", 1e6},   {"in", 25.4}, {"inch", 25.4}, {"\"", 25.4},
-                                  {"ft", 304.8}, {"'", 304.8}};
+        constexpr Unit Units[] = {{"mm", 10},       {"cm", 100}, {"dm", 1000},  {"m", 10000},
+                                  {"km", 10000000}, {"in", 254}, {"inch", 254}, {"\"", 254},
+                                  {"ft", 3048},     {"'", 3048}};
         const Unit& unit = Units[Pick(10)];
         const QString name = QString::fromLatin1(unit.name);
         RandomFormula number = Literal();
@@ -115,24 +152,22 @@ private:
             number = Fraction();
         else if (Pick(6) == 0)
             number = Parentheses(MakeNumber(1));
-        const double value = number.value * unit.millimetres;
-        return {number.text + name, value, number.size * unit.millimetres, true};
+        return {number.text + name, number.value * Rational(unit.tenths, 10), true};
     }
 
     RandomFormula Fraction()
     {
         const int above = 1 + Pick(63);
         const int below = 1 + Pick(63);
-        const double value = static_cast<double>(above) / below;
-        return {QString::number(above) + '/' + QString::number(below), value, value};
+        return {QString::number(above) + '/' + QString::number(below), Rational(above, below)};
     }
 
     RandomFormula FeetAndInches()
     {
         const RandomFormula inches = Pick(2) == 0 ? Literal() : Fraction();
         const int feet = 1 + Pick(40);
-        const double value = feet * 304.8 + inches.value * 25.4;
-        return {QString::number(feet) + '\'' + inches.text + '"', value, value, true};
+        return {QString::number(feet) + '\'' + inches.text + '"',
+                (feet * 12 + inches.value) * Rational(254, 10), true};
     }
 
     /// As an operand that nothing tears apart. What stands in parentheses may get more of them.
@@ -151,41 +186,39 @@ private:
     {
         // Feet, a dash and inches would be one length to a builder.
         const bool isFeet = left.text.endsWith('\'') || left.text.endsWith("ft");
-        const bool isMinus = Pick(2) == 0 && left.value > 2.0 * right.value;
+        const bool isMinus = Pick(2) == 0 && left.value > 2 * right.value;
         return {Hold(left, isMinus && isFeet ? 4 : 1) + Symbol(isMinus ? '-' : '+') +
                     Hold(right, 2),
-                isMinus ? left.value - right.value : left.value + right.value,
-                left.size + right.size, left.hasUnit || right.hasUnit, 1};
+                isMinus ? Rational(left.value - right.value) : Rational(left.value + right.value),
+                left.hasUnit || right.hasUnit, 1};
     }
 
     RandomFormula Product(const RandomFormula& left, const RandomFormula& right)
     {
         return {Hold(left, 2) + Symbol('*') + Hold(right, 3), left.value * right.value,
-                left.size * right.size, left.hasUnit || right.hasUnit, 2};
+                left.hasUnit || right.hasUnit, 2};
     }
 
     RandomFormula Quotient(const RandomFormula& left, const RandomFormula& right)
     {
-        const double loss = right.size / right.value;
         return {Hold(left, 2) + Symbol('/') + Hold(right, 3), left.value / right.value,
-                left.size / right.value * loss, left.hasUnit || right.hasUnit, 2};
+                left.hasUnit || right.hasUnit, 2};
     }
 
     RandomFormula Root(const RandomFormula& part)
     {
-        const double root = std::sqrt(part.value);
-        return {"sqrt(" + part.text + ')', root, part.size / root, part.hasUnit};
+        const double root = std::sqrt(part.value.convert_to<double>());
+        return {"sqrt(" + part.text + ')', Rational(root), part.hasUnit};
     }
 
     RandomFormula Square(const RandomFormula& part)
     {
-        return {'(' + part.text + ")^2", std::pow(part.value, 2.0), part.size * part.size,
-                part.hasUnit};
+        return {'(' + part.text + ")^2", part.value * part.value, part.hasUnit};
     }
 
     RandomFormula Parentheses(const RandomFormula& part)
     {
-        return {'(' + part.text + ')', part.value, part.size, part.hasUnit};
+        return {'(' + part.text + ')', part.value, part.hasUnit};
     }
 
     QRandomGenerator m_random;

@@ -1,104 +1,166 @@
 #include "FormulaEvaluation.h"
 
-#include <muParser.h>
+#include "Dimension/LengthUnit.h"
+#include "FormulaFunctions.h"
+#include "HostUi/TypedText.h"
 
+#include <boost/multiprecision/cpp_int.hpp>
+
+#include <algorithm>
 #include <cmath>
-#include <string>
+#include <cstddef>
+#include <cstdlib>
+#include <limits>
+#include <utility>
 
 namespace vesk
 {
 namespace
 {
 
-constexpr double RightAngle = 90.0;
+using Whole = boost::multiprecision::cpp_int;
+using Exact = boost::multiprecision::cpp_rational;
+using Result = std::optional<Exact>;
 
-double ToRadians(double degrees)
+/// How many digits of two a numerator or denominator may have: what is typed on purpose stays far
+/// below, and what is not would take its time.
+constexpr unsigned MostBits = 30000;
+
+unsigned CountBits(const Whole& number)
 {
-    return degrees / 180.0 * std::acos(-1.0);
+    return number.is_zero() ? 1 : msb(abs(number)) + 1;
 }
 
-/// For angles of at most 45 degrees.
-double SineOfSmall(double degrees)
+unsigned CountBits(const Exact& value)
 {
-    return std::abs(degrees) == 30.0 ? std::copysign(0.5, degrees) : std::sin(ToRadians(degrees));
+    return std::max(CountBits(numerator(value)), CountBits(denominator(value)));
 }
 
-/// The sine of so many right angles and an angle of at most 45 degrees.
-double SineOfSum(int rightAngles, double degrees)
+/// The value, unless it is beyond all doubles or needs too many digits.
+Result Checked(const Exact& value)
 {
-    const unsigned quadrant = static_cast<unsigned>(rightAngles) % 4;
-    const double sine = quadrant % 2 == 0 ? SineOfSmall(degrees) : std::cos(ToRadians(degrees));
-    return quadrant < 2 ? sine : -sine;
+    const auto size = static_cast<int>(CountBits(numerator(value))) -
+                      static_cast<int>(CountBits(denominator(value)));
+    if (CountBits(value) > MostBits || size > std::numeric_limits<double>::max_exponent)
+        return std::nullopt;
+    return value;
 }
 
-double Sine(double degrees)
+double ToDouble(const Exact& value)
 {
-    int rightAngles = 0;
-    const double rest = std::remquo(degrees, RightAngle, &rightAngles);
-    return SineOfSum(rightAngles, rest);
+    return value.convert_to<double>();
 }
 
-double Cosine(double degrees)
+/// Every finite double is a fraction.
+Result FromDouble(double value)
 {
-    int rightAngles = 0;
-    const double rest = std::remquo(degrees, RightAngle, &rightAngles);
-    return SineOfSum(rightAngles + 1, rest);
+    return std::isfinite(value) ? Result(Exact(value)) : std::nullopt;
 }
 
-double Tangent(double degrees)
+Exact FromDecimal(const DecimalNumber& number)
 {
-    const bool isDiagonal = std::abs(std::remainder(degrees, RightAngle)) == RightAngle / 2;
-    const double tangent = Sine(degrees) / Cosine(degrees);
-    return isDiagonal ? std::copysign(1.0, tangent) : tangent;
+    // Behind a zero the digits would be octal.
+    const std::size_t first = number.digits.find_first_not_of('0');
+    if (first == std::string::npos)
+        return 0;
+    const Whole digits(number.digits.substr(first));
+    const Whole ten = pow(Whole(10), static_cast<unsigned>(std::abs(number.exponent)));
+    return number.exponent < 0 ? Exact(digits, ten) : Exact(digits * ten);
 }
 
-/// The angle in whole degrees, wherever its function is the very argument.
-double Invert(double argument, double radians, double (*pFunction)(double))
+/// How long one of the unit is. No double is 25.4: the shortest number that leads to it was meant.
+Exact MillimetresOf(const LengthUnit& unit)
 {
-    const double degrees = radians * 180.0 / std::acos(-1.0);
-    const double whole = std::round(degrees);
-    return pFunction(whole) == argument ? whole : degrees;
+    TypedTextFault fault = TypedTextFault::None;
+    return FromDecimal(
+        SplitFormula(ShortestNumber(unit.ToModel(1.0)), fault).value().front().number);
 }
 
-double ArcSine(double sine)
+Result Divide(const Exact& dividend, const Exact& divisor)
 {
-    return Invert(sine, std::asin(sine), &Sine);
+    return divisor.is_zero() ? std::nullopt : Result(dividend / divisor);
 }
 
-double ArcCosine(double cosine)
+/// Exact for whole exponents, where that leaves few enough digits.
+Result Power(const Exact& base, const Exact& exponent)
 {
-    return Invert(cosine, std::acos(cosine), &Cosine);
+    const double times = ToDouble(exponent);
+    const bool isWhole = denominator(exponent) == 1;
+    if (!isWhole || std::abs(times) * CountBits(base) > MostBits)
+        return FromDouble(std::pow(ToDouble(base), times));
+    const auto count = static_cast<unsigned>(std::abs(times));
+    const Exact power(pow(numerator(base), count), pow(denominator(base), count));
+    return times < 0.0 ? Divide(1, power) : Result(power);
 }
 
-double ArcTangent(double tangent)
+Result Apply(const FormulaFunction& function, const Exact& argument)
 {
-    return Invert(tangent, std::atan(tangent), &Tangent);
+    if (function.pCompute == nullptr)
+        return Exact(abs(argument));
+    return FromDouble(function.pCompute(ToDouble(argument)));
 }
 
-/// Gives the evaluator the functions of angles in degrees. They are exact wherever a table of
-/// angles is: sin 30 is a half.
-void DefineDegreeFunctions(mu::Parser& parser)
+/// The result of a step that takes two values.
+Result Combine(FormulaStep::Kind operation, const Exact& left, const Exact& right)
 {
-    parser.DefineFun("sind", &Sine);
-    parser.DefineFun("cosd", &Cosine);
-    parser.DefineFun("tand", &Tangent);
-    parser.DefineFun("asind", &ArcSine);
-    parser.DefineFun("acosd", &ArcCosine);
-    parser.DefineFun("atand", &ArcTangent);
+    switch (operation)
+    {
+    case FormulaStep::Kind::Add:
+        return Exact(left + right);
+    case FormulaStep::Kind::Subtract:
+        return Exact(left - right);
+    case FormulaStep::Kind::Multiply:
+        return Exact(left * right);
+    case FormulaStep::Kind::Divide:
+        return Divide(left, right);
+    default:
+        return Power(left, right);
+    }
+}
+
+/// Does a step on the stack.
+Result Take(const FormulaStep& step, std::vector<Exact>& stack)
+{
+    if (step.kind == FormulaStep::Kind::Number)
+        return FromDecimal(step.number);
+    const Exact last = std::move(stack.back());
+    stack.pop_back();
+    if (step.kind == FormulaStep::Kind::Negate)
+        return Exact(-last);
+    if (step.kind == FormulaStep::Kind::Function)
+        return Apply(*step.pFunction, last);
+    const Exact first = std::move(stack.back());
+    stack.pop_back();
+    return Combine(step.kind, first, last);
+}
+
+Result Compute(const std::vector<FormulaStep>& steps)
+{
+    std::vector<Exact> stack;
+    for (const FormulaStep& step : steps)
+    {
+        const Result result = Take(step, stack);
+        const Result checked = result.has_value() ? Checked(*result) : std::nullopt;
+        if (!checked.has_value())
+            return std::nullopt;
+        stack.push_back(*checked);
+    }
+    return stack.back();
 }
 
 }
-
-double Evaluate(const CheckedFormula& formula)
+std::optional<FormulaValue> Evaluate(const CheckedFormula& formula, Quantity quantity,
+                                     const LengthUnit& unit)
 {
-    // Every number has a name: of the evaluator's own ways to write numbers none is ever met.
-    mu::Parser parser;
-    parser.EnableOptimizer(false);
-    DefineDegreeFunctions(parser);
-    for (std::size_t i = 0; i < formula.operands.size(); ++i)
-        parser.DefineConst('v' + std::to_string(i), formula.operands[i]);
-    parser.SetExpr(formula.expression);
-    return parser.Eval();
+    const Result value = Compute(formula.steps);
+    if (!value.has_value())
+        return std::nullopt;
+    const Exact scale = quantity == Quantity::Length ? MillimetresOf(unit) : Exact(1);
+    const FormulaValue result = formula.isInMillimetres
+                                    ? FormulaValue{ToDouble(*value / scale), ToDouble(*value)}
+                                    : FormulaValue{ToDouble(*value), ToDouble(*value * scale)};
+    const bool isFinite = std::isfinite(result.shown) && std::isfinite(result.model);
+    return isFinite ? std::optional(result) : std::nullopt;
 }
 
 }

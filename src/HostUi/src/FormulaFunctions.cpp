@@ -1,5 +1,9 @@
 #include "FormulaFunctions.h"
 
+#include "Geometry/Degrees.h"
+
+#include <cmath>
+
 namespace vesk
 {
 namespace
@@ -7,11 +11,20 @@ namespace
 
 using Rule = FormulaFunction::Rule;
 
+double SquareRoot(double square)
+{
+    return std::sqrt(square);
+}
+
 constexpr FormulaFunction Functions[] = {
-    {"abs", "abs", Rule::Keeps},      {"sqrt", "sqrt", Rule::Halves},
-    {"sin", "sind", Rule::OfAngle},   {"cos", "cosd", Rule::OfAngle},
-    {"tan", "tand", Rule::OfAngle},   {"asin", "asind", Rule::ToAngle},
-    {"acos", "acosd", Rule::ToAngle}, {"atan", "atand", Rule::ToAngle},
+    {"abs", nullptr, Rule::Keeps},
+    {"sqrt", &SquareRoot, Rule::Halves},
+    {"sin", &Degrees::Sine, Rule::OfAngle},
+    {"cos", &Degrees::Cosine, Rule::OfAngle},
+    {"tan", &Degrees::Tangent, Rule::OfAngle},
+    {"asin", &Degrees::ArcSine, Rule::ToAngle},
+    {"acos", &Degrees::ArcCosine, Rule::ToAngle},
+    {"atan", &Degrees::ArcTangent, Rule::ToAngle},
 };
 
 }

@@ -21,8 +21,10 @@ struct FormulaFunction
         ToAngle, ///< The other way round.
     };
 
-    const char* name;      ///< As typed.
-    const char* evaluator; ///< As the evaluator knows it; angles in degrees.
+    const char* name; ///< As typed.
+
+    /// Angles are in degrees; null for the absolute value, which needs no rounding.
+    double (*pCompute)(double);
     Rule rule;
 
     /// What the result is; nothing when it cannot be.

@@ -3,7 +3,7 @@
 #include "FormulaFunctions.h"
 
 #include <algorithm>
-#include <cmath>
+#include <string>
 #include <utility>
 
 namespace vesk
@@ -12,16 +12,21 @@ namespace
 {
 
 /// Beyond it a formula of lengths makes no sense, and a power would leave the doubles.
-constexpr double GreatestPower = 6.0;
+constexpr int GreatestPower = 6;
+
+using Operation = FormulaStep::Kind;
 
 bool IsWholeNumber(const FormulaToken& token)
 {
     return token.kind == FormulaToken::Kind::Number && token.number.isInteger;
 }
 
-std::string Parenthesise(const std::string& left, char symbol, const std::string& right)
+/// The power that a whole number says; nothing for any other, and for a greater one.
+std::optional<int> FindSmallPower(const FormulaToken& token)
 {
-    return '(' + left + symbol + right + ')';
+    bool isNumber = false;
+    const int power = IsWholeNumber(token) ? token.text.toInt(&isNumber) : 0;
+    return isNumber && power <= GreatestPower ? std::optional(power) : std::nullopt;
 }
 
 Dimension Times(const Dimension& left, const Dimension& right, int sign)
@@ -31,9 +36,8 @@ Dimension Times(const Dimension& left, const Dimension& right, int sign)
 
 }
 
-FormulaReader::FormulaReader(std::vector<FormulaToken> tokens, Quantity quantity,
-                             const UnitScale& scale)
-    : m_tokens(std::move(tokens)), m_quantity(quantity), m_scale(scale)
+FormulaReader::FormulaReader(std::vector<FormulaToken> tokens, Quantity quantity)
+    : m_tokens(std::move(tokens)), m_quantity(quantity)
 {}
 
 std::optional<CheckedFormula> FormulaReader::Read()
@@ -43,7 +47,7 @@ std::optional<CheckedFormula> FormulaReader::Read()
         sum = FailAtToken();
     if (!sum.has_value() || !IsOfField(*sum))
         return std::nullopt;
-    return CheckedFormula{sum->expression, m_operands};
+    return CheckedFormula{m_steps, sum->dimension == Dimension{1, 0}};
 }
 
 FormulaReader::Result FormulaReader::ReadSum()
@@ -59,8 +63,8 @@ FormulaReader::Result FormulaReader::ReadSum()
             return std::nullopt;
         if (left->dimension != right->dimension)
             return Fail(TypedTextFault::MixedUnits);
-        left = Part{Parenthesise(left->expression, symbol, right->expression), left->dimension,
-                    left->namesUnit || right->namesUnit};
+        Emit(symbol == '+' ? Operation::Add : Operation::Subtract);
+        left = Part{left->dimension, left->namesUnit || right->namesUnit};
     }
     return left;
 }
@@ -76,8 +80,8 @@ FormulaReader::Result FormulaReader::ReadProduct(bool maySign)
         const Result right = ReadFactor(true);
         if (!right.has_value())
             return std::nullopt;
-        left = Part{Parenthesise(left->expression, symbol, right->expression),
-                    Times(left->dimension, right->dimension, symbol == '*' ? 1 : -1),
+        Emit(symbol == '*' ? Operation::Multiply : Operation::Divide);
+        left = Part{Times(left->dimension, right->dimension, symbol == '*' ? 1 : -1),
                     left->namesUnit || right->namesUnit};
     }
     return left;
@@ -96,7 +100,7 @@ FormulaReader::Result FormulaReader::ReadFactor(bool maySign)
         operand = ReadPower(*operand);
     }
     if (operand.has_value() && isMinus)
-        operand->expression = "(-" + operand->expression + ')';
+        Emit(Operation::Negate);
     return operand;
 }
 
@@ -104,22 +108,20 @@ FormulaReader::Result FormulaReader::ReadPower(const Part& base)
 {
     Take('^');
     const bool isMinus = Take('-');
-    const bool isLiteral = IsWholeNumber(Peek());
-    const double power = (isMinus ? -1.0 : 1.0) * Peek().number.value;
+    const std::optional<int> power = FindSmallPower(Peek());
     const Result exponent = ReadExponent();
     if (!exponent.has_value())
         return std::nullopt;
     if (Peek().Is('^'))
         return Fail(TypedTextFault::Ambiguous);
-    const bool isKnown =
-        base.dimension.IsNumber() || (isLiteral && std::abs(power) <= GreatestPower);
+    const bool isKnown = base.dimension.IsNumber() || power.has_value();
     if (!exponent->dimension.IsNumber() || exponent->namesUnit || !isKnown)
         return Fail(TypedTextFault::MixedUnits);
-    const int times = base.dimension.IsNumber() ? 0 : static_cast<int>(power);
-    const std::string sign = isMinus ? "(-" : "(";
-    return Part{Parenthesise(base.expression, '^', sign + exponent->expression + ')'),
-                {base.dimension.length * times, base.dimension.angle * times},
-                base.namesUnit};
+    if (isMinus)
+        Emit(Operation::Negate);
+    Emit(Operation::Power);
+    const int times = base.dimension.IsNumber() ? 0 : (isMinus ? -*power : *power);
+    return Part{{base.dimension.length * times, base.dimension.angle * times}, base.namesUnit};
 }
 
 /// No unit belongs to a bare exponent: (3cm)^2/4cm is nine quarters of a centimetre.
@@ -127,9 +129,9 @@ FormulaReader::Result FormulaReader::ReadExponent()
 {
     if (Peek().kind != FormulaToken::Kind::Number || Peek().number.hasComma)
         return ReadOperand();
-    const double value = Peek().number.value;
+    Push(Peek().number);
     ++m_position;
-    return MakeOperand(value);
+    return Part{};
 }
 
 FormulaReader::Result FormulaReader::ReadOperand()
@@ -157,19 +159,16 @@ FormulaReader::Result FormulaReader::ReadLiteral()
         return Fail(TypedTextFault::AmbiguousComma);
     const bool isFraction = IsFraction(0);
     const FormulaUnit* pUnit = FindUnit(Peek(isFraction ? 3 : 1));
-    double value = number.value;
+    Push(number);
     if (isFraction)
-        value = m_scale.ConvertFraction(number, Peek(2).number, *pUnit);
-    else if (pUnit != nullptr)
-        value = m_scale.Convert(number, *pUnit);
+    {
+        Push(Peek(2).number);
+        Emit(Operation::Divide);
+    }
     m_position += isFraction ? 4 : (pUnit != nullptr ? 2 : 1);
-
-    Part part = MakeOperand(value);
     if (pUnit == nullptr)
-        return part;
-    part.dimension = pUnit->dimension;
-    part.namesUnit = true;
-    part.isQuantity = true;
+        return Part{};
+    const Part part = Scale(*pUnit);
     return pUnit->IsFoot() ? ReadInches(part) : part;
 }
 
@@ -184,9 +183,8 @@ FormulaReader::Result FormulaReader::ReadInches(const Part& feet)
     const Result inches = ReadLiteral();
     if (!inches.has_value())
         return std::nullopt;
-    Part both = feet;
-    both.expression = Parenthesise(feet.expression, '+', inches->expression);
-    return both;
+    Emit(Operation::Add);
+    return feet;
 }
 
 FormulaReader::Result FormulaReader::ReadParentheses()
@@ -210,9 +208,7 @@ FormulaReader::Result FormulaReader::ReadUnitAfter(const Part& part)
     if (!part.dimension.IsNumber() || part.namesUnit)
         return Fail(TypedTextFault::MixedUnits);
     ++m_position;
-    const Part factor = MakeOperand(m_scale.FactorOf(*pUnit));
-    return Part{Parenthesise(part.expression, '*', factor.expression), pUnit->dimension, true,
-                true};
+    return Scale(*pUnit);
 }
 
 FormulaReader::Result FormulaReader::ReadName()
@@ -228,7 +224,8 @@ FormulaReader::Result FormulaReader::ReadName()
     if (m_quantity == Quantity::Angle)
         return Fail(TypedTextFault::AngleUnit);
     ++m_position;
-    return MakeOperand(std::acos(-1.0));
+    Push({"31415926535897932384626433832795028841972", -40});
+    return Part{};
 }
 
 FormulaReader::Result FormulaReader::ReadFunction(const FormulaFunction& function)
@@ -247,8 +244,8 @@ FormulaReader::Result FormulaReader::ReadFunction(const FormulaFunction& functio
         return Fail(isOfAngle && argument->dimension.IsNumber() ? TypedTextFault::AngleUnit
                                                                 : TypedTextFault::MixedUnits);
     const bool isTrigonometric = isOfAngle || function.rule == FormulaFunction::Rule::ToAngle;
-    return Part{function.evaluator + ('(' + argument->expression + ')'), *dimension,
-                argument->namesUnit && !isTrigonometric};
+    m_steps.push_back({Operation::Function, {}, &function});
+    return Part{*dimension, argument->namesUnit && !isTrigonometric};
 }
 
 /// A formula that names units has to come to the field's.
@@ -310,10 +307,22 @@ FormulaReader::Result FormulaReader::FailAtToken()
     return Fail(isUnknown ? TypedTextFault::UnknownName : TypedTextFault::NotANumber);
 }
 
-FormulaReader::Part FormulaReader::MakeOperand(double value)
+void FormulaReader::Push(const DecimalNumber& number)
 {
-    m_operands.push_back(value);
-    return {'v' + std::to_string(m_operands.size() - 1), {}};
+    m_steps.push_back({Operation::Number, number});
+}
+
+void FormulaReader::Emit(Operation operation)
+{
+    m_steps.push_back({operation, {}});
+}
+
+/// The value on top of the stack is so many of the unit.
+FormulaReader::Part FormulaReader::Scale(const FormulaUnit& unit)
+{
+    Push({std::to_string(unit.tenths), -1});
+    Emit(Operation::Multiply);
+    return {unit.dimension, true, true};
 }
 
 }

@@ -6,7 +6,6 @@
 
 #include <cstddef>
 #include <optional>
-#include <string>
 #include <vector>
 
 namespace vesk
@@ -14,11 +13,36 @@ namespace vesk
 
 struct FormulaFunction;
 
-/// Numbers under the names v0, v1, … and a fully parenthesised formula of them.
+/// A step of a computation on a stack of values.
+struct FormulaStep
+{
+    enum class Kind
+    {
+        Number, ///< Puts a number on the stack.
+
+        // The others take one or two values from it and put their result there.
+        Negate,
+        Add,
+        Subtract,
+        Multiply,
+        Divide,
+        Power,
+        Function,
+    };
+
+    Kind kind;
+    DecimalNumber number;
+    const FormulaFunction* pFunction = nullptr;
+};
+
+/// How a formula is computed; one value remains in the end.
 struct CheckedFormula
 {
-    std::string expression;
-    std::vector<double> operands;
+    std::vector<FormulaStep> steps;
+
+    /// Whether that value is in millimetres: the formula names units. Else it is an angle in
+    /// degrees or a bare number, which is in the unit of the field.
+    bool isInMillimetres = false;
 };
 
 /// Reads a formula and finds what it is: a length, an angle or a number.
@@ -28,7 +52,7 @@ struct CheckedFormula
 class FormulaReader
 {
 public:
-    FormulaReader(std::vector<FormulaToken> tokens, Quantity quantity, const UnitScale& scale);
+    FormulaReader(std::vector<FormulaToken> tokens, Quantity quantity);
 
     /// The formula of the field's quantity; nothing when there is a fault.
     std::optional<CheckedFormula> Read();
@@ -38,7 +62,6 @@ private:
     /// A part that was read.
     struct Part
     {
-        std::string expression;
         Dimension dimension;
 
         /// A unit was written in it, and it is no result of an angle's function.
@@ -70,14 +93,15 @@ private:
     bool Take(char symbol);
     Result Fail(TypedTextFault fault);
     Result FailAtToken();
-    Part MakeOperand(double value);
+    void Push(const DecimalNumber& number);
+    void Emit(FormulaStep::Kind operation);
+    Part Scale(const FormulaUnit& unit);
 
     std::vector<FormulaToken> m_tokens;
     Quantity m_quantity;
-    UnitScale m_scale;
     std::size_t m_position = 0;
     int m_functionDepth = 0;
-    std::vector<double> m_operands;
+    std::vector<FormulaStep> m_steps;
     TypedTextFault m_fault = TypedTextFault::None;
 };
 

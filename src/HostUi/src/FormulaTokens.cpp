@@ -42,18 +42,15 @@ bool CanBeThousands(const QString& whole, const QString& fraction)
 }
 
 /// A number of these digits times a power of ten; nothing when no double comes near it.
-std::optional<DecimalNumber> MakeNumber(QString text, const std::string& digits, int exponent)
+std::optional<DecimalNumber> MakeNumber(QString text, const QString& digits, int exponent)
 {
     const std::string plain =
         text.replace(QLatin1Char(','), QLatin1Char('.')).remove(QLatin1Char('+')).toStdString();
-    DecimalNumber number;
-    if (std::from_chars(plain.data(), plain.data() + plain.size(), number.value).ec != std::errc())
+    double value = 0.0;
+    if (std::from_chars(plain.data(), plain.data() + plain.size(), value).ec != std::errc())
         return std::nullopt;
-    std::int64_t mantissa = 0;
-    const std::from_chars_result result =
-        std::from_chars(digits.data(), digits.data() + digits.size(), mantissa);
-    if (result.ec == std::errc())
-        number.mantissa = mantissa;
+    DecimalNumber number;
+    number.digits = digits.toStdString();
     number.exponent = exponent;
     return number;
 }
@@ -76,8 +73,8 @@ std::optional<FormulaToken> TakeNumber(const QString& text, int position, TypedT
         fault = TypedTextFault::AmbiguousComma;
         return std::nullopt;
     }
-    const std::optional<DecimalNumber> number = MakeNumber(
-        token.text, (whole + fraction).toStdString(), match.captured(6).toInt() - fraction.size());
+    const std::optional<DecimalNumber> number =
+        MakeNumber(token.text, whole + fraction, match.captured(6).toInt() - fraction.size());
     fault = TypedTextFault::NoValue;
     if (!number.has_value())
         return std::nullopt;

@@ -4,21 +4,18 @@
 
 #include <QString>
 
-#include <cstdint>
 #include <optional>
+#include <string>
 #include <vector>
 
 namespace vesk
 {
 
-/// A number without a sign, as it was written in decimal digits.
+/// A number without a sign, as it was written in decimal digits: digits * 10^exponent.
 struct DecimalNumber
 {
-    double value = 0.0;
-
-    /// The number is mantissa * 10^exponent; nothing where the digits are too many.
-    std::optional<std::int64_t> mantissa;
-    int exponent = 0;
+    std::string digits; ///< At least one.
+    int exponent = 0;   ///< Of a size that doubles have, but for zero, where it says nothing.
 
     bool isInteger = false; ///< Nothing but digits.
     bool hasComma = false;

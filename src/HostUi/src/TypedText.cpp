@@ -23,32 +23,22 @@ bool IsPlain(const QString& text)
     return s_pattern.match(text).hasMatch();
 }
 
-TypedReading MakeReading(double value, bool isPlain)
-{
-    if (!std::isfinite(value))
-        return {TypedTextFault::NoValue};
-    return {TypedTextFault::None, value, isPlain};
-}
-
 }
 
 TypedReading ReadTypedText(const QString& text, Quantity quantity, const LengthUnit& unit)
 {
-    if (IsPlain(text))
-    {
-        bool isNumber = false;
-        const double value = text.toDouble(&isNumber);
-        return isNumber ? MakeReading(value, true) : TypedReading{TypedTextFault::NoValue};
-    }
     TypedTextFault fault = TypedTextFault::None;
     const std::optional<std::vector<FormulaToken>> tokens = SplitFormula(text, fault);
     if (!tokens.has_value())
         return {fault};
-    FormulaReader reader(*tokens, quantity, UnitScale(unit));
+    FormulaReader reader(*tokens, quantity);
     const std::optional<CheckedFormula> formula = reader.Read();
     if (!formula.has_value())
         return {reader.GetFault()};
-    return MakeReading(Evaluate(*formula), false);
+    const std::optional<FormulaValue> value = Evaluate(*formula, quantity, unit);
+    if (!value.has_value())
+        return {TypedTextFault::NoValue};
+    return {TypedTextFault::None, value->shown, IsPlain(text), value->model};
 }
 
 QString ShortestNumber(double value)

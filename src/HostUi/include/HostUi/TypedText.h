@@ -40,6 +40,10 @@ struct TypedReading
 
     /// A number as it stands, which needs no rewriting.
     bool isPlain = false;
+
+    /// In millimetres, an angle in degrees: the double nearest to what the text says, not to
+    /// `value`, which is rounded too. Zero where there is a fault.
+    double modelValue = 0.0;
 };
 
 /// Reads what people type for a length, shown in `unit`, or for an angle: numbers, formulas, units.

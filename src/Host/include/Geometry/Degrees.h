@@ -1,0 +1,30 @@
+#pragma once
+
+#include "Foundation/HostExport.h"
+
+namespace vesk
+{
+
+/// Functions of angles in degrees, and their inverses.
+///
+/// At every multiple of 15 degrees they are the doubles nearest to the true values, which radians
+/// never give, and the inverse of such a value is the very angle. No zero among the results is
+/// negative. What has no value is not finite.
+class VESK_HOST_API Degrees
+{
+public:
+    static double Sine(double degrees);
+    static double Cosine(double degrees);
+    static double Tangent(double degrees);
+
+    /// From -90 to 90.
+    static double ArcSine(double sine);
+
+    /// From 0 to 180.
+    static double ArcCosine(double cosine);
+
+    /// Between -90 and 90.
+    static double ArcTangent(double tangent);
+};
+
+}
