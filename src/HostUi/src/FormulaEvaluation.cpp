@@ -24,7 +24,7 @@ using Result = std::optional<Exact>;
 
 /// How many digits of two a numerator or denominator may have: what is typed on purpose stays far
 /// below, and what is not would take its time.
-constexpr unsigned MostBits = 30000;
+constexpr unsigned MostBits = 10000;
 
 unsigned CountBits(const Whole& number)
 {
@@ -156,9 +156,11 @@ std::optional<FormulaValue> Evaluate(const CheckedFormula& formula, Quantity qua
     if (!value.has_value())
         return std::nullopt;
     const Exact scale = quantity == Quantity::Length ? MillimetresOf(unit) : Exact(1);
-    const FormulaValue result = formula.isInMillimetres
-                                    ? FormulaValue{ToDouble(*value / scale), ToDouble(*value)}
-                                    : FormulaValue{ToDouble(*value), ToDouble(*value * scale)};
+    const Result shown = formula.isInMillimetres ? Divide(*value, scale) : value;
+    if (!shown.has_value())
+        return std::nullopt;
+    const Exact model = formula.isInMillimetres ? *value : Exact(*value * scale);
+    const FormulaValue result{ToDouble(*shown), ToDouble(model)};
     const bool isFinite = std::isfinite(result.shown) && std::isfinite(result.model);
     return isFinite ? std::optional(result) : std::nullopt;
 }
