@@ -5,7 +5,7 @@
 namespace vesk::test
 {
 
-void TestAction::OnViewInput(const ActionViewInput& input)
+void TestAction::OnViewInput(const ActionViewInput& input, const TypedValue&)
 {
     m_log.inputs.push_back(input);
     if (const auto onInput = std::exchange(m_log.onInput, nullptr))

@@ -35,7 +35,7 @@ public:
     void OnBegin(IUiView*) override {}
     void OnMouseMove(const Vector3d&) override {}
     void OnClick(const Vector3d&) override {}
-    void OnViewInput(const ActionViewInput& input) override;
+    void OnViewInput(const ActionViewInput& input, const TypedValue& typed) override;
     bool OnEscape() override { return false; }
     void OnEnd() override { ++m_log.endCount; }
     bool IsFinished() const override { return false; }

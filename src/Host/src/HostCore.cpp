@@ -20,7 +20,7 @@ HostCore::~HostCore()
 {
     ActionManager::Reset();
     TemporaryDimensionMgr::GetInstance()->Drop();
-    TemporaryDimensionMgr::GetInstance()->SetTypedValue({});
+    TemporaryDimensionMgr::GetInstance()->TakeTypedValue();
     ICommandManager::Get()->RemoveAllCommands();
     JournalManager::GetInstance().Close();
     DebugMessageMgr::GetDebugMessageMgr()->Reset();

@@ -57,7 +57,8 @@ private slots:
     void anEscapeForTheNextCommandEndsIt();
     void clicksAfterTheLastActionAreLost();
     void clicksDoNotWaitForACommandThatIsChosenLater();
-    void theTypedTextIsThereWhileItsValueIsDelivered();
+    void theTypedTextComesWithItsValue();
+    void theTypedTextGoesWithOneValueOnly();
     void theInputMayBelongToAHandlerThatIsDropped();
 };
 
@@ -260,26 +261,46 @@ void ActionInputTest::clicksDoNotWaitForACommandThatIsChosenLater()
     QVERIFY(!f.Has("Line.click"));
 }
 
-void ActionInputTest::theTypedTextIsThereWhileItsValueIsDelivered()
+void ActionInputTest::theTypedTextComesWithItsValue()
 {
     TemporaryDimensionMgr& dimensions = *TemporaryDimensionMgr::GetInstance();
     ActionFixture f;
     f.AddInteractive("Line");
-    TypedValue seen;
-    f.scripts["Line"].onViewInput = [&](const ActionViewInput&) {
-        seen = dimensions.GetTypedValue();
-    };
     f.loop.Post([&] {
-        dimensions.SetTypedValue({L"12.5", true});
+        dimensions.SetTypedValue({L"12.5", true, 317.5});
         f.TypeValue();
     });
 
     f.Choose("Line");
 
+    const TypedValue& seen = f.scripts["Line"].typed;
     QCOMPARE(seen.text, std::wstring(L"12.5"));
     QVERIFY(seen.isUnchanged);
-    QVERIFY(dimensions.GetTypedValue().text.empty());
-    QVERIFY(!dimensions.GetTypedValue().isUnchanged);
+    QVERIFY(seen.modelValue == 317.5);
+}
+
+void ActionInputTest::theTypedTextGoesWithOneValueOnly()
+{
+    TemporaryDimensionMgr& dimensions = *TemporaryDimensionMgr::GetInstance();
+    ActionFixture f;
+    f.AddInteractive("Line");
+    TypedValue within;
+    f.scripts["Line"].onViewInput = [&](const ActionViewInput&) {
+        within = dimensions.TakeTypedValue();
+    };
+    f.loop.Post([&] {
+        dimensions.SetTypedValue({L"12.5", true, 317.5});
+        f.TypeValue();
+        f.TypeValue();
+    });
+
+    f.Choose("Line");
+
+    QVERIFY(within.text.empty());
+    const TypedValue& second = f.scripts["Line"].typed;
+    QVERIFY(second.text.empty());
+    QVERIFY(!second.isUnchanged);
+    QVERIFY(!second.modelValue.has_value());
 }
 
 void ActionInputTest::theInputMayBelongToAHandlerThatIsDropped()

@@ -62,6 +62,7 @@ struct ActionScript
     std::function<void()> onMouseMove;
     std::function<void()> onClick;
     std::function<void(const ActionViewInput&)> onViewInput;
+    TypedValue typed; ///< What was typed for the last input.
     std::function<void()> onEnd;
     std::function<OwnerPtr<ITemporaryDimensionContext>()> makeContext;
     bool hasLocks = false;
@@ -86,9 +87,10 @@ public:
     void OnClick(const Vector3d& /*world*/) override { Do("click", m_script.onClick); }
     void OnEnd() override { Do("end", m_script.onEnd); }
 
-    void OnViewInput(const ActionViewInput& input) override
+    void OnViewInput(const ActionViewInput& input, const TypedValue& typed) override
     {
         Note("input");
+        m_script.typed = typed;
         if (m_script.onViewInput)
             m_script.onViewInput(input);
     }

@@ -67,6 +67,15 @@ private slots:
     void theTextIsLeftOutWhileItIsTyped_data();
     void theTextIsLeftOutWhileItIsTyped();
     void aLockedDimensionShowsIt();
+    void aLockedValueIsShownAsItWasGiven_data();
+    void aLockedValueIsShownAsItWasGiven();
+    void anUnlockedValueIsMeasuredAgain();
+    void whatWouldShowAsMinusZeroIsZero_data();
+    void whatWouldShowAsMinusZeroIsZero();
+    void whatIsHardlyMoreThanZeroKeepsItsValue();
+    void theLengthOfASegmentAcrossThePlaneIsDrawnInIt_data();
+    void theLengthOfASegmentAcrossThePlaneIsDrawnInIt();
+    void theAngleOfASegmentAcrossThePlaneIsZero();
     void dimensionsStandInThePlaneOfTheCoordinateSystem();
     void whatIsNoSegmentHasNoGraphics_data();
     void whatIsNoSegmentHasNoGraphics();
@@ -285,6 +294,119 @@ void TemporaryDimensionCommonsTest::aLockedDimensionShowsIt()
     QVERIFY(DrawnNodes(*opLocked).AreAll(GraphicsRole::LockedDimension));
     QVERIFY(DrawnNodes(*opTyped).AreAll(GraphicsRole::ActiveDimension));
     QVERIFY(DrawnNodes(*opOther).AreAll(GraphicsRole::Dimension));
+}
+
+void TemporaryDimensionCommonsTest::aLockedValueIsShownAsItWasGiven_data()
+{
+    QTest::addColumn<double>("degrees");
+    QTest::addColumn<double>("x");
+    QTest::addColumn<double>("y");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("three quarters") << 270.0 << 0.0 << -200.0 << QString::fromUtf8("270.00\u00B0");
+    QTest::newRow("back") << -300.0 << 100.0 << 173.2 << QString::fromUtf8("-300.00\u00B0");
+    QTest::newRow("minus a half turn")
+        << -180.0 << -200.0 << 0.0 << QString::fromUtf8("-180.00\u00B0");
+    QTest::newRow("a whole turn") << 360.0 << 200.0 << 0.0 << QString::fromUtf8("360.00\u00B0");
+}
+
+void TemporaryDimensionCommonsTest::aLockedValueIsShownAsItWasGiven()
+{
+    QFETCH(double, degrees);
+    QFETCH(double, x);
+    QFETCH(double, y);
+    QFETCH(QString, text);
+    Fixture f;
+    f.end = {x, y, 0};
+    TemporaryDimensionMgr::GetInstance()->SetLocked(InputState::IS_Angle, true, degrees);
+    TemporaryDimensionMgr::GetInstance()->SetLocked(InputState::IS_Length, true, 1e-3);
+
+    const OwnerPtr<IGraphicsNodeGroup> opLength = f.MakeLength();
+    const OwnerPtr<IGraphicsNodeGroup> opAngle = f.MakeAngle();
+
+    const DrawnNodes angle(*opAngle);
+    QCOMPARE(QString::fromStdWString(angle.texts.at(0)->GetText()), text);
+    QCOMPARE(f.data[InputState::IS_Angle].value, degrees);
+    QCOMPARE(angle.arcs.at(0)->GetSweep(), degrees * s_degree);
+    QCOMPARE(f.data[InputState::IS_Length].value, 1e-3);
+}
+
+void TemporaryDimensionCommonsTest::anUnlockedValueIsMeasuredAgain()
+{
+    Fixture f;
+    f.end = {0, -200, 0};
+    TemporaryDimensionMgr::GetInstance()->SetLocked(InputState::IS_Angle, true, 270.0);
+    TemporaryDimensionMgr::GetInstance()->SetLocked(InputState::IS_Angle, false);
+
+    f.MakeAngle();
+
+    QCOMPARE(f.data[InputState::IS_Angle].value, -90.0);
+}
+
+void TemporaryDimensionCommonsTest::whatWouldShowAsMinusZeroIsZero_data()
+{
+    QTest::addColumn<double>("y");
+    QTest::newRow("hardly below the axis") << -0.001;
+    QTest::newRow("a negative zero") << -0.0;
+}
+
+void TemporaryDimensionCommonsTest::whatWouldShowAsMinusZeroIsZero()
+{
+    QFETCH(double, y);
+    Fixture f;
+    f.end = {200, y, 0};
+
+    const OwnerPtr<IGraphicsNodeGroup> opAngle = f.MakeAngle();
+
+    QVERIFY(f.data[InputState::IS_Angle].value == 0.0);
+    QVERIFY(!std::signbit(f.data[InputState::IS_Angle].value));
+    QCOMPARE(DrawnNodes(*opAngle).texts.at(0)->GetText(), std::wstring(L"0.00\u00B0"));
+}
+
+void TemporaryDimensionCommonsTest::whatIsHardlyMoreThanZeroKeepsItsValue()
+{
+    Fixture f;
+    f.end = {200, 0.001, 0};
+
+    f.MakeAngle();
+
+    QVERIFY(f.data[InputState::IS_Angle].value > 0.0);
+}
+
+void TemporaryDimensionCommonsTest::theLengthOfASegmentAcrossThePlaneIsDrawnInIt_data()
+{
+    QTest::addColumn<double>("z");
+    QTest::addColumn<int>("state");
+    QTest::newRow("above") << 100.0 << 0;
+    QTest::newRow("below") << -100.0 << 0;
+    QTest::newRow("while it is typed") << 100.0 << 1;
+}
+
+void TemporaryDimensionCommonsTest::theLengthOfASegmentAcrossThePlaneIsDrawnInIt()
+{
+    QFETCH(double, z);
+    QFETCH(int, state);
+    Fixture f;
+    f.start = {10, 20, 5};
+    f.end = {10, 20, 5 + z};
+    f.data[InputState::IS_Length].value = 7.0;
+
+    const OwnerPtr<IGraphicsNodeGroup> opGroup = f.MakeLength(static_cast<InputState>(state));
+
+    QCOMPARE(f.data[InputState::IS_Length].value, 100.0);
+    QVERIFY(f.data[InputState::IS_Length].textPosition == Vector3d(60, 48, 5));
+    QVERIFY(DrawnNodes(*opGroup).HasLine({10, 48, 5}, {110, 48, 5}));
+}
+
+void TemporaryDimensionCommonsTest::theAngleOfASegmentAcrossThePlaneIsZero()
+{
+    Fixture f;
+    f.end = {0, 0, 100};
+    f.data[InputState::IS_Angle].value = 7.0;
+
+    const OwnerPtr<IGraphicsNodeGroup> opGroup = f.MakeAngle();
+
+    QCOMPARE(f.data[InputState::IS_Angle].value, 0.0);
+    QCOMPARE(DrawnNodes(*opGroup).texts.size(), std::size_t(1));
 }
 
 void TemporaryDimensionCommonsTest::dimensionsStandInThePlaneOfTheCoordinateSystem()

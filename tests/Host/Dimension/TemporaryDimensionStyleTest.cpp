@@ -5,6 +5,8 @@
 #include "Support/HostValues.h"
 #include "Support/TestValues.h"
 
+#include <QRandomGenerator>
+
 #include <limits>
 
 namespace vesk
@@ -19,6 +21,8 @@ private slots:
     void lengthsHaveThreeDecimals();
     void anglesHaveTwoDecimals_data();
     void anglesHaveTwoDecimals();
+    void textsAreThoseOfTheEditor_data();
+    void textsAreThoseOfTheEditor();
     void everyDoubleHasAText();
     void theEditorHasASize();
     void aLinearContextTakesLengthsAndAnglesOfTheModel();
@@ -37,6 +41,7 @@ void TemporaryDimensionStyleTest::lengthsHaveThreeDecimals_data()
     QTest::newRow("zero") << 0.0 << "0.000";
     QTest::newRow("minus zero") << -0.0 << "0.000";
     QTest::newRow("hardly negative") << -0.0004 << "0.000";
+    QTest::newRow("halfway") << 100.0625 << "100.063";
     QTest::newRow("negative") << -0.001 << "-0.001";
 }
 
@@ -65,6 +70,49 @@ void TemporaryDimensionStyleTest::anglesHaveTwoDecimals()
 
     QCOMPARE(QString::fromStdWString(TemporaryDimensionStyle().FormatAngle(value)), text);
     QCOMPARE(TemporaryDimensionStyle().GetSecondValueDecimals(), 2);
+}
+
+void TemporaryDimensionStyleTest::textsAreThoseOfTheEditor_data()
+{
+    QTest::addColumn<double>("value");
+    for (const double value : {100.0625,
+                               0.0625,
+                               -0.0625,
+                               -100.1875,
+                               1.0005,
+                               2.0005,
+                               0.0005,
+                               12345.9375,
+                               0.125,
+                               0.375,
+                               -26.625,
+                               1.005,
+                               2.675,
+                               89.995,
+                               0.99951171875,
+                               281474976710655.0625,
+                               281474976710655.1875,
+                               1e15,
+                               1e300,
+                               4503599627370495.5,
+                               1e-300,
+                               0.0015})
+        QTest::addRow("%.17g", value) << value;
+    QRandomGenerator random(20261122);
+    for (int i = 0; i < 1000; ++i)
+    {
+        const double value = random.bounded(-2000000, 2000000) / 32.0;
+        QTest::addRow("%d, %.17g", i, value) << value;
+    }
+}
+
+void TemporaryDimensionStyleTest::textsAreThoseOfTheEditor()
+{
+    QFETCH(double, value);
+    const TemporaryDimensionStyle style;
+
+    QCOMPARE(QString::fromStdWString(style.FormatLength(value)), QString::number(value, 'f', 3));
+    QCOMPARE(QString::fromStdWString(style.FormatAngle(value)), QString::number(value, 'f', 2));
 }
 
 void TemporaryDimensionStyleTest::everyDoubleHasAText()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Command/ActionViewInput.h"
+#include "Command/TypedValue.h"
 #include "Dimension/InputState.h"
 #include "Foundation/HostExport.h"
 #include "Foundation/OwnerPtr.h"
@@ -37,8 +38,13 @@ public:
     /// The user clicked at a world point.
     virtual void OnClick(const Vector3d& world) = 0;
 
-    /// The user typed a value.
-    virtual void OnViewInput(const ActionViewInput&) {}
+    /// Why a typed value is of no use now, told to the user in its field before it is taken; empty
+    /// when it can be used. The value is in model units. Nothing changes.
+    virtual std::wstring GetRefusal(InputState /*field*/, double /*value*/) { return {}; }
+
+    /// The user typed a value. Where the text's own model value is known, that is the value meant:
+    /// the input's is rounded to the unit shown.
+    virtual void OnViewInput(const ActionViewInput& /*input*/, const TypedValue& /*typed*/) {}
 
     /// Drops what the user can take back first (locked values). False when there was nothing.
     virtual bool OnEscape() { return false; }

@@ -34,8 +34,9 @@ struct TemporaryDimensionData;
 class VESK_HOST_API TemporaryDimensionCommons
 {
 public:
-    /// The distance between two points; the dimension line runs beside the segment. Equal points
-    /// give an empty group and leave `data`. `end` is the cursor.
+    /// The distance between two points; the dimension line runs beside the segment, or along x when
+    /// the segment is at right angles to the plane. Equal points give an empty group and leave
+    /// `data`. `end` is the cursor.
     static OwnerPtr<IGraphicsNodeGroup>
     GenerateLengthDimension(const Vector3d& start, const Vector3d& end,
                             const Coordinate3d& coordinate, InputState state,

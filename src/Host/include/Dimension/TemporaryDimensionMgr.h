@@ -1,11 +1,12 @@
 #pragma once
 
+#include "Command/TypedValue.h"
 #include "Dimension/InputState.h"
 #include "Foundation/HostExport.h"
 #include "Foundation/OwnerPtr.h"
 
-#include <set>
-#include <string>
+#include <map>
+#include <optional>
 #include <vector>
 
 namespace vesk
@@ -30,15 +31,6 @@ public:
 
     /// Whether the handler delivers texts as they stand.
     virtual bool IsRawTextInput(ITemporaryDimensionHandler&) { return false; }
-};
-
-/// What was in the editor when a value was taken.
-struct TypedValue
-{
-    std::wstring text; ///< As it stood there.
-
-    /// The field was shown with its current value and nobody typed in it.
-    bool isUnchanged = false;
 };
 
 /// Owns the handler of the provisional dimensions, and their graphics.
@@ -84,14 +76,20 @@ public:
     /// The provisional graphics, null when there are none. Not owned; gone with the next change.
     const IGraphicsNodeGroup* GetGraphics() const;
 
-    /// Values that the cursor no longer changes; their dimensions show it.
-    void SetLocked(InputState field, bool isLocked);
+    /// Values that the cursor no longer changes; their dimensions show it. A value in model units
+    /// is shown as it is given: an angle of 270 degrees not as the -90 that points tell.
+    void SetLocked(InputState field, bool isLocked, std::optional<double> value = std::nullopt);
     bool IsLocked(InputState field) const;
     std::vector<InputState> GetLocked() const;
 
-    /// What stood in the editor when the value that is now being delivered was taken.
+    /// The value that is locked with the field; nothing when none is.
+    std::optional<double> GetLockedValue(InputState field) const;
+
+    /// Keeps what stands in the editor until the handler has delivered the value.
     void SetTypedValue(const TypedValue& typed);
-    const TypedValue& GetTypedValue() const;
+
+    /// Gives it away, once; the next one is empty.
+    TypedValue TakeTypedValue();
 
 private:
     class Call;
@@ -107,7 +105,7 @@ private:
     ITemporaryDimensionHandlerAccess* m_pAccess = nullptr;
     OwnerPtr<ITemporaryDimensionHandler> m_opHandler;
     OwnerPtr<IGraphicsNodeGroup> m_opGraphics;
-    std::set<InputState> m_locked;
+    std::map<InputState, std::optional<double>> m_locked;
     TypedValue m_typed;
 
     /// Dropped handlers that still have an operation on the stack.

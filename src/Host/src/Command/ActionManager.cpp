@@ -22,16 +22,6 @@ ActionRunner& Runner()
     return ActionRunner::GetInstance();
 }
 
-/// The time in which a value is delivered: at its end there is no typed value any more.
-class TypedValueScope
-{
-public:
-    TypedValueScope() = default;
-    ~TypedValueScope() { TemporaryDimensionMgr::GetInstance()->SetTypedValue({}); }
-    TypedValueScope(const TypedValueScope&) = delete;
-    TypedValueScope& operator=(const TypedValueScope&) = delete;
-};
-
 void Redraw(IUiView* pView)
 {
     if (pView != nullptr)
@@ -72,11 +62,8 @@ void ActionManager::ProcessViewInput(IUiView* /*pView*/, const ActionViewInput& 
 {
     // A copy: the input may belong to the handler, which the action may have dropped.
     const ActionViewInput delivered = input;
-    const TypedValueScope outer;
-    Runner().OperateStep([&delivered](IAction& action) {
-        const TypedValueScope inner;
-        action.OnViewInput(delivered);
-    });
+    const TypedValue typed = TemporaryDimensionMgr::GetInstance()->TakeTypedValue();
+    Runner().OperateStep([&](IAction& action) { action.OnViewInput(delivered, typed); });
 }
 
 void ActionManager::RefreshViewInput(IUiView* pView)

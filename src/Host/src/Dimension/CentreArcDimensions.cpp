@@ -20,7 +20,7 @@ TemporaryDimensionCommons::GenerateCentralAngleDimensionForCenterEndArc(
         return drawing.Take();
 
     const PlaneVector from = drawing.ToPlane(start);
-    const double angle = MeasureTurn(coordinate, centre, start, end);
+    const double angle = drawing.GetValue(MeasureTurn(coordinate, centre, start, end));
     const Turn turn = MakeTurn(from, angle, from.norm());
     if (hasRadiusLines)
     {

@@ -36,7 +36,9 @@ bool IsPixel(double width)
 DimensionDrawing::DimensionDrawing(const Vector3d& origin, const Coordinate3d& coordinate,
                                    double pixel, InputState field, InputState state)
     : m_origin(origin), m_coordinate(coordinate), m_pixel(IsPixel(pixel) ? pixel : 1.0),
-      m_role(RoleOf(field, state)), m_opGroup(IGraphicsNodeGroup::Create())
+      m_role(RoleOf(field, state)),
+      m_lockedValue(TemporaryDimensionMgr::GetInstance()->GetLockedValue(field)),
+      m_opGroup(IGraphicsNodeGroup::Create())
 {}
 
 bool DimensionDrawing::AreDrawable(std::initializer_list<Vector3d> points)

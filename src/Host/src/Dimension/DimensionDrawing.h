@@ -8,6 +8,7 @@
 #include "Graphics/IGraphicsNode.h"
 
 #include <initializer_list>
+#include <optional>
 #include <string>
 
 namespace vesk
@@ -22,12 +23,18 @@ public:
     DimensionDrawing(const Vector3d& origin, const Coordinate3d& coordinate, double pixel,
                      InputState field, InputState state);
 
+    /// What to show of the field: the value that is locked, in model units, else the measured one.
+    double GetValue(double measured) const { return m_lockedValue.value_or(measured); }
+
     /// Whether all are points that some model could hold: numbers with which can be calculated.
     static bool AreDrawable(std::initializer_list<Vector3d> points);
 
     /// World point to the plane, and back.
     PlaneVector ToPlane(const Vector3d& world) const;
     Vector3d ToWorld(const PlaneVector& point) const;
+
+    /// A length of the model in pixels.
+    double ToPixels(double length) const { return length / m_pixel; }
 
     void AddLine(const PlaneVector& start, const PlaneVector& end);
 
@@ -48,6 +55,7 @@ private:
     Coordinate3d m_coordinate;
     double m_pixel;
     GraphicsRole m_role;
+    std::optional<double> m_lockedValue;
     OwnerPtr<IGraphicsNodeGroup> m_opGroup;
 };
 

@@ -4,30 +4,49 @@
 #include "Dimension/EditorPlacement.h"
 #include "Dimension/TemporaryDimensionStyle.h"
 
+#include <cmath>
+
 namespace vesk
 {
+
+namespace
+{
+
+/// The value, but zero where its text has lost the minus: who shows the value would show one.
+double WithSignOf(const std::wstring& text, double value)
+{
+    return std::signbit(value) && text.front() != L'-' ? 0.0 : value;
+}
+
+}
 
 void PlaceLengthText(const Vector3d& position, double modelLength,
                      const TemporaryDimensionStyle& style, DimensionDrawing& drawing,
                      TemporaryDimensionData::Entry& entry)
 {
-    entry = {position, style.ToShown(modelLength)};
-    drawing.AddText(position, style.FormatLength(entry.value));
+    const double value = style.ToShown(drawing.GetValue(modelLength));
+    const std::wstring text = style.FormatLength(value);
+    entry = {position, WithSignOf(text, value)};
+    drawing.AddText(position, text);
 }
 
 void PlaceRadiusText(const Vector3d& position, double modelRadius,
                      const TemporaryDimensionStyle& style, DimensionDrawing& drawing,
                      TemporaryDimensionData::Entry& entry)
 {
-    entry = {position, style.ToShown(modelRadius)};
-    drawing.AddText(position, L"R" + style.FormatLength(entry.value));
+    const double value = style.ToShown(drawing.GetValue(modelRadius));
+    const std::wstring text = style.FormatLength(value);
+    entry = {position, WithSignOf(text, value)};
+    drawing.AddText(position, L"R" + text);
 }
 
 void PlaceAngleText(const Vector3d& position, double degrees, const TemporaryDimensionStyle& style,
                     DimensionDrawing& drawing, TemporaryDimensionData::Entry& entry)
 {
-    entry = {position, degrees};
-    drawing.AddText(position, style.FormatAngle(degrees) + L"\u00B0");
+    const double value = drawing.GetValue(degrees);
+    const std::wstring text = style.FormatAngle(value);
+    entry = {position, WithSignOf(text, value)};
+    drawing.AddText(position, text + L"\u00B0");
 }
 
 void AvoidEarlierText(const TemporaryDimensionData::Entry& earlier, EditorPlacement& placement)

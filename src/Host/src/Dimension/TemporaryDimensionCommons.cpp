@@ -16,21 +16,23 @@ OwnerPtr<IGraphicsNodeGroup> TemporaryDimensionCommons::GenerateLengthDimension(
     const TemporaryDimensionStyle& style, double pixel, TemporaryDimensionData& data)
 {
     DimensionDrawing drawing(start, coordinate, pixel, InputState::IS_Length, state);
-    const PlaneVector along = drawing.ToPlane(end);
-    const double pixels = along.norm();
-    if (!DimensionDrawing::AreDrawable({start, end}) || !(pixels > 0.0))
+    const double length = MeasureDistance(start, end);
+    if (!DimensionDrawing::AreDrawable({start, end}) || !(length > 0.0))
         return drawing.Take();
+    PlaneVector along = drawing.ToPlane(end);
+    // At right angles to the plane no direction is better than another.
+    if (along.isZero(0.0))
+        along = drawing.ToPixels(length) * PlaneVector::UnitX();
 
     // The arc of the angle is on the other side of the segment.
     const double side = MeasureDirection(coordinate, start, end) >= 0.0 ? 1.0 : -1.0;
-    const PlaneVector normal = side * TurnLeft(along / pixels);
+    const PlaneVector normal = side * TurnLeft(along.stableNormalized());
     const PlaneVector origin = PlaneVector::Zero();
     const EditorPlacement placement(coordinate, end, style);
     const std::vector<Vector3d> places = DrawStraightDimension(
         {{origin, along, normal}, {origin, along, -normal}}, placement, drawing);
 
-    PlaceLengthText(placement.Choose(places), MeasureDistance(start, end), style, drawing,
-                    data[InputState::IS_Length]);
+    PlaceLengthText(placement.Choose(places), length, style, drawing, data[InputState::IS_Length]);
     return drawing.Take();
 }
 
@@ -42,7 +44,7 @@ OwnerPtr<IGraphicsNodeGroup> TemporaryDimensionCommons::GenerateAngleDimension(
     if (!DimensionDrawing::AreDrawable({start, end}) || start == end)
         return drawing.Take();
 
-    const double angle = MeasureDirection(coordinate, start, end);
+    const double angle = drawing.GetValue(MeasureDirection(coordinate, start, end));
     const Turn turn = MakeTurn(PlaneVector::UnitX(), angle, drawing.ToPlane(end).norm());
     DrawTurnSide(turn.from, GetSideReach(turn), drawing);
     DrawTurn(turn, TurnArrows::Both, drawing);

@@ -21,7 +21,7 @@ OwnerPtr<IGraphicsNodeGroup> TemporaryDimensionCommonsUtils::GenerateRotationDim
 
     const PlaneVector start = drawing.ToPlane(from);
     const PlaneVector end = drawing.ToPlane(to);
-    const double angle = MeasureTurn(coordinate, centre, from, to);
+    const double angle = drawing.GetValue(MeasureTurn(coordinate, centre, from, to));
     const Turn turn = MakeTurn(start, angle, std::max(start.norm(), end.norm()));
     DrawTurnSide(start, GetSideReach(turn), drawing);
     DrawTurnSide(end, GetSideReach(turn), drawing);

@@ -142,10 +142,10 @@ const IGraphicsNodeGroup* TemporaryDimensionMgr::GetGraphics() const
     return m_opGraphics.Get();
 }
 
-void TemporaryDimensionMgr::SetLocked(InputState field, bool isLocked)
+void TemporaryDimensionMgr::SetLocked(InputState field, bool isLocked, std::optional<double> value)
 {
     if (isLocked)
-        m_locked.insert(field);
+        m_locked[field] = value;
     else
         m_locked.erase(field);
 }
@@ -157,7 +157,16 @@ bool TemporaryDimensionMgr::IsLocked(InputState field) const
 
 std::vector<InputState> TemporaryDimensionMgr::GetLocked() const
 {
-    return {m_locked.begin(), m_locked.end()};
+    std::vector<InputState> fields;
+    for (const auto& [field, value] : m_locked)
+        fields.push_back(field);
+    return fields;
+}
+
+std::optional<double> TemporaryDimensionMgr::GetLockedValue(InputState field) const
+{
+    const auto found = m_locked.find(field);
+    return found != m_locked.end() ? found->second : std::nullopt;
 }
 
 void TemporaryDimensionMgr::SetTypedValue(const TypedValue& typed)
@@ -165,9 +174,9 @@ void TemporaryDimensionMgr::SetTypedValue(const TypedValue& typed)
     m_typed = typed;
 }
 
-const TypedValue& TemporaryDimensionMgr::GetTypedValue() const
+TypedValue TemporaryDimensionMgr::TakeTypedValue()
 {
-    return m_typed;
+    return std::exchange(m_typed, {});
 }
 
 void TemporaryDimensionMgr::Replace(OwnerPtr<ITemporaryDimensionHandler> opHandler)

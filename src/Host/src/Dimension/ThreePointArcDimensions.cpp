@@ -67,12 +67,13 @@ OwnerPtr<IGraphicsNodeGroup> TemporaryDimensionCommons::GenerateCentralAngleDime
         return drawing.Take();
     }
     const PlaneVector from = drawing.ToPlane(first);
-    const Turn turn = MakeTurn(from, circle->sweep, from.norm());
+    const double angle = drawing.GetValue(circle->sweep);
+    const Turn turn = MakeTurn(from, angle, from.norm());
     DrawTurnSide(from, 0.0, drawing);
     DrawTurnSide(drawing.ToPlane(second), 0.0, drawing);
     DrawTurn(turn, TurnArrows::Both, drawing);
     const Vector3d position = placement.Choose(GetTurnPlaces(turn, placement, drawing));
-    PlaceAngleText(position, circle->sweep, style, drawing, data[InputState::IS_CentralAngle]);
+    PlaceAngleText(position, angle, style, drawing, data[InputState::IS_CentralAngle]);
     return drawing.Take();
 }
 
