@@ -74,6 +74,11 @@ double ArcCentreAction::ReadCursor(InputState) const
     return AngleBetween(*m_start - *m_centre, GetTarget() - *m_centre);
 }
 
+bool ArcCentreAction::CanFinish(const Vector3d& end) const
+{
+    return MakeArc(end).has_value();
+}
+
 /// Takes the centre, then the start, then draws the arc.
 bool ArcCentreAction::Finish(const Vector3d& end)
 {

@@ -68,6 +68,11 @@ double ArcThreePointsAction::ReadCursor(InputState) const
     return arc.has_value() ? arc->radius : 0.0;
 }
 
+bool ArcThreePointsAction::CanFinish(const Vector3d& end) const
+{
+    return MakeArc(end).has_value();
+}
+
 /// Takes the start, then the end, then draws the arc.
 bool ArcThreePointsAction::Finish(const Vector3d& end)
 {

@@ -63,6 +63,11 @@ double CircleAction::ReadCursor(InputState) const
     return (GetCursorOff(*m_centre) - *m_centre).norm();
 }
 
+bool CircleAction::CanFinish(const Vector3d& end) const
+{
+    return IsDrawable(MakeCircle(end));
+}
+
 /// Draws the circle, or begins it.
 bool CircleAction::Finish(const Vector3d& end)
 {
@@ -71,10 +76,14 @@ bool CircleAction::Finish(const Vector3d& end)
         m_centre = end;
         return true;
     }
-    const std::optional<double> typed = GetTyped(InputState::IS_Radius);
-    const double radius = typed.has_value() ? *typed : (end - *m_centre).norm();
-    if (GetWorkspace().sketch.Add(CircleShape{*m_centre, radius}) == 0)
+    if (GetWorkspace().sketch.Add(MakeCircle(end)) == 0)
         return false;
     m_centre.reset();
     return true;
+}
+
+CircleShape CircleAction::MakeCircle(const Vector3d& end) const
+{
+    const std::optional<double> typed = GetTyped(InputState::IS_Radius);
+    return {*m_centre, typed.has_value() ? *typed : (end - *m_centre).norm()};
 }

@@ -2,6 +2,8 @@
 
 #include "DrawingAction.h"
 
+#include "Shape.h"
+
 /// Draws circles, one after the other, until the user ends it: the centre, then the radius by a
 /// click or typed.
 class CircleAction final : public DrawingAction
@@ -19,8 +21,11 @@ protected:
     vesk::Vector3d GetEnd() const override;
     bool Expects(vesk::InputState field) const override;
     double ReadCursor(vesk::InputState field) const override;
+    bool CanFinish(const vesk::Vector3d& end) const override;
     bool Finish(const vesk::Vector3d& end) override;
 
 private:
+    CircleShape MakeCircle(const vesk::Vector3d& end) const;
+
     std::optional<vesk::Vector3d> m_centre;
 };

@@ -3,7 +3,6 @@
 #include "Workspace.h"
 
 #include "Dimension/LengthUnit.h"
-#include "Dimension/TemporaryDimensionMgr.h"
 #include "Geometry/Constants.h"
 #include "Journal/JournalManager.h"
 #include "View/UiViewUtility.h"
@@ -50,10 +49,22 @@ bool IsAngle(InputState field)
     return field == InputState::IS_Angle || field == InputState::IS_CentralAngle;
 }
 
-/// Whether the field has a neighbour that may be missing when it is committed.
-bool IsOneOfTwo(InputState field)
+/// The other field of a pair, which may be missing when the first is committed.
+std::optional<InputState> FindNeighbour(InputState field)
 {
-    return field != InputState::IS_Radius && field != InputState::IS_CentralAngle;
+    switch (field)
+    {
+    case InputState::IS_Length:
+        return InputState::IS_Angle;
+    case InputState::IS_Angle:
+        return InputState::IS_Length;
+    case InputState::IS_Width:
+        return InputState::IS_Height;
+    case InputState::IS_Height:
+        return InputState::IS_Width;
+    default:
+        return std::nullopt;
+    }
 }
 
 }
@@ -77,21 +88,33 @@ void DrawingAction::OnClick(const Vector3d& world)
         EndStep(GetEnd());
 }
 
-void DrawingAction::OnViewInput(const ActionViewInput& input)
+std::wstring DrawingAction::GetRefusal(InputState field, double value)
+{
+    if (!Expects(field))
+        return {};
+    // The cursor may still give what the step needs.
+    const std::optional<InputState> neighbour = FindNeighbour(field);
+    if (neighbour.has_value() && !GetTyped(*neighbour).has_value())
+        return {};
+    const TypedValues::Trial trial(m_values, field, value);
+    return CanFinish(GetEnd()) ? std::wstring() : L"这个值在这里不起作用，请换一个";
+}
+
+void DrawingAction::OnViewInput(const ActionViewInput& input, const TypedValue& typed)
 {
     const InputMeaning* pMeaning = FindMeaning(input.kind);
     if (pMeaning == nullptr || !Expects(pMeaning->field))
         return;
     const InputState field = pMeaning->field;
-    const TypedValue typed = TemporaryDimensionMgr::GetInstance()->GetTypedValue();
-    const double entered =
+    const double delivered =
         IsAngle(field) ? input.value : LengthUnit::GetCurrent().ToModel(input.value);
+    const double entered = typed.modelValue.value_or(delivered);
 
     // A field that was only confirmed keeps its own value, not the rounded one that was shown.
     m_values.Take({field, typed.text, typed.isUnchanged ? GetValue(field) : entered});
     if (!pMeaning->isCommitted)
         m_values.Record();
-    else if (!EndStep(GetEnd()) && !IsOneOfTwo(field))
+    else if (!EndStep(GetEnd()) && !FindNeighbour(field).has_value())
         m_values.Drop(field);
 }
 

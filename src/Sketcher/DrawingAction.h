@@ -19,7 +19,8 @@ public:
     void OnBegin(vesk::IUiView* pView) override;
     void OnMouseMove(const vesk::Vector3d& world) override;
     void OnClick(const vesk::Vector3d& world) override;
-    void OnViewInput(const vesk::ActionViewInput& input) override;
+    std::wstring GetRefusal(vesk::InputState field, double value) override;
+    void OnViewInput(const vesk::ActionViewInput& input, const vesk::TypedValue& typed) override;
     bool OnEscape() override;
     void OnEnd() override;
     bool ReplayPoint(const vesk::Vector3d& world, const std::optional<int>& entity) override;
@@ -40,6 +41,9 @@ protected:
 
     /// A value as the cursor gives it, in model units and not rounded.
     virtual double ReadCursor(vesk::InputState field) const = 0;
+
+    /// Whether a step that takes values could end at a point, with the values there are.
+    virtual bool CanFinish(const vesk::Vector3d& end) const = 0;
 
     /// Ends the step at a point, with the values there are. False, and nothing is done, when that
     /// cannot be.

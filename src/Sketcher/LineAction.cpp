@@ -68,6 +68,11 @@ double LineAction::ReadCursor(InputState field) const
     return std::max(way.dot(DirectionOf(GetValue(InputState::IS_Angle))), GetPixel());
 }
 
+bool LineAction::CanFinish(const Vector3d& end) const
+{
+    return IsDrawable(LineShape{*GetStart(), end});
+}
+
 /// Ends the segment there, or starts there.
 bool LineAction::Finish(const Vector3d& end)
 {

@@ -1,7 +1,10 @@
 #include "Polar.h"
 
+#include "Geometry/Degrees.h"
+
 #include <cmath>
 
+using vesk::Degrees;
 using vesk::Vector3d;
 
 namespace
@@ -13,23 +16,7 @@ const double s_degreesPerRadian = 180.0 / std::acos(-1.0);
 
 Vector3d DirectionOf(double degrees)
 {
-    const double quarters = degrees / 90.0;
-    if (quarters != std::floor(quarters))
-    {
-        const double radians = degrees / s_degreesPerRadian;
-        return {std::cos(radians), std::sin(radians), 0.0};
-    }
-    switch (static_cast<int>(std::fmod(quarters, 4.0) + 4.0) % 4)
-    {
-    case 0:
-        return {1.0, 0.0, 0.0};
-    case 1:
-        return {0.0, 1.0, 0.0};
-    case 2:
-        return {-1.0, 0.0, 0.0};
-    default:
-        return {0.0, -1.0, 0.0};
-    }
+    return {Degrees::Cosine(degrees), Degrees::Sine(degrees), 0.0};
 }
 
 double AngleOf(const Vector3d& direction)

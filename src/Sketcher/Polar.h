@@ -2,8 +2,8 @@
 
 #include "Geometry/Vector3d.h"
 
-/// The unit vector of the drawing plane at an angle in degrees, counter-clockwise from x. Exact at
-/// every quarter turn.
+/// The unit vector of the drawing plane at an angle in degrees, counter-clockwise from x. As
+/// exact as doubles are at every multiple of 15 degrees.
 vesk::Vector3d DirectionOf(double degrees);
 
 /// The angle of a vector of the drawing plane, in degrees above -180 up to 180.

@@ -75,6 +75,11 @@ double RectangleAction::ReadCursor(InputState field) const
     return std::abs(field == InputState::IS_Width ? way.x() : way.y());
 }
 
+bool RectangleAction::CanFinish(const Vector3d& end) const
+{
+    return IsDrawable(MakeRectangle(*m_corner, end));
+}
+
 /// Draws the rectangle, or begins it.
 bool RectangleAction::Finish(const Vector3d& end)
 {

@@ -21,6 +21,7 @@ protected:
     vesk::Vector3d GetEnd() const override;
     bool Expects(vesk::InputState field) const override;
     double ReadCursor(vesk::InputState field) const override;
+    bool CanFinish(const vesk::Vector3d& end) const override;
     bool Finish(const vesk::Vector3d& end) override;
 
 private:

@@ -14,7 +14,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <utility>
-#include <vector>
 
 using namespace vesk;
 
@@ -132,6 +131,11 @@ double RotateAction::ReadCursor(InputState) const
     return AngleBetween(*m_from - *m_centre, GetEnd() - *m_centre);
 }
 
+bool RotateAction::CanFinish(const Vector3d& end) const
+{
+    return GetWorkspace().sketch.CanReplace(MakeTurned(GetAngleTo(end)));
+}
+
 /// Takes the centre, then the first direction, then turns.
 bool RotateAction::Finish(const Vector3d& end)
 {
@@ -147,8 +151,8 @@ bool RotateAction::Finish(const Vector3d& end)
         m_from = end;
         return true;
     }
-    const std::optional<double> typed = GetTyped(InputState::IS_CentralAngle);
-    return Turn(typed.has_value() ? *typed : AngleBetween(*m_from - *m_centre, end - *m_centre));
+    m_isFinished = GetWorkspace().sketch.Replace(MakeTurned(GetAngleTo(end)));
+    return m_isFinished;
 }
 
 /// An undo may have taken away what was selected.
@@ -180,12 +184,18 @@ bool RotateAction::Pick(const Vector3d& world, int entity)
     return workspace.selection.Select(ids);
 }
 
-bool RotateAction::Turn(double degrees)
+double RotateAction::GetAngleTo(const Vector3d& end) const
 {
-    Workspace& workspace = GetWorkspace();
+    const std::optional<double> typed = GetTyped(InputState::IS_CentralAngle);
+    return typed.has_value() ? *typed : AngleBetween(*m_from - *m_centre, end - *m_centre);
+}
+
+/// What is selected, turned.
+std::vector<std::pair<int, Shape>> RotateAction::MakeTurned(double degrees) const
+{
+    const Workspace& workspace = GetWorkspace();
     std::vector<std::pair<int, Shape>> turned;
     for (const int id : workspace.selection.GetIds())
         turned.emplace_back(id, Rotated(workspace.sketch.Find(id)->shape, *m_centre, degrees));
-    m_isFinished = workspace.sketch.Replace(turned);
-    return m_isFinished;
+    return turned;
 }

@@ -2,6 +2,11 @@
 
 #include "DrawingAction.h"
 
+#include "Shape.h"
+
+#include <utility>
+#include <vector>
+
 /// Turns the selected entities about a centre, from the direction of one point to that of another,
 /// or by a typed angle; then it has done its work. It is one undo step.
 ///
@@ -28,6 +33,7 @@ protected:
     bool RestsOnStart() const override;
     bool Expects(vesk::InputState field) const override;
     double ReadCursor(vesk::InputState field) const override;
+    bool CanFinish(const vesk::Vector3d& end) const override;
     bool Finish(const vesk::Vector3d& end) override;
 
 private:
@@ -35,7 +41,8 @@ private:
     bool TakesEntities() const;
     int PickOther(const vesk::Vector3d& world) const;
     bool Pick(const vesk::Vector3d& world, int entity);
-    bool Turn(double degrees);
+    double GetAngleTo(const vesk::Vector3d& end) const;
+    std::vector<std::pair<int, Shape>> MakeTurned(double degrees) const;
 
     std::optional<vesk::Vector3d> m_centre;
     std::optional<vesk::Vector3d> m_from;

@@ -147,7 +147,7 @@ int Sketch::AddLine(const vesk::Vector3d& start, const vesk::Vector3d& end)
     return Add(LineShape{start, end});
 }
 
-bool Sketch::Replace(const std::vector<std::pair<int, Shape>>& shapes)
+bool Sketch::CanReplace(const std::vector<std::pair<int, Shape>>& shapes) const
 {
     const auto isPossible = [this](const auto& next) {
         return Find(next.first) != nullptr && IsDrawable(next.second);
@@ -155,8 +155,13 @@ bool Sketch::Replace(const std::vector<std::pair<int, Shape>>& shapes)
     const auto isOther = [this](const auto& next) {
         return !(Find(next.first)->shape == next.second);
     };
-    const bool isChange = std::all_of(shapes.begin(), shapes.end(), isPossible) &&
-                          std::any_of(shapes.begin(), shapes.end(), isOther);
+    return std::all_of(shapes.begin(), shapes.end(), isPossible) &&
+           std::any_of(shapes.begin(), shapes.end(), isOther);
+}
+
+bool Sketch::Replace(const std::vector<std::pair<int, Shape>>& shapes)
+{
+    const bool isChange = CanReplace(shapes);
     if (isChange)
         m_steps.push(new ShapeStep(*this, shapes));
     return isChange;

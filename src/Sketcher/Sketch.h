@@ -44,6 +44,7 @@ public:
     /// Gives entities other shapes; their ids, places and pens stay. False, and no step is made,
     /// when one of them does not exist, a shape is not drawable, or none of them differs.
     bool Replace(const std::vector<std::pair<int, Shape>>& shapes);
+    bool CanReplace(const std::vector<std::pair<int, Shape>>& shapes) const;
 
     /// False when there is no such entity.
     bool Erase(int id);

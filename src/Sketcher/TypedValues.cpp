@@ -4,6 +4,8 @@
 #include "Journal/JournalManager.h"
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 using namespace vesk;
 
@@ -21,7 +23,7 @@ void TypedValues::Take(const ValueRecord& value)
 {
     Drop(value.field);
     m_values.push_back({value, false});
-    TemporaryDimensionMgr::GetInstance()->SetLocked(value.field, true);
+    TemporaryDimensionMgr::GetInstance()->SetLocked(value.field, true, value.value);
 }
 
 void TypedValues::Record()
@@ -41,6 +43,21 @@ void TypedValues::Drop(InputState field)
     });
     m_values.erase(gone, m_values.end());
     TemporaryDimensionMgr::GetInstance()->SetLocked(field, false);
+}
+
+TypedValues::Trial::Trial(TypedValues& values, InputState field, double value)
+    : m_values(values), m_before(values.m_values)
+{
+    const auto isOther = [field](const Value& other) { return other.record.field != field; };
+    std::vector<Value> tried;
+    std::copy_if(m_before.begin(), m_before.end(), std::back_inserter(tried), isOther);
+    tried.push_back({{field, {}, value}, false});
+    m_values.m_values = std::move(tried);
+}
+
+TypedValues::Trial::~Trial()
+{
+    m_values.m_values = std::move(m_before);
 }
 
 void TypedValues::Clear()

@@ -11,6 +11,8 @@
 class TypedValues final
 {
 public:
+    class Trial;
+
     TypedValues() = default;
     ~TypedValues() { Clear(); }
     TypedValues(const TypedValues&) = delete;
@@ -37,4 +39,19 @@ private:
     };
 
     std::vector<Value> m_values;
+};
+
+/// Puts a value in a field while it lives, to see what would come of it. Nothing is locked or
+/// recorded, and no value may be taken or dropped meanwhile.
+class TypedValues::Trial final
+{
+public:
+    Trial(TypedValues& values, vesk::InputState field, double value);
+    ~Trial();
+    Trial(const Trial&) = delete;
+    Trial& operator=(const Trial&) = delete;
+
+private:
+    TypedValues& m_values;
+    std::vector<Value> m_before;
 };

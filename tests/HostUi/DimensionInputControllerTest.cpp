@@ -47,6 +47,79 @@ private slots:
         QVERIFY(!f.script.taken[0].typed.isUnchanged);
     }
 
+    void modelValueIsHandedOverBesideTheText_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<double>("millimetres");
+
+        QTest::newRow("plain number") << "1.2" << 30.48;
+        QTest::newRow("formula") << "1+0.3" << 33.02;
+        QTest::newRow("unit") << "1mm" << 1.0;
+    }
+
+    void modelValueIsHandedOverBesideTheText()
+    {
+        QFETCH(QString, text);
+        QFETCH(double, millimetres);
+        InputFixture f(Linear());
+        LengthUnit::SetCurrent(LengthUnit::Inch());
+
+        f.Type(text).Press(Qt::Key_Return);
+
+        LengthUnit::SetCurrent(LengthUnit::Millimetre());
+        QCOMPARE(f.script.taken.size(), std::size_t(1));
+        QVERIFY(f.script.taken[0].typed.modelValue == millimetres);
+    }
+
+    void valueThatTheActionCannotUseIsRefusedInPlace_data()
+    {
+        QTest::addColumn<QString>("text");
+
+        QTest::newRow("number") << "7";
+        QTest::newRow("formula") << "3.5*2";
+    }
+
+    void valueThatTheActionCannotUseIsRefusedInPlace()
+    {
+        QFETCH(QString, text);
+        InputFixture f(Linear(), &MakeLinear, [](InputState field, double value) {
+            return field == InputState::IS_Length && value == 7.0 ? L"not seven" : L"";
+        });
+
+        f.Type(text).Press(Qt::Key_Return);
+
+        QCOMPARE(f.script.taken.size(), std::size_t(0));
+        QCOMPARE(f.Editor()->selectedText(), text);
+        QCOMPARE(f.controller.GetMessage(), QString("not seven"));
+        QCOMPARE(f.Note("InputRefusal"), QString("not seven"));
+        f.Type("8").Press(Qt::Key_Return);
+        QCOMPARE(f.script.taken.size(), std::size_t(1));
+        QCOMPARE(f.controller.GetMessage(), QString());
+    }
+
+    void actionIsAskedAboutClearValuesOfTheRangeOnly_data()
+    {
+        QTest::addColumn<QString>("text");
+
+        QTest::newRow("unclear") << "1,000";
+        QTest::newRow("out of range") << "0";
+    }
+
+    void actionIsAskedAboutClearValuesOfTheRangeOnly()
+    {
+        QFETCH(QString, text);
+        int askedCount = 0;
+        InputFixture f(Linear(), &MakeLinear, [&askedCount](InputState, double) {
+            ++askedCount;
+            return std::wstring();
+        });
+
+        f.Type(text).Press(Qt::Key_Return);
+
+        QCOMPARE(askedCount, 0);
+        QVERIFY(!f.controller.GetMessage().isEmpty());
+    }
+
     void unclearTextIsRefusedInPlace_data()
     {
         QTest::addColumn<QString>("text");
@@ -109,6 +182,7 @@ private slots:
 
         QCOMPARE(f.script.taken.size(), std::size_t(1));
         QCOMPARE(f.script.taken[0].text, QString("1,000cm"));
+        QVERIFY(!f.script.taken[0].typed.modelValue.has_value());
         QCOMPARE(f.controller.GetMessage(), QString());
     }
 

@@ -40,16 +40,24 @@ inline OwnerPtr<ITemporaryDimensionContext> MakeCentralAngle()
                                                             Vector3d(0, 40, 0));
 }
 
-/// An action that does nothing but show dimensions.
+using Refuse = std::function<std::wstring(InputState field, double value)>;
+
+/// An action that does nothing but show dimensions, and refuse values.
 class DimensionAction final : public IAction
 {
 public:
-    explicit DimensionAction(const ContextMaker& makeContext) : m_makeContext(makeContext) {}
+    DimensionAction(const ContextMaker& makeContext, const Refuse& refuse)
+        : m_makeContext(makeContext), m_refuse(refuse)
+    {}
 
     std::wstring GetViewText() const override { return {}; }
     void OnBegin(IUiView*) override {}
     void OnMouseMove(const Vector3d&) override {}
     void OnClick(const Vector3d&) override {}
+    std::wstring GetRefusal(InputState field, double value) override
+    {
+        return m_refuse ? m_refuse(field, value) : std::wstring();
+    }
     OwnerPtr<ITemporaryDimensionContext> CreateDimensionContext() const override
     {
         return m_makeContext();
@@ -58,18 +66,21 @@ public:
 
 private:
     ContextMaker m_makeContext;
+    Refuse m_refuse;
 };
 
 /// A view in which an action shows dimensions, and somebody at the keyboard.
 struct InputFixture
 {
-    explicit InputFixture(const TypingScript& typing, const ContextMaker& makeContext = &MakeLinear)
+    explicit InputFixture(const TypingScript& typing, const ContextMaker& makeContext = &MakeLinear,
+                          const Refuse& refuse = nullptr)
         : script(typing)
     {
         host.window.show();
         auto opCommand = MakeOwner<Command>(
-            L"Test", Command::Kind::Interactive, [makeContext](IUiView*, const CommandParameters&) {
-                return OwnerPtr<IAction>(new DimensionAction(makeContext));
+            L"Test", Command::Kind::Interactive,
+            [makeContext, refuse](IUiView*, const CommandParameters&) {
+                return OwnerPtr<IAction>(new DimensionAction(makeContext, refuse));
             });
         Command* pCommand = opCommand.Get();
         ICommandManager::Get()->AddCommand(std::move(opCommand));

@@ -117,7 +117,7 @@ private:
     void Take()
     {
         m_script.taken.push_back(
-            {m_pEditor->text(), TemporaryDimensionMgr::GetInstance()->GetTypedValue()});
+            {m_pEditor->text(), TemporaryDimensionMgr::GetInstance()->TakeTypedValue()});
     }
 
     void GoOn()

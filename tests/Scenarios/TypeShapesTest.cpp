@@ -8,6 +8,7 @@
 #include "Support/TestValues.h"
 
 #include <QAbstractButton>
+#include <QLabel>
 #include <QLineEdit>
 
 #include <cmath>
@@ -31,6 +32,13 @@ const QString s_rotate = QStringLiteral("Sketcher.Rotate");
 QLineEdit* FindEditor()
 {
     return ScriptedUser::FindView()->findChild<QLineEdit*>(QStringLiteral("ViewInputLineEdit"));
+}
+
+/// What the note beside the editor says.
+QString Refusal()
+{
+    const auto* pNote = ScriptedUser::FindView()->findChild<QLabel*>("InputRefusal");
+    return pNote != nullptr && pNote->isVisible() ? pNote->text() : QString();
 }
 
 bool IsInputting()
@@ -257,6 +265,37 @@ private slots:
         QTEST(drawn.end[1] - drawn.centre[1], "endY");
         QCOMPARE(drawn.radius, 40.0);
         QVERIFY(qAbs(Distance(drawn.end, drawn.centre) - 40.0) <= Tolerance);
+    }
+
+    void centralAngleThatGivesNoArcIsRefused()
+    {
+        ScriptedUser user;
+
+        user.Click(s_arcCentre).ClickAt(0, 0).ClickAt(40, 0).MoveTo(60, 30);
+        user.Type("0").Press(Qt::Key_Return).Do([] {
+            QVERIFY(IsInputting());
+            QCOMPARE(FindEditor()->selectedText(), QString("0"));
+            QVERIFY(!Refusal().isEmpty());
+        });
+        user.Type("90").Press(Qt::Key_Return);
+
+        QCOMPARE(RunToOne(user).radius, 40.0);
+    }
+
+    void angleThatTurnsNothingIsRefused()
+    {
+        ScriptedUser user;
+
+        user.DrawLine(0, 0, 100, 0).ClickAt(50, 3).Click(s_rotate).ClickAt(0, 50);
+        user.ClickAt(100, 50).MoveTo(70, 90).Type("180*2").Press(Qt::Key_Return).Do([] {
+            QVERIFY(IsInputting());
+            QCOMPARE(FindEditor()->selectedText(), QString("180*2"));
+            QVERIFY(!Refusal().isEmpty());
+        });
+        user.Type("-90").Press(Qt::Key_Return).UntilRunning("");
+
+        const DrawnEntity drawn = RunToOne(user);
+        QCOMPARE(drawn.end[1] - drawn.start[1], -100.0);
     }
 
     void typedAngleTurnsTheSelection()

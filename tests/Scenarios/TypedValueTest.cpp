@@ -8,6 +8,7 @@
 #include "Support/TestValues.h"
 
 #include <QLabel>
+#include <QLineEdit>
 
 #include <cmath>
 #include <memory>
@@ -21,6 +22,12 @@ const QString s_strip = QStringLiteral("Sketcher.KeyStrip");
 bool IsInputting()
 {
     return vesk::TemporaryDimensionMgr::GetInstance()->IsInputting();
+}
+
+QString EditorText()
+{
+    const auto* pEditor = ScriptedUser::FindView()->findChild<QLineEdit*>("ViewInputLineEdit");
+    return pEditor != nullptr ? pEditor->text() : QString();
 }
 
 /// Whether a note beside the editor is on screen.
@@ -65,6 +72,10 @@ private slots:
                                            << "(30+60)d" << 20.0 << 90.0;
         QTest::newRow("feet and inches") << "10'6\""
                                          << "-(90)" << 3200.4 << -90.0;
+        QTest::newRow("feet and inches, rounded once") << "1'6\""
+                                                       << "asin(sqrt(3)/2)" << 457.2 << 60.0;
+        QTest::newRow("decimals, rounded once") << "0.1+0.2"
+                                                << "-0" << 0.3 << 0.0;
         QTest::newRow("half an inch") << "1/2in"
                                       << "atan(1)*4" << 12.7 << 180.0;
     }
@@ -87,6 +98,34 @@ private slots:
         QCOMPARE_EXACTLY(values[0].value, millimetres);
         QCOMPARE(QString::fromStdWString(values[1].text), angle);
         QCOMPARE_EXACTLY(values[1].value, degrees);
+        QCOMPARE(ReadModel(m_pFixture->File("model")).size(), 1);
+    }
+
+    void lineAtThirtyDegreesEndsHalfAsHigh()
+    {
+        ScriptedUser user;
+
+        user.Click(s_line).ClickAt(0, 0).Type("50").Press(Qt::Key_Tab).Type("30");
+        user.Press(Qt::Key_Return);
+
+        QCOMPARE(user.Run(m_pFixture->Draw()), 0);
+        const QVector<DrawnLine> lines = ReadModel(m_pFixture->File("model"));
+        QCOMPARE(lines.size(), 1);
+        QVERIFY(lines[0].Way(1) == 25.0);
+    }
+
+    void lockedAngleIsShownAsItWasTyped()
+    {
+        ScriptedUser user;
+
+        user.Click(s_line).ClickAt(0, 0).Type("50").Press(Qt::Key_Tab).Type("270");
+        user.Press(Qt::Key_Tab).Press(Qt::Key_Tab);
+        user.Do([] { QCOMPARE(EditorText(), QString("270.00")); }).Press(Qt::Key_Return);
+
+        QCOMPARE(user.Run(m_pFixture->Draw()), 0);
+        const auto values = RecordsOf<vesk::ValueRecord>(ReadJournal(Journal()));
+        QVERIFY(!values.empty());
+        QVERIFY(values.back().value == 270.0);
         QCOMPARE(ReadModel(m_pFixture->File("model")).size(), 1);
     }
 

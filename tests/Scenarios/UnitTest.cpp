@@ -74,6 +74,33 @@ private slots:
         QVERIFY(qAbs(lines[0].Angle() - 30.0) <= Tolerance);
     }
 
+    void typedNumberIsRoundedOnceInTheModel_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<double>("millimetres");
+
+        // Each is another double where the number is read first and then converted.
+        QTest::newRow("number") << "1.2" << 30.48;
+        QTest::newRow("sum") << "1+0.3" << 33.02;
+        QTest::newRow("millimetre") << "1mm" << 1.0;
+    }
+
+    void typedNumberIsRoundedOnceInTheModel()
+    {
+        QFETCH(QString, typed);
+        QFETCH(double, millimetres);
+        ScriptedUser user;
+
+        user.Click("Sketcher.Unit.inch").Click(s_line).ClickAt(0, 0).Type(typed);
+        user.Press(Qt::Key_Return);
+
+        QCOMPARE(user.Run(m_pFixture->Draw()), 0);
+        const auto values = RecordsOf<vesk::ValueRecord>(ReadJournal(Journal()));
+        QCOMPARE(values.size(), std::size_t(1));
+        QCOMPARE(QString::fromStdWString(values[0].text), typed);
+        QVERIFY(values[0].value == millimetres);
+    }
+
     void journalHoldsWhatWasTypedAndTheModelsValue()
     {
         ScriptedUser user;

@@ -44,10 +44,15 @@ public:
     /// Types a number, or confirms one that was shown.
     void Type(vesk::ActionViewInput::Kind kind, double value, bool isUnchanged = false)
     {
-        auto* pManager = vesk::TemporaryDimensionMgr::GetInstance();
-        pManager->SetTypedValue({std::to_wstring(value), isUnchanged});
-        action.OnViewInput({kind, value, {}, {}});
-        pManager->SetTypedValue({});
+        action.OnViewInput({kind, value, {}, {}},
+                           {std::to_wstring(value), isUnchanged, std::nullopt});
+    }
+
+    /// Types a text that stands for a value of the model.
+    void TypeText(vesk::ActionViewInput::Kind kind, const std::wstring& text, double value,
+                  double modelValue)
+    {
+        action.OnViewInput({kind, value, {}, {}}, {text, false, modelValue});
     }
 
     /// The dimensions that are offered now; null when there are none, or others.

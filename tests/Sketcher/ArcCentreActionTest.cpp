@@ -163,6 +163,37 @@ private slots:
         QVERIFY(f.IsRepeated());
     }
 
+    void angleThatGivesNoArcIsRefused_data()
+    {
+        QTest::addColumn<double>("degrees");
+        QTest::addColumn<bool>("isRefused");
+
+        QTest::newRow("none") << 0.0 << true;
+        QTest::newRow("lost in rounding") << 1e-12 << true;
+        QTest::newRow("hardly one") << 0.001 << false;
+        QTest::newRow("half a turn") << -180.0 << false;
+        QTest::newRow("the whole turn") << 360.0 << false;
+        QTest::newRow("the whole turn back") << -360.0 << false;
+    }
+
+    void angleThatGivesNoArcIsRefused()
+    {
+        QFETCH(double, degrees);
+        QFETCH(bool, isRefused);
+        Fixture f;
+        BeginArc(f);
+        f.MoveTo(77, 20);
+        const std::size_t recordCount = f.records.size();
+
+        const std::wstring refusal = f.action.GetRefusal(InputState::IS_CentralAngle, degrees);
+
+        QCOMPARE(!refusal.empty(), isRefused);
+        QCOMPARE(f.records.size(), recordCount);
+        QCOMPARE(f.Count(), std::size_t{0});
+        f.Type(ActionViewInput::CentralAngleCommitted, degrees);
+        QCOMPARE(f.Count(), std::size_t(isRefused ? 0 : 1));
+    }
+
     void everyStepHasItsHint()
     {
         Fixture f;

@@ -86,6 +86,21 @@ private slots:
         QVERIFY(f.IsRepeated());
     }
 
+    void aTypedTextStandsForTheModelsValue()
+    {
+        LengthUnit::SetCurrent(LengthUnit::Inch());
+        Fixture f;
+        f.Begin();
+        f.ClickAt(0, 0);
+
+        f.TypeText(ActionViewInput::RadiusCommitted, L"1.2", 1.2, 30.48);
+
+        // Converted from inches it would be 30.479999999999997.
+        QVERIFY(f.Drawn<CircleShape>().radius == 30.48);
+        QVERIFY(std::get<ValueRecord>(f.records[1].what).value == 30.48);
+        QVERIFY(f.IsRepeated());
+    }
+
     void aRadiusThatIsOnlyConfirmedIsNotRounded()
     {
         Fixture f;

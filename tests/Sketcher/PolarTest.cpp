@@ -39,6 +39,15 @@ private slots:
         QCOMPARE(direction.z(), 0.0);
     }
 
+    void usualAnglesAreAsExactAsDoublesAre()
+    {
+        QVERIFY(50.0 * DirectionOf(30.0).y() == 25.0);
+        QVERIFY(50.0 * DirectionOf(60.0).x() == 25.0);
+        QVERIFY(50.0 * DirectionOf(-330.0).y() == 25.0);
+        QVERIFY(DirectionOf(45.0).x() == DirectionOf(45.0).y());
+        QVERIFY(DirectionOf(75.0).x() == 0.25881904510252076);
+    }
+
     void angleOfADirectionIsTheAngle()
     {
         for (double degrees = -179.75; degrees <= 180.0; degrees += 0.25)

@@ -155,6 +155,23 @@ private slots:
         QVERIFY(f.IsRepeated());
     }
 
+    void aSizeIsRefusedWhereTheCursorCannotHelp()
+    {
+        Fixture f;
+        f.Begin();
+        f.ClickAt(0, 0);
+        f.MoveTo(70, 50);
+
+        QVERIFY(f.action.GetRefusal(InputState::IS_Width, 1e10).empty());
+        f.Type(ActionViewInput::HeightEntered, 30);
+
+        QVERIFY(!f.action.GetRefusal(InputState::IS_Width, 1e10).empty());
+        QVERIFY(f.action.GetRefusal(InputState::IS_Width, 20).empty());
+        QVERIFY(f.action.GetRefusal(InputState::IS_Height, 30).empty());
+        QVERIFY(f.action.GetRefusal(InputState::IS_Radius, 0).empty());
+        QVERIFY(!TemporaryDimensionMgr::GetInstance()->IsLocked(InputState::IS_Width));
+    }
+
     void aSizeThatIsOnlyConfirmedIsNotRounded()
     {
         Fixture f;

@@ -191,6 +191,35 @@ private slots:
         QVERIFY(f.action.IsFinished());
     }
 
+    void angleThatTurnsNothingIsRefused_data()
+    {
+        QTest::addColumn<double>("degrees");
+        QTest::addColumn<bool>("isRefused");
+
+        QTest::newRow("none") << 0.0 << true;
+        QTest::newRow("a whole turn") << 360.0 << true;
+        QTest::newRow("a whole turn back") << -360.0 << true;
+        QTest::newRow("a quarter") << 90.0 << false;
+        QTest::newRow("hardly one") << -0.001 << false;
+    }
+
+    void angleThatTurnsNothingIsRefused()
+    {
+        QFETCH(double, degrees);
+        QFETCH(bool, isRefused);
+        Fixture f;
+        BeginTurn(f);
+        f.ClickAt(60, 20);
+        f.MoveTo(99, 77);
+
+        const std::wstring refusal = f.action.GetRefusal(InputState::IS_CentralAngle, degrees);
+
+        QCOMPARE(!refusal.empty(), isRefused);
+        QVERIFY(!f.action.IsFinished());
+        f.Type(ActionViewInput::CentralAngleCommitted, degrees);
+        QCOMPARE(f.action.IsFinished(), !isRefused);
+    }
+
     void whenTheSelectionGoesItIsAskedForAgain()
     {
         Fixture f;

@@ -83,6 +83,37 @@ private slots:
         QVERIFY(lines.Get().isEmpty());
     }
 
+    void aTakenValueIsLockedWithItsField()
+    {
+        TypedValues values;
+
+        values.Take({InputState::IS_Angle, L"270", 270.0});
+
+        QCOMPARE(TemporaryDimensionMgr::GetInstance()->GetLockedValue(InputState::IS_Angle).value(),
+                 270.0);
+    }
+
+    void aTrialLeavesNothingBehind()
+    {
+        TypedValues values;
+        const RecordedLines lines;
+        values.Take({InputState::IS_Width, L"12", 12.0});
+        {
+            const TypedValues::Trial width(values, InputState::IS_Width, 5.0);
+            const TypedValues::Trial height(values, InputState::IS_Height, 3.0);
+
+            QCOMPARE(values.Get(InputState::IS_Width).value(), 5.0);
+            QCOMPARE(values.Get(InputState::IS_Height).value(), 3.0);
+            QVERIFY(!IsLocked(InputState::IS_Height));
+        }
+
+        QCOMPARE(values.Get(InputState::IS_Width).value(), 12.0);
+        QVERIFY(!values.Get(InputState::IS_Height).has_value());
+        QCOMPARE(TemporaryDimensionMgr::GetInstance()->GetLockedValue(InputState::IS_Width).value(),
+                 12.0);
+        QVERIFY(lines.Get().isEmpty());
+    }
+
     void valuesThatGoAreUnlocked()
     {
         {

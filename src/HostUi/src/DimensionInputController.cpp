@@ -66,6 +66,15 @@ InputField CurrentField()
     return FindInputField(opContext.Get(), Manager().GetInputState());
 }
 
+/// Why the action cannot use a value of that field; empty when it can.
+QString AskAction(double modelValue)
+{
+    IAction* pAction = IActionManager::CurrentAction();
+    return pAction != nullptr
+               ? ToQString(pAction->GetRefusal(Manager().GetInputState(), modelValue))
+               : QString();
+}
+
 }
 
 DimensionInputController::DimensionInputController()
@@ -243,25 +252,32 @@ bool DimensionInputController::FilterEditorKey(QKeyEvent& event)
     const InputField field = CurrentField();
     if (!field.IsCommitting(event.key()))
         return false;
-    const TypedValue typed{ToWide(pEditor->text()), !m_isTextTyped};
-    if (!Manager().IsRawTextInput() && !IsAccepted(*pEditor, field))
-        return true;
+    TypedValue typed{ToWide(pEditor->text()), !m_isTextTyped, std::nullopt};
+    if (!Manager().IsRawTextInput())
+    {
+        typed.modelValue = Accept(*pEditor, field);
+        if (!typed.modelValue.has_value())
+            return true;
+    }
     Manager().SetTypedValue(typed);
     m_isTextTyped = m_isTextTyped && event.key() != Qt::Key_Tab;
     return false;
 }
 
-/// Puts a number in the place of what comes to one. What is refused stays, selected.
-bool DimensionInputController::IsAccepted(QLineEdit& editor, const InputField& field)
+/// Puts a number in the place of what comes to one, and gives the value that is meant, in model
+/// units. What is refused, by the action too, stays, selected; there is no value then.
+std::optional<double> DimensionInputController::Accept(QLineEdit& editor, const InputField& field)
 {
     const InputVerdict verdict = JudgeInput(editor.text(), field, LengthUnit::GetCurrent());
     m_refusal = verdict.refusal;
-    if (!verdict.refusal.isEmpty())
+    if (verdict.modelValue.has_value())
+        m_refusal = AskAction(*verdict.modelValue);
+    if (!m_refusal.isEmpty())
         editor.selectAll();
     else if (verdict.replacement.has_value())
         editor.setText(*verdict.replacement);
     UpdateNotes();
-    return verdict.refusal.isEmpty();
+    return m_refusal.isEmpty() ? verdict.modelValue : std::nullopt;
 }
 
 /// Keeps a key that is meant for a command which has not begun yet.

@@ -37,12 +37,12 @@ InputVerdict JudgeInput(const QString& text, const InputField& field, const Leng
 {
     const TypedReading reading = ReadTypedText(text, field.quantity, unit);
     if (reading.fault != TypedTextFault::None)
-        return {DescribeFault(reading.fault), std::nullopt};
+        return {DescribeFault(reading.fault), std::nullopt, std::nullopt};
     if (!field.range.Contains(reading.value))
-        return {DescribeRange(field.range), std::nullopt};
+        return {DescribeRange(field.range), std::nullopt, std::nullopt};
     if (reading.isPlain)
-        return {};
-    return {{}, ShortestNumber(reading.value)};
+        return {{}, std::nullopt, reading.modelValue};
+    return {{}, ShortestNumber(reading.value), reading.modelValue};
 }
 
 QString DescribeValue(const QString& text, Quantity quantity, const LengthUnit& unit)

@@ -19,6 +19,9 @@ struct InputVerdict
 
     /// The number to put in its place; nothing where it is to stay as it is.
     std::optional<QString> replacement;
+
+    /// What it stands for, in model units; nothing for what is refused.
+    std::optional<double> modelValue;
 };
 
 /// Judges a text. Only numbers of the field's range are ever taken.

@@ -26,8 +26,9 @@ struct InputField;
 /// While a value is being typed, keys go to the editor, wherever the window system delivered them;
 /// otherwise to the view. A text that is to be taken is judged before the handler sees the key: a
 /// formula, or a number with a unit, gives way to the number that it comes to, and what has no
-/// clear value is refused in place: it stays, is selected, and a message beside the editor says
-/// why. What a handler takes as a text is left alone. Installed while it lives.
+/// clear value, or none that the action can use, is refused in place: it stays, is selected, and a
+/// message beside the editor says why. What a handler takes as a text is left alone. Installed
+/// while it lives.
 class VESK_HOST_UI_API DimensionInputController final : public QObject,
                                                         public IJournalObserver,
                                                         public ITemporaryDimensionHandlerAccess
@@ -73,7 +74,7 @@ private:
     void NoteCursor(const QObject* pWatched, const QEvent& event);
     bool FilterEditorEvent(QEvent& event);
     bool FilterEditorKey(QKeyEvent& event);
-    bool IsAccepted(QLineEdit& editor, const InputField& field);
+    std::optional<double> Accept(QLineEdit& editor, const InputField& field);
     void HoldKey(QKeyEvent& event);
     bool OpenInput(const QKeyEvent& event);
     void OpenInputWithText(const QString& text);
