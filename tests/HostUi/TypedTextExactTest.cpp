@@ -2,7 +2,7 @@
 
 #include "Dimension/LengthUnit.h"
 
-#include <QTest>
+#include "Support/TestValues.h"
 
 using namespace vesk;
 

@@ -3,7 +3,7 @@
 #include "Command/IActionManager.h"
 #include "Dimension/TemporaryDimensionMgr.h"
 
-#include <QtTest>
+#include "Support/TestValues.h"
 
 #include <stdexcept>
 

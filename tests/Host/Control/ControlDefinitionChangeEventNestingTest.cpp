@@ -3,7 +3,7 @@
 #include "Control/ControlDefinitionChangeByUser.h"
 #include "Host/Control/ChangeEventFixture.h"
 
-#include <QtTest>
+#include "Support/TestValues.h"
 
 #include <functional>
 #include <memory>

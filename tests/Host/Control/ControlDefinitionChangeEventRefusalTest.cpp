@@ -4,7 +4,7 @@
 #include "Control/IControl.h"
 #include "Host/Control/ChangeEventFixture.h"
 
-#include <QtTest>
+#include "Support/TestValues.h"
 
 #include <functional>
 #include <memory>

@@ -1,6 +1,6 @@
 #include "Geometry/Degrees.h"
 
-#include <QTest>
+#include "Support/TestValues.h"
 
 #include <cmath>
 

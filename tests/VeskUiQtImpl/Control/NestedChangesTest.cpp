@@ -14,7 +14,7 @@
 #include <QMenu>
 #include <QToolButton>
 #include <QVBoxLayout>
-#include <QtTest>
+#include "Support/TestValues.h"
 
 #include <functional>
 #include <stdexcept>

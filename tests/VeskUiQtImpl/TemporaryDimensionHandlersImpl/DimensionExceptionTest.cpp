@@ -1,7 +1,7 @@
 #include "Journal/JournalManager.h"
 #include "TemporaryDimensionHandlersImpl/KindInputFixture.h"
 
-#include <QtTest>
+#include "Support/TestValues.h"
 
 #include <stdexcept>
 
