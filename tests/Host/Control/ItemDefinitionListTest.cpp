@@ -436,7 +436,8 @@ void ItemDefinitionListTest::aHandlerMayRemoveTheItemConcerned_data()
     QTest::addColumn<QString>("heard");
     QTest::newRow("delete") << Act{[](Fixture& f) { f.pList->Delete(3, s_delete); }}
                             << "caption of x;caption of x;none;";
-    QTest::newRow("clear") << Act{[](Fixture& f) { f.pList->Clear(); }} << "caption of x;none;none;";
+    QTest::newRow("clear") << Act{[](Fixture& f) { f.pList->Clear(); }}
+                           << "caption of x;none;none;";
 }
 
 void ItemDefinitionListTest::aHandlerMayRemoveTheItemConcerned()

@@ -40,7 +40,8 @@ public:
                            const IControlDefinition* pItem,
                            std::shared_ptr<const void> pKept = nullptr);
 
-    /// True while a change of items is being told: there may be handlers that do not know the items.
+    /// True while a change of items is being told: there may be handlers that do not know the
+    /// items.
     bool IsTellingItems() const { return m_pTelling != nullptr; }
 
     /// Refuses what a control writes that has yet to hear of changes of the items: it tells of a
