@@ -14,6 +14,7 @@
 #include <QAction>
 #include <QIcon>
 #include <QPointer>
+#include <QScopedValueRollback>
 #include <QVariant>
 
 namespace vesk
@@ -38,19 +39,9 @@ Qt::ToolButtonStyle ToQtButtonStyle(int hostStyle)
     }
 }
 
-/// Writes all three whether they changed or not. Who listens to the action may delete it meanwhile.
-void UpdateAction(const ICommandButtonDefinition& definition, const QPointer<QAction>& pAction)
-{
-    const QIcon icon(ToQString(definition.GetIconPath()));
-    const QString caption = ToQString(definition.GetCaption());
-    const bool isChecked = definition.IsChecked();
-
-    pAction->setIcon(icon);
-    if (pAction != nullptr)
-        pAction->setText(caption);
-    if (pAction != nullptr)
-        pAction->setChecked(isChecked);
-}
+/// The button whose definition is being applied to its action at this moment; only its address
+/// counts.
+const QtButton* s_pApplied = nullptr;
 
 }
 
@@ -61,7 +52,10 @@ QtButton::QtButton(OwnerPtr<ICommandButtonDefinition> pControlDefinition, QWidge
                VESK_SITE("vesk::QtButton::QtButton", L"pControlDefinition为空")))
         return;
 
+    const QPointer<QtButton> pSelf(this);
     QAction* pAction = CreateAction(*m_pControlDefinition, this, "vesk::CreateAction");
+    if (pSelf == nullptr)
+        return;
     if (pAction != nullptr)
     {
         pAction->setChecked(m_pControlDefinition->IsChecked());
@@ -108,14 +102,30 @@ void QtButton::On(IControlDefinitionChangeEventArgs* pArgs)
     const Qt::ToolButtonStyle style = ToQtButtonStyle(m_pControlDefinition->GetButtonStyle());
     if (toolButtonStyle() != style)
         setToolButtonStyle(style);
-    if (defaultAction() == nullptr)
-        return;
+    if (defaultAction() != nullptr)
+        ApplyAction();
+}
 
+/// Writes all three whether they changed or not. Who hears of a change of the action may delete it,
+/// or the button: each is read when its turn comes, if both are still there.
+void QtButton::ApplyAction()
+{
+    const QScopedValueRollback<const QtButton*> applied(s_pApplied, this);
     const QPointer<QtButton> pSelf(this);
-    const bool isDisabled = testAttribute(Qt::WA_ForceDisabled);
-    UpdateAction(*m_pControlDefinition, defaultAction());
-    // A tool button takes the enabled state of its action over whenever the action changes.
-    if (pSelf != nullptr && isDisabled)
+    const QPointer<QAction> pAction(defaultAction());
+    pAction->setIcon(QIcon(ToQString(m_pControlDefinition->GetIconPath())));
+    if (pSelf != nullptr && pAction != nullptr)
+        pAction->setText(ToQString(m_pControlDefinition->GetCaption()));
+    if (pSelf != nullptr && pAction != nullptr)
+        pAction->setChecked(m_pControlDefinition->IsChecked());
+}
+
+void QtButton::actionEvent(QActionEvent* pEvent)
+{
+    const bool isKeptDisabled = s_pApplied == this && testAttribute(Qt::WA_ForceDisabled);
+    const QPointer<QtButton> pSelf(this);
+    QToolButton::actionEvent(pEvent);
+    if (pSelf != nullptr && isKeptDisabled)
         setEnabled(false);
 }
 
@@ -125,19 +135,20 @@ void QtButton::OnButtonClicked(bool checked)
                VESK_SITE("vesk::QtButton::OnButtonClicked", L"pControlDefinition为空")))
         return;
 
-    const QPointer<QObject> pSender(sender());
-    const std::wstring commandId = m_pControlDefinition->GetCommandId();
+    const QPointer<QtButton> pSelf(this);
     {
         const ControlDefinitionChangeByUser byUser(m_pControlDefinition->GetId());
         m_pControlDefinition->SetChecked(checked);
     }
     // Who heard of the change may have destroyed the button: then there is nobody to send for.
-    if (pSender == nullptr)
+    if (pSelf == nullptr)
         return;
 
+    // The button may be gone after the command.
+    const std::wstring commandId = m_pControlDefinition->GetCommandId();
     CommandParameters parameters;
     parameters.Add(L"Clicked", CommandParameterValue(checked));
-    ProcessCommandUtil::ProcessRibbonBarCommand(commandId, parameters, pSender);
+    ProcessCommandUtil::ProcessRibbonBarCommand(commandId, parameters, sender());
 }
 
 }

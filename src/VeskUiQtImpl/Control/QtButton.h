@@ -35,8 +35,15 @@ public:
     /// stay.
     void On(IControlDefinitionChangeEventArgs* pArgs) override;
 
+protected:
+    /// A tool button takes the enabled state of its action over whenever the action changes; what
+    /// On writes into the action leaves a disabled button disabled.
+    void actionEvent(QActionEvent* pEvent) override;
+
 private:
     void OnButtonClicked(bool checked);
+
+    void ApplyAction();
 
     OwnerPtr<ICommandButtonDefinition> m_pControlDefinition;
 };

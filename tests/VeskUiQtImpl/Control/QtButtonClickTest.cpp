@@ -59,6 +59,9 @@ private slots:
     void writesTheStateAsTheUsersAndOnce();
     void theUsersScopeIsClosedBeforeTheCommandRuns();
     void theDefinitionIsCheckedBeforeTheCommandRuns();
+    void theCommandIsReadOnceTheStateIsWritten();
+    void clickInsideACommandIsNotPutOff();
+    void scopeOfTheUserIsThatOfTheDefinition();
     void theLastCommandIsExecutedOnlyOutsideIt();
     void refreshesTheControlsAfterwards();
     void triggeringTheActionSendsNothing();
@@ -135,6 +138,76 @@ void QtButtonClickTest::theDefinitionIsCheckedBeforeTheCommandRuns()
     f.opButton->click();
 
     QVERIFY(isChecked);
+}
+
+/// A button whose command depends on its state; it notes whether that is the user's at the time.
+class TwoCommandsDefinition final : public CommandButtonDefinition
+{
+public:
+    using CommandButtonDefinition::CommandButtonDefinition;
+
+    std::wstring GetCommandId() const override
+    {
+        isReadAsTheUsers = ControlDefinitionChangeByUser::IsChangeByUser(GetId());
+        return IsChecked() ? L"On" : L"Off";
+    }
+
+    mutable bool isReadAsTheUsers = true;
+};
+
+void QtButtonClickTest::theCommandIsReadOnceTheStateIsWritten()
+{
+    HostFixture host;
+    QStringList calls;
+    host.AddCommand(L"On", [&calls](const CommandParameters&) { calls += "on"; });
+    host.AddCommand(L"Off", [&calls](const CommandParameters&) { calls += "off"; });
+    auto opDefinition = MakeOwner<TwoCommandsDefinition>(L"Button.Id", L"");
+    const TwoCommandsDefinition& definition = *opDefinition;
+    QtButton button(std::move(opDefinition), nullptr);
+
+    button.click();
+    button.click();
+
+    QCOMPARE(calls, QStringList({"on", "off"}));
+    QVERIFY(!definition.isReadAsTheUsers);
+}
+
+void QtButtonClickTest::clickInsideACommandIsNotPutOff()
+{
+    ClickFixture f(true);
+    QtButton other(MakeOwner<CommandButtonDefinition>(L"Other.Id", L"Test.Other"), nullptr);
+    int countInside = 0;
+    int otherCount = 0;
+    f.host.AddCommand(L"Test.Other", [&](const CommandParameters&) { ++otherCount; });
+    f.onCommand = [&] {
+        other.click();
+        countInside = otherCount;
+    };
+
+    f.opButton->click();
+
+    QCOMPARE(countInside, 1);
+    QCOMPARE(otherCount, 1);
+}
+
+void QtButtonClickTest::scopeOfTheUserIsThatOfTheDefinition()
+{
+    ClickFixture f(true);
+    ChangeNotes notes;
+    CommandButtonDefinition other(L"Other.Id", L"Test.Command");
+    other.GetControlDefinitionChangeEvent()->Add(&notes);
+    f.pDefinition->GetControlDefinitionChangeEvent()->Add(&notes);
+    struct OnChange final : IControlDefinitionChangeEventHandler
+    {
+        void On(IControlDefinitionChangeEventArgs*) override { pOther->SetCaption(L"changed"); }
+        CommandButtonDefinition* pOther = nullptr;
+    } onChange;
+    onChange.pOther = &other;
+    f.pDefinition->GetControlDefinitionChangeEvent()->Add(&onChange);
+
+    f.opButton->click();
+
+    QCOMPARE(notes.isByUser, std::vector<bool>({true, false}));
 }
 
 void QtButtonClickTest::theLastCommandIsExecutedOnlyOutsideIt()
