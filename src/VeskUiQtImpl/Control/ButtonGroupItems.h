@@ -47,7 +47,8 @@ Button* CreateItemButton(QWidget* pParent, const IControlDefinition* pDefinition
 /// Made for one operation; it refers to the group's own members. Ids are those of automatic
 /// numbering, one less than the smallest present, but are told to Qt: it would look through all
 /// ids for each button. What is wrong is reported in the name of `function`, the operation of the
-/// group.
+/// group. A report may run an event loop, and so may who hears of a button's change: what goes on
+/// afterwards asks first whether the group still lives.
 template <class Button>
 class ButtonGroupItems
 {
@@ -56,13 +57,19 @@ public:
         : m_group(group), m_pParent(pParent), m_buttons(buttons)
     {}
 
-    /// Puts a button at the end of list and group.
-    void Append(Button* pButton)
+    /// Puts a button at the end of list and group and answers it; null when it or the group died
+    /// of it.
+    Button* Append(Button* pButton)
     {
+        const QPointer<QButtonGroup> pGroup(&m_group);
+        const QPointer<Button> pAppended(pButton);
         // The last button has the smallest id; one that is in no group has -1.
         const int smallestId = m_buttons.empty() ? -1 : m_group.id(m_buttons.back());
         m_group.addButton(pButton, smallestId - 1);
+        if (pGroup == nullptr || pAppended == nullptr)
+            return nullptr;
         m_buttons.push_back(pButton);
+        return pButton;
     }
 
     /// An item came at the end: `append` makes its button, which is then placed after the last one.
@@ -74,7 +81,7 @@ public:
             return;
         if (!Check(m_pParent != nullptr, VESK_SITE(function, L"m_pParent为空")))
             return;
-        QLayout* pLayout = m_pParent->layout();
+        const QPointer<QLayout> pLayout(m_pParent->layout());
         if (!Check(pLayout != nullptr, VESK_SITE(function, L"pLayout为空")))
             return;
 
@@ -83,8 +90,9 @@ public:
         const auto* pItem = dynamic_cast<const Item*>(pArgs->GetItemDefinition());
         if (!Check(pItem != nullptr, VESK_SITE(function, L"pCheckBoxDefine为空")))
             return;
+        const QPointer<QButtonGroup> pGroup(&m_group);
         Button* pButton = append(pItem);
-        if (!Check(pButton != nullptr, VESK_SITE(function, L"pControl为空")))
+        if (pGroup == nullptr || !Check(pButton != nullptr, VESK_SITE(function, L"pControl为空")))
             return;
         Place(pLayout, lastPlace + 1, pButton, function);
     }
@@ -98,12 +106,15 @@ public:
     {
         if (!Check(pArgs != nullptr, VESK_SITE(function, L"pArgs为空")))
             return;
+        const QPointer<QButtonGroup> pGroup(&m_group);
         Ungroup(function);
+        if (pGroup == nullptr)
+            return;
         const auto* pItem = dynamic_cast<const Item*>(pArgs->GetItemDefinition());
         if (!Check(pItem != nullptr, VESK_SITE(function, L"pDefinition为空")))
             return;
         Button* pButton = create(pItem);
-        if (!Check(pButton != nullptr, VESK_SITE(function, noButton)))
+        if (pGroup == nullptr || !Check(pButton != nullptr, VESK_SITE(function, noButton)))
             return;
         const int index = pArgs->GetIndex();
         if (!Check(Has(index), VESK_SITE(function, L"insertControlDefinitionIndex有误")))
@@ -135,14 +146,12 @@ public:
     /// All items are gone.
     void OnClear(const char* function)
     {
-        for (Button* pButton : m_buttons)
-        {
-            if (!Check(pButton != nullptr, VESK_SITE(function, L"iter为空")))
-                continue;
+        const auto remove = [this](Button* pButton) {
             m_group.removeButton(pButton);
             pButton->deleteLater();
-        }
-        m_buttons.clear();
+        };
+        if (ForEachButton(remove, function))
+            m_buttons.clear();
     }
 
     /// Calls `apply(button, item, isAlive)` for each button and its item, in order; `noPair` is to
@@ -177,21 +186,27 @@ private:
 
     void Ungroup(const char* function)
     {
-        for (Button* pButton : m_buttons)
-        {
-            if (Check(pButton != nullptr, VESK_SITE(function, L"iter为空")))
-                m_group.removeButton(pButton);
-        }
+        ForEachButton([this](Button* pButton) { m_group.removeButton(pButton); }, function);
     }
 
     void Group(const char* function)
     {
         int id = -1;
-        for (Button* pButton : m_buttons)
+        ForEachButton([this, &id](Button* pButton) { m_group.addButton(pButton, --id); }, function);
+    }
+
+    /// Does something with each button; false when the group died meanwhile.
+    template <class Operation>
+    bool ForEachButton(Operation operation, const char* function)
+    {
+        const QPointer<QButtonGroup> pGroup(&m_group);
+        // By index: while a missing one is reported, others may come and go.
+        for (std::size_t i = 0; pGroup != nullptr && i < m_buttons.size(); ++i)
         {
-            if (Check(pButton != nullptr, VESK_SITE(function, L"iter为空")))
-                m_group.addButton(pButton, --id);
+            if (Check(m_buttons[i] != nullptr, VESK_SITE(function, L"iter为空")))
+                operation(m_buttons[i]);
         }
+        return pGroup != nullptr;
     }
 
     static bool Place(QLayout* pLayout, int position, Button* pButton, const char* function)

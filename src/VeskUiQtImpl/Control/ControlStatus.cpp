@@ -1,9 +1,6 @@
 #include "Control/ControlStatus.h"
 
-#include "Control/IControlDefinition.h"
-
 #include <QPointer>
-#include <QWidget>
 
 namespace vesk
 {
@@ -11,13 +8,7 @@ namespace vesk
 bool ApplyStatus(QWidget& widget, const IControlDefinition& definition)
 {
     const QPointer<QWidget> pWidget(&widget);
-    const bool isVisible = definition.IsVisible();
-    const bool isEnabled = definition.IsEnabled();
-
-    pWidget->setVisible(isVisible);
-    if (pWidget != nullptr)
-        pWidget->setEnabled(isEnabled);
-    return pWidget != nullptr;
+    return ApplyStatus(widget, definition, [&pWidget] { return pWidget != nullptr; });
 }
 
 void UpdateVisible(QWidget& widget, bool isVisible)

@@ -1,16 +1,28 @@
 #pragma once
 
-class QWidget;
+#include "Control/IControlDefinition.h"
+
+#include <QWidget>
 
 namespace vesk
 {
 
-class IControlDefinition;
-
 /// Gives a widget the visibility and the enabled state of its definition, without comparing.
 ///
-/// False when the widget died of it: hiding takes the focus away, and who hears of that may do
-/// anything.
+/// Hiding takes the focus away, and who hears of that may do anything: so each state is read when
+/// its turn comes, and only while `isAlive()` says that both widget and definition are still there.
+/// False when they are not.
+template <class IsAlive>
+bool ApplyStatus(QWidget& widget, const IControlDefinition& definition, IsAlive isAlive)
+{
+    widget.setVisible(definition.IsVisible());
+    if (!isAlive())
+        return false;
+    widget.setEnabled(definition.IsEnabled());
+    return isAlive();
+}
+
+/// The same for a widget that owns its definition.
 bool ApplyStatus(QWidget& widget, const IControlDefinition& definition);
 
 /// Each gives a widget one state where it shows another.

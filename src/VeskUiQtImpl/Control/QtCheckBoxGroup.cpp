@@ -10,6 +10,7 @@
 #include <HostUi/QtText.h>
 
 #include <QCheckBox>
+#include <QPointer>
 #include <QVariant>
 
 namespace vesk
@@ -42,8 +43,14 @@ QtCheckBoxGroup::QtCheckBoxGroup(OwnerPtr<ICheckBoxGroupDefinition> pControlDefi
 
     setProperty(PropertyName::IsDefinition, true);
     setExclusive(false);
+    const QPointer<QtCheckBoxGroup> pSelf(this);
     for (const ICheckBoxDefinition* pDefinition : m_pControlDefinition->GetCheckBoxDefinitions())
+    {
         AddCheckBox(pDefinition);
+        // A report may have run an event loop, and the parent takes its group along.
+        if (pSelf == nullptr)
+            return;
+    }
     connect(this, QOverload<QAbstractButton*>::of(&QButtonGroup::buttonClicked), this,
             &QtCheckBoxGroup::OnButtonClicked);
     Subscribe(m_pControlDefinition.Get(), this);
@@ -70,9 +77,8 @@ void QtCheckBoxGroup::UpdateStatus()
     if (!Check(m_pControlDefinition != nullptr, VESK_SITE(Function, L"pDefinition为空")))
         return;
 
-    const auto apply = [](QCheckBox& checkBox, const ICheckBoxDefinition& definition, auto) {
-        ApplyStatus(checkBox, definition);
-    };
+    const auto apply = [](QCheckBox& checkBox, const ICheckBoxDefinition& definition,
+                          auto isAlive) { ApplyStatus(checkBox, definition, isAlive); };
     ButtonGroupItems(*this, m_pParent, m_checkBoxes)
         .ForEach(m_pControlDefinition->GetCheckBoxDefinitions(), apply,
                  L"checkBoxDefines[i] && checkBoxControls[i]为空", Function);
@@ -83,8 +89,13 @@ void QtCheckBoxGroup::On(IControlDefinitionChangeEventArgs* pArgs)
     constexpr char Function[] = "vesk::QtCheckBoxGroup::On";
     if (!Check(pArgs != nullptr, VESK_SITE(Function, L"pArgs为空")))
         return;
+    const int type = pArgs->GetType();
+    // Without a definition there are no items: only their states are asked for, and missed.
+    if (m_pControlDefinition == nullptr &&
+        type != ControlDefinitionChangeEventType::PropertyChanged)
+        return;
 
-    switch (pArgs->GetType())
+    switch (type)
     {
     case ControlDefinitionChangeEventType::Add:
         OnControlDefinitionChangeEventTypeAdd(pArgs);
@@ -132,23 +143,24 @@ QCheckBox* QtCheckBoxGroup::AddCheckBox(const ICheckBoxDefinition* pDefinition)
     constexpr char Function[] = "vesk::QtCheckBoxGroup::AddCheckBox";
     if (!Check(pDefinition != nullptr, VESK_SITE(Function, L"pDefinition为空")))
         return nullptr;
+    const QPointer<QtCheckBoxGroup> pSelf(this);
     QCheckBox* pCheckBox = CreateControl(pDefinition);
-    if (!Check(pCheckBox != nullptr, VESK_SITE(Function, L"pCheckBox为空")))
+    if (pSelf == nullptr || !Check(pCheckBox != nullptr, VESK_SITE(Function, L"pCheckBox为空")))
         return nullptr;
 
-    ButtonGroupItems(*this, m_pParent, m_checkBoxes).Append(pCheckBox);
-    return pCheckBox;
+    return ButtonGroupItems(*this, m_pParent, m_checkBoxes).Append(pCheckBox);
 }
 
 QCheckBox* QtCheckBoxGroup::CreateControl(const ICheckBoxDefinition* pDefinition)
 {
-    auto* pCheckBox =
-        CreateItemButton<QCheckBox>(m_pParent, pDefinition, "vesk::QtCheckBoxGroup::CreateControl");
+    const QPointer<QtCheckBoxGroup> pSelf(this);
+    const QPointer<QCheckBox> pCheckBox(CreateItemButton<QCheckBox>(
+        m_pParent, pDefinition, "vesk::QtCheckBoxGroup::CreateControl"));
     if (pCheckBox == nullptr)
         return nullptr;
 
     pCheckBox->setCheckState(ToQtCheckState(pDefinition->GetCheckState()));
-    ApplyStatus(*pCheckBox, *pDefinition);
+    ApplyStatus(*pCheckBox, *pDefinition, [&] { return pSelf != nullptr && pCheckBox != nullptr; });
     return pCheckBox;
 }
 

@@ -9,6 +9,7 @@
 
 #include <HostUi/QtText.h>
 
+#include <QPointer>
 #include <QRadioButton>
 #include <QVariant>
 
@@ -26,9 +27,15 @@ QtRadioButtonGroup::QtRadioButtonGroup(OwnerPtr<IRadioButtonGroupDefinition> pCo
 
     setProperty(PropertyName::IsDefinition, true);
     setExclusive(true);
+    const QPointer<QtRadioButtonGroup> pSelf(this);
     for (const IRadioButtonDefinition* pDefinition :
          m_pControlDefinition->GetRadioButtonDefinitions())
+    {
         AddRadioButton(pDefinition);
+        // A report may have run an event loop, and the parent takes its group along.
+        if (pSelf == nullptr)
+            return;
+    }
     connect(this, QOverload<QAbstractButton*>::of(&QButtonGroup::buttonClicked), this,
             &QtRadioButtonGroup::OnButtonClicked);
     Subscribe(m_pControlDefinition.Get(), this);
@@ -56,7 +63,7 @@ void QtRadioButtonGroup::UpdateStatus()
         return;
 
     const auto apply = [](QRadioButton& radioButton, const IRadioButtonDefinition& definition,
-                          auto) { ApplyStatus(radioButton, definition); };
+                          auto isAlive) { ApplyStatus(radioButton, definition, isAlive); };
     ButtonGroupItems(*this, m_pParent, m_radioButtons)
         .ForEach(m_pControlDefinition->GetRadioButtonDefinitions(), apply,
                  L"radioButtonDefines[i] && radioButtonControls[i]为空", Function);
@@ -67,8 +74,13 @@ void QtRadioButtonGroup::On(IControlDefinitionChangeEventArgs* pArgs)
     constexpr char Function[] = "vesk::QtRadioButtonGroup::On";
     if (!Check(pArgs != nullptr, VESK_SITE(Function, L"pArgs为空")))
         return;
+    const int type = pArgs->GetType();
+    // Without a definition there are no items: only their states are asked for, and missed.
+    if (m_pControlDefinition == nullptr &&
+        type != ControlDefinitionChangeEventType::PropertyChanged)
+        return;
 
-    switch (pArgs->GetType())
+    switch (type)
     {
     case ControlDefinitionChangeEventType::Add:
         OnControlDefinitionChangeEventTypeAdd(pArgs);
@@ -117,23 +129,30 @@ QRadioButton* QtRadioButtonGroup::AddRadioButton(const IRadioButtonDefinition* p
     constexpr char Function[] = "vesk::QtRadioButtonGroup::AddRadioButton";
     if (!Check(pDefinition != nullptr, VESK_SITE(Function, L"pDefinition为空")))
         return nullptr;
-    QRadioButton* pRadioButton = CreateControl(pDefinition);
-    if (!Check(pRadioButton != nullptr, VESK_SITE(Function, L"pRadioButton为空")))
+    const QPointer<QtRadioButtonGroup> pSelf(this);
+    const QPointer<QRadioButton> pRadioButton(CreateControl(pDefinition));
+    if (pSelf == nullptr ||
+        !Check(pRadioButton != nullptr, VESK_SITE(Function, L"pRadioButton为空")))
         return nullptr;
 
-    if (m_pControlDefinition != nullptr &&
-        pDefinition->GetId() == m_pControlDefinition->GetCurrentRadioButtonId())
+    // Another button outside any group is unchecked by this, and somebody may hear of that.
+    if (pDefinition->GetId() == m_pControlDefinition->GetCurrentRadioButtonId())
         pRadioButton->setChecked(true);
-    ButtonGroupItems(*this, m_pParent, m_radioButtons).Append(pRadioButton);
-    return pRadioButton;
+    if (pSelf == nullptr || pRadioButton == nullptr)
+        return nullptr;
+    return ButtonGroupItems(*this, m_pParent, m_radioButtons).Append(pRadioButton.data());
 }
 
 QRadioButton* QtRadioButtonGroup::CreateControl(const IRadioButtonDefinition* pDefinition)
 {
-    auto* pRadioButton = CreateItemButton<QRadioButton>(m_pParent, pDefinition,
-                                                        "vesk::QtRadioButtonGroup::CreateControl");
-    if (pRadioButton != nullptr)
-        ApplyStatus(*pRadioButton, *pDefinition);
+    const QPointer<QtRadioButtonGroup> pSelf(this);
+    const QPointer<QRadioButton> pRadioButton(CreateItemButton<QRadioButton>(
+        m_pParent, pDefinition, "vesk::QtRadioButtonGroup::CreateControl"));
+    if (pRadioButton == nullptr)
+        return nullptr;
+
+    ApplyStatus(*pRadioButton, *pDefinition,
+                [&] { return pSelf != nullptr && pRadioButton != nullptr; });
     return pRadioButton;
 }
 

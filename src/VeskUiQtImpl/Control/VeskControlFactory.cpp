@@ -10,10 +10,27 @@
 #include "Control/QtProgressBar.h"
 #include "Control/QtRadioButtonGroup.h"
 
+#include <QPointer>
 #include <QWidget>
 
 namespace vesk
 {
+namespace
+{
+
+/// A group in `pParent`. What a group reports while it is made may run an event loop, and a parent
+/// that dies takes its group along: nothing is then left to return.
+template <class Group, class Definition>
+OwnerPtr<IControl> MakeGroup(OwnerPtr<Definition> opDefinition, QWidget* pParent)
+{
+    const QPointer<QWidget> pLivingParent(pParent);
+    OwnerPtr<IControl> opGroup = MakeOwner<Group>(std::move(opDefinition), pParent);
+    if (pLivingParent == nullptr)
+        opGroup.Release();
+    return opGroup;
+}
+
+}
 
 OwnerPtr<IControl>
 VeskControlFactory::CreateQtButton(OwnerPtr<ICommandButtonDefinition> opDefinition)
@@ -56,7 +73,7 @@ VeskControlFactory::CreateQtRadioButtonGroup(OwnerPtr<IRadioButtonGroupDefinitio
     if (!Check(pParent != nullptr,
                VESK_SITE("vesk::VeskControlFactory::CreateQtRadioButtonGroup", L"pParent为空")))
         return nullptr;
-    return MakeOwner<QtRadioButtonGroup>(std::move(opDefinition), pParent);
+    return MakeGroup<QtRadioButtonGroup>(std::move(opDefinition), pParent);
 }
 
 OwnerPtr<IControl>
@@ -67,7 +84,7 @@ VeskControlFactory::CreateQtCheckBoxGroup(OwnerPtr<ICheckBoxGroupDefinition> opD
     if (!Check(pParent != nullptr,
                VESK_SITE("vesk::VeskControlFactory::CreateQtCheckBoxGroup", L"pParent为空")))
         return nullptr;
-    return MakeOwner<QtCheckBoxGroup>(std::move(opDefinition), pParent);
+    return MakeGroup<QtCheckBoxGroup>(std::move(opDefinition), pParent);
 }
 
 }

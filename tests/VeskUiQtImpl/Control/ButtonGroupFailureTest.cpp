@@ -66,6 +66,8 @@ private slots:
     void missingItemIsReportedAndPassedOver();
     void groupWithoutDefinitionOrParentIsEmptyAndReactsToNothing_data();
     void groupWithoutDefinitionOrParentIsEmptyAndReactsToNothing();
+    void groupWithoutDefinitionFollowsNoItems_data();
+    void groupWithoutDefinitionFollowsNoItems();
     void groupWithoutParentMakesNoButton_data();
     void groupWithoutParentMakesNoButton();
     void groupWithoutParentAnswersItsDefinition();
@@ -309,6 +311,41 @@ void ButtonGroupFailureTest::groupWithoutDefinitionOrParentIsEmptyAndReactsToNot
     QVERIFY(pGroup->buttons().isEmpty());
     QVERIFY(!pGroup->property("IsDefinition").isValid());
     QVERIFY(parent.findChildren<QAbstractButton*>().isEmpty());
+}
+
+void ButtonGroupFailureTest::groupWithoutDefinitionFollowsNoItems_data()
+{
+    QTest::addColumn<MakeGroup>("make");
+    QTest::addColumn<MakeBareGroup>("makeBare");
+    QTest::addColumn<int>("type");
+    for (const int type : {EventType::Add, EventType::Insert, EventType::Delete, EventType::Clear})
+    {
+        QTest::addRow("check boxes, %d", type)
+            << MakeGroup(&MakeGroupOf<CheckBoxKind>)
+            << MakeBareGroup(&WithoutDefinition<CheckBoxKind>) << type;
+        QTest::addRow("radio buttons, %d", type)
+            << MakeGroup(&MakeGroupOf<RadioButtonKind>)
+            << MakeBareGroup(&WithoutDefinition<RadioButtonKind>) << type;
+    }
+}
+
+void ButtonGroupFailureTest::groupWithoutDefinitionFollowsNoItems()
+{
+    QFETCH(MakeGroup, make);
+    QFETCH(MakeBareGroup, makeBare);
+    QFETCH(int, type);
+    const auto f = make({});
+    const OwnerPtr<IControl> opGroup = makeBare(&f->parent);
+    EXPECT_WARNING(f->host.warnings, L"m_pControlDefinition或pParent是空指针",
+                   ConstructorOf(f->GetGroup()));
+    ChangeArgs args(type, 0, f->MakeItem(L"a"));
+
+    dynamic_cast<IControlDefinitionChangeEventHandler*>(opGroup.Get())->On(&args);
+
+    QVERIFY(f->host.warnings.IsEmpty());
+    QVERIFY(dynamic_cast<QButtonGroup*>(opGroup.Get())->buttons().isEmpty());
+    QVERIFY(f->parent.findChildren<QAbstractButton*>().isEmpty());
+    QCOMPARE(f->GetPlacedNames(), QStringList({"head", "tail"}));
 }
 
 void ButtonGroupFailureTest::groupWithoutParentMakesNoButton_data()

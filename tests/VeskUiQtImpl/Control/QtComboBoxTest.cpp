@@ -63,6 +63,7 @@ private slots:
     void clearsAllItems();
     void newItemsHaveNeitherIconNorData();
     void followsTheCurrentIndex();
+    void statesAreReadAfterTheIndex();
     void followsVisibilityAndEnabledState();
     void comparesWithWhatIsSeen();
     void ignoresOtherEvents_data() { AddUnknownEventTypes(); }
@@ -207,6 +208,24 @@ void QtComboBoxTest::followsTheCurrentIndex()
 
     QCOMPARE(f.opBox->currentIndex(), 2);
     QVERIFY(f.pDefinition->writes.empty());
+}
+
+void QtComboBoxTest::statesAreReadAfterTheIndex()
+{
+    ComboBoxFixture f;
+    ChangeArgs args;
+    f.pDefinition->GetControlDefinitionChangeEvent()->Delete(f.opBox.Get());
+    f.pDefinition->currentIndex = 2;
+    connect(f.opBox.Get(), QOverload<int>::of(&QComboBox::currentIndexChanged), this, [&f] {
+        f.pDefinition->SetVisible(false);
+        f.pDefinition->SetEnabled(false);
+    });
+
+    f.opBox->On(&args);
+
+    QCOMPARE(f.opBox->currentIndex(), 2);
+    QVERIFY(f.opBox->isHidden());
+    QVERIFY(!f.opBox->isEnabled());
 }
 
 void QtComboBoxTest::followsVisibilityAndEnabledState()

@@ -51,6 +51,8 @@ private slots:
     void ignoresOtherEvents();
     void reportsMissingArguments();
     void statusUpdateAppliesVisibilityAndEnabledState();
+    void statusUpdateLeavesTheTextAlone();
+    void captionIsWrittenBeforeVisibilityAndEnabledState();
     void withoutDefinitionItIsBareAndReportsIt();
     void withoutDefinitionItNeverChanges();
 };
@@ -192,6 +194,54 @@ void QtLabelTest::statusUpdateAppliesVisibilityAndEnabledState()
     QVERIFY(label.testAttribute(Qt::WA_WState_ExplicitShowHide));
     QVERIFY(label.isHidden());
     QVERIFY(!label.isEnabled());
+}
+
+void QtLabelTest::statusUpdateLeavesTheTextAlone()
+{
+    LabelFixture f;
+    f.opLabel->setText("by hand");
+    f.opLabel->setToolTip("by hand");
+
+    f.opLabel->UpdateStatus();
+
+    QCOMPARE(f.opLabel->text(), QString("by hand"));
+    QCOMPARE(f.opLabel->toolTip(), QString("by hand"));
+}
+
+/// Notes what a label shows when it is hidden and when it is disabled.
+class StateNotes final : public QObject
+{
+public:
+    explicit StateNotes(QLabel& label) : m_label(label) { label.installEventFilter(this); }
+
+    bool eventFilter(QObject*, QEvent* pEvent) override
+    {
+        if (pEvent->type() == QEvent::HideToParent)
+            notes += m_label.text() + (m_label.isEnabled() ? " enabled" : " disabled");
+        if (pEvent->type() == QEvent::EnabledChange)
+            notes += m_label.text() + (m_label.isHidden() ? " hidden" : " shown");
+        return false;
+    }
+
+    QStringList notes;
+
+private:
+    QLabel& m_label;
+};
+
+void QtLabelTest::captionIsWrittenBeforeVisibilityAndEnabledState()
+{
+    LabelFixture f;
+    ChangeArgs args;
+    f.pDefinition->GetControlDefinitionChangeEvent()->Delete(f.opLabel.Get());
+    f.pDefinition->SetCaption(L"new");
+    f.pDefinition->SetVisible(false);
+    f.pDefinition->SetEnabled(false);
+    const StateNotes notes(*f.opLabel);
+
+    f.opLabel->On(&args);
+
+    QCOMPARE(notes.notes, QStringList({"new enabled", "new hidden"}));
 }
 
 void QtLabelTest::withoutDefinitionItIsBareAndReportsIt()

@@ -57,6 +57,7 @@ private slots:
     void followsValueTextAndWidth();
     void followsVisibilityAndEnabledState();
     void writesStateWithoutComparing();
+    void valuesAreReadWhenTheirTurnComes();
     void keepsItsToolTipWhenTheDefinitionChanges();
     void keepsItsHeightWhenTheDefinitionChanges();
     void valueBeyondTheRangeIsQtsToIgnore_data();
@@ -179,6 +180,26 @@ void QtProgressBarTest::writesStateWithoutComparing()
 
     QVERIFY(f.opBar->isHidden());
     QVERIFY(f.opBar->testAttribute(Qt::WA_ForceDisabled));
+}
+
+void QtProgressBarTest::valuesAreReadWhenTheirTurnComes()
+{
+    ProgressBarFixture f;
+    f.Show();
+    ChangeArgs args;
+    f.pDefinition->GetControlDefinitionChangeEvent()->Delete(f.opBar.Get());
+    f.pDefinition->SetValue(43);
+    connect(f.opBar.Get(), &QProgressBar::valueChanged, this, [&f] {
+        f.pDefinition->SetWidth(77);
+        f.pDefinition->SetVisible(false);
+        f.pDefinition->SetEnabled(false);
+    });
+
+    f.opBar->On(&args);
+
+    QCOMPARE(f.opBar->width(), 77);
+    QVERIFY(f.opBar->isHidden());
+    QVERIFY(!f.opBar->isEnabled());
 }
 
 void QtProgressBarTest::keepsItsToolTipWhenTheDefinitionChanges()
