@@ -43,9 +43,11 @@ OwnerPtr<IJournalCommandData> CreateJournalCommandData()
 }
 
 /// The command with that id; null, with a warning in the name of `function`, when there is none.
+/// Without a manager no command is known.
 ICommand* FindCommand(const std::wstring& commandId, const char* function)
 {
-    ICommand* pCommand = ICommandManager::Get()->GetCommand(commandId);
+    const ICommandManager* pManager = ICommandManager::Get();
+    ICommand* pCommand = pManager != nullptr ? pManager->GetCommand(commandId) : nullptr;
     const std::wstring message = L"无法找到字符串对应的注册命令：" + commandId;
     Check(pCommand != nullptr, VESK_SITE(function, message.c_str()));
     return pCommand;

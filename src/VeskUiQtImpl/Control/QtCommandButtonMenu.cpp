@@ -55,6 +55,36 @@ std::wstring GetCommandId(const QAction& action)
     return ToWide(action.property(PropertyName::CommandId).toString());
 }
 
+/// Null for an unknown one. Without a manager no command is known.
+const ICommand* FindCommand(const std::wstring& commandId)
+{
+    const ICommandManager* pManager = ICommandManager::Get();
+    return pManager != nullptr ? pManager->GetCommand(commandId) : nullptr;
+}
+
+/// Gives an entry the states of its command; without one it keeps its own. A command's conditions,
+/// and who hears of a change of the entry, may do anything.
+void UpdateItem(const QPointer<QAction>& pAction)
+{
+    const std::wstring commandId = GetCommandId(*pAction);
+    const ICommand* pCommand = FindCommand(commandId);
+    const bool isVisible = pCommand != nullptr && pCommand->IsVisible();
+    if (pCommand == nullptr || pAction == nullptr)
+        return;
+    pAction->setVisible(isVisible);
+
+    pCommand = FindCommand(commandId);
+    const bool isEnabled = pCommand != nullptr && pCommand->IsEnabled();
+    if (pCommand != nullptr && pAction != nullptr)
+        pAction->setEnabled(isEnabled);
+}
+
+bool LooksLike(const QAction& action, const QAction& other)
+{
+    return action.parentWidget() == other.parentWidget() && action.text() == other.text() &&
+           action.iconText() == other.iconText();
+}
+
 }
 
 QtCommandButtonMenu::QtCommandButtonMenu(OwnerPtr<ICommandButtonMenuDefinition> pControlDefinition)
@@ -64,7 +94,12 @@ QtCommandButtonMenu::QtCommandButtonMenu(OwnerPtr<ICommandButtonMenuDefinition> 
     if (!Check(m_pControlDefinition != nullptr, VESK_SITE(Function, L"pControlDefinition为空")))
         return;
 
-    if (QAction* pAction = CreateAction(*m_pControlDefinition, this, Function))
+    // A report may run an event loop.
+    const QPointer<QtCommandButtonMenu> pSelf(this);
+    QAction* pAction = CreateAction(*m_pControlDefinition, this, Function);
+    if (pSelf == nullptr)
+        return;
+    if (pAction != nullptr)
     {
         setDefaultAction(pAction);
         connect(pAction, &QAction::triggered, this, &QtCommandButtonMenu::OnMenuTriggered);
@@ -72,11 +107,13 @@ QtCommandButtonMenu::QtCommandButtonMenu(OwnerPtr<ICommandButtonMenuDefinition> 
     setToolButtonStyle(Qt::ToolButtonIconOnly);
     setObjectName(ToQString(m_pControlDefinition->GetId()));
     setProperty(PropertyName::IsDefinition, true);
-    setMenu(CreateMenu(this, Function));
+    QMenu* pMenu = CreateMenu(this, Function);
+    if (pSelf == nullptr)
+        return;
+    setMenu(pMenu);
     setPopupMode(QToolButton::MenuButtonPopup);
-    for (const IMenuItemDefinition* pItem : m_pControlDefinition->GetMenuItemDefinitions())
-        AddMenuItem(menu(), pItem);
-    Subscribe(m_pControlDefinition.Get(), this);
+    if (AddMenuItems(menu(), m_pControlDefinition->GetMenuItemDefinitions()))
+        Subscribe(m_pControlDefinition.Get(), this);
 }
 
 QtCommandButtonMenu::~QtCommandButtonMenu()
@@ -101,17 +138,9 @@ void QtCommandButtonMenu::UpdateStatus()
     if (pSelf == nullptr || !isVisible)
         return;
     setEnabled(m_pControlDefinition->IsEnabled());
-    if (pSelf == nullptr || menu() == nullptr)
-        return;
-
-    for (QAction* pAction : menu()->actions())
-    {
-        const ICommand* pCommand = ICommandManager::Get()->GetCommand(GetCommandId(*pAction));
-        if (pCommand == nullptr)
-            continue;
-        pAction->setVisible(pCommand->IsVisible());
-        pAction->setEnabled(pCommand->IsEnabled());
-    }
+    // By index: entries may come and go meanwhile.
+    for (int i = 0; pSelf != nullptr && i < GetItems().size(); ++i)
+        UpdateItem(GetItems().at(i));
 }
 
 void QtCommandButtonMenu::On(IControlDefinitionChangeEventArgs* pArgs)
@@ -161,8 +190,22 @@ void QtCommandButtonMenu::AddMenuItem(QMenu* pMenu, const IMenuItemDefinition* p
         return;
     QMenu* pSubMenu = pMenu->addMenu(icon, caption);
     pSubMenu->setProperty(PropertyName::IsDefinition, true);
-    for (const IMenuItemDefinition* pChild : children)
-        AddMenuItem(pSubMenu, pChild);
+    AddMenuItems(pSubMenu, children);
+}
+
+/// Adds entries in their order. False when the button died of it: what is missing is reported, and
+/// a report may run an event loop.
+bool QtCommandButtonMenu::AddMenuItems(QMenu* pMenu, const MenuItems& items)
+{
+    const QPointer<QtCommandButtonMenu> pSelf(this);
+    const QPointer<QMenu> pLivingMenu(pMenu);
+    for (const IMenuItemDefinition* pItem : items)
+    {
+        AddMenuItem(pLivingMenu, pItem);
+        if (pSelf == nullptr)
+            return false;
+    }
+    return true;
 }
 
 void QtCommandButtonMenu::AppendMenuItem(const IControlDefinition* pItemDefinition)
@@ -185,10 +228,11 @@ void QtCommandButtonMenu::InsertMenuItem(int index, const IControlDefinition* pI
     const MenuItems children = GetChildren(pItemDefinition);
     if (!children.empty())
     {
-        auto* pSubMenu = new QMenu(ToQString(pItemDefinition->GetCaption()), this);
-        for (const IMenuItemDefinition* pChild : children)
-            AddMenuItem(pSubMenu, pChild);
-        menu()->insertMenu(actions[index], pSubMenu);
+        const QPointer<QAction> pNext(actions[index]);
+        const QPointer<QMenu> pSubMenu(new QMenu(ToQString(pItemDefinition->GetCaption()), this));
+        if (AddMenuItems(pSubMenu, children) && pSubMenu != nullptr && pNext != nullptr &&
+            menu() != nullptr)
+            menu()->insertMenu(pNext, pSubMenu);
         return;
     }
     const auto* pCommandItem = dynamic_cast<const ICommandMenuItemDefinition*>(pItemDefinition);
@@ -208,20 +252,28 @@ void QtCommandButtonMenu::SetUpItem(QAction& action, const ICommandMenuItemDefin
     connect(&action, &QAction::triggered, this, &QtCommandButtonMenu::OnMenuItemTriggered);
 }
 
-/// Leaves of the menu itself only the chosen entry checked, and what looks exactly like it.
-void QtCommandButtonMenu::CheckOnly(const QAction& chosen)
+/// Leaves of the menu itself only the chosen entry checked, and what looks exactly like it. False
+/// when the chosen entry or the button died of it: who hears of a check mark may do anything.
+bool QtCommandButtonMenu::CheckOnly(const QAction& chosen)
 {
-    if (menu() == nullptr)
-        return;
-    const QList<QAction*> actions = menu()->actions();
-    for (QAction* pAction : actions)
-        pAction->setChecked(false);
-    for (QAction* pAction : actions)
+    const QPointer<QtCommandButtonMenu> pSelf(this);
+    const QPointer<const QAction> pChosen(&chosen);
+    const auto isAlive = [&] { return pSelf != nullptr && pChosen != nullptr; };
+    for (int i = 0; isAlive() && i < GetItems().size(); ++i)
+        GetItems().at(i)->setChecked(false);
+    for (int i = 0; isAlive() && i < GetItems().size(); ++i)
     {
-        if (pAction->parentWidget() == chosen.parentWidget() && pAction->text() == chosen.text() &&
-            pAction->iconText() == chosen.iconText())
+        QAction* pAction = GetItems().at(i);
+        if (LooksLike(*pAction, chosen))
             pAction->setChecked(true);
     }
+    return isAlive();
+}
+
+/// The entries of the menu itself; none without a menu.
+QList<QAction*> QtCommandButtonMenu::GetItems() const
+{
+    return menu() != nullptr ? menu()->actions() : QList<QAction*>();
 }
 
 void QtCommandButtonMenu::OnMenuItemTriggered(bool)
@@ -231,9 +283,9 @@ void QtCommandButtonMenu::OnMenuItemTriggered(bool)
                VESK_SITE("vesk::QtCommandButtonMenu::OnMenuItemTriggered", L"pAction为空")))
         return;
 
-    CheckOnly(*pAction);
-    ProcessCommandUtil::ProcessStatusBarCommand(GetCommandId(*pAction), CommandParameters(),
-                                                pAction);
+    if (CheckOnly(*pAction))
+        ProcessCommandUtil::ProcessStatusBarCommand(GetCommandId(*pAction), CommandParameters(),
+                                                    pAction);
 }
 
 void QtCommandButtonMenu::OnMenuTriggered(bool)

@@ -5,7 +5,10 @@
 #include "Control/IControlDefinitionChangeEvent.h"
 #include "Foundation/OwnerPtr.h"
 
+#include <QList>
 #include <QToolButton>
+
+#include <vector>
 
 class QAction;
 class QMenu;
@@ -45,10 +48,12 @@ private slots:
 private:
     void AddMenuItem(QMenu* pMenu, const IMenuItemDefinition* pMenuItemDefinition);
 
+    bool AddMenuItems(QMenu* pMenu, const std::vector<const IMenuItemDefinition*>& items);
     void AppendMenuItem(const IControlDefinition* pItemDefinition);
     void InsertMenuItem(int index, const IControlDefinition* pItemDefinition);
     void SetUpItem(QAction& action, const ICommandMenuItemDefinition& definition);
-    void CheckOnly(const QAction& chosen);
+    bool CheckOnly(const QAction& chosen);
+    QList<QAction*> GetItems() const;
 
     OwnerPtr<ICommandButtonMenuDefinition> m_pControlDefinition;
 };
