@@ -14,6 +14,8 @@
 #include <QPointer>
 #include <QVariant>
 
+#include <limits>
+
 namespace vesk
 {
 namespace
@@ -39,9 +41,11 @@ QtLineEdit::QtLineEdit(OwnerPtr<ILineEditDefinition> pControlDefinition, QWidget
     if (!GiveDefaultValidator())
         return;
 
+    // What Qt cuts off it would report as a change by the user.
+    setMaxLength(std::numeric_limits<int>::max());
     setText(ToQString(m_pControlDefinition->GetText()));
-    setVisible(m_pControlDefinition->IsVisible());
-    setEnabled(m_pControlDefinition->IsEnabled());
+    if (!ApplyStatus(*this, *m_pControlDefinition))
+        return;
     connect(this, &QLineEdit::textEdited, this, &QtLineEdit::OnTextEdited);
     connect(this, &QLineEdit::editingFinished, this, &QtLineEdit::OnEditingFinished);
     connect(this, &QLineEdit::textChanged, this, &QtLineEdit::OnTextChanged);
@@ -116,13 +120,19 @@ void QtLineEdit::On(IControlDefinitionChangeEventArgs* pArgs)
 
 void QtLineEdit::ApplySelection()
 {
-    const int start = GetDefinitionSelectionStart();
+    const QPointer<QtLineEdit> pSelf(this);
+    const QString selection = selectedText();
+    const int start = selectionStart();
+    const int definitionStart = GetDefinitionSelectionStart();
+    // A report may have run an event loop.
+    if (pSelf == nullptr)
+        return;
     const QString definitionSelection = ToQString(m_pControlDefinition->GetSelectedText());
-    if (selectedText() == definitionSelection && selectionStart() == start)
+    if (selection == definitionSelection && start == definitionStart)
         return;
 
-    if (!definitionSelection.isEmpty() || start != -1)
-        setSelection(start, definitionSelection.size());
+    if (!definitionSelection.isEmpty() || definitionStart != -1)
+        setSelection(definitionStart, definitionSelection.size());
     else
         deselect();
 }
@@ -224,9 +234,13 @@ void QtLineEdit::OnTextSelectChanged()
                VESK_SITE("vesk::QtLineEdit::OnTextSelectChanged", L"pControlDefinition为空")))
         return;
 
+    const QPointer<QtLineEdit> pSelf(this);
     const int start = selectionStart();
     const QString selection = selectedText();
     const int definitionStart = GetDefinitionSelectionStart();
+    // A report may have run an event loop.
+    if (pSelf == nullptr)
+        return;
     const QString definitionSelection = ToQString(m_pControlDefinition->GetSelectedText());
     if (selection == definitionSelection && start == definitionStart)
         return;

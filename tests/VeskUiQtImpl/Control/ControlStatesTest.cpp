@@ -10,12 +10,12 @@
 #include "Control/VeskIControlFactory.h"
 #include "Support/HostFixture.h"
 
+#include "Support/TestValues.h"
 #include <QAbstractButton>
 #include <QButtonGroup>
 #include <QLineEdit>
 #include <QPointer>
 #include <QVBoxLayout>
-#include <QtTest>
 
 #include <functional>
 #include <utility>

@@ -4,11 +4,11 @@
 #include "Control/VeskIControlFactory.h"
 #include "Support/HostFixture.h"
 
+#include "Support/TestValues.h"
 #include <QAction>
 #include <QMenu>
 #include <QPointer>
 #include <QToolButton>
-#include <QtTest>
 
 #include <functional>
 #include <utility>

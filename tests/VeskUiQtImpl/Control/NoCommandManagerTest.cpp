@@ -3,7 +3,7 @@
 #include "Control/QtButton.h"
 #include "ProcessCommandUtil.h"
 
-#include <QtTest>
+#include "Support/TestValues.h"
 
 namespace vesk
 {

@@ -1,32 +1,12 @@
 #include "Control/QtLineEdit.h"
 
 #include "Control/ChangeArgs.h"
-#include "Control/LineEditDefinitions.h"
-#include "Control/OtherEventTypes.h"
-#include "Support/HostFixture.h"
+#include "Control/LineEditFixture.h"
 #include "Support/TestValues.h"
 #include "Validation/NumberValidator.h"
 
 namespace vesk::test
 {
-
-struct LineEditFixture
-{
-    explicit LineEditFixture(const std::wstring& text = L"12.5")
-    {
-        auto opDefinition = MakeOwner<LineEditDefinition>(L"Edit.Id");
-        pDefinition = opDefinition.Get();
-        pDefinition->SetText(text);
-        pDefinition->SetTooltip(L"tip");
-        opEdit = MakeOwner<QtLineEdit>(std::move(opDefinition), &parent);
-        parent.show();
-    }
-
-    HostFixture host;
-    QWidget parent;
-    LineEditDefinition* pDefinition;
-    OwnerPtr<QtLineEdit> opEdit;
-};
 
 class QtLineEditTest : public QObject
 {
@@ -39,24 +19,16 @@ private slots:
     void showsItselfWithoutAParent();
     void givesTheValidatorOfTheInputType_data();
     void givesTheValidatorOfTheInputType();
+    void followsItsDefinitionWhateverItsInputType_data();
+    void followsItsDefinitionWhateverItsInputType();
+    void showsATextOfAnyLength();
+    void keepsTheValidatorOfTheDefinition_data();
     void keepsTheValidatorOfTheDefinition();
     void takesTheDecimalsOfADefinitionReferredTo();
     void isBareForRealNumbersOfAForeignDefinition();
     void isBareForRealNumbersOfAnEmptyReference();
-    void followsAText();
-    void anEqualTextKeepsCursorAndSelection();
-    void followsVisibilityAndEnabledState();
-    void comparesVisibilityAndEnabledStateFirst();
-    void followsASelection();
-    void deselectsWhenTheDefinitionSelectsNothing();
-    void followsTextAndSelectionTogether();
-    void anEqualSelectionKeepsTheCursorAtItsStart();
-    void aStartAloneMovesTheCursor();
-    void countsASelectionInUnitsOfQt();
-    void ignoresOtherEvents_data();
-    void ignoresOtherEvents();
-    void reportsMissingArguments();
     void statusUpdateAppliesVisibilityAndEnabledState();
+    void statusUpdateLeavesTextAndSelectionAlone();
     void withoutDefinitionItIsBareAndReportsIt();
     void withoutDefinitionItNeverChanges();
     void withoutDefinitionClearingEmptiesTheWidgetAndReports();
@@ -140,16 +112,85 @@ void QtLineEditTest::givesTheValidatorOfTheInputType()
     QVERIFY(edit.GetValidator() == nullptr);
 }
 
-void QtLineEditTest::keepsTheValidatorOfTheDefinition()
+void QtLineEditTest::followsItsDefinitionWhateverItsInputType_data()
 {
+    QTest::addColumn<int>("inputType");
+    QTest::addColumn<bool>("hasValidator");
+    for (const int inputType : {0, 1, 2, 3})
+    {
+        QTest::addRow("type %d", inputType) << inputType << false;
+        QTest::addRow("type %d with a validator", inputType) << inputType << true;
+    }
+}
+
+void QtLineEditTest::followsItsDefinitionWhateverItsInputType()
+{
+    QFETCH(int, inputType);
+    QFETCH(bool, hasValidator);
     HostFixture host;
     bool isDestroyed = false;
-    auto opDefinition = MakeOwner<LineEditDefinition>(L"id", LineEditInputType::Integer);
+    auto opDefinition = MakeOwner<LineEditDefinition>(L"id", inputType);
+    LineEditDefinition& definition = *opDefinition;
+    definition.SetText(L"12");
+    if (hasValidator)
+        definition.SetValidator(MakeOwner<NotingValidator>(isDestroyed));
+
+    QtLineEdit edit(std::move(opDefinition), nullptr);
+    QCOMPARE(edit.text(), QString("12"));
+    QCOMPARE(edit.objectName(), QString("id"));
+    QCOMPARE(edit.property("IsDefinition"), QVariant(true));
+    definition.SetText(L"34");
+    QCOMPARE(edit.text(), QString("34"));
+    QTest::keyClick(&edit, Qt::Key_5);
+
+    QCOMPARE(definition.GetText(), std::wstring(L"345"));
+    QVERIFY(definition.IsEditing());
+    QVERIFY(!isDestroyed);
+}
+
+void QtLineEditTest::showsATextOfAnyLength()
+{
+    const std::wstring longText(40000, L'7');
+    const QString expected = QString::fromStdWString(longText);
+    HostFixture host;
+    auto opDefinition = MakeOwner<NotingLineEditDefinition>(L"id");
+    NotingLineEditDefinition& definition = *opDefinition;
+    definition.SetText(longText);
+    definition.writes.clear();
+
+    QtLineEdit edit(std::move(opDefinition), nullptr);
+    QVERIFY(edit.text() == expected);
+    definition.SetText(longText + L"8");
+    QVERIFY(edit.text() == expected + "8");
+    edit.SetText(longText);
+
+    QVERIFY(edit.text() == expected);
+    QVERIFY(definition.GetText() == longText);
+    // The test wrote once, and so did the edit.
+    QCOMPARE(definition.writes.size(), std::size_t(2));
+}
+
+void QtLineEditTest::keepsTheValidatorOfTheDefinition_data()
+{
+    QTest::addColumn<int>("inputType");
+    QTest::newRow("whole number") << int(LineEditInputType::Integer);
+    QTest::newRow("real number") << int(LineEditInputType::Real);
+}
+
+void QtLineEditTest::keepsTheValidatorOfTheDefinition()
+{
+    QFETCH(int, inputType);
+    HostFixture host;
+    bool isDestroyed = false;
+    auto opDefinition = MakeOwner<LineEditDefinition>(L"id", inputType);
     opDefinition->SetValidator(MakeOwner<NotingValidator>(isDestroyed));
+    const LineEditDefinition& definition = *opDefinition;
+    const ValidatorBase* pOwn = definition.GetValidator();
 
     const QtLineEdit edit(std::move(opDefinition), nullptr);
 
     QVERIFY(!isDestroyed);
+    QCOMPARE(definition.GetValidator(), pOwn);
 }
 
 void QtLineEditTest::takesTheDecimalsOfADefinitionReferredTo()
@@ -196,158 +237,6 @@ void QtLineEditTest::isBareForRealNumbersOfAnEmptyReference()
     QCOMPARE(edit.objectName(), QString());
 }
 
-void QtLineEditTest::followsAText()
-{
-    LineEditFixture f;
-
-    f.pDefinition->SetText(L"a\U0001F4D0角");
-
-    QCOMPARE(f.opEdit->text(), QString::fromUtf8("a\xF0\x9F\x93\x90\xE8\xA7\x92"));
-}
-
-void QtLineEditTest::anEqualTextKeepsCursorAndSelection()
-{
-    LineEditFixture f;
-    const QSignalSpy changes(f.opEdit.Get(), &QLineEdit::textChanged);
-    f.opEdit->setSelection(1, 2);
-
-    f.pDefinition->SetCaption(L"raises the event");
-
-    QCOMPARE(f.opEdit->selectedText(), QString("2."));
-    QCOMPARE(f.opEdit->cursorPosition(), 3);
-    QCOMPARE(changes.count(), 0);
-}
-
-void QtLineEditTest::followsVisibilityAndEnabledState()
-{
-    LineEditFixture f;
-
-    f.pDefinition->SetVisible(false);
-    f.pDefinition->SetEnabled(false);
-    QVERIFY(f.opEdit->isHidden());
-    QVERIFY(!f.opEdit->isEnabled());
-
-    f.pDefinition->SetVisible(true);
-    f.pDefinition->SetEnabled(true);
-    QVERIFY(f.opEdit->isVisible());
-    QVERIFY(f.opEdit->isEnabled());
-}
-
-void QtLineEditTest::comparesVisibilityAndEnabledStateFirst()
-{
-    LineEditFixture f;
-    f.parent.hide();
-    f.parent.setEnabled(false);
-
-    f.pDefinition->SetVisible(false);
-    f.pDefinition->SetEnabled(false);
-
-    QVERIFY(!f.opEdit->isHidden());
-    QVERIFY(!f.opEdit->testAttribute(Qt::WA_ForceDisabled));
-}
-
-void QtLineEditTest::followsASelection()
-{
-    LineEditFixture f(L"abcdef");
-
-    f.pDefinition->SetSelection(2, 3);
-
-    QCOMPARE(f.opEdit->selectionStart(), 2);
-    QCOMPARE(f.opEdit->selectedText(), QString("cde"));
-}
-
-void QtLineEditTest::deselectsWhenTheDefinitionSelectsNothing()
-{
-    LineEditFixture f(L"abcdef");
-    f.pDefinition->SetSelection(2, 3);
-
-    f.pDefinition->SetSelection(-1, 0);
-
-    QVERIFY(!f.opEdit->hasSelectedText());
-    QCOMPARE(f.opEdit->cursorPosition(), 5);
-}
-
-void QtLineEditTest::followsTextAndSelectionTogether()
-{
-    LineEditFixture f(L"abcdef");
-    ChangeArgs args;
-    f.pDefinition->GetControlDefinitionChangeEvent()->Delete(f.opEdit.Get());
-    f.pDefinition->SetText(L"uvwxyz");
-    f.pDefinition->SetSelection(1, 2);
-
-    f.opEdit->On(&args);
-
-    QCOMPARE(f.opEdit->text(), QString("uvwxyz"));
-    QCOMPARE(f.opEdit->selectedText(), QString("vw"));
-}
-
-void QtLineEditTest::anEqualSelectionKeepsTheCursorAtItsStart()
-{
-    LineEditFixture f(L"abcdef");
-    f.opEdit->setCursorPosition(4);
-    f.opEdit->cursorBackward(true, 3);
-
-    f.pDefinition->SetCaption(L"raises the event");
-
-    QCOMPARE(f.opEdit->selectedText(), QString("bcd"));
-    QCOMPARE(f.opEdit->cursorPosition(), 1);
-}
-
-void QtLineEditTest::aStartAloneMovesTheCursor()
-{
-    HostFixture host;
-    auto opDefinition = MakeOwner<StartOnlyDefinition>(L"id");
-    LineEditDefinition& definition = *opDefinition;
-    definition.SetText(L"abcdef");
-    QtLineEdit edit(std::move(opDefinition), nullptr);
-    QCOMPARE(edit.cursorPosition(), 6);
-
-    definition.SetSelection(2, 1);
-
-    QCOMPARE(edit.cursorPosition(), 2);
-    QVERIFY(!edit.hasSelectedText());
-}
-
-void QtLineEditTest::countsASelectionInUnitsOfQt()
-{
-    LineEditFixture f(L"\U0001F4D0\U0001F4D0c");
-
-    f.pDefinition->SetSelection(0, 4);
-
-    QCOMPARE(f.opEdit->selectedText(), QString::fromUtf8("\xF0\x9F\x93\x90\xF0\x9F\x93\x90"));
-    QCOMPARE(f.opEdit->selectionLength(), 4);
-}
-
-void QtLineEditTest::ignoresOtherEvents_data()
-{
-    AddOtherEventTypes();
-}
-
-void QtLineEditTest::ignoresOtherEvents()
-{
-    QFETCH(int, type);
-    LineEditFixture f;
-    {
-        const QSignalBlocker unwritten(f.opEdit.Get());
-        f.opEdit->setText("by hand");
-    }
-    ChangeArgs args(type);
-
-    f.opEdit->On(&args);
-
-    QCOMPARE(f.opEdit->text(), QString("by hand"));
-}
-
-void QtLineEditTest::reportsMissingArguments()
-{
-    LineEditFixture f;
-
-    f.opEdit->On(nullptr);
-
-    EXPECT_WARNING(f.host.warnings, L"pArgs为空", "vesk::QtLineEdit::On");
-    QCOMPARE(f.opEdit->text(), QString("12.5"));
-}
-
 void QtLineEditTest::statusUpdateAppliesVisibilityAndEnabledState()
 {
     LineEditFixture f;
@@ -361,6 +250,19 @@ void QtLineEditTest::statusUpdateAppliesVisibilityAndEnabledState()
 
     QVERIFY(f.opEdit->isHidden());
     QVERIFY(f.opEdit->testAttribute(Qt::WA_ForceDisabled));
+}
+
+void QtLineEditTest::statusUpdateLeavesTextAndSelectionAlone()
+{
+    LineEditFixture f;
+    f.pDefinition->GetControlDefinitionChangeEvent()->Delete(f.opEdit.Get());
+    f.pDefinition->SetText(L"another");
+    f.pDefinition->SetSelection(0, 2);
+
+    f.opEdit->UpdateStatus();
+
+    QCOMPARE(f.opEdit->text(), QString("12.5"));
+    QVERIFY(!f.opEdit->hasSelectedText());
 }
 
 void QtLineEditTest::withoutDefinitionItIsBareAndReportsIt()

@@ -45,6 +45,7 @@ private slots:
     void theEditorOfAnEmbeddedViewIsParkedFarOff();
     void placingWithoutAnEditorDoesNothing();
     void placingWithoutAViewDoesNothing();
+    void textOfAnyLengthIsDeliveredWhole();
     void placingWithoutAViewWidgetIsReported();
     void placingWithoutInputEndsIt();
     void placingInAnUnknownStateIsReported();
@@ -389,6 +390,21 @@ void TemporaryDimensionHandlerTest::placingWithoutAViewDoesNothing()
     QMetaObject::invokeMethod(&f.Object(), "ResetEditorPosition");
 
     QCOMPARE(f.Editor()->pos(), position);
+}
+
+void TemporaryDimensionHandlerTest::textOfAnyLengthIsDeliveredWhole()
+{
+    HandlerFixture f;
+    f.host.BeginAction();
+    f.Object().setProperty("rawTextInput", true);
+    const QString longText(40000, '7');
+
+    f.TypeLength(longText);
+    QTest::keyClick(f.Editor(), Qt::Key_8);
+    f.FilterKey(Qt::Key_Return);
+
+    QCOMPARE(f.host.actionLog.inputs.size(), std::size_t(1));
+    QVERIFY(f.host.actionLog.inputs.front().text == (longText + '8').toStdWString());
 }
 
 void TemporaryDimensionHandlerTest::placingWithoutAViewWidgetIsReported()
