@@ -10,6 +10,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <utility>
 
 namespace vesk
 {
@@ -21,6 +22,39 @@ constexpr QDockWidget::DockWidgetFeatures DockableFeatures = QDockWidget::DockWi
                                                              QDockWidget::DockWidgetMovable |
                                                              QDockWidget::DockWidgetFloatable;
 
+/// Tells an operation of a manager that runs code of others whether the manager still lives.
+///
+/// Stands on the stack of that operation; operations may nest.
+class LifeWatch
+{
+public:
+    explicit LifeWatch(const DockManagerImpl* pManager)
+        : m_pManager(pManager), m_pOuter(std::exchange(s_pInnermost, this))
+    {}
+    ~LifeWatch() { s_pInnermost = m_pOuter; }
+    LifeWatch(const LifeWatch&) = delete;
+    LifeWatch& operator=(const LifeWatch&) = delete;
+
+    bool IsAlive() const { return m_pManager != nullptr; }
+
+    static void OnDestroyed(const DockManagerImpl* pManager)
+    {
+        for (LifeWatch* pWatch = s_pInnermost; pWatch != nullptr; pWatch = pWatch->m_pOuter)
+        {
+            if (pWatch->m_pManager == pManager)
+                pWatch->m_pManager = nullptr;
+        }
+    }
+
+private:
+    const DockManagerImpl* m_pManager;
+    LifeWatch* m_pOuter;
+
+    static LifeWatch* s_pInnermost;
+};
+
+LifeWatch* LifeWatch::s_pInnermost = nullptr;
+
 }
 
 DockManagerImpl::DockManagerImpl(IApplicationWindow* pMainWindow) : m_pMainWindow(pMainWindow) {}
@@ -29,7 +63,10 @@ DockManagerImpl::DockManagerImpl(const DockManagerImpl& other) = default;
 
 DockManagerImpl& DockManagerImpl::operator=(const DockManagerImpl& other) = default;
 
-DockManagerImpl::~DockManagerImpl() = default;
+DockManagerImpl::~DockManagerImpl()
+{
+    LifeWatch::OnDestroyed(this);
+}
 
 OwnerPtr<IDock> DockManagerImpl::CreateDock(const std::wstring& name,
                                             const std::wstring& title) const
@@ -141,12 +178,21 @@ std::vector<IDock*> DockManagerImpl::TabifiedDocks(IDock* dock) const
     if (!Check(pQDockWidget != nullptr, VESK_SITE(Function, L"pQDockWidget是空指针")))
         return {};
 
+    // Reported first: a report may run an event loop, in which panes go, and the manager with them.
+    const LifeWatch watch(this);
+    const QList<QDockWidget*> qTabified = pQMainWindow->tabifiedDockWidgets(pQDockWidget);
+    for (QDockWidget* pTabified : qTabified)
+    {
+        Check(m_qDockWidgetToIDockMap.count(pTabified) != 0,
+              VESK_SITE(Function, L"m_qDockWidgetToIDockMap里没有要找的东西"));
+        if (!watch.IsAlive())
+            return {};
+    }
     std::vector<IDock*> tabified;
-    for (QDockWidget* pTabified : pQMainWindow->tabifiedDockWidgets(pQDockWidget))
+    for (QDockWidget* pTabified : qTabified)
     {
         const auto found = m_qDockWidgetToIDockMap.find(pTabified);
-        if (Check(found != m_qDockWidgetToIDockMap.end(),
-                  VESK_SITE(Function, L"m_qDockWidgetToIDockMap里没有要找的东西")))
+        if (found != m_qDockWidgetToIDockMap.end())
             tabified.push_back(found->second);
     }
     return tabified;
@@ -267,12 +313,15 @@ QDockWidget* DockManagerImpl::GetQDockWidget(IDock* pDock) const
 }
 
 /// Does something with each pane, in the order of the names. Panes may come and go meanwhile: one
-/// that is gone when its turn comes is left out.
+/// that is gone when its turn comes is left out, and without the manager it ends.
 void DockManagerImpl::ForEachDock(const std::function<void(IDock&)>& operation) const
 {
+    const LifeWatch watch(this);
     const std::map<std::wstring, IDock*> docks = m_docks;
     for (const auto& [name, pDock] : docks)
     {
+        if (!watch.IsAlive())
+            return;
         const auto found = m_docks.find(name);
         if (pDock != nullptr && found != m_docks.end() && found->second == pDock)
             operation(*pDock);

@@ -214,7 +214,11 @@ bool TemporaryDimensionHandler::FindOrCreateEditor(QWidget* pViewWidget)
     m_pEditor = pViewWidget->findChild<TemporaryDimensionHandleEditor*>(name);
     if (m_pEditor != nullptr)
         return true;
-    m_pEditor = CreateChild<TemporaryDimensionHandleEditor>(pViewWidget, Function);
+    const QPointer<TemporaryDimensionHandler> pSelf(this);
+    auto* pEditor = CreateChild<TemporaryDimensionHandleEditor>(pViewWidget, Function);
+    if (pSelf == nullptr)
+        return false;
+    m_pEditor = pEditor;
     if (!Check(m_pEditor != nullptr, VESK_SITE(Function, L"m_pEditor创建失败。")))
         return false;
     m_pEditor->setObjectName(name);

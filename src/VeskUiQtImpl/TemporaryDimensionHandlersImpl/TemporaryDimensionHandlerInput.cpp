@@ -88,7 +88,9 @@ void TemporaryDimensionHandler::ShowEditor(const QString& text, bool isSelected)
     if (pSelf == nullptr)
         return;
     SetEditorPosition(anchor);
-    RefreshView();
+    // A report of a view without a widget may have run an event loop.
+    if (pSelf != nullptr)
+        RefreshView();
 }
 
 void TemporaryDimensionHandler::CommitValue(const DimensionKind& kind, const char* function)

@@ -1,7 +1,10 @@
 #include "Command/ICommandManager.h"
 #include "Control/ButtonGroupDefinitions.h"
 #include "Control/ComboBoxDefinition.h"
+#include "Control/CommandButtonDefinition.h"
 #include "Control/CommandButtonMenuDefinition.h"
+#include "Control/LabelDefinition.h"
+#include "Control/LineEditDefinition.h"
 #include "Control/ProgressBarDefinition.h"
 #include "Control/QtCheckBoxGroup.h"
 #include "Control/QtComboBox.h"
@@ -69,6 +72,25 @@ VeskIControlFactory& Factory()
     return *VeskIControlFactory::Get();
 }
 
+OwnerPtr<IControl> MakeButton(Watch& watch, QWidget& parent)
+{
+    return Placed(Factory().CreateQtButton(
+                      MakeOwner<Watched<CommandButtonDefinition>>(watch, L"id", L"Command")),
+                  parent);
+}
+
+OwnerPtr<IControl> MakeLabel(Watch& watch, QWidget& parent)
+{
+    return Placed(Factory().CreateQtLabel(MakeOwner<Watched<LabelDefinition>>(watch, L"id")),
+                  parent);
+}
+
+OwnerPtr<IControl> MakeLineEdit(Watch& watch, QWidget& parent)
+{
+    return Placed(Factory().CreateQtLineEdit(MakeOwner<Watched<LineEditDefinition>>(watch, L"id")),
+                  parent);
+}
+
 OwnerPtr<IControl> MakeComboBox(Watch& watch, QWidget& parent)
 {
     return Placed(Factory().CreateQtComboBox(MakeOwner<Watched<ComboBoxDefinition>>(watch, L"id")),
@@ -106,6 +128,9 @@ OwnerPtr<IControl> MakeRadioButtons(Watch& watch, QWidget& parent)
 void AddKinds()
 {
     QTest::addColumn<Creation>("create");
+    QTest::newRow("button") << Creation(&MakeButton);
+    QTest::newRow("label") << Creation(&MakeLabel);
+    QTest::newRow("line edit") << Creation(&MakeLineEdit);
     QTest::newRow("combo box") << Creation(&MakeComboBox);
     QTest::newRow("progress bar") << Creation(&MakeProgressBar);
     QTest::newRow("command button menu") << Creation(&MakeMenu);
@@ -176,7 +201,7 @@ struct CheckBoxFixture
     OwnerPtr<QtCheckBoxGroup> opGroup;
 };
 
-/// Ends of the controls that have items, and of the progress bar.
+/// Ends of controls: what holds for all kinds, and what for those that have items.
 class ItemControlLifetimeTest : public QObject
 {
     Q_OBJECT

@@ -1,0 +1,130 @@
+#pragma once
+
+#include "Control/ButtonGroupDefinitions.h"
+#include "Control/ChangeArgs.h"
+#include "Control/ComboBoxDefinition.h"
+#include "Control/CommandButtonDefinition.h"
+#include "Control/CommandButtonMenuFixture.h"
+#include "Control/LabelDefinition.h"
+#include "Control/LineEditDefinitions.h"
+#include "Control/ProgressBarDefinition.h"
+#include "Control/QtButton.h"
+#include "Control/QtCheckBoxGroup.h"
+#include "Control/QtLineEdit.h"
+#include "Control/QtRadioButtonGroup.h"
+#include "Control/VeskIControlFactory.h"
+#include "Support/HostFixture.h"
+#include "Support/MemberAccess.h"
+#include "WarningScript.h"
+
+#include <QApplication>
+#include <QChildEvent>
+#include <QPointer>
+#include <QVBoxLayout>
+#include <QtTest>
+
+#include <memory>
+#include <vector>
+
+namespace vesk::test
+{
+
+VESK_EXPOSE(CheckBoxes, std::vector<QCheckBox*>, QtCheckBoxGroup, m_checkBoxes)
+VESK_EXPOSE(RadioButtons, std::vector<QRadioButton*>, QtRadioButtonGroup, m_radioButtons)
+
+inline VeskIControlFactory& Factory()
+{
+    return *VeskIControlFactory::Get();
+}
+
+/// A control in a window, both of which are destroyed while the first warning is on screen.
+struct ReportingControl
+{
+    ReportingControl()
+    {
+        new QVBoxLayout(pParent.get());
+        pParent->show();
+        script.SetAct([this] { Destroy(); });
+    }
+
+    /// Owns a control in the window. What it reports from now on it does not survive.
+    template <class Control>
+    Control& Own(OwnerPtr<Control> opMade)
+    {
+        Control& control = *opMade;
+        pVictim = dynamic_cast<QObject*>(&control);
+        if (auto* pWidget = dynamic_cast<QWidget*>(pVictim.data()))
+            pWidget->setParent(pParent.get());
+        opControl = std::move(opMade);
+        return control;
+    }
+
+    IControlDefinitionChangeEventHandler& Handler() const
+    {
+        return *dynamic_cast<IControlDefinitionChangeEventHandler*>(opControl.Get());
+    }
+
+    void Tell(int type, int index, const IControlDefinition* pItem) const
+    {
+        ChangeArgs args(type, index, pItem);
+        Handler().On(&args);
+    }
+
+    void Destroy()
+    {
+        opControl.Reset();
+        pParent.reset();
+    }
+
+    HostFixture host;
+    WarningScript script;
+    std::unique_ptr<QWidget> pParent = std::make_unique<QWidget>();
+    OwnerPtr<IControl> opControl;
+    QPointer<QObject> pVictim;
+};
+
+/// Takes the next child of a kind away from its parent while it is being made, so that making it
+/// fails.
+class ChildThief final : public QObject
+{
+public:
+    explicit ChildThief(bool isWidgetWanted) : m_isWidgetWanted(isWidgetWanted)
+    {
+        qApp->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* pWatched, QEvent* pEvent) override
+    {
+        if (m_isDone || pEvent->type() != QEvent::ChildAdded)
+            return QObject::eventFilter(pWatched, pEvent);
+        QObject* pChild = static_cast<QChildEvent*>(pEvent)->child();
+        if (pChild->isWidgetType() != m_isWidgetWanted || !pWatched->isWidgetType())
+            return QObject::eventFilter(pWatched, pEvent);
+        m_isDone = true;
+        if (pChild->isWidgetType())
+            static_cast<QWidget*>(pChild)->setParent(nullptr);
+        else
+            pChild->setParent(nullptr);
+        return false;
+    }
+
+private:
+    bool m_isWidgetWanted;
+    bool m_isDone = false;
+};
+
+/// A container of entries, some of which may be missing.
+struct LooseContainerDefinition final : ControlDefinition<IMenuItemContainerDefinition>
+{
+    LooseContainerDefinition() : ControlDefinition(L"Container") {}
+
+    std::wstring GetIconPath() const override { return IconPath; }
+    std::vector<const IMenuItemDefinition*> GetMenuItemDefinitions() const override
+    {
+        return items;
+    }
+
+    std::vector<const IMenuItemDefinition*> items;
+};
+
+}
