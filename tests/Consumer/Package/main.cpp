@@ -1,5 +1,7 @@
-// Shows a text on a label, made through the control factory of the installed package.
+// Shows a text on a label, made through the control factory of the installed package, and on a
+// control of its own.
 
+#include <Control/Control.h>
 #include <Control/IControl.h>
 #include <Control/LabelDefinition.h>
 #include <Control/VeskIControlFactory.h>
@@ -28,6 +30,31 @@ bool ShowsCaption()
            pLabel->objectName() == QLatin1String("Consumer.Label");
 }
 
+/// A control written outside the library: the host treats it like any other.
+class Dial final : public vesk::Control
+{
+public:
+    vesk::IControlDefinition* GetControlDefinition() const override { return &m_definition; }
+    void UpdateStatus() override { m_isEnabled = m_definition.IsEnabled(); }
+
+    bool IsEnabled() const { return m_isEnabled; }
+    void Disable() { m_definition.SetEnabled(false); }
+
+private:
+    mutable vesk::LabelDefinition m_definition{L"Consumer.Dial"};
+    bool m_isEnabled = true;
+};
+
+bool FollowsAsAControl()
+{
+    auto opDial = vesk::MakeOwner<Dial>();
+    Dial& dial = *opDial;
+    const vesk::OwnerPtr<vesk::IControl> opControl = std::move(opDial);
+    dial.Disable();
+    opControl->UpdateStatus();
+    return !dial.IsEnabled() && opControl->GetControlDefinition()->GetId() == L"Consumer.Dial";
+}
+
 }
 
 int main(int argc, char* argv[])
@@ -45,6 +72,11 @@ int main(int argc, char* argv[])
         if (!ShowsCaption())
         {
             std::fprintf(stderr, "the label does not show its caption\n");
+            return 1;
+        }
+        if (!FollowsAsAControl())
+        {
+            std::fprintf(stderr, "the program's own control does not follow its definition\n");
             return 1;
         }
     }
