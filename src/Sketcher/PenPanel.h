@@ -21,8 +21,9 @@ class ComboBoxDefinition;
 class ControlHost;
 }
 
-/// Line style and line colour, in the ribbon: those of the selected entities, else those of the
-/// next ones. What the user chooses holds for both.
+/// Line style and line colour, in the ribbon: with a selection those of the selected entities,
+/// nothing where they differ, and else those of the next ones. What the user chooses is for the
+/// ones that are shown alone.
 class PenPanel final : public QObject, public vesk::IControlDefinitionChangeEventHandler
 {
     Q_OBJECT

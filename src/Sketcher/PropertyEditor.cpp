@@ -42,6 +42,7 @@ bool PropertyEditor::SetPenPart(const PropertyRecord& record)
     JournalManager::GetInstance().Add(record);
     if (isOfSelection)
         m_sketch.SetPen(m_selection.GetIds(), part->member, *value);
-    m_sketch.SetCurrentPen(part->member, *value);
+    else
+        m_sketch.SetCurrentPen(part->member, *value);
     return true;
 }

@@ -11,7 +11,8 @@ struct PropertyRecord;
 /// Sets the properties of the drawing, by the user's hand or by a replay's.
 ///
 /// "name" of "drawing" is its name. "style" and "colour" of "pen" are how the next entities are
-/// drawn; of "selection" they are the selected entities' as well, which is one undo step.
+/// drawn; of "selection" they are the selected entities', which is one undo step, and the next
+/// entities are drawn as before.
 class PropertyEditor final
 {
 public:

@@ -190,6 +190,59 @@ private slots:
         VerifyReplay();
     }
 
+    void aPenChosenForASelectionIsNotTheNextLines()
+    {
+        ScriptedUser user;
+
+        user.ChooseItem(s_colour, 4);
+        DrawTwoLines(user);
+        user.ClickAt(20, 0).ChooseItem(s_style, 1).ChooseItem(s_colour, 1).Do([] {
+            QCOMPARE(ShownItem(s_style), 1);
+            QCOMPARE(ShownItem(s_colour), 1);
+        });
+        user.ClickAt(20, 40).Do([] {
+            QCOMPARE(ShownItem(s_style), 0);
+            QCOMPARE(ShownItem(s_colour), 4);
+        });
+        user.DrawLine(-100, -80, 100, -80);
+
+        QCOMPARE(user.Run(m_pFixture->Draw()), 0);
+        QCOMPARE(Pens(), QStringList({"dashed red", "solid blue", "solid blue"}));
+        VerifyReplay();
+    }
+
+    void whatTheNextLineIsDrawnWithIsTheSameAfterAnUndo()
+    {
+        ScriptedUser user;
+
+        user.DrawLine(-100, 0, 100, 0).ChooseItem(s_style, 3);
+        user.ClickAt(20, 0).ChooseItem(s_style, 2).Click("Sketcher.Undo");
+        user.Do([] { QCOMPARE(ShownItem(s_style), 0); });
+        user.ClickAt(20, 40).Do([] { QCOMPARE(ShownItem(s_style), 3); });
+        user.DrawLine(-100, 80, 100, 80);
+
+        QCOMPARE(user.Run(m_pFixture->Draw()), 0);
+        QCOMPARE(Pens(), QStringList({"solid default", "dashdot default"}));
+        VerifyReplay();
+    }
+
+    void aChoiceForSeveralPensIsGivenToAllOfThem()
+    {
+        ScriptedUser user;
+
+        user.DrawLine(-100, 0, 100, 0).ChooseItem(s_style, 1).DrawLine(-100, 80, 100, 80);
+        user.ClickAt(20, 0).ClickAt(20, 80, Qt::ControlModifier).Do([] {
+            QCOMPARE(ShownItem(s_style), -1);
+        });
+        user.ChooseItem(s_style, 2).Do([] { QCOMPARE(ShownItem(s_style), 2); });
+        user.ClickAt(20, 40).Do([] { QCOMPARE(ShownItem(s_style), 1); });
+
+        QCOMPARE(user.Run(m_pFixture->Draw()), 0);
+        QCOMPARE(Pens(), QStringList({"dotted default", "dotted default"}));
+        QCOMPARE(Properties(), QStringList({"pen style dashed", "selection style dotted"}));
+        VerifyReplay();
+    }
+
     void boxesShowWhatTheSelectedHaveInCommon()
     {
         ScriptedUser user;

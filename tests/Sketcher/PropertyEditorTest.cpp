@@ -54,15 +54,19 @@ private slots:
         QCOMPARE(workspace.sketch.GetEntities().size(), std::size_t{3});
     }
 
-    void aChangeOfTheSelectionHoldsForTheNextEntities()
+    void aChangeOfTheSelectionLeavesTheNextEntitiesAlone()
     {
         Workspace workspace;
-        workspace.selection.Select({workspace.sketch.AddLine({0, 0, 0}, {1, 0, 0})});
+        workspace.properties.Set({L"pen", L"colour", L"blue"});
+        const int selected = workspace.sketch.AddLine({0, 0, 0}, {1, 0, 0});
+        workspace.selection.Select({selected});
 
-        workspace.properties.Set({L"selection", L"style", L"dotted"});
+        QVERIFY(workspace.properties.Set({L"selection", L"style", L"dotted"}));
+        QVERIFY(workspace.properties.Set({L"selection", L"colour", L"red"}));
 
         const int next = workspace.sketch.AddLine({0, 0, 0}, {1, 0, 0});
-        QCOMPARE(NameOf(workspace, next), QStringLiteral("dotted default"));
+        QCOMPARE(NameOf(workspace, selected), QStringLiteral("dotted red"));
+        QCOMPARE(NameOf(workspace, next), QStringLiteral("solid blue"));
     }
 
     void whatIsSetIsRecorded()
