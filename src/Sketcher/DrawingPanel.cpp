@@ -1,11 +1,15 @@
 #include "DrawingPanel.h"
 
+#include "FieldKeys.h"
 #include "PlaceControl.h"
 #include "Workspace.h"
 
 #include "Control/LabelDefinition.h"
 #include "Control/LineEditDefinition.h"
+#include "HostUi/QtText.h"
 #include "Journal/JournalRecord.h"
+
+#include <QLineEdit>
 
 #include <utility>
 
@@ -21,7 +25,11 @@ DrawingPanel::DrawingPanel(Workspace& workspace, Qtitan::RibbonGroup& group, Con
     m_pCount = PlaceControl(MakeOwner<LabelDefinition>(L"Sketcher.EntityCount"), QString(), group,
                             controls);
     if (m_pName != nullptr)
+    {
         m_pName->GetLineEditEvent()->Add(this);
+        if (auto* pField = group.findChild<QLineEdit*>(ToQString(m_pName->GetId())))
+            new FieldKeys(*pField, *m_pName, [this] { return m_sketch.GetName(); });
+    }
     connect(&workspace.sketch, &Sketch::changed, this, &DrawingPanel::OnSketchChanged);
     OnSketchChanged();
 }

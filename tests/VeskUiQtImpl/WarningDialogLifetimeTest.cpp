@@ -3,9 +3,9 @@
 #include "HostUi/ControlHost.h"
 #include "TemporaryDimensionHandlersImpl/HandlerFixture.h"
 
+#include "Support/TestValues.h"
 #include <QEventLoop>
 #include <QTimer>
-#include <QtTest>
 
 #include <algorithm>
 #include <memory>

@@ -2,6 +2,7 @@
 
 #include "CommandTable.h"
 #include "EntityEdit.h"
+#include "FieldKeys.h"
 #include "ShapeKind.h"
 #include "Workspace.h"
 
@@ -9,14 +10,16 @@
 #include "Dimension/LengthUnit.h"
 #include "HostUi/ControlHost.h"
 #include "HostUi/QtText.h"
+#include "HostUi/TypedText.h"
 
 #include <QFormLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QScrollArea>
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <cmath>
+#include <cstddef>
 #include <utility>
 
 using namespace vesk;
@@ -103,7 +106,14 @@ void PropertyPane::AddRow(const ShapeProperty& property, ControlHost& controls, 
     pCaption->setBuddy(pWidget);
     layout.addRow(pCaption, pWidget);
     pDefinition->GetLineEditEvent()->Add(this);
+    const std::size_t index = m_rows.size();
     m_rows.push_back({property, pCaption, pDefinition, {}});
+    if (auto* pField = qobject_cast<QLineEdit*>(pWidget))
+    {
+        auto* pKeys =
+            new FieldKeys(*pField, *pDefinition, [this, index] { return m_rows[index].shown; });
+        connect(pKeys, &FieldKeys::givenBack, this, [this, index] { Accept(m_rows[index]); });
+    }
 }
 
 void PropertyPane::FindKinds()
@@ -181,15 +191,16 @@ std::wstring PropertyPane::GetText(const ShapeProperty& property) const
 
 void PropertyPane::Commit(Row& row, const std::wstring& text)
 {
-    // Not by a locale: that would take the comma of 1,500 for a mark of thousands.
-    bool isNumber = false;
-    const double typed = ToQString(text).trimmed().toDouble(&isNumber);
-    if (!isNumber || !std::isfinite(typed))
+    const bool isAngle = row.property.isAngle;
+    const LengthUnit& unit = LengthUnit::GetCurrent();
+    const TypedReading typed =
+        ReadTypedText(ToQString(text), isAngle ? Quantity::Angle : Quantity::Length, unit);
+    if (typed.fault != TypedTextFault::None)
     {
-        Refuse(row, QStringLiteral("这不是一个数"));
+        Refuse(row, DescribeFault(typed.fault));
         return;
     }
-    const double value = row.property.isAngle ? typed : LengthUnit::GetCurrent().ToModel(typed);
+    const double value = isAngle ? typed.value : unit.ToModel(typed.value);
     const EntityEdit edit{m_shownIds, row.property.name, value};
     if (!edit.IsPossible(m_workspace.sketch))
     {

@@ -23,8 +23,10 @@ class LineEditDefinition;
 
 /// The values of the selected entities, each in a line edit: those that all of them have.
 ///
-/// A value that the user finishes is sent as a command; one that makes no sense stays in its field,
-/// and a message says why. Values that differ between the entities are left empty.
+/// What the user types is read as in a dimension's editor, formulas and units too. A value that is
+/// finished is sent as a command; a text that makes no sense stays in its field, and a message says
+/// why. Escape gives a field the text back that it showed. Values that differ between the entities
+/// are left empty.
 class PropertyPane final : public QWidget,
                            public vesk::IPropertyWidget,
                            public vesk::ILineEditEventHandler

@@ -17,11 +17,11 @@
 #include "Support/MemberAccess.h"
 #include "WarningScript.h"
 
+#include "Support/TestValues.h"
 #include <QApplication>
 #include <QChildEvent>
 #include <QPointer>
 #include <QVBoxLayout>
-#include <QtTest>
 
 #include <memory>
 #include <vector>
