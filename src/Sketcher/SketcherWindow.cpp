@@ -53,7 +53,8 @@ OwnerPtr<CommandButtonDefinition> MakeDefinition(const CommandEntry& entry)
 }
 
 SketcherWindow::SketcherWindow(Workspace& workspace, DimensionInputController& input)
-    : m_workspace(workspace), m_pView(new SketchView(workspace, input, this))
+    : m_workspace(workspace), m_pView(new SketchView(workspace, input, this)),
+      m_ribbonFocus(*GetRibbon(), *m_pView, input)
 {
     LoadIcons();
     setWindowIcon(QIcon(QStringLiteral(":/icons/sketcher.svg")));

@@ -2,6 +2,7 @@
 
 #include "Foundation/OwnerPtr.h"
 #include "HostUi/MainWindow.h"
+#include "HostUi/RibbonFocus.h"
 
 #include <memory>
 #include <string>
@@ -65,6 +66,7 @@ private:
 
     Workspace& m_workspace;
     SketchView* m_pView;
+    vesk::RibbonFocus m_ribbonFocus;
     vesk::ProgressBarDefinition* m_pProgress = nullptr;
     QMenu* m_pPaneMenu = nullptr;
     std::vector<std::unique_ptr<QObject>> m_panels;
