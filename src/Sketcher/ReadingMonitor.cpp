@@ -38,6 +38,8 @@ ReadingMonitor::ReadingMonitor(QMainWindow& window, vesk::ProgressBarDefinition*
     : m_window(window), m_pProgress(pProgress)
 {
     SetEnabled(false);
+    if (m_pProgress != nullptr)
+        m_pProgress->SetVisible(true);
     qApp->installEventFilter(this);
     m_sincePause.start();
 }
@@ -45,8 +47,10 @@ ReadingMonitor::ReadingMonitor(QMainWindow& window, vesk::ProgressBarDefinition*
 ReadingMonitor::~ReadingMonitor()
 {
     SetEnabled(true);
-    if (m_pProgress != nullptr)
-        m_pProgress->SetValue(0);
+    if (m_pProgress == nullptr)
+        return;
+    m_pProgress->SetVisible(false);
+    m_pProgress->SetValue(0);
 }
 
 bool ReadingMonitor::Advance(std::size_t done, std::size_t total)

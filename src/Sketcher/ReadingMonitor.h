@@ -15,7 +15,7 @@ class ProgressBarDefinition;
 /// Keeps the window alive while a journal is read in it.
 ///
 /// Windows are painted, moved and resized as ever; keys and the mouse do nothing, but Escape and
-/// closing the window cancel the reading. Controls are disabled.
+/// closing the window cancel the reading. Controls are disabled. The progress is on screen as long.
 class ReadingMonitor final : public QObject
 {
     Q_OBJECT

@@ -144,7 +144,6 @@ void SketcherWindow::BuildProgress(ControlHost& controls)
     if (pWidget == nullptr)
         return;
     statusBar()->insertPermanentWidget(1, pWidget);
-    pProgress->SetVisible(true);
     m_pProgress = pProgress;
 }
 

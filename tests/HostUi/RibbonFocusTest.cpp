@@ -3,6 +3,7 @@
 #include "HostUi/DrawingView.h"
 #include "HostUi/InputFixture.h"
 
+#include "Support/TestValues.h"
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QCheckBox>
@@ -14,7 +15,6 @@
 #include <QRadioButton>
 #include <QSignalSpy>
 #include <QSpinBox>
-#include <QTest>
 #include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
