@@ -74,8 +74,8 @@ Session::Session(const Options& options)
         commands.push_back(std::move(entry));
     RegisterCommands(commands);
     m_window.BuildControls(commands, m_controls);
-    if (QMenu* pMenu = m_window.GetPaneMenu())
-        m_pPanes->Mark(*pMenu);
+    if (QToolButton* pButton = m_window.GetPaneButton())
+        m_pPanes->Attend(*pButton);
     if (!m_options.uiTree.isEmpty())
         m_pUiTree = std::make_unique<UiTreeWriter>(m_options.uiTree, m_input, [this] {
             return static_cast<int>(m_workspace.sketch.GetEntities().size());

@@ -78,6 +78,7 @@ void SketcherWindow::BuildControls(const std::vector<CommandEntry>& commands, Co
 void SketcherWindow::ReleaseControls()
 {
     m_pProgress = nullptr;
+    m_pPaneButton = nullptr;
     m_panels.clear();
 }
 
@@ -104,12 +105,12 @@ void SketcherWindow::BuildButtons(const std::vector<CommandEntry>& commands,
         connect(pShortcut, &QShortcut::activated, pButton, &QToolButton::click);
     }
     AddMenu(MakeZoomMenu(commands), *groups[L"视图"], controls);
-    m_pPaneMenu = AddMenu(MakePaneMenu(commands), *groups[L"面板"], controls);
+    m_pPaneButton = AddMenu(MakePaneMenu(commands), *groups[L"面板"], controls);
 }
 
-/// Places a button with a menu and returns the menu; null when there is none.
-QMenu* SketcherWindow::AddMenu(OwnerPtr<CommandButtonMenuDefinition> opDefinition,
-                               Qtitan::RibbonGroup& group, ControlHost& controls)
+/// Places a button with a menu and returns it; null when there is none.
+QToolButton* SketcherWindow::AddMenu(OwnerPtr<CommandButtonMenuDefinition> opDefinition,
+                                     Qtitan::RibbonGroup& group, ControlHost& controls)
 {
     CommandButtonMenuDefinition* pDefinition = opDefinition.Get();
     auto* pButton = qobject_cast<QToolButton*>(
@@ -118,7 +119,7 @@ QMenu* SketcherWindow::AddMenu(OwnerPtr<CommandButtonMenuDefinition> opDefinitio
         return nullptr;
     group.addSmallButton(pButton);
     pDefinition->SetVisible(true);
-    return pButton->menu();
+    return pButton;
 }
 
 void SketcherWindow::BuildPanels(Qtitan::RibbonPage& page, ControlHost& controls)

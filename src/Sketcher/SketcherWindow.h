@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-class QMenu;
+class QToolButton;
 class SketchView;
 struct CommandEntry;
 struct Workspace;
@@ -45,8 +45,9 @@ public:
     /// How far the reading of a drawing has come; null when there is no such control. Not owned.
     vesk::ProgressBarDefinition* GetProgress() const { return m_pProgress; }
 
-    /// The menu that shows and hides panes; null when there is no such control. Not owned.
-    QMenu* GetPaneMenu() const { return m_pPaneMenu; }
+    /// The button that shows all panes and has the menu of them; null when there is none. Not
+    /// owned.
+    QToolButton* GetPaneButton() const { return m_pPaneButton; }
 
     /// Drops what refers to the controls, before they go.
     void ReleaseControls();
@@ -58,8 +59,8 @@ signals:
 private:
     void BuildButtons(const std::vector<CommandEntry>& commands, Qtitan::RibbonPage& page,
                       vesk::ControlHost& controls);
-    QMenu* AddMenu(vesk::OwnerPtr<vesk::CommandButtonMenuDefinition> opDefinition,
-                   Qtitan::RibbonGroup& group, vesk::ControlHost& controls);
+    QToolButton* AddMenu(vesk::OwnerPtr<vesk::CommandButtonMenuDefinition> opDefinition,
+                         Qtitan::RibbonGroup& group, vesk::ControlHost& controls);
     void BuildPanels(Qtitan::RibbonPage& page, vesk::ControlHost& controls);
     void BuildProgress(vesk::ControlHost& controls);
     void OnSketchChanged();
@@ -68,6 +69,6 @@ private:
     SketchView* m_pView;
     vesk::RibbonFocus m_ribbonFocus;
     vesk::ProgressBarDefinition* m_pProgress = nullptr;
-    QMenu* m_pPaneMenu = nullptr;
+    QToolButton* m_pPaneButton = nullptr;
     std::vector<std::unique_ptr<QObject>> m_panels;
 };

@@ -14,6 +14,8 @@ const QString s_properties = QStringLiteral("PropertyWidget");
 const QString s_journal = QStringLiteral("Journal");
 const QString s_inspector = QStringLiteral("Inspector");
 
+const QString s_length = QStringLiteral("Sketcher.Property.length");
+
 const QString s_menu = QStringLiteral("Sketcher.Panes");
 const QString s_hideAll = QStringLiteral("Sketcher.HideAllPanes");
 const QString s_default = QStringLiteral("Sketcher.DefaultLayout");
@@ -66,6 +68,10 @@ private slots:
     void theFactoryLayoutComesBack();
     void thePanesFollowTheDrawing();
     void aValueIsEditedInThePane();
+    void aFormulaWithAUnitIsEditedInThePane();
+    void escapeGivesAValueBackInThePane();
+    void undoAfterAValueIsTheDrawings();
+    void theButtonShowsAllPanesAndEndsTheTool();
     void aDamagedLayoutFileIsSurvived();
 
 private:
@@ -76,6 +82,7 @@ private:
     bool WaitForPane(const QString& pane, const char* property, bool is);
     bool ClickTitle(const QString& pane, int fromTheRight);
     bool Restart();
+    bool ShowLengthOfALine();
 };
 
 /// What the user would call the layout.
@@ -115,6 +122,16 @@ bool PaneTest::ClickTitle(const QString& pane, int fromTheRight)
 bool PaneTest::Restart()
 {
     return Session().Close() == 0 && Session().Start();
+}
+
+/// A line of 100, selected, with the keys in the field of its length.
+bool PaneTest::ShowLengthOfALine()
+{
+    const bool isDrawn = Session().BeginLine() && Session().Type("100", {"Return", "Escape"}) &&
+                         Session().WaitForAction(QString()) && Session().Type("", {"Escape"});
+    const QRect list = RectOf(Pane(s_entities));
+    return isDrawn && Session().Input().Click(QPoint(list.left() + 30, list.top() + 54)) &&
+           Session().WaitForText(s_length, "100.000") && Session().Click(s_length);
 }
 
 void PaneTest::theViewHasRoomBesideThePanes()
@@ -232,15 +249,7 @@ void PaneTest::thePanesFollowTheDrawing()
 
 void PaneTest::aValueIsEditedInThePane()
 {
-    QVERIFY(Session().BeginLine());
-    QVERIFY(Session().Type("100", {"Return", "Escape"}));
-    QVERIFY(Session().WaitForAction(QString()));
-    QVERIFY(Session().Type("", {"Escape"}));
-    const QRect list = RectOf(Pane(s_entities));
-    QVERIFY(Session().Input().Click(QPoint(list.left() + 30, list.top() + 54)));
-    QVERIFY(Session().WaitForText("Sketcher.Property.length", "100.000"));
-
-    QVERIFY(Session().Click("Sketcher.Property.length"));
+    QVERIFY(ShowLengthOfALine());
     QVERIFY(Session().Type("", {"ctrl+a"}));
     QVERIFY(Session().Type("62.5", {"Return"}));
     QVERIFY(Session().WaitForRest());
@@ -249,6 +258,62 @@ void PaneTest::aValueIsEditedInThePane()
     QCOMPARE(lines.size(), 1);
     QCOMPARE(lines[0].GetLength(), 62.5);
     QVERIFY(ReadBytes(Session().PathOf("journal")).contains("Sketcher.SetProperty"));
+}
+
+void PaneTest::aFormulaWithAUnitIsEditedInThePane()
+{
+    QVERIFY(ShowLengthOfALine());
+
+    QVERIFY(Session().Type("", QStringList{"ctrl+a"} + InputDriver::Text("1m-5cm") +
+                                   QStringList{"Return"}));
+
+    QVERIFY(Session().WaitForText(s_length, "950.000"));
+    const QVector<DrawnLine> lines = CloseAndReadLines();
+    QCOMPARE(lines.size(), 1);
+    QCOMPARE(lines[0].GetLength(), 950.0);
+}
+
+void PaneTest::escapeGivesAValueBackInThePane()
+{
+    QVERIFY(ShowLengthOfALine());
+    QVERIFY(Session().Type("", QStringList{"ctrl+a"} + InputDriver::Text("62")));
+    QVERIFY(Session().WaitForText(s_length, "62"));
+
+    QVERIFY(Session().Type("", {"Escape"}));
+    QVERIFY(Session().WaitForText(s_length, "100.000"));
+    QVERIFY(Session().Type("", {"Return", "Tab"}));
+    QVERIFY(Session().WaitForRest());
+
+    QCOMPARE(CloseAndReadLines().value(0).GetLength(), 100.0);
+    QVERIFY(!ReadBytes(Session().PathOf("journal")).contains("Sketcher.SetProperty"));
+}
+
+void PaneTest::undoAfterAValueIsTheDrawings()
+{
+    QVERIFY(ShowLengthOfALine());
+    QVERIFY(Session().Type("", QStringList{"ctrl+a"} + InputDriver::Text("62.500") +
+                                   QStringList{"Return"}));
+    QVERIFY(Session().WaitForText("Sketcher.Property.end.x", "62.500"));
+
+    QVERIFY(Session().Type("", {"ctrl+z"}));
+
+    QVERIFY(Session().WaitForText(s_length, "100.000"));
+    QVERIFY(Session().WaitForText("Sketcher.Property.end.x", "100.000"));
+    QCOMPARE(CloseAndReadLines().value(0).GetLength(), 100.0);
+    QCOMPARE(ReadBytes(Session().PathOf("journal")).count("\"id\":\"Sketcher.Undo\""), 1);
+}
+
+void PaneTest::theButtonShowsAllPanesAndEndsTheTool()
+{
+    QVERIFY(Session().Click(s_hideAll));
+    QVERIFY(WaitForPane(s_journal, "visible", false));
+    QVERIFY(Session().BeginLine());
+
+    QVERIFY(Session().Click(s_menu));
+
+    QVERIFY(Session().WaitForAction(QString()));
+    for (const QString& name : {s_entities, s_properties, s_journal, s_inspector})
+        QVERIFY2(WaitForPane(name, "visible", true), qPrintable(name));
 }
 
 void PaneTest::aDamagedLayoutFileIsSurvived()

@@ -200,6 +200,32 @@ private slots:
         QVERIFY(withArrow != plain);
     }
 
+    void onlyAButtonThatIsWholeLooksChecked_data()
+    {
+        QTest::addColumn<Placing>("placing");
+        QTest::addColumn<QToolButton::ToolButtonPopupMode>("mode");
+        QTest::addColumn<bool>("looksChecked");
+        QTest::newRow("split, large") << Placing::Large << QToolButton::MenuButtonPopup << false;
+        QTest::newRow("split, small") << Placing::Small << QToolButton::MenuButtonPopup << false;
+        QTest::newRow("whole, large") << Placing::Large << QToolButton::InstantPopup << true;
+        QTest::newRow("whole, small") << Placing::Small << QToolButton::InstantPopup << true;
+    }
+
+    void onlyAButtonThatIsWholeLooksChecked()
+    {
+        QFETCH(Placing, placing);
+        QFETCH(QToolButton::ToolButtonPopupMode, mode);
+        QFETCH(bool, looksChecked);
+        const MenuFixture f(placing, mode);
+        f.pButton->defaultAction()->setCheckable(true);
+        const QImage unchecked = f.drawn();
+
+        f.pButton->defaultAction()->setChecked(true);
+
+        QVERIFY(f.pButton->isChecked());
+        QCOMPARE(f.drawn() != unchecked, looksChecked);
+    }
+
     void partUnderThePointerStandsOut_data()
     {
         QTest::addColumn<Placing>("placing");

@@ -19,6 +19,7 @@ namespace
 const QString s_menu = QStringLiteral("Sketcher.Panes");
 const QString s_hideAll = QStringLiteral("Sketcher.HideAllPanes");
 const QString s_default = QStringLiteral("Sketcher.DefaultLayout");
+const QString s_line = QStringLiteral("Sketcher.Line");
 const QString s_showAll = QStringLiteral("Sketcher.ShowAllPanes");
 
 /// What ought to be visible, told by the plainest rules.
@@ -96,11 +97,7 @@ private slots:
         user.Click(s_hideAll).Choose(s_menu, journal).Click(s_menu).Click(s_default);
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
-        QStringList commands;
-        for (const auto& record :
-             RecordsOf<vesk::CommandRecord>(ReadJournal(m_pFixture->File("journal"))))
-            commands << QString::fromStdWString(record.commandId);
-        QCOMPARE(commands, QStringList({s_hideAll, journal, s_showAll, s_default}));
+        QCOMPARE(Commands(), QStringList({s_hideAll, journal, s_showAll, s_default}));
     }
 
     void marksTellTheTruth_data()
@@ -162,6 +159,34 @@ private slots:
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
     }
 
+    void theButtonShowsAllPanesWhatEverRuns_data()
+    {
+        QTest::addColumn<bool>("isSecondTool");
+        QTest::addColumn<QString>("runsAfterwards");
+
+        QTest::newRow("a tool, which the click ends") << false << QString();
+        QTest::newRow("a tool after a tool, which goes on") << true << s_line;
+    }
+
+    void theButtonShowsAllPanesWhatEverRuns()
+    {
+        QFETCH(bool, isSecondTool);
+        QFETCH(QString, runsAfterwards);
+        ScriptedUser user;
+
+        user.Click(s_hideAll);
+        if (isSecondTool)
+            user.Click("Sketcher.Erase").UntilRunning("Sketcher.Erase");
+        user.Click(s_line).UntilRunning(s_line).ClickAt(0, 0);
+        user.Click(s_menu).UntilRunning(runsAfterwards).Do([] {
+            QCOMPARE(PaneDriver::Visible(), QStringLiteral("1111"));
+        });
+
+        QCOMPARE(user.Run(m_pFixture->Draw()), 0);
+        QCOMPARE(Commands().filter(s_showAll).size(), 1);
+        QCOMPARE(Commands().back(), s_showAll);
+    }
+
     void aPaneOfTheMenuComesToTheFront()
     {
         const QString entry = PaneDriver::CommandOf("Inspector");
@@ -203,6 +228,15 @@ private:
     static void AddRow(const char* name, const char* visible, const Act& act)
     {
         QTest::newRow(name) << act << QString(visible);
+    }
+
+    QStringList Commands() const
+    {
+        QStringList commands;
+        for (const auto& record :
+             RecordsOf<vesk::CommandRecord>(ReadJournal(m_pFixture->File("journal"))))
+            commands << QString::fromStdWString(record.commandId);
+        return commands;
     }
 
     /// As another part of the program would.

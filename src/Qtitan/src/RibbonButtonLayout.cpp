@@ -16,13 +16,19 @@ constexpr int ArrowMargin = 3;
 /// Between the edge of a small button and its content, and between its icon and its caption.
 constexpr int SmallMargin = 4;
 
+/// The mark of a split button tells how often it was clicked, and nothing of what goes on.
+bool showsMark(const QToolButton& button)
+{
+    return button.isChecked() && button.popupMode() != QToolButton::MenuButtonPopup;
+}
+
 QStyle::State stateOf(const QToolButton& button)
 {
     QStyle::State state = QStyle::State_None;
     state.setFlag(QStyle::State_Enabled, button.isEnabled());
     state.setFlag(QStyle::State_Active, button.isActiveWindow());
     state.setFlag(QStyle::State_AutoRaise, button.autoRaise());
-    state.setFlag(QStyle::State_On, button.isChecked());
+    state.setFlag(QStyle::State_On, showsMark(button));
     state.setFlag(QStyle::State_MouseOver, button.isEnabled() && button.underMouse());
     return state;
 }

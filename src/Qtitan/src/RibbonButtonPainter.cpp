@@ -36,6 +36,7 @@ QColor fillOf(const QToolButton& button, const RibbonColors& colors)
 }
 
 /// One of the two parts of a split button: the one under the pointer stands out from the other.
+/// Whether the button is checked is not shown.
 QColor fillOfPart(const QToolButton& button, const RibbonColors& colors, const QRect& part,
                   bool isPressed)
 {
@@ -43,16 +44,15 @@ QColor fillOfPart(const QToolButton& button, const RibbonColors& colors, const Q
         return colors.pressed;
     const bool isPointedAt =
         isHovered(button) && part.contains(button.mapFromGlobal(QCursor::pos()));
-    if (button.isChecked())
-        return isPointedAt ? colors.pressed : colors.checked;
     if (isPointedAt)
         return colors.checked;
     return isHovered(button) || isMenuOpen(button) ? colors.hover : QColor(Qt::transparent);
 }
 
-QColor edgeOf(const QToolButton& button, const RibbonColors& colors)
+QColor edgeOf(const QToolButton& button, const RibbonColors& colors, bool isSplit)
 {
-    if (button.isDown() || button.isChecked() || button.hasFocus() || isMenuOpen(button))
+    const bool isMarked = button.isChecked() && !isSplit;
+    if (button.isDown() || isMarked || button.hasFocus() || isMenuOpen(button))
         return colors.checkedEdge;
     return isHovered(button) ? colors.checked : QColor(Qt::transparent);
 }
@@ -69,7 +69,7 @@ void paintFrame(QPainter& painter, const QToolButton& button, const QColor& edge
 void paintState(QPainter& painter, const QToolButton& button, const RibbonColors& colors,
                 const QRect& arrowPart)
 {
-    const QColor edge = edgeOf(button, colors);
+    const QColor edge = edgeOf(button, colors, !arrowPart.isEmpty());
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     if (arrowPart.isEmpty())

@@ -14,6 +14,7 @@
 #include <QAction>
 #include <QMenu>
 #include <QPointer>
+#include <QToolButton>
 
 #include <algorithm>
 #include <utility>
@@ -27,6 +28,7 @@ constexpr wchar_t EntitiesName[] = L"Entities";
 constexpr wchar_t JournalName[] = L"Journal";
 constexpr wchar_t InspectorName[] = L"Inspector";
 constexpr wchar_t CommandPrefix[] = L"Sketcher.Pane.";
+constexpr wchar_t ShowAllId[] = L"Sketcher.ShowAllPanes";
 
 /// In the order of the menu.
 std::vector<PanePlace> FactoryPlaces()
@@ -101,7 +103,7 @@ std::vector<CommandEntry> Panes::MakeCommands()
          Command::Kind::Plain,
          doing([this] { m_layout.RestoreDefault(); }),
          {}},
-        {L"Sketcher.ShowAllPanes",
+        {ShowAllId,
          L"显示全部面板",
          L"",
          L"显示全部面板",
@@ -126,6 +128,28 @@ std::vector<CommandEntry> Panes::MakeCommands()
     return entries;
 }
 
+void Panes::Attend(QToolButton& button)
+{
+    if (button.menu() != nullptr)
+        Mark(*button.menu());
+    if (button.defaultAction() != nullptr)
+        connect(button.defaultAction(), &QAction::triggered, this, &Panes::OnAllChosen);
+}
+
+void Panes::OnRecord(const JournalRecord&)
+{
+    m_refresh.start(0);
+}
+
+void Panes::OnUiObject(const IJournalUiObject&, int) {}
+
+void Panes::Add(const std::wstring& name, const wchar_t* title, OwnerPtr<IWidget> opContent)
+{
+    OwnerPtr<IDock> opDock = m_docks.CreateDock(name, title);
+    opDock->SetWidget(std::move(opContent));
+    m_docks.AddDock(std::move(opDock), DockArea::Bottom, DockOrientation::Horizontal);
+}
+
 void Panes::Mark(QMenu& menu)
 {
     const auto mark = [this, pMenu = QPointer<QMenu>(&menu)] {
@@ -146,20 +170,6 @@ void Panes::Mark(QMenu& menu)
     mark();
 }
 
-void Panes::OnRecord(const JournalRecord&)
-{
-    m_refresh.start(0);
-}
-
-void Panes::OnUiObject(const IJournalUiObject&, int) {}
-
-void Panes::Add(const std::wstring& name, const wchar_t* title, OwnerPtr<IWidget> opContent)
-{
-    OwnerPtr<IDock> opDock = m_docks.CreateDock(name, title);
-    opDock->SetWidget(std::move(opContent));
-    m_docks.AddDock(std::move(opDock), DockArea::Bottom, DockOrientation::Horizontal);
-}
-
 void Panes::Toggle(const std::wstring& name)
 {
     IDock* pDock = m_docks.GetDock(name);
@@ -170,4 +180,17 @@ void Panes::Toggle(const std::wstring& name)
     }
     pDock->Show();
     pDock->Raise();
+}
+
+/// Hears of the click after the button has. A click that ends a tool does nothing else, but all
+/// panes were asked for.
+void Panes::OnAllChosen()
+{
+    const std::vector<PanePlace> places = FactoryPlaces();
+    const bool isAnyHidden =
+        std::any_of(places.begin(), places.end(), [this](const PanePlace& place) {
+            return m_docks.GetDock(place.name)->IsHidden();
+        });
+    if (isAnyHidden)
+        RunCommand(ShowAllId, {});
 }

@@ -13,6 +13,7 @@
 #include <vector>
 
 class QMenu;
+class QToolButton;
 class SketcherWindow;
 struct Workspace;
 
@@ -40,9 +41,10 @@ public:
 
     std::vector<CommandEntry> MakeCommands();
 
-    /// Keeps the marks of the menu's entries, of those that show or hide a pane, at the truth. The
-    /// menu is not owned and may go first.
-    void Mark(QMenu& menu);
+    /// Keeps the marks of the entries of a button's menu, of those that show or hide a pane, at the
+    /// truth, and has the button itself show all panes also when a tool runs. The button is not
+    /// owned and may go first.
+    void Attend(QToolButton& button);
 
     void OnRecord(const vesk::JournalRecord& record) override;
     void OnUiObject(const vesk::IJournalUiObject& object, int kind) override;
@@ -50,7 +52,9 @@ public:
 private:
     void Add(const std::wstring& name, const wchar_t* title,
              vesk::OwnerPtr<vesk::IWidget> opContent);
+    void Mark(QMenu& menu);
     void Toggle(const std::wstring& name);
+    void OnAllChosen();
 
     vesk::IDockManager& m_docks;
     vesk::Inspector* m_pInspector; ///< Owned by its pane.

@@ -20,7 +20,8 @@ enum class RibbonButtonForm
 };
 
 /// The place of one tool button in a ribbon. It is shown exactly while it holds a button that is
-/// not hidden, and gives the button all of its room.
+/// not hidden, and gives the button all of its room. A button looks checked while it is, but for a
+/// split one (`MenuButtonPopup`).
 class QTITAN_EXPORT RibbonButtonControl : public QWidget
 {
     Q_OBJECT
