@@ -1,23 +1,17 @@
-#include "HostUi/RibbonFocus.h"
-
-#include "HostUi/DrawingView.h"
-#include "HostUi/InputFixture.h"
+#include "HostUi/RibbonFocusFixture.h"
 
 #include "Support/TestValues.h"
 #include <QAbstractItemView>
 #include <QApplication>
-#include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMenu>
 #include <QRadioButton>
 #include <QSignalSpy>
 #include <QSpinBox>
 #include <QTimer>
 #include <QToolButton>
-#include <QVBoxLayout>
 
 #include <functional>
 #include <memory>
@@ -28,14 +22,7 @@ using namespace vesk::test;
 namespace
 {
 
-class PlainView final : public DrawingView
-{
-public:
-    using DrawingView::DrawingView;
-
-protected:
-    void PaintModel(QPainter&) override {}
-};
+using Fixture = RibbonFocusFixture;
 
 /// A button with a menu of one entry, which opens at a click.
 QToolButton* MakeMenuButton()
@@ -54,74 +41,6 @@ QComboBox* MakeBox(bool isEditable = false)
     pBox->addItems({"first", "second"});
     return pBox;
 }
-
-/// A window with a ribbon, a view, and a box beside them.
-struct Fixture
-{
-    Fixture()
-    {
-        host.view.hide();
-        pRibbon->setLayout(new QVBoxLayout);
-        auto* pLayout = new QVBoxLayout(&host.window);
-        pLayout->addWidget(pRibbon);
-        pLayout->addWidget(pView);
-        pLayout->addWidget(pElsewhere);
-        host.core.GetViewManager().AddView(pView);
-        host.core.GetViewManager().SetCurrentView(pView);
-        host.window.show();
-        host.window.activateWindow();
-        if (!QTest::qWaitForWindowActive(&host.window))
-            qFatal("the window does not become active");
-        pView->setFocus();
-    }
-
-    ~Fixture()
-    {
-        ActionManager::Reset();
-        host.core.GetViewManager().RemoveView(pView);
-    }
-
-    template <class Control>
-    Control* Place(Control* pControl)
-    {
-        pRibbon->layout()->addWidget(pControl);
-        // A check box takes no clicks beside its text.
-        pControl->setFixedSize(pControl->sizeHint());
-        if (!QTest::qWaitFor([pControl] { return pControl->isVisible(); }))
-            qFatal("the control does not show");
-        return pControl;
-    }
-
-    void BeginAction()
-    {
-        auto opCommand = MakeOwner<Command>(
-            L"Test", Command::Kind::Interactive, [](IUiView*, const CommandParameters&) {
-                return OwnerPtr<IAction>(new DimensionAction(&MakeLinear));
-            });
-        Command* pCommand = opCommand.Get();
-        ICommandManager::Get()->AddCommand(std::move(opCommand));
-        ActionManager::ProcessCommand(pView, pCommand, {}, nullptr);
-    }
-
-    QLineEdit* OpenEditor()
-    {
-        QTest::keyClick(pView, '5');
-        auto* pEditor = pView->findChild<QLineEdit*>("Editor");
-        pEditor->activateWindow();
-        if (!QTest::qWaitForWindowActive(pEditor))
-            qFatal("the editor does not become active");
-        return pEditor;
-    }
-
-    HostFixture host;
-    TypingScript script = Linear();
-    DimensionInputController input;
-    PlainView* pView = new PlainView(2, input, &host.window);
-    QWidget* pRibbon = new QWidget(&host.window);
-    QCheckBox* pElsewhere = new QCheckBox(&host.window);
-    TypingHandlerFactory factory{*pView, script};
-    RibbonFocus focus{*pRibbon, *pView, input};
-};
 
 using Maker = std::function<QWidget*()>;
 
