@@ -81,8 +81,8 @@ bool RibbonFocus::IsOfRibbon(const QWidget& widget) const
 /// the click, so that no key which comes before the click is done is lost.
 void RibbonFocus::OnPress(const QWidget& pressed)
 {
-    // What a control leaves is offered to the ribbon around it.
-    if (pressed.focusPolicy() == Qt::NoFocus || IsPopup(*pressed.window()))
+    // Lists and menus, and what a control leaves to the ribbon around it.
+    if (pressed.focusPolicy() == Qt::NoFocus)
         return;
     m_isUnderWay =
         IsActionRunning() && pressed.isEnabled() && IsOfRibbon(pressed) && TakesNoText(pressed);
