@@ -118,6 +118,11 @@ void DrawingAction::OnViewInput(const ActionViewInput& input, const TypedValue& 
         m_values.Drop(field);
 }
 
+void DrawingAction::OnValueFreed(InputState field)
+{
+    m_values.Drop(field);
+}
+
 bool DrawingAction::OnEscape()
 {
     const bool hadValues = HasValues();

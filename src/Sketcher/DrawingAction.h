@@ -11,8 +11,8 @@ struct Workspace;
 /// The base of actions that take points, clicked or given by typed values.
 ///
 /// A step ends where the user clicks, or where the values that are committed put it. A value that
-/// is taken with Tab holds, whatever the cursor does, until the step ends or Escape drops it. A
-/// finished step is recorded: its values, then its point.
+/// is taken with Tab holds, whatever the cursor does, until the step ends, Escape drops it or its
+/// field is emptied. A finished step is recorded: its values, then its point.
 class DrawingAction : public vesk::IAction
 {
 public:
@@ -21,6 +21,7 @@ public:
     void OnClick(const vesk::Vector3d& world) override;
     std::wstring GetRefusal(vesk::InputState field, double value) override;
     void OnViewInput(const vesk::ActionViewInput& input, const vesk::TypedValue& typed) override;
+    void OnValueFreed(vesk::InputState field) override;
     bool OnEscape() override;
     void OnEnd() override;
     bool ReplayPoint(const vesk::Vector3d& world, const std::optional<int>& entity) override;

@@ -5,9 +5,9 @@
 #include "HostUi/DrawingView.h"
 #include "HostUi/InputFixture.h"
 
+#include "Support/TestValues.h"
 #include <QCheckBox>
 #include <QLineEdit>
-#include <QTest>
 #include <QVBoxLayout>
 
 namespace vesk::test

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Dimension/InputState.h"
 #include "Foundation/HostExport.h"
 #include "Geometry/Vector3d.h"
 
@@ -66,6 +67,9 @@ public:
     /// Hands a typed value to the running action. The action, and who called, may be gone
     /// afterwards.
     static void ProcessViewInput(IUiView* pView, const ActionViewInput& input);
+
+    /// Tells the running action that a locked value is free again, and shows it.
+    static void FreeValue(IUiView* pView, InputState field);
 
     /// Makes the provisional graphics anew and places the editor again; never opens or ends an
     /// input.

@@ -46,6 +46,9 @@ public:
     /// the input's is rounded to the unit shown.
     virtual void OnViewInput(const ActionViewInput& /*input*/, const TypedValue& /*typed*/) {}
 
+    /// The user emptied the field of a locked value: the value follows the cursor again.
+    virtual void OnValueFreed(InputState /*field*/) {}
+
     /// Drops what the user can take back first (locked values). False when there was nothing.
     virtual bool OnEscape() { return false; }
 

@@ -73,6 +73,11 @@ public:
     /// Whether what is being typed is taken as a text, whatever it says: nobody is to judge it.
     bool IsRawTextInput() const;
 
+    /// How wide the open editor is, in pixels, where it has grown with its text; 0 where it is as
+    /// it opens. TemporaryDimensionStyle tells everybody.
+    void SetEditorWidth(int width) { m_editorWidth = width; }
+    int GetEditorWidth() const { return m_editorWidth; }
+
     /// The provisional graphics, null when there are none. Not owned; gone with the next change.
     const IGraphicsNodeGroup* GetGraphics() const;
 
@@ -106,6 +111,7 @@ private:
     OwnerPtr<ITemporaryDimensionHandler> m_opHandler;
     OwnerPtr<IGraphicsNodeGroup> m_opGraphics;
     std::map<InputState, std::optional<double>> m_locked;
+    int m_editorWidth = 0;
     TypedValue m_typed;
 
     /// Dropped handlers that still have an operation on the stack.

@@ -11,11 +11,15 @@ namespace vesk
 class VESK_HOST_API TemporaryDimensionStyle
 {
 public:
+    /// How wide the editor is, in pixels, where its text asks for no more.
+    static constexpr int OpeningEditorWidth = 96;
+
     /// Decimals of the first value (lengths) and of the second (angles).
     int GetFirstValueDecimals() const;
     int GetSecondValueDecimals() const;
 
-    /// Size of the editor in pixels.
+    /// Size of the editor in pixels. The width is that of the open editor, which grows with its
+    /// text.
     int GetEditorWidth() const;
     int GetEditorHeight() const;
 

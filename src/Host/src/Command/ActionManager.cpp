@@ -66,6 +66,15 @@ void ActionManager::ProcessViewInput(IUiView* /*pView*/, const ActionViewInput& 
     Runner().OperateStep([&](IAction& action) { action.OnViewInput(delivered, typed); });
 }
 
+void ActionManager::FreeValue(IUiView* pView, InputState field)
+{
+    Runner().Operate([pView, field](IAction& action) {
+        action.OnValueFreed(field);
+        TemporaryDimensionMgr::GetInstance()->SetContext(action.CreateDimensionContext());
+        Redraw(pView);
+    });
+}
+
 void ActionManager::RefreshViewInput(IUiView* pView)
 {
     Runner().Operate([](const IAction& action) {

@@ -1,6 +1,7 @@
 #include "Dimension/TemporaryDimensionStyle.h"
 
 #include "Dimension/LengthUnit.h"
+#include "Dimension/TemporaryDimensionMgr.h"
 
 #include <algorithm>
 #include <array>
@@ -58,7 +59,7 @@ int TemporaryDimensionStyle::GetSecondValueDecimals() const
 
 int TemporaryDimensionStyle::GetEditorWidth() const
 {
-    return 96;
+    return std::max(OpeningEditorWidth, TemporaryDimensionMgr::GetInstance()->GetEditorWidth());
 }
 
 int TemporaryDimensionStyle::GetEditorHeight() const
