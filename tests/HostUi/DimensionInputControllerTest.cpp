@@ -30,8 +30,8 @@ private slots:
 
         QTest::newRow("Return") << int(Qt::Key_Return);
         QTest::newRow("Enter") << int(Qt::Key_Enter);
-        QTest::newRow("Space") << int(Qt::Key_Space);
         QTest::newRow("Tab") << int(Qt::Key_Tab);
+        QTest::newRow("Shift+Tab") << int(Qt::Key_Backtab);
     }
 
     void clearTextReachesTheHandlerAsItsNumber()
@@ -127,7 +127,8 @@ private slots:
 
         QTest::newRow("thousands or decimals") << "1,000" << int(Qt::Key_Return);
         QTest::newRow("with Tab") << "1,000" << int(Qt::Key_Tab);
-        QTest::newRow("with Space") << "1,000" << int(Qt::Key_Space);
+        QTest::newRow("with Shift+Tab") << "1,000" << int(Qt::Key_Backtab);
+        QTest::newRow("number out of range with Space") << "0" << int(Qt::Key_Space);
         QTest::newRow("with Enter") << "1,000" << int(Qt::Key_Enter);
         QTest::newRow("no number") << "abc" << int(Qt::Key_Return);
         QTest::newRow("formula out of range") << "5-5" << int(Qt::Key_Return);
@@ -210,13 +211,16 @@ private slots:
         QCOMPARE(f.controller.GetMessage(), QString());
     }
 
+    void tabIsNotJudgedWhereItTakesNoValue_data() { tabWithoutAnInputIsKeptFromTheWindow_data(); }
+
     void tabIsNotJudgedWhereItTakesNoValue()
     {
+        QFETCH(int, key);
         TypingScript script;
         script.state = InputState::IS_Radius;
         InputFixture f(script, &MakeRadius);
 
-        f.Type("1,000").Press(Qt::Key_Tab);
+        f.Type("1,000").Press(key);
 
         QCOMPARE(f.script.taken.size(), std::size_t(0));
         QCOMPARE(f.controller.GetMessage(), QString());

@@ -15,6 +15,7 @@
 #include <QLabel>
 
 #include <functional>
+#include <vector>
 
 namespace vesk::test
 {
@@ -46,8 +47,9 @@ using Refuse = std::function<std::wstring(InputState field, double value)>;
 class DimensionAction final : public IAction
 {
 public:
-    DimensionAction(const ContextMaker& makeContext, const Refuse& refuse)
-        : m_makeContext(makeContext), m_refuse(refuse)
+    DimensionAction(const ContextMaker& makeContext, const Refuse& refuse,
+                    std::vector<InputState>& freed)
+        : m_makeContext(makeContext), m_refuse(refuse), m_freed(freed)
     {}
 
     std::wstring GetViewText() const override { return {}; }
@@ -62,11 +64,13 @@ public:
     {
         return m_makeContext();
     }
+    void OnValueFreed(InputState field) override { m_freed.push_back(field); }
     bool ReplayPoint(const Vector3d&, const std::optional<int>&) override { return false; }
 
 private:
     ContextMaker m_makeContext;
     Refuse m_refuse;
+    std::vector<InputState>& m_freed;
 };
 
 /// A view in which an action shows dimensions, and somebody at the keyboard.
@@ -79,8 +83,8 @@ struct InputFixture
         host.window.show();
         auto opCommand = MakeOwner<Command>(
             L"Test", Command::Kind::Interactive,
-            [makeContext, refuse](IUiView*, const CommandParameters&) {
-                return OwnerPtr<IAction>(new DimensionAction(makeContext, refuse));
+            [this, makeContext, refuse](IUiView*, const CommandParameters&) {
+                return OwnerPtr<IAction>(new DimensionAction(makeContext, refuse, freed));
             });
         Command* pCommand = opCommand.Get();
         ICommandManager::Get()->AddCommand(std::move(opCommand));
@@ -121,6 +125,12 @@ struct InputFixture
         const auto* pNote = host.view.findChild<QLabel*>(QLatin1String(name));
         return pNote != nullptr && pNote->isVisible() ? pNote->text() : QString();
     }
+
+    /// What the view was told last.
+    std::wstring Hint() const { return host.view.GetTexts().back(); }
+
+    /// The fields whose locked values the action was told to free.
+    std::vector<InputState> freed;
 
     HostFixture host;
     TypingScript script;

@@ -160,15 +160,62 @@ private slots:
         InputField field = MakeField(Quantity::Length);
         field.next = QStringLiteral("角度");
 
-        QCOMPARE(DescribeKeys(field),
+        QCOMPARE(DescribeKeys(field, false),
                  QStringLiteral("<b>Tab</b>&nbsp;角度 · <b>Enter</b>&nbsp;确定 "
                                 "· <b>Esc</b>&nbsp;取消"));
     }
 
     void keysOfASingleFieldKnowNoTab()
     {
-        QCOMPARE(DescribeKeys(MakeField(Quantity::Angle)),
+        QCOMPARE(DescribeKeys(MakeField(Quantity::Angle), false),
                  QStringLiteral("<b>Enter</b>&nbsp;确定 · <b>Esc</b>&nbsp;取消"));
+    }
+
+    void spaceIsNamedWhereItTakesTheValue()
+    {
+        QCOMPARE(DescribeKeys(MakeField(Quantity::Angle), true),
+                 QStringLiteral("<b>Enter</b>/<b>空格</b>&nbsp;确定 · <b>Esc</b>&nbsp;取消"));
+    }
+
+    void spaceTakesANumberAsItStands_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("isTaken");
+
+        QTest::newRow("number") << "10" << true;
+        QTest::newRow("point") << ".5" << true;
+        QTest::newRow("sign") << "-7" << true;
+        QTest::newRow("out of range") << "0" << true;
+        QTest::newRow("comma") << "3,5" << false;
+        QTest::newRow("feet") << "10'" << false;
+        QTest::newRow("fraction") << "1/2" << false;
+        QTest::newRow("unit") << "10cm" << false;
+        QTest::newRow("unfinished") << "2*" << false;
+        QTest::newRow("formula") << "20+2" << false;
+        QTest::newRow("nothing") << "" << false;
+    }
+
+    void spaceTakesANumberAsItStands()
+    {
+        QFETCH(QString, text);
+        QFETCH(bool, isTaken);
+        InputField field = MakeField(Quantity::Length);
+        field.commitsWithSpace = true;
+
+        QCOMPARE(IsTakenWithSpace(text, field, LengthUnit::Millimetre()), isTaken);
+    }
+
+    void spaceTakesNothingWhereItIsABlank()
+    {
+        QVERIFY(!IsTakenWithSpace("10", MakeField(Quantity::Length), LengthUnit::Millimetre()));
+    }
+
+    void lateUnitIsToldByItsName()
+    {
+        const QString told = DescribeLateUnit("cm");
+
+        QVERIFY(told.contains("空格"));
+        QVERIFY(told.contains("cm"));
     }
 };
 

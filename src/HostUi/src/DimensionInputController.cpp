@@ -6,12 +6,15 @@
 #include "Dimension/ITemporaryDimensionContext.h"
 #include "Dimension/ITemporaryDimensionHandler.h"
 #include "Dimension/LengthUnit.h"
+#include "Dimension/TemporaryDimensionStyle.h"
 #include "EditorNotes.h"
+#include "EditorWidth.h"
 #include "EscapeKey.h"
 #include "HostUi/QtText.h"
 #include "InputJudge.h"
 #include "Journal/IJournalUiObject.h"
 #include "KeyCode.h"
+#include "LateUnit.h"
 #include "NoteLayout.h"
 #include "TextCollector.h"
 #include "View/IUiDocumentViewManager.h"
@@ -78,7 +81,8 @@ QString AskAction(double modelValue)
 }
 
 DimensionInputController::DimensionInputController()
-    : m_pNotes(std::make_unique<EditorNotes>()), m_pEscape(std::make_unique<EscapeKey>())
+    : m_pNotes(std::make_unique<EditorNotes>()), m_pEscape(std::make_unique<EscapeKey>()),
+      m_pLateUnit(std::make_unique<LateUnit>())
 {
     JournalManager::GetInstance().AddObserver(this);
     Manager().SetHandlerAccess(this);
@@ -93,6 +97,8 @@ DimensionInputController::~DimensionInputController()
 
 bool DimensionInputController::OnViewKey(QKeyEvent& event)
 {
+    if (KeepsForUnit(event))
+        return true;
     if (ActionManager::IsCommandWaiting())
     {
         HoldKey(event);
@@ -100,6 +106,7 @@ bool DimensionInputController::OnViewKey(QKeyEvent& event)
     }
     if (QLineEdit* pEditor = GetActiveEditor())
     {
+        m_pClicked.clear();
         QCoreApplication::sendEvent(pEditor, &event);
         // What the editor leaves would be offered to the window, too.
         event.accept();
@@ -166,15 +173,18 @@ void DimensionInputController::OnUiObject(const IJournalUiObject& object, int ki
     auto* pEditor = qobject_cast<QLineEdit*>(*ppObject);
     if (pEditor == nullptr || pEditor == m_pEditor)
         return;
+    // An input method would keep letters to itself, and no value is written with one.
+    pEditor->setAttribute(Qt::WA_InputMethodEnabled, false);
     m_pEditor = pEditor;
     connect(pEditor, &QLineEdit::textEdited, this, &DimensionInputController::OnTextEdited);
-    connect(pEditor, &QLineEdit::textChanged, this, &DimensionInputController::UpdateNotes);
+    connect(pEditor, &QLineEdit::textChanged, this, &DimensionInputController::OnTextChanged);
 }
 
 void DimensionInputController::ResetEditorPosition(ITemporaryDimensionHandler& handler)
 {
     if (auto* pObject = dynamic_cast<QObject*>(&handler))
         QMetaObject::invokeMethod(pObject, "ResetEditorPosition");
+    FitEditor();
     UpdateNotes();
 }
 
@@ -196,6 +206,8 @@ bool DimensionInputController::eventFilter(QObject* pWatched, QEvent* pEvent)
     if (pEvent->type() == QEvent::KeyRelease)
         m_pEscape->Release(static_cast<QKeyEvent&>(*pEvent));
     NoteCursor(pWatched, *pEvent);
+    NoteClick(pWatched, *pEvent);
+    NoteOtherKey(*pEvent);
     return pWatched == m_pEditor && pWatched != nullptr && FilterEditorEvent(*pEvent);
 }
 
@@ -210,21 +222,59 @@ void DimensionInputController::NoteCursor(const QObject* pWatched, const QEvent&
         m_cursor = static_cast<const QMouseEvent&>(event).pos();
 }
 
+/// Any click decides about letters that may become a unit, before it is heard of.
+void DimensionInputController::NoteClick(QObject* pWatched, const QEvent& event)
+{
+    if (event.type() != QEvent::MouseButtonPress && event.type() != QEvent::MouseButtonDblClick)
+        return;
+    if (const auto* pWidget = qobject_cast<QWidget*>(pWatched))
+        m_pClicked = pWidget->window();
+    EndLateUnit();
+}
+
+/// So does a key that is somebody's shortcut: the view does not hear of it.
+void DimensionInputController::NoteOtherKey(const QEvent& event)
+{
+    if (event.type() != QEvent::ShortcutOverride)
+        return;
+    const auto& key = static_cast<const QKeyEvent&>(event);
+    if (!IsModifierKey(key) && !m_pLateUnit->CanTake(key))
+        EndLateUnit();
+}
+
 bool DimensionInputController::FilterEditorEvent(QEvent& event)
 {
-    if (event.type() == QEvent::KeyPress)
+    switch (event.type())
+    {
+    case QEvent::KeyPress:
         return FilterEditorKey(static_cast<QKeyEvent&>(event));
-    if (event.type() == QEvent::Hide)
+    case QEvent::ShortcutOverride:
+        return (GetActiveEditor() == nullptr || FindOtherField() != nullptr) && PassOn(event);
+    case QEvent::Close:
+        // Hidden by itself, it would go on taking keys unseen.
+        event.ignore();
+        Manager().EndInput();
+        return true;
+    case QEvent::Hide:
         OnEditorHidden();
-    if (event.type() == QEvent::Move || event.type() == QEvent::Resize)
+        return false;
+    case QEvent::Move:
+    case QEvent::Resize:
+    case QEvent::Show:
         UpdateNotes();
-    return false;
+        return false;
+    default:
+        return false;
+    }
 }
 
 void DimensionInputController::OnEditorHidden()
 {
     m_refusal.clear();
     m_pNotes->Hide();
+    if (!Manager().IsInputting())
+        Manager().SetEditorWidth(0);
+    m_pClicked.clear();
     // Without a window manager nobody else gives the keyboard back.
     IUiView* pView = CurrentView();
     if (pView != nullptr && QGuiApplication::applicationState() == Qt::ApplicationActive)
@@ -235,13 +285,9 @@ void DimensionInputController::OnEditorHidden()
 bool DimensionInputController::FilterEditorKey(QKeyEvent& event)
 {
     QLineEdit* pEditor = GetActiveEditor();
-    if (pEditor == nullptr)
-    {
-        // The window system had not yet given the keyboard back to the view.
-        if (QWidget* pView = CurrentViewWidget())
-            QCoreApplication::sendEvent(pView, &event);
-        return true;
-    }
+    if (pEditor == nullptr || FindOtherField() != nullptr)
+        return PassOn(event);
+    m_pLateUnit->End();
     if (ActionManager::IsCommandWaiting())
     {
         HoldKey(event);
@@ -250,18 +296,84 @@ bool DimensionInputController::FilterEditorKey(QKeyEvent& event)
     if (event.key() == Qt::Key_Escape)
         return !m_pEscape->Press(event);
     const InputField field = CurrentField();
-    if (!field.IsCommitting(event.key()))
-        return false;
-    TypedValue typed{ToWide(pEditor->text()), !m_isTextTyped, std::nullopt};
-    if (!Manager().IsRawTextInput())
+    if (event.key() == Qt::Key_Backtab && field.IsCommitting(Qt::Key_Tab))
     {
-        typed.modelValue = Accept(*pEditor, field);
+        // There are two fields: back is on.
+        QKeyEvent tab(event.type(), Qt::Key_Tab, Qt::NoModifier, event.text());
+        QCoreApplication::sendEvent(pEditor, &tab);
+        return true;
+    }
+    return field.IsCommitting(event.key()) && FilterCommittingKey(*pEditor, event, field);
+}
+
+bool DimensionInputController::FilterCommittingKey(QLineEdit& editor, const QKeyEvent& event,
+                                                   const InputField& field)
+{
+    const bool isJudged = !Manager().IsRawTextInput();
+    const bool isSpace = event.key() == Qt::Key_Space;
+    if (isJudged && isSpace && !IsTakenWithSpace(editor.text(), field, LengthUnit::GetCurrent()))
+    {
+        editor.insert(QStringLiteral(" "));
+        return true;
+    }
+    TypedValue typed{ToWide(editor.text()), !m_isTextTyped, std::nullopt};
+    if (isJudged)
+    {
+        typed.modelValue = Accept(editor, field);
         if (!typed.modelValue.has_value())
             return true;
     }
     Manager().SetTypedValue(typed);
     m_isTextTyped = m_isTextTyped && event.key() != Qt::Key_Tab;
+    if (isJudged && isSpace)
+        m_pLateUnit->Begin();
     return false;
+}
+
+/// The field in which the user goes on typing instead of the editor; null when there is none.
+QWidget* DimensionInputController::FindOtherField() const
+{
+    const QWidget* pView = CurrentViewWidget();
+    if (pView == nullptr)
+        return nullptr;
+    const QWidget* pWindow = m_pClicked != nullptr ? m_pClicked.data() : pView->window();
+    QWidget* pFocus = pWindow->focusWidget();
+    const bool takesText = pFocus != nullptr && pFocus->testAttribute(Qt::WA_InputMethodEnabled);
+    return takesText && pFocus != m_pEditor ? pFocus : nullptr;
+}
+
+/// Passes on a key that arrived in the editor and is not for it: the window system gives the
+/// keyboard to another window later than the user turns to it.
+bool DimensionInputController::PassOn(QEvent& event)
+{
+    QWidget* pField = FindOtherField();
+    if (QWidget* pTarget = pField != nullptr ? pField : CurrentViewWidget())
+        QCoreApplication::sendEvent(pTarget, &event);
+    return true;
+}
+
+/// True for a key that may be part of a unit typed after a blank that took the value. Any other,
+/// unless it only modifies one, is not judged before those that were kept for a unit.
+bool DimensionInputController::KeepsForUnit(const QKeyEvent& event)
+{
+    if (!m_pLateUnit->IsAwaited() || IsModifierKey(event))
+        return false;
+    if (!m_pLateUnit->CanTake(event))
+    {
+        EndLateUnit();
+        return false;
+    }
+    IUiView* pView = CurrentView();
+    if (m_pLateUnit->Take(event) && pView != nullptr)
+        pView->SetViewText(ToWide(DescribeLateUnit(m_pLateUnit->GetText())));
+    return true;
+}
+
+/// Hands on what was kept for a unit and is none.
+void DimensionInputController::EndLateUnit()
+{
+    for (QKeyEvent& key : m_pLateUnit->End())
+        OnViewKey(key);
 }
 
 /// Puts a number in the place of what comes to one, and gives the value that is meant, in model
@@ -323,11 +435,36 @@ void DimensionInputController::OpenInputWithText(const QString& text)
         pEditor->setText(text);
 }
 
+void DimensionInputController::OnTextChanged()
+{
+    FitEditor();
+    UpdateNotes();
+}
+
 void DimensionInputController::OnTextEdited()
 {
     m_isTextTyped = true;
     m_refusal.clear();
+    const QLineEdit* pEditor = GetActiveEditor();
+    const InputState field = Manager().GetInputState();
+    if (pEditor != nullptr && pEditor->text().isEmpty() && Manager().IsLocked(field))
+        ActionManager::FreeValue(CurrentView(), field);
     UpdateNotes();
+}
+
+/// Makes the editor as wide as its text needs. The generators must know: they place it.
+void DimensionInputController::FitEditor()
+{
+    QLineEdit* pEditor = GetActiveEditor();
+    const QWidget* pView = CurrentViewWidget();
+    if (pEditor == nullptr || pView == nullptr)
+        return;
+    const int width = FindEditorWidth(*pEditor, *pView);
+    if (width == Manager().GetEditorWidth())
+        return;
+    Manager().SetEditorWidth(width);
+    pEditor->setFixedWidth(TemporaryDimensionStyle().GetEditorWidth());
+    ActionManager::RefreshViewInput(CurrentView());
 }
 
 void DimensionInputController::UpdateNotes()
@@ -345,7 +482,8 @@ void DimensionInputController::UpdateNotes()
     if (!Manager().IsRawTextInput())
         texts.value = DescribeValue(pEditor->text(), field.quantity, LengthUnit::GetCurrent());
     if (m_isKeyStripShown)
-        texts.keys = DescribeKeys(field);
+        texts.keys =
+            DescribeKeys(field, IsTakenWithSpace(pEditor->text(), field, LengthUnit::GetCurrent()));
     const QPoint corner = pView->mapFromGlobal(pEditor->mapToGlobal(QPoint(0, 0)));
     m_pNotes->Show(*pView,
                    {pView->size(), QRect(corner, pEditor->size()), m_cursor,

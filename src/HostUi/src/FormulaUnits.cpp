@@ -1,5 +1,8 @@
 #include "FormulaUnits.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace vesk
 {
 namespace
@@ -40,6 +43,20 @@ const FormulaUnit* FindUnit(const FormulaToken& token)
             return &unit;
     }
     return nullptr;
+}
+
+bool IsUnit(const QString& text)
+{
+    return std::any_of(std::begin(Units), std::end(Units), [&text](const FormulaUnit& unit) {
+        return QString::fromUtf16(unit.name).compare(text, Qt::CaseInsensitive) == 0;
+    });
+}
+
+bool BeginsUnit(const QString& text)
+{
+    return std::any_of(std::begin(Units), std::end(Units), [&text](const FormulaUnit& unit) {
+        return QString::fromUtf16(unit.name).startsWith(text, Qt::CaseInsensitive);
+    });
 }
 
 }

@@ -36,4 +36,8 @@ struct FormulaUnit
 /// The unit of that name; null for any other token.
 const FormulaUnit* FindUnit(const FormulaToken& token);
 
+/// Whether a text is the name of a unit, or its beginning, also where it is written in capitals.
+bool IsUnit(const QString& text);
+bool BeginsUnit(const QString& text);
+
 }

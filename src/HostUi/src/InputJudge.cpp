@@ -56,13 +56,26 @@ QString DescribeValue(const QString& text, Quantity quantity, const LengthUnit& 
     return QStringLiteral("= ") + Round(reading.value, quantity) + symbol;
 }
 
-QString DescribeKeys(const InputField& field)
+bool IsTakenWithSpace(const QString& text, const InputField& field, const LengthUnit& unit)
+{
+    return field.commitsWithSpace && ReadTypedText(text, field.quantity, unit).isPlain;
+}
+
+QString DescribeLateUnit(const QString& unit)
+{
+    return QStringLiteral("空格已经确定了数值，其后的“%1”没有采用；撤销（Ctrl+Z）一次即可取回")
+        .arg(unit);
+}
+
+QString DescribeKeys(const InputField& field, bool isTakenWithSpace)
 {
     const QString pattern = QStringLiteral("<b>%1</b>&nbsp;%2");
     QStringList keys;
     if (!field.next.isEmpty())
         keys << pattern.arg(QStringLiteral("Tab"), field.next);
-    keys << pattern.arg(QStringLiteral("Enter"), QStringLiteral("确定"))
+    const QString taking =
+        isTakenWithSpace ? QStringLiteral("Enter</b>/<b>空格") : QStringLiteral("Enter");
+    keys << pattern.arg(taking, QStringLiteral("确定"))
          << pattern.arg(QStringLiteral("Esc"), QStringLiteral("取消"));
     return keys.join(QStringLiteral(" · "));
 }

@@ -31,7 +31,15 @@ InputVerdict JudgeInput(const QString& text, const InputField& field, const Leng
 /// and where there is no value.
 QString DescribeValue(const QString& text, Quantity quantity, const LengthUnit& unit);
 
-/// What the keys do in a field: "Tab 角度 · Enter 确定 · Esc 取消", the keys in bold.
-QString DescribeKeys(const InputField& field);
+/// True when Space takes a text: a number as it stands, in a field where Space takes values. In any
+/// other text a blank is a blank.
+bool IsTakenWithSpace(const QString& text, const InputField& field, const LengthUnit& unit);
+
+/// What the user is told of a unit that was typed after a blank that had taken the value.
+QString DescribeLateUnit(const QString& unit);
+
+/// What the keys do in a field: "Tab 角度 · Enter 确定 · Esc 取消", the keys in bold. Space is
+/// among them where it takes the value.
+QString DescribeKeys(const InputField& field, bool isTakenWithSpace);
 
 }

@@ -42,6 +42,13 @@ int ToVirtualKey(const QKeyEvent& event)
     return key == Qt::Key_Comma || isShiftedComma ? VirtualComma : 0;
 }
 
+bool IsModifierKey(const QKeyEvent& event)
+{
+    // From Shift on: Ctrl, Meta, Alt and the locks.
+    return (event.key() >= Qt::Key_Shift && event.key() <= Qt::Key_ScrollLock) ||
+           event.key() == Qt::Key_AltGr;
+}
+
 bool CanBeginValue(const QKeyEvent& event)
 {
     if (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))

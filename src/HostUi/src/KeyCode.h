@@ -11,6 +11,9 @@ namespace vesk
 /// 188. With Ctrl or Meta a key belongs to the shortcuts: 0.
 int ToVirtualKey(const QKeyEvent& event);
 
+/// True for a key that does nothing alone: Shift, Ctrl and the like.
+bool IsModifierKey(const QKeyEvent& event);
+
 /// True for a printable character that can begin a value: the key may open an input.
 bool CanBeginValue(const QKeyEvent& event);
 

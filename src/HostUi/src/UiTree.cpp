@@ -1,8 +1,6 @@
 #include "UiTree.h"
 
 #include "Command/ActionManager.h"
-#include "Command/IAction.h"
-#include "Command/IActionManager.h"
 #include "ControlDescription.h"
 #include "Dimension/TemporaryDimensionMgr.h"
 #include "Foundation/DebugMessageMgr.h"
@@ -10,6 +8,7 @@
 #include "HostUi/DimensionInputController.h"
 #include "HostUi/DrawingView.h"
 #include "PaneDescription.h"
+#include "View/IUiDocumentViewManager.h"
 
 #include <nlohmann/json.hpp>
 
@@ -75,6 +74,15 @@ Json DescribeEditor(const DimensionInputController& input)
             {"message", Utf8(input.GetMessage())}};
 }
 
+/// What the user is told in the current view.
+std::string DescribeHint()
+{
+    const IUiDocumentViewManager* pViews = IUiDocumentViewManager::Get();
+    const IUiView* pView = pViews != nullptr ? pViews->GetCurrentUiView() : nullptr;
+    const auto* pDrawingView = dynamic_cast<const DrawingView*>(pView);
+    return pDrawingView != nullptr ? Utf8(pDrawingView->GetViewText()) : std::string();
+}
+
 /// The debug warning on screen.
 Json DescribeWarning()
 {
@@ -103,13 +111,12 @@ std::string DescribeUi(const DimensionInputController& input, int entityCount)
         if (const auto* pMainWindow = qobject_cast<const QMainWindow*>(pWindow))
             DescribePanes(*pMainWindow, panes);
     }
-    const IAction* pAction = IActionManager::CurrentAction();
     const std::string commandId = ToUtf8(ActionManager::GetRunningCommandId());
     return Json{{"controls", controls},
                 {"views", views},
                 {"editor", DescribeEditor(input)},
                 {"action", commandId.empty() ? Json(nullptr) : Json(commandId)},
-                {"hint", pAction != nullptr ? ToUtf8(pAction->GetViewText()) : std::string()},
+                {"hint", DescribeHint()},
                 {"entities", entityCount},
                 {"docks", panes},
                 {"warning", DescribeWarning()}}

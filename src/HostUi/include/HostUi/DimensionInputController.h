@@ -19,6 +19,7 @@ namespace vesk
 
 class EditorNotes;
 class EscapeKey;
+class LateUnit;
 struct InputField;
 
 /// Sees to it that every key of a dimension input arrives, in order and in the right place.
@@ -27,8 +28,12 @@ struct InputField;
 /// otherwise to the view. A text that is to be taken is judged before the handler sees the key: a
 /// formula, or a number with a unit, gives way to the number that it comes to, and what has no
 /// clear value, or none that the action can use, is refused in place: it stays, is selected, and a
-/// message beside the editor says why. What a handler takes as a text is left alone. Installed
-/// while it lives.
+/// message beside the editor says why. What a handler takes as a text is left alone. A unit that is
+/// typed after a blank that took the value is dropped, and the view says so. Installed while it
+/// lives.
+///
+/// The editor is as wide as its text needs, and is no window that one could close: that ends the
+/// input.
 class VESK_HOST_UI_API DimensionInputController final : public QObject,
                                                         public IJournalObserver,
                                                         public ITemporaryDimensionHandlerAccess
@@ -72,20 +77,33 @@ protected:
 
 private:
     void NoteCursor(const QObject* pWatched, const QEvent& event);
+    void NoteClick(QObject* pWatched, const QEvent& event);
+    void NoteOtherKey(const QEvent& event);
     bool FilterEditorEvent(QEvent& event);
     bool FilterEditorKey(QKeyEvent& event);
+    bool FilterCommittingKey(QLineEdit& editor, const QKeyEvent& event, const InputField& field);
+    QWidget* FindOtherField() const;
+    bool PassOn(QEvent& event);
+    bool KeepsForUnit(const QKeyEvent& event);
+    void EndLateUnit();
     std::optional<double> Accept(QLineEdit& editor, const InputField& field);
     void HoldKey(QKeyEvent& event);
     bool OpenInput(const QKeyEvent& event);
     void OpenInputWithText(const QString& text);
     void OnEditorHidden();
+    void OnTextChanged();
     void OnTextEdited();
+    void FitEditor();
     void UpdateNotes();
 
     /// As a plain widget: it is asked for while the editor is being destroyed, too.
     QPointer<QWidget> m_pEditor;
     std::unique_ptr<EditorNotes> m_pNotes;
     std::unique_ptr<EscapeKey> m_pEscape;
+    std::unique_ptr<LateUnit> m_pLateUnit;
+
+    /// The window that was clicked last, since the editor was hidden.
+    QPointer<QWidget> m_pClicked;
 
     /// Why the text as it stands was refused.
     QString m_refusal;

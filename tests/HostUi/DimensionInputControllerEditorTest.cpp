@@ -1,0 +1,331 @@
+#include "HostUi/InputFixture.h"
+
+#include "Command/IActionManager.h"
+#include "Dimension/TemporaryDimensionStyle.h"
+
+#include "Support/TestValues.h"
+#include <QCloseEvent>
+
+using namespace vesk;
+using namespace vesk::test;
+
+namespace
+{
+
+TemporaryDimensionMgr& Manager()
+{
+    return *TemporaryDimensionMgr::GetInstance();
+}
+
+/// A field of the window beside the view, in which the user types now.
+struct FieldFixture : InputFixture
+{
+    FieldFixture() : InputFixture(Linear())
+    {
+        pField = new QLineEdit(&host.window);
+        pField->show();
+    }
+
+    void ClickField() { QTest::mouseClick(pField, Qt::LeftButton); }
+
+    /// A key as the window system delivers it that still takes the editor for the active window.
+    void PressInEditor(QEvent::Type type, int key, const QString& text = QString(),
+                       Qt::KeyboardModifiers modifiers = Qt::NoModifier) const
+    {
+        QKeyEvent press(type, key, modifiers, text);
+        press.ignore();
+        QCoreApplication::sendEvent(Editor(), &press);
+    }
+
+    QLineEdit* pField;
+};
+
+/// Notes which events of a kind an object gets.
+class EventCounter final : public QObject
+{
+public:
+    EventCounter(QObject& watched, QEvent::Type type) : m_type(type)
+    {
+        watched.installEventFilter(this);
+    }
+
+    int count = 0;
+
+protected:
+    bool eventFilter(QObject*, QEvent* pEvent) override
+    {
+        count += pEvent->type() == m_type ? 1 : 0;
+        return false;
+    }
+
+private:
+    QEvent::Type m_type;
+};
+
+}
+
+/// The editor as a window: its size, its end, and whose keys arrive in it.
+class DimensionInputControllerEditorTest final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void closingEndsTheInputAndNothingElse()
+    {
+        InputFixture f(Linear());
+        QCloseEvent close;
+
+        f.Type("50");
+        QCoreApplication::sendEvent(f.Editor(), &close);
+
+        QVERIFY(!close.isAccepted());
+        QVERIFY(!Manager().IsInputting());
+        QVERIFY(!f.Editor()->isVisible());
+        QCOMPARE(f.script.taken.size(), std::size_t(0));
+        QVERIFY(f.host.view.GetKeys().empty());
+        QVERIFY(IActionManager::CurrentAction() != nullptr);
+    }
+
+    void digitAfterClosingBeginsAnew()
+    {
+        InputFixture f(Linear());
+
+        f.Type("50");
+        QVERIFY(!f.Editor()->close());
+        f.Type("7").Press(Qt::Key_Return);
+
+        QCOMPARE(f.script.taken.size(), std::size_t(1));
+        QCOMPARE(f.script.taken[0].text, QString("7"));
+    }
+
+    void editorTakesNoInputMethod()
+    {
+        InputFixture f(Linear());
+
+        f.Type("5");
+
+        QVERIFY(!f.Editor()->testAttribute(Qt::WA_InputMethodEnabled));
+    }
+
+    void editorIsAsWideAsItsText()
+    {
+        InputFixture f(Linear());
+        f.host.view.resize(640, 480);
+
+        f.Type("1234567890.12345678901234");
+
+        const int text = f.Editor()->fontMetrics().horizontalAdvance(f.Editor()->text());
+        QVERIFY(f.Editor()->width() >= text + 8);
+        QVERIFY(f.Editor()->width() < text + 40);
+        QCOMPARE(TemporaryDimensionStyle().GetEditorWidth(), f.Editor()->width());
+    }
+
+    void dimensionsAreMadeAnewForAWiderEditor()
+    {
+        InputFixture f(Linear());
+        f.host.view.resize(640, 480);
+        f.Type("1234567890.1234");
+        const int before = f.host.view.GetRedrawCount();
+
+        f.Type("5");
+
+        QVERIFY(f.host.view.GetRedrawCount() > before);
+    }
+
+    void editorIsNeverNarrowerThanItOpens()
+    {
+        InputFixture f(Linear());
+        f.host.view.resize(640, 480);
+        f.Type("1234567890.12345678901234");
+
+        f.Editor()->selectAll();
+        f.Type("5");
+
+        QCOMPARE(f.Editor()->width(), 96);
+        QCOMPARE(TemporaryDimensionStyle().GetEditorWidth(), 96);
+    }
+
+    void editorIsNeverWiderThanItsView()
+    {
+        InputFixture f(Linear());
+        f.host.view.resize(300, 200);
+
+        f.Type(QString(60, '7'));
+
+        QVERIFY(f.Editor()->width() <= 300);
+        QVERIFY(f.Editor()->width() > 280);
+    }
+
+    void widthGoesWithTheInput()
+    {
+        InputFixture f(Linear());
+        f.host.view.resize(640, 480);
+        f.Type("1234567890.12345678901234");
+
+        Manager().EndInput();
+
+        QCOMPARE(TemporaryDimensionStyle().GetEditorWidth(), 96);
+    }
+
+    void emptiedFieldOfALockedValueIsFree()
+    {
+        InputFixture f(Linear());
+        Manager().SetLocked(InputState::IS_Length, true);
+
+        f.Type("5").Press(Qt::Key_Backspace);
+
+        QCOMPARE(f.freed, std::vector<InputState>{InputState::IS_Length});
+        QVERIFY(Manager().IsInputting());
+    }
+
+    void emptyTextIsRefusedAllTheSame_data()
+    {
+        QTest::addColumn<int>("key");
+
+        QTest::newRow("Return") << int(Qt::Key_Return);
+        QTest::newRow("Tab") << int(Qt::Key_Tab);
+        QTest::newRow("Shift+Tab") << int(Qt::Key_Backtab);
+    }
+
+    void emptyTextIsRefusedAllTheSame()
+    {
+        QFETCH(int, key);
+        InputFixture f(Linear());
+        Manager().SetLocked(InputState::IS_Length, true);
+
+        f.Type("5").Press(Qt::Key_Backspace).Press(key);
+
+        QCOMPARE(f.script.taken.size(), std::size_t(0));
+        QVERIFY(!f.controller.GetMessage().isEmpty());
+    }
+
+    void fieldThatIsNotEmptiedStaysLocked()
+    {
+        InputFixture f(Linear());
+        Manager().SetLocked(InputState::IS_Length, true);
+
+        f.Type("57").Press(Qt::Key_Backspace).Type("8");
+
+        QVERIFY(f.freed.empty());
+    }
+
+    void onlyTheEmptiedFieldIsFree()
+    {
+        InputFixture f(Linear());
+        Manager().SetLocked(InputState::IS_Angle, true);
+
+        f.Type("5").Press(Qt::Key_Backspace);
+
+        QVERIFY(f.freed.empty());
+    }
+
+    void keyOfAClosedEditorGoesToTheFieldThatWasClicked()
+    {
+        FieldFixture f;
+        f.Type("77");
+        Manager().EndInput();
+
+        f.ClickField();
+        f.PressInEditor(QEvent::KeyPress, Qt::Key_3, "3");
+
+        QCOMPARE(f.pField->text(), QString("3"));
+        QVERIFY(!Manager().IsInputting());
+    }
+
+    void keyOfAnOpenEditorGoesToTheFieldThatWasClicked()
+    {
+        FieldFixture f;
+        f.Type("77");
+
+        f.ClickField();
+        f.PressInEditor(QEvent::KeyPress, Qt::Key_3, "3");
+
+        QCOMPARE(f.pField->text(), QString("3"));
+        QCOMPARE(f.Editor()->text(), QString("77"));
+    }
+
+    void keyOfAnOpenEditorIsItsOwnAfterAClickOnIt()
+    {
+        FieldFixture f;
+        f.Type("77");
+
+        f.ClickField();
+        QTest::mouseClick(f.Editor(), Qt::LeftButton, {}, QPoint(90, 13));
+        f.PressInEditor(QEvent::KeyPress, Qt::Key_3, "3");
+
+        QCOMPARE(f.pField->text(), QString());
+        QVERIFY(f.Editor()->text().contains('3'));
+    }
+
+    void keyInTheViewGoesToTheEditorWhateverWasClicked()
+    {
+        FieldFixture f;
+        QWidget pane;
+        QLineEdit paneField(&pane);
+        pane.show();
+        f.Type("77");
+        QTest::mouseClick(&paneField, Qt::LeftButton);
+
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_3, Qt::NoModifier, "3");
+        f.controller.OnViewKey(press);
+
+        QCOMPARE(f.Editor()->text(), QString("773"));
+    }
+
+    void keyOfAClosedEditorGoesToThePaneThatWasClicked()
+    {
+        FieldFixture f;
+        QWidget pane;
+        QLineEdit paneField(&pane);
+        pane.show();
+        f.Type("77");
+        Manager().EndInput();
+
+        QTest::mouseClick(&paneField, Qt::LeftButton);
+        f.PressInEditor(QEvent::KeyPress, Qt::Key_3, "3");
+
+        QCOMPARE(paneField.text(), QString("3"));
+    }
+
+    void clickBeforeTheEndOfTheInputIsForgotten()
+    {
+        FieldFixture f;
+        f.Type("77");
+        QWidget pane;
+        QLineEdit paneField(&pane);
+        pane.show();
+        QTest::mouseClick(&paneField, Qt::LeftButton);
+
+        Manager().EndInput();
+        f.PressInEditor(QEvent::KeyPress, Qt::Key_3, "3");
+
+        QCOMPARE(paneField.text(), QString());
+        QCOMPARE(f.host.view.GetKeys(), std::vector<int>{Qt::Key_3});
+    }
+
+    void shortcutInAClosedEditorIsTheViews()
+    {
+        FieldFixture f;
+        EventCounter shortcuts(f.host.view, QEvent::ShortcutOverride);
+        f.Type("77");
+        Manager().EndInput();
+
+        f.PressInEditor(QEvent::ShortcutOverride, Qt::Key_Z, QString(), Qt::ControlModifier);
+
+        QCOMPARE(shortcuts.count, 1);
+    }
+
+    void shortcutInAnOpenEditorIsItsOwn()
+    {
+        FieldFixture f;
+        EventCounter shortcuts(f.host.view, QEvent::ShortcutOverride);
+        f.Type("77");
+
+        f.PressInEditor(QEvent::ShortcutOverride, Qt::Key_Z, QString(), Qt::ControlModifier);
+
+        QCOMPARE(shortcuts.count, 0);
+    }
+};
+
+QTEST_MAIN(DimensionInputControllerEditorTest)
+#include "DimensionInputControllerEditorTest.moc"
