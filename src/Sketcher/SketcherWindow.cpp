@@ -130,6 +130,7 @@ void SketcherWindow::BuildPanels(Qtitan::RibbonPage& page, ControlHost& controls
     m_panels.push_back(std::make_unique<SnapPanel>(m_workspace.snapper, *pDrafting, controls));
     auto pUnits = std::make_unique<UnitPanel>(*m_pView, *pDrafting, controls);
     connect(pUnits.get(), &UnitPanel::unitChanged, this, &SketcherWindow::unitChanged);
+    connect(pUnits.get(), &UnitPanel::unitChanged, m_pView, &vesk::DrawingView::TellCursor);
     m_panels.push_back(std::move(pUnits));
     m_panels.push_back(std::make_unique<DrawingPanel>(
         m_workspace, *page.addGroup(QStringLiteral("图纸")), controls));

@@ -110,6 +110,49 @@ private slots:
         QVERIFY(m_pView->GetCamera().GetCentre().isZero());
     }
 
+    void cursorIsToldAnewWhenTheCameraMoves_data()
+    {
+        QTest::addColumn<std::function<void(PlainView&)>>("move");
+        using Move = std::function<void(PlainView&)>;
+
+        QTest::newRow("magnified") << Move([](PlainView& view) { view.Magnify(2.0); });
+        QTest::newRow("another scale") << Move([](PlainView& view) { view.SetPixelsPerUnit(4.0); });
+        QTest::newRow("fitted") << Move([](PlainView& view) {
+            view.Fit({10.0, 10.0, 0.0}, {90.0, 40.0, 0.0});
+        });
+        QTest::newRow("wheel") << Move([](PlainView& view) { Turn(view, {100, 80}, 240); });
+        QTest::newRow("another size") << Move([](PlainView& view) {
+            view.window()->resize(900, 700);
+            QCoreApplication::sendPostedEvents();
+        });
+    }
+
+    void cursorIsToldAnewWhenTheCameraMoves()
+    {
+        QFETCH(std::function<void(PlainView&)>, move);
+        SendMouse(*m_pView, QEvent::MouseMove, {100, 80}, Qt::NoButton);
+        const QSignalSpy moves(m_pView, &DrawingView::cursorMoved);
+
+        move(*m_pView);
+
+        const Vector3d world = m_pView->GetCamera().ScreenToWorld(100, 80);
+        QVERIFY(!moves.isEmpty());
+        QCOMPARE(moves.last().at(0).toDouble(), world.x());
+        QCOMPARE(moves.last().at(1).toDouble(), world.y());
+    }
+
+    void cursorThatIsElsewhereIsNotTold()
+    {
+        SendMouse(*m_pView, QEvent::MouseMove, {100, 80}, Qt::NoButton);
+        QEvent leave(QEvent::Leave);
+        QCoreApplication::sendEvent(m_pView, &leave);
+        const QSignalSpy moves(m_pView, &DrawingView::cursorMoved);
+
+        m_pView->Magnify(2.0);
+
+        QCOMPARE(moves.size(), 0);
+    }
+
     void wheelZoomsAboutTheCursor()
     {
         const Vector3d before = m_pView->GetCamera().ScreenToWorld(100, 80);

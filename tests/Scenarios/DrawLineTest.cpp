@@ -2,6 +2,7 @@
 #include "ScenarioFixture.h"
 #include "ScriptedUser.h"
 #include "SketchView.h"
+#include "SketcherWindow.h"
 
 #include "Command/ActionManager.h"
 #include "Dimension/TemporaryDimensionMgr.h"
@@ -72,6 +73,27 @@ private slots:
 
         QVERIFY(idle.isValid());
         QCOMPARE(busy, idle);
+    }
+
+    void longHintLeavesTheWindowAsWideAsItIs()
+    {
+        int before = 0;
+        int after = 0;
+        ScriptedUser user;
+
+        user.Do([&before] {
+            ScriptedUser::FindWindow()->resize(ScriptedUser::FindWindow()->minimumSizeHint());
+            QCoreApplication::sendPostedEvents();
+            before = ScriptedUser::FindWindow()->width();
+            ScriptedUser::FindView()->SetViewText(std::wstring(300, L'汉'));
+        });
+        user.Do([&after] {
+            QCoreApplication::sendPostedEvents();
+            after = ScriptedUser::FindWindow()->width();
+        });
+        user.Run();
+
+        QCOMPARE(after, before);
     }
 
     void typedLengthAndAngleAreExact_data()

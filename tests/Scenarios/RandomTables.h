@@ -44,10 +44,12 @@ constexpr const char* Pens[] = {"Sketcher.LineStyle", "Sketcher.LineColour"};
 constexpr const char* PaneCommands[] = {"Sketcher.HideAllPanes", "Sketcher.DefaultLayout"};
 
 constexpr const char* Values[] = {
-    "50",    "12.5",    ".7",   "90",  "-90", "45",  "180",     "360",   "0",   "100",
-    "1,5",   "2cm",     "1in",  "3'",  "30d", "2*3", "1/3",     "10+5",  "(4)", "-0",
-    "1e-12", "1e9",     "-.5",  "abc", "5mm", "7 ",  "x",       "1 1/2", "0.1", "250",
-    "-12.5", "sqrt(2)", "-270", "-",   "75",  "60",  "33.3333", "1e-6",  "200", "123.4567890123",
+    "50",    "12.5", ".7",   "90",    "-90",     "45",     "180",         "360",
+    "0",     "100",  "1,5",  "2cm",   "1in",     "3'",     "30d",         "2*3",
+    "1/3",   "10+5", "(4)",  "-0",    "1e-12",   "1e9",    "-.5",         "abc",
+    "5mm",   "7 ",   "x",    "1 1/2", "0.1",     "250",    "-12.5",       "sqrt(2)",
+    "-270",  "-",    "75",   "60",    "33.3333", "1e-6",   "200",         "123.4567890123",
+    "10 cm", "5 mm", "30 d", "2 in",  "10' 6\"", "1/2 in", "7 cos(0d)*3", "40 x",
 };
 
 constexpr char Characters[] = {'0', '1', '2', '3', '4', '5', '6', '7', '8', '9',  '.',
@@ -62,10 +64,15 @@ struct KeyChoice
 
 /// With these a value is taken, or locked and the next field shown.
 constexpr KeyChoice CommittingKeys[] = {
-    {"Return", Qt::Key_Return, Qt::NoModifier},   {"Return", Qt::Key_Return, Qt::NoModifier},
-    {"Return", Qt::Key_Return, Qt::NoModifier},   {"Enter", Qt::Key_Enter, Qt::KeypadModifier},
-    {"Enter", Qt::Key_Enter, Qt::KeypadModifier}, {"Tab", Qt::Key_Tab, Qt::NoModifier},
-    {"Tab", Qt::Key_Tab, Qt::NoModifier},         {"Space", Qt::Key_Space, Qt::NoModifier},
+    {"Return", Qt::Key_Return, Qt::NoModifier},
+    {"Return", Qt::Key_Return, Qt::NoModifier},
+    {"Return", Qt::Key_Return, Qt::NoModifier},
+    {"Enter", Qt::Key_Enter, Qt::KeypadModifier},
+    {"Enter", Qt::Key_Enter, Qt::KeypadModifier},
+    {"Tab", Qt::Key_Tab, Qt::NoModifier},
+    {"Tab", Qt::Key_Tab, Qt::NoModifier},
+    {"Space", Qt::Key_Space, Qt::NoModifier},
+    {"Shift+Tab", Qt::Key_Backtab, Qt::ShiftModifier},
 };
 
 constexpr KeyChoice OtherKeys[] = {

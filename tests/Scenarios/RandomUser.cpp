@@ -180,7 +180,7 @@ void RandomUser::Fidget()
     case 13:
         return PressAnyKey();
     case 14:
-        return Type(QString(QChar(Pick(Characters))));
+        return IsOneIn(3) ? CloseEditor() : Type(QString(QChar(Pick(Characters))));
     default:
         return TypeValue();
     }

@@ -60,6 +60,7 @@ private:
     void EnterProperty(const QString& text);
     void EnterValues();
     void TypeValue();
+    void CloseEditor();
     void PressCommittingKey();
     void PressAnyKey();
     void Press(const QString& name, Qt::Key key, Qt::KeyboardModifiers modifiers = {},

@@ -5,6 +5,7 @@
 #include "SketcherWindow.h"
 #include "Support/TestValues.h"
 
+#include <QLineEdit>
 #include <QWheelEvent>
 
 #include <utility>
@@ -123,8 +124,30 @@ void RandomUser::TypeValue()
         return Type(text);
     const int cut = Choose(text.size() + 1);
     Type(text.left(cut));
-    IsOneIn(2) ? Zoom() : MoveMouse();
+    switch (Choose(5))
+    {
+    case 0:
+    case 1:
+        Zoom();
+        break;
+    case 2:
+    case 3:
+        MoveMouse();
+        break;
+    default:
+        CloseEditor();
+    }
     Type(text.mid(cut));
+}
+
+/// As a window manager asks it to.
+void RandomUser::CloseEditor()
+{
+    Do("close the editor", Act::CloseEditor, [] {
+        auto* pEditor = ScriptedUser::FindView()->findChild<QLineEdit*>("ViewInputLineEdit");
+        if (pEditor != nullptr && pEditor->isVisible())
+            pEditor->close();
+    });
 }
 
 void RandomUser::PressCommittingKey()

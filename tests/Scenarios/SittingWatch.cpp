@@ -2,6 +2,7 @@
 
 #include "ScriptedUser.h"
 #include "SketchView.h"
+#include "SketcherWindow.h"
 
 #include "Command/ActionManager.h"
 #include "Dimension/LengthUnit.h"
@@ -9,6 +10,8 @@
 #include "HostUi/QtText.h"
 
 #include <QLineEdit>
+
+#include <algorithm>
 
 using vesk::ActionManager;
 using vesk::LengthUnit;
@@ -21,6 +24,20 @@ namespace
 QLineEdit* FindEditor()
 {
     return ScriptedUser::FindView()->findChild<QLineEdit*>("ViewInputLineEdit");
+}
+
+/// True while the user has turned to a field of the window: keys are for it.
+bool IsTypingInAField()
+{
+    return qobject_cast<QLineEdit*>(ScriptedUser::FindWindow()->focusWidget()) != nullptr;
+}
+
+/// How many letters a text begins with.
+int FindLettersBefore(const QString& text)
+{
+    const auto end =
+        std::find_if_not(text.begin(), text.end(), [](QChar c) { return c.isLetter(); });
+    return static_cast<int>(end - text.begin());
 }
 
 }
@@ -60,6 +77,8 @@ void SittingWatch::Do(const QString& name, Act act, const std::function<void()>&
         m_faults << name + QStringLiteral(" kept a value of another unit");
     if (act == Act::Zoom)
         JudgeZoom(name, *before);
+    if (act == Act::CloseEditor)
+        JudgeClosed(name);
     if (act == Act::Key || act == Act::CommittingKey)
         JudgeKey(name, act, *before);
 }
@@ -74,7 +93,11 @@ void SittingWatch::Type(QChar character)
     // It waits for a command that waits, too.
     const bool isHeld = ActionManager::IsCommandWaiting();
 
+    const QString hintBefore = ScriptedUser::FindView()->GetViewText();
+
     ScriptedUser::TypeNow(character);
+
+    NoteLateUnit(hintBefore);
 
     if (isExpected && !isHeld && character.isDigit())
         JudgeDigit(character, before);
@@ -96,8 +119,9 @@ std::optional<SittingWatch::Input> SittingWatch::FindInput()
     const QLineEdit* pEditor = FindEditor();
     if (!manager.IsInputting() || pEditor == nullptr)
         return std::nullopt;
+    const bool hasFocus = pEditor->hasFocus() || ScriptedUser::FindView()->hasFocus();
     return Input{manager.GetInputState(), pEditor->text(), pEditor->selectedText(),
-                 pEditor->hasFocus() || ScriptedUser::FindView()->hasFocus()};
+                 hasFocus && !IsTypingInAField()};
 }
 
 void SittingWatch::JudgeKey(const QString& name, Act act, const Input& before)
@@ -128,11 +152,31 @@ void SittingWatch::JudgeZoom(const QString& name, const Input& before)
         m_faults << name + QStringLiteral(" changed what was being typed: ") + before.text;
 }
 
+void SittingWatch::JudgeClosed(const QString& name)
+{
+    if (FindInput().has_value() || FindEditor()->isVisible())
+        m_faults << name + QStringLiteral(" left it open");
+    ++m_tally.closed;
+}
+
+/// The view tells of a unit that came too late, and it opens no input.
+void SittingWatch::NoteLateUnit(const QString& hintBefore)
+{
+    const QString hint = ScriptedUser::FindView()->GetViewText();
+    if (hint == hintBefore || !hint.contains(QStringLiteral("空格")))
+        return;
+    ++m_tally.lateUnits;
+    if (FindInput().has_value())
+        m_faults << m_acts.back() + QStringLiteral(" began a value with a unit");
+}
+
 void SittingWatch::JudgeDigit(QChar digit, const std::optional<Input>& before)
 {
-    const int length =
-        before.has_value() ? before->text.size() - before->selectedText.size() + 1 : 1;
     const std::optional<Input> after = FindInput();
+    // Letters that might have become a unit come with the first key that makes them none.
+    const int length = before.has_value()
+                           ? before->text.size() - before->selectedText.size() + 1
+                           : FindLettersBefore(after.has_value() ? after->text : QString()) + 1;
     if (!after.has_value() || after->text.size() != length || !after->text.contains(digit))
         m_faults << m_acts.back() + QStringLiteral(" lost a digit: ") + digit;
 }

@@ -21,6 +21,8 @@ struct SittingTally
     int refused = 0;              ///< Values that a key should have taken, and that stayed.
     int zoomsWithin = 0;          ///< Zooms beside a value that was being typed.
     int switchesWithin = 0;       ///< Buttons clicked beside such a value.
+    int closed = 0;               ///< Editors that were closed with such a value in them.
+    int lateUnits = 0;            ///< Units typed after a blank that took the value.
 };
 
 /// Looks over the shoulder of a sitting's user: keeps what was done, in order, and what it led to.
@@ -33,7 +35,8 @@ public:
         Key, ///< Must leave the keyboard where a value is being typed, as long as one is.
         CommittingKey,
         Button,
-        Zoom, ///< Must leave a value that is being typed as it is.
+        Zoom,        ///< Must leave a value that is being typed as it is.
+        CloseEditor, ///< Must end the input.
     };
 
     explicit SittingWatch(SittingTally& tally);
@@ -70,7 +73,9 @@ private:
     void JudgeEditor(const QString& name);
     void JudgeKey(const QString& name, Act act, const Input& before);
     void JudgeZoom(const QString& name, const Input& before);
+    void JudgeClosed(const QString& name);
     void JudgeDigit(QChar digit, const std::optional<Input>& before);
+    void NoteLateUnit(const QString& hintBefore);
 
     SittingTally& m_tally;
     QStringList m_acts;

@@ -126,6 +126,8 @@ private slots:
         QVERIFY(m_tally.refused >= m_tally.sittings / 20);
         QVERIFY(m_tally.zoomsWithin >= m_tally.sittings / 20);
         QVERIFY(m_tally.switchesWithin >= m_tally.sittings / 20);
+        QVERIFY(m_tally.closed >= m_tally.sittings / 20);
+        QVERIFY(m_tally.lateUnits >= m_tally.sittings / 20);
     }
 
     void cleanupTestCase()
@@ -133,7 +135,8 @@ private slots:
         qInfo() << m_tally.sittings << "sittings of" << m_tally.acts << "acts and"
                 << m_tally.entities << "entities at the end," << m_tally.refused
                 << "values refused," << m_tally.zoomsWithin << "zooms and" << m_tally.switchesWithin
-                << "buttons within, taken by keys:" << m_tally.committed << m_tally.begun;
+                << "buttons within," << m_tally.closed << "editors closed," << m_tally.lateUnits
+                << "units too late, taken by keys:" << m_tally.committed << m_tally.begun;
     }
 
 private:

@@ -3,6 +3,7 @@
 #include "ScriptedUser.h"
 #include "SketchView.h"
 #include "SketcherProcess.h"
+#include "SketcherWindow.h"
 
 #include "Dimension/TemporaryDimensionMgr.h"
 #include "Support/TestValues.h"
@@ -12,6 +13,7 @@
 
 #include <cmath>
 #include <memory>
+#include <vector>
 
 namespace
 {
@@ -24,10 +26,26 @@ bool IsInputting()
     return vesk::TemporaryDimensionMgr::GetInstance()->IsInputting();
 }
 
-QString EditorText()
+std::vector<vesk::InputState> Locked()
 {
-    const auto* pEditor = ScriptedUser::FindView()->findChild<QLineEdit*>("ViewInputLineEdit");
-    return pEditor != nullptr ? pEditor->text() : QString();
+    return vesk::TemporaryDimensionMgr::GetInstance()->GetLocked();
+}
+
+QLineEdit* FindEditor()
+{
+    return ScriptedUser::FindView()->findChild<QLineEdit*>("ViewInputLineEdit");
+}
+
+/// Moves the mouse that far from the middle, at most to the view's edge. The pixel it is at then.
+QPoint MoveInside(const QPointF& cursor)
+{
+    const QRect inside = ScriptedUser::FindView()->rect().adjusted(2, 2, -2, -2);
+    const QPoint pixel(static_cast<int>(qBound<double>(
+                           inside.left(), inside.center().x() + cursor.x(), inside.right())),
+                       static_cast<int>(qBound<double>(
+                           inside.top(), inside.center().y() - cursor.y(), inside.bottom())));
+    ScriptedUser::MovePointer(pixel);
+    return pixel;
 }
 
 /// Whether a note beside the editor is on screen.
@@ -120,7 +138,7 @@ private slots:
 
         user.Click(s_line).ClickAt(0, 0).Type("50").Press(Qt::Key_Tab).Type("270");
         user.Press(Qt::Key_Tab).Press(Qt::Key_Tab);
-        user.Do([] { QCOMPARE(EditorText(), QString("270.00")); }).Press(Qt::Key_Return);
+        user.Do([] { QCOMPARE(FindEditor()->text(), QString("270.00")); }).Press(Qt::Key_Return);
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
         const auto values = RecordsOf<vesk::ValueRecord>(ReadJournal(Journal()));
@@ -145,16 +163,191 @@ private slots:
         QCOMPARE(ReadFile(replayed), ReadFile(m_pFixture->File("model")));
     }
 
-    void spaceTakesAFormula()
+    void textWithABlankIsAWhole_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<double>("millimetres");
+
+        QTest::newRow("feet and inches") << "10' 6\"" << 3200.4;
+        QTest::newRow("half an inch") << "1/2 in" << 12.7;
+        QTest::newRow("formula") << "20+ 2" << 22.0;
+    }
+
+    void textWithABlankIsAWhole()
+    {
+        QFETCH(QString, text);
+        QFETCH(double, millimetres);
+        ScriptedUser user;
+
+        user.Click(s_line).ClickAt(0, 0).Type(text).Press(Qt::Key_Return);
+
+        QCOMPARE(user.Run(m_pFixture->Draw()), 0);
+        const auto values = RecordsOf<vesk::ValueRecord>(ReadJournal(Journal()));
+        QCOMPARE(values.size(), std::size_t(1));
+        QCOMPARE(values[0].value, millimetres);
+        QCOMPARE(ReadModel(m_pFixture->File("model")).size(), 1);
+    }
+
+    void unitAfterABlankIsToldAndOneUndoTakesTheValueBack_data()
+    {
+        QTest::addColumn<QString>("command");
+        QTest::addColumn<QString>("text");
+
+        QTest::newRow("length") << "Sketcher.Line"
+                                << "10 cm";
+        QTest::newRow("width") << "Sketcher.Rectangle"
+                               << "10 m";
+        QTest::newRow("radius") << "Sketcher.Circle"
+                                << "10 inch";
+    }
+
+    void unitAfterABlankIsToldAndOneUndoTakesTheValueBack()
+    {
+        QFETCH(QString, command);
+        QFETCH(QString, text);
+        ScriptedUser user;
+
+        user.Click(command).ClickAt(0, 0).MoveTo(70, 30).Type(text).Do([] {
+            QVERIFY(!IsInputting());
+            QVERIFY(ScriptedUser::FindView()->GetViewText().contains("空格"));
+        });
+        user.Press(Qt::Key_Z, Qt::ControlModifier).Press(Qt::Key_Escape).UntilRunning({});
+
+        QCOMPARE(user.Run(m_pFixture->Draw()), 0);
+        QCOMPARE(RecordsOf<vesk::ValueRecord>(ReadJournal(Journal())).size(), std::size_t(1));
+        QCOMPARE(ReadEntities(m_pFixture->File("model")).size(), std::size_t(0));
+    }
+
+    void shiftTabTakesTheValueAndGoesOn_data()
+    {
+        QTest::addColumn<QString>("command");
+        QTest::addColumn<int>("second");
+
+        QTest::newRow("length and angle") << "Sketcher.Line" << int(vesk::InputState::IS_Angle);
+        QTest::newRow("width and height")
+            << "Sketcher.Rectangle" << int(vesk::InputState::IS_Height);
+    }
+
+    void shiftTabTakesTheValueAndGoesOn()
+    {
+        QFETCH(QString, command);
+        QFETCH(int, second);
+        ScriptedUser user;
+
+        user.Click(command).ClickAt(0, 0).MoveTo(70, 30).Type("50");
+        user.Press(Qt::Key_Backtab, Qt::ShiftModifier).Type("40").Press(Qt::Key_Return);
+
+        QCOMPARE(user.Run(m_pFixture->Draw()), 0);
+        const auto values = RecordsOf<vesk::ValueRecord>(ReadJournal(Journal()));
+        QCOMPARE(values.size(), std::size_t(2));
+        QCOMPARE(values[0].value, 50.0);
+        QCOMPARE(int(values[1].field), second);
+        QCOMPARE(values[1].value, 40.0);
+    }
+
+    void closedEditorForgetsItsText()
     {
         ScriptedUser user;
 
-        user.Click(s_line).ClickAt(0, 0).Type("20+2").Press(Qt::Key_Space);
+        user.Click(s_line).ClickAt(0, 0).Type("50").Do([] {
+            QVERIFY(!FindEditor()->close());
+            QVERIFY(!IsInputting());
+        });
+        user.Type("7").Press(Qt::Key_Return);
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
         const QVector<DrawnLine> lines = ReadModel(m_pFixture->File("model"));
         QCOMPARE(lines.size(), 1);
-        QCOMPARE(lines[0].Length(), 22.0);
+        QVERIFY(qAbs(lines[0].Length() - 7.0) <= 1e-9);
+    }
+
+    void emptiedFieldFollowsTheCursorAgain()
+    {
+        ScriptedUser user;
+
+        user.Click(s_line).ClickAt(0, 0).MoveTo(70, 30).Type("50").Press(Qt::Key_Tab);
+        user.Type("90").Press(Qt::Key_Tab).Do([] { QCOMPARE(Locked().size(), std::size_t(2)); });
+        user.Press(Qt::Key_Backspace).Do([] {
+            QCOMPARE(Locked(), std::vector<vesk::InputState>{vesk::InputState::IS_Angle});
+        });
+        user.Press(Qt::Key_Return).Do([] { QVERIFY(IsInputting()); });
+        user.Press(Qt::Key_Escape).ClickAt(40, 120);
+
+        QCOMPARE(user.Run(m_pFixture->Draw()), 0);
+        const QVector<DrawnLine> lines = ReadModel(m_pFixture->File("model"));
+        QCOMPARE(lines.size(), 1);
+        QVERIFY(qAbs(lines[0].Way(0)) <= 1e-9);
+        QVERIFY(qAbs(lines[0].Way(1) - 120.0) <= 1.0);
+        const QString replayed = m_pFixture->File("replayed");
+        QCOMPARE(RunSketcher({"--replay", Journal(), "--model", replayed}).code, 0);
+        QCOMPARE(ReadFile(replayed), ReadFile(m_pFixture->File("model")));
+    }
+
+    void wideEditorLiesInTheViewAndOffTheCursor_data()
+    {
+        QTest::addColumn<QPointF>("cursor");
+
+        QTest::newRow("middle") << QPointF(70, 30);
+        QTest::newRow("right") << QPointF(100000, 30);
+        QTest::newRow("left") << QPointF(-100000, 10);
+        QTest::newRow("corner") << QPointF(100000, -100000);
+    }
+
+    void wideEditorLiesInTheViewAndOffTheCursor()
+    {
+        QFETCH(QPointF, cursor);
+        ScriptedUser user;
+
+        user.Click(s_line).ClickAt(0, 0).Do([cursor] { MoveInside(cursor); });
+        user.Type("1234567890.12345678901234").Do([cursor] {
+            const QLineEdit& editor = *FindEditor();
+            const SketchView& view = *ScriptedUser::FindView();
+            const QRect covered(view.mapFromGlobal(editor.mapToGlobal(QPoint())), editor.size());
+            QVERIFY(editor.width() > editor.fontMetrics().horizontalAdvance(editor.text()));
+            QVERIFY(view.rect().contains(covered));
+            QVERIFY(!covered.contains(MoveInside(cursor)));
+        });
+        user.Press(Qt::Key_Escape);
+
+        QCOMPARE(user.Run(m_pFixture->Draw()), 0);
+    }
+
+    void coordinatesAreThoseUnderTheCursorAfterAZoom()
+    {
+        QString shown;
+        QString expected;
+        ScriptedUser user;
+
+        user.Do([&shown, &expected] {
+            SketchView& view = *ScriptedUser::FindView();
+            const QPoint pixel = MoveInside({100, 50});
+            view.Magnify(2.0);
+            shown = ScriptedUser::FindWindow()->findChild<QLabel*>("CursorPosition")->text();
+            const vesk::Vector3d world = view.GetCamera().ScreenToWorld(pixel.x(), pixel.y());
+            expected = QStringLiteral("X %1   Y %2   mm")
+                           .arg(world.x(), 0, 'f', 3)
+                           .arg(world.y(), 0, 'f', 3);
+        });
+
+        QCOMPARE(user.Run(m_pFixture->Draw()), 0);
+        QCOMPARE(shown, expected);
+    }
+
+    void coordinatesAreInTheUnitChosenLast()
+    {
+        QString shown;
+        ScriptedUser user;
+
+        user.Do([] {
+                MoveInside({100, 50});
+            })
+            .Click("Sketcher.Unit.cm")
+            .Do([&shown] {
+                shown = ScriptedUser::FindWindow()->findChild<QLabel*>("CursorPosition")->text();
+            });
+
+        QCOMPARE(user.Run(m_pFixture->Draw()), 0);
+        QVERIFY2(shown.endsWith("cm"), qPrintable(shown));
     }
 
     void confirmedValueAfterAFormulaIsNotRounded()

@@ -84,6 +84,14 @@ void DrawingView::SetPixelsPerUnit(double devicePixels)
     OnCameraChanged();
 }
 
+void DrawingView::TellCursor()
+{
+    if (!m_cursor.has_value())
+        return;
+    const Vector3d world = m_camera.ScreenToWorld(m_cursor->x(), m_cursor->y());
+    emit cursorMoved(world.x(), world.y());
+}
+
 QPointF DrawingView::ToPixel(const Vector3d& world) const
 {
     double x = 0.0;
@@ -132,12 +140,14 @@ void DrawingView::keyPressEvent(QKeyEvent* pEvent)
 
 void DrawingView::leaveEvent(QEvent* pEvent)
 {
+    m_cursor.reset();
     emit cursorLeft();
     QWidget::leaveEvent(pEvent);
 }
 
 void DrawingView::mouseMoveEvent(QMouseEvent* pEvent)
 {
+    m_cursor = pEvent->localPos();
     if (m_drag == Drag::Pan)
     {
         const QPointF moved = pEvent->localPos() - m_dragPosition;
@@ -146,9 +156,9 @@ void DrawingView::mouseMoveEvent(QMouseEvent* pEvent)
         OnCameraChanged();
         return;
     }
-    const Vector3d world = m_camera.ScreenToWorld(pEvent->localPos().x(), pEvent->localPos().y());
-    emit cursorMoved(world.x(), world.y());
-    ActionManager::ProcessMouseMove(this, world);
+    TellCursor();
+    ActionManager::ProcessMouseMove(
+        this, m_camera.ScreenToWorld(pEvent->localPos().x(), pEvent->localPos().y()));
 }
 
 void DrawingView::mousePressEvent(QMouseEvent* pEvent)
@@ -214,6 +224,7 @@ void DrawingView::wheelEvent(QWheelEvent* pEvent)
 {
     constexpr double StepsPerDoubling = 480.0;
     const double factor = std::pow(2.0, pEvent->angleDelta().y() / StepsPerDoubling);
+    m_cursor = pEvent->position();
     m_camera.ZoomAbout(pEvent->position().x(), pEvent->position().y(), factor);
     OnCameraChanged();
     pEvent->accept();
@@ -223,6 +234,7 @@ void DrawingView::OnCameraChanged()
 {
     ActionManager::RefreshViewInput(this);
     UpdateModel();
+    TellCursor();
 }
 
 const QPixmap& DrawingView::GetModelPicture()

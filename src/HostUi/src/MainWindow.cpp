@@ -29,6 +29,8 @@ MainWindow::MainWindow()
     m_pHint->setText(QStringLiteral("汉"));
     m_pHint->setMinimumHeight(m_pHint->sizeHint().height());
     m_pHint->clear();
+    // No hint is so long that the window must grow for it.
+    m_pHint->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_pCursor->setContentsMargins(Margin, 0, Margin, 0);
     statusBar()->addWidget(m_pHint, 1);
     statusBar()->addPermanentWidget(m_pWarningCount);
@@ -71,6 +73,7 @@ void MainWindow::SetDrawingView(DrawingView* pView)
 {
     setCentralWidget(pView);
     connect(pView, &DrawingView::viewTextChanged, m_pHint, &QLabel::setText);
+    connect(pView, &DrawingView::viewTextChanged, m_pHint, &QLabel::setToolTip);
     connect(pView, &DrawingView::cursorMoved, this, &MainWindow::OnCursorMoved);
     connect(pView, &DrawingView::cursorLeft, m_pCursor, &QLabel::clear);
 }

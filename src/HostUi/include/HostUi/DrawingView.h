@@ -8,6 +8,8 @@
 #include <QPointer>
 #include <QWidget>
 
+#include <optional>
+
 namespace vesk
 {
 
@@ -46,10 +48,13 @@ public:
     /// Shows a unit of the model in that many device pixels; the middle of the view stays.
     void SetPixelsPerUnit(double devicePixels);
 
+    /// Says once more where the cursor is, if it is in the view: what it means has changed.
+    void TellCursor();
+
 signals:
     void viewTextChanged(const QString& text);
 
-    /// The cursor moved to a world point, or left the view.
+    /// The cursor is at another world point, since it moved or the camera did; or it left the view.
     void cursorMoved(double x, double y);
     void cursorLeft();
 
@@ -102,6 +107,7 @@ private:
     mutable ModelView m_camera;
     QString m_viewText;
     Drag m_drag = Drag::None;
+    std::optional<QPointF> m_cursor; ///< In pixels; nothing while it is elsewhere.
     QPointF m_dragPosition;
     QPointer<QWidget> m_pWatchedWindow;
     bool m_hasScale = false;
