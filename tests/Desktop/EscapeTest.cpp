@@ -15,6 +15,7 @@ private slots:
     void inTheViewItEndsTheAction();
     void heldForTwoSecondsItCountsOnce_data();
     void heldForTwoSecondsItCountsOnce();
+    void closingTheEditorEndsTheInputOnly();
 
 private:
     void DrawOneLine();
@@ -122,6 +123,27 @@ void EscapeTest::heldForTwoSecondsItCountsOnce()
     QVERIFY(Session().WaitForNoEditor());
     QVERIFY(Session().WaitForAction(actionAfterwards));
     QCOMPARE(CloseAndReadLines().size(), 1);
+}
+
+/// As Escape does in the editor, by the window manager's own key.
+void EscapeTest::closingTheEditorEndsTheInputOnly()
+{
+    DrawOneLine();
+    QVERIFY(Session().Type("50"));
+    QVERIFY(Session().WaitFor([](const UiTree& tree) {
+        const std::optional<UiEditor> editor = tree.FindEditor();
+        return editor && editor->text == "50" && editor->hasFocus;
+    }));
+
+    QVERIFY(Session().Type("", {"alt+F4"}));
+
+    QVERIFY(Session().WaitForNoEditor());
+    QCOMPARE(Session().Tree().GetAction(), QString("Sketcher.Line"));
+    QVERIFY(Session().Type("7", {"Return"}));
+    QVERIFY(Session().WaitForEntities(2));
+    const QVector<DrawnLine> lines = CloseAndReadLines();
+    QCOMPARE(lines.size(), 2);
+    QVERIFY(qAbs(lines[1].GetLength() - 7.0) <= 1e-9);
 }
 
 }

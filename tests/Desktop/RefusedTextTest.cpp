@@ -13,6 +13,7 @@ private slots:
     void refusedTextStaysSelectedAndIsReplaced();
     void emptyTextIsRefused();
     void refusedAngleStaysInItsField();
+    void blankAfterARefusedTextReplacesIt();
 };
 
 void RefusedTextTest::refusedTextStaysSelectedAndIsReplaced_data()
@@ -85,6 +86,24 @@ void RefusedTextTest::refusedAngleStaysInItsField()
     QCOMPARE(lines.size(), 1);
     QVERIFY(qAbs(lines[0].GetLength() - 50.0) <= 1e-9);
     QVERIFY(AngleBetween(lines[0].GetAngle(), -45.0) <= 1e-9);
+}
+
+void RefusedTextTest::blankAfterARefusedTextReplacesIt()
+{
+    QVERIFY(Session().BeginLine());
+    QVERIFY(Session().MoveInView(QPointF(80.0, 40.0)));
+    QVERIFY(Session().Type("1,000", {"Return"}));
+    QVERIFY(Session().WaitFor([](const UiTree& tree) {
+        const std::optional<UiEditor> editor = tree.FindEditor();
+        return editor && editor->selectedText == "1,000";
+    }));
+
+    QVERIFY(Session().Type(" 2*4 ", {"Return"}));
+
+    QVERIFY(Session().WaitForEntities(1));
+    const QVector<DrawnLine> lines = CloseAndReadLines();
+    QCOMPARE(lines.size(), 1);
+    QVERIFY(qAbs(lines[0].GetLength() - 8.0) <= 1e-9);
 }
 
 }

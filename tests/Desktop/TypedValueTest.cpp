@@ -25,6 +25,11 @@ private slots:
     void treeTellsWhatTheTextComesTo();
     void formulaIsTakenAtFullSpeedWithTab();
     void tabBeforeTheFirstDigitLosesNone();
+    void unitAfterABlankIsToldAndTakenBack_data();
+    void unitAfterABlankIsToldAndTakenBack();
+    void shiftTabTakesTheLengthAndGoesOn();
+    void emptiedFieldFollowsTheCursorAgain();
+    void editorGrowsWithItsText();
     void stripCommandIsOnTheRibbonAndLeavesTheTextAlone();
 
 private:
@@ -45,6 +50,8 @@ void TypedValueTest::clearTextMakesTheVeryLine_data()
     QTest::newRow("half an inch") << "1/2in" << 12.7;
     QTest::newRow("feet and inches") << "10'6\"" << 3200.4;
     QTest::newRow("sum of lengths") << "1m+5cm" << 1050.0;
+    QTest::newRow("feet, blank, inches") << "10' 6\"" << 3200.4;
+    QTest::newRow("half, blank, an inch") << "1/2 in" << 12.7;
 }
 
 void TypedValueTest::clearTextMakesTheVeryLine()
@@ -131,6 +138,88 @@ void TypedValueTest::tabBeforeTheFirstDigitLosesNone()
                                    QStringList{"Return"}));
 
     QVERIFY(DrawsOneLine(42.25));
+}
+
+void TypedValueTest::unitAfterABlankIsToldAndTakenBack_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("centimetres") << "10 cm";
+    QTest::newRow("inches") << "10 in";
+    QTest::newRow("inches by their sign") << "10 \"";
+}
+
+void TypedValueTest::unitAfterABlankIsToldAndTakenBack()
+{
+    QFETCH(QString, text);
+
+    QVERIFY(Session().BeginLine());
+    QVERIFY(Session().MoveInView(QPointF(80.0, 40.0)));
+    QVERIFY(Session().Type(text, {"Return"}));
+    QVERIFY(Session().WaitFor(
+        [](const UiTree& tree) { return tree.GetHint().contains(QStringLiteral("空格")); }));
+    QVERIFY(Session().WaitForEntities(1));
+    QVERIFY(!Session().Tree().FindEditor());
+    QCOMPARE(Session().Tree().GetAction(), QString("Sketcher.Line"));
+
+    QVERIFY(Session().Type("", {"ctrl+z"}));
+    QVERIFY(Session().WaitForEntities(0));
+    QVERIFY(!Session().Tree().GetHint().contains(QStringLiteral("空格")));
+    QVERIFY(Session().Type("10cm", {"Return"}));
+
+    QVERIFY(DrawsOneLine(100.0));
+}
+
+void TypedValueTest::shiftTabTakesTheLengthAndGoesOn()
+{
+    QVERIFY(Session().BeginLine());
+    QVERIFY(Session().Type("60", QStringList{"shift+Tab"} + InputDriver::Text("30") +
+                                     QStringList{"Return"}));
+
+    QVERIFY(Session().WaitForEntities(1));
+    const QVector<DrawnLine> lines = CloseAndReadLines();
+    QCOMPARE(lines.size(), 1);
+    QVERIFY(qAbs(lines[0].GetLength() - 60.0) <= TOLERANCE);
+    QVERIFY(AngleBetween(lines[0].GetAngle(), 30.0) <= TOLERANCE);
+}
+
+void TypedValueTest::emptiedFieldFollowsTheCursorAgain()
+{
+    QVERIFY(Session().BeginLine());
+    QVERIFY(Session().MoveInView(QPointF(80.0, 40.0)));
+    QVERIFY(Session().Type("50", {"Tab", "Tab"}));
+    QVERIFY(Session().WaitFor([](const UiTree& tree) {
+        const std::optional<UiEditor> editor = tree.FindEditor();
+        return editor && editor->state == 1 && editor->locked == QVector<int>{1, 2};
+    }));
+
+    QVERIFY(Session().Type("", {"BackSpace"}));
+    QVERIFY(Session().WaitFor([](const UiTree& tree) {
+        const std::optional<UiEditor> editor = tree.FindEditor();
+        return editor && editor->text.isEmpty() && editor->locked == QVector<int>{2};
+    }));
+    QVERIFY(Session().Type("", {"Return"}));
+    QVERIFY(Session().WaitFor([](const UiTree& tree) {
+        const std::optional<UiEditor> editor = tree.FindEditor();
+        return editor && !editor->message.isEmpty();
+    }));
+    QCOMPARE(Session().Tree().GetEntityCount(), 0);
+}
+
+void TypedValueTest::editorGrowsWithItsText()
+{
+    QVERIFY(Session().BeginLine());
+    QVERIFY(Session().MoveInView(QPointF(80.0, 40.0)));
+    QVERIFY(Session().Type("7"));
+    QVERIFY(Session().WaitForEditor("7"));
+    const int opened = Session().Tree().FindEditor()->rect.width();
+
+    QVERIFY(Session().Type("000000000/1000000000000000"));
+
+    QVERIFY(Session().WaitFor([opened](const UiTree& tree) {
+        const std::optional<UiEditor> editor = tree.FindEditor();
+        return editor && editor->text.size() == 26 && editor->rect.width() > 2 * opened &&
+               tree.FindView()->rect.contains(editor->rect);
+    }));
 }
 
 void TypedValueTest::stripCommandIsOnTheRibbonAndLeavesTheTextAlone()
