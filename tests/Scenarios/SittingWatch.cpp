@@ -142,7 +142,14 @@ void SittingWatch::JudgeEditor(const QString& name)
     const QLineEdit& editor = *FindEditor();
     const QRect covered(view.mapFromGlobal(editor.mapToGlobal(QPoint(0, 0))), editor.size());
     if (!editor.isVisible() || !view.rect().contains(covered))
-        m_faults << QStringLiteral("the editor is not in the view before ") + name;
+        m_faults << QStringLiteral("the editor (%1,%2 %3x%4) is not in the view (%5x%6) before ")
+                            .arg(covered.x())
+                            .arg(covered.y())
+                            .arg(covered.width())
+                            .arg(covered.height())
+                            .arg(view.width())
+                            .arg(view.height()) +
+                        name;
 }
 
 void SittingWatch::JudgeZoom(const QString& name, const Input& before)

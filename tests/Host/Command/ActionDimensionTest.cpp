@@ -4,6 +4,8 @@
 #include "Command/IActionManager.h"
 #include "Support/TestValues.h"
 
+#include <algorithm>
+
 namespace vesk
 {
 
@@ -52,6 +54,8 @@ private slots:
     void aMouseMoveShowsTheDimensionsAnew();
     void anActionWithoutDimensionsDropsTheHandler();
     void refreshingMakesGraphicsOnly();
+    void refreshingGoesOnUntilTheEnd();
+    void aFreedValueShowsTheDimensionsAnew();
     void aHandlerMayRefreshInItsKey();
     void theEndDropsTheHandlerBeforeTheActionIsFreed();
     void theActionIsUnknownWhileItsInputEnds();
@@ -127,6 +131,42 @@ void ActionDimensionTest::refreshingMakesGraphicsOnly()
     });
 
     QCOMPARE(log, (Log{"1.graphics", "place", "1.graphics", "place"}));
+}
+
+void ActionDimensionTest::refreshingGoesOnUntilTheEnd()
+{
+    Fixture f;
+    Log log;
+
+    f.Run([&] {
+        Dimensions().OnKeyDown('1', false, false, false);
+        ActionManager::Reset();
+        f.TakeHandlerLog();
+        ActionManager::RefreshViewInput(&f.view);
+        log = f.TakeHandlerLog();
+    });
+
+    QVERIFY(log == (Log{"1.graphics", "place"}));
+}
+
+void ActionDimensionTest::aFreedValueShowsTheDimensionsAnew()
+{
+    Fixture f;
+    Log handlerLog;
+    int redraws = 0;
+
+    f.Run([&] {
+        Dimensions().OnKeyDown('1', false, false, false);
+        f.TakeHandlerLog();
+        redraws = f.view.GetRedrawCount();
+        ActionManager::FreeValue(&f.view, InputState::IS_Angle);
+        redraws = f.view.GetRedrawCount() - redraws;
+        handlerLog = f.TakeHandlerLog();
+    });
+
+    QVERIFY(handlerLog == (Log{"1.graphics", "place"}));
+    QVERIFY(std::count(f.log.begin(), f.log.end(), "Line.freed 2") == 1);
+    QCOMPARE(redraws, 1);
 }
 
 void ActionDimensionTest::aHandlerMayRefreshInItsKey()

@@ -95,6 +95,11 @@ public:
             m_script.onViewInput(input);
     }
 
+    void OnValueFreed(InputState field) override
+    {
+        Note("freed " + std::to_string(static_cast<int>(field)));
+    }
+
     bool OnEscape() override
     {
         Note("escape");

@@ -1,3 +1,4 @@
+#include "Dimension/TemporaryDimensionMgr.h"
 #include "Host/Dimension/GeneratorKinds.h"
 #include "Host/View/StubView.h"
 #include "Support/TestValues.h"
@@ -9,6 +10,7 @@
 
 #include <QRect>
 
+#include <algorithm>
 #include <cmath>
 #include <random>
 #include <vector>
@@ -150,6 +152,16 @@ private:
     std::mt19937 m_engine;
 };
 
+/// An open editor that has grown with its text.
+class WideEditor
+{
+public:
+    explicit WideEditor(int width) { TemporaryDimensionMgr::GetInstance()->SetEditorWidth(width); }
+    ~WideEditor() { TemporaryDimensionMgr::GetInstance()->SetEditorWidth(0); }
+    WideEditor(const WideEditor&) = delete;
+    WideEditor& operator=(const WideEditor&) = delete;
+};
+
 /// The corners, the middles and the quarters of the edges, on the edge and near it; the middle.
 std::vector<QPointF> GetCursors(int width, int height)
 {
@@ -177,6 +189,8 @@ class DimensionPlacementTest : public QObject
 private slots:
     void editorsAreInTheViewAndOffTheCursorAtItsEdges_data();
     void editorsAreInTheViewAndOffTheCursorAtItsEdges();
+    void wideEditorsAreInTheViewAndOffTheCursorToo_data();
+    void wideEditorsAreInTheViewAndOffTheCursorToo();
     void theWidthGoesToTheOppositeSideAtTheEdgeOfTheView();
     void theHeightGoesInsideWhereTheRectangleFillsTheView();
     void theHeightKeepsOffTheWidth();
@@ -229,6 +243,36 @@ void DimensionPlacementTest::editorsAreInTheViewAndOffTheCursorAtItsEdges()
                                                             .arg(cursor.y())
                                                             .arg(i)));
         }
+    }
+}
+
+void DimensionPlacementTest::wideEditorsAreInTheViewAndOffTheCursorToo_data()
+{
+    editorsAreInTheViewAndOffTheCursorAtItsEdges_data();
+}
+
+/// Up to almost the whole width of a small view. Then there is not always room for two such texts.
+void DimensionPlacementTest::wideEditorsAreInTheViewAndOffTheCursorToo()
+{
+    QFETCH(int, pair);
+    QFETCH(QSize, size);
+    const GeneratorPair& generators = GetGeneratorPairs()[pair];
+    const WideEditor wide(std::min(size.width() - 8, 500));
+    Fixture f;
+    f.camera.SetSize(size.width(), size.height());
+    Scene scene(2);
+    for (const QPointF& cursor : GetCursors(size.width(), size.height()))
+    {
+        scene.SetCamera(f);
+        scene.SetPlane(f);
+        scene.SetPoints(f, generators, cursor);
+
+        f.Generate(generators);
+
+        const bool isPlaced = f.IsPlaced(*generators.pFirst) &&
+                              (generators.pSecond == nullptr || f.IsPlaced(*generators.pSecond));
+        QVERIFY2(isPlaced,
+                 qPrintable(QStringLiteral("cursor %1, %2").arg(cursor.x()).arg(cursor.y())));
     }
 }
 

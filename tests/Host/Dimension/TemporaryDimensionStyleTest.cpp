@@ -2,6 +2,7 @@
 
 #include "Dimension/LinearTemporaryDimensionContext.h"
 #include "Dimension/TemporaryDimensionData.h"
+#include "Dimension/TemporaryDimensionMgr.h"
 #include "Support/HostValues.h"
 #include "Support/TestValues.h"
 
@@ -25,6 +26,7 @@ private slots:
     void textsAreThoseOfTheEditor();
     void everyDoubleHasAText();
     void theEditorHasASize();
+    void theWidthIsThatOfTheOpenEditor();
     void aLinearContextTakesLengthsAndAnglesOfTheModel();
     void rangesOfALinearContextCanBeNarrowed();
     void eachStateHasAnEntryOfItsOwn();
@@ -128,6 +130,21 @@ void TemporaryDimensionStyleTest::theEditorHasASize()
 {
     QCOMPARE(TemporaryDimensionStyle().GetEditorWidth(), 96);
     QCOMPARE(TemporaryDimensionStyle().GetEditorHeight(), 26);
+}
+
+void TemporaryDimensionStyleTest::theWidthIsThatOfTheOpenEditor()
+{
+    TemporaryDimensionMgr& manager = *TemporaryDimensionMgr::GetInstance();
+
+    manager.SetEditorWidth(240);
+    const int wide = TemporaryDimensionStyle().GetEditorWidth();
+    manager.SetEditorWidth(50);
+    const int narrow = TemporaryDimensionStyle().GetEditorWidth();
+    manager.SetEditorWidth(0);
+
+    QCOMPARE(wide, 240);
+    QCOMPARE(narrow, 96);
+    QCOMPARE(TemporaryDimensionStyle().GetEditorWidth(), 96);
 }
 
 void TemporaryDimensionStyleTest::aLinearContextTakesLengthsAndAnglesOfTheModel()

@@ -2,6 +2,7 @@
 
 #include "Command/ActionRunner.h"
 #include "Command/ActionViewInput.h"
+#include "Command/IActionManager.h"
 #include "Command/ICommand.h"
 #include "Dimension/ITemporaryDimensionContext.h"
 #include "Dimension/TemporaryDimensionMgr.h"
@@ -77,9 +78,13 @@ void ActionManager::FreeValue(IUiView* pView, InputState field)
 
 void ActionManager::RefreshViewInput(IUiView* pView)
 {
-    Runner().Operate([](const IAction& action) {
+    const auto regenerate = [](const IAction& action) {
         TemporaryDimensionMgr::GetInstance()->Regenerate(action.CreateDimensionContext());
-    });
+    };
+    // An action whose end was asked for takes nothing more, but its input is still on screen.
+    const IAction* pAction = IActionManager::CurrentAction();
+    if (!Runner().Operate(regenerate) && pAction != nullptr)
+        regenerate(*pAction);
     Redraw(pView);
 }
 
