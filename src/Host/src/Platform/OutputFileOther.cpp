@@ -1,0 +1,114 @@
+#include "Platform/OutputFile.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <utility>
+
+namespace vesk
+{
+
+namespace
+{
+
+constexpr mode_t s_newFileMode = 0666;
+constexpr int s_commonFlags = O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC;
+
+int DescriptorOf(std::intptr_t handle)
+{
+    return static_cast<int>(handle);
+}
+
+/// Some files, as devices, have nothing that could be on a disk.
+bool IsSyncUnknown()
+{
+    return errno == EINVAL || errno == ENOSYS || errno == ENOTSUP || errno == EROFS;
+}
+
+}
+
+OutputFile::OutputFile(OutputFile&& other) noexcept
+    : m_handle(std::exchange(other.m_handle, NoHandle))
+{}
+
+OutputFile& OutputFile::operator=(OutputFile&& other) noexcept
+{
+    if (this != &other)
+    {
+        Close();
+        m_handle = std::exchange(other.m_handle, NoHandle);
+    }
+    return *this;
+}
+
+OutputFile::Opening OutputFile::OpenAlone(const std::filesystem::path& path)
+{
+    Close();
+    const int descriptor = ::open(path.c_str(), s_commonFlags, s_newFileMode);
+    if (descriptor < 0)
+        return Opening::Failed;
+    if (::flock(descriptor, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK)
+    {
+        ::close(descriptor);
+        return Opening::InUse;
+    }
+    m_handle = descriptor;
+    return Opening::Done;
+}
+
+bool OutputFile::OpenShared(const std::filesystem::path& path)
+{
+    Close();
+    m_handle = ::open(path.c_str(), s_commonFlags, s_newFileMode);
+    return IsOpen();
+}
+
+bool OutputFile::Create(const std::filesystem::path& path)
+{
+    Close();
+    m_handle = ::open(path.c_str(), s_commonFlags | O_EXCL, s_newFileMode);
+    return IsOpen();
+}
+
+std::size_t OutputFile::Write(std::string_view bytes)
+{
+    std::size_t written = 0;
+    while (IsOpen() && written < bytes.size())
+    {
+        const ssize_t count =
+            ::write(DescriptorOf(m_handle), bytes.data() + written, bytes.size() - written);
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count <= 0)
+            break;
+        written += static_cast<std::size_t>(count);
+    }
+    return written;
+}
+
+bool OutputFile::CutTo(std::uint64_t size)
+{
+    struct stat status = {};
+    if (::fstat(DescriptorOf(m_handle), &status) != 0)
+        return false;
+    const bool isLonger = static_cast<std::uint64_t>(status.st_size) > size;
+    return !isLonger || ::ftruncate(DescriptorOf(m_handle), static_cast<off_t>(size)) == 0;
+}
+
+bool OutputFile::Sync()
+{
+    return ::fsync(DescriptorOf(m_handle)) == 0 || IsSyncUnknown();
+}
+
+bool OutputFile::Close()
+{
+    if (!IsOpen())
+        return true;
+    const int descriptor = DescriptorOf(std::exchange(m_handle, NoHandle));
+    return ::close(descriptor) == 0 || errno == EINTR;
+}
+
+}

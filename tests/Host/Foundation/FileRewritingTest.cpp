@@ -1,0 +1,146 @@
+#include "Foundation/FileRewriting.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <filesystem>
+#include <memory>
+
+namespace vesk
+{
+
+/// Files that are replaced as a whole.
+class FileRewritingTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { m_pFolder = std::make_unique<QTemporaryDir>(); }
+
+    void aFileIsMade();
+    void aFileIsReplaced();
+    void noOtherFileIsLeft();
+    void permissionsStay();
+    void linksStayLinks_data();
+    void linksStayLinks();
+    void whatIsNoFileIsLeftAlone_data();
+    void whatIsNoFileIsLeftAlone();
+
+private:
+    QString Path(const QString& name) const { return m_pFolder->filePath(name); }
+
+    static QByteArray Get(const QString& path)
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
+    }
+
+    static bool Rewrite(const QString& path, const std::string& content)
+    {
+        return RewriteFile(path.toStdString(), content);
+    }
+
+    QStringList Names() const
+    {
+        return QDir(m_pFolder->path())
+            .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    }
+
+    std::unique_ptr<QTemporaryDir> m_pFolder;
+};
+
+void FileRewritingTest::aFileIsMade()
+{
+    const QString name = QString::fromUtf8("图");
+
+    QVERIFY(Rewrite(Path(name), "content"));
+
+    QCOMPARE(Get(Path(name)), QByteArray("content"));
+    QVERIFY(QFileInfo(Path(name)).permission(QFile::ReadOwner | QFile::WriteOwner));
+}
+
+void FileRewritingTest::aFileIsReplaced()
+{
+    QVERIFY(Rewrite(Path("file"), std::string(100000, 'a')));
+
+    QVERIFY(Rewrite(Path("file"), std::string("b\0c", 3)));
+
+    QCOMPARE(Get(Path("file")), QByteArray("b\0c", 3));
+}
+
+void FileRewritingTest::noOtherFileIsLeft()
+{
+    QVERIFY(Rewrite(Path("file"), "first"));
+    QVERIFY(Rewrite(Path("file"), "second"));
+
+    QCOMPARE(Names(), QStringList("file"));
+}
+
+void FileRewritingTest::permissionsStay()
+{
+    QVERIFY(Rewrite(Path("file"), "first"));
+    const QFile::Permissions permissions =
+        QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
+    QVERIFY(QFile::setPermissions(Path("file"), permissions));
+
+    QVERIFY(Rewrite(Path("file"), "second"));
+
+    QCOMPARE(QFile::permissions(Path("file")), permissions);
+}
+
+void FileRewritingTest::linksStayLinks_data()
+{
+    QTest::addColumn<QString>("target");
+    QTest::addColumn<bool>("isThere");
+    QTest::newRow("to a file") << "file" << true;
+    QTest::newRow("to no file yet") << "file" << false;
+    QTest::newRow("to another link") << "inner" << true;
+}
+
+void FileRewritingTest::linksStayLinks()
+{
+    QFETCH(QString, target);
+    QFETCH(bool, isThere);
+    if (isThere)
+        QVERIFY(Rewrite(Path("file"), "first"));
+    // Relative ones, as people make them.
+    std::filesystem::create_symlink("file", Path("inner").toStdString());
+    std::filesystem::create_symlink(target.toStdString(), Path("link").toStdString());
+
+    QVERIFY(Rewrite(Path("link"), "second"));
+
+    QVERIFY(QFileInfo(Path("link")).isSymLink());
+    QVERIFY(QFileInfo(Path("inner")).isSymLink());
+    QVERIFY(!QFileInfo(Path("file")).isSymLink());
+    QCOMPARE(Get(Path("file")), QByteArray("second"));
+}
+
+void FileRewritingTest::whatIsNoFileIsLeftAlone_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::newRow("folder") << "FOLDER/folder";
+    QTest::newRow("in no folder") << "FOLDER/none/file";
+    QTest::newRow("device") << "/dev/full";
+    QTest::newRow("no name") << "";
+}
+
+void FileRewritingTest::whatIsNoFileIsLeftAlone()
+{
+    QFETCH(QString, path);
+    path.replace("FOLDER", m_pFolder->path());
+    QVERIFY(QDir(m_pFolder->path()).mkdir("folder"));
+
+    QVERIFY(!Rewrite(path, "content"));
+
+    QCOMPARE(Names(), QStringList("folder"));
+    QVERIFY(QFileInfo(Path("folder")).isDir());
+    QVERIFY(!QFileInfo("/dev/full").isFile());
+}
+
+}
+
+QTEST_APPLESS_MAIN(vesk::FileRewritingTest)
+#include "FileRewritingTest.moc"

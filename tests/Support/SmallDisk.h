@@ -1,0 +1,77 @@
+#pragma once
+
+#include <QByteArray>
+#include <QFile>
+#include <QString>
+#include <QTemporaryDir>
+
+#include <sched.h>
+#include <sys/mount.h>
+#include <unistd.h>
+
+namespace vesk
+{
+
+/// A disk of a few pages, seen by this process and those that it starts, and gone with them.
+///
+/// To mount it takes rights; IsMounted tells whether they were there.
+class SmallDisk
+{
+public:
+    static constexpr int PageSize = 4096;
+
+    explicit SmallDisk(int pages)
+    {
+        const QByteArray options = "size=" + QByteArray::number(pages * PageSize);
+        // Without the rights in the system, they may be had among users of one's own.
+        const bool isOwn = unshare(CLONE_NEWNS) == 0 || unshare(CLONE_NEWUSER | CLONE_NEWNS) == 0;
+        m_isMounted = isOwn && mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+                      mount("tmpfs", QFile::encodeName(m_folder.path()).constData(), "tmpfs", 0,
+                            options.constData()) == 0;
+    }
+
+    ~SmallDisk()
+    {
+        if (m_isMounted)
+            umount2(QFile::encodeName(m_folder.path()).constData(), MNT_DETACH);
+    }
+
+    SmallDisk(const SmallDisk&) = delete;
+    SmallDisk& operator=(const SmallDisk&) = delete;
+
+    bool IsMounted() const { return m_isMounted; }
+    QString File(const QString& name) const { return m_folder.filePath(name); }
+
+    /// Takes pages until so many are left.
+    void LeavePages(int count)
+    {
+        QFile::remove(Filler());
+        QFile filler(Filler());
+        filler.open(QIODevice::WriteOnly | QIODevice::Unbuffered);
+        const QByteArray page(PageSize, 'f');
+        while (filler.write(page) == PageSize)
+        {}
+        filler.resize(filler.size() - qint64(count) * PageSize);
+    }
+
+    /// How many pages can still be had.
+    int CountFree() const
+    {
+        QFile probe(File("probe"));
+        probe.open(QIODevice::WriteOnly | QIODevice::Unbuffered);
+        const QByteArray page(PageSize, 'p');
+        int count = 0;
+        while (probe.write(page) == PageSize)
+            ++count;
+        probe.remove();
+        return count;
+    }
+
+private:
+    QString Filler() const { return File("filler"); }
+
+    QTemporaryDir m_folder;
+    bool m_isMounted = false;
+};
+
+}
