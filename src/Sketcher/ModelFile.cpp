@@ -4,11 +4,10 @@
 #include "ShapeKind.h"
 #include "Sketch.h"
 
+#include "Foundation/FileRewriting.h"
 #include "Foundation/Text.h"
 
 #include <nlohmann/json.hpp>
-
-#include <QSaveFile>
 
 #include <cstddef>
 #include <string>
@@ -70,9 +69,5 @@ bool WriteModelFile(const Sketch& sketch, const QString& path)
         entities.push_back(ToJson(entity));
     const std::string text = Json{{"entities", entities}}.dump() + "\n";
 
-    QSaveFile file(path);
-    return file.open(QIODevice::WriteOnly) &&
-           file.write(text.data(), static_cast<qint64>(text.size())) ==
-               static_cast<qint64>(text.size()) &&
-           file.commit();
+    return vesk::RewriteFile(path.toStdString(), text);
 }

@@ -1,12 +1,15 @@
 #include "HostUi/LayoutFile.h"
 
+#include "Foundation/FileRewriting.h"
+
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSaveFile>
+
+#include <cstddef>
 
 namespace vesk
 {
@@ -39,14 +42,20 @@ LayoutFile::Reading ReadText(const QByteArray& text)
     return {Content::Layout, layout};
 }
 
-void KeepForeign(const QString& path)
+bool Rewrite(const QString& path, const QByteArray& content)
+{
+    return RewriteFile(path.toStdString(), {content.data(), std::size_t(content.size())});
+}
+
+/// Keeps a copy of what is no layout of this version. False when that cannot be done.
+bool KeepForeign(const QString& path)
 {
     const LayoutFile::Content content = LayoutFile::Read(path).content;
     if (content != LayoutFile::Content::Damaged && content != LayoutFile::Content::Newer)
-        return;
-    const QString kept = path + QStringLiteral(".kept");
-    QFile::remove(kept);
-    QFile::rename(path, kept);
+        return true;
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) &&
+           Rewrite(path + QStringLiteral(".kept"), file.readAll());
 }
 
 }
@@ -64,15 +73,12 @@ LayoutFile::Reading LayoutFile::Read(const QString& path)
 bool LayoutFile::Write(const QString& path, const QByteArray& layout)
 {
     QDir().mkpath(QFileInfo(path).path());
-    KeepForeign(path);
     const QJsonObject content{
         {QStringLiteral("version"), Version},
         {QStringLiteral("layout"), QString::fromLatin1(layout.toBase64())},
         {QStringLiteral("checksum"), Checksum(layout)},
     };
-    QSaveFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(QJsonDocument(content).toJson()) > 0 &&
-           file.commit();
+    return KeepForeign(path) && Rewrite(path, QJsonDocument(content).toJson());
 }
 
 }

@@ -2,9 +2,10 @@
 
 #include "UiTree.h"
 
+#include "Foundation/FileRewriting.h"
+
 #include <QApplication>
 #include <QEvent>
-#include <QSaveFile>
 
 #include <chrono>
 #include <utility>
@@ -42,11 +43,7 @@ bool UiTreeWriter::Write()
     std::string described = DescribeUi(m_input, m_countEntities());
     if (described == m_written)
         return true;
-    QSaveFile file(m_path);
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
-    file.write(described.data(), static_cast<qint64>(described.size()));
-    if (!file.commit())
+    if (!RewriteFile(m_path.toStdString(), described))
         return false;
     m_written = std::move(described);
     return true;
