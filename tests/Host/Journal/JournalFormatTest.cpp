@@ -72,6 +72,9 @@ private slots:
     void parametersKeepTheirTypes();
     void integersAreGoodForRealNumbers();
     void spacesAreAllowed();
+    void deepNestingIsTold_data();
+    void deepNestingIsTold();
+    void keysOfDifferentObjectsMayBeTheSame();
     void aBadLineIsTold_data();
     void aBadLineIsTold();
 };
@@ -342,6 +345,11 @@ void JournalFormatTest::aBadLineIsTold_data()
          R"({"n":1,"kind":"property","object":"a","property":"b","value":1.5})",
          R"("value" is no text)"},
         {"unknown result", R"({"n":1,"kind":"end","result":"ok"})", R"(unknown result "ok")"},
+        {"key twice", R"({"n":1,"n":1,"kind":"undo","entity":1})", R"(the key "n" stands twice)"},
+        {"key twice, one escaped", R"({"n":1,"kind":"undo","entity":1,"\u0065ntity":2})",
+         R"(the key "entity" stands twice)"},
+        {"parameter twice", R"({"n":1,"kind":"command","id":"A","parameters":{"B":1,"C":2,"B":3}})",
+         R"(the key "B" stands twice)"},
         {"more than the kind has", R"({"n":1,"kind":"undo","entity":1,"point":[1,2,3]})",
          R"("point" does not belong to this kind)"},
     };
@@ -349,6 +357,42 @@ void JournalFormatTest::aBadLineIsTold_data()
     QTest::addColumn<QString>("error");
     for (const auto& row : rows)
         QTest::newRow(row.name) << QByteArray(row.line) << QString(row.error);
+}
+
+void JournalFormatTest::deepNestingIsTold_data()
+{
+    QTest::addColumn<QByteArray>("line");
+    QTest::addColumn<QString>("error");
+    const QString tooDeep = "this is nested too deeply";
+    const QByteArray begin = R"({"n":1,"kind":"undo","entity":)";
+    constexpr int Deep = 20000;
+
+    QTest::newRow("lists") << begin + QByteArray(Deep, '[') + QByteArray(Deep, ']') + "}"
+                           << tooDeep;
+    QTest::newRow("lists without end") << begin + QByteArray(Deep, '[') << tooDeep;
+    QTest::newRow("objects") << begin + QByteArray("{\"a\":").repeated(Deep) << tooDeep;
+    QTest::newRow("a list too many") << begin + QByteArray(32, '[') << tooDeep;
+    QTest::newRow("the deepest") << begin + QByteArray(31, '[') + QByteArray(31, ']') + "}"
+                                 << R"("entity" is no integer)";
+    QTest::newRow("lists in turn") << begin + "[" + QByteArray("[],").repeated(Deep) + "1]}"
+                                   << R"("entity" is no integer)";
+    QTest::newRow("brackets in a text") << begin + '"' + QByteArray(Deep, '[') + "\"}"
+                                        << R"("entity" is no integer)";
+}
+
+void JournalFormatTest::deepNestingIsTold()
+{
+    QFETCH(QByteArray, line);
+    QFETCH(QString, error);
+
+    QCOMPARE(QString::fromStdString(ErrorOf(line.toStdString())), error);
+}
+
+void JournalFormatTest::keysOfDifferentObjectsMayBeTheSame()
+{
+    const CommandParameters parameters = ReadParameters(R"({"n":5,"kind":6,"id":7})");
+
+    QVERIFY(*parameters.Find(L"kind") == CommandParameterValue(6));
 }
 
 void JournalFormatTest::aBadLineIsTold()

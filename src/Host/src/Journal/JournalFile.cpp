@@ -61,7 +61,6 @@ bool JournalFormat::ReadFile(const std::string& path, std::vector<JournalRecord>
     SequenceCheck sequence;
     std::size_t lineNumber = 1;
     std::size_t begin = 0;
-    // What follows the last line end was torn.
     for (std::size_t end = text.find('\n'); end != std::string::npos; end = text.find('\n', begin))
     {
         JournalRecord record;
@@ -77,7 +76,11 @@ bool JournalFormat::ReadFile(const std::string& path, std::vector<JournalRecord>
         ++lineNumber;
         begin = end + 1;
     }
-    return true;
+    // What follows the last line end was torn, but for lines that end as no line of a journal does.
+    if (text.find('\r', begin) == std::string::npos)
+        return true;
+    error = "line " + std::to_string(lineNumber) + ": it ends with a carriage return alone";
+    return false;
 }
 
 }

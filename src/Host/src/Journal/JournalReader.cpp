@@ -75,8 +75,8 @@ const char* NameOf(InputState field)
 
 bool JournalReader::Read()
 {
-    if (!ParseJson(m_text, m_line))
-        return Fail("this is no JSON");
+    if (!ParseJson(m_text, m_line, m_error))
+        return false;
     if (!m_line.is_object())
         return Fail("this is no JSON object");
     if (!TakeInteger("n", m_record.number))

@@ -3,8 +3,11 @@
 #include <algorithm>
 #include <charconv>
 #include <cstddef>
+#include <optional>
+#include <set>
 #include <string_view>
 #include <system_error>
+#include <vector>
 
 namespace vesk
 {
@@ -151,15 +154,78 @@ bool Untag(Json& value)
     return true;
 }
 
+/// False when lists and objects of a text stand in one another more deeply than may be read: what
+/// reads them calls itself for each.
+bool IsFlatEnough(std::string_view text)
+{
+    constexpr int GreatestDepth = 32;
+    int depth = 0;
+    for (std::size_t index = 0; index < text.size(); ++index)
+    {
+        if (text[index] == '"')
+            index = FindStringEnd(text, index) - 1;
+        else if (text[index] == '[' || text[index] == '{')
+            ++depth;
+        else if (text[index] == ']' || text[index] == '}')
+            --depth;
+        if (depth > GreatestDepth)
+            return false;
+    }
+    return true;
 }
 
-bool ParseJson(const std::string& text, Json& value)
+/// Watches a text being parsed for keys that stand twice in one object.
+class DoubleKeys
 {
+public:
+    bool On(Json::parse_event_t event, const Json& parsed)
+    {
+        if (event == Json::parse_event_t::object_start)
+            m_open.emplace_back();
+        else if (event == Json::parse_event_t::object_end)
+            m_open.pop_back();
+        else if (event == Json::parse_event_t::key)
+            Note(parsed.get<std::string>().substr(1));
+        return true;
+    }
+
+    /// The first such key.
+    const std::optional<std::string>& Get() const { return m_found; }
+
+private:
+    void Note(const std::string& key)
+    {
+        if (!m_open.back().insert(key).second && !m_found.has_value())
+            m_found = key;
+    }
+
+    std::vector<std::set<std::string>> m_open;
+    std::optional<std::string> m_found;
+};
+
+}
+
+bool ParseJson(const std::string& text, Json& value, std::string& error)
+{
+    error = "this is no JSON";
     std::string tagged;
     if (!Tag(text, tagged))
         return false;
-    value = Json::parse(tagged, nullptr, false);
-    return !value.is_discarded() && Untag(value);
+    if (!IsFlatEnough(tagged))
+    {
+        error = "this is nested too deeply";
+        return false;
+    }
+    DoubleKeys keys;
+    const auto watch = [&keys](int, Json::parse_event_t event, Json& parsed) {
+        return keys.On(event, parsed);
+    };
+    value = Json::parse(tagged, watch, false);
+    if (value.is_discarded() || !Untag(value))
+        return false;
+    if (keys.Get().has_value())
+        error = "the key \"" + *keys.Get() + "\" stands twice";
+    return !keys.Get().has_value();
 }
 
 }
