@@ -3,8 +3,8 @@
 #include "Support/FileSizeLimit.h"
 #include "Support/SmallDisk.h"
 
+#include "Support/TestValues.h"
 #include <QDir>
-#include <QtTest>
 
 namespace vesk
 {

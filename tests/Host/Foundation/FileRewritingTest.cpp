@@ -1,10 +1,10 @@
 #include "Foundation/FileRewriting.h"
 
+#include "Support/TestValues.h"
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
-#include <QtTest>
 
 #include <filesystem>
 #include <memory>

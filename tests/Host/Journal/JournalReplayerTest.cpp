@@ -8,6 +8,9 @@
 
 #include <stdexcept>
 
+#include <functional>
+#include <utility>
+
 namespace vesk
 {
 
@@ -16,12 +19,22 @@ namespace
 
 using Fixture = ReplayFixture;
 
+/// Puts a journal together.
+using Writing = std::function<void(Fixture&)>;
+
 QString FailureOf(const JournalReplayResult& result)
 {
     return QString::fromStdString(result.failure);
 }
 
 }
+
+}
+
+Q_DECLARE_METATYPE(vesk::Writing)
+
+namespace vesk
+{
 
 class JournalReplayerTest : public QObject
 {
@@ -55,6 +68,11 @@ private slots:
     void aFailureStopsTheReplayAndEndsTheAction();
     void anExceptionStopsTheReplayAndEndsTheAction();
     void aDisabledCommandIsAFailure();
+    void whatWasRepeatedIsCounted();
+    void aCommandThatCannotDoWhatItsParametersSayIsAFailure();
+    void aPlainCommandThatWaitedAndDidNotGetItsMarkIsRepeated();
+    void missingMarksSayWhatTheJournalSaidWithoutThem_data();
+    void missingMarksSayWhatTheJournalSaidWithoutThem();
     void aReplayInsideAnActionIsRefused();
     void aReplayWritesTheJournalOfItsOwn();
 };
@@ -393,6 +411,111 @@ void JournalReplayerTest::aDisabledCommandIsAFailure()
 
     QCOMPARE(FailureOf(f.Replay()), QString(R"(record 2: the command "Undo" is disabled)"));
     QVERIFY(!f.Has("Undo"));
+}
+
+void JournalReplayerTest::whatWasRepeatedIsCounted()
+{
+    Fixture f;
+    f.isDisabled["Undo"] = true;
+    f.Command(L"Line").Point(1).End(1).Command(L"Undo").End(3).Command(L"Zoom").End(4);
+
+    const JournalReplayResult result = f.Replay();
+
+    QCOMPARE(result.failedNumber, 3);
+    QCOMPARE(result.repeatedCount, std::size_t(3));
+    f.isDisabled.clear();
+    const JournalReplayResult whole = f.Replay();
+    QCOMPARE(whole.failedNumber, 0);
+    QCOMPARE(whole.repeatedCount, f.records.size());
+}
+
+void JournalReplayerTest::aCommandThatCannotDoWhatItsParametersSayIsAFailure()
+{
+    Fixture f;
+    f.Command(L"Zoom").End(1).Command(L"Undo").End(2);
+    f.impossible = L"Undo";
+
+    const JournalReplayResult result = f.Replay();
+
+    QCOMPARE(FailureOf(result),
+             QString(R"(record 2: the command "Undo" cannot do what its parameters say)"));
+    QVERIFY(f.log == (Log{"Zoom"}));
+}
+
+void JournalReplayerTest::aPlainCommandThatWaitedAndDidNotGetItsMarkIsRepeated()
+{
+    Fixture f;
+    f.Command(L"Line").Point(1).Command(L"Undo").End(1).Undo(1);
+
+    const JournalReplayResult result = f.Replay();
+
+    QCOMPARE(FailureOf(result), QString());
+    QVERIFY(f.log ==
+            (Log{"Line.begin", "Line.point 1", "Line.end", "Line.delete", "Undo", "undo 1"}));
+}
+
+void JournalReplayerTest::missingMarksSayWhatTheJournalSaidWithoutThem_data()
+{
+    QTest::addColumn<Writing>("write");
+    QTest::addColumn<QString>("marks");
+    const auto row = [](const char* name, const Writing& write, const char* marks) {
+        QTest::newRow(name) << write << QString(marks);
+    };
+    row(
+        "whole", [](Fixture& f) { f.Command(L"Line").Point(1).End(1); }, "");
+    row(
+        "an action", [](Fixture& f) { f.Command(L"Line").Point(1); }, "1 done");
+    row(
+        "an action that was to be ended",
+        [](Fixture& f) { f.Command(L"Line").Point(1).Command(L"Erase"); }, "1 done, 3 done");
+    row(
+        "two that waited",
+        [](Fixture& f) { f.Command(L"Line").Command(L"Erase").Command(L"Line"); },
+        "1 done, 2 done, 3 done");
+    row(
+        "an action that another one followed",
+        [](Fixture& f) { f.Command(L"Line").Point(1).Command(L"Erase").Point(2, 1).End(3); }, "");
+    row(
+        "both of them",
+        [](Fixture& f) { f.Command(L"Line").Point(1).Command(L"Erase").Point(2, 1); }, "3 done");
+    row(
+        "a plain command without result", [](Fixture& f) { f.Command(L"Undo"); }, "1 refused");
+    row(
+        "a plain command with its result",
+        [](Fixture& f) { f.Command(L"Line").Point(1).Command(L"Undo").Undo(1); }, "3 done, 1 done");
+    row(
+        "a plain command that waited",
+        [](Fixture& f) { f.Command(L"Line").Point(1).Command(L"Undo").End(1).Undo(1); }, "3 done");
+    row(
+        "a plain command beside an action",
+        [](Fixture& f) { f.Command(L"Line").Point(1).Command(L"Zoom").End(3).Point(2); }, "1 done");
+    row(
+        "one that was refused",
+        [](Fixture& f) { f.Command(L"Line").Point(1).Command(L"Erase").End(3, true); }, "1 done");
+}
+
+void JournalReplayerTest::missingMarksSayWhatTheJournalSaidWithoutThem()
+{
+    QFETCH(Writing, write);
+    QFETCH(QString, marks);
+    Fixture f;
+    write(f);
+
+    const JournalReplayResult broken = f.Replay();
+    const Log before = std::exchange(f.log, {});
+    QStringList found;
+    for (const EndRecord& mark : broken.missingMarks)
+    {
+        found << QString::number(mark.command) + (mark.isRefused ? " refused" : " done");
+        f.End(mark.command, mark.isRefused);
+    }
+    const JournalReplayResult completed = f.Replay();
+
+    QCOMPARE(found.join(", "), marks);
+    QCOMPARE(FailureOf(broken), QString());
+    QCOMPARE(FailureOf(completed), QString());
+    QVERIFY(f.log == before);
+    QVERIFY(completed.missingMarks.empty());
 }
 
 void JournalReplayerTest::aReplayInsideAnActionIsRefused()

@@ -16,7 +16,14 @@ namespace vesk
 class ReplayTarget final : public IJournalReplayTarget
 {
 public:
-    explicit ReplayTarget(Log& log, std::size_t stopAt) : m_log(log), m_stopAt(stopAt) {}
+    ReplayTarget(Log& log, std::size_t stopAt, const std::wstring& impossible)
+        : m_log(log), m_stopAt(stopAt), m_impossible(impossible)
+    {}
+
+    bool CanRepeat(const CommandRecord& record) override
+    {
+        return record.commandId != m_impossible;
+    }
 
     bool OnProgress(std::size_t done, std::size_t total) override
     {
@@ -47,6 +54,7 @@ public:
 private:
     Log& m_log;
     std::size_t m_stopAt;
+    std::wstring m_impossible;
     Log m_progress;
 };
 
@@ -87,7 +95,7 @@ struct ReplayFixture : ActionFixture
 
     JournalReplayResult Replay()
     {
-        ReplayTarget target(log, stopAt);
+        ReplayTarget target(log, stopAt, impossible);
         const JournalReplayResult result = JournalReplayer::Replay(records, target);
         progress = target.GetProgress();
         return result;
@@ -99,6 +107,9 @@ struct ReplayFixture : ActionFixture
     /// Before which record the target stops the replay.
     std::size_t stopAt = std::numeric_limits<std::size_t>::max();
     Log progress;
+
+    /// The command that the target cannot repeat.
+    std::wstring impossible;
 };
 
 }

@@ -1,8 +1,8 @@
 #include "Platform/OutputFile.h"
 
+#include "Support/TestValues.h"
 #include <QFile>
 #include <QTemporaryDir>
-#include <QtTest>
 
 namespace vesk
 {

@@ -9,6 +9,7 @@
 #include "Journal/JournalManager.h"
 #include "View/IUiDocumentViewManager.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <deque>
 #include <map>
@@ -110,7 +111,9 @@ private:
     bool MustWait(const Pending& command) const;
     bool IsBeside(const Pending& command) const;
     bool IsWorthRunning(const Pending& command) const;
-    std::string Name(int number, const std::string& failure) const;
+    std::string FailAt(int number, const std::string& failure);
+    std::vector<EndRecord> FindMissingMarks() const;
+    bool IsFollowedByCommandsOnly(std::size_t index) const;
 
     const std::vector<JournalRecord>& m_records;
     IJournalReplayTarget& m_target;
@@ -124,6 +127,9 @@ private:
 
     /// Commands that were recorded while another was being ended.
     std::deque<Pending> m_pending;
+
+    /// The record that cannot be repeated; 0 for none so far.
+    int m_failedNumber = 0;
 };
 
 bool IsInteractive(const CommandRecord& record)
@@ -152,7 +158,11 @@ JournalReplayResult Replay::Run()
         if (result.isStopped)
             break;
         result.failure = RunRecord();
+        result.repeatedCount += result.failure.empty() ? 1 : 0;
     }
+    ActionManager::Reset();
+    result.failedNumber = m_failedNumber;
+    result.missingMarks = FindMissingMarks();
     return result;
 }
 
@@ -160,7 +170,7 @@ std::string Replay::RunRecord()
 {
     const JournalRecord& record = m_records[m_index];
     const std::string failure = std::visit(*this, record.what);
-    return failure.empty() ? RunPending() : Name(record.number, failure);
+    return failure.empty() ? RunPending() : FailAt(record.number, failure);
 }
 
 /// Runs the commands whose turn has come.
@@ -172,7 +182,7 @@ std::string Replay::RunPending()
         m_pending.pop_front();
         const std::string failure = RunCommand(command);
         if (!failure.empty())
-            return Name(command.number, failure);
+            return FailAt(command.number, failure);
     }
     return {};
 }
@@ -254,8 +264,46 @@ bool Replay::IsWorthRunning(const Pending& command) const
 {
     if (m_marks.Has(command.number) || IsInteractive(command.record))
         return true;
-    const std::size_t next = command.index + 1;
+    std::size_t next = command.index + 1;
+    // The action that it waited for ended first.
+    while (next < m_records.size() && std::holds_alternative<EndRecord>(m_records[next].what))
+        ++next;
     return next < m_records.size() && std::holds_alternative<UndoRecord>(m_records[next].what);
+}
+
+/// Plain commands ran beside the action: their marks come first. An action that another one ended
+/// gets none if that one did anything: behind it, the mark would have the other one wait.
+std::vector<EndRecord> Replay::FindMissingMarks() const
+{
+    std::vector<EndRecord> plain;
+    std::vector<EndRecord> interactive;
+    for (std::size_t i = 0; i < m_records.size(); ++i)
+    {
+        const int number = m_records[i].number;
+        const auto* pCommand = std::get_if<CommandRecord>(&m_records[i].what);
+        if (pCommand == nullptr || m_marks.Has(number))
+            continue;
+        if (!IsInteractive(*pCommand))
+            plain.push_back({number, !IsWorthRunning({number, i, *pCommand})});
+        else if (IsFollowedByCommandsOnly(i))
+            interactive.push_back({number, false});
+    }
+    plain.insert(plain.end(), interactive.begin(), interactive.end());
+    return plain;
+}
+
+/// True when nothing was done since the next action was asked for.
+bool Replay::IsFollowedByCommandsOnly(std::size_t index) const
+{
+    const auto isAction = [this](const JournalRecord& record) {
+        const auto* pCommand = std::get_if<CommandRecord>(&record.what);
+        return pCommand != nullptr && IsInteractive(*pCommand) && !m_marks.IsRefused(record.number);
+    };
+    const auto begin = m_records.begin() + static_cast<std::ptrdiff_t>(index) + 1;
+    const auto next = std::find_if(begin, m_records.end(), isAction);
+    return std::all_of(next, m_records.end(), [](const JournalRecord& record) {
+        return std::holds_alternative<CommandRecord>(record.what);
+    });
 }
 
 std::string Replay::RunCommand(const Pending& command)
@@ -273,13 +321,16 @@ std::string Replay::RunCommand(const Pending& command)
     }
     if (!pCommand->IsEnabled())
         return "the command " + name + " is disabled";
+    if (!m_target.CanRepeat(command.record))
+        return "the command " + name + " cannot do what its parameters say";
     JournalManager::GetInstance().Add(command.record);
     ActionManager::ProcessCommand(CurrentView(), pCommand, command.record.parameters, nullptr);
     return {};
 }
 
-std::string Replay::Name(int number, const std::string& failure) const
+std::string Replay::FailAt(int number, const std::string& failure)
 {
+    m_failedNumber = number;
     return "record " + std::to_string(number) + ": " + failure;
 }
 
@@ -289,7 +340,11 @@ JournalReplayResult JournalReplayer::Replay(const std::vector<JournalRecord>& re
                                             IJournalReplayTarget& target)
 {
     if (ActionRunner::GetInstance().IsInEventLoop())
-        return {"a command is running", false, {}};
+    {
+        JournalReplayResult refused;
+        refused.failure = "a command is running";
+        return refused;
+    }
     ActionManager::Reset();
     const EventLoopOffScope eventLoopOff;
     JournalReplayResult result;
