@@ -67,8 +67,9 @@ public:
     /// cannot be opened: the log then goes to standard error, as it does before the first call.
     bool OpenLog(const std::string& path);
 
-    /// Writes the closing lines of suppressed places and closes the file.
-    void CloseLog();
+    /// Writes the closing lines of suppressed places and closes the file. False when there was a
+    /// file and a line is missing in it: that one went to standard error.
+    bool CloseLog();
 
     /// Whether somebody is there to be asked. At first so, unless VESK_UNATTENDED is set to 1 in
     /// the environment. While nobody is and an application exists, warnings are only logged.

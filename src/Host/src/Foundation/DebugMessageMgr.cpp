@@ -158,9 +158,9 @@ bool DebugMessageMgr::OpenLog(const std::string& path)
     return WarningLog::GetInstance().Open(path);
 }
 
-void DebugMessageMgr::CloseLog()
+bool DebugMessageMgr::CloseLog()
 {
-    WarningLog::GetInstance().Close();
+    return WarningLog::GetInstance().Close();
 }
 
 void DebugMessageMgr::SetAttended(bool isAttended)

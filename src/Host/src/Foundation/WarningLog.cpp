@@ -6,7 +6,9 @@
 #include <chrono>
 #include <cstdio>
 #include <filesystem>
+#include <fstream>
 #include <string_view>
+#include <utility>
 
 namespace vesk
 {
@@ -26,6 +28,16 @@ void ReplaceAll(std::string& text, std::string_view what, std::string_view by)
     for (std::size_t at = text.find(what); at != std::string::npos;
          at = text.find(what, at + by.size()))
         text.replace(at, what.size(), by);
+}
+
+/// True when a file ends in the middle of a line.
+bool IsTorn(const std::filesystem::path& path)
+{
+    std::ifstream stream(path, std::ios::binary | std::ios::ate);
+    if (!stream.is_open() || stream.tellg() <= 0)
+        return false;
+    stream.seekg(-1, std::ios::end);
+    return stream.get() != '\n';
 }
 
 /// The record in one line, also for readers to whom Unicode's line separators end a line.
@@ -50,12 +62,12 @@ bool WarningLog::Open(const std::string& path)
 {
     Close();
     const std::lock_guard lock(m_mutex);
-    m_file.clear();
-    m_file.open(std::filesystem::u8path(path), std::ios::app | std::ios::binary);
-    return m_file.is_open();
+    const std::filesystem::path file = std::filesystem::u8path(path);
+    m_isTorn = IsTorn(file);
+    return m_file.OpenShared(file);
 }
 
-void WarningLog::Close()
+bool WarningLog::Close()
 {
     const std::lock_guard lock(m_mutex);
     for (const auto& [place, count] : m_counts)
@@ -69,7 +81,8 @@ void WarningLog::Close()
                    {"suppressed", count - s_maxLinesPerPlace}});
     }
     m_counts.clear();
-    m_file.close();
+    const bool isClosed = m_file.Close();
+    return !std::exchange(m_isLineMissing, false) && isClosed;
 }
 
 void WarningLog::Add(const std::string& file, int line, nlohmann::ordered_json record)
@@ -93,12 +106,23 @@ int WarningLog::CountUp(const Place& place)
 void WarningLog::WriteLine(const nlohmann::ordered_json& record)
 {
     const std::string line = ToLine(record);
-    if (m_file.is_open() && m_file.write(line.data(), static_cast<std::streamsize>(line.size())) &&
-        m_file.flush())
+    if (WriteToFile(line))
         return;
-    // A full disk: the next line tries the file again.
-    m_file.clear();
+    m_isLineMissing = m_isLineMissing || m_file.IsOpen();
     std::fwrite(line.data(), 1, line.size(), stderr);
+}
+
+/// A line that the disk had no room for leaves a part of it at most, for other programs may have
+/// written behind it: the next one begins a line of its own.
+bool WarningLog::WriteToFile(const std::string& line)
+{
+    if (!m_file.IsOpen())
+        return false;
+    const std::string text = m_isTorn ? '\n' + line : line;
+    const std::size_t written = m_file.Write(text);
+    if (written > 0)
+        m_isTorn = text[written - 1] != '\n';
+    return written == text.size();
 }
 
 }

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "Platform/OutputFile.h"
+
 #include <nlohmann/json.hpp>
 
-#include <fstream>
 #include <map>
 #include <mutex>
 #include <string>
@@ -20,12 +21,14 @@ public:
     /// Never destroyed, so that a warning of a late thread still finds it.
     static WarningLog& GetInstance();
 
-    /// Closes, then appends to the file at `path` (UTF-8). False when it cannot be opened.
+    /// Closes, then appends to the file at `path` (UTF-8), which other programs may do, too. False
+    /// when it cannot be opened.
     bool Open(const std::string& path);
 
     /// Writes a closing line for each place with suppressed lines, forgets all counts and closes
-    /// the file.
-    void Close();
+    /// the file. False when there was a file and a line is missing in it: that one went to standard
+    /// error.
+    bool Close();
 
     /// Counts one record of the place and writes it, completed by time, count and the end of the
     /// journal, unless the place has written its share of lines.
@@ -38,9 +41,14 @@ private:
 
     int CountUp(const Place& place);
     void WriteLine(const nlohmann::ordered_json& record);
+    bool WriteToFile(const std::string& line);
 
     std::mutex m_mutex;
-    std::ofstream m_file;
+    OutputFile m_file;
+
+    /// True while the end of the file is no line end: a line was torn there.
+    bool m_isTorn = false;
+    bool m_isLineMissing = false;
     std::map<Place, int> m_counts;
 };
 
