@@ -15,7 +15,7 @@ namespace vesk
 
 MainWindow::MainWindow()
     : m_pRibbon(new Qtitan::RibbonBar(this)), m_pHint(new QLabel(this)),
-      m_pCursor(new QLabel(this)), m_pWarningCount(new QLabel(this))
+      m_pCursor(new QLabel(this)), m_pStates(new QLabel(this)), m_pWarningCount(new QLabel(this))
 {
     setMenuWidget(m_pRibbon);
     m_pHint->setObjectName(QStringLiteral("Hint"));
@@ -33,11 +33,16 @@ MainWindow::MainWindow()
     m_pHint->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_pCursor->setContentsMargins(Margin, 0, Margin, 0);
     statusBar()->addWidget(m_pHint, 1);
+    statusBar()->addPermanentWidget(m_pStates);
     statusBar()->addPermanentWidget(m_pWarningCount);
     statusBar()->addPermanentWidget(m_pCursor);
     m_pWarningCount->setObjectName(QStringLiteral("WarningCount"));
     m_pWarningCount->setToolTip(QStringLiteral("对话框打开时发生的警告，见日志"));
     m_pWarningCount->hide();
+    m_pStates->setObjectName(QStringLiteral("States"));
+    // Where there is no room the tool tip tells it: the window does not grow.
+    m_pStates->setMinimumWidth(1);
+    m_pStates->hide();
 
     // The host names windows by their native window.
     winId();
@@ -82,6 +87,23 @@ void MainWindow::ShowNotice(const QString& text)
 {
     constexpr int DurationMs = 10000;
     statusBar()->showMessage(text, DurationMs);
+}
+
+void MainWindow::ShowState(const QString& subject, const QString& text, const QString& details)
+{
+    m_states.remove(subject);
+    if (!text.isEmpty())
+        m_states[subject] = {text, details};
+    QStringList texts;
+    QStringList tips;
+    for (const State& state : m_states)
+    {
+        texts << state.text;
+        tips << state.details;
+    }
+    m_pStates->setText(texts.join(QStringLiteral("；")));
+    m_pStates->setToolTip(tips.join(QLatin1Char('\n')));
+    m_pStates->setVisible(!m_states.isEmpty());
 }
 
 void MainWindow::closeEvent(QCloseEvent* pEvent)

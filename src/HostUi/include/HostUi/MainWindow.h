@@ -5,6 +5,8 @@
 #include "View/IUiManager.h"
 
 #include <QMainWindow>
+#include <QMap>
+#include <QString>
 
 #include <atomic>
 
@@ -49,6 +51,10 @@ public:
     /// Shows a text in the status bar for some seconds.
     void ShowNotice(const QString& text);
 
+    /// Keeps a short text in the status bar for as long as it is true; its tool tip tells more.
+    /// There is one for each subject, and an empty one takes it away.
+    void ShowState(const QString& subject, const QString& text, const QString& details);
+
 signals:
     /// The window is about to close; panes stand as they did.
     void closeAccepted();
@@ -63,6 +69,16 @@ private:
     Qtitan::RibbonBar* m_pRibbon;
     QLabel* m_pHint;
     QLabel* m_pCursor;
+
+    struct State
+    {
+        QString text;
+        QString details;
+    };
+
+    /// What is true for longer than a moment, by its subject.
+    QMap<QString, State> m_states;
+    QLabel* m_pStates;
 
     /// How many warnings were raised while another was on screen.
     QLabel* m_pWarningCount;

@@ -1,0 +1,133 @@
+#include "HostUi/TerminationRequests.h"
+
+#include <QEventLoop>
+#include <QFile>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include <array>
+#include <csignal>
+
+namespace vesk
+{
+
+/// What the operating system asks of a process.
+class TerminationRequestsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void eachSignalIsARequest_data();
+    void eachSignalIsARequest();
+    void aRequestComesInNestedLoopsToo();
+    void requestsFromBeforeTheLoopAreNotLost();
+    void whatWasIgnoredStaysIgnored();
+    void afterwardsEverythingIsAsBefore();
+    void failedWritesAreSurvived();
+};
+
+void TerminationRequestsTest::eachSignalIsARequest_data()
+{
+    QTest::addColumn<int>("signal");
+    QTest::newRow("SIGTERM") << SIGTERM;
+    QTest::newRow("SIGINT") << SIGINT;
+    QTest::newRow("SIGHUP") << SIGHUP;
+}
+
+void TerminationRequestsTest::eachSignalIsARequest()
+{
+    QFETCH(int, signal);
+    const TerminationRequests requests;
+    QSignalSpy requested(&requests, &TerminationRequests::requested);
+
+    ::raise(signal);
+    QCOMPARE(requested.count(), 0);
+
+    QTRY_COMPARE(requested.count(), 1);
+    ::raise(signal);
+    QTRY_COMPARE(requested.count(), 2);
+}
+
+void TerminationRequestsTest::aRequestComesInNestedLoopsToo()
+{
+    const TerminationRequests requests;
+    QSignalSpy requested(&requests, &TerminationRequests::requested);
+    QEventLoop nested;
+    connect(&requests, &TerminationRequests::requested, &nested, &QEventLoop::quit);
+    QTimer::singleShot(0, [] { ::raise(SIGTERM); });
+
+    nested.exec();
+
+    QCOMPARE(requested.count(), 1);
+}
+
+void TerminationRequestsTest::requestsFromBeforeTheLoopAreNotLost()
+{
+    const TerminationRequests requests;
+    QSignalSpy requested(&requests, &TerminationRequests::requested);
+
+    for (int i = 0; i < 100000; ++i)
+        ::raise(SIGTERM);
+
+    QTRY_VERIFY(requested.count() >= 1);
+}
+
+void TerminationRequestsTest::whatWasIgnoredStaysIgnored()
+{
+    const auto before = std::signal(SIGHUP, SIG_IGN);
+    {
+        const TerminationRequests requests;
+        QSignalSpy requested(&requests, &TerminationRequests::requested);
+
+        ::raise(SIGHUP);
+        ::raise(SIGTERM);
+
+        QTRY_COMPARE(requested.count(), 1);
+    }
+    QVERIFY(std::signal(SIGHUP, before) == SIG_IGN);
+}
+
+void TerminationRequestsTest::afterwardsEverythingIsAsBefore()
+{
+    struct sigaction before = {};
+    QCOMPARE(sigaction(SIGTERM, nullptr, &before), 0);
+    {
+        const TerminationRequests requests;
+    }
+
+    struct sigaction after = {};
+    QCOMPARE(sigaction(SIGTERM, nullptr, &after), 0);
+    QVERIFY(after.sa_handler == before.sa_handler);
+}
+
+void TerminationRequestsTest::failedWritesAreSurvived()
+{
+    const QTemporaryDir folder;
+    QFile file(folder.filePath("file"));
+    QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+    std::array<int, 2> ends{};
+    QCOMPARE(::pipe(ends.data()), 0);
+    ::close(ends[0]);
+    rlimit before{};
+    getrlimit(RLIMIT_FSIZE, &before);
+    rlimit full = before;
+    full.rlim_cur = 0;
+
+    SurviveFailedWrites();
+
+    QCOMPARE(::write(ends[1], "text", 4), ssize_t(-1));
+    setrlimit(RLIMIT_FSIZE, &full);
+    QVERIFY(file.write("text") < 4);
+    setrlimit(RLIMIT_FSIZE, &before);
+    ::close(ends[1]);
+}
+
+}
+
+QTEST_GUILESS_MAIN(vesk::TerminationRequestsTest)
+#include "TerminationRequestsTest.moc"
