@@ -5,6 +5,10 @@
 #include <QCommandLineParser>
 #include <QFileInfo>
 
+#include <filesystem>
+#include <iterator>
+#include <system_error>
+
 namespace
 {
 
@@ -18,7 +22,8 @@ struct FileOption
 };
 
 constexpr FileOption s_fileOptions[] = {
-    {"journal", "FILE", "record everything done in FILE, replacing it", &Options::journal, false},
+    {"journal", "FILE", "record everything done in FILE, replacing it unless it is read, too",
+     &Options::journal, false},
     {"replay", "FILE", "repeat the journal FILE without a window, then exit", &Options::replay,
      true},
     {"open", "JOURNAL", "repeat a journal in the window, then go on drawing", &Options::open, true},
@@ -45,6 +50,45 @@ QString CheckFile(const FileOption& option, const QString& path)
     return {};
 }
 
+/// A journal that is read may be continued; no other file can be two things.
+bool MayBeOne(const FileOption& first, const FileOption& second)
+{
+    const auto isJournal = [](const FileOption& option) {
+        return option.isRead || option.member == &Options::journal;
+    };
+    return isJournal(first) && isJournal(second);
+}
+
+QString CheckNames(const Options& options)
+{
+    for (const FileOption& first : s_fileOptions)
+    {
+        for (const FileOption* pSecond = &first + 1; pSecond != std::end(s_fileOptions); ++pSecond)
+        {
+            const QString& path = options.*first.member;
+            if (!MayBeOne(first, *pSecond) && IsSameFile(path, options.*pSecond->member))
+                return QStringLiteral("%1 cannot be what --%2 and --%3 name")
+                    .arg(path, QString::fromLatin1(first.name), QString::fromLatin1(pSecond->name));
+        }
+    }
+    return {};
+}
+
+}
+
+bool IsSameFile(const QString& first, const QString& second)
+{
+    namespace fs = std::filesystem;
+    if (first.isEmpty() || second.isEmpty())
+        return false;
+    const fs::path firstPath = fs::u8path(first.toStdString());
+    const fs::path secondPath = fs::u8path(second.toStdString());
+    std::error_code error;
+    if (fs::equivalent(firstPath, secondPath, error))
+        return true;
+    const fs::path firstFull = fs::weakly_canonical(fs::absolute(firstPath, error), error);
+    const fs::path secondFull = fs::weakly_canonical(fs::absolute(secondPath, error), error);
+    return !firstFull.empty() && firstFull == secondFull;
 }
 
 Options ParseOptions(const QStringList& arguments)
@@ -85,6 +129,8 @@ Options ParseOptions(const QStringList& arguments)
         if (options.error.isEmpty() && parser.isSet(name))
             options.error = CheckFile(option, options.*option.member);
     }
+    if (options.error.isEmpty())
+        options.error = CheckNames(options);
     options.raiseWarnings = parser.value(raiseWarnings);
     if (options.error.isEmpty() && parser.isSet(raiseWarnings) &&
         !WarningRaiser::GetKinds().contains(options.raiseWarnings))

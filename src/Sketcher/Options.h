@@ -32,7 +32,13 @@ struct Options
 
     /// What --help prints.
     QString help;
+
+    /// The journal that is to be repeated; empty for none.
+    const QString& GetSource() const { return replay.isEmpty() ? open : replay; }
 };
+
+/// True when both names are those of one file, links or not, or will be.
+bool IsSameFile(const QString& first, const QString& second);
 
 /// Reads the arguments (the program's name first).
 Options ParseOptions(const QStringList& arguments);

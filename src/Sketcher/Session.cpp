@@ -1,12 +1,15 @@
 #include "Session.h"
 
 #include "CommandTable.h"
+#include "DataFile.h"
 #include "DockManagerImpl.h"
+#include "EntityEdit.h"
 #include "ModelFile.h"
 #include "SketchView.h"
 
 #include "Command/ActionManager.h"
 #include "Foundation/DebugMessageMgr.h"
+#include "Foundation/FileRewriting.h"
 #include "Foundation/Text.h"
 #include "HostUi/LayoutFile.h"
 #include "HostUi/PublishConfigFile.h"
@@ -14,13 +17,17 @@
 #include "Journal/JournalManager.h"
 
 #include <QApplication>
-#include <QDateTime>
+#include <QBuffer>
 #include <QDir>
+#include <QFileInfo>
 #include <QPixmap>
 #include <QStandardPaths>
 #include <QTimer>
 
+#include <algorithm>
+#include <cstddef>
 #include <iostream>
+#include <optional>
 #include <utility>
 
 using namespace vesk;
@@ -30,14 +37,6 @@ namespace
 
 constexpr int ExitUnusableFile = 2;
 constexpr int ExitNotRepeated = 3;
-
-/// A file below the user's data folder, which is made when it is missing.
-QString DataFile(const QString& name)
-{
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
-    QDir().mkpath(folder);
-    return folder + QLatin1Char('/') + name;
-}
 
 /// What is delivered with the program, beside the folder of programs.
 QString SharedFile(const QString& name)
@@ -57,10 +56,27 @@ void Complain(const std::string& text)
     std::cerr << "sketcher: " << text << std::endl;
 }
 
+/// True when the file, or a new one of that name, can be written as far as one can know.
+bool IsWritable(const QString& path)
+{
+    const QFileInfo file(path);
+    QDir().mkpath(file.path());
+    return QFileInfo(file.path()).isWritable() && (!file.exists() || file.isWritable());
+}
+
+bool WritePicture(const QPixmap& picture, const QString& path)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    return picture.save(&buffer, "PNG") &&
+           RewriteFile(path.toStdString(), {bytes.constData(), std::size_t(bytes.size())});
+}
+
 }
 
 Session::Session(const Options& options)
-    : m_options(options),
+    : m_options(options), m_journal(options),
       m_translations(SharedFile(QStringLiteral("translations")), QStringLiteral("sketcher")),
       m_window(m_workspace, m_input), m_pDocks(std::make_unique<DockManagerImpl>(&m_window))
 {
@@ -99,9 +115,7 @@ int Session::Run()
         Complain(m_library.GetError().toStdString());
         return ExitUnusableFile;
     }
-    // The journal to repeat is read first: it may be the very file that is replaced.
-    const QString& source = m_options.replay.isEmpty() ? m_options.open : m_options.replay;
-    if ((!source.isEmpty() && !ReadJournal(source)) || !OpenLog() || !OpenJournal())
+    if (!OpenFiles())
         return ExitUnusableFile;
 
     const bool isReplay = m_options.task == Options::Task::Replay;
@@ -109,6 +123,14 @@ int Session::Run()
         DebugMessageMgr::GetDebugMessageMgr()->SetAttended(false);
     const int code = isReplay ? Replay() : Draw();
     return WriteResults() ? code : ExitUnusableFile;
+}
+
+bool Session::CanRepeat(const CommandRecord& record)
+{
+    if (record.commandId != EntityEdit::CommandId)
+        return true;
+    const std::optional<EntityEdit> edit = EntityEdit::From(record.parameters);
+    return edit.has_value() && edit->IsPossible(m_workspace.sketch);
 }
 
 bool Session::OnProgress(std::size_t done, std::size_t total)
@@ -131,31 +153,33 @@ bool Session::VerifyUndo(const UndoRecord& record)
     return m_workspace.sketch.GetLastUndone() == record.entity;
 }
 
-bool Session::OpenLog()
+/// The journal to repeat is read before anything is replaced.
+bool Session::OpenFiles()
 {
-    const QString path =
-        m_options.log.isEmpty() ? DataFile(QStringLiteral("warnings.log")) : m_options.log;
-    const bool isOpen = DebugMessageMgr::GetDebugMessageMgr()->OpenLog(path.toStdString());
-    if (!isOpen)
-        Complain("cannot write " + path.toStdString());
-    return isOpen;
+    std::string error;
+    const QString& source = m_options.GetSource();
+    bool isDone = m_journal.Reserve(error);
+    if (isDone && ((!source.isEmpty() && !ReadJournal(source)) || !OpenLog()))
+        return false;
+    isDone = isDone && m_journal.Open(error);
+    if (!isDone)
+        Complain(error);
+    return isDone;
 }
 
-/// Nothing drawn is ever lost: without a name the journal goes below the user's data folder.
-bool Session::OpenJournal()
+/// Only a log that was asked for has to be written.
+bool Session::OpenLog()
 {
-    QString& path = m_options.journal;
-    if (path.isEmpty() && m_options.task == Options::Task::Replay)
+    const bool isNamed = !m_options.log.isEmpty();
+    const QString path = isNamed ? m_options.log : DataFile(QStringLiteral("warnings.log"));
+    if (DebugMessageMgr::GetDebugMessageMgr()->OpenLog(path.toStdString()))
         return true;
-    if (path.isEmpty())
-        path = DataFile(
-            QStringLiteral("journal-%1-%2.jsonl")
-                .arg(QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMdd-hhmmss")))
-                .arg(QCoreApplication::applicationPid()));
-    const bool isOpen = JournalManager::GetInstance().Open(path.toStdString());
-    if (!isOpen)
+    if (isNamed)
         Complain("cannot write " + path.toStdString());
-    return isOpen;
+    else
+        m_window.ShowState(QStringLiteral("log"), QStringLiteral("警告未记录"),
+                           QStringLiteral("无法写入警告日志 %1").arg(path));
+    return !isNamed;
 }
 
 bool Session::ReadJournal(const QString& path)
@@ -182,14 +206,29 @@ void Session::RestoreLayout()
 void Session::SaveLayout()
 {
     if (!LayoutFile::Write(LayoutPath(), m_pPanes->GetLayout().Save()))
-        Complain("cannot write " + LayoutPath().toStdString());
+        m_unwritten << LayoutPath();
+}
+
+/// Ends as closing does; dialogs and menus do not outlive it.
+void Session::ObeyTerminationRequests()
+{
+    m_pTermination = std::make_unique<TerminationRequests>();
+    QObject::connect(m_pTermination.get(), &TerminationRequests::requested, &m_window, [this] {
+        m_window.close();
+        QCoreApplication::quit();
+    });
 }
 
 int Session::Draw()
 {
+    ObeyTerminationRequests();
     // Sizes of panes hold for the window's size.
     m_window.setWindowState(Qt::WindowMaximized);
     RestoreLayout();
+    if (!IsWritable(LayoutPath()))
+        m_window.ShowState(QStringLiteral("layout"), QStringLiteral("面板布局不会保存"),
+                           QStringLiteral("无法写入 %1").arg(LayoutPath()));
+    m_pKeeping = std::make_unique<KeepingMonitor>(m_window);
     QObject::connect(&m_window, &MainWindow::closeAccepted, &m_window, [this] { SaveLayout(); });
     m_window.showMaximized();
     m_window.GetView().Activate();
@@ -201,53 +240,104 @@ int Session::Draw()
     return QApplication::exec();
 }
 
-/// Repeats a journal in the window. Cancelled, it leaves the drawing and the new journal as they
-/// were before.
+/// Repeats a journal in the window. Cancelled, it leaves the drawing as it was before.
 void Session::Open()
 {
     m_pReading = std::make_unique<ReadingMonitor>(m_window, m_window.GetProgress());
-    Repeat();
-    const bool isCancelled = m_pReading->IsCancelled();
+    const JournalReplayResult result = Repeat();
     m_pReading.reset();
-    if (isCancelled)
-    {
+    if (!result.failure.empty())
+        ShowFailure(result);
+    // A window that was closed meanwhile needs no other journal.
+    if (!result.isStopped || m_window.isVisible())
+        ShowOtherJournal(GoOn(result));
+    if (result.isStopped)
         m_workspace.sketch.Clear();
-        OpenJournal();
-    }
+    m_pKeeping->Update();
     m_window.GetView().Activate();
 }
 
 int Session::Replay()
 {
-    return Repeat() ? 0 : ExitNotRepeated;
+    const JournalReplayResult result = Repeat();
+    if (!result.failure.empty())
+        return ExitNotRepeated;
+    m_journal.GoOn(result, GetLastNumber());
+    return 0;
 }
 
 /// Repeats the journal that was read; tells of what could not be repeated and what was unfinished.
-bool Session::Repeat()
+JournalReplayResult Session::Repeat()
 {
-    const JournalReplayResult result = JournalReplayer::Replay(m_records, *this);
+    JournalReplayResult result = JournalReplayer::Replay(m_records, *this);
     if (result.isStopped)
-        return true;
+        return result;
     for (const std::wstring& commandId : result.unfinishedCommands)
         Complain("not finished in the journal: " + ToUtf8(commandId));
     if (!result.failure.empty())
         Complain(result.failure);
-    return result.failure.empty();
+    return result;
 }
 
+/// Has the journal go on after the reading. Returns another file's path when it does so there.
+QString Session::GoOn(const JournalReplayResult& result)
+{
+    if (result.isStopped)
+        return m_journal.StartAnew();
+    return result.failure.empty() ? m_journal.GoOn(result, GetLastNumber())
+                                  : m_journal.LeaveForAnother();
+}
+
+/// The greatest number of the records that were read; an end repeats its command's.
+int Session::GetLastNumber() const
+{
+    int last = 0;
+    for (const JournalRecord& record : m_records)
+        last = std::max(last, record.number);
+    return last;
+}
+
+void Session::ShowFailure(const JournalReplayResult& result)
+{
+    const QString much = QStringLiteral("%1 / %2").arg(result.repeatedCount).arg(m_records.size());
+    const QString text =
+        QStringLiteral("第 %1 条记录无法重做，已恢复 %2 条").arg(result.failedNumber).arg(much);
+    const QString reason = QString::fromStdString(result.failure);
+    m_window.ShowState(QStringLiteral("reading"), text, reason);
+    m_window.ShowNotice(text + QStringLiteral("（%1）").arg(reason));
+}
+
+void Session::ShowOtherJournal(const QString& path)
+{
+    if (path.isEmpty())
+        return;
+    Complain(m_options.journal.toStdString() + " stays as it is, the journal goes on in " +
+             path.toStdString());
+    m_window.ShowState(QStringLiteral("other journal"), QStringLiteral("日志改存于另一文件"), path);
+}
+
+/// Tells in one line what could not be written. False when an option named some of it.
 bool Session::WriteResults()
 {
-    bool isWritten = true;
-    const auto note = [&isWritten](bool isDone, const QString& path) {
+    QStringList named;
+    const auto note = [](bool isDone, const QString& path, QStringList& unwritten) {
         if (!isDone)
-            Complain("cannot write " + path.toStdString());
-        isWritten = isWritten && isDone;
+            unwritten << path;
     };
     if (!m_options.model.isEmpty())
-        note(WriteModelFile(m_workspace.sketch, m_options.model), m_options.model);
+        note(WriteModelFile(m_workspace.sketch, m_options.model), m_options.model, named);
     if (!m_options.screenshot.isEmpty())
-        note(m_window.grab().save(m_options.screenshot, "PNG"), m_options.screenshot);
+        note(WritePicture(m_window.grab(), m_options.screenshot), m_options.screenshot, named);
     if (m_pUiTree != nullptr)
-        note(m_pUiTree->Write(), m_options.uiTree);
-    return isWritten;
+        note(m_pUiTree->Write(), m_options.uiTree, named);
+    note(JournalManager::GetInstance().Close(), m_journal.GetPath(),
+         m_journal.IsNamed() ? named : m_unwritten);
+    const bool isLogNamed = !m_options.log.isEmpty();
+    note(DebugMessageMgr::GetDebugMessageMgr()->CloseLog(),
+         isLogNamed ? m_options.log : DataFile(QStringLiteral("warnings.log")),
+         isLogNamed ? named : m_unwritten);
+    const QStringList all = named + m_unwritten;
+    if (!all.isEmpty())
+        Complain("cannot write " + all.join(QStringLiteral(", ")).toStdString());
+    return named.isEmpty();
 }

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "KeepingMonitor.h"
 #include "Options.h"
 #include "Panes/Panes.h"
 #include "ReadingMonitor.h"
+#include "SessionJournal.h"
 #include "SketcherWindow.h"
 #include "WarningRaiser.h"
 #include "Workspace.h"
@@ -12,6 +14,7 @@
 #include "HostUi/ControlHost.h"
 #include "HostUi/ControlLibrary.h"
 #include "HostUi/DimensionInputController.h"
+#include "HostUi/TerminationRequests.h"
 #include "HostUi/TranslationCatalogue.h"
 #include "HostUi/UiApplication.h"
 #include "HostUi/UiTreeWriter.h"
@@ -31,25 +34,35 @@ public:
     /// cannot be used, or 3 for a journal that cannot be repeated.
     int Run();
 
+    bool CanRepeat(const vesk::CommandRecord& record) override;
     bool OnProgress(std::size_t done, std::size_t total) override;
     bool ReplaySelection(const vesk::SelectionRecord& record) override;
     bool ReplayProperty(const vesk::PropertyRecord& record) override;
     bool VerifyUndo(const vesk::UndoRecord& record) override;
 
 private:
+    bool OpenFiles();
     bool OpenLog();
-    bool OpenJournal();
     bool ReadJournal(const QString& path);
     void RestoreLayout();
     void SaveLayout();
+    void ObeyTerminationRequests();
     int Draw();
     int Replay();
     void Open();
-    bool Repeat();
+    vesk::JournalReplayResult Repeat();
+    QString GoOn(const vesk::JournalReplayResult& result);
+    int GetLastNumber() const;
+    void ShowFailure(const vesk::JournalReplayResult& result);
+    void ShowOtherJournal(const QString& path);
     bool WriteResults();
 
-    Options m_options;
+    const Options m_options;
+    SessionJournal m_journal;
     std::vector<vesk::JournalRecord> m_records;
+
+    /// Files that nobody named and that could not be written at the end.
+    QStringList m_unwritten;
 
     vesk::HostCore m_host;
     vesk::UiApplication m_application;
@@ -64,4 +77,6 @@ private:
     std::unique_ptr<vesk::UiTreeWriter> m_pUiTree;
     std::unique_ptr<WarningRaiser> m_pWarningRaiser;
     std::unique_ptr<ReadingMonitor> m_pReading; ///< While a drawing is opened.
+    std::unique_ptr<KeepingMonitor> m_pKeeping;
+    std::unique_ptr<vesk::TerminationRequests> m_pTermination;
 };

@@ -1,6 +1,8 @@
 #include "Options.h"
 #include "Session.h"
 
+#include "HostUi/TerminationRequests.h"
+
 #include <QApplication>
 
 #include <algorithm>
@@ -69,6 +71,7 @@ std::optional<int> AnswerEarly(int argc, char** argv)
 
 int main(int argc, char** argv)
 {
+    vesk::SurviveFailedWrites();
     QCoreApplication::setApplicationName(QStringLiteral("sketcher"));
     QCoreApplication::setApplicationVersion(QStringLiteral(SKETCHER_VERSION));
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);

@@ -3,9 +3,9 @@
 #include "HostCore.h"
 #include "HostUi/UiApplication.h"
 
+#include "Support/TestValues.h"
 #include <QLabel>
 #include <QStatusBar>
-#include <QTest>
 
 namespace vesk
 {

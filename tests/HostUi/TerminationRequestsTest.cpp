@@ -1,10 +1,10 @@
 #include "HostUi/TerminationRequests.h"
 
+#include "Support/TestValues.h"
 #include <QEventLoop>
 #include <QFile>
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QTimer>
 
 #include <sys/resource.h>

@@ -2,8 +2,11 @@
 
 #include "Support/TestValues.h"
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+
+#include <filesystem>
 
 class OptionsTest final : public QObject
 {
@@ -24,16 +27,17 @@ private slots:
         QTemporaryDir folder;
         const QString path = folder.filePath("file");
 
-        const Options options = Parse({"--journal", path, "--model", path, "--ui-tree", path,
-                                       "--log", path, "--screenshot", path});
+        const Options options =
+            Parse({"--journal", path + "1", "--model", path + "2", "--ui-tree", path + "3", "--log",
+                   path + "4", "--screenshot", path + "5"});
 
         QCOMPARE(options.error, QString());
-        QCOMPARE(options.journal, path);
-        QCOMPARE(options.model, path);
-        QCOMPARE(options.uiTree, path);
-        QCOMPARE(options.log, path);
-        QCOMPARE(options.screenshot, path);
-        QVERIFY2(!QFile::exists(path), "checking must not make the file");
+        QCOMPARE(options.journal, path + "1");
+        QCOMPARE(options.model, path + "2");
+        QCOMPARE(options.uiTree, path + "3");
+        QCOMPARE(options.log, path + "4");
+        QCOMPARE(options.screenshot, path + "5");
+        QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList());
     }
 
     void journalToRepeatMustBeReadable()
@@ -50,6 +54,58 @@ private slots:
         QCOMPARE(Parse({"--replay", path}).task, Options::Task::Replay);
         QCOMPARE(Parse({"--open", path}).task, Options::Task::Draw);
         QVERIFY(!Parse({"--open", path, "--replay", path}).error.isEmpty());
+    }
+
+    void aFileIsOneThing_data()
+    {
+        QTest::addColumn<QString>("first");
+        QTest::addColumn<QString>("second");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<bool>("isRight");
+
+        QTest::newRow("continued") << "--journal"
+                                   << "--open"
+                                   << "file" << true;
+        QTest::newRow("completed") << "--journal"
+                                   << "--replay"
+                                   << "link" << true;
+        QTest::newRow("read and replaced") << "--open"
+                                           << "--model"
+                                           << "file" << false;
+        QTest::newRow("by a link") << "--replay"
+                                   << "--model"
+                                   << "link" << false;
+        QTest::newRow("by another name") << "--open"
+                                         << "--log"
+                                         << "hard" << false;
+        QTest::newRow("written twice") << "--journal"
+                                       << "--screenshot"
+                                       << "./file" << false;
+        QTest::newRow("not there yet") << "--model"
+                                       << "--ui-tree"
+                                       << "none" << false;
+    }
+
+    void aFileIsOneThing()
+    {
+        QFETCH(QString, first);
+        QFETCH(QString, second);
+        QFETCH(QString, name);
+        QFETCH(bool, isRight);
+        QTemporaryDir folder;
+        QFile file(folder.filePath("file"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QVERIFY(file.link(folder.filePath("link")));
+        std::filesystem::create_hard_link(file.fileName().toStdString(),
+                                          folder.filePath("hard").toStdString());
+        const QString other = name == "none" ? folder.filePath("none") : file.fileName();
+
+        const Options options = Parse({first, other, second, folder.filePath(name)});
+
+        QCOMPARE(options.error.isEmpty(), isRight);
+        QVERIFY(IsSameFile(other, folder.filePath(name)));
+        QVERIFY(!IsSameFile(other, folder.filePath("another")));
+        QVERIFY(!IsSameFile({}, {}));
     }
 
     void helpListsEveryOption()

@@ -2,9 +2,12 @@
 
 #include "Panes/JournalModel.h"
 
+#include "Journal/JournalManager.h"
+
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QLabel>
 #include <QListView>
 #include <QPersistentModelIndex>
 #include <QScrollBar>
@@ -12,8 +15,16 @@
 
 #include <algorithm>
 
-JournalPane::JournalPane() : m_pModel(new JournalModel(this)), m_pView(new QListView)
+using vesk::JournalManager;
+
+JournalPane::JournalPane()
+    : m_pModel(new JournalModel(this)),
+      m_pState(new QLabel(QStringLiteral("日志文件无法写入，操作没有保存"))), m_pView(new QListView)
 {
+    m_pState->setObjectName(QStringLiteral("JournalState"));
+    m_pState->setWordWrap(true);
+    m_pState->setMargin(3);
+    m_pState->hide();
     m_pView->setObjectName(QStringLiteral("JournalRecords"));
     m_pView->setModel(m_pModel);
     m_pView->setUniformItemSizes(true);
@@ -29,6 +40,7 @@ JournalPane::JournalPane() : m_pModel(new JournalModel(this)), m_pView(new QList
 
     auto* pLayout = new QVBoxLayout(this);
     pLayout->setContentsMargins(0, 0, 0, 0);
+    pLayout->addWidget(m_pState);
     pLayout->addWidget(m_pView);
 }
 
@@ -39,6 +51,8 @@ void JournalPane::UpdateStatus()
     const bool isAtEnd = pBar->value() == pBar->maximum();
     // Older records may go, and those that are read move up in the list.
     const QPersistentModelIndex top = m_pView->indexAt(QPoint(0, 0));
+    m_pState->setVisible(!JournalManager::GetInstance().IsKept());
+    layout()->activate();
     m_pModel->Refresh();
     if (isAtEnd)
         m_pView->scrollToBottom();

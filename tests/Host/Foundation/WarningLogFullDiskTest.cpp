@@ -4,7 +4,7 @@
 #include "Host/Foundation/RaiseWarning.h"
 #include "Support/FileSizeLimit.h"
 
-#include <QtTest>
+#include "Support/TestValues.h"
 
 namespace vesk
 {

@@ -7,6 +7,7 @@
 #include "Journal/JournalFormat.h"
 #include "Journal/NqIJournalFactory.h"
 #include "Support/TestValues.h"
+#include "Platform/OutputFile.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -57,21 +58,16 @@ private:
     std::function<void()> m_act;
 };
 
-/// Counts warnings and remembers the last one. Listens while it lives.
+/// Counts warnings. Listens while it lives.
 class WarningObserver final : public IDebugWarningObserver
 {
 public:
     WarningObserver() { DebugMessageMgr::GetDebugMessageMgr()->AddObserver(this); }
     ~WarningObserver() override { DebugMessageMgr::GetDebugMessageMgr()->RemoveObserver(this); }
 
-    void OnDebugWarning(const DebugWarning& warning) override
-    {
-        ++count;
-        last = warning;
-    }
+    void OnDebugWarning(const DebugWarning&) override { ++count; }
 
     int count = 0;
-    DebugWarning last;
 };
 
 QByteArray ReadAll(const QString& path)
@@ -79,6 +75,17 @@ QByteArray ReadAll(const QString& path)
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
+
+void WriteAll(const QString& path, const QByteArray& content)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(content), qint64(content.size()));
+}
+
+/// A journal that was read, and the part of a line behind it.
+const QByteArray Read = "{\"n\":7,\"kind\":\"undo\",\"entity\":9}\n";
+const QByteArray Torn = "{\"n\":8,\"ki";
 
 OwnerPtr<IJournalCommandData> MakeData()
 {
@@ -113,12 +120,22 @@ private slots:
     void theLastLinesMayBeAskedForFromAnyThread();
     void observersHearEveryRecord();
     void anObserverMayRemoveItself();
-    void aFullDiskIsReportedOnceAndTheFileLeftAlone();
+    void aFullDiskIsToldByTheStateAndRaisesNoWarning();
+    void withoutAFileNothingIsKept();
+    void aFileHasOneWriter();
+    void theSameFileByAnotherNameIsReplaced();
+    void aReservedFileStaysAsItIs();
+    void aReservedFileIsContinuedBehindItsLastLine();
+    void whatWasKeptBackMovesToAnotherFile();
+    void whereTheOtherFileCannotBeWrittenNothingIsKept();
     void aCommandRecordHoldsTheIdOrTheParametersToo();
     void emptyPointersAreIgnored();
     void aWidgetIsToldToTheObservers();
     void theFactoryMakesCommandDataOnly();
     void withoutAFactoryThereIsNoUiObject();
+
+private:
+    std::string m_error;
 };
 
 void JournalManagerTest::recordsAreNumberedAndAnEndRepeatsItsCommand()
@@ -133,7 +150,7 @@ void JournalManagerTest::eachRecordIsInTheFileBeforeItsNumberIsKnown()
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QString::fromUtf8("日志.jsonl"));
-    QVERIFY(Journal().Open(path.toStdString()));
+    QVERIFY(Journal().Open(path.toStdString(), m_error));
     QByteArray seen;
     const Observer observer([&] { seen = ReadAll(path); });
 
@@ -150,11 +167,11 @@ void JournalManagerTest::openingReplacesTheFileAndNumbersAnew()
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath("journal");
-    QVERIFY(Journal().Open(path.toStdString()));
+    QVERIFY(Journal().Open(path.toStdString(), m_error));
     Journal().Add(UndoRecord{1});
     Journal().Add(UndoRecord{2});
 
-    QVERIFY(Journal().Open(path.toStdString()));
+    QVERIFY(Journal().Open(path.toStdString(), m_error));
     QCOMPARE(ReadAll(path), QByteArray());
     Journal().Add(UndoRecord{3});
 
@@ -165,11 +182,11 @@ void JournalManagerTest::openingWhatCannotBeWrittenChangesNothing()
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath("journal");
-    Journal().Open(path.toStdString());
+    Journal().Open(path.toStdString(), m_error);
     Journal().Add(UndoRecord{1});
 
-    QVERIFY(!Journal().Open(folder.path().toStdString()));
-    QVERIFY(!Journal().Open(folder.filePath("none/journal").toStdString()));
+    QVERIFY(!Journal().Open(folder.path().toStdString(), m_error));
+    QVERIFY(!Journal().Open(folder.filePath("none/journal").toStdString(), m_error));
     Journal().Add(UndoRecord{2});
 
     QCOMPARE(ReadAll(path).count('\n'), 2);
@@ -179,7 +196,7 @@ void JournalManagerTest::closingForgetsNumbersAndLines()
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath("journal");
-    Journal().Open(path.toStdString());
+    Journal().Open(path.toStdString(), m_error);
     Journal().Add(CommandRecord{L"Line", {}});
 
     Journal().Close();
@@ -285,20 +302,122 @@ void JournalManagerTest::anObserverMayRemoveItself()
     QCOMPARE(second.numbers, (std::vector<int>{1, 2}));
 }
 
-void JournalManagerTest::aFullDiskIsReportedOnceAndTheFileLeftAlone()
+void JournalManagerTest::aFullDiskIsToldByTheStateAndRaisesNoWarning()
 {
-    const QTemporaryDir folder;
-    DebugMessageMgr::GetDebugMessageMgr()->OpenLog(folder.filePath("log").toStdString());
-    WarningObserver warnings;
-    QVERIFY(Journal().Open("/dev/full"));
+    const WarningObserver warnings;
+    QVERIFY(Journal().Open("/dev/full", m_error));
+    QVERIFY(Journal().IsKept());
 
     QCOMPARE(Journal().Add(UndoRecord{1}), 1);
     QCOMPARE(Journal().Add(UndoRecord{2}), 2);
-    DebugMessageMgr::GetDebugMessageMgr()->CloseLog();
 
-    QCOMPARE(warnings.count, 1);
-    QCOMPARE(warnings.last.message, std::wstring(L"日志文件写入失败"));
-    QCOMPARE(warnings.last.function, std::string("vesk::JournalManager::Add"));
+    QVERIFY(!Journal().IsKept());
+    QVERIFY(!Journal().Close());
+    QCOMPARE(warnings.count, 0);
+}
+
+void JournalManagerTest::withoutAFileNothingIsKept()
+{
+    QVERIFY(!Journal().IsKept());
+
+    Journal().Add(UndoRecord{1});
+
+    QVERIFY(!Journal().IsKept());
+    QVERIFY2(Journal().Close(), "no file misses anything");
+}
+
+void JournalManagerTest::aFileHasOneWriter()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("journal");
+    WriteAll(path, "of another program\n");
+    OutputFile other;
+    QVERIFY(other.OpenAlone(path.toStdString()) == OutputFile::Opening::Done);
+
+    QVERIFY(!Journal().Open(path.toStdString(), m_error));
+    QCOMPARE(m_error, path.toStdString() + " is in use by another program");
+    QVERIFY(!Journal().Reserve(path.toStdString(), m_error));
+    QCOMPARE(ReadAll(path), QByteArray("of another program\n"));
+
+    other.Close();
+    QVERIFY(Journal().Open(path.toStdString(), m_error));
+}
+
+void JournalManagerTest::theSameFileByAnotherNameIsReplaced()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("journal");
+    const QString link = folder.filePath("link");
+    QVERIFY(Journal().Open(path.toStdString(), m_error));
+    Journal().Add(UndoRecord{1});
+    QVERIFY(QFile::link(path, link));
+
+    QVERIFY(Journal().Open(link.toStdString(), m_error));
+    Journal().Add(UndoRecord{3});
+
+    QCOMPARE(ReadAll(path), QByteArray("{\"n\":1,\"kind\":\"undo\",\"entity\":3}\n"));
+}
+
+void JournalManagerTest::aReservedFileStaysAsItIs()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("journal");
+    WriteAll(path, Read + Torn);
+
+    QVERIFY(Journal().Reserve(path.toStdString(), m_error));
+    QCOMPARE(Journal().Add(UndoRecord{1}), 1);
+
+    QVERIFY(Journal().IsKept());
+    QVERIFY(Journal().Close());
+    QCOMPARE(ReadAll(path), Read + Torn);
+}
+
+void JournalManagerTest::aReservedFileIsContinuedBehindItsLastLine()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("journal");
+    WriteAll(path, Read + Torn);
+    QVERIFY(Journal().Reserve(path.toStdString(), m_error));
+    Journal().Add(CommandRecord{L"Line", {}});
+
+    Journal().Continue(7);
+    QCOMPARE(Journal().TakeCommandNumber(L"Line"), 0);
+    QCOMPARE(ReadAll(path), Read + Torn);
+    QCOMPARE(Journal().Add(UndoRecord{3}), 8);
+
+    QCOMPARE(ReadAll(path), Read + "{\"n\":8,\"kind\":\"undo\",\"entity\":3}\n");
+}
+
+void JournalManagerTest::whatWasKeptBackMovesToAnotherFile()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("journal");
+    const QString other = folder.filePath("other");
+    WriteAll(path, Read + Torn);
+    QVERIFY(Journal().Reserve(path.toStdString(), m_error));
+    Journal().Add(UndoRecord{1});
+
+    QVERIFY(Journal().MoveTo(other.toStdString(), m_error));
+    QCOMPARE(Journal().Add(UndoRecord{2}), 2);
+
+    QCOMPARE(ReadAll(path), Read + Torn);
+    QCOMPARE(ReadAll(other), QByteArray("{\"n\":1,\"kind\":\"undo\",\"entity\":1}\n"
+                                        "{\"n\":2,\"kind\":\"undo\",\"entity\":2}\n"));
+}
+
+void JournalManagerTest::whereTheOtherFileCannotBeWrittenNothingIsKept()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("journal");
+    WriteAll(path, Read);
+    QVERIFY(Journal().Reserve(path.toStdString(), m_error));
+    Journal().Add(UndoRecord{1});
+
+    QVERIFY(!Journal().MoveTo(folder.filePath("none/other").toStdString(), m_error));
+
+    QVERIFY(!Journal().IsKept());
+    Journal().Add(UndoRecord{2});
+    QCOMPARE(ReadAll(path), Read);
 }
 
 void JournalManagerTest::aCommandRecordHoldsTheIdOrTheParametersToo()

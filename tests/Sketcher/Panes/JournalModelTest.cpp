@@ -141,7 +141,8 @@ private slots:
         const QTemporaryDir folder;
         const QString path = folder.filePath("journal");
         JournalModel model(nullptr);
-        QVERIFY(JournalManager::GetInstance().Open(path.toStdString()));
+        std::string error;
+        QVERIFY(JournalManager::GetInstance().Open(path.toStdString(), error));
         CommandRecord command{L"Sketcher.SetProperty", {}};
         command.parameters.Add(L"value", CommandParameterValue(1.0 / 3.0));
         command.parameters.Add(L"name", CommandParameterValue(std::wstring(L"图\n\"𝄞\"")));

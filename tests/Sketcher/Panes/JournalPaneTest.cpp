@@ -123,7 +123,9 @@ private slots:
     {
         const QTemporaryDir folder;
         Fixture f;
-        QVERIFY(JournalManager::GetInstance().Open(folder.filePath("journal").toStdString()));
+        std::string error;
+        QVERIFY(
+            JournalManager::GetInstance().Open(folder.filePath("journal").toStdString(), error));
         JournalManager::GetInstance().Add(PropertyRecord{L"drawing", L"name", L"图\t\"一\""});
         f.Add(5);
 

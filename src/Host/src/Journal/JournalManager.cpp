@@ -1,15 +1,13 @@
 #include "Journal/JournalManager.h"
 
-#include "Foundation/HostSite.h"
 #include "Journal/IJournalData.h"
 #include "Journal/IJournalUiObject.h"
 #include "Journal/JournalFormat.h"
+#include "Journal/JournalLines.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <deque>
-#include <filesystem>
-#include <fstream>
 #include <mutex>
 #include <utility>
 
@@ -53,8 +51,12 @@ private:
 class JournalManagerImpl final : public JournalManager
 {
 public:
-    bool Open(const std::string& path) override;
-    void Close() override;
+    bool Open(const std::string& path, std::string& error) override;
+    bool Reserve(const std::string& path, std::string& error) override;
+    void Continue(int lastNumber) override;
+    bool MoveTo(const std::string& path, std::string& error) override;
+    bool IsKept() const override { return m_file.IsKept(); }
+    bool Close() override;
     int Add(decltype(JournalRecord::what) what) override;
     int TakeCommandNumber(const std::wstring& commandId) override;
     std::vector<std::string> GetLastLines() const override { return m_lastLines.Get(); }
@@ -73,7 +75,7 @@ private:
         int number = 0;
     };
 
-    void Write(const std::string& line);
+    void StartAnew();
 
     template <class Tell>
     void TellObservers(const Tell& tell)
@@ -86,27 +88,49 @@ private:
         }
     }
 
-    std::ofstream m_file;
+    JournalLines m_file;
     int m_lastNumber = 0;
     LastCommand m_lastCommand;
     LastLines m_lastLines;
     std::vector<IJournalObserver*> m_observers;
 };
 
-bool JournalManagerImpl::Open(const std::string& path)
+bool JournalManagerImpl::Open(const std::string& path, std::string& error)
 {
-    std::ofstream file(std::filesystem::u8path(path), std::ios::binary | std::ios::trunc);
-    if (!file.is_open())
+    if (!m_file.Replace(path, error))
         return false;
-    Close();
-    m_file = std::move(file);
+    StartAnew();
     return true;
 }
 
-void JournalManagerImpl::Close()
+bool JournalManagerImpl::Reserve(const std::string& path, std::string& error)
 {
-    m_file.close();
-    m_file.clear();
+    if (!m_file.Reserve(path, error))
+        return false;
+    StartAnew();
+    return true;
+}
+
+void JournalManagerImpl::Continue(int lastNumber)
+{
+    m_file.Continue();
+    m_lastNumber = lastNumber;
+    m_lastCommand = {};
+}
+
+bool JournalManagerImpl::MoveTo(const std::string& path, std::string& error)
+{
+    return m_file.MoveTo(path, error);
+}
+
+bool JournalManagerImpl::Close()
+{
+    StartAnew();
+    return m_file.Close();
+}
+
+void JournalManagerImpl::StartAnew()
+{
     m_lastNumber = 0;
     m_lastCommand = {};
     m_lastLines.Clear();
@@ -124,7 +148,7 @@ int JournalManagerImpl::Add(decltype(JournalRecord::what) what)
         m_lastCommand = {pCommand->commandId, record.number};
 
     m_lastLines.Add(line);
-    Write(line + '\n');
+    m_file.Add(line + '\n');
     TellObservers([&record](IJournalObserver& observer) { observer.OnRecord(record); });
     return record.number;
 }
@@ -166,20 +190,6 @@ void JournalManagerImpl::AddUiObject(OwnerPtr<IJournalUiObject> opObject, int ki
     // Not kept: the code that frees what it holds may belong to a library that is unloaded.
     if (opObject != nullptr)
         TellObservers([&](IJournalObserver& observer) { observer.OnUiObject(*opObject, kind); });
-}
-
-/// Hands a line to the operating system, in one piece.
-void JournalManagerImpl::Write(const std::string& line)
-{
-    if (!m_file.is_open())
-        return;
-    m_file.write(line.data(), static_cast<std::streamsize>(line.size()));
-    m_file.flush();
-    const bool isWritten = m_file.good();
-    // After a line that may be torn no other must follow.
-    if (!isWritten)
-        m_file.close();
-    Check(isWritten, VESK_HOST_SITE("vesk::JournalManager::Add", L"日志文件写入失败"));
 }
 
 }

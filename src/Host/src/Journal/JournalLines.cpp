@@ -1,0 +1,137 @@
+#include "Journal/JournalLines.h"
+
+#include <cstddef>
+#include <fstream>
+#include <string_view>
+#include <system_error>
+#include <utility>
+
+namespace vesk
+{
+
+namespace
+{
+
+/// Where the last whole line of a file ends.
+std::uint64_t EndOfLines(const std::filesystem::path& path)
+{
+    std::ifstream stream(path, std::ios::binary);
+    std::string line;
+    std::uint64_t end = 0;
+    while (std::getline(stream, line) && !stream.eof())
+        end += line.size() + 1;
+    return end;
+}
+
+}
+
+bool JournalLines::Replace(const std::string& path, std::string& error)
+{
+    std::error_code unknown;
+    const std::filesystem::path newPath = std::filesystem::u8path(path);
+    const bool isOwn = m_file.IsOpen() && std::filesystem::equivalent(newPath, m_path, unknown);
+    OutputFile file;
+    if (!isOwn && !Open(path, file, error))
+        return false;
+    if (!(isOwn ? m_file : file).CutTo(0))
+    {
+        error = path + " cannot be written";
+        return false;
+    }
+    Take(isOwn ? std::move(m_file) : std::move(file), path, 0);
+    return true;
+}
+
+bool JournalLines::Reserve(const std::string& path, std::string& error)
+{
+    OutputFile file;
+    if (!Open(path, file, error))
+        return false;
+    // Asked for now: later the name may stand for another file.
+    Take(std::move(file), path, EndOfLines(std::filesystem::u8path(path)));
+    m_isReserved = true;
+    return true;
+}
+
+void JournalLines::Continue()
+{
+    m_waiting.clear();
+    m_isReserved = false;
+}
+
+bool JournalLines::MoveTo(const std::string& path, std::string& error)
+{
+    const std::string kept = std::move(m_waiting);
+    Close();
+    if (!Replace(path, error))
+        return false;
+    m_waiting = kept;
+    WriteWaiting();
+    return true;
+}
+
+void JournalLines::Add(const std::string& line)
+{
+    if (!m_file.IsOpen())
+        return;
+    m_waiting += line;
+    if (!m_isReserved)
+        WriteWaiting();
+}
+
+bool JournalLines::Close()
+{
+    if (!m_file.IsOpen())
+        return true;
+    if (!m_isReserved)
+        WriteWaiting();
+    bool isKept = IsKept();
+    isKept = m_file.Sync() && isKept;
+    isKept = m_file.Close() && isKept;
+    m_waiting.clear();
+    m_isReserved = false;
+    return isKept;
+}
+
+/// Opens a file that is this program's alone from then on.
+bool JournalLines::Open(const std::string& path, OutputFile& file, std::string& error) const
+{
+    switch (file.OpenAlone(std::filesystem::u8path(path)))
+    {
+    case OutputFile::Opening::Done:
+        return true;
+    case OutputFile::Opening::InUse:
+        error = path + " is in use by another program";
+        return false;
+    default:
+        error = path + " cannot be written";
+        return false;
+    }
+}
+
+void JournalLines::Take(OutputFile file, const std::string& path, std::uint64_t size)
+{
+    Close();
+    m_waiting.clear();
+    m_isReserved = false;
+    m_file = std::move(file);
+    m_path = std::filesystem::u8path(path);
+    m_size = size;
+}
+
+/// Writes what waits behind the last whole line, in one piece. Of what cannot be written, whole
+/// lines stay all the same.
+void JournalLines::WriteWaiting()
+{
+    if (m_waiting.empty() || !m_file.CutTo(m_size))
+        return;
+    const std::size_t written = m_file.Write(m_waiting);
+    const std::size_t lastEnd = std::string_view(m_waiting).substr(0, written).rfind('\n');
+    const std::size_t whole = lastEnd == std::string_view::npos ? 0 : lastEnd + 1;
+    m_size += whole;
+    m_waiting.erase(0, whole);
+    if (!m_waiting.empty())
+        m_file.CutTo(m_size);
+}
+
+}

@@ -1,0 +1,94 @@
+#include "SessionJournal.h"
+
+#include "DataFile.h"
+#include "Options.h"
+
+#include "Journal/JournalManager.h"
+#include "Journal/JournalReplayer.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QFileInfo>
+
+using namespace vesk;
+
+namespace
+{
+
+/// Far from the greatest number, so that any session's records come after it.
+constexpr int GreatestNumberToGoOnFrom = 1000000000;
+
+JournalManager& Manager()
+{
+    return JournalManager::GetInstance();
+}
+
+/// The path of a file below the user's data folder that is not there yet.
+QString OwnPath()
+{
+    const QString name =
+        QStringLiteral("journal-%1-%2")
+            .arg(QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMdd-hhmmss")))
+            .arg(QCoreApplication::applicationPid());
+    QString path = DataFile(name + QStringLiteral(".jsonl"));
+    for (int i = 2; QFileInfo::exists(path); ++i)
+        path = DataFile(QStringLiteral("%1-%2.jsonl").arg(name).arg(i));
+    return path;
+}
+
+}
+
+SessionJournal::SessionJournal(const Options& options)
+    : m_path(options.journal), m_isNamed(!m_path.isEmpty()),
+      m_isContinued(m_isNamed && IsSameFile(m_path, options.GetSource()))
+{
+    if (!m_isNamed && options.task != Options::Task::Replay)
+        m_path = OwnPath();
+}
+
+bool SessionJournal::Reserve(std::string& error)
+{
+    return !m_isContinued || Manager().Reserve(m_path.toStdString(), error);
+}
+
+bool SessionJournal::Open(std::string& error)
+{
+    if (m_isContinued || m_path.isEmpty())
+        return true;
+    return Manager().Open(m_path.toStdString(), error) || !m_isNamed;
+}
+
+QString SessionJournal::GoOn(const JournalReplayResult& result, int lastNumber)
+{
+    if (!m_isContinued)
+        return {};
+    if (lastNumber > GreatestNumberToGoOnFrom)
+        return LeaveForAnother();
+    Manager().Continue(lastNumber);
+    for (const EndRecord& mark : result.missingMarks)
+        Manager().Add(mark);
+    return {};
+}
+
+QString SessionJournal::LeaveForAnother()
+{
+    if (!m_isContinued)
+        return {};
+    *this = SessionJournal(Options());
+    std::string error;
+    Manager().MoveTo(m_path.toStdString(), error);
+    return m_path;
+}
+
+QString SessionJournal::StartAnew()
+{
+    const bool isContinued = m_isContinued;
+    if (isContinued)
+    {
+        *this = SessionJournal(Options());
+        Manager().Close();
+    }
+    std::string error;
+    Manager().Open(m_path.toStdString(), error);
+    return isContinued ? m_path : QString();
+}
