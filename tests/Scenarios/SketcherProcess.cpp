@@ -1,16 +1,80 @@
 #include "SketcherProcess.h"
 
 #include <QCoreApplication>
-#include <QProcess>
+#include <QFileInfo>
+#include <QTest>
+
+#include <csignal>
+#include <optional>
+
+namespace
+{
+
+QString Program()
+{
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/../bin/sketcher");
+}
+
+void Start(QProcess& process, const QStringList& arguments, std::optional<int> fileSizeLimit)
+{
+    if (fileSizeLimit.has_value())
+        process.start(QStringLiteral("prlimit"),
+                      QStringList{QStringLiteral("--fsize=%1").arg(*fileSizeLimit), Program()} +
+                          arguments);
+    else
+        process.start(Program(), arguments);
+}
+
+Outcome Finish(QProcess& process)
+{
+    if (process.state() != QProcess::NotRunning && !process.waitForFinished())
+        return {};
+    const bool isEnded = process.exitStatus() == QProcess::NormalExit;
+    return {isEnded ? process.exitCode() : -1, QString::fromUtf8(process.readAllStandardError())};
+}
+
+}
 
 Outcome RunSketcher(const QStringList& arguments, const QStringList& environment)
 {
     QProcess process;
     QStringList variables = QProcess::systemEnvironment();
     process.setEnvironment(variables << environment);
-    process.start(QCoreApplication::applicationDirPath() + QStringLiteral("/../bin/sketcher"),
-                  arguments);
-    if (!process.waitForFinished())
-        return {};
-    return {process.exitCode(), QString::fromUtf8(process.readAllStandardError())};
+    Start(process, arguments, {});
+    return Finish(process);
+}
+
+Outcome RunSketcherWithin(int fileSizeLimit, const QStringList& arguments)
+{
+    QProcess process;
+    Start(process, arguments, fileSizeLimit);
+    return Finish(process);
+}
+
+RunningSketcher::RunningSketcher(const QStringList& arguments, const QString& uiTree)
+{
+    Start(m_process, arguments + QStringList{QStringLiteral("--ui-tree"), uiTree}, {});
+    const auto isThere = [this, &uiTree] {
+        return QFileInfo(uiTree).size() > 0 || m_process.state() == QProcess::NotRunning;
+    };
+    constexpr int PatienceMs = 30000;
+    if (!QTest::qWaitFor(isThere, PatienceMs))
+        QTest::qFail("the program does not come up", __FILE__, __LINE__);
+}
+
+RunningSketcher::~RunningSketcher()
+{
+    m_process.kill();
+    m_process.waitForFinished();
+}
+
+Outcome RunningSketcher::End(int signal)
+{
+    ::kill(static_cast<pid_t>(m_process.processId()), signal);
+    return Finish(m_process);
+}
+
+Outcome RunningSketcher::Wait()
+{
+    return Finish(m_process);
 }

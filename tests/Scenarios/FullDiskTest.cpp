@@ -1,0 +1,313 @@
+#include "Drawing.h"
+#include "ScenarioFixture.h"
+#include "ScriptedUser.h"
+#include "SketchView.h"
+#include "SketcherProcess.h"
+#include "SketcherWindow.h"
+#include "Support/FileSizeLimit.h"
+#include "Support/SmallDisk.h"
+
+#include "HostUi/LayoutFile.h"
+
+#include <nlohmann/json.hpp>
+
+#include <QDir>
+#include <QFileInfo>
+#include <QLabel>
+#include <QStatusBar>
+#include <QTest>
+
+#include <csignal>
+#include <memory>
+
+using vesk::FileSizeLimit;
+using vesk::SmallDisk;
+
+namespace
+{
+
+const QString s_line = QStringLiteral("Sketcher.Line");
+
+/// So many lines that the files made of them take some pages.
+QByteArray MakeJournal(int lineCount)
+{
+    QByteArray journal = "{\"n\":1,\"kind\":\"command\",\"id\":\"Sketcher.Line\"}\n";
+    for (int i = 0; i <= lineCount; ++i)
+        journal += QStringLiteral("{\"n\":%1,\"kind\":\"point\",\"point\":[%2,0,0]}\n")
+                       .arg(i + 2)
+                       .arg(i * 1.5)
+                       .toLatin1();
+    return journal + "{\"n\":1,\"kind\":\"end\",\"result\":\"done\"}\n";
+}
+
+QByteArray WholeLines(const QByteArray& text)
+{
+    return text.left(text.lastIndexOf('\n') + 1);
+}
+
+/// The complete walk takes minutes and is asked for by the environment; without it, some steps.
+bool IsWalkComplete()
+{
+    return qEnvironmentVariable("VESK_FULL_DISK") == QLatin1String("all");
+}
+
+QString States()
+{
+    const auto* pStates = ScriptedUser::FindWindow()->statusBar()->findChild<QLabel*>("States");
+    return pStates->isVisible() ? pStates->text() : QString();
+}
+
+QString PaneState()
+{
+    const auto* pState = ScriptedUser::FindWindow()->findChild<QLabel*>("JournalState");
+    return pState->isVisible() ? pState->text() : QString();
+}
+
+}
+
+/// Disks that are full, homes that cannot be written, and requests to end.
+class FullDiskTest final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QCoreApplication::setApplicationName(QStringLiteral("sketcher")); }
+
+    void init()
+    {
+        m_pFixture = std::make_unique<ScenarioFixture>();
+        qputenv("XDG_DATA_HOME", QFile::encodeName(m_pFixture->File("data")));
+    }
+
+    void cleanup()
+    {
+        QCOMPARE(m_pFixture->GetWarnings(), QStringList());
+        qunsetenv("XDG_DATA_HOME");
+        m_pFixture.reset();
+    }
+
+    void whateverIsWrittenIsOldOrNew_data()
+    {
+        QTest::addColumn<QString>("option");
+        QTest::addColumn<bool>("isByPages");
+        for (const char* pOption : {"--model", "--ui-tree", "--screenshot", "--journal"})
+        {
+            QTest::newRow(QByteArray(pOption) + " by bytes") << QString(pOption) << false;
+            QTest::newRow(QByteArray(pOption) + " by pages") << QString(pOption) << true;
+        }
+    }
+
+    void whateverIsWrittenIsOldOrNew()
+    {
+        QFETCH(QString, option);
+        QFETCH(bool, isByPages);
+        const QString journal = m_pFixture->File("repeated");
+        const QString sample = m_pFixture->File("sample");
+        WriteFile(journal, MakeJournal(isByPages ? 400 : 4));
+        QCOMPARE(RunSketcher({"--replay", journal, option, sample}).code, 0);
+        const QByteArray whole = ReadFile(sample);
+        std::unique_ptr<SmallDisk> pDisk;
+        if (isByPages)
+            pDisk = std::make_unique<SmallDisk>(whole.size() / SmallDisk::PageSize + 8);
+        if (pDisk != nullptr && !pDisk->IsMounted())
+            QSKIP("no disk can be mounted here; the rows by bytes stand for those by pages");
+        const QString path = pDisk != nullptr ? pDisk->File("file") : m_pFixture->File("file");
+        const int unit = isByPages ? SmallDisk::PageSize : 1;
+        const int steps = (whole.size() + unit - 1) / unit;
+        const int stride = isByPages || IsWalkComplete() ? 1 : std::max(1, steps / 12);
+
+        // A journal is emptied before it is written: the page that it had is free then.
+        const bool isJournal = option == QLatin1String("--journal");
+        const int own = isJournal && isByPages ? 1 : 0;
+
+        for (int step = own; step < steps + stride; step += stride)
+        {
+            const int room = std::min(step, steps);
+            if (pDisk != nullptr)
+                QFile::remove(pDisk->File("filler"));
+            WriteFile(path, "old");
+            if (pDisk != nullptr)
+                pDisk->LeavePages(room - own);
+            const QStringList arguments{"--replay", journal, option, path};
+            const Outcome outcome =
+                isByPages ? RunSketcher(arguments) : RunSketcherWithin(room, arguments);
+
+            const bool isWritten = room == steps;
+            const QByteArray left = isJournal ? WholeLines(whole.left(room * unit)) : "old";
+            QCOMPARE(ReadFile(path), isWritten ? whole : left);
+            QCOMPARE(outcome.code, isWritten ? 0 : 2);
+            const QString line = "sketcher: cannot write " + path + '\n';
+            QCOMPARE(outcome.error, isWritten ? QString() : line);
+        }
+    }
+
+    void theLayoutIsOldOrNew()
+    {
+        const QString ui = m_pFixture->File("ui");
+        const QString layout = ScenarioFixture::LayoutFile();
+        {
+            RunningSketcher sample({}, ui);
+            QCOMPARE(sample.End(SIGTERM).code, 0);
+        }
+        const int whole = ReadFile(layout).size();
+        QVERIFY(vesk::LayoutFile::Write(layout, "old"));
+        const QByteArray old = ReadFile(layout);
+        const int stride = IsWalkComplete() ? 1 : std::max(1, whole / 6);
+
+        for (int limit = 0; limit <= whole; limit += stride)
+        {
+            ScriptedUser user;
+            std::unique_ptr<FileSizeLimit> pFull;
+            user.Until([] { return ScriptedUser::FindWindow()->isVisible(); });
+            user.Do([&] { pFull = std::make_unique<FileSizeLimit>(limit); });
+            Options options;
+            QCOMPARE(user.Run(options), 0);
+
+            pFull.reset();
+            if (limit < whole)
+                QCOMPARE(ReadFile(layout), old);
+        }
+    }
+
+    void theLogIsOldAndWhatCouldBeAdded()
+    {
+        const QString log = m_pFixture->File("log");
+        const QByteArray old = "{\"line\":1}\n";
+        for (const int limit : {0, 10, 11, 12, 100, 500})
+        {
+            WriteFile(log, old);
+            Options options;
+            options.log = log;
+            ScriptedUser user;
+            std::unique_ptr<FileSizeLimit> pFull;
+            user.Do([&] {
+                pFull = std::make_unique<FileSizeLimit>(limit);
+                vesk::DebugMessageMgr::GetDebugMessageMgr()->RemoveObserver(m_pFixture.get());
+                vesk::DebugMessageMgr::GetDebugMessageMgr()->ShowDebugWarn(
+                    "file", 1, "function", std::wstring(1000, L'm'), L"", L"");
+                vesk::DebugMessageMgr::GetDebugMessageMgr()->AddObserver(m_pFixture.get());
+            });
+
+            QCOMPARE(user.Run(options), 2);
+
+            pFull.reset();
+            QVERIFY(ReadFile(log).startsWith(old));
+        }
+    }
+
+    void theUserIsToldForAsLongAsNothingIsKept()
+    {
+        QStringList said;
+        std::unique_ptr<FileSizeLimit> pFull;
+        const auto note = [&said] {
+            said << States() + "|" + PaneState() + "|" +
+                        ScriptedUser::FindWindow()->statusBar()->currentMessage();
+        };
+        ScriptedUser user;
+        user.DrawLine(0, 0, 50, 0).Do(note);
+        user.Do([&] { pFull = std::make_unique<FileSizeLimit>(0); });
+        user.DrawLine(0, 0, 0, 50).Until([] { return !PaneState().isEmpty(); }).Do(note);
+        user.DrawLine(0, 0, 60, 50).Do([&pFull] { pFull.reset(); });
+        user.DrawLine(0, 0, 70, 50).Until([] { return PaneState().isEmpty(); }).Do(note);
+
+        QCOMPARE(user.Run(m_pFixture->Draw()), 0);
+
+        QCOMPARE(said.value(0), QStringLiteral("||"));
+        QCOMPARE(said.value(1), QStringLiteral("日志未保存|日志文件无法写入，操作没有保存|"
+                                               "日志文件无法写入，从现在起所做的操作没有保存"));
+        QCOMPARE(said.value(2), QStringLiteral("||日志文件又可写入，缺少的记录已补上"));
+        QVERIFY(ReadModel(m_pFixture->File("model")).size() == 4);
+        const QString replayed = m_pFixture->File("replayed");
+        const Outcome replay =
+            RunSketcher({"--replay", m_pFixture->File("journal"), "--model", replayed});
+        QCOMPARE(replay.code, 0);
+        QCOMPARE(replay.error, QString());
+        QCOMPARE(ReadFile(replayed), ReadFile(m_pFixture->File("model")));
+    }
+
+    void aSessionThatCouldNotKeepItsJournalEndsSo()
+    {
+        std::unique_ptr<FileSizeLimit> pFull;
+        ScriptedUser user;
+        user.DrawLine(0, 0, 50, 0);
+        user.Do([&] { pFull = std::make_unique<FileSizeLimit>(100); });
+        user.DrawLine(0, 0, 0, 50);
+        Options options;
+        options.journal = m_pFixture->File("journal");
+
+        QCOMPARE(user.Run(options), 2);
+    }
+
+    void aHomeThatCannotBeWrittenKeepsNobodyFromDrawing()
+    {
+        WriteFile(m_pFixture->File("home"), "no folder");
+        const QByteArray config = qgetenv("XDG_CONFIG_HOME");
+        qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_pFixture->File("home/config")));
+        qputenv("XDG_DATA_HOME", QFile::encodeName(m_pFixture->File("home/data")));
+        QString said;
+        ScriptedUser user;
+        user.Until([] { return ScriptedUser::FindWindow()->isVisible(); });
+        user.Do([&said] { said = States(); });
+        user.DrawLine(0, 0, 50, 0).Until([] { return !PaneState().isEmpty(); });
+        Options options;
+        options.model = m_pFixture->File("model");
+
+        const int code = user.Run(options);
+        const Outcome named =
+            RunSketcher({"--replay", options.model, "--log", m_pFixture->File("home/log")});
+        qputenv("XDG_CONFIG_HOME", config);
+
+        QCOMPARE(code, 0);
+        QCOMPARE(said, QStringLiteral("日志未保存；面板布局不会保存；警告未记录"));
+        QCOMPARE(ReadModel(m_pFixture->File("model")).size(), 1);
+        QCOMPARE(named.code, 2);
+    }
+
+    void aRequestToEndEndsAsClosingDoes_data()
+    {
+        QTest::addColumn<int>("signal");
+        QTest::newRow("SIGTERM") << SIGTERM;
+        QTest::newRow("SIGINT") << SIGINT;
+        QTest::newRow("SIGHUP") << SIGHUP;
+    }
+
+    void aRequestToEndEndsAsClosingDoes()
+    {
+        QFETCH(int, signal);
+        const QString journal = m_pFixture->File("repeated");
+        const QString model = m_pFixture->File("model");
+        const QString picture = m_pFixture->File("picture.png");
+        WriteFile(journal, MakeJournal(4));
+        WriteFile(model, "old");
+        RunningSketcher program({"--open", journal, "--model", model, "--screenshot", picture},
+                                m_pFixture->File("ui"));
+        QTRY_VERIFY(nlohmann::json::parse(ReadFile(m_pFixture->File("ui")))["entities"] == 4);
+
+        const Outcome outcome = program.End(signal);
+
+        QCOMPARE(outcome.code, 0);
+        QCOMPARE(outcome.error, QString());
+        QCOMPARE(ReadModel(model).size(), 4);
+        QVERIFY(ReadFile(picture).startsWith("\x89PNG"));
+        QVERIFY(QFileInfo::exists(ScenarioFixture::LayoutFile()));
+    }
+
+    void aRequestEndsARunningToolToo()
+    {
+        ScriptedUser user;
+        user.Click(s_line).ClickAt(0, 0).ClickAt(50, 0).UntilRunning(s_line);
+        user.Do([] { ::raise(SIGTERM); });
+        user.Until([] { return !ScriptedUser::FindWindow()->isVisible(); });
+
+        QCOMPARE(user.Run(m_pFixture->Draw()), 0);
+
+        QCOMPARE(ReadModel(m_pFixture->File("model")).size(), 1);
+        QVERIFY(ReadFile(m_pFixture->File("journal")).endsWith("\"result\":\"done\"}\n"));
+    }
+
+private:
+    std::unique_ptr<ScenarioFixture> m_pFixture;
+};
+
+QTEST_MAIN(FullDiskTest)
+#include "FullDiskTest.moc"
