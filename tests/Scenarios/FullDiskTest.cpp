@@ -114,7 +114,7 @@ private slots:
         const QString path = pDisk != nullptr ? pDisk->File("file") : m_pFixture->File("file");
         const int unit = isByPages ? SmallDisk::PageSize : 1;
         const int steps = (whole.size() + unit - 1) / unit;
-        const int stride = isByPages || IsWalkComplete() ? 1 : std::max(1, steps / 12);
+        const int stride = isByPages || IsWalkComplete() ? 1 : std::max(1, steps / 6);
 
         // A journal is emptied before it is written: the page that it had is free then.
         const bool isJournal = option == QLatin1String("--journal");
