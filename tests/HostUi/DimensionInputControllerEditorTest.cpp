@@ -2,8 +2,8 @@
 
 #include "Command/IActionManager.h"
 #include "Dimension/TemporaryDimensionStyle.h"
-
 #include "Support/TestValues.h"
+
 #include <QCloseEvent>
 
 using namespace vesk;

@@ -1,8 +1,8 @@
 #include "HostUi/InputFixture.h"
 
 #include "HostUi/QtText.h"
-
 #include "Support/TestValues.h"
+
 #include <QMouseEvent>
 
 using namespace vesk;

@@ -1,6 +1,7 @@
 #include "LateUnit.h"
 
 #include "Support/TestValues.h"
+
 #include <QKeyEvent>
 
 using namespace vesk;

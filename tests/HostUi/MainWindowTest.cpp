@@ -2,8 +2,8 @@
 
 #include "HostCore.h"
 #include "HostUi/UiApplication.h"
-
 #include "Support/TestValues.h"
+
 #include <QLabel>
 #include <QStatusBar>
 

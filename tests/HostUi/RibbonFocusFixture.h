@@ -4,8 +4,8 @@
 
 #include "HostUi/DrawingView.h"
 #include "HostUi/InputFixture.h"
-
 #include "Support/TestValues.h"
+
 #include <QCheckBox>
 #include <QLineEdit>
 #include <QVBoxLayout>

@@ -1,6 +1,7 @@
 #include "HostUi/RibbonFocusFixture.h"
 
 #include "Support/TestValues.h"
+
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>

@@ -1,6 +1,7 @@
 #include "HostUi/TerminationRequests.h"
 
 #include "Support/TestValues.h"
+
 #include <QEventLoop>
 #include <QFile>
 #include <QSignalSpy>

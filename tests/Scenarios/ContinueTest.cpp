@@ -6,13 +6,13 @@
 #include "SketcherWindow.h"
 
 #include "Journal/JournalFormat.h"
+#include "Support/TestValues.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QLabel>
 #include <QProgressBar>
 #include <QStatusBar>
-#include <QTest>
 
 #include <csignal>
 #include <filesystem>

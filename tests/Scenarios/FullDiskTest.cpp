@@ -8,6 +8,7 @@
 #include "Support/SmallDisk.h"
 
 #include "HostUi/LayoutFile.h"
+#include "Support/TestValues.h"
 
 #include <nlohmann/json.hpp>
 
@@ -15,7 +16,6 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QStatusBar>
-#include <QTest>
 
 #include <csignal>
 #include <memory>

@@ -1,8 +1,9 @@
 #include "SketcherProcess.h"
 
+#include "Support/TestValues.h"
+
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <QTest>
 
 #include <csignal>
 #include <optional>

@@ -4,8 +4,8 @@
 #include "HostUi/ControlHost.h"
 #include "HostUi/ControlLibrary.h"
 #include "Support/HostFixture.h"
-
 #include "Support/TestValues.h"
+
 #include <QLineEdit>
 #include <QShortcut>
 #include <QSignalSpy>

@@ -1,9 +1,9 @@
 #include "Control/ReportingControls.h"
 #include "DockFixture.h"
 #include "HostUi/ControlHost.h"
+#include "Support/TestValues.h"
 #include "TemporaryDimensionHandlersImpl/HandlerFixture.h"
 
-#include "Support/TestValues.h"
 #include <QEventLoop>
 #include <QTimer>
 

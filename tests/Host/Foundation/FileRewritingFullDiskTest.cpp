@@ -2,8 +2,8 @@
 
 #include "Support/FileSizeLimit.h"
 #include "Support/SmallDisk.h"
-
 #include "Support/TestValues.h"
+
 #include <QDir>
 
 namespace vesk

@@ -1,6 +1,7 @@
 #include "Foundation/FileRewriting.h"
 
 #include "Support/TestValues.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>

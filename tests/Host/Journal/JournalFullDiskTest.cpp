@@ -2,8 +2,8 @@
 
 #include "Journal/JournalFormat.h"
 #include "Support/FileSizeLimit.h"
-
 #include "Support/TestValues.h"
+
 #include <QFile>
 #include <QTemporaryDir>
 

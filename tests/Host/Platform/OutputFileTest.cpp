@@ -1,6 +1,7 @@
 #include "Platform/OutputFile.h"
 
 #include "Support/TestValues.h"
+
 #include <QFile>
 #include <QTemporaryDir>
 

@@ -3,8 +3,8 @@
 #include "Control/IControl.h"
 #include "Control/VeskIControlFactory.h"
 #include "Support/HostFixture.h"
-
 #include "Support/TestValues.h"
+
 #include <QAction>
 #include <QMenu>
 #include <QPointer>

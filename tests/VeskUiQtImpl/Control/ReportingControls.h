@@ -15,9 +15,9 @@
 #include "Control/VeskIControlFactory.h"
 #include "Support/HostFixture.h"
 #include "Support/MemberAccess.h"
+#include "Support/TestValues.h"
 #include "WarningScript.h"
 
-#include "Support/TestValues.h"
 #include <QApplication>
 #include <QChildEvent>
 #include <QPointer>
