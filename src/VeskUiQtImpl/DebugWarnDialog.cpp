@@ -11,6 +11,18 @@
 
 using namespace vesk;
 
+namespace
+{
+
+/// Shows a text from its beginning, however long it is.
+void Show(QLineEdit& field, const QString& text)
+{
+    field.setText(text);
+    field.setCursorPosition(0);
+}
+
+}
+
 DebugWarnDialog::DebugWarnDialog(QWidget* pParent) : QDialog(pParent)
 {
     m_form.Build(this);
@@ -27,11 +39,11 @@ void DebugWarnDialog::SetInfo(const std::string& file, int line, const std::stri
                               const std::wstring& date)
 {
     m_form.pFile->setPlainText(QString::fromStdString(file));
-    m_form.pLine->setText(QString::number(line, 10));
+    Show(*m_form.pLine, QString::number(line, 10));
     m_form.pFunction->setPlainText(QString::fromStdString(function));
     m_form.pMessage->setPlainText(ToQString(message));
-    m_form.pPerson->setText(ToQString(person));
-    m_form.pDate->setText(ToQString(date));
+    Show(*m_form.pPerson, ToQString(person));
+    Show(*m_form.pDate, ToQString(date));
 
     const IConfigRecord* pInHouseMode =
         IPublishConfig::GetConfigRecord(PublishConfigRecordNames::InHouseMode);
@@ -72,6 +84,7 @@ void DebugWarnDialog::Publish()
     m_form.pIgnore->hide();
     m_form.pDebug->hide();
     m_form.pIgnoreAll->setText(DebugWarnText(L"确定"));
-    m_form.pPerson->setText(hidden);
-    m_form.pDate->setText(hidden);
+    m_form.pIgnoreAll->setDefault(true);
+    Show(*m_form.pPerson, hidden);
+    Show(*m_form.pDate, hidden);
 }

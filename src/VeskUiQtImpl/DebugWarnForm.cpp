@@ -32,6 +32,17 @@ Field* MakeField(const QRect& rect, QWidget* pParent)
     return pField;
 }
 
+/// A field of several lines. It shows where the focus is, which styles do for no such field, and
+/// its text can be read with the keyboard alone.
+QTextEdit* MakeBox(const QRect& rect, QWidget* pParent)
+{
+    auto* pBox = MakeField<QTextEdit>(rect, pParent);
+    pBox->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    pBox->setStyleSheet(
+        QStringLiteral("QTextEdit:focus { border: 2px solid palette(highlight); }"));
+    return pBox;
+}
+
 QLineEdit* MakeDisabledEdit(const QRect& rect, QWidget* pParent)
 {
     auto* pEdit = new QLineEdit(pParent);
@@ -52,6 +63,8 @@ QPushButton* AddButton(const wchar_t* text, QWidget* pRow)
 void DebugWarnForm::Build(QDialog* pDialog)
 {
     pDialog->setWindowTitle(DebugWarnText(L"调试警告"));
+    // What stands in it keeps its place: there is nothing to gain from a smaller window.
+    pDialog->setMinimumSize(485, 393);
     pDialog->resize(485, 393);
     pDialog->setWindowModality(Qt::ApplicationModal);
     BuildReport(pDialog);
@@ -82,6 +95,7 @@ void DebugWarnForm::BuildButtons(QWidget* pDialog)
     auto* pLayout = new QHBoxLayout(pRow);
     pLayout->setContentsMargins(0, 0, 0, 0);
     pIgnore = AddButton(L"忽略一次", pRow);
+    pIgnore->setDefault(true);
     pIgnoreAll = AddButton(L"忽略所有", pRow);
     pDebug = AddButton(L"调试", pRow);
 }
@@ -90,17 +104,17 @@ void DebugWarnForm::BuildInformation(QWidget* pDialog)
 {
     auto* pGroup = new QGroupBox(DebugWarnText(L"信息"), pDialog);
     pGroup->setGeometry(9, 193, 471, 161);
-    pMessage = MakeField<QTextEdit>({10, 20, 451, 131}, pGroup);
+    pMessage = MakeBox({10, 20, 451, 131}, pGroup);
 }
 
 void DebugWarnForm::BuildFields(QWidget* pDialog)
 {
     MakeLabel(L"文件：", {10, 10, 48, 23}, pDialog);
-    pFile = MakeField<QTextEdit>({60, 10, 420, 41}, pDialog);
+    pFile = MakeBox({60, 10, 420, 41}, pDialog);
     MakeLabel(L"行号：", {10, 60, 48, 23}, pDialog);
     pLine = MakeField<QLineEdit>({60, 60, 200, 22}, pDialog);
     MakeLabel(L"函数：", {10, 90, 48, 23}, pDialog);
-    pFunction = MakeField<QTextEdit>({60, 90, 420, 31}, pDialog);
+    pFunction = MakeBox({60, 90, 420, 31}, pDialog);
     MakeLabel(L"负责人：", {10, 130, 48, 23}, pDialog);
     pPerson = MakeField<QLineEdit>({60, 130, 200, 22}, pDialog);
     MakeLabel(L"日期：", {10, 160, 48, 23}, pDialog);

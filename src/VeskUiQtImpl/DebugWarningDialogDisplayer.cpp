@@ -9,6 +9,8 @@
 
 #include <HostUi/QtText.h>
 
+#include <QScreen>
+
 namespace vesk
 {
 namespace
@@ -25,6 +27,17 @@ QWidget* FindMainWindow()
     const IApplicationWindow* pWindow =
         pApplication != nullptr ? pApplication->GetMainWindow() : nullptr;
     return pWindow != nullptr ? QWidget::find(pWindow->GetWindowId()) : nullptr;
+}
+
+/// Puts the dialog over a window that fills its screen, or will as soon as the window manager comes
+/// to it: until then the window has another place. Over any other, Qt does.
+void PlaceOver(QWidget* pWindow, QWidget& dialog)
+{
+    if (pWindow == nullptr || !(pWindow->isMaximized() || pWindow->isFullScreen()))
+        return;
+    QRect place(QPoint(), dialog.size());
+    place.moveCenter(pWindow->screen()->availableGeometry().center());
+    dialog.move(place.topLeft());
 }
 
 /// Where no dialog can be shown the fact alone is told.
@@ -52,8 +65,10 @@ bool DebugWarningDialogDisplayer::Display(const std::string& file, int line,
         return true;
     }
 
-    DebugWarnDialog dialog(FindMainWindow());
+    QWidget* pMainWindow = FindMainWindow();
+    DebugWarnDialog dialog(pMainWindow);
     dialog.SetInfo(file, line, function, message, person, date);
+    PlaceOver(pMainWindow, dialog);
     const int answer = dialog.exec();
     if (answer == DebugWarnDialog::DebuggerWanted)
         BreakIntoDebugger();

@@ -3,6 +3,7 @@
 #include "Support/TestValues.h"
 
 #include <QMetaMethod>
+#include <QScrollBar>
 
 #include <limits>
 
@@ -30,6 +31,16 @@ private slots:
     void leavingIsToIgnoreOnce();
     void returnClicksTheFirstButton_data();
     void returnClicksTheFirstButton();
+    void returnAnswersWhereverTheFocusIs_data();
+    void returnAnswersWhereverTheFocusIs();
+    void theFocusOfAButtonIsWhatReturnClicks_data();
+    void theFocusOfAButtonIsWhatReturnClicks();
+    void theDefaultButtonIsMarked();
+    void theFocusIsSeenInATextBox_data();
+    void theFocusIsSeenInATextBox();
+    void textBoxesAreReadWithTheKeyboard();
+    void longTextsBeginAtTheirBeginning_data();
+    void longTextsBeginAtTheirBeginning();
     void userNameAndPasswordAreCopied_data();
     void userNameAndPasswordAreCopied();
 };
@@ -219,6 +230,153 @@ void DebugWarnDialogTest::returnClicksTheFirstButton()
 
     QTRY_COMPARE(finished.size(), 1);
     QTEST(finished[0][0].toInt(), "answer");
+}
+
+/// Every field that the Tab key reaches, in both forms.
+static void AddFocusPlaces()
+{
+    QTest::addColumn<bool>("isPublished");
+    QTest::addColumn<bool>("isBox");
+    QTest::addColumn<int>("index");
+    for (const bool isPublished : {false, true})
+    {
+        const QByteArray form = isPublished ? ", published" : ", in house";
+        QTest::newRow("message" + form) << isPublished << true << int(Message);
+        QTest::newRow("file" + form) << isPublished << true << int(File);
+        QTest::newRow("function" + form) << isPublished << true << int(Function);
+        QTest::newRow("line" + form) << isPublished << false << int(LineNumber);
+        QTest::newRow("person" + form) << isPublished << false << int(Person);
+        QTest::newRow("date" + form) << isPublished << false << int(Date);
+    }
+}
+
+void DebugWarnDialogTest::returnAnswersWhereverTheFocusIs_data()
+{
+    AddFocusPlaces();
+}
+
+void DebugWarnDialogTest::returnAnswersWhereverTheFocusIs()
+{
+    QFETCH(bool, isPublished);
+    QFETCH(bool, isBox);
+    QFETCH(int, index);
+    DialogFixture f(isPublished);
+    QSignalSpy finished(&f.dialog, &QDialog::finished);
+    f.dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&f.dialog));
+    QWidget& field = isBox ? static_cast<QWidget&>(f.Box(index)) : f.Line(index);
+
+    field.setFocus(Qt::TabFocusReason);
+    QVERIFY(field.hasFocus());
+    QTest::keyClick(f.dialog.windowHandle(), Qt::Key_Return);
+
+    QTRY_COMPARE(finished.size(), 1);
+    QCOMPARE(finished[0][0].toInt(), isPublished ? 1 : 0);
+}
+
+void DebugWarnDialogTest::theFocusOfAButtonIsWhatReturnClicks_data()
+{
+    QTest::addColumn<int>("button");
+    QTest::addColumn<int>("answer");
+    QTest::newRow("ignore once") << int(IgnoreButton) << 0;
+    QTest::newRow("ignore all") << int(IgnoreAllButton) << 1;
+    QTest::newRow("debug") << int(DebugButton) << 3;
+}
+
+void DebugWarnDialogTest::theFocusOfAButtonIsWhatReturnClicks()
+{
+    QFETCH(int, button);
+    DialogFixture f;
+    QSignalSpy finished(&f.dialog, &QDialog::finished);
+    f.dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&f.dialog));
+
+    f.Button(button).setFocus(Qt::TabFocusReason);
+    QTest::keyClick(f.dialog.windowHandle(), Qt::Key_Return);
+
+    QTRY_COMPARE(finished.size(), 1);
+    QTEST(finished[0][0].toInt(), "answer");
+}
+
+void DebugWarnDialogTest::theDefaultButtonIsMarked()
+{
+    const DialogFixture inHouse;
+    const DialogFixture published(true);
+    const auto defaultOf = [](const DebugWarnDialog& dialog) {
+        QStringList texts;
+        for (const QPushButton* pButton : dialog.findChildren<QPushButton*>())
+            if (pButton->isDefault())
+                texts << pButton->text();
+        return texts;
+    };
+
+    QCOMPARE(defaultOf(inHouse.dialog), QStringList(QString::fromUtf8("忽略一次")));
+    QCOMPARE(defaultOf(published.dialog), QStringList(QString::fromUtf8("确定")));
+}
+
+void DebugWarnDialogTest::theFocusIsSeenInATextBox_data()
+{
+    QTest::addColumn<int>("index");
+    QTest::newRow("message") << int(Message);
+    QTest::newRow("file") << int(File);
+    QTest::newRow("function") << int(Function);
+}
+
+void DebugWarnDialogTest::theFocusIsSeenInATextBox()
+{
+    QFETCH(int, index);
+    DialogFixture f;
+    f.dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&f.dialog));
+    QTextEdit& box = f.Box(index);
+    const auto frame = [&box] { return box.grab().toImage().pixelColor(0, box.height() / 2); };
+    const QColor before = frame();
+
+    box.setFocus(Qt::TabFocusReason);
+
+    QVERIFY(frame() != before);
+    QCOMPARE(frame(), box.palette().color(QPalette::Highlight));
+}
+
+void DebugWarnDialogTest::textBoxesAreReadWithTheKeyboard()
+{
+    DialogFixture f;
+    f.dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&f.dialog));
+    f.Box(File).setFocus(Qt::TabFocusReason);
+
+    QTest::keyClick(f.dialog.windowHandle(), Qt::Key_Right, Qt::ShiftModifier);
+    QTest::keyClick(f.dialog.windowHandle(), Qt::Key_X);
+
+    QCOMPARE(f.Box(File).textCursor().selectedText(), QString("s"));
+    QCOMPARE(f.Box(File).toPlainText(), QString::fromUtf8("src/文件.cpp"));
+}
+
+void DebugWarnDialogTest::longTextsBeginAtTheirBeginning_data()
+{
+    QTest::addColumn<bool>("isPublished");
+    QTest::newRow("in house") << false;
+    QTest::newRow("published") << true;
+}
+
+void DebugWarnDialogTest::longTextsBeginAtTheirBeginning()
+{
+    QFETCH(bool, isPublished);
+    DialogFixture f(isPublished);
+    const std::wstring wide(4000, L'汉');
+    const std::string narrow(4000, 'x');
+
+    f.dialog.SetInfo(narrow, 12, narrow, wide, wide, wide);
+    f.dialog.show();
+
+    QCOMPARE(f.Line(Person).cursorPosition(), 0);
+    QCOMPARE(f.Line(Date).cursorPosition(), 0);
+    QCOMPARE(f.Line(LineNumber).cursorPosition(), 0);
+    for (const int box : {Message, File, Function})
+    {
+        QCOMPARE(f.Box(box).textCursor().position(), 0);
+        QCOMPARE(f.Box(box).verticalScrollBar()->value(), 0);
+    }
 }
 
 void DebugWarnDialogTest::userNameAndPasswordAreCopied_data()

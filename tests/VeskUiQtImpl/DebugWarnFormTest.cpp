@@ -20,6 +20,7 @@ class DebugWarnFormTest : public QObject
 private slots:
     void theFormIsTheOnlyMember();
     void theWindowIsAsItIsMeant();
+    void aLargerWindowMovesNothing();
     void theFormIsAsItIsMeantInHouse();
     void theFormIsAsItIsMeantWhenPublished();
     void onlyTheReportLabelsHaveAFontOfTheirOwn();
@@ -101,7 +102,19 @@ void DebugWarnFormTest::theWindowIsAsItIsMeant()
     QVERIFY(dialog.isWindow());
     QCOMPARE(dialog.windowTitle(), QString::fromUtf8("调试警告"));
     QCOMPARE(dialog.size(), QSize(485, 393));
+    QCOMPARE(dialog.minimumSize(), QSize(485, 393));
     QCOMPARE(dialog.windowModality(), Qt::ApplicationModal);
+}
+
+void DebugWarnFormTest::aLargerWindowMovesNothing()
+{
+    DialogFixture f;
+    f.dialog.show();
+    const QStringList before = DescribeChildren(f.dialog);
+
+    f.dialog.resize(900, 700);
+
+    QCOMPARE(DescribeChildren(f.dialog), before);
 }
 
 /// What both forms have in common, with the row of buttons and the last two fields left out.

@@ -16,6 +16,7 @@
 #include <QPointer>
 #include <QProcess>
 #include <QPushButton>
+#include <QScreen>
 #include <QTemporaryDir>
 #include <QTextEdit>
 #include <QTimer>
@@ -88,6 +89,9 @@ private slots:
     void theDialogStandsOnTheMainWindow();
     void theDialogStandsAloneWithoutAMainWindow();
     void theDialogStandsAloneWhenTheWindowIsUnknown();
+    void theDialogStandsWhereAMaximisedWindowWillBe_data();
+    void theDialogStandsWhereAMaximisedWindowWillBe();
+    void theDialogStandsOverAWindowThatStandsAnywhere();
     void nothingOfADialogSurvives();
     void aPublishedProgramHasOneButton();
     void debuggingBreaksOnce();
@@ -218,6 +222,61 @@ void DebugWarningDialogDisplayerTest::theDialogStandsAloneWhenTheWindowIsUnknown
 
     QVERIFY(FindDialogsParent(&wasShown) == nullptr);
     QVERIFY(wasShown);
+}
+
+/// Where a dialog shown now stands.
+QRect FindDialogsPlace()
+{
+    QRect place;
+    WhenShown([&](QDialog& dialog) {
+        place = dialog.geometry();
+        dialog.done(0);
+    });
+    Display();
+    return place;
+}
+
+/// How far apart two places are in their middle.
+int DistanceOf(const QRect& first, const QRect& second)
+{
+    return (first.center() - second.center()).manhattanLength();
+}
+
+void DebugWarningDialogDisplayerTest::theDialogStandsWhereAMaximisedWindowWillBe_data()
+{
+    QTest::addColumn<Qt::WindowState>("state");
+    QTest::newRow("maximised") << Qt::WindowMaximized;
+    QTest::newRow("on the full screen") << Qt::WindowFullScreen;
+}
+
+void DebugWarningDialogDisplayerTest::theDialogStandsWhereAMaximisedWindowWillBe()
+{
+    QFETCH(Qt::WindowState, state);
+    HostFixture host;
+    TestWindow window;
+    host.application.SetMainWindow(&window);
+    // Not shown yet: it has the place from which it will be maximised.
+    window.setGeometry(0, 0, 100, 80);
+    window.setWindowState(state);
+
+    const QRect place = FindDialogsPlace();
+
+    QVERIFY(DistanceOf(place, window.screen()->availableGeometry()) < 40);
+    QCOMPARE(place.size(), QSize(485, 393));
+}
+
+void DebugWarningDialogDisplayerTest::theDialogStandsOverAWindowThatStandsAnywhere()
+{
+    HostFixture host;
+    TestWindow window;
+    host.application.SetMainWindow(&window);
+    window.setGeometry(200, 150, 500, 400);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+
+    const QRect place = FindDialogsPlace();
+
+    QVERIFY(DistanceOf(place, window.geometry()) < 40);
 }
 
 void DebugWarningDialogDisplayerTest::nothingOfADialogSurvives()
