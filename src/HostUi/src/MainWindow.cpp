@@ -7,11 +7,26 @@
 #include "Qtitan/RibbonBar.h"
 
 #include <QCloseEvent>
+#include <QDir>
 #include <QLabel>
 #include <QStatusBar>
 
 namespace vesk
 {
+namespace
+{
+
+/// What a user who reads that warnings were not shown wants to know.
+QString TellWhereTheLogIs()
+{
+    const std::string path = DebugMessageMgr::GetDebugMessageMgr()->GetLogPath();
+    if (path.empty())
+        return QStringLiteral("对话框打开时发生的警告，见标准错误输出");
+    return QStringLiteral("对话框打开时发生的警告，见日志：%1")
+        .arg(QDir::toNativeSeparators(QString::fromStdString(path)));
+}
+
+}
 
 MainWindow::MainWindow()
     : m_pRibbon(new Qtitan::RibbonBar(this)), m_pHint(new QLabel(this)),
@@ -37,7 +52,6 @@ MainWindow::MainWindow()
     statusBar()->addPermanentWidget(m_pWarningCount);
     statusBar()->addPermanentWidget(m_pCursor);
     m_pWarningCount->setObjectName(QStringLiteral("WarningCount"));
-    m_pWarningCount->setToolTip(QStringLiteral("对话框打开时发生的警告，见日志"));
     m_pWarningCount->hide();
     m_pStates->setObjectName(QStringLiteral("States"));
     // Where there is no room the tool tip tells it: the window does not grow.
@@ -128,6 +142,7 @@ void MainWindow::ShowWarningCount()
     m_isCountStale = false;
     const int count = DebugMessageMgr::GetDebugMessageMgr()->GetUnshownCount();
     m_pWarningCount->setText(QStringLiteral("未显示的警告：%1").arg(count));
+    m_pWarningCount->setToolTip(TellWhereTheLogIs());
     m_pWarningCount->setVisible(count > 0);
 }
 

@@ -20,6 +20,8 @@ class DebugMessageMgrTest : public QObject
 private slots:
     void cleanup() { Manager().CloseLog(); }
 
+    void theLogSaysWhereItIs();
+    void aLogThatCannotBeOpenedIsNowhere();
     void aWarningIsOneLineWithAllItsFields();
     void theTimeIsNowInUtc();
     void theCountTellsHowOftenThePlaceWarned();
@@ -39,6 +41,33 @@ private slots:
     void withoutLogWarningsGoToStandardError();
     void afterAFailedOpeningWarningsGoToStandardError();
 };
+
+void DebugMessageMgrTest::theLogSaysWhereItIs()
+{
+    const LogFile log;
+    QCOMPARE(Manager().GetLogPath(), std::string());
+    const QString relative =
+        QDir::current().relativeFilePath(QString::fromStdString(log.GetPath()));
+
+    Manager().OpenLog(relative.toStdString());
+
+    const QString told = QString::fromStdString(Manager().GetLogPath());
+    QVERIFY2(QFileInfo(told).isAbsolute(), qPrintable(told));
+    QCOMPARE(QFileInfo(told).canonicalFilePath(),
+             QFileInfo(QString::fromStdString(log.GetPath())).canonicalFilePath());
+    Manager().CloseLog();
+    QCOMPARE(Manager().GetLogPath(), std::string());
+}
+
+void DebugMessageMgrTest::aLogThatCannotBeOpenedIsNowhere()
+{
+    const LogFile log;
+    Manager().OpenLog(log.GetPath());
+
+    QVERIFY(!Manager().OpenLog(log.GetPath() + "/below a file"));
+
+    QCOMPARE(Manager().GetLogPath(), std::string());
+}
 
 void DebugMessageMgrTest::aWarningIsOneLineWithAllItsFields()
 {

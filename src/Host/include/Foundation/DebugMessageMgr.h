@@ -67,6 +67,9 @@ public:
     /// cannot be opened: the log then goes to standard error, as it does before the first call.
     bool OpenLog(const std::string& path);
 
+    /// Where the log goes (UTF-8, absolute); empty while it goes to standard error.
+    std::string GetLogPath() const;
+
     /// Writes the closing lines of suppressed places and closes the file. False when there was a
     /// file and a line is missing in it: that one went to standard error.
     bool CloseLog();

@@ -158,6 +158,11 @@ bool DebugMessageMgr::OpenLog(const std::string& path)
     return WarningLog::GetInstance().Open(path);
 }
 
+std::string DebugMessageMgr::GetLogPath() const
+{
+    return WarningLog::GetInstance().GetPath();
+}
+
 bool DebugMessageMgr::CloseLog()
 {
     return WarningLog::GetInstance().Close();

@@ -64,7 +64,16 @@ bool WarningLog::Open(const std::string& path)
     const std::lock_guard lock(m_mutex);
     const std::filesystem::path file = std::filesystem::u8path(path);
     m_isTorn = IsTorn(file);
-    return m_file.OpenShared(file);
+    if (!m_file.OpenShared(file))
+        return false;
+    m_path = std::filesystem::absolute(file).u8string();
+    return true;
+}
+
+std::string WarningLog::GetPath()
+{
+    const std::lock_guard lock(m_mutex);
+    return m_path;
 }
 
 bool WarningLog::Close()
@@ -81,6 +90,7 @@ bool WarningLog::Close()
                    {"suppressed", count - s_maxLinesPerPlace}});
     }
     m_counts.clear();
+    m_path.clear();
     const bool isClosed = m_file.Close();
     return !std::exchange(m_isLineMissing, false) && isClosed;
 }

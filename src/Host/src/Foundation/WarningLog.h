@@ -25,6 +25,9 @@ public:
     /// when it cannot be opened.
     bool Open(const std::string& path);
 
+    /// The file's absolute path (UTF-8); empty while none is open.
+    std::string GetPath();
+
     /// Writes a closing line for each place with suppressed lines, forgets all counts and closes
     /// the file. False when there was a file and a line is missing in it: that one went to standard
     /// error.
@@ -49,6 +52,7 @@ private:
     /// True while the end of the file is no line end: a line was torn there.
     bool m_isTorn = false;
     bool m_isLineMissing = false;
+    std::string m_path;
     std::map<Place, int> m_counts;
 };
 
