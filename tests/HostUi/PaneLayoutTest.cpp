@@ -3,6 +3,7 @@
 #include "HostUi/PaneRun.h"
 #include "Support/TestValues.h"
 
+#include <QHBoxLayout>
 #include <QSignalSpy>
 
 namespace vesk::test
@@ -44,7 +45,6 @@ class PaneLayoutTest : public QObject
 
 private slots:
     void hidingAllAndBackIsExact();
-    void aPaneThatReachesBeyondTheScreenStaysWhereItIs();
     void whileAllAreHiddenTheFormerLayoutIsSaved();
     void showingAPaneEndsTheHiddenState();
     void theFactoryLayoutEndsTheHiddenState();
@@ -54,8 +54,11 @@ private slots:
     void theFactoryLayoutComesBack();
     void aPaneThatTheLayoutDoesNotKnowGoesToItsFactoryPlace();
     void aPaneThatIsNotThereKeepsItsPlaceForLater();
-    void aFloatingPaneComesIntoReach_data();
-    void aFloatingPaneComesIntoReach();
+    void aRestoredPaneKeepsAUsableSizeInASmallWindow_data();
+    void aRestoredPaneKeepsAUsableSizeInASmallWindow();
+    void aPaneIsNoSmallerThanItsContent();
+    void aPanesOwnLeastSizeIsLeft();
+    void namesOfForeignDocksAreLeft();
     void anUnusableLayoutGivesTheFactoryLayout();
     void aPaneThatLeftTheManagerIsNobodysAnyMore();
     void showingAndHidingIsTold();
@@ -84,24 +87,6 @@ void PaneLayoutTest::hidingAllAndBackIsExact()
         QCOMPARE(Describe(run), seen);
         QVERIFY(!run.pLayout->IsAllHidden());
     }
-}
-
-void PaneLayoutTest::aPaneThatReachesBeyondTheScreenStaysWhereItIs()
-{
-    Run run;
-    run.Arrange();
-    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-    const QRect place(screen.right() - 100, 50, 260, 180);
-    run.Pane("D")->setGeometry(place);
-    const QByteArray saved = run.pLayout->Save();
-
-    run.pLayout->ToggleAllHidden();
-    run.pLayout->ToggleAllHidden();
-    QCOMPARE(run.Pane("D")->geometry(), place);
-
-    Run next;
-    QVERIFY(next.pLayout->Restore(saved));
-    QCOMPARE(next.Pane("D")->geometry(), place);
 }
 
 void PaneLayoutTest::whileAllAreHiddenTheFormerLayoutIsSaved()
@@ -233,33 +218,93 @@ void PaneLayoutTest::aPaneThatIsNotThereKeepsItsPlaceForLater()
     QCOMPARE(last.window.dockWidgetArea(last.Pane("F")), Qt::TopDockWidgetArea);
 }
 
-void PaneLayoutTest::aFloatingPaneComesIntoReach_data()
+void PaneLayoutTest::aRestoredPaneKeepsAUsableSizeInASmallWindow_data()
 {
-    QTest::addColumn<QRect>("place");
-
-    QTest::newRow("far right") << QRect(5000, 100, 200, 150);
-    QTest::newRow("far left") << QRect(-5000, 100, 200, 150);
-    QTest::newRow("below") << QRect(100, 9000, 200, 150);
-    QTest::newRow("a sliver at the left") << QRect(-190, 100, 200, 150);
-    QTest::newRow("a sliver at the top") << QRect(100, -130, 200, 150);
+    QTest::addColumn<bool>("isShown");
+    QTest::newRow("a window that is shown") << true;
+    QTest::newRow("a window that will be shown") << false;
 }
 
-void PaneLayoutTest::aFloatingPaneComesIntoReach()
+void PaneLayoutTest::aRestoredPaneKeepsAUsableSizeInASmallWindow()
 {
-    QFETCH(QRect, place);
-    QByteArray saved;
+    QFETCH(bool, isShown);
+    Run large;
+    large.window.centralWidget()->setMinimumSize(300, 200);
+    large.window.resize(1900, 1200);
+    large.window.resizeDocks({large.Pane("A"), large.Pane("D")}, {200, 1100}, Qt::Horizontal);
+    large.window.resizeDocks({large.Pane("D"), large.Pane("E")}, {600, 30}, Qt::Vertical);
+    Run::Settle();
+    const QByteArray saved = large.pLayout->Save();
+    Run small;
+    small.window.centralWidget()->setMinimumSize(300, 200);
+    small.window.resize(700, 600);
+    small.window.setVisible(isShown);
+
+    QVERIFY(small.pLayout->Restore(saved));
+    small.window.show();
+    Run::Settle();
+
+    QCOMPARE(small.window.size(), QSize(700, 600));
+    for (const char* name : {"A", "B", "D", "E", "F"})
     {
-        Run run;
-        run.Pane("D")->setFloating(true);
-        run.Pane("D")->setGeometry(place);
-        saved = run.pLayout->Save();
+        QVERIFY2(small.Pane(name)->width() >= 160, name);
+        QVERIFY2(small.Pane(name)->height() >= 80, name);
     }
+    QVERIFY(small.window.centralWidget()->width() >= 300);
+}
 
-    Run next;
-    QVERIFY(next.pLayout->Restore(saved));
+void PaneLayoutTest::aPaneIsNoSmallerThanItsContent()
+{
+    Run run;
+    auto* pInner = new QWidget;
+    pInner->setMinimumWidth(333);
+    auto* pContent = new QWidget;
+    (new QHBoxLayout(pContent))->addWidget(pInner);
+    run.Pane("D")->setWidget(pContent);
+    run.pLayout->Save();
+    Run::Settle();
 
-    QVERIFY(next.Pane("D")->isFloating());
-    QVERIFY(IsPlaced(next, next.Pane("D")));
+    run.window.resizeDocks({run.Pane("D")}, {10}, Qt::Horizontal);
+    Run::Settle();
+    QVERIFY(run.Pane("D")->width() >= 333);
+
+    pInner->setMinimumWidth(0);
+    Run::Settle();
+    run.window.resizeDocks({run.Pane("D")}, {10}, Qt::Horizontal);
+    Run::Settle();
+    QCOMPARE(run.Pane("D")->width(), 160);
+}
+
+void PaneLayoutTest::aPanesOwnLeastSizeIsLeft()
+{
+    Run run;
+    run.Pane("D")->widget()->setMinimumSize(90, 210);
+
+    run.pLayout->Save();
+    Run::Settle();
+
+    QCOMPARE(run.Pane("D")->widget()->minimumSize(), QSize(90, 210));
+}
+
+void PaneLayoutTest::namesOfForeignDocksAreLeft()
+{
+    Run run;
+    auto* pForeign = new QDockWidget(&run.window);
+    pForeign->setObjectName("foreign");
+    run.window.addDockWidget(Qt::LeftDockWidgetArea, pForeign);
+    auto* pInner = new QMainWindow;
+    auto* pNested = new QDockWidget(pInner);
+    pNested->setObjectName("nested");
+    pInner->addDockWidget(Qt::LeftDockWidgetArea, pNested);
+    run.Pane("A")->setWidget(pInner);
+
+    const QByteArray saved = run.pLayout->Save();
+    run.pLayout->RestoreDefault();
+    QVERIFY(run.pLayout->Restore(saved));
+
+    QCOMPARE(pForeign->objectName(), QString("foreign"));
+    QCOMPARE(pNested->objectName(), QString("nested"));
+    QCOMPARE(run.window.dockWidgetArea(pForeign), Qt::LeftDockWidgetArea);
 }
 
 void PaneLayoutTest::anUnusableLayoutGivesTheFactoryLayout()

@@ -91,13 +91,18 @@ struct Run
     std::unique_ptr<PaneLayout> pLayout;
 };
 
-/// True when the user sees the pane, or the tab that it stands behind, or can have it shown.
+/// True when the user sees the pane, or the tab that it stands behind, or can have it shown; a
+/// floating one when its title can be taken hold of and its close button clicked.
 inline bool IsPlaced(const Run& run, QDockWidget* pPane)
 {
     if (!pPane->isFloating())
         return run.window.dockWidgetArea(pPane) != Qt::NoDockWidgetArea;
-    const QRect seen = pPane->geometry() & QGuiApplication::primaryScreen()->availableGeometry();
-    return seen.width() >= 64 && seen.height() >= 32;
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    const QRect frame = pPane->frameGeometry();
+    const QRect title(frame.topLeft(), QPoint(frame.right(), pPane->geometry().top() - 1));
+    const QRect seen = title & screen;
+    return seen.width() >= 64 && seen.height() == title.height() &&
+           screen.contains(title.topRight());
 }
 
 }

@@ -1,7 +1,9 @@
 #include "HostUi/PaneLayout.h"
 
 #include "HostUi/QtText.h"
+#include "PaneReach.h"
 
+#include <QCursor>
 #include <QDataStream>
 #include <QDockWidget>
 #include <QEvent>
@@ -27,8 +29,12 @@ constexpr int StateVersion = 1;
 /// Of the stream that holds the toolkit's state and the places of floating panes.
 constexpr QDataStream::Version StreamVersion = QDataStream::Qt_5_12;
 
-/// How much of a floating pane has to be on a screen, in pixels.
-constexpr QSize LeastInReach(64, 32);
+/// What a pane's content needs to be of use, in pixels; however small the window is, it gets no
+/// less.
+constexpr QSize LeastUsable(160, 60);
+
+/// How large a pane floats at most that nobody has given a size yet, in pixels.
+constexpr QSize GreatestAtFirst(480, 360);
 
 Qt::DockWidgetArea ToQt(DockArea area)
 {
@@ -41,13 +47,30 @@ Qt::Orientation AcrossOf(DockArea area)
     return area == DockArea::Left || area == DockArea::Right ? Qt::Horizontal : Qt::Vertical;
 }
 
-bool IsInReach(const QRect& pane)
+/// The least extent of a content: its own, if somebody gave it one, else what is usable.
+int LeastExtent(int own, int hint, int usable)
 {
-    const QList<QScreen*> screens = QGuiApplication::screens();
-    return std::any_of(screens.begin(), screens.end(), [&pane](const QScreen* pScreen) {
-        const QRect seen = pane & pScreen->availableGeometry();
-        return seen.width() >= LeastInReach.width() && seen.height() >= LeastInReach.height();
-    });
+    if (own != 0 && own != usable)
+        return own;
+    return hint < usable ? usable : 0;
+}
+
+/// Has the toolkit leave the pane a usable size. What the content needs may be more, and change.
+void KeepUsable(const QDockWidget& pane)
+{
+    QWidget* pContent = pane.widget();
+    if (pContent == nullptr)
+        return;
+    const QSize own = pContent->minimumSize();
+    const QSize hint = pContent->minimumSizeHint();
+    pContent->setMinimumSize(LeastExtent(own.width(), hint.width(), LeastUsable.width()),
+                             LeastExtent(own.height(), hint.height(), LeastUsable.height()));
+}
+
+/// Qt keeps the window manager out while it drags a pane.
+bool IsDragged(const QDockWidget& pane)
+{
+    return pane.windowFlags().testFlag(Qt::X11BypassWindowManagerHint);
 }
 
 }
@@ -56,7 +79,13 @@ PaneLayout::PaneLayout(QMainWindow& window, IDockManager& docks, std::vector<Pan
     : m_window(window), m_docks(docks), m_places(std::move(places))
 {
     Prepare();
-    connect(qApp, &QGuiApplication::screenRemoved, this, &PaneLayout::BringFloatingIntoReach);
+    // Several signals tell of one change; only after the last is every screen where it will be.
+    m_reachCheck.setSingleShot(true);
+    connect(&m_reachCheck, &QTimer::timeout, this, &PaneLayout::BringFloatingIntoReach);
+    connect(qApp, &QGuiApplication::screenAdded, this, &PaneLayout::WatchScreen);
+    connect(qApp, &QGuiApplication::screenRemoved, this, [this] { m_reachCheck.start(0); });
+    for (QScreen* pScreen : QGuiApplication::screens())
+        WatchScreen(pScreen);
 }
 
 PaneLayout::~PaneLayout() = default;
@@ -136,19 +165,23 @@ void PaneLayout::BringFloatingIntoReach()
 {
     for (const Pane& pane : FindPanes())
     {
-        if (!pane.pDock->IsFloating() || IsInReach(pane.pWidget->geometry()))
+        if (!pane.pDock->IsFloating() || IsInReach(*pane.pWidget))
             continue;
-        const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-        const QSize size = pane.pWidget->size().boundedTo(screen.size());
-        pane.pWidget->resize(size);
-        QRect place(QPoint(), size);
-        place.moveCenter(screen.center());
+        const QRect place = PlaceInReach(*pane.pWidget);
+        const QSize frame = pane.pWidget->frameGeometry().size() - pane.pWidget->size();
+        pane.pWidget->resize(pane.pWidget->size().boundedTo(place.size() - frame));
         pane.pDock->Move(place.x(), place.y());
     }
 }
 
 bool PaneLayout::eventFilter(QObject* pWatched, QEvent* pEvent)
 {
+    if (pEvent->type() == QEvent::MouseButtonRelease && pWatched == m_pDragged)
+        QTimer::singleShot(0, this, &PaneLayout::EndDrag);
+    if (pEvent->type() == QEvent::Resize)
+        NoteSize(static_cast<QDockWidget&>(*pWatched));
+    if (pEvent->type() == QEvent::LayoutRequest)
+        KeepUsable(static_cast<QDockWidget&>(*pWatched));
     if (pEvent->type() == QEvent::ShowToParent && !m_isApplying)
         m_beforeHiding.clear();
     if (pEvent->type() == QEvent::ShowToParent || pEvent->type() == QEvent::HideToParent)
@@ -175,16 +208,82 @@ QDockWidget* PaneLayout::FindWidget(const std::wstring& name) const
 }
 
 /// Names the panes, by which the toolkit tells them apart, and listens to them. One that has left
-/// the manager is nobody's any more.
+/// the manager is nobody's any more; those that never were the manager's keep the names they have.
 void PaneLayout::Prepare()
 {
-    for (QDockWidget* pWidget : m_window.findChildren<QDockWidget*>())
+    const std::vector<Pane> panes = FindPanes();
+    for (const QPointer<QDockWidget>& pWidget : std::exchange(m_named, {}))
+    {
+        const auto isIt = [&pWidget](const Pane& pane) { return pane.pWidget == pWidget; };
+        if (pWidget == nullptr || std::any_of(panes.begin(), panes.end(), isIt))
+            continue;
         pWidget->setObjectName(QString());
-    for (const Pane& pane : FindPanes())
+        pWidget->removeEventFilter(this);
+        pWidget->disconnect(this);
+    }
+    for (const Pane& pane : panes)
     {
         pane.pWidget->setObjectName(ToQString(pane.pDock->GetName()));
         pane.pWidget->installEventFilter(this);
+        connect(pane.pWidget, &QDockWidget::topLevelChanged, this, &PaneLayout::OnFloated,
+                Qt::UniqueConnection);
+        KeepUsable(*pane.pWidget);
+        m_named.emplace_back(pane.pWidget);
     }
+}
+
+void PaneLayout::WatchScreen(QScreen* pScreen)
+{
+    const auto check = [this] { m_reachCheck.start(0); };
+    connect(pScreen, &QScreen::geometryChanged, this, check);
+    connect(pScreen, &QScreen::availableGeometryChanged, this, check);
+    check();
+}
+
+/// A pane that leaves its area has the size that it had there, as wide or as high as the window.
+void PaneLayout::OnFloated(bool isFloating)
+{
+    auto* pPane = qobject_cast<QDockWidget*>(sender());
+    if (pPane == nullptr)
+        return;
+    m_floating.remove(pPane->objectName());
+    if (!isFloating || m_isApplying)
+        return;
+    // Dragged, it is held by a point of its title that must not move away from the cursor.
+    if (IsDragged(*pPane))
+        m_pDragged = pPane;
+    else
+        Float(*pPane);
+}
+
+/// Gives a pane that has left its area the size at which it floated last, the first time one that
+/// is not the whole window's.
+void PaneLayout::Float(QDockWidget& pane)
+{
+    const QSize first = pane.size().boundedTo(GreatestAtFirst).expandedTo(pane.minimumSizeHint());
+    pane.resize(m_floatingSizes.value(pane.objectName(), first));
+    m_floating.insert(pane.objectName());
+    NoteSize(pane);
+}
+
+/// Gives a pane that the user has dragged out of its area its size, and leaves it under the cursor.
+void PaneLayout::EndDrag()
+{
+    QDockWidget* pPane = m_pDragged;
+    m_pDragged.clear();
+    if (pPane == nullptr || !pPane->isFloating())
+        return;
+    const int held = QCursor::pos().x() - pPane->x();
+    const int widthBefore = std::max(1, pPane->width());
+    Float(*pPane);
+    pPane->move(pPane->x() + held - held * pPane->width() / widthBefore, pPane->y());
+}
+
+/// Remembers the size of a pane that floats.
+void PaneLayout::NoteSize(const QDockWidget& pane)
+{
+    if (m_floating.contains(pane.objectName()) && pane.isFloating())
+        m_floatingSizes[pane.objectName()] = pane.size();
 }
 
 bool PaneLayout::Apply(const QByteArray& layout)
@@ -201,6 +300,12 @@ bool PaneLayout::Apply(const QByteArray& layout)
     PlaceLost();
     PlaceFloating(places);
     BringFloatingIntoReach();
+    for (const Pane& pane : FindPanes())
+    {
+        if (pane.pDock->IsFloating())
+            m_floating.insert(pane.pWidget->objectName());
+        NoteSize(*pane.pWidget);
+    }
     return true;
 }
 

@@ -7,13 +7,17 @@
 #include <QList>
 #include <QMap>
 #include <QObject>
+#include <QPointer>
 #include <QRect>
+#include <QSet>
+#include <QTimer>
 
 #include <string>
 #include <vector>
 
 class QDockWidget;
 class QMainWindow;
+class QScreen;
 
 namespace vesk
 {
@@ -31,7 +35,8 @@ struct PanePlace
 ///
 /// Panes are matched by name. A pane that was hidden or floated stays so; one that a saved layout
 /// does not know goes to its factory place; places of unknown panes are kept for the next save. A
-/// floating pane is always where its user can get hold of it.
+/// floating pane is always where its user can get hold of it, also after a screen has shrunk or
+/// gone, and floats at a size of its own. A docked pane stays wide and high enough to be of use.
 class VESK_HOST_UI_API PaneLayout final : public QObject
 {
     Q_OBJECT
@@ -59,7 +64,8 @@ public:
 
     bool IsAllHidden() const { return !m_beforeHiding.isEmpty(); }
 
-    /// Brings floating panes back that no screen shows any more.
+    /// Brings floating panes back of which a user cannot get hold: 64 pixels of the title's width
+    /// in all its height and the close button have to be on a screen.
     void BringFloatingIntoReach();
 
 signals:
@@ -79,6 +85,11 @@ private:
     std::vector<Pane> FindPanes() const;
     QDockWidget* FindWidget(const std::wstring& name) const;
     void Prepare();
+    void WatchScreen(QScreen* pScreen);
+    void OnFloated(bool isFloating);
+    void Float(QDockWidget& pane);
+    void EndDrag();
+    void NoteSize(const QDockWidget& pane);
     bool Apply(const QByteArray& layout);
     void PlaceFloating(QMap<QString, QRect> places);
     void ShareOut(DockArea area, const QList<QDockWidget*>& panes);
@@ -94,6 +105,17 @@ private:
     /// Where panes floated that a layout named and nobody has added.
     QMap<QString, QRect> m_unknownPlaces;
     bool m_isApplying = false;
+
+    /// The panes that have been named here.
+    std::vector<QPointer<QDockWidget>> m_named;
+
+    /// At which size each pane floated last, and which do so now, by name.
+    QMap<QString, QSize> m_floatingSizes;
+    QSet<QString> m_floating;
+
+    /// The pane that is being dragged out of its area.
+    QPointer<QDockWidget> m_pDragged;
+    QTimer m_reachCheck;
 };
 
 }

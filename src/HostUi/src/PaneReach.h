@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QRect>
+
+class QDockWidget;
+
+namespace vesk
+{
+
+/// True when the user can get hold of a floating pane: enough of the title's width in all its
+/// height is on a screen, and so is the close button where there is one.
+bool IsInReach(const QDockWidget& pane);
+
+/// Where a floating pane is wholly on the screen that it is on, or nearest to: its frame, made
+/// smaller where the screen is.
+QRect PlaceInReach(const QDockWidget& pane);
+
+}

@@ -1,0 +1,297 @@
+#include "HostUi/PaneLayout.h"
+
+#include "HostUi/PaneRun.h"
+
+#include <QtTest>
+
+namespace vesk::test
+{
+
+/// Where floating panes stand, and at which size: so that their user can get hold of them.
+class PaneReachTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aFloatingPaneComesIntoReach_data();
+    void aFloatingPaneComesIntoReach();
+    void aFloatingPaneLargerThanTheScreenIsMadeSmaller();
+    void aFloatingPaneComesNoFurtherThanItHasTo();
+    void aPaneWithoutATitleComesIntoReach();
+    void aChangeOfTheScreensBringsFloatingPanesIntoReach_data();
+    void aChangeOfTheScreensBringsFloatingPanesIntoReach();
+    void aPaneInReachStaysWhenTheScreensChange();
+    void aPaneFloatsAtASizeOfItsOwn_data();
+    void aPaneFloatsAtASizeOfItsOwn();
+    void aPaneFloatsAgainAtItsLastSize();
+    void aRestoredPaneFloatsAgainAtItsLastSize();
+    void aDraggedPaneGetsItsSizeWhenItIsLetGo();
+    void aPaneThatReachesBeyondTheScreenStaysWhereItIs_data();
+    void aPaneThatReachesBeyondTheScreenStaysWhereItIs();
+};
+
+/// A run with one floating pane in that place.
+struct FloatingRun : Run
+{
+    explicit FloatingRun(const QRect& place)
+    {
+        Pane("D")->setFloating(true);
+        Pane("D")->setGeometry(place);
+        Settle();
+    }
+};
+
+static QRect ScreenRect()
+{
+    return QGuiApplication::primaryScreen()->availableGeometry();
+}
+
+/// The ways in which the window system tells that screens have changed.
+enum class ScreenSignal
+{
+    Geometry,
+    AvailableGeometry,
+    Added,
+    Removed,
+};
+
+static void Tell(ScreenSignal signal)
+{
+    QScreen* pScreen = QGuiApplication::primaryScreen();
+    switch (signal)
+    {
+    case ScreenSignal::Geometry:
+        emit pScreen->geometryChanged(pScreen->geometry());
+        break;
+    case ScreenSignal::AvailableGeometry:
+        emit pScreen->availableGeometryChanged(pScreen->availableGeometry());
+        break;
+    case ScreenSignal::Added:
+        emit qApp->screenAdded(pScreen);
+        break;
+    case ScreenSignal::Removed:
+        emit qApp->screenRemoved(pScreen);
+        break;
+    }
+}
+
+/// A mouse of which the pane thinks that it is real.
+static void Mouse(QDockWidget* pPane, QEvent::Type type, QPoint global)
+{
+    const auto button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+    const auto buttons = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
+    QCursor::setPos(global);
+    QMouseEvent event(type, pPane->mapFromGlobal(global), global, button, buttons, Qt::NoModifier);
+    QCoreApplication::sendEvent(pPane, &event);
+}
+
+void PaneReachTest::aPaneThatReachesBeyondTheScreenStaysWhereItIs_data()
+{
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    QTest::addColumn<QRect>("place");
+
+    QTest::newRow("at the left") << QRect(-190, 50, 260, 180);
+    QTest::newRow("at the bottom") << QRect(50, screen.bottom() - 10, 260, 180);
+    QTest::newRow("at both") << QRect(-190, screen.bottom() - 10, 260, 180);
+}
+
+void PaneReachTest::aPaneThatReachesBeyondTheScreenStaysWhereItIs()
+{
+    Run run;
+    run.Arrange();
+    QFETCH(QRect, place);
+    run.Pane("D")->setGeometry(place);
+    const QByteArray saved = run.pLayout->Save();
+
+    run.pLayout->ToggleAllHidden();
+    run.pLayout->ToggleAllHidden();
+    QCOMPARE(run.Pane("D")->geometry(), place);
+
+    Run next;
+    QVERIFY(next.pLayout->Restore(saved));
+    QCOMPARE(next.Pane("D")->geometry(), place);
+}
+
+void PaneReachTest::aFloatingPaneComesIntoReach_data()
+{
+    QTest::addColumn<QRect>("place");
+
+    QTest::newRow("far right") << QRect(5000, 100, 200, 150);
+    QTest::newRow("far left") << QRect(-5000, 100, 200, 150);
+    QTest::newRow("below") << QRect(100, 9000, 200, 150);
+    QTest::newRow("a sliver at the left") << QRect(-190, 100, 200, 150);
+    QTest::newRow("a sliver at the top") << QRect(100, -130, 200, 150);
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    QTest::newRow("only the title above") << QRect(100, 0, 200, 150);
+    QTest::newRow("a slab without its title") << QRect(100, -66, 200, 150);
+    QTest::newRow("only the close button beyond") << QRect(screen.right() - 198, 100, 200, 150);
+    QTest::newRow("half of it beyond the right") << QRect(screen.right() - 100, 100, 200, 150);
+    QTest::newRow("63 pixels of the title") << QRect(-138, 100, 200, 150);
+    QTest::newRow("the title below") << QRect(100, screen.bottom() + 2, 200, 150);
+}
+
+void PaneReachTest::aFloatingPaneComesIntoReach()
+{
+    QFETCH(QRect, place);
+    QByteArray saved;
+    {
+        Run run;
+        run.Pane("D")->setFloating(true);
+        run.Pane("D")->setGeometry(place);
+        saved = run.pLayout->Save();
+    }
+
+    Run next;
+    QVERIFY(next.pLayout->Restore(saved));
+
+    QVERIFY(next.Pane("D")->isFloating());
+    QVERIFY(IsPlaced(next, next.Pane("D")));
+}
+
+void PaneReachTest::aFloatingPaneLargerThanTheScreenIsMadeSmaller()
+{
+    FloatingRun run(QRect(QPoint(-200, -200), ScreenRect().size() * 2));
+
+    run.pLayout->BringFloatingIntoReach();
+
+    QCOMPARE(run.Pane("D")->frameGeometry(), ScreenRect());
+}
+
+void PaneReachTest::aFloatingPaneComesNoFurtherThanItHasTo()
+{
+    FloatingRun run(QRect(5000, 100, 200, 150));
+
+    run.pLayout->BringFloatingIntoReach();
+
+    QCOMPARE(run.Pane("D")->frameGeometry().right(), ScreenRect().right());
+    QCOMPARE(run.Pane("D")->geometry().top(), 100);
+    QCOMPARE(run.Pane("D")->size(), QSize(200, 150));
+}
+
+void PaneReachTest::aPaneWithoutATitleComesIntoReach()
+{
+    FloatingRun run(QRect(100, 100, 200, 150));
+    QDockWidget* pPane = run.Pane("D");
+    run.manager.RemoveDockTitleBar(L"D");
+    pPane->setFloating(false);
+    pPane->setFloating(true);
+    QVERIFY(pPane->windowFlags().testFlag(Qt::FramelessWindowHint));
+    pPane->setGeometry(100, -10, 200, 150);
+
+    run.pLayout->BringFloatingIntoReach();
+    QCOMPARE(pPane->frameGeometry().top(), 0);
+
+    pPane->setGeometry(-130, 40, 200, 150);
+    run.pLayout->BringFloatingIntoReach();
+    QCOMPARE(pPane->geometry(), QRect(-130, 40, 200, 150));
+}
+
+void PaneReachTest::aChangeOfTheScreensBringsFloatingPanesIntoReach_data()
+{
+    QTest::addColumn<int>("signal");
+    QTest::newRow("geometry") << int(ScreenSignal::Geometry);
+    QTest::newRow("available geometry") << int(ScreenSignal::AvailableGeometry);
+    QTest::newRow("added") << int(ScreenSignal::Added);
+    QTest::newRow("removed") << int(ScreenSignal::Removed);
+}
+
+void PaneReachTest::aChangeOfTheScreensBringsFloatingPanesIntoReach()
+{
+    QFETCH(int, signal);
+    FloatingRun run(QRect(5000, 100, 200, 150));
+    QVERIFY(!IsPlaced(run, run.Pane("D")));
+
+    Tell(static_cast<ScreenSignal>(signal));
+
+    QTRY_VERIFY(IsPlaced(run, run.Pane("D")));
+}
+
+void PaneReachTest::aPaneInReachStaysWhenTheScreensChange()
+{
+    FloatingRun run(QRect(-190, 100, 260, 150));
+    const QRect place = run.Pane("D")->geometry();
+
+    Tell(ScreenSignal::Geometry);
+    QTest::qWait(0);
+
+    QCOMPARE(run.Pane("D")->geometry(), place);
+}
+
+void PaneReachTest::aPaneFloatsAtASizeOfItsOwn_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("from the bottom") << "F";
+    QTest::newRow("from a side") << "D";
+}
+
+void PaneReachTest::aPaneFloatsAtASizeOfItsOwn()
+{
+    QFETCH(QString, name);
+    Run run;
+    run.window.resize(1600, 1200);
+    run.Pane("E")->hide();
+    Run::Settle();
+    const QSize docked = run.Pane(name)->size();
+    QVERIFY(docked.width() > 480 || docked.height() > 360);
+
+    run.Pane(name)->setFloating(true);
+
+    QCOMPARE(run.Pane(name)->size(), docked.boundedTo(QSize(480, 360)));
+}
+
+void PaneReachTest::aPaneFloatsAgainAtItsLastSize()
+{
+    Run run;
+    QDockWidget* pPane = run.Pane("F");
+    pPane->setFloating(true);
+    pPane->resize(700, 210);
+    Run::Settle();
+    pPane->setFloating(false);
+    Run::Settle();
+    QCOMPARE(pPane->width(), run.window.width());
+
+    pPane->setFloating(true);
+
+    QCOMPARE(pPane->size(), QSize(700, 210));
+}
+
+void PaneReachTest::aRestoredPaneFloatsAgainAtItsLastSize()
+{
+    FloatingRun run(QRect(50, 60, 610, 220));
+    const QByteArray saved = run.pLayout->Save();
+    Run next;
+    QVERIFY(next.pLayout->Restore(saved));
+    Run::Settle();
+    next.Pane("D")->setFloating(false);
+    Run::Settle();
+
+    next.Pane("D")->setFloating(true);
+
+    QCOMPARE(next.Pane("D")->size(), QSize(610, 220));
+}
+
+void PaneReachTest::aDraggedPaneGetsItsSizeWhenItIsLetGo()
+{
+    Run run;
+    QDockWidget* pPane = run.Pane("F");
+    const int width = pPane->width();
+    const QPoint held = pPane->mapToGlobal(QPoint(width * 3 / 4, 8));
+
+    Mouse(pPane, QEvent::MouseButtonPress, held);
+    Mouse(pPane, QEvent::MouseMove, held - QPoint(0, 60));
+    Mouse(pPane, QEvent::MouseMove, held - QPoint(0, 200));
+    QVERIFY(pPane->isFloating());
+    QCOMPARE(pPane->width(), width);
+    Mouse(pPane, QEvent::MouseMove, held - QPoint(0, 350));
+    Mouse(pPane, QEvent::MouseButtonRelease, held - QPoint(0, 350));
+    Run::Settle();
+
+    QVERIFY(pPane->isFloating());
+    QTRY_COMPARE(pPane->width(), 480);
+    const int grip = held.x() - pPane->x();
+    QVERIFY2(qAbs(grip - 480 * 3 / 4) < 4, qPrintable(QString::number(grip)));
+}
+}
+
+QTEST_MAIN(vesk::test::PaneReachTest)
+#include "PaneReachTest.moc"
