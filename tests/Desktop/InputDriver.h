@@ -8,7 +8,8 @@
 namespace vesk
 {
 
-/// A hand on the keyboard and the mouse of a display: real X events, to whatever has the focus.
+/// A hand on the keyboard, the mouse and the screen of a display: real X events, to whatever has
+/// the focus.
 class InputDriver
 {
 public:
@@ -49,6 +50,9 @@ public:
 
     /// Asks the window manager to close the window that was mapped first, as Alt+F4 does.
     bool CloseMainWindow() const;
+
+    /// Gives the only screen another size, which is not larger than the first one.
+    bool ResizeScreen(QSize size) const;
 
     /// Saves a picture of the whole screen.
     bool TakePicture(const QString& file) const;

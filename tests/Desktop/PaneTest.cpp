@@ -64,6 +64,8 @@ class PaneTest : public DesktopTest
 private slots:
     void theViewHasRoomBesideThePanes();
     void arrangedPanesComeBackInTheNextRun();
+    void aPaneDraggedOutOfTheBottomFloatsAtASizeOfItsOwn();
+    void aFloatingPaneComesIntoReachWhenTheScreenShrinks();
     void allAreHiddenAndComeBackAsTheyWere();
     void theFactoryLayoutComesBack();
     void thePanesFollowTheDrawing();
@@ -191,6 +193,54 @@ void PaneTest::arrangedPanesComeBackInTheNextRun()
     const QJsonArray before = Layout();
     QVERIFY(Restart());
     CompareLayouts(Layout(), before);
+}
+
+void PaneTest::aPaneDraggedOutOfTheBottomFloatsAtASizeOfItsOwn()
+{
+    const QRect docked = RectOf(Pane(s_journal));
+    const QPoint held(docked.left() + docked.width() * 3 / 4, docked.top() + 9);
+
+    QVERIFY(Session().Input().Drag(held, QPoint(held.x(), 420)));
+    QVERIFY(WaitForPane(s_journal, "floating", true));
+
+    QVERIFY(Session().WaitFor(
+        [](const UiTree& tree) { return RectOf(FindPane(tree, s_journal)).width() == 480; }));
+    const QRect floating = RectOf(Pane(s_journal));
+    QVERIFY(floating.contains(QPoint(held.x(), 420)));
+    QCOMPARE(floating.height(), docked.height());
+}
+
+/// A smaller screen for the time in which it lives.
+struct SmallScreen
+{
+    SmallScreen(const InputDriver& hand, QSize size) : input(hand), isSet(hand.ResizeScreen(size))
+    {}
+    ~SmallScreen() { input.ResizeScreen(QSize(1400, 1000)); }
+    SmallScreen(const SmallScreen&) = delete;
+    SmallScreen& operator=(const SmallScreen&) = delete;
+
+    const InputDriver& input;
+    const bool isSet;
+};
+
+void PaneTest::aFloatingPaneComesIntoReachWhenTheScreenShrinks()
+{
+    const QRect docked = RectOf(Pane(s_journal));
+    QVERIFY(Session().Input().Drag(QPoint(docked.right() - 120, docked.top() + 9),
+                                   QPoint(docked.right() - 300, 600)));
+    QVERIFY(Session().WaitFor(
+        [](const UiTree& tree) { return RectOf(FindPane(tree, s_journal)).width() == 480; }));
+    QVERIFY(RectOf(Pane(s_journal)).right() > 800);
+
+    const SmallScreen screen(Session().Input(), QSize(800, 600));
+    QVERIFY(screen.isSet);
+
+    QVERIFY(Session().WaitFor([](const UiTree& tree) {
+        return QRect(0, 0, 800, 600).contains(RectOf(FindPane(tree, s_journal)));
+    }));
+    QVERIFY(Pane(s_journal)["floating"].toBool());
+    QVERIFY(ClickTitle(s_journal, 9));
+    QVERIFY(WaitForPane(s_journal, "visible", false));
 }
 
 void PaneTest::allAreHiddenAndComeBackAsTheyWere()
