@@ -2,7 +2,7 @@
 
 #include "HostUi/PaneRun.h"
 
-#include <QtTest>
+#include "Support/TestValues.h"
 
 namespace vesk::test
 {

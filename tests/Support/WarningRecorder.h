@@ -21,7 +21,8 @@ public:
 
     void OnDebugWarning(const DebugWarning& warning) override;
 
-    /// Takes the oldest warning not taken yet if it says exactly this in the name of `function`.
+    /// Takes the oldest warning not taken yet if it says exactly this in the name of `function`,
+    /// and tells a source file, a line, a person and a day as its place.
     bool Take(const std::wstring& message, const std::string& function);
 
     /// The oldest warning not taken yet, which is thereby taken; an empty one when there is none.

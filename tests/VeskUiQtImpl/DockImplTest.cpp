@@ -4,6 +4,7 @@
 #include "Foundation/NqStyleSheetHelper.h"
 #include "Support/TestValues.h"
 
+#include <QLineEdit>
 #include <QPointer>
 
 #include <type_traits>
@@ -40,6 +41,15 @@ private slots:
     void raisingBringsATabToTheFront();
     void floatsAndComesBack();
     void floatsAlsoWhenItIsHidden();
+    void showingDoesNotRaise();
+    void showingDoesNotTouchTheOthers();
+    void raisingDoesNotShow();
+    void raisingTakesNoFocus();
+    void hidingLeavesTheRest();
+    void movingDoesNotResize();
+    void aTitleChangesNothingElse();
+    void contentThatIsTakenBackStaysShown();
+    void isLeftAsQtMakesIt();
     void itsOwnerDeletesTheWholeDock();
 };
 
@@ -308,6 +318,143 @@ void DockImplTest::floatsAlsoWhenItIsHidden()
     pDock->Hide();
 
     QVERIFY(pDock->IsFloating());
+}
+
+/// Two panes in one place, the second in front.
+struct TabbedDocks : DockFixture
+{
+    TabbedDocks()
+    {
+        manager.TabifyDock(pFirst, pSecond);
+        window.show();
+    }
+
+    bool IsInFront(IDock* pDock) const { return !WidgetOf(pDock)->visibleRegion().isEmpty(); }
+
+    IDock* pFirst = Add(L"first");
+    IDock* pSecond = Add(L"second");
+};
+
+void DockImplTest::showingDoesNotRaise()
+{
+    TabbedDocks f;
+    QTRY_VERIFY(f.IsInFront(f.pSecond));
+
+    f.pFirst->Show();
+    QCoreApplication::processEvents();
+
+    QVERIFY(f.IsInFront(f.pSecond));
+    QVERIFY(!f.IsInFront(f.pFirst));
+}
+
+void DockImplTest::showingDoesNotTouchTheOthers()
+{
+    DockFixture f;
+    IDock* pHidden = f.Add(L"hidden");
+    IDock* pShown = f.Add(L"shown");
+    pHidden->Hide();
+    pShown->Hide();
+
+    pShown->Show();
+
+    QVERIFY(pHidden->IsHidden());
+    QVERIFY(!f.window.isVisible());
+    QVERIFY(!pShown->IsFloating());
+}
+
+void DockImplTest::raisingDoesNotShow()
+{
+    DockFixture f;
+    f.window.show();
+    IDock* pDock = f.Add(L"name");
+    pDock->Hide();
+
+    pDock->Raise();
+    QCoreApplication::processEvents();
+
+    QVERIFY(pDock->IsHidden());
+}
+
+void DockImplTest::raisingTakesNoFocus()
+{
+    DockFixture f;
+    auto* pCentre = new QLineEdit;
+    f.window.setCentralWidget(pCentre);
+    auto opContent = MakeOwner<WidgetContent>();
+    opContent->setFocusPolicy(Qt::StrongFocus);
+    IDock* pDock = f.Add(L"name");
+    pDock->SetWidget(std::move(opContent));
+    f.window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&f.window));
+    pCentre->setFocus();
+
+    pDock->Raise();
+    QCoreApplication::processEvents();
+
+    QVERIFY(pCentre->hasFocus());
+}
+
+void DockImplTest::hidingLeavesTheRest()
+{
+    TabbedDocks f;
+    f.pFirst->SetWidget(MakeOwner<WidgetContent>());
+    const IWidget* pContent = f.pFirst->GetWidget();
+
+    f.pFirst->Hide();
+
+    QVERIFY(!f.pSecond->IsHidden());
+    QCOMPARE(f.pFirst->GetWidget(), pContent);
+    QCOMPARE(WidgetOf(f.pFirst)->widget(), dynamic_cast<const QWidget*>(pContent));
+    QCOMPARE(f.manager.GetDock(L"first"), f.pFirst);
+    QCOMPARE(f.window.dockWidgetArea(WidgetOf(f.pFirst)), Qt::LeftDockWidgetArea);
+}
+
+void DockImplTest::movingDoesNotResize()
+{
+    NewDock f;
+    f.Widget().resize(210, 130);
+
+    f.opDock->Move(31, 17);
+
+    QCOMPARE(f.Widget().size(), QSize(210, 130));
+    QVERIFY(!f.opDock->IsFloating());
+}
+
+void DockImplTest::aTitleChangesNothingElse()
+{
+    NewDock f;
+
+    f.opDock->SetTitle(L"another");
+
+    QCOMPARE(f.Widget().objectName(), QString());
+    QCOMPARE(f.Widget().toolTip(), QString());
+    QCOMPARE(f.Widget().windowIconText(), QString());
+}
+
+void DockImplTest::contentThatIsTakenBackStaysShown()
+{
+    NewDock f;
+    f.opDock->SetWidget(MakeOwner<WidgetContent>());
+    QWidget* pShown = f.Widget().widget();
+
+    f.opDock->SetWidget(nullptr);
+
+    QCOMPARE(f.Widget().widget(), pShown);
+}
+
+void DockImplTest::isLeftAsQtMakesIt()
+{
+    NewDock f;
+    const QDockWidget plain;
+
+    QCOMPARE(f.Widget().objectName(), QString());
+    QCOMPARE(f.Widget().features(), plain.features());
+    QCOMPARE(f.Widget().allowedAreas(), plain.allowedAreas());
+    QVERIFY(f.Widget().titleBarWidget() == nullptr);
+    QCOMPARE(f.Widget().minimumSize(), plain.minimumSize());
+    QCOMPARE(f.Widget().focusPolicy(), plain.focusPolicy());
+    QCOMPARE(f.Widget().testAttribute(Qt::WA_DeleteOnClose), false);
+    QCOMPARE(f.Widget().font(), plain.font());
 }
 
 void DockImplTest::itsOwnerDeletesTheWholeDock()

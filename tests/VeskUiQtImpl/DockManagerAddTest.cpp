@@ -34,6 +34,11 @@ private slots:
     void deletedDocksStayHiddenChildrenOfTheWindow();
     void aNameIsFreeAfterDeletion();
     void thePropertyPanelCannotBeDeleted();
+    void theNameOfThePropertyPanelIsRefusedFirst();
+    void addingLeavesTheDockAsItIs();
+    void aDockAddedToAnotherWindowComesThere();
+    void aDeletedDockIsKnownUntilItIsOutOfTheWindow();
+    void deletingLeavesTheOthers();
     void unknownNamesAreDeletedSilently();
     void deletionReportsAWindowThatHoldsNoDocks();
     void deletionReportsADockThatIsNoWidget();
@@ -266,6 +271,113 @@ void DockManagerAddTest::thePropertyPanelCannotBeDeleted()
     QCOMPARE(f.manager.GetDock(IPropertyWidget::GetTypeName()), pPanel);
     QCOMPARE(f.window.dockWidgetArea(WidgetOf(pPanel)), Qt::LeftDockWidgetArea);
     QCOMPARE(f.CountWidgets(), std::size_t(1));
+}
+
+void DockManagerAddTest::theNameOfThePropertyPanelIsRefusedFirst()
+{
+    DockFixture f;
+    f.TakeWindow();
+
+    f.manager.DeleteDock(IPropertyWidget::GetTypeName());
+
+    EXPECT_WARNING(f.host.warnings, L"不能删除属性面板", "vesk::DockManagerImpl::DeleteDock");
+}
+
+void DockManagerAddTest::addingLeavesTheDockAsItIs()
+{
+    DockFixture f;
+    f.window.show();
+    OwnerPtr<IDock> opDock = f.manager.CreateDock(L"name", L"title");
+    QDockWidget* pWidget = WidgetOf(opDock.Get());
+    pWidget->setFeatures(QDockWidget::DockWidgetMovable);
+    opDock->Hide();
+
+    f.manager.AddDock(std::move(opDock), DockArea::Left, DockOrientation::Vertical);
+    QCoreApplication::processEvents();
+
+    QVERIFY(pWidget->isHidden());
+    QVERIFY(!pWidget->isFloating());
+    QCOMPARE(int(pWidget->features()), int(QDockWidget::DockWidgetMovable));
+    QCOMPARE(pWidget->allowedAreas(), Qt::DockWidgetAreas(Qt::AllDockWidgetAreas));
+    QCOMPARE(pWidget->windowTitle(), QString("title"));
+    QCOMPARE(pWidget->objectName(), QString());
+    QVERIFY(pWidget->titleBarWidget() == nullptr);
+    QVERIFY(pWidget->widget() == nullptr);
+}
+
+void DockManagerAddTest::aDockAddedToAnotherWindowComesThere()
+{
+    DockFixture f;
+    DockWindow second;
+    DockManagerImpl managerOfSecond(&second);
+
+    managerOfSecond.AddDock(managerOfSecond.CreateDock(L"name", L"title"), DockArea::Right,
+                            DockOrientation::Vertical);
+
+    QDockWidget* pWidget = WidgetOf(managerOfSecond.GetDock(L"name"));
+    QCOMPARE(pWidget->parentWidget(), static_cast<QWidget*>(&second));
+    QCOMPARE(second.dockWidgetArea(pWidget), Qt::RightDockWidgetArea);
+    QCOMPARE(f.window.dockWidgetArea(pWidget), Qt::NoDockWidgetArea);
+    delete pWidget;
+}
+
+/// Notes whether the manager knows a pane at the moment in which it is hidden.
+class HideWatch final : public QObject
+{
+public:
+    HideWatch(DockManagerImpl& manager, std::wstring name)
+        : m_manager(manager), m_name(std::move(name))
+    {}
+
+    bool eventFilter(QObject*, QEvent* pEvent) override
+    {
+        if (pEvent->type() == QEvent::HideToParent)
+        {
+            const IDock* pDock = m_manager.GetDock(m_name);
+            wasKnown =
+                pDock != nullptr && m_manager.TabifiedDocks(m_manager.GetDock(L"other")).empty();
+            hasHidden = true;
+        }
+        return false;
+    }
+
+    bool hasHidden = false;
+    bool wasKnown = false;
+
+private:
+    DockManagerImpl& m_manager;
+    std::wstring m_name;
+};
+
+void DockManagerAddTest::aDeletedDockIsKnownUntilItIsOutOfTheWindow()
+{
+    DockFixture f;
+    f.Add(L"other");
+    QDockWidget* pWidget = WidgetOf(f.Add(L"name"));
+    HideWatch watch(f.manager, L"name");
+    pWidget->installEventFilter(&watch);
+
+    f.manager.DeleteDock(L"name");
+
+    QVERIFY(watch.hasHidden);
+    QVERIFY(watch.wasKnown);
+    QVERIFY(f.manager.GetDock(L"name") == nullptr);
+}
+
+void DockManagerAddTest::deletingLeavesTheOthers()
+{
+    DockFixture f;
+    IDock* pHidden = f.Add(L"a");
+    IDock* pShown = f.Add(L"c", DockArea::Right);
+    f.Add(L"b");
+    pHidden->Hide();
+
+    f.manager.DeleteDock(L"b");
+
+    QVERIFY(pHidden->IsHidden());
+    QVERIFY(!pShown->IsHidden());
+    QCOMPARE(f.window.dockWidgetArea(WidgetOf(pShown)), Qt::RightDockWidgetArea);
+    QCOMPARE(f.CountDocks(), std::size_t(2));
 }
 
 void DockManagerAddTest::unknownNamesAreDeletedSilently()

@@ -27,6 +27,10 @@ private slots:
 
     void tabifiedDocksReportAWindowThatHoldsNoDocks();
     void tabifiedDocksReportADockThatIsNoWidget();
+    void tabifiedDocksReportNoDock();
+    void arrangingShowsAndHidesNothing_data();
+    void arrangingShowsAndHidesNothing();
+    void tabifyingHappensOnceAndInTheAreaOfTheFirst();
     void aDockThatIsNotTabbedHasNoPartners();
     void partnersComeInTheOrderOfTheTabs();
     void aPartnerOfSomebodyElseIsReportedAndLeftOut();
@@ -212,6 +216,67 @@ void DockManagerArrangementTest::tabifiedDocksReportADockThatIsNoWidget()
 
     EXPECT_WARNING(f.host.warnings, L"pQDockWidget是空指针",
                    "vesk::DockManagerImpl::TabifiedDocks");
+}
+
+void DockManagerArrangementTest::tabifiedDocksReportNoDock()
+{
+    DockFixture f;
+    f.Add(L"name");
+
+    QVERIFY(f.manager.TabifiedDocks(nullptr).empty());
+
+    EXPECT_WARNING(f.host.warnings, L"pQDockWidget是空指针",
+                   "vesk::DockManagerImpl::TabifiedDocks");
+}
+
+void DockManagerArrangementTest::arrangingShowsAndHidesNothing_data()
+{
+    QTest::addColumn<bool>("isSplit");
+    QTest::newRow("split") << true;
+    QTest::newRow("tabify") << false;
+}
+
+void DockManagerArrangementTest::arrangingShowsAndHidesNothing()
+{
+    QFETCH(bool, isSplit);
+    DockFixture f;
+    f.window.show();
+    IDock* pFirst = f.Add(L"first", DockArea::Left);
+    IDock* pSecond = f.Add(L"second", DockArea::Right);
+    IDock* pThird = f.Add(L"third", DockArea::Right);
+    pFirst->Show();
+    pSecond->Hide();
+    pThird->Show();
+    WidgetOf(pFirst)->setFeatures(QDockWidget::DockWidgetMovable);
+    WidgetOf(pSecond)->setFeatures(QDockWidget::DockWidgetMovable);
+
+    if (isSplit)
+        f.manager.SplitDock(pFirst, pSecond, DockOrientation::Horizontal);
+    else
+        f.manager.TabifyDock(pFirst, pSecond);
+    QCoreApplication::processEvents();
+
+    QVERIFY(!pFirst->IsHidden());
+    QVERIFY(pSecond->IsHidden());
+    QVERIFY(!pThird->IsHidden());
+    QVERIFY(!pFirst->IsFloating() && !pSecond->IsFloating() && !pThird->IsFloating());
+    QCOMPARE(f.window.dockWidgetArea(WidgetOf(pThird)), Qt::RightDockWidgetArea);
+    QCOMPARE(int(WidgetOf(pFirst)->features()), int(QDockWidget::DockWidgetMovable));
+    QCOMPARE(int(WidgetOf(pSecond)->features()), int(QDockWidget::DockWidgetMovable));
+    QCOMPARE(pSecond->GetTitle(), std::wstring(L"second"));
+}
+
+void DockManagerArrangementTest::tabifyingHappensOnceAndInTheAreaOfTheFirst()
+{
+    DockFixture f;
+    IDock* pFirst = f.Add(L"first", DockArea::Left);
+    IDock* pSecond = f.Add(L"second", DockArea::Right);
+    IDock* pThird = f.Add(L"third", DockArea::Left);
+
+    f.manager.TabifyDock(pFirst, pSecond);
+
+    QCOMPARE(f.manager.TabifiedDocks(pFirst), std::vector<IDock*>{pSecond});
+    QVERIFY(f.manager.TabifiedDocks(pThird).empty());
 }
 
 void DockManagerArrangementTest::aDockThatIsNotTabbedHasNoPartners()

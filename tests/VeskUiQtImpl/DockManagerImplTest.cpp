@@ -42,6 +42,7 @@ private slots:
     void onlyOneIsHorizontal();
 
     void createdDocksAreChildrenOfTheMainFrame();
+    void createdDocksAreNotChildrenOfAnotherManagersWindow();
     void createdDocksHaveNoParentWithoutAMainFrame();
     void createdDocksHaveNoParentWhenTheFrameHasNoWindow();
     void createdDocksAreInNoTable();
@@ -141,6 +142,17 @@ void DockManagerImplTest::createdDocksAreChildrenOfTheMainFrame()
     QCOMPARE(opDock->GetName(), std::wstring(L"name"));
     QCOMPARE(opDock->GetTitle(), std::wstring(L"title"));
     QCOMPARE(f.window.dockWidgetArea(WidgetOf(opDock.Get())), Qt::NoDockWidgetArea);
+}
+
+void DockManagerImplTest::createdDocksAreNotChildrenOfAnotherManagersWindow()
+{
+    const DockFixture f;
+    DockWindow second;
+    const DockManagerImpl managerOfSecond(&second);
+
+    const OwnerPtr<IDock> opDock = managerOfSecond.CreateDock(L"name", L"title");
+
+    QCOMPARE(WidgetOf(opDock.Get())->parentWidget(), static_cast<const QWidget*>(&f.window));
 }
 
 void DockManagerImplTest::createdDocksHaveNoParentWithoutAMainFrame()

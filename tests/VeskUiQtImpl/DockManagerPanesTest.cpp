@@ -23,14 +23,8 @@ private slots:
     void showingAllShowsWhatWasHiddenBefore();
     void hidingAllHidesWhatIsShown();
 
-    void askingForAFeatureRefuses_data();
-    void askingForAFeatureRefuses();
-    void dockableIsWhatHasExactlyThreeFeatures_data();
-    void dockableIsWhatHasExactlyThreeFeatures();
-    void dockableIsSwitchedOn();
-    void dockableIsSwitchedOff();
-    void aRemovedTitleBarLeavesAnEmptyWidgetAndNoFeature();
-    void anotherTitleBarMayBeRemovedAgain();
+    void showingAllRaisesNothing();
+    void hidingAllLeavesTheRest();
 
     void allComeInStepInTheOrderOfTheirNames();
     void hiddenDocksDoNotComeInStep();
@@ -169,133 +163,36 @@ void DockManagerPanesTest::hidingAllHidesWhatIsShown()
     QVERIFY(pSecond->IsHidden());
 }
 
-void DockManagerPanesTest::askingForAFeatureRefuses_data()
-{
-    QTest::addColumn<QString>("operation");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("message");
-    const QString noDock = QString::fromUtf8("pDock是空指针");
-    const QString noWidget = QString::fromUtf8("pQDock是空指针");
-    QTest::newRow("IsDockable, unknown") << "IsDockable"
-                                         << "unknown"
-                                         << "";
-    QTest::newRow("IsDockable, null") << "IsDockable"
-                                      << "null" << noDock;
-    QTest::newRow("IsDockable, no widget") << "IsDockable"
-                                           << "plain" << noWidget;
-    QTest::newRow("SetIsDockable, unknown") << "SetIsDockable"
-                                            << "unknown"
-                                            << "";
-    QTest::newRow("SetIsDockable, null") << "SetIsDockable"
-                                         << "null" << noDock;
-    QTest::newRow("SetIsDockable, no widget") << "SetIsDockable"
-                                              << "plain" << noWidget;
-    QTest::newRow("RemoveDockTitleBar, unknown") << "RemoveDockTitleBar"
-                                                 << "unknown"
-                                                 << "";
-    QTest::newRow("RemoveDockTitleBar, null") << "RemoveDockTitleBar"
-                                              << "null" << noDock;
-    QTest::newRow("RemoveDockTitleBar, no widget") << "RemoveDockTitleBar"
-                                                   << "plain" << noWidget;
-}
-
-void DockManagerPanesTest::askingForAFeatureRefuses()
-{
-    QFETCH(QString, operation);
-    QFETCH(QString, name);
-    QFETCH(QString, message);
-    DockFixture f;
-    QStringList notes;
-    PlainDock plain(L"plain", &notes);
-    f.Enter(L"null", nullptr);
-    f.Enter(L"plain", &plain);
-    const std::wstring wideName = name.toStdWString();
-
-    const bool result = operation == "IsDockable"      ? f.manager.IsDockable(wideName)
-                        : operation == "SetIsDockable" ? f.manager.SetIsDockable(wideName, true)
-                                                       : f.manager.RemoveDockTitleBar(wideName);
-
-    QVERIFY(!result);
-    if (!message.isEmpty())
-        EXPECT_WARNING(f.host.warnings, message.toStdWString(),
-                       "vesk::DockManagerImpl::" + operation.toStdString());
-}
-
-void DockManagerPanesTest::dockableIsWhatHasExactlyThreeFeatures_data()
-{
-    QTest::addColumn<int>("features");
-    QTest::addColumn<bool>("isDockable");
-    QTest::newRow("none") << 0 << false;
-    QTest::newRow("closable") << 1 << false;
-    QTest::newRow("closable and movable") << 3 << false;
-    QTest::newRow("closable and floatable") << 5 << false;
-    QTest::newRow("movable and floatable") << 6 << false;
-    QTest::newRow("all three") << 7 << true;
-    QTest::newRow("all three and a vertical title bar") << 15 << false;
-}
-
-void DockManagerPanesTest::dockableIsWhatHasExactlyThreeFeatures()
-{
-    QFETCH(int, features);
-    DockFixture f;
-    IDock* pDock = f.Add(L"name");
-
-    WidgetOf(pDock)->setFeatures(QDockWidget::DockWidgetFeatures(features));
-
-    QTEST(f.manager.IsDockable(L"name"), "isDockable");
-}
-
-void DockManagerPanesTest::dockableIsSwitchedOn()
+void DockManagerPanesTest::showingAllRaisesNothing()
 {
     DockFixture f;
-    IDock* pDock = f.Add(L"name");
-    WidgetOf(pDock)->setFeatures(QDockWidget::DockWidgetClosable |
-                                 QDockWidget::DockWidgetVerticalTitleBar);
+    IDock* pFirst = f.Add(L"a");
+    IDock* pSecond = f.Add(L"b");
+    f.manager.TabifyDock(pSecond, pFirst);
+    f.window.show();
+    QTRY_VERIFY(!WidgetOf(pFirst)->visibleRegion().isEmpty());
 
-    QVERIFY(f.manager.SetIsDockable(L"name", true));
+    f.manager.ShowAllDockPane();
+    QCoreApplication::processEvents();
 
-    QCOMPARE(int(WidgetOf(pDock)->features()), 7);
-    QVERIFY(f.manager.IsDockable(L"name"));
+    QVERIFY(!WidgetOf(pFirst)->visibleRegion().isEmpty());
+    QVERIFY(WidgetOf(pSecond)->visibleRegion().isEmpty());
 }
 
-void DockManagerPanesTest::dockableIsSwitchedOff()
+void DockManagerPanesTest::hidingAllLeavesTheRest()
 {
     DockFixture f;
-    IDock* pDock = f.Add(L"name");
+    IDock* pFloating = f.Add(L"a");
+    pFloating->SetFloating(true);
+    QDockWidget foreign(&f.window);
+    f.window.addDockWidget(Qt::LeftDockWidgetArea, &foreign);
 
-    QVERIFY(f.manager.SetIsDockable(L"name", false));
+    f.manager.HideAllDockPane();
 
-    QCOMPARE(int(WidgetOf(pDock)->features()), 0);
-    QVERIFY(!f.manager.IsDockable(L"name"));
-}
-
-void DockManagerPanesTest::aRemovedTitleBarLeavesAnEmptyWidgetAndNoFeature()
-{
-    DockFixture f;
-    IDock* pDock = f.Add(L"name");
-
-    QVERIFY(f.manager.RemoveDockTitleBar(L"name"));
-
-    const QWidget* pTitleBar = WidgetOf(pDock)->titleBarWidget();
-    QVERIFY(pTitleBar != nullptr);
-    QCOMPARE(pTitleBar->metaObject(), &QWidget::staticMetaObject);
-    QVERIFY(pTitleBar->children().isEmpty());
-    QCOMPARE(pTitleBar->parentWidget(), static_cast<QWidget*>(WidgetOf(pDock)));
-    QCOMPARE(int(WidgetOf(pDock)->features()), 0);
-    QVERIFY(!f.manager.IsDockable(L"name"));
-}
-
-void DockManagerPanesTest::anotherTitleBarMayBeRemovedAgain()
-{
-    DockFixture f;
-    QDockWidget* pWidget = WidgetOf(f.Add(L"name"));
-    f.manager.RemoveDockTitleBar(L"name");
-    const QWidget* pFirst = pWidget->titleBarWidget();
-
-    QVERIFY(f.manager.RemoveDockTitleBar(L"name"));
-
-    QVERIFY(pWidget->titleBarWidget() != nullptr);
-    QVERIFY(pWidget->titleBarWidget() != pFirst);
+    QVERIFY(pFloating->IsFloating());
+    QVERIFY(!foreign.isHidden());
+    QCOMPARE(f.CountDocks(), std::size_t(1));
+    f.window.removeDockWidget(&foreign);
 }
 
 void DockManagerPanesTest::allComeInStepInTheOrderOfTheirNames()

@@ -14,11 +14,15 @@
 #include "Control/QtLabel.h"
 #include "Control/QtLineEdit.h"
 #include "Control/QtRadioButtonGroup.h"
+#include "Control/VeskControlFactory.h"
 #include "Support/HostFixture.h"
+#include "Support/MemberAccess.h"
 #include "Support/TestValues.h"
 
 #include <QProgressBar>
 #include <QToolButton>
+
+#include <typeinfo>
 
 namespace vesk::test
 {
@@ -103,6 +107,7 @@ class VeskControlFactoryTest : public QObject
     Q_OBJECT
 
 private slots:
+    void operationsHaveTheirSlotsAndThereAreNoMembers();
     void makesAButton();
     void makesALabel();
     void makesALineEdit();
@@ -111,13 +116,28 @@ private slots:
     void makesAProgressBar();
     void makesARadioButtonGroupInItsParent();
     void makesACheckBoxGroupInItsParent();
+    void theControlIsDeletedAsAWhole_data();
     void theControlIsDeletedAsAWhole();
+    void everyCreationIsAnother();
     void theControlFreesItsDefinition();
     void missingDefinitionMakesABareControl_data();
     void missingDefinitionMakesABareControl();
     void groupsNeedAParentWindow_data();
     void groupsNeedAParentWindow();
 };
+
+void VeskControlFactoryTest::operationsHaveTheirSlotsAndThereAreNoMembers()
+{
+    QCOMPARE(SlotOf(&VeskIControlFactory::CreateQtButton), std::ptrdiff_t(2));
+    QCOMPARE(SlotOf(&VeskIControlFactory::CreateQtLineEdit), std::ptrdiff_t(3));
+    QCOMPARE(SlotOf(&VeskIControlFactory::CreateQtLabel), std::ptrdiff_t(4));
+    QCOMPARE(SlotOf(&VeskIControlFactory::CreateQtCommandButtonMenu), std::ptrdiff_t(5));
+    QCOMPARE(SlotOf(&VeskIControlFactory::CreateQtComboBox), std::ptrdiff_t(6));
+    QCOMPARE(SlotOf(&VeskIControlFactory::CreateQtProgressBar), std::ptrdiff_t(7));
+    QCOMPARE(SlotOf(&VeskIControlFactory::CreateQtRadioButtonGroup), std::ptrdiff_t(8));
+    QCOMPARE(SlotOf(&VeskIControlFactory::CreateQtCheckBoxGroup), std::ptrdiff_t(9));
+    QCOMPARE(sizeof(VeskControlFactory), sizeof(VeskIControlFactory));
+}
 
 void VeskControlFactoryTest::makesAButton()
 {
@@ -230,15 +250,34 @@ void VeskControlFactoryTest::makesACheckBoxGroupInItsParent()
     QCOMPARE(pGroup->parent(), &parent);
 }
 
+void VeskControlFactoryTest::theControlIsDeletedAsAWhole_data()
+{
+    missingDefinitionMakesABareControl_data();
+}
+
 void VeskControlFactoryTest::theControlIsDeletedAsAWhole()
 {
+    QFETCH(Creation, create);
     HostFixture host;
-    OwnerPtr<IControl> opControl = Factory().CreateQtLabel(MakeOwner<LabelDefinition>(L"id"));
-    const QPointer<QtLabel> pLabel(dynamic_cast<QtLabel*>(opControl.Get()));
+    QWidget parent;
+    OwnerPtr<IControl> opControl = create(parent.winId());
+    host.warnings.TakeAny();
+    const QPointer<QObject> pObject(dynamic_cast<QObject*>(opControl.Get()));
+    QVERIFY(pObject != nullptr);
 
     opControl.Reset();
 
-    QVERIFY(pLabel == nullptr);
+    QVERIFY(pObject == nullptr);
+}
+
+void VeskControlFactoryTest::everyCreationIsAnother()
+{
+    HostFixture host;
+
+    const OwnerPtr<IControl> opFirst = Factory().CreateQtLabel(MakeOwner<LabelDefinition>(L"id"));
+    const OwnerPtr<IControl> opSecond = Factory().CreateQtLabel(MakeOwner<LabelDefinition>(L"id"));
+
+    QVERIFY(opFirst.Get() != opSecond.Get());
 }
 
 void VeskControlFactoryTest::theControlFreesItsDefinition()
@@ -311,6 +350,12 @@ void VeskControlFactoryTest::missingDefinitionMakesABareControl()
     EXPECT_WARNING(host.warnings, message.toStdWString(), function.toStdString());
     QVERIFY(opControl != nullptr);
     QVERIFY(opControl->GetControlDefinition() == nullptr);
+    const auto* pObject = dynamic_cast<QObject*>(opControl.Get());
+    QVERIFY(pObject != nullptr);
+    const IControl& control = *opControl;
+    QVERIFY(QByteArray(typeid(control).name()).contains(QTest::currentDataTag()));
+    const bool isGroup = QByteArray(QTest::currentDataTag()).endsWith("Group");
+    QCOMPARE(pObject->parent(), isGroup ? static_cast<QObject*>(&parent) : nullptr);
 }
 
 void VeskControlFactoryTest::groupsNeedAParentWindow_data()
