@@ -1,8 +1,13 @@
 #include "HostUi/UiApplication.h"
 
+#include "Control/NqUiInterfaceFactory.h"
+#include "Foundation/DebugMessageMgr.h"
+#include "Foundation/IDebugWarningDisplayer.h"
 #include "Support/TestValues.h"
 
 #include <cstddef>
+#include <memory>
+#include <thread>
 
 namespace vesk
 {
@@ -25,6 +30,15 @@ private slots:
     void isInstalledWhileItLives();
     void namesTheMainWindow();
     void namesThePanes();
+
+    void functionsAreCalledFromTheEventLoopInOrder();
+    void aFunctionOfAnotherThreadIsCalledInThisOne();
+    void aFunctionThatWaitsDiesWithTheApplication();
+    void whatIsToBeDoneAtRestWaitsForTheTime();
+    void whatIsToBeDoneAtRestComesAfterWhatWaits();
+    void dialogsAreAllowedInTheThreadOfTheWindows();
+    void noDialogIsAllowedWhileAWidgetIsPainted();
+    void theWarningsKnowTheEventLoopWhileItLives();
 };
 
 void UiApplicationTest::isInstalledWhileItLives()
@@ -65,6 +79,160 @@ void UiApplicationTest::namesThePanes()
 
     application.SetDockManager(nullptr);
     QVERIFY(application.GetDockManager() == nullptr);
+}
+
+void UiApplicationTest::functionsAreCalledFromTheEventLoopInOrder()
+{
+    UiApplication application;
+    QString order;
+
+    application.Post([&order] { order += 'a'; });
+    application.Post([&order] { order += 'b'; });
+    QCOMPARE(order, QString());
+    QCoreApplication::sendPostedEvents();
+
+    QCOMPARE(order, QString("ab"));
+}
+
+void UiApplicationTest::aFunctionOfAnotherThreadIsCalledInThisOne()
+{
+    UiApplication application;
+    std::thread::id calledIn;
+
+    std::thread([&] {
+        application.Post([&calledIn] { calledIn = std::this_thread::get_id(); });
+    }).join();
+    QVERIFY(calledIn == std::thread::id());
+    QCoreApplication::sendPostedEvents();
+
+    QVERIFY(calledIn == std::this_thread::get_id());
+}
+
+void UiApplicationTest::aFunctionThatWaitsDiesWithTheApplication()
+{
+    bool isCalled = false;
+    {
+        UiApplication application;
+        application.Post([&isCalled] { isCalled = true; });
+        application.PostWhenIdle(std::chrono::milliseconds(0), [&isCalled] { isCalled = true; });
+    }
+
+    for (int round = 0; round < 5; ++round)
+        QCoreApplication::processEvents();
+
+    QVERIFY(!isCalled);
+}
+
+void UiApplicationTest::whatIsToBeDoneAtRestWaitsForTheTime()
+{
+    UiApplication application;
+    qint64 calledAfter = -1;
+    QElapsedTimer clock;
+    clock.start();
+
+    application.PostWhenIdle(std::chrono::milliseconds(120),
+                             [&] { calledAfter = clock.elapsed(); });
+    QCoreApplication::processEvents();
+    QVERIFY(calledAfter == -1 || calledAfter >= 114);
+
+    QTRY_VERIFY(calledAfter != -1);
+    // A coarse timer may be a twentieth early.
+    QVERIFY2(calledAfter >= 114, qPrintable(QString::number(calledAfter)));
+}
+
+void UiApplicationTest::whatIsToBeDoneAtRestComesAfterWhatWaits()
+{
+    UiApplication application;
+    QString order;
+
+    application.PostWhenIdle(std::chrono::milliseconds(0), [&order] { order += 'i'; });
+    QTimer::singleShot(0, this, [&order] { order += 't'; });
+    application.Post([&order] { order += 'p'; });
+    QTRY_COMPARE(order.size(), 3);
+
+    QVERIFY2(order.endsWith(QLatin1Char('i')), qPrintable(order));
+}
+
+void UiApplicationTest::dialogsAreAllowedInTheThreadOfTheWindows()
+{
+    const UiApplication application;
+    bool isAllowedElsewhere = true;
+
+    std::thread([&] { isAllowedElsewhere = application.IsDialogAllowed(); }).join();
+
+    QVERIFY(application.IsDialogAllowed());
+    QVERIFY(!isAllowedElsewhere);
+}
+
+/// Asks while it is painted whether a dialog is allowed.
+class Painted final : public QWidget
+{
+public:
+    explicit Painted(const UiApplication& application) : m_application(application) {}
+
+    QList<bool> answers;
+
+protected:
+    void paintEvent(QPaintEvent*) override { answers << m_application.IsDialogAllowed(); }
+
+private:
+    const UiApplication& m_application;
+};
+
+void UiApplicationTest::noDialogIsAllowedWhileAWidgetIsPainted()
+{
+    const UiApplication application;
+    Painted widget(application);
+
+    widget.grab();
+    QCOMPARE(widget.answers, QList<bool>{false});
+    QVERIFY(application.IsDialogAllowed());
+
+    auto pGone = std::make_unique<Painted>(application);
+    pGone->grab();
+    pGone.reset();
+    QVERIFY(application.IsDialogAllowed());
+}
+
+/// A dialog that notes that it was shown.
+class NotingFactory final : public NqUiInterfaceFactory
+{
+public:
+    NotingFactory() { m_pFactory = this; }
+
+    IPropertyWidget* GetPropertyWidget() override { return nullptr; }
+
+    OwnerPtr<IDebugWarningDialogDisplayer> CreateDebugWarningDialogDisplayer() override
+    {
+        ++createdCount;
+        return nullptr;
+    }
+
+    int createdCount = 0;
+};
+
+void UiApplicationTest::theWarningsKnowTheEventLoopWhileItLives()
+{
+    NotingFactory factory;
+    DebugMessageMgr& manager = *DebugMessageMgr::GetDebugMessageMgr();
+    manager.Reset();
+    manager.SetAttended(true);
+    const auto warn = [&manager](int line) {
+        manager.ShowDebugWarn("File.cpp", line, "vesk::F::G", L"message", L"vesk-ui",
+                              L"2026-11-21");
+    };
+    {
+        const UiApplication application;
+        std::thread([&] { warn(1); }).join();
+        QCOMPARE(factory.createdCount, 0);
+        QCoreApplication::sendPostedEvents();
+        QCOMPARE(factory.createdCount, 1);
+    }
+
+    std::thread([&] { warn(2); }).join();
+
+    QCOMPARE(factory.createdCount, 2);
+    manager.Reset();
 }
 
 }

@@ -142,6 +142,11 @@ private slots:
     void withoutDisplayerTheNextWarningAsksAgain();
     void theShownWarningIsKnownWhileItIsShown();
     void warningsRaisedMeanwhileAreCountedAndNotShown();
+    void warningsOfIgnoredPlacesAreCountedWhileOneIsShown();
+    void warningsOfIgnoredPlacesAreNotCountedWhileOneWaits();
+    void theCountGoesOnFromDialogToDialog();
+    void unattendedNothingIsCountedWhileOneIsShown();
+    void aPlaceIsAFileAndALine();
     void aPlaceThatIsIgnoredIsNotShownAgain();
     void anotherPlaceIsShown();
     void aPlaceIgnoredOnceRestsUntilTheEventLoopDoes();
@@ -230,6 +235,79 @@ void DebugWarningDisplayTest::warningsRaisedMeanwhileAreCountedAndNotShown()
     QCOMPARE(f.user.shownLines, Lines{1});
     QCOMPARE(suppressed, 4);
     QCOMPARE(Manager().GetUnshownCount(), 4);
+}
+
+void DebugWarningDisplayTest::warningsOfIgnoredPlacesAreCountedWhileOneIsShown()
+{
+    Fixture f;
+    f.user.answer = false;
+    Warn(7);
+    int suppressed = 0;
+    f.user.whileShown = [&suppressed] {
+        WarnTimes(2, 7);
+        suppressed = Manager().GetShownWarning()->suppressed;
+    };
+
+    Warn(8);
+
+    QCOMPARE(suppressed, 2);
+    QCOMPARE(Manager().GetUnshownCount(), 2);
+    QVERIFY(f.user.shownLines == (Lines{7, 8}));
+}
+
+void DebugWarningDisplayTest::warningsOfIgnoredPlacesAreNotCountedWhileOneWaits()
+{
+    Fixture f;
+    f.user.answer = false;
+    Warn(7);
+    f.scheduler.isAllowed = false;
+    Warn(8);
+
+    Warn(7);
+
+    QCOMPARE(Manager().GetUnshownCount(), 0);
+}
+
+void DebugWarningDisplayTest::theCountGoesOnFromDialogToDialog()
+{
+    Fixture f;
+    f.user.whileShown = [] { Warn(2); };
+    Warn(1);
+    int suppressed = 0;
+    f.user.whileShown = [&suppressed] {
+        Warn(4);
+        suppressed = Manager().GetShownWarning()->suppressed;
+    };
+
+    Warn(3);
+
+    QCOMPARE(suppressed, 1);
+    QCOMPARE(Manager().GetUnshownCount(), 2);
+}
+
+void DebugWarningDisplayTest::unattendedNothingIsCountedWhileOneIsShown()
+{
+    Fixture f;
+    const Application application;
+    f.user.whileShown = [] {
+        Manager().SetAttended(false);
+        Warn(2);
+    };
+
+    Warn(1);
+
+    QCOMPARE(Manager().GetUnshownCount(), 0);
+}
+
+void DebugWarningDisplayTest::aPlaceIsAFileAndALine()
+{
+    Fixture f;
+    f.user.answer = false;
+    Warn(7);
+
+    Manager().ShowDebugWarn("another.cpp", 7, "vesk::F::G", L"message", L"vesk-ui", L"2026-11-21");
+
+    QVERIFY(f.user.shownLines == (Lines{7, 7}));
 }
 
 void DebugWarningDisplayTest::aPlaceThatIsIgnoredIsNotShownAgain()
