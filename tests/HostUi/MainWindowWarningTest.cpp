@@ -3,8 +3,8 @@
 #include "Control/NqUiInterfaceFactory.h"
 #include "Foundation/DebugMessageMgr.h"
 #include "Foundation/IDebugWarningDisplayer.h"
-
 #include "Support/TestValues.h"
+
 #include <QLabel>
 #include <QTemporaryDir>
 
