@@ -83,6 +83,9 @@ Session::Session(const Options& options)
     LoadPublishConfig(SharedFile(QStringLiteral("publish.ini")));
     m_host.GetViewManager().AddView(&m_window.GetView());
     m_application.SetMainWindow(&m_window);
+    // Sizes of panes hold for the window's size, and a warning stands where the window will be.
+    if (m_options.task != Options::Task::Replay)
+        m_window.setWindowState(Qt::WindowMaximized);
     m_application.SetDockManager(m_pDocks.get());
     m_pPanes = std::make_unique<Panes>(m_workspace, m_window, *m_pDocks, m_controls, m_input);
     std::vector<CommandEntry> commands = MakeCommandTable(m_workspace, m_window.GetView(), m_input);
@@ -222,8 +225,6 @@ void Session::ObeyTerminationRequests()
 int Session::Draw()
 {
     ObeyTerminationRequests();
-    // Sizes of panes hold for the window's size.
-    m_window.setWindowState(Qt::WindowMaximized);
     RestoreLayout();
     if (!IsWritable(LayoutPath()))
         m_window.ShowState(QStringLiteral("layout"), QStringLiteral("面板布局不会保存"),
