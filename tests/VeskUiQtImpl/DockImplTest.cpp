@@ -403,6 +403,7 @@ void DockImplTest::hidingLeavesTheRest()
     f.pFirst->Hide();
 
     QVERIFY(!f.pSecond->IsHidden());
+    QVERIFY(!f.pFirst->IsFloating());
     QCOMPARE(f.pFirst->GetWidget(), pContent);
     QCOMPARE(WidgetOf(f.pFirst)->widget(), dynamic_cast<const QWidget*>(pContent));
     QCOMPARE(f.manager.GetDock(L"first"), f.pFirst);
