@@ -8,6 +8,7 @@
 
 #include "Control/LineEditDefinition.h"
 #include "Dimension/LengthUnit.h"
+#include "Dimension/TemporaryDimensionStyle.h"
 #include "HostUi/ControlHost.h"
 #include "HostUi/QtText.h"
 #include "HostUi/TypedText.h"
@@ -26,9 +27,6 @@ using namespace vesk;
 
 namespace
 {
-
-constexpr int LengthDecimals = 3;
-constexpr int AngleDecimals = 2;
 
 QLabel* MakeMessage()
 {
@@ -185,22 +183,21 @@ std::wstring PropertyPane::GetText(const ShapeProperty& property) const
     const std::optional<double> value = GetValue(property);
     if (!value.has_value())
         return {};
-    const double shown = property.isAngle ? *value : LengthUnit::GetCurrent().ToShown(*value);
-    return ToWide(QString::number(shown, 'f', property.isAngle ? AngleDecimals : LengthDecimals));
+    const TemporaryDimensionStyle style;
+    return property.isAngle ? style.FormatAngle(*value) : style.FormatLength(style.ToShown(*value));
 }
 
 void PropertyPane::Commit(Row& row, const std::wstring& text)
 {
     const bool isAngle = row.property.isAngle;
-    const LengthUnit& unit = LengthUnit::GetCurrent();
-    const TypedReading typed =
-        ReadTypedText(ToQString(text), isAngle ? Quantity::Angle : Quantity::Length, unit);
+    const TypedReading typed = ReadTypedText(
+        ToQString(text), isAngle ? Quantity::Angle : Quantity::Length, LengthUnit::GetCurrent());
     if (typed.fault != TypedTextFault::None)
     {
         Refuse(row, DescribeFault(typed.fault));
         return;
     }
-    const double value = isAngle ? typed.value : unit.ToModel(typed.value);
+    const double value = typed.modelValue;
     const EntityEdit edit{m_shownIds, row.property.name, value};
     if (!edit.IsPossible(m_workspace.sketch))
     {

@@ -378,11 +378,11 @@ void ActionExceptionTest::theTypedValueIsForgotten()
     f.AddInteractive("Line");
     f.scripts["Line"].onViewInput = [](const ActionViewInput&) { Throw(); };
     f.Choose("Line");
-    TemporaryDimensionMgr::GetInstance()->SetTypedValue({L"50", false});
+    TemporaryDimensionMgr::GetInstance()->SetTypedValue({L"50", false, std::nullopt});
 
     QVERIFY_EXCEPTION_THROWN(f.TypeValue(), std::runtime_error);
 
-    QCOMPARE(TemporaryDimensionMgr::GetInstance()->GetTypedValue().text, std::wstring());
+    QCOMPARE(TemporaryDimensionMgr::GetInstance()->TakeTypedValue().text, std::wstring());
 }
 
 }

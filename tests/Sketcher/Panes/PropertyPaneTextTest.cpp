@@ -69,6 +69,27 @@ private slots:
         QCOMPARE(f.Text(s_radius), QStringLiteral("2.500"));
     }
 
+    void aValueIsRoundedOnceInTheModel()
+    {
+        Fixture f;
+        LengthUnit::SetCurrent(LengthUnit::Inch());
+        f.Select({CircleId});
+
+        f.Enter(s_radius, "1.2");
+
+        QCOMPARE_EXACTLY(f.Radius(CircleId), 30.48);
+    }
+
+    void noValueIsANegativeZero()
+    {
+        Fixture f;
+        const int id = f.workspace.sketch.Add(CircleShape{{-0.0001, 0, 0}, 3});
+
+        f.Select({id});
+
+        QCOMPARE(f.Text("centre.x"), QStringLiteral("0.000"));
+    }
+
     void escapeGivesTheFormerTextBack()
     {
         Fixture f;
