@@ -10,6 +10,8 @@
 #include <QLineEdit>
 #include <QVBoxLayout>
 
+#include <vector>
+
 namespace vesk::test
 {
 
@@ -38,7 +40,7 @@ struct RibbonFocusFixture
         host.core.GetViewManager().SetCurrentView(pView);
         host.window.show();
         host.window.activateWindow();
-        if (!QTest::qWaitForWindowActive(&host.window))
+        if (!QTest::qWaitForWindowActive(&host.window, vesk::test::PatienceMs))
             qFatal("the window does not become active");
         pView->setFocus();
     }
@@ -55,7 +57,7 @@ struct RibbonFocusFixture
         pRibbon->layout()->addWidget(pControl);
         // A check box takes no clicks beside its text.
         pControl->setFixedSize(pControl->sizeHint());
-        if (!QTest::qWaitFor([pControl] { return pControl->isVisible(); }))
+        if (!QTest::qWaitFor([pControl] { return pControl->isVisible(); }, vesk::test::PatienceMs))
             qFatal("the control does not show");
         return pControl;
     }
@@ -63,8 +65,8 @@ struct RibbonFocusFixture
     void BeginAction()
     {
         auto opCommand = MakeOwner<Command>(
-            L"Test", Command::Kind::Interactive, [](IUiView*, const CommandParameters&) {
-                return OwnerPtr<IAction>(new DimensionAction(&MakeLinear));
+            L"Test", Command::Kind::Interactive, [this](IUiView*, const CommandParameters&) {
+                return OwnerPtr<IAction>(new DimensionAction(&MakeLinear, nullptr, freed));
             });
         Command* pCommand = opCommand.Get();
         ICommandManager::Get()->AddCommand(std::move(opCommand));
@@ -76,7 +78,7 @@ struct RibbonFocusFixture
         QTest::keyClick(pView, '5');
         auto* pEditor = pView->findChild<QLineEdit*>("Editor");
         pEditor->activateWindow();
-        if (!QTest::qWaitForWindowActive(pEditor))
+        if (!QTest::qWaitForWindowActive(pEditor, vesk::test::PatienceMs))
             qFatal("the editor does not become active");
         return pEditor;
     }
@@ -89,6 +91,7 @@ struct RibbonFocusFixture
     QCheckBox* pElsewhere = new QCheckBox(&host.window);
     TypingHandlerFactory factory{*pView, script};
     RibbonFocus focus{*pRibbon, *pView, input};
+    std::vector<InputState> freed;
 };
 
 }

@@ -214,7 +214,7 @@ private slots:
         f.BeginAction();
         QLineEdit* pEditor = f.OpenEditor();
         f.host.window.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&f.host.window));
+        QVERIFY(QTest::qWaitForWindowActive(&f.host.window, vesk::test::PatienceMs));
 
         QTest::mouseClick(pBox, button);
 
@@ -290,7 +290,7 @@ private slots:
         f.BeginAction();
         QLineEdit* pEditor = f.OpenEditor();
         f.host.window.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&f.host.window));
+        QVERIFY(QTest::qWaitForWindowActive(&f.host.window, vesk::test::PatienceMs));
 
         QTest::mousePress(pBox, Qt::LeftButton);
         f.pElsewhere->hide();
@@ -386,7 +386,7 @@ private slots:
         f.host.window.activateWindow();
         QTest::mouseClick(pField, Qt::LeftButton);
 
-        QVERIFY(QTest::qWaitForWindowActive(&f.host.window));
+        QVERIFY(QTest::qWaitForWindowActive(&f.host.window, vesk::test::PatienceMs));
         QTRY_COMPARE(QApplication::focusWidget(), static_cast<QWidget*>(pField));
     }
 

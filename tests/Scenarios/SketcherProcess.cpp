@@ -58,8 +58,7 @@ RunningSketcher::RunningSketcher(const QStringList& arguments, const QString& ui
     const auto isThere = [this, &uiTree] {
         return QFileInfo(uiTree).size() > 0 || m_process.state() == QProcess::NotRunning;
     };
-    constexpr int PatienceMs = 30000;
-    if (!QTest::qWaitFor(isThere, PatienceMs))
+    if (!QTest::qWaitFor(isThere, vesk::test::PatienceMs))
         QTest::qFail("the program does not come up", __FILE__, __LINE__);
 }
 

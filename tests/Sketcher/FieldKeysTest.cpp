@@ -35,7 +35,7 @@ struct Fixture
         pField->show();
         pWindow->show();
         pWindow->activateWindow();
-        if (!QTest::qWaitForWindowActive(pWindow.get()))
+        if (!QTest::qWaitForWindowActive(pWindow.get(), vesk::test::PatienceMs))
             qFatal("the window does not become active");
         pField->setFocus();
     }

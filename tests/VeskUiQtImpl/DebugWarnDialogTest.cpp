@@ -263,7 +263,7 @@ void DebugWarnDialogTest::returnAnswersWhereverTheFocusIs()
     DialogFixture f(isPublished);
     QSignalSpy finished(&f.dialog, &QDialog::finished);
     f.dialog.show();
-    QVERIFY(QTest::qWaitForWindowActive(&f.dialog));
+    QVERIFY(QTest::qWaitForWindowActive(&f.dialog, vesk::test::PatienceMs));
     QWidget& field = isBox ? static_cast<QWidget&>(f.Box(index)) : f.Line(index);
 
     field.setFocus(Qt::TabFocusReason);
@@ -289,7 +289,7 @@ void DebugWarnDialogTest::theFocusOfAButtonIsWhatReturnClicks()
     DialogFixture f;
     QSignalSpy finished(&f.dialog, &QDialog::finished);
     f.dialog.show();
-    QVERIFY(QTest::qWaitForWindowActive(&f.dialog));
+    QVERIFY(QTest::qWaitForWindowActive(&f.dialog, vesk::test::PatienceMs));
 
     f.Button(button).setFocus(Qt::TabFocusReason);
     QTest::keyClick(f.dialog.windowHandle(), Qt::Key_Return);
@@ -327,7 +327,7 @@ void DebugWarnDialogTest::theFocusIsSeenInATextBox()
     QFETCH(int, index);
     DialogFixture f;
     f.dialog.show();
-    QVERIFY(QTest::qWaitForWindowActive(&f.dialog));
+    QVERIFY(QTest::qWaitForWindowActive(&f.dialog, vesk::test::PatienceMs));
     QTextEdit& box = f.Box(index);
     const auto frame = [&box] { return box.grab().toImage().pixelColor(0, box.height() / 2); };
     const QColor before = frame();
@@ -342,7 +342,7 @@ void DebugWarnDialogTest::textBoxesAreReadWithTheKeyboard()
 {
     DialogFixture f;
     f.dialog.show();
-    QVERIFY(QTest::qWaitForWindowActive(&f.dialog));
+    QVERIFY(QTest::qWaitForWindowActive(&f.dialog, vesk::test::PatienceMs));
     f.Box(File).setFocus(Qt::TabFocusReason);
 
     QTest::keyClick(f.dialog.windowHandle(), Qt::Key_Right, Qt::ShiftModifier);

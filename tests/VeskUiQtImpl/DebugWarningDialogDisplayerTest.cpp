@@ -272,7 +272,7 @@ void DebugWarningDialogDisplayerTest::theDialogStandsOverAWindowThatStandsAnywhe
     host.application.SetMainWindow(&window);
     window.setGeometry(200, 150, 500, 400);
     window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(QTest::qWaitForWindowExposed(&window, vesk::test::PatienceMs));
 
     const QRect place = FindDialogsPlace();
 

@@ -385,7 +385,7 @@ void DockImplTest::raisingTakesNoFocus()
     IDock* pDock = f.Add(L"name");
     pDock->SetWidget(std::move(opContent));
     f.window.show();
-    QVERIFY(QTest::qWaitForWindowActive(&f.window));
+    QVERIFY(QTest::qWaitForWindowActive(&f.window, vesk::test::PatienceMs));
     pCentre->setFocus();
 
     pDock->Raise();

@@ -10,11 +10,11 @@
 #include "Control/VeskIControlFactory.h"
 #include "Support/HostFixture.h"
 
+#include "Support/TestValues.h"
 #include <QAbstractButton>
 #include <QMenu>
 #include <QToolButton>
 #include <QVBoxLayout>
-#include "Support/TestValues.h"
 
 #include <functional>
 #include <stdexcept>
@@ -83,7 +83,7 @@ using CheckBoxes = Fixture<CheckBoxGroupDefinition, QtCheckBoxGroup>;
 using RadioButtons = Fixture<RadioButtonGroupDefinition, QtRadioButtonGroup>;
 
 /// "a[b]c" for three items of which the second is current.
-QString Shown(const QComboBox& box)
+QString Displayed(const QComboBox& box)
 {
     QString shown;
     for (int i = 0; i < box.count(); ++i)
@@ -104,7 +104,7 @@ QString Defined(const IComboBoxDefinition& definition)
 }
 
 /// The same for a group, whose checked buttons stand in brackets.
-QString Shown(const QButtonGroup& group)
+QString Displayed(const QButtonGroup& group)
 {
     QString shown;
     for (const QAbstractButton* pButton : group.buttons())
@@ -179,7 +179,7 @@ void NestedChangesTest::comboBoxKeepsTheOrderOfItsItems()
 
     f.pDefinition->AddItem(L"b");
 
-    QCOMPARE(Shown(*f.opControl), QString("[a]bc"));
+    QCOMPARE(Displayed(*f.opControl), QString("[a]bc"));
     QCOMPARE(Defined(*f.pDefinition), QString("[a]bc"));
 }
 
@@ -197,7 +197,7 @@ void NestedChangesTest::comboBoxDropsWhatTheHostRefuses()
 
     f.pDefinition->InsertItem(1, L"a");
 
-    QCOMPARE(Shown(*f.opControl), QString("a[b]"));
+    QCOMPARE(Displayed(*f.opControl), QString("a[b]"));
     QCOMPARE(Defined(*f.pDefinition), QString("a[b]"));
 }
 
@@ -214,7 +214,7 @@ void NestedChangesTest::comboBoxShowsWhatTheHostRefills()
 
     f.pDefinition->ClearItems();
 
-    QCOMPARE(Shown(*f.opControl), QString("x[y]"));
+    QCOMPARE(Displayed(*f.opControl), QString("x[y]"));
     QCOMPARE(Defined(*f.pDefinition), QString("x[y]"));
 }
 
@@ -232,7 +232,7 @@ void NestedChangesTest::comboBoxWritesNoIndexOfAnOldList()
 
     f.pDefinition->DeleteItem(0);
 
-    QCOMPARE(Shown(*f.opControl), QString("[n]"));
+    QCOMPARE(Displayed(*f.opControl), QString("[n]"));
     QCOMPARE(Defined(*f.pDefinition), QString("[n]"));
 }
 
@@ -250,7 +250,7 @@ void NestedChangesTest::theUsersChoiceMayRefillTheBox()
 
     QTest::keyClick(f.opControl.Get(), Qt::Key_Down);
 
-    QCOMPARE(Shown(*f.opControl), QString("na[c]"));
+    QCOMPARE(Displayed(*f.opControl), QString("na[c]"));
     QCOMPARE(Defined(*f.pDefinition), QString("na[c]"));
 }
 
@@ -265,7 +265,7 @@ void NestedChangesTest::whatTheUserChoosesFromAnOldListIsNotTaken()
     f.pDefinition->DeleteItem(1);
 
     QCOMPARE(Defined(*f.pDefinition), QString("[a]c"));
-    QCOMPARE(Shown(*f.opControl), QString("[a]c"));
+    QCOMPARE(Displayed(*f.opControl), QString("[a]c"));
 }
 
 void NestedChangesTest::checkBoxesKeepTheirOrderAndStates()
@@ -282,7 +282,7 @@ void NestedChangesTest::checkBoxesKeepTheirOrderAndStates()
 
     f.pDefinition->AddCheckBox(MakeBox(L"a"));
 
-    QCOMPARE(Shown(*f.opControl), QString("[c][a]b"));
+    QCOMPARE(Displayed(*f.opControl), QString("[c][a]b"));
 }
 
 void NestedChangesTest::removedCheckBoxesAreGone()
@@ -298,7 +298,7 @@ void NestedChangesTest::removedCheckBoxesAreGone()
 
     f.pDefinition->AddCheckBox(MakeBox(L"b", 2));
 
-    QCOMPARE(Shown(*f.opControl), QString("[c]"));
+    QCOMPARE(Displayed(*f.opControl), QString("[c]"));
 }
 
 void NestedChangesTest::radioButtonsShowTheLastChoice()
@@ -315,7 +315,7 @@ void NestedChangesTest::radioButtonsShowTheLastChoice()
 
     f.pDefinition->AddRadioButton(MakeRadio(L"b"));
 
-    QCOMPARE(Shown(*f.opControl), QString("[c]b"));
+    QCOMPARE(Displayed(*f.opControl), QString("[c]b"));
     QCOMPARE(f.pDefinition->GetCurrentRadioButtonId() == L"c", true);
 }
 
@@ -349,7 +349,7 @@ void NestedChangesTest::statesAreTakenOverWhenABoxGoesMeanwhile()
 
     f.pDefinition->AddCheckBox(MakeBox(L"c"));
 
-    QCOMPARE(Shown(*f.opControl), QString("[b]c"));
+    QCOMPARE(Displayed(*f.opControl), QString("[b]c"));
 }
 
 void NestedChangesTest::menuKeepsTheOrderOfItsEntries()
@@ -426,9 +426,9 @@ void NestedChangesTest::aHostThatThrowsLeavesTheControlInStep()
 
     QVERIFY_EXCEPTION_THROWN(f.pDefinition->AddItem(L"a"), std::runtime_error);
 
-    QCOMPARE(Shown(*f.opControl), QString("a[b]"));
+    QCOMPARE(Displayed(*f.opControl), QString("a[b]"));
     f.pDefinition->InsertItem(0, L"c");
-    QCOMPARE(Shown(*f.opControl), QString("ca[b]"));
+    QCOMPARE(Displayed(*f.opControl), QString("ca[b]"));
 }
 
 void NestedChangesTest::aControlMadeWhileChangesWaitHearsThemOnce()
@@ -447,7 +447,7 @@ void NestedChangesTest::aControlMadeWhileChangesWaitHearsThemOnce()
 
     pDefinition->AddItem(L"a");
 
-    QCOMPARE(Shown(*opControl), QString("[a]bc"));
+    QCOMPARE(Displayed(*opControl), QString("[a]bc"));
 }
 
 }
