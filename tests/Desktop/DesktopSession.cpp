@@ -14,6 +14,9 @@ namespace
 /// So long nothing may move before a window counts as laid out.
 constexpr int REST_MS = 250;
 
+/// After so long nobody has heard of a key.
+constexpr int LOST_KEYS_MS = 10000;
+
 QString ProgramPath()
 {
     return QDir(QCoreApplication::applicationDirPath()).absoluteFilePath("../bin/sketcher");
@@ -54,6 +57,9 @@ int DesktopSession::Close()
 {
     if (m_program.state() == QProcess::NotRunning || !m_input.CloseMainWindow())
         return -1;
+    // A busy machine may lose the keys: they are pressed again while the window is there.
+    PollUntil(
+        [this] { return m_program.waitForFinished(LOST_KEYS_MS) || !m_input.CloseMainWindow(); });
     return WaitForExit();
 }
 
@@ -258,7 +264,8 @@ void DesktopSession::RunProgram(const QStringList& arguments,
 
 int DesktopSession::WaitForExit()
 {
-    const bool hasEnded = m_program.waitForFinished(PATIENCE_MS);
+    const bool hasEnded =
+        m_program.state() == QProcess::NotRunning || m_program.waitForFinished(PATIENCE_MS);
     m_errorOutput += m_program.readAllStandardError();
     if (!hasEnded)
     {
