@@ -31,6 +31,18 @@ OwnerPtr<ITemporaryDimensionContext> Create()
     return MakeOwner<Context>(TiltedPlane(), Point(numbers)...);
 }
 
+/// A segment in TiltedPlane().
+template <bool isLengthEnabled, bool isAngleEnabled>
+OwnerPtr<ITemporaryDimensionContext> CreateSegment()
+{
+    OwnerPtr<ITemporaryDimensionContext> opContext =
+        Create<LinearTemporaryDimensionContext, 0, 1>();
+    auto& context = static_cast<LinearTemporaryDimensionContext&>(*opContext);
+    context.SetLengthEnabled(isLengthEnabled);
+    context.SetAngleEnabled(isAngleEnabled);
+    return opContext;
+}
+
 /// A kind that has something generated, and what it has generated first or second.
 struct ExpectedCall
 {
@@ -51,6 +63,14 @@ constexpr auto TiltedRotation = &Create<RotationTemporaryDimensionContext, 0, 1,
 
 // clang-format off
 constexpr ExpectedCall Calls[]{
+    {"segment, the length", &CreateSegment<true, true>, InputState::IS_Angle,
+     2, 0, "length", 2, false},
+    {"segment, the angle", &CreateSegment<true, true>, InputState::IS_Length,
+     2, 1, "angle", 2, false},
+    {"segment, only the length", &CreateSegment<true, false>, InputState::IS_None,
+     1, 0, "length", 2, false},
+    {"segment, only the angle", &CreateSegment<false, true>, InputState::IS_None,
+     1, 0, "angle", 2, false},
     {"radius", TiltedRadius, InputState::IS_Radius,
      1, 0, "radius of 3 points", 3, false},
     {"central angle, the angle", TiltedCentralAngle, InputState::IS_CentralAngle,

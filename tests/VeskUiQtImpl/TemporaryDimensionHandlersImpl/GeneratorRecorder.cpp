@@ -83,6 +83,22 @@ OwnerPtr<IGraphicsLine> IGraphicsLine::Create(const Vector3d& start, const Vecto
     return MakeOwner<test::Line>(start, end, role);
 }
 
+Group TemporaryDimensionCommons::GenerateLengthDimension(const Vector3d& start, const Vector3d& end,
+                                                         const Coordinate3d& coordinate,
+                                                         InputState state, const Style& style,
+                                                         double pixel, Data& data)
+{
+    return test::Note("length", {start, end}, false, coordinate, state, style, pixel, data);
+}
+
+Group TemporaryDimensionCommons::GenerateAngleDimension(const Vector3d& start, const Vector3d& end,
+                                                        const Coordinate3d& coordinate,
+                                                        InputState state, const Style& style,
+                                                        double pixel, Data& data)
+{
+    return test::Note("angle", {start, end}, false, coordinate, state, style, pixel, data);
+}
+
 Group TemporaryDimensionCommons::GenerateRadiusDimensionFor3PtArc(
     const Vector3d& first, const Vector3d& second, const Vector3d& third,
     const Coordinate3d& coordinate, InputState state, const Style& style, double pixel, Data& data)

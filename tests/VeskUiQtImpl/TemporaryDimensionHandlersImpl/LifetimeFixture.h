@@ -80,7 +80,8 @@ struct LifetimeFixture : KindFixture
     std::unique_ptr<TestView> pView;
 };
 
-/// Does something once when a widget gets an event of a type.
+/// Does something once when a widget gets an event of a type. A widget that dies of it gets the
+/// event no more, for the toolkit would crash.
 class EventTrap final : public QObject
 {
 public:
@@ -90,13 +91,14 @@ public:
         pWidget->installEventFilter(this);
     }
 
-    bool eventFilter(QObject*, QEvent* pEvent) override
+    bool eventFilter(QObject* pWatched, QEvent* pEvent) override
     {
         if (pEvent->type() != m_type)
             return false;
+        const QPointer<QObject> pWidget(pWatched);
         if (const auto act = std::exchange(m_act, nullptr))
             act();
-        return false;
+        return pWidget == nullptr;
     }
 
 private:
