@@ -1,0 +1,615 @@
+#include "Platform/InputMethodSwitch.h"
+#include "Support/HostFixture.h"
+#include "Support/HostValues.h"
+#include "Support/Platform/InputMethod.h"
+#include "Support/TestValues.h"
+#include "TemporaryDimensionHandlersImpl/DimensionKeys.h"
+#include "TemporaryDimensionHandlersImpl/DimensionKind.h"
+#include "TemporaryDimensionHandlersImpl/TemporaryDimensionHandler.h"
+#include "TemporaryDimensionHandlersImpl/ViewLookup.h"
+
+#include "Graphics/IGraphicsNode.h"
+
+#include <QKeyEvent>
+#include <QMetaMethod>
+
+Q_DECLARE_METATYPE(vesk::OpeningKeys)
+
+namespace vesk::test
+{
+namespace
+{
+
+/// What came to a handler's `event` as a key.
+struct SeenKey
+{
+    QEvent::Type type = QEvent::None;
+    int key = 0;
+    Qt::KeyboardModifiers modifiers;
+    QString text;
+    bool isRepeated = false;
+    int count = 0;
+};
+
+/// The smallest handler, which lets see what the common part keeps and calls.
+class Probe final : public TemporaryDimensionHandler
+{
+public:
+    using TemporaryDimensionHandler::TemporaryDimensionHandler;
+
+    using TemporaryDimensionHandler::m_data;
+    using TemporaryDimensionHandler::m_firstValueValidator;
+    using TemporaryDimensionHandler::m_InputState;
+    using TemporaryDimensionHandler::m_isRawTextInput;
+    using TemporaryDimensionHandler::m_opValidateHelper;
+    using TemporaryDimensionHandler::m_pEditor;
+    using TemporaryDimensionHandler::m_secondValueValidator;
+    using TemporaryDimensionHandler::m_viewId;
+    using TemporaryDimensionHandler::SendViewKey;
+
+    OwnerPtr<IGraphicsNodeGroup> GenerateGraphics(const ITemporaryDimensionContext*) override
+    {
+        return nullptr;
+    }
+    void OnEditorReturnPressed() override {}
+    bool OnKeyDown(int, bool, bool, bool) override { return false; }
+    void ShowInputWidget(InputState, bool, bool, std::wstring) override {}
+
+    void EndInput() override
+    {
+        ++endCount;
+        TemporaryDimensionHandler::EndInput();
+    }
+
+    bool event(QEvent* pEvent) override
+    {
+        if (const auto* pKey = dynamic_cast<QKeyEvent*>(pEvent))
+            seen = {pKey->type(), pKey->key(),          pKey->modifiers(),
+                    pKey->text(), pKey->isAutoRepeat(), pKey->count()};
+        return answer;
+    }
+
+    int endCount = 0;
+    SeenKey seen;
+    bool answer = true;
+};
+
+struct Fixture
+{
+    Fixture() { host.window.show(); }
+
+    HostFixture host;
+};
+
+/// The sets of keys, and whether one of them is in each.
+struct KeySets
+{
+    const char* name;
+    int key;
+    bool isDigit;
+    bool isKeypadDigit;
+    bool isLetter;
+    bool isMinus;
+    bool isComma;
+};
+
+const KeySets Sets[]{
+    {"before 0", 47, false, false, false, false, false},
+    {"0", 48, true, false, false, false, false},
+    {"9", 57, true, false, false, false, false},
+    {"behind 9", 58, false, false, false, false, false},
+    {"before A", 64, false, false, false, false, false},
+    {"A", 65, false, false, true, false, false},
+    {"Z", 90, false, false, true, false, false},
+    {"behind Z", 91, false, false, false, false, false},
+    {"before the keypad's 0", 95, false, false, false, false, false},
+    {"keypad 0", 96, false, true, false, false, false},
+    {"keypad 9", 105, false, true, false, false, false},
+    {"behind the keypad's 9", 106, false, false, false, false, false},
+    {"comma as a character", 44, false, false, false, false, true},
+    {"minus as a character", 45, false, false, false, true, false},
+    {"keypad plus", 107, false, false, false, false, false},
+    {"keypad separator", 108, false, false, false, false, false},
+    {"keypad minus", 109, false, false, false, true, false},
+    {"keypad point", 110, false, false, false, false, false},
+    {"plus", 187, false, false, false, false, false},
+    {"comma", 188, false, false, false, false, true},
+    {"minus", 189, false, false, false, true, false},
+    {"point", 190, false, false, false, false, false},
+};
+
+/// A kind with two fields, as far as an opening key asks for it.
+DimensionKind TwoFields()
+{
+    DimensionKind kind;
+    kind.fields[0].state = InputState::IS_Width;
+    kind.fields[1].state = InputState::IS_Angle;
+    kind.start = InputState::IS_Width;
+    kind.openingKeys = OpeningKeys::AllCharacters;
+    kind.switchesWithTab = true;
+    return kind;
+}
+
+}
+
+/// The common part of the handlers by itself.
+class DimensionHandlerBaseTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void worksInTheViewThatItIsGiven();
+    void startsWithTheWidestBounds();
+    void boundsAtTheStartBelongToTheRanges();
+    void startsWithNothingTyped();
+    void editorIsALineEditWithOneFlagAndNoMethods();
+    void placingWithoutInputEndsItThroughTheInterface();
+    void placingDuringAnInputEndsNothing();
+    void editorThatIsMadeIsOpenAndEmpty();
+    void editorThatCannotBeMadeLeavesTheFormerOne();
+    void onlyAnEditorOfTheRightNameAndClassIsShared();
+    void newEditorReplacesTheLiveValidation();
+    void inputMethodThatIsOffIsNotSwitchedOffAgain();
+    void inputMethodIsSwitchedOnOnce();
+    void inputMethodOfAWindowThatWentIsForgotten();
+    void inputContextIsWhatTheFirstOneSaved();
+    void viewKeyBecomesAKeyPress_data();
+    void viewKeyBecomesAKeyPress();
+    void viewKeyIsAnsweredAsTheEventIs();
+    void modifiersAreTheHostsFlags_data();
+    void modifiersAreTheHostsFlags();
+    void keysBelongToTheirSets_data();
+    void keysBelongToTheirSets();
+    void keysOpenWithTheirText_data();
+    void keysOpenWithTheirText();
+    void setsOfOpeningKeysGrow_data();
+    void setsOfOpeningKeysGrow();
+    void fieldIsFoundByItsState();
+    void openingIsThatOfTheKey_data();
+    void openingIsThatOfTheKey();
+    void viewsAreFoundByTheirIds();
+    void withoutAViewManagerThereIsNoView();
+};
+
+void DimensionHandlerBaseTest::worksInTheViewThatItIsGiven()
+{
+    Fixture f;
+    TestView other(2, &f.host.window);
+
+    const Probe probe(&other);
+
+    QCOMPARE(probe.m_viewId, std::uint32_t(2));
+}
+
+void DimensionHandlerBaseTest::startsWithTheWidestBounds()
+{
+    Fixture f;
+    const Probe probe(&f.host.view);
+    const NumberValidator<double> lengths(1e-6, 1e9, L"", true, true, 3);
+    const NumberValidator<double> angles(-180, 180, L"", true, true, 3);
+
+    QCOMPARE_EXACTLY(probe.m_firstValueValidator.GetBottom(), 1e-6);
+    QCOMPARE_EXACTLY(probe.m_firstValueValidator.GetTop(), 1e9);
+    QCOMPARE(probe.m_firstValueValidator.GetDecimals(), 3);
+    QCOMPARE(probe.m_firstValueValidator.GetTip(), lengths.GetTip());
+    QCOMPARE_EXACTLY(probe.m_secondValueValidator.GetBottom(), -180);
+    QCOMPARE_EXACTLY(probe.m_secondValueValidator.GetTop(), 180);
+    QCOMPARE(probe.m_secondValueValidator.GetDecimals(), 3);
+    QCOMPARE(probe.m_secondValueValidator.GetTip(), angles.GetTip());
+}
+
+void DimensionHandlerBaseTest::boundsAtTheStartBelongToTheRanges()
+{
+    Fixture f;
+    const Probe probe(&f.host.view);
+
+    QVERIFY(probe.m_firstValueValidator.ValidateValue(1e-6));
+    QVERIFY(probe.m_firstValueValidator.ValidateValue(1e9));
+    QVERIFY(probe.m_secondValueValidator.ValidateValue(-180));
+    QVERIFY(probe.m_secondValueValidator.ValidateValue(180));
+}
+
+void DimensionHandlerBaseTest::startsWithNothingTyped()
+{
+    Fixture f;
+    Probe probe(&f.host.view);
+
+    QCOMPARE(probe.m_InputState, InputState::IS_None);
+    QVERIFY(probe.m_pEditor == nullptr);
+    QVERIFY(probe.m_opValidateHelper == nullptr);
+    QVERIFY(!probe.m_isRawTextInput);
+    QVERIFY(!probe.IsInputting());
+    QVERIFY(!probe.HasEditorFocus());
+    QCOMPARE_EXACTLY(probe.m_data[InputState::IS_Length].value, 0.0);
+    QCOMPARE(sizeof probe.m_InputState, std::size_t(4));
+}
+
+void DimensionHandlerBaseTest::editorIsALineEditWithOneFlagAndNoMethods()
+{
+    const QMetaObject& meta = TemporaryDimensionHandleEditor::staticMetaObject;
+
+    QCOMPARE(meta.superClass(), &QLineEdit::staticMetaObject);
+    QCOMPARE(meta.methodCount(), meta.methodOffset());
+    QCOMPARE(meta.propertyCount(), meta.propertyOffset());
+    QCOMPARE(meta.className(), "vesk::TemporaryDimensionHandleEditor");
+}
+
+void DimensionHandlerBaseTest::placingWithoutInputEndsItThroughTheInterface()
+{
+    Fixture f;
+    Probe probe(&f.host.view);
+
+    probe.ResetEditorPosition();
+
+    QCOMPARE(probe.endCount, 1);
+}
+
+void DimensionHandlerBaseTest::placingDuringAnInputEndsNothing()
+{
+    Fixture f;
+    Probe probe(&f.host.view);
+    probe.CreateEditorWidget();
+    probe.m_InputState = InputState::IS_Height;
+    const QPoint position = probe.m_pEditor->pos();
+
+    probe.ResetEditorPosition();
+
+    QCOMPARE(probe.endCount, 0);
+    QVERIFY(probe.m_pEditor->pos() != position);
+}
+
+void DimensionHandlerBaseTest::editorThatIsMadeIsOpenAndEmpty()
+{
+    Fixture f;
+    Probe probe(&f.host.view);
+
+    probe.CreateEditorWidget();
+
+    QVERIFY(probe.m_pEditor != nullptr);
+    QVERIFY(probe.m_pEditor->isVisible());
+    QVERIFY(probe.m_pEditor->text().isEmpty());
+    QCOMPARE(probe.m_pEditor->objectName(), QString("ViewInputLineEdit"));
+    QVERIFY(probe.m_opValidateHelper != nullptr);
+    QCOMPARE(probe.m_opValidateHelper->parent(), &probe);
+    QCOMPARE(probe.m_InputState, InputState::IS_None);
+    QCOMPARE(probe.m_pEditor->toolTip(), QString());
+    QTRY_VERIFY(probe.HasEditorFocus());
+}
+
+void DimensionHandlerBaseTest::editorThatCannotBeMadeLeavesTheFormerOne()
+{
+    Fixture f;
+    Probe probe(&f.host.view);
+    probe.CreateEditorWidget();
+    const QPointer<TemporaryDimensionHandleEditor> pEditor = probe.m_pEditor;
+    const LineEditValidateHelper* pHelper = probe.m_opValidateHelper.Get();
+    f.host.view.SetWindowId(0);
+
+    probe.CreateEditorWidget();
+
+    EXPECT_WARNING(f.host.warnings, L"pNqView为空。",
+                   "vesk::TemporaryDimensionHandler::CreateEditorWidget");
+    QVERIFY(pEditor != nullptr);
+    QCOMPARE(probe.m_pEditor.data(), pEditor.data());
+    QCOMPARE(probe.m_opValidateHelper.Get(), pHelper);
+    QCOMPARE(f.host.journal.GetUiObjects().size(), std::size_t(1));
+}
+
+void DimensionHandlerBaseTest::onlyAnEditorOfTheRightNameAndClassIsShared()
+{
+    Fixture f;
+    QLineEdit plain(&f.host.view);
+    plain.setObjectName("ViewInputLineEdit");
+    TemporaryDimensionHandleEditor unnamed(&f.host.view);
+    Probe probe(&f.host.view);
+
+    probe.CreateEditorWidget();
+
+    QVERIFY(probe.m_pEditor != nullptr);
+    QVERIFY(static_cast<QLineEdit*>(probe.m_pEditor) != &plain);
+    QVERIFY(probe.m_pEditor != &unnamed);
+    QVERIFY(plain.isHidden() && unnamed.isHidden());
+}
+
+void DimensionHandlerBaseTest::newEditorReplacesTheLiveValidation()
+{
+    Fixture f;
+    Probe probe(&f.host.view);
+    probe.CreateEditorWidget();
+    const QPointer<LineEditValidateHelper> pFirst(probe.m_opValidateHelper.Get());
+
+    probe.CreateEditorWidget();
+
+    QVERIFY(pFirst == nullptr);
+    QCOMPARE(probe.findChildren<LineEditValidateHelper*>().size(), 1);
+}
+
+void DimensionHandlerBaseTest::inputMethodThatIsOffIsNotSwitchedOffAgain()
+{
+    Fixture f;
+    SetTakesInputMethod(f.host.window, true);
+    Probe probe(&f.host.view);
+
+    probe.DisableIme();
+    probe.EnableIme();
+
+    QVERIFY(TakesInputMethod(f.host.window));
+}
+
+void DimensionHandlerBaseTest::inputMethodIsSwitchedOnOnce()
+{
+    Fixture f;
+    SetTakesInputMethod(f.host.window, true);
+    const Probe other(&f.host.view);
+    Probe probe(&f.host.view);
+
+    probe.EnableIme();
+    probe.EnableIme();
+
+    QVERIFY(!TakesInputMethod(f.host.window));
+}
+
+void DimensionHandlerBaseTest::inputMethodOfAWindowThatWentIsForgotten()
+{
+    Fixture f;
+    SetTakesInputMethod(f.host.window, true);
+    InputMethodSwitch::SwitchOff(f.host.window);
+    QVERIFY(!TakesInputMethod(f.host.window));
+
+    InputMethodSwitch::SwitchOn(nullptr);
+
+    QVERIFY(!TakesInputMethod(f.host.window));
+    QVERIFY(InputMethodSwitch::SwitchOff(f.host.window) == nullptr);
+    InputMethodSwitch::SwitchOn(&f.host.window);
+    QVERIFY(!TakesInputMethod(f.host.window));
+}
+
+void DimensionHandlerBaseTest::inputContextIsWhatTheFirstOneSaved()
+{
+    Fixture f;
+    SetTakesInputMethod(f.host.window, true);
+
+    const InputContext first = InputMethodSwitch::SwitchOff(f.host.window);
+    const InputContext second = InputMethodSwitch::SwitchOff(f.host.window);
+
+    QVERIFY(first != nullptr);
+    QCOMPARE(second, first);
+    InputMethodSwitch::SwitchOn(&f.host.window);
+    QVERIFY(!TakesInputMethod(f.host.window));
+    InputMethodSwitch::SwitchOn(&f.host.window);
+    QVERIFY(TakesInputMethod(f.host.window));
+}
+
+void DimensionHandlerBaseTest::viewKeyBecomesAKeyPress_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<bool>("hasText");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("digit") << int('7') << true << "7";
+    QTest::newRow("letter") << int('M') << true << "m";
+    QTest::newRow("keypad digit") << 103 << true << "7";
+    QTest::newRow("minus") << 189 << true << "-";
+    QTest::newRow("keypad minus") << 109 << true << "-";
+    QTest::newRow("comma") << 188 << true << "";
+    QTest::newRow("digit of a kind without texts") << int('7') << false << "";
+    QTest::newRow("keypad digit of a kind without texts") << 103 << false << "";
+    QTest::newRow("minus of a kind without texts") << 189 << false << "";
+}
+
+void DimensionHandlerBaseTest::viewKeyBecomesAKeyPress()
+{
+    QFETCH(int, key);
+    QFETCH(bool, hasText);
+    QFETCH(QString, text);
+    Fixture f;
+    Probe probe(&f.host.view);
+    DimensionKind kind = TwoFields();
+    kind.hasKeyText = hasText;
+
+    QVERIFY(probe.SendViewKey(kind, key, Qt::AltModifier | Qt::ShiftModifier));
+
+    QCOMPARE(probe.seen.type, QEvent::KeyPress);
+    QCOMPARE(probe.seen.key, key);
+    QCOMPARE(probe.seen.modifiers, Qt::AltModifier | Qt::ShiftModifier);
+    QCOMPARE(probe.seen.text, text);
+    QVERIFY(!probe.seen.isRepeated);
+    QCOMPARE(probe.seen.count, 1);
+}
+
+void DimensionHandlerBaseTest::viewKeyIsAnsweredAsTheEventIs()
+{
+    Fixture f;
+    Probe probe(&f.host.view);
+    probe.answer = false;
+
+    QVERIFY(!probe.SendViewKey(TwoFields(), '7', Qt::NoModifier));
+    QCOMPARE(probe.seen.key, int('7'));
+
+    probe.answer = true;
+    QVERIFY(!probe.SendViewKey(TwoFields(), Qt::Key_Return, Qt::NoModifier));
+    QCOMPARE(probe.seen.key, int('7'));
+}
+
+void DimensionHandlerBaseTest::modifiersAreTheHostsFlags_data()
+{
+    QTest::addColumn<bool>("isCtrl");
+    QTest::addColumn<bool>("isAlt");
+    QTest::addColumn<bool>("isShift");
+    QTest::addColumn<int>("modifiers");
+    QTest::newRow("none") << false << false << false << int(Qt::NoModifier);
+    QTest::newRow("Ctrl") << true << false << false << int(Qt::ControlModifier);
+    QTest::newRow("Alt") << false << true << false << int(Qt::AltModifier);
+    QTest::newRow("Shift") << false << false << true << int(Qt::ShiftModifier);
+    QTest::newRow("all") << true << true << true
+                         << int(Qt::ControlModifier | Qt::AltModifier | Qt::ShiftModifier);
+}
+
+void DimensionHandlerBaseTest::modifiersAreTheHostsFlags()
+{
+    QFETCH(bool, isCtrl);
+    QFETCH(bool, isAlt);
+    QFETCH(bool, isShift);
+    QFETCH(int, modifiers);
+
+    QCOMPARE(int(ToQtModifiers(isCtrl, isAlt, isShift)), modifiers);
+}
+
+void DimensionHandlerBaseTest::keysBelongToTheirSets_data()
+{
+    QTest::addColumn<int>("row");
+    for (int i = 0; i < int(std::size(Sets)); ++i)
+        QTest::newRow(Sets[i].name) << i;
+}
+
+void DimensionHandlerBaseTest::keysBelongToTheirSets()
+{
+    QFETCH(int, row);
+    const KeySets& expected = Sets[row];
+
+    QCOMPARE(IsDigitKey(expected.key), expected.isDigit);
+    QCOMPARE(IsKeypadDigitKey(expected.key), expected.isKeypadDigit);
+    QCOMPARE(IsLetterKey(expected.key), expected.isLetter);
+    QCOMPARE(IsMinusKey(expected.key), expected.isMinus);
+    QCOMPARE(IsCommaKey(expected.key), expected.isComma);
+}
+
+void DimensionHandlerBaseTest::keysOpenWithTheirText_data()
+{
+    keysBelongToTheirSets_data();
+}
+
+void DimensionHandlerBaseTest::keysOpenWithTheirText()
+{
+    QFETCH(int, row);
+    const KeySets& key = Sets[row];
+    const QKeyEvent event(QEvent::KeyPress, key.key, Qt::NoModifier, "x");
+    const int digit = key.isDigit ? key.key - 48 : key.key - 96;
+    const std::optional<QString> none;
+    const bool isDigit = key.isDigit || key.isKeypadDigit;
+    const std::optional<QString> digits = isDigit ? QString::number(digit) : none;
+    const std::optional<QString> minus = key.isMinus ? QString("-") : digits;
+    const std::optional<QString> letters = key.isLetter ? QString("x") : minus;
+
+    QCOMPARE(OpeningText(event, OpeningKeys::Digits), digits);
+    QCOMPARE(OpeningText(event, OpeningKeys::DigitsAndMinus), minus);
+    QCOMPARE(OpeningText(event, OpeningKeys::AllCharacters), letters);
+    const bool isCode = key.key != '-' && key.key != ',';
+    QCOMPARE(IsTakenFromView(key.key, OpeningKeys::Digits), isDigit);
+    QCOMPARE(IsTakenFromView(key.key, OpeningKeys::DigitsAndMinus),
+             isDigit || (isCode && key.isMinus));
+    QCOMPARE(IsTakenFromView(key.key, OpeningKeys::AllCharacters),
+             isDigit || key.isLetter || (isCode && (key.isMinus || key.isComma)));
+}
+
+void DimensionHandlerBaseTest::setsOfOpeningKeysGrow_data()
+{
+    QTest::addColumn<OpeningKeys>("keys");
+    QTest::addColumn<bool>("hasMinus");
+    QTest::addColumn<bool>("hasLetters");
+    QTest::newRow("digits") << OpeningKeys::Digits << false << false;
+    QTest::newRow("minus") << OpeningKeys::DigitsAndMinus << true << false;
+    QTest::newRow("all") << OpeningKeys::AllCharacters << true << true;
+}
+
+void DimensionHandlerBaseTest::setsOfOpeningKeysGrow()
+{
+    QFETCH(OpeningKeys, keys);
+    QFETCH(bool, hasMinus);
+    QFETCH(bool, hasLetters);
+
+    QCOMPARE(HasMinus(keys), hasMinus);
+    QCOMPARE(HasLetters(keys), hasLetters);
+    QCOMPARE(HasComma(keys), hasLetters);
+}
+
+void DimensionHandlerBaseTest::fieldIsFoundByItsState()
+{
+    DimensionKind kind;
+    kind.fields[0].state = InputState::IS_Radius;
+
+    QCOMPARE(FindField(kind, InputState::IS_Radius), &kind.fields[0]);
+    QVERIFY(FindField(kind, InputState::IS_Length) == nullptr);
+    QVERIFY(FindField(kind, InputState::IS_None) == nullptr);
+    kind.fields[1].state = InputState::IS_Height;
+    QCOMPARE(FindField(kind, InputState::IS_Height), &kind.fields[1]);
+}
+
+void DimensionHandlerBaseTest::openingIsThatOfTheKey_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("modifiers");
+    QTest::addColumn<bool>("switches");
+    QTest::addColumn<int>("state"); ///< 0: none.
+    QTest::addColumn<bool>("useGivenText");
+    QTest::addColumn<QString>("text");
+    const int shift = int(Qt::ShiftModifier);
+    const int shiftAndCtrl = int(Qt::ShiftModifier | Qt::ControlModifier);
+    QTest::newRow("digit") << int('7') << 0 << true << 5 << true << "7";
+    QTest::newRow("digit with Shift") << int('7') << shift << true << 5 << true << "7";
+    QTest::newRow("Shift and comma") << 188 << shift << true << 2 << false << "";
+    QTest::newRow("Shift, Ctrl and comma") << 188 << shiftAndCtrl << true << 2 << false << "";
+    QTest::newRow("character") << int(',') << shift << true << 2 << false << "";
+    QTest::newRow("comma") << 188 << 0 << true << 0 << false << "";
+    QTest::newRow("Ctrl and comma") << 188 << int(Qt::ControlModifier) << true << 0 << false << "";
+    QTest::newRow("one field") << 188 << shift << false << 0 << false << "";
+}
+
+void DimensionHandlerBaseTest::openingIsThatOfTheKey()
+{
+    QFETCH(int, key);
+    QFETCH(int, modifiers);
+    QFETCH(bool, switches);
+    QFETCH(int, state);
+    QFETCH(bool, useGivenText);
+    QFETCH(QString, text);
+    DimensionKind kind = TwoFields();
+    kind.switchesWithTab = switches;
+    const QKeyEvent event(QEvent::KeyPress, key, Qt::KeyboardModifiers(modifiers), "x");
+
+    const std::optional<FieldRequest> opening = FindOpening(kind, event);
+
+    QCOMPARE(opening.has_value(), state != 0);
+    const FieldRequest request = opening.value_or(FieldRequest{InputState(0), false, false, L""});
+    QCOMPARE(int(request.state), state);
+    QVERIFY(!request.editorReady);
+    QCOMPARE(request.useGivenText, useGivenText);
+    QCOMPARE(request.text, text.toStdWString());
+}
+
+void DimensionHandlerBaseTest::viewsAreFoundByTheirIds()
+{
+    Fixture f;
+
+    QCOMPARE(FindViewById(1), static_cast<IUiView*>(&f.host.view));
+    QVERIFY(FindViewById(2) == nullptr);
+    QCOMPARE(FindViewWidget(1), static_cast<QWidget*>(&f.host.view));
+    QVERIFY(FindViewWidget(2) == nullptr);
+    f.host.view.SetWindowId(0);
+    QVERIFY(FindViewWidget(1) == nullptr);
+    QCOMPARE(FindViewById(1), static_cast<IUiView*>(&f.host.view));
+}
+
+void DimensionHandlerBaseTest::withoutAViewManagerThereIsNoView()
+{
+    Fixture f;
+    struct Access : IUiDocumentViewManager
+    {
+        using IUiDocumentViewManager::Set;
+    };
+    Probe probe(&f.host.view);
+    Access::Set(nullptr);
+
+    const bool hasView = FindViewById(1) != nullptr || FindViewWidget(1) != nullptr;
+    probe.CreateEditorWidget();
+
+    Access::Set(&f.host.core.GetViewManager());
+    QVERIFY(!hasView);
+    EXPECT_WARNING(f.host.warnings, L"pUIView为空。",
+                   "vesk::TemporaryDimensionHandler::CreateEditorWidget");
+    QCOMPARE(probe.m_viewId, std::uint32_t(1));
+}
+
+}
+
+QTEST_MAIN(vesk::test::DimensionHandlerBaseTest)
+#include "DimensionHandlerBaseTest.moc"
