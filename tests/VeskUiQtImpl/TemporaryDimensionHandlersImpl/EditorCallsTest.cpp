@@ -1,0 +1,417 @@
+#include "Command/ActionManager.h"
+#include "Journal/IJournalManager.h"
+#include "Journal/IJournalUiObject.h"
+#include "TemporaryDimensionHandlersImpl/KindTable.h"
+
+#include "Support/TestValues.h"
+
+#include <QStringList>
+
+#include <dlfcn.h>
+
+namespace
+{
+
+/// What handlers asked of the toolkit and of the host while notes are taken, in order.
+QStringList s_notes;
+bool s_isNoting = false;
+
+void Note(const QString& what)
+{
+    if (s_isNoting)
+        s_notes << what;
+}
+
+/// The operation itself, which stands behind the one of this program.
+template <class Function>
+Function Next(const char* symbol)
+{
+    return reinterpret_cast<Function>(dlsym(RTLD_NEXT, symbol));
+}
+
+bool IsEditor(const QObject* pObject)
+{
+    return pObject->inherits("vesk::TemporaryDimensionHandleEditor");
+}
+
+bool IsHandler(const QObject* pObject)
+{
+    return pObject->inherits("vesk::TemporaryDimensionHandler");
+}
+
+/// Only what is done to the editor is of interest.
+void NoteOf(const QObject* pObject, const QString& what)
+{
+    if (IsEditor(pObject))
+        Note(what);
+}
+
+QString Numbers(const char* what, int first, int second)
+{
+    return QString("%1 %2 %3").arg(what).arg(first).arg(second);
+}
+
+}
+
+// The program's operations stand before the toolkit's: they note the call and hand it on.
+
+void QObject::installEventFilter(QObject* pFilter)
+{
+    if (IsEditor(this) && IsHandler(pFilter))
+        Note("the handler filters the editor");
+    if (IsEditor(pFilter))
+        Note("the editor filters view " +
+             QString::number(dynamic_cast<vesk::IUiView*>(this)->GetId()));
+    Next<void (*)(QObject*, QObject*)>("_ZN7QObject18installEventFilterEPS_")(this, pFilter);
+}
+
+void QObject::setObjectName(const QString& name)
+{
+    NoteOf(this, "name " + name);
+    Next<void (*)(QObject*, const QString&)>("_ZN7QObject13setObjectNameERK7QString")(this, name);
+}
+
+void QWidget::setWindowFlags(Qt::WindowFlags flags)
+{
+    NoteOf(this, "flags 0x" + QString::number(int(flags), 16));
+    Next<void (*)(QWidget*, Qt::WindowFlags)>(
+        "_ZN7QWidget14setWindowFlagsE6QFlagsIN2Qt10WindowTypeEE")(this, flags);
+}
+
+void QWidget::setFixedSize(int width, int height)
+{
+    NoteOf(this, Numbers("size", width, height));
+    Next<void (*)(QWidget*, int, int)>("_ZN7QWidget12setFixedSizeEii")(this, width, height);
+}
+
+void QWidget::show()
+{
+    NoteOf(this, "show");
+    Next<void (*)(QWidget*)>("_ZN7QWidget4showEv")(this);
+}
+
+void QWidget::hide()
+{
+    NoteOf(this, "hide");
+    Next<void (*)(QWidget*)>("_ZN7QWidget4hideEv")(this);
+}
+
+void QWidget::activateWindow()
+{
+    NoteOf(this, "activate");
+    Next<void (*)(QWidget*)>("_ZN7QWidget14activateWindowEv")(this);
+}
+
+void QWidget::setFocus(Qt::FocusReason reason)
+{
+    NoteOf(this, "focus for reason " + QString::number(reason));
+    Next<void (*)(QWidget*, Qt::FocusReason)>("_ZN7QWidget8setFocusEN2Qt11FocusReasonE")(this,
+                                                                                         reason);
+}
+
+void QWidget::clearFocus()
+{
+    NoteOf(this, "no focus");
+    Next<void (*)(QWidget*)>("_ZN7QWidget10clearFocusEv")(this);
+}
+
+void QWidget::move(const QPoint& position)
+{
+    NoteOf(this, "move");
+    // What is inline in the headers calls this one.
+    Next<void (*)(QWidget*, const QPoint&)>("_ZN7QWidget4moveERK6QPoint")(this, position);
+}
+
+void QWidget::setStyleSheet(const QString& styleSheet)
+{
+    NoteOf(this, "style sheet");
+    Next<void (*)(QWidget*, const QString&)>("_ZN7QWidget13setStyleSheetERK7QString")(this,
+                                                                                      styleSheet);
+}
+
+void QWidget::setStyle(QStyle* pStyle)
+{
+    NoteOf(this, "style");
+    Next<void (*)(QWidget*, QStyle*)>("_ZN7QWidget8setStyleEP6QStyle")(this, pStyle);
+}
+
+void QWidget::setPalette(const QPalette& palette)
+{
+    NoteOf(this, "palette");
+    Next<void (*)(QWidget*, const QPalette&)>("_ZN7QWidget10setPaletteERK8QPalette")(this, palette);
+}
+
+void QLineEdit::setText(const QString& text)
+{
+    NoteOf(this, "text " + text);
+    Next<void (*)(QLineEdit*, const QString&)>("_ZN9QLineEdit7setTextERK7QString")(this, text);
+}
+
+void QLineEdit::selectAll()
+{
+    NoteOf(this, "select all");
+    Next<void (*)(QLineEdit*)>("_ZN9QLineEdit9selectAllEv")(this);
+}
+
+namespace vesk
+{
+
+void ActionManager::ProcessViewInput(IUiView* pView, const ActionViewInput& input)
+{
+    Note(Numbers("value of kind and view", input.kind, int(pView->GetId())));
+    Next<void (*)(IUiView*, const ActionViewInput&)>(
+        "_ZN4vesk13ActionManager16ProcessViewInputEPNS_7IUiViewERKNS_15ActionViewInputE")(pView,
+                                                                                          input);
+}
+
+void ActionManager::RefreshViewInput(IUiView* pView)
+{
+    Note("refresh view " + QString::number(pView->GetId()));
+    Next<void (*)(IUiView*)>("_ZN4vesk13ActionManager16RefreshViewInputEPNS_7IUiViewE")(pView);
+}
+
+void LineEditValidateHelper::SetValidators(
+    const std::map<QLineEdit*, const ValidatorBase*>& validators)
+{
+    for (const auto& [pEdit, pValidator] : validators)
+        NoteOf(pEdit, pValidator != nullptr ? "validator" : "no validator");
+    using Function =
+        void (*)(LineEditValidateHelper*, const std::map<QLineEdit*, const ValidatorBase*>&);
+    Next<Function>("_ZN4vesk22LineEditValidateHelper13SetValidatorsERKSt3mapIP9QLineEditPKNS_"
+                   "13ValidatorBaseESt4lessIS3_ESaISt4pairIKS3_S6_EEE")(this, validators);
+}
+
+namespace test
+{
+
+/// The journal that the library sees.
+class NotingJournal final : public IJournalManager
+{
+public:
+    void AddCommandData(OwnerPtr<IJournalCommandData>) override {}
+    void AddCommandDataWithParameters(OwnerPtr<IJournalCommandData>) override {}
+    void AddUiObject(OwnerPtr<IJournalUiObject> opObject, int kind, int reserved) override
+    {
+        const auto* ppObject = std::any_cast<QObject*>(&opObject->GetUiObject());
+        if (ppObject != nullptr)
+            NoteOf(*ppObject, Numbers("journal", kind, reserved));
+    }
+};
+
+}
+
+IJournalManager* IJournalManager::Get()
+{
+    static test::NotingJournal journal;
+    return &journal;
+}
+
+}
+
+namespace vesk::test
+{
+
+/// Takes notes while it lives.
+class Noting
+{
+public:
+    Noting()
+    {
+        s_notes.clear();
+        s_isNoting = true;
+    }
+    ~Noting() { s_isNoting = false; }
+    Noting(const Noting&) = delete;
+    Noting& operator=(const Noting&) = delete;
+};
+
+/// A handler for a segment in a view of its own, which is not the current one any more.
+struct CallsFixture : HandlerFixture
+{
+    CallsFixture() : other(2, &host.window) { host.BeginAction(); }
+    ~CallsFixture()
+    {
+        ActionManager::Reset();
+        host.core.GetViewManager().RemoveView(&other);
+    }
+
+    void MakeOtherCurrent()
+    {
+        host.core.GetViewManager().AddView(&other);
+        host.core.GetViewManager().SetCurrentView(&other);
+    }
+
+    TestView other;
+};
+
+/// In which order handlers do what they do to their editor and ask of the host.
+class EditorCallsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void newEditorIsMadeStyledAndShown();
+    void editorThatIsThereKeepsNameAndFlags();
+    void openEditorIsFilledShownAndPlaced();
+    void inputEndsWithoutFocusAndHidden();
+    void returnJudgesEndsAndDelivers();
+    void returnDeliversToTheCurrentView();
+    void returnRefusesAndSelects();
+    void tabDeliversToTheHandlersViewAndShowsTheOtherField();
+    void rawTextIsDeliveredWithoutValidators();
+    void viewsAreOnlyRefreshedByOtherKeys();
+};
+
+void EditorCallsTest::newEditorIsMadeStyledAndShown()
+{
+    CallsFixture f;
+    const Noting noting;
+
+    f.SendToHandler('5');
+
+    const QStringList expected{"name ViewInputLineEdit",
+                               "flags 0x803",
+                               "the handler filters the editor",
+                               Numbers("size", TemporaryDimensionStyle().GetEditorWidth(),
+                                       TemporaryDimensionStyle().GetEditorHeight()),
+                               "show",
+                               "activate",
+                               "focus for reason 7",
+                               "the editor filters view 1",
+                               "style sheet",
+                               "style",
+                               "palette",
+                               "journal 3 0",
+                               "text 5",
+                               "show",
+                               "focus for reason 7",
+                               "move",
+                               "refresh view 1"};
+    QCOMPARE(s_notes, expected);
+}
+
+void EditorCallsTest::editorThatIsThereKeepsNameAndFlags()
+{
+    CallsFixture f;
+    f.TypeLength("5");
+    f.opHandler = f.CreateHandler();
+    const Noting noting;
+
+    f.SendToHandler('6');
+
+    QCOMPARE(s_notes.mid(0, 6),
+             QStringList({"the handler filters the editor",
+                          Numbers("size", TemporaryDimensionStyle().GetEditorWidth(),
+                                  TemporaryDimensionStyle().GetEditorHeight()),
+                          "show", "activate", "focus for reason 7", "the editor filters view 1"}));
+    QCOMPARE(s_notes.mid(6),
+             QStringList({"style sheet", "style", "palette", "journal 3 0", "text 6", "show",
+                          "focus for reason 7", "move", "refresh view 1"}));
+}
+
+void EditorCallsTest::openEditorIsFilledShownAndPlaced()
+{
+    CallsFixture f;
+    f.TypeLength("5");
+    f.MakeOtherCurrent();
+    const Noting noting;
+
+    f.Handler().ShowInputWidget(InputState::IS_Angle, true, true, L"7");
+
+    QCOMPARE(s_notes, QStringList({"text 7", "select all", "show", "focus for reason 7", "move",
+                                   "refresh view 1"}));
+}
+
+void EditorCallsTest::inputEndsWithoutFocusAndHidden()
+{
+    CallsFixture f;
+    f.TypeLength("5");
+    const Noting noting;
+
+    f.opHandler->EndInput();
+
+    QCOMPARE(s_notes, QStringList({"no focus", "hide"}));
+}
+
+void EditorCallsTest::returnJudgesEndsAndDelivers()
+{
+    CallsFixture f;
+    f.TypeLength("5");
+    const Noting noting;
+
+    f.opHandler->OnEditorReturnPressed();
+
+    QCOMPARE(s_notes, QStringList({"validator", "no focus", "hide", "value of kind and view 8 1"}));
+}
+
+void EditorCallsTest::returnDeliversToTheCurrentView()
+{
+    CallsFixture f;
+    f.TypeLength("5");
+    f.MakeOtherCurrent();
+    const Noting noting;
+
+    f.opHandler->OnEditorReturnPressed();
+
+    QCOMPARE(s_notes.last(), QString("value of kind and view 8 2"));
+}
+
+void EditorCallsTest::returnRefusesAndSelects()
+{
+    CallsFixture f;
+    f.TypeLength("x");
+    f.MakeOtherCurrent();
+    const Noting noting;
+
+    f.opHandler->OnEditorReturnPressed();
+    f.SendToHandler(Qt::Key_F5);
+
+    QCOMPARE(s_notes, QStringList({"validator", "select all", "refresh view 1"}));
+}
+
+void EditorCallsTest::tabDeliversToTheHandlersViewAndShowsTheOtherField()
+{
+    CallsFixture f;
+    f.TypeLength("5");
+    f.MakeOtherCurrent();
+    const Noting noting;
+
+    f.FilterKey(Qt::Key_Tab);
+
+    QCOMPARE(s_notes,
+             QStringList({"validator", "value of kind and view 1 1", "no validator", "text 53.13",
+                          "select all", "show", "focus for reason 7", "move", "refresh view 1"}));
+}
+
+void EditorCallsTest::rawTextIsDeliveredWithoutValidators()
+{
+    CallsFixture f;
+    f.Handler().SetRawTextInput(true);
+    f.TypeLength("x");
+    const Noting noting;
+
+    f.FilterKey(Qt::Key_Tab);
+    f.FilterKey(Qt::Key_Return);
+
+    QCOMPARE(s_notes, QStringList({"value of kind and view 1 1", "text 53.13", "select all", "show",
+                                   "focus for reason 7", "move", "refresh view 1", "no focus",
+                                   "hide", "value of kind and view 9 1"}));
+}
+
+void EditorCallsTest::viewsAreOnlyRefreshedByOtherKeys()
+{
+    CallsFixture f;
+    f.TypeLength("5");
+    f.MakeOtherCurrent();
+    const Noting noting;
+
+    f.SendToHandler('7');
+    f.FilterKey(Qt::Key_7);
+
+    QCOMPARE(s_notes, QStringList({"refresh view 1"}));
+}
+
+}
+
+QTEST_MAIN(vesk::test::EditorCallsTest)
+#include "EditorCallsTest.moc"
