@@ -5,6 +5,15 @@
 namespace vesk::test
 {
 
+VESK_EXPOSE(SavedContext, std::optional<InputContext>, TemporaryDimensionHandler,
+            m_savedInputContext)
+
+/// What a handler keeps of the main window's input method.
+std::optional<InputContext> SavedBy(ITemporaryDimensionHandler& handler)
+{
+    return static_cast<TemporaryDimensionHandler&>(handler).*MemberOf(SavedContext());
+}
+
 /// A main window that takes input methods, and handlers that do not want it to.
 struct InputMethodFixture
 {
@@ -29,6 +38,9 @@ class InputMethodSwitchTest : public QObject
 
 private slots:
     void isOffAsLongAsAHandlerLives();
+    void handlerKeepsWhatTheWindowHad();
+    void laterHandlerKeepsWhatTheFirstOneFound();
+    void handlerThatSwitchedNothingOffKeepsNothing();
     void isRestoredOnlyToWhatItWas();
     void staysOffWhenTheNewHandlerComesBeforeTheOldOneGoes();
     void staysOffWhenTheSecondHandlerGoesFirst();
@@ -50,6 +62,34 @@ void InputMethodSwitchTest::isOffAsLongAsAHandlerLives()
 
     opHandler.Reset();
     QVERIFY(f.IsOn());
+}
+
+void InputMethodSwitchTest::handlerKeepsWhatTheWindowHad()
+{
+    InputMethodFixture f;
+    const auto opHandler = f.CreateHandler();
+    QVERIFY(SavedBy(*opHandler).value_or(nullptr) != nullptr);
+}
+
+void InputMethodSwitchTest::laterHandlerKeepsWhatTheFirstOneFound()
+{
+    InputMethodFixture f;
+    const auto opFirst = f.CreateHandler();
+
+    const auto opSecond = f.CreateHandler();
+
+    QVERIFY(SavedBy(*opSecond).has_value());
+    QCOMPARE(*SavedBy(*opSecond), *SavedBy(*opFirst));
+}
+
+void InputMethodSwitchTest::handlerThatSwitchedNothingOffKeepsNothing()
+{
+    InputMethodFixture f;
+    f.host.window.SetWindowId(0);
+
+    const auto opHandler = f.CreateHandler();
+
+    QVERIFY(!SavedBy(*opHandler).has_value());
 }
 
 void InputMethodSwitchTest::isRestoredOnlyToWhatItWas()

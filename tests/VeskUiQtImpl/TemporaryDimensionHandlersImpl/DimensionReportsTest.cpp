@@ -15,6 +15,8 @@ private slots:
     void graphicsWithoutContext();
     void graphicsOfAForeignContext_data();
     void graphicsOfAForeignContext();
+    void graphicsReportOneThingOnly_data();
+    void graphicsReportOneThingOnly();
     void graphicsWithoutView_data();
     void graphicsWithoutView();
     void graphicsWithoutModelView_data();
@@ -31,6 +33,12 @@ private slots:
     void eventThatIsNoKeyAfterAll();
     void nothingOfOtherEvents_data();
     void nothingOfOtherEvents();
+    void nothingOfWhatIsNoKeyPressWithoutAView_data();
+    void nothingOfWhatIsNoKeyPressWithoutAView();
+    void eventsOfAnObjectAreTaken_data();
+    void eventsOfAnObjectAreTaken();
+    void reportsNameTheirPlace_data();
+    void reportsNameTheirPlace();
 };
 
 void DimensionReportsTest::graphicsWithoutContext_data()
@@ -65,6 +73,28 @@ void DimensionReportsTest::graphicsOfAForeignContext()
     QVERIFY(opGroup != nullptr);
     QCOMPARE(opGroup->GetChildCount(), 0);
     QVERIFY(!opGroup->IsPickable());
+}
+
+void DimensionReportsTest::graphicsReportOneThingOnly_data()
+{
+    AddKindRows();
+}
+
+void DimensionReportsTest::graphicsReportOneThingOnly()
+{
+    FETCH_KIND(rules);
+    KindFixture f(rules.pCreateContext());
+    const ForeignContext context;
+    f.host.view.SetHasModelView(false);
+    f.host.core.GetViewManager().RemoveView(&f.host.view);
+
+    QVERIFY(f.opHandler->GenerateGraphics(nullptr) == nullptr);
+    EXPECT_WARNING(f.host.warnings, L"pCtx为空", rules.NameOf("GenerateGraphics"));
+    QVERIFY(f.host.warnings.IsEmpty());
+
+    QVERIFY(f.opHandler->GenerateGraphics(&context) != nullptr);
+    EXPECT_WARNING(f.host.warnings, rules.wrongContext, rules.NameOf("GenerateGraphics"));
+    QVERIFY(f.host.warnings.IsEmpty());
 }
 
 void DimensionReportsTest::graphicsWithoutView_data()
@@ -224,6 +254,120 @@ void DimensionReportsTest::nothingOfOtherEvents()
 
     QVERIFY(f.opHandler->IsInputting());
     QCOMPARE(f.host.view.GetRedrawCount(), redrawCount);
+}
+
+void DimensionReportsTest::nothingOfWhatIsNoKeyPressWithoutAView_data()
+{
+    AddKindRows();
+}
+
+void DimensionReportsTest::nothingOfWhatIsNoKeyPressWithoutAView()
+{
+    FETCH_KIND(rules);
+    KindFixture f(rules.pCreateContext());
+    f.Type(rules.StartState(), "5");
+    f.host.core.GetViewManager().RemoveView(&f.host.view);
+    QKeyEvent release(QEvent::KeyRelease, Qt::Key_Escape, Qt::NoModifier);
+    QKeyEvent shortcut(QEvent::ShortcutOverride, Qt::Key_Escape, Qt::NoModifier);
+    QEvent fake(QEvent::KeyPress);
+    QEvent focusOut(QEvent::FocusOut);
+
+    QVERIFY(f.Object().eventFilter(f.Editor(), &release));
+    QVERIFY(!f.Object().eventFilter(f.Editor(), &shortcut));
+    QVERIFY(!f.Object().eventFilter(f.Editor(), &fake));
+    QVERIFY(!f.Object().eventFilter(f.Editor(), &focusOut));
+
+    QVERIFY(f.host.warnings.IsEmpty());
+    QVERIFY(f.opHandler->IsInputting());
+}
+
+void DimensionReportsTest::eventsOfAnObjectAreTaken_data()
+{
+    AddKindRows();
+}
+
+void DimensionReportsTest::eventsOfAnObjectAreTaken()
+{
+    FETCH_KIND(rules);
+    KindFixture f(rules.pCreateContext());
+    f.Type(rules.StartState(), "5");
+    f.SetState(InputState::IS_None);
+    QObject child;
+    QChildEvent added(QEvent::ChildAdded, &child);
+    QEvent polish(QEvent::Polish);
+
+    QVERIFY(f.Object().event(&added));
+    QVERIFY(!f.Object().event(&polish));
+
+    // What others have it do later, it does.
+    QMetaObject::invokeMethod(&f.Object(), "ResetEditorPosition", Qt::QueuedConnection);
+    QTRY_VERIFY(f.Editor()->isHidden());
+}
+
+/// A report, the source that makes it, and how to come by it.
+struct PlacedReport
+{
+    const char* row;
+    const char* file;
+    void (*pProvoke)(KindFixture& f);
+};
+
+const PlacedReport PlacedReports[]{
+    {"no context", "TemporaryDimensionHandlerGraphics.cpp",
+     [](KindFixture& f) { f.opHandler->GenerateGraphics(nullptr); }},
+    {"wrong context", "TemporaryDimensionHandlerGraphics.cpp",
+     [](KindFixture& f) {
+         f.opHandler->GenerateGraphics(std::make_unique<ForeignContext>().get());
+     }},
+    {"no model", "TemporaryDimensionHandlerGraphics.cpp",
+     [](KindFixture& f) {
+         f.host.view.SetHasModelView(false);
+         f.opHandler->GenerateGraphics(f.opContext.Get());
+     }},
+    {"no context to configure from", "TemporaryDimensionHandler.cpp",
+     [](KindFixture& f) { f.opHandler->UpdateConfig(nullptr); }},
+    {"wrong context to configure from", "LinearTemporaryDimensionHandler.cpp",
+     [](KindFixture& f) { f.opHandler->UpdateConfig(std::make_unique<ForeignContext>().get()); }},
+    {"no widget", "TemporaryDimensionHandler.cpp",
+     [](KindFixture& f) {
+         f.host.view.SetWindowId(0);
+         f.Handler().ShowInputWidget(InputState::IS_Length, false, true, L"5");
+     }},
+    {"wrong field", "TemporaryDimensionHandlerInput.cpp",
+     [](KindFixture& f) { f.Type(InputState::IS_Radius, "5"); }},
+    {"no key", "TemporaryDimensionHandlerKeys.cpp",
+     [](KindFixture& f) {
+         QEvent fake(QEvent::KeyPress);
+         f.Object().event(&fake);
+     }},
+    {"no context for the factory", "TemporaryDimensionHandlerFactory.cpp",
+     [](KindFixture&) {
+         TemporaryDimensionHandlerFactory::GetInstance()->UpdateOrCreateHandler(nullptr, nullptr);
+     }},
+};
+
+void DimensionReportsTest::reportsNameTheirPlace_data()
+{
+    QTest::addColumn<int>("report");
+    for (int i = 0; i < int(std::size(PlacedReports)); ++i)
+        QTest::newRow(PlacedReports[i].row) << i;
+}
+
+void DimensionReportsTest::reportsNameTheirPlace()
+{
+    QFETCH(int, report);
+    const PlacedReport& expected = PlacedReports[report];
+    HandlerFixture f;
+
+    expected.pProvoke(f);
+
+    const DebugWarning warning = f.host.warnings.TakeAny();
+    const QString file = QString::fromStdString(warning.file);
+    QVERIFY2(file.endsWith(QString("/TemporaryDimensionHandlersImpl/") + expected.file),
+             qPrintable(file));
+    QVERIFY(warning.line > 10);
+    QCOMPARE(warning.person, std::wstring(L"vesk-ui"));
+    QCOMPARE(warning.date, std::wstring(L"2026-11-21"));
 }
 
 }

@@ -53,8 +53,18 @@ private slots:
     void returnTakesWhatIsInRange();
     void tabUnmarksTheEditor_data();
     void tabUnmarksTheEditor();
+    void liveMarkIsThatOfTheField_data();
+    void liveMarkIsThatOfTheField();
+    void numbersAreThoseOfNoCountry_data();
+    void numbersAreThoseOfNoCountry();
     void keysDeliverRawText_data();
     void keysDeliverRawText();
+    void rawTextIsDeliveredToTheLetter_data();
+    void rawTextIsDeliveredToTheLetter();
+    void rawTextWithoutInputLeavesTheValidationAlone_data();
+    void rawTextWithoutInputLeavesTheValidationAlone();
+    void rawTextInAWrongStateEndsTheValidationToo_data();
+    void rawTextInAWrongStateEndsTheValidationToo();
 };
 
 void DimensionValueTest::fieldShowsTextOrValue_data()
@@ -256,6 +266,65 @@ void DimensionValueTest::tabUnmarksTheEditor()
     QCOMPARE(f.Editor()->toolTip(), QString());
 }
 
+void DimensionValueTest::liveMarkIsThatOfTheField_data()
+{
+    AddFieldRows();
+}
+
+void DimensionValueTest::liveMarkIsThatOfTheField()
+{
+    FETCH_FIELD(kind, field);
+    KindInputFixture f(kind);
+    f.Narrow();
+    f.Type(field.state, QString::number(field.range.GetMax() + 0.5));
+
+    f.opHandler->OnEditorReturnPressed();
+    QVERIFY(!f.Editor()->toolTip().isEmpty());
+
+    f.Editor()->setText(QString::number(field.range.GetMin()));
+    QCOMPARE(f.Editor()->toolTip(), QString());
+}
+
+/// Has numbers be written as in another country while it lives.
+class Country
+{
+public:
+    explicit Country(const QLocale& locale) { QLocale::setDefault(locale); }
+    ~Country() { QLocale::setDefault(m_before); }
+    Country(const Country&) = delete;
+    Country& operator=(const Country&) = delete;
+
+private:
+    QLocale m_before;
+};
+
+void DimensionValueTest::numbersAreThoseOfNoCountry_data()
+{
+    AddFieldRows();
+}
+
+void DimensionValueTest::numbersAreThoseOfNoCountry()
+{
+    FETCH_FIELD(kind, field);
+    const Country germany(QLocale(QLocale::German, QLocale::Germany));
+    QCOMPARE(QLocale().toString(1.5), QString("1,5"));
+    KindInputFixture f(kind);
+    f.Data()[field.state].value = 1234.5;
+    f.Type(field.state, "7,5");
+
+    f.opHandler->OnEditorReturnPressed();
+    // Where what is no number counts as 0, that is no length.
+    QVERIFY(f.Inputs().empty());
+    QCOMPARE(f.Editor()->selectedText(), QString("7,5"));
+
+    f.Handler().ShowInputWidget(field.state, true, false, L"");
+    QCOMPARE(f.Editor()->text(), QString::number(1234.5, 'f', field.decimals));
+    f.Editor()->setText("7.5");
+    f.opHandler->OnEditorReturnPressed();
+    QCOMPARE(f.Inputs().size(), std::size_t(1));
+    QCOMPARE(f.Inputs()[0].value, 7.5);
+}
+
 void DimensionValueTest::keysDeliverRawText_data()
 {
     QTest::addColumn<KindField>("kindField");
@@ -290,6 +359,83 @@ void DimensionValueTest::keysDeliverRawText()
     QCOMPARE(f.Inputs()[0].text, std::wstring(L"abc"));
     QCOMPARE(f.State(), stateAfter);
     QVERIFY(!f.IsValidatedLive());
+}
+
+void DimensionValueTest::rawTextIsDeliveredToTheLetter_data()
+{
+    QTest::addColumn<KindField>("kindField");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<double>("value");
+    for (const KindField& row : AllFields())
+    {
+        const auto add = [&row](const char* name, const QString& text, double value) {
+            QTest::addRow("%s, %s, %s", row.pKind->name, row.pField->name, name)
+                << row << text << value;
+        };
+        add("a number out of range", "-1e30", -1e30);
+        add("a number with zeros", "007.50", 7.5);
+        add("blanks and capitals", "  10 CM ", 0.0);
+        add("signs of all kinds", QString::fromUtf8("½·9′ \"ß¢"), 0.0);
+        add("nothing", "", 0.0);
+    }
+}
+
+void DimensionValueTest::rawTextIsDeliveredToTheLetter()
+{
+    FETCH_FIELD(kind, field);
+    QFETCH(QString, text);
+    QFETCH(double, value);
+    KindInputFixture f(kind);
+    f.Handler().SetRawTextInput(true);
+    f.Type(field.state, text);
+
+    f.opHandler->OnEditorReturnPressed();
+
+    QCOMPARE(f.Inputs().size(), std::size_t(1));
+    QCOMPARE(f.Inputs()[0].text, text.toStdWString());
+    QCOMPARE_EXACTLY(f.Inputs()[0].value, value);
+    QVERIFY(!f.Inputs()[0].extra.has_value());
+    QVERIFY(f.Handler().IsRawTextInput());
+}
+
+void DimensionValueTest::rawTextWithoutInputLeavesTheValidationAlone_data()
+{
+    AddKindRows();
+}
+
+void DimensionValueTest::rawTextWithoutInputLeavesTheValidationAlone()
+{
+    FETCH_KIND(rules);
+    KindInputFixture f(rules);
+    f.Handler().SetRawTextInput(true);
+    f.Type(rules.StartState(), "abc");
+    f.opHandler->EndInput();
+
+    f.FilterKey(Qt::Key_Return);
+    f.FilterKey(Qt::Key_Tab);
+
+    QVERIFY(f.IsValidatedLive());
+    QVERIFY(f.Inputs().empty());
+}
+
+void DimensionValueTest::rawTextInAWrongStateEndsTheValidationToo_data()
+{
+    AddKindRows();
+}
+
+void DimensionValueTest::rawTextInAWrongStateEndsTheValidationToo()
+{
+    FETCH_KIND(rules);
+    KindInputFixture f(rules);
+    f.Handler().SetRawTextInput(true);
+    f.Type(rules.StartState(), "abc");
+    f.SetState(InputState(7));
+
+    f.opHandler->OnEditorReturnPressed();
+
+    EXPECT_WARNING(f.host.warnings, rules.wrongState, rules.NameOf("OnEditorReturnPressed"));
+    QVERIFY(!f.IsValidatedLive());
+    QVERIFY(f.Inputs().empty());
 }
 
 }

@@ -27,6 +27,7 @@ VESK_EXPOSE(Style, TemporaryDimensionStyle, Base, m_style)
 VESK_EXPOSE(SavedContext, std::optional<InputContext>, Base, m_savedInputContext)
 VESK_EXPOSE(LengthEnabled, bool, Linear, m_isLengthEnabled)
 VESK_EXPOSE(AngleEnabled, bool, Linear, m_isAngleEnabled)
+VESK_EXPOSE(IsViewInput, bool, TemporaryDimensionHandleEditor, m_isViewInput)
 VESK_EXPOSE(CentralAngleShown, bool, Radius, m_isCentralAngleShown)
 
 class HandlerLayoutTest : public QObject
@@ -126,7 +127,12 @@ void HandlerLayoutTest::operationsOfTheWidgetSideFollowEachOther()
 
 void HandlerLayoutTest::theEditorAddsOneFlag()
 {
+    HandlerFixture f;
+    f.TypeLength("5");
+    const auto& editor = static_cast<const TemporaryDimensionHandleEditor&>(*f.Editor());
+
     QCOMPARE(sizeof(TemporaryDimensionHandleEditor), sizeof(QLineEdit) + sizeof(void*));
+    QVERIFY(editor.*MemberOf(IsViewInput()));
 }
 
 void HandlerLayoutTest::whatTheEditorCallsIsASlot_data()

@@ -18,6 +18,7 @@ private slots:
     void coincidingPointsHaveNoDimensions();
     void coincidingPointsNeedNoView();
     void configurationOfAForeignContextIsReported();
+    void configurationOfAForeignContextTakesItsRangesAndNoFlags();
     void configurationTakesTheFlagsOver();
     void failedConfigurationChangesNoFlags();
 };
@@ -99,6 +100,24 @@ void LinearDimensionGraphicsTest::configurationOfAForeignContextIsReported()
     QVERIFY(!f.opHandler->UpdateConfig(&context));
 
     EXPECT_WARNING(f.host.warnings, L"pLinearCtx为空。", std::string(LinearClass) + "UpdateConfig");
+}
+
+void LinearDimensionGraphicsTest::configurationOfAForeignContextTakesItsRangesAndNoFlags()
+{
+    HandlerFixture f(true, false);
+    const ForeignContext context;
+    f.host.BeginAction();
+
+    f.opHandler->UpdateConfig(&context);
+
+    f.host.warnings.TakeAny();
+    QCOMPARE(f.opHandler->GenerateGraphics(&f.context)->GetChildCount(), 1);
+    f.TypeLength("1.5");
+    f.opHandler->OnEditorReturnPressed();
+    QVERIFY(f.Inputs().empty());
+    f.Editor()->setText("1");
+    f.opHandler->OnEditorReturnPressed();
+    QCOMPARE(f.Inputs().size(), std::size_t(1));
 }
 
 void LinearDimensionGraphicsTest::configurationTakesTheFlagsOver()

@@ -23,6 +23,7 @@ class LinearDimensionInputTest : public QObject
 private slots:
     void readyEditorThatIsNotThereEndsTheInput();
     void fieldIsPlacedAndTheViewRefreshed();
+    void openEditorTakesTheFocusBack();
     void releasesAreSwallowed();
     void escapeEndsTheInputAndStopsThere();
     void otherKeysAndEventsAreTheEditors();
@@ -61,6 +62,18 @@ void LinearDimensionInputTest::fieldIsPlacedAndTheViewRefreshed()
     QCOMPARE(f.Editor()->pos(), position + QPoint(20, -10));
     QVERIFY(f.Editor()->isVisible());
     QCOMPARE(f.host.view.GetRedrawCount(), redrawCount + 1);
+}
+
+void LinearDimensionInputTest::openEditorTakesTheFocusBack()
+{
+    InputFixture f;
+    f.TypeLength("5");
+    QTRY_VERIFY(f.Editor()->hasFocus());
+    f.Editor()->clearFocus();
+
+    f.Handler().ShowInputWidget(InputState::IS_Angle, true, true, L"1");
+
+    QVERIFY(f.Editor()->hasFocus());
 }
 
 void LinearDimensionInputTest::releasesAreSwallowed()

@@ -20,6 +20,7 @@ private slots:
     void commaAloneOpensNothing();
     void keyOpensTheLengthWhenNeitherIsEnabledAndItIsReported();
     void neitherEnabledIsReportedForEveryKey();
+    void neitherEnabledIsReportedDuringAnInputToo();
     void otherKeyOnlyRefreshesTheView();
     void keyDuringAnInputOnlyRefreshesTheView_data();
     void keyDuringAnInputOnlyRefreshesTheView();
@@ -134,6 +135,19 @@ void LinearDimensionKeysTest::neitherEnabledIsReportedForEveryKey()
     EXPECT_WARNING(f.host.warnings, L"无法设置EnInputState的类型，将按IS_Length设置",
                    std::string(LinearClass) + "event");
     QVERIFY(!f.opHandler->IsInputting());
+}
+
+void LinearDimensionKeysTest::neitherEnabledIsReportedDuringAnInputToo()
+{
+    HandlerFixture f(false, false);
+    f.TypeLength("1");
+    QVERIFY(f.host.warnings.IsEmpty());
+
+    f.SendToHandler('5');
+
+    EXPECT_WARNING(f.host.warnings, L"无法设置EnInputState的类型，将按IS_Length设置",
+                   std::string(LinearClass) + "event");
+    QCOMPARE(f.Editor()->text(), QString("1"));
 }
 
 void LinearDimensionKeysTest::otherKeyOnlyRefreshesTheView()

@@ -44,6 +44,7 @@ private slots:
     void showsWhatThereIsWhenALineFails();
     void configurationTakesTheFlagOver();
     void configurationOfAForeignContextIsReported();
+    void configurationOfAForeignContextTakesItsRanges();
     void whatIsNoNumberCountsAsZero();
 };
 
@@ -142,6 +143,23 @@ void RadiusDimensionTest::configurationOfAForeignContextIsReported()
 
     EXPECT_WARNING(f.host.warnings, L"pRadiusCtx为空。", std::string(RadiusClass) + "UpdateConfig");
     QCOMPARE(f.opHandler->GenerateGraphics(&f.context)->GetChildCount(), 4);
+}
+
+void RadiusDimensionTest::configurationOfAForeignContextTakesItsRanges()
+{
+    RadiusFixture f;
+    const ForeignContext context;
+    f.host.BeginAction();
+
+    f.opHandler->UpdateConfig(&context);
+
+    f.host.warnings.TakeAny();
+    f.Type(InputState::IS_Radius, "1.5");
+    f.opHandler->OnEditorReturnPressed();
+    QVERIFY(f.Inputs().empty());
+    f.Editor()->setText("1");
+    f.opHandler->OnEditorReturnPressed();
+    QCOMPARE(f.Inputs().size(), std::size_t(1));
 }
 
 void RadiusDimensionTest::whatIsNoNumberCountsAsZero()

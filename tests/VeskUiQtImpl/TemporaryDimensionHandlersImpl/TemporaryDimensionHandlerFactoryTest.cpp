@@ -50,6 +50,7 @@ class TemporaryDimensionHandlerFactoryTest : public QObject
 
 private slots:
     void needsAContext();
+    void reportsNoMissingViewWithoutAContext();
     void needsACurrentView();
     void needsAViewManager();
     void makesAConfiguredHandlerOfTheRightKind_data();
@@ -57,6 +58,8 @@ private slots:
     void keepsAHandlerThatFits_data();
     void keepsAHandlerThatFits();
     void configuresAHandlerThatItKeeps();
+    void leavesAHandlerThatItReplacesAlone();
+    void isTheSameEachTime();
     void replacesAHandlerOfAnotherClass();
     void reportsAContextThatNoHandlerFits();
     void keepsQuietAboutAHandlerThatDoesNotFitAnUnknownContext();
@@ -72,6 +75,19 @@ void TemporaryDimensionHandlerFactoryTest::needsAContext()
     QVERIFY(Factory().UpdateOrCreateHandler(nullptr, nullptr) == nullptr);
 
     EXPECT_WARNING(host.warnings, L"pCtx为空!", Function);
+}
+
+void TemporaryDimensionHandlerFactoryTest::reportsNoMissingViewWithoutAContext()
+{
+    HandlerFixture f;
+    f.host.core.GetViewManager().SetCurrentView(nullptr);
+
+    QVERIFY(Factory().UpdateOrCreateHandler(nullptr, f.opHandler.Get()) == nullptr);
+    EXPECT_WARNING(f.host.warnings, L"pCtx为空!", Function);
+    QVERIFY(f.host.warnings.IsEmpty());
+
+    QVERIFY(Factory().UpdateOrCreateHandler(&f.context, f.opHandler.Get()) == nullptr);
+    EXPECT_WARNING(f.host.warnings, L"pCurrentView为空", Function);
 }
 
 void TemporaryDimensionHandlerFactoryTest::needsACurrentView()
@@ -177,6 +193,25 @@ void TemporaryDimensionHandlerFactoryTest::configuresAHandlerThatItKeeps()
 
     QVERIFY(opNew == nullptr);
     QVERIFY(IsConfigured(*f.opHandler, f.context));
+}
+
+void TemporaryDimensionHandlerFactoryTest::leavesAHandlerThatItReplacesAlone()
+{
+    HandlerFixture f;
+    f.context.SetFirstValueRange({5, 10});
+    f.Configure();
+    const auto opContext = CreateRectangle();
+
+    const auto opNew = Factory().UpdateOrCreateHandler(opContext.Get(), f.opHandler.Get());
+
+    QVERIFY(opNew != nullptr);
+    QVERIFY(IsConfigured(*f.opHandler, f.context));
+}
+
+void TemporaryDimensionHandlerFactoryTest::isTheSameEachTime()
+{
+    QCOMPARE(TemporaryDimensionHandlerFactory::GetInstance(),
+             TemporaryDimensionHandlerFactory::GetInstance());
 }
 
 void TemporaryDimensionHandlerFactoryTest::replacesAHandlerOfAnotherClass()

@@ -1,4 +1,4 @@
-#include "TemporaryDimensionHandlersImpl/HandlerFixture.h"
+#include "TemporaryDimensionHandlersImpl/LifetimeFixture.h"
 
 #include "Journal/NqIJournalFactory.h"
 #include "Support/HostValues.h"
@@ -25,13 +25,19 @@ private slots:
     void startsWithoutInputAndEditor();
     void endingWithoutEditorOnlyResetsTheState();
     void endingHidesTheEditorAndTakesItsFocus();
+    void endingLeavesTheText();
+    void inputHasEndedBeforeTheFocusGoes();
+    void inputHasBegunBeforeTheEditorShows();
     void hasFocusWhenTheEditorHasIt();
+    void hasNoFocusInAnEditorThatIsOnlyShown();
     void theEditorIsAFramelessDialogOfTheView();
     void theEditorHasTheSizeOfTheStyle();
     void theEditorLooksAsItShould();
     void theEditorTakesTheFocus();
     void theEditorsWindowBecomesActiveAgain();
     void theEditorIsSharedByTheHandlersOfAView();
+    void theNextHandlerBringsASharedEditorInOrder();
+    void theNextHandlerIsTheEditorsFilter();
     void theEditorIsFoundDeepInTheView();
     void theEditorOutlivesItsHandler();
     void theEditorFollowsTheCurrentView();
@@ -117,6 +123,49 @@ void TemporaryDimensionHandlerTest::endingHidesTheEditorAndTakesItsFocus()
     QVERIFY(!f.opHandler->HasEditorFocus());
 }
 
+void TemporaryDimensionHandlerTest::endingLeavesTheText()
+{
+    HandlerFixture f;
+    f.TypeLength("5");
+
+    f.opHandler->EndInput();
+    f.opHandler->EndInput();
+
+    QCOMPARE(f.Editor()->text(), QString("5"));
+    QVERIFY(f.Editor()->isEnabled());
+}
+
+void TemporaryDimensionHandlerTest::inputHasEndedBeforeTheFocusGoes()
+{
+    HandlerFixture f;
+    f.TypeLength("5");
+    QTRY_VERIFY(f.Editor()->hasFocus());
+    bool wasInputting = true;
+    bool wasVisible = false;
+    const EventTrap trap(f.Editor(), QEvent::FocusOut, [&] {
+        wasInputting = f.opHandler->IsInputting();
+        wasVisible = f.Editor()->isVisible();
+    });
+
+    f.opHandler->EndInput();
+
+    QVERIFY(!wasInputting);
+    QVERIFY(wasVisible);
+}
+
+void TemporaryDimensionHandlerTest::inputHasBegunBeforeTheEditorShows()
+{
+    HandlerFixture f;
+    f.TypeLength("5");
+    f.opHandler->EndInput();
+    InputState stateAtShow = InputState::IS_None;
+    const EventTrap trap(f.Editor(), QEvent::Show, [&] { stateAtShow = f.State(); });
+
+    f.Type(InputState::IS_Angle, "6");
+
+    QCOMPARE(stateAtShow, InputState::IS_Angle);
+}
+
 void TemporaryDimensionHandlerTest::hasFocusWhenTheEditorHasIt()
 {
     HandlerFixture f;
@@ -124,6 +173,18 @@ void TemporaryDimensionHandlerTest::hasFocusWhenTheEditorHasIt()
     f.TypeLength("5");
 
     QTRY_VERIFY(f.opHandler->HasEditorFocus());
+}
+
+void TemporaryDimensionHandlerTest::hasNoFocusInAnEditorThatIsOnlyShown()
+{
+    HandlerFixture f;
+    f.TypeLength("5");
+    QTRY_VERIFY(f.opHandler->HasEditorFocus());
+
+    f.Editor()->clearFocus();
+
+    QVERIFY(f.Editor()->isVisible());
+    QVERIFY(!f.opHandler->HasEditorFocus());
 }
 
 void TemporaryDimensionHandlerTest::theEditorIsAFramelessDialogOfTheView()
@@ -206,6 +267,46 @@ void TemporaryDimensionHandlerTest::theEditorIsSharedByTheHandlersOfAView()
     QCOMPARE(f.host.view.findChildren<QLineEdit*>().size(), 1);
     QCOMPARE(f.Editor()->text(), QString("6"));
     QVERIFY(f.Editor()->isVisible());
+}
+
+void TemporaryDimensionHandlerTest::theNextHandlerBringsASharedEditorInOrder()
+{
+    HandlerFixture f;
+    f.TypeLength("5");
+    const QString styleSheet = f.Editor()->styleSheet();
+    const QSize size = f.Editor()->size();
+    f.Editor()->setStyleSheet({});
+    QPalette palette = f.Editor()->palette();
+    palette.setBrush(QPalette::Base, Qt::red);
+    palette.setBrush(QPalette::Highlight, Qt::green);
+    f.Editor()->setPalette(palette);
+    f.Editor()->setFixedSize(10, 10);
+    f.Editor()->setWindowFlags(Qt::Tool);
+
+    f.opHandler = f.CreateHandler();
+    f.TypeLength("6");
+
+    QCOMPARE(f.Editor()->styleSheet(), styleSheet);
+    QCOMPARE(f.Editor()->size(), size);
+    QCOMPARE(f.Editor()->palette().brush(QPalette::Base), QBrush(Qt::white));
+    QCOMPARE(f.Editor()->palette().brush(QPalette::Highlight), QBrush(Qt::green));
+    QCOMPARE(int(f.Editor()->windowFlags() & Qt::WindowType_Mask), int(Qt::Tool));
+    QCOMPARE(f.host.journal.GetUiObjects().size(), std::size_t(2));
+    QCOMPARE(f.host.journal.GetUiObjects()[1].pObject, f.Editor());
+}
+
+void TemporaryDimensionHandlerTest::theNextHandlerIsTheEditorsFilter()
+{
+    HandlerFixture f;
+    f.TypeLength("5");
+    f.opHandler = f.CreateHandler();
+    f.host.BeginAction();
+    f.TypeLength("6");
+
+    QTest::keyClick(f.Editor(), Qt::Key_Return);
+
+    QCOMPARE(f.Inputs().size(), std::size_t(1));
+    QVERIFY(f.Editor()->isHidden());
 }
 
 void TemporaryDimensionHandlerTest::theEditorIsFoundDeepInTheView()
