@@ -386,7 +386,13 @@ void DimensionHandlerBaseTest::viewKeyBecomesAKeyPress_data()
     QTest::addColumn<bool>("hasText");
     QTest::addColumn<QString>("text");
     QTest::newRow("digit") << int('7') << true << "7";
+    QTest::newRow("first digit") << int('0') << true << "0";
+    QTest::newRow("last digit") << int('9') << true << "9";
     QTest::newRow("letter") << int('M') << true << "m";
+    QTest::newRow("first letter") << int('A') << true << "a";
+    QTest::newRow("last letter") << int('Z') << true << "z";
+    QTest::newRow("first digit of the keypad") << 96 << true << "0";
+    QTest::newRow("last digit of the keypad") << 105 << true << "9";
     QTest::newRow("keypad digit") << 103 << true << "7";
     QTest::newRow("minus") << 189 << true << "-";
     QTest::newRow("keypad minus") << 109 << true << "-";

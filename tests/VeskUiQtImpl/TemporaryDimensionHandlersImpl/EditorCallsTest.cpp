@@ -65,6 +65,19 @@ void QObject::installEventFilter(QObject* pFilter)
     Next<void (*)(QObject*, QObject*)>("_ZN7QObject18installEventFilterEPS_")(this, pFilter);
 }
 
+bool QObject::event(QEvent* pEvent)
+{
+    if (IsHandler(this) && pEvent->type() == QEvent::KeyPress)
+    {
+        const auto& key = static_cast<const QKeyEvent&>(*pEvent);
+        Note(QString("key %1, modifiers 0x%2, text '%3'")
+                 .arg(key.key())
+                 .arg(int(key.modifiers()), 0, 16)
+                 .arg(key.text()));
+    }
+    return Next<bool (*)(QObject*, QEvent*)>("_ZN7QObject5eventEP6QEvent")(this, pEvent);
+}
+
 void QObject::setObjectName(const QString& name)
 {
     NoteOf(this, "name " + name);
@@ -260,6 +273,8 @@ private slots:
     void tabDeliversToTheHandlersViewAndShowsTheOtherField();
     void rawTextIsDeliveredWithoutValidators();
     void viewsAreOnlyRefreshedByOtherKeys();
+    void viewKeysReachTheObjectWithTheirModifiers_data();
+    void viewKeysReachTheObjectWithTheirModifiers();
 };
 
 void EditorCallsTest::newEditorIsMadeStyledAndShown()
@@ -366,7 +381,7 @@ void EditorCallsTest::returnRefusesAndSelects()
     f.opHandler->OnEditorReturnPressed();
     f.SendToHandler(Qt::Key_F5);
 
-    QCOMPARE(s_notes, QStringList({"validator", "select all", "refresh view 1"}));
+    QCOMPARE(s_notes.mid(0, 3), QStringList({"validator", "select all", "refresh view 1"}));
 }
 
 void EditorCallsTest::tabDeliversToTheHandlersViewAndShowsTheOtherField()
@@ -408,7 +423,39 @@ void EditorCallsTest::viewsAreOnlyRefreshedByOtherKeys()
     f.SendToHandler('7');
     f.FilterKey(Qt::Key_7);
 
-    QCOMPARE(s_notes, QStringList({"refresh view 1"}));
+    QCOMPARE(s_notes, QStringList({"refresh view 1", "key 55, modifiers 0x0, text ''"}));
+}
+
+void EditorCallsTest::viewKeysReachTheObjectWithTheirModifiers_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<int>("flag");
+    QTest::addColumn<QString>("modifiers");
+    for (std::size_t kind = 0; kind < AllKinds().size(); ++kind)
+    {
+        const char* name = AllKinds()[kind].name;
+        QTest::addRow("%s, none", name) << int(kind) << 0 << "0x0";
+        QTest::addRow("%s, Ctrl", name) << int(kind) << 1 << "0x4000000";
+        QTest::addRow("%s, Alt", name) << int(kind) << 2 << "0x8000000";
+        QTest::addRow("%s, Shift", name) << int(kind) << 3 << "0x2000000";
+    }
+}
+
+/// A key during an input is a plain object's; only kinds with letters give it its text.
+void EditorCallsTest::viewKeysReachTheObjectWithTheirModifiers()
+{
+    FETCH_KIND(rules);
+    QFETCH(int, flag);
+    QFETCH(QString, modifiers);
+    KindFixture f(rules.pCreateContext());
+    f.Type(rules.StartState(), "5");
+    const Noting noting;
+
+    f.opHandler->OnKeyDown('7', flag == 1, flag == 2, flag == 3);
+
+    const QString text = rules.Has(OpensWithLetters) ? "7" : "";
+    const QString key = QString("key 55, modifiers %1, text '%2'").arg(modifiers, text);
+    QCOMPARE(s_notes, QStringList({"refresh view 1", key}));
 }
 
 }

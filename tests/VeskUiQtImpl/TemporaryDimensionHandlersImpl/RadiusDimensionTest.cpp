@@ -40,6 +40,8 @@ private slots:
     void showsLinesAndCentralAngleWhenAsked();
     void showsNoCentralAngleWhereThereIsNone_data();
     void showsNoCentralAngleWhereThereIsNone();
+    void centralAngleIsThereWhereverThePointsAre_data();
+    void centralAngleIsThereWhereverThePointsAre();
     void showsWhatThereIsWhenALineFails_data();
     void showsWhatThereIsWhenALineFails();
     void configurationTakesTheFlagOver();
@@ -101,6 +103,28 @@ void RadiusDimensionTest::showsNoCentralAngleWhereThereIsNone()
 
     QCOMPARE(f.recorder.GetCalls().size(), std::size_t(hasAngle ? 2 : 1));
     QCOMPARE(opGroup->GetChildCount(), hasAngle ? 4 : 3);
+}
+
+void RadiusDimensionTest::centralAngleIsThereWhereverThePointsAre_data()
+{
+    QTest::addColumn<Vector3d>("third");
+    QTest::addColumn<bool>("hasAngle");
+    QTest::newRow("on one line") << Vector3d(4, 0, 0) << false;
+    QTest::newRow("off the line") << Vector3d(4, 1, 0) << true;
+}
+
+void RadiusDimensionTest::centralAngleIsThereWhereverThePointsAre()
+{
+    QFETCH(Vector3d, third);
+    QFETCH(bool, hasAngle);
+    RadiusFixture f(true);
+    const Vector3d first(7, 3, 2);
+    const RadiusTemporaryDimensionContext context(TiltedPlane(), first, first + Second,
+                                                  first + third);
+
+    f.opHandler->GenerateGraphics(&context);
+
+    QCOMPARE(f.recorder.GetCalls().size(), std::size_t(hasAngle ? 2 : 1));
 }
 
 void RadiusDimensionTest::showsWhatThereIsWhenALineFails_data()
