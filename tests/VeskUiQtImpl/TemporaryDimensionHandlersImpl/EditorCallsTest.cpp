@@ -273,6 +273,7 @@ private slots:
     void tabDeliversToTheHandlersViewAndShowsTheOtherField();
     void rawTextIsDeliveredWithoutValidators();
     void viewsAreOnlyRefreshedByOtherKeys();
+    void nothingElseTouchesTheEditor();
     void viewKeysReachTheObjectWithTheirModifiers_data();
     void viewKeysReachTheObjectWithTheirModifiers();
 };
@@ -424,6 +425,24 @@ void EditorCallsTest::viewsAreOnlyRefreshedByOtherKeys()
     f.FilterKey(Qt::Key_7);
 
     QCOMPARE(s_notes, QStringList({"refresh view 1", "key 55, modifiers 0x0, text ''"}));
+}
+
+void EditorCallsTest::nothingElseTouchesTheEditor()
+{
+    CallsFixture f;
+    f.TypeLength("5");
+    f.MakeOtherCurrent();
+    const Noting noting;
+
+    f.opHandler->GenerateGraphics(&f.context);
+    f.opHandler->UpdateConfig(&f.context);
+    f.opHandler->IsInputting();
+    f.opHandler->HasEditorFocus();
+    f.opHandler->OnKeyDown(Qt::Key_F5, false, false, false);
+    f.Handler().SetRawTextInput(true);
+
+    QCOMPARE(s_notes, QStringList());
+    QVERIFY(f.IsValidatedLive());
 }
 
 void EditorCallsTest::viewKeysReachTheObjectWithTheirModifiers_data()

@@ -125,6 +125,7 @@ void LinearDimensionGraphicsTest::configurationTakesTheFlagsOver()
     HandlerFixture f(true, false);
     QCOMPARE(f.opHandler->GenerateGraphics(&f.context)->GetChildCount(), 1);
     f.context.SetAngleEnabled(true);
+    QCOMPARE(f.opHandler->GenerateGraphics(&f.context)->GetChildCount(), 1);
 
     QVERIFY(f.opHandler->UpdateConfig(&f.context));
 

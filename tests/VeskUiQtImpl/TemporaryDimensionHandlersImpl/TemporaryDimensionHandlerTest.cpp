@@ -40,6 +40,7 @@ private slots:
     void theNextHandlerIsTheEditorsFilter();
     void theEditorIsFoundDeepInTheView();
     void theEditorOutlivesItsHandler();
+    void aHandlerThatIsMadeTouchesNothing();
     void theEditorFollowsTheCurrentView();
     void theEditorStaysInItsViewWhenNoneIsCurrent();
     void theJournalLearnsOfTheEditor();
@@ -329,10 +330,31 @@ void TemporaryDimensionHandlerTest::theEditorOutlivesItsHandler()
     HandlerFixture f;
     f.TypeLength("5");
     const QPointer<QLineEdit> pEditor(f.Editor());
+    const int redrawCount = f.host.view.GetRedrawCount();
 
     f.opHandler.Reset();
 
     QVERIFY(pEditor != nullptr);
+    QCOMPARE(f.Editor(), pEditor.data());
+    QVERIFY(pEditor->isVisible());
+    QCOMPARE(pEditor->text(), QString("5"));
+    QCOMPARE(f.host.view.GetRedrawCount(), redrawCount);
+}
+
+void TemporaryDimensionHandlerTest::aHandlerThatIsMadeTouchesNothing()
+{
+    HandlerFixture f;
+    f.TypeLength("5");
+    f.opHandler->EndInput();
+    const int redrawCount = f.host.view.GetRedrawCount();
+
+    const auto opHandler = f.CreateHandler();
+
+    QVERIFY(!opHandler->IsInputting());
+    QVERIFY(f.Editor()->isHidden());
+    QCOMPARE(f.Editor()->text(), QString("5"));
+    QCOMPARE(f.host.view.GetRedrawCount(), redrawCount);
+    QCOMPARE(f.host.journal.GetUiObjects().size(), std::size_t(1));
 }
 
 void TemporaryDimensionHandlerTest::theEditorFollowsTheCurrentView()
@@ -552,9 +574,15 @@ void TemporaryDimensionHandlerTest::configurationNeedsAContext()
 {
     HandlerFixture f;
 
+    f.context.SetFirstValueRange({5, 10});
+    f.Configure();
+
     QVERIFY(!f.opHandler->UpdateConfig(nullptr));
 
     EXPECT_WARNING(f.host.warnings, L"pCtx为空。", std::string(BaseClass) + "UpdateConfig");
+    const NumberValidator<double>& first = f.Handler().*MemberOf(FirstValidator());
+    QCOMPARE_EXACTLY(first.GetBottom(), 5);
+    QCOMPARE_EXACTLY(first.GetTop(), 10);
 }
 
 void TemporaryDimensionHandlerTest::configurationTakesBothRangesOver()
