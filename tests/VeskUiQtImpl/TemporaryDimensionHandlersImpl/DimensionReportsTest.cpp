@@ -23,6 +23,8 @@ private slots:
     void graphicsWithoutModelView();
     void configurationWithoutContext_data();
     void configurationWithoutContext();
+    void nothingOfAConfigurationThatFits_data();
+    void nothingOfAConfigurationThatFits();
     void statesOfOtherKinds_data();
     void statesOfOtherKinds();
     void valueInAStateOfAnotherKind_data();
@@ -146,6 +148,21 @@ void DimensionReportsTest::configurationWithoutContext()
     QVERIFY(!f.opHandler->UpdateConfig(nullptr));
 
     EXPECT_WARNING(f.host.warnings, L"pCtx为空。", std::string(BaseClass) + "UpdateConfig");
+}
+
+void DimensionReportsTest::nothingOfAConfigurationThatFits_data()
+{
+    AddKindRows();
+}
+
+void DimensionReportsTest::nothingOfAConfigurationThatFits()
+{
+    FETCH_KIND(rules);
+    KindFixture f(rules.pCreateContext());
+
+    QVERIFY(f.opHandler->UpdateConfig(f.opContext.Get()));
+
+    QVERIFY(f.host.warnings.IsEmpty());
 }
 
 void DimensionReportsTest::statesOfOtherKinds_data()

@@ -198,13 +198,14 @@ void LinearDimensionKeysTest::eventThatIsNoKeyIsNotReportedAsOneWithoutAField()
 
 void LinearDimensionKeysTest::otherEventsAreThoseOfAPlainObject()
 {
-    HandlerFixture f;
+    HandlerFixture f(false, false);
     QKeyEvent release(QEvent::KeyRelease, '5', Qt::NoModifier);
     QEvent fontChange(QEvent::FontChange);
 
     QVERIFY(!f.Object().event(&release));
     QVERIFY(!f.Object().event(&fontChange));
 
+    QVERIFY(f.host.warnings.IsEmpty());
     QVERIFY(!f.opHandler->IsInputting());
     QCOMPARE(f.host.view.GetRedrawCount(), 0);
 }
