@@ -5,6 +5,7 @@
 
 #include "Support/TestValues.h"
 
+#include <QInputMethod>
 #include <QStringList>
 
 #include <dlfcn.h>
@@ -15,6 +16,9 @@ namespace
 /// What handlers asked of the toolkit and of the host while notes are taken, in order.
 QStringList s_notes;
 bool s_isNoting = false;
+
+/// How often the input method was told to ask whether it is wanted.
+int s_inputMethodUpdateCount = 0;
 
 void Note(const QString& what)
 {
@@ -154,6 +158,13 @@ void QWidget::setPalette(const QPalette& palette)
     Next<void (*)(QWidget*, const QPalette&)>("_ZN7QWidget10setPaletteERK8QPalette")(this, palette);
 }
 
+void QInputMethod::update(Qt::InputMethodQueries queries)
+{
+    s_inputMethodUpdateCount += queries == Qt::ImEnabled ? 1 : 0;
+    using Function = void (*)(QInputMethod*, Qt::InputMethodQueries);
+    Next<Function>("_ZN12QInputMethod6updateE6QFlagsIN2Qt16InputMethodQueryEE")(this, queries);
+}
+
 void QLineEdit::setText(const QString& text)
 {
     NoteOf(this, "text " + text);
@@ -274,6 +285,7 @@ private slots:
     void rawTextIsDeliveredWithoutValidators();
     void viewsAreOnlyRefreshedByOtherKeys();
     void nothingElseTouchesTheEditor();
+    void inputMethodLearnsThatItIsOffAndOn();
     void viewKeysReachTheObjectWithTheirModifiers_data();
     void viewKeysReachTheObjectWithTheirModifiers();
 };
@@ -443,6 +455,19 @@ void EditorCallsTest::nothingElseTouchesTheEditor()
 
     QCOMPARE(s_notes, QStringList());
     QVERIFY(f.IsValidatedLive());
+}
+
+void EditorCallsTest::inputMethodLearnsThatItIsOffAndOn()
+{
+    CallsFixture f;
+    f.opHandler.Reset();
+    s_inputMethodUpdateCount = 0;
+
+    auto opHandler = f.CreateHandler();
+    QCOMPARE(s_inputMethodUpdateCount, 1);
+
+    opHandler.Reset();
+    QCOMPARE(s_inputMethodUpdateCount, 2);
 }
 
 void EditorCallsTest::viewKeysReachTheObjectWithTheirModifiers_data()
