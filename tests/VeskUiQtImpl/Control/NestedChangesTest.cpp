@@ -9,8 +9,8 @@
 #include "Control/RadioButtonGroupDefinition.h"
 #include "Control/VeskIControlFactory.h"
 #include "Support/HostFixture.h"
-
 #include "Support/TestValues.h"
+
 #include <QAbstractButton>
 #include <QMenu>
 #include <QToolButton>

@@ -283,7 +283,6 @@ private slots:
     void returnRefusesAndSelects();
     void tabDeliversToTheHandlersViewAndShowsTheOtherField();
     void rawTextIsDeliveredWithoutValidators();
-    void viewsAreOnlyRefreshedByOtherKeys();
     void nothingElseTouchesTheEditor();
     void inputMethodLearnsThatItIsOffAndOn();
     void viewKeysReachTheObjectWithTheirModifiers_data();
@@ -424,19 +423,6 @@ void EditorCallsTest::rawTextIsDeliveredWithoutValidators()
     QCOMPARE(s_notes, QStringList({"value of kind and view 1 1", "text 53.13", "select all", "show",
                                    "focus for reason 7", "move", "refresh view 1", "no focus",
                                    "hide", "value of kind and view 9 1"}));
-}
-
-void EditorCallsTest::viewsAreOnlyRefreshedByOtherKeys()
-{
-    CallsFixture f;
-    f.TypeLength("5");
-    f.MakeOtherCurrent();
-    const Noting noting;
-
-    f.SendToHandler('7');
-    f.FilterKey(Qt::Key_7);
-
-    QCOMPARE(s_notes, QStringList({"refresh view 1", "key 55, modifiers 0x0, text ''"}));
 }
 
 void EditorCallsTest::nothingElseTouchesTheEditor()

@@ -146,6 +146,10 @@ private slots:
     void viewGetsEscapeItselfAndNothingElseOfIt();
     void escapeTellsOfAnInputThatBeganMeanwhile_data();
     void escapeTellsOfAnInputThatBeganMeanwhile();
+    void editorMayDieOnceItIsShown_data();
+    void editorMayDieOnceItIsShown();
+    void readyEditorMayDieOnceItIsShown_data();
+    void readyEditorMayDieOnceItIsShown();
 };
 
 void AddDeathColumns()
@@ -311,6 +315,61 @@ void EditorKeyDeathTest::escapeTellsOfAnInputThatBeganMeanwhile()
     QVERIFY(f.FilterKey(Qt::Key_Escape));
 
     QCOMPARE(f.State(), rules.StartState());
+}
+
+/// A row for each kind and victim.
+void AddVictimRows()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QString>("victim");
+    for (std::size_t kind = 0; kind < AllKinds().size(); ++kind)
+    {
+        for (const char* victim : {"handler", "editor", "view"})
+            QTest::addRow("%s, %s", AllKinds()[kind].name, victim) << int(kind) << QString(victim);
+    }
+}
+
+void EditorKeyDeathTest::editorMayDieOnceItIsShown_data()
+{
+    AddVictimRows();
+}
+
+void EditorKeyDeathTest::editorMayDieOnceItIsShown()
+{
+    FETCH_KIND(rules);
+    QFETCH(QString, victim);
+    LifetimeFixture f(rules);
+    f.TypeFirst("5");
+    f.opHandler->EndInput();
+    const EventTrap trap(f.Editor(), QEvent::ShowToParent, [&] { f.Kill(victim); });
+
+    QVERIFY(f.SendToHandler('6'));
+
+    QCOMPARE(f.Editor() == nullptr, victim != "handler");
+    QVERIFY(f.opHandler == nullptr || !f.opHandler->IsInputting());
+    QCOMPARE(f.host.journal.GetUiObjects().size(), std::size_t(1));
+}
+
+void EditorKeyDeathTest::readyEditorMayDieOnceItIsShown_data()
+{
+    AddVictimRows();
+}
+
+void EditorKeyDeathTest::readyEditorMayDieOnceItIsShown()
+{
+    FETCH_KIND(rules);
+    QFETCH(QString, victim);
+    LifetimeFixture f(rules);
+    f.TypeFirst("5");
+    f.Editor()->hide();
+    const EventTrap trap(f.Editor(), QEvent::ShowToParent, [&] { f.Kill(victim); });
+
+    f.Handler().ShowInputWidget(rules.StartState(), true, true, L"6");
+
+    QCOMPARE(f.Editor() == nullptr, victim != "handler");
+    QCOMPARE(f.opHandler == nullptr, victim == "handler");
+    if (f.opHandler != nullptr)
+        f.UseHandler();
 }
 
 }

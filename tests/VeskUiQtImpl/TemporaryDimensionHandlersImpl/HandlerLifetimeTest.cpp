@@ -31,10 +31,6 @@ private slots:
     void handlerMayDieWhenTheEditorIsShown();
     void handlerMayDieWhenAReadyEditorIsShown_data();
     void handlerMayDieWhenAReadyEditorIsShown();
-    void editorMayDieOnceItIsShown_data();
-    void editorMayDieOnceItIsShown();
-    void readyEditorMayDieOnceItIsShown_data();
-    void readyEditorMayDieOnceItIsShown();
     void inputThatEndsWhenTheEditorIsShownStaysEnded_data();
     void inputThatEndsWhenTheEditorIsShownStaysEnded();
     void deathWhenAKeyIsReported_data();
@@ -300,50 +296,6 @@ void HandlerLifetimeTest::handlerMayDieWhenAReadyEditorIsShown()
 
     QVERIFY(f.opHandler == nullptr);
     QCOMPARE(f.pView->GetRedrawCount(), redrawCount);
-}
-
-void HandlerLifetimeTest::editorMayDieOnceItIsShown_data()
-{
-    AddDeathRows({{"digit", '6'}});
-}
-
-void HandlerLifetimeTest::editorMayDieOnceItIsShown()
-{
-    FETCH_KIND(rules);
-    QFETCH(int, key);
-    QFETCH(QString, victim);
-    LifetimeFixture f(rules);
-    f.TypeFirst("5");
-    f.opHandler->EndInput();
-    const EventTrap trap(f.Editor(), QEvent::ShowToParent, [&] { f.Kill(victim); });
-
-    QVERIFY(f.SendToHandler(key));
-
-    QCOMPARE(f.Editor() == nullptr, victim != "handler");
-    QVERIFY(f.opHandler == nullptr || !f.opHandler->IsInputting());
-    QCOMPARE(f.host.journal.GetUiObjects().size(), std::size_t(1));
-}
-
-void HandlerLifetimeTest::readyEditorMayDieOnceItIsShown_data()
-{
-    AddDeathRows({{"digit", '6'}});
-}
-
-void HandlerLifetimeTest::readyEditorMayDieOnceItIsShown()
-{
-    FETCH_KIND(rules);
-    QFETCH(QString, victim);
-    LifetimeFixture f(rules);
-    f.TypeFirst("5");
-    f.Editor()->hide();
-    const EventTrap trap(f.Editor(), QEvent::ShowToParent, [&] { f.Kill(victim); });
-
-    f.Handler().ShowInputWidget(rules.StartState(), true, true, L"6");
-
-    QCOMPARE(f.Editor() == nullptr, victim != "handler");
-    QCOMPARE(f.opHandler == nullptr, victim == "handler");
-    if (f.opHandler != nullptr)
-        f.UseHandler();
 }
 
 void HandlerLifetimeTest::inputThatEndsWhenTheEditorIsShownStaysEnded_data()

@@ -3,7 +3,6 @@
 #include "Journal/NqIJournalFactory.h"
 #include "Support/HostValues.h"
 #include "Support/TestValues.h"
-#include "View/UiViewUtility.h"
 
 #include <QMetaMethod>
 
@@ -47,15 +46,7 @@ private slots:
     void withoutAJournalTheEditorWorksAndItIsReported();
     void withoutAViewNoInputBegins();
     void withoutAViewWidgetNoInputBegins();
-    void theEditorIsCentredOnItsPoint_data();
-    void theEditorIsCentredOnItsPoint();
-    void theEditorOfAnEmbeddedViewIsParkedFarOff();
-    void placingWithoutAnEditorDoesNothing();
-    void placingWithoutAViewDoesNothing();
     void textOfAnyLengthIsDeliveredWhole();
-    void placingWithoutAViewWidgetIsReported();
-    void placingWithoutInputEndsIt();
-    void placingInAnUnknownStateIsReported();
     void configurationNeedsAContext();
     void configurationTakesBothRangesOver();
     void valuesAreShownWithThreeDecimalsWhenValidated();
@@ -437,84 +428,6 @@ void TemporaryDimensionHandlerTest::withoutAViewWidgetNoInputBegins()
     QCOMPARE(f.host.view.GetRedrawCount(), redrawCount);
 }
 
-void TemporaryDimensionHandlerTest::theEditorIsCentredOnItsPoint_data()
-{
-    QTest::addColumn<int>("state");
-    QTest::newRow("length") << 1;
-    QTest::newRow("angle") << 2;
-    QTest::newRow("radius") << 3;
-    QTest::newRow("central angle") << 4;
-    QTest::newRow("width") << 5;
-    QTest::newRow("height") << 6;
-}
-
-/// Where the editor's corner belongs for a world point.
-QPoint CornerFor(const TestView& view, const Vector3d& world, const QSize& size)
-{
-    int x = 0;
-    int y = 0;
-    float depth = 0;
-    UiViewUtility::WorldPositionToScreenPosition(&view, world, x, y, depth);
-    return view.mapToGlobal(QPoint(0, 0)) + QPoint(x - size.width() / 2, y - size.height() / 2);
-}
-
-void TemporaryDimensionHandlerTest::theEditorIsCentredOnItsPoint()
-{
-    QFETCH(int, state);
-    HandlerFixture f;
-    f.host.view.move(30, 20);
-    f.TypeLength("5");
-    f.Editor()->setFixedSize(97, 27);
-    const Vector3d world(10.0 * state, -7.0 * state, 0);
-    f.Data()[InputState(state)].textPosition = world;
-    f.SetState(InputState(state));
-
-    QVERIFY(QMetaObject::invokeMethod(&f.Object(), "ResetEditorPosition"));
-
-    QCOMPARE(f.Editor()->pos(), CornerFor(f.host.view, world, QSize(97, 27)));
-    QCOMPARE(f.State(), InputState(state));
-}
-
-void TemporaryDimensionHandlerTest::theEditorOfAnEmbeddedViewIsParkedFarOff()
-{
-    HandlerFixture f;
-    TestView embedded(2, &f.host.view);
-    f.host.core.GetViewManager().AddView(&embedded);
-    f.host.core.GetViewManager().SetCurrentView(&embedded);
-    const Vector3d world(12, 34, 0);
-    f.Data()[InputState::IS_Length].textPosition = world;
-
-    f.TypeLength("5");
-
-    const auto* pEditor = embedded.findChild<QLineEdit*>("ViewInputLineEdit");
-    QCOMPARE(pEditor->pos(), CornerFor(embedded, world, pEditor->size()) + QPoint(10000, 10000));
-    f.host.core.GetViewManager().RemoveView(&embedded);
-}
-
-void TemporaryDimensionHandlerTest::placingWithoutAnEditorDoesNothing()
-{
-    HandlerFixture f;
-    f.SetState(InputState::IS_Length);
-    f.host.view.SetWindowId(0);
-
-    f.Handler().metaObject()->invokeMethod(&f.Object(), "ResetEditorPosition");
-
-    QCOMPARE(f.State(), InputState::IS_Length);
-}
-
-void TemporaryDimensionHandlerTest::placingWithoutAViewDoesNothing()
-{
-    HandlerFixture f;
-    f.TypeLength("5");
-    const QPoint position = f.Editor()->pos();
-    f.Data()[InputState::IS_Length].textPosition = Vector3d(99, 99, 0);
-    f.host.core.GetViewManager().RemoveView(&f.host.view);
-
-    QMetaObject::invokeMethod(&f.Object(), "ResetEditorPosition");
-
-    QCOMPARE(f.Editor()->pos(), position);
-}
-
 void TemporaryDimensionHandlerTest::textOfAnyLengthIsDeliveredWhole()
 {
     HandlerFixture f;
@@ -528,46 +441,6 @@ void TemporaryDimensionHandlerTest::textOfAnyLengthIsDeliveredWhole()
 
     QCOMPARE(f.host.actionLog.inputs.size(), std::size_t(1));
     QVERIFY(f.host.actionLog.inputs.front().text == (longText + '8').toStdWString());
-}
-
-void TemporaryDimensionHandlerTest::placingWithoutAViewWidgetIsReported()
-{
-    HandlerFixture f;
-    f.TypeLength("5");
-    const QPoint position = f.Editor()->pos();
-    f.Data()[InputState::IS_Length].textPosition = Vector3d(99, 99, 0);
-    f.host.view.SetWindowId(0);
-
-    QMetaObject::invokeMethod(&f.Object(), "ResetEditorPosition");
-
-    EXPECT_WARNING(f.host.warnings, L"pNqView为空。", std::string(BaseClass) + "SetEditorPosition");
-    QCOMPARE(f.Editor()->pos(), position);
-}
-
-void TemporaryDimensionHandlerTest::placingWithoutInputEndsIt()
-{
-    HandlerFixture f;
-    f.TypeLength("5");
-    f.SetState(InputState::IS_None);
-
-    QMetaObject::invokeMethod(&f.Object(), "ResetEditorPosition");
-
-    QVERIFY(f.Editor()->isHidden());
-}
-
-void TemporaryDimensionHandlerTest::placingInAnUnknownStateIsReported()
-{
-    HandlerFixture f;
-    f.TypeLength("5");
-    const QPoint position = f.Editor()->pos();
-    f.SetState(InputState(7));
-
-    QMetaObject::invokeMethod(&f.Object(), "ResetEditorPosition");
-
-    EXPECT_WARNING(f.host.warnings, L"不该运行至此。",
-                   std::string(BaseClass) + "ResetEditorPosition");
-    QCOMPARE(f.Editor()->pos(), position);
-    QVERIFY(f.Editor()->isVisible());
 }
 
 void TemporaryDimensionHandlerTest::configurationNeedsAContext()
