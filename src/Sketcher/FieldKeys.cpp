@@ -47,6 +47,6 @@ bool FieldKeys::FilterKey(const QKeyEvent& event)
         return false;
     m_definition.SetText(m_getFormerText());
     m_definition.SetIsEditing(false);
-    emit givenBack();
+    emit restored();
     return true;
 }

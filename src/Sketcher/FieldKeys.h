@@ -29,7 +29,7 @@ public:
 
 signals:
     /// The field has its former text back.
-    void givenBack();
+    void restored();
 
 protected:
     bool eventFilter(QObject* pWatched, QEvent* pEvent) override;

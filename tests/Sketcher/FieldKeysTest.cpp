@@ -69,7 +69,7 @@ private slots:
     void escapeGivesTheFormerTextBack()
     {
         Fixture f;
-        const QSignalSpy givenBack(f.pKeys, &FieldKeys::givenBack);
+        const QSignalSpy restored(f.pKeys, &FieldKeys::restored);
         f.TypeOver("new");
 
         QTest::keyClick(f.pField, Qt::Key_Escape);
@@ -77,7 +77,7 @@ private slots:
         QCOMPARE(f.pField->text(), QString("former"));
         QCOMPARE(QString::fromStdWString(f.pDefinition->GetText()), QString("former"));
         QVERIFY(!f.pDefinition->IsEditing());
-        QCOMPARE(givenBack.count(), 1);
+        QCOMPARE(restored.count(), 1);
         QVERIFY(f.pField->hasFocus());
     }
 
@@ -95,12 +95,12 @@ private slots:
     void escapeIsTheWindowsWhereNothingIsToBeGivenBack()
     {
         Fixture f;
-        const QSignalSpy givenBack(f.pKeys, &FieldKeys::givenBack);
+        const QSignalSpy restored(f.pKeys, &FieldKeys::restored);
         QKeyEvent press(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
 
         QCoreApplication::sendEvent(f.pField, &press);
         QVERIFY(!press.isAccepted());
-        QCOMPARE(givenBack.count(), 0);
+        QCOMPARE(restored.count(), 0);
 
         f.TypeOver("new");
         QKeyEvent second(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);

@@ -110,7 +110,7 @@ void PropertyPane::AddRow(const ShapeProperty& property, ControlHost& controls, 
     {
         auto* pKeys =
             new FieldKeys(*pField, *pDefinition, [this, index] { return m_rows[index].shown; });
-        connect(pKeys, &FieldKeys::givenBack, this, [this, index] { Accept(m_rows[index]); });
+        connect(pKeys, &FieldKeys::restored, this, [this, index] { Accept(m_rows[index]); });
     }
 }
 

@@ -6,8 +6,8 @@
 #include "Journal/IJournalUiObject.h"
 #include "Journal/JournalFormat.h"
 #include "Journal/NqIJournalFactory.h"
-#include "Support/TestValues.h"
 #include "Platform/OutputFile.h"
+#include "Support/TestValues.h"
 
 #include <QFile>
 #include <QTemporaryDir>
