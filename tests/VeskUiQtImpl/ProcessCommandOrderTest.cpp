@@ -1,0 +1,681 @@
+#include "ProcessCommandUtil.h"
+
+#include "Command/ActionManager.h"
+#include "Command/CommandParameters.h"
+#include "Command/IAction.h"
+#include "Command/IActionManager.h"
+#include "Command/ICommand.h"
+#include "Command/ICommandManager.h"
+#include "Foundation/IApplication.h"
+#include "Foundation/UpdateCtrlStatusEvent.h"
+#include "Graphics/IGraphicsNode.h"
+#include "Journal/IJournalData.h"
+#include "Journal/IJournalManager.h"
+#include "Journal/IJournalUiObject.h"
+#include "Journal/NqIJournalFactory.h"
+#include "Support/TestAction.h"
+#include "Support/TestValues.h"
+#include "Support/WarningRecorder.h"
+#include "View/IUiDocumentViewManager.h"
+#include "View/IUiManager.h"
+#include "View/IUiView.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QProxyStyle>
+
+#include <functional>
+#include <utility>
+
+namespace vesk::test
+{
+
+namespace
+{
+
+/// What the host was asked and told, in order. What happened when no command was under way says so.
+QStringList s_notes;
+
+void Note(const QString& what)
+{
+    s_notes << (ProcessCommandUtil::IsLastCommandExecuted() ? "idle: " + what : what);
+}
+
+QString Describe(const CommandParameters& parameters)
+{
+    return parameters.IsEmpty() ? "nothing" : "parameters";
+}
+
+class NotingView final : public IUiView
+{
+public:
+    explicit NotingView(std::uint32_t id) : m_id(id) {}
+
+    std::uint32_t GetId() const override { return m_id; }
+    WindowId GetWindowId() const override { return 0; }
+    IModelView* GetModelView() const override { return nullptr; }
+    void SetViewText(const std::wstring& text) override
+    {
+        Note(QString("view %1 shows %2").arg(m_id).arg(QString::fromStdWString(text)));
+    }
+    void Activate() override {}
+    void Redraw() override {}
+
+private:
+    std::uint32_t m_id;
+};
+
+/// Registered under "asked", and called "Command" by itself.
+class NotingCommand final : public ICommand
+{
+public:
+    std::wstring GetCommandId() const override { return L"Command"; }
+    bool IsJournalIdOnly() const override
+    {
+        Note("id only?");
+        return isIdOnly;
+    }
+    bool IsEnabled() const override { return true; }
+    bool IsVisible() const override { return true; }
+    bool IsInteractive() const override { return false; }
+    OwnerPtr<IAction> Execute(IUiView*, const CommandParameters&) override { return nullptr; }
+
+    bool isIdOnly = false;
+};
+
+class NotingCommandManager final : public ICommandManager
+{
+public:
+    ICommand* GetCommand(const std::wstring& commandId) const override
+    {
+        Note("find " + QString::fromStdWString(commandId));
+        return commandId == L"asked" ? const_cast<NotingCommand*>(&command) : nullptr;
+    }
+    bool AddCommand(OwnerPtr<ICommand>) override { return false; }
+    void RemoveCommand(const std::wstring&) override {}
+    void RemoveAllCommands() override {}
+
+    NotingCommand command;
+};
+
+class NotingRecord final : public IJournalCommandData
+{
+public:
+    void SetCommandId(const std::wstring& commandId) override
+    {
+        Note("record of " + QString::fromStdWString(commandId));
+    }
+    void SetCommandParameters(const CommandParameters& parameters) override
+    {
+        Note("record with " + Describe(parameters));
+    }
+    std::wstring GetCommandId() const override { return {}; }
+    const CommandParameters& GetCommandParameters() const override { return m_none; }
+
+private:
+    CommandParameters m_none;
+};
+
+class NotingJournal final : public IJournalManager
+{
+public:
+    void AddCommandData(OwnerPtr<IJournalCommandData> opData) override
+    {
+        Note(opData != nullptr ? "journal id" : "journal nothing");
+    }
+    void AddCommandDataWithParameters(OwnerPtr<IJournalCommandData> opData) override
+    {
+        Note(opData != nullptr ? "journal id and parameters" : "journal nothing");
+    }
+    void AddUiObject(OwnerPtr<IJournalUiObject>, int, int) override {}
+};
+
+/// The host that all operations below belong to.
+struct NotingHost
+{
+    NotingHost();
+    ~NotingHost();
+    NotingHost(const NotingHost&) = delete;
+    NotingHost& operator=(const NotingHost&) = delete;
+
+    NotingCommandManager commands;
+    NotingJournal journal;
+    NotingView first{1};
+    NotingView second{2};
+    IUiView* pCurrentView = &first;
+    ActionLog actionLog;
+    TestAction action{actionLog};
+    bool hasAction = true;
+
+    /// Called inside the next command, and inside the next end of a running one, once.
+    std::function<void()> onCommand;
+    std::function<void()> onReset;
+
+    /// Called before a refresh is noted.
+    std::function<void()> onRefresh;
+};
+
+NotingHost* s_pHost = nullptr;
+
+void Run(std::function<void()>& act)
+{
+    if (const auto once = std::exchange(act, nullptr))
+        once();
+}
+
+class NotingFactory final : public NqIJournalFactory
+{
+public:
+    OwnerPtr<IJournalData> CreateJournalData(const std::wstring& className) override
+    {
+        Note("make " + QString::fromStdWString(className));
+        return MakeOwner<NotingRecord>();
+    }
+    OwnerPtr<IJournalUiObject> CreateJournalUiObject() override { return nullptr; }
+};
+
+class NotingViewManager final : public IUiDocumentViewManager
+{
+public:
+    IUiView* GetCurrentUiView() const override { return s_pHost->pCurrentView; }
+    IUiView* GetUiViewById(std::uint32_t) const override { return nullptr; }
+
+    using IUiDocumentViewManager::Set;
+};
+
+class NotingApplication final : public IApplication
+{
+public:
+    void PostEvent(OwnerPtr<IApplicationEvent> opEvent) override
+    {
+        if (s_pHost->onRefresh)
+            s_pHost->onRefresh();
+        const bool isRefresh = dynamic_cast<UpdateCtrlStatusEvent*>(opEvent.Get()) != nullptr;
+        Note(isRefresh ? "refresh" : "another event");
+    }
+    IApplicationWindow* GetMainWindow() const override { return nullptr; }
+
+    using IApplication::Set;
+};
+
+NotingFactory s_factory;
+NotingViewManager s_viewManager;
+NotingApplication s_application;
+
+NotingHost::NotingHost()
+{
+    s_notes.clear();
+    s_pHost = this;
+    NqIJournalFactory::SetImpl(&s_factory);
+    NotingViewManager::Set(&s_viewManager);
+    NotingApplication::Set(&s_application);
+    DebugMessageMgr::GetDebugMessageMgr()->SetAttended(false);
+}
+
+NotingHost::~NotingHost()
+{
+    NotingApplication::Set(nullptr);
+    NotingViewManager::Set(nullptr);
+    NqIJournalFactory::SetImpl(nullptr);
+    s_pHost = nullptr;
+}
+
+}
+
+}
+
+namespace vesk
+{
+
+// The program's operations stand before the host's.
+ICommandManager* ICommandManager::Get()
+{
+    return &test::s_pHost->commands;
+}
+
+IJournalManager* IJournalManager::Get()
+{
+    return &test::s_pHost->journal;
+}
+
+IAction* IActionManager::CurrentAction()
+{
+    return test::s_pHost->hasAction ? &test::s_pHost->action : nullptr;
+}
+
+IMainWindow* IMainWindow::GetMainWindow()
+{
+    test::Note("main window");
+    return nullptr;
+}
+
+void ActionManager::Reset()
+{
+    test::Note("end");
+    test::Run(test::s_pHost->onReset);
+}
+
+void ActionManager::ProcessCommand(IUiView* pView, ICommand* pCommand,
+                                   const CommandParameters& parameters, ICommand* pPrevious)
+{
+    test::Note(QString("process %1 in view %2 with %3%4")
+                   .arg(QString::fromStdWString(pCommand->GetCommandId()))
+                   .arg(pView != nullptr ? pView->GetId() : 0)
+                   .arg(test::Describe(parameters), pPrevious != nullptr ? " after another" : ""));
+    test::Run(test::s_pHost->onCommand);
+}
+
+void ActionManager::SendCommand(const std::wstring& commandId, const CommandParameters& parameters,
+                                ICommand* pPrevious)
+{
+    test::Note(QString("send %1 with %2%3")
+                   .arg(QString::fromStdWString(commandId), test::Describe(parameters),
+                        pPrevious != nullptr ? " after another" : ""));
+    test::Run(test::s_pHost->onCommand);
+}
+
+}
+
+namespace vesk::test
+{
+
+namespace
+{
+
+constexpr char Ribbon[] = "vesk::ProcessCommandUtil::ProcessRibbonBarCommand";
+constexpr char StatusBar[] = "vesk::ProcessCommandUtil::ProcessStatusBarCommand";
+constexpr wchar_t NoRecord[] =
+    L"CREATE_JOURNAL_DATA(IJournalCommandData, JOURNAL_COMMAND_DATA)返回空指针";
+
+CommandParameters SomeParameters()
+{
+    CommandParameters parameters;
+    parameters.Add(L"Clicked", CommandParameterValue(true));
+    return parameters;
+}
+
+void SendRibbonCommand(const wchar_t* id, QObject* pSender)
+{
+    ProcessCommandUtil::ProcessRibbonBarCommand(id, SomeParameters(), pSender);
+}
+
+void SendStatusBarCommand(const wchar_t* id, QObject* pSender)
+{
+    ProcessCommandUtil::ProcessStatusBarCommand(id, SomeParameters(), pSender);
+}
+
+/// Notes the next question about the look of a widget.
+class NotingStyle final : public QProxyStyle
+{
+public:
+    int pixelMetric(PixelMetric metric, const QStyleOption* pOption,
+                    const QWidget* pWidget) const override
+    {
+        if (std::exchange(isNoting, false))
+            Note("place of the entry");
+        return QProxyStyle::pixelMetric(metric, pOption, pWidget);
+    }
+
+    mutable bool isNoting = false;
+};
+
+/// A menu on the screen whose mouse events are noted and kept from it.
+class NotingMenu final : public QMenu
+{
+public:
+    explicit NotingMenu(QStyle* pStyle = nullptr)
+    {
+        setStyle(pStyle);
+        addAction("first");
+        pEntry = addAction("second");
+        popup(QPoint());
+    }
+
+    QAction* pEntry;
+
+protected:
+    bool event(QEvent* pEvent) override
+    {
+        if (pEvent->type() == QEvent::MouseButtonPress)
+            Note("press");
+        else if (pEvent->type() == QEvent::MouseButtonRelease)
+            Note("release");
+        else if (pEvent->type() == QEvent::User)
+            Note("another event");
+        else
+            return QMenu::event(pEvent);
+        return true;
+    }
+};
+
+}
+
+/// In which order the host is asked and told, and what is left out when something is missing.
+class ProcessCommandOrderTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup() { QVERIFY(ProcessCommandUtil::IsLastCommandExecuted()); }
+
+    void ribbonCommandIsJournaledRunShownAndFollowedByARefresh();
+    void ribbonCommandMayAskForItsIdAlone();
+    void ribbonCommandRunsWithoutAView();
+    void ribbonCommandShowsNoTextWithoutAnAction();
+    void statusBarCommandIsJournaledSentAndFollowedByARefresh();
+    void statusBarCommandMayAskForItsIdAlone();
+    void unknownRibbonCommandIsNotJournaled();
+    void unknownStatusBarCommandIsNotJournaled();
+    void unknownCommandNeedsNoRecord_data();
+    void unknownCommandNeedsNoRecord();
+    void withoutARecordNothingElseHappens_data();
+    void withoutARecordNothingElseHappens();
+    void withoutAViewManagerNothingIsLookedUp();
+    void withoutASenderNothingIsAsked();
+    void whatIsPutOffOnlyEndsTheCommand_data();
+    void whatIsPutOffOnlyEndsTheCommand();
+    void whatIsPutOffWaitsUntilTheCommandHasEnded();
+    void waitingClickComesAfterTheRefresh_data();
+    void waitingClickComesAfterTheRefresh();
+    void waitingClickTakesItsTurnAmongOtherEvents();
+    void withoutAViewManagerTheClickStillWaits();
+};
+
+void ProcessCommandOrderTest::ribbonCommandIsJournaledRunShownAndFollowedByARefresh()
+{
+    NotingHost host;
+    QObject sender;
+    host.onCommand = [&host] { host.pCurrentView = &host.second; };
+
+    SendRibbonCommand(L"asked", &sender);
+
+    QCOMPARE(s_notes,
+             QStringList({"find asked", "make JournalCommandData", "record of Command", "id only?",
+                          "record with parameters", "journal id and parameters",
+                          "process Command in view 1 with parameters", "view 2 shows test action",
+                          "refresh"}));
+}
+
+void ProcessCommandOrderTest::ribbonCommandMayAskForItsIdAlone()
+{
+    NotingHost host;
+    QObject sender;
+    host.commands.command.isIdOnly = true;
+
+    SendRibbonCommand(L"asked", &sender);
+
+    QCOMPARE(s_notes,
+             QStringList({"find asked", "make JournalCommandData", "record of Command", "id only?",
+                          "journal id", "process Command in view 1 with parameters",
+                          "view 1 shows test action", "refresh"}));
+}
+
+void ProcessCommandOrderTest::ribbonCommandRunsWithoutAView()
+{
+    NotingHost host;
+    QObject sender;
+    host.pCurrentView = nullptr;
+
+    SendRibbonCommand(L"asked", &sender);
+
+    QCOMPARE(s_notes.mid(6), QStringList({"process Command in view 0 with parameters", "refresh"}));
+}
+
+void ProcessCommandOrderTest::ribbonCommandShowsNoTextWithoutAnAction()
+{
+    NotingHost host;
+    QObject sender;
+    host.hasAction = false;
+
+    SendRibbonCommand(L"asked", &sender);
+
+    QCOMPARE(s_notes.mid(6), QStringList({"process Command in view 1 with parameters", "refresh"}));
+}
+
+void ProcessCommandOrderTest::statusBarCommandIsJournaledSentAndFollowedByARefresh()
+{
+    NotingHost host;
+    QObject sender;
+
+    SendStatusBarCommand(L"asked", &sender);
+
+    QCOMPARE(s_notes, QStringList({"find asked", "make JournalCommandData", "record of Command",
+                                   "id only?", "record with nothing", "journal id and parameters",
+                                   "send Command with nothing", "main window", "refresh"}));
+}
+
+void ProcessCommandOrderTest::statusBarCommandMayAskForItsIdAlone()
+{
+    NotingHost host;
+    QObject sender;
+    host.commands.command.isIdOnly = true;
+
+    SendStatusBarCommand(L"asked", &sender);
+
+    QCOMPARE(s_notes,
+             QStringList({"find asked", "make JournalCommandData", "record of Command", "id only?",
+                          "journal id", "send Command with nothing", "main window", "refresh"}));
+}
+
+void ProcessCommandOrderTest::unknownRibbonCommandIsNotJournaled()
+{
+    NotingHost host;
+    WarningRecorder warnings;
+    QObject sender;
+
+    SendRibbonCommand(L"unknown", &sender);
+
+    EXPECT_WARNING(warnings, L"无法找到字符串对应的注册命令：unknown", Ribbon);
+    QCOMPARE(s_notes, QStringList({"find unknown", "view 1 shows test action", "refresh"}));
+}
+
+void ProcessCommandOrderTest::unknownStatusBarCommandIsNotJournaled()
+{
+    NotingHost host;
+    WarningRecorder warnings;
+    QObject sender;
+
+    SendStatusBarCommand(L"unknown", &sender);
+
+    EXPECT_WARNING(warnings, L"无法找到字符串对应的注册命令：unknown", StatusBar);
+    QCOMPARE(s_notes, QStringList({"find unknown", "main window", "refresh"}));
+}
+
+void ProcessCommandOrderTest::unknownCommandNeedsNoRecord_data()
+{
+    QTest::addColumn<bool>("isRibbon");
+    QTest::newRow("ribbon") << true;
+    QTest::newRow("status bar") << false;
+}
+
+void ProcessCommandOrderTest::unknownCommandNeedsNoRecord()
+{
+    QFETCH(bool, isRibbon);
+    NotingHost host;
+    WarningRecorder warnings;
+    QObject sender;
+    NqIJournalFactory::SetImpl(nullptr);
+
+    (isRibbon ? SendRibbonCommand : SendStatusBarCommand)(L"unknown", &sender);
+
+    EXPECT_WARNING(warnings, L"无法找到字符串对应的注册命令：unknown",
+                   isRibbon ? Ribbon : StatusBar);
+    QVERIFY(warnings.IsEmpty());
+    QCOMPARE(s_notes.last(), QString("refresh"));
+}
+
+void ProcessCommandOrderTest::withoutARecordNothingElseHappens_data()
+{
+    unknownCommandNeedsNoRecord_data();
+}
+
+void ProcessCommandOrderTest::withoutARecordNothingElseHappens()
+{
+    QFETCH(bool, isRibbon);
+    NotingHost host;
+    WarningRecorder warnings;
+    QObject sender;
+    NqIJournalFactory::SetImpl(nullptr);
+
+    (isRibbon ? SendRibbonCommand : SendStatusBarCommand)(L"asked", &sender);
+
+    EXPECT_WARNING(warnings, NoRecord, isRibbon ? Ribbon : StatusBar);
+    QCOMPARE(s_notes, QStringList("find asked"));
+    QVERIFY(ProcessCommandUtil::IsLastCommandExecuted());
+}
+
+void ProcessCommandOrderTest::withoutAViewManagerNothingIsLookedUp()
+{
+    NotingHost host;
+    WarningRecorder warnings;
+    QObject sender;
+    NotingViewManager::Set(nullptr);
+
+    SendRibbonCommand(L"unknown", &sender);
+
+    EXPECT_WARNING(warnings, L"pUiViewMgr为空", Ribbon);
+    QVERIFY(warnings.IsEmpty());
+    QCOMPARE(s_notes, QStringList());
+    QVERIFY(ProcessCommandUtil::IsLastCommandExecuted());
+}
+
+void ProcessCommandOrderTest::withoutASenderNothingIsAsked()
+{
+    NotingHost host;
+    WarningRecorder warnings;
+    NotingViewManager::Set(nullptr);
+
+    SendRibbonCommand(L"unknown", nullptr);
+
+    EXPECT_WARNING(warnings, L"pSender为空", Ribbon);
+    QVERIFY(warnings.IsEmpty());
+    QCOMPARE(s_notes, QStringList());
+}
+
+void ProcessCommandOrderTest::whatIsPutOffOnlyEndsTheCommand_data()
+{
+    unknownCommandNeedsNoRecord_data();
+}
+
+void ProcessCommandOrderTest::whatIsPutOffOnlyEndsTheCommand()
+{
+    QFETCH(bool, isRibbon);
+    NotingHost host;
+    WarningRecorder warnings;
+    QObject sender;
+    QAction action;
+    bool isExecuted = false;
+    host.onCommand = [&] {
+        s_notes.clear();
+        (isRibbon ? SendRibbonCommand : SendStatusBarCommand)(L"unknown", &action);
+        isExecuted = ProcessCommandUtil::IsLastCommandExecuted();
+    };
+
+    SendStatusBarCommand(L"asked", &sender);
+
+    QVERIFY(warnings.IsEmpty());
+    QCOMPARE(s_notes, QStringList({"end", "idle: main window", "idle: refresh"}));
+    QVERIFY(isExecuted);
+}
+
+/// What ends together with the command, and runs another one of a plain sender, finds nothing yet
+/// to click again.
+void ProcessCommandOrderTest::whatIsPutOffWaitsUntilTheCommandHasEnded()
+{
+    NotingHost host;
+    NotingMenu menu;
+    QObject sender;
+    host.onReset = [&] {
+        SendStatusBarCommand(L"asked", &sender);
+        QCoreApplication::sendPostedEvents(&menu);
+        s_notes << "ended";
+    };
+    host.onCommand = [&] { SendStatusBarCommand(L"asked", menu.pEntry); };
+
+    SendStatusBarCommand(L"asked", &sender);
+    QCoreApplication::sendPostedEvents(&menu);
+
+    const int ended = s_notes.indexOf("ended");
+    QVERIFY(ended > 0);
+    QVERIFY(s_notes.indexOf("idle: press") > ended);
+    QCOMPARE(s_notes.filter("press").size(), 1);
+}
+
+void ProcessCommandOrderTest::waitingClickComesAfterTheRefresh_data()
+{
+    unknownCommandNeedsNoRecord_data();
+}
+
+/// The click is posted while the command is still under way, and after the refresh.
+void ProcessCommandOrderTest::waitingClickComesAfterTheRefresh()
+{
+    QFETCH(bool, isRibbon);
+    NotingHost host;
+    NotingStyle style;
+    NotingMenu menu(&style);
+    QObject sender;
+    host.hasAction = false;
+    host.onCommand = [&] {
+        SendRibbonCommand(L"asked", menu.pEntry);
+        SendRibbonCommand(L"asked", &sender);
+    };
+    host.onRefresh = [&menu] { QCoreApplication::sendPostedEvents(&menu); };
+    // A hidden menu finds the places of its entries when it is asked for one.
+    menu.hide();
+    menu.addAction("third");
+    style.isNoting = true;
+
+    (isRibbon ? SendRibbonCommand : SendStatusBarCommand)(L"asked", &sender);
+    QCoreApplication::sendPostedEvents(&menu);
+
+    const int end = s_notes.indexOf("end");
+    QCOMPARE(s_notes.mid(end + 7, 3), QStringList({"process Command in view 1 with parameters",
+                                                   "refresh", "place of the entry"}));
+    QVERIFY(!s_notes.mid(0, end + 10).join(' ').contains("press"));
+    QCOMPARE(s_notes.filter("press").size(), 1);
+    QCOMPARE(s_notes.filter("release").size(), 1);
+}
+
+void ProcessCommandOrderTest::waitingClickTakesItsTurnAmongOtherEvents()
+{
+    NotingHost host;
+    NotingMenu menu;
+    QObject sender;
+    host.onCommand = [&] { SendStatusBarCommand(L"asked", menu.pEntry); };
+    QCoreApplication::postEvent(&menu, new QEvent(QEvent::User));
+
+    SendStatusBarCommand(L"asked", &sender);
+    QCoreApplication::postEvent(&menu, new QEvent(QEvent::User));
+    s_notes.clear();
+    QCoreApplication::sendPostedEvents(&menu);
+
+    QCOMPARE(s_notes, QStringList({"idle: another event", "idle: press", "idle: release",
+                                   "idle: another event"}));
+}
+
+void ProcessCommandOrderTest::withoutAViewManagerTheClickStillWaits()
+{
+    NotingHost host;
+    WarningRecorder warnings;
+    NotingMenu menu;
+    QObject sender;
+    host.onCommand = [&] {
+        SendStatusBarCommand(L"asked", menu.pEntry);
+        NotingViewManager::Set(nullptr);
+        SendRibbonCommand(L"asked", &sender);
+        QCoreApplication::sendPostedEvents(&menu);
+        s_notes << "tried";
+    };
+
+    SendStatusBarCommand(L"asked", &sender);
+    QCoreApplication::sendPostedEvents(&menu);
+
+    EXPECT_WARNING(warnings, L"pUiViewMgr为空", Ribbon);
+    QVERIFY(s_notes.indexOf("idle: press") > s_notes.indexOf("tried"));
+}
+
+}
+
+QTEST_MAIN(vesk::test::ProcessCommandOrderTest)
+#include "ProcessCommandOrderTest.moc"
