@@ -71,6 +71,8 @@ private slots:
     void operationsOfAControlHaveTheirSlots();
     void operationsOfAHandlerAndAnEventHaveTheirSlots();
     void operationsOfADefinitionHaveTheirSlots();
+    void operationsOfSingleDefinitionsHaveTheirSlots();
+    void operationsOfDefinitionsWithItemsHaveTheirSlots();
     void operationsOfTheFactoryHaveTheirSlots();
     void theFactoryHasNoMembers();
     void theBaseForOthersIsAbstractAndAddsNothing();
@@ -198,29 +200,65 @@ void ControlLayoutTest::operationsOfAHandlerAndAnEventHaveTheirSlots()
 {
     QVERIFY(std::has_virtual_destructor<IControlDefinitionChangeEventHandler>::value);
     QCOMPARE(SlotOf(&IControlDefinitionChangeEventHandler::On), std::ptrdiff_t(2));
-    QCOMPARE(SlotOf(&IControlDefinitionChangeEvent::Add) + 1,
-             SlotOf(&IControlDefinitionChangeEvent::Delete));
-    QCOMPARE(SlotOf(&IControlDefinitionChangeEventArgs::GetType) + 1,
-             SlotOf(&IControlDefinitionChangeEventArgs::GetIndex));
+    QVERIFY(std::has_virtual_destructor<IControlDefinitionChangeEvent>::value);
+    QCOMPARE(SlotOf(&IControlDefinitionChangeEvent::Add), std::ptrdiff_t(2));
+    QCOMPARE(SlotOf(&IControlDefinitionChangeEvent::Delete), std::ptrdiff_t(3));
+    QVERIFY(std::has_virtual_destructor<IControlDefinitionChangeEventArgs>::value);
+    QCOMPARE(SlotOf(&IControlDefinitionChangeEventArgs::GetType), std::ptrdiff_t(2));
+    QCOMPARE(SlotOf(&IControlDefinitionChangeEventArgs::GetIndex), std::ptrdiff_t(3));
+    QCOMPARE(SlotOf(&IControlDefinitionChangeEventArgs::GetItemCaption), std::ptrdiff_t(4));
+    QCOMPARE(SlotOf(&IControlDefinitionChangeEventArgs::GetItemDefinition), std::ptrdiff_t(5));
+    QCOMPARE(SlotOf(&IControlDefinitionChangeEventSource::GetControlDefinitionChangeEvent),
+             std::ptrdiff_t(2));
 }
 
 void ControlLayoutTest::operationsOfADefinitionHaveTheirSlots()
 {
+    QVERIFY(std::has_virtual_destructor<IControlDefinition>::value);
     QCOMPARE(SlotOf(&IControlDefinition::GetId), std::ptrdiff_t(2));
     QCOMPARE(SlotOf(&IControlDefinition::GetCaption), std::ptrdiff_t(3));
     QCOMPARE(SlotOf(&IControlDefinition::GetTooltip), std::ptrdiff_t(4));
     QCOMPARE(SlotOf(&IControlDefinition::IsVisible), std::ptrdiff_t(5));
     QCOMPARE(SlotOf(&IControlDefinition::IsEnabled), std::ptrdiff_t(6));
+}
+
+void ControlLayoutTest::operationsOfSingleDefinitionsHaveTheirSlots()
+{
     QCOMPARE(SlotOf(&ICommandButtonDefinition::GetCommandId), std::ptrdiff_t(7));
+    QCOMPARE(SlotOf(&ICommandButtonDefinition::GetIconPath), std::ptrdiff_t(8));
+    QCOMPARE(SlotOf(&ICommandButtonDefinition::GetButtonStyle), std::ptrdiff_t(9));
+    QCOMPARE(SlotOf(&ICommandButtonDefinition::SetChecked), std::ptrdiff_t(10));
     QCOMPARE(SlotOf(&ICommandButtonDefinition::IsChecked), std::ptrdiff_t(11));
     QCOMPARE(SlotOf(&ILineEditDefinition::GetInputType), std::ptrdiff_t(7));
+    QCOMPARE(SlotOf(&ILineEditDefinition::GetText), std::ptrdiff_t(8));
+    QCOMPARE(SlotOf(&ILineEditDefinition::SetText), std::ptrdiff_t(9));
+    QCOMPARE(SlotOf(&ILineEditDefinition::ClearText), std::ptrdiff_t(10));
+    QCOMPARE(SlotOf(&ILineEditDefinition::GetSelectedText), std::ptrdiff_t(11));
+    QCOMPARE(SlotOf(&ILineEditDefinition::SetValidator), std::ptrdiff_t(12));
+    QCOMPARE(SlotOf(&ILineEditDefinition::GetValidator), std::ptrdiff_t(13));
     QCOMPARE(SlotOf(&ILineEditDefinition::GetLineEditEvent), std::ptrdiff_t(14));
-    QCOMPARE(SlotOf(&IComboBoxDefinition::GetItems), std::ptrdiff_t(7));
-    QCOMPARE(SlotOf(&IComboBoxDefinition::SetCurrentIndex), std::ptrdiff_t(8));
-    QCOMPARE(SlotOf(&IComboBoxDefinition::GetCurrentIndex), std::ptrdiff_t(9));
     QCOMPARE(SlotOf(&IProgressBarDefinition::GetValue), std::ptrdiff_t(7));
     QCOMPARE(SlotOf(&IProgressBarDefinition::IsTextVisible), std::ptrdiff_t(8));
     QCOMPARE(SlotOf(&IProgressBarDefinition::GetWidth), std::ptrdiff_t(9));
+}
+
+void ControlLayoutTest::operationsOfDefinitionsWithItemsHaveTheirSlots()
+{
+    QCOMPARE(SlotOf(&IComboBoxDefinition::GetItems), std::ptrdiff_t(7));
+    QCOMPARE(SlotOf(&IComboBoxDefinition::SetCurrentIndex), std::ptrdiff_t(8));
+    QCOMPARE(SlotOf(&IComboBoxDefinition::GetCurrentIndex), std::ptrdiff_t(9));
+    QCOMPARE(SlotOf(&ICheckBoxDefinition::GetCheckState), std::ptrdiff_t(7));
+    QCOMPARE(SlotOf(&ICheckBoxGroupDefinition::GetCheckBoxDefinitions), std::ptrdiff_t(7));
+    QCOMPARE(SlotOf(&ICheckBoxGroupDefinition::SetCheckState), std::ptrdiff_t(8));
+    QCOMPARE(SlotOf(&IRadioButtonGroupDefinition::GetRadioButtonDefinitions), std::ptrdiff_t(7));
+    QCOMPARE(SlotOf(&IRadioButtonGroupDefinition::GetCurrentRadioButtonId), std::ptrdiff_t(8));
+    QCOMPARE(SlotOf(&IRadioButtonGroupDefinition::SetCurrentRadioButtonId), std::ptrdiff_t(9));
+    QCOMPARE(SlotOf(&IMenuItemDefinition::GetIconPath), std::ptrdiff_t(7));
+    QCOMPARE(SlotOf(&IMenuItemContainerDefinition::GetMenuItemDefinitions), std::ptrdiff_t(8));
+    QCOMPARE(SlotOf(&ICommandMenuItemDefinition::GetCommandId), std::ptrdiff_t(8));
+    QCOMPARE(SlotOf(&ICommandButtonMenuDefinition::GetCommandId), std::ptrdiff_t(7));
+    QCOMPARE(SlotOf(&ICommandButtonMenuDefinition::GetIconPath), std::ptrdiff_t(8));
+    QCOMPARE(SlotOf(&ICommandButtonMenuDefinition::GetMenuItemDefinitions), std::ptrdiff_t(9));
 }
 
 void ControlLayoutTest::operationsOfTheFactoryHaveTheirSlots()

@@ -162,6 +162,10 @@ class ControlStatesTest : public QObject
 private slots:
     void enabledStateIsReadAfterTheControlIsShown_data();
     void enabledStateIsReadAfterTheControlIsShown();
+    void changeReadsTheEnabledStateAfterTheControlIsShown_data();
+    void changeReadsTheEnabledStateAfterTheControlIsShown();
+    void changeShowsBeforeItEnables_data();
+    void changeShowsBeforeItEnables();
     void focusedEditThatIsHiddenAndThenDisabledStaysDisabled();
     void refreshDoesNotCompare_data();
     void refreshDoesNotCompare();
@@ -185,6 +189,18 @@ void AddKinds()
     QTest::newRow("radio button") << MakeStates(&MakeRadioButton);
 }
 
+/// The kinds that take their states over with each change.
+void AddKindsThatFollow()
+{
+    QTest::addColumn<MakeStates>("make");
+    QTest::newRow("label") << MakeStates(&MakeLabel);
+    QTest::newRow("line edit") << MakeStates(&MakeLineEdit);
+    QTest::newRow("combo box") << MakeStates(&MakeComboBox);
+    QTest::newRow("progress bar") << MakeStates(&MakeProgressBar);
+    QTest::newRow("check box") << MakeStates(&MakeCheckBox);
+    QTest::newRow("radio button") << MakeStates(&MakeRadioButton);
+}
+
 /// A shown window with a hidden control in it that follows no changes: its definition may change
 /// while nobody tells.
 struct HiddenControl
@@ -199,6 +215,13 @@ struct HiddenControl
             states.opControl->GetControlDefinition());
         pSource->GetControlDefinitionChangeEvent()->Delete(
             dynamic_cast<IControlDefinitionChangeEventHandler*>(states.opControl.Get()));
+    }
+
+    /// Has the control take a change over.
+    void TellOfAChange() const
+    {
+        ChangeArgs args;
+        dynamic_cast<IControlDefinitionChangeEventHandler*>(states.opControl.Get())->On(&args);
     }
 
     HostFixture host;
@@ -222,6 +245,45 @@ void ControlStatesTest::enabledStateIsReadAfterTheControlIsShown()
 
     QVERIFY(f.states.pWidget->isVisible());
     QVERIFY(!f.states.pWidget->isEnabled());
+}
+
+void ControlStatesTest::changeReadsTheEnabledStateAfterTheControlIsShown_data()
+{
+    AddKindsThatFollow();
+}
+
+void ControlStatesTest::changeReadsTheEnabledStateAfterTheControlIsShown()
+{
+    QFETCH(MakeStates, make);
+    HiddenControl f(make);
+    f.states.setVisible(true);
+    EventWatch watch(*f.states.pWidget, QEvent::ShowToParent, [&] { f.states.setEnabled(false); });
+
+    f.TellOfAChange();
+
+    QVERIFY(f.states.pWidget->isVisible());
+    QVERIFY(!f.states.pWidget->isEnabled());
+}
+
+void ControlStatesTest::changeShowsBeforeItEnables_data()
+{
+    AddKindsThatFollow();
+}
+
+void ControlStatesTest::changeShowsBeforeItEnables()
+{
+    QFETCH(MakeStates, make);
+    HiddenControl f(make);
+    f.states.setVisible(true);
+    f.states.setEnabled(false);
+    EventWatch watch(*f.states.pWidget, QEvent::None, {});
+
+    f.TellOfAChange();
+
+    const int shown = watch.types.indexOf(QEvent::ShowToParent);
+    const int disabled = watch.types.indexOf(QEvent::EnabledChange);
+    QVERIFY(shown >= 0);
+    QVERIFY(disabled > shown);
 }
 
 void ControlStatesTest::focusedEditThatIsHiddenAndThenDisabledStaysDisabled()

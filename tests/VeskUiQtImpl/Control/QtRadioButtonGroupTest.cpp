@@ -85,6 +85,7 @@ private slots:
     void theUsersMarksEndWithTheWriting();
     void changeByHandIsNotWritten();
     void addedButtonIsCheckedIfItIsCurrent();
+    void addedButtonIsCheckedBeforeItIsGrouped();
     void insertedButtonIsNotCheckedUntilTheNextChange();
     void insertionKeepsTheCheckedButton();
     void deletedButtonsWriteNothing();
@@ -242,6 +243,20 @@ void QtRadioButtonGroupTest::addedButtonIsCheckedIfItIsCurrent()
     QCOMPARE(f.GetCheckedNames(), QStringList());
     f.pDefinition->AddRadioButton(MakeOwner<RadioButtonDefinition>(L"d", L"d"));
     QCOMPARE(f.GetCheckedNames(), QStringList("d"));
+}
+
+void QtRadioButtonGroupTest::addedButtonIsCheckedBeforeItIsGrouped()
+{
+    RadioButtonFixture f;
+    f.pDefinition->SetCurrentRadioButtonId(L"d");
+    QList<QAbstractButton*> toggled;
+    connect(f.opGroup.Get(), QOverload<QAbstractButton*, bool>::of(&QButtonGroup::buttonToggled),
+            this, [&toggled](QAbstractButton* pButton) { toggled += pButton; });
+
+    f.pDefinition->AddRadioButton(MakeOwner<RadioButtonDefinition>(L"d", L"d"));
+
+    QCOMPARE(f.GetCheckedNames(), QStringList("d"));
+    QCOMPARE(toggled, QList<QAbstractButton*>{&f.GetButton(1)});
 }
 
 void QtRadioButtonGroupTest::insertedButtonIsNotCheckedUntilTheNextChange()
