@@ -280,8 +280,18 @@ void ControlLayoutTest::theFactoryHasNoMembers()
 
 void ControlLayoutTest::theBaseForOthersIsAbstractAndAddsNothing()
 {
+    struct WithDefinitionOnly : Control
+    {
+        IControlDefinition* GetControlDefinition() const override { return nullptr; }
+    };
+    struct WithStatusOnly : Control
+    {
+        void UpdateStatus() override {}
+    };
     QVERIFY((std::is_base_of<IControl, Control>::value));
     QVERIFY(std::is_abstract<Control>::value);
+    QVERIFY(std::is_abstract<WithDefinitionOnly>::value);
+    QVERIFY(std::is_abstract<WithStatusOnly>::value);
     QCOMPARE(sizeof(Control), sizeof(IControl));
     QVERIFY(!(std::is_base_of<Control, QtButton>::value));
     QVERIFY(!(std::is_base_of<Control, QtLabel>::value));
