@@ -1,13 +1,45 @@
 #include "CommandFixture.h"
 
 #include "Command/ActionManager.h"
+#include "Command/ICommandManager.h"
 #include "Support/HostValues.h"
+#include "Support/TestEventLoop.h"
 #include "Support/TestValues.h"
 
 #include <QAction>
 
 namespace vesk::test
 {
+
+/// A host with a second view, in which the command "Waiting" is chosen while another is under way.
+/// When its turn comes, the first view is current again.
+struct WaitingFixture : CommandFixture
+{
+    WaitingFixture()
+    {
+        host.AddInteractiveCommand(L"Running");
+        ICommandManager::Get()->AddCommand(
+            MakeOwner<Command>(L"Waiting", Command::Kind::Interactive,
+                               [this](IUiView* pView, const CommandParameters&) {
+                                   pUsed = pView;
+                                   return OwnerPtr<IAction>();
+                               }));
+        host.core.GetViewManager().AddView(&other);
+    }
+
+    ~WaitingFixture() { host.core.GetViewManager().RemoveView(&other); }
+
+    void Choose()
+    {
+        host.core.GetViewManager().SetCurrentView(&other);
+        ProcessCommandUtil::ProcessRibbonBarCommand(L"Waiting", {}, &sender);
+        host.core.GetViewManager().SetCurrentView(&host.view);
+    }
+
+    TestEventLoop loop;
+    TestView other{2, &host.window};
+    IUiView* pUsed = nullptr;
+};
 
 class ProcessCommandUtilTest : public QObject
 {
@@ -25,6 +57,8 @@ private slots:
     void commandThatAsksForItIsJournaledByItsIdAlone_data() { AddOperations(); }
     void commandThatAsksForItIsJournaledByItsIdAlone();
     void ribbonCommandRunsInTheCurrentView();
+    void waitingCommandRunsInTheViewInWhichItWasChosen();
+    void waitingCommandRunsInTheCurrentViewWhenItsOwnIsGone();
     void ribbonCommandRunsBesideAnAction();
     void statusBarCommandEndsTheRunningActionFirst();
     void ribbonCommandShowsWhatTheActionExpects();
@@ -113,6 +147,29 @@ void ProcessCommandUtilTest::ribbonCommandRunsInTheCurrentView()
     QCOMPARE(other.GetTexts().back(), std::wstring(L"test action"));
     ActionManager::Reset();
     f.host.core.GetViewManager().RemoveView(&other);
+}
+
+void ProcessCommandUtilTest::waitingCommandRunsInTheViewInWhichItWasChosen()
+{
+    WaitingFixture f;
+    f.loop.SetOnRun([&f] { f.Choose(); });
+
+    ProcessCommandUtil::ProcessRibbonBarCommand(L"Running", {}, &f.sender);
+
+    QCOMPARE(f.pUsed, static_cast<IUiView*>(&f.other));
+}
+
+void ProcessCommandUtilTest::waitingCommandRunsInTheCurrentViewWhenItsOwnIsGone()
+{
+    WaitingFixture f;
+    f.loop.SetOnRun([&f] {
+        f.Choose();
+        f.host.core.GetViewManager().RemoveView(&f.other);
+    });
+
+    ProcessCommandUtil::ProcessRibbonBarCommand(L"Running", {}, &f.sender);
+
+    QCOMPARE(f.pUsed, static_cast<IUiView*>(&f.host.view));
 }
 
 void ProcessCommandUtilTest::ribbonCommandRunsBesideAnAction()

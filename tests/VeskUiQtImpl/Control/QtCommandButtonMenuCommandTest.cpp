@@ -62,6 +62,7 @@ private slots:
     void entriesThatDifferInOneThingAreNotChecked();
     void entryIsCheckedBeforeItsCommandRuns();
     void mainPartSendsTheCommandOfTheDefinition();
+    void actionOfTheMainPartSendsTheCommandToo();
     void mainPartWithoutACommandSendsNothing();
     void commandsAreJournaledWithoutParameters();
     void entryChosenWhileACommandRunsIsPutOff();
@@ -222,6 +223,15 @@ void QtCommandButtonMenuCommandTest::mainPartSendsTheCommandOfTheDefinition()
     QCOMPARE(f.calls, Calls{L"Main"});
     QVERIFY(f.isLastWithoutParameters);
     QCOMPARE(f.GetChecked(), QStringList());
+}
+
+void QtCommandButtonMenuCommandTest::actionOfTheMainPartSendsTheCommandToo()
+{
+    ChoiceFixture f;
+
+    f.pButton->defaultAction()->trigger();
+
+    QCOMPARE(f.calls, Calls{L"Main"});
 }
 
 void QtCommandButtonMenuCommandTest::mainPartWithoutACommandSendsNothing()
