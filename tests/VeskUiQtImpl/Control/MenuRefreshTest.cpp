@@ -1,3 +1,5 @@
+#include "Command/IAction.h"
+#include "Command/ICommand.h"
 #include "Command/ICommandManager.h"
 #include "Control/CommandButtonMenuDefinition.h"
 #include "Control/IControl.h"
@@ -15,6 +17,27 @@
 
 namespace vesk::test
 {
+
+/// A command that does something when it is asked whether it is visible.
+class AskedCommand final : public ICommand
+{
+public:
+    explicit AskedCommand(std::function<void()> act) : m_act(std::move(act)) {}
+
+    std::wstring GetCommandId() const override { return L"Asked"; }
+    bool IsJournalIdOnly() const override { return false; }
+    bool IsEnabled() const override { return true; }
+    bool IsVisible() const override
+    {
+        m_act();
+        return true;
+    }
+    bool IsInteractive() const override { return false; }
+    OwnerPtr<IAction> Execute(IUiView*, const CommandParameters&) override { return nullptr; }
+
+private:
+    std::function<void()> m_act;
+};
 
 /// A menu of three entries in a shown window, and what happens at some point of a refresh.
 struct RefreshedMenu
@@ -86,6 +109,7 @@ class MenuRefreshTest : public QObject
 private slots:
     void entriesMayGoWhileTheirStatesAreTaken_data();
     void entriesMayGoWhileTheirStatesAreTaken();
+    void entriesMayGoWhenACommandIsAskedForItsVisibility();
     void menuMayDieWhileStatesAreTaken_data();
     void menuMayDieWhileStatesAreTaken();
     void entriesMayGoWhileTheyAreUnchecked();
@@ -105,6 +129,18 @@ void MenuRefreshTest::entriesMayGoWhileTheirStatesAreTaken()
     QFETCH(QString, point);
     RefreshedMenu f;
     f.At(point, [&f] { f.pDefinition->ClearMenuItems(); });
+
+    f.opMenu->UpdateStatus();
+
+    QVERIFY(f.pButton->menu()->actions().isEmpty());
+}
+
+void MenuRefreshTest::entriesMayGoWhenACommandIsAskedForItsVisibility()
+{
+    RefreshedMenu f;
+    ICommandManager::Get()->AddCommand(
+        MakeOwner<AskedCommand>([&f] { f.pDefinition->ClearMenuItems(); }));
+    f.pDefinition->AddMenuItem(MakeOwner<CommandMenuItemDefinition>(L"D", L"Asked", L"D"));
 
     f.opMenu->UpdateStatus();
 

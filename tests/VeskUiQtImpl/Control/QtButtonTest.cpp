@@ -58,6 +58,7 @@ void QtButtonTest::isMarkedAsADefinitionTogetherWithItsAction()
     QCOMPARE(f.opButton->property("IsDefinition"), QVariant(true));
     QCOMPARE(f.Action().property("IsDefinition"), QVariant(true));
     QCOMPARE(f.opButton->GetControlDefinition(), static_cast<IControlDefinition*>(f.pDefinition));
+    QCOMPARE(f.opButton->parentWidget(), &f.parent);
 }
 
 void QtButtonTest::ownsItsAction()

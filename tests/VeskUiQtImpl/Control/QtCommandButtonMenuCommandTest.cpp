@@ -378,6 +378,8 @@ void QtCommandButtonMenuCommandTest::statusUpdateLeavesUnknownCommandsAndSubMenu
     QVERIFY(!f.GetAction(4)->isEnabled());
     QVERIFY(!f.GetAction(2)->isEnabled());
     QVERIFY(!f.GetSubAction(0)->isEnabled());
+    QVERIFY(f.GetAction(4)->isVisible());
+    QVERIFY(f.GetAction(2)->isVisible());
 }
 
 void QtCommandButtonMenuCommandTest::statusUpdateWithoutAMenuIsOfTheButtonOnly()
