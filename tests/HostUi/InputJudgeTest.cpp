@@ -112,12 +112,64 @@ private slots:
         QCOMPARE(verdict.replacement.value_or("nothing"), QStringLiteral("200"));
     }
 
+    void rangeIsToldWithItsDigits()
+    {
+        InputField field = MakeField(Quantity::Length);
+        field.range = {-0.000125, 1234567.89};
+
+        QCOMPARE(JudgeInput("1e9", field, LengthUnit::Millimetre()).refusal,
+                 QStringLiteral("请输入 -0.000125 到 1234567.89 之间的数"));
+    }
+
     void unclearTextIsRefusedWithItsReason()
     {
         const InputVerdict verdict = Judge("1,000");
 
         QCOMPARE(verdict.refusal, DescribeFault(TypedTextFault::AmbiguousComma));
         QVERIFY(!verdict.replacement.has_value());
+    }
+
+    void valueIsTakenInModelUnits_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("isAngle");
+        QTest::addColumn<double>("modelValue");
+
+        QTest::newRow("plain") << "2.5" << false << 25.0;
+        QTest::newRow("formula") << "1+2" << false << 30.0;
+        QTest::newRow("another unit") << "12mm" << false << 12.0;
+        QTest::newRow("plain angle") << "30" << true << 30.0;
+        QTest::newRow("angle with its unit") << "30d" << true << 30.0;
+    }
+
+    void valueIsTakenInModelUnits()
+    {
+        QFETCH(QString, text);
+        QFETCH(bool, isAngle);
+        QFETCH(double, modelValue);
+        const InputField field = MakeField(isAngle ? Quantity::Angle : Quantity::Length);
+
+        const InputVerdict verdict = JudgeInput(text, field, LengthUnit::Centimetre());
+
+        QVERIFY(verdict.modelValue.has_value());
+        QCOMPARE_EXACTLY(*verdict.modelValue, modelValue);
+    }
+
+    void refusedTextHasNoValue_data()
+    {
+        QTest::addColumn<QString>("text");
+
+        QTest::newRow("unclear") << "1,000";
+        QTest::newRow("unfinished") << "2*(";
+        QTest::newRow("out of range") << "1001";
+        QTest::newRow("formula out of range") << "1000+1";
+    }
+
+    void refusedTextHasNoValue()
+    {
+        QFETCH(QString, text);
+
+        QVERIFY(!Judge(text).modelValue.has_value());
     }
 
     void valueIsDescribedWhereItIsNotWhatWasTyped_data()

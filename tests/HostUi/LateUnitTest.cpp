@@ -92,6 +92,7 @@ private slots:
         QTest::newRow("Ctrl") << int(Qt::ControlModifier) << false;
         QTest::newRow("Alt") << int(Qt::AltModifier) << false;
         QTest::newRow("Meta") << int(Qt::MetaModifier) << false;
+        QTest::newRow("keypad") << int(Qt::KeypadModifier) << false;
     }
 
     void keyWithAModifierIsNoPartOfAUnit()
@@ -112,6 +113,30 @@ private slots:
         QVERIFY(!unit.CanTake(QKeyEvent(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier)));
     }
 
+    void textOfSeveralCharactersIsNoPartOfAUnit()
+    {
+        LateUnit unit;
+        unit.Begin();
+
+        QVERIFY(!unit.CanTake(QKeyEvent(QEvent::KeyPress, Qt::Key_C, Qt::NoModifier, "cm")));
+    }
+
+    void keysComeBackOnceAndAsTheyWere()
+    {
+        LateUnit unit;
+        unit.Begin();
+        unit.Take(Press('C', Qt::ShiftModifier));
+
+        const std::vector<QKeyEvent> keys = unit.End();
+
+        QCOMPARE(keys.size(), std::size_t(1));
+        QCOMPARE(keys[0].type(), QEvent::KeyPress);
+        QCOMPARE(keys[0].key(), int(Qt::Key_C));
+        QCOMPARE(keys[0].modifiers(), Qt::KeyboardModifiers(Qt::ShiftModifier));
+        QCOMPARE(keys[0].text(), QString("C"));
+        QVERIFY(unit.End().empty());
+    }
+
     void noneIsAwaitedBeforeAndAfter()
     {
         LateUnit unit;
@@ -121,6 +146,7 @@ private slots:
         Type(unit, "c");
         QVERIFY(unit.IsAwaited());
         unit.End();
+        QCOMPARE(unit.GetText(), QString());
         QVERIFY(!unit.IsAwaited());
         QVERIFY(!unit.CanTake(Press('m')));
     }
