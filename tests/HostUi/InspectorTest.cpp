@@ -4,11 +4,13 @@
 #include "Control/CheckBoxGroupDefinition.h"
 #include "Control/ComboBoxDefinition.h"
 #include "Control/ControlDefinitionChangeByUser.h"
+#include "Control/ControlDefinitionChangeEvent.h"
 #include "Control/LabelDefinition.h"
 #include "Control/LineEditDefinition.h"
 #include "HostUi/ControlHost.h"
 #include "HostUi/ControlLibrary.h"
 #include "HostUi/DimensionInputController.h"
+#include "HostUi/InputFixture.h"
 #include "Support/HostFixture.h"
 #include "Support/TestValues.h"
 
@@ -344,6 +346,98 @@ private slots:
         ActionManager::Reset();
         f.pInspector->UpdateStatus();
         QCOMPARE(f.State(), QStringLiteral("动作：无\n尺寸输入：无"));
+    }
+
+    void theInputOfAValueIsTold()
+    {
+        Fixture f;
+        test::TypingScript script;
+        const test::TypingHandlerFactory factory(f.host.view, script);
+        TemporaryDimensionMgr& manager = *TemporaryDimensionMgr::GetInstance();
+        manager.SetContext(test::MakeLinear());
+        f.pInspector->UpdateStatus();
+        QCOMPARE(f.State(), QStringLiteral("动作：无\n尺寸输入：等待键入"));
+
+        manager.OnKeyDown('7', false, false, false);
+        f.pInspector->UpdateStatus();
+        QCOMPARE(f.State(), QStringLiteral("动作：无\n尺寸输入：长度 “7”"));
+
+        script.isRawTextInput = true;
+        f.pInspector->UpdateStatus();
+        QCOMPARE(f.State(), QStringLiteral("动作：无\n尺寸输入：长度 “7”，原文"));
+
+        script.isRawTextInput = false;
+        manager.SetLocked(InputState::IS_Angle, true);
+        f.pInspector->UpdateStatus();
+        QCOMPARE(f.State(), QStringLiteral("动作：无\n尺寸输入：长度 “7”，已锁定 角度"));
+        manager.Drop();
+    }
+
+    void anEventOfAnotherTypeIsNamedByItsNumber()
+    {
+        Fixture f;
+        auto& event = dynamic_cast<ControlDefinitionChangeEvent&>(
+            *f.pEdit->GetControlDefinitionChangeEvent());
+
+        event.RaiseItemsChanged(42, -1, L"caption", nullptr);
+
+        QCOMPARE(f.Events().front(), QStringLiteral("Edit  42  程序"));
+    }
+
+    void whatIsTheSameIsNotWrittenAgain()
+    {
+        Fixture f;
+        f.pInspector->UpdateStatus();
+        const auto* pTree = f.pInspector->findChild<QTreeWidget*>("InspectorDefinitions");
+        const QSignalSpy changes(pTree, &QTreeWidget::itemChanged);
+
+        f.pInspector->UpdateStatus();
+        QCOMPARE(changes.count(), 0);
+        f.pEdit->SetEnabled(false);
+        f.pInspector->UpdateStatus();
+
+        QCOMPARE(changes.count(), 1);
+    }
+
+    void ofManyEventsAHiddenInspectorKeepsTheNewest()
+    {
+        Fixture f;
+        f.pInspector->hide();
+        f.pInspector->findChild<QListWidget*>("InspectorEvents")->addItem("before");
+
+        f.pEdit->SetText(L"a");
+        for (int i = 0; i < MostEvents; ++i)
+        {
+            const ControlDefinitionChangeByUser byUser(L"Edit");
+            f.pEdit->SetEnabled(i % 2 == 1);
+        }
+
+        QCOMPARE(f.Events().size(), MostEvents);
+        QCOMPARE(f.Events().front(), QStringLiteral("Edit  属性  用户"));
+        QCOMPARE(f.Events().back(), QStringLiteral("Edit  属性  用户"));
+    }
+
+    void itsPartsAreFoundAndFillIt()
+    {
+        Fixture f;
+        const auto* pTree = f.pInspector->findChild<QTreeWidget*>("InspectorDefinitions");
+        const auto* pState = f.pInspector->findChild<QLabel*>();
+
+        QStringList headers;
+        for (int column = 0; column < pTree->columnCount(); ++column)
+            headers << pTree->headerItem()->text(column);
+        QCOMPARE(headers, (QStringList{"定义", "种类", "值", "可见", "可用"}));
+        QVERIFY(!pTree->rootIsDecorated());
+        QCOMPARE(pTree->frameShape(), QFrame::NoFrame);
+        QCOMPARE(f.EventList()->frameShape(), QFrame::NoFrame);
+        QCOMPARE(pState->textInteractionFlags(),
+                 Qt::TextInteractionFlags(Qt::TextSelectableByMouse));
+        QCOMPARE(pState->pos(), QPoint(0, 0));
+        QCOMPARE(pState->margin(), 4);
+        const QWidget* pLists = pTree->parentWidget();
+        QCOMPARE(pLists->geometry().topLeft(), QPoint(0, pState->height()));
+        QCOMPARE(pLists->geometry().bottomRight(), f.pInspector->rect().bottomRight());
+        QVERIFY(pTree->mapToGlobal({}).x() < f.EventList()->mapToGlobal({}).x());
     }
 
     void aGroupShowsTheStatesOfItsBoxes()

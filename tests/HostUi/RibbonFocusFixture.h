@@ -83,6 +83,9 @@ struct RibbonFocusFixture
         return pEditor;
     }
 
+    /// The fields whose locked values the action was told to free.
+    std::vector<InputState> freed;
+
     HostFixture host;
     TypingScript script = Linear();
     DimensionInputController input;
