@@ -114,6 +114,7 @@ void DebugWarnFormTest::aLargerWindowMovesNothing()
 
     f.dialog.resize(900, 700);
 
+    QCOMPARE(f.dialog.size(), QSize(900, 700));
     QCOMPARE(DescribeChildren(f.dialog), before);
 }
 
