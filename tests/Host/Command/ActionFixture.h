@@ -69,6 +69,8 @@ public:
     void PressEscape() { ActionManager::ProcessEscape(&view); }
     void TypeValue() { ActionManager::ProcessViewInput(&view, {}); }
 
+    UiDocumentViewManager& GetViews() { return m_core.GetViewManager(); }
+
     /// The position of an entry of the log; past the end when it is not there.
     std::ptrdiff_t At(const std::string& entry) const
     {

@@ -62,7 +62,9 @@ struct ActionScript
     std::function<void()> onMouseMove;
     std::function<void()> onClick;
     std::function<void(const ActionViewInput&)> onViewInput;
-    TypedValue typed; ///< What was typed for the last input.
+    TypedValue typed;                  ///< What was typed for the last input.
+    IUiView* pView = nullptr;          ///< In which view it began.
+    Vector3d world = Vector3d::Zero(); ///< The last point that it was given.
     std::function<void()> onEnd;
     std::function<OwnerPtr<ITemporaryDimensionContext>()> makeContext;
     bool hasLocks = false;
@@ -82,9 +84,24 @@ public:
 
     std::wstring GetViewText() const override { return m_script.text; }
 
-    void OnBegin(IUiView* /*pView*/) override { Do("begin", m_script.onBegin); }
-    void OnMouseMove(const Vector3d& /*world*/) override { Do("move", m_script.onMouseMove); }
-    void OnClick(const Vector3d& /*world*/) override { Do("click", m_script.onClick); }
+    void OnBegin(IUiView* pView) override
+    {
+        m_script.pView = pView;
+        Do("begin", m_script.onBegin);
+    }
+
+    void OnMouseMove(const Vector3d& world) override
+    {
+        m_script.world = world;
+        Do("move", m_script.onMouseMove);
+    }
+
+    void OnClick(const Vector3d& world) override
+    {
+        m_script.world = world;
+        Do("click", m_script.onClick);
+    }
+
     void OnEnd() override { Do("end", m_script.onEnd); }
 
     void OnViewInput(const ActionViewInput& input, const TypedValue& typed) override

@@ -6,7 +6,6 @@
 #include "Journal/IJournalUiObject.h"
 #include "Journal/JournalFormat.h"
 #include "Journal/NqIJournalFactory.h"
-#include "Platform/OutputFile.h"
 #include "Support/TestValues.h"
 
 #include <QFile>
@@ -76,17 +75,6 @@ QByteArray ReadAll(const QString& path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-void WriteAll(const QString& path, const QByteArray& content)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), qint64(content.size()));
-}
-
-/// A journal that was read, and the part of a line behind it.
-const QByteArray Read = "{\"n\":7,\"kind\":\"undo\",\"entity\":9}\n";
-const QByteArray Torn = "{\"n\":8,\"ki";
-
 OwnerPtr<IJournalCommandData> MakeData()
 {
     auto opData = OwnerPtrCast<IJournalCommandData>(
@@ -109,8 +97,6 @@ private slots:
 
     void recordsAreNumberedAndAnEndRepeatsItsCommand();
     void eachRecordIsInTheFileBeforeItsNumberIsKnown();
-    void openingReplacesTheFileAndNumbersAnew();
-    void openingWhatCannotBeWrittenChangesNothing();
     void closingForgetsNumbersAndLines();
     void withoutAFileRecordsAreNumberedToo();
     void theNumberOfTheLastCommandIsTakenOnce();
@@ -119,15 +105,11 @@ private slots:
     void theLastTwentyLinesAreKept();
     void theLastLinesMayBeAskedForFromAnyThread();
     void observersHearEveryRecord();
+    void anObserverAddedTwiceHearsOnce();
     void anObserverMayRemoveItself();
+    void anObserverRemovedByAnotherHearsNothingMore();
     void aFullDiskIsToldByTheStateAndRaisesNoWarning();
     void withoutAFileNothingIsKept();
-    void aFileHasOneWriter();
-    void theSameFileByAnotherNameIsReplaced();
-    void aReservedFileStaysAsItIs();
-    void aReservedFileIsContinuedBehindItsLastLine();
-    void whatWasKeptBackMovesToAnotherFile();
-    void whereTheOtherFileCannotBeWrittenNothingIsKept();
     void aCommandRecordHoldsTheIdOrTheParametersToo();
     void emptyPointersAreIgnored();
     void aWidgetIsToldToTheObservers();
@@ -161,35 +143,6 @@ void JournalManagerTest::eachRecordIsInTheFileBeforeItsNumberIsKnown()
     Journal().Add(PropertyRecord{L"drawing", L"name", std::wstring(100000, L'a')});
     QCOMPARE(seen.count('\n'), 2);
     QVERIFY(seen.endsWith("\"}\n"));
-}
-
-void JournalManagerTest::openingReplacesTheFileAndNumbersAnew()
-{
-    const QTemporaryDir folder;
-    const QString path = folder.filePath("journal");
-    QVERIFY(Journal().Open(path.toStdString(), m_error));
-    Journal().Add(UndoRecord{1});
-    Journal().Add(UndoRecord{2});
-
-    QVERIFY(Journal().Open(path.toStdString(), m_error));
-    QCOMPARE(ReadAll(path), QByteArray());
-    Journal().Add(UndoRecord{3});
-
-    QCOMPARE(ReadAll(path), QByteArray("{\"n\":1,\"kind\":\"undo\",\"entity\":3}\n"));
-}
-
-void JournalManagerTest::openingWhatCannotBeWrittenChangesNothing()
-{
-    const QTemporaryDir folder;
-    const QString path = folder.filePath("journal");
-    Journal().Open(path.toStdString(), m_error);
-    Journal().Add(UndoRecord{1});
-
-    QVERIFY(!Journal().Open(folder.path().toStdString(), m_error));
-    QVERIFY(!Journal().Open(folder.filePath("none/journal").toStdString(), m_error));
-    Journal().Add(UndoRecord{2});
-
-    QCOMPARE(ReadAll(path).count('\n'), 2);
 }
 
 void JournalManagerTest::closingForgetsNumbersAndLines()
@@ -288,6 +241,16 @@ void JournalManagerTest::observersHearEveryRecord()
     QCOMPARE(observer.numbers, (std::vector<int>{1, 1}));
 }
 
+void JournalManagerTest::anObserverAddedTwiceHearsOnce()
+{
+    Observer observer;
+    Journal().AddObserver(&observer);
+
+    Journal().Add(UndoRecord{1});
+
+    QCOMPARE(observer.numbers, (std::vector<int>{1}));
+}
+
 void JournalManagerTest::anObserverMayRemoveItself()
 {
     Observer* pFirst = nullptr;
@@ -300,6 +263,18 @@ void JournalManagerTest::anObserverMayRemoveItself()
 
     QCOMPARE(first.numbers, (std::vector<int>{1}));
     QCOMPARE(second.numbers, (std::vector<int>{1, 2}));
+}
+
+void JournalManagerTest::anObserverRemovedByAnotherHearsNothingMore()
+{
+    Observer* pSecond = nullptr;
+    const Observer first([&] { Journal().RemoveObserver(pSecond); });
+    Observer second;
+    pSecond = &second;
+
+    Journal().Add(UndoRecord{1});
+
+    QVERIFY(second.numbers.empty());
 }
 
 void JournalManagerTest::aFullDiskIsToldByTheStateAndRaisesNoWarning()
@@ -324,100 +299,6 @@ void JournalManagerTest::withoutAFileNothingIsKept()
 
     QVERIFY(!Journal().IsKept());
     QVERIFY2(Journal().Close(), "no file misses anything");
-}
-
-void JournalManagerTest::aFileHasOneWriter()
-{
-    const QTemporaryDir folder;
-    const QString path = folder.filePath("journal");
-    WriteAll(path, "of another program\n");
-    OutputFile other;
-    QVERIFY(other.OpenAlone(path.toStdString()) == OutputFile::Opening::Done);
-
-    QVERIFY(!Journal().Open(path.toStdString(), m_error));
-    QCOMPARE(m_error, path.toStdString() + " is in use by another program");
-    QVERIFY(!Journal().Reserve(path.toStdString(), m_error));
-    QCOMPARE(ReadAll(path), QByteArray("of another program\n"));
-
-    other.Close();
-    QVERIFY(Journal().Open(path.toStdString(), m_error));
-}
-
-void JournalManagerTest::theSameFileByAnotherNameIsReplaced()
-{
-    const QTemporaryDir folder;
-    const QString path = folder.filePath("journal");
-    const QString link = folder.filePath("link");
-    QVERIFY(Journal().Open(path.toStdString(), m_error));
-    Journal().Add(UndoRecord{1});
-    QVERIFY(QFile::link(path, link));
-
-    QVERIFY(Journal().Open(link.toStdString(), m_error));
-    Journal().Add(UndoRecord{3});
-
-    QCOMPARE(ReadAll(path), QByteArray("{\"n\":1,\"kind\":\"undo\",\"entity\":3}\n"));
-}
-
-void JournalManagerTest::aReservedFileStaysAsItIs()
-{
-    const QTemporaryDir folder;
-    const QString path = folder.filePath("journal");
-    WriteAll(path, Read + Torn);
-
-    QVERIFY(Journal().Reserve(path.toStdString(), m_error));
-    QCOMPARE(Journal().Add(UndoRecord{1}), 1);
-
-    QVERIFY(Journal().IsKept());
-    QVERIFY(Journal().Close());
-    QCOMPARE(ReadAll(path), Read + Torn);
-}
-
-void JournalManagerTest::aReservedFileIsContinuedBehindItsLastLine()
-{
-    const QTemporaryDir folder;
-    const QString path = folder.filePath("journal");
-    WriteAll(path, Read + Torn);
-    QVERIFY(Journal().Reserve(path.toStdString(), m_error));
-    Journal().Add(CommandRecord{L"Line", {}});
-
-    Journal().Continue(7);
-    QCOMPARE(Journal().TakeCommandNumber(L"Line"), 0);
-    QCOMPARE(ReadAll(path), Read + Torn);
-    QCOMPARE(Journal().Add(UndoRecord{3}), 8);
-
-    QCOMPARE(ReadAll(path), Read + "{\"n\":8,\"kind\":\"undo\",\"entity\":3}\n");
-}
-
-void JournalManagerTest::whatWasKeptBackMovesToAnotherFile()
-{
-    const QTemporaryDir folder;
-    const QString path = folder.filePath("journal");
-    const QString other = folder.filePath("other");
-    WriteAll(path, Read + Torn);
-    QVERIFY(Journal().Reserve(path.toStdString(), m_error));
-    Journal().Add(UndoRecord{1});
-
-    QVERIFY(Journal().MoveTo(other.toStdString(), m_error));
-    QCOMPARE(Journal().Add(UndoRecord{2}), 2);
-
-    QCOMPARE(ReadAll(path), Read + Torn);
-    QCOMPARE(ReadAll(other), QByteArray("{\"n\":1,\"kind\":\"undo\",\"entity\":1}\n"
-                                        "{\"n\":2,\"kind\":\"undo\",\"entity\":2}\n"));
-}
-
-void JournalManagerTest::whereTheOtherFileCannotBeWrittenNothingIsKept()
-{
-    const QTemporaryDir folder;
-    const QString path = folder.filePath("journal");
-    WriteAll(path, Read);
-    QVERIFY(Journal().Reserve(path.toStdString(), m_error));
-    Journal().Add(UndoRecord{1});
-
-    QVERIFY(!Journal().MoveTo(folder.filePath("none/other").toStdString(), m_error));
-
-    QVERIFY(!Journal().IsKept());
-    Journal().Add(UndoRecord{2});
-    QCOMPARE(ReadAll(path), Read);
 }
 
 void JournalManagerTest::aCommandRecordHoldsTheIdOrTheParametersToo()

@@ -2,11 +2,8 @@
 
 #include "Command/IActionManager.h"
 #include "Host/Journal/ReplayFixture.h"
-#include "Journal/JournalFormat.h"
 #include "Support/HostValues.h"
 #include "Support/TestValues.h"
-
-#include <stdexcept>
 
 #include <functional>
 #include <utility>
@@ -44,7 +41,6 @@ private slots:
     void stepsGoToTheActionOfTheirCommand();
     void theEventLoopIsOffMeanwhile();
     void anActionEndsAtItsMark();
-    void aStepBehindTheMarkIsAFailure();
     void aCommandIsJudgedWhenTheOneBeforeItHasEnded();
     void aPlainCommandInsideAnActionRunsBesideIt();
     void aPlainCommandThatEndedLaterRunsAfterTheAction();
@@ -63,17 +59,12 @@ private slots:
     void theTargetIsToldHowFarTheReplayHasCome();
     void theTargetMayStopTheReplay();
     void commandsGetTheirParameters();
-    void whatCannotBeDoneIsNamed_data();
-    void whatCannotBeDoneIsNamed();
-    void aFailureStopsTheReplayAndEndsTheAction();
-    void anExceptionStopsTheReplayAndEndsTheAction();
-    void aDisabledCommandIsAFailure();
-    void whatWasRepeatedIsCounted();
-    void aCommandThatCannotDoWhatItsParametersSayIsAFailure();
     void aPlainCommandThatWaitedAndDidNotGetItsMarkIsRepeated();
     void missingMarksSayWhatTheJournalSaidWithoutThem_data();
     void missingMarksSayWhatTheJournalSaidWithoutThem();
     void aReplayInsideAnActionIsRefused();
+    void aReplayEndsAnActionThatRunsWithoutALoop();
+    void anActionIsRepeatedInTheCurrentView();
     void aReplayWritesTheJournalOfItsOwn();
 };
 
@@ -112,14 +103,6 @@ void JournalReplayerTest::anActionEndsAtItsMark()
     f.Replay();
 
     QCOMPARE(f.log, (Log{"Line.begin", "Line.end", "Line.delete", "Undo", "undo 1"}));
-}
-
-void JournalReplayerTest::aStepBehindTheMarkIsAFailure()
-{
-    Fixture f;
-    f.Command(L"Line").End(1).Point(1);
-
-    QCOMPARE(FailureOf(f.Replay()), QString("record 2: a point without a running command"));
 }
 
 void JournalReplayerTest::aCommandIsJudgedWhenTheOneBeforeItHasEnded()
@@ -346,102 +329,6 @@ void JournalReplayerTest::commandsGetTheirParameters()
     QCOMPARE(seen, parameters);
 }
 
-void JournalReplayerTest::whatCannotBeDoneIsNamed_data()
-{
-    QTest::addColumn<QString>("line");
-    QTest::addColumn<QString>("failure");
-    QTest::newRow("unknown command") << R"({"n":12,"kind":"command","id":"Sketcher.Foo"})"
-                                     << R"(record 12: unknown command "Sketcher.Foo")";
-    QTest::newRow("point without action") << R"({"n":12,"kind":"point","point":[1,2,3]})"
-                                          << "record 12: a point without a running command";
-    QTest::newRow("value without action")
-        << R"({"n":12,"kind":"value","field":"length","text":"1","value":1})"
-        << "record 12: a value without a running command";
-    QTest::newRow("unknown property")
-        << R"({"n":12,"kind":"property","object":"layer","property":"name","value":"a"})"
-        << R"(record 12: the property "name" of "layer" cannot be set)";
-    QTest::newRow("missing entity") << R"({"n":12,"kind":"selection","entities":[13]})"
-                                    << "record 12: an entity to select is missing";
-    QTest::newRow("another undo") << R"({"n":12,"kind":"undo","entity":13})"
-                                  << "record 12: the undo gave another result";
-}
-
-void JournalReplayerTest::whatCannotBeDoneIsNamed()
-{
-    QFETCH(QString, line);
-    QFETCH(QString, failure);
-    Fixture f;
-    JournalRecord record;
-    std::string error;
-    QVERIFY(JournalFormat::FromLine(line.toStdString(), record, error));
-    f.records = {record};
-
-    QCOMPARE(FailureOf(f.Replay()), failure);
-}
-
-void JournalReplayerTest::aFailureStopsTheReplayAndEndsTheAction()
-{
-    Fixture f;
-    f.scripts["Line"].canReplay = false;
-    f.Command(L"Line").Point(1).Point(2).End(1).Command(L"Undo").End(4);
-
-    const JournalReplayResult result = f.Replay();
-
-    QCOMPARE(FailureOf(result), QString("record 2: the point cannot be repeated"));
-    QCOMPARE(f.log, (Log{"Line.begin", "Line.point 1", "Line.end", "Line.delete"}));
-}
-
-void JournalReplayerTest::anExceptionStopsTheReplayAndEndsTheAction()
-{
-    Fixture f;
-    f.AddPlain("Fail", [] { throw std::runtime_error("command"); });
-    f.Command(L"Line").Point(1).Command(L"Fail").End(3).End(1);
-
-    QVERIFY_EXCEPTION_THROWN(f.Replay(), std::runtime_error);
-
-    QVERIFY(f.log == (Log{"Line.begin", "Line.point 1", "Fail", "Line.end", "Line.delete"}));
-    QVERIFY(ActionManager::GetRunningCommandId().empty());
-}
-
-void JournalReplayerTest::aDisabledCommandIsAFailure()
-{
-    Fixture f;
-    f.isDisabled["Undo"] = true;
-    f.Command(L"Line").Command(L"Undo").End(1).End(2);
-
-    QCOMPARE(FailureOf(f.Replay()), QString(R"(record 2: the command "Undo" is disabled)"));
-    QVERIFY(!f.Has("Undo"));
-}
-
-void JournalReplayerTest::whatWasRepeatedIsCounted()
-{
-    Fixture f;
-    f.isDisabled["Undo"] = true;
-    f.Command(L"Line").Point(1).End(1).Command(L"Undo").End(3).Command(L"Zoom").End(4);
-
-    const JournalReplayResult result = f.Replay();
-
-    QCOMPARE(result.failedNumber, 3);
-    QCOMPARE(result.repeatedCount, std::size_t(3));
-    f.isDisabled.clear();
-    const JournalReplayResult whole = f.Replay();
-    QCOMPARE(whole.failedNumber, 0);
-    QCOMPARE(whole.repeatedCount, f.records.size());
-}
-
-void JournalReplayerTest::aCommandThatCannotDoWhatItsParametersSayIsAFailure()
-{
-    Fixture f;
-    f.Command(L"Zoom").End(1).Command(L"Undo").End(2);
-    f.impossible = L"Undo";
-
-    const JournalReplayResult result = f.Replay();
-
-    QCOMPARE(FailureOf(result),
-             QString(R"(record 2: the command "Undo" cannot do what its parameters say)"));
-    QVERIFY(f.log == (Log{"Zoom"}));
-}
-
 void JournalReplayerTest::aPlainCommandThatWaitedAndDidNotGetItsMarkIsRepeated()
 {
     Fixture f;
@@ -529,6 +416,33 @@ void JournalReplayerTest::aReplayInsideAnActionIsRefused()
 
     QCOMPARE(failure, QString("a command is running"));
     QVERIFY(!f.Has("Undo"));
+}
+
+void JournalReplayerTest::aReplayEndsAnActionThatRunsWithoutALoop()
+{
+    Fixture f;
+    ActionManager::SetEventLoop(nullptr);
+    f.Choose("Erase");
+    f.Point(1);
+
+    const JournalReplayResult result = f.Replay();
+
+    QCOMPARE(FailureOf(result), QString("record 1: a point without a running command"));
+    QCOMPARE(f.log, (Log{"Erase.begin", "Erase.end", "Erase.delete"}));
+}
+
+void JournalReplayerTest::anActionIsRepeatedInTheCurrentView()
+{
+    Fixture f;
+    RecordingView other(2);
+    f.GetViews().AddView(&other);
+    f.GetViews().SetCurrentView(&other);
+    f.Command(L"Line").End(1);
+
+    f.Replay();
+
+    QCOMPARE(f.scripts["Line"].pView, static_cast<IUiView*>(&other));
+    f.GetViews().RemoveView(&other);
 }
 
 void JournalReplayerTest::aReplayWritesTheJournalOfItsOwn()

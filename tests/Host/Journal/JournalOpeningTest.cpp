@@ -1,0 +1,252 @@
+#include "Journal/JournalManager.h"
+
+#include "Platform/OutputFile.h"
+#include "Support/TestValues.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <functional>
+
+namespace vesk
+{
+
+/// Has the journal take a file.
+using Opening = std::function<bool(const std::string& path, std::string& error)>;
+
+}
+
+Q_DECLARE_METATYPE(vesk::Opening)
+
+namespace vesk
+{
+
+namespace
+{
+
+JournalManager& Journal()
+{
+    return JournalManager::GetInstance();
+}
+
+QByteArray ReadAll(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void WriteAll(const QString& path, const QByteArray& content)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(content), qint64(content.size()));
+}
+
+/// A journal that was read, and the part of a line behind it.
+const QByteArray Read = "{\"n\":7,\"kind\":\"undo\",\"entity\":9}\n";
+const QByteArray Torn = "{\"n\":8,\"ki";
+
+}
+
+/// How the journal takes a file, and leaves it.
+class JournalOpeningTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup() { Journal().Close(); }
+
+    void openingReplacesTheFileAndNumbersAnew();
+    void openingWhatCannotBeWrittenChangesNothing();
+    void reservingWhatCannotBeWrittenChangesNothing();
+    void whatCannotBeWrittenIsTold_data();
+    void whatCannotBeWrittenIsTold();
+    void reservingNumbersAnew();
+    void aFileHasOneWriter();
+    void theSameFileByAnotherNameIsReplaced();
+    void aReservedFileStaysAsItIs();
+    void aReservedFileIsContinuedBehindItsLastLine();
+    void whatWasKeptBackMovesToAnotherFile();
+    void whereTheOtherFileCannotBeWrittenNothingIsKept();
+
+private:
+    std::string m_error;
+};
+
+void JournalOpeningTest::openingReplacesTheFileAndNumbersAnew()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("journal");
+    QVERIFY(Journal().Open(path.toStdString(), m_error));
+    Journal().Add(UndoRecord{1});
+    Journal().Add(UndoRecord{2});
+
+    QVERIFY(Journal().Open(path.toStdString(), m_error));
+    QCOMPARE(ReadAll(path), QByteArray());
+    Journal().Add(UndoRecord{3});
+
+    QCOMPARE(ReadAll(path), QByteArray("{\"n\":1,\"kind\":\"undo\",\"entity\":3}\n"));
+}
+
+void JournalOpeningTest::openingWhatCannotBeWrittenChangesNothing()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("journal");
+    Journal().Open(path.toStdString(), m_error);
+    Journal().Add(UndoRecord{1});
+
+    QVERIFY(!Journal().Open(folder.path().toStdString(), m_error));
+    QVERIFY(!Journal().Open(folder.filePath("none/journal").toStdString(), m_error));
+    Journal().Add(UndoRecord{2});
+
+    QCOMPARE(ReadAll(path).count('\n'), 2);
+}
+
+void JournalOpeningTest::reservingWhatCannotBeWrittenChangesNothing()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("journal");
+    Journal().Open(path.toStdString(), m_error);
+    Journal().Add(UndoRecord{1});
+
+    QVERIFY(!Journal().Reserve(folder.path().toStdString(), m_error));
+
+    QCOMPARE(Journal().GetLastLines().size(), std::size_t(1));
+    QCOMPARE(Journal().Add(UndoRecord{2}), 2);
+    QCOMPARE(ReadAll(path).count('\n'), 2);
+}
+
+void JournalOpeningTest::whatCannotBeWrittenIsTold_data()
+{
+    QTest::addColumn<Opening>("open");
+    QTest::newRow("open") << Opening(
+        [](const std::string& path, std::string& error) { return Journal().Open(path, error); });
+    QTest::newRow("reserve") << Opening(
+        [](const std::string& path, std::string& error) { return Journal().Reserve(path, error); });
+    QTest::newRow("move") << Opening(
+        [](const std::string& path, std::string& error) { return Journal().MoveTo(path, error); });
+}
+
+void JournalOpeningTest::whatCannotBeWrittenIsTold()
+{
+    QFETCH(Opening, open);
+    const QTemporaryDir folder;
+    const std::string path = folder.filePath("none/journal").toStdString();
+
+    QVERIFY(!open(path, m_error));
+
+    QCOMPARE(m_error, path + " cannot be written");
+}
+
+void JournalOpeningTest::reservingNumbersAnew()
+{
+    const QTemporaryDir folder;
+    const std::string path = folder.filePath("journal").toStdString();
+    Journal().Add(UndoRecord{1});
+    Journal().Add(CommandRecord{L"Line", {}});
+
+    QVERIFY(Journal().Reserve(path, m_error));
+
+    QVERIFY(Journal().GetLastLines().empty());
+    QCOMPARE(Journal().TakeCommandNumber(L"Line"), 0);
+    QCOMPARE(Journal().Add(UndoRecord{2}), 1);
+}
+
+void JournalOpeningTest::aFileHasOneWriter()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("journal");
+    WriteAll(path, "of another program\n");
+    OutputFile other;
+    QVERIFY(other.OpenAlone(path.toStdString()) == OutputFile::Opening::Done);
+
+    QVERIFY(!Journal().Open(path.toStdString(), m_error));
+    QCOMPARE(m_error, path.toStdString() + " is in use by another program");
+    QVERIFY(!Journal().Reserve(path.toStdString(), m_error));
+    QCOMPARE(ReadAll(path), QByteArray("of another program\n"));
+
+    other.Close();
+    QVERIFY(Journal().Open(path.toStdString(), m_error));
+}
+
+void JournalOpeningTest::theSameFileByAnotherNameIsReplaced()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("journal");
+    const QString link = folder.filePath("link");
+    QVERIFY(Journal().Open(path.toStdString(), m_error));
+    Journal().Add(UndoRecord{1});
+    QVERIFY(QFile::link(path, link));
+
+    QVERIFY(Journal().Open(link.toStdString(), m_error));
+    Journal().Add(UndoRecord{3});
+
+    QCOMPARE(ReadAll(path), QByteArray("{\"n\":1,\"kind\":\"undo\",\"entity\":3}\n"));
+}
+
+void JournalOpeningTest::aReservedFileStaysAsItIs()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("journal");
+    WriteAll(path, Read + Torn);
+
+    QVERIFY(Journal().Reserve(path.toStdString(), m_error));
+    QCOMPARE(Journal().Add(UndoRecord{1}), 1);
+
+    QVERIFY(Journal().IsKept());
+    QVERIFY(Journal().Close());
+    QCOMPARE(ReadAll(path), Read + Torn);
+}
+
+void JournalOpeningTest::aReservedFileIsContinuedBehindItsLastLine()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("journal");
+    WriteAll(path, Read + Torn);
+    QVERIFY(Journal().Reserve(path.toStdString(), m_error));
+    Journal().Add(CommandRecord{L"Line", {}});
+
+    Journal().Continue(7);
+    QCOMPARE(Journal().TakeCommandNumber(L"Line"), 0);
+    QCOMPARE(ReadAll(path), Read + Torn);
+    QCOMPARE(Journal().Add(UndoRecord{3}), 8);
+
+    QCOMPARE(ReadAll(path), Read + "{\"n\":8,\"kind\":\"undo\",\"entity\":3}\n");
+}
+
+void JournalOpeningTest::whatWasKeptBackMovesToAnotherFile()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("journal");
+    const QString other = folder.filePath("other");
+    WriteAll(path, Read + Torn);
+    QVERIFY(Journal().Reserve(path.toStdString(), m_error));
+    Journal().Add(UndoRecord{1});
+
+    QVERIFY(Journal().MoveTo(other.toStdString(), m_error));
+    QCOMPARE(Journal().Add(UndoRecord{2}), 2);
+
+    QCOMPARE(ReadAll(path), Read + Torn);
+    QCOMPARE(ReadAll(other), QByteArray("{\"n\":1,\"kind\":\"undo\",\"entity\":1}\n"
+                                        "{\"n\":2,\"kind\":\"undo\",\"entity\":2}\n"));
+}
+
+void JournalOpeningTest::whereTheOtherFileCannotBeWrittenNothingIsKept()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("journal");
+    WriteAll(path, Read);
+    QVERIFY(Journal().Reserve(path.toStdString(), m_error));
+    Journal().Add(UndoRecord{1});
+
+    QVERIFY(!Journal().MoveTo(folder.filePath("none/other").toStdString(), m_error));
+
+    QVERIFY(!Journal().IsKept());
+    Journal().Add(UndoRecord{2});
+    QCOMPARE(ReadAll(path), Read);
+}
+
+}
+
+QTEST_APPLESS_MAIN(vesk::JournalOpeningTest)
+#include "JournalOpeningTest.moc"
