@@ -123,6 +123,7 @@ private slots:
     void whatWaitsRunsInItsOrder();
     void whatWaitsRunsBeforeACommandThatComesFirst();
     void whatIsTypedUntilThenIsKept();
+    void whatIsTypedForTheNextCommandIsKeptThen();
     void whatIsKeptForACommandThatThrowsIsDropped();
     void theTypedValueIsForgotten();
 };
@@ -352,6 +353,30 @@ void ActionExceptionTest::whatIsTypedUntilThenIsKept()
     application.DeliverPosted();
 
     QVERIFY(f.Has("Arc.click"));
+}
+
+void ActionExceptionTest::whatIsTypedForTheNextCommandIsKeptThen()
+{
+    ActionFixture f;
+    PostingApplication application;
+    f.AddInteractive("Line");
+    f.AddPlain("Save");
+    f.AddInteractive("Arc");
+    f.AddInteractive("Erase");
+    f.scripts["Line"].onEnd = &Throw;
+    f.loop.Post([&f] { f.ChooseInMenu("Save"); });
+    QVERIFY_EXCEPTION_THROWN(f.Choose("Line"), std::runtime_error);
+    // The loop comes round when another action runs already and a third is chosen.
+    f.loop.Post([&] {
+        f.Choose("Erase");
+        f.Click();
+        application.DeliverPosted();
+    });
+
+    f.Choose("Arc");
+
+    QVERIFY(f.Has("Erase.click"));
+    QCOMPARE(std::count(f.log.begin(), f.log.end(), "Save"), std::ptrdiff_t(1));
 }
 
 void ActionExceptionTest::whatIsKeptForACommandThatThrowsIsDropped()

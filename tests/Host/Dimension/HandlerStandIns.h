@@ -34,6 +34,8 @@ struct HandlerScript
     std::function<void()> onGenerate;
     std::function<void()> onKeyDown;
     std::function<void()> onEndInput;
+    std::string key; ///< The key pressed last, as "65 ctrl alt shift".
+    bool isRawText = false;
 };
 
 /// Logs what happens to it, as "1.end input", and follows a script, which outlives it.
@@ -64,8 +66,10 @@ public:
 
     void OnEditorReturnPressed() override {}
 
-    bool OnKeyDown(int virtualKey, bool /*isCtrl*/, bool /*isAlt*/, bool /*isShift*/) override
+    bool OnKeyDown(int virtualKey, bool isCtrl, bool isAlt, bool isShift) override
     {
+        m_script.key = std::to_string(virtualKey) + (isCtrl ? " ctrl" : "") +
+                       (isAlt ? " alt" : "") + (isShift ? " shift" : "");
         if (virtualKey == '?')
             return false;
         m_isInputting = true;
@@ -147,6 +151,11 @@ public:
     InputState GetInputState(ITemporaryDimensionHandler& /*handler*/) override
     {
         return InputState::IS_Angle;
+    }
+
+    bool IsRawTextInput(ITemporaryDimensionHandler& /*handler*/) override
+    {
+        return m_script.isRawText;
     }
 
 private:

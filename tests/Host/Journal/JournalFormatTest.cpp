@@ -71,6 +71,10 @@ private slots:
     void everyFieldReadsBack();
     void parametersKeepTheirTypes();
     void integersAreGoodForRealNumbers();
+    void everyIntReadsBack_data();
+    void everyIntReadsBack();
+    void numbersMayBeWrittenInEveryWayOfJson_data();
+    void numbersMayBeWrittenInEveryWayOfJson();
     void spacesAreAllowed();
     void deepNestingIsTold_data();
     void deepNestingIsTold();
@@ -276,6 +280,51 @@ void JournalFormatTest::integersAreGoodForRealNumbers()
     QCOMPARE(point.z(), 12345678901234567890.0);
 }
 
+void JournalFormatTest::everyIntReadsBack_data()
+{
+    QTest::addColumn<int>("value");
+    QTest::newRow("least") << std::numeric_limits<int>::min();
+    QTest::newRow("minus one") << -1;
+    QTest::newRow("zero") << 0;
+    QTest::newRow("greatest") << std::numeric_limits<int>::max();
+}
+
+void JournalFormatTest::everyIntReadsBack()
+{
+    QFETCH(int, value);
+
+    const JournalRecord record = Read(JournalFormat::ToLine({1, UndoRecord{value}}));
+
+    QCOMPARE(std::get<UndoRecord>(record.what).entity, value);
+}
+
+void JournalFormatTest::numbersMayBeWrittenInEveryWayOfJson_data()
+{
+    QTest::addColumn<QString>("written");
+    QTest::addColumn<double>("value");
+    QTest::newRow("zero") << "0" << 0.0;
+    QTest::newRow("below one") << "0.25" << 0.25;
+    QTest::newRow("negative") << "-10.5" << -10.5;
+    QTest::newRow("exponent") << "25e2" << 2500.0;
+    QTest::newRow("great exponent letter") << "25E2" << 2500.0;
+    QTest::newRow("plus") << "25e+2" << 2500.0;
+    QTest::newRow("minus") << "25E-2" << 0.25;
+    QTest::newRow("everything") << "-0.25e+02" << -25.0;
+}
+
+void JournalFormatTest::numbersMayBeWrittenInEveryWayOfJson()
+{
+    QFETCH(QString, written);
+    QFETCH(double, value);
+
+    const JournalRecord record =
+        Read(R"({"n":1,"kind":"point","point":[)" + written.toStdString() + ",7,8]}");
+
+    const Vector3d point = std::get<PointRecord>(record.what).point;
+    QVERIFY(IsSameDouble(point.x(), value));
+    QCOMPARE(point.y(), 7.0);
+}
+
 void JournalFormatTest::spacesAreAllowed()
 {
     const JournalRecord record = Read("{ \"n\" : 1 , \"kind\":\t\"undo\",\"entity\": 7 } \r");
@@ -331,6 +380,36 @@ void JournalFormatTest::aBadLineIsTold_data()
          R"(the parameter "B" has no value that it can have)"},
         {"great parameter", R"({"n":1,"kind":"command","id":"A","parameters":{"B":5000000000}})",
          R"(the parameter "B" has no value that it can have)"},
+        {"parameter of a list", R"({"n":1,"kind":"command","id":"A","parameters":{"B":[]}})",
+         R"(the parameter "B" has no value that it can have)"},
+        {"too small", R"({"n":1,"kind":"undo","entity":-2147483649})", R"("entity" is no integer)"},
+        {"sign without digits", R"({"n":1,"kind":"point","point":[1,2,-.5]})", "this is no JSON"},
+        {"letter behind a number", R"({"n":1,"kind":"point","point":[1,2,3.5f]})",
+         "this is no JSON"},
+        {"two exponents", R"({"n":1,"kind":"point","point":[1,2,3e5e5]})", "this is no JSON"},
+        {"point without place", R"({"n":1,"kind":"point"})", R"("point" is missing)"},
+        {"point of four", R"({"n":1,"kind":"point","point":[1,2,3,4]})",
+         R"("point" is no list of three numbers)"},
+        {"point with a text at its end", R"({"n":1,"kind":"point","point":[1,2,"3"]})",
+         R"("point" is no list of three numbers)"},
+        {"point with a text within", R"({"n":1,"kind":"point","point":[1,"2",3]})",
+         R"("point" is no list of three numbers)"},
+        {"value without field", R"({"n":1,"kind":"value","text":"1","value":1})",
+         R"("field" is missing)"},
+        {"value without text", R"({"n":1,"kind":"value","field":"angle","value":1})",
+         R"("text" is missing)"},
+        {"value without number", R"({"n":1,"kind":"value","field":"angle","text":"1"})",
+         R"("value" is missing)"},
+        {"text as number", R"({"n":1,"kind":"value","field":"angle","text":1,"value":1})",
+         R"("text" is no text)"},
+        {"undo without entity", R"({"n":1,"kind":"undo"})", R"("entity" is missing)"},
+        {"property without object", R"({"n":1,"kind":"property","property":"b","value":"c"})",
+         R"("object" is missing)"},
+        {"property without name", R"({"n":1,"kind":"property","object":"a","value":"c"})",
+         R"("property" is missing)"},
+        {"property without value", R"({"n":1,"kind":"property","object":"a","property":"b"})",
+         R"("value" is missing)"},
+        {"end without result", R"({"n":1,"kind":"end"})", R"("result" is missing)"},
         {"point of two", R"({"n":1,"kind":"point","point":[1,2]})",
          R"("point" is no list of three numbers)"},
         {"point of texts", R"({"n":1,"kind":"point","point":["1.5","2","3"]})",

@@ -5,6 +5,19 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <functional>
+#include <utility>
+
+namespace vesk
+{
+
+/// Opens another file with what has one open.
+using Opening = std::function<void(OutputFile& file, const std::filesystem::path& path)>;
+
+}
+
+Q_DECLARE_METATYPE(vesk::Opening)
+
 namespace vesk
 {
 
@@ -18,11 +31,17 @@ private slots:
     void aFileThatOneHasAloneIsInUse();
     void theLockGoesWithTheFile_data();
     void theLockGoesWithTheFile();
+    void openingAnotherFileLetsGoOfTheFirst_data();
+    void openingAnotherFileLetsGoOfTheFirst();
+    void aFileThatIsMovedBelongsToTheOther();
+    void aFileMovedToItselfStays();
     void sharedFilesAreNotLocked();
     void onlyALongerFileIsCut();
     void aNewFileMustBeNew();
     void whatCannotBeOpenedIsTold();
     void aFullDeviceTakesNothing();
+    void aDeviceHasNothingToBringToTheDisk();
+    void withoutAFileNothingIsDone();
 
 private:
     QString Path() const { return m_folder.filePath(QString::fromUtf8("文件")); }
@@ -89,6 +108,62 @@ void OutputFileTest::theLockGoesWithTheFile()
     QVERIFY(OutputFile().OpenAlone(NativePath()) == OutputFile::Opening::Done);
 }
 
+void OutputFileTest::openingAnotherFileLetsGoOfTheFirst_data()
+{
+    QTest::addColumn<Opening>("open");
+    QTest::newRow("alone") << Opening(
+        [](OutputFile& file, const std::filesystem::path& path) { file.OpenAlone(path); });
+    QTest::newRow("shared") << Opening(
+        [](OutputFile& file, const std::filesystem::path& path) { file.OpenShared(path); });
+    QTest::newRow("new") << Opening(
+        [](OutputFile& file, const std::filesystem::path& path) { file.Create(path); });
+    QTest::newRow("moved") << Opening([](OutputFile& file, const std::filesystem::path& path) {
+        OutputFile other;
+        other.OpenShared(path);
+        file = std::move(other);
+    });
+}
+
+void OutputFileTest::openingAnotherFileLetsGoOfTheFirst()
+{
+    QFETCH(Opening, open);
+    const QTemporaryDir folder;
+    OutputFile file;
+    QVERIFY(file.OpenAlone(NativePath()) == OutputFile::Opening::Done);
+
+    open(file, folder.filePath("other").toStdString());
+
+    QVERIFY(file.IsOpen());
+    QVERIFY(OutputFile().OpenAlone(NativePath()) == OutputFile::Opening::Done);
+}
+
+void OutputFileTest::aFileThatIsMovedBelongsToTheOther()
+{
+    OutputFile first;
+    QVERIFY(first.OpenAlone(NativePath()) == OutputFile::Opening::Done);
+
+    {
+        OutputFile second(std::move(first));
+        QVERIFY(second.IsOpen());
+        QVERIFY(OutputFile().OpenAlone(NativePath()) == OutputFile::Opening::InUse);
+    }
+
+    QVERIFY(!first.IsOpen()); // NOLINT(bugprone-use-after-move)
+    QVERIFY(OutputFile().OpenAlone(NativePath()) == OutputFile::Opening::Done);
+}
+
+void OutputFileTest::aFileMovedToItselfStays()
+{
+    OutputFile file;
+    QVERIFY(file.OpenAlone(NativePath()) == OutputFile::Opening::Done);
+    OutputFile& same = file;
+
+    file = std::move(same);
+
+    QVERIFY(file.IsOpen());
+    QVERIFY(OutputFile().OpenAlone(NativePath()) == OutputFile::Opening::InUse);
+}
+
 void OutputFileTest::sharedFilesAreNotLocked()
 {
     OutputFile first;
@@ -141,6 +216,23 @@ void OutputFileTest::aFullDeviceTakesNothing()
     QVERIFY(file.OpenShared("/dev/full"));
 
     QCOMPARE(file.Write("text"), std::size_t(0));
+}
+
+void OutputFileTest::aDeviceHasNothingToBringToTheDisk()
+{
+    OutputFile file;
+    QVERIFY(file.OpenShared("/dev/full"));
+
+    QVERIFY(file.Sync());
+}
+
+void OutputFileTest::withoutAFileNothingIsDone()
+{
+    OutputFile file;
+
+    QVERIFY(!file.CutTo(0));
+    QVERIFY(!file.Sync());
+    QVERIFY(file.Close());
 }
 
 }

@@ -297,6 +297,8 @@ void ModelViewTest::whatIsNoUsefulNumberChangesNothing_data()
     const auto row = [](const char* name, Act act) { QTest::newRow(name) << act; };
 
     row("no width", [](ModelView& v) { v.SetSize(0, 100); });
+    row("negative width", [](ModelView& v) { v.SetSize(-1, 100); });
+    row("no height", [](ModelView& v) { v.SetSize(100, 0); });
     row("negative height", [](ModelView& v) { v.SetSize(100, -1); });
     row("centre NaN", [](ModelView& v) { v.SetCentre(Vector3d(s_nan, 0, 0)); });
     row("centre infinite", [](ModelView& v) { v.SetCentre(Vector3d(0, -s_infinity, 0)); });
