@@ -7,6 +7,7 @@ import contextlib
 import dataclasses
 import fcntl
 import filecmp
+import hashlib
 import json
 import os
 import pathlib
@@ -94,6 +95,15 @@ def write(path, text):
     """Leaves the time of a file alone whose text stays, so that nothing is built for it."""
     if not path.exists() or path.read_text(encoding="utf-8") != text:
         path.write_text(text, encoding="utf-8")
+
+
+def state_of_sources():
+    """Differs whenever any source differs."""
+    state = hashlib.sha256()
+    for path in sorted((COPY / "src").rglob("*")):
+        if path.is_file():
+            state.update(str(path).encode() + b"\0" + path.read_bytes() + b"\0")
+    return state.hexdigest()
 
 
 def environment():
