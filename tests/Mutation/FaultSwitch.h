@@ -3,6 +3,7 @@
 #include <cstdlib>
 
 #include <fcntl.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
 /// Chooses which of the faults that were compiled in is at work. Every function that holds some
@@ -24,6 +25,24 @@ inline int Chosen()
     return chosen;
 }
 
+/// Lifts the limit of a file's size, which stands for a full disk in some tests, while it lives.
+class NoFileSizeLimit
+{
+public:
+    NoFileSizeLimit()
+    {
+        ::getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit none{m_before.rlim_max, m_before.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &none);
+    }
+    ~NoFileSizeLimit() { ::setrlimit(RLIMIT_FSIZE, &m_before); }
+    NoFileSizeLimit(const NoFileSizeLimit&) = delete;
+    NoFileSizeLimit& operator=(const NoFileSizeLimit&) = delete;
+
+private:
+    rlimit m_before{};
+};
+
 /// Appends the number of a function to VESK_FAULT_RECORD, once, without allocating.
 inline void Record(int function)
 {
@@ -32,6 +51,7 @@ inline void Record(int function)
     if (path == nullptr || isRecorded[function])
         return;
     isRecorded[function] = true;
+    const NoFileSizeLimit unlimited;
     const int file = ::open(path, O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0600);
     [[maybe_unused]] const auto written = ::write(file, &function, sizeof function);
     ::close(file);

@@ -23,6 +23,9 @@ OPERATORS = [("comparison", OTHER_COMPARISON), ("connective", OTHER_CONNECTIVE),
 KINDS = ["argument", "arithmetic", "comparison", "condition", "connective", "constant", "early return", "not",
          "returned value", "statement"]
 
+# What they answer is the same when two neighbouring arguments change places.
+SYMMETRIC = {"min", "max", "hypot", "operator+", "operator==", "operator!="}
+
 LEXEME = re.compile(r"""
     (?P<skip>//[^\n]*|/\*.*?\*/|\#[^\n]*|'(?:\\.|[^'\\])+')
     |(?P<text>(?:u8|[uUL])?"(?:\\.|[^"\\\n])*")
@@ -300,8 +303,9 @@ class Scan:
 
     def visit_call(self, cursor, _children):
         arguments = [argument for argument in cursor.get_arguments() if argument is not None]
-        for first, second in zip(arguments, arguments[1:]):
-            self.exchange(first, second)
+        if cursor.spelling not in SYMMETRIC or "string" in plain(cursor.type):
+            for first, second in zip(arguments, arguments[1:]):
+                self.exchange(first, second)
         for argument in arguments:
             if argument.type.get_canonical().kind == cindex.TypeKind.BOOL:
                 self.negate(argument, "argument")
@@ -357,7 +361,7 @@ class Scan:
         is_bool = result.kind == cindex.TypeKind.BOOL
         for child in body.get_children():
             start, end = self.extent(child)
-            if start == end or returns and re.fullmatch(r"return (\{\}|nullptr|false|0)", self.text[start:end]):
+            if start == end or returns and re.fullmatch(r"return (\{\}|nullptr|false|true|0)", self.text[start:end]):
                 continue
             for put in [" {}"] if returns and not is_bool else [" false", " true"] if returns else [""]:
                 self.add(start, start, f"return{put}; ", "early return")
