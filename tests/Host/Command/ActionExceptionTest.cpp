@@ -121,6 +121,8 @@ private slots:
     void anObserverThatThrowsKeepsNoOtherFromHearing();
     void whatWaitsRunsWhenTheLoopComesRound();
     void whatWaitsRunsInItsOrder();
+    void whatWaitsBehindAnotherExceptionRunsInTheNextTurn();
+    void whatIsChosenInThatTurnRunsBehindIt();
     void whatWaitsRunsBeforeACommandThatComesFirst();
     void whatIsTypedUntilThenIsKept();
     void whatIsTypedForTheNextCommandIsKeptThen();
@@ -318,6 +320,48 @@ void ActionExceptionTest::whatWaitsRunsInItsOrder()
 
     QVERIFY(f.At("Save") < f.At("Print") && f.Has("Print"));
     QVERIFY(!ActionFixture::HasRecord(Mark(2)));
+}
+
+void ActionExceptionTest::whatWaitsBehindAnotherExceptionRunsInTheNextTurn()
+{
+    ActionFixture f;
+    PostingApplication application;
+    f.AddInteractive("Line");
+    f.AddPlain("Save", &Throw);
+    f.AddPlain("Print");
+    f.scripts["Line"].onEnd = &Throw;
+    f.loop.Post([&f] {
+        f.ChooseInMenu("Save");
+        f.ChooseInMenu("Print");
+    });
+    QVERIFY_EXCEPTION_THROWN(f.Choose("Line"), std::runtime_error);
+    QVERIFY_EXCEPTION_THROWN(application.DeliverPosted(), std::runtime_error);
+    QVERIFY(f.Has("Save") && !f.Has("Print"));
+
+    application.DeliverPosted();
+
+    QVERIFY(f.Has("Print"));
+    QVERIFY(IsIdle());
+}
+
+void ActionExceptionTest::whatIsChosenInThatTurnRunsBehindIt()
+{
+    ActionFixture f;
+    PostingApplication application;
+    f.AddInteractive("Line");
+    f.AddPlain("Print");
+    f.AddPlain("Save", [&f] {
+        f.ChooseInMenu("Print");
+        f.log.push_back("saved");
+    });
+    f.scripts["Line"].onEnd = &Throw;
+    f.loop.Post([&f] { f.ChooseInMenu("Save"); });
+    QVERIFY_EXCEPTION_THROWN(f.Choose("Line"), std::runtime_error);
+
+    application.DeliverPosted();
+
+    QVERIFY(f.Has("Print"));
+    QVERIFY(f.At("saved") < f.At("Print"));
 }
 
 void ActionExceptionTest::whatWaitsRunsBeforeACommandThatComesFirst()

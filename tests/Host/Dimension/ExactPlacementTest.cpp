@@ -1,0 +1,195 @@
+#include "Geometry/Constants.h"
+#include "Host/Dimension/DrawnNodes.h"
+#include "Host/Dimension/GeneratorKinds.h"
+#include "Host/View/StubView.h"
+#include "Support/TestValues.h"
+#include "View/IUiDocumentViewManager.h"
+#include "View/ModelView.h"
+
+Q_DECLARE_METATYPE(vesk::Vector3d)
+
+namespace vesk
+{
+
+namespace
+{
+
+/// In the order of `GetGeneratorKinds`.
+enum Kind
+{
+    Length = 0,
+    Angle = 1,
+    CentralAngle = 6,
+};
+
+/// A current view in which a pixel is one millimetre, around the origin.
+struct Fixture
+{
+    Fixture(int width, int height)
+    {
+        camera.SetSize(width, height);
+        views.AddView(&view);
+    }
+
+    Vector3d PlaceText(Kind kind, const GeneratorPoints& points)
+    {
+        const GeneratorKind& generator = GetGeneratorKinds()[kind];
+        generator.pGenerate(points, input);
+        return input.data[generator.field].textPosition;
+    }
+
+    UiDocumentViewManager views;
+    ModelView camera;
+    StubView view{1, &camera};
+    GeneratorInput input;
+};
+
+GeneratorPoints Segment(const Vector3d& start, const Vector3d& end)
+{
+    return {start, end, end, end};
+}
+
+}
+
+/// Where exactly texts and arrows are at the edges of a view.
+class ExactPlacementTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void theTextStandsInTheMiddleOfWhatIsVisible_data();
+    void theTextStandsInTheMiddleOfWhatIsVisible();
+    void theTextOfWhatIsNotVisibleStandsAtTheEdge_data();
+    void theTextOfWhatIsNotVisibleStandsAtTheEdge();
+    void theTextStandsInTheMiddleOfATinyView();
+    void theRadiusStandsOnTheOtherSideOfTheVisiblePart();
+    void theArrowsOfTheOppositeSidePointOutwards();
+    void whatIsHardlyOffAPointHasNoDirection_data();
+    void whatIsHardlyOffAPointHasNoDirection();
+};
+
+void ExactPlacementTest::theTextStandsInTheMiddleOfWhatIsVisible_data()
+{
+    QTest::addColumn<Vector3d>("start");
+    QTest::addColumn<Vector3d>("end");
+    QTest::addColumn<Vector3d>("text");
+    QTest::newRow("from the right")
+        << Vector3d(10000, 0, 0) << Vector3d(-200, 0, 0) << Vector3d(100, -28, 0);
+    QTest::newRow("to the right") << Vector3d(-200, 0, 0) << Vector3d(10000, 0, 0)
+                                  << Vector3d(100, 28, 0);
+    QTest::newRow("from the left")
+        << Vector3d(-10000, 0, 0) << Vector3d(200, 0, 0) << Vector3d(-100, 28, 0);
+    QTest::newRow("upwards") << Vector3d(0, -200, 0) << Vector3d(0, 10000, 0)
+                             << Vector3d(-60, 50, 0);
+    QTest::newRow("downwards") << Vector3d(0, 200, 0) << Vector3d(0, -10000, 0)
+                               << Vector3d(-60, -50, 0);
+    QTest::newRow("across") << Vector3d(-10000, 0, 0) << Vector3d(20000, 0, 0)
+                            << Vector3d(0, 28, 0);
+}
+
+void ExactPlacementTest::theTextStandsInTheMiddleOfWhatIsVisible()
+{
+    QFETCH(Vector3d, start);
+    QFETCH(Vector3d, end);
+    QFETCH(Vector3d, text);
+    Fixture f(800, 600);
+
+    const Vector3d position = f.PlaceText(Length, Segment(start, end));
+
+    QVERIFY((position - text).norm() < 1e-6);
+}
+
+void ExactPlacementTest::theTextOfWhatIsNotVisibleStandsAtTheEdge_data()
+{
+    QTest::addColumn<Vector3d>("start");
+    QTest::addColumn<Vector3d>("end");
+    QTest::addColumn<Vector3d>("text");
+    // The editor is 96 by 26 pixels and keeps three off the edge.
+    QTest::newRow("above") << Vector3d(0, 10000, 0) << Vector3d(100, 10000, 0)
+                           << Vector3d(50, 284, 0);
+    QTest::newRow("below") << Vector3d(0, -10000, 0) << Vector3d(100, -10000, 0)
+                           << Vector3d(50, -284, 0);
+    QTest::newRow("left") << Vector3d(-10000, 0, 0) << Vector3d(-10000, 100, 0)
+                          << Vector3d(-349, 50, 0);
+    QTest::newRow("right") << Vector3d(10000, 0, 0) << Vector3d(10000, 100, 0)
+                           << Vector3d(349, 50, 0);
+}
+
+void ExactPlacementTest::theTextOfWhatIsNotVisibleStandsAtTheEdge()
+{
+    QFETCH(Vector3d, start);
+    QFETCH(Vector3d, end);
+    QFETCH(Vector3d, text);
+    Fixture f(800, 600);
+
+    const Vector3d position = f.PlaceText(Length, Segment(start, end));
+
+    QVERIFY((position - text).norm() < 1e-6);
+}
+
+void ExactPlacementTest::theTextStandsInTheMiddleOfATinyView()
+{
+    Fixture f(20, 20);
+
+    const Vector3d position = f.PlaceText(Length, Segment({0, 10000, 0}, {100, 10000, 0}));
+
+    QVERIFY(position.norm() < 1e-6);
+}
+
+void ExactPlacementTest::theRadiusStandsOnTheOtherSideOfTheVisiblePart()
+{
+    Fixture f(800, 600);
+    const GeneratorKind& radius = *GetGeneratorPairs()[2].pFirst;
+
+    radius.pGenerate({Vector3d(-10000, 10490, 0), Vector3d(-10000, -9910, 0), Vector3d(200, 290, 0),
+                      Vector3d(0, 0, 0)},
+                     f.input);
+
+    const Vector3d position = f.input.data[radius.field].textPosition;
+    QVERIFY((position - Vector3d(-100, 265, 0)).norm() < 1e-6);
+}
+
+void ExactPlacementTest::theArrowsOfTheOppositeSidePointOutwards()
+{
+    Fixture f(800, 600);
+    const GeneratorKind& width = *GetGeneratorPairs()[1].pFirst;
+
+    const OwnerPtr<IGraphicsNodeGroup> opGroup =
+        width.pGenerate(Segment({0, -290, 0}, {200, -190, 0}), f.input);
+
+    const DrawnNodes nodes(*opGroup);
+    QVERIFY(nodes.HasLine({0, -162, 0}, {8, -159.2, 0}));
+    QVERIFY(nodes.HasLine({0, -162, 0}, {8, -164.8, 0}));
+    QVERIFY(nodes.HasLine({200, -162, 0}, {192, -159.2, 0}));
+    QVERIFY(nodes.HasLine({200, -162, 0}, {192, -164.8, 0}));
+}
+
+void ExactPlacementTest::whatIsHardlyOffAPointHasNoDirection_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<Vector3d>("second");
+    QTest::addColumn<Vector3d>("third");
+    const Vector3d near(0, Constants::DOUBLE_EPS, 0);
+    QTest::newRow("angle") << static_cast<int>(Angle) << near << near;
+    QTest::newRow("central angle, start")
+        << static_cast<int>(CentralAngle) << near << Vector3d(10, 0, 0);
+    QTest::newRow("central angle, end")
+        << static_cast<int>(CentralAngle) << Vector3d(10, 0, 0) << near;
+}
+
+void ExactPlacementTest::whatIsHardlyOffAPointHasNoDirection()
+{
+    QFETCH(int, kind);
+    QFETCH(Vector3d, second);
+    QFETCH(Vector3d, third);
+    Fixture f(800, 600);
+
+    f.PlaceText(static_cast<Kind>(kind), {Vector3d(0, 0, 0), second, third, third});
+
+    QCOMPARE_EXACTLY(f.input.data[GetGeneratorKinds()[kind].field].value, 0.0);
+}
+
+}
+
+QTEST_APPLESS_MAIN(vesk::ExactPlacementTest)
+#include "ExactPlacementTest.moc"
