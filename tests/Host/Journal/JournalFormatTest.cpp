@@ -455,6 +455,9 @@ void JournalFormatTest::deepNestingIsTold_data()
                                  << R"("entity" is no integer)";
     QTest::newRow("lists in turn") << begin + "[" + QByteArray("[],").repeated(Deep) + "1]}"
                                    << R"("entity" is no integer)";
+    QTest::newRow("lists of texts in turn")
+        << begin + "[" + QByteArray("[\"a\"],").repeated(Deep) + "1]}"
+        << R"("entity" is no integer)";
     QTest::newRow("brackets in a text") << begin + '"' + QByteArray(Deep, '[') + "\"}"
                                         << R"("entity" is no integer)";
 }

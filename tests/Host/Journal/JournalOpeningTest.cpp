@@ -224,6 +224,7 @@ void JournalOpeningTest::whatWasKeptBackMovesToAnotherFile()
     Journal().Add(UndoRecord{1});
 
     QVERIFY(Journal().MoveTo(other.toStdString(), m_error));
+    QCOMPARE(ReadAll(other), QByteArray("{\"n\":1,\"kind\":\"undo\",\"entity\":1}\n"));
     QCOMPARE(Journal().Add(UndoRecord{2}), 2);
 
     QCOMPARE(ReadAll(path), Read + Torn);

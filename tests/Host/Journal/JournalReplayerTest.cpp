@@ -363,6 +363,9 @@ void JournalReplayerTest::missingMarksSayWhatTheJournalSaidWithoutThem_data()
         "an action that another one followed",
         [](Fixture& f) { f.Command(L"Line").Point(1).Command(L"Erase").Point(2, 1).End(3); }, "");
     row(
+        "an action that another one followed at once",
+        [](Fixture& f) { f.Command(L"Line").Command(L"Erase").Point(2, 1); }, "2 done");
+    row(
         "both of them",
         [](Fixture& f) { f.Command(L"Line").Point(1).Command(L"Erase").Point(2, 1); }, "3 done");
     row(
