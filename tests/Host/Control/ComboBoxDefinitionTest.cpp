@@ -73,6 +73,7 @@ private slots:
     void theStateIsRightWhenTheEventIsRaised();
     void aHandlerMayChangeItAgain();
     void aHandlerMayChooseAnItemThatItAdds();
+    void aChoiceOfTheUserFromAListThatIsBeingToldIsRefused();
     void aHandlerMayDestroyIt_data();
     void aHandlerMayDestroyIt();
 };
@@ -341,6 +342,21 @@ void ComboBoxDefinitionTest::aHandlerMayChooseAnItemThatItAdds()
     f.pBox->AddItem(L"x");
 
     QCOMPARE(f.GetState(), std::wstring(L"abcx[y]"));
+}
+
+void ComboBoxDefinitionTest::aChoiceOfTheUserFromAListThatIsBeingToldIsRefused()
+{
+    const ComboBoxFixture f(0);
+    f.pRecorder->Then([&] {
+        const ControlDefinitionChangeByUser byUser(L"Width");
+        f.pBox->SetCurrentIndex(2);
+    });
+
+    f.pBox->InsertItem(1, L"x");
+
+    QCOMPARE(f.GetState(), std::wstring(L"[a]xbc"));
+    QCOMPARE(f.pRecorder->GetCount(), 2);
+    QVERIFY(!f.pRecorder->GetChanges().back().isByUser);
 }
 
 void ComboBoxDefinitionTest::aHandlerMayDestroyIt_data()
