@@ -94,7 +94,6 @@ struct RibbonFocusFixture
     QCheckBox* pElsewhere = new QCheckBox(&host.window);
     TypingHandlerFactory factory{*pView, script};
     RibbonFocus focus{*pRibbon, *pView, input};
-    std::vector<InputState> freed;
 };
 
 }
