@@ -10,9 +10,7 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QLabel>
 #include <QProgressBar>
-#include <QStatusBar>
 
 #include <csignal>
 #include <filesystem>
@@ -47,12 +45,6 @@ QByteArray HugeJournal()
 bool IsReading()
 {
     return ScriptedUser::FindWindow()->findChild<QProgressBar*>("Sketcher.Progress")->value() > 0;
-}
-
-QString States()
-{
-    const auto* pStates = ScriptedUser::FindWindow()->statusBar()->findChild<QLabel*>("States");
-    return pStates->isVisible() ? pStates->text() : QString();
 }
 
 }
@@ -149,7 +141,7 @@ private slots:
         QString said;
         ScriptedUser user;
         user.Until(&IsReading).Press(Qt::Key_Escape).Until([] { return !IsReading(); });
-        user.Do([&said] { said = States(); });
+        user.Do([&said] { said = ScriptedUser::States(); });
         user.DrawLine(-250, -250, -200, -250);
 
         QCOMPARE(user.Run(Continue(huge, "link")), 0);
@@ -197,8 +189,8 @@ private slots:
             s_unfinished + s_end + bad + "\n{\"n\":5,\"kind\":\"selection\",\"entities\":[1]}\n";
         QString said;
         ScriptedUser user;
-        user.Until([] { return !States().isEmpty(); });
-        user.Do([&said] { said = States(); });
+        user.Until([] { return !ScriptedUser::States().isEmpty(); });
+        user.Do([&said] { said = ScriptedUser::States(); });
         user.DrawLine(-250, -250, -200, -250);
 
         QCOMPARE(user.Run(Continue(journal, "kept")), 0);
@@ -231,7 +223,9 @@ private slots:
         WriteFile(Kept(), s_unfinished + "{\"n\":4,\"kind\":\"undo\",\"entity\":77}\n");
         QString said;
         ScriptedUser user;
-        user.Until([] { return !States().isEmpty(); }).Do([&said] { said = States(); });
+        user.Until([] { return !ScriptedUser::States().isEmpty(); }).Do([&said] {
+            said = ScriptedUser::States();
+        });
 
         QCOMPARE(user.Run(options), 0);
 

@@ -51,12 +51,6 @@ bool IsWalkComplete()
     return qEnvironmentVariable("VESK_FULL_DISK") == QLatin1String("all");
 }
 
-QString States()
-{
-    const auto* pStates = ScriptedUser::FindWindow()->statusBar()->findChild<QLabel*>("States");
-    return pStates->isVisible() ? pStates->text() : QString();
-}
-
 QString PaneState()
 {
     const auto* pState = ScriptedUser::FindWindow()->findChild<QLabel*>("JournalState");
@@ -200,7 +194,7 @@ private slots:
         QStringList said;
         std::unique_ptr<FileSizeLimit> pFull;
         const auto note = [&said] {
-            said << States() + "|" + PaneState() + "|" +
+            said << ScriptedUser::States() + "|" + PaneState() + "|" +
                         ScriptedUser::FindWindow()->statusBar()->currentMessage();
         };
         ScriptedUser user;
@@ -247,7 +241,7 @@ private slots:
         QString said;
         ScriptedUser user;
         user.Until([] { return ScriptedUser::FindWindow()->isVisible(); });
-        user.Do([&said] { said = States(); });
+        user.Do([&said] { said = ScriptedUser::States(); });
         user.DrawLine(0, 0, 50, 0).Until([] { return !PaneState().isEmpty(); });
         Options options;
         options.model = m_pFixture->File("model");

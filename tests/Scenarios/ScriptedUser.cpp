@@ -10,8 +10,10 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
+#include <QLabel>
 #include <QMenu>
 #include <QMouseEvent>
+#include <QStatusBar>
 #include <QStyleOptionToolButton>
 #include <QTimer>
 #include <QToolButton>
@@ -250,6 +252,12 @@ SketcherWindow* ScriptedUser::FindWindow()
             return pWindow;
     }
     return nullptr;
+}
+
+QString ScriptedUser::States()
+{
+    const auto* pStates = FindWindow()->statusBar()->findChild<QLabel*>("States");
+    return pStates->isVisible() ? pStates->text() : QString();
 }
 
 SketchView* ScriptedUser::FindView()

@@ -92,6 +92,9 @@ public:
     static QToolButton* FindMenuButton(const QString& controlId);
     static QComboBox* FindBox(const QString& controlId);
 
+    /// What the status bar says for as long as it lasts; empty when there is nothing.
+    static QString States();
+
     /// True while that command's action runs; empty: while none does.
     static bool IsRunning(const QString& commandId);
 
