@@ -51,6 +51,74 @@ bool IsWalkComplete()
     return qEnvironmentVariable("VESK_FULL_DISK") == QLatin1String("all");
 }
 
+void AddShortages()
+{
+    QTest::addColumn<bool>("isByPages");
+    QTest::newRow("by bytes") << false;
+    QTest::newRow("by pages") << true;
+}
+
+/// A folder that has room for some bytes a file, or for some pages, from Begin until End. Bytes and
+/// pages are its steps.
+class Shortage
+{
+public:
+    Shortage(bool isByPages, const QString& folder)
+        : m_pDisk(isByPages ? std::make_unique<SmallDisk>(s_diskPages) : nullptr),
+          m_folder(isByPages ? m_pDisk->File("home") : folder)
+    {
+        QDir().mkpath(m_folder);
+    }
+
+    bool IsPossible() const { return m_pDisk == nullptr || m_pDisk->IsMounted(); }
+    QString Folder() const { return m_folder; }
+    int StepsOf(int size) const
+    {
+        return m_pDisk == nullptr ? size : (size + SmallDisk::PageSize - 1) / SmallDisk::PageSize;
+    }
+
+    /// A file that has `taken` steps can grow by so many.
+    void Begin(int steps, int taken = 0)
+    {
+        if (m_pDisk != nullptr)
+            m_pDisk->LeavePages(steps);
+        else
+            m_pLimit = std::make_unique<FileSizeLimit>(static_cast<rlim_t>(taken + steps));
+    }
+
+    void End()
+    {
+        m_pLimit.reset();
+        if (m_pDisk != nullptr)
+            QFile::remove(m_pDisk->File("filler"));
+    }
+
+private:
+    static constexpr int s_diskPages = 16;
+
+    std::unique_ptr<SmallDisk> m_pDisk;
+    std::unique_ptr<FileSizeLimit> m_pLimit;
+    QString m_folder;
+};
+
+/// A variable of the environment that has another value while this lives.
+class Variable
+{
+public:
+    Variable(const char* pName, const QString& value) : m_pName(pName), m_before(qgetenv(pName))
+    {
+        qputenv(pName, QFile::encodeName(value));
+    }
+
+    ~Variable() { qputenv(m_pName, m_before); }
+    Variable(const Variable&) = delete;
+    Variable& operator=(const Variable&) = delete;
+
+private:
+    const char* m_pName;
+    QByteArray m_before;
+};
+
 QString PaneState()
 {
     const auto* pState = ScriptedUser::FindWindow()->findChild<QLabel*>("JournalState");
@@ -135,57 +203,74 @@ private slots:
         }
     }
 
+    void theLayoutIsOldOrNew_data() { AddShortages(); }
+
     void theLayoutIsOldOrNew()
     {
-        const QString ui = m_pFixture->File("ui");
-        const QString layout = ScenarioFixture::LayoutFile();
+        QFETCH(bool, isByPages);
         {
-            RunningSketcher sample({}, ui);
+            RunningSketcher sample({}, m_pFixture->File("ui"));
             QCOMPARE(sample.End(SIGTERM).code, 0);
         }
-        const int whole = ReadFile(layout).size();
-        QVERIFY(vesk::LayoutFile::Write(layout, "old"));
-        const QByteArray old = ReadFile(layout);
-        const int stride = IsWalkComplete() ? 1 : std::max(1, whole / 6);
+        const QByteArray whole = ReadFile(ScenarioFixture::LayoutFile());
+        Shortage shortage(isByPages, m_pFixture->File("home"));
+        if (!shortage.IsPossible())
+            QSKIP("no disk can be mounted here; the rows by bytes stand for those by pages");
+        const Variable home("XDG_CONFIG_HOME", shortage.Folder());
+        const QString layout = ScenarioFixture::LayoutFile();
+        const int steps = shortage.StepsOf(whole.size());
+        const int stride = isByPages || IsWalkComplete() ? 1 : std::max(1, steps / 6);
 
-        for (int limit = 0; limit <= whole; limit += stride)
+        for (int room = 0; room <= steps; room += stride)
         {
+            shortage.End();
+            QVERIFY(vesk::LayoutFile::Write(layout, "old"));
+            const QByteArray old = ReadFile(layout);
             ScriptedUser user;
-            std::unique_ptr<FileSizeLimit> pFull;
             user.Until([] { return ScriptedUser::FindWindow()->isVisible(); });
-            user.Do([&] { pFull = std::make_unique<FileSizeLimit>(limit); });
-            Options options;
-            QCOMPARE(user.Run(options), 0);
+            user.Do([&] { shortage.Begin(room); });
 
-            pFull.reset();
-            if (limit < whole)
-                QCOMPARE(ReadFile(layout), old);
+            QCOMPARE(user.Run(Options()), 0);
+
+            shortage.End();
+            const QByteArray left = ReadFile(layout);
+            QCOMPARE(left == old, room < steps);
+            QCOMPARE(vesk::LayoutFile::Read(layout).content, vesk::LayoutFile::Content::Layout);
         }
     }
 
+    void theLogIsOldAndWhatCouldBeAdded_data() { AddShortages(); }
+
     void theLogIsOldAndWhatCouldBeAdded()
     {
-        const QString log = m_pFixture->File("log");
-        const QByteArray old = "{\"line\":1}\n";
-        for (const int limit : {0, 10, 11, 12, 100, 500})
+        QFETCH(bool, isByPages);
+        Shortage shortage(isByPages, m_pFixture->File("home"));
+        if (!shortage.IsPossible())
+            QSKIP("no disk can be mounted here; the rows by bytes stand for those by pages");
+        Options options;
+        options.log = shortage.Folder() + "/log";
+        const QByteArray old = QByteArray(9, '.') + '\n';
+        const int taken = shortage.StepsOf(old.size());
+        const std::vector<int> rooms =
+            isByPages ? std::vector{0, 1} : std::vector{0, 1, 2, 100, 500};
+        for (const int room : rooms)
         {
-            WriteFile(log, old);
-            Options options;
-            options.log = log;
+            shortage.End();
+            WriteFile(options.log, old);
             ScriptedUser user;
-            std::unique_ptr<FileSizeLimit> pFull;
             user.Do([&] {
-                pFull = std::make_unique<FileSizeLimit>(limit);
+                shortage.Begin(room, taken);
                 vesk::DebugMessageMgr::GetDebugMessageMgr()->RemoveObserver(m_pFixture.get());
                 vesk::DebugMessageMgr::GetDebugMessageMgr()->ShowDebugWarn(
-                    "file", 1, "function", std::wstring(1000, L'm'), L"", L"");
+                    "file", 1, "function", std::wstring(2 * SmallDisk::PageSize, L'm'), L"", L"");
                 vesk::DebugMessageMgr::GetDebugMessageMgr()->AddObserver(m_pFixture.get());
             });
 
             QCOMPARE(user.Run(options), 2);
 
-            pFull.reset();
-            QVERIFY(ReadFile(log).startsWith(old));
+            shortage.End();
+            QVERIFY(ReadFile(options.log).startsWith(old));
+            QCOMPARE(shortage.StepsOf(ReadFile(options.log).size()), taken + room);
         }
     }
 
@@ -235,9 +320,8 @@ private slots:
     void aHomeThatCannotBeWrittenKeepsNobodyFromDrawing()
     {
         WriteFile(m_pFixture->File("home"), "no folder");
-        const QByteArray config = qgetenv("XDG_CONFIG_HOME");
-        qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_pFixture->File("home/config")));
-        qputenv("XDG_DATA_HOME", QFile::encodeName(m_pFixture->File("home/data")));
+        const Variable config("XDG_CONFIG_HOME", m_pFixture->File("home/config"));
+        const Variable data("XDG_DATA_HOME", m_pFixture->File("home/data"));
         QString said;
         ScriptedUser user;
         user.Until([] { return ScriptedUser::FindWindow()->isVisible(); });
@@ -249,7 +333,6 @@ private slots:
         const int code = user.Run(options);
         const Outcome named =
             RunSketcher({"--replay", options.model, "--log", m_pFixture->File("home/log")});
-        qputenv("XDG_CONFIG_HOME", config);
 
         QCOMPARE(code, 0);
         QCOMPARE(said, QStringLiteral("日志未保存；面板布局不会保存；警告未记录"));
