@@ -15,6 +15,10 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     # A unique symbol pins its library in the process: unloading must really unload.
     target_compile_options(vesk_build_flags INTERFACE -fno-gnu-unique)
 endif()
+if(WIN32)
+    # Else the system's headers take the names of std::min and std::max for macros of theirs.
+    target_compile_definitions(vesk_build_flags INTERFACE NOMINMAX=1)
+endif()
 if(VESK_SANITIZE)
     target_compile_options(vesk_build_flags INTERFACE
         -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)

@@ -1,6 +1,5 @@
 #include "Platform/OutputFile.h"
 
-#define NOMINMAX
 #include <windows.h>
 
 #include <algorithm>

@@ -1,6 +1,5 @@
 #include "HostUi/TerminationRequests.h"
 
-#define NOMINMAX
 #include <windows.h>
 
 #include <mutex>
