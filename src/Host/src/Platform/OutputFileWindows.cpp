@@ -97,7 +97,9 @@ bool OutputFile::CutTo(std::uint64_t size)
 
 bool OutputFile::Sync()
 {
-    return ::FlushFileBuffers(HandleOf(m_handle));
+    // Devices have nothing that could be on a disk.
+    return IsOpen() && (::GetFileType(HandleOf(m_handle)) != FILE_TYPE_DISK ||
+                        ::FlushFileBuffers(HandleOf(m_handle)));
 }
 
 bool OutputFile::Close()
