@@ -120,7 +120,8 @@ void ControlDefinitionChangeEvent::RaiseItemsChanged(int type, int index,
     FirstException exception;
     ChangeEventArgs args(type, index, caption, pItem, isByUser);
     exception.Catch([&] { Emit(&args); });
-    TellWaiting(telling, exception);
+    if (telling.IsEventAlive())
+        TellWaiting(telling, exception);
     exception.Throw();
 }
 
