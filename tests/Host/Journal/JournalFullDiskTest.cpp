@@ -65,6 +65,7 @@ private slots:
     void roomThatComesSlowlyIsUsedLineByLine();
     void aContinuedFileKeepsWhatWasRead();
     void aSecondFileDoesNotGetWhatTheFirstOneMissed();
+    void aFileThatBeginsAnewDoesNotGetWhatItMissed();
 
 private:
     QString Path() const { return m_pFolder->filePath("journal"); }
@@ -183,6 +184,21 @@ void JournalFullDiskTest::aSecondFileDoesNotGetWhatTheFirstOneMissed()
 
     QVERIFY(Journal().IsKept());
     QCOMPARE(ReadAll(second), LinesOf(1));
+}
+
+void JournalFullDiskTest::aFileThatBeginsAnewDoesNotGetWhatItMissed()
+{
+    OpenJournal();
+    {
+        const FileSizeLimit full(10);
+        Journal().Add(MakeRecord(1));
+        OpenJournal();
+    }
+    QVERIFY(Journal().IsKept());
+
+    Journal().Add(MakeRecord(1));
+
+    QCOMPARE(ReadAll(Path()), LinesOf(1));
 }
 
 }

@@ -67,6 +67,7 @@ private slots:
     void theSameFileByAnotherNameIsReplaced();
     void aReservedFileStaysAsItIs();
     void aReservedFileIsContinuedBehindItsLastLine();
+    void aReservedFileCanBeginAnew();
     void whatWasKeptBackMovesToAnotherFile();
     void whereTheOtherFileCannotBeWrittenNothingIsKept();
 
@@ -213,6 +214,21 @@ void JournalOpeningTest::aReservedFileIsContinuedBehindItsLastLine()
     QCOMPARE(Journal().Add(UndoRecord{3}), 8);
 
     QCOMPARE(ReadAll(path), Read + "{\"n\":8,\"kind\":\"undo\",\"entity\":3}\n");
+}
+
+void JournalOpeningTest::aReservedFileCanBeginAnew()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("journal");
+    WriteAll(path, Read + Torn);
+    QVERIFY(Journal().Reserve(path.toStdString(), m_error));
+    Journal().Add(UndoRecord{1});
+
+    QVERIFY(Journal().Open(path.toStdString(), m_error));
+    QCOMPARE(ReadAll(path), QByteArray());
+    Journal().Add(UndoRecord{3});
+
+    QCOMPARE(ReadAll(path), QByteArray("{\"n\":1,\"kind\":\"undo\",\"entity\":3}\n"));
 }
 
 void JournalOpeningTest::whatWasKeptBackMovesToAnotherFile()

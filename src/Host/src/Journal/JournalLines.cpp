@@ -81,16 +81,10 @@ void JournalLines::Add(const std::string& line)
 
 bool JournalLines::Close()
 {
-    if (!m_file.IsOpen())
-        return true;
-    if (!m_isReserved)
-        WriteWaiting();
-    bool isKept = IsKept();
-    isKept = m_file.Sync() && isKept;
-    isKept = m_file.Close() && isKept;
+    const bool isKept = !m_file.IsOpen() || Finish();
     m_waiting.clear();
     m_isReserved = false;
-    return isKept;
+    return m_file.Close() && isKept;
 }
 
 /// Opens a file that is this program's alone from then on.
@@ -112,11 +106,17 @@ bool JournalLines::Open(const std::string& path, OutputFile& file, std::string& 
 void JournalLines::Take(OutputFile file, const std::string& path, std::uint64_t size)
 {
     Close();
-    m_waiting.clear();
-    m_isReserved = false;
     m_file = std::move(file);
     m_path = std::filesystem::u8path(path);
     m_size = size;
+}
+
+/// Brings everything to the disk. False when lines are missing there.
+bool JournalLines::Finish()
+{
+    if (!m_isReserved)
+        WriteWaiting();
+    return m_file.Sync() && IsKept();
 }
 
 /// Writes what waits behind the last whole line, in one piece. Of what cannot be written, whole

@@ -43,6 +43,7 @@ public:
 private:
     bool Open(const std::string& path, OutputFile& file, std::string& error) const;
     void Take(OutputFile file, const std::string& path, std::uint64_t size);
+    bool Finish();
     void WriteWaiting();
 
     OutputFile m_file;
