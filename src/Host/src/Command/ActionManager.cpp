@@ -6,10 +6,8 @@
 #include "Command/ICommand.h"
 #include "Dimension/ITemporaryDimensionContext.h"
 #include "Dimension/TemporaryDimensionMgr.h"
-#include "View/IUiDocumentViewManager.h"
 #include "View/IUiView.h"
 
-#include <cstdint>
 #include <utility>
 
 namespace vesk
@@ -27,16 +25,6 @@ void Redraw(IUiView* pView)
 {
     if (pView != nullptr)
         pView->Redraw();
-}
-
-/// Keeps an input of a view, if a command is about to take its turn: the input was meant for it.
-bool Hold(const IUiView* pView, const std::function<void(IUiView*)>& input)
-{
-    const std::uint32_t viewId = pView != nullptr ? pView->GetId() : 0;
-    return Runner().Hold([viewId, input] {
-        const IUiDocumentViewManager* pManager = IUiDocumentViewManager::Get();
-        input(pManager != nullptr ? pManager->GetUiViewById(viewId) : nullptr);
-    });
 }
 
 }
@@ -97,15 +85,15 @@ void ActionManager::ProcessMouseMove(IUiView* pView, const Vector3d& world)
     });
 }
 
-void ActionManager::ProcessClick(IUiView* pView, const Vector3d& world)
+void ActionManager::ProcessClick(IUiView* /*pView*/, const Vector3d& world)
 {
-    if (!Hold(pView, [world](IUiView* pHeld) { ProcessClick(pHeld, world); }))
+    if (!HoldInput([world] { ProcessClick(nullptr, world); }))
         Runner().OperateStep([&world](IAction& action) { action.OnClick(world); });
 }
 
-void ActionManager::ProcessEscape(IUiView* pView)
+void ActionManager::ProcessEscape(IUiView* /*pView*/)
 {
-    if (Hold(pView, [](IUiView* pHeld) { ProcessEscape(pHeld); }))
+    if (HoldInput([] { ProcessEscape(nullptr); }))
         return;
     Runner().OperateStep([](IAction& action) {
         if (!action.OnEscape())
