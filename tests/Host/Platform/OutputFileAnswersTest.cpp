@@ -1,0 +1,243 @@
+#include "Platform/OutputFile.h"
+
+#include "Support/TestValues.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <dlfcn.h>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
+#include <cerrno>
+
+namespace
+{
+
+/// What the system is to answer next, once, in place of doing a call.
+struct Answer
+{
+    const char* call = "";
+    ssize_t value = 0;
+    int error = 0;
+};
+
+Answer s_answer;
+
+/// Whether the call is answered so.
+bool IsAnswered(const char* call, ssize_t& value)
+{
+    if (qstrcmp(s_answer.call, call) != 0)
+        return false;
+    value = s_answer.value;
+    errno = s_answer.error;
+    s_answer = {};
+    return true;
+}
+
+/// The operation of the system, which stands behind the one of this program.
+template <class Function>
+Function Next(const char* symbol)
+{
+    return reinterpret_cast<Function>(dlsym(RTLD_NEXT, symbol));
+}
+
+}
+
+// The program's operations stand before the system's.
+extern "C" {
+
+ssize_t write(int descriptor, const void* pBytes, size_t size)
+{
+    ssize_t value = 0;
+    if (IsAnswered("write", value))
+        return value;
+    return Next<decltype(&write)>("write")(descriptor, pBytes, size);
+}
+
+int fsync(int descriptor)
+{
+    ssize_t value = 0;
+    if (IsAnswered("fsync", value))
+        return static_cast<int>(value);
+    return Next<decltype(&fsync)>("fsync")(descriptor);
+}
+
+int flock(int descriptor, int operation)
+{
+    ssize_t value = 0;
+    if (IsAnswered("flock", value))
+        return static_cast<int>(value);
+    return Next<decltype(&flock)>("flock")(descriptor, operation);
+}
+
+/// The file is closed, whatever the answer.
+int close(int descriptor)
+{
+    const int closed = Next<decltype(&close)>("close")(descriptor);
+    ssize_t value = 0;
+    return IsAnswered("close", value) ? static_cast<int>(value) : closed;
+}
+}
+
+namespace vesk
+{
+
+/// What comes of the system's rarer answers.
+class OutputFileAnswersTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup() { m_file.Close(); }
+
+    void anInterruptedWriteIsRepeated();
+    void aWriteInPiecesGoesOn();
+    void whatIsNotWrittenIsTold_data();
+    void whatIsNotWrittenIsTold();
+    void whatCannotBeOnADiskIsThere_data();
+    void whatCannotBeOnADiskIsThere();
+    void whatDoesNotGetToTheDiskIsTold_data();
+    void whatDoesNotGetToTheDiskIsTold();
+    void anInterruptedCloseHasClosed();
+    void aCloseThatLosesSomethingIsTold();
+    void whereThereAreNoLocksTheFileIsOpened();
+    void aFileInUseIsLeft();
+
+private:
+    std::string Path() const { return m_pFolder->filePath("file").toStdString(); }
+    QByteArray Content() const
+    {
+        QFile file(m_pFolder->filePath("file"));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    std::unique_ptr<QTemporaryDir> m_pFolder;
+    OutputFile m_file;
+};
+
+void OutputFileAnswersTest::init()
+{
+    s_answer = {};
+    m_pFolder = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_file.OpenShared(Path()));
+}
+
+void OutputFileAnswersTest::anInterruptedWriteIsRepeated()
+{
+    s_answer = {"write", -1, EINTR};
+
+    QCOMPARE(m_file.Write("0123456789"), std::size_t(10));
+
+    QCOMPARE(Content(), QByteArray("0123456789"));
+}
+
+void OutputFileAnswersTest::aWriteInPiecesGoesOn()
+{
+    s_answer = {"write", 4, 0};
+
+    QCOMPARE(m_file.Write("0123456789"), std::size_t(10));
+
+    QCOMPARE(Content(), QByteArray("456789"));
+}
+
+void OutputFileAnswersTest::whatIsNotWrittenIsTold_data()
+{
+    QTest::addColumn<int>("value");
+    QTest::addColumn<int>("error");
+    QTest::newRow("no room") << -1 << ENOSPC;
+    QTest::newRow("broken") << -1 << EIO;
+    QTest::newRow("nothing, without a reason") << 0 << 0;
+    QTest::newRow("nothing, after an interruption") << 0 << EINTR;
+}
+
+void OutputFileAnswersTest::whatIsNotWrittenIsTold()
+{
+    QFETCH(int, value);
+    QFETCH(int, error);
+    s_answer = {"write", value, error};
+
+    QCOMPARE(m_file.Write("0123456789"), std::size_t(0));
+
+    QCOMPARE(Content(), QByteArray());
+}
+
+void OutputFileAnswersTest::whatCannotBeOnADiskIsThere_data()
+{
+    QTest::addColumn<int>("error");
+    QTest::newRow("a device") << EINVAL;
+    QTest::newRow("a file system that cannot") << ENOSYS;
+    QTest::newRow("a file that cannot") << ENOTSUP;
+    QTest::newRow("a special file of a system that is read only") << EROFS;
+}
+
+void OutputFileAnswersTest::whatCannotBeOnADiskIsThere()
+{
+    QFETCH(int, error);
+    s_answer = {"fsync", -1, error};
+
+    QVERIFY(m_file.Sync());
+}
+
+void OutputFileAnswersTest::whatDoesNotGetToTheDiskIsTold_data()
+{
+    QTest::addColumn<int>("error");
+    QTest::newRow("no room") << ENOSPC;
+    QTest::newRow("broken") << EIO;
+    QTest::newRow("too much for this user") << EDQUOT;
+}
+
+void OutputFileAnswersTest::whatDoesNotGetToTheDiskIsTold()
+{
+    QFETCH(int, error);
+    s_answer = {"fsync", -1, error};
+
+    QVERIFY(!m_file.Sync());
+}
+
+void OutputFileAnswersTest::anInterruptedCloseHasClosed()
+{
+    s_answer = {"close", -1, EINTR};
+
+    QVERIFY(m_file.Close());
+
+    QVERIFY(!m_file.IsOpen());
+}
+
+void OutputFileAnswersTest::aCloseThatLosesSomethingIsTold()
+{
+    s_answer = {"close", -1, EIO};
+
+    QVERIFY(!m_file.Close());
+
+    QVERIFY(!m_file.IsOpen());
+}
+
+void OutputFileAnswersTest::whereThereAreNoLocksTheFileIsOpened()
+{
+    s_answer = {"flock", -1, ENOLCK};
+
+    QVERIFY(m_file.OpenAlone(Path()) == OutputFile::Opening::Done);
+
+    QCOMPARE(m_file.Write("text"), std::size_t(4));
+}
+
+void OutputFileAnswersTest::aFileInUseIsLeft()
+{
+    const int before = ::dup(STDERR_FILENO);
+    ::close(before);
+    s_answer = {"flock", -1, EWOULDBLOCK};
+
+    QVERIFY(OutputFile().OpenAlone(Path()) == OutputFile::Opening::InUse);
+
+    const int after = ::dup(STDERR_FILENO);
+    ::close(after);
+    QCOMPARE(after, before);
+}
+
+}
+
+QTEST_APPLESS_MAIN(vesk::OutputFileAnswersTest)
+#include "OutputFileAnswersTest.moc"
