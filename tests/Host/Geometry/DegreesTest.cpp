@@ -24,9 +24,10 @@ void AddAngles(int first, int last)
         QTest::addRow("%d", degrees) << degrees;
 }
 
+/// All digits and the sign, which Qt leaves out before a zero.
 QString Text(double value)
 {
-    return QString::number(value, 'g', 17);
+    return (std::signbit(value) ? "-" : "") + QString::number(std::abs(value), 'g', 17);
 }
 
 }
@@ -112,6 +113,14 @@ private slots:
         QVERIFY(Degrees::ArcCosine(0.9999999999999998) > 1e-7);
         QCOMPARE(Text(Degrees::ArcTangent(1e-300)),
                  Text(static_cast<double>(1e-300L * s_degreesPerRadian)));
+    }
+
+    void zeroHasNoSign()
+    {
+        QCOMPARE(Text(Degrees::Sine(-0.0)), Text(0.0));
+        QCOMPARE(Text(Degrees::Tangent(-0.0)), Text(0.0));
+        QCOMPARE(Text(Degrees::ArcSine(-0.0)), Text(0.0));
+        QCOMPARE(Text(Degrees::ArcTangent(-0.0)), Text(0.0));
     }
 
     void whatHasNoValueIsNoNumber()
