@@ -63,6 +63,7 @@ private slots:
     void anExceptionOfAnObserverReachesNobody();
     void aWarningOfAnotherThreadIsToldInThatThread();
     void removingAnObserverWaitsForItsRunningCall();
+    void anObserverMayRemoveItselfOnceItsOtherCallsHaveEnded();
     void warningsOfManyThreadsAreWholeLines();
 };
 
@@ -215,6 +216,33 @@ void DebugWarningObserverTest::removingAnObserverWaitsForItsRunningCall()
     thread.join();
 
     QVERIFY(wasLeft);
+}
+
+void DebugWarningObserverTest::anObserverMayRemoveItselfOnceItsOtherCallsHaveEnded()
+{
+    const LogFile log;
+    Manager().OpenLog(log.GetPath());
+    std::promise<void> entered;
+    std::promise<void> othersEnded;
+    Observer* pSelf = nullptr;
+    Observer observer([&](const DebugWarning& warning) {
+        if (warning.line != 1)
+            return;
+        entered.set_value();
+        othersEnded.get_future().wait();
+        Manager().RemoveObserver(pSelf);
+    });
+    pSelf = &observer;
+    std::thread first([] { Warn(1); });
+    entered.get_future().wait();
+
+    std::thread second([] { Warn(2); });
+    second.join();
+    othersEnded.set_value();
+    first.join();
+    Warn(3);
+
+    QCOMPARE(observer.GetCount(), 2);
 }
 
 void DebugWarningObserverTest::warningsOfManyThreadsAreWholeLines()

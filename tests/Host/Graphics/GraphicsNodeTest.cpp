@@ -3,8 +3,30 @@
 #include "Support/HostValues.h"
 #include "Support/TestValues.h"
 
+#include <cstdlib>
+#include <cstring>
+#include <new>
 #include <string>
 #include <utility>
+
+// Memory that nobody has set shows: it is not zero.
+
+[[gnu::noinline]] void* operator new(std::size_t size)
+{
+    if (void* const pMemory = std::malloc(size > 0 ? size : 1))
+        return std::memset(pMemory, 0xA5, size);
+    throw std::bad_alloc();
+}
+
+[[gnu::noinline]] void operator delete(void* pMemory) noexcept
+{
+    std::free(pMemory);
+}
+
+[[gnu::noinline]] void operator delete(void* pMemory, std::size_t /*size*/) noexcept
+{
+    std::free(pMemory);
+}
 
 namespace vesk
 {
@@ -139,10 +161,13 @@ void GraphicsNodeTest::aGroupKeepsItsChildrenInOrder()
 void GraphicsNodeTest::aChildOutsideTheRangeIsNull()
 {
     const OwnerPtr<IGraphicsNodeGroup> opGroup = IGraphicsNodeGroup::Create();
+    // Three, so that the list has room for a fourth.
+    opGroup->AddChild(MakeLine());
+    opGroup->AddChild(MakeLine());
     opGroup->AddChild(MakeLine());
 
     QVERIFY(opGroup->GetChild(-1) == nullptr);
-    QVERIFY(opGroup->GetChild(1) == nullptr);
+    QVERIFY(opGroup->GetChild(3) == nullptr);
 }
 
 void GraphicsNodeTest::anEmptyChildIsIgnored()
