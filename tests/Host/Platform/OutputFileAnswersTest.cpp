@@ -8,9 +8,23 @@
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstdarg>
+#include <functional>
+#include <memory>
+
+namespace vesk
+{
+
+/// Has a file make another.
+using Opening = std::function<void(OutputFile& file, const std::filesystem::path& path)>;
+
+}
+
+Q_DECLARE_METATYPE(vesk::Opening)
 
 namespace
 {
@@ -24,6 +38,9 @@ struct Answer
 };
 
 Answer s_answer;
+
+/// The descriptor that was opened last.
+int s_opened = -1;
 
 /// Whether the call is answered so.
 bool IsAnswered(const char* call, ssize_t& value)
@@ -47,6 +64,16 @@ Function Next(const char* symbol)
 
 // The program's operations stand before the system's.
 extern "C" {
+
+int open(const char* pPath, int flags, ...)
+{
+    std::va_list arguments;
+    va_start(arguments, flags);
+    const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(arguments, mode_t) : 0;
+    va_end(arguments);
+    s_opened = Next<decltype(&open)>("open")(pPath, flags, mode);
+    return s_opened;
+}
 
 ssize_t write(int descriptor, const void* pBytes, size_t size)
 {
@@ -93,6 +120,10 @@ private slots:
     void init();
     void cleanup() { m_file.Close(); }
 
+    void aFileIsOnlyWrittenAndOnlyByThisProgram_data();
+    void aFileIsOnlyWrittenAndOnlyByThisProgram();
+    void whoMayUseANewFileIsTheUsersChoice_data();
+    void whoMayUseANewFileIsTheUsersChoice();
     void anInterruptedWriteIsRepeated();
     void aWriteInPiecesGoesOn();
     void whatIsNotWrittenIsTold_data();
@@ -107,6 +138,7 @@ private slots:
     void aFileInUseIsLeft();
 
 private:
+    static void AddOpenings();
     std::string Path() const { return m_pFolder->filePath("file").toStdString(); }
     QByteArray Content() const
     {
@@ -118,11 +150,60 @@ private:
     OutputFile m_file;
 };
 
+void OutputFileAnswersTest::AddOpenings()
+{
+    QTest::addColumn<Opening>("open");
+    QTest::newRow("alone") << Opening(
+        [](OutputFile& file, const std::filesystem::path& path) { file.OpenAlone(path); });
+    QTest::newRow("shared") << Opening(
+        [](OutputFile& file, const std::filesystem::path& path) { file.OpenShared(path); });
+    QTest::newRow("new") << Opening(
+        [](OutputFile& file, const std::filesystem::path& path) { file.Create(path); });
+}
+
 void OutputFileAnswersTest::init()
 {
     s_answer = {};
     m_pFolder = std::make_unique<QTemporaryDir>();
     QVERIFY(m_file.OpenShared(Path()));
+}
+
+void OutputFileAnswersTest::aFileIsOnlyWrittenAndOnlyByThisProgram_data()
+{
+    AddOpenings();
+}
+
+void OutputFileAnswersTest::aFileIsOnlyWrittenAndOnlyByThisProgram()
+{
+    QFETCH(Opening, open);
+    OutputFile file;
+
+    open(file, Path() + " of its own");
+
+    const int flags = ::fcntl(s_opened, F_GETFL);
+    QCOMPARE(flags & O_ACCMODE, O_WRONLY);
+    QCOMPARE(flags & O_APPEND, O_APPEND);
+    QCOMPARE(::fcntl(s_opened, F_GETFD) & FD_CLOEXEC, FD_CLOEXEC);
+}
+
+void OutputFileAnswersTest::whoMayUseANewFileIsTheUsersChoice_data()
+{
+    AddOpenings();
+}
+
+void OutputFileAnswersTest::whoMayUseANewFileIsTheUsersChoice()
+{
+    QFETCH(Opening, open);
+    const std::string path = Path() + " of its own";
+    OutputFile file;
+    const mode_t before = ::umask(0);
+
+    open(file, path);
+
+    ::umask(before);
+    struct stat status = {};
+    QCOMPARE(::stat(path.c_str(), &status), 0);
+    QCOMPARE(status.st_mode & 07777, mode_t(0666));
 }
 
 void OutputFileAnswersTest::anInterruptedWriteIsRepeated()
