@@ -6,6 +6,8 @@
 #include "View/IUiDocumentViewManager.h"
 #include "View/ModelView.h"
 
+#include <cmath>
+
 Q_DECLARE_METATYPE(vesk::Vector3d)
 
 namespace vesk
@@ -19,6 +21,8 @@ enum Kind
 {
     Length = 0,
     Angle = 1,
+    Width = 2,
+    Height = 3,
     CentralAngle = 6,
 };
 
@@ -62,6 +66,11 @@ private slots:
     void theTextOfWhatIsNotVisibleStandsAtTheEdge_data();
     void theTextOfWhatIsNotVisibleStandsAtTheEdge();
     void theTextStandsInTheMiddleOfATinyView();
+    void whatHardlyReachesIntoTheViewIsCutAtItsEdge();
+    void theTextOfAShortOppositeSideStandsOutsideItsLine();
+    void theTextOfATiltedPlaneIsSeenOffItsLine();
+    void aTextKeepsOffAnEarlierOne_data();
+    void aTextKeepsOffAnEarlierOne();
     void theRadiusStandsOnTheOtherSideOfTheVisiblePart();
     void theArrowsOfTheOppositeSidePointOutwards();
     void whatIsHardlyOffAPointHasNoDirection_data();
@@ -134,6 +143,67 @@ void ExactPlacementTest::theTextStandsInTheMiddleOfATinyView()
     const Vector3d position = f.PlaceText(Length, Segment({0, 10000, 0}, {100, 10000, 0}));
 
     QVERIFY(position.norm() < 1e-6);
+}
+
+void ExactPlacementTest::whatHardlyReachesIntoTheViewIsCutAtItsEdge()
+{
+    Fixture f(800, 600);
+
+    // One pixel across, of which a 64th is in the view.
+    const Vector3d position =
+        f.PlaceText(Length, Segment({-400.984375, -10000, 0}, {-399.984375, 200, 0}));
+
+    QVERIFY(std::abs(position.y() - 120.3) < 0.1);
+}
+
+void ExactPlacementTest::theTextOfAShortOppositeSideStandsOutsideItsLine()
+{
+    Fixture f(800, 600);
+
+    const Vector3d position = f.PlaceText(Width, Segment({0, -290, 0}, {60, -100, 0}));
+
+    QVERIFY((position - Vector3d(30, -47, 0)).norm() < 1e-6);
+}
+
+void ExactPlacementTest::theTextOfATiltedPlaneIsSeenOffItsLine()
+{
+    Fixture f(800, 600);
+    f.input.coordinate = Coordinate3d({0, 0, 0}, {1, 0, 0}, {0, 0.15, std::sqrt(1 - 0.15 * 0.15)});
+
+    const Vector3d position = f.PlaceText(Length, Segment({-100, 0, 0}, {100, 0, 0}));
+
+    // Half the editor's height and a margin.
+    QVERIFY(std::abs(position.x()) < 1e-6);
+    QVERIFY(std::abs(position.y() - 25) < 1e-6);
+}
+
+void ExactPlacementTest::aTextKeepsOffAnEarlierOne_data()
+{
+    QTest::addColumn<double>("value");
+    QTest::addColumn<Vector3d>("earlier");
+    QTest::addColumn<bool>("isOff");
+    const Vector3d origin(0, 0, 0);
+    QTest::newRow("none") << 0.0 << origin << false;
+    QTest::newRow("one at the origin") << 5.0 << origin << true;
+    QTest::newRow("one of no length") << 0.0 << Vector3d(0, 10, 0) << true;
+    QTest::newRow("four pixels above") << 5.0 << Vector3d(0, 30, 0) << false;
+    QTest::newRow("nearer above") << 5.0 << Vector3d(0, 29.5, 0) << true;
+    QTest::newRow("four pixels beside") << 5.0 << Vector3d(-100, 0, 0) << false;
+    QTest::newRow("nearer beside") << 5.0 << Vector3d(-99.5, 0, 0) << true;
+}
+
+void ExactPlacementTest::aTextKeepsOffAnEarlierOne()
+{
+    QFETCH(double, value);
+    QFETCH(Vector3d, earlier);
+    QFETCH(bool, isOff);
+    Fixture f(800, 600);
+    f.input.data[InputState::IS_Width] = {earlier, value};
+
+    // The text of the height would stand at the origin.
+    const Vector3d position = f.PlaceText(Height, Segment({60, -100, 0}, {200, 100, 0}));
+
+    QCOMPARE(position.norm() > 1e-6, isOff);
 }
 
 void ExactPlacementTest::theRadiusStandsOnTheOtherSideOfTheVisiblePart()

@@ -222,6 +222,8 @@ void DebugMessageMgrTest::aPlaceWritesTenLinesAndAClosingOne()
     QCOMPARE(records[10]["line"].toInt(), 7);
     QCOMPARE(records[10]["count"].toInt(), 13);
     QCOMPARE(records[10]["suppressed"].toInt(), 3);
+    const QString time = records[10]["time"].toString();
+    QVERIFY2(time >= records[9]["time"].toString(), qPrintable(time));
 }
 
 void DebugMessageMgrTest::aPlaceWithTenWarningsGetsNoClosingLine()

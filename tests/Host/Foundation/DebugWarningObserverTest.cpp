@@ -65,6 +65,7 @@ private slots:
     void removingAnObserverWaitsForItsRunningCall();
     void anObserverMayRemoveItselfOnceItsOtherCallsHaveEnded();
     void warningsOfManyThreadsAreWholeLines();
+    void observersOfManyThreadsComeAndGo();
 };
 
 void DebugWarningObserverTest::observersHearTheWarningAfterItWasLogged()
@@ -263,6 +264,28 @@ void DebugWarningObserverTest::warningsOfManyThreadsAreWholeLines()
     QCOMPARE(records.size(), 4 * 11);
     QVERIFY(!records.contains(QJsonObject()));
     QCOMPARE(records.last()["count"].toInt(), 200);
+}
+
+void DebugWarningObserverTest::observersOfManyThreadsComeAndGo()
+{
+    const LogFile log;
+    Manager().OpenLog(log.GetPath());
+    std::atomic<int> deafCount{0};
+    std::vector<std::thread> threads;
+
+    for (int i = 0; i < 8; ++i)
+        threads.emplace_back([&deafCount] {
+            for (int round = 0; round < 1000; ++round)
+            {
+                const Observer observer;
+                Warn();
+                deafCount += observer.GetCount() == 0 ? 1 : 0;
+            }
+        });
+    for (std::thread& thread : threads)
+        thread.join();
+
+    QCOMPARE(int(deafCount), 0);
 }
 
 }
