@@ -143,7 +143,7 @@ bool ActionRunner::Operate(const std::function<void(IAction&)>& operation)
         return false;
     FirstException exception;
     {
-        const ScopedValue<int> depth(m_operationDepth, m_operationDepth + 1);
+        const ScopedValue<bool> operating(m_isOperating, true);
         exception.Catch([&] { operation(*GetAction()); });
         exception.Catch([this] {
             if (GetAction()->IsFinished())
@@ -157,9 +157,9 @@ bool ActionRunner::Operate(const std::function<void(IAction&)>& operation)
     return true;
 }
 
-bool ActionRunner::OperateStep(const std::function<void(IAction&)>& operation)
+void ActionRunner::OperateStep(const std::function<void(IAction&)>& operation)
 {
-    return Operate([this, &operation](IAction& action) {
+    Operate([this, &operation](IAction& action) {
         operation(action);
         if (!m_isEndRequested && !action.IsFinished())
             ShowStep();

@@ -44,7 +44,7 @@ public:
     bool Operate(const std::function<void(IAction&)>& operation);
 
     /// The same, followed by a step unless the action is to end.
-    bool OperateStep(const std::function<void(IAction&)>& operation);
+    void OperateStep(const std::function<void(IAction&)>& operation);
 
     /// True while a command waits for the end of the running action, or to be taken up.
     bool IsCommandWaiting() const
@@ -91,7 +91,7 @@ private:
     };
 
     bool MustWait() const { return m_isUnderWay || GetAction() != nullptr; }
-    bool IsEndDue() const { return m_isEndRequested && m_operationDepth == 0 && !m_isUnderWay; }
+    bool IsEndDue() const { return m_isEndRequested && !m_isOperating && !m_isUnderWay; }
     bool MayGoOn() const { return !m_isEndRequested && m_waiting.empty(); }
     void Take(IUiView* pView, ICommand& command, Waiting waiting);
     void Run(IUiView* pView, ICommand& command, const Waiting& waiting);
@@ -112,8 +112,8 @@ private:
     IActionEventLoop* m_pEventLoop = nullptr;
     IActionEventLoop* m_pRunningLoop = nullptr;
 
-    /// How many operations of the running action are on the stack.
-    int m_operationDepth = 0;
+    /// True while an operation of the running action is on the stack.
+    bool m_isOperating = false;
 
     /// True while a call that will run the waiting commands is on the stack.
     bool m_isUnderWay = false;
