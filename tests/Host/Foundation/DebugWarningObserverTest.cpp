@@ -2,6 +2,7 @@
 
 #include "Host/Foundation/LogFile.h"
 #include "Host/Foundation/RaiseWarning.h"
+#include "Journal/JournalManager.h"
 #include "Support/TestValues.h"
 
 #include <atomic>
@@ -51,7 +52,11 @@ class DebugWarningObserverTest : public QObject
     Q_OBJECT
 
 private slots:
-    void cleanup() { Manager().CloseLog(); }
+    void cleanup()
+    {
+        Manager().CloseLog();
+        JournalManager::GetInstance().Close();
+    }
 
     void observersHearTheWarningAfterItWasLogged();
     void observersHearSuppressedWarningsToo();
@@ -66,6 +71,7 @@ private slots:
     void anObserverMayRemoveItselfOnceItsOtherCallsHaveEnded();
     void warningsOfManyThreadsAreWholeLines();
     void observersOfManyThreadsComeAndGo();
+    void whatManyThreadsAskForIsWhole();
 };
 
 void DebugWarningObserverTest::observersHearTheWarningAfterItWasLogged()
@@ -286,6 +292,36 @@ void DebugWarningObserverTest::observersOfManyThreadsComeAndGo()
         thread.join();
 
     QCOMPARE(int(deafCount), 0);
+}
+
+void DebugWarningObserverTest::whatManyThreadsAskForIsWhole()
+{
+    const LogFile log;
+    Manager().OpenLog(log.GetPath());
+    const std::string path = Manager().GetLogPath();
+    const std::wstring message = L"a message that is too long to be kept in the string itself";
+    std::atomic<int> tornCount{0};
+    std::vector<std::thread> threads;
+
+    for (int i = 0; i < 4; ++i)
+        threads.emplace_back([&, i] {
+            for (int round = 0; round < 500; ++round)
+            {
+                Warn(1000 * i + round, message);
+                const std::optional<ShownDebugWarning> shown = Manager().GetShownWarning();
+                tornCount += shown.has_value() && shown->message != message ? 1 : 0;
+                tornCount += Manager().GetLogPath() != path ? 1 : 0;
+            }
+        });
+    for (int i = 0; i < 500; ++i)
+        JournalManager::GetInstance().Add(UndoRecord{i});
+    for (std::thread& thread : threads)
+        thread.join();
+
+    QCOMPARE(int(tornCount), 0);
+    const QVector<QJsonObject> records = log.ReadRecords();
+    QCOMPARE(records.size(), 4 * 500);
+    QVERIFY(!records.contains(QJsonObject()));
 }
 
 }
