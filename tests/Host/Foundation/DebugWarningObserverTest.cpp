@@ -283,6 +283,8 @@ void DebugWarningObserverTest::observersOfManyThreadsComeAndGo()
         threads.emplace_back([&deafCount] {
             for (int round = 0; round < 1000; ++round)
             {
+                for (int passing = 0; passing < 100; ++passing)
+                    const Observer brief;
                 const Observer observer;
                 Warn();
                 deafCount += observer.GetCount() == 0 ? 1 : 0;
