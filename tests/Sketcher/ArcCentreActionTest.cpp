@@ -2,6 +2,7 @@
 
 #include "ActionFixture.h"
 #include "ArcGeometry.h"
+#include "ShownGraphics.h"
 
 #include "Dimension/CentralAngleTemporaryDimensionContext.h"
 
@@ -192,6 +193,68 @@ private slots:
         QCOMPARE(f.Count(), std::size_t{0});
         f.Type(ActionViewInput::CentralAngleCommitted, degrees);
         QCOMPARE(f.Count(), std::size_t(isRefused ? 0 : 1));
+    }
+
+    void halfATurnRunsCounterClockwiseFromTheStart()
+    {
+        Fixture f;
+        BeginArc(f);
+
+        f.ClickAt(-40, 20);
+
+        QCOMPARE(f.Drawn<ArcShape>().start, Vector3d(15, 20, 0));
+        QCOMPARE(f.Drawn<ArcShape>().end, Vector3d(5, 20, 0));
+    }
+
+    void anAngleIsTakenOnceThereIsAStart()
+    {
+        Fixture f;
+        f.Begin();
+        f.ClickAt(10, 20);
+        QVERIFY(!f.action.ReplayValue(InputState::IS_CentralAngle, L"90", 90));
+
+        f.ClickAt(15, 20);
+
+        QVERIFY(!f.action.ReplayValue(InputState::IS_Radius, L"90", 90));
+        QVERIFY(f.action.ReplayValue(InputState::IS_CentralAngle, L"90", 90));
+    }
+
+    void theSpokeIsShownUntilThereIsAnArc()
+    {
+        Fixture f;
+        f.Begin();
+        QVERIFY(f.action.CreateRubberBand() == nullptr);
+        f.ClickAt(10, 20);
+        f.MoveTo(13, 24);
+        const ShownGraphics first(*f.action.CreateRubberBand());
+        f.ClickAt(15, 20);
+        const ShownGraphics atRest(*f.action.CreateRubberBand());
+
+        QCOMPARE(first.lines.size(), std::size_t{1});
+        QCOMPARE(first.lines[0].start, Vector3d(10, 20, 0));
+        QCOMPARE(first.lines[0].end, Vector3d(13, 24, 0));
+        QCOMPARE(first.arcs.size(), std::size_t{0});
+        QCOMPARE(atRest.lines.size(), std::size_t{1});
+        QCOMPARE(atRest.lines[0].end, Vector3d(15, 20, 0));
+        QCOMPARE(atRest.arcs.size(), std::size_t{0});
+    }
+
+    void theArcIsShownWithItsSpoke()
+    {
+        Fixture f;
+        BeginArc(f);
+
+        f.MoveTo(10, 99);
+
+        const ShownGraphics shown(*f.action.CreateRubberBand());
+        QCOMPARE(shown.lines.size(), std::size_t{1});
+        QCOMPARE(shown.lines[0].start, Vector3d(10, 20, 0));
+        QCOMPARE(shown.lines[0].end, Vector3d(10, 25, 0));
+        QCOMPARE(shown.arcs.size(), std::size_t{1});
+        QCOMPARE(shown.arcs[0].centre, Vector3d(10, 20, 0));
+        QCOMPARE(shown.arcs[0].start, Vector3d(15, 20, 0));
+        QCOMPARE(shown.arcs[0].radius, 5.0);
+        QCOMPARE(shown.arcs[0].sweep, std::acos(-1.0) / 2.0);
     }
 
     void everyStepHasItsHint()

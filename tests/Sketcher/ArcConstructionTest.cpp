@@ -113,6 +113,18 @@ private slots:
         QVERIFY(TopOfArc(s_left, s_right, 13, s_right).y() > 0);
     }
 
+    void theRiseOfAFlatArcIsNotLostInRounding()
+    {
+        constexpr double Half = 1e-3;
+        constexpr double Radius = 0.9;
+
+        const Vector3d top = TopOfArc({-Half, 0, 0}, {Half, 0, 0}, Radius, {0, 1e-9, 0});
+
+        const double rise =
+            Half * Half / (2.0 * Radius) + std::pow(Half, 4) / (8.0 * std::pow(Radius, 3));
+        QVERIFY(std::abs(top.y() - rise) <= 1e-12 * rise);
+    }
+
     void tooSmallARadiusMakesNoArc()
     {
         QVERIFY(!ArcOfRadius(s_left, s_right, 4.99, {0, 1, 0}).has_value());

@@ -57,6 +57,33 @@ private slots:
         QCOMPARE(parts[0].to, 2.0);
     }
 
+    void anArcThatBeginsOnASideIsOnePart()
+    {
+        const double half = s_turn / 2.0;
+
+        const std::vector<ArcPart> parts =
+            ClipArc({{50, 100}, 30, 0, half}, QRectF(0, 0, 100, 100));
+
+        QCOMPARE(parts.size(), std::size_t{1});
+        QCOMPARE(parts[0].from, 0.0);
+        QCOMPARE(parts[0].to, half);
+    }
+
+    void anglesAreCountedFromTheStartInTheDirectionOfTheSweep()
+    {
+        const auto isNear = [](const QPointF& a, const QPointF& b) {
+            return QLineF(a, b).length() <= 1e-9;
+        };
+        const double quarter = s_turn / 4.0;
+        const ScreenArc up{{30, 40}, 10, 0, 1.0};
+        const ScreenArc down{{30, 40}, 10, quarter, -1.0};
+
+        QVERIFY(isNear(up.PointAt(0.0), {40, 40}));
+        QVERIFY(isNear(up.PointAt(quarter), {30, 30}));
+        QVERIFY(isNear(down.PointAt(0.0), {30, 30}));
+        QVERIFY(isNear(down.PointAt(quarter), {40, 40}));
+    }
+
     void whatIsInsideIsExactlyTheParts_data()
     {
         QTest::addColumn<double>("x");
@@ -125,6 +152,28 @@ private slots:
         QCOMPARE(CountInked(up.copy(0, 52, 100, 48)), 0);
         QVERIFY(CountInked(down.copy(50, 51, 50, 49)) > 40);
         QCOMPARE(CountInked(down.copy(0, 0, 100, 49)), 0);
+    }
+
+    void anArcBeginsAtItsStart()
+    {
+        const QImage down = Paint({{50.5 - 190, 50.5}, 190, 0, -s_turn / 4.0});
+        const QImage up = Paint({{50.5 - 190, 50.5}, 190, 0, s_turn / 4.0});
+
+        QCOMPARE(CountInked(down.copy(0, 0, 100, 50)), 0);
+        QVERIFY(CountInked(down.copy(0, 51, 100, 49)) >= 49);
+        QCOMPARE(CountInked(up.copy(0, 51, 100, 49)), 0);
+        QVERIFY(CountInked(up.copy(0, 0, 100, 50)) >= 49);
+    }
+
+    void aSmallCircleIsThePaintersOwn()
+    {
+        QImage expected(100, 100, QImage::Format_RGB32);
+        expected.fill(Qt::white);
+        QPainter painter(&expected);
+        painter.setPen(QPen(Qt::black, 1.0, Qt::SolidLine, Qt::FlatCap));
+        painter.drawEllipse(QPointF(50.5, 50.5), 40, 40);
+
+        QCOMPARE(Paint({{50.5, 50.5}, 40, 0, s_turn}), expected);
     }
 
     void ofAHugeCircleTheNearPartIsStraight()

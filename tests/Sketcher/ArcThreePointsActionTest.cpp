@@ -4,6 +4,7 @@
 #include "ArcConstruction.h"
 #include "ArcGeometry.h"
 #include "ShapeMeasure.h"
+#include "ShownGraphics.h"
 
 #include "Dimension/LengthUnit.h"
 #include "Dimension/RadiusTemporaryDimensionContext.h"
@@ -217,6 +218,100 @@ private slots:
         f.ClickAt(0, 5);
         QCOMPARE(f.Count(), std::size_t{1});
         QVERIFY(f.IsRepeated());
+    }
+
+    void aChordThatIsNoLineIsNotTaken()
+    {
+        Fixture f;
+        f.Begin();
+        f.ClickAt(-5, 0);
+
+        f.ClickAt(-5 + 5e-7, 0);
+
+        QCOMPARE(f.records.size(), std::size_t{1});
+        QVERIFY(f.Offered<RadiusTemporaryDimensionContext>() == nullptr);
+    }
+
+    void aRadiusIsTakenOnceThereIsAnEnd()
+    {
+        Fixture f;
+        f.Begin();
+        f.ClickAt(-5, 0);
+        QVERIFY(!f.action.ReplayValue(InputState::IS_Radius, L"7", 7));
+
+        f.ClickAt(5, 0);
+
+        QVERIFY(!f.action.ReplayValue(InputState::IS_Length, L"7", 7));
+        QVERIFY(!f.action.ReplayValue(InputState::IS_CentralAngle, L"7", 7));
+        QVERIFY(f.action.ReplayValue(InputState::IS_Radius, L"7", 7));
+    }
+
+    void aPointOnTheChordMeansTheLeftSide()
+    {
+        Fixture f;
+        f.Begin();
+        f.ClickAt(-5, 0);
+        f.ClickAt(5, 0);
+        f.action.ReplayValue(InputState::IS_Radius, L"7", 7);
+
+        QVERIFY(f.action.ReplayPoint({1, 0, 0}, std::nullopt));
+
+        QCOMPARE(f.Drawn<ArcShape>().start, Vector3d(5, 0, 0));
+        QVERIFY(f.Drawn<ArcShape>().centre.y() < 0.0);
+    }
+
+    void theStepOfATypedRadiusEndsOnItsArc()
+    {
+        Fixture f;
+        f.Begin();
+        f.ClickAt(-5, 0);
+        f.ClickAt(5, 0);
+        f.MoveTo(1, 4);
+
+        f.Type(ActionViewInput::RadiusCommitted, 13);
+
+        const auto* pEnd = std::get_if<PointRecord>(&f.records.back().what);
+        QVERIFY(pEnd != nullptr);
+        QVERIFY(DistanceTo(f.Drawn<ArcShape>(), pEnd->point) <= 1e-9);
+    }
+
+    void theChordIsShownUntilThereIsAnArc()
+    {
+        Fixture f;
+        f.Begin();
+        QVERIFY(f.action.CreateRubberBand() == nullptr);
+        f.ClickAt(-5, 0);
+        f.MoveTo(2, 3);
+        const ShownGraphics first(*f.action.CreateRubberBand());
+        f.ClickAt(5, 0);
+        f.MoveTo(1, 0);
+        const ShownGraphics onChord(*f.action.CreateRubberBand());
+
+        QCOMPARE(first.lines.size(), std::size_t{1});
+        QCOMPARE(first.lines[0].start, Vector3d(-5, 0, 0));
+        QCOMPARE(first.lines[0].end, Vector3d(2, 3, 0));
+        QCOMPARE(first.arcs.size(), std::size_t{0});
+        QCOMPARE(onChord.lines.size(), std::size_t{1});
+        QCOMPARE(onChord.lines[0].start, Vector3d(-5, 0, 0));
+        QCOMPARE(onChord.lines[0].end, Vector3d(5, 0, 0));
+        QCOMPARE(onChord.arcs.size(), std::size_t{0});
+    }
+
+    void theArcIsShownAlone()
+    {
+        Fixture f;
+        f.Begin();
+        f.ClickAt(-5, 0);
+        f.ClickAt(5, 0);
+
+        f.MoveTo(3, -4);
+
+        const ShownGraphics shown(*f.action.CreateRubberBand());
+        QCOMPARE(shown.lines.size(), std::size_t{0});
+        QCOMPARE(shown.arcs.size(), std::size_t{1});
+        QCOMPARE(shown.arcs[0].start, Vector3d(-5, 0, 0));
+        QCOMPARE(shown.arcs[0].radius, 5.0);
+        QCOMPARE(shown.arcs[0].sweep, std::acos(-1.0));
     }
 
     void everyStepHasItsHint()

@@ -1,6 +1,7 @@
 #include "Crossings.h"
 
 #include "ArcGeometry.h"
+#include "Geometry/Constants.h"
 #include "ShapeMeasure.h"
 #include "Support/TestValues.h"
 
@@ -9,6 +10,7 @@
 #include <random>
 #include <vector>
 
+using vesk::Constants;
 using vesk::Vector3d;
 using Points = std::vector<Vector3d>;
 
@@ -108,6 +110,38 @@ private slots:
         }
     }
 
+    /// A computed point may be off an outline as far as the numbers around it are rounded.
+    void whatMeetsButForRoundingMeets_data()
+    {
+        QTest::addColumn<Piece>("first");
+        QTest::addColumn<Piece>("second");
+        QTest::addColumn<int>("count");
+
+        const auto tolerance = [](double size) { return Constants::DOUBLE_EPS + 1e-12 * size; };
+        const double ofCircle = tolerance(10);
+        const Piece circle = Circle(0, 0, 10);
+        AddTangent("touches", circle, 10 + 0.95 * ofCircle, 1);
+        AddTangent("just not", circle, 10 + (ofCircle + 0.5e-12), 0);
+        QTest::newRow("just not, far away")
+            << Line(1e9, 10 + 1e-4, 1e9 + 40, 10 + 1e-4) << Circle(1e9 + 20, 0, 10) << 0;
+
+        const double ofLines = tolerance(1e6);
+        const Piece level = Line(-1e6, 0, 1e6, 0);
+        QTest::newRow("gap lost in rounding") << level << Line(5, 0.9 * ofLines, 5, 100) << 1;
+        QTest::newRow("just as wide") << level << Line(0, ofLines, 0, 100) << 1;
+        QTest::newRow("gap") << level << Line(5, 1.1 * ofLines, 5, 100) << 0;
+    }
+
+    void whatMeetsButForRoundingMeets()
+    {
+        QFETCH(Piece, first);
+        QFETCH(Piece, second);
+        QFETCH(int, count);
+
+        for (const Crossings& crossings : {Cross(first, second), Cross(second, first)})
+            QCOMPARE(static_cast<int>(crossings.end() - crossings.begin()), count);
+    }
+
     void whatIsFoundByWalkingAlongIsFound()
     {
         std::mt19937 random(7);
@@ -145,6 +179,12 @@ private slots:
     }
 
 private:
+    /// A level line past a circle about the origin.
+    static void AddTangent(const char* name, const Piece& circle, double height, int count)
+    {
+        QTest::newRow(name) << Line(-20, height, 20, height) << circle << count;
+    }
+
     /// How often a walk along a straight piece enters or leaves the circle where the arc is.
     static std::ptrdiff_t CountSignChanges(const Piece& straight, const ArcShape& arc)
     {

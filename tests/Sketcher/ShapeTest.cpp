@@ -16,6 +16,10 @@ namespace
 constexpr double NaN = std::numeric_limits<double>::quiet_NaN();
 const Vector3d s_up(0, 0, 1);
 
+const LineShape s_line{{1, 2, 3}, {4, 5, 6}};
+const CircleShape s_circle{{1, 2, 0}, 3, s_up};
+const ArcShape s_arc{{1, 2, 0}, 2, {3, 2, 0}, {1, 4, 0}, s_up};
+
 RectangleShape MakeRectangle(double width, double height)
 {
     return {{Vector3d(0, 0, 0), Vector3d(width, 0, 0), Vector3d(width, height, 0),
@@ -44,6 +48,12 @@ private slots:
         QTest::newRow("longest line, rounded up")
             << Shape(LineShape{{0, 0, 0}, {0, std::nextafter(1e9, 2e9), 0}});
         QTest::newRow("rectangle") << Shape(MakeRectangle(1e-6, 1e9));
+        const double sine = std::sin(0.6);
+        const double cosine = std::cos(0.6);
+        QTest::newRow("rectangle with rounded corners") << Shape(
+            RectangleShape{{Vector3d(0, 0, 0), Vector3d(1e6 * cosine, 1e6 * sine, 0),
+                            Vector3d(1e6 * cosine - 3e5 * sine, 1e6 * sine + 3e5 * cosine, 0),
+                            Vector3d(-3e5 * sine, 3e5 * cosine, 0)}});
         QTest::newRow("turned rectangle") << Shape(RectangleShape{
             {Vector3d(0, 0, 0), Vector3d(3, 4, 0), Vector3d(-1, 7, 0), Vector3d(-4, 3, 0)}});
     }
@@ -97,15 +107,63 @@ private slots:
         QVERIFY(!IsDrawable(shape));
     }
 
+    void shapesAreTheSameWhenEveryNumberIs_data()
+    {
+        QTest::addColumn<Shape>("shape");
+
+        QTest::newRow("line") << Shape(s_line);
+        QTest::newRow("circle") << Shape(s_circle);
+        QTest::newRow("arc") << Shape(s_arc);
+        QTest::newRow("rectangle") << Shape(MakeRectangle(1, 2));
+    }
+
     void shapesAreTheSameWhenEveryNumberIs()
     {
-        const Shape circle = CircleShape{{1, 2, 0}, 3, s_up};
+        QFETCH(Shape, shape);
+        const Shape same = shape;
 
-        QCOMPARE(circle, Shape(CircleShape{{1, 2, 0}, 3, s_up}));
-        QVERIFY(!(circle == Shape(CircleShape{{1, 2, 0}, 3, -s_up})));
-        QVERIFY(!(circle == Shape(LineShape{{1, 2, 0}, {3, 0, 0}})));
-        QCOMPARE(Shape(MakeRectangle(1, 2)), Shape(MakeRectangle(1, 2)));
-        QVERIFY(!(Shape(MakeRectangle(1, 2)) == Shape(MakeRectangle(1, 3))));
+        QCOMPARE(same, shape);
+    }
+
+    void shapesDifferWhenOneNumberDoes_data()
+    {
+        QTest::addColumn<Shape>("shape");
+        QTest::addColumn<Shape>("other");
+
+        AddOther("start of a line", s_line, [](LineShape& line) { line.start.y() = 9; });
+        AddOther("end of a line", s_line, [](LineShape& line) { line.end.x() = 9; });
+        AddOther("centre of a circle", s_circle, [](CircleShape& c) { c.centre.x() = 9; });
+        AddOther("radius of a circle", s_circle, [](CircleShape& c) { c.radius = 9; });
+        AddOther("side of a circle", s_circle, [](CircleShape& c) { c.normal = -s_up; });
+        AddOther("centre of an arc", s_arc, [](ArcShape& arc) { arc.centre.y() = 9; });
+        AddOther("radius of an arc", s_arc, [](ArcShape& arc) { arc.radius = 9; });
+        AddOther("start of an arc", s_arc, [](ArcShape& arc) { arc.start.x() = 9; });
+        AddOther("end of an arc", s_arc, [](ArcShape& arc) { arc.end.x() = 9; });
+        AddOther("side of an arc", s_arc, [](ArcShape& arc) { arc.normal = -s_up; });
+        AddOther("first corner", MakeRectangle(1, 2),
+                 [](RectangleShape& rectangle) { rectangle.corners[0].x() = 9; });
+        AddOther("last corner", MakeRectangle(1, 2),
+                 [](RectangleShape& rectangle) { rectangle.corners[3].y() = 9; });
+        QTest::newRow("kind") << Shape(s_circle) << Shape(s_line);
+    }
+
+    void shapesDifferWhenOneNumberDoes()
+    {
+        QFETCH(Shape, shape);
+        QFETCH(Shape, other);
+
+        QVERIFY(!(shape == other));
+        QVERIFY(!(other == shape));
+    }
+
+private:
+    /// A row with a shape and one in which one number is another.
+    template <class Kind, class Change>
+    static void AddOther(const char* name, const Kind& shape, const Change& change)
+    {
+        Kind other = shape;
+        change(other);
+        QTest::newRow(name) << Shape(shape) << Shape(other);
     }
 };
 

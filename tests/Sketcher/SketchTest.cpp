@@ -118,6 +118,7 @@ private slots:
         QVERIFY(!sketch.CanUndo());
         QCOMPARE(sketch.GetName(), name);
         QCOMPARE(sketch.GetCurrentPen().colour, 0);
+        QCOMPARE(sketch.GetLastUndone(), 0);
         QCOMPARE(sketch.AddLine({0, 0, 0}, {1, 0, 0}), first);
     }
 

@@ -88,6 +88,25 @@ private slots:
         QVERIFY(!f.snapper.GetCaught().has_value());
     }
 
+    void whatIsJustTenPixelsAwayIsCaught()
+    {
+        Fixture f;
+        f.snapper.SetOn(Snapper::End, true);
+
+        QCOMPARE(f.Catch(110, 0), Vector3d(100, 0, 0));
+    }
+
+    void whereMiddlesCrossTheCrossingIsCaught()
+    {
+        Fixture f;
+        f.sketch.AddLine({50, -20, 0}, {50, 20, 0});
+        f.snapper.SetOn(Snapper::Middle, true);
+        f.snapper.SetOn(Snapper::Intersection, true);
+
+        QCOMPARE(f.Catch(50, 3), Vector3d(50, 0, 0));
+        QCOMPARE(int(f.snapper.GetCaught()->kind), int(Snapper::Intersection));
+    }
+
     void tenPixelsAreTenAtEveryScale()
     {
         Fixture f;
