@@ -57,15 +57,21 @@ def batches(faults):
     return parts
 
 
+INLINED_QUIET = '#pragma GCC diagnostic ignored "-Wmaybe-uninitialized"\n'
+
+
 def install(name, text):
-    """Puts a text in the place of a source. Nobody wants warnings of it: GCC gives none for system headers."""
+    """Puts a text in the place of a source. Nobody wants warnings of it: GCC gives none for system headers.
+
+    It still gives those that stand in another header, into which something broken was inlined.
+    """
     path = COPY / name
     quiet = f'#pragma GCC system_header\n#line 1 "{path}"\n{text}'
     if path.suffix == ".h":
         workshop.write(path, quiet)
         return
     workshop.write(path.with_name(path.name + ".faults"), quiet)
-    workshop.write(path, f'#include "{path.name}.faults"\n')
+    workshop.write(path, f'{INLINED_QUIET}#include "{path.name}.faults"\n')
 
 
 class Switchboard:
