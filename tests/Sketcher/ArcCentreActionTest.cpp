@@ -144,6 +144,19 @@ private slots:
         QCOMPARE(opContext->GetEndPoint(), Vector3d(15, 20, 0));
     }
 
+    void aClickOnTheStartMeansNothing()
+    {
+        Fixture f;
+        f.Begin();
+        f.ClickAt(10, 20);
+        f.ClickAt(10, 25);
+
+        f.ClickAt(10, 25);
+
+        QCOMPARE(f.Count(), std::size_t{0});
+        QCOMPARE(f.records.size(), std::size_t{2});
+    }
+
     void whatIsNoArcIsNotDrawn()
     {
         Fixture f;
