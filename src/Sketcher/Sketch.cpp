@@ -92,21 +92,23 @@ public:
         : Step(sketch, shapes.front().first), m_others(shapes)
     {}
 
-    void redo() override { Exchange(); }
+    void redo() override
+    {
+        for (auto& other : m_others)
+            Exchange(other);
+    }
 
     void undo() override
     {
         // An entity that is named twice gets its first shape back last.
-        std::reverse(m_others.begin(), m_others.end());
-        Exchange();
-        std::reverse(m_others.begin(), m_others.end());
+        for (auto other = m_others.rbegin(); other != m_others.rend(); ++other)
+            Exchange(*other);
     }
 
 private:
-    void Exchange()
+    void Exchange(std::pair<int, Shape>& other)
     {
-        for (auto& [id, shape] : m_others)
-            std::swap(Get(id).shape, shape);
+        other.second = std::exchange(Get(other.first).shape, other.second);
     }
 
     /// The shapes that the entities do not have now.
