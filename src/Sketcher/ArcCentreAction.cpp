@@ -95,8 +95,9 @@ bool ArcCentreAction::Finish(const Vector3d& end)
         return true;
     }
     const std::optional<ArcShape> arc = MakeArc(end);
-    if (!arc.has_value() || GetWorkspace().sketch.Add(*arc) == 0)
+    if (!arc.has_value())
         return false;
+    GetWorkspace().sketch.Add(*arc);
     m_centre.reset();
     m_start.reset();
     return true;

@@ -89,8 +89,9 @@ bool ArcThreePointsAction::Finish(const Vector3d& end)
         return true;
     }
     const std::optional<ArcShape> arc = MakeArc(end);
-    if (!arc.has_value() || GetWorkspace().sketch.Add(*arc) == 0)
+    if (!arc.has_value())
         return false;
+    GetWorkspace().sketch.Add(*arc);
     m_start.reset();
     m_end.reset();
     return true;
