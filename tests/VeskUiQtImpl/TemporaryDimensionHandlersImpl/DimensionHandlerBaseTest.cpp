@@ -107,6 +107,7 @@ private slots:
     void placingWithoutInputEndsItThroughTheInterface();
     void placingDuringAnInputEndsNothing();
     void editorThatIsMadeIsOpenAndEmpty();
+    void editorThatCannotBeMadeLeavesTheFormerOne_data();
     void editorThatCannotBeMadeLeavesTheFormerOne();
     void onlyAnEditorOfTheRightNameAndClassIsShared();
     void newEditorReplacesTheLiveValidation();
@@ -226,18 +227,30 @@ void DimensionHandlerBaseTest::editorThatIsMadeIsOpenAndEmpty()
     QTRY_VERIFY(probe.HasEditorFocus());
 }
 
+void DimensionHandlerBaseTest::editorThatCannotBeMadeLeavesTheFormerOne_data()
+{
+    QTest::addColumn<bool>("hasView");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("no view") << false << QString::fromUtf8("pUIView为空。");
+    QTest::newRow("a view without a widget") << true << QString::fromUtf8("pNqView为空。");
+}
+
 void DimensionHandlerBaseTest::editorThatCannotBeMadeLeavesTheFormerOne()
 {
+    QFETCH(bool, hasView);
+    QFETCH(QString, message);
     Fixture f;
     Probe probe(&f.host.view);
     probe.CreateEditorWidget();
     const QPointer<TemporaryDimensionHandleEditor> pEditor = probe.m_pEditor;
     const LineEditValidateHelper* pHelper = probe.m_opValidateHelper.Get();
     f.host.view.SetWindowId(0);
+    if (!hasView)
+        f.host.core.GetViewManager().RemoveView(&f.host.view);
 
     probe.CreateEditorWidget();
 
-    EXPECT_WARNING(f.host.warnings, L"pNqView为空。",
+    EXPECT_WARNING(f.host.warnings, message.toStdWString(),
                    "vesk::TemporaryDimensionHandler::CreateEditorWidget");
     QVERIFY(pEditor != nullptr);
     QCOMPARE(probe.m_pEditor.data(), pEditor.data());

@@ -70,6 +70,10 @@ private slots:
     void minusOpensTheFirstFieldAndIsNotConsumed();
     void minusAsACharacterIsNoKeyOfTheView_data();
     void minusAsACharacterIsNoKeyOfTheView();
+    void onlyAPressOpensAField_data();
+    void onlyAPressOpensAField();
+    void aRepeatedKeyIsAKey_data();
+    void aRepeatedKeyIsAKey();
     void otherKeysOpenNothing_data();
     void otherKeysOpenNothing();
     void keysCommit_data();
@@ -154,6 +158,53 @@ void DimensionKeysTest::minusAsACharacterIsNoKeyOfTheView()
 
     QVERIFY(!f.opHandler->IsInputting());
     QCOMPARE(f.RefreshCount(), 0);
+}
+
+void DimensionKeysTest::onlyAPressOpensAField_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<int>("type");
+    for (std::size_t kind = 0; kind < AllKinds().size(); ++kind)
+    {
+        QTest::addRow("%s, release", AllKinds()[kind].name) << int(kind) << int(QEvent::KeyRelease);
+        QTest::addRow("%s, question whether it is a shortcut", AllKinds()[kind].name)
+            << int(kind) << int(QEvent::ShortcutOverride);
+    }
+}
+
+void DimensionKeysTest::onlyAPressOpensAField()
+{
+    FETCH_KIND(rules);
+    QFETCH(int, type);
+    KindInputFixture f(rules);
+    QKeyEvent event(QEvent::Type(type), '5', Qt::NoModifier, "5");
+
+    QVERIFY(!f.Object().event(&event));
+
+    QVERIFY(!f.opHandler->IsInputting());
+    QVERIFY(f.Editor() == nullptr);
+    QCOMPARE(f.RefreshCount(), 0);
+}
+
+void DimensionKeysTest::aRepeatedKeyIsAKey_data()
+{
+    AddKindRows();
+}
+
+/// Two quick presses of one key come with the mark of a repetition.
+void DimensionKeysTest::aRepeatedKeyIsAKey()
+{
+    FETCH_KIND(rules);
+    KindInputFixture f(rules);
+    QKeyEvent digit(QEvent::KeyPress, '5', Qt::NoModifier, "5", true);
+    QKeyEvent commit(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
+
+    QVERIFY(f.Object().event(&digit));
+    QCOMPARE(f.State(), rules.StartState());
+    QCOMPARE(f.Editor()->text(), QString("5"));
+
+    QVERIFY(!f.Object().eventFilter(f.Editor(), &commit));
+    QCOMPARE(f.Inputs().size(), std::size_t(1));
 }
 
 void DimensionKeysTest::otherKeysOpenNothing_data()

@@ -27,6 +27,8 @@ private slots:
     void nothingOfAConfigurationThatFits();
     void statesOfOtherKinds_data();
     void statesOfOtherKinds();
+    void statesOfOtherKindsLeaveAnOpenInputAlone_data();
+    void statesOfOtherKindsLeaveAnOpenInputAlone();
     void valueInAStateOfAnotherKind_data();
     void valueInAStateOfAnotherKind();
     void tabInAStateOfAnotherKind_data();
@@ -190,6 +192,27 @@ void DimensionReportsTest::statesOfOtherKinds()
     EXPECT_WARNING(f.host.warnings, L"InputState输入非法!", rules.NameOf("ShowInputWidget"));
     QVERIFY(!f.opHandler->IsInputting());
     QVERIFY(f.Editor() == nullptr);
+}
+
+void DimensionReportsTest::statesOfOtherKindsLeaveAnOpenInputAlone_data()
+{
+    AddKindRows();
+}
+
+void DimensionReportsTest::statesOfOtherKindsLeaveAnOpenInputAlone()
+{
+    FETCH_KIND(rules);
+    KindFixture f(rules.pCreateContext());
+    f.Type(rules.StartState(), "5");
+    const int redrawCount = f.host.view.GetRedrawCount();
+
+    f.Handler().ShowInputWidget(InputState(7), true, true, L"6");
+
+    EXPECT_WARNING(f.host.warnings, L"InputState输入非法!", rules.NameOf("ShowInputWidget"));
+    QCOMPARE(f.State(), rules.StartState());
+    QVERIFY(f.Editor()->isVisible());
+    QCOMPARE(f.Editor()->text(), QString("5"));
+    QCOMPARE(f.host.view.GetRedrawCount(), redrawCount);
 }
 
 void DimensionReportsTest::valueInAStateOfAnotherKind_data()

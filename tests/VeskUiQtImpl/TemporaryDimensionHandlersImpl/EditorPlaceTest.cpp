@@ -15,7 +15,10 @@ class EditorPlaceTest : public QObject
 private slots:
     void theEditorIsCentredOnItsPoint_data();
     void theEditorIsCentredOnItsPoint();
+    void theEditorStandsInTheViewOfTheHandler();
     void theEditorOfAnEmbeddedViewIsParkedFarOff();
+    void theEditorOfAViewInAPanelOfAnotherIsNot();
+    void placingDoesNothingElse();
     void placingWithoutAnEditorDoesNothing();
     void placingWithoutAViewDoesNothing();
     void placingWithoutAViewWidgetIsReported();
@@ -61,6 +64,23 @@ void EditorPlaceTest::theEditorIsCentredOnItsPoint()
     QCOMPARE(f.State(), InputState(state));
 }
 
+void EditorPlaceTest::theEditorStandsInTheViewOfTheHandler()
+{
+    HandlerFixture f;
+    f.TypeLength("5");
+    const Vector3d world(12, 34, 0);
+    f.Data()[InputState::IS_Length].textPosition = world;
+    TestView other(2, &f.host.window);
+    other.move(50, 60);
+    f.host.core.GetViewManager().AddView(&other);
+    f.host.core.GetViewManager().SetCurrentView(&other);
+
+    QMetaObject::invokeMethod(&f.Object(), "ResetEditorPosition");
+
+    QCOMPARE(f.Editor()->pos(), CornerFor(f.host.view, world, f.Editor()->size()));
+    f.host.core.GetViewManager().RemoveView(&other);
+}
+
 void EditorPlaceTest::theEditorOfAnEmbeddedViewIsParkedFarOff()
 {
     HandlerFixture f;
@@ -75,6 +95,42 @@ void EditorPlaceTest::theEditorOfAnEmbeddedViewIsParkedFarOff()
     const auto* pEditor = embedded.findChild<QLineEdit*>("ViewInputLineEdit");
     QCOMPARE(pEditor->pos(), CornerFor(embedded, world, pEditor->size()) + QPoint(10000, 10000));
     f.host.core.GetViewManager().RemoveView(&embedded);
+}
+
+void EditorPlaceTest::theEditorOfAViewInAPanelOfAnotherIsNot()
+{
+    HandlerFixture f;
+    QWidget panel(&f.host.view);
+    TestView inner(2, &panel);
+    f.host.core.GetViewManager().AddView(&inner);
+    f.host.core.GetViewManager().SetCurrentView(&inner);
+    const Vector3d world(12, 34, 0);
+    f.Data()[InputState::IS_Length].textPosition = world;
+
+    f.TypeLength("5");
+
+    const auto* pEditor = inner.findChild<QLineEdit*>("ViewInputLineEdit");
+    QCOMPARE(pEditor->pos(), CornerFor(inner, world, pEditor->size()));
+    f.host.core.GetViewManager().RemoveView(&inner);
+}
+
+void EditorPlaceTest::placingDoesNothingElse()
+{
+    HandlerFixture f;
+    f.TypeLength("56");
+    f.Editor()->setSelection(0, 1);
+    f.Editor()->hide();
+    const int redrawCount = f.host.view.GetRedrawCount();
+    const QPoint position = f.Editor()->pos();
+    f.Data()[InputState::IS_Length].textPosition = Vector3d(99, 99, 0);
+
+    QMetaObject::invokeMethod(&f.Object(), "ResetEditorPosition");
+
+    QVERIFY(f.Editor()->pos() != position);
+    QVERIFY(f.Editor()->isHidden());
+    QCOMPARE(f.Editor()->text(), QString("56"));
+    QCOMPARE(f.Editor()->selectedText(), QString("5"));
+    QCOMPARE(f.host.view.GetRedrawCount(), redrawCount);
 }
 
 void EditorPlaceTest::placingWithoutAnEditorDoesNothing()

@@ -17,6 +17,8 @@ private slots:
     void coincidingPointsHaveNoDimensions_data();
     void coincidingPointsHaveNoDimensions();
     void coincidingPointsNeedNoView();
+    void whatIsNotDrawnKeepsItsValue_data();
+    void whatIsNotDrawnKeepsItsValue();
     void configurationOfAForeignContextIsReported();
     void configurationOfAForeignContextTakesItsRangesAndNoFlags();
     void configurationTakesTheFlagsOver();
@@ -79,6 +81,7 @@ void LinearDimensionGraphicsTest::coincidingPointsHaveNoDimensions()
     const auto opGroup = f.opHandler->GenerateGraphics(&context);
 
     QVERIFY(opGroup != nullptr);
+    QVERIFY(!opGroup->IsPickable());
     QCOMPARE(opGroup->GetChildCount(), count);
 }
 
@@ -90,6 +93,27 @@ void LinearDimensionGraphicsTest::coincidingPointsNeedNoView()
                                                   Vector3d(1, 1, 0));
 
     QVERIFY(f.opHandler->GenerateGraphics(&context) != nullptr);
+}
+
+void LinearDimensionGraphicsTest::whatIsNotDrawnKeepsItsValue_data()
+{
+    QTest::addColumn<double>("length");
+    QTest::newRow("no angle") << 50.0;
+    QTest::newRow("no length either") << 0.0;
+}
+
+void LinearDimensionGraphicsTest::whatIsNotDrawnKeepsItsValue()
+{
+    QFETCH(double, length);
+    HandlerFixture f(true, false);
+    f.Data()[InputState::IS_Angle].value = 33;
+    const LinearTemporaryDimensionContext context(Coordinate3d(), Vector3d(0, 0, 0),
+                                                  Vector3d(length, 0, 0));
+
+    f.opHandler->GenerateGraphics(&context);
+
+    QCOMPARE_EXACTLY(f.Data()[InputState::IS_Angle].value, 33);
+    QCOMPARE_EXACTLY(f.Data()[InputState::IS_Length].value, 50);
 }
 
 void LinearDimensionGraphicsTest::configurationOfAForeignContextIsReported()

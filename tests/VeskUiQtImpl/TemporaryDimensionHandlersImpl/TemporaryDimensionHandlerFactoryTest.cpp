@@ -59,6 +59,8 @@ private slots:
     void keepsAHandlerThatFits();
     void configuresAHandlerThatItKeeps();
     void leavesAHandlerThatItReplacesAlone();
+    void leavesAnOpenInputAlone_data();
+    void leavesAnOpenInputAlone();
     void isTheSameEachTime();
     void replacesAHandlerOfAnotherClass();
     void reportsAContextThatNoHandlerFits();
@@ -206,6 +208,26 @@ void TemporaryDimensionHandlerFactoryTest::leavesAHandlerThatItReplacesAlone()
 
     QVERIFY(opNew != nullptr);
     QVERIFY(IsConfigured(*f.opHandler, f.context));
+}
+
+void TemporaryDimensionHandlerFactoryTest::leavesAnOpenInputAlone_data()
+{
+    AddKindRows();
+}
+
+/// That of the linear handler, which the context keeps or has replaced.
+void TemporaryDimensionHandlerFactoryTest::leavesAnOpenInputAlone()
+{
+    FETCH_KIND(rules);
+    HandlerFixture f;
+    f.TypeLength("5");
+    const auto opContext = rules.pCreateContext();
+
+    const auto opNew = Factory().UpdateOrCreateHandler(opContext.Get(), f.opHandler.Get());
+
+    QCOMPARE(f.State(), InputState::IS_Length);
+    QVERIFY(f.Editor()->isVisible());
+    QCOMPARE(f.Editor()->text(), QString("5"));
 }
 
 void TemporaryDimensionHandlerFactoryTest::isTheSameEachTime()
