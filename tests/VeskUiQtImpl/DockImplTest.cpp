@@ -152,6 +152,8 @@ void DockImplTest::titlesComeBackAsTheyWereSet_data()
     QTest::addColumn<QString>("title");
     QTest::newRow("empty") << QString();
     QTest::newRow("Latin") << QString::fromUtf8("Größe");
+    QTest::newRow("blanks around it") << QString(" a  b ");
+    QTest::newRow("mark of what is modified") << QString("a[*]");
     QTest::newRow("Chinese") << QString::fromUtf8("属性面板");
     QTest::newRow("beyond the basic plane") << QString::fromUtf8("\xF0\x9F\x93\x90 angle");
 }

@@ -32,6 +32,7 @@ private slots:
     void aDockThatIsNoWidgetIsReported();
     void unknownNamesAreFoundSilently();
     void deletedDocksStayHiddenChildrenOfTheWindow();
+    void deletingLeavesTheDockAsItIs();
     void aNameIsFreeAfterDeletion();
     void thePropertyPanelCannotBeDeleted();
     void theNameOfThePropertyPanelIsRefusedFirst();
@@ -245,6 +246,23 @@ void DockManagerAddTest::deletedDocksStayHiddenChildrenOfTheWindow()
     QVERIFY(pWidget->isHidden());
     QCOMPARE(pWidget->parentWidget(), static_cast<QWidget*>(&f.window));
     QCOMPARE(f.window.dockWidgetArea(pWidget), Qt::NoDockWidgetArea);
+}
+
+void DockManagerAddTest::deletingLeavesTheDockAsItIs()
+{
+    DockFixture f;
+    IDock* pDock = f.Add(L"name");
+    pDock->SetWidget(MakeOwner<WidgetContent>());
+    const IWidget* pContent = pDock->GetWidget();
+
+    f.manager.DeleteDock(L"name");
+
+    QCOMPARE(pDock->GetWidget(), pContent);
+    QCOMPARE(WidgetOf(pDock)->widget(), dynamic_cast<const QWidget*>(pContent));
+    QCOMPARE(int(WidgetOf(pDock)->features()), 7);
+    QVERIFY(WidgetOf(pDock)->titleBarWidget() == nullptr);
+    QCOMPARE(pDock->GetName(), std::wstring(L"name"));
+    QCOMPARE(pDock->GetTitle(), std::wstring(L"name"));
 }
 
 void DockManagerAddTest::aNameIsFreeAfterDeletion()

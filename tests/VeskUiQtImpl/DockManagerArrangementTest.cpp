@@ -31,6 +31,7 @@ private slots:
     void arrangingShowsAndHidesNothing_data();
     void arrangingShowsAndHidesNothing();
     void tabifyingHappensOnceAndInTheAreaOfTheFirst();
+    void docksThatWereNotAddedAreArrangedToo();
     void aDockThatIsNotTabbedHasNoPartners();
     void partnersComeInTheOrderOfTheTabs();
     void aPartnerOfSomebodyElseIsReportedAndLeftOut();
@@ -277,6 +278,23 @@ void DockManagerArrangementTest::tabifyingHappensOnceAndInTheAreaOfTheFirst()
 
     QCOMPARE(f.manager.TabifiedDocks(pFirst), std::vector<IDock*>{pSecond});
     QVERIFY(f.manager.TabifiedDocks(pThird).empty());
+}
+
+void DockManagerArrangementTest::docksThatWereNotAddedAreArrangedToo()
+{
+    DockFixture f;
+    IDock* pAdded = f.Add(L"name");
+    const OwnerPtr<IDock> opTabbed = f.manager.CreateDock(L"tabbed", L"title");
+    const OwnerPtr<IDock> opSplit = f.manager.CreateDock(L"split", L"title");
+
+    f.manager.SplitDock(pAdded, opSplit.Get(), DockOrientation::Vertical);
+    f.manager.TabifyDock(pAdded, opTabbed.Get());
+
+    QCOMPARE(f.window.tabifiedDockWidgets(WidgetOf(pAdded)),
+             QList<QDockWidget*>{WidgetOf(opTabbed.Get())});
+    QCOMPARE(f.window.dockWidgetArea(WidgetOf(opSplit.Get())), Qt::LeftDockWidgetArea);
+    QCOMPARE(f.manager.TabifiedDocks(opTabbed.Get()), std::vector<IDock*>{pAdded});
+    QVERIFY(f.manager.GetDock(L"tabbed") == nullptr);
 }
 
 void DockManagerArrangementTest::aDockThatIsNotTabbedHasNoPartners()

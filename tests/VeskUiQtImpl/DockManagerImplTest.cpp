@@ -215,12 +215,14 @@ void DockManagerImplTest::assignedManagersKnowTheSameDocks()
 {
     DockFixture f;
     IDock* pDock = f.Add(L"name");
+    IDock* pTabbed = f.Add(L"tabbed");
+    f.manager.TabifyDock(pDock, pTabbed);
     DockManagerImpl assigned(nullptr);
 
     assigned = f.manager;
 
     QCOMPARE(assigned.GetDock(L"name"), pDock);
-    QVERIFY(assigned.TabifiedDocks(pDock).empty());
+    QCOMPARE(assigned.TabifiedDocks(pDock), std::vector<IDock*>{pTabbed});
 }
 
 void DockManagerImplTest::theManagerDestroysNoDock()

@@ -25,10 +25,13 @@ private slots:
 
     void showingAllRaisesNothing();
     void hidingAllLeavesTheRest();
+    void allMeansFloatingDocksToo();
 
     void allComeInStepInTheOrderOfTheirNames();
     void hiddenDocksDoNotComeInStep();
+    void comingInStepNeedsNoServices();
     void aDockBehindAnotherTabComesInStep();
+    void aFloatingDockComesInStep();
     void aDockWithoutContentIsReportedAndTheOthersComeInStep();
     void aHiddenDockWithoutContentIsNotReported();
     void aDockDeletedOnTheWayIsLeftOut();
@@ -195,6 +198,21 @@ void DockManagerPanesTest::hidingAllLeavesTheRest()
     f.window.removeDockWidget(&foreign);
 }
 
+void DockManagerPanesTest::allMeansFloatingDocksToo()
+{
+    DockFixture f;
+    IDock* pFloating = f.Add(L"a");
+    pFloating->SetFloating(true);
+    pFloating->Show();
+
+    f.manager.HideAllDockPane();
+    QVERIFY(pFloating->IsHidden());
+
+    f.manager.ShowAllDockPane();
+    QVERIFY(!pFloating->IsHidden());
+    QVERIFY(pFloating->IsFloating());
+}
+
 void DockManagerPanesTest::allComeInStepInTheOrderOfTheirNames()
 {
     DockFixture f;
@@ -219,6 +237,30 @@ void DockManagerPanesTest::hiddenDocksDoNotComeInStep()
     f.manager.UpdateAllDockStatus();
 
     QCOMPARE(order, QString("b"));
+}
+
+void DockManagerPanesTest::comingInStepNeedsNoServices()
+{
+    DockFixture f;
+    QString order;
+    f.AddUpdated(L"a", [&] { order += 'a'; });
+    f.host.window.SetDockManager(nullptr);
+    f.host.window.SetManagerInstalled(false);
+
+    f.manager.UpdateAllDockStatus();
+
+    QCOMPARE(order, QString("a"));
+}
+
+void DockManagerPanesTest::aFloatingDockComesInStep()
+{
+    DockFixture f;
+    QString order;
+    f.AddUpdated(L"a", [&] { order += 'a'; })->SetFloating(true);
+
+    f.manager.UpdateAllDockStatus();
+
+    QCOMPARE(order, QString("a"));
 }
 
 void DockManagerPanesTest::aDockBehindAnotherTabComesInStep()

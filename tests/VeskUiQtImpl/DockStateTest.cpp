@@ -1,0 +1,122 @@
+#include "DockImpl.h"
+
+#include "DockFixture.h"
+#include "Foundation/NqStyleSheetHelper.h"
+#include "Support/TestValues.h"
+
+namespace vesk::test
+{
+
+/// What of a pane stays as it is when something else is asked of it.
+class DockStateTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void showingLetsItFloatOn();
+    void floatingShowsNothing();
+    void itsWindowIsNotActivated_data();
+    void itsWindowIsNotActivated();
+    void contentIsGivenNoTitleAndShowsNothing();
+    void laterStyleSheetsAreNotFollowed();
+};
+
+/// A pane that floats beside its window.
+struct FloatingDock : DockFixture
+{
+    FloatingDock()
+    {
+        window.show();
+        pDock->SetFloating(true);
+        pDock->Show();
+    }
+
+    IDock* pDock = Add(L"name");
+};
+
+void DockStateTest::showingLetsItFloatOn()
+{
+    FloatingDock f;
+    f.pDock->Hide();
+
+    f.pDock->Show();
+
+    QVERIFY(f.pDock->IsFloating());
+    QVERIFY(!f.pDock->IsHidden());
+}
+
+void DockStateTest::floatingShowsNothing()
+{
+    DockFixture f;
+    f.window.show();
+    IDock* pDock = f.Add(L"name");
+    pDock->Hide();
+
+    pDock->SetFloating(true);
+    QVERIFY(pDock->IsHidden());
+
+    pDock->SetFloating(false);
+    QVERIFY(pDock->IsHidden());
+}
+
+void DockStateTest::itsWindowIsNotActivated_data()
+{
+    QTest::addColumn<bool>("isRaise");
+    QTest::newRow("shown") << false;
+    QTest::newRow("raised") << true;
+}
+
+void DockStateTest::itsWindowIsNotActivated()
+{
+    QFETCH(bool, isRaise);
+    FloatingDock f;
+    f.window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&f.window, PatienceMs));
+
+    if (isRaise)
+        f.pDock->Raise();
+    else
+        f.pDock->Show();
+    QCoreApplication::processEvents();
+
+    QCOMPARE(QApplication::activeWindow(), static_cast<QWidget*>(&f.window));
+}
+
+void DockStateTest::contentIsGivenNoTitleAndShowsNothing()
+{
+    DockFixture f;
+    f.window.show();
+    IDock* pDock = f.Add(L"name");
+    pDock->Hide();
+    auto opContent = MakeOwner<WidgetContent>();
+    opContent->setWindowTitle("content");
+
+    pDock->SetWidget(std::move(opContent));
+
+    QVERIFY(pDock->IsHidden());
+    QCOMPARE(pDock->GetTitle(), std::wstring(L"name"));
+    QCOMPARE(WidgetOf(pDock)->widget()->windowTitle(), QString("content"));
+    QCOMPARE(WidgetOf(pDock)->widget()->objectName(), QString());
+}
+
+void DockStateTest::laterStyleSheetsAreNotFollowed()
+{
+    DockFixture f;
+    NqStyleSheetHelper::Instance()->SetCurrentStyleData(L"QDockWidget { color: red; }");
+    IDock* pDock = f.Add(L"name");
+    NqStyleSheetHelper::Instance()->SetCurrentStyleData(L"QDockWidget { color: blue; }");
+
+    pDock->Hide();
+    pDock->Show();
+    pDock->Raise();
+    pDock->SetTitle(L"title");
+    pDock->SetWidget(MakeOwner<WidgetContent>());
+    pDock->SetFloating(true);
+
+    QCOMPARE(WidgetOf(pDock)->styleSheet(), QString("QDockWidget { color: red; }"));
+}
+
+}
+
+QTEST_MAIN(vesk::test::DockStateTest)
+#include "DockStateTest.moc"
