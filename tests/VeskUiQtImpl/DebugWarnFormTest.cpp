@@ -100,6 +100,7 @@ void DebugWarnFormTest::theWindowIsAsItIsMeant()
 
     QCOMPARE(dialog.parentWidget(), &parent);
     QVERIFY(dialog.isWindow());
+    QCOMPARE(dialog.windowFlags(), QDialog(&parent).windowFlags());
     QCOMPARE(dialog.windowTitle(), QString::fromUtf8("调试警告"));
     QCOMPARE(dialog.size(), QSize(485, 393));
     QCOMPARE(dialog.minimumSize(), QSize(485, 393));

@@ -86,6 +86,8 @@ private slots:
     void leavingIsToIgnoreOnce_data();
     void leavingIsToIgnoreOnce();
     void theDialogShowsTheWarning();
+    void nothingIsAssertedOrLoggedBesidesADialog_data();
+    void nothingIsAssertedOrLoggedBesidesADialog();
     void theDialogStandsOnTheMainWindow();
     void theDialogStandsAloneWithoutAMainWindow();
     void theDialogStandsAloneWhenTheWindowIsUnknown();
@@ -178,6 +180,28 @@ void DebugWarningDialogDisplayerTest::theDialogShowsTheWarning()
     QVERIFY(isModal);
     QCOMPARE(shown, (QStringList{QString::fromUtf8("pDock是空指针"), "File.cpp", "vesk::F::G", "",
                                  "", "12", "vesk-ui", "2026-11-21"}));
+}
+
+void DebugWarningDialogDisplayerTest::nothingIsAssertedOrLoggedBesidesADialog_data()
+{
+    QTest::addColumn<bool>("isAsserting");
+    QTest::newRow("assertions on") << true;
+    QTest::newRow("assertions off") << false;
+}
+
+void DebugWarningDialogDisplayerTest::nothingIsAssertedOrLoggedBesidesADialog()
+{
+    QFETCH(bool, isAsserting);
+    const LogFile log;
+    const QStringList path{QString::fromStdString(log.GetPath())};
+
+    const Child child(QCoreApplication::applicationFilePath(),
+                      QStringList("--ignore") + (isAsserting ? QStringList() : path));
+
+    QVERIFY(child.hasFinished);
+    QCOMPARE(child.process.exitCode(), 1);
+    QVERIFY2(!child.errors.contains("DBG_WARN"), child.errors.constData());
+    QCOMPARE(log.ReadRecords().size(), 0);
 }
 
 /// The widget that a dialog shown now stands on.
@@ -392,9 +416,9 @@ void DebugWarningDialogDisplayerTest::withoutAnApplicationTheFactIsLogged()
              QString("vesk::DebugWarningDialogDisplayer::Display"));
 }
 
-/// Shows a warning while there is no application; exits with the answer. With the path of a log
+/// Shows a warning and returns the answer, as the code of an exit. With the path of a log
 /// assertions are off.
-int DisplayWithoutApplication(const char* logPath)
+int DisplayAndAnswer(const char* logPath)
 {
     if (logPath != nullptr)
     {
@@ -406,7 +430,7 @@ int DisplayWithoutApplication(const char* logPath)
     return answer;
 }
 
-/// The same after an application has come and gone.
+/// The same when there is no application after one has come and gone.
 int DisplayAfterApplication(int argc, char* argv[])
 {
     // What the toolkit misses in the system is no part of the report.
@@ -419,7 +443,7 @@ int DisplayAfterApplication(int argc, char* argv[])
         const HostFixture host;
     }
     qInstallMessageHandler(nullptr);
-    return DisplayWithoutApplication(argc > 2 ? argv[2] : nullptr);
+    return DisplayAndAnswer(argc > 2 ? argv[2] : nullptr);
 }
 
 /// Shows a warning, chooses to debug it and tells the answer.
@@ -433,15 +457,26 @@ int DebugWarningInApplication(int argc, char* argv[])
     return 0;
 }
 
+/// The same while there is an application, whose user ignores the warning once.
+int IgnoreWarningInApplication(int argc, char* argv[])
+{
+    const QApplication application(argc, argv);
+    HostFixture host;
+    WhenShown([](QDialog& dialog) { dialog.done(0); });
+    return DisplayAndAnswer(argc > 2 ? argv[2] : nullptr);
+}
+
 }
 
 int main(int argc, char* argv[])
 {
     const QByteArray task(argc > 1 ? argv[1] : "");
     if (task == "--before-application")
-        return vesk::test::DisplayWithoutApplication(argc > 2 ? argv[2] : nullptr);
+        return vesk::test::DisplayAndAnswer(argc > 2 ? argv[2] : nullptr);
     if (task == "--after-application")
         return vesk::test::DisplayAfterApplication(argc, argv);
+    if (task == "--ignore")
+        return vesk::test::IgnoreWarningInApplication(argc, argv);
     if (task == "--debug")
         return vesk::test::DebugWarningInApplication(argc, argv);
     QApplication application(argc, argv);

@@ -19,6 +19,9 @@ namespace
 /// What the library registered and withdrew, in order, as the host's operations were told.
 QStringList s_notes;
 
+/// The last factory of handlers that was registered.
+const void* s_pHandlerFactory = nullptr;
+
 QString Describe(const char* what, const void* pFactory)
 {
     const bool hasUiFactory = vesk::NqUiInterfaceFactory::m_pFactory != nullptr;
@@ -49,6 +52,8 @@ void VeskIControlFactory::Set(VeskIControlFactory* pFactory)
 void TemporaryDimensionMgr::SetHandlerFactory(ITemporaryDimensionHandlerFactory* pFactory)
 {
     s_notes << Describe("handler factory", pFactory);
+    if (pFactory != nullptr)
+        s_pHandlerFactory = pFactory;
     using Function = void (*)(TemporaryDimensionMgr*, ITemporaryDimensionHandlerFactory*);
     Next<Function>("_ZN4vesk21TemporaryDimensionMgr17SetHandlerFactoryEPNS_"
                    "33ITemporaryDimensionHandlerFactoryE")(this, pFactory);
@@ -104,6 +109,7 @@ class StaticRegistrationsOrderTest : public QObject
 
 private slots:
     void registersInOrderAndWithdrawsInReverse();
+    void registersTheFactoryOfHandlersThatItGives();
     void hasNoSymbolThatPinsIt();
 };
 
@@ -120,6 +126,20 @@ void StaticRegistrationsOrderTest::registersInOrderAndWithdrawsInReverse()
     QCOMPARE(TakeNotes(), (QStringList{"handler factory withdrawn, user-interface factory there",
                                        "control factory withdrawn, user-interface factory there",
                                        "user-interface factory destroyed when it was gone"}));
+}
+
+void StaticRegistrationsOrderTest::registersTheFactoryOfHandlersThatItGives()
+{
+    const LoadedLibrary library(VESK_LIBRARY_PATH);
+    void* pLoaded = dlopen(VESK_LIBRARY_PATH, RTLD_NOW | RTLD_NOLOAD);
+    const auto pGetInstance = reinterpret_cast<const void* (*)()>(
+        dlsym(pLoaded, "_ZN4vesk32TemporaryDimensionHandlerFactory11GetInstanceEv"));
+
+    const void* pInstance = pGetInstance != nullptr ? pGetInstance() : nullptr;
+    dlclose(pLoaded);
+
+    QVERIFY(pInstance != nullptr);
+    QCOMPARE(pInstance, s_pHandlerFactory);
 }
 
 void StaticRegistrationsOrderTest::hasNoSymbolThatPinsIt()
