@@ -290,11 +290,14 @@ void HandlerLifetimeTest::handlerMayDieWhenAReadyEditorIsShown()
     f.TypeFirst("5");
     f.Editor()->hide();
     const int redrawCount = f.pView->GetRedrawCount();
+    const QPoint position = f.Editor()->pos();
+    f.Data()[rules.StartState()].textPosition = Vector3d(99, 99, 0);
     const EventTrap trap(f.Editor(), QEvent::Show, [&] { f.opHandler.Reset(); });
 
     f.Handler().ShowInputWidget(rules.StartState(), true, true, L"6");
 
     QVERIFY(f.opHandler == nullptr);
+    QCOMPARE(f.Editor()->pos(), position);
     QCOMPARE(f.pView->GetRedrawCount(), redrawCount);
 }
 
