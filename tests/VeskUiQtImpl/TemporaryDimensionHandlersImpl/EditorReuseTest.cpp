@@ -3,6 +3,8 @@
 
 #include "Support/TestValues.h"
 
+#include <limits>
+
 namespace vesk::test
 {
 namespace
@@ -71,6 +73,7 @@ void EditorReuseTest::aNewEditorIsAnOrdinaryLineEditOtherwise()
     QCOMPARE(int(editor.alignment()), int(plain.alignment()));
     QCOMPARE(editor.echoMode(), plain.echoMode());
     QCOMPARE(editor.inputMask(), QString());
+    QCOMPARE(editor.maxLength(), std::numeric_limits<int>::max());
     QCOMPARE(int(editor.inputMethodHints()), int(plain.inputMethodHints()));
     QCOMPARE(editor.placeholderText(), QString());
     QVERIFY(editor.isEnabled() && !editor.isReadOnly());
