@@ -45,6 +45,9 @@ private slots:
     void oneOfALaterVersionIsNewer();
     void whatCannotBeReadIsKept_data();
     void whatCannotBeReadIsKept();
+    void aLayoutThatIsReplacedIsNotKept();
+    void aLargeFileIsKeptWhole();
+    void whatCannotBeKeptIsNotReplaced();
     void aFolderThatCannotBeMadeIsToldOf();
     void noFileHarmsTheProgram_data();
     void noFileHarmsTheProgram();
@@ -142,6 +145,38 @@ void LayoutFileTest::whatCannotBeReadIsKept()
 
     QCOMPARE(Get(Path() + ".kept"), text);
     QCOMPARE(LayoutFile::Read(Path()).layout, QByteArray("another layout"));
+}
+
+void LayoutFileTest::aLayoutThatIsReplacedIsNotKept()
+{
+    const QString path = m_folder.filePath("again.json");
+    QVERIFY(LayoutFile::Write(path, "layout"));
+
+    QVERIFY(LayoutFile::Write(path, "another layout"));
+
+    QVERIFY(!QFile::exists(path + ".kept"));
+}
+
+void LayoutFileTest::aLargeFileIsKeptWhole()
+{
+    const QByteArray text(3 << 20, 'x');
+    Put(text);
+
+    QVERIFY(LayoutFile::Write(Path(), "layout"));
+
+    QVERIFY(Get(Path() + ".kept") == text);
+}
+
+void LayoutFileTest::whatCannotBeKeptIsNotReplaced()
+{
+    Put("damaged");
+    QFile::remove(Path() + ".kept");
+    QVERIFY(QDir().mkpath(Path() + ".kept/in the way"));
+
+    QVERIFY(!LayoutFile::Write(Path(), "layout"));
+
+    QCOMPARE(Get(Path()), QByteArray("damaged"));
+    QVERIFY(QDir(Path() + ".kept").removeRecursively());
 }
 
 void LayoutFileTest::aFolderThatCannotBeMadeIsToldOf()

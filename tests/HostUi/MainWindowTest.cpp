@@ -1,11 +1,25 @@
 #include "HostUi/MainWindow.h"
 
+#include "Command/ActionManager.h"
+#include "Command/Command.h"
+#include "Command/IAction.h"
+#include "Command/ICommandManager.h"
+#include "Dimension/LengthUnit.h"
 #include "HostCore.h"
+#include "HostUi/DimensionInputController.h"
+#include "HostUi/DrawingView.h"
 #include "HostUi/UiApplication.h"
+#include "Qtitan/RibbonBar.h"
 #include "Support/TestValues.h"
 
+#include <QCloseEvent>
 #include <QLabel>
+#include <QSignalSpy>
 #include <QStatusBar>
+#include <QTimer>
+
+#include <string>
+#include <utility>
 
 namespace vesk
 {
@@ -13,14 +27,53 @@ namespace vesk
 namespace
 {
 
+/// A view of nothing.
+class PlainView final : public DrawingView
+{
+public:
+    using DrawingView::DrawingView;
+
+protected:
+    void PaintModel(QPainter&) override {}
+};
+
+/// Tells that it has ended.
+class EndingAction final : public IAction
+{
+public:
+    explicit EndingAction(int& endCount) : m_endCount(endCount) {}
+
+    std::wstring GetViewText() const override { return {}; }
+    void OnBegin(IUiView*) override {}
+    void OnMouseMove(const Vector3d&) override {}
+    void OnClick(const Vector3d&) override {}
+    void OnEnd() override { ++m_endCount; }
+    bool ReplayPoint(const Vector3d&, const std::optional<int>&) override { return false; }
+
+private:
+    int& m_endCount;
+};
+
 struct Fixture
 {
     Fixture() { window.show(); }
 
-    QLabel* States() const { return window.statusBar()->findChild<QLabel*>("States"); }
+    QLabel* Label(const char* name) const
+    {
+        return window.statusBar()->findChild<QLabel*>(QLatin1String(name));
+    }
+    QLabel* States() const { return Label("States"); }
+
+    PlainView* AddView()
+    {
+        auto* pView = new PlainView(2, input, nullptr);
+        window.SetDrawingView(pView);
+        return pView;
+    }
 
     HostCore core;
     UiApplication application;
+    DimensionInputController input;
     MainWindow window;
 };
 
@@ -37,6 +90,150 @@ private slots:
         const Fixture f;
 
         QVERIFY(!f.States()->isVisible());
+    }
+
+    void theHostKnowsItWhileItLives()
+    {
+        {
+            const Fixture f;
+            QCOMPARE(IMainWindow::GetMainWindow(), static_cast<const IMainWindow*>(&f.window));
+            QVERIFY(f.window.internalWinId() != 0);
+            QCOMPARE(f.window.GetWindowId(), WindowId(f.window.internalWinId()));
+            QCOMPARE(f.window.GetWinId(), WindowId(f.window.internalWinId()));
+        }
+
+        QVERIFY(IMainWindow::GetMainWindow() == nullptr);
+    }
+
+    void theRibbonStandsAboveTheView()
+    {
+        Fixture f;
+        const PlainView* pView = f.AddView();
+
+        QCOMPARE(f.window.menuWidget(), static_cast<QWidget*>(f.window.GetRibbon()));
+        QCOMPARE(f.window.centralWidget(), static_cast<const QWidget*>(pView));
+    }
+
+    void theStatusBarIsInItsOrder()
+    {
+        Fixture f;
+        f.window.resize(1200, 700);
+        f.window.ShowState("journal", "not kept", {});
+        f.Label("WarningCount")->setText("1");
+        f.Label("WarningCount")->show();
+        QCoreApplication::processEvents();
+
+        const auto left = [&f](const char* name) { return f.Label(name)->geometry().left(); };
+        QVERIFY(f.Label("Hint")->width() > 400);
+        QVERIFY(left("Hint") < left("States"));
+        QVERIFY(left("States") < left("WarningCount"));
+        QVERIFY(left("WarningCount") < left("CursorPosition"));
+        QCOMPARE(f.Label("Hint")->contentsMargins(), QMargins(6, 0, 6, 0));
+        QCOMPARE(f.Label("CursorPosition")->contentsMargins(), QMargins(6, 0, 6, 0));
+    }
+
+    void theHintOfTheViewIsShown()
+    {
+        Fixture f;
+        PlainView* pView = f.AddView();
+        const int height = f.Label("Hint")->height();
+
+        pView->SetViewText(L"指定起点");
+
+        QCOMPARE(f.Label("Hint")->text(), QStringLiteral("指定起点"));
+        QCOMPARE(f.Label("Hint")->toolTip(), QStringLiteral("指定起点"));
+        QCoreApplication::processEvents();
+        QCOMPARE(f.Label("Hint")->height(), height);
+    }
+
+    void withoutAHintTheBarIsAsHigh()
+    {
+        const Fixture f;
+        QLabel like("汉");
+        like.setContentsMargins(6, 0, 6, 0);
+
+        QCOMPARE(f.Label("Hint")->text(), QString());
+        QCOMPARE(f.Label("Hint")->minimumHeight(), like.sizeHint().height());
+    }
+
+    void aLongHintDoesNotWidenTheWindow()
+    {
+        Fixture f;
+        PlainView* pView = f.AddView();
+        f.window.resize(700, 500);
+        QCoreApplication::processEvents();
+        const int least = f.window.minimumSizeHint().width();
+
+        pView->SetViewText(std::wstring(2000, L'x'));
+        QCoreApplication::processEvents();
+
+        QCOMPARE(f.window.minimumSizeHint().width(), least);
+        QCOMPARE(f.window.width(), 700);
+    }
+
+    void theCursorIsShownInTheUnit()
+    {
+        Fixture f;
+        PlainView* pView = f.AddView();
+        QLabel* pCursor = f.Label("CursorPosition");
+
+        emit pView->cursorMoved(12.3456, -7.0);
+        QCOMPARE(pCursor->text(), QString("X 12.346   Y -7.000   mm"));
+        LengthUnit::SetCurrent(LengthUnit::Centimetre());
+        emit pView->cursorMoved(12.3456, -7.0);
+        LengthUnit::SetCurrent(LengthUnit::Millimetre());
+        QCOMPARE(pCursor->text(), QString("X 1.235   Y -0.700   cm"));
+
+        emit pView->cursorLeft();
+        QCOMPARE(pCursor->text(), QString());
+    }
+
+    void theCursorHasRoomForLargeNumbers()
+    {
+        const Fixture f;
+        const QLabel* pCursor = f.Label("CursorPosition");
+
+        QCOMPARE(pCursor->minimumWidth(),
+                 pCursor->fontMetrics().horizontalAdvance("X -000000.000   Y -000000.000   mm"));
+        QCOMPARE(pCursor->alignment(), Qt::AlignRight | Qt::AlignVCenter);
+    }
+
+    void aNoticeIsShownForTenSeconds()
+    {
+        Fixture f;
+
+        f.window.ShowNotice("saved");
+
+        QCOMPARE(f.window.statusBar()->currentMessage(), QString("saved"));
+        const auto* pTimer = f.window.statusBar()->findChild<QTimer*>();
+        QVERIFY(pTimer != nullptr);
+        QCOMPARE(pTimer->interval(), 10000);
+    }
+
+    void closingEndsTheAction()
+    {
+        Fixture f;
+        int endCount = 0;
+        ActionManager::SetEventLoop(nullptr);
+        auto opCommand = MakeOwner<Command>(
+            L"Test", Command::Kind::Interactive, [&endCount](IUiView*, const CommandParameters&) {
+                return OwnerPtr<IAction>(new EndingAction(endCount));
+            });
+        Command* pCommand = opCommand.Get();
+        ICommandManager::Get()->AddCommand(std::move(opCommand));
+        ActionManager::ProcessCommand(nullptr, pCommand, {}, nullptr);
+        const QSignalSpy closed(&f.window, &MainWindow::closeAccepted);
+        int endCountWhenClosed = 0;
+        connect(&f.window, &MainWindow::closeAccepted, this,
+                [&] { endCountWhenClosed = endCount; });
+        QCloseEvent close;
+        close.ignore();
+
+        QCoreApplication::sendEvent(&f.window, &close);
+
+        QVERIFY(close.isAccepted());
+        QCOMPARE(closed.count(), 1);
+        QCOMPARE(endCountWhenClosed, 1);
     }
 
     void aStateStaysUntilItIsTakenAway()

@@ -1,16 +1,13 @@
 #include "HostUi/MainWindow.h"
 
-#include "Control/NqUiInterfaceFactory.h"
 #include "Foundation/DebugMessageMgr.h"
-#include "Foundation/IDebugWarningDisplayer.h"
+#include "HostUi/WarningReader.h"
 #include "Support/TestValues.h"
 
 #include <QLabel>
 #include <QTemporaryDir>
 
-#include <functional>
 #include <thread>
-#include <utility>
 
 namespace vesk
 {
@@ -26,40 +23,6 @@ void Warn(int line)
 {
     Manager().ShowDebugWarn("File.cpp", line, "vesk::F::G", L"message", L"vesk-ui", L"2026-11-21");
 }
-
-/// A user who leaves the dialog after something has happened behind it.
-class Factory final : public NqUiInterfaceFactory
-{
-public:
-    Factory() { m_pFactory = this; }
-
-    IPropertyWidget* GetPropertyWidget() override { return nullptr; }
-
-    OwnerPtr<IDebugWarningDialogDisplayer> CreateDebugWarningDialogDisplayer() override
-    {
-        return MakeOwner<Displayer>(*this);
-    }
-
-    std::function<void()> whileShown;
-
-private:
-    class Displayer final : public IDebugWarningDialogDisplayer
-    {
-    public:
-        explicit Displayer(Factory& factory) : m_factory(factory) {}
-
-        bool Display(const std::string&, int, const std::string&, const std::wstring&,
-                     const std::wstring&, const std::wstring&) override
-        {
-            if (m_factory.whileShown)
-                std::exchange(m_factory.whileShown, nullptr)();
-            return true;
-        }
-
-    private:
-        Factory& m_factory;
-    };
-};
 
 struct Fixture
 {
@@ -77,7 +40,7 @@ struct Fixture
 
     const QLabel& Count() const { return *window.findChild<QLabel*>("WarningCount"); }
 
-    Factory factory;
+    test::WarningReader reader;
     MainWindow window;
 };
 
@@ -109,7 +72,7 @@ void MainWindowWarningTest::aWarningThatWasShownIsNotCounted()
 void MainWindowWarningTest::warningsThatWereNotShownAreCounted()
 {
     Fixture f;
-    f.factory.whileShown = [] {
+    f.reader.whileShown = [] {
         Warn(2);
         Warn(2);
     };
@@ -119,7 +82,7 @@ void MainWindowWarningTest::warningsThatWereNotShownAreCounted()
     QVERIFY(!f.Count().isHidden());
     QCOMPARE(f.Count().text(), QString::fromUtf8("未显示的警告：2"));
 
-    f.factory.whileShown = [] { Warn(4); };
+    f.reader.whileShown = [] { Warn(4); };
     Warn(3);
     QCoreApplication::sendPostedEvents();
     QCOMPARE(f.Count().text(), QString::fromUtf8("未显示的警告：3"));
@@ -128,7 +91,7 @@ void MainWindowWarningTest::warningsThatWereNotShownAreCounted()
 void MainWindowWarningTest::warningsOfAnotherThreadAreCounted()
 {
     Fixture f;
-    f.factory.whileShown = [] { std::thread([] { Warn(2); }).join(); };
+    f.reader.whileShown = [] { std::thread([] { Warn(2); }).join(); };
 
     Warn(1);
     QVERIFY(f.Count().text().isEmpty());
@@ -143,7 +106,7 @@ void MainWindowWarningTest::theTipTellsWhereTheLogIs()
     const QTemporaryDir folder;
     const QString path = folder.filePath(QString::fromUtf8("警告.log"));
     Manager().OpenLog(path.toStdString());
-    f.factory.whileShown = [] { Warn(2); };
+    f.reader.whileShown = [] { Warn(2); };
 
     Warn(1);
     QCoreApplication::sendPostedEvents();
@@ -155,7 +118,7 @@ void MainWindowWarningTest::theTipTellsWhereTheLogIs()
 void MainWindowWarningTest::withoutALogTheTipNamesStandardError()
 {
     Fixture f;
-    f.factory.whileShown = [] { Warn(2); };
+    f.reader.whileShown = [] { Warn(2); };
 
     Warn(1);
     QCoreApplication::sendPostedEvents();

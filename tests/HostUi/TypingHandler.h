@@ -14,6 +14,7 @@
 #include <QSet>
 
 #include <functional>
+#include <string>
 #include <vector>
 
 namespace vesk::test
@@ -36,6 +37,7 @@ struct TypingScript
     bool isRawTextInput = false;
     QString currentValue = QStringLiteral("50.000");
     std::vector<TakenValue> taken;
+    std::wstring dimensionText; ///< Shown at the origin of the model; none when it is empty.
 };
 
 /// Takes whatever stands in its editor, which lies over a view, when one of its keys is pressed.
@@ -62,7 +64,11 @@ public:
 
     OwnerPtr<IGraphicsNodeGroup> GenerateGraphics(const ITemporaryDimensionContext*) override
     {
-        return IGraphicsNodeGroup::Create();
+        auto opGraphics = IGraphicsNodeGroup::Create();
+        if (!m_script.dimensionText.empty())
+            opGraphics->AddChild(IGraphicsText::Create(Vector3d::Zero(), m_script.dimensionText,
+                                                       GraphicsRole::Dimension));
+        return opGraphics;
     }
 
     bool IsInputting() override { return m_state != InputState::IS_None; }
