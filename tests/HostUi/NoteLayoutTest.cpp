@@ -60,6 +60,25 @@ private slots:
         QVERIFY(!place.adjusted(-10, -10, 10, 10).contains(cursor));
     }
 
+    void noteMovesNoFurtherThanItHasTo_data()
+    {
+        QTest::addColumn<QPoint>("cursor");
+        QTest::addColumn<QPoint>("place");
+
+        QTest::newRow("down") << QPoint(100, 80) << QPoint(50, 99);
+        QTest::newRow("right") << QPoint(40, 82) << QPoint(59, 70);
+        QTest::newRow("left") << QPoint(270, 82) << QPoint(32, 70);
+        QTest::newRow("not at all") << QPoint(100, 109) << QPoint(50, 70);
+    }
+
+    void noteMovesNoFurtherThanItHasTo()
+    {
+        QFETCH(QPoint, cursor);
+        NoteLayout layout({s_view, QRect(QPoint(50, 40), QSize(96, 26)), cursor, {}});
+
+        QTEST(layout.PlaceBelow(s_strip).topLeft(), "place");
+    }
+
     void noteKeepsOffTheTextsOfDimensions()
     {
         const QRect text(100, 75, 50, 16);
