@@ -4,15 +4,19 @@
 
 #include <QEventLoop>
 #include <QFile>
+#include <QSet>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTimer>
 
+#include <fcntl.h>
 #include <sys/resource.h>
 #include <unistd.h>
 
 #include <array>
+#include <cerrno>
 #include <csignal>
+#include <memory>
 
 namespace vesk
 {
@@ -29,8 +33,22 @@ private slots:
     void requestsFromBeforeTheLoopAreNotLost();
     void whatWasIgnoredStaysIgnored();
     void afterwardsEverythingIsAsBefore();
+    void theFilesThatItUsesAreClosed();
+    void aCallThatASignalInterruptsGoesOn();
     void failedWritesAreSurvived();
 };
+
+/// The open files of the process.
+static QSet<int> OpenFiles()
+{
+    QSet<int> files;
+    for (int file = 0; file < 256; ++file)
+    {
+        if (::fcntl(file, F_GETFD) != -1)
+            files.insert(file);
+    }
+    return files;
+}
 
 void TerminationRequestsTest::eachSignalIsARequest_data()
 {
@@ -52,6 +70,9 @@ void TerminationRequestsTest::eachSignalIsARequest()
     QTRY_COMPARE(requested.count(), 1);
     ::raise(signal);
     QTRY_COMPARE(requested.count(), 2);
+    for (int round = 0; round < 5; ++round)
+        QCoreApplication::processEvents();
+    QCOMPARE(requested.count(), 2);
 }
 
 void TerminationRequestsTest::aRequestComesInNestedLoopsToo()
@@ -72,8 +93,10 @@ void TerminationRequestsTest::requestsFromBeforeTheLoopAreNotLost()
     const TerminationRequests requests;
     QSignalSpy requested(&requests, &TerminationRequests::requested);
 
+    errno = 0;
     for (int i = 0; i < 100000; ++i)
         ::raise(SIGTERM);
+    QCOMPARE(errno, 0);
 
     QTRY_VERIFY(requested.count() >= 1);
 }
@@ -104,6 +127,34 @@ void TerminationRequestsTest::afterwardsEverythingIsAsBefore()
     struct sigaction after = {};
     QCOMPARE(sigaction(SIGTERM, nullptr, &after), 0);
     QVERIFY(after.sa_handler == before.sa_handler);
+}
+
+void TerminationRequestsTest::theFilesThatItUsesAreClosed()
+{
+    // The first one makes what the event loop keeps.
+    std::make_unique<TerminationRequests>().reset();
+    const QSet<int> before = OpenFiles();
+    {
+        const TerminationRequests requests;
+        const QSet<int> used = OpenFiles() - before;
+        QCOMPARE(used.size(), 2);
+        for (const int file : used)
+            QVERIFY(::fcntl(file, F_GETFD) & FD_CLOEXEC);
+    }
+
+    QCOMPARE(OpenFiles(), before);
+}
+
+void TerminationRequestsTest::aCallThatASignalInterruptsGoesOn()
+{
+    const TerminationRequests requests;
+
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP})
+    {
+        struct sigaction current = {};
+        QCOMPARE(sigaction(signal, nullptr, &current), 0);
+        QVERIFY(current.sa_flags & SA_RESTART);
+    }
 }
 
 void TerminationRequestsTest::failedWritesAreSurvived()
