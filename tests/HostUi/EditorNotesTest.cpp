@@ -108,6 +108,89 @@ private slots:
         f.Editor()->move(f.host.view.mapToGlobal(QPoint(100, 50)));
 
         QTRY_COMPARE(pStrip->pos(), QPoint(100, 80));
+        const auto* pValue = f.host.view.findChild<QLabel*>("InputValue");
+        QCOMPARE(pValue->pos(), QPoint(200, 50 + (26 - pValue->height()) / 2));
+        QCOMPARE(pValue->size(), pValue->sizeHint());
+    }
+
+    void refusalStandsAboveTheStrip()
+    {
+        InputFixture f(Linear());
+        f.host.view.resize(600, 400);
+        f.Type("10x").Press(Qt::Key_Return);
+
+        f.Editor()->move(f.host.view.mapToGlobal(QPoint(100, 50)));
+
+        const auto* pRefusal = f.host.view.findChild<QLabel*>("InputRefusal");
+        const auto* pStrip = f.host.view.findChild<QLabel*>("InputKeys");
+        QTRY_COMPARE(pRefusal->pos(), QPoint(100, 80));
+        QCOMPARE(pStrip->pos(), QPoint(100, 80 + pRefusal->height() + 4));
+    }
+
+    void notesKeepOffTheTextsOfDimensions()
+    {
+        TypingScript script = Linear();
+        script.dimensionText = L"12.500";
+        InputFixture f(script);
+        f.host.view.resize(600, 400);
+        f.host.view.GetCamera().SetSize(240, 200);
+        f.Type("5");
+
+        f.Editor()->move(f.host.view.mapToGlobal(QPoint(100, 62)));
+
+        const auto* pStrip = f.host.view.findChild<QLabel*>("InputKeys");
+        QTRY_VERIFY(pStrip->y() > 62);
+        QVERIFY(!pStrip->geometry().contains(120, 100));
+    }
+
+    void eachNoteHasItsLook_data()
+    {
+        QTest::addColumn<QByteArray>("note");
+        QTest::addColumn<QColor>("ground");
+
+        const QPalette palette;
+        QTest::newRow("refusal") << QByteArray("InputRefusal") << QColor("#b03a37");
+        QTest::newRow("value") << QByteArray("InputValue") << palette.color(QPalette::Base);
+        QTest::newRow("keys") << QByteArray("InputKeys") << palette.color(QPalette::Window);
+    }
+
+    void eachNoteHasItsLook()
+    {
+        QFETCH(QByteArray, note);
+        QFETCH(QColor, ground);
+        InputFixture f(Linear());
+        f.host.view.resize(600, 400);
+        f.Type("10cm").Press(Qt::Key_A, "x").Press(Qt::Key_Return);
+        f.Editor()->setText("10cm");
+
+        auto* pNote = f.host.view.findChild<QLabel*>(note.constData());
+
+        QVERIFY(pNote != nullptr);
+        QCOMPARE(pNote->grab().toImage().pixelColor(4, 4), ground);
+    }
+
+    void notesAreAboveWhatElseIsInTheView()
+    {
+        InputFixture f(Linear());
+        f.Type("10cm");
+        auto* pLater = new QWidget(&f.host.view);
+        pLater->show();
+
+        f.Type("+1");
+
+        QCOMPARE(f.host.view.children().last()->objectName(), QString("InputKeys"));
+    }
+
+    void aNoteThatStaysIsTheSameLabel()
+    {
+        InputFixture f(Linear());
+        f.Type("10cm");
+        const auto* pValue = f.host.view.findChild<QLabel*>("InputValue");
+
+        f.Type("+1m");
+
+        QCOMPARE(f.host.view.findChildren<QLabel*>("InputValue"),
+                 QList<QLabel*>{const_cast<QLabel*>(pValue)});
     }
 };
 

@@ -84,6 +84,36 @@ private slots:
         QCOMPARE(m_pEdit->toolTip(), QStringLiteral("tip"));
     }
 
+    void markIsARedLineAtTheBottom()
+    {
+        LineEditValidateHelper helper(nullptr);
+        m_pEdit->setText("50");
+        m_pEdit->resize(200, 30);
+        helper.SetValidators({{m_pEdit.get(), &m_validator}});
+        const QWidget* pMark = FindMark();
+        QCOMPARE(pMark->geometry(), QRect(3, 25, 194, 2));
+        QVERIFY(pMark->testAttribute(Qt::WA_TransparentForMouseEvents));
+        QCOMPARE(m_pEdit->grab().toImage().pixelColor(100, 26), QColor("#d64541"));
+
+        m_pEdit->resize(120, 40);
+
+        QCOMPARE(pMark->geometry(), QRect(3, 35, 114, 2));
+    }
+
+    void markStandsOverWhatComesLater()
+    {
+        LineEditValidateHelper helper(nullptr);
+        helper.SetValidators({{m_pEdit.get(), &m_validator}});
+        auto* pLater = new QWidget(m_pEdit.get());
+        pLater->resize(500, 500);
+        pLater->setStyleSheet("background: green");
+        pLater->show();
+
+        m_pEdit->setText("50");
+
+        QCOMPARE(m_pEdit->children().last(), static_cast<const QObject*>(FindMark()));
+    }
+
     void editMayDieFirst()
     {
         LineEditValidateHelper helper(nullptr);
@@ -96,6 +126,17 @@ private slots:
     }
 
 private:
+    /// Whatever shows in the edit by itself; null where nothing does.
+    const QWidget* FindMark() const
+    {
+        for (const QWidget* pChild : m_pEdit->findChildren<QWidget*>())
+        {
+            if (pChild->isVisible() && pChild->height() == 2)
+                return pChild;
+        }
+        return nullptr;
+    }
+
     bool IsMarked() const
     {
         for (const QWidget* pChild : m_pEdit->findChildren<QWidget*>())
