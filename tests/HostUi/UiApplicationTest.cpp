@@ -36,6 +36,9 @@ private slots:
     void aFunctionThatWaitsDiesWithTheApplication();
     void whatIsToBeDoneAtRestWaitsForTheTime();
     void whatIsToBeDoneAtRestComesAfterWhatWaits();
+    void whatWaitsCanBeDiscarded();
+    void noEventIsNothingToPost();
+    void aLoopRunsUntilItIsLeft();
     void dialogsAreAllowedInTheThreadOfTheWindows();
     void noDialogIsAllowedWhileAWidgetIsPainted();
     void theWarningsKnowTheEventLoopWhileItLives();
@@ -151,6 +154,46 @@ void UiApplicationTest::whatIsToBeDoneAtRestComesAfterWhatWaits()
     QTRY_COMPARE(order.size(), 3);
 
     QVERIFY2(order.endsWith(QLatin1Char('i')), qPrintable(order));
+}
+
+void UiApplicationTest::whatWaitsCanBeDiscarded()
+{
+    UiApplication application;
+    bool isCalled = false;
+    application.Post([&isCalled] { isCalled = true; });
+
+    UiApplication::DiscardPostedEvents();
+    QCoreApplication::sendPostedEvents();
+
+    QVERIFY(!isCalled);
+}
+
+void UiApplicationTest::noEventIsNothingToPost()
+{
+    UiApplication application;
+
+    application.PostEvent(nullptr);
+
+    // Calls what is not there if it was posted.
+    QCoreApplication::sendPostedEvents();
+}
+
+void UiApplicationTest::aLoopRunsUntilItIsLeft()
+{
+    UiApplication application;
+    QString order;
+    QTimer::singleShot(0, this, [&] {
+        order += 'a';
+        application.Quit();
+        order += 'b';
+    });
+
+    application.Run();
+    order += 'c';
+
+    QCOMPARE(order, QString("abc"));
+    // Reads freed memory if it still knows the loop.
+    application.Quit();
 }
 
 void UiApplicationTest::dialogsAreAllowedInTheThreadOfTheWindows()

@@ -10,6 +10,7 @@
 
 #include <QAction>
 #include <QButtonGroup>
+#include <QDir>
 #include <QEventLoop>
 #include <QFile>
 #include <QHBoxLayout>
@@ -195,6 +196,31 @@ private slots:
         QCOMPARE(int(Read()["entities"]), 5);
     }
 
+    void whatIsTheSameIsNotWrittenAgain()
+    {
+        QVERIFY(m_pWriter->Write());
+        Put("mark");
+
+        QVERIFY(m_pWriter->Write());
+        QCOMPARE(Text(), QByteArray("mark"));
+
+        m_entityCount = 8;
+        QVERIFY(m_pWriter->Write());
+        QCOMPARE(int(Read()["entities"]), 8);
+    }
+
+    void whatCouldNotBeWrittenIsTriedAgain()
+    {
+        const QString path = m_folder.filePath("later/ui");
+        UiTreeWriter writer(path, *m_pInput, [] { return 0; });
+        QVERIFY(!writer.Write());
+
+        QVERIFY(QDir(m_folder.path()).mkdir("later"));
+
+        QVERIFY(writer.Write());
+        QVERIFY(QFile::exists(path));
+    }
+
     void fileThatCannotBeWrittenIsToldSo()
     {
         UiTreeWriter writer(QStringLiteral("/nonexistent/ui"), *m_pInput, [] { return 0; });
@@ -233,12 +259,23 @@ private:
         return {};
     }
 
-    nlohmann::json Read() const
+    void Put(const QByteArray& text) const
     {
         QFile file(m_folder.filePath("ui"));
-        if (!file.open(QIODevice::ReadOnly))
-            return {};
-        return nlohmann::json::parse(file.readAll().toStdString());
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(text), qint64(text.size()));
+    }
+
+    QByteArray Text() const
+    {
+        QFile file(m_folder.filePath("ui"));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    nlohmann::json Read() const
+    {
+        const QByteArray text = Text();
+        return text.isEmpty() ? nlohmann::json() : nlohmann::json::parse(text.toStdString());
     }
 
     QTemporaryDir m_folder;
