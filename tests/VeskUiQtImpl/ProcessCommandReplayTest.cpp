@@ -85,6 +85,7 @@ private slots:
     void actionOfAnotherParentGetsNothing();
     void actionWithoutParentGetsNothing();
     void actionThatDiedMeanwhileGetsNothing();
+    void lastChosenActionIsReplayed();
     void isReplayedOnceOnly();
     void isReplayedAfterAnUnknownCommandToo();
     void isReplayedAfterAStatusBarCommandToo();
@@ -235,6 +236,28 @@ void ProcessCommandReplayTest::actionThatDiedMeanwhileGetsNothing()
     QCoreApplication::sendPostedEvents(&menu);
 
     QVERIFY(mouse.notes.empty());
+}
+
+void ProcessCommandReplayTest::lastChosenActionIsReplayed()
+{
+    ReplayFixture f;
+    QMenu menu;
+    QAction* pFirst = menu.addAction("first");
+    QAction* pLast = menu.addAction("last");
+    menu.popup(QPoint(0, 0));
+    MouseNotes mouse(&menu);
+    bool isInner = false;
+    f.onOuter = [&] {
+        ProcessCommandUtil::ProcessRibbonBarCommand(L"Inner", {}, isInner ? pLast : pFirst);
+        if (!std::exchange(isInner, true))
+            ProcessCommandUtil::ProcessRibbonBarCommand(L"Outer", {}, &f.sender);
+    };
+
+    ProcessCommandUtil::ProcessRibbonBarCommand(L"Outer", {}, &f.sender);
+    QCoreApplication::sendPostedEvents(&menu);
+
+    QCOMPARE(mouse.notes.size(), std::size_t(2));
+    QCOMPARE(mouse.notes[0].position, QPointF(menu.actionGeometry(pLast).center()));
 }
 
 void ProcessCommandReplayTest::isReplayedOnceOnly()

@@ -15,6 +15,8 @@ private slots:
     void showsAButtonForEachItemInOrder();
     void buttonsTellOfTheirItem_data() { AddGroupKinds(); }
     void buttonsTellOfTheirItem();
+    void checkBoxesStandInTheGivenWidget() { CheckThatTheParentIsTheGivenOne<CheckBoxKind>(); }
+    void radioButtonsStandInTheGivenWidget() { CheckThatTheParentIsTheGivenOne<RadioButtonKind>(); }
     void buttonsAreNotPlacedByTheGroup_data() { AddGroupKinds(); }
     void buttonsAreNotPlacedByTheGroup();
     void listOfControlsIsACopy_data() { AddGroupKinds(); }
@@ -44,6 +46,8 @@ private slots:
 
 private:
     template <class Kind>
+    void CheckThatTheParentIsTheGivenOne();
+    template <class Kind>
     void CheckThatOtherEventsAreIgnored();
 };
 
@@ -71,6 +75,22 @@ void ButtonGroupTest::buttonsTellOfTheirItem()
     QCOMPARE(pButton->property("IsDefinition"), QVariant(true));
     QCOMPARE(pButton->parentWidget(), &f->parent);
     QVERIFY(!pButton->isChecked());
+}
+
+template <class Kind>
+void ButtonGroupTest::CheckThatTheParentIsTheGivenOne()
+{
+    HostFixture host;
+    QWidget window;
+    QWidget parent(&window);
+    const typename Kind::Item item(L"a", L"a");
+    auto opDefinition = MakeOwner<typename Kind::Definition>();
+    opDefinition->items = {&item};
+
+    const typename Kind::Group group(std::move(opDefinition), &parent);
+
+    QCOMPARE(group.parent(), &parent);
+    QCOMPARE(group.GetAllControls().front()->parent(), &parent);
 }
 
 void ButtonGroupTest::buttonsAreNotPlacedByTheGroup()

@@ -115,6 +115,8 @@ private slots:
     void entriesMayGoWhileTheyAreUnchecked();
     void menuMayDieWhileEntriesAreUnchecked();
     void commandMayGoWhileItsEntryIsHidden();
+    void commandIsAskedForItsEnabledStateOnceItsEntryIsShown();
+    void entriesAreAskedForInOrderOnceTheButtonIsDisabled();
 };
 
 void MenuRefreshTest::entriesMayGoWhileTheirStatesAreTaken_data()
@@ -202,6 +204,45 @@ void MenuRefreshTest::commandMayGoWhileItsEntryIsHidden()
 
     QVERIFY(!f.GetEntry(0)->isVisible());
     QVERIFY(f.GetEntry(1)->isEnabled());
+}
+
+void MenuRefreshTest::commandIsAskedForItsEnabledStateOnceItsEntryIsShown()
+{
+    RefreshedMenu f;
+    auto* pCommand = dynamic_cast<Command*>(ICommandManager::Get()->GetCommand(L"A"));
+    pCommand->SetVisible(false);
+    f.opMenu->UpdateStatus();
+    pCommand->SetVisible(true);
+    f.At("change", [&f] { f.disabled.clear(); });
+
+    f.opMenu->UpdateStatus();
+
+    QVERIFY(f.GetEntry(0)->isVisible());
+    QVERIFY(f.GetEntry(0)->isEnabled());
+}
+
+void MenuRefreshTest::entriesAreAskedForInOrderOnceTheButtonIsDisabled()
+{
+    RefreshedMenu f;
+    QStringList asked;
+    for (const char* id : {"D", "E"})
+    {
+        const std::wstring commandId = QString(id).toStdWString();
+        ICommandManager::Get()->AddCommand(MakeOwner<Command>(
+            commandId, Command::Kind::Plain,
+            [](IUiView*, const CommandParameters&) { return OwnerPtr<IAction>(); },
+            [&f, &asked, id] {
+                asked << QString(id) + (f.pButton->isEnabled() ? " enabled" : " disabled");
+                return true;
+            }));
+        f.pDefinition->AddMenuItem(
+            MakeOwner<CommandMenuItemDefinition>(commandId, commandId, commandId));
+    }
+    f.pDefinition->SetEnabled(false);
+
+    f.opMenu->UpdateStatus();
+
+    QCOMPARE(asked, QStringList({"D disabled", "E disabled"}));
 }
 
 }

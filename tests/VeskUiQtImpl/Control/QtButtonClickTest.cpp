@@ -39,6 +39,21 @@ struct ClickFixture
     std::function<void()> onCommand;
 };
 
+/// Notes each state that is written.
+class NotingButtonDefinition final : public CommandButtonDefinition
+{
+public:
+    using CommandButtonDefinition::CommandButtonDefinition;
+
+    void SetChecked(bool isChecked) override
+    {
+        writes.push_back(isChecked);
+        CommandButtonDefinition::SetChecked(isChecked);
+    }
+
+    std::vector<bool> writes;
+};
+
 CommandParameters Clicked(bool isChecked)
 {
     CommandParameters parameters;
@@ -57,6 +72,7 @@ private slots:
     void twoClicksSendTrueThenFalse();
     void isJournaledOnceWithItsParameters();
     void writesTheStateAsTheUsersAndOnce();
+    void writesTheStateThatTheDefinitionHasAgain();
     void theUsersScopeIsClosedBeforeTheCommandRuns();
     void theDefinitionIsCheckedBeforeTheCommandRuns();
     void theCommandIsReadOnceTheStateIsWritten();
@@ -65,6 +81,8 @@ private slots:
     void theLastCommandIsExecutedOnlyOutsideIt();
     void refreshesTheControlsAfterwards();
     void triggeringTheActionSendsNothing();
+    void changeOfTheDefinitionSendsNothing();
+    void withoutACommandAnUnknownOneIsReported();
     void clickAfterAStatusUpdateNegatesTheAction();
 };
 
@@ -116,6 +134,21 @@ void QtButtonClickTest::writesTheStateAsTheUsersAndOnce()
     f.opButton->click();
 
     QCOMPARE(notes.isByUser, std::vector<bool>{true});
+}
+
+void QtButtonClickTest::writesTheStateThatTheDefinitionHasAgain()
+{
+    HostFixture host;
+    host.AddCommand(L"Test.Command", [](const CommandParameters&) {});
+    auto opDefinition = MakeOwner<NotingButtonDefinition>(L"Button.Id", L"Test.Command");
+    NotingButtonDefinition& definition = *opDefinition;
+    QtButton button(std::move(opDefinition), nullptr);
+    definition.GetControlDefinitionChangeEvent()->Delete(&button);
+    definition.SetChecked(true);
+
+    button.click();
+
+    QCOMPARE(definition.writes, std::vector<bool>({true, true}));
 }
 
 void QtButtonClickTest::theUsersScopeIsClosedBeforeTheCommandRuns()
@@ -242,6 +275,27 @@ void QtButtonClickTest::triggeringTheActionSendsNothing()
     f.opButton->defaultAction()->trigger();
 
     QVERIFY(f.calls.empty());
+}
+
+void QtButtonClickTest::changeOfTheDefinitionSendsNothing()
+{
+    ClickFixture f(true);
+
+    f.pDefinition->SetChecked(true);
+
+    QVERIFY(f.opButton->isChecked());
+    QVERIFY(f.calls.empty());
+}
+
+void QtButtonClickTest::withoutACommandAnUnknownOneIsReported()
+{
+    HostFixture host;
+    QtButton button(MakeOwner<CommandButtonDefinition>(L"Button.Id", L""), nullptr);
+
+    button.click();
+
+    EXPECT_WARNING(host.warnings, L"无法找到字符串对应的注册命令：",
+                   "vesk::ProcessCommandUtil::ProcessRibbonBarCommand");
 }
 
 void QtButtonClickTest::clickAfterAStatusUpdateNegatesTheAction()

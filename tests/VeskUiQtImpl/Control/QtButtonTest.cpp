@@ -2,6 +2,7 @@
 
 #include "Control/ButtonFixture.h"
 #include "Control/ChangeArgs.h"
+#include "Control/ReportingControls.h"
 
 #include "Support/TestValues.h"
 
@@ -23,8 +24,10 @@ private slots:
     void isBuiltNeitherShownNorHiddenNorDisabled();
     void withoutDefinitionItIsBlankAndReportsIt();
     void withoutDefinitionItDoesNothing();
+    void withoutAnActionTheRestIsMade();
     void statusUpdateAppliesVisibilityEnabledAndItsOwnCheckedState();
     void statusUpdateLeavesTheLookAlone();
+    void statusUpdateLeavesTheStatesOfTheActionAlone();
     void statusUpdateEnablesBeforeItChecks();
 };
 
@@ -149,6 +152,7 @@ void QtButtonTest::withoutDefinitionItIsBlankAndReportsIt()
     QCOMPARE(button.objectName(), QString());
     QVERIFY(!button.property("IsDefinition").isValid());
     QVERIFY(!button.isCheckable());
+    QVERIFY(!button.autoRaise());
 }
 
 void QtButtonTest::withoutDefinitionItDoesNothing()
@@ -165,6 +169,24 @@ void QtButtonTest::withoutDefinitionItDoesNothing()
     EXPECT_WARNING(host.warnings, L"pControlDefinition为空", "vesk::QtButton::UpdateStatus");
     QVERIFY(host.journal.GetCommands().empty());
     QVERIFY(!button.testAttribute(Qt::WA_WState_ExplicitShowHide));
+}
+
+void QtButtonTest::withoutAnActionTheRestIsMade()
+{
+    HostFixture host;
+    auto opDefinition = MakeOwner<CommandButtonDefinition>(L"Button.Id", L"Test.Command");
+    CommandButtonDefinition& definition = *opDefinition;
+    ChildThief thief(false);
+
+    const QtButton button(std::move(opDefinition), nullptr);
+
+    EXPECT_WARNING(host.warnings, L"parent cannot be null", "vesk::CreateAction");
+    QVERIFY(button.defaultAction() == nullptr);
+    QVERIFY(button.isCheckable());
+    QVERIFY(button.autoRaise());
+    QCOMPARE(button.objectName(), QString("Button.Id"));
+    definition.SetButtonStyle(1);
+    QCOMPARE(button.toolButtonStyle(), Qt::ToolButtonTextOnly);
 }
 
 void QtButtonTest::statusUpdateAppliesVisibilityEnabledAndItsOwnCheckedState()
@@ -205,6 +227,19 @@ void QtButtonTest::statusUpdateLeavesTheLookAlone()
     QCOMPARE(f.opButton->toolTip(), QString("tip"));
     QVERIFY(f.Action().icon().isNull());
     QCOMPARE(f.opButton->toolButtonStyle(), Qt::ToolButtonTextUnderIcon);
+}
+
+void QtButtonTest::statusUpdateLeavesTheStatesOfTheActionAlone()
+{
+    ButtonFixture f;
+    f.pDefinition->SetVisible(false);
+    f.pDefinition->SetEnabled(false);
+
+    f.opButton->UpdateStatus();
+
+    QVERIFY(!f.opButton->isEnabled());
+    QVERIFY(f.Action().isVisible());
+    QVERIFY(f.Action().isEnabled());
 }
 
 void QtButtonTest::statusUpdateEnablesBeforeItChecks()

@@ -1,6 +1,7 @@
 #include "Control/QtCheckBoxGroup.h"
 
 #include "Control/ButtonGroupDefinitions.h"
+#include "Control/ChangeArgs.h"
 #include "Control/ChangeNotes.h"
 #include "Control/EchoModes.h"
 #include "Support/HostFixture.h"
@@ -58,6 +59,23 @@ struct CheckBoxFixture
     OwnerPtr<QtCheckBoxGroup> opGroup;
 };
 
+/// Notes of each box that comes into view whether it is checked.
+class ShowNotes final : public QObject
+{
+public:
+    ShowNotes() { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject* pWatched, QEvent* pEvent) override
+    {
+        const auto* pBox = qobject_cast<QCheckBox*>(pWatched);
+        if (pBox != nullptr && pEvent->type() == QEvent::ShowToParent)
+            states += pBox->checkState();
+        return false;
+    }
+
+    QList<Qt::CheckState> states;
+};
+
 const QList<Qt::CheckState> OnlyTheSecond{Qt::Unchecked, Qt::Checked, Qt::Unchecked};
 
 class QtCheckBoxGroupTest : public QObject
@@ -67,6 +85,7 @@ class QtCheckBoxGroupTest : public QObject
 private slots:
     void showsTheCheckStates();
     void followsTheCheckStates();
+    void followsTheCheckStatesInTheOrderOfTheItems();
     void isNotExclusive();
     void anyStateButZeroIsChecked_data();
     void anyStateButZeroIsChecked();
@@ -79,6 +98,7 @@ private slots:
     void changeByHandIsNotWritten();
     void matchingStatesTouchNoBox();
     void addedBoxesAreClickable();
+    void newBoxesAreCheckedBeforeTheyAreShown();
     void insertedBoxesAreClickable();
     void deletedBoxesWriteNothing();
     void buttonThatIsNoCheckBoxIsReported();
@@ -102,6 +122,24 @@ void QtCheckBoxGroupTest::followsTheCheckStates()
 
     QCOMPARE(f.GetStates(), QList<Qt::CheckState>({Qt::Checked, Qt::Unchecked, Qt::Unchecked}));
     QVERIFY(f.pDefinition->writes.empty());
+}
+
+void QtCheckBoxGroupTest::followsTheCheckStatesInTheOrderOfTheItems()
+{
+    CheckBoxFixture f;
+    f.pDefinition->CheckBoxGroupDefinition::GetControlDefinitionChangeEvent()->Delete(
+        f.opGroup.Get());
+    f.pDefinition->Find(L"a")->SetCheckState(2);
+    f.pDefinition->Find(L"b")->SetCheckState(0);
+    f.pDefinition->Find(L"c")->SetCheckState(2);
+    QStringList toggled;
+    connect(f.opGroup.Get(), QOverload<QAbstractButton*, bool>::of(&QButtonGroup::buttonToggled),
+            this, [&toggled](QAbstractButton* pBox) { toggled += pBox->objectName(); });
+    ChangeArgs args;
+
+    f.opGroup->On(&args);
+
+    QCOMPARE(toggled, QStringList({"a", "b", "c"}));
 }
 
 void QtCheckBoxGroupTest::isNotExclusive()
@@ -222,6 +260,18 @@ void QtCheckBoxGroupTest::addedBoxesAreClickable()
     f.Click(3);
 
     QCOMPARE(f.pDefinition->writes, (Writes{{L"d", 2, true}}));
+}
+
+void QtCheckBoxGroupTest::newBoxesAreCheckedBeforeTheyAreShown()
+{
+    CheckBoxFixture f;
+    auto opNew = MakeOwner<CheckBoxDefinition>(L"d", L"d");
+    opNew->SetCheckState(2);
+    const ShowNotes notes;
+
+    f.pDefinition->AddCheckBox(std::move(opNew));
+
+    QCOMPARE(notes.states, QList<Qt::CheckState>{Qt::Checked});
 }
 
 void QtCheckBoxGroupTest::insertedBoxesAreClickable()

@@ -7,6 +7,7 @@
 #include "Control/OtherEventTypes.h"
 #include "Support/HostFixture.h"
 #include "Support/TestValues.h"
+#include "WarningScript.h"
 
 #include <QAbstractItemView>
 #include <QSignalSpy>
@@ -99,6 +100,7 @@ private slots:
     void theUserIsKnownAgainAfterEveryChange_data();
     void theUserIsKnownAgainAfterEveryChange();
     void theUserIsKnownAgainAfterAReport();
+    void theUserIsKnownDuringAReport();
     void changeInsideAnotherDoesNotEndIt();
     void flagIsFalseExactlyWhileAChangeIsApplied();
     void changeOfOneBoxCoversAnother();
@@ -247,6 +249,18 @@ void QtComboBoxUserTest::theUserIsKnownAgainAfterAReport()
 
     f.opBox->setCurrentIndex(1);
 
+    QCOMPARE(f.pDefinition->writes, (Writes{{1, true}}));
+}
+
+void QtComboBoxUserTest::theUserIsKnownDuringAReport()
+{
+    LooseFixture f({L"a", L"b"}, 0);
+    WarningScript script;
+    script.SetAct([&f] { f.opBox->setCurrentIndex(1); });
+
+    f.opBox->On(nullptr);
+
+    EXPECT_WARNING(f.host.warnings, L"pArgs为空", "vesk::QtComboBox::On");
     QCOMPARE(f.pDefinition->writes, (Writes{{1, true}}));
 }
 

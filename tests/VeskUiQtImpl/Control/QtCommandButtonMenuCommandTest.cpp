@@ -8,6 +8,7 @@ namespace vesk::test
 
 using Calls = std::vector<std::wstring>;
 
+constexpr char Ribbon[] = "vesk::ProcessCommandUtil::ProcessRibbonBarCommand";
 constexpr char StatusBar[] = "vesk::ProcessCommandUtil::ProcessStatusBarCommand";
 
 /// A shown button whose menu holds A, B, a sub-menu with A and C, and C.
@@ -63,6 +64,7 @@ private slots:
     void entryIsCheckedBeforeItsCommandRuns();
     void mainPartSendsTheCommandOfTheDefinition();
     void actionOfTheMainPartSendsTheCommandToo();
+    void mainPartSendsTheCommandOfARibbon();
     void mainPartWithoutACommandSendsNothing();
     void commandsAreJournaledWithoutParameters();
     void entryChosenWhileACommandRunsIsPutOff();
@@ -232,6 +234,15 @@ void QtCommandButtonMenuCommandTest::actionOfTheMainPartSendsTheCommandToo()
     f.pButton->defaultAction()->trigger();
 
     QCOMPARE(f.calls, Calls{L"Main"});
+}
+
+void QtCommandButtonMenuCommandTest::mainPartSendsTheCommandOfARibbon()
+{
+    MenuFixture f(MakeOwner<CommandButtonMenuDefinition>(L"Menu.Id", L"Unknown"));
+
+    f.pButton->click();
+
+    EXPECT_WARNING(f.host.warnings, L"无法找到字符串对应的注册命令：Unknown", Ribbon);
 }
 
 void QtCommandButtonMenuCommandTest::mainPartWithoutACommandSendsNothing()

@@ -66,6 +66,7 @@ void QtLabelTest::showsCaptionAndToolTipUnderTheIdOfItsDefinition()
     QCOMPARE(f.opLabel->objectName(), QString("Label.Id"));
     QCOMPARE(f.opLabel->property("IsDefinition"), QVariant(true));
     QCOMPARE(f.opLabel->parentWidget(), &f.parent);
+    QVERIFY(!f.opLabel->isWindow());
 }
 
 void QtLabelTest::answersItsDefinition()

@@ -18,6 +18,8 @@ private slots:
     void followsVisibilityAndEnabledState();
     void comparesVisibilityAndEnabledStateFirst();
     void followsASelection();
+    void followsTheSameTextElsewhere();
+    void followsMoreFromTheSameStart();
     void deselectsWhenTheDefinitionSelectsNothing();
     void followsTextAndSelectionTogether();
     void anEqualSelectionKeepsTheCursorAtItsStart();
@@ -88,6 +90,28 @@ void QtLineEditChangeTest::followsASelection()
 
     QCOMPARE(f.opEdit->selectionStart(), 2);
     QCOMPARE(f.opEdit->selectedText(), QString("cde"));
+}
+
+void QtLineEditChangeTest::followsTheSameTextElsewhere()
+{
+    LineEditFixture f(L"abab");
+    f.pDefinition->SetSelection(0, 2);
+
+    f.pDefinition->SetSelection(2, 2);
+
+    QCOMPARE(f.opEdit->selectionStart(), 2);
+    QCOMPARE(f.opEdit->selectedText(), QString("ab"));
+}
+
+void QtLineEditChangeTest::followsMoreFromTheSameStart()
+{
+    LineEditFixture f(L"abab");
+    f.pDefinition->SetSelection(1, 1);
+
+    f.pDefinition->SetSelection(1, 2);
+
+    QCOMPARE(f.opEdit->selectionStart(), 1);
+    QCOMPARE(f.opEdit->selectedText(), QString("ba"));
 }
 
 void QtLineEditChangeTest::deselectsWhenTheDefinitionSelectsNothing()

@@ -25,6 +25,7 @@ private slots:
     void keepsTheValidatorOfTheDefinition_data();
     void keepsTheValidatorOfTheDefinition();
     void takesTheDecimalsOfADefinitionReferredTo();
+    void givesAForeignDefinitionAValidatorOfWholeNumbers();
     void isBareForRealNumbersOfAForeignDefinition();
     void isBareForRealNumbersOfAnEmptyReference();
     void statusUpdateAppliesVisibilityAndEnabledState();
@@ -203,6 +204,18 @@ void QtLineEditTest::takesTheDecimalsOfADefinitionReferredTo()
     const auto* pReal = dynamic_cast<const NumberValidator<double>*>(target.GetValidator());
     QVERIFY(pReal != nullptr);
     QCOMPARE(pReal->GetDecimals(), 5);
+}
+
+void QtLineEditTest::givesAForeignDefinitionAValidatorOfWholeNumbers()
+{
+    HostFixture host;
+    auto opDefinition = MakeOwner<ForeignLineEditDefinition>(LineEditInputType::Integer);
+    const ForeignLineEditDefinition& definition = *opDefinition;
+
+    const QtLineEdit edit(std::move(opDefinition), nullptr);
+
+    QVERIFY(dynamic_cast<const NumberValidator<int>*>(definition.GetValidator()) != nullptr);
+    QCOMPARE(edit.text(), QString("foreign"));
 }
 
 void QtLineEditTest::isBareForRealNumbersOfAForeignDefinition()

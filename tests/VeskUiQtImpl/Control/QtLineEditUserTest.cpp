@@ -47,6 +47,29 @@ private:
     mutable ForeignEvent m_foreign;
 };
 
+/// A definition that notes whether its user is known when its id is asked for, and what it holds
+/// when its text is written.
+class TimedDefinition final : public LineEditDefinition
+{
+public:
+    using LineEditDefinition::LineEditDefinition;
+
+    std::wstring GetId() const override
+    {
+        wereFlagged.push_back(LineEditTextChangeFlag::m_textChangeByUser);
+        return LineEditDefinition::GetId();
+    }
+
+    void SetText(const std::wstring& text) override
+    {
+        wereEditing.push_back(IsEditing());
+        LineEditDefinition::SetText(text);
+    }
+
+    mutable std::vector<bool> wereFlagged;
+    std::vector<bool> wereEditing;
+};
+
 class QtLineEditUserTest : public QObject
 {
     Q_OBJECT
@@ -56,6 +79,7 @@ private slots:
     void typingWritesTheTextOnceMarkedAsTheUsers();
     void typingWhatTheDefinitionHoldsWritesNothing();
     void typingStartsTheStateOfBeingEdited();
+    void textIsWrittenFlaggedBeforeTheStateOfBeingEdited();
     void theTextFlagLastsOnlyForTheKey();
     void echoedUserEditKeepsTheCursor_data() { AddEchoModes(); }
     void echoedUserEditKeepsTheCursor();
@@ -93,6 +117,23 @@ void QtLineEditUserTest::typingStartsTheStateOfBeingEdited()
     QTest::keyClick(f.opEdit.Get(), Qt::Key_7);
 
     QVERIFY(f.pDefinition->IsEditing());
+}
+
+void QtLineEditUserTest::textIsWrittenFlaggedBeforeTheStateOfBeingEdited()
+{
+    HostFixture host;
+    auto opDefinition = MakeOwner<TimedDefinition>(L"Edit.Id");
+    TimedDefinition& definition = *opDefinition;
+    QtLineEdit edit(std::move(opDefinition), nullptr);
+    definition.wereFlagged.clear();
+
+    QTest::keyClick(&edit, Qt::Key_7);
+
+    // The flag is set before the scope of the user is opened.
+    QVERIFY(!definition.wereFlagged.empty());
+    QVERIFY(definition.wereFlagged.front());
+    QCOMPARE(definition.wereEditing, std::vector<bool>{false});
+    QVERIFY(definition.IsEditing());
 }
 
 void QtLineEditUserTest::theTextFlagLastsOnlyForTheKey()

@@ -10,11 +10,15 @@ class QtLineEditWriteTest : public QObject
 private slots:
     void selectingIsWrittenMarkedAsTheUsers_data() { AddEchoModes(); }
     void selectingIsWrittenMarkedAsTheUsers();
+    void selectingTheSameTextElsewhereIsWritten();
+    void selectingMoreFromTheSameStartIsWritten();
     void deselectingIsWritten();
     void anEqualSelectionIsNotWritten();
     void settingTheTextReachesWidgetAndDefinition();
     void settingTheTextOfASilencedWidgetIsTheProgramsChange();
     void settingAnEqualTextWritesNothing();
+    void writingATextLeavesTheStateOfBeingEditedAlone_data();
+    void writingATextLeavesTheStateOfBeingEditedAlone();
     void clearingReachesWidgetAndDefinition();
     void clearingAnEmptyWidgetEmptiesTheDefinition();
     void clearingWhatIsEmptyWritesNothing();
@@ -45,6 +49,28 @@ void QtLineEditWriteTest::selectingIsWrittenMarkedAsTheUsers()
     QCOMPARE(f.pDefinition->GetSelectionStart(), 1);
     QCOMPARE(f.pDefinition->GetSelectedText(), std::wstring(L"\U0001F4D0cd"));
     QCOMPARE(f.opEdit->selectionLength(), 4);
+}
+
+void QtLineEditWriteTest::selectingTheSameTextElsewhereIsWritten()
+{
+    UserFixture f(L"abab");
+    f.opEdit->setSelection(0, 2);
+
+    f.opEdit->setSelection(2, 2);
+
+    QCOMPARE(f.pDefinition->GetSelectionStart(), 2);
+    QCOMPARE(f.pDefinition->GetSelectedText(), std::wstring(L"ab"));
+}
+
+void QtLineEditWriteTest::selectingMoreFromTheSameStartIsWritten()
+{
+    UserFixture f(L"abab");
+    f.opEdit->setSelection(1, 1);
+
+    f.opEdit->setSelection(1, 2);
+
+    QCOMPARE(f.pDefinition->GetSelectionStart(), 1);
+    QCOMPARE(f.pDefinition->GetSelectedText(), std::wstring(L"ba"));
 }
 
 void QtLineEditWriteTest::deselectingIsWritten()
@@ -100,6 +126,25 @@ void QtLineEditWriteTest::settingAnEqualTextWritesNothing()
     f.opEdit->SetText(L"12");
 
     QVERIFY(f.pDefinition->writes.empty());
+}
+
+void QtLineEditWriteTest::writingATextLeavesTheStateOfBeingEditedAlone_data()
+{
+    QTest::addColumn<bool>("isEditing");
+    QTest::newRow("edited") << true;
+    QTest::newRow("not edited") << false;
+}
+
+void QtLineEditWriteTest::writingATextLeavesTheStateOfBeingEditedAlone()
+{
+    QFETCH(bool, isEditing);
+    UserFixture f(L"12");
+    f.pDefinition->SetIsEditing(isEditing);
+
+    f.opEdit->SetText(L"34");
+    QCOMPARE(f.pDefinition->IsEditing(), isEditing);
+    f.opEdit->Clear();
+    QCOMPARE(f.pDefinition->IsEditing(), isEditing);
 }
 
 void QtLineEditWriteTest::clearingReachesWidgetAndDefinition()

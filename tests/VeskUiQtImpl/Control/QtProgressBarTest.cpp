@@ -58,6 +58,7 @@ private slots:
     void followsVisibilityAndEnabledState();
     void writesStateWithoutComparing();
     void valuesAreReadWhenTheirTurnComes();
+    void textIsShownBeforeTheValueChanges();
     void keepsItsToolTipWhenTheDefinitionChanges();
     void keepsItsHeightWhenTheDefinitionChanges();
     void valueBeyondTheRangeIsQtsToIgnore_data();
@@ -202,6 +203,22 @@ void QtProgressBarTest::valuesAreReadWhenTheirTurnComes()
     QVERIFY(!f.opBar->isEnabled());
 }
 
+void QtProgressBarTest::textIsShownBeforeTheValueChanges()
+{
+    ProgressBarFixture f;
+    ChangeArgs args;
+    f.pDefinition->GetControlDefinitionChangeEvent()->Delete(f.opBar.Get());
+    f.pDefinition->SetTextVisible(true);
+    f.pDefinition->SetValue(43);
+    bool wasTextVisible = false;
+    connect(f.opBar.Get(), &QProgressBar::valueChanged, this,
+            [&] { wasTextVisible = f.opBar->isTextVisible(); });
+
+    f.opBar->On(&args);
+
+    QVERIFY(wasTextVisible);
+}
+
 void QtProgressBarTest::keepsItsToolTipWhenTheDefinitionChanges()
 {
     ProgressBarFixture f;
@@ -221,6 +238,7 @@ void QtProgressBarTest::keepsItsHeightWhenTheDefinitionChanges()
 
     QCOMPARE(f.opBar->minimumHeight(), 18);
     QCOMPARE(f.opBar->maximumHeight(), 18);
+    QVERIFY(!f.opBar->styleSheet().isEmpty());
 }
 
 void QtProgressBarTest::valueBeyondTheRangeIsQtsToIgnore_data()
@@ -283,6 +301,8 @@ void QtProgressBarTest::statusUpdateAppliesVisibilityAndEnabledStateOnly()
     QtProgressBar bar(std::move(opDefinition), nullptr);
     bar.setParent(&parent);
     bar.setValue(3);
+    bar.setTextVisible(false);
+    bar.setFixedWidth(5);
 
     bar.UpdateStatus();
 
@@ -290,6 +310,8 @@ void QtProgressBarTest::statusUpdateAppliesVisibilityAndEnabledStateOnly()
     QVERIFY(bar.testAttribute(Qt::WA_WState_ExplicitShowHide));
     QVERIFY(!bar.isEnabled());
     QCOMPARE(bar.value(), 3);
+    QVERIFY(!bar.isTextVisible());
+    QCOMPARE(bar.minimumWidth(), 5);
 }
 
 void QtProgressBarTest::withoutDefinitionItIsBareAndReportsIt()

@@ -1,6 +1,7 @@
 #include "Control/QtRadioButtonGroup.h"
 
 #include "Control/ButtonGroupDefinitions.h"
+#include "Control/ChangeArgs.h"
 #include "Control/ChangeNotes.h"
 #include "Control/EchoModes.h"
 #include "Support/HostFixture.h"
@@ -64,6 +65,21 @@ struct RadioButtonFixture
     OwnerPtr<QtRadioButtonGroup> opGroup;
 };
 
+/// A definition that notes whether its user is known when its id is asked for.
+class AskedDefinition final : public RadioButtonGroupDefinition
+{
+public:
+    using RadioButtonGroupDefinition::RadioButtonGroupDefinition;
+
+    std::wstring GetId() const override
+    {
+        wereFlagged.push_back(RadioButtonGroupStateChangeFlag::m_stateChangeByUser);
+        return RadioButtonGroupDefinition::GetId();
+    }
+
+    mutable std::vector<bool> wereFlagged;
+};
+
 class QtRadioButtonGroupTest : public QObject
 {
     Q_OBJECT
@@ -74,6 +90,7 @@ private slots:
     void idThatNamesNoButtonChecksNone_data();
     void idThatNamesNoButtonChecksNone();
     void followsTheCurrentId();
+    void currentIdIsReadForEachButton();
     void idThatNamesNoButtonLeavesTheCheckedOne_data();
     void idThatNamesNoButtonLeavesTheCheckedOne();
     void clickIsWrittenAsTheUsers_data() { AddEchoModes(); }
@@ -82,6 +99,7 @@ private slots:
     void arrowKeyIsWrittenAsTheUsers();
     void clickOnTheCheckedButtonIsWrittenAgain();
     void echoOfAClickTouchesNoButton();
+    void flagIsSetBeforeTheUsersScopeIsOpened();
     void theUsersMarksEndWithTheWriting();
     void changeByHandIsNotWritten();
     void addedButtonIsCheckedIfItIsCurrent();
@@ -135,6 +153,23 @@ void QtRadioButtonGroupTest::followsTheCurrentId()
     RadioButtonFixture f;
 
     f.pDefinition->SetCurrentRadioButtonId(L"c");
+
+    QCOMPARE(f.GetCheckedNames(), QStringList("c"));
+}
+
+void QtRadioButtonGroupTest::currentIdIsReadForEachButton()
+{
+    RadioButtonFixture f;
+    f.pDefinition->RadioButtonGroupDefinition::GetControlDefinitionChangeEvent()->Delete(
+        f.opGroup.Get());
+    f.pDefinition->SetCurrentRadioButtonId(L"a");
+    connect(&f.GetButton(0), &QRadioButton::toggled, this, [&f](bool isChecked) {
+        if (isChecked)
+            f.pDefinition->SetCurrentRadioButtonId(L"c");
+    });
+    ChangeArgs args;
+
+    f.opGroup->On(&args);
 
     QCOMPARE(f.GetCheckedNames(), QStringList("c"));
 }
@@ -214,6 +249,22 @@ void QtRadioButtonGroupTest::echoOfAClickTouchesNoButton()
 
     QCOMPARE(clicked.count(), 1);
     QCOMPARE(current.count(), 1);
+}
+
+void QtRadioButtonGroupTest::flagIsSetBeforeTheUsersScopeIsOpened()
+{
+    HostFixture host;
+    QWidget parent;
+    auto opDefinition = MakeOwner<AskedDefinition>(L"Group.Id");
+    opDefinition->AddRadioButton(MakeOwner<RadioButtonDefinition>(L"a", L"a"));
+    const AskedDefinition& definition = *opDefinition;
+    const QtRadioButtonGroup group(std::move(opDefinition), &parent);
+    definition.wereFlagged.clear();
+
+    group.GetAllControls().front()->click();
+
+    QVERIFY(!definition.wereFlagged.empty());
+    QVERIFY(definition.wereFlagged.front());
 }
 
 void QtRadioButtonGroupTest::theUsersMarksEndWithTheWriting()

@@ -225,7 +225,8 @@ void VeskControlFactoryTest::makesAProgressBar()
 void VeskControlFactoryTest::makesARadioButtonGroupInItsParent()
 {
     HostFixture host;
-    QWidget parent;
+    QWidget window;
+    QWidget parent(&window);
     int freedCount = 0;
 
     const OwnerPtr<IControl> opControl =
@@ -239,7 +240,8 @@ void VeskControlFactoryTest::makesARadioButtonGroupInItsParent()
 void VeskControlFactoryTest::makesACheckBoxGroupInItsParent()
 {
     HostFixture host;
-    QWidget parent;
+    QWidget window;
+    QWidget parent(&window);
     int freedCount = 0;
 
     const OwnerPtr<IControl> opControl =
