@@ -92,7 +92,7 @@ ReplayTarget FindReplayTarget(QAction* pAction)
         return {pRibbonButton->widget(), QPointF(1, 1)};
     auto* pMenu = qobject_cast<QMenu*>(pParent);
     if (pMenu == nullptr)
-        return {nullptr, QPointF()};
+        return {};
     return {pMenu, pMenu->actionGeometry(pAction).center()};
 }
 
