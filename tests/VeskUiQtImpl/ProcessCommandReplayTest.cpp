@@ -43,6 +43,24 @@ public:
     std::vector<Note> notes;
 };
 
+/// Notes what Qt has to complain of while it lives.
+class Complaints
+{
+public:
+    Complaints() : m_handlerBefore(qInstallMessageHandler(&Complaints::Note)) { s_texts.clear(); }
+    ~Complaints() { qInstallMessageHandler(m_handlerBefore); }
+    Complaints(const Complaints&) = delete;
+    Complaints& operator=(const Complaints&) = delete;
+
+    QStringList GetTexts() const { return s_texts; }
+
+private:
+    static void Note(QtMsgType, const QMessageLogContext&, const QString& text) { s_texts += text; }
+
+    inline static QStringList s_texts;
+    QtMessageHandler m_handlerBefore;
+};
+
 /// A host with the plain commands "Outer", which does what the test says, and "Inner".
 struct ReplayFixture
 {
@@ -214,10 +232,12 @@ void ProcessCommandReplayTest::actionWithoutParentGetsNothing()
 {
     ReplayFixture f;
     QAction action;
+    const Complaints complaints;
 
     f.ChooseWhileACommandRuns(&action);
 
     QCOMPARE(f.host.application.GetStatusUpdateCount(), 1);
+    QCOMPARE(complaints.GetTexts(), QStringList());
 }
 
 void ProcessCommandReplayTest::actionThatDiedMeanwhileGetsNothing()

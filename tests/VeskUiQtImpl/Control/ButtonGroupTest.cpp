@@ -2,8 +2,34 @@
 #include "Control/OtherEventTypes.h"
 #include "Support/TestValues.h"
 
+#include <QApplication>
+
+#include <functional>
+#include <utility>
+
 namespace vesk::test
 {
+
+/// Does something when a button of a name comes into view.
+class OnShow final : public QObject
+{
+public:
+    OnShow(const QString& name, std::function<void()> act) : m_name(name), m_act(std::move(act))
+    {
+        qApp->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* pWatched, QEvent* pEvent) override
+    {
+        if (pEvent->type() == QEvent::ShowToParent && pWatched->objectName() == m_name)
+            m_act();
+        return false;
+    }
+
+private:
+    QString m_name;
+    std::function<void()> m_act;
+};
 
 /// How both kinds of groups show the items that they have.
 class ButtonGroupTest : public QObject
@@ -29,6 +55,11 @@ private slots:
     void hasAMetaObjectWithoutMethodsOfItsOwn();
     void buttonsAreBuiltWithTheStatesOfTheirItems_data() { AddGroupKinds(); }
     void buttonsAreBuiltWithTheStatesOfTheirItems();
+    void checkBoxIsShownOnlyWhenItsGroupDiesOfThat() { CheckThatTheGroupMayDie<CheckBoxKind>(); }
+    void radioButtonIsShownOnlyWhenItsGroupDiesOfThat()
+    {
+        CheckThatTheGroupMayDie<RadioButtonKind>();
+    }
     void followsVisibilityAndEnabledStateOfEachItem_data() { AddGroupKinds(); }
     void followsVisibilityAndEnabledStateOfEachItem();
     void comparesWithWhatIsSeen_data() { AddGroupKinds(); }
@@ -47,6 +78,8 @@ private slots:
 private:
     template <class Kind>
     void CheckThatTheParentIsTheGivenOne();
+    template <class Kind>
+    void CheckThatTheGroupMayDie();
     template <class Kind>
     void CheckThatOtherEventsAreIgnored();
 };
@@ -160,6 +193,21 @@ void ButtonGroupTest::buttonsAreBuiltWithTheStatesOfTheirItems()
     QVERIFY(f->GetControls().first()->isEnabled());
     QVERIFY(f->GetControls().last()->isVisible());
     QVERIFY(!f->GetControls().last()->isEnabled());
+}
+
+template <class Kind>
+void ButtonGroupTest::CheckThatTheGroupMayDie()
+{
+    GroupFixtureOf<Kind> f({L"a"});
+    f.parent.show();
+    const IControlDefinition* pItem = f.MakeItem(L"b");
+    f.SetItem(1, true, false);
+    const OnShow onShow("b", [&f] { f.opGroup.Reset(); });
+
+    f.Tell(ControlDefinitionChangeEventType::Add, 1, pItem);
+
+    QVERIFY(f.opGroup == nullptr);
+    QVERIFY(f.parent.template findChild<QAbstractButton*>("b")->isEnabled());
 }
 
 void ButtonGroupTest::followsVisibilityAndEnabledStateOfEachItem()

@@ -104,6 +104,7 @@ private slots:
     void changeByHandIsNotWritten();
     void addedButtonIsCheckedIfItIsCurrent();
     void addedButtonIsCheckedBeforeItIsGrouped();
+    void addedButtonThatDiesWhileItIsGroupedIsNotKept();
     void insertedButtonIsNotCheckedUntilTheNextChange();
     void insertionKeepsTheCheckedButton();
     void deletedButtonsWriteNothing();
@@ -308,6 +309,20 @@ void QtRadioButtonGroupTest::addedButtonIsCheckedBeforeItIsGrouped()
 
     QCOMPARE(f.GetCheckedNames(), QStringList("d"));
     QCOMPARE(toggled, QList<QAbstractButton*>{&f.GetButton(1)});
+}
+
+void QtRadioButtonGroupTest::addedButtonThatDiesWhileItIsGroupedIsNotKept()
+{
+    RadioButtonFixture f;
+    f.pDefinition->SetCurrentRadioButtonId(L"d");
+    connect(&f.GetButton(1), &QRadioButton::toggled, this,
+            [&f] { delete f.parent.findChild<QRadioButton*>("d"); });
+
+    f.pDefinition->AddRadioButton(MakeOwner<RadioButtonDefinition>(L"d", L"d"));
+
+    EXPECT_WARNING(f.host.warnings, L"pControl为空",
+                   "vesk::QtRadioButtonGroup::OnControlDefinitionChangeEventTypeAdd");
+    QCOMPARE(f.opGroup->GetAllControls().size(), std::size_t(3));
 }
 
 void QtRadioButtonGroupTest::insertedButtonIsNotCheckedUntilTheNextChange()
