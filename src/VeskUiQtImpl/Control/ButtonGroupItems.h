@@ -45,10 +45,11 @@ Button* CreateItemButton(QWidget* pParent, const IControlDefinition* pDefinition
 /// follow the items of a definition.
 ///
 /// Made for one operation; it refers to the group's own members. Ids are those of automatic
-/// numbering, one less than the smallest present, but are told to Qt: it would look through all
-/// ids for each button. What is wrong is reported in the name of `function`, the operation of the
-/// group. A report may run an event loop, and so may who hears of a button's change: what goes on
-/// afterwards asks first whether the group still lives.
+/// numbering, one less than the smallest present, but are told to Qt as long as no other buttons
+/// are in the group: it would look through all ids for each button. What is wrong is reported in
+/// the name of `function`, the operation of the group. A report may run an event loop, and so may
+/// who hears of a button's change: what goes on afterwards asks first whether the group still
+/// lives.
 template <class Button>
 class ButtonGroupItems
 {
@@ -63,9 +64,9 @@ public:
     {
         const QPointer<QButtonGroup> pGroup(&m_group);
         const QPointer<Button> pAppended(pButton);
-        // The last button has the smallest id; one that is in no group has -1.
-        const int smallestId = m_buttons.empty() ? -1 : m_group.id(m_buttons.back());
-        m_group.addButton(pButton, smallestId - 1);
+        // The last button has the smallest id, unless the group holds others: then Qt looks.
+        const bool isOfItems = !m_buttons.empty() && CountGrouped() == m_buttons.size();
+        m_group.addButton(pButton, isOfItems ? m_group.id(m_buttons.back()) - 1 : Automatic);
         if (pGroup == nullptr || pAppended == nullptr)
             return nullptr;
         m_buttons.push_back(pButton);
@@ -179,6 +180,11 @@ public:
     }
 
 private:
+    /// Has Qt number a button.
+    static constexpr int Automatic = -1;
+
+    std::size_t CountGrouped() const { return std::size_t(m_group.buttons().size()); }
+
     bool Has(int index) const
     {
         return index >= 0 && static_cast<std::size_t>(index) < m_buttons.size();
@@ -191,8 +197,12 @@ private:
 
     void Group(const char* function)
     {
-        int id = -1;
-        ForEachButton([this, &id](Button* pButton) { m_group.addButton(pButton, --id); }, function);
+        const bool isOfItems = CountGrouped() == 0;
+        int id = Automatic;
+        const auto add = [&](Button* pButton) {
+            m_group.addButton(pButton, isOfItems ? --id : Automatic);
+        };
+        ForEachButton(add, function);
     }
 
     /// Does something with each button; false when the group died meanwhile.

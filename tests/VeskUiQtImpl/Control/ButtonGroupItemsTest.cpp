@@ -3,6 +3,7 @@
 #include "Support/TestValues.h"
 
 #include <QPointer>
+#include <QPushButton>
 
 namespace vesk::test
 {
@@ -39,6 +40,8 @@ private slots:
     void idsGoOnBelowTheSmallestPresent();
     void idsAreThoseOfAutomaticNumbering_data() { AddGroupKinds(); }
     void idsAreThoseOfAutomaticNumbering();
+    void idsOfOtherButtonsAreNotGivenAgain_data() { AddGroupKinds(); }
+    void idsOfOtherButtonsAreNotGivenAgain();
     void insertionPutsIdsBackInOrder_data() { AddGroupKinds(); }
     void insertionPutsIdsBackInOrder();
     void clearingLetsIdsBeginAnew_data() { AddGroupKinds(); }
@@ -236,6 +239,22 @@ void ButtonGroupItemsTest::idsAreThoseOfAutomaticNumbering()
 
     QCOMPARE(f->GetIds(), QList<int>({numbered.id(&boxes[0]), numbered.id(&boxes[1]),
                                       numbered.id(&boxes[3]), numbered.id(&boxes[4])}));
+}
+
+void ButtonGroupItemsTest::idsOfOtherButtonsAreNotGivenAgain()
+{
+    QFETCH(MakeGroup, make);
+    const auto f = make({});
+    QPushButton other;
+    f->PlaceAndShow();
+    f->GetGroup().addButton(&other);
+
+    f->AddItem(L"a");
+    f->AddItem(L"b");
+    QCOMPARE(f->GetIds(), QList<int>({-3, -4}));
+    f->InsertItem(0, L"c");
+    QCOMPARE(f->GetIds(), QList<int>({-3, -4, -5}));
+    QCOMPARE(f->GetGroup().id(&other), -2);
 }
 
 void ButtonGroupItemsTest::insertionPutsIdsBackInOrder()
