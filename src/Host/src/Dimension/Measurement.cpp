@@ -40,11 +40,10 @@ WideVector Difference(const WideVector& normal, const Vector3d& start, const Vec
     return difference - difference.dot(normal) * normal;
 }
 
-/// Minus a half turn, exact or by rounding, is a half turn, and no zero is negative: it would be
-/// shown with a sign.
+/// Minus a half turn, exact or by rounding, is a half turn.
 double ToDegrees(Wide y, Wide x)
 {
-    const auto degrees = static_cast<double>(std::atan2(y + 0, x) * s_degreesPerRadian);
+    const auto degrees = static_cast<double>(std::atan2(y, x) * s_degreesPerRadian);
     return degrees > -180.0 ? degrees : 180.0;
 }
 
