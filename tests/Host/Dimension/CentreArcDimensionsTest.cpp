@@ -352,12 +352,13 @@ void CentreArcDimensionsTest::theTextIsLeftOutWhileItIsTyped()
 void CentreArcDimensionsTest::aLockedAngleShowsIt()
 {
     Fixture f;
-    TemporaryDimensionMgr::GetInstance()->SetLocked(InputState::IS_CentralAngle, true);
+    TemporaryDimensionMgr::GetInstance()->SetLocked(InputState::IS_CentralAngle, true, 275.0);
 
     const OwnerPtr<IGraphicsNodeGroup> opAngle = f.MakeAngle();
     const OwnerPtr<IGraphicsNodeGroup> opRadius = f.MakeRadius();
 
     QVERIFY(DrawnNodes(*opAngle).AreAll(GraphicsRole::LockedDimension));
+    QCOMPARE_EXACTLY(f.GetAngle(), 275.0);
     QVERIFY(DrawnNodes(*opRadius).AreAll(GraphicsRole::Dimension));
 }
 

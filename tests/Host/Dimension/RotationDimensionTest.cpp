@@ -259,11 +259,12 @@ void RotationDimensionTest::theTextIsLeftOutWhileItIsTyped()
 void RotationDimensionTest::aLockedAngleShowsIt()
 {
     Fixture f;
-    TemporaryDimensionMgr::GetInstance()->SetLocked(InputState::IS_CentralAngle, true);
+    TemporaryDimensionMgr::GetInstance()->SetLocked(InputState::IS_CentralAngle, true, 275.0);
 
     const OwnerPtr<IGraphicsNodeGroup> opTurn = f.Make();
 
     QVERIFY(DrawnNodes(*opTurn).AreAll(GraphicsRole::LockedDimension));
+    QCOMPARE_EXACTLY(f.GetAngle(), 275.0);
 }
 
 void RotationDimensionTest::otherTextsPlayNoPart()

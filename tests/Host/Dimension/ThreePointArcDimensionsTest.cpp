@@ -82,6 +82,7 @@ private slots:
     void theTextIsLeftOutWhileItIsTyped_data();
     void theTextIsLeftOutWhileItIsTyped();
     void aLockedRadiusShowsIt();
+    void aLockedAngleShowsIt();
     void withoutACircleNothingIsDrawn_data();
     void withoutACircleNothingIsDrawn();
     void pointsOffThePlaneCountAsSeenAlongItsNormal();
@@ -331,6 +332,17 @@ void ThreePointArcDimensionsTest::aLockedRadiusShowsIt()
 
     QVERIFY(DrawnNodes(*opRadius).AreAll(GraphicsRole::LockedDimension));
     QVERIFY(DrawnNodes(*opAngle).AreAll(GraphicsRole::Dimension));
+}
+
+void ThreePointArcDimensionsTest::aLockedAngleShowsIt()
+{
+    Fixture f;
+    TemporaryDimensionMgr::GetInstance()->SetLocked(InputState::IS_CentralAngle, true, 275.0);
+
+    const OwnerPtr<IGraphicsNodeGroup> opAngle = f.MakeAngle();
+
+    QVERIFY(DrawnNodes(*opAngle).AreAll(GraphicsRole::LockedDimension));
+    QCOMPARE_EXACTLY(f.GetAngle(), 275.0);
 }
 
 void ThreePointArcDimensionsTest::withoutACircleNothingIsDrawn_data()

@@ -43,9 +43,8 @@ void PlaceRadiusText(const Vector3d& position, double modelRadius,
 void PlaceAngleText(const Vector3d& position, double degrees, const TemporaryDimensionStyle& style,
                     DimensionDrawing& drawing, TemporaryDimensionData::Entry& entry)
 {
-    const double value = drawing.GetValue(degrees);
-    const std::wstring text = style.FormatAngle(value);
-    entry = {position, WithSignOf(text, value)};
+    const std::wstring text = style.FormatAngle(degrees);
+    entry = {position, WithSignOf(text, degrees)};
     drawing.AddText(position, text + L"\u00B0");
 }
 
