@@ -6,6 +6,8 @@
 
 #include <QCloseEvent>
 
+#include <memory>
+
 using namespace vesk;
 using namespace vesk::test;
 
@@ -324,6 +326,45 @@ private slots:
         f.PressInEditor(QEvent::ShortcutOverride, Qt::Key_Z, QString(), Qt::ControlModifier);
 
         QCOMPARE(shortcuts.count, 0);
+    }
+
+    void onlyTheEditorIsTaken()
+    {
+        InputFixture f(Linear());
+        QLineEdit otherKind;
+        QWidget noEdit;
+        const auto tell = [](QObject* pObject, int kind) {
+            OwnerPtr<IJournalUiObject> opUiObject = IJournalUiObject::Create();
+            opUiObject->SetUiObject(Any(pObject));
+            IJournalManager::Get()->AddUiObject(std::move(opUiObject), kind, 0);
+        };
+
+        tell(&otherKind, 2);
+        tell(&noEdit, 3);
+        f.Type("5");
+
+        QVERIFY(otherKind.testAttribute(Qt::WA_InputMethodEnabled));
+        QCOMPARE(f.controller.GetActiveEditor(), f.Editor());
+    }
+
+    void afterItsEndNobodyIsAsked()
+    {
+        HostFixture host;
+        TypingScript script = Linear();
+        script.isRawTextInput = true;
+        const TypingHandlerFactory factory(host.view, script);
+        TemporaryDimensionMgr& manager = *TemporaryDimensionMgr::GetInstance();
+        auto pController = std::make_unique<DimensionInputController>();
+        manager.SetContext(MakeLinear());
+        manager.OnKeyDown('5', false, false, false);
+        QCOMPARE(manager.GetInputState(), InputState::IS_Length);
+        QVERIFY(manager.IsRawTextInput());
+
+        pController.reset();
+
+        QCOMPARE(manager.GetInputState(), InputState::IS_None);
+        QVERIFY(!manager.IsRawTextInput());
+        manager.Drop();
     }
 };
 

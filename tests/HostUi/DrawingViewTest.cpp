@@ -230,6 +230,28 @@ private slots:
         QCOMPARE(picture.pixelColor(40, 40), m_pView->palette().color(QPalette::Base));
     }
 
+    void changedModelIsPaintedWithoutBeingAskedFor()
+    {
+        QTRY_VERIFY(m_pView->GetPaintCount() > 0);
+        const int paintCount = m_pView->GetPaintCount();
+
+        m_pView->UpdateModel();
+
+        QTRY_VERIFY(m_pView->GetPaintCount() > paintCount);
+    }
+
+    void cursorIsWhereTheWheelTurns()
+    {
+        const QSignalSpy moves(m_pView, &DrawingView::cursorMoved);
+
+        Turn(*m_pView, {200, 150}, 240);
+
+        const Vector3d world = m_pView->GetCamera().ScreenToWorld(200, 150);
+        QCOMPARE(moves.count(), 1);
+        QCOMPARE(moves[0][0].toDouble(), world.x());
+        QCOMPARE(moves[0][1].toDouble(), world.y());
+    }
+
     void viewTextIsToldWhenItChanges()
     {
         const QSignalSpy texts(m_pView, &DrawingView::viewTextChanged);

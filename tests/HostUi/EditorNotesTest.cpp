@@ -99,6 +99,25 @@ private slots:
         QVERIFY(!pStrip->geometry().contains(cursor));
     }
 
+    void cursorThatHasLeftIsNotKeptOff()
+    {
+        InputFixture f(Linear());
+        f.Type("10cm");
+        const auto* pStrip = f.host.view.findChild<QLabel*>("InputKeys");
+        const QPoint place = pStrip->pos();
+        const QPoint cursor = pStrip->geometry().center();
+        QMouseEvent move(QEvent::MouseMove, cursor, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&f.host.view, &move);
+        f.Type("+1m");
+        QVERIFY(pStrip->pos() != place);
+
+        QEvent leave(QEvent::Leave);
+        QCoreApplication::sendEvent(&f.host.view, &leave);
+        f.Type("+2m");
+
+        QCOMPARE(pStrip->pos(), place);
+    }
+
     void notesFollowTheEditor()
     {
         InputFixture f(Linear());
