@@ -157,7 +157,7 @@ def compile_commands():
 
 def build(targets, jobs):
     """What ninja printed when the targets cannot be built, else nothing."""
-    result = run(["nice", "ninja", "-C", str(BUILD), "-k0", f"-j{jobs}", *targets])
+    result = run(["ninja", "-C", str(BUILD), "-k0", f"-j{jobs}", *targets])
     return result.stdout if result.returncode != 0 else ""
 
 
