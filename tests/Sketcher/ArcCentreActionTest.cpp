@@ -270,6 +270,30 @@ private slots:
         QCOMPARE(shown.arcs[0].sweep, std::acos(-1.0) / 2.0);
     }
 
+    void thereIsNoAngleBeforeThereIsAStart()
+    {
+        Fixture f;
+        f.Begin();
+        QVERIFY(f.action.CreateDimensionContext() == nullptr);
+
+        f.ClickAt(10, 20);
+
+        QVERIFY(f.action.CreateDimensionContext() == nullptr);
+    }
+
+    void theNextArcBeginsWithItsSpokeAlone()
+    {
+        Fixture f;
+        f.workspace.snapper.SetOn(Snapper::End, false);
+        BeginArc(f);
+        f.ClickAt(10, 25);
+
+        f.ClickAt(10, 20);
+        f.MoveTo(10, 15);
+
+        QCOMPARE(ShownGraphics(*f.action.CreateRubberBand()).arcs.size(), std::size_t{0});
+    }
+
     void everyStepHasItsHint()
     {
         Fixture f;
@@ -282,7 +306,9 @@ private slots:
         const std::wstring third = f.action.GetViewText();
         f.ClickAt(10, 25);
 
-        QVERIFY(first != second && second != third && first != third);
+        QVERIFY(first.find(L"单击圆心；") != std::wstring::npos);
+        QVERIFY(second.find(L"单击起点；") != std::wstring::npos);
+        QVERIFY(third.find(L"单击端点，") != std::wstring::npos);
         QCOMPARE(f.action.GetViewText(), first);
     }
 };
