@@ -5,6 +5,9 @@
 #include "Foundation/IDebugWarningDisplayer.h"
 #include "Support/TestValues.h"
 
+#include <QLineEdit>
+#include <QMenu>
+
 #include <cstddef>
 #include <memory>
 #include <thread>
@@ -42,6 +45,7 @@ private slots:
     void dialogsAreAllowedInTheThreadOfTheWindows();
     void noDialogIsAllowedWhileAWidgetIsPainted();
     void theWarningsKnowTheEventLoopWhileItLives();
+    void aKeyThatComesAfterAMenuHasClosedIsForTheFocus();
 };
 
 void UiApplicationTest::isInstalledWhileItLives()
@@ -276,6 +280,22 @@ void UiApplicationTest::theWarningsKnowTheEventLoopWhileItLives()
 
     QCOMPARE(factory.createdCount, 2);
     manager.Reset();
+}
+
+void UiApplicationTest::aKeyThatComesAfterAMenuHasClosedIsForTheFocus()
+{
+    const UiApplication application;
+    QLineEdit field;
+    field.show();
+    field.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&field, test::PatienceMs));
+    QMenu menu(&field);
+    menu.popup(QPoint());
+    menu.close();
+
+    QTest::keyClick(menu.windowHandle(), Qt::Key_7);
+
+    QCOMPARE(field.text(), QString("7"));
 }
 
 }

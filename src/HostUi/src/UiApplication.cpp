@@ -1,5 +1,6 @@
 #include "HostUi/UiApplication.h"
 
+#include "ClosedPopupKeys.h"
 #include "Foundation/DebugMessageMgr.h"
 
 #include <QApplication>
@@ -52,7 +53,7 @@ bool IsPainting(const QPointer<QWidget>& pWidget)
 
 }
 
-UiApplication::UiApplication()
+UiApplication::UiApplication() : m_pPopupKeys(std::make_unique<ClosedPopupKeys>())
 {
     IApplication::Set(this);
     IUiManager::Set(this);

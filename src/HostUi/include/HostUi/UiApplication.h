@@ -10,6 +10,7 @@
 #include <QPointer>
 #include <QWidget>
 
+#include <memory>
 #include <vector>
 
 class QEventLoop;
@@ -17,9 +18,12 @@ class QEventLoop;
 namespace vesk
 {
 
+class ClosedPopupKeys;
+
 /// The application on Qt: posted events, the event loop of actions, the user-interface services.
 ///
-/// Made after QApplication; installed while it lives.
+/// Made after QApplication; installed while it lives. Keys that the window system delivers to a
+/// list or menu after it has closed go to what has the focus.
 class VESK_HOST_UI_API UiApplication final : public QObject,
                                              public IApplication,
                                              public IUiManager,
@@ -62,6 +66,7 @@ private:
     IApplicationWindow* m_pMainWindow = nullptr;
     IDockManager* m_pDockManager = nullptr;
     QEventLoop* m_pActionLoop = nullptr;
+    std::unique_ptr<ClosedPopupKeys> m_pPopupKeys;
 
     /// The widgets that were asked to paint and may still be at it.
     std::vector<QPointer<QWidget>> m_painted;
