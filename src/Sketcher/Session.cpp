@@ -21,6 +21,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QPixmap>
+#include <QScopedValueRollback>
 #include <QStandardPaths>
 #include <QTimer>
 
@@ -244,9 +245,7 @@ int Session::Draw()
 /// Repeats a journal in the window. Cancelled, it leaves the drawing as it was before.
 void Session::Open()
 {
-    m_pReading = std::make_unique<ReadingMonitor>(m_window, m_window.GetProgress());
-    const JournalReplayResult result = Repeat();
-    m_pReading.reset();
+    const JournalReplayResult result = RepeatInWindow();
     if (!result.failure.empty())
         ShowFailure(result);
     // A window that was closed meanwhile needs no other journal.
@@ -265,6 +264,14 @@ int Session::Replay()
         return ExitNotRepeated;
     m_journal.GoOn(result, GetLastNumber());
     return 0;
+}
+
+/// Repeats it while the window shows how far it has come.
+JournalReplayResult Session::RepeatInWindow()
+{
+    ReadingMonitor monitor(m_window, m_window.GetProgress());
+    const QScopedValueRollback<ReadingMonitor*> reading(m_pReading, &monitor);
+    return Repeat();
 }
 
 /// Repeats the journal that was read; tells of what could not be repeated and what was unfinished.

@@ -51,6 +51,7 @@ private:
     int Replay();
     void Open();
     vesk::JournalReplayResult Repeat();
+    vesk::JournalReplayResult RepeatInWindow();
     QString GoOn(const vesk::JournalReplayResult& result);
     int GetLastNumber() const;
     void ShowFailure(const vesk::JournalReplayResult& result);
@@ -76,7 +77,7 @@ private:
     std::unique_ptr<Panes> m_pPanes;
     std::unique_ptr<vesk::UiTreeWriter> m_pUiTree;
     std::unique_ptr<WarningRaiser> m_pWarningRaiser;
-    std::unique_ptr<ReadingMonitor> m_pReading; ///< While a drawing is opened.
+    ReadingMonitor* m_pReading = nullptr; ///< While a drawing is opened; not owned.
     std::unique_ptr<KeepingMonitor> m_pKeeping;
     std::unique_ptr<vesk::TerminationRequests> m_pTermination;
 };

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <chrono>
+#include <cstring>
 #include <limits>
 #include <memory>
 #include <optional>
@@ -36,12 +37,16 @@ inline char* ToShown(const QString& text)
     return qstrdup(text.toUtf8().constData());
 }
 
-/// A number of which not one bit may differ. Comparing doubles as they are forgives the last ones.
+/// A number of which not one bit may differ. Comparing doubles as they are forgives the last ones,
+/// and the sign of a zero.
 struct Exactly
 {
     double value;
 
-    friend bool operator==(const Exactly& a, const Exactly& b) { return a.value == b.value; }
+    friend bool operator==(const Exactly& a, const Exactly& b)
+    {
+        return std::memcmp(&a.value, &b.value, sizeof(double)) == 0;
+    }
 };
 
 inline char* toString(const Exactly& number)
