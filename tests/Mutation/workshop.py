@@ -124,13 +124,22 @@ def prepare():
         raise Problem("cannot be configured:\n" + result.stdout[-2000:])
 
 
+def targets():
+    """The names of all that can be built."""
+    result = run(["ninja", "-C", str(BUILD), "-t", "targets", "all"])
+    return {line.partition(":")[0] for line in result.stdout.splitlines()}
+
+
 def programs():
-    """All test programs by name."""
+    """All test programs by name; not those that only run another one under other conditions."""
+    buildable = targets()
     result = run(["ctest", "--test-dir", str(BUILD), "--show-only=json-v1"])
     if result.returncode != 0:
         raise Problem("the tests cannot be listed:\n" + result.stdout[-2000:])
     found = {}
     for test in json.loads(result.stdout)["tests"]:
+        if test["name"] not in buildable:
+            continue
         properties = {entry["name"]: entry["value"] for entry in test["properties"]}
         folder = pathlib.Path(properties["WORKING_DIRECTORY"]).relative_to(BUILD / "tests")
         variables = dict(line.split("=", 1) for line in properties.get("ENVIRONMENT", []))
