@@ -33,10 +33,12 @@ DesktopSession::~DesktopSession()
 
 bool DesktopSession::Start(const QStringList& arguments, const Environment& environment)
 {
-    // The window manager frames and maximises the window when it is mapped. On a busy machine what
-    // the program says comes later: places hold when the server says the same.
+    // The window manager frames and maximises the window when it maps it. On a busy machine that
+    // comes late, and what the program says comes later still: places hold when the window is to be
+    // seen and the server says the same.
     const auto isPlaced = [&] {
-        return WaitForRest() && m_input.HasWindowAt(m_tree.FindView()->rect);
+        return m_input.CountWindows() > 0 && WaitForRest() &&
+               m_input.HasWindowAt(m_tree.FindView()->rect);
     };
     return Launch(arguments, environment) && PollUntil(isPlaced);
 }
