@@ -55,30 +55,47 @@ function(vesk_library target)
     install(DIRECTORY "${generated}/" DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vesk)
 endfunction()
 
-# vesk_test(<name> LABEL <unit|scenario|desktop|consumer> SOURCES <file>... [LIBRARIES <target>...] [TIMEOUT <s>])
+# vesk_test_program(<name> LABEL <unit|scenario|desktop> TESTS <file>... [SOURCES <file>...] [LIBRARIES <target>...]
+#                   [PREFIX <text>] [WITH_FOLDERS] [PRECOMPILED <header>] [TIMEOUT <s>])
 #
-# One Qt Test program; it runs with the C.UTF-8 locale, and on the offscreen platform unless it is a desktop test.
-# On Windows real windows open.
-function(vesk_test name)
-    cmake_parse_arguments(ARG "" "LABEL;TIMEOUT" "SOURCES;LIBRARIES" ${ARGN})
-    add_executable(${name} ${ARG_SOURCES})
-    set_target_properties(${name} PROPERTIES AUTOMOC ON RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
-    target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
-    target_link_libraries(${name} PRIVATE vesk_build_flags ${ARG_LIBRARIES} Qt::Test)
+# A program of Qt tests. Each <Name>.cpp of TESTS is a test, <PREFIX><Name>, or with WITH_FOLDERS <PREFIX><Folder><Name>,
+# and runs alone: in the C.UTF-8 locale, and on the offscreen platform unless it is a desktop test. On Windows real
+# windows open.
+function(vesk_test_program program)
+    cmake_parse_arguments(ARG "WITH_FOLDERS" "LABEL;PREFIX;PRECOMPILED;TIMEOUT" "TESTS;SOURCES;LIBRARIES" ${ARGN})
+    add_executable(${program} ${ARG_TESTS} ${ARG_SOURCES})
+    set_target_properties(${program} PROPERTIES AUTOMOC ON RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
+    target_include_directories(${program} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
+    target_link_libraries(${program} PRIVATE vesk_build_flags vesk_test_main ${ARG_LIBRARIES} Qt::Test)
+    if(ARG_PRECOMPILED)
+        target_precompile_headers(${program} PRIVATE "${PROJECT_SOURCE_DIR}/tests/Support/${ARG_PRECOMPILED}")
+    endif()
+    foreach(source IN LISTS ARG_TESTS)
+        get_filename_component(test "${source}" NAME_WE)
+        set(name "${test}")
+        if(ARG_WITH_FOLDERS)
+            string(REGEX REPLACE "[/]|\\.cpp$" "" name "${source}")
+        endif()
+        vesk_add_test("${ARG_PREFIX}${name}" ${program} ${test} ${ARG_LABEL} "${ARG_TIMEOUT}")
+    endforeach()
+endfunction()
+
+# One run of a program of tests.
+function(vesk_add_test name program test label timeout)
     # Ends only what hangs: no result depends on how fast the machine is.
-    if(NOT ARG_TIMEOUT)
-        set(ARG_TIMEOUT 900)
+    if(NOT timeout)
+        set(timeout 900)
     endif()
     if(WIN32 OR VESK_SANITIZE)
         # Real windows take their time, and so do sanitizers.
-        math(EXPR ARG_TIMEOUT "${ARG_TIMEOUT} * 5")
+        math(EXPR timeout "${timeout} * 5")
     endif()
-    add_test(NAME ${name} COMMAND ${name})
-    set_tests_properties(${name} PROPERTIES LABELS ${ARG_LABEL} TIMEOUT ${ARG_TIMEOUT}
-        ENVIRONMENT "LC_ALL=C.UTF-8;VESK_UNATTENDED=1;UBSAN_OPTIONS=print_stacktrace=1;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0;QTEST_FUNCTION_TIMEOUT=${ARG_TIMEOUT}000")
+    add_test(NAME ${name} COMMAND ${program} ${test})
+    set_tests_properties(${name} PROPERTIES LABELS ${label} TIMEOUT ${timeout} REQUIRED_FILES "$<TARGET_FILE:${program}>"
+        ENVIRONMENT "LC_ALL=C.UTF-8;VESK_UNATTENDED=1;UBSAN_OPTIONS=print_stacktrace=1;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0;QTEST_FUNCTION_TIMEOUT=${timeout}000")
     if(WIN32)
         set_property(TEST ${name} APPEND PROPERTY ENVIRONMENT "QT_QPA_PLATFORM=windows")
-    elseif(NOT ARG_LABEL STREQUAL "desktop")
+    elseif(NOT label STREQUAL "desktop")
         set_property(TEST ${name} APPEND PROPERTY ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
     endif()
 endfunction()

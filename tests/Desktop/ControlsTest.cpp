@@ -209,5 +209,5 @@ void ControlsTest::commandButtonIsUsedWithTheKeys()
 
 }
 
-QTEST_GUILESS_MAIN(vesk::ControlsTest)
+VESK_TESTS_WITHOUT_WINDOWS(vesk::ControlsTest);
 #include "ControlsTest.moc"

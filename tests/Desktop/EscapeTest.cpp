@@ -148,5 +148,5 @@ void EscapeTest::closingTheEditorEndsTheInputOnly()
 
 }
 
-QTEST_GUILESS_MAIN(vesk::EscapeTest)
+VESK_TESTS_WITHOUT_WINDOWS(vesk::EscapeTest);
 #include "EscapeTest.moc"

@@ -258,5 +258,5 @@ void FocusTest::undoAfterANameIsTheDrawings()
 
 }
 
-QTEST_GUILESS_MAIN(vesk::FocusTest)
+VESK_TESTS_WITHOUT_WINDOWS(vesk::FocusTest);
 #include "FocusTest.moc"

@@ -207,5 +207,5 @@ void MenuTest::mainPartOnlyEndsTheLine()
 
 }
 
-QTEST_GUILESS_MAIN(vesk::MenuTest)
+VESK_TESTS_WITHOUT_WINDOWS(vesk::MenuTest);
 #include "MenuTest.moc"

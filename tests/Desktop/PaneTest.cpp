@@ -389,5 +389,5 @@ void PaneTest::aDamagedLayoutFileIsSurvived()
 
 }
 
-QTEST_GUILESS_MAIN(vesk::PaneTest)
+VESK_TESTS_WITHOUT_WINDOWS(vesk::PaneTest);
 #include "PaneTest.moc"

@@ -108,5 +108,5 @@ void RefusedTextTest::blankAfterARefusedTextReplacesIt()
 
 }
 
-QTEST_GUILESS_MAIN(vesk::RefusedTextTest)
+VESK_TESTS_WITHOUT_WINDOWS(vesk::RefusedTextTest);
 #include "RefusedTextTest.moc"

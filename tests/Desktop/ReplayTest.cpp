@@ -174,5 +174,5 @@ void ReplayTest::badLineIsNotReplayed()
 
 }
 
-QTEST_GUILESS_MAIN(vesk::ReplayTest)
+VESK_TESTS_WITHOUT_WINDOWS(vesk::ReplayTest);
 #include "ReplayTest.moc"

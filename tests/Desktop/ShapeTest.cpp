@@ -432,5 +432,5 @@ void ShapeTest::editorsStandInTheViewAndOffTheCursor()
 
 }
 
-QTEST_GUILESS_MAIN(vesk::ShapeTest)
+VESK_TESTS_WITHOUT_WINDOWS(vesk::ShapeTest);
 #include "ShapeTest.moc"

@@ -95,5 +95,5 @@ void ToolSwitchTest::manySwitchesLeaveTheStackAsItWas()
 
 }
 
-QTEST_GUILESS_MAIN(vesk::ToolSwitchTest)
+VESK_TESTS_WITHOUT_WINDOWS(vesk::ToolSwitchTest);
 #include "ToolSwitchTest.moc"

@@ -151,5 +151,5 @@ void TypedLineTest::noneOfManyRandomValuesIsAltered()
 
 }
 
-QTEST_GUILESS_MAIN(vesk::TypedLineTest)
+VESK_TESTS_WITHOUT_WINDOWS(vesk::TypedLineTest);
 #include "TypedLineTest.moc"

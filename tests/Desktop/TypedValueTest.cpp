@@ -246,5 +246,5 @@ bool TypedValueTest::DrawsOneLine(double length)
 
 }
 
-QTEST_GUILESS_MAIN(vesk::TypedValueTest)
+VESK_TESTS_WITHOUT_WINDOWS(vesk::TypedValueTest);
 #include "TypedValueTest.moc"

@@ -174,5 +174,5 @@ void WarningTest::unattendedALoopOfWarningsIsLogged()
 
 }
 
-QTEST_GUILESS_MAIN(vesk::WarningTest)
+VESK_TESTS_WITHOUT_WINDOWS(vesk::WarningTest);
 #include "WarningTest.moc"

@@ -270,5 +270,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(ClosedPopupKeysTest)
+VESK_TESTS(ClosedPopupKeysTest);
 #include "ClosedPopupKeysTest.moc"

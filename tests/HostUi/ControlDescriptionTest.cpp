@@ -242,5 +242,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(ControlDescriptionTest)
+VESK_TESTS(ControlDescriptionTest);
 #include "ControlDescriptionTest.moc"

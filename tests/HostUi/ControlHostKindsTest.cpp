@@ -359,5 +359,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(ControlHostKindsTest)
+VESK_TESTS(ControlHostKindsTest);
 #include "ControlHostKindsTest.moc"

@@ -282,5 +282,5 @@ private:
     std::unique_ptr<ControlHost> m_pControls;
 };
 
-QTEST_MAIN(ControlHostTest)
+VESK_TESTS(ControlHostTest);
 #include "ControlHostTest.moc"

@@ -118,5 +118,5 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(DefinitionTextTest)
+VESK_TESTS_WITHOUT_WINDOWS(DefinitionTextTest);
 #include "DefinitionTextTest.moc"

@@ -368,5 +368,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(DimensionInputControllerEditorTest)
+VESK_TESTS(DimensionInputControllerEditorTest);
 #include "DimensionInputControllerEditorTest.moc"

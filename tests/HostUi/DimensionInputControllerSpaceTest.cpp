@@ -289,5 +289,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(DimensionInputControllerSpaceTest)
+VESK_TESTS(DimensionInputControllerSpaceTest);
 #include "DimensionInputControllerSpaceTest.moc"

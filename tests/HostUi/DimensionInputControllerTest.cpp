@@ -397,5 +397,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(DimensionInputControllerTest)
+VESK_TESTS(DimensionInputControllerTest);
 #include "DimensionInputControllerTest.moc"

@@ -427,5 +427,5 @@ void DrawingViewActionTest::worldPointsHaveAPixel()
 
 }
 
-QTEST_MAIN(vesk::test::DrawingViewActionTest)
+VESK_TESTS(vesk::test::DrawingViewActionTest);
 #include "DrawingViewActionTest.moc"

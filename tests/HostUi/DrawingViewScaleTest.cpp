@@ -114,5 +114,5 @@ void DrawingViewScaleTest::placesAreToldInDevicePixels()
 
 }
 
-QTEST_MAIN(vesk::test::DrawingViewScaleTest)
+VESK_TESTS(vesk::test::DrawingViewScaleTest);
 #include "DrawingViewScaleTest.moc"

@@ -290,5 +290,5 @@ private:
     QLineEdit* m_pEdit = nullptr;
 };
 
-QTEST_MAIN(DrawingViewTest)
+VESK_TESTS(DrawingViewTest);
 #include "DrawingViewTest.moc"

@@ -213,5 +213,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(EditorNotesTest)
+VESK_TESTS(EditorNotesTest);
 #include "EditorNotesTest.moc"

@@ -101,5 +101,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(EditorWidthTest)
+VESK_TESTS(EditorWidthTest);
 #include "EditorWidthTest.moc"

@@ -134,5 +134,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(EscapeKeyTest)
+VESK_TESTS(EscapeKeyTest);
 #include "EscapeKeyTest.moc"

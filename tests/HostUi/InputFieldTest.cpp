@@ -156,5 +156,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(InputFieldTest)
+VESK_TESTS_WITHOUT_WINDOWS(InputFieldTest);
 #include "InputFieldTest.moc"

@@ -271,5 +271,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(InputJudgeTest)
+VESK_TESTS_WITHOUT_WINDOWS(InputJudgeTest);
 #include "InputJudgeTest.moc"

@@ -453,5 +453,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(InspectorTest)
+VESK_TESTS(InspectorTest);
 #include "InspectorTest.moc"

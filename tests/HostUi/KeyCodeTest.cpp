@@ -88,5 +88,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(KeyCodeTest)
+VESK_TESTS_WITHOUT_WINDOWS(KeyCodeTest);
 #include "KeyCodeTest.moc"

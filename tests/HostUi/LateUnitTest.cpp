@@ -163,5 +163,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(LateUnitTest)
+VESK_TESTS_WITHOUT_WINDOWS(LateUnitTest);
 #include "LateUnitTest.moc"

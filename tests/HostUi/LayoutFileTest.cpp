@@ -247,5 +247,5 @@ void LayoutFileTest::noFileHarmsTheProgram()
 
 }
 
-QTEST_MAIN(vesk::test::LayoutFileTest)
+VESK_TESTS(vesk::test::LayoutFileTest);
 #include "LayoutFileTest.moc"

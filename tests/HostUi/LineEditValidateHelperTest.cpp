@@ -151,5 +151,5 @@ private:
     std::unique_ptr<QLineEdit> m_pEdit;
 };
 
-QTEST_MAIN(LineEditValidateHelperTest)
+VESK_TESTS(LineEditValidateHelperTest);
 #include "LineEditValidateHelperTest.moc"

@@ -281,5 +281,5 @@ private slots:
 
 }
 
-QTEST_MAIN(vesk::MainWindowTest)
+VESK_TESTS(vesk::MainWindowTest);
 #include "MainWindowTest.moc"

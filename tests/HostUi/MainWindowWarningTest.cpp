@@ -128,5 +128,5 @@ void MainWindowWarningTest::withoutALogTheTipNamesStandardError()
 
 }
 
-QTEST_MAIN(vesk::MainWindowWarningTest)
+VESK_TESTS(vesk::MainWindowWarningTest);
 #include "MainWindowWarningTest.moc"

@@ -155,5 +155,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(NoteLayoutTest)
+VESK_TESTS_WITHOUT_WINDOWS(NoteLayoutTest);
 #include "NoteLayoutTest.moc"

@@ -121,5 +121,5 @@ void PaneDescriptionTest::panesThatTheManagerDoesNotKnowAreLeftOut()
 
 }
 
-QTEST_MAIN(vesk::test::PaneDescriptionTest)
+VESK_TESTS(vesk::test::PaneDescriptionTest);
 #include "PaneDescriptionTest.moc"

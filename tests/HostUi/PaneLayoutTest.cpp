@@ -346,5 +346,5 @@ void PaneLayoutTest::showingAndHidingIsTold()
 
 }
 
-QTEST_MAIN(vesk::test::PaneLayoutTest)
+VESK_TESTS(vesk::test::PaneLayoutTest);
 #include "PaneLayoutTest.moc"

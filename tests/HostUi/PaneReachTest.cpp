@@ -293,5 +293,5 @@ void PaneReachTest::aDraggedPaneGetsItsSizeWhenItIsLetGo()
 }
 }
 
-QTEST_MAIN(vesk::test::PaneReachTest)
+VESK_TESTS(vesk::test::PaneReachTest);
 #include "PaneReachTest.moc"

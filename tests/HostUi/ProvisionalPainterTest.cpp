@@ -200,5 +200,5 @@ private:
     }
 };
 
-QTEST_MAIN(ProvisionalPainterTest)
+VESK_TESTS(ProvisionalPainterTest);
 #include "ProvisionalPainterTest.moc"

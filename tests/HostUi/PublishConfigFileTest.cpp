@@ -84,5 +84,5 @@ void PublishConfigFileTest::withoutAFileNothingIsTaken()
 
 }
 
-QTEST_GUILESS_MAIN(vesk::PublishConfigFileTest)
+VESK_TESTS_WITHOUT_WINDOWS(vesk::PublishConfigFileTest);
 #include "PublishConfigFileTest.moc"

@@ -39,5 +39,5 @@ void QtTextTest::textSurvivesBothWays()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::test::QtTextTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::test::QtTextTest);
 #include "QtTextTest.moc"

@@ -138,5 +138,5 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(RandomFormulaTest)
+VESK_TESTS_WITHOUT_WINDOWS(RandomFormulaTest);
 #include "RandomFormulaTest.moc"

@@ -438,5 +438,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(RibbonFocusTest)
+VESK_TESTS(RibbonFocusTest);
 #include "RibbonFocusTest.moc"

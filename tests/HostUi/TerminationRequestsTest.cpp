@@ -181,5 +181,5 @@ void TerminationRequestsTest::failedWritesAreSurvived()
 
 }
 
-QTEST_GUILESS_MAIN(vesk::TerminationRequestsTest)
+VESK_TESTS_WITHOUT_WINDOWS(vesk::TerminationRequestsTest);
 #include "TerminationRequestsTest.moc"

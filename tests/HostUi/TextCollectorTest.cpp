@@ -98,5 +98,5 @@ void TextCollectorTest::aViewWithoutACameraHasNone()
 
 }
 
-QTEST_MAIN(vesk::test::TextCollectorTest)
+VESK_TESTS(vesk::test::TextCollectorTest);
 #include "TextCollectorTest.moc"

@@ -87,5 +87,5 @@ void TranslationCatalogueTest::nothingIsTranslatedWhenTheCatalogueIsGone()
 
 }
 
-QTEST_GUILESS_MAIN(vesk::TranslationCatalogueTest)
+VESK_TESTS_WITHOUT_WINDOWS(vesk::TranslationCatalogueTest);
 #include "TranslationCatalogueTest.moc"

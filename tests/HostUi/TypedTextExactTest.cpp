@@ -180,5 +180,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TypedTextExactTest)
+VESK_TESTS_WITHOUT_WINDOWS(TypedTextExactTest);
 #include "TypedTextExactTest.moc"

@@ -456,5 +456,5 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(TypedTextTest)
+VESK_TESTS_WITHOUT_WINDOWS(TypedTextTest);
 #include "TypedTextTest.moc"

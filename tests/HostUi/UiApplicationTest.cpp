@@ -300,5 +300,5 @@ void UiApplicationTest::aKeyThatComesAfterAMenuHasClosedIsForTheFocus()
 
 }
 
-QTEST_MAIN(vesk::UiApplicationTest)
+VESK_TESTS(vesk::UiApplicationTest);
 #include "UiApplicationTest.moc"

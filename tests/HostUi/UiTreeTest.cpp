@@ -185,5 +185,5 @@ void UiTreeTest::whatABelongingWindowHoldsIsToldOnce()
 
 }
 
-QTEST_MAIN(vesk::test::UiTreeTest)
+VESK_TESTS(vesk::test::UiTreeTest);
 #include "UiTreeTest.moc"

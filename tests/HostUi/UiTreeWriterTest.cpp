@@ -288,5 +288,5 @@ private:
     std::unique_ptr<UiTreeWriter> m_pWriter;
 };
 
-QTEST_MAIN(UiTreeWriterTest)
+VESK_TESTS(UiTreeWriterTest);
 #include "UiTreeWriterTest.moc"

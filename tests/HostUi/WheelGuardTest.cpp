@@ -195,5 +195,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(WheelGuardTest)
+VESK_TESTS(WheelGuardTest);
 #include "WheelGuardTest.moc"

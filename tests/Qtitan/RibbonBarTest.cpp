@@ -221,5 +221,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(RibbonBarTest)
+VESK_TESTS(RibbonBarTest);
 #include "RibbonBarTest.moc"

@@ -173,5 +173,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(RibbonButtonControlTest)
+VESK_TESTS(RibbonButtonControlTest);
 #include "RibbonButtonControlTest.moc"

@@ -308,5 +308,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(RibbonGroupTest)
+VESK_TESTS(RibbonGroupTest);
 #include "RibbonGroupTest.moc"

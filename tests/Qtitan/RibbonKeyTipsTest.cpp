@@ -415,5 +415,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(RibbonKeyTipsTest)
+VESK_TESTS(RibbonKeyTipsTest);
 #include "RibbonKeyTipsTest.moc"

@@ -424,5 +424,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(RibbonMenuButtonTest)
+VESK_TESTS(RibbonMenuButtonTest);
 #include "RibbonMenuButtonTest.moc"

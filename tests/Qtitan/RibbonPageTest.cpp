@@ -168,5 +168,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(RibbonPageTest)
+VESK_TESTS(RibbonPageTest);
 #include "RibbonPageTest.moc"

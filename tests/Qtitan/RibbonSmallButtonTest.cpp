@@ -345,5 +345,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(RibbonSmallButtonTest)
+VESK_TESTS(RibbonSmallButtonTest);
 #include "RibbonSmallButtonTest.moc"

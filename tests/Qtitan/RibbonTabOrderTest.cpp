@@ -250,5 +250,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(RibbonTabOrderTest)
+VESK_TESTS(RibbonTabOrderTest);
 #include "RibbonTabOrderTest.moc"

@@ -326,5 +326,5 @@ private:
     std::unique_ptr<ScenarioFixture> m_pFixture;
 };
 
-QTEST_MAIN(ContinueTest)
+VESK_TESTS(ContinueTest);
 #include "ContinueTest.moc"

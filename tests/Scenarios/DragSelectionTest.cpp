@@ -190,5 +190,5 @@ private:
     std::unique_ptr<ScenarioFixture> m_pFixture;
 };
 
-QTEST_MAIN(DragSelectionTest)
+VESK_TESTS(DragSelectionTest);
 #include "DragSelectionTest.moc"

@@ -425,5 +425,5 @@ private:
     std::unique_ptr<ScenarioFixture> m_pFixture;
 };
 
-QTEST_MAIN(DrawLineTest)
+VESK_TESTS(DrawLineTest);
 #include "DrawLineTest.moc"

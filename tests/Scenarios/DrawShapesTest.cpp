@@ -268,5 +268,5 @@ private:
     std::unique_ptr<ScenarioFixture> m_pFixture;
 };
 
-QTEST_MAIN(DrawShapesTest)
+VESK_TESTS(DrawShapesTest);
 #include "DrawShapesTest.moc"

@@ -386,5 +386,5 @@ private:
     std::unique_ptr<ScenarioFixture> m_pFixture;
 };
 
-QTEST_MAIN(FullDiskTest)
+VESK_TESTS(FullDiskTest);
 #include "FullDiskTest.moc"

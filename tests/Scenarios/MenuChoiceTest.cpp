@@ -354,5 +354,5 @@ private:
     std::unique_ptr<ScenarioFixture> m_pFixture;
 };
 
-QTEST_MAIN(MenuChoiceTest)
+VESK_TESTS(MenuChoiceTest);
 #include "MenuChoiceTest.moc"

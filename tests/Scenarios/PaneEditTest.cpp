@@ -246,5 +246,5 @@ private:
     std::unique_ptr<ScenarioFixture> m_pFixture;
 };
 
-QTEST_MAIN(PaneEditTest)
+VESK_TESTS(PaneEditTest);
 #include "PaneEditTest.moc"

@@ -214,5 +214,5 @@ private:
     std::unique_ptr<ScenarioFixture> m_pFixture;
 };
 
-QTEST_MAIN(PaneLayoutTest)
+VESK_TESTS(PaneLayoutTest);
 #include "PaneLayoutTest.moc"

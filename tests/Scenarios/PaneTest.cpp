@@ -283,5 +283,5 @@ private:
     std::unique_ptr<ScenarioFixture> m_pFixture;
 };
 
-QTEST_MAIN(PaneTest)
+VESK_TESTS(PaneTest);
 #include "PaneTest.moc"

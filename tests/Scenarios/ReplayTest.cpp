@@ -157,5 +157,5 @@ private:
     std::unique_ptr<ScenarioFixture> m_pFixture;
 };
 
-QTEST_MAIN(ReplayTest)
+VESK_TESTS(ReplayTest);
 #include "ReplayTest.moc"

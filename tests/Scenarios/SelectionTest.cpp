@@ -300,5 +300,5 @@ private:
     std::unique_ptr<ScenarioFixture> m_pFixture;
 };
 
-QTEST_MAIN(SelectionTest)
+VESK_TESTS(SelectionTest);
 #include "SelectionTest.moc"

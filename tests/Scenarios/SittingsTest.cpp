@@ -170,5 +170,5 @@ private:
     QStringList m_acts;
 };
 
-QTEST_MAIN(SittingsTest)
+VESK_TESTS(SittingsTest);
 #include "SittingsTest.moc"

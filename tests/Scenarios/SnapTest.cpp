@@ -221,5 +221,5 @@ private:
     std::unique_ptr<ScenarioFixture> m_pFixture;
 };
 
-QTEST_MAIN(SnapTest)
+VESK_TESTS(SnapTest);
 #include "SnapTest.moc"

@@ -354,5 +354,5 @@ private:
     std::unique_ptr<ScenarioFixture> m_pFixture;
 };
 
-QTEST_MAIN(TypeShapesTest)
+VESK_TESTS(TypeShapesTest);
 #include "TypeShapesTest.moc"

@@ -410,5 +410,5 @@ private:
     std::unique_ptr<ScenarioFixture> m_pFixture;
 };
 
-QTEST_MAIN(TypedValueTest)
+VESK_TESTS(TypedValueTest);
 #include "TypedValueTest.moc"

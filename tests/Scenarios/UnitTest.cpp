@@ -186,5 +186,5 @@ private:
     std::unique_ptr<ScenarioFixture> m_pFixture;
 };
 
-QTEST_MAIN(UnitTest)
+VESK_TESTS(UnitTest);
 #include "UnitTest.moc"

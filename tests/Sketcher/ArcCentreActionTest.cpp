@@ -313,5 +313,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(ArcCentreActionTest)
+VESK_TESTS(ArcCentreActionTest);
 #include "ArcCentreActionTest.moc"

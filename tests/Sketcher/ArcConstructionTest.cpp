@@ -214,5 +214,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(ArcConstructionTest)
+VESK_TESTS_WITHOUT_WINDOWS(ArcConstructionTest);
 #include "ArcConstructionTest.moc"

@@ -115,5 +115,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(ArcGeometryTest)
+VESK_TESTS_WITHOUT_WINDOWS(ArcGeometryTest);
 #include "ArcGeometryTest.moc"

@@ -202,5 +202,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(ArcPainterTest)
+VESK_TESTS(ArcPainterTest);
 #include "ArcPainterTest.moc"

@@ -333,5 +333,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(ArcThreePointsActionTest)
+VESK_TESTS(ArcThreePointsActionTest);
 #include "ArcThreePointsActionTest.moc"

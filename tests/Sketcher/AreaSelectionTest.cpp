@@ -105,5 +105,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(AreaSelectionTest)
+VESK_TESTS_WITHOUT_WINDOWS(AreaSelectionTest);
 #include "AreaSelectionTest.moc"

@@ -176,5 +176,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(CircleActionTest)
+VESK_TESTS(CircleActionTest);
 #include "CircleActionTest.moc"

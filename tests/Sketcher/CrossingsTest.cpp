@@ -203,5 +203,5 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(CrossingsTest)
+VESK_TESTS_WITHOUT_WINDOWS(CrossingsTest);
 #include "CrossingsTest.moc"

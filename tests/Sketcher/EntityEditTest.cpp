@@ -291,5 +291,5 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(EntityEditTest)
+VESK_TESTS_WITHOUT_WINDOWS(EntityEditTest);
 #include "EntityEditTest.moc"

@@ -187,5 +187,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(FieldKeysTest)
+VESK_TESTS(FieldKeysTest);
 #include "FieldKeysTest.moc"

@@ -86,5 +86,5 @@ private:
     }
 };
 
-QTEST_MAIN(LinePainterTest)
+VESK_TESTS(LinePainterTest);
 #include "LinePainterTest.moc"

@@ -57,5 +57,5 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(ModelFileTest)
+VESK_TESTS_WITHOUT_WINDOWS(ModelFileTest);
 #include "ModelFileTest.moc"

@@ -143,5 +143,5 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(OptionsTest)
+VESK_TESTS_WITHOUT_WINDOWS(OptionsTest);
 #include "OptionsTest.moc"

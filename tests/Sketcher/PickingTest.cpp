@@ -31,5 +31,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(PickingTest)
+VESK_TESTS(PickingTest);
 #include "PickingTest.moc"

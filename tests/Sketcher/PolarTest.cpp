@@ -100,5 +100,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(PolarTest)
+VESK_TESTS_WITHOUT_WINDOWS(PolarTest);
 #include "PolarTest.moc"

@@ -135,5 +135,5 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(PropertyEditorTest)
+VESK_TESTS_WITHOUT_WINDOWS(PropertyEditorTest);
 #include "PropertyEditorTest.moc"

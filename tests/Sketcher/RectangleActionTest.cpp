@@ -270,5 +270,5 @@ private:
     }
 };
 
-QTEST_MAIN(RectangleActionTest)
+VESK_TESTS(RectangleActionTest);
 #include "RectangleActionTest.moc"

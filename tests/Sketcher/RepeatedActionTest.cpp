@@ -120,5 +120,5 @@ private slots:
     void turns() { QCOMPARE(RunAll<RotateAction>(&DrawThree), Runs); }
 };
 
-QTEST_MAIN(RepeatedActionTest)
+VESK_TESTS(RepeatedActionTest);
 #include "RepeatedActionTest.moc"

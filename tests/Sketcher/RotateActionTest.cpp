@@ -289,5 +289,5 @@ private:
     static Shape ShapeOf(const Fixture& f, int id) { return f.workspace.sketch.Find(id)->shape; }
 };
 
-QTEST_MAIN(RotateActionTest)
+VESK_TESTS(RotateActionTest);
 #include "RotateActionTest.moc"

@@ -121,5 +121,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(SelectionTest)
+VESK_TESTS_WITHOUT_WINDOWS(SelectionTest);
 #include "SelectionTest.moc"

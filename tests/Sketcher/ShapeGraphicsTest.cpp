@@ -91,5 +91,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(ShapeGraphicsTest)
+VESK_TESTS_WITHOUT_WINDOWS(ShapeGraphicsTest);
 #include "ShapeGraphicsTest.moc"

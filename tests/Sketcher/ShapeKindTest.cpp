@@ -35,5 +35,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(ShapeKindTest)
+VESK_TESTS_WITHOUT_WINDOWS(ShapeKindTest);
 #include "ShapeKindTest.moc"

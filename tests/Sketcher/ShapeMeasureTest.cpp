@@ -128,5 +128,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(ShapeMeasureTest)
+VESK_TESTS_WITHOUT_WINDOWS(ShapeMeasureTest);
 #include "ShapeMeasureTest.moc"

@@ -82,5 +82,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(ShapePainterTest)
+VESK_TESTS(ShapePainterTest);
 #include "ShapePainterTest.moc"

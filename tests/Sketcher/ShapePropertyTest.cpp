@@ -291,5 +291,5 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(ShapePropertyTest)
+VESK_TESTS_WITHOUT_WINDOWS(ShapePropertyTest);
 #include "ShapePropertyTest.moc"

@@ -100,5 +100,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(ShapeRotationTest)
+VESK_TESTS_WITHOUT_WINDOWS(ShapeRotationTest);
 #include "ShapeRotationTest.moc"

@@ -167,5 +167,5 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(ShapeTest)
+VESK_TESTS_WITHOUT_WINDOWS(ShapeTest);
 #include "ShapeTest.moc"

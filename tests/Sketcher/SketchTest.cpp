@@ -283,5 +283,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(SketchTest)
+VESK_TESTS_WITHOUT_WINDOWS(SketchTest);
 #include "SketchTest.moc"

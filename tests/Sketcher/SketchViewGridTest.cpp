@@ -113,5 +113,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(SketchViewGridTest)
+VESK_TESTS(SketchViewGridTest);
 #include "SketchViewGridTest.moc"

@@ -291,5 +291,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(SketchViewPaintingTest)
+VESK_TESTS(SketchViewPaintingTest);
 #include "SketchViewPaintingTest.moc"

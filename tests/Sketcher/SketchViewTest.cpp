@@ -266,5 +266,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(SketchViewTest)
+VESK_TESTS(SketchViewTest);
 #include "SketchViewTest.moc"

@@ -387,5 +387,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(SketcherWindowTest)
+VESK_TESTS(SketcherWindowTest);
 #include "SketcherWindowTest.moc"

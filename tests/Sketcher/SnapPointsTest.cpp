@@ -53,5 +53,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(SnapPointsTest)
+VESK_TESTS_WITHOUT_WINDOWS(SnapPointsTest);
 #include "SnapPointsTest.moc"

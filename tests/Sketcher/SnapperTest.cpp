@@ -266,5 +266,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(SnapperTest)
+VESK_TESTS(SnapperTest);
 #include "SnapperTest.moc"

@@ -125,5 +125,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TypedValuesTest)
+VESK_TESTS_WITHOUT_WINDOWS(TypedValuesTest);
 #include "TypedValuesTest.moc"

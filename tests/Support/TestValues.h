@@ -85,6 +85,8 @@ char* toString(
 
 }
 
+#include "Support/TestProgram.h"
+
 #include <QtTest>
 
 // How long a test waits for what must come: only one that fails waits so long, and no machine is

@@ -58,5 +58,5 @@ void CheckSiteTest::aConditionThatHoldsIsNotReported()
 
 }
 
-QTEST_MAIN(vesk::test::CheckSiteTest)
+VESK_TESTS(vesk::test::CheckSiteTest);
 #include "CheckSiteTest.moc"

@@ -410,5 +410,5 @@ void DebugWarnDialogTest::userNameAndPasswordAreCopied()
 
 }
 
-QTEST_MAIN(vesk::test::DebugWarnDialogTest)
+VESK_TESTS(vesk::test::DebugWarnDialogTest);
 #include "DebugWarnDialogTest.moc"

@@ -265,5 +265,5 @@ void DebugWarnFormTest::everyTextIsTranslated()
 
 }
 
-QTEST_MAIN(vesk::test::DebugWarnFormTest)
+VESK_TESTS(vesk::test::DebugWarnFormTest);
 #include "DebugWarnFormTest.moc"

@@ -416,14 +416,17 @@ void DebugWarningDialogDisplayerTest::withoutAnApplicationTheFactIsLogged()
              QString("vesk::DebugWarningDialogDisplayer::Display"));
 }
 
+namespace
+{
+
 /// Shows a warning and returns the answer, as the code of an exit. With the path of a log
 /// assertions are off.
-int DisplayAndAnswer(const char* logPath)
+int DisplayAndAnswer(int argc, char* argv[])
 {
-    if (logPath != nullptr)
+    if (argc > 1)
     {
         SetAssertEnabled(false);
-        DebugMessageMgr::GetDebugMessageMgr()->OpenLog(logPath);
+        DebugMessageMgr::GetDebugMessageMgr()->OpenLog(argv[1]);
     }
     const int answer = Display() ? 1 : 0;
     DebugMessageMgr::GetDebugMessageMgr()->CloseLog();
@@ -443,7 +446,7 @@ int DisplayAfterApplication(int argc, char* argv[])
         const HostFixture host;
     }
     qInstallMessageHandler(nullptr);
-    return DisplayAndAnswer(argc > 2 ? argv[2] : nullptr);
+    return DisplayAndAnswer(argc, argv);
 }
 
 /// Shows a warning, chooses to debug it and tells the answer.
@@ -463,25 +466,17 @@ int IgnoreWarningInApplication(int argc, char* argv[])
     const QApplication application(argc, argv);
     HostFixture host;
     WhenShown([](QDialog& dialog) { dialog.done(0); });
-    return DisplayAndAnswer(argc > 2 ? argv[2] : nullptr);
+    return DisplayAndAnswer(argc, argv);
 }
+
+const TestEntry s_displayBeforeApplication{"--before-application", &DisplayAndAnswer};
+const TestEntry s_displayAfterApplication{"--after-application", &DisplayAfterApplication};
+const TestEntry s_ignoreWarning{"--ignore", &IgnoreWarningInApplication};
+const TestEntry s_debugWarning{"--debug", &DebugWarningInApplication};
 
 }
 
-int main(int argc, char* argv[])
-{
-    const QByteArray task(argc > 1 ? argv[1] : "");
-    if (task == "--before-application")
-        return vesk::test::DisplayAndAnswer(argc > 2 ? argv[2] : nullptr);
-    if (task == "--after-application")
-        return vesk::test::DisplayAfterApplication(argc, argv);
-    if (task == "--ignore")
-        return vesk::test::IgnoreWarningInApplication(argc, argv);
-    if (task == "--debug")
-        return vesk::test::DebugWarningInApplication(argc, argv);
-    QApplication application(argc, argv);
-    vesk::test::DebugWarningDialogDisplayerTest test;
-    return QTest::qExec(&test, argc, argv);
 }
 
+VESK_TESTS(vesk::test::DebugWarningDialogDisplayerTest);
 #include "DebugWarningDialogDisplayerTest.moc"

@@ -80,5 +80,5 @@ void DockCallsTest::resizingWhatDoesNotFitAsksForNothing()
 
 }
 
-QTEST_MAIN(vesk::test::DockCallsTest)
+VESK_TESTS(vesk::test::DockCallsTest);
 #include "DockCallsTest.moc"

@@ -472,5 +472,5 @@ void DockImplTest::itsOwnerDeletesTheWholeDock()
 
 }
 
-QTEST_MAIN(vesk::test::DockImplTest)
+VESK_TESTS(vesk::test::DockImplTest);
 #include "DockImplTest.moc"

@@ -438,5 +438,5 @@ void DockManagerAddTest::deletionReportsADockThatIsNoWidget()
 
 }
 
-QTEST_MAIN(vesk::test::DockManagerAddTest)
+VESK_TESTS(vesk::test::DockManagerAddTest);
 #include "DockManagerAddTest.moc"

@@ -336,5 +336,5 @@ void DockManagerArrangementTest::aPartnerOfSomebodyElseIsReportedAndLeftOut()
 
 }
 
-QTEST_MAIN(vesk::test::DockManagerArrangementTest)
+VESK_TESTS(vesk::test::DockManagerArrangementTest);
 #include "DockManagerArrangementTest.moc"

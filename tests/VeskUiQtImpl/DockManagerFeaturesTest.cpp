@@ -246,5 +246,5 @@ void DockManagerFeaturesTest::featuresAreThoseOfTheNamedDock()
 
 }
 
-QTEST_MAIN(vesk::test::DockManagerFeaturesTest)
+VESK_TESTS(vesk::test::DockManagerFeaturesTest);
 #include "DockManagerFeaturesTest.moc"

@@ -255,5 +255,5 @@ void DockManagerImplTest::theManagerTouchesNoDockWhenItEnds()
 
 }
 
-QTEST_MAIN(vesk::test::DockManagerImplTest)
+VESK_TESTS(vesk::test::DockManagerImplTest);
 #include "DockManagerImplTest.moc"

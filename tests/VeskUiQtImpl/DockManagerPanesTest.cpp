@@ -424,5 +424,5 @@ void DockManagerPanesTest::thePropertyPanelIsTheContentOfItsDock()
 
 }
 
-QTEST_MAIN(vesk::test::DockManagerPanesTest)
+VESK_TESTS(vesk::test::DockManagerPanesTest);
 #include "DockManagerPanesTest.moc"

@@ -118,5 +118,5 @@ void DockStateTest::laterStyleSheetsAreNotFollowed()
 
 }
 
-QTEST_MAIN(vesk::test::DockStateTest)
+VESK_TESTS(vesk::test::DockStateTest);
 #include "DockStateTest.moc"

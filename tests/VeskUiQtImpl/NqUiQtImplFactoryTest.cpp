@@ -115,5 +115,5 @@ void NqUiQtImplFactoryTest::everyWarningDialogIsAnother()
 
 }
 
-QTEST_MAIN(vesk::test::NqUiQtImplFactoryTest)
+VESK_TESTS(vesk::test::NqUiQtImplFactoryTest);
 #include "NqUiQtImplFactoryTest.moc"

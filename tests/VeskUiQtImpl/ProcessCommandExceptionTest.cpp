@@ -181,5 +181,5 @@ void ProcessCommandExceptionTest::aCommandThatWaitsRunsAfterAnException()
 
 }
 
-QTEST_MAIN(vesk::test::ProcessCommandExceptionTest)
+VESK_TESTS(vesk::test::ProcessCommandExceptionTest);
 #include "ProcessCommandExceptionTest.moc"

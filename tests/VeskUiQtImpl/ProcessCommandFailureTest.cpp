@@ -239,5 +239,5 @@ void ProcessCommandFailureTest::actionIsPutOffWithoutAskingForTheViewManager()
 
 }
 
-QTEST_MAIN(vesk::test::ProcessCommandFailureTest)
+VESK_TESTS(vesk::test::ProcessCommandFailureTest);
 #include "ProcessCommandFailureTest.moc"

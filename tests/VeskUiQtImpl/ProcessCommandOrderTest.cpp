@@ -414,5 +414,5 @@ void ProcessCommandOrderTest::withoutAViewManagerTheClickStillWaits()
 
 }
 
-QTEST_MAIN(vesk::test::ProcessCommandOrderTest)
+VESK_TESTS(vesk::test::ProcessCommandOrderTest);
 #include "ProcessCommandOrderTest.moc"

@@ -386,5 +386,5 @@ void ProcessCommandReplayTest::menuClickDuringAnInteractiveCommandIsRunAfterIt()
 
 }
 
-QTEST_MAIN(vesk::test::ProcessCommandReplayTest)
+VESK_TESTS(vesk::test::ProcessCommandReplayTest);
 #include "ProcessCommandReplayTest.moc"

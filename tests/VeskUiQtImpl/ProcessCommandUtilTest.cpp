@@ -289,5 +289,5 @@ void ProcessCommandUtilTest::actionAsSenderIsServedWhenNothingRuns()
 
 }
 
-QTEST_MAIN(vesk::test::ProcessCommandUtilTest)
+VESK_TESTS(vesk::test::ProcessCommandUtilTest);
 #include "ProcessCommandUtilTest.moc"

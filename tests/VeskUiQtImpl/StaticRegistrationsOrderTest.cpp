@@ -152,5 +152,5 @@ void StaticRegistrationsOrderTest::hasNoSymbolThatPinsIt()
 
 }
 
-QTEST_MAIN(vesk::test::StaticRegistrationsOrderTest)
+VESK_TESTS(vesk::test::StaticRegistrationsOrderTest);
 #include "StaticRegistrationsOrderTest.moc"

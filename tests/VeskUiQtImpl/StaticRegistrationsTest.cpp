@@ -147,5 +147,5 @@ void StaticRegistrationsTest::mayBeLoadedAgain()
 
 }
 
-QTEST_MAIN(vesk::test::StaticRegistrationsTest)
+VESK_TESTS(vesk::test::StaticRegistrationsTest);
 #include "StaticRegistrationsTest.moc"

@@ -491,5 +491,5 @@ void WarningDialogLifetimeTest::handlerMayDieWhenItsEditorCannotBeMade()
 
 }
 
-QTEST_MAIN(vesk::test::WarningDialogLifetimeTest)
+VESK_TESTS(vesk::test::WarningDialogLifetimeTest);
 #include "WarningDialogLifetimeTest.moc"

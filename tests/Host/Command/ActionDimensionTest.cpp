@@ -227,5 +227,5 @@ void ActionDimensionTest::anActionThatEndsInAKeyLeavesItsHandlerAliveThatLong()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::ActionDimensionTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::ActionDimensionTest);
 #include "ActionDimensionTest.moc"

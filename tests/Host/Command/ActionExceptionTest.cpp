@@ -456,5 +456,5 @@ void ActionExceptionTest::theTypedValueIsForgotten()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::ActionExceptionTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::ActionExceptionTest);
 #include "ActionExceptionTest.moc"

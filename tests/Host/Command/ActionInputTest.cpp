@@ -324,5 +324,5 @@ void ActionInputTest::theInputMayBelongToAHandlerThatIsDropped()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::ActionInputTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::ActionInputTest);
 #include "ActionInputTest.moc"

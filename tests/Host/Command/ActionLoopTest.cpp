@@ -275,5 +275,5 @@ void ActionLoopTest::noCommandAndAnUnknownIdDoNothing()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::ActionLoopTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::ActionLoopTest);
 #include "ActionLoopTest.moc"

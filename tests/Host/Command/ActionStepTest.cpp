@@ -288,5 +288,5 @@ void ActionStepTest::aViewThatIsGoneIsNotTold()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::ActionStepTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::ActionStepTest);
 #include "ActionStepTest.moc"

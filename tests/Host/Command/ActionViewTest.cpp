@@ -303,5 +303,5 @@ void ActionViewTest::aFreedValueNeedsNoView()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::ActionViewTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::ActionViewTest);
 #include "ActionViewTest.moc"

@@ -170,5 +170,5 @@ void ActionWithoutLoopTest::theViewKeepsItsKeyboard()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::ActionWithoutLoopTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::ActionWithoutLoopTest);
 #include "ActionWithoutLoopTest.moc"

@@ -218,5 +218,5 @@ void CommandRecordTest::anUnknownCommandOfAMenuIsRefused()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::CommandRecordTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::CommandRecordTest);
 #include "CommandRecordTest.moc"

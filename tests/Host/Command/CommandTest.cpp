@@ -151,5 +151,5 @@ void CommandTest::parametersOfAnotherTypeAreNotEqual()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::CommandTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::CommandTest);
 #include "CommandTest.moc"

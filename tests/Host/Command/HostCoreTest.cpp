@@ -91,5 +91,5 @@ void HostCoreTest::itLeavesAnotherJournalFactoryInPlace()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::HostCoreTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::HostCoreTest);
 #include "HostCoreTest.moc"

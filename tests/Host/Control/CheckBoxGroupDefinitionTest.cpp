@@ -297,5 +297,5 @@ void CheckBoxGroupDefinitionTest::aHandlerMayDestroyTheGroup()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::CheckBoxGroupDefinitionTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::CheckBoxGroupDefinitionTest);
 #include "CheckBoxGroupDefinitionTest.moc"

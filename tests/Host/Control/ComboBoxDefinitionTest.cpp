@@ -384,5 +384,5 @@ void ComboBoxDefinitionTest::aHandlerMayDestroyIt()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::ComboBoxDefinitionTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::ComboBoxDefinitionTest);
 #include "ComboBoxDefinitionTest.moc"

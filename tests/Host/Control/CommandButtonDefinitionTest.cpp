@@ -141,5 +141,5 @@ void CommandButtonDefinitionTest::aLabelIsItsCaption()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::CommandButtonDefinitionTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::CommandButtonDefinitionTest);
 #include "CommandButtonDefinitionTest.moc"

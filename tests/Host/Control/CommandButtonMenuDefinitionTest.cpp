@@ -323,5 +323,5 @@ void CommandButtonMenuDefinitionTest::aHandlerMayDestroyTheMenu()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::CommandButtonMenuDefinitionTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::CommandButtonMenuDefinitionTest);
 #include "CommandButtonMenuDefinitionTest.moc"

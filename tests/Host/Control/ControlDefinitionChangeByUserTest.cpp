@@ -168,5 +168,5 @@ void ControlDefinitionChangeByUserTest::theRadioButtonFlagIsClearedAtTheEndOfASc
 
 }
 
-QTEST_APPLESS_MAIN(vesk::ControlDefinitionChangeByUserTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::ControlDefinitionChangeByUserTest);
 #include "ControlDefinitionChangeByUserTest.moc"

@@ -362,5 +362,5 @@ void ControlDefinitionChangeEventNestingTest::theEventIsUsableAfterAnException()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::ControlDefinitionChangeEventNestingTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::ControlDefinitionChangeEventNestingTest);
 #include "ControlDefinitionChangeEventNestingTest.moc"

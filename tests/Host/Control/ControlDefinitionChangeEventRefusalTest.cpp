@@ -159,5 +159,5 @@ void ControlDefinitionChangeEventRefusalTest::aProgramThatActsOnAChoiceOfTheUser
 
 }
 
-QTEST_APPLESS_MAIN(vesk::ControlDefinitionChangeEventRefusalTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::ControlDefinitionChangeEventRefusalTest);
 #include "ControlDefinitionChangeEventRefusalTest.moc"

@@ -159,5 +159,5 @@ void ControlDefinitionChangeEventTest::raisingAllocatesNothing()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::ControlDefinitionChangeEventTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::ControlDefinitionChangeEventTest);
 #include "ControlDefinitionChangeEventTest.moc"

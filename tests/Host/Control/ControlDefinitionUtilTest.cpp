@@ -121,5 +121,5 @@ void ControlDefinitionUtilTest::aDefinitionWithoutEventHasNone()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::ControlDefinitionUtilTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::ControlDefinitionUtilTest);
 #include "ControlDefinitionUtilTest.moc"

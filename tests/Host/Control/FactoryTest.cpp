@@ -121,5 +121,5 @@ void FactoryTest::destroyingAnotherUiFactoryLeavesTheRegisteredOne()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::FactoryTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::FactoryTest);
 #include "FactoryTest.moc"

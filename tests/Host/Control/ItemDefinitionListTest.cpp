@@ -494,5 +494,5 @@ void ItemDefinitionListTest::aHandlerMayDestroyEverything()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::ItemDefinitionListTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::ItemDefinitionListTest);
 #include "ItemDefinitionListTest.moc"

@@ -244,5 +244,5 @@ void LineEditDefinitionReferenceTest::withoutDefinitionItFreesTheValidator()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::LineEditDefinitionReferenceTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::LineEditDefinitionReferenceTest);
 #include "LineEditDefinitionReferenceTest.moc"

@@ -382,5 +382,5 @@ void LineEditDefinitionTest::aChangeByTheUserIsMarked()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::LineEditDefinitionTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::LineEditDefinitionTest);
 #include "LineEditDefinitionTest.moc"

@@ -116,5 +116,5 @@ void ProgressBarDefinitionTest::aHandlerMayDestroyIt()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::ProgressBarDefinitionTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::ProgressBarDefinitionTest);
 #include "ProgressBarDefinitionTest.moc"

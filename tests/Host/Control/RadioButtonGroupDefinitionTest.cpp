@@ -307,5 +307,5 @@ void RadioButtonGroupDefinitionTest::aHandlerMayDestroyTheGroup()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::RadioButtonGroupDefinitionTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::RadioButtonGroupDefinitionTest);
 #include "RadioButtonGroupDefinitionTest.moc"

@@ -364,5 +364,5 @@ void CentreArcDimensionsTest::aLockedAngleShowsIt()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::CentreArcDimensionsTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::CentreArcDimensionsTest);
 #include "CentreArcDimensionsTest.moc"

@@ -239,5 +239,5 @@ void DegenerateDimensionsTest::anglesNeverReachMinusAHalfTurn()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::DegenerateDimensionsTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::DegenerateDimensionsTest);
 #include "DegenerateDimensionsTest.moc"

@@ -439,5 +439,5 @@ void DimensionPlacementTest::aTextKeepsOffItsLineInATurnedPlane()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::DimensionPlacementTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::DimensionPlacementTest);
 #include "DimensionPlacementTest.moc"

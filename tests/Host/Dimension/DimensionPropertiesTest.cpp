@@ -298,5 +298,5 @@ void DimensionPropertiesTest::leadersStandAsConstructed()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::DimensionPropertiesTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::DimensionPropertiesTest);
 #include "DimensionPropertiesTest.moc"

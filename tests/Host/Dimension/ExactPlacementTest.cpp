@@ -261,5 +261,5 @@ void ExactPlacementTest::whatIsHardlyOffAPointHasNoDirection()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::ExactPlacementTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::ExactPlacementTest);
 #include "ExactPlacementTest.moc"

@@ -106,5 +106,5 @@ void LengthUnitTest::theRangeOfALengthIsInTheUnit()
 
 }
 
-QTEST_GUILESS_MAIN(vesk::LengthUnitTest)
+VESK_TESTS_WITHOUT_WINDOWS(vesk::LengthUnitTest);
 #include "LengthUnitTest.moc"

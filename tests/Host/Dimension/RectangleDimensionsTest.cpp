@@ -303,5 +303,5 @@ void RectangleDimensionsTest::theSidesFollowTheAxesOfThePlane()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::RectangleDimensionsTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::RectangleDimensionsTest);
 #include "RectangleDimensionsTest.moc"

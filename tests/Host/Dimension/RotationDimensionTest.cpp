@@ -281,5 +281,5 @@ void RotationDimensionTest::otherTextsPlayNoPart()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::RotationDimensionTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::RotationDimensionTest);
 #include "RotationDimensionTest.moc"

@@ -462,5 +462,5 @@ void TemporaryDimensionCommonsTest::aPixelWithoutAWidthCountsAsOne()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::TemporaryDimensionCommonsTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::TemporaryDimensionCommonsTest);
 #include "TemporaryDimensionCommonsTest.moc"

@@ -223,5 +223,5 @@ void TemporaryDimensionContextTest::theCentralAngleOfARadiusIsShownOnDemand()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::TemporaryDimensionContextTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::TemporaryDimensionContextTest);
 #include "TemporaryDimensionContextTest.moc"

@@ -245,5 +245,5 @@ void TemporaryDimensionMgrCallsTest::aLockedValueIsKnown()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::TemporaryDimensionMgrCallsTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::TemporaryDimensionMgrCallsTest);
 #include "TemporaryDimensionMgrCallsTest.moc"

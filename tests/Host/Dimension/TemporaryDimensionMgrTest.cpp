@@ -446,5 +446,5 @@ void TemporaryDimensionMgrTest::locksOutliveAContextOfTheSameKind()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::TemporaryDimensionMgrTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::TemporaryDimensionMgrTest);
 #include "TemporaryDimensionMgrTest.moc"

@@ -185,5 +185,5 @@ void TemporaryDimensionStyleTest::eachStateHasAnEntryOfItsOwn()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::TemporaryDimensionStyleTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::TemporaryDimensionStyleTest);
 #include "TemporaryDimensionStyleTest.moc"

@@ -294,5 +294,5 @@ void TextPlacementTest::aTinyViewKeepsTheTextNumbers()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::TextPlacementTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::TextPlacementTest);
 #include "TextPlacementTest.moc"

@@ -401,5 +401,5 @@ void ThreePointArcDimensionsTest::pointsOffThePlaneCountAsSeenAlongItsNormal()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::ThreePointArcDimensionsTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::ThreePointArcDimensionsTest);
 #include "ThreePointArcDimensionsTest.moc"

@@ -20,5 +20,5 @@ void PropertyWidgetTest::itsTypeHasAName()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::PropertyWidgetTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::PropertyWidgetTest);
 #include "PropertyWidgetTest.moc"

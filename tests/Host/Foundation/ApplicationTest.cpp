@@ -61,5 +61,5 @@ void ApplicationTest::aRemovedOneIsGone()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::ApplicationTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::ApplicationTest);
 #include "ApplicationTest.moc"

@@ -79,18 +79,21 @@ void AssertTest::anAssertionGoesToStandardErrorAndTheProcessGoesOn()
     QVERIFY2(text.contains("pArgs为空") && text.contains("Button.cpp:7"), text.constData());
 }
 
-}
+namespace
+{
 
-int main(int argc, char* argv[])
+int Assert(int argc, char* argv[])
 {
     const QCoreApplication application(argc, argv);
-    if (application.arguments().value(1) == "--assert")
-    {
-        vesk::AssertHelper::GetInstance()->Assert(L"pArgs为空", L"Button.cpp", 7);
-        return 0;
-    }
-    vesk::AssertTest test;
-    return QTest::qExec(&test, argc, argv);
+    AssertHelper::GetInstance()->Assert(L"pArgs为空", L"Button.cpp", 7);
+    return 0;
 }
 
+const test::TestEntry s_assert{"--assert", &Assert};
+
+}
+
+}
+
+VESK_TESTS_WITHOUT_WINDOWS(vesk::AssertTest);
 #include "AssertTest.moc"

@@ -76,5 +76,5 @@ void CheckTest::aFalseConditionIsReturnedAndReported()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::CheckTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::CheckTest);
 #include "CheckTest.moc"

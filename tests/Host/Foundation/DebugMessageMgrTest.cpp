@@ -319,21 +319,29 @@ void DebugMessageMgrTest::afterAFailedOpeningWarningsGoToStandardError()
     QCOMPARE(records[0]["message"].toString(), QString::fromUtf8("pArgs为空"));
 }
 
-}
+namespace
+{
 
-int main(int argc, char* argv[])
+int WarnInApplication(int argc, char* argv[])
 {
     const QCoreApplication application(argc, argv);
-    const QString argument = application.arguments().value(1);
-    if (argument == "--warn-after-failed-opening")
-        vesk::Manager().OpenLog("/no/such/folder/warnings.log");
-    if (argument.startsWith("--warn"))
-    {
-        vesk::Warn();
-        return 0;
-    }
-    vesk::DebugMessageMgrTest test;
-    return QTest::qExec(&test, argc, argv);
+    Warn();
+    return 0;
 }
 
+int WarnAfterFailedOpening(int argc, char* argv[])
+{
+    Manager().OpenLog("/no/such/folder/warnings.log");
+    return WarnInApplication(argc, argv);
+}
+
+const test::TestEntry s_warn{"--warn", &WarnInApplication};
+const test::TestEntry s_warnAfterFailedOpening{"--warn-after-failed-opening",
+                                               &WarnAfterFailedOpening};
+
+}
+
+}
+
+VESK_TESTS_WITHOUT_WINDOWS(vesk::DebugMessageMgrTest);
 #include "DebugMessageMgrTest.moc"

@@ -108,5 +108,5 @@ void DebugWarningAttendanceTest::withoutTheVariableSomebodyIsThere()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::DebugWarningAttendanceTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::DebugWarningAttendanceTest);
 #include "DebugWarningAttendanceTest.moc"

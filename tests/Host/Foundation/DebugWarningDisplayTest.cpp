@@ -488,5 +488,5 @@ void DebugWarningDisplayTest::afterAResetEverythingIsShownAgain()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::DebugWarningDisplayTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::DebugWarningDisplayTest);
 #include "DebugWarningDisplayTest.moc"

@@ -328,5 +328,5 @@ void DebugWarningObserverTest::whatManyThreadsAskForIsWhole()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::DebugWarningObserverTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::DebugWarningObserverTest);
 #include "DebugWarningObserverTest.moc"

@@ -489,5 +489,5 @@ void EventTest::emittingFromAHandlerThatUnsubscribesAllocatesNothing()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::EventTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::EventTest);
 #include "EventTest.moc"

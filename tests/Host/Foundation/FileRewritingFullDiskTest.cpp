@@ -76,5 +76,5 @@ void FileRewritingFullDiskTest::everyPageLeavesTheOldFileOrTheNew()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::FileRewritingFullDiskTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::FileRewritingFullDiskTest);
 #include "FileRewritingFullDiskTest.moc"

@@ -54,5 +54,5 @@ void FileRewritingLinksTest::linksStayLinks()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::FileRewritingLinksTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::FileRewritingLinksTest);
 #include "FileRewritingLinksTest.moc"

@@ -121,5 +121,5 @@ void FileRewritingTest::whatIsNoFileIsLeftAlone()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::FileRewritingTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::FileRewritingTest);
 #include "FileRewritingTest.moc"

@@ -38,5 +38,5 @@ void NqStyleSheetHelperTest::theStyleSheetIsTheOneChosenLast()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::NqStyleSheetHelperTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::NqStyleSheetHelperTest);
 #include "NqStyleSheetHelperTest.moc"

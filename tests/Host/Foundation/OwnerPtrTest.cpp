@@ -270,5 +270,5 @@ void OwnerPtrTest::comparesWithNull()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::OwnerPtrTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::OwnerPtrTest);
 #include "OwnerPtrTest.moc"

@@ -89,5 +89,5 @@ void PublishConfigTest::whatIsNotThereCanBeRemoved()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::PublishConfigTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::PublishConfigTest);
 #include "PublishConfigTest.moc"

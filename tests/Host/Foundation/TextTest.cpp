@@ -184,5 +184,5 @@ void TextTest::whatIsNoUtf8BecomesTheReplacement()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::TextTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::TextTest);
 #include "TextTest.moc"

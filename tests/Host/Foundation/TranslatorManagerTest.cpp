@@ -89,5 +89,5 @@ void TranslatorManagerTest::aTranslatorCanBeTakenAway()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::TranslatorManagerTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::TranslatorManagerTest);
 #include "TranslatorManagerTest.moc"

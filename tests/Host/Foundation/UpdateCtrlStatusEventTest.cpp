@@ -158,5 +158,5 @@ void UpdateCtrlStatusEventTest::aRemovedListenerHearsNothing()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::UpdateCtrlStatusEventTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::UpdateCtrlStatusEventTest);
 #include "UpdateCtrlStatusEventTest.moc"

@@ -68,5 +68,5 @@ void UtcTimeTest::aTimeBefore1970ShowsAsItsFirstMoment()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::UtcTimeTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::UtcTimeTest);
 #include "UtcTimeTest.moc"

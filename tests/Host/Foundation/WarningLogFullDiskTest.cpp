@@ -121,5 +121,5 @@ void WarningLogFullDiskTest::withoutAFileNothingIsMissing()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::WarningLogFullDiskTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::WarningLogFullDiskTest);
 #include "WarningLogFullDiskTest.moc"

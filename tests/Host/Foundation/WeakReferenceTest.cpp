@@ -106,5 +106,5 @@ void WeakReferenceTest::anAssignedObjectKeepsItsOwnWatchers()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::WeakReferenceTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::WeakReferenceTest);
 #include "WeakReferenceTest.moc"

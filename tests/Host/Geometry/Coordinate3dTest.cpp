@@ -136,5 +136,5 @@ void Coordinate3dTest::toWorldUndoesToLocal()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::Coordinate3dTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::Coordinate3dTest);
 #include "Coordinate3dTest.moc"

@@ -132,5 +132,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(DegreesTest)
+VESK_TESTS_WITHOUT_WINDOWS(DegreesTest);
 #include "DegreesTest.moc"

@@ -49,5 +49,5 @@ void IntervaldTest::containsWhatLiesInsideAndOnTheBounds()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::IntervaldTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::IntervaldTest);
 #include "IntervaldTest.moc"

@@ -47,5 +47,5 @@ void Vector3dTest::pointsAtMostTheToleranceApartAreEqual()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::Vector3dTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::Vector3dTest);
 #include "Vector3dTest.moc"

@@ -3,30 +3,8 @@
 #include "Support/HostValues.h"
 #include "Support/TestValues.h"
 
-#include <cstdlib>
-#include <cstring>
-#include <new>
 #include <string>
 #include <utility>
-
-// Memory that nobody has set shows: it is not zero.
-
-[[gnu::noinline]] void* operator new(std::size_t size)
-{
-    if (void* const pMemory = std::malloc(size > 0 ? size : 1))
-        return std::memset(pMemory, 0xA5, size);
-    throw std::bad_alloc();
-}
-
-[[gnu::noinline]] void operator delete(void* pMemory) noexcept
-{
-    std::free(pMemory);
-}
-
-[[gnu::noinline]] void operator delete(void* pMemory, std::size_t /*size*/) noexcept
-{
-    std::free(pMemory);
-}
 
 namespace vesk
 {
@@ -209,5 +187,5 @@ void GraphicsNodeTest::aVisitorSeesEachNodeDepthFirst()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::GraphicsNodeTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::GraphicsNodeTest);
 #include "GraphicsNodeTest.moc"

@@ -162,5 +162,5 @@ void JournalFileTest::whatWasReadBeforeIsForgotten()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::JournalFileTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::JournalFileTest);
 #include "JournalFileTest.moc"

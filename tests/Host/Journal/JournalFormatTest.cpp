@@ -487,5 +487,5 @@ void JournalFormatTest::aBadLineIsTold()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::JournalFormatTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::JournalFormatTest);
 #include "JournalFormatTest.moc"

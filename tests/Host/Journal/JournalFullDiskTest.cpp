@@ -203,5 +203,5 @@ void JournalFullDiskTest::aFileThatBeginsAnewDoesNotGetWhatItMissed()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::JournalFullDiskTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::JournalFullDiskTest);
 #include "JournalFullDiskTest.moc"

@@ -50,5 +50,5 @@ void JournalLocaleTest::numbersAreTheSameInEveryLocale()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::JournalLocaleTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::JournalLocaleTest);
 #include "JournalLocaleTest.moc"

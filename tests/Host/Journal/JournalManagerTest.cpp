@@ -360,5 +360,5 @@ void JournalManagerTest::withoutAFactoryThereIsNoUiObject()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::JournalManagerTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::JournalManagerTest);
 #include "JournalManagerTest.moc"

@@ -266,5 +266,5 @@ void JournalOpeningTest::whereTheOtherFileCannotBeWrittenNothingIsKept()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::JournalOpeningTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::JournalOpeningTest);
 #include "JournalOpeningTest.moc"

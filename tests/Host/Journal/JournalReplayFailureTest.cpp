@@ -153,5 +153,5 @@ void JournalReplayFailureTest::aCommandThatCannotDoWhatItsParametersSayIsAFailur
 
 }
 
-QTEST_APPLESS_MAIN(vesk::JournalReplayFailureTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::JournalReplayFailureTest);
 #include "JournalReplayFailureTest.moc"

@@ -466,5 +466,5 @@ void JournalReplayerTest::aReplayWritesTheJournalOfItsOwn()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::JournalReplayerTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::JournalReplayerTest);
 #include "JournalReplayerTest.moc"

@@ -320,5 +320,5 @@ void OutputFileAnswersTest::aFileInUseIsLeft()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::OutputFileAnswersTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::OutputFileAnswersTest);
 #include "OutputFileAnswersTest.moc"

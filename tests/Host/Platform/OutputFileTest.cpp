@@ -237,5 +237,5 @@ void OutputFileTest::withoutAFileNothingIsDone()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::OutputFileTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::OutputFileTest);
 #include "OutputFileTest.moc"

@@ -305,5 +305,5 @@ void NumberValidatorTest::theTipFollowsTheBounds()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::NumberValidatorTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::NumberValidatorTest);
 #include "NumberValidatorTest.moc"

@@ -333,5 +333,5 @@ void ModelViewTest::whatIsNoUsefulNumberChangesNothing()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::ModelViewTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::ModelViewTest);
 #include "ModelViewTest.moc"

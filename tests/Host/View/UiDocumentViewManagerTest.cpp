@@ -191,5 +191,5 @@ void UiDocumentViewManagerTest::nullAndSecondAdditionsAreIgnored()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::UiDocumentViewManagerTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::UiDocumentViewManagerTest);
 #include "UiDocumentViewManagerTest.moc"

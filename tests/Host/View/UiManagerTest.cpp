@@ -62,5 +62,5 @@ void UiManagerTest::theInstalledMainWindowIsFoundUntilItIsRemoved()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::UiManagerTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::UiManagerTest);
 #include "UiManagerTest.moc"

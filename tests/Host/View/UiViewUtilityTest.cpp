@@ -146,5 +146,5 @@ void UiViewUtilityTest::aWidthInPixelsIsAWorldWidth()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::UiViewUtilityTest)
+VESK_TESTS_WITHOUT_APPLICATION(vesk::UiViewUtilityTest);
 #include "UiViewUtilityTest.moc"

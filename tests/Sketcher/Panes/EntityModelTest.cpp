@@ -281,5 +281,5 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(EntityModelTest)
+VESK_TESTS_WITHOUT_WINDOWS(EntityModelTest);
 #include "EntityModelTest.moc"

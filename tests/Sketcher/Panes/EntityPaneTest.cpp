@@ -313,5 +313,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(EntityPaneTest)
+VESK_TESTS(EntityPaneTest);
 #include "EntityPaneTest.moc"

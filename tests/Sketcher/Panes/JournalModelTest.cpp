@@ -171,5 +171,5 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(JournalModelTest)
+VESK_TESTS_WITHOUT_WINDOWS(JournalModelTest);
 #include "JournalModelTest.moc"

@@ -177,5 +177,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(JournalPaneTest)
+VESK_TESTS(JournalPaneTest);
 #include "JournalPaneTest.moc"

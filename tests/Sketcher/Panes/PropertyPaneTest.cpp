@@ -334,5 +334,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(PropertyPaneTest)
+VESK_TESTS(PropertyPaneTest);
 #include "PropertyPaneTest.moc"

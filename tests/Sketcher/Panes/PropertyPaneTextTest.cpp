@@ -244,5 +244,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(PropertyPaneTextTest)
+VESK_TESTS(PropertyPaneTextTest);
 #include "PropertyPaneTextTest.moc"

@@ -99,5 +99,5 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(RecordTextTest)
+VESK_TESTS_WITHOUT_WINDOWS(RecordTextTest);
 #include "RecordTextTest.moc"

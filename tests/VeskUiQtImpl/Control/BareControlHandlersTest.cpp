@@ -256,5 +256,5 @@ void BareControlHandlersTest::groupReportsWhatItNeedsForAButton()
 
 }
 
-QTEST_MAIN(vesk::test::BareControlHandlersTest)
+VESK_TESTS(vesk::test::BareControlHandlersTest);
 #include "BareControlHandlersTest.moc"

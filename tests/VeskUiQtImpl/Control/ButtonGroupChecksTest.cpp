@@ -319,5 +319,5 @@ void ButtonGroupChecksTest::checkedStateComesBeforeTheOthers()
 
 }
 
-QTEST_MAIN(vesk::test::ButtonGroupChecksTest)
+VESK_TESTS(vesk::test::ButtonGroupChecksTest);
 #include "ButtonGroupChecksTest.moc"

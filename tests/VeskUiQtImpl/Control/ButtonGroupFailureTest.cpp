@@ -396,5 +396,5 @@ void ButtonGroupFailureTest::groupWithoutParentAnswersItsDefinition()
 
 }
 
-QTEST_MAIN(vesk::test::ButtonGroupFailureTest)
+VESK_TESTS(vesk::test::ButtonGroupFailureTest);
 #include "ButtonGroupFailureTest.moc"

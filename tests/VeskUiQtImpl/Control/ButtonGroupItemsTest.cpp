@@ -283,5 +283,5 @@ void ButtonGroupItemsTest::clearingLetsIdsBeginAnew()
 
 }
 
-QTEST_MAIN(vesk::test::ButtonGroupItemsTest)
+VESK_TESTS(vesk::test::ButtonGroupItemsTest);
 #include "ButtonGroupItemsTest.moc"

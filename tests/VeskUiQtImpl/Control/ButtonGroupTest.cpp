@@ -307,5 +307,5 @@ void ButtonGroupTest::CheckThatOtherEventsAreIgnored()
 
 }
 
-QTEST_MAIN(vesk::test::ButtonGroupTest)
+VESK_TESTS(vesk::test::ButtonGroupTest);
 #include "ButtonGroupTest.moc"

@@ -305,5 +305,5 @@ void ControlLayoutTest::theBaseForOthersIsAbstractAndAddsNothing()
 
 }
 
-QTEST_MAIN(vesk::test::ControlLayoutTest)
+VESK_TESTS(vesk::test::ControlLayoutTest);
 #include "ControlLayoutTest.moc"

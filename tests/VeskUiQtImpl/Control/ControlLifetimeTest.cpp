@@ -320,5 +320,5 @@ void ControlLifetimeTest::lineEditMayDieWhileItHasTheFocus()
 
 }
 
-QTEST_MAIN(vesk::test::ControlLifetimeTest)
+VESK_TESTS(vesk::test::ControlLifetimeTest);
 #include "ControlLifetimeTest.moc"

@@ -393,5 +393,5 @@ void ControlStatesTest::controlMayDieWhileARefreshShowsIt()
 
 }
 
-QTEST_MAIN(vesk::test::ControlStatesTest)
+VESK_TESTS(vesk::test::ControlStatesTest);
 #include "ControlStatesTest.moc"

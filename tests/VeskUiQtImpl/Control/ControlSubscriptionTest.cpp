@@ -252,5 +252,5 @@ void ControlSubscriptionTest::hearsTheUserBeforeItSubscribes()
 
 }
 
-QTEST_MAIN(vesk::test::ControlSubscriptionTest)
+VESK_TESTS(vesk::test::ControlSubscriptionTest);
 #include "ControlSubscriptionTest.moc"

@@ -437,5 +437,5 @@ void ItemControlLifetimeTest::menuMayDieInTheCommandOfItsMainPart()
 
 }
 
-QTEST_MAIN(vesk::test::ItemControlLifetimeTest)
+VESK_TESTS(vesk::test::ItemControlLifetimeTest);
 #include "ItemControlLifetimeTest.moc"

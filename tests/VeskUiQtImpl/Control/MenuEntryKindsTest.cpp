@@ -284,5 +284,5 @@ void MenuEntryKindsTest::everyEntryIsUncheckedBeforeOneIsChecked()
 
 }
 
-QTEST_MAIN(vesk::test::MenuEntryKindsTest)
+VESK_TESTS(vesk::test::MenuEntryKindsTest);
 #include "MenuEntryKindsTest.moc"

@@ -247,5 +247,5 @@ void MenuRefreshTest::entriesAreAskedForInOrderOnceTheButtonIsDisabled()
 
 }
 
-QTEST_MAIN(vesk::test::MenuRefreshTest)
+VESK_TESTS(vesk::test::MenuRefreshTest);
 #include "MenuRefreshTest.moc"

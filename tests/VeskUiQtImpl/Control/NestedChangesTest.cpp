@@ -452,5 +452,5 @@ void NestedChangesTest::aControlMadeWhileChangesWaitHearsThemOnce()
 
 }
 
-QTEST_MAIN(vesk::test::NestedChangesTest)
+VESK_TESTS(vesk::test::NestedChangesTest);
 #include "NestedChangesTest.moc"

@@ -105,5 +105,5 @@ void NoCommandManagerTest::entriesOfAMenuKeepTheirStates()
 
 }
 
-QTEST_MAIN(vesk::test::NoCommandManagerTest)
+VESK_TESTS(vesk::test::NoCommandManagerTest);
 #include "NoCommandManagerTest.moc"

@@ -256,5 +256,5 @@ void QtButtonChangeTest::reportsMissingArguments()
 
 }
 
-QTEST_MAIN(vesk::test::QtButtonChangeTest)
+VESK_TESTS(vesk::test::QtButtonChangeTest);
 #include "QtButtonChangeTest.moc"

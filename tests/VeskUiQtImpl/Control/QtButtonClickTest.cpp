@@ -315,5 +315,5 @@ void QtButtonClickTest::clickAfterAStatusUpdateNegatesTheAction()
 
 }
 
-QTEST_MAIN(vesk::test::QtButtonClickTest)
+VESK_TESTS(vesk::test::QtButtonClickTest);
 #include "QtButtonClickTest.moc"

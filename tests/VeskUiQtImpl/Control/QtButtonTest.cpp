@@ -260,5 +260,5 @@ void QtButtonTest::statusUpdateEnablesBeforeItChecks()
 
 }
 
-QTEST_MAIN(vesk::test::QtButtonTest)
+VESK_TESTS(vesk::test::QtButtonTest);
 #include "QtButtonTest.moc"

@@ -340,5 +340,5 @@ void QtCheckBoxGroupTest::aThousandChangesOfTheHostAreNoneOfTheUser()
 
 }
 
-QTEST_MAIN(vesk::test::QtCheckBoxGroupTest)
+VESK_TESTS(vesk::test::QtCheckBoxGroupTest);
 #include "QtCheckBoxGroupTest.moc"

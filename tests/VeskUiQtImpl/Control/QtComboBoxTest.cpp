@@ -349,5 +349,5 @@ void QtComboBoxTest::withoutDefinitionItNeverChanges()
 
 }
 
-QTEST_MAIN(vesk::test::QtComboBoxTest)
+VESK_TESTS(vesk::test::QtComboBoxTest);
 #include "QtComboBoxTest.moc"

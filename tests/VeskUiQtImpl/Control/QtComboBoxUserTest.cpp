@@ -346,5 +346,5 @@ void QtComboBoxUserTest::definitionAndBoxAgreeAfterChangesOfBothSides()
 
 }
 
-QTEST_MAIN(vesk::test::QtComboBoxUserTest)
+VESK_TESTS(vesk::test::QtComboBoxUserTest);
 #include "QtComboBoxUserTest.moc"

@@ -406,5 +406,5 @@ void QtCommandButtonMenuCommandTest::statusUpdateWithoutAMenuIsOfTheButtonOnly()
 
 }
 
-QTEST_MAIN(vesk::test::QtCommandButtonMenuCommandTest)
+VESK_TESTS(vesk::test::QtCommandButtonMenuCommandTest);
 #include "QtCommandButtonMenuCommandTest.moc"

@@ -414,5 +414,5 @@ void QtCommandButtonMenuTest::withoutDefinitionItNeverChanges()
 
 }
 
-QTEST_MAIN(vesk::test::QtCommandButtonMenuTest)
+VESK_TESTS(vesk::test::QtCommandButtonMenuTest);
 #include "QtCommandButtonMenuTest.moc"

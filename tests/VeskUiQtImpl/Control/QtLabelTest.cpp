@@ -274,5 +274,5 @@ void QtLabelTest::withoutDefinitionItNeverChanges()
 
 }
 
-QTEST_MAIN(vesk::test::QtLabelTest)
+VESK_TESTS(vesk::test::QtLabelTest);
 #include "QtLabelTest.moc"

@@ -269,5 +269,5 @@ void QtLineEditChangeTest::reportsMissingArguments()
 
 }
 
-QTEST_MAIN(vesk::test::QtLineEditChangeTest)
+VESK_TESTS(vesk::test::QtLineEditChangeTest);
 #include "QtLineEditChangeTest.moc"

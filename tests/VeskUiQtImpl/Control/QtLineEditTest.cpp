@@ -331,5 +331,5 @@ void QtLineEditTest::withoutDefinitionClearingEmptiesTheWidgetAndReports()
 
 }
 
-QTEST_MAIN(vesk::test::QtLineEditTest)
+VESK_TESTS(vesk::test::QtLineEditTest);
 #include "QtLineEditTest.moc"

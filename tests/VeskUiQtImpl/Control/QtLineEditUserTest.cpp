@@ -330,5 +330,5 @@ void QtLineEditUserTest::foreignDefinitionIsShownAndEditedButNotMarked()
 
 }
 
-QTEST_MAIN(vesk::test::QtLineEditUserTest)
+VESK_TESTS(vesk::test::QtLineEditUserTest);
 #include "QtLineEditUserTest.moc"

@@ -226,5 +226,5 @@ void QtLineEditWriteTest::selectingInAForeignDefinitionIsReported()
 
 }
 
-QTEST_MAIN(vesk::test::QtLineEditWriteTest)
+VESK_TESTS(vesk::test::QtLineEditWriteTest);
 #include "QtLineEditWriteTest.moc"

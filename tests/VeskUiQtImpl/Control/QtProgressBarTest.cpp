@@ -345,5 +345,5 @@ void QtProgressBarTest::withoutDefinitionItNeverChanges()
 
 }
 
-QTEST_MAIN(vesk::test::QtProgressBarTest)
+VESK_TESTS(vesk::test::QtProgressBarTest);
 #include "QtProgressBarTest.moc"

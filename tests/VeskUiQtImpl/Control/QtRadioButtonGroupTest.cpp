@@ -400,5 +400,5 @@ void QtRadioButtonGroupTest::aThousandChangesOfTheHostAreNoneOfTheUser()
 
 }
 
-QTEST_MAIN(vesk::test::QtRadioButtonGroupTest)
+VESK_TESTS(vesk::test::QtRadioButtonGroupTest);
 #include "QtRadioButtonGroupTest.moc"

@@ -251,5 +251,5 @@ private slots:
 
 }
 
-QTEST_MAIN(vesk::test::RandomChangesTest)
+VESK_TESTS(vesk::test::RandomChangesTest);
 #include "RandomChangesTest.moc"

@@ -387,5 +387,5 @@ void VeskControlFactoryTest::groupsNeedAParentWindow()
 
 }
 
-QTEST_MAIN(vesk::test::VeskControlFactoryTest)
+VESK_TESTS(vesk::test::VeskControlFactoryTest);
 #include "VeskControlFactoryTest.moc"

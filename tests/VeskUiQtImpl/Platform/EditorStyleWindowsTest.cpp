@@ -51,5 +51,5 @@ void EditorStyleWindowsTest::theNextHandlerKeepsTheStyleOfTheEditor()
 
 }
 
-QTEST_MAIN(vesk::test::EditorStyleWindowsTest)
+VESK_TESTS(vesk::test::EditorStyleWindowsTest);
 #include "EditorStyleWindowsTest.moc"

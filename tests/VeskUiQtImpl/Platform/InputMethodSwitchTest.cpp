@@ -220,5 +220,5 @@ void InputMethodSwitchTest::handlerThatLostTheWindowIsNotCountedAnyMore()
 
 }
 
-QTEST_MAIN(vesk::test::InputMethodSwitchTest)
+VESK_TESTS(vesk::test::InputMethodSwitchTest);
 #include "InputMethodSwitchTest.moc"

@@ -96,5 +96,5 @@ void InputMethodSwitchWindowsTest::aWindowWithoutContextIsLeftWithoutOne()
 
 }
 
-QTEST_MAIN(vesk::test::InputMethodSwitchWindowsTest)
+VESK_TESTS(vesk::test::InputMethodSwitchWindowsTest);
 #include "InputMethodSwitchWindowsTest.moc"

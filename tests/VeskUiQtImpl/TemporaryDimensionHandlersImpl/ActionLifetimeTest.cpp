@@ -196,5 +196,5 @@ void ActionLifetimeTest::firstOfThemMayGoInsideACall()
 
 }
 
-QTEST_MAIN(vesk::test::ActionLifetimeTest)
+VESK_TESTS(vesk::test::ActionLifetimeTest);
 #include "ActionLifetimeTest.moc"

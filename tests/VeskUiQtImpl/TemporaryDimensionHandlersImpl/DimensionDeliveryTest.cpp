@@ -132,5 +132,5 @@ void DimensionDeliveryTest::escapeGoesToTheViewOfTheHandler()
 
 }
 
-QTEST_MAIN(vesk::test::DimensionDeliveryTest)
+VESK_TESTS(vesk::test::DimensionDeliveryTest);
 #include "DimensionDeliveryTest.moc"

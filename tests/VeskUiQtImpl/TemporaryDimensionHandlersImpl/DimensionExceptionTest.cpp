@@ -49,5 +49,5 @@ void DimensionExceptionTest::anInputThatCouldNotBeOpenedIsNone()
 
 }
 
-QTEST_MAIN(vesk::test::DimensionExceptionTest)
+VESK_TESTS(vesk::test::DimensionExceptionTest);
 #include "DimensionExceptionTest.moc"

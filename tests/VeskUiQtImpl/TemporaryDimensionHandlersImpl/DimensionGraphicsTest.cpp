@@ -141,5 +141,5 @@ void DimensionGraphicsTest::cannotBePicked()
 
 }
 
-QTEST_MAIN(vesk::test::DimensionGraphicsTest)
+VESK_TESTS(vesk::test::DimensionGraphicsTest);
 #include "DimensionGraphicsTest.moc"

@@ -434,5 +434,5 @@ void DimensionHandlerBaseTest::withoutAViewManagerThereIsNoView()
 
 }
 
-QTEST_MAIN(vesk::test::DimensionHandlerBaseTest)
+VESK_TESTS(vesk::test::DimensionHandlerBaseTest);
 #include "DimensionHandlerBaseTest.moc"

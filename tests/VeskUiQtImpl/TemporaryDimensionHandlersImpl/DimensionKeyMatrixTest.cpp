@@ -224,5 +224,5 @@ void DimensionKeyMatrixTest::keysDoWhatTheKindIsTold()
 
 }
 
-QTEST_MAIN(vesk::test::DimensionKeyMatrixTest)
+VESK_TESTS(vesk::test::DimensionKeyMatrixTest);
 #include "DimensionKeyMatrixTest.moc"

@@ -329,5 +329,5 @@ void DimensionKeysTest::tabIsSwallowedWithoutInputToo()
 
 }
 
-QTEST_MAIN(vesk::test::DimensionKeysTest)
+VESK_TESTS(vesk::test::DimensionKeysTest);
 #include "DimensionKeysTest.moc"

@@ -229,5 +229,5 @@ void DimensionOpeningTest::openingIsThatOfTheKey()
 
 }
 
-QTEST_MAIN(vesk::test::DimensionOpeningTest)
+VESK_TESTS(vesk::test::DimensionOpeningTest);
 #include "DimensionOpeningTest.moc"

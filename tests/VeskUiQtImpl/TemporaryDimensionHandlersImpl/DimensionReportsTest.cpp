@@ -412,5 +412,5 @@ void DimensionReportsTest::reportsNameTheirPlace()
 
 }
 
-QTEST_MAIN(vesk::test::DimensionReportsTest)
+VESK_TESTS(vesk::test::DimensionReportsTest);
 #include "DimensionReportsTest.moc"

@@ -440,5 +440,5 @@ void DimensionValueTest::rawTextInAWrongStateEndsTheValidationToo()
 
 }
 
-QTEST_MAIN(vesk::test::DimensionValueTest)
+VESK_TESTS(vesk::test::DimensionValueTest);
 #include "DimensionValueTest.moc"

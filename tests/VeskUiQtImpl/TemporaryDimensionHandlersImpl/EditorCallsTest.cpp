@@ -490,5 +490,5 @@ void EditorCallsTest::viewKeysReachTheObjectWithTheirModifiers()
 
 }
 
-QTEST_MAIN(vesk::test::EditorCallsTest)
+VESK_TESTS(vesk::test::EditorCallsTest);
 #include "EditorCallsTest.moc"

@@ -374,5 +374,5 @@ void EditorKeyDeathTest::readyEditorMayDieOnceItIsShown()
 
 }
 
-QTEST_MAIN(vesk::test::EditorKeyDeathTest)
+VESK_TESTS(vesk::test::EditorKeyDeathTest);
 #include "EditorKeyDeathTest.moc"

@@ -199,5 +199,5 @@ void EditorPlaceTest::placingInAnUnknownStateIsReported()
 
 }
 
-QTEST_MAIN(vesk::test::EditorPlaceTest)
+VESK_TESTS(vesk::test::EditorPlaceTest);
 #include "EditorPlaceTest.moc"

@@ -125,5 +125,5 @@ void EditorReuseTest::aTextIsWrittenEvenIfItStandsThere()
 
 }
 
-QTEST_MAIN(vesk::test::EditorReuseTest)
+VESK_TESTS(vesk::test::EditorReuseTest);
 #include "EditorReuseTest.moc"

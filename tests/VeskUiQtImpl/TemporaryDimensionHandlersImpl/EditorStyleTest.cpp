@@ -94,5 +94,5 @@ void EditorStyleTest::theStyleOfAChildIsNotTheEditors()
 
 }
 
-QTEST_MAIN(vesk::test::EditorStyleTest)
+VESK_TESTS(vesk::test::EditorStyleTest);
 #include "EditorStyleTest.moc"

@@ -161,5 +161,5 @@ void HandlerLayoutTest::whatTheEditorCallsIsASlot()
 
 }
 
-QTEST_MAIN(vesk::test::HandlerLayoutTest)
+VESK_TESTS(vesk::test::HandlerLayoutTest);
 #include "HandlerLayoutTest.moc"

@@ -472,5 +472,5 @@ void HandlerLifetimeTest::oldHandlerKeepsOutOfTheReturnOfTheNewOne()
 
 }
 
-QTEST_MAIN(vesk::test::HandlerLifetimeTest)
+VESK_TESTS(vesk::test::HandlerLifetimeTest);
 #include "HandlerLifetimeTest.moc"

@@ -168,5 +168,5 @@ void LinearDimensionGraphicsTest::failedConfigurationChangesNoFlags()
 
 }
 
-QTEST_MAIN(vesk::test::LinearDimensionGraphicsTest)
+VESK_TESTS(vesk::test::LinearDimensionGraphicsTest);
 #include "LinearDimensionGraphicsTest.moc"

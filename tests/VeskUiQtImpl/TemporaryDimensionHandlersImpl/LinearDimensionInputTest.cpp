@@ -217,5 +217,5 @@ void LinearDimensionInputTest::afterRawTextNumbersAreStillJudged()
 
 }
 
-QTEST_MAIN(vesk::test::LinearDimensionInputTest)
+VESK_TESTS(vesk::test::LinearDimensionInputTest);
 #include "LinearDimensionInputTest.moc"

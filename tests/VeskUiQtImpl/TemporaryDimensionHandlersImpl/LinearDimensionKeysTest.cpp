@@ -295,5 +295,5 @@ void LinearDimensionKeysTest::lettersArriveInLowerCase()
 
 }
 
-QTEST_MAIN(vesk::test::LinearDimensionKeysTest)
+VESK_TESTS(vesk::test::LinearDimensionKeysTest);
 #include "LinearDimensionKeysTest.moc"

@@ -204,5 +204,5 @@ void RadiusDimensionTest::whatIsNoNumberCountsAsZero()
 
 }
 
-QTEST_MAIN(vesk::test::RadiusDimensionTest)
+VESK_TESTS(vesk::test::RadiusDimensionTest);
 #include "RadiusDimensionTest.moc"

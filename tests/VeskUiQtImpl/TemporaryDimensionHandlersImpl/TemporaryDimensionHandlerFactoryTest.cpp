@@ -311,5 +311,5 @@ void TemporaryDimensionHandlerFactoryTest::operationsHaveTheirSlotsAndThereAreNo
 
 }
 
-QTEST_MAIN(vesk::test::TemporaryDimensionHandlerFactoryTest)
+VESK_TESTS(vesk::test::TemporaryDimensionHandlerFactoryTest);
 #include "TemporaryDimensionHandlerFactoryTest.moc"

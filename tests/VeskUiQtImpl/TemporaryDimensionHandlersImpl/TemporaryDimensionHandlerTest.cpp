@@ -484,5 +484,5 @@ void TemporaryDimensionHandlerTest::valuesAreShownWithThreeDecimalsWhenValidated
 
 }
 
-QTEST_MAIN(vesk::test::TemporaryDimensionHandlerTest)
+VESK_TESTS(vesk::test::TemporaryDimensionHandlerTest);
 #include "TemporaryDimensionHandlerTest.moc"
