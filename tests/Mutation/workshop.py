@@ -11,6 +11,7 @@ import hashlib
 import json
 import os
 import pathlib
+import re
 import shlex
 import shutil
 import signal
@@ -36,8 +37,10 @@ class Problem(Exception):
 
 @dataclasses.dataclass
 class Program:
-    """A test program, and what it takes when nothing is wrong."""
+    """A run of a test program, and what it takes when nothing is wrong."""
     name: str
+    target: str
+    arguments: list
     folder: str
     label: str
     environment: dict
@@ -124,28 +127,33 @@ def prepare():
         raise Problem("cannot be configured:\n" + result.stdout[-2000:])
 
 
-def targets():
-    """The names of all that can be built."""
-    result = run(["ninja", "-C", str(BUILD), "-t", "targets", "all"])
-    return {line.partition(":")[0] for line in result.stdout.splitlines()}
+def commands_of_tests():
+    """The program that each test runs and its arguments; ctest does not tell them before the program is built."""
+    line = re.compile(r'^add_test\(\[=\[(.+)\]=\] "([^"]+)"(.*)\)$', re.MULTILINE)
+    texts = (path.read_text(encoding="utf-8") for path in (BUILD / "tests").rglob("CTestTestfile.cmake"))
+    return {name: (pathlib.Path(program).name, shlex.split(arguments))
+            for text in texts for name, program, arguments in line.findall(text)}
 
 
 def programs():
-    """All test programs by name; not those that only run another one under other conditions."""
-    buildable = targets()
+    """All runs of test programs by name."""
+    commands = commands_of_tests()
     result = run(["ctest", "--test-dir", str(BUILD), "--show-only=json-v1"])
     if result.returncode != 0:
         raise Problem("the tests cannot be listed:\n" + result.stdout[-2000:])
     found = {}
     for test in json.loads(result.stdout)["tests"]:
-        if test["name"] not in buildable:
-            continue
+        name = test["name"]
         properties = {entry["name"]: entry["value"] for entry in test["properties"]}
         folder = pathlib.Path(properties["WORKING_DIRECTORY"]).relative_to(BUILD / "tests")
         variables = dict(line.split("=", 1) for line in properties.get("ENVIRONMENT", []))
         label = properties.get("LABELS", [""])[0]
-        found[test["name"]] = Program(test["name"], str(folder), label, variables)
+        found[name] = Program(name, *commands[name], str(folder), label, variables)
     return found
+
+
+def targets_of(programs):
+    return sorted({program.target for program in programs})
 
 
 def compile_commands():
@@ -200,7 +208,7 @@ def execute(program, variables=None, checker="", allowance=1):
     """
     wall = (20 + 10 * program.seconds) * allowance * (30 if checker else 1)
     cpu = (10 + 10 * program.cpu) * allowance * (30 if checker else 1)
-    command = (MEMCHECK if checker == "memory" else []) + [str(BUILD / "tests" / program.name)]
+    command = (MEMCHECK if checker == "memory" else []) + [str(BUILD / "tests" / program.target), *program.arguments]
     with tempfile.TemporaryDirectory(dir=WORK, prefix="home-") as home:
         settings = dict(environment(), **program.environment, HOME=home, TMPDIR=home, **(variables or {}))
         started = time.monotonic()

@@ -85,9 +85,9 @@ char* toString(
 
 }
 
-#include "Support/TestProgram.h"
-
 #include <QtTest>
+
+#include "Support/TestProgram.h"
 
 // How long a test waits for what must come: only one that fails waits so long, and no machine is
 // too slow.

@@ -1,0 +1,48 @@
+#include "Support/TestValues.h"
+
+#include <cstring>
+#include <iostream>
+#include <map>
+#include <string>
+
+namespace vesk::test
+{
+namespace
+{
+
+/// Entries are made before main() begins, in no certain order.
+std::map<std::string, TestEntry::Run>& Entries()
+{
+    static std::map<std::string, TestEntry::Run> s_entries;
+    return s_entries;
+}
+
+}
+
+TestEntry::TestEntry(const char* name, Run run)
+{
+    const char* colon = std::strrchr(name, ':');
+    Entries().emplace(colon != nullptr ? colon + 1 : name, run);
+}
+
+int TestEntry::Main(int argc, char* argv[])
+{
+    const auto found = argc > 1 ? Entries().find(argv[1]) : Entries().end();
+    if (found == Entries().end())
+    {
+        std::cerr << "Name one of these, and then what Qt Test is to be told:\n";
+        for (const auto& [name, run] : Entries())
+            std::cerr << "  " << name << '\n';
+        return 2;
+    }
+    for (int i = 1; i < argc; ++i)
+        argv[i] = argv[i + 1];
+    return found->second(argc - 1, argv);
+}
+
+}
+
+int main(int argc, char* argv[])
+{
+    return vesk::test::TestEntry::Main(argc, argv);
+}
