@@ -88,6 +88,36 @@ private slots:
         QVERIFY(!f.Type("5").Note("InputKeys").isEmpty());
     }
 
+    void keyOfTheEditorIsItsOwnWhileTheViewHasTheFocus()
+    {
+        InputFixture f(Linear());
+        f.host.view.setFocus();
+        QCOMPARE(f.host.window.focusWidget(), &f.host.view);
+
+        f.Type("57");
+
+        QCOMPARE(f.Editor()->text(), QString("57"));
+        QVERIFY(f.host.view.GetKeys().empty());
+    }
+
+    void escapeCountsAgainOnceItWasReleased()
+    {
+        InputFixture f(Linear());
+        ActionManager::Reset();
+        const auto press = [&f](ulong time) {
+            QKeyEvent event(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+            event.setTimestamp(time);
+            return !f.controller.OnViewKey(event);
+        };
+        QKeyEvent release(QEvent::KeyRelease, Qt::Key_Escape, Qt::NoModifier);
+        release.setTimestamp(1350);
+
+        QVERIFY(press(1000));
+        QVERIFY(!press(1300));
+        QCoreApplication::sendEvent(&f.host.view, &release);
+        QVERIFY(press(1400));
+    }
+
     void modifiersAreToldToTheHandler_data()
     {
         QTest::addColumn<int>("modifiers");

@@ -59,6 +59,7 @@ private slots:
     void aPaneIsNoSmallerThanItsContent();
     void aPanesOwnLeastSizeIsLeft();
     void namesOfForeignDocksAreLeft();
+    void aFloatingPaneComesUpAfterTheWindow();
     void anUnusableLayoutGivesTheFactoryLayout();
     void aPaneThatLeftTheManagerIsNobodysAnyMore();
     void showingAndHidingIsTold();
@@ -267,6 +268,7 @@ void PaneLayoutTest::aPaneIsNoSmallerThanItsContent()
     run.window.resizeDocks({run.Pane("D")}, {10}, Qt::Horizontal);
     Run::Settle();
     QVERIFY(run.Pane("D")->width() >= 333);
+    QCOMPARE(pContent->minimumWidth(), 0);
 
     pInner->setMinimumWidth(0);
     Run::Settle();
@@ -305,6 +307,22 @@ void PaneLayoutTest::namesOfForeignDocksAreLeft()
     QCOMPARE(pForeign->objectName(), QString("foreign"));
     QCOMPARE(pNested->objectName(), QString("nested"));
     QCOMPARE(run.window.dockWidgetArea(pForeign), Qt::LeftDockWidgetArea);
+}
+
+void PaneLayoutTest::aFloatingPaneComesUpAfterTheWindow()
+{
+    Run run;
+    run.Arrange();
+    const QByteArray saved = run.pLayout->Save();
+    Run next;
+    next.window.hide();
+
+    QVERIFY(next.pLayout->Restore(saved));
+    QVERIFY(!next.Pane("D")->isVisible());
+    next.window.show();
+
+    QTRY_VERIFY(next.Pane("D")->isVisible());
+    QVERIFY(next.Pane("D")->isFloating());
 }
 
 void PaneLayoutTest::anUnusableLayoutGivesTheFactoryLayout()
