@@ -95,7 +95,7 @@ private slots:
         QTest::newRow("top") << QPoint(50, 0) << QPoint(50, 30) << QPoint(150, 0);
         QTest::newRow("bottom") << QPoint(50, 274) << QPoint(50, 210) << QPoint(150, 240);
         QTest::newRow("left") << QPoint(-20, 40) << QPoint(0, 70) << QPoint(80, 23);
-        QTest::newRow("right") << QPoint(304, 40) << QPoint(180, 70) << QPoint(80, 23);
+        QTest::newRow("right") << QPoint(304, 40) << QPoint(180, 70) << QPoint(180, 70);
     }
 
     void noteAtTheEdgeOfTheViewIsInside()
