@@ -158,6 +158,31 @@ private slots:
         QVERIFY(!f.script.heard[0].isShift);
     }
 
+    void keyThatMeansSomethingIsKeptFromTheWindow_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<int>("modifiers");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("isKept");
+
+        QTest::newRow("digit") << int(Qt::Key_5) << int(Qt::NoModifier) << "5" << true;
+        QTest::newRow("point") << int(Qt::Key_Period) << int(Qt::NoModifier) << "." << true;
+        QTest::newRow("Alt+letter") << int(Qt::Key_P) << int(Qt::AltModifier) << "p" << true;
+        QTest::newRow("Ctrl+letter") << int(Qt::Key_P) << int(Qt::ControlModifier) << "" << false;
+        QTest::newRow("F5") << int(Qt::Key_F5) << int(Qt::NoModifier) << "" << false;
+    }
+
+    void keyThatMeansSomethingIsKeptFromTheWindow()
+    {
+        QFETCH(int, key);
+        QFETCH(int, modifiers);
+        QFETCH(QString, text);
+        InputFixture f(Linear());
+        QKeyEvent press(QEvent::KeyPress, key, Qt::KeyboardModifiers(modifiers), text);
+
+        QTEST(f.controller.OnViewKey(press), "isKept");
+    }
+
     void clickTakesTheValueAsReturnAlone()
     {
         InputFixture f(Linear());
