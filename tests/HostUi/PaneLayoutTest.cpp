@@ -58,6 +58,8 @@ private slots:
     void aRestoredPaneKeepsAUsableSizeInASmallWindow();
     void aPaneIsNoSmallerThanItsContent();
     void aPanesOwnLeastSizeIsLeft();
+    void aContentThatNeedsMoreIsGivenNoLeastSize();
+    void aPaneWithoutContentIsLaidOutToo();
     void namesOfForeignDocksAreLeft();
     void aFloatingPaneComesUpAfterTheWindow();
     void anUnusableLayoutGivesTheFactoryLayout();
@@ -286,6 +288,42 @@ void PaneLayoutTest::aPanesOwnLeastSizeIsLeft()
     Run::Settle();
 
     QCOMPARE(run.Pane("D")->widget()->minimumSize(), QSize(90, 210));
+}
+
+/// What the toolkit complained of.
+static QStringList s_complaints;
+
+void PaneLayoutTest::aContentThatNeedsMoreIsGivenNoLeastSize()
+{
+    Run run;
+    auto* pInner = new QWidget;
+    pInner->setMinimumSize(333, 222);
+    auto* pContent = new QWidget;
+    (new QHBoxLayout(pContent))->addWidget(pInner);
+    run.Pane("D")->setWidget(pContent);
+    s_complaints.clear();
+    const auto note = [](QtMsgType, const QMessageLogContext&, const QString& text) {
+        if (text.startsWith("QWidget::"))
+            s_complaints << text;
+    };
+    const QtMessageHandler previous = qInstallMessageHandler(note);
+
+    run.pLayout->Save();
+
+    qInstallMessageHandler(previous);
+    QCOMPARE(pContent->minimumSize(), QSize(0, 0));
+    QCOMPARE(s_complaints, QStringList());
+}
+
+void PaneLayoutTest::aPaneWithoutContentIsLaidOutToo()
+{
+    Run run;
+    delete run.Pane("D")->widget();
+
+    const QByteArray saved = run.pLayout->Save();
+
+    QVERIFY(run.pLayout->Restore(saved));
+    QVERIFY(run.Pane("D")->isVisible());
 }
 
 void PaneLayoutTest::namesOfForeignDocksAreLeft()
