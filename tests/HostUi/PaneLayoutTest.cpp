@@ -274,6 +274,7 @@ void PaneLayoutTest::aPaneIsNoSmallerThanItsContent()
 
     pInner->setMinimumWidth(0);
     Run::Settle();
+    QCOMPARE(pContent->minimumWidth(), 160);
     run.window.resizeDocks({run.Pane("D")}, {10}, Qt::Horizontal);
     Run::Settle();
     QCOMPARE(run.Pane("D")->width(), 160);
