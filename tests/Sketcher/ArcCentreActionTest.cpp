@@ -177,6 +177,19 @@ private slots:
         QVERIFY(f.IsRepeated());
     }
 
+    void aRadiusThatIsTooSmallIsNotTaken()
+    {
+        Fixture f;
+        f.workspace.snapper.SetOn(Snapper::End, false);
+        f.Begin();
+        f.ClickAt(10, 20);
+
+        f.ClickAt(10 + 5e-7, 20);
+
+        QCOMPARE(f.records.size(), std::size_t{1});
+        QVERIFY(f.Offered<CentralAngleTemporaryDimensionContext>() == nullptr);
+    }
+
     void angleThatGivesNoArcIsRefused_data()
     {
         QTest::addColumn<double>("degrees");
