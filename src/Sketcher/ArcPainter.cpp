@@ -35,7 +35,8 @@ void AddCut(const ScreenArc& arc, double right, double up, std::vector<double>& 
         cuts.push_back(ahead);
 }
 
-/// Where the whole circle crosses the lines through the sides of a rectangle.
+/// Where the whole circle crosses the lines through the sides of a rectangle. Beyond the circle
+/// there is no root, and what is not a number is no cut.
 std::vector<double> CutAtSides(const ScreenArc& arc, const QRectF& rect)
 {
     std::vector<double> cuts = {0.0, std::abs(arc.sweep)};
@@ -44,15 +45,11 @@ std::vector<double> CutAtSides(const ScreenArc& arc, const QRectF& rect)
     };
     for (const double x : {rect.left() - arc.centre.x(), rect.right() - arc.centre.x()})
     {
-        if (std::abs(x) >= arc.radius)
-            continue;
         AddCut(arc, x, across(x), cuts);
         AddCut(arc, x, -across(x), cuts);
     }
     for (const double y : {arc.centre.y() - rect.top(), arc.centre.y() - rect.bottom()})
     {
-        if (std::abs(y) >= arc.radius)
-            continue;
         AddCut(arc, across(y), y, cuts);
         AddCut(arc, -across(y), y, cuts);
     }
@@ -105,9 +102,9 @@ std::vector<ArcPart> ClipArc(const ScreenArc& arc, const QRectF& rect)
     const QRectF square = SquareAround(arc);
     if (rect.contains(square))
         return {{0.0, std::abs(arc.sweep)}};
-    std::vector<ArcPart> parts;
     if (!rect.intersects(square))
-        return parts;
+        return {};
+    std::vector<ArcPart> parts;
     const std::vector<double> cuts = CutAtSides(arc, rect);
     for (std::size_t i = 1; i < cuts.size(); ++i)
     {
