@@ -279,7 +279,9 @@ private slots:
 
         QCOMPARE(sketch.Undo(), second);
         QCOMPARE(sketch.GetLastUndone(), second);
+        QVERIFY(sketch.CanUndo());
         QCOMPARE(sketch.Undo(), first);
+        QVERIFY(!sketch.CanUndo());
         QCOMPARE(sketch.Undo(), 0);
 
         QVERIFY(sketch.GetEntities().empty());
