@@ -124,6 +124,25 @@ private slots:
         QVERIFY(f.IsRepeated());
     }
 
+    void aRadiusConfirmedUnchangedIsThatOfTheArcToTheLastBit()
+    {
+        const Vector3d start(-1.0 / 3.0, 0.1, 0);
+        const Vector3d end(7.7, 8.9, 0);
+        for (int i = 1; i <= 20; ++i)
+        {
+            Fixture f;
+            f.Begin();
+            f.ClickAt(start.x(), start.y());
+            f.ClickAt(end.x(), end.y());
+            f.MoveTo(i / 7.0 + 20, i / 3.0 - 9);
+
+            f.Type(ActionViewInput::RadiusCommitted, 1, true);
+
+            const Vector3d cursor(i / 7.0 + 20, i / 3.0 - 9, 0);
+            QCOMPARE_EXACTLY(f.Drawn<ArcShape>().radius, ArcThrough(start, end, cursor)->radius);
+        }
+    }
+
     void aRadiusCanBeTypedBeforeTheMouseMoves_data()
     {
         QTest::addColumn<Vector3d>("start");
