@@ -95,6 +95,19 @@ private slots:
         QVERIFY(f.IsRepeated());
     }
 
+    void theStepOfATypedAngleEndsOnItsArc()
+    {
+        Fixture f;
+        BeginArc(f);
+        f.MoveTo(-30, 5);
+
+        f.Type(ActionViewInput::CentralAngleCommitted, 90);
+
+        const auto* pEnd = std::get_if<PointRecord>(&f.records.back().what);
+        QVERIFY(pEnd != nullptr);
+        QCOMPARE(pEnd->point, Vector3d(10, 25, 0));
+    }
+
     void anAngleThatIsOnlyConfirmedIsNotRounded()
     {
         Fixture f;

@@ -157,18 +157,34 @@ private slots:
         QCOMPARE(CountInked(missing.copy(2, 2, 96, 96)), 0);
     }
 
+    void aCircleHasNoEnds_data()
+    {
+        QTest::addColumn<double>("start");
+
+        QTest::newRow("to the right") << 0.0;
+        QTest::newRow("upwards") << s_turn / 4.0;
+        for (const double start : {0.3, 1.0, 2.5, -2.0, 4.4})
+            QTest::addRow("at %g", start) << start;
+    }
+
+    /// Square ends would stand out beyond the outer edge.
     void aCircleHasNoEnds()
     {
-        const auto paintFrom = [](double start) {
-            QImage image(100, 100, QImage::Format_RGB32);
-            image.fill(Qt::white);
-            QPainter painter(&image);
-            const QPen pen(Qt::black, 9.0, Qt::SolidLine, Qt::SquareCap);
-            PaintArc(painter, pen, {{50, 50}, 12, start, s_turn}, QRectF(0, 0, 100, 100));
-            return image;
-        };
+        QFETCH(double, start);
+        const QPointF centre(50, 50);
+        QImage image(100, 100, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
 
-        QCOMPARE(paintFrom(0.0), paintFrom(s_turn / 4.0));
+        PaintArc(painter, QPen(Qt::black, 11.0, Qt::SolidLine, Qt::SquareCap),
+                 {centre, 6, start, s_turn}, image.rect());
+
+        QVERIFY(CountInked(image) > 300);
+        for (int i = 0; i < 100 * 100; ++i)
+        {
+            const QPointF pixel(i % 100 + 0.5, i / 100 + 0.5);
+            QVERIFY(!IsInked(image, i % 100, i / 100) || QLineF(centre, pixel).length() < 12.0);
+        }
     }
 
     void chordsStayWithinATwentiethOfAPixel()
