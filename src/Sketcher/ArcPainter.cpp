@@ -71,8 +71,6 @@ QPainterPath CurveOf(const ScreenArc& arc, const ArcPart& part)
     QPainterPath path;
     path.arcMoveTo(SquareAround(arc), start);
     path.arcTo(SquareAround(arc), start, direction * Degrees(sweep));
-    if (sweep >= s_turn)
-        path.closeSubpath();
     return path;
 }
 
@@ -83,7 +81,6 @@ QPolygonF PointsOf(const ScreenArc& arc, const ArcPart& part)
     const double step = std::sqrt(8.0 * Deviation / arc.radius);
     const int count = 1 + static_cast<int>((part.to - part.from) / step);
     QPolygonF points;
-    points.reserve(count + 1);
     for (int i = 0; i <= count; ++i)
         points << arc.PointAt(part.from + (part.to - part.from) * i / count);
     return points;
