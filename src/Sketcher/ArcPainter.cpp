@@ -35,7 +35,8 @@ void AddCut(const ScreenArc& arc, double right, double up, std::vector<double>& 
         cuts.push_back(ahead);
 }
 
-/// Where the whole circle crosses the lines through the sides of a rectangle.
+/// Where the whole circle crosses the lines through the sides of a rectangle. Beyond the circle
+/// there is no root, and what is not a number is no cut.
 std::vector<double> CutAtSides(const ScreenArc& arc, const QRectF& rect)
 {
     std::vector<double> cuts = {0.0, std::abs(arc.sweep)};
@@ -44,15 +45,11 @@ std::vector<double> CutAtSides(const ScreenArc& arc, const QRectF& rect)
     };
     for (const double x : {rect.left() - arc.centre.x(), rect.right() - arc.centre.x()})
     {
-        if (std::abs(x) >= arc.radius)
-            continue;
         AddCut(arc, x, across(x), cuts);
         AddCut(arc, x, -across(x), cuts);
     }
     for (const double y : {arc.centre.y() - rect.top(), arc.centre.y() - rect.bottom()})
     {
-        if (std::abs(y) >= arc.radius)
-            continue;
         AddCut(arc, across(y), y, cuts);
         AddCut(arc, -across(y), y, cuts);
     }
@@ -74,8 +71,6 @@ QPainterPath CurveOf(const ScreenArc& arc, const ArcPart& part)
     QPainterPath path;
     path.arcMoveTo(SquareAround(arc), start);
     path.arcTo(SquareAround(arc), start, direction * Degrees(sweep));
-    if (sweep >= s_turn)
-        path.closeSubpath();
     return path;
 }
 
@@ -86,7 +81,6 @@ QPolygonF PointsOf(const ScreenArc& arc, const ArcPart& part)
     const double step = std::sqrt(8.0 * Deviation / arc.radius);
     const int count = 1 + static_cast<int>((part.to - part.from) / step);
     QPolygonF points;
-    points.reserve(count + 1);
     for (int i = 0; i <= count; ++i)
         points << arc.PointAt(part.from + (part.to - part.from) * i / count);
     return points;
@@ -105,9 +99,9 @@ std::vector<ArcPart> ClipArc(const ScreenArc& arc, const QRectF& rect)
     const QRectF square = SquareAround(arc);
     if (rect.contains(square))
         return {{0.0, std::abs(arc.sweep)}};
-    std::vector<ArcPart> parts;
     if (!rect.intersects(square))
-        return parts;
+        return {};
+    std::vector<ArcPart> parts;
     const std::vector<double> cuts = CutAtSides(arc, rect);
     for (std::size_t i = 1; i < cuts.size(); ++i)
     {

@@ -59,7 +59,7 @@ double Distance(const ArcShape& arc, const Vector3d& point)
 {
     const double height = (point - arc.centre).dot(arc.normal);
     const double across = (point - arc.centre - height * arc.normal).norm();
-    if (across == 0.0 || Spans(arc, point))
+    if (Spans(arc, point))
         return std::hypot(across - arc.radius, height);
     return std::min((arc.start - point).norm(), (arc.end - point).norm());
 }

@@ -46,15 +46,18 @@ QStringList MenuTest::KeysToTheButton()
            QStringList{"shift+Tab", "shift+Tab", "shift+Tab", "shift+Tab"};
 }
 
-/// Moves the mouse down to the last entry, which is the sub-menu, and waits until it is open.
+/// Moves the mouse on the last entry, which is the sub-menu, until it is open. A menu pays no heed
+/// to the first move, for the pointer may have been there when it opened; and of moves that a busy
+/// program finds waiting it hears of the last one only.
 bool MenuTest::OpenSubMenu()
 {
-    // Menus pay no heed to the first move: the pointer may have been there when they opened.
     // Without an icon the last entry is not as high as the others.
     const QRect above = Session().Tree().FindEntry(s_zoomOut).value_or(UiControl()).rect;
-    const QPoint below(above.center().x(), above.bottom() + above.height() / 4);
-    return Session().Input().MoveTo(above.center()) && Session().Input().MoveTo(below) &&
-           Session().WaitForEntry(s_double);
+    QPoint place(above.center().x(), above.bottom() + above.height() / 4);
+    return Session().WaitFor([&](const UiTree& tree) {
+        place.rx() ^= 1;
+        return Session().Input().MoveTo(place) && tree.FindEntry(s_double).has_value();
+    });
 }
 
 void MenuTest::entryIsClicked()

@@ -5,6 +5,7 @@
 #include "Command/IAction.h"
 #include "Command/ICommandManager.h"
 #include "Control/CheckBoxGroupDefinition.h"
+#include "Control/ComboBoxDefinition.h"
 #include "Control/CommandButtonDefinition.h"
 #include "Control/ILabelDefinition.h"
 #include "Control/LabelDefinition.h"
@@ -16,6 +17,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QComboBox>
 #include <QEventLoop>
 #include <QLabel>
 #include <QPointer>
@@ -53,6 +55,25 @@ public:
 
 private:
     int m_count = 0;
+};
+
+/// Refreshes the controls when an item is added, as a dialog does that it opens.
+class Refresher final : public IControlDefinitionChangeEventHandler
+{
+public:
+    explicit Refresher(std::function<void()> act) : m_act(std::move(act)) {}
+    void On(IControlDefinitionChangeEventArgs* pArgs) override
+    {
+        if (pArgs->GetType() == ControlDefinitionChangeEventType::Add)
+            m_act();
+        else
+            ++m_otherCount;
+    }
+    int GetOtherCount() const { return m_otherCount; }
+
+private:
+    std::function<void()> m_act;
+    int m_otherCount = 0;
 };
 
 OwnerPtr<IAction> Idle(IUiView*, const CommandParameters&)
@@ -127,20 +148,6 @@ private slots:
 
     void groupThatIsYetToHearOfItsItemsIsRefreshedAfterwards()
     {
-        /// Refreshes the controls as a dialog does that it opens.
-        class Refresher final : public IControlDefinitionChangeEventHandler
-        {
-        public:
-            explicit Refresher(std::function<void()> act) : m_act(std::move(act)) {}
-            void On(IControlDefinitionChangeEventArgs* pArgs) override
-            {
-                if (pArgs->GetType() == ControlDefinitionChangeEventType::Add)
-                    m_act();
-            }
-
-        private:
-            std::function<void()> m_act;
-        };
         auto opDefinition = MakeOwner<CheckBoxGroupDefinition>(L"Group");
         CheckBoxGroupDefinition* pDefinition = opDefinition.Get();
         Refresher refresher([this, pDefinition] {
@@ -158,6 +165,22 @@ private slots:
         QVERIFY(pBox != nullptr);
         QVERIFY(!pBox->isEnabled());
         QCOMPARE(warnings.GetCount(), 0);
+    }
+
+    void listThatIsYetToHearOfItsItemsIsRefreshedAtOnce()
+    {
+        auto opDefinition = MakeOwner<ComboBoxDefinition>(L"Box");
+        ComboBoxDefinition* pDefinition = opDefinition.Get();
+        pDefinition->AddItem(L"a");
+        Refresher refresher([this] { m_pControls->RefreshControls(); });
+        pDefinition->GetControlDefinitionChangeEvent()->Add(&refresher);
+        QWidget* pWidget = m_pControls->Create(std::move(opDefinition));
+        m_pPanel->layout()->addWidget(pWidget);
+
+        pDefinition->AddItem(L"b");
+
+        QCOMPARE(qobject_cast<QComboBox*>(pWidget)->count(), 2);
+        QCOMPARE(refresher.GetOtherCount(), 0);
     }
 
     void buttonWithoutACommandIsHidden()

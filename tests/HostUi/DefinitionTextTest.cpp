@@ -64,6 +64,18 @@ private slots:
         Verify(box, "下拉框", "1/2 100%3");
     }
 
+    void anIndexBehindTheLastItemIsNone()
+    {
+        /// As a host of its own may have it.
+        struct StaleBox final : ComboBoxDefinition
+        {
+            using ComboBoxDefinition::ComboBoxDefinition;
+            int GetCurrentIndex() const override { return 0; }
+        };
+
+        Verify(StaleBox(L"Box"), "下拉框", "0/0 ");
+    }
+
     void aProgressBarSaysItsValue()
     {
         ProgressBarDefinition bar(L"Bar");

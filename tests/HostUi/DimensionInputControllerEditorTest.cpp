@@ -4,7 +4,9 @@
 #include "Dimension/TemporaryDimensionStyle.h"
 #include "Support/TestValues.h"
 
+#include <QCheckBox>
 #include <QCloseEvent>
+#include <QWindow>
 
 #include <memory>
 
@@ -232,6 +234,55 @@ private slots:
 
         QCOMPARE(f.pField->text(), QString("3"));
         QVERIFY(!Manager().IsInputting());
+    }
+
+    void keysOfAClosedEditorAreHeardByThoseWhoWatchTheWindow_data()
+    {
+        QTest::addColumn<QEvent::Type>("type");
+        QTest::newRow("announced") << QEvent::ShortcutOverride;
+        QTest::newRow("pressed") << QEvent::KeyPress;
+        QTest::newRow("released") << QEvent::KeyRelease;
+    }
+
+    void keysOfAClosedEditorAreHeardByThoseWhoWatchTheWindow()
+    {
+        QFETCH(QEvent::Type, type);
+        FieldFixture f;
+        f.Type("77");
+        Manager().EndInput();
+        f.host.view.setFocus();
+        const EventCounter inWindow(*f.host.window.windowHandle(), type);
+        const EventCounter inView(f.host.view, type);
+
+        f.PressInEditor(type, Qt::Key_F10);
+
+        QCOMPARE(inWindow.count, 1);
+        QVERIFY(inView.count > 0);
+    }
+
+    void keysOfAClosedEditorPassByWhatHasTheFocusBesideTheView()
+    {
+        FieldFixture f;
+        QCheckBox box(&f.host.window);
+        box.show();
+        f.Type("77");
+        Manager().EndInput();
+        box.setFocus();
+
+        f.PressInEditor(QEvent::KeyPress, Qt::Key_3, "3");
+
+        QCOMPARE(f.host.view.GetKeys(), std::vector<int>{Qt::Key_3});
+    }
+
+    void releaseInAnOpenEditorIsItsOwn()
+    {
+        FieldFixture f;
+        f.Type("77");
+        const EventCounter inView(f.host.view, QEvent::KeyRelease);
+
+        f.PressInEditor(QEvent::KeyRelease, Qt::Key_3, "3");
+
+        QCOMPARE(inView.count, 0);
     }
 
     void keyOfAnOpenEditorGoesToTheFieldThatWasClicked()

@@ -164,6 +164,28 @@ private slots:
         QVERIFY((after - before).norm() < 1e-9);
     }
 
+    void magnifyingKeepsTheMiddle()
+    {
+        m_pView->Fit({10, 20, 0}, {50, 60, 0});
+        const double before = m_pView->GetCamera().GetWorldPerPixel();
+
+        m_pView->Magnify(2.0);
+
+        QCOMPARE(m_pView->GetCamera().GetWorldPerPixel(), before / 2.0);
+        QVERIFY((m_pView->GetCamera().GetCentre() - Vector3d(30, 40, 0)).norm() < 1e-9);
+    }
+
+    void onlyAMoveOfItsWindowTellsTheCursor()
+    {
+        SendMouse(*m_pView, QEvent::MouseMove, {100, 80}, Qt::NoButton);
+        const QSignalSpy moves(m_pView, &DrawingView::cursorMoved);
+
+        QEvent other(QEvent::WindowTitleChange);
+        QCoreApplication::sendEvent(m_pWindow.get(), &other);
+
+        QCOMPARE(moves.count(), 0);
+    }
+
     void middleButtonPans()
     {
         SendMouse(*m_pView, QEvent::MouseButtonPress, {200, 200}, Qt::MiddleButton);

@@ -5,6 +5,8 @@
 #include <QLabel>
 #include <QMouseEvent>
 
+#include <memory>
+
 using namespace vesk;
 using namespace vesk::test;
 
@@ -116,6 +118,58 @@ private slots:
         f.Type("+2m");
 
         QCOMPARE(pStrip->pos(), place);
+    }
+
+    void onlyTheCursorInTheViewIsKeptOff()
+    {
+        InputFixture f(Linear());
+        f.Type("10cm");
+        const auto* pStrip = f.host.view.findChild<QLabel*>("InputKeys");
+        const QPoint place = pStrip->pos();
+
+        QMouseEvent move(QEvent::MouseMove, pStrip->geometry().center(), Qt::NoButton, Qt::NoButton,
+                         Qt::NoModifier);
+        QCoreApplication::sendEvent(&f.host.window, &move);
+        f.Type("+1m");
+
+        QCOMPARE(pStrip->pos(), place);
+    }
+
+    void otherEventsOfTheViewLeaveTheCursorWhereItIs()
+    {
+        InputFixture f(Linear());
+        f.Type("10cm");
+        const auto* pStrip = f.host.view.findChild<QLabel*>("InputKeys");
+        const QPoint cursor = pStrip->geometry().center();
+        QMouseEvent move(QEvent::MouseMove, cursor, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&f.host.view, &move);
+
+        QEvent other(QEvent::ToolTipChange);
+        QCoreApplication::sendEvent(&f.host.view, &other);
+        f.Type("+1m");
+
+        QVERIFY(!pStrip->geometry().contains(cursor));
+    }
+
+    void notesGoWithTheController()
+    {
+        HostFixture host;
+        TypingScript script = Linear();
+        const TypingHandlerFactory factory(host.view, script);
+        TemporaryDimensionMgr& manager = *TemporaryDimensionMgr::GetInstance();
+        auto pController = std::make_unique<DimensionInputController>();
+        manager.SetContext(MakeLinear());
+        manager.OnKeyDown('5', false, false, false);
+        auto* pEditor = host.view.findChild<QLineEdit*>("Editor");
+        pEditor->setText("x");
+        QVERIFY(!pController->Commit());
+        pEditor->setText("10cm");
+        QCOMPARE(host.view.findChildren<QLabel*>().size(), 3);
+
+        pController.reset();
+
+        QCOMPARE(host.view.findChildren<QLabel*>().size(), 0);
+        manager.Drop();
     }
 
     void notesFollowTheEditor()

@@ -121,6 +121,15 @@ private slots:
                  QStringLiteral("请输入 -0.000125 到 1234567.89 之间的数"));
     }
 
+    void rangeIsToldInTwelveDigits()
+    {
+        InputField field = MakeField(Quantity::Length);
+        field.range = {0.123456789012345, 123456789.012345};
+
+        QCOMPARE(JudgeInput("1e9", field, LengthUnit::Millimetre()).refusal,
+                 QStringLiteral("请输入 0.123456789012 到 123456789.012 之间的数"));
+    }
+
     void unclearTextIsRefusedWithItsReason()
     {
         const InputVerdict verdict = Judge("1,000");

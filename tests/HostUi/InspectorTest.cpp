@@ -311,6 +311,34 @@ private slots:
         QCOMPARE(f.Rows(), QStringList("Edit|输入框||是|是"));
     }
 
+    void afterStopItsClockRests()
+    {
+        /// Counts how often a clock of the inspector's pace runs out.
+        struct Ticks final : QObject
+        {
+            Ticks() { qApp->installEventFilter(this); }
+            bool eventFilter(QObject* pWatched, QEvent* pEvent) override
+            {
+                const auto* pTimer = qobject_cast<QTimer*>(pWatched);
+                const bool isTick = pEvent->type() == QEvent::Timer && pTimer != nullptr;
+                count += isTick && pTimer->interval() == RefreshMs ? 1 : 0;
+                return false;
+            }
+            int count = 0;
+        };
+        Fixture f;
+        const Ticks ticks;
+        QTRY_VERIFY(ticks.count > 0);
+
+        f.pInspector->Stop();
+        const int before = ticks.count;
+        QTimer later;
+        later.start(2 * RefreshMs);
+        QVERIFY(QSignalSpy(&later, &QTimer::timeout).wait());
+
+        QCOMPARE(ticks.count, before);
+    }
+
     void definitionsMayGoAfterStop()
     {
         Fixture f;
@@ -428,6 +456,9 @@ private slots:
             headers << pTree->headerItem()->text(column);
         QCOMPARE(headers, (QStringList{"定义", "种类", "值", "可见", "可用"}));
         QVERIFY(!pTree->rootIsDecorated());
+        // Of a thousand rows only one is measured.
+        QVERIFY(pTree->uniformRowHeights());
+        QVERIFY(f.EventList()->uniformItemSizes());
         QCOMPARE(pTree->frameShape(), QFrame::NoFrame);
         QCOMPARE(f.EventList()->frameShape(), QFrame::NoFrame);
         QCOMPARE(pState->textInteractionFlags(),

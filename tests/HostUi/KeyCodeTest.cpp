@@ -74,7 +74,10 @@ private slots:
         QTest::newRow("blank") << " " << none << false;
         QTest::newRow("control") << "\r" << none << false;
         QTest::newRow("none") << "" << none << false;
+        QTest::newRow("two characters") << "ab" << none << false;
         QTest::newRow("Alt+point") << "." << alt << false;
+        QTest::newRow("Ctrl+letter") << "s" << Qt::KeyboardModifiers(Qt::ControlModifier) << false;
+        QTest::newRow("Meta+letter") << "s" << Qt::KeyboardModifiers(Qt::MetaModifier) << false;
     }
 
     void printableCharactersCanBeginAValue()
@@ -85,6 +88,33 @@ private slots:
         const QKeyEvent event(QEvent::KeyPress, Qt::Key_unknown, modifiers, text);
 
         QTEST(vesk::CanBeginValue(event), "canBegin");
+    }
+
+    void keysThatOnlyModifyOthersAreTold_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<bool>("isModifier");
+
+        QTest::newRow("Shift") << int(Qt::Key_Shift) << true;
+        QTest::newRow("Ctrl") << int(Qt::Key_Control) << true;
+        QTest::newRow("Meta") << int(Qt::Key_Meta) << true;
+        QTest::newRow("Alt") << int(Qt::Key_Alt) << true;
+        QTest::newRow("Caps Lock") << int(Qt::Key_CapsLock) << true;
+        QTest::newRow("Num Lock") << int(Qt::Key_NumLock) << true;
+        QTest::newRow("Scroll Lock") << int(Qt::Key_ScrollLock) << true;
+        QTest::newRow("AltGr") << int(Qt::Key_AltGr) << true;
+        QTest::newRow("letter") << int(Qt::Key_A) << false;
+        QTest::newRow("Page Down") << int(Qt::Key_PageDown) << false;
+        QTest::newRow("F1") << int(Qt::Key_F1) << false;
+    }
+
+    void keysThatOnlyModifyOthersAreTold()
+    {
+        QFETCH(int, key);
+
+        const QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+
+        QTEST(vesk::IsModifierKey(event), "isModifier");
     }
 };
 

@@ -26,6 +26,7 @@ using Damage = std::function<QByteArray(const QByteArray& good, QRandomGenerator
 }
 
 Q_DECLARE_METATYPE(vesk::test::Damage)
+Q_DECLARE_METATYPE(vesk::LayoutFile::Content)
 
 namespace vesk::test
 {
@@ -39,9 +40,13 @@ class LayoutFileTest : public QObject
 
 private slots:
     void whatIsWrittenIsRead();
+    void whatAnEarlierProgramWroteIsRead();
     void aFileThatIsNotThereIsMissing();
     void anythingElseIsDamaged_data();
     void anythingElseIsDamaged();
+    void oneOfMoreThanAMegabyteIsDamaged_data();
+    void oneOfMoreThanAMegabyteIsDamaged();
+    void aFolderInItsPlaceIsDamagedAndStays();
     void oneOfALaterVersionIsNewer();
     void whatCannotBeReadIsKept_data();
     void whatCannotBeReadIsKept();
@@ -85,6 +90,17 @@ void LayoutFileTest::whatIsWrittenIsRead()
     QCOMPARE(reading.layout, layout);
 }
 
+void LayoutFileTest::whatAnEarlierProgramWroteIsRead()
+{
+    Put(R"({"version": 1, "layout": "bGF5b3V0", "checksum":
+        "1dc5ae5b68174891b6aa9850aa05ee0d9ae8a20468d9517259951a2dd9e9c0f0"})");
+
+    const LayoutFile::Reading reading = LayoutFile::Read(Path());
+
+    QCOMPARE(reading.content, Content::Layout);
+    QCOMPARE(reading.layout, QByteArray("layout"));
+}
+
 void LayoutFileTest::aFileThatIsNotThereIsMissing()
 {
     QCOMPARE(LayoutFile::Read(m_folder.filePath("none")).content, Content::Missing);
@@ -118,6 +134,46 @@ void LayoutFileTest::anythingElseIsDamaged()
 
     QCOMPARE(reading.content, Content::Damaged);
     QVERIFY(reading.layout.isEmpty());
+}
+
+void LayoutFileTest::oneOfMoreThanAMegabyteIsDamaged_data()
+{
+    QTest::addColumn<int>("size");
+    QTest::addColumn<Content>("content");
+
+    QTest::newRow("a megabyte") << (1 << 20) << Content::Layout;
+    QTest::newRow("a byte more") << (1 << 20) + 1 << Content::Damaged;
+}
+
+void LayoutFileTest::oneOfMoreThanAMegabyteIsDamaged()
+{
+    QFETCH(int, size);
+    QVERIFY(LayoutFile::Write(Path(), "layout"));
+    const QByteArray good = Get(Path()).trimmed();
+    Put(QByteArray(size - good.size(), ' ') + good);
+
+    QTEST(LayoutFile::Read(Path()).content, "content");
+}
+
+/// What the toolkit complained of.
+static QStringList s_complaints;
+
+void LayoutFileTest::aFolderInItsPlaceIsDamagedAndStays()
+{
+    s_complaints.clear();
+    const auto note = [](QtMsgType, const QMessageLogContext&, const QString& text) {
+        s_complaints << text;
+    };
+    const QtMessageHandler previous = qInstallMessageHandler(note);
+
+    const Content content = LayoutFile::Read(m_folder.path()).content;
+    const bool isWritten = LayoutFile::Write(m_folder.path(), "layout");
+
+    qInstallMessageHandler(previous);
+    QCOMPARE(content, Content::Damaged);
+    QVERIFY(!isWritten);
+    QVERIFY(QDir(m_folder.path()).exists());
+    QCOMPARE(s_complaints, QStringList());
 }
 
 void LayoutFileTest::oneOfALaterVersionIsNewer()

@@ -79,6 +79,35 @@ private slots:
         QTEST(layout.PlaceBelow(s_strip).topLeft(), "place");
     }
 
+    void valueMovesAboveTheCursorWhereThatIsNearer()
+    {
+        NoteLayout layout({s_view, QRect(QPoint(50, 40), s_editor), QPoint(190, 60), {}});
+
+        QCOMPARE(layout.PlaceBeside(s_value), QRect(QPoint(150, 18), s_value));
+    }
+
+    void noteAtTheEdgeOfTheViewIsInside_data()
+    {
+        QTest::addColumn<QPoint>("editor");
+        QTest::addColumn<QPoint>("below");
+        QTest::addColumn<QPoint>("beside");
+
+        QTest::newRow("top") << QPoint(50, 0) << QPoint(50, 30) << QPoint(150, 0);
+        QTest::newRow("bottom") << QPoint(50, 274) << QPoint(50, 210) << QPoint(150, 240);
+        QTest::newRow("left") << QPoint(-20, 40) << QPoint(0, 70) << QPoint(80, 23);
+        QTest::newRow("right") << QPoint(304, 40) << QPoint(180, 70) << QPoint(180, 70);
+    }
+
+    void noteAtTheEdgeOfTheViewIsInside()
+    {
+        QFETCH(QPoint, editor);
+        const EditorScene scene{s_view, QRect(editor, s_editor), std::nullopt, {}};
+        const QSize tall(220, 60);
+
+        QTEST(NoteLayout(scene).PlaceBelow(tall).topLeft(), "below");
+        QTEST(NoteLayout(scene).PlaceBeside(tall).topLeft(), "beside");
+    }
+
     void noteKeepsOffTheTextsOfDimensions()
     {
         const QRect text(100, 75, 50, 16);

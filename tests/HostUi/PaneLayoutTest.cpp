@@ -58,7 +58,10 @@ private slots:
     void aRestoredPaneKeepsAUsableSizeInASmallWindow();
     void aPaneIsNoSmallerThanItsContent();
     void aPanesOwnLeastSizeIsLeft();
+    void aContentThatNeedsMoreIsGivenNoLeastSize();
+    void aPaneWithoutContentIsLaidOutToo();
     void namesOfForeignDocksAreLeft();
+    void aFloatingPaneComesUpAfterTheWindow();
     void anUnusableLayoutGivesTheFactoryLayout();
     void aPaneThatLeftTheManagerIsNobodysAnyMore();
     void showingAndHidingIsTold();
@@ -267,9 +270,11 @@ void PaneLayoutTest::aPaneIsNoSmallerThanItsContent()
     run.window.resizeDocks({run.Pane("D")}, {10}, Qt::Horizontal);
     Run::Settle();
     QVERIFY(run.Pane("D")->width() >= 333);
+    QCOMPARE(pContent->minimumWidth(), 0);
 
     pInner->setMinimumWidth(0);
     Run::Settle();
+    QCOMPARE(pContent->minimumWidth(), 160);
     run.window.resizeDocks({run.Pane("D")}, {10}, Qt::Horizontal);
     Run::Settle();
     QCOMPARE(run.Pane("D")->width(), 160);
@@ -284,6 +289,42 @@ void PaneLayoutTest::aPanesOwnLeastSizeIsLeft()
     Run::Settle();
 
     QCOMPARE(run.Pane("D")->widget()->minimumSize(), QSize(90, 210));
+}
+
+/// What the toolkit complained of.
+static QStringList s_complaints;
+
+void PaneLayoutTest::aContentThatNeedsMoreIsGivenNoLeastSize()
+{
+    Run run;
+    auto* pInner = new QWidget;
+    pInner->setMinimumSize(333, 222);
+    auto* pContent = new QWidget;
+    (new QHBoxLayout(pContent))->addWidget(pInner);
+    run.Pane("D")->setWidget(pContent);
+    s_complaints.clear();
+    const auto note = [](QtMsgType, const QMessageLogContext&, const QString& text) {
+        if (text.startsWith("QWidget::"))
+            s_complaints << text;
+    };
+    const QtMessageHandler previous = qInstallMessageHandler(note);
+
+    run.pLayout->Save();
+
+    qInstallMessageHandler(previous);
+    QCOMPARE(pContent->minimumSize(), QSize(0, 0));
+    QCOMPARE(s_complaints, QStringList());
+}
+
+void PaneLayoutTest::aPaneWithoutContentIsLaidOutToo()
+{
+    Run run;
+    delete run.Pane("D")->widget();
+
+    const QByteArray saved = run.pLayout->Save();
+
+    QVERIFY(run.pLayout->Restore(saved));
+    QVERIFY(run.Pane("D")->isVisible());
 }
 
 void PaneLayoutTest::namesOfForeignDocksAreLeft()
@@ -305,6 +346,22 @@ void PaneLayoutTest::namesOfForeignDocksAreLeft()
     QCOMPARE(pForeign->objectName(), QString("foreign"));
     QCOMPARE(pNested->objectName(), QString("nested"));
     QCOMPARE(run.window.dockWidgetArea(pForeign), Qt::LeftDockWidgetArea);
+}
+
+void PaneLayoutTest::aFloatingPaneComesUpAfterTheWindow()
+{
+    Run run;
+    run.Arrange();
+    const QByteArray saved = run.pLayout->Save();
+    Run next;
+    next.window.hide();
+
+    QVERIFY(next.pLayout->Restore(saved));
+    QVERIFY(!next.Pane("D")->isVisible());
+    next.window.show();
+
+    QTRY_VERIFY(next.Pane("D")->isVisible());
+    QVERIFY(next.Pane("D")->isFloating());
 }
 
 void PaneLayoutTest::anUnusableLayoutGivesTheFactoryLayout()

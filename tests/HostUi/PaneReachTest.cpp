@@ -280,6 +280,7 @@ void PaneReachTest::aDraggedPaneGetsItsSizeWhenItIsLetGo()
     Mouse(pPane, QEvent::MouseButtonPress, held);
     Mouse(pPane, QEvent::MouseMove, held - QPoint(0, 60));
     Mouse(pPane, QEvent::MouseMove, held - QPoint(0, 200));
+    Run::Settle();
     QVERIFY(pPane->isFloating());
     QCOMPARE(pPane->width(), width);
     Mouse(pPane, QEvent::MouseMove, held - QPoint(0, 350));

@@ -50,6 +50,11 @@ static QSet<int> OpenFiles()
     return files;
 }
 
+/// A handler of its own for each signal.
+template <int Signal>
+static void Ignore(int)
+{}
+
 void TerminationRequestsTest::eachSignalIsARequest_data()
 {
     QTest::addColumn<int>("signal");
@@ -118,15 +123,17 @@ void TerminationRequestsTest::whatWasIgnoredStaysIgnored()
 
 void TerminationRequestsTest::afterwardsEverythingIsAsBefore()
 {
-    struct sigaction before = {};
-    QCOMPARE(sigaction(SIGTERM, nullptr, &before), 0);
+    const auto terminate = std::signal(SIGTERM, &Ignore<SIGTERM>);
+    const auto interrupt = std::signal(SIGINT, &Ignore<SIGINT>);
+    const auto hangUp = std::signal(SIGHUP, &Ignore<SIGHUP>);
+
     {
         const TerminationRequests requests;
     }
 
-    struct sigaction after = {};
-    QCOMPARE(sigaction(SIGTERM, nullptr, &after), 0);
-    QVERIFY(after.sa_handler == before.sa_handler);
+    QVERIFY(std::signal(SIGTERM, terminate) == &Ignore<SIGTERM>);
+    QVERIFY(std::signal(SIGINT, interrupt) == &Ignore<SIGINT>);
+    QVERIFY(std::signal(SIGHUP, hangUp) == &Ignore<SIGHUP>);
 }
 
 void TerminationRequestsTest::theFilesThatItUsesAreClosed()

@@ -23,8 +23,18 @@ namespace vesk::test
 /// A value that a handler took.
 struct TakenValue
 {
-    QString text;     ///< As it stood in the editor.
-    TypedValue typed; ///< What the manager knew of it at that moment.
+    QString text;                    ///< As it stood in the editor.
+    TypedValue typed;                ///< What the manager knew of it at that moment.
+    Qt::KeyboardModifiers modifiers; ///< Of the key that took it.
+};
+
+/// A key that a handler was told of.
+struct HeardKey
+{
+    int virtualKey = 0;
+    bool isCtrl = false;
+    bool isAlt = false;
+    bool isShift = false;
 };
 
 /// What a handler does, and what it did.
@@ -37,6 +47,7 @@ struct TypingScript
     bool isRawTextInput = false;
     QString currentValue = QStringLiteral("50.000");
     std::vector<TakenValue> taken;
+    std::vector<HeardKey> heard;
     std::wstring dimensionText; ///< Shown at the origin of the model; none when it is empty.
 };
 
@@ -81,13 +92,14 @@ public:
             m_pEditor->hide();
     }
 
-    void OnEditorReturnPressed() override { Take(); }
+    void OnEditorReturnPressed() override { Take(Qt::NoModifier); }
 
     /// Shift and the comma open the editor with the current value, any other key but the comma with
     /// its character.
-    bool OnKeyDown(int virtualKey, bool, bool, bool isShift) override
+    bool OnKeyDown(int virtualKey, bool isCtrl, bool isAlt, bool isShift) override
     {
         constexpr int Comma = 188;
+        m_script.heard.push_back({virtualKey, isCtrl, isAlt, isShift});
         if (virtualKey == Comma && !isShift)
             return false;
         m_state = m_script.state;
@@ -103,10 +115,11 @@ public:
     {
         if (pEvent->type() != QEvent::KeyPress)
             return false;
-        const int key = static_cast<QKeyEvent*>(pEvent)->key();
+        const auto& press = static_cast<const QKeyEvent&>(*pEvent);
+        const int key = press.key();
         if (key != Qt::Key_Return && key != Qt::Key_Enter && !m_script.commitKeys.contains(key))
             return false;
-        Take();
+        Take(press.modifiers());
         if (key == Qt::Key_Tab)
             GoOn();
         else
@@ -120,10 +133,10 @@ private:
     bool IsRawTextInput() const { return m_script.isRawTextInput; }
     int GetInputState() const { return static_cast<int>(m_state); }
 
-    void Take()
+    void Take(Qt::KeyboardModifiers modifiers)
     {
         m_script.taken.push_back(
-            {m_pEditor->text(), TemporaryDimensionMgr::GetInstance()->TakeTypedValue()});
+            {m_pEditor->text(), TemporaryDimensionMgr::GetInstance()->TakeTypedValue(), modifiers});
     }
 
     void GoOn()

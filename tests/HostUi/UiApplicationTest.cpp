@@ -44,6 +44,7 @@ private slots:
     void aLoopRunsUntilItIsLeft();
     void dialogsAreAllowedInTheThreadOfTheWindows();
     void noDialogIsAllowedWhileAWidgetIsPainted();
+    void noDialogIsAllowedWhileAWidgetPaintsAnother();
     void theWarningsKnowTheEventLoopWhileItLives();
     void aKeyThatComesAfterAMenuHasClosedIsForTheFocus();
 };
@@ -238,6 +239,32 @@ void UiApplicationTest::noDialogIsAllowedWhileAWidgetIsPainted()
     auto pGone = std::make_unique<Painted>(application);
     pGone->grab();
     pGone.reset();
+    QVERIFY(application.IsDialogAllowed());
+}
+
+void UiApplicationTest::noDialogIsAllowedWhileAWidgetPaintsAnother()
+{
+    /// Paints another widget first.
+    struct Outer final : QWidget
+    {
+        explicit Outer(const UiApplication& host) : application(host), inner(host) {}
+
+        void paintEvent(QPaintEvent*) override
+        {
+            inner.grab();
+            isAllowed = application.IsDialogAllowed();
+        }
+
+        const UiApplication& application;
+        Painted inner;
+        bool isAllowed = true;
+    };
+    const UiApplication application;
+    Outer outer(application);
+
+    outer.grab();
+
+    QVERIFY(!outer.isAllowed);
     QVERIFY(application.IsDialogAllowed());
 }
 

@@ -95,6 +95,19 @@ private slots:
         QVERIFY(f.IsRepeated());
     }
 
+    void theStepOfATypedAngleEndsOnItsArc()
+    {
+        Fixture f;
+        BeginArc(f);
+        f.MoveTo(-30, 5);
+
+        f.Type(ActionViewInput::CentralAngleCommitted, 90);
+
+        const auto* pEnd = std::get_if<PointRecord>(&f.records.back().what);
+        QVERIFY(pEnd != nullptr);
+        QCOMPARE(pEnd->point, Vector3d(10, 25, 0));
+    }
+
     void anAngleThatIsOnlyConfirmedIsNotRounded()
     {
         Fixture f;
@@ -175,6 +188,19 @@ private slots:
 
         QCOMPARE(f.Count(), std::size_t{1});
         QVERIFY(f.IsRepeated());
+    }
+
+    void aRadiusThatIsTooSmallIsNotTaken()
+    {
+        Fixture f;
+        f.workspace.snapper.SetOn(Snapper::End, false);
+        f.Begin();
+        f.ClickAt(10, 20);
+
+        f.ClickAt(10 + 5e-7, 20);
+
+        QCOMPARE(f.records.size(), std::size_t{1});
+        QVERIFY(f.Offered<CentralAngleTemporaryDimensionContext>() == nullptr);
     }
 
     void angleThatGivesNoArcIsRefused_data()

@@ -98,6 +98,8 @@ private slots:
         QTest::newRow("in a corner") << 100.0 << 100.0 << 30.0 << 2.0 << 6.0;
         QTest::newRow("around it") << 50.0 << 50.0 << 90.0 << 0.0 << s_turn;
         QTest::newRow("beside it") << 200.0 << 50.0 << 90.0 << 0.0 << s_turn;
+        QTest::newRow("short") << 80.0 << 50.0 << 30.0 << 0.6 << 0.5;
+        QTest::newRow("short, clockwise") << 80.0 << 50.0 << 30.0 << 1.1 << -0.5;
         QTest::newRow("far centre") << 50.0 << -9900.0 << 9950.0 << -2.0 << 1.5;
     }
 
@@ -126,6 +128,89 @@ private slots:
                 });
             QVERIFY(isOnSide || isInPart == rect.contains(point));
         }
+    }
+
+    void whatIsInsideIsPaintedAndNothingElse_data() { whatIsInsideIsExactlyTheParts_data(); }
+
+    void whatIsInsideIsPaintedAndNothingElse()
+    {
+        QFETCH(double, x);
+        QFETCH(double, y);
+        QFETCH(double, radius);
+        QFETCH(double, start);
+        QFETCH(double, sweep);
+        const ScreenArc arc{{x, y}, radius, start, sweep};
+        constexpr int Steps = 20000;
+
+        QImage image = Paint(arc);
+
+        QImage missing = image;
+        for (int i = 0; i <= Steps; ++i)
+        {
+            const QPointF point = arc.PointAt(std::abs(sweep) * i / Steps);
+            const QRect around(qFloor(point.x()) - 1, qFloor(point.y()) - 1, 3, 3);
+            if (!image.rect().contains(around))
+                continue;
+            QVERIFY2(CountInked(image.copy(around)) > 0, qPrintable(QString::number(i)));
+            QPainter(&missing).fillRect(around, Qt::white);
+        }
+        QCOMPARE(CountInked(missing.copy(2, 2, 96, 96)), 0);
+    }
+
+    void aCircleHasNoEnds_data()
+    {
+        QTest::addColumn<double>("start");
+
+        QTest::newRow("to the right") << 0.0;
+        QTest::newRow("upwards") << s_turn / 4.0;
+        for (const double start : {0.3, 1.0, 2.5, -2.0, 4.4})
+            QTest::addRow("at %g", start) << start;
+    }
+
+    /// Square ends would stand out beyond the outer edge.
+    void aCircleHasNoEnds()
+    {
+        QFETCH(double, start);
+        const QPointF centre(50, 50);
+        QImage image(100, 100, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+
+        PaintArc(painter, QPen(Qt::black, 11.0, Qt::SolidLine, Qt::SquareCap),
+                 {centre, 6, start, s_turn}, image.rect());
+
+        QVERIFY(CountInked(image) > 300);
+        for (int i = 0; i < 100 * 100; ++i)
+        {
+            const QPointF pixel(i % 100 + 0.5, i / 100 + 0.5);
+            QVERIFY(!IsInked(image, i % 100, i / 100) || QLineF(centre, pixel).length() < 12.0);
+        }
+    }
+
+    void chordsStayWithinATwentiethOfAPixel()
+    {
+        constexpr double Magnified = 40.0;
+        constexpr double Radius = 300.0;
+        QImage image(800, 800, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        painter.scale(Magnified, Magnified);
+        QPen pen(Qt::black, 1.0);
+        pen.setCosmetic(true);
+
+        PaintArc(painter, pen, {{10.0 - Radius, 10.0}, Radius, 0, s_turn}, QRectF(0, 0, 20, 20));
+
+        double farthest = 0.0;
+        for (int i = 0; i < 800 * 800; ++i)
+        {
+            if (!IsInked(image, i % 800, i / 800))
+                continue;
+            const QPointF pixel((i % 800 + 0.5) / Magnified, (i / 800 + 0.5) / Magnified);
+            const double distance = QLineF({10.0 - Radius, 10.0}, pixel).length();
+            farthest = std::max(farthest, std::abs(distance - Radius));
+        }
+        QVERIFY(farthest > 0.0);
+        QVERIFY(farthest <= 0.05 + 1.0 / Magnified);
     }
 
     void aCircleIsRound()
@@ -165,15 +250,29 @@ private slots:
         QVERIFY(CountInked(up.copy(0, 0, 100, 50)) >= 49);
     }
 
+    void aSmallCircleIsThePaintersOwn_data()
+    {
+        QTest::addColumn<double>("radius");
+
+        QTest::newRow("small") << 40.0;
+        QTest::newRow("greatest") << 200.0;
+    }
+
     void aSmallCircleIsThePaintersOwn()
     {
-        QImage expected(100, 100, QImage::Format_RGB32);
+        QFETCH(double, radius);
+        const QPen pen(Qt::black, 1.0, Qt::SolidLine, Qt::FlatCap);
+        QImage expected(420, 420, QImage::Format_RGB32);
         expected.fill(Qt::white);
-        QPainter painter(&expected);
-        painter.setPen(QPen(Qt::black, 1.0, Qt::SolidLine, Qt::FlatCap));
-        painter.drawEllipse(QPointF(50.5, 50.5), 40, 40);
+        QImage image = expected;
+        QPainter ownPainter(&expected);
+        ownPainter.setPen(pen);
+        ownPainter.drawEllipse(QPointF(210.5, 210.5), radius, radius);
 
-        QCOMPARE(Paint({{50.5, 50.5}, 40, 0, s_turn}), expected);
+        QPainter painter(&image);
+        PaintArc(painter, pen, {{210.5, 210.5}, radius, 0, s_turn}, image.rect());
+
+        QCOMPARE(image, expected);
     }
 
     void ofAHugeCircleTheNearPartIsStraight()
@@ -197,6 +296,10 @@ private slots:
 
         QVERIFY(CountInked(image) > 50);
         QVERIFY(CountInked(image) < 80);
+        // The first dash of four pixels begins at the lower edge, the second after a gap of two.
+        QCOMPARE(CountInked(image.copy(0, 96, 100, 4)), 4);
+        QCOMPARE(CountInked(image.copy(0, 94, 100, 2)), 0);
+        QCOMPARE(CountInked(image.copy(0, 90, 100, 4)), 4);
         QCOMPARE(Paint(arcFrom(144), Qt::CustomDashLine), image);
         QVERIFY(Paint(arcFrom(147), Qt::CustomDashLine) != image);
     }

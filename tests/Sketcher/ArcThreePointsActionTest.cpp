@@ -100,6 +100,8 @@ private slots:
         QTest::newRow("shorter") << Vector3d(1, 2, 0);
         QTest::newRow("longer") << Vector3d(-3, 17, 0);
         QTest::newRow("beyond the end") << Vector3d(9, -1, 0);
+        for (int i = 1; i <= 10; ++i)
+            QTest::addRow("crooked %d", i) << Vector3d(i / 7.0 - 0.6, i / 3.0, 0);
     }
 
     void aRadiusConfirmedUnchangedKeepsTheArcThatIsShown()
@@ -115,34 +117,59 @@ private slots:
         f.Type(ActionViewInput::RadiusCommitted, shown.radius, true);
 
         const ArcShape arc = f.Drawn<ArcShape>();
+        QCOMPARE_EXACTLY(arc.radius, shown.radius);
         QCOMPARE(arc.start, shown.start);
         QCOMPARE(arc.end, shown.end);
         QVERIFY((arc.centre - shown.centre).norm() <= 1e-9);
         QVERIFY(f.IsRepeated());
     }
 
+    void aRadiusConfirmedUnchangedIsThatOfTheArcToTheLastBit()
+    {
+        const Vector3d start(-1.0 / 3.0, 0.1, 0);
+        const Vector3d end(7.7, 8.9, 0);
+        for (int i = 1; i <= 20; ++i)
+        {
+            Fixture f;
+            f.Begin();
+            f.ClickAt(start.x(), start.y());
+            f.ClickAt(end.x(), end.y());
+            f.MoveTo(i / 7.0 + 20, i / 3.0 - 9);
+
+            f.Type(ActionViewInput::RadiusCommitted, 1, true);
+
+            const Vector3d cursor(i / 7.0 + 20, i / 3.0 - 9, 0);
+            QCOMPARE_EXACTLY(f.Drawn<ArcShape>().radius, ArcThrough(start, end, cursor)->radius);
+        }
+    }
+
     void aRadiusCanBeTypedBeforeTheMouseMoves_data()
     {
-        QTest::addColumn<double>("endX");
-        QTest::addColumn<double>("endY");
+        QTest::addColumn<Vector3d>("start");
+        QTest::addColumn<Vector3d>("end");
+        QTest::addColumn<Vector3d>("top");
 
-        QTest::newRow("chord along x") << 10.0 << 0.0;
-        QTest::newRow("chord back along x") << -10.0 << 0.0;
-        QTest::newRow("chord along y") << 0.0 << 10.0;
+        const Vector3d origin(0, 0, 0);
+        QTest::newRow("chord along x") << origin << Vector3d(10, 0, 0) << Vector3d(5, 5, 0);
+        QTest::newRow("chord back along x") << origin << Vector3d(-10, 0, 0) << Vector3d(-5, -5, 0);
+        QTest::newRow("chord along y") << origin << Vector3d(0, 10, 0) << Vector3d(-5, 5, 0);
+        QTest::newRow("elsewhere")
+            << Vector3d(20, 30, 0) << Vector3d(30, 30, 0) << Vector3d(25, 35, 0);
     }
 
     void aRadiusCanBeTypedBeforeTheMouseMoves()
     {
-        QFETCH(double, endX);
-        QFETCH(double, endY);
+        QFETCH(Vector3d, start);
+        QFETCH(Vector3d, end);
+        QFETCH(Vector3d, top);
         Fixture f;
         f.Begin();
-        f.ClickAt(0, 0);
-        f.ClickAt(endX, endY);
+        f.ClickAt(start.x(), start.y());
+        f.ClickAt(end.x(), end.y());
 
         // It shows the half circle to the left of the way.
         const auto opContext = f.Offered<RadiusTemporaryDimensionContext>();
-        QCOMPARE(opContext->GetThirdPoint(), Vector3d((endX - endY) / 2, (endX + endY) / 2, 0));
+        QCOMPARE(opContext->GetThirdPoint(), top);
         f.Type(ActionViewInput::RadiusCommitted, 7);
 
         QCOMPARE(f.Drawn<ArcShape>().radius, 7.0);
@@ -196,6 +223,35 @@ private slots:
         QCOMPARE(opContext->GetSecondPoint(), Vector3d(5, 1, 0));
         QCOMPARE(opContext->GetThirdPoint(), Vector3d(2, 30, 0));
         QVERIFY(!opContext->IsCentralAngleShown());
+    }
+
+    void onTheChordAPixelToTheLeftIsOffered()
+    {
+        Fixture f;
+        f.view.GetCamera().SetWorldPerPixel(0.5);
+        f.Begin();
+        f.ClickAt(-5, 0);
+        f.ClickAt(5, 0);
+
+        f.MoveTo(1, 0);
+
+        QCOMPARE(f.Offered<RadiusTemporaryDimensionContext>()->GetThirdPoint(),
+                 Vector3d(1, 0.5, 0));
+    }
+
+    void aClickOnTheEndMeansNothing()
+    {
+        Fixture f;
+        f.workspace.snapper.SetOn(Snapper::End, false);
+        f.Begin();
+        f.ClickAt(-5, 0);
+        f.ClickAt(5, 0);
+
+        // Rounded aside it would make a half circle.
+        f.ClickAt(5, 5e-10);
+
+        QCOMPARE(f.Count(), std::size_t{0});
+        QCOMPARE(f.records.size(), std::size_t{2});
     }
 
     void whatIsNoArcIsNotDrawn()

@@ -125,6 +125,13 @@ private slots:
         QTest::newRow("just not, far away")
             << Line(1e9, 10 + 1e-4, 1e9 + 40, 10 + 1e-4) << Circle(1e9 + 20, 0, 10) << 0;
 
+        // Their points are rounded by more than small ones may be off.
+        for (int i = 1; i <= 3; ++i)
+        {
+            QTest::addRow("huge circles %d", i)
+                << Circle(0, 0, 1e8) << Circle(1.3e8 / i, 0.7e8, 0.9e8) << 2;
+        }
+
         const double ofLines = tolerance(1e6);
         const Piece level = Line(-1e6, 0, 1e6, 0);
         QTest::newRow("gap lost in rounding") << level << Line(5, 0.9 * ofLines, 5, 100) << 1;

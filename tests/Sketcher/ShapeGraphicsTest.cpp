@@ -6,6 +6,7 @@
 #include "Support/TestValues.h"
 
 #include <cmath>
+#include <optional>
 
 using namespace vesk;
 
@@ -14,7 +15,7 @@ namespace
 
 constexpr double Tolerance = 1e-9;
 
-/// Measures how far the nodes stray from a shape, and counts them.
+/// Measures how long the nodes are and how far they stray from a shape, and counts them.
 class StrayMeter final : public IGraphicsNodeVisitor
 {
 public:
@@ -23,6 +24,8 @@ public:
     void Visit(const IGraphicsLine& line) override
     {
         ++lines;
+        Begin(line.GetStart(), line.GetRole());
+        length += (line.GetEnd() - line.GetStart()).norm();
         for (int i = 0; i <= Steps; ++i)
             Note(line.GetStart() + (line.GetEnd() - line.GetStart()) * i / Steps);
     }
@@ -30,6 +33,8 @@ public:
     void Visit(const IGraphicsArc& arc) override
     {
         ++arcs;
+        Begin(arc.GetCentre() + arc.GetRadius() * arc.GetXAxis(), arc.GetRole());
+        length += arc.GetRadius() * arc.GetSweep();
         for (int i = 0; i <= Steps; ++i)
         {
             const double angle = arc.GetSweep() * i / Steps;
@@ -43,9 +48,18 @@ public:
     int lines = 0;
     int arcs = 0;
     double stray = 0.0;
+    double length = 0.0;
+    std::optional<Vector3d> start;
+    bool isAllRubberBand = true;
 
 private:
     static constexpr int Steps = 50;
+
+    void Begin(const Vector3d& point, GraphicsRole role)
+    {
+        start = start.value_or(point);
+        isAllRubberBand = isAllRubberBand && role == GraphicsRole::RubberBand;
+    }
 
     void Note(const Vector3d& point) { stray = std::max(stray, DistanceTo(m_shape, point)); }
 
@@ -55,6 +69,7 @@ private:
 }
 
 Q_DECLARE_METATYPE(Shape)
+Q_DECLARE_METATYPE(Vector3d)
 
 class ShapeGraphicsTest final : public QObject
 {
@@ -66,16 +81,24 @@ private slots:
         QTest::addColumn<Shape>("shape");
         QTest::addColumn<int>("lines");
         QTest::addColumn<int>("arcs");
+        QTest::addColumn<double>("length");
+        QTest::addColumn<Vector3d>("start");
 
         const Vector3d up(0, 0, 1);
-        QTest::newRow("line") << Shape(LineShape{{1, 2, 0}, {5, -4, 0}}) << 1 << 0;
-        QTest::newRow("circle") << Shape(CircleShape{{10, 2, 0}, 3, up}) << 0 << 1;
-        QTest::newRow("arc") << Shape(ArcShape{{9, 2, 0}, 5, {14, 2, 0}, {9, 7, 0}, up}) << 0 << 1;
+        const double turn = 2.0 * std::acos(-1.0);
+        const Vector3d right(14, 2, 0);
+        QTest::newRow("line") << Shape(LineShape{{1, 2, 0}, {5, -1, 0}}) << 1 << 0 << 5.0
+                              << Vector3d(1, 2, 0);
+        QTest::newRow("circle") << Shape(CircleShape{{10, 2, 0}, 4, up}) << 0 << 1 << 4 * turn
+                                << right;
+        QTest::newRow("arc") << Shape(ArcShape{{9, 2, 0}, 5, right, {9, 7, 0}, up}) << 0 << 1
+                             << 5 * turn / 4 << right;
         QTest::newRow("arc seen from behind")
-            << Shape(ArcShape{{9, 2, 0}, 5, {14, 2, 0}, {9, 7, 0}, -up}) << 0 << 1;
-        QTest::newRow("rectangle") << Shape(RectangleShape{{Vector3d(0, 0, 0), Vector3d(8, 0, 0),
-                                                            Vector3d(8, 6, 0), Vector3d(0, 6, 0)}})
-                                   << 4 << 0;
+            << Shape(ArcShape{{9, 2, 0}, 5, right, {9, 7, 0}, -up}) << 0 << 1 << 5 * turn * 3 / 4
+            << right;
+        QTest::newRow("rectangle") << Shape(RectangleShape{{Vector3d(1, 0, 0), Vector3d(9, 0, 0),
+                                                            Vector3d(9, 6, 0), Vector3d(1, 6, 0)}})
+                                   << 4 << 0 << 28.0 << Vector3d(1, 0, 0);
     }
 
     void graphicsLieOnTheShape()
@@ -88,6 +111,9 @@ private slots:
         QTEST(meter.lines, "lines");
         QTEST(meter.arcs, "arcs");
         QVERIFY(meter.stray <= Tolerance);
+        QTEST(meter.length, "length");
+        QTEST(*meter.start, "start");
+        QVERIFY(meter.isAllRubberBand);
     }
 };
 

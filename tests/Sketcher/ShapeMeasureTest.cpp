@@ -87,6 +87,12 @@ private slots:
                               << Vector3d(9, 7, 0);
         QTest::newRow("circle") << Shape(CircleShape{{1, 2, 0}, 5, s_up}) << Vector3d(-4, -3, 0)
                                 << Vector3d(6, 7, 0);
+        const double half = std::sqrt(0.5);
+        QTest::newRow("upright circle") << Shape(CircleShape{{1, 2, 3}, 5, {0, 1, 0}})
+                                        << Vector3d(-4, 2, -2) << Vector3d(6, 2, 8);
+        QTest::newRow("slanted circle")
+            << Shape(CircleShape{{1, 2, 3}, 5, {half, 0, half}})
+            << Vector3d(1 - 5 * half, -3, 3 - 5 * half) << Vector3d(1 + 5 * half, 7, 3 + 5 * half);
         QTest::newRow("quarter") << Shape(MakeArc(0, 90)) << Vector3d(20, 30, 0)
                                  << Vector3d(30, 40, 0);
         QTest::newRow("the other three quarters")

@@ -82,14 +82,16 @@ private slots:
     void everyShapeTurnsAsAWhole()
     {
         QFETCH(Shape, shape);
-        const Vector3d probe(6, 9, 0);
 
         const Shape turned = Rotated(shape, s_centre, 33.0);
 
         QVERIFY(IsDrawable(turned));
         QVERIFY(!(turned == shape));
-        QVERIFY(std::abs(DistanceTo(turned, Rotated(probe, s_centre, 33.0)) -
-                         DistanceTo(shape, probe)) <= 1e-12);
+        for (const Vector3d& probe : {Vector3d(6, 9, 0), Vector3d(9, -9, 0), Vector3d(-5, -1, 0)})
+        {
+            QVERIFY(std::abs(DistanceTo(turned, Rotated(probe, s_centre, 33.0)) -
+                             DistanceTo(shape, probe)) <= 1e-12);
+        }
     }
 
     void theRadiusStays()

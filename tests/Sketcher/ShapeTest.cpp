@@ -107,6 +107,32 @@ private slots:
         QVERIFY(!IsDrawable(shape));
     }
 
+    /// A computed number may be off as far as it is rounded with the sizes and places around it.
+    void whatIsOffButForRoundingCanBeDrawn_data()
+    {
+        QTest::addColumn<Shape>("shape");
+        QTest::addColumn<bool>("isDrawable");
+
+        AddLines();
+        AddRoundOnes();
+        AddRectangles();
+    }
+
+    void whatIsOffButForRoundingCanBeDrawn()
+    {
+        QFETCH(Shape, shape);
+        QFETCH(bool, isDrawable);
+
+        QCOMPARE(IsDrawable(shape), isDrawable);
+    }
+
+    void aShapeWithoutNumbersCannotBeDrawn()
+    {
+        QVERIFY(!IsDrawable(CircleShape{Vector3d::Zero()}));
+        QCOMPARE_EXACTLY(CircleShape().radius, 0.0);
+        QCOMPARE_EXACTLY(ArcShape().radius, 0.0);
+    }
+
     void shapesAreTheSameWhenEveryNumberIs_data()
     {
         QTest::addColumn<Shape>("shape");
@@ -157,6 +183,80 @@ private slots:
     }
 
 private:
+    /// At the origin, and a thousand kilometres to the right of it.
+    static void AddLines()
+    {
+        const auto upwards = [](double x, double length) {
+            return Shape(LineShape{{x, 0, 0}, {x, length, 0}});
+        };
+        QTest::newRow("just long enough") << upwards(0, 1e-6 - 1e-21) << true;
+        QTest::newRow("just too short") << upwards(0, 1e-6 - 1.5e-21) << false;
+        QTest::newRow("just short enough") << upwards(0, 1e9 + 1e-6) << true;
+        QTest::newRow("just too long") << upwards(0, 1e9 + 1.2e-6) << false;
+        QTest::newRow("long enough far away") << upwards(1e6, 1e-6 - 0.9e-9) << true;
+        QTest::newRow("too short far away") << upwards(1e6, 1e-6 - 1.1e-9) << false;
+    }
+
+    static void AddRoundOnes()
+    {
+        const auto upright = [](double length) {
+            return Shape(CircleShape{{0, 0, 0}, 1, {0, 0, length}});
+        };
+        QTest::newRow("normal too short, lost in rounding") << upright(1 - 0.9e-9) << true;
+        QTest::newRow("normal too short") << upright(1 - 1.1e-9) << false;
+        QTest::newRow("normal too long") << upright(1 + 1.1e-9) << false;
+
+        const auto startingAt = [](double x, double z) {
+            return Shape(ArcShape{{0, 0, 0}, 2, {x, 0, z}, {0, 2, 0}, s_up});
+        };
+        QTest::newRow("start beside the circle, lost in rounding")
+            << startingAt(2 + 1.9e-9, 0) << true;
+        QTest::newRow("start beside the circle") << startingAt(2 + 2.1e-9, 0) << false;
+        QTest::newRow("start above the plane, lost in rounding") << startingAt(2, 2e-9) << true;
+        QTest::newRow("start above the plane") << startingAt(2, 2.1e-9) << false;
+
+        const auto farAway = [](double right) {
+            return Shape(
+                ArcShape{{0, 1e6, 0}, 1e-3, {1e-3 + right, 1e6, 0}, {-1e-3, 1e6, 0}, s_up});
+        };
+        QTest::newRow("small arc far away, lost in rounding") << farAway(0.9e-8) << true;
+        QTest::newRow("small arc far away") << farAway(1.1e-8) << false;
+
+        const auto ofLength = [](double radius, double length) {
+            return Shape(ArcShape{{0, 0, 0},
+                                  radius,
+                                  {radius, 0, 0},
+                                  {radius, radius * std::tan(length / radius), 0},
+                                  s_up});
+        };
+        QTest::newRow("shortest arc") << ofLength(1, 1e-6) << true;
+        QTest::newRow("arc of a great radius") << ofLength(2, 1.1e-6) << true;
+        QTest::newRow("too short an arc of a great radius") << ofLength(2, 0.9e-6) << false;
+    }
+
+    static void AddRectangles()
+    {
+        const auto open = [](double gap) {
+            RectangleShape rectangle = MakeRectangle(1, 0.5);
+            rectangle.corners[3].x() += gap;
+            return Shape(rectangle);
+        };
+        QTest::newRow("as far open as rounding may leave it") << open(1e-9 + 1e-14) << true;
+        QTest::newRow("open") << open(1.1e-9) << false;
+
+        const auto slanted = [](double width, double shift) {
+            return Shape(RectangleShape{{Vector3d(-width, 0, 0), Vector3d(0, 0, 0),
+                                         Vector3d(shift, width / 2, 0),
+                                         Vector3d(shift - width, width / 2, 0)}});
+        };
+        QTest::newRow("as slanted as rounding may make it") << slanted(1, 1e-9) << true;
+        QTest::newRow("slanted by more") << slanted(1, 1.1e-9) << false;
+        QTest::newRow("large and slanted by rounding") << slanted(100, 0.9e-7) << true;
+        QTest::newRow("large and slanted by more") << slanted(100, 1.1e-7) << false;
+        QTest::newRow("small and slanted by rounding") << slanted(0.01, 0.9e-11) << true;
+        QTest::newRow("small and slanted by more") << slanted(0.01, 1.1e-11) << false;
+    }
+
     /// A row with a shape and one in which one number is another.
     template <class Kind, class Change>
     static void AddOther(const char* name, const Kind& shape, const Change& change)

@@ -6,9 +6,14 @@
 #include <QSignalSpy>
 
 #include <limits>
+#include <string>
 #include <utility>
+#include <vector>
 
 using vesk::Vector3d;
+using Ids = std::vector<int>;
+
+Q_DECLARE_METATYPE(Ids)
 
 class SketchTest final : public QObject
 {
@@ -20,6 +25,14 @@ private:
         return std::get<LineShape>(sketch.Find(id)->shape);
     }
 
+    static Ids IdsOf(const Sketch& sketch)
+    {
+        Ids ids;
+        for (const Entity& entity : sketch.GetEntities())
+            ids.push_back(entity.id);
+        return ids;
+    }
+
 private slots:
     void newSketchIsEmpty()
     {
@@ -27,8 +40,11 @@ private slots:
 
         QVERIFY(sketch.GetEntities().empty());
         QVERIFY(!sketch.CanUndo());
-        QVERIFY(!sketch.GetName().empty());
+        QCOMPARE(sketch.GetLastUndone(), 0);
+        QCOMPARE(sketch.GetName(), std::wstring(L"未命名"));
     }
+
+    void anEntityThatWasNotDrawnHasNoId() { QCOMPARE(Entity().id, 0); }
 
     void linesKeepTheirOrderAndGetNewIds()
     {
@@ -38,14 +54,14 @@ private slots:
         const int second = sketch.AddLine({1, 0, 0}, {1, 1, 0});
 
         QVERIFY(first != 0 && second != 0 && first != second);
-        QCOMPARE(sketch.GetEntities()[0].id, first);
+        QCOMPARE(IdsOf(sketch), (Ids{first, second}));
         QCOMPARE(LineOf(sketch, second).end.y(), 1.0);
     }
 
     void everyEntityIsFoundWhateverCameAndWent()
     {
         Sketch sketch;
-        std::vector<int> ids;
+        Ids ids;
         for (int i = 1; i <= 5; ++i)
             ids.push_back(sketch.AddLine({0, 0, 0}, {1.0 * i, 0, 0}));
         sketch.Erase(ids[2]);
@@ -111,6 +127,8 @@ private slots:
         const std::wstring name = Sketch().GetName();
         sketch.SetName(L"plan");
         sketch.SetCurrentPen(&Pen::colour, 2);
+        sketch.Undo();
+        sketch.AddLine({0, 0, 0}, {1, 0, 0});
 
         sketch.Clear();
 
@@ -120,6 +138,37 @@ private slots:
         QCOMPARE(sketch.GetCurrentPen().colour, 0);
         QCOMPARE(sketch.GetLastUndone(), 0);
         QCOMPARE(sketch.AddLine({0, 0, 0}, {1, 0, 0}), first);
+    }
+
+    void aClearedSketchSaysSoThoughNothingWasDrawn()
+    {
+        Sketch sketch;
+        sketch.SetName(L"plan");
+        const QSignalSpy changes(&sketch, &Sketch::changed);
+
+        sketch.Clear();
+
+        QVERIFY(!changes.isEmpty());
+    }
+
+    void whoHearsOfAClearedSketchSeesANewOne()
+    {
+        Sketch sketch;
+        sketch.SetName(L"plan");
+        sketch.SetCurrentPen(&Pen::colour, 2);
+        sketch.AddLine({0, 0, 0}, {1, 0, 0});
+        int calls = 0;
+        connect(&sketch, &Sketch::changed, this, [&] {
+            ++calls;
+            QVERIFY(sketch.GetEntities().empty());
+            QVERIFY(!sketch.CanUndo());
+            QCOMPARE(sketch.GetName(), Sketch().GetName());
+            QCOMPARE(sketch.GetCurrentPen().colour, 0);
+        });
+
+        sketch.Clear();
+
+        QVERIFY(calls > 0);
     }
 
     void anyShapeIsDrawnWithTheCurrentPen()
@@ -230,24 +279,38 @@ private slots:
 
         QCOMPARE(sketch.Undo(), second);
         QCOMPARE(sketch.GetLastUndone(), second);
+        QVERIFY(sketch.CanUndo());
         QCOMPARE(sketch.Undo(), first);
+        QVERIFY(!sketch.CanUndo());
         QCOMPARE(sketch.Undo(), 0);
 
         QVERIFY(sketch.GetEntities().empty());
     }
 
+    void undoneEraseBringsTheLineBackToItsPlace_data()
+    {
+        QTest::addColumn<int>("erased");
+        QTest::addColumn<Ids>("left");
+
+        QTest::newRow("first") << 1 << Ids{2, 3};
+        QTest::newRow("between others") << 2 << Ids{1, 3};
+        QTest::newRow("last") << 3 << Ids{1, 2};
+    }
+
     void undoneEraseBringsTheLineBackToItsPlace()
     {
+        QFETCH(int, erased);
+        QFETCH(Ids, left);
         Sketch sketch;
-        const int first = sketch.AddLine({0, 0, 0}, {1, 0, 0});
-        sketch.AddLine({1, 0, 0}, {1, 1, 0});
+        for (int length = 1; length <= 3; ++length)
+            sketch.AddLine({0, 0, 0}, {1.0 * length, 0, 0});
 
-        QVERIFY(sketch.Erase(first));
-        QCOMPARE(sketch.GetEntities().size(), std::size_t(1));
-        QCOMPARE(sketch.Undo(), first);
+        QVERIFY(sketch.Erase(erased));
+        QCOMPARE(IdsOf(sketch), left);
+        QCOMPARE(sketch.Undo(), erased);
 
-        QCOMPARE(sketch.GetEntities().front().id, first);
-        QCOMPARE(sketch.GetEntities().size(), std::size_t(2));
+        QCOMPARE(IdsOf(sketch), (Ids{1, 2, 3}));
+        QCOMPARE(LineOf(sketch, erased).end.x(), 1.0 * erased);
     }
 
     void idsAreNeverGivenTwice()
@@ -280,6 +343,32 @@ private slots:
         sketch.SetName(L"平面图");
 
         QCOMPARE(changes.count(), 4);
+    }
+
+    void anotherCurrentPenIsToldOnce()
+    {
+        Sketch sketch;
+        const QSignalSpy changes(&sketch, &Sketch::changed);
+
+        sketch.SetCurrentPen(&Pen::style, 0);
+        QCOMPARE(changes.count(), 0);
+        sketch.SetCurrentPen(&Pen::style, 2);
+        sketch.SetCurrentPen(&Pen::style, 2);
+
+        QCOMPARE(changes.count(), 1);
+        QVERIFY(!sketch.CanUndo());
+    }
+
+    void whoHearsOfAnUndoKnowsWhatCameBack()
+    {
+        Sketch sketch;
+        const int id = sketch.AddLine({0, 0, 0}, {1, 0, 0});
+        int undone = 0;
+        connect(&sketch, &Sketch::changed, this, [&] { undone = sketch.GetLastUndone(); });
+
+        sketch.Undo();
+
+        QCOMPARE(undone, id);
     }
 };
 

@@ -79,22 +79,106 @@ private slots:
         QCOMPARE(f.snapper.GetCaught()->point, caught);
     }
 
-    void whatIsFurtherThanTenPixelsIsNotCaught()
+    void whatIsJustTenPixelsAwayIsCaught_data()
     {
-        Fixture f;
-        f.snapper.SetOn(Snapper::End, true);
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<Vector3d>("cursor");
+        QTest::addColumn<Vector3d>("caught");
 
-        QCOMPARE(f.Catch(0, 10.1), Vector3d(0, 10.1, 0));
-        QVERIFY(!f.snapper.GetCaught().has_value());
+        QTest::newRow("end") << int(Snapper::End) << Vector3d(110, 0, 0) << Vector3d(100, 0, 0);
+        QTest::newRow("middle") << int(Snapper::Middle) << Vector3d(60, 0, 0) << Vector3d(50, 0, 0);
+        QTest::newRow("middle, from beside")
+            << int(Snapper::Middle) << Vector3d(50, 10, 0) << Vector3d(50, 0, 0);
+        QTest::newRow("centre") << int(Snapper::Centre) << Vector3d(-200, 210, 0)
+                                << Vector3d(-200, 200, 0);
+        QTest::newRow("intersection")
+            << int(Snapper::Intersection) << Vector3d(90, 0, 0) << Vector3d(80, 0, 0);
     }
 
     void whatIsJustTenPixelsAwayIsCaught()
     {
+        QFETCH(int, kind);
+        QFETCH(Vector3d, cursor);
+        QFETCH(Vector3d, caught);
+        Fixture f;
+        f.sketch.Add(CircleShape{{-200, 200, 0}, 50});
+        f.snapper.SetOn(static_cast<Snapper::Kind>(kind), true);
+
+        QCOMPARE(f.Catch(cursor.x(), cursor.y()), caught);
+        QCOMPARE(int(f.snapper.GetCaught()->kind), kind);
+    }
+
+    void whatIsFurtherThanTenPixelsIsNotCaught_data()
+    {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<Vector3d>("cursor");
+
+        QTest::newRow("end") << int(Snapper::End) << Vector3d(0, 10.1, 0);
+        QTest::newRow("end, along its line") << int(Snapper::End) << Vector3d(10.1, 0, 0);
+        QTest::newRow("middle") << int(Snapper::Middle) << Vector3d(50, 10.1, 0);
+        QTest::newRow("middle, along its line") << int(Snapper::Middle) << Vector3d(60.1, 0, 0);
+        QTest::newRow("centre") << int(Snapper::Centre) << Vector3d(-200, 210.1, 0);
+        QTest::newRow("intersection") << int(Snapper::Intersection) << Vector3d(90.1, 0, 0);
+        QTest::newRow("intersection, between the lines")
+            << int(Snapper::Intersection) << Vector3d(88, 8, 0);
+    }
+
+    void whatIsFurtherThanTenPixelsIsNotCaught()
+    {
+        QFETCH(int, kind);
+        QFETCH(Vector3d, cursor);
+        Fixture f;
+        f.sketch.Add(CircleShape{{-200, 200, 0}, 50});
+        f.snapper.SetOn(static_cast<Snapper::Kind>(kind), true);
+
+        QCOMPARE(f.Catch(cursor.x(), cursor.y()), cursor);
+        QVERIFY(!f.snapper.GetCaught().has_value());
+    }
+
+    void aGridPointBeyondTenPixelsIsNotCaught()
+    {
+        Fixture f;
+        f.snapper.SetOn(Snapper::Grid, true);
+        f.view.GetCamera().SetWorldPerPixel(1.26);
+
+        // The steps are 20 apart, the reach is 12.6.
+        QCOMPARE(f.Catch(-109.2, 109.2), Vector3d(-109.2, 109.2, 0));
+        QCOMPARE(f.Catch(-108.8, 108.8), Vector3d(-100, 100, 0));
+    }
+
+    void theGridIsCaughtWhereNoEndIs()
+    {
         Fixture f;
         f.snapper.SetOn(Snapper::End, true);
+        f.snapper.SetOn(Snapper::Grid, true);
 
-        QCOMPARE(f.Catch(110, 0), Vector3d(100, 0, 0));
+        QCOMPARE(f.Catch(-46, 58), Vector3d(-50, 60, 0));
+        QCOMPARE(int(f.snapper.GetCaught()->kind), int(Snapper::Grid));
     }
+
+    void ofEqualIntersectionsTheOneDrawnLastIsCaught()
+    {
+        Fixture f;
+        f.snapper.SetOn(Snapper::Intersection, true);
+        f.sketch.AddLine({35, -50, 0}, {35, 50, 0});
+        f.sketch.AddLine({45, -50, 0}, {45, 50, 0});
+
+        QCOMPARE(f.Catch(40, 0), Vector3d(45, 0, 0));
+    }
+
+    void anIntersectionLiesOnTheNearerLineToTheLastBit()
+    {
+        Fixture f;
+        f.sketch.AddLine({33, -7, 0}, {41, 5, 0});
+        f.snapper.SetOn(Snapper::Intersection, true);
+
+        const Vector3d caught = f.Catch(38, 0.1);
+
+        QVERIFY(f.snapper.GetCaught().has_value());
+        QCOMPARE_EXACTLY(caught.y(), 0.0);
+    }
+
+    void eachKindIsOneOfThem() { QCOMPARE(Snapper::KindCount, int(Snapper::Grid) + 1); }
 
     void whereMiddlesCrossTheCrossingIsCaught()
     {
@@ -240,8 +324,14 @@ private slots:
     {
         Fixture f;
         f.snapper.SetOn(Snapper::End, true);
+        f.Catch(0, 1);
 
         QCOMPARE(f.snapper.Catch({0, 1, 0}, nullptr), Vector3d(0, 1, 0));
+        QVERIFY(!f.snapper.GetCaught().has_value());
+
+        // Not even the end that the cursor is on.
+        f.snapper.Catch({0, 0, 0}, nullptr);
+        QVERIFY(!f.snapper.GetCaught().has_value());
     }
 
     void theGridHasRoundStepsOfEightPixelsAtLeast_data()

@@ -238,6 +238,7 @@ void DockManagerAddTest::deletedDocksStayHiddenChildrenOfTheWindow()
     const QPointer<QDockWidget> pWidget = WidgetOf(f.Add(L"name"));
 
     f.manager.DeleteDock(L"name");
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 
     QVERIFY(f.manager.GetDock(L"name") == nullptr);
     QVERIFY(f.manager.GetDock(L"other") != nullptr);

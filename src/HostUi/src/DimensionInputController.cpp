@@ -24,6 +24,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
+#include <QWindow>
 
 namespace vesk
 {
@@ -249,6 +250,7 @@ bool DimensionInputController::FilterEditorEvent(QEvent& event)
     case QEvent::KeyPress:
         return FilterEditorKey(static_cast<QKeyEvent&>(event));
     case QEvent::ShortcutOverride:
+    case QEvent::KeyRelease:
         return (GetActiveEditor() == nullptr || FindOtherField() != nullptr) && PassOn(event);
     case QEvent::Close:
         // Hidden by itself, it would go on taking keys unseen.
@@ -342,13 +344,17 @@ QWidget* DimensionInputController::FindOtherField() const
     return takesText && pFocus != m_pEditor ? pFocus : nullptr;
 }
 
-/// Passes on a key that arrived in the editor and is not for it: the window system gives the
-/// keyboard to another window later than the user turns to it.
+/// Passes on a key that arrived in the editor and is not for it, for the window system gives the
+/// keyboard away late: through the window of whoever gets it, where others listen.
 bool DimensionInputController::PassOn(QEvent& event)
 {
     QWidget* pField = FindOtherField();
-    if (QWidget* pTarget = pField != nullptr ? pField : CurrentViewWidget())
-        QCoreApplication::sendEvent(pTarget, &event);
+    QWidget* pWidget = pField != nullptr ? pField : CurrentViewWidget();
+    if (pWidget == nullptr)
+        return true;
+    QWindow* pWindow = pWidget->window()->windowHandle();
+    const bool isReached = pWindow != nullptr && pWidget->window()->focusWidget() == pWidget;
+    QCoreApplication::sendEvent(isReached ? static_cast<QObject*>(pWindow) : pWidget, &event);
     return true;
 }
 

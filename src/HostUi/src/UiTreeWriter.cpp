@@ -26,11 +26,8 @@ UiTreeWriter::UiTreeWriter(const QString& path, const DimensionInputController& 
     // A timer of zero comes round when nothing else waits.
     m_whenIdle.setInterval(0);
     m_atTheLatest.setInterval(LatestDelay);
-    for (QTimer* pTimer : {&m_whenIdle, &m_atTheLatest})
-    {
-        pTimer->setSingleShot(true);
+    for (const QTimer* pTimer : {&m_whenIdle, &m_atTheLatest})
         connect(pTimer, &QTimer::timeout, this, &UiTreeWriter::Write);
-    }
     qApp->installEventFilter(this);
 }
 
@@ -51,9 +48,9 @@ bool UiTreeWriter::Write()
 
 bool UiTreeWriter::eventFilter(QObject* pWatched, QEvent* pEvent)
 {
-    // Whatever changed, some event went before it; only the writer's own timers count for nothing.
-    const bool isOwn = pWatched == &m_whenIdle || pWatched == &m_atTheLatest;
-    if (isOwn || m_atTheLatest.isActive())
+    // Whatever changed, some event went before it. The timers run together, until Write stops both:
+    // their own events find them running.
+    if (m_atTheLatest.isActive())
         return false;
     m_whenIdle.start();
     m_atTheLatest.start();
