@@ -118,6 +118,20 @@ private slots:
         QCOMPARE(log.types, QStringList());
     }
 
+    void theWatchMayEndWithTheKeyThatIsPassedOn()
+    {
+        Fixture f;
+        auto pKeys = std::make_unique<ClosedPopupKeys>();
+        QTest::keyClick(f.pList, Qt::Key_Escape);
+        connect(f.pField, &QLineEdit::textEdited, this, [&pKeys] { pKeys.reset(); });
+
+        QTest::keyClick(f.pList, Qt::Key_2);
+        QTest::keyClick(f.pList, Qt::Key_3);
+
+        QCOMPARE(f.pField->text(), QString("2"));
+        QVERIFY(pKeys == nullptr);
+    }
+
     void whatIsNoKeyStaysThere()
     {
         Fixture f;

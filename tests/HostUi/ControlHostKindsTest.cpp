@@ -6,13 +6,12 @@
 #include "Control/ComboBoxDefinition.h"
 #include "Control/CommandButtonDefinition.h"
 #include "Control/CommandButtonMenuDefinition.h"
-#include "Control/IControl.h"
 #include "Control/LabelDefinition.h"
 #include "Control/LineEditDefinition.h"
 #include "Control/ProgressBarDefinition.h"
 #include "Control/RadioButtonGroupDefinition.h"
-#include "Control/VeskIControlFactory.h"
 #include "HostUi/ControlLibrary.h"
+#include "HostUi/EmptyControlFactory.h"
 #include "Support/HostFixture.h"
 #include "Support/TestValues.h"
 
@@ -64,33 +63,6 @@ OwnerPtr<Interface> MakeRadioButtons()
     opGroup->SetCurrentRadioButtonId(L"One");
     return opGroup;
 }
-
-/// A control library that makes nothing.
-class EmptyFactory final : public VeskIControlFactory
-{
-public:
-    EmptyFactory() { Set(this); }
-    ~EmptyFactory() override { Set(nullptr); }
-
-    OwnerPtr<IControl> CreateQtButton(OwnerPtr<ICommandButtonDefinition>) override { return {}; }
-    OwnerPtr<IControl> CreateQtLineEdit(OwnerPtr<ILineEditDefinition>) override { return {}; }
-    OwnerPtr<IControl> CreateQtLabel(OwnerPtr<ILabelDefinition>) override { return {}; }
-    OwnerPtr<IControl> CreateQtComboBox(OwnerPtr<IComboBoxDefinition>) override { return {}; }
-    OwnerPtr<IControl> CreateQtProgressBar(OwnerPtr<IProgressBarDefinition>) override { return {}; }
-    OwnerPtr<IControl> CreateQtCommandButtonMenu(OwnerPtr<ICommandButtonMenuDefinition>) override
-    {
-        return {};
-    }
-    OwnerPtr<IControl> CreateQtRadioButtonGroup(OwnerPtr<IRadioButtonGroupDefinition>,
-                                                WindowId) override
-    {
-        return {};
-    }
-    OwnerPtr<IControl> CreateQtCheckBoxGroup(OwnerPtr<ICheckBoxGroupDefinition>, WindowId) override
-    {
-        return {};
-    }
-};
 
 using Creation = std::function<QWidget*(ControlHost&)>;
 
@@ -210,7 +182,7 @@ private slots:
         QFETCH(Creation, create);
         Fixture f;
         f.pLibrary.reset();
-        const EmptyFactory factory;
+        const test::EmptyControlFactory factory;
 
         QVERIFY(create(*f.pControls) == nullptr);
         QVERIFY(f.pControls->GetDefinitions().empty());

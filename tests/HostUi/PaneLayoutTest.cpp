@@ -57,6 +57,7 @@ private slots:
     void aRestoredPaneKeepsAUsableSizeInASmallWindow_data();
     void aRestoredPaneKeepsAUsableSizeInASmallWindow();
     void aPaneIsNoSmallerThanItsContent();
+    void aNewContentIsUsableAtOnce();
     void aPanesOwnLeastSizeIsLeft();
     void aContentThatNeedsMoreIsGivenNoLeastSize();
     void aPaneWithoutContentIsLaidOutToo();
@@ -278,6 +279,17 @@ void PaneLayoutTest::aPaneIsNoSmallerThanItsContent()
     run.window.resizeDocks({run.Pane("D")}, {10}, Qt::Horizontal);
     Run::Settle();
     QCOMPARE(run.Pane("D")->width(), 160);
+}
+
+void PaneLayoutTest::aNewContentIsUsableAtOnce()
+{
+    Run run;
+    auto* pContent = new QWidget;
+    run.Pane("D")->setWidget(pContent);
+
+    run.pLayout->Save();
+
+    QCOMPARE(pContent->minimumWidth(), 160);
 }
 
 void PaneLayoutTest::aPanesOwnLeastSizeIsLeft()

@@ -26,6 +26,7 @@ private slots:
     void aPaneFloatsAgainAtItsLastSize();
     void aRestoredPaneFloatsAgainAtItsLastSize();
     void aDraggedPaneGetsItsSizeWhenItIsLetGo();
+    void aPaneThatIsDraggedOutAgainGetsItsLastSize();
     void aPaneThatReachesBeyondTheScreenStaysWhereItIs_data();
     void aPaneThatReachesBeyondTheScreenStaysWhereItIs();
 };
@@ -292,6 +293,30 @@ void PaneReachTest::aDraggedPaneGetsItsSizeWhenItIsLetGo()
     const int grip = held.x() - pPane->x();
     QVERIFY2(qAbs(grip - 480 * 3 / 4) < 4, qPrintable(QString::number(grip)));
 }
+
+void PaneReachTest::aPaneThatIsDraggedOutAgainGetsItsLastSize()
+{
+    Run run;
+    QDockWidget* pPane = run.Pane("F");
+    pPane->setFloating(true);
+    pPane->resize(700, 210);
+    Run::Settle();
+    pPane->setFloating(false);
+    Run::Settle();
+    const QPoint held = pPane->mapToGlobal(QPoint(pPane->width() / 2, 8));
+
+    Mouse(pPane, QEvent::MouseButtonPress, held);
+    Mouse(pPane, QEvent::MouseMove, held - QPoint(0, 60));
+    Mouse(pPane, QEvent::MouseMove, held - QPoint(0, 200));
+    Run::Settle();
+    QVERIFY(pPane->isFloating());
+    pPane->resize(pPane->width() + 1, pPane->height());
+    Mouse(pPane, QEvent::MouseButtonRelease, held - QPoint(0, 350));
+    Run::Settle();
+
+    QTRY_COMPARE(pPane->size(), QSize(700, 210));
+}
+
 }
 
 VESK_TESTS(vesk::test::PaneReachTest);

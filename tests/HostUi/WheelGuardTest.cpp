@@ -1,15 +1,7 @@
 #include "HostUi/ControlHost.h"
 
-#include "Control/ICheckBoxGroupDefinition.h"
-#include "Control/IComboBoxDefinition.h"
-#include "Control/ICommandButtonDefinition.h"
-#include "Control/ICommandButtonMenuDefinition.h"
-#include "Control/IControl.h"
-#include "Control/ILineEditDefinition.h"
-#include "Control/IProgressBarDefinition.h"
-#include "Control/IRadioButtonGroupDefinition.h"
 #include "Control/LabelDefinition.h"
-#include "Control/VeskIControlFactory.h"
+#include "HostUi/EmptyControlFactory.h"
 #include "Support/TestValues.h"
 
 #include <QApplication>
@@ -47,34 +39,13 @@ private:
     OwnerPtr<ILabelDefinition> m_opDefinition;
 };
 
-/// A control library that shows everything in combo boxes.
-class BoxFactory final : public VeskIControlFactory
+/// A control library that shows labels in combo boxes, and nothing else.
+class BoxFactory final : public test::EmptyControlFactory
 {
 public:
-    BoxFactory() { Set(this); }
-    ~BoxFactory() override { Set(nullptr); }
-
     OwnerPtr<IControl> CreateQtLabel(OwnerPtr<ILabelDefinition> opDefinition) override
     {
         return MakeOwner<BoxControl>(std::move(opDefinition));
-    }
-
-    OwnerPtr<IControl> CreateQtButton(OwnerPtr<ICommandButtonDefinition>) override { return {}; }
-    OwnerPtr<IControl> CreateQtLineEdit(OwnerPtr<ILineEditDefinition>) override { return {}; }
-    OwnerPtr<IControl> CreateQtComboBox(OwnerPtr<IComboBoxDefinition>) override { return {}; }
-    OwnerPtr<IControl> CreateQtProgressBar(OwnerPtr<IProgressBarDefinition>) override { return {}; }
-    OwnerPtr<IControl> CreateQtCommandButtonMenu(OwnerPtr<ICommandButtonMenuDefinition>) override
-    {
-        return {};
-    }
-    OwnerPtr<IControl> CreateQtRadioButtonGroup(OwnerPtr<IRadioButtonGroupDefinition>,
-                                                WindowId) override
-    {
-        return {};
-    }
-    OwnerPtr<IControl> CreateQtCheckBoxGroup(OwnerPtr<ICheckBoxGroupDefinition>, WindowId) override
-    {
-        return {};
     }
 };
 

@@ -198,7 +198,8 @@ private slots:
         QPen pen(Qt::black, 1.0);
         pen.setCosmetic(true);
 
-        PaintArc(painter, pen, {{10.0 - Radius, 10.0}, Radius, 0, s_turn}, QRectF(0, 0, 20, 20));
+        PaintArc(painter, pen, {{10.0 - Radius, 10.0}, Radius, s_turn / 2, s_turn},
+                 QRectF(0, 0, 20, 20));
 
         double farthest = 0.0;
         for (int i = 0; i < 800 * 800; ++i)

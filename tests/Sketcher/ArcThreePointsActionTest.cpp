@@ -41,6 +41,30 @@ private slots:
         QVERIFY(f.IsRepeated());
     }
 
+    void theClickedArcIsTheOneThroughItsPointsInTheirOrder()
+    {
+        Fixture f;
+        f.Begin();
+
+        f.ClickAt(0.1, 0.2);
+        f.ClickAt(7.3, 1.1);
+        f.ClickAt(3.7, 5.9);
+
+        QCOMPARE(f.Drawn<ArcShape>(), *ArcThrough({0.1, 0.2, 0}, {7.3, 1.1, 0}, {3.7, 5.9, 0}));
+    }
+
+    void aRadiusThatSpansNoArcIsRefused()
+    {
+        Fixture f;
+        f.Begin();
+        f.ClickAt(-5, 0);
+        f.ClickAt(5, 0);
+        f.MoveTo(1, 4);
+
+        QVERIFY(!f.action.GetRefusal(InputState::IS_Radius, 4.9).empty());
+        QVERIFY(f.action.GetRefusal(InputState::IS_Radius, 5.1).empty());
+    }
+
     void clickedArcsAreRepeatedToTheLastBit()
     {
         Fixture f;

@@ -243,17 +243,15 @@ void PaneLayout::WatchScreen(QScreen* pScreen)
 /// A pane that leaves its area has the size that it had there, as wide or as high as the window.
 void PaneLayout::OnFloated(bool isFloating)
 {
-    auto* pPane = qobject_cast<QDockWidget*>(sender());
-    if (pPane == nullptr)
-        return;
-    m_floating.remove(pPane->objectName());
+    auto& pane = static_cast<QDockWidget&>(*sender());
+    m_floating.remove(pane.objectName());
     if (!isFloating || m_isApplying)
         return;
     // Dragged, it is held by a point of its title that must not move away from the cursor.
-    if (IsDragged(*pPane))
-        m_pDragged = pPane;
+    if (IsDragged(pane))
+        m_pDragged = &pane;
     else
-        Float(*pPane);
+        Float(pane);
 }
 
 /// Gives a pane that has left its area the size at which it floated last, the first time one that
