@@ -225,6 +225,6 @@ void RegisterCommands(const std::vector<CommandEntry>& entries)
 void RunCommand(const std::wstring& id, const CommandParameters& parameters)
 {
     JournalManager::GetInstance().Add(CommandRecord{id, parameters});
-    ActionManager::ProcessCommand(IUiDocumentViewManager::Get()->GetCurrentUiView(),
+    ActionManager::ProcessCommand(UiDocumentViewManager::FindCurrentView(),
                                   ICommandManager::Get()->GetCommand(id), parameters, nullptr);
 }

@@ -2,72 +2,14 @@
 
 #include "Workspace.h"
 
-#include "Dimension/LengthUnit.h"
+#include "Dimension/InputField.h"
 #include "Geometry/Constants.h"
 #include "Journal/JournalManager.h"
 #include "View/UiViewUtility.h"
 
+#include <algorithm>
+
 using namespace vesk;
-
-namespace
-{
-
-/// What a kind of input says of a field.
-struct InputMeaning
-{
-    ActionViewInput::Kind kind;
-    InputState field;
-    bool isCommitted;
-};
-
-constexpr InputMeaning InputMeanings[] = {
-    {ActionViewInput::LengthEntered, InputState::IS_Length, false},
-    {ActionViewInput::LengthCommitted, InputState::IS_Length, true},
-    {ActionViewInput::AngleEntered, InputState::IS_Angle, false},
-    {ActionViewInput::AngleCommitted, InputState::IS_Angle, true},
-    {ActionViewInput::WidthEntered, InputState::IS_Width, false},
-    {ActionViewInput::WidthCommitted, InputState::IS_Width, true},
-    {ActionViewInput::HeightEntered, InputState::IS_Height, false},
-    {ActionViewInput::HeightCommitted, InputState::IS_Height, true},
-    {ActionViewInput::RadiusCommitted, InputState::IS_Radius, true},
-    {ActionViewInput::RadiusWithAngleCommitted, InputState::IS_Radius, true},
-    {ActionViewInput::CentralAngleCommitted, InputState::IS_CentralAngle, true},
-};
-
-const InputMeaning* FindMeaning(int kind)
-{
-    for (const InputMeaning& meaning : InputMeanings)
-    {
-        if (meaning.kind == kind)
-            return &meaning;
-    }
-    return nullptr;
-}
-
-bool IsAngle(InputState field)
-{
-    return field == InputState::IS_Angle || field == InputState::IS_CentralAngle;
-}
-
-/// The other field of a pair, which may be missing when the first is committed.
-std::optional<InputState> FindNeighbour(InputState field)
-{
-    switch (field)
-    {
-    case InputState::IS_Length:
-        return InputState::IS_Angle;
-    case InputState::IS_Angle:
-        return InputState::IS_Length;
-    case InputState::IS_Width:
-        return InputState::IS_Height;
-    case InputState::IS_Height:
-        return InputState::IS_Width;
-    default:
-        return std::nullopt;
-    }
-}
-
-}
 
 DrawingAction::DrawingAction(Workspace& workspace) : m_workspace(workspace) {}
 
@@ -93,28 +35,23 @@ std::wstring DrawingAction::GetRefusal(InputState field, double value)
     if (!Expects(field))
         return {};
     // The cursor may still give what the step needs.
-    const std::optional<InputState> neighbour = FindNeighbour(field);
-    if (neighbour.has_value() && !GetTyped(*neighbour).has_value())
+    const std::optional<InputState> other = FindOther(field);
+    if (other.has_value() && !GetTyped(*other).has_value())
         return {};
     const TypedValues::Trial trial(m_values, field, value);
     return CanFinish(GetEnd()) ? std::wstring() : L"这个值在这里不起作用，请换一个";
 }
 
-void DrawingAction::OnViewInput(const ActionViewInput& input, const TypedValue& typed)
+void DrawingAction::OnViewInput(const ActionViewInput&, const TypedValue& typed)
 {
-    const InputMeaning* pMeaning = FindMeaning(input.kind);
-    if (pMeaning == nullptr || !Expects(pMeaning->field))
+    const InputState field = typed.field;
+    if (!Expects(field))
         return;
-    const InputState field = pMeaning->field;
-    const double delivered =
-        IsAngle(field) ? input.value : LengthUnit::GetCurrent().ToModel(input.value);
-    const double entered = typed.modelValue.value_or(delivered);
-
     // A field that was only confirmed keeps its own value, not the rounded one that was shown.
-    m_values.Take({field, typed.text, typed.isUnchanged ? GetValue(field) : entered});
-    if (!pMeaning->isCommitted)
+    m_values.Take({field, typed.text, typed.isUnchanged ? GetValue(field) : typed.value});
+    if (!typed.isCommitted)
         m_values.Record();
-    else if (!EndStep(GetEnd()) && !FindNeighbour(field).has_value())
+    else if (!EndStep(GetEnd()) && !FindOther(field).has_value())
         m_values.Drop(field);
 }
 
@@ -176,6 +113,15 @@ double DrawingAction::GetPixel() const
 {
     const double pixel = UiViewUtility::ComputeWorldWidthFromPixel(m_pView, 1);
     return pixel > 0.0 ? pixel : 1.0;
+}
+
+/// The other value that the step takes; none where it takes one only.
+std::optional<InputState> DrawingAction::FindOther(InputState field) const
+{
+    const auto* pFound =
+        std::find_if(TypedStates.begin(), TypedStates.end(),
+                     [this, field](InputState other) { return other != field && Expects(other); });
+    return pFound != TypedStates.end() ? std::optional(*pFound) : std::nullopt;
 }
 
 /// False when the step cannot end there.

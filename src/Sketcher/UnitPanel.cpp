@@ -69,7 +69,7 @@ void UnitPanel::On(IControlDefinitionChangeEventArgs*)
         // What is being typed was meant in the other unit.
         TemporaryDimensionMgr::GetInstance()->EndInput();
         LengthUnit::SetCurrent(choice.unit());
-        ActionManager::RefreshViewInput(&m_view);
+        ActionManager::RenewViewInput(&m_view);
         emit unitChanged();
     }
 }

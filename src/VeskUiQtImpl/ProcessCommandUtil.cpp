@@ -16,6 +16,7 @@
 #include "View/IUiDocumentViewManager.h"
 #include "View/IUiManager.h"
 #include "View/IUiView.h"
+#include "ViewLookup.h"
 
 #include <Qtitan/RibbonButtonControl.h>
 
@@ -58,8 +59,7 @@ ICommand* FindCommand(const std::wstring& commandId, const char* function)
 void ShowViewText()
 {
     const IAction* pAction = IActionManager::CurrentAction();
-    const IUiDocumentViewManager* pViewManager = IUiDocumentViewManager::Get();
-    IUiView* pView = pViewManager != nullptr ? pViewManager->GetCurrentUiView() : nullptr;
+    IUiView* pView = FindCurrentView();
     if (pAction != nullptr && pView != nullptr)
         pView->SetViewText(pAction->GetViewText());
 }

@@ -219,7 +219,7 @@ private slots:
     void keysAreDescribedWithTheFieldThatTabLeadsTo()
     {
         InputField field = MakeField(Quantity::Length);
-        field.next = QStringLiteral("角度");
+        field.next = InputState::IS_Angle;
 
         QCOMPARE(DescribeKeys(field, false),
                  QStringLiteral("<b>Tab</b>&nbsp;角度 · <b>Enter</b>&nbsp;确定 "
@@ -261,7 +261,7 @@ private slots:
         QFETCH(QString, text);
         QFETCH(bool, isTaken);
         InputField field = MakeField(Quantity::Length);
-        field.commitsWithSpace = true;
+        field.takesWithSpace = true;
 
         QCOMPARE(IsTakenWithSpace(text, field, LengthUnit::Millimetre()), isTaken);
     }

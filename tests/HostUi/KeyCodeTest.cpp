@@ -1,5 +1,7 @@
 #include "KeyCode.h"
 
+#include "Dimension/InputField.h"
+
 #include "Support/TestValues.h"
 
 #include <QKeyEvent>
@@ -115,6 +117,35 @@ private slots:
         const QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
 
         QTEST(vesk::IsModifierKey(event), "isModifier");
+    }
+
+    void keysThatTakeAValueAreTheFields_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<bool>("takesAlways");
+        QTest::addColumn<bool>("takesWithSpace");
+        QTest::addColumn<bool>("takesWithTab");
+
+        QTest::newRow("Return") << int(Qt::Key_Return) << true << true << true;
+        QTest::newRow("Enter") << int(Qt::Key_Enter) << true << true << true;
+        QTest::newRow("Space") << int(Qt::Key_Space) << false << true << false;
+        QTest::newRow("Tab") << int(Qt::Key_Tab) << false << false << true;
+        QTest::newRow("Shift+Tab") << int(Qt::Key_Backtab) << false << false << false;
+        QTest::newRow("Escape") << int(Qt::Key_Escape) << false << false << false;
+        QTest::newRow("digit") << int(Qt::Key_5) << false << false << false;
+    }
+
+    void keysThatTakeAValueAreTheFields()
+    {
+        QFETCH(int, key);
+        vesk::InputField withSpace;
+        withSpace.takesWithSpace = true;
+        vesk::InputField withTab;
+        withTab.next = vesk::InputState::IS_Angle;
+
+        QTEST(vesk::TakesValue(vesk::InputField(), key), "takesAlways");
+        QTEST(vesk::TakesValue(withSpace, key), "takesWithSpace");
+        QTEST(vesk::TakesValue(withTab, key), "takesWithTab");
     }
 };
 

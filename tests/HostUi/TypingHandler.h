@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Command/TypedValue.h"
 #include "Dimension/ITemporaryDimensionContext.h"
 #include "Dimension/ITemporaryDimensionHandler.h"
 #include "Dimension/InputState.h"
@@ -24,7 +25,7 @@ namespace vesk::test
 struct TakenValue
 {
     QString text;                    ///< As it stood in the editor.
-    TypedValue typed;                ///< What the manager knew of it at that moment.
+    EditorText typed;                ///< What the host knew of it at that moment.
     Qt::KeyboardModifiers modifiers; ///< Of the key that took it.
 };
 
@@ -136,7 +137,7 @@ private:
     void Take(Qt::KeyboardModifiers modifiers)
     {
         m_script.taken.push_back(
-            {m_pEditor->text(), TemporaryDimensionMgr::GetInstance()->TakeTypedValue(), modifiers});
+            {m_pEditor->text(), EditorTextScope::Take(), modifiers});
     }
 
     void GoOn()

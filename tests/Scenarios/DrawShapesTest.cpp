@@ -6,7 +6,7 @@
 
 #include "Command/ActionManager.h"
 #include "Command/ActionViewInput.h"
-#include "Dimension/TemporaryDimensionMgr.h"
+#include "Command/TypedValue.h"
 #include "Support/TestValues.h"
 
 #include <algorithm>
@@ -30,7 +30,7 @@ std::function<void()> Deliver(ActionViewInput::Kind kind, double value)
 {
     return [kind, value] {
         const std::wstring text = QString::number(value, 'g', 17).toStdWString();
-        vesk::TemporaryDimensionMgr::GetInstance()->SetTypedValue({text, false, std::nullopt});
+        const vesk::EditorTextScope editor({text, false, std::nullopt});
         vesk::ActionManager::ProcessViewInput(ScriptedUser::FindView(), {kind, value, {}, {}});
     };
 }

@@ -5,6 +5,8 @@
 #include "Command/ActionViewInput.h"
 #include "Command/IAction.h"
 #include "Dimension/ITemporaryDimensionContext.h"
+#include "Dimension/InputField.h"
+#include "Dimension/LengthUnit.h"
 #include "Dimension/TemporaryDimensionMgr.h"
 #include "Graphics/IGraphicsNode.h"
 #include "Journal/JournalFormat.h"
@@ -44,15 +46,21 @@ public:
     /// Types a number, or confirms one that was shown.
     void Type(vesk::ActionViewInput::Kind kind, double value, bool isUnchanged = false)
     {
-        action.OnViewInput({kind, value, {}, {}},
-                           {std::to_wstring(value), isUnchanged, std::nullopt});
+        const vesk::InputMeaning meaning = vesk::FindInputMeaning(kind);
+        const bool isLength = vesk::QuantityOf(meaning.field) == vesk::Quantity::Length;
+        const double modelValue = isLength ? vesk::LengthUnit::GetCurrent().ToModel(value) : value;
+        action.OnViewInput(
+            {kind, value, {}, {}},
+            {meaning.field, modelValue, std::to_wstring(value), isUnchanged, meaning.isCommitted});
     }
 
     /// Types a text that stands for a value of the model.
     void TypeText(vesk::ActionViewInput::Kind kind, const std::wstring& text, double value,
                   double modelValue)
     {
-        action.OnViewInput({kind, value, {}, {}}, {text, false, modelValue});
+        const vesk::InputMeaning meaning = vesk::FindInputMeaning(kind);
+        action.OnViewInput({kind, value, {}, {}},
+                           {meaning.field, modelValue, text, false, meaning.isCommitted});
     }
 
     /// The dimensions that are offered now; null when there are none, or others.

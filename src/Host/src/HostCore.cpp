@@ -20,7 +20,6 @@ HostCore::~HostCore()
 {
     ActionManager::Reset();
     TemporaryDimensionMgr::GetInstance()->Drop();
-    TemporaryDimensionMgr::GetInstance()->TakeTypedValue();
     ICommandManager::Get()->RemoveAllCommands();
     JournalManager::GetInstance().Close();
     DebugMessageMgr::GetDebugMessageMgr()->Reset();

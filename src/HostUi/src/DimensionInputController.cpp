@@ -3,8 +3,9 @@
 #include "Command/ActionManager.h"
 #include "Command/IAction.h"
 #include "Command/IActionManager.h"
-#include "Dimension/ITemporaryDimensionContext.h"
+#include "Command/TypedValue.h"
 #include "Dimension/ITemporaryDimensionHandler.h"
+#include "Dimension/InputField.h"
 #include "Dimension/LengthUnit.h"
 #include "Dimension/TemporaryDimensionStyle.h"
 #include "EditorNotes.h"
@@ -14,6 +15,7 @@
 #include "InputJudge.h"
 #include "Journal/IJournalUiObject.h"
 #include "KeyCode.h"
+#include "KeyTarget.h"
 #include "LateUnit.h"
 #include "NoteLayout.h"
 #include "TextCollector.h"
@@ -24,7 +26,6 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
-#include <QWindow>
 
 namespace vesk
 {
@@ -32,22 +33,15 @@ namespace
 {
 
 constexpr int EditorKind = 3;
-constexpr int VirtualComma = 188;
 
 TemporaryDimensionMgr& Manager()
 {
     return *TemporaryDimensionMgr::GetInstance();
 }
 
-IUiView* CurrentView()
-{
-    const IUiDocumentViewManager* pViews = IUiDocumentViewManager::Get();
-    return pViews != nullptr ? pViews->GetCurrentUiView() : nullptr;
-}
-
 QWidget* CurrentViewWidget()
 {
-    const IUiView* pView = CurrentView();
+    const IUiView* pView = UiDocumentViewManager::FindCurrentView();
     return pView != nullptr ? QWidget::find(pView->GetWindowId()) : nullptr;
 }
 
@@ -57,29 +51,39 @@ void TakeEscape()
     if (Manager().IsInputting())
         Manager().EndInput();
     else
-        ActionManager::ProcessEscape(CurrentView());
+        ActionManager::ProcessEscape(UiDocumentViewManager::FindCurrentView());
 }
 
-/// The field that is being typed in.
-InputField CurrentField()
-{
-    const IAction* pAction = IActionManager::CurrentAction();
-    OwnerPtr<ITemporaryDimensionContext> opContext;
-    if (pAction != nullptr)
-        opContext = pAction->CreateDimensionContext();
-    return FindInputField(opContext.Get(), Manager().GetInputState());
-}
-
-/// Why the action cannot use a value of that field; empty when it can.
-QString AskAction(double modelValue)
+/// Why the action cannot use a value of a field; empty when it can.
+QString AskAction(InputState field, double modelValue)
 {
     IAction* pAction = IActionManager::CurrentAction();
-    return pAction != nullptr
-               ? ToQString(pAction->GetRefusal(Manager().GetInputState(), modelValue))
-               : QString();
+    return pAction != nullptr ? ToQString(pAction->GetRefusal(field, modelValue)) : QString();
 }
 
 }
+
+/// The time in which a key that was judged is on its way to the handler: it is not judged again.
+class DimensionInputController::Delivery
+{
+public:
+    Delivery(DimensionInputController& controller, const QEvent& event) : m_pController(&controller)
+    {
+        controller.m_pDelivered = &event;
+    }
+
+    ~Delivery()
+    {
+        if (m_pController != nullptr)
+            m_pController->m_pDelivered = nullptr;
+    }
+
+    Delivery(const Delivery&) = delete;
+    Delivery& operator=(const Delivery&) = delete;
+
+private:
+    QPointer<DimensionInputController> m_pController;
+};
 
 DimensionInputController::DimensionInputController()
     : m_pNotes(std::make_unique<EditorNotes>()), m_pEscape(std::make_unique<EscapeKey>()),
@@ -122,7 +126,7 @@ bool DimensionInputController::OnViewKey(QKeyEvent& event)
         return true;
     if (IActionManager::CurrentAction() == nullptr)
         return false;
-    ActionManager::ProcessEscape(CurrentView());
+    ActionManager::ProcessEscape(UiDocumentViewManager::FindCurrentView());
     return true;
 }
 
@@ -151,8 +155,8 @@ std::optional<double> DimensionInputController::GetValue() const
     const QLineEdit* pEditor = GetActiveEditor();
     if (pEditor == nullptr)
         return std::nullopt;
-    const TypedReading reading =
-        ReadTypedText(pEditor->text(), CurrentField().quantity, LengthUnit::GetCurrent());
+    const TypedReading reading = ReadTypedText(pEditor->text(), Manager().GetInputField().quantity,
+                                               LengthUnit::GetCurrent());
     const bool isRead = reading.isPlain || !Manager().IsRawTextInput();
     return reading.fault == TypedTextFault::None && isRead ? std::optional(reading.value)
                                                            : std::nullopt;
@@ -278,7 +282,7 @@ void DimensionInputController::OnEditorHidden()
         Manager().SetEditorWidth(0);
     m_pClicked.clear();
     // Without a window manager nobody else gives the keyboard back.
-    IUiView* pView = CurrentView();
+    IUiView* pView = UiDocumentViewManager::FindCurrentView();
     if (pView != nullptr && QGuiApplication::applicationState() == Qt::ApplicationActive)
         pView->Activate();
 }
@@ -286,6 +290,8 @@ void DimensionInputController::OnEditorHidden()
 /// True when the key goes no further.
 bool DimensionInputController::FilterEditorKey(QKeyEvent& event)
 {
+    if (&event == m_pDelivered)
+        return false;
     QLineEdit* pEditor = GetActiveEditor();
     if (pEditor == nullptr || FindOtherField() != nullptr)
         return PassOn(event);
@@ -297,39 +303,44 @@ bool DimensionInputController::FilterEditorKey(QKeyEvent& event)
     }
     if (event.key() == Qt::Key_Escape)
         return !m_pEscape->Press(event);
-    const InputField field = CurrentField();
-    if (event.key() == Qt::Key_Backtab && field.IsCommitting(Qt::Key_Tab))
+    const InputField field = Manager().GetInputField();
+    if (event.key() == Qt::Key_Backtab && TakesValue(field, Qt::Key_Tab))
     {
         // There are two fields: back is on.
         QKeyEvent tab(event.type(), Qt::Key_Tab, Qt::NoModifier, event.text());
         QCoreApplication::sendEvent(pEditor, &tab);
         return true;
     }
-    return field.IsCommitting(event.key()) && FilterCommittingKey(*pEditor, event, field);
+    if (!TakesValue(field, event.key()))
+        return false;
+    TakeValue(*pEditor, event, field);
+    return true;
 }
 
-bool DimensionInputController::FilterCommittingKey(QLineEdit& editor, const QKeyEvent& event,
-                                                   const InputField& field)
+/// Judges what stands in the editor and, where it can be taken, lets the handler take it.
+void DimensionInputController::TakeValue(QLineEdit& editor, QKeyEvent& event,
+                                         const InputField& field)
 {
     const bool isJudged = !Manager().IsRawTextInput();
     const bool isSpace = event.key() == Qt::Key_Space;
     if (isJudged && isSpace && !IsTakenWithSpace(editor.text(), field, LengthUnit::GetCurrent()))
     {
         editor.insert(QStringLiteral(" "));
-        return true;
+        return;
     }
-    TypedValue typed{ToWide(editor.text()), !m_isTextTyped, std::nullopt};
+    EditorText typed{ToWide(editor.text()), !m_isTextTyped, std::nullopt};
     if (isJudged)
     {
         typed.modelValue = Accept(editor, field);
         if (!typed.modelValue.has_value())
-            return true;
+            return;
     }
-    Manager().SetTypedValue(typed);
     m_isTextTyped = m_isTextTyped && event.key() != Qt::Key_Tab;
     if (isJudged && isSpace)
         m_pLateUnit->Begin();
-    return false;
+    const EditorTextScope text(typed);
+    const Delivery delivery(*this, event);
+    QCoreApplication::sendEvent(&editor, &event);
 }
 
 /// The field in which the user goes on typing instead of the editor; null when there is none.
@@ -338,23 +349,17 @@ QWidget* DimensionInputController::FindOtherField() const
     const QWidget* pView = CurrentViewWidget();
     if (pView == nullptr)
         return nullptr;
-    const QWidget* pWindow = m_pClicked != nullptr ? m_pClicked.data() : pView->window();
-    QWidget* pFocus = pWindow->focusWidget();
-    const bool takesText = pFocus != nullptr && pFocus->testAttribute(Qt::WA_InputMethodEnabled);
-    return takesText && pFocus != m_pEditor ? pFocus : nullptr;
+    return FindTextField(m_pClicked != nullptr ? *m_pClicked : *pView->window(), m_pEditor);
 }
 
-/// Passes on a key that arrived in the editor and is not for it, for the window system gives the
-/// keyboard away late: through the window of whoever gets it, where others listen.
+/// Passes on a key that arrived in the editor and is not for it: the window system gives the
+/// keyboard away late.
 bool DimensionInputController::PassOn(QEvent& event)
 {
     QWidget* pField = FindOtherField();
     QWidget* pWidget = pField != nullptr ? pField : CurrentViewWidget();
-    if (pWidget == nullptr)
-        return true;
-    QWindow* pWindow = pWidget->window()->windowHandle();
-    const bool isReached = pWindow != nullptr && pWidget->window()->focusWidget() == pWidget;
-    QCoreApplication::sendEvent(isReached ? static_cast<QObject*>(pWindow) : pWidget, &event);
+    if (pWidget != nullptr)
+        SendKeyTo(*pWidget, event);
     return true;
 }
 
@@ -369,7 +374,7 @@ bool DimensionInputController::KeepsForUnit(const QKeyEvent& event)
         EndLateUnit();
         return false;
     }
-    IUiView* pView = CurrentView();
+    IUiView* pView = UiDocumentViewManager::FindCurrentView();
     if (m_pLateUnit->Take(event) && pView != nullptr)
         pView->SetViewText(ToWide(DescribeLateUnit(m_pLateUnit->GetText())));
     return true;
@@ -389,7 +394,7 @@ std::optional<double> DimensionInputController::Accept(QLineEdit& editor, const 
     const InputVerdict verdict = JudgeInput(editor.text(), field, LengthUnit::GetCurrent());
     m_refusal = verdict.refusal;
     if (verdict.modelValue.has_value())
-        m_refusal = AskAction(*verdict.modelValue);
+        m_refusal = AskAction(field.state, *verdict.modelValue);
     if (!m_refusal.isEmpty())
         editor.selectAll();
     else if (verdict.replacement.has_value())
@@ -428,17 +433,15 @@ bool DimensionInputController::OpenInput(const QKeyEvent& event)
         Manager().OnKeyDown(virtualKey, false, modifiers & Qt::AltModifier,
                             modifiers & Qt::ShiftModifier);
     m_isTextTyped = virtualKey != VirtualComma || !Manager().IsInputting();
-    if (CanBeginValue(event) && !Manager().IsInputting())
-        OpenInputWithText(event.text());
-    return virtualKey != 0 || CanBeginValue(event);
-}
-
-/// Opens the input as a digit would and puts the character in the digit's place.
-void DimensionInputController::OpenInputWithText(const QString& text)
-{
+    if (!CanBeginValue(event))
+        return virtualKey != 0;
+    if (Manager().IsInputting())
+        return true;
+    // Opened as by a digit, in whose place the character is put.
     Manager().OnKeyDown('0', false, false, false);
     if (QLineEdit* pEditor = GetActiveEditor())
-        pEditor->setText(text);
+        pEditor->setText(event.text());
+    return true;
 }
 
 void DimensionInputController::OnTextChanged()
@@ -454,7 +457,7 @@ void DimensionInputController::OnTextEdited()
     const QLineEdit* pEditor = GetActiveEditor();
     const InputState field = Manager().GetInputState();
     if (pEditor != nullptr && pEditor->text().isEmpty() && Manager().IsLocked(field))
-        ActionManager::FreeValue(CurrentView(), field);
+        ActionManager::FreeValue(UiDocumentViewManager::FindCurrentView(), field);
     UpdateNotes();
 }
 
@@ -470,7 +473,7 @@ void DimensionInputController::FitEditor()
         return;
     Manager().SetEditorWidth(width);
     pEditor->setFixedWidth(TemporaryDimensionStyle().GetEditorWidth());
-    ActionManager::RefreshViewInput(CurrentView());
+    ActionManager::RefreshViewInput(UiDocumentViewManager::FindCurrentView());
 }
 
 void DimensionInputController::UpdateNotes()
@@ -482,7 +485,7 @@ void DimensionInputController::UpdateNotes()
         m_pNotes->Hide();
         return;
     }
-    const InputField field = CurrentField();
+    const InputField field = Manager().GetInputField();
     NoteTexts texts;
     texts.refusal = m_refusal;
     if (!Manager().IsRawTextInput())
@@ -493,7 +496,7 @@ void DimensionInputController::UpdateNotes()
     const QPoint corner = pView->mapFromGlobal(pEditor->mapToGlobal(QPoint(0, 0)));
     m_pNotes->Show(*pView,
                    {pView->size(), QRect(corner, pEditor->size()), m_cursor,
-                    FindDimensionTexts(*CurrentView(), *pView)},
+                    FindDimensionTexts(*UiDocumentViewManager::FindCurrentView(), *pView)},
                    texts);
 }
 

@@ -232,7 +232,7 @@ void DrawingView::wheelEvent(QWheelEvent* pEvent)
 
 void DrawingView::OnCameraChanged()
 {
-    ActionManager::RefreshViewInput(this);
+    ActionManager::RenewViewInput(this);
     UpdateModel();
     TellCursor();
 }

@@ -58,7 +58,7 @@ QString DescribeValue(const QString& text, Quantity quantity, const LengthUnit& 
 
 bool IsTakenWithSpace(const QString& text, const InputField& field, const LengthUnit& unit)
 {
-    return field.commitsWithSpace && ReadTypedText(text, field.quantity, unit).isPlain;
+    return field.takesWithSpace && ReadTypedText(text, field.quantity, unit).isPlain;
 }
 
 QString DescribeLateUnit(const QString& unit)
@@ -71,8 +71,8 @@ QString DescribeKeys(const InputField& field, bool isTakenWithSpace)
 {
     const QString pattern = QStringLiteral("<b>%1</b>&nbsp;%2");
     QStringList keys;
-    if (!field.next.isEmpty())
-        keys << pattern.arg(QStringLiteral("Tab"), field.next);
+    if (field.next != InputState::IS_None)
+        keys << pattern.arg(QStringLiteral("Tab"), ToQString(CaptionOf(field.next)));
     const QString taking =
         isTakenWithSpace ? QStringLiteral("Enter</b>/<b>空格") : QStringLiteral("Enter");
     keys << pattern.arg(taking, QStringLiteral("确定"))

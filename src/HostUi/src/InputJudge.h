@@ -1,6 +1,6 @@
 #pragma once
 
-#include "InputField.h"
+#include "Dimension/InputField.h"
 
 #include <QString>
 

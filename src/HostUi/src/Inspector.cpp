@@ -6,9 +6,9 @@
 #include "Control/IControlDefinition.h"
 #include "Control/IControlDefinitionChangeEvent.h"
 #include "DefinitionText.h"
+#include "Dimension/InputField.h"
 #include "Dimension/TemporaryDimensionMgr.h"
 #include "HostUi/DimensionInputController.h"
-#include "HostUi/FieldCaption.h"
 #include "HostUi/QtText.h"
 
 #include <QHeaderView>
@@ -58,14 +58,14 @@ QString InputText(const DimensionInputController& input)
         return QStringLiteral("无");
     QStringList parts;
     if (const QLineEdit* pEditor = input.GetActiveEditor())
-        parts << QStringLiteral("%1 “%2”").arg(FieldCaption(manager.GetInputState()),
+        parts << QStringLiteral("%1 “%2”").arg(ToQString(CaptionOf(manager.GetInputState())),
                                                pEditor->text());
     else
         parts << QStringLiteral("等待键入");
     if (manager.IsRawTextInput())
         parts << QStringLiteral("原文");
     for (const InputState field : manager.GetLocked())
-        parts << QStringLiteral("已锁定 ") + FieldCaption(field);
+        parts << QStringLiteral("已锁定 ") + ToQString(CaptionOf(field));
     return parts.join(QStringLiteral("，"));
 }
 

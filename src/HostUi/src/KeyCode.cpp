@@ -1,19 +1,13 @@
 #include "KeyCode.h"
 
+#include "Dimension/InputField.h"
+
 #include <QKeyEvent>
 
 namespace vesk
 {
 namespace
 {
-
-enum VirtualKey : int
-{
-    VirtualKeypad0 = 96,
-    VirtualKeypadMinus = 109,
-    VirtualComma = 188,
-    VirtualMinus = 189,
-};
 
 int ToVirtualKeypadKey(int key)
 {
@@ -57,6 +51,22 @@ bool CanBeginValue(const QKeyEvent& event)
         return false;
     const QChar character = event.text().front();
     return character.isLetterOrNumber() || QStringLiteral(".,-+(").contains(character);
+}
+
+bool TakesValue(const InputField& field, int key)
+{
+    switch (key)
+    {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return true;
+    case Qt::Key_Space:
+        return field.takesWithSpace;
+    case Qt::Key_Tab:
+        return field.next != InputState::IS_None;
+    default:
+        return false;
+    }
 }
 
 }

@@ -77,9 +77,8 @@ Json DescribeEditor(const DimensionInputController& input)
 /// What the user is told in the current view.
 std::string DescribeHint()
 {
-    const IUiDocumentViewManager* pViews = IUiDocumentViewManager::Get();
-    const IUiView* pView = pViews != nullptr ? pViews->GetCurrentUiView() : nullptr;
-    const auto* pDrawingView = dynamic_cast<const DrawingView*>(pView);
+    const auto* pDrawingView =
+        dynamic_cast<const DrawingView*>(UiDocumentViewManager::FindCurrentView());
     return pDrawingView != nullptr ? Utf8(pDrawingView->GetViewText()) : std::string();
 }
 

@@ -2,7 +2,7 @@
 
 #include "Overloaded.h"
 
-#include "HostUi/FieldCaption.h"
+#include "Dimension/InputField.h"
 #include "HostUi/QtText.h"
 #include "Journal/JournalRecord.h"
 
@@ -80,7 +80,7 @@ QString DescribeRecord(const JournalRecord& record)
             [](const PointRecord& point) { return PointText(point); },
             [](const ValueRecord& value) {
                 return QStringLiteral("%1 “%2” = %3")
-                    .arg(FieldCaption(value.field), Shortened(ToQString(value.text)),
+                    .arg(ToQString(CaptionOf(value.field)), Shortened(ToQString(value.text)),
                          NumberText(value.value));
             },
             [](const SelectionRecord& selection) { return SelectionText(selection); },

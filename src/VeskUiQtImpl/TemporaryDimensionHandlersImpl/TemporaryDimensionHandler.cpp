@@ -6,9 +6,9 @@
 #include "Geometry/Constants.h"
 #include "Journal/IJournalManager.h"
 #include "Journal/IJournalUiObject.h"
-#include "View/IUiDocumentViewManager.h"
 #include "View/IUiManager.h"
 #include "View/IUiView.h"
+#include "ViewLookup.h"
 #include "View/UiViewUtility.h"
 
 #include <QStyle>
@@ -200,8 +200,7 @@ void TemporaryDimensionHandler::EnableIme()
 /// Takes the current view's id; the view worked in stays while there is none.
 void TemporaryDimensionHandler::RefreshViewId()
 {
-    const IUiDocumentViewManager* pViewManager = IUiDocumentViewManager::Get();
-    const IUiView* pView = pViewManager != nullptr ? pViewManager->GetCurrentUiView() : nullptr;
+    const IUiView* pView = FindCurrentView();
     if (pView != nullptr && pView->GetId() != m_viewId)
         m_viewId = pView->GetId();
 }

@@ -12,7 +12,7 @@
 #include "TemporaryDimensionHandlersImpl/RadiusTemporaryDimensionHandler.h"
 #include "TemporaryDimensionHandlersImpl/RectangleTemporaryDimensionHandler.h"
 #include "TemporaryDimensionHandlersImpl/RotationTemporaryDimensionHandler.h"
-#include "View/IUiDocumentViewManager.h"
+#include "ViewLookup.h"
 
 #include <algorithm>
 #include <array>
@@ -62,12 +62,6 @@ const HandlerKind* FindKind(const ITemporaryDimensionContext& context)
     return found != kinds.end() ? &*found : nullptr;
 }
 
-IUiView* CurrentView()
-{
-    const IUiDocumentViewManager* pViewManager = IUiDocumentViewManager::Get();
-    return pViewManager != nullptr ? pViewManager->GetCurrentUiView() : nullptr;
-}
-
 /// The name as the compiler gives it, which holds the class name and is plain ASCII.
 std::wstring TypeName(const ITemporaryDimensionContext& context)
 {
@@ -84,7 +78,7 @@ TemporaryDimensionHandlerFactory::UpdateOrCreateHandler(const ITemporaryDimensio
     constexpr char Function[] = "vesk::TemporaryDimensionHandlerFactory::UpdateOrCreateHandler";
     if (!Check(pContext != nullptr, VESK_SITE(Function, L"pCtx为空!")))
         return nullptr;
-    IUiView* pCurrentView = CurrentView();
+    IUiView* pCurrentView = FindCurrentView();
     if (!Check(pCurrentView != nullptr, VESK_SITE(Function, L"pCurrentView为空")))
         return nullptr;
 

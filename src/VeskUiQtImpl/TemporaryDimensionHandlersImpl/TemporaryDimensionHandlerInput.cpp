@@ -2,7 +2,7 @@
 #include "Command/ActionManager.h"
 #include "Foundation/FirstException.h"
 #include "TemporaryDimensionHandlersImpl/TemporaryDimensionHandler.h"
-#include "TemporaryDimensionHandlersImpl/ViewLookup.h"
+#include "ViewLookup.h"
 
 #include <HostUi/QtText.h>
 

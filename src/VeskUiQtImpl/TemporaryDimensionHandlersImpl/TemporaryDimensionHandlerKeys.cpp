@@ -1,6 +1,6 @@
 #include "CheckSite.h"
 #include "TemporaryDimensionHandlersImpl/TemporaryDimensionHandler.h"
-#include "TemporaryDimensionHandlersImpl/ViewLookup.h"
+#include "ViewLookup.h"
 
 #include <QKeyEvent>
 

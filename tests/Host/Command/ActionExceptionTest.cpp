@@ -1,6 +1,7 @@
 #include "Host/Command/ActionFixture.h"
 
 #include "Command/IActionManager.h"
+#include "Command/TypedValue.h"
 #include "Dimension/TemporaryDimensionMgr.h"
 
 #include "Support/TestValues.h"
@@ -447,11 +448,14 @@ void ActionExceptionTest::theTypedValueIsForgotten()
     f.AddInteractive("Line");
     f.scripts["Line"].onViewInput = [](const ActionViewInput&) { Throw(); };
     f.Choose("Line");
-    TemporaryDimensionMgr::GetInstance()->SetTypedValue({L"50", false, std::nullopt});
+    const auto typeValue = [&f] {
+        const EditorTextScope text({L"50", false, std::nullopt});
+        f.TypeValue();
+    };
 
-    QVERIFY_EXCEPTION_THROWN(f.TypeValue(), std::runtime_error);
+    QVERIFY_EXCEPTION_THROWN(typeValue(), std::runtime_error);
 
-    QCOMPARE(TemporaryDimensionMgr::GetInstance()->TakeTypedValue().text, std::wstring());
+    QCOMPARE(EditorTextScope::Take().text, std::wstring());
 }
 
 }

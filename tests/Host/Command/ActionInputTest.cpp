@@ -1,7 +1,9 @@
 #include "Host/Command/ActionFixture.h"
 
 #include "Command/IActionManager.h"
-#include "Dimension/TemporaryDimensionMgr.h"
+#include "Command/TypedValue.h"
+#include "Dimension/InputState.h"
+#include "Dimension/LengthUnit.h"
 #include "Support/TestValues.h"
 
 #include <memory>
@@ -14,6 +16,7 @@ using Input = std::function<void(ActionFixture&)>;
 }
 
 Q_DECLARE_METATYPE(vesk::Input)
+Q_DECLARE_METATYPE(vesk::InputState)
 
 namespace vesk
 {
@@ -57,8 +60,12 @@ private slots:
     void anEscapeForTheNextCommandEndsIt();
     void clicksAfterTheLastActionAreLost();
     void clicksDoNotWaitForACommandThatIsChosenLater();
-    void theTypedTextComesWithItsValue();
-    void theTypedTextGoesWithOneValueOnly();
+    void theTextIsHandedOnWithItsValue();
+    void theTextGoesWithOneValueOnly();
+    void theTextIsForgottenWithItsScope();
+    void aValueIsToldInModelUnits_data();
+    void aValueIsToldInModelUnits();
+    void anUnknownKindIsOfNoField();
     void theInputMayBelongToAHandlerThatIsDropped();
 };
 
@@ -261,13 +268,12 @@ void ActionInputTest::clicksDoNotWaitForACommandThatIsChosenLater()
     QVERIFY(!f.Has("Line.click"));
 }
 
-void ActionInputTest::theTypedTextComesWithItsValue()
+void ActionInputTest::theTextIsHandedOnWithItsValue()
 {
-    TemporaryDimensionMgr& dimensions = *TemporaryDimensionMgr::GetInstance();
     ActionFixture f;
     f.AddInteractive("Line");
     f.loop.Post([&] {
-        dimensions.SetTypedValue({L"12.5", true, 317.5});
+        const EditorTextScope text({L"12.5", true, 317.5});
         f.TypeValue();
     });
 
@@ -276,20 +282,19 @@ void ActionInputTest::theTypedTextComesWithItsValue()
     const TypedValue& seen = f.scripts["Line"].typed;
     QCOMPARE(seen.text, std::wstring(L"12.5"));
     QVERIFY(seen.isUnchanged);
-    QVERIFY(seen.modelValue == 317.5);
+    QCOMPARE_EXACTLY(seen.value, 317.5);
 }
 
-void ActionInputTest::theTypedTextGoesWithOneValueOnly()
+void ActionInputTest::theTextGoesWithOneValueOnly()
 {
-    TemporaryDimensionMgr& dimensions = *TemporaryDimensionMgr::GetInstance();
     ActionFixture f;
     f.AddInteractive("Line");
-    TypedValue within;
+    EditorText within;
     f.scripts["Line"].onViewInput = [&](const ActionViewInput&) {
-        within = dimensions.TakeTypedValue();
+        within = EditorTextScope::Take();
     };
     f.loop.Post([&] {
-        dimensions.SetTypedValue({L"12.5", true, 317.5});
+        const EditorTextScope text({L"12.5", true, 317.5});
         f.TypeValue();
         f.TypeValue();
     });
@@ -300,7 +305,85 @@ void ActionInputTest::theTypedTextGoesWithOneValueOnly()
     const TypedValue& second = f.scripts["Line"].typed;
     QVERIFY(second.text.empty());
     QVERIFY(!second.isUnchanged);
-    QVERIFY(!second.modelValue.has_value());
+    QVERIFY(second.value != 317.5);
+}
+
+void ActionInputTest::theTextIsForgottenWithItsScope()
+{
+    {
+        const EditorTextScope outer({L"1", false, std::nullopt});
+        {
+            const EditorTextScope inner({L"2", false, std::nullopt});
+        }
+        QCOMPARE(EditorTextScope::Take().text, std::wstring(L"1"));
+    }
+    {
+        const EditorTextScope untaken({L"3", false, std::nullopt});
+    }
+
+    QCOMPARE(EditorTextScope::Take().text, std::wstring());
+}
+
+void ActionInputTest::aValueIsToldInModelUnits_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<InputState>("field");
+    QTest::addColumn<bool>("isCommitted");
+    QTest::addColumn<double>("value");
+    constexpr double Shown = 2.0;
+    constexpr double Inches = 50.8;
+
+    QTest::newRow("length, Tab") << int(ActionViewInput::LengthEntered) << InputState::IS_Length
+                                 << false << Inches;
+    QTest::newRow("length") << int(ActionViewInput::LengthCommitted) << InputState::IS_Length
+                            << true << Inches;
+    QTest::newRow("angle, Tab") << int(ActionViewInput::AngleEntered) << InputState::IS_Angle
+                                << false << Shown;
+    QTest::newRow("angle") << int(ActionViewInput::AngleCommitted) << InputState::IS_Angle << true
+                           << Shown;
+    QTest::newRow("radius") << int(ActionViewInput::RadiusCommitted) << InputState::IS_Radius
+                            << true << Inches;
+    QTest::newRow("radius beside an angle") << int(ActionViewInput::RadiusWithAngleCommitted)
+                                            << InputState::IS_Radius << true << Inches;
+    QTest::newRow("central angle") << int(ActionViewInput::CentralAngleCommitted)
+                                   << InputState::IS_CentralAngle << true << Shown;
+    QTest::newRow("width, Tab") << int(ActionViewInput::WidthEntered) << InputState::IS_Width
+                                << false << Inches;
+    QTest::newRow("width") << int(ActionViewInput::WidthCommitted) << InputState::IS_Width << true
+                           << Inches;
+    QTest::newRow("height, Tab") << int(ActionViewInput::HeightEntered) << InputState::IS_Height
+                                 << false << Inches;
+    QTest::newRow("height") << int(ActionViewInput::HeightCommitted) << InputState::IS_Height
+                            << true << Inches;
+}
+
+void ActionInputTest::aValueIsToldInModelUnits()
+{
+    QFETCH(int, kind);
+    ActionFixture f;
+    f.AddInteractive("Line");
+    LengthUnit::SetCurrent(LengthUnit::Inch());
+    f.loop.Post([&] { ActionManager::ProcessViewInput(&f.view, {kind, 2.0, {}, {}}); });
+
+    f.Choose("Line");
+
+    LengthUnit::SetCurrent(LengthUnit::Millimetre());
+    const TypedValue& seen = f.scripts["Line"].typed;
+    QTEST(seen.field, "field");
+    QTEST(seen.isCommitted, "isCommitted");
+    QTEST(seen.value, "value");
+}
+
+void ActionInputTest::anUnknownKindIsOfNoField()
+{
+    ActionFixture f;
+    f.AddInteractive("Line");
+    f.loop.Post([&] { ActionManager::ProcessViewInput(&f.view, {3, 2.0, {}, {}}); });
+
+    f.Choose("Line");
+
+    QVERIFY(f.Has("Line.input"));
+    QCOMPARE(f.scripts["Line"].typed.field, InputState::IS_None);
 }
 
 void ActionInputTest::theInputMayBelongToAHandlerThatIsDropped()

@@ -47,7 +47,6 @@ void HostCoreTest::itLeavesEverythingAsItWas()
     JournalManager::GetInstance().Add(UndoRecord{1});
     dimensions.SetContext(MakeOwner<StandInContext>(1));
     dimensions.SetLocked(InputState::IS_Length, true);
-    dimensions.SetTypedValue({L"1", true, 1.0});
 
     pCore.reset();
 
@@ -57,7 +56,6 @@ void HostCoreTest::itLeavesEverythingAsItWas()
     QVERIFY(JournalManager::GetInstance().GetLastLines().empty());
     QVERIFY(!dimensions.HasHandler());
     QVERIFY(dimensions.GetLocked().empty());
-    QVERIFY(dimensions.TakeTypedValue().text.empty());
 }
 
 void HostCoreTest::itEndsTheActionThatRuns()

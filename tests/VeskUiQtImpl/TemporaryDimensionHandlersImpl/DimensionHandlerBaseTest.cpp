@@ -6,7 +6,7 @@
 #include "TemporaryDimensionHandlersImpl/DimensionKeys.h"
 #include "TemporaryDimensionHandlersImpl/DimensionKind.h"
 #include "TemporaryDimensionHandlersImpl/TemporaryDimensionHandler.h"
-#include "TemporaryDimensionHandlersImpl/ViewLookup.h"
+#include "ViewLookup.h"
 
 #include "Graphics/IGraphicsNode.h"
 

@@ -64,8 +64,8 @@ public:
     static void SendCommand(const std::wstring& commandId, const CommandParameters& parameters,
                             ICommand* pPrevious);
 
-    /// Hands a typed value to the running action. The action, and who called, may be gone
-    /// afterwards.
+    /// Hands a typed value to the running action, with the text of the EditorTextScope if there is
+    /// one. The action, and who called, may be gone afterwards.
     static void ProcessViewInput(IUiView* pView, const ActionViewInput& input);
 
     /// Tells the running action that a locked value is free again, and shows it.
@@ -74,6 +74,10 @@ public:
     /// Makes the provisional graphics anew and places the editor again; never opens or ends an
     /// input.
     static void RefreshViewInput(IUiView* pView);
+
+    /// The same with dimensions that the action makes anew: what they depend on has changed, such
+    /// as the unit shown or the size of a pixel.
+    static void RenewViewInput(IUiView* pView);
 
     /// Hands the cursor's position, a click and an Escape of the view to the running action.
     static void ProcessMouseMove(IUiView* pView, const Vector3d& world);

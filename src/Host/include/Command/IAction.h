@@ -42,8 +42,7 @@ public:
     /// when it can be used. The value is in model units. Nothing changes.
     virtual std::wstring GetRefusal(InputState /*field*/, double /*value*/) { return {}; }
 
-    /// The user typed a value. Where the text's own model value is known, that is the value meant:
-    /// the input's is rounded to the unit shown.
+    /// The user typed a value; `input` is what the handler delivered.
     virtual void OnViewInput(const ActionViewInput& /*input*/, const TypedValue& /*typed*/) {}
 
     /// The user emptied the field of a locked value: the value follows the cursor again.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Dimension/InputState.h"
 #include "Foundation/HostExport.h"
 #include "Geometry/Intervald.h"
 
@@ -16,6 +17,9 @@ public:
     /// The values that may be typed in the first and in the second field.
     virtual Intervald GetFirstValueRange() const = 0;
     virtual Intervald GetSecondValueRange() const = 0;
+
+    /// Whether that value of the context's kind can be typed now.
+    virtual bool HasField(InputState /*state*/) const { return true; }
 };
 
 }

@@ -20,6 +20,7 @@ public:
 
     Intervald GetFirstValueRange() const override;
     Intervald GetSecondValueRange() const override;
+    bool HasField(InputState state) const override;
 
     const Coordinate3d& GetCoordinate() const { return m_coordinate; }
     const Vector3d& GetStartPoint() const { return m_start; }

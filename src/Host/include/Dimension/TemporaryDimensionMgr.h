@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Command/TypedValue.h"
+#include "Dimension/InputField.h"
 #include "Dimension/InputState.h"
 #include "Foundation/HostExport.h"
 #include "Foundation/OwnerPtr.h"
@@ -52,8 +52,10 @@ public:
     /// pointer drops the handler. A handler of another kind starts without locks.
     void SetContext(OwnerPtr<ITemporaryDimensionContext> opContext);
 
-    /// Makes the graphics of a context anew with the handler there is, and places its editor again.
-    /// Without a handler or a context nothing happens.
+    /// Makes the graphics anew with the handler there is, and places its editor again: of the
+    /// context that it has, or of a new one that takes its place. Without a handler or a context
+    /// nothing happens.
+    void Regenerate();
     void Regenerate(OwnerPtr<ITemporaryDimensionContext> opContext);
 
     /// Ends the input and drops handler, graphics and locks.
@@ -69,6 +71,9 @@ public:
 
     /// Which value is being typed.
     InputState GetInputState() const;
+
+    /// The field that it is being typed in.
+    InputField GetInputField() const;
 
     /// Whether what is being typed is taken as a text, whatever it says: nobody is to judge it.
     bool IsRawTextInput() const;
@@ -90,12 +95,6 @@ public:
     /// The value that is locked with the field; nothing when none is.
     std::optional<double> GetLockedValue(InputState field) const;
 
-    /// Keeps what stands in the editor until the handler has delivered the value.
-    void SetTypedValue(const TypedValue& typed);
-
-    /// Gives it away, once; the next one is empty.
-    TypedValue TakeTypedValue();
-
 private:
     class Call;
 
@@ -104,18 +103,22 @@ private:
 
     void Replace(OwnerPtr<ITemporaryDimensionHandler> opHandler);
     void Retire(OwnerPtr<ITemporaryDimensionHandler> opHandler);
-    void Generate(const ITemporaryDimensionContext& context);
+    void Keep(OwnerPtr<ITemporaryDimensionContext> opContext);
 
     ITemporaryDimensionHandlerFactory* m_pFactory = nullptr;
     ITemporaryDimensionHandlerAccess* m_pAccess = nullptr;
     OwnerPtr<ITemporaryDimensionHandler> m_opHandler;
+
+    /// What the handler shows; null without a handler.
+    OwnerPtr<ITemporaryDimensionContext> m_opContext;
     OwnerPtr<IGraphicsNodeGroup> m_opGraphics;
     std::map<InputState, std::optional<double>> m_locked;
     int m_editorWidth = 0;
-    TypedValue m_typed;
 
-    /// Dropped handlers that still have an operation on the stack.
+    /// Dropped handlers that still have an operation on the stack, and contexts that they may look
+    /// at.
     std::vector<OwnerPtr<ITemporaryDimensionHandler>> m_retired;
+    std::vector<OwnerPtr<ITemporaryDimensionContext>> m_retiredContexts;
     int m_callDepth = 0;
     bool m_isGenerating = false;
 };

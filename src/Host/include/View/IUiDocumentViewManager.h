@@ -39,6 +39,10 @@ public:
     UiDocumentViewManager(const UiDocumentViewManager&) = delete;
     UiDocumentViewManager& operator=(const UiDocumentViewManager&) = delete;
 
+    /// The installed manager's current view, whoever installed it; null when there is none. Not
+    /// owned.
+    static IUiView* FindCurrentView();
+
     IUiView* GetCurrentUiView() const override;
     IUiView* GetUiViewById(std::uint32_t id) const override;
 

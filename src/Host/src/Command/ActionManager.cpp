@@ -4,7 +4,10 @@
 #include "Command/ActionViewInput.h"
 #include "Command/IActionManager.h"
 #include "Command/ICommand.h"
+#include "Command/TypedValue.h"
 #include "Dimension/ITemporaryDimensionContext.h"
+#include "Dimension/InputField.h"
+#include "Dimension/LengthUnit.h"
 #include "Dimension/TemporaryDimensionMgr.h"
 #include "View/IUiView.h"
 
@@ -19,6 +22,17 @@ namespace
 ActionRunner& Runner()
 {
     return ActionRunner::GetInstance();
+}
+
+/// What an action is told of an input: the value that its text stands for, else the delivered one.
+TypedValue MakeTypedValue(const ActionViewInput& input, const EditorText& editor)
+{
+    const InputMeaning meaning = FindInputMeaning(input.kind);
+    const double delivered = QuantityOf(meaning.field) == Quantity::Length
+                                 ? LengthUnit::GetCurrent().ToModel(input.value)
+                                 : input.value;
+    return {meaning.field, editor.modelValue.value_or(delivered), editor.text, editor.isUnchanged,
+            meaning.isCommitted};
 }
 
 void Redraw(IUiView* pView)
@@ -51,7 +65,7 @@ void ActionManager::ProcessViewInput(IUiView* /*pView*/, const ActionViewInput& 
 {
     // A copy: the input may belong to the handler, which the action may have dropped.
     const ActionViewInput delivered = input;
-    const TypedValue typed = TemporaryDimensionMgr::GetInstance()->TakeTypedValue();
+    const TypedValue typed = MakeTypedValue(input, EditorTextScope::Take());
     Runner().OperateStep([&](IAction& action) { action.OnViewInput(delivered, typed); });
 }
 
@@ -65,6 +79,12 @@ void ActionManager::FreeValue(IUiView* pView, InputState field)
 }
 
 void ActionManager::RefreshViewInput(IUiView* pView)
+{
+    TemporaryDimensionMgr::GetInstance()->Regenerate();
+    Redraw(pView);
+}
+
+void ActionManager::RenewViewInput(IUiView* pView)
 {
     const auto regenerate = [](const IAction& action) {
         TemporaryDimensionMgr::GetInstance()->Regenerate(action.CreateDimensionContext());

@@ -32,10 +32,8 @@ public:
 IUiView* FindView(const std::optional<std::uint32_t>& id)
 {
     const IUiDocumentViewManager* pManager = IUiDocumentViewManager::Get();
-    if (pManager == nullptr)
-        return nullptr;
-    IUiView* pView = id.has_value() ? pManager->GetUiViewById(*id) : nullptr;
-    return pView != nullptr ? pView : pManager->GetCurrentUiView();
+    IUiView* pView = pManager != nullptr && id.has_value() ? pManager->GetUiViewById(*id) : nullptr;
+    return pView != nullptr ? pView : UiDocumentViewManager::FindCurrentView();
 }
 
 std::optional<std::uint32_t> IdOf(const IUiView* pView)

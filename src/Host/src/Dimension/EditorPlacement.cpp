@@ -33,8 +33,7 @@ constexpr double s_edgeOn = 0.1;
 
 const IModelView* FindModelView()
 {
-    const IUiDocumentViewManager* pManager = IUiDocumentViewManager::Get();
-    const IUiView* pView = pManager != nullptr ? pManager->GetCurrentUiView() : nullptr;
+    const IUiView* pView = UiDocumentViewManager::FindCurrentView();
     return pView != nullptr ? pView->GetModelView() : nullptr;
 }
 

@@ -22,4 +22,9 @@ Intervald LinearTemporaryDimensionContext::GetSecondValueRange() const
     return m_secondValueRange;
 }
 
+bool LinearTemporaryDimensionContext::HasField(InputState state) const
+{
+    return state == InputState::IS_Angle ? m_isAngleEnabled : m_isLengthEnabled;
+}
+
 }

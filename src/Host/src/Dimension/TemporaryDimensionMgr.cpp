@@ -18,9 +18,7 @@ namespace
 
 void ActivateView()
 {
-    const IUiDocumentViewManager* pManager = IUiDocumentViewManager::Get();
-    IUiView* pView = pManager != nullptr ? pManager->GetCurrentUiView() : nullptr;
-    if (pView != nullptr)
+    if (IUiView* pView = UiDocumentViewManager::FindCurrentView())
         pView->Activate();
 }
 
@@ -34,8 +32,10 @@ public:
 
     ~Call()
     {
-        if (--m_manager.m_callDepth == 0)
-            std::exchange(m_manager.m_retired, {}).clear();
+        if (--m_manager.m_callDepth != 0)
+            return;
+        std::exchange(m_manager.m_retired, {}).clear();
+        std::exchange(m_manager.m_retiredContexts, {}).clear();
     }
 
     Call(const Call&) = delete;
@@ -83,19 +83,23 @@ void TemporaryDimensionMgr::SetContext(OwnerPtr<ITemporaryDimensionContext> opCo
         m_pFactory->UpdateOrCreateHandler(opContext.Get(), m_opHandler.Get());
     if (opNew != nullptr)
         Replace(std::move(opNew));
-    Generate(*opContext);
+    Regenerate(std::move(opContext));
 }
 
 void TemporaryDimensionMgr::Regenerate(OwnerPtr<ITemporaryDimensionContext> opContext)
 {
-    if (opContext != nullptr)
-        Generate(*opContext);
+    if (opContext == nullptr || m_opHandler == nullptr)
+        return;
+    const Call call(*this);
+    Keep(std::move(opContext));
+    Regenerate();
 }
 
 void TemporaryDimensionMgr::Drop()
 {
     m_opGraphics.Reset();
     m_locked.clear();
+    Keep(nullptr);
     Retire(std::move(m_opHandler));
 }
 
@@ -130,6 +134,11 @@ InputState TemporaryDimensionMgr::GetInputState() const
 {
     const bool isKnown = m_pAccess != nullptr && IsInputting();
     return isKnown ? m_pAccess->GetInputState(*m_opHandler) : InputState::IS_None;
+}
+
+InputField TemporaryDimensionMgr::GetInputField() const
+{
+    return FindInputField(m_opContext.Get(), GetInputState());
 }
 
 bool TemporaryDimensionMgr::IsRawTextInput() const
@@ -169,16 +178,6 @@ std::optional<double> TemporaryDimensionMgr::GetLockedValue(InputState field) co
     return found != m_locked.end() ? found->second : std::nullopt;
 }
 
-void TemporaryDimensionMgr::SetTypedValue(const TypedValue& typed)
-{
-    m_typed = typed;
-}
-
-TypedValue TemporaryDimensionMgr::TakeTypedValue()
-{
-    return std::exchange(m_typed, {});
-}
-
 void TemporaryDimensionMgr::Replace(OwnerPtr<ITemporaryDimensionHandler> opHandler)
 {
     OwnerPtr<ITemporaryDimensionHandler> opOld = std::exchange(m_opHandler, std::move(opHandler));
@@ -205,16 +204,24 @@ void TemporaryDimensionMgr::Retire(OwnerPtr<ITemporaryDimensionHandler> opHandle
         ActivateView();
 }
 
-void TemporaryDimensionMgr::Generate(const ITemporaryDimensionContext& context)
+/// Takes a context over. The one before lives as long as a handler may look at it.
+void TemporaryDimensionMgr::Keep(OwnerPtr<ITemporaryDimensionContext> opContext)
+{
+    OwnerPtr<ITemporaryDimensionContext> opOld = std::exchange(m_opContext, std::move(opContext));
+    if (m_callDepth != 0)
+        m_retiredContexts.push_back(std::move(opOld));
+}
+
+void TemporaryDimensionMgr::Regenerate()
 {
     ITemporaryDimensionHandler* pHandler = m_opHandler.Get();
-    if (pHandler == nullptr || m_isGenerating)
+    if (pHandler == nullptr || m_opContext == nullptr || m_isGenerating)
         return;
     const Call call(*this);
     OwnerPtr<IGraphicsNodeGroup> opGraphics;
     {
         const ScopedValue<bool> generating(m_isGenerating, true);
-        opGraphics = pHandler->GenerateGraphics(&context);
+        opGraphics = pHandler->GenerateGraphics(m_opContext.Get());
     }
     if (pHandler != m_opHandler.Get())
         return;

@@ -1,5 +1,6 @@
 #include "Journal/JournalFormat.h"
 
+#include "Dimension/InputField.h"
 #include "Foundation/Text.h"
 #include "Journal/JournalReader.h"
 
@@ -60,7 +61,7 @@ public:
     void operator()(const ValueRecord& record) const
     {
         m_line["kind"] = "value";
-        m_line["field"] = NameOf(record.field);
+        m_line["field"] = JournalNameOf(record.field);
         m_line["text"] = ToUtf8(record.text);
         m_line["value"] = ToJson(record.value);
     }

@@ -1,5 +1,6 @@
 #include "Journal/JournalReader.h"
 
+#include "Dimension/InputField.h"
 #include "Foundation/Text.h"
 #include "Journal/LocaleFreeJson.h"
 
@@ -15,10 +16,6 @@ namespace
 {
 
 using Json = nlohmann::ordered_json;
-
-/// In the order of InputState.
-constexpr const char* s_fieldNames[] = {"none",         "length", "angle", "radius",
-                                        "centralAngle", "width",  "height"};
 
 bool ToInteger(const Json& json, int& integer)
 {
@@ -66,11 +63,6 @@ std::string Quote(const std::string& text)
     return '"' + text + '"';
 }
 
-}
-
-const char* NameOf(InputState field)
-{
-    return s_fieldNames[static_cast<std::size_t>(field)];
 }
 
 bool JournalReader::Read()
@@ -248,10 +240,10 @@ bool JournalReader::TakeField(const char* key, InputState& field)
     std::string name;
     if (!TakeText(key, name))
         return false;
-    const auto* pName = std::find(std::begin(s_fieldNames), std::end(s_fieldNames), name);
-    if (pName == std::end(s_fieldNames))
+    const std::optional<InputState> found = FindByJournalName(name);
+    if (!found.has_value())
         return Fail("unknown field " + Quote(name));
-    field = static_cast<InputState>(pName - std::begin(s_fieldNames));
+    field = *found;
     return true;
 }
 

@@ -10,9 +10,6 @@
 namespace vesk
 {
 
-/// The name of a field in the journal, as "length".
-const char* NameOf(InputState field);
-
 /// Reads one line of a journal.
 class JournalReader
 {

@@ -73,12 +73,6 @@ private:
     std::map<int, Mark> m_marks;
 };
 
-IUiView* CurrentView()
-{
-    const IUiDocumentViewManager* pManager = IUiDocumentViewManager::Get();
-    return pManager != nullptr ? pManager->GetCurrentUiView() : nullptr;
-}
-
 /// One replay. Each operation returns why its record cannot be repeated; empty when it was.
 class Replay
 {
@@ -324,7 +318,8 @@ std::string Replay::RunCommand(const Pending& command)
     if (!m_target.CanRepeat(command.record))
         return "the command " + name + " cannot do what its parameters say";
     JournalManager::GetInstance().Add(command.record);
-    ActionManager::ProcessCommand(CurrentView(), pCommand, command.record.parameters, nullptr);
+    ActionManager::ProcessCommand(UiDocumentViewManager::FindCurrentView(), pCommand,
+                                  command.record.parameters, nullptr);
     return {};
 }
 

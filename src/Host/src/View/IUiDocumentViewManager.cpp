@@ -35,6 +35,11 @@ UiDocumentViewManager::~UiDocumentViewManager()
         Set(nullptr);
 }
 
+IUiView* UiDocumentViewManager::FindCurrentView()
+{
+    return s_pViewManager != nullptr ? s_pViewManager->GetCurrentUiView() : nullptr;
+}
+
 IUiView* UiDocumentViewManager::GetCurrentUiView() const
 {
     return m_pCurrent;

@@ -76,12 +76,14 @@ protected:
     bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
 
 private:
+    class Delivery;
+
     void NoteCursor(const QObject* pWatched, const QEvent& event);
     void NoteClick(QObject* pWatched, const QEvent& event);
     void NoteOtherKey(const QEvent& event);
     bool FilterEditorEvent(QEvent& event);
     bool FilterEditorKey(QKeyEvent& event);
-    bool FilterCommittingKey(QLineEdit& editor, const QKeyEvent& event, const InputField& field);
+    void TakeValue(QLineEdit& editor, QKeyEvent& event, const InputField& field);
     QWidget* FindOtherField() const;
     bool PassOn(QEvent& event);
     bool KeepsForUnit(const QKeyEvent& event);
@@ -89,7 +91,6 @@ private:
     std::optional<double> Accept(QLineEdit& editor, const InputField& field);
     void HoldKey(QKeyEvent& event);
     bool OpenInput(const QKeyEvent& event);
-    void OpenInputWithText(const QString& text);
     void OnEditorHidden();
     void OnTextChanged();
     void OnTextEdited();
@@ -111,6 +112,9 @@ private:
 
     /// Where the cursor is in the current view; nothing while it is elsewhere.
     std::optional<QPoint> m_cursor;
+
+    /// The key that is on its way to the handler, not owned; null while none is.
+    const QEvent* m_pDelivered = nullptr;
 
     /// Whether the text of the field is the user's: false while it shows the field's current value.
     bool m_isTextTyped = false;

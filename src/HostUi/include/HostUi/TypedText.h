@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Dimension/InputField.h"
 #include "HostUi/HostUiExport.h"
 
 #include <QString>
@@ -8,13 +9,6 @@ namespace vesk
 {
 
 class LengthUnit;
-
-/// What kind of value a field takes.
-enum class Quantity
-{
-    Length,
-    Angle,
-};
 
 /// Why a text has no clear value.
 enum class TypedTextFault

@@ -1,4 +1,4 @@
-#include "InputField.h"
+#include "Dimension/InputField.h"
 
 #include "Dimension/CentralAngleTemporaryDimensionContext.h"
 #include "Dimension/LinearTemporaryDimensionContext.h"
@@ -9,7 +9,11 @@
 #include "Geometry/Constants.h"
 #include "Support/TestValues.h"
 
+#include <algorithm>
 #include <functional>
+#include <optional>
+#include <set>
+#include <string>
 
 using namespace vesk;
 
@@ -39,7 +43,7 @@ LinearTemporaryDimensionContext Linear()
 
 }
 
-/// What a field takes and what keys do in it, for each kind of dimension.
+/// What the host knows of the fields of each kind of dimension.
 class InputFieldTest final : public QObject
 {
     Q_OBJECT
@@ -51,7 +55,7 @@ private slots:
         QTest::addColumn<InputState>("state");
         QTest::addColumn<Quantity>("quantity");
         QTest::addColumn<bool>("isSpaceTaken");
-        QTest::addColumn<QString>("next");
+        QTest::addColumn<InputState>("next");
         const ContextMaker linear = [] { return MakeContext(Linear()); };
         const ContextMaker radius = [] {
             return MakeContext(RadiusTemporaryDimensionContext(Coordinate3d(), s_zero, s_x, s_y));
@@ -69,19 +73,19 @@ private slots:
         };
 
         QTest::newRow("length") << linear << InputState::IS_Length << Quantity::Length << true
-                                << "角度";
+                                << InputState::IS_Angle;
         QTest::newRow("angle") << linear << InputState::IS_Angle << Quantity::Angle << true
-                               << "长度";
+                               << InputState::IS_Length;
         QTest::newRow("radius") << radius << InputState::IS_Radius << Quantity::Length << true
-                                << "";
-        QTest::newRow("central angle")
-            << central << InputState::IS_CentralAngle << Quantity::Angle << false << "";
+                                << InputState::IS_None;
+        QTest::newRow("central angle") << central << InputState::IS_CentralAngle << Quantity::Angle
+                                       << false << InputState::IS_None;
         QTest::newRow("width") << rectangle << InputState::IS_Width << Quantity::Length << true
-                               << "高度";
+                               << InputState::IS_Height;
         QTest::newRow("height") << rectangle << InputState::IS_Height << Quantity::Length << true
-                                << "宽度";
+                                << InputState::IS_Width;
         QTest::newRow("rotation") << rotation << InputState::IS_CentralAngle << Quantity::Angle
-                                  << true << "";
+                                  << true << InputState::IS_None;
     }
 
     void fieldIsThatOfItsKind()
@@ -90,19 +94,15 @@ private slots:
         QFETCH(InputState, state);
         QFETCH(Quantity, quantity);
         QFETCH(bool, isSpaceTaken);
-        QFETCH(QString, next);
+        QFETCH(InputState, next);
         const OwnerPtr<ITemporaryDimensionContext> opContext = makeContext();
 
         const InputField field = FindInputField(opContext.Get(), state);
 
+        QCOMPARE(field.state, state);
         QCOMPARE(field.quantity, quantity);
         QCOMPARE(field.next, next);
-        QVERIFY(field.IsCommitting(Qt::Key_Return));
-        QVERIFY(field.IsCommitting(Qt::Key_Enter));
-        QCOMPARE(field.IsCommitting(Qt::Key_Space), isSpaceTaken);
-        QCOMPARE(field.IsCommitting(Qt::Key_Tab), !next.isEmpty());
-        QVERIFY(!field.IsCommitting(Qt::Key_Escape));
-        QVERIFY(!field.IsCommitting(Qt::Key_5));
+        QCOMPARE(field.takesWithSpace, isSpaceTaken);
     }
 
     void rangeIsTheContexts()
@@ -140,8 +140,8 @@ private slots:
 
         const InputField field = FindInputField(&context, state);
 
-        QVERIFY(!field.IsCommitting(Qt::Key_Tab));
-        QVERIFY(field.IsCommitting(Qt::Key_Space));
+        QCOMPARE(field.next, InputState::IS_None);
+        QVERIFY(field.takesWithSpace);
     }
 
     void unknownKindTakesReturnOnly()
@@ -149,12 +149,66 @@ private slots:
         const InputField field = FindInputField(nullptr, InputState::IS_Angle);
 
         QCOMPARE(field.quantity, Quantity::Angle);
-        QVERIFY(field.IsCommitting(Qt::Key_Return));
-        QVERIFY(!field.IsCommitting(Qt::Key_Space));
-        QVERIFY(!field.IsCommitting(Qt::Key_Tab));
+        QVERIFY(!field.takesWithSpace);
+        QCOMPARE(field.next, InputState::IS_None);
         QVERIFY(field.range.Contains(Constants::MAX_MODEL_SIZE));
+    }
+
+    void fieldOfAnotherKindTakesReturnOnly()
+    {
+        const LinearTemporaryDimensionContext context = Linear();
+
+        const InputField field = FindInputField(&context, InputState::IS_Width);
+
+        QVERIFY(!field.takesWithSpace);
+        QCOMPARE(field.next, InputState::IS_None);
+    }
+
+    void valueIsCalledByItsName_data()
+    {
+        QTest::addColumn<InputState>("state");
+        QTest::addColumn<std::wstring>("caption");
+        QTest::addColumn<std::string>("journalName");
+
+        QTest::newRow("none") << InputState::IS_None << std::wstring() << std::string("none");
+        QTest::newRow("length") << InputState::IS_Length << std::wstring(L"长度")
+                                << std::string("length");
+        QTest::newRow("angle") << InputState::IS_Angle << std::wstring(L"角度")
+                               << std::string("angle");
+        QTest::newRow("radius") << InputState::IS_Radius << std::wstring(L"半径")
+                                << std::string("radius");
+        QTest::newRow("central angle") << InputState::IS_CentralAngle << std::wstring(L"圆心角")
+                                       << std::string("centralAngle");
+        QTest::newRow("width") << InputState::IS_Width << std::wstring(L"宽度")
+                               << std::string("width");
+        QTest::newRow("height") << InputState::IS_Height << std::wstring(L"高度")
+                                << std::string("height");
+    }
+
+    void valueIsCalledByItsName()
+    {
+        QFETCH(InputState, state);
+        QFETCH(std::string, journalName);
+
+        QTEST(std::wstring(CaptionOf(state)), "caption");
+        QCOMPARE(std::string(JournalNameOf(state)), journalName);
+        QCOMPARE(FindByJournalName(journalName), std::optional(state));
+    }
+
+    void unknownNameIsNoValues()
+    {
+        QVERIFY(!FindByJournalName("lengths").has_value());
+        QVERIFY(!FindByJournalName("").has_value());
+    }
+
+    void everyValueCanBeTyped()
+    {
+        QCOMPARE(TypedStates.size(), std::size_t(6));
+        QCOMPARE(std::set<InputState>(TypedStates.begin(), TypedStates.end()).size(),
+                 TypedStates.size());
+        QVERIFY(std::count(TypedStates.begin(), TypedStates.end(), InputState::IS_None) == 0);
     }
 };
 
-VESK_TESTS_WITHOUT_WINDOWS(InputFieldTest);
+VESK_TESTS_WITHOUT_APPLICATION(InputFieldTest);
 #include "InputFieldTest.moc"

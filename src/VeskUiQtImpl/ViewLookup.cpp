@@ -1,4 +1,4 @@
-#include "TemporaryDimensionHandlersImpl/ViewLookup.h"
+#include "ViewLookup.h"
 
 #include "View/IUiDocumentViewManager.h"
 #include "View/IUiView.h"
@@ -7,6 +7,12 @@
 
 namespace vesk
 {
+
+IUiView* FindCurrentView()
+{
+    const IUiDocumentViewManager* pViewManager = IUiDocumentViewManager::Get();
+    return pViewManager != nullptr ? pViewManager->GetCurrentUiView() : nullptr;
+}
 
 IUiView* FindViewById(std::uint32_t id)
 {

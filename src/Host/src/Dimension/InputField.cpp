@@ -1,0 +1,140 @@
+#include "Dimension/InputField.h"
+
+#include "Command/ActionViewInput.h"
+#include "Dimension/CentralAngleTemporaryDimensionContext.h"
+#include "Dimension/LinearTemporaryDimensionContext.h"
+#include "Dimension/RadiusTemporaryDimensionContext.h"
+#include "Dimension/RectangleTemporaryDimensionContext.h"
+#include "Dimension/RotationTemporaryDimensionContext.h"
+#include "Geometry/Constants.h"
+
+#include <algorithm>
+#include <iterator>
+#include <typeindex>
+
+namespace vesk
+{
+
+namespace
+{
+
+/// A value, whatever the kind of dimension.
+struct ValueRow
+{
+    InputState state;
+    Quantity quantity;
+    const char* journalName;
+    const wchar_t* caption;
+};
+
+constexpr ValueRow s_values[] = {
+    {InputState::IS_None, Quantity::Length, "none", L""},
+    {InputState::IS_Length, Quantity::Length, "length", L"长度"},
+    {InputState::IS_Angle, Quantity::Angle, "angle", L"角度"},
+    {InputState::IS_Radius, Quantity::Length, "radius", L"半径"},
+    {InputState::IS_CentralAngle, Quantity::Angle, "centralAngle", L"圆心角"},
+    {InputState::IS_Width, Quantity::Length, "width", L"宽度"},
+    {InputState::IS_Height, Quantity::Length, "height", L"高度"},
+};
+
+/// What the handler of a kind of context does with the keys of a field.
+struct FieldRow
+{
+    std::type_index context;
+    InputState state;
+    bool takesWithSpace;
+    InputState next = InputState::IS_None;
+};
+
+const FieldRow s_fields[] = {
+    {typeid(LinearTemporaryDimensionContext), InputState::IS_Length, true, InputState::IS_Angle},
+    {typeid(LinearTemporaryDimensionContext), InputState::IS_Angle, true, InputState::IS_Length},
+    {typeid(RadiusTemporaryDimensionContext), InputState::IS_Radius, true},
+    {typeid(CentralAngleTemporaryDimensionContext), InputState::IS_CentralAngle, false},
+    {typeid(RectangleTemporaryDimensionContext), InputState::IS_Width, true, InputState::IS_Height},
+    {typeid(RectangleTemporaryDimensionContext), InputState::IS_Height, true, InputState::IS_Width},
+    {typeid(RotationTemporaryDimensionContext), InputState::IS_CentralAngle, true},
+};
+
+/// What a handler delivers a value as.
+struct InputRow
+{
+    ActionViewInput::Kind kind;
+    InputMeaning meaning;
+};
+
+constexpr InputRow s_inputs[] = {
+    {ActionViewInput::LengthEntered, {InputState::IS_Length, false}},
+    {ActionViewInput::LengthCommitted, {InputState::IS_Length, true}},
+    {ActionViewInput::AngleEntered, {InputState::IS_Angle, false}},
+    {ActionViewInput::AngleCommitted, {InputState::IS_Angle, true}},
+    {ActionViewInput::RadiusCommitted, {InputState::IS_Radius, true}},
+    {ActionViewInput::RadiusWithAngleCommitted, {InputState::IS_Radius, true}},
+    {ActionViewInput::CentralAngleCommitted, {InputState::IS_CentralAngle, true}},
+    {ActionViewInput::WidthEntered, {InputState::IS_Width, false}},
+    {ActionViewInput::WidthCommitted, {InputState::IS_Width, true}},
+    {ActionViewInput::HeightEntered, {InputState::IS_Height, false}},
+    {ActionViewInput::HeightCommitted, {InputState::IS_Height, true}},
+};
+
+/// The row of a value; that of none where there is no such value.
+const ValueRow& ValueOf(InputState state)
+{
+    const auto* pFound =
+        std::find_if(std::begin(s_values), std::end(s_values),
+                     [state](const ValueRow& value) { return value.state == state; });
+    return pFound != std::end(s_values) ? *pFound : s_values[0];
+}
+
+}
+
+InputField FindInputField(const ITemporaryDimensionContext* pContext, InputState state)
+{
+    const Quantity quantity = QuantityOf(state);
+    InputField field{state, quantity, {-Constants::MAX_MODEL_SIZE, Constants::MAX_MODEL_SIZE}};
+    if (pContext == nullptr)
+        return field;
+    field.range = quantity == Quantity::Angle ? pContext->GetSecondValueRange()
+                                              : pContext->GetFirstValueRange();
+    for (const FieldRow& row : s_fields)
+    {
+        if (row.context != typeid(*pContext) || row.state != state)
+            continue;
+        field.takesWithSpace = row.takesWithSpace;
+        if (pContext->HasField(state) && pContext->HasField(row.next))
+            field.next = row.next;
+    }
+    return field;
+}
+
+InputMeaning FindInputMeaning(std::int32_t kind)
+{
+    const auto* pFound = std::find_if(std::begin(s_inputs), std::end(s_inputs),
+                                      [kind](const InputRow& row) { return row.kind == kind; });
+    return pFound != std::end(s_inputs) ? pFound->meaning : InputMeaning();
+}
+
+Quantity QuantityOf(InputState state)
+{
+    return ValueOf(state).quantity;
+}
+
+const wchar_t* CaptionOf(InputState state)
+{
+    return ValueOf(state).caption;
+}
+
+const char* JournalNameOf(InputState state)
+{
+    return ValueOf(state).journalName;
+}
+
+std::optional<InputState> FindByJournalName(std::string_view name)
+{
+    const auto* pFound =
+        std::find_if(std::begin(s_values), std::end(s_values),
+                     [name](const ValueRow& value) { return value.journalName == name; });
+    return pFound != std::end(s_values) ? std::optional(pFound->state) : std::nullopt;
+}
+
+}
