@@ -221,10 +221,3 @@ void RegisterCommands(const std::vector<CommandEntry>& entries)
         ICommandManager::Get()->AddCommand(
             MakeOwner<Command>(entry.id, entry.kind, entry.execute, entry.isEnabled));
 }
-
-void RunCommand(const std::wstring& id, const CommandParameters& parameters)
-{
-    JournalManager::GetInstance().Add(CommandRecord{id, parameters});
-    ActionManager::ProcessCommand(UiDocumentViewManager::FindCurrentView(),
-                                  ICommandManager::Get()->GetCommand(id), parameters, nullptr);
-}

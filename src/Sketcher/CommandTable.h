@@ -38,9 +38,6 @@ std::vector<CommandEntry> MakeCommandTable(Workspace& workspace, SketchView& vie
 /// Registers the commands with the host.
 void RegisterCommands(const std::vector<CommandEntry>& entries);
 
-/// Journals a registered command and runs it now in the current view, as its button would.
-void RunCommand(const std::wstring& id, const vesk::CommandParameters& parameters);
-
 /// The menu of the zoom button, and its sub-menu of fixed scales.
 namespace ZoomMenu
 {

@@ -6,6 +6,7 @@
 #include "SketcherWindow.h"
 #include "Workspace.h"
 
+#include "Command/ActionManager.h"
 #include "Dock/IDockManager.h"
 #include "Dock/IPropertyWidget.h"
 #include "HostUi/Inspector.h"
@@ -192,5 +193,5 @@ void Panes::OnAllChosen()
             return m_docks.GetDock(place.name)->IsHidden();
         });
     if (isAnyHidden)
-        RunCommand(ShowAllId, {});
+        ActionManager::RunCommand(ShowAllId, {});
 }

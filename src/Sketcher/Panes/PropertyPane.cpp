@@ -1,11 +1,11 @@
 #include "Panes/PropertyPane.h"
 
-#include "CommandTable.h"
 #include "EntityEdit.h"
 #include "FieldKeys.h"
 #include "ShapeKind.h"
 #include "Workspace.h"
 
+#include "Command/ActionManager.h"
 #include "Control/LineEditDefinition.h"
 #include "Dimension/LengthUnit.h"
 #include "Dimension/TemporaryDimensionStyle.h"
@@ -212,7 +212,7 @@ void PropertyPane::Commit(Row& row, const std::wstring& text)
     }
     // The field may be left before the new value is shown: that is no second edit.
     row.shown = text;
-    RunCommand(EntityEdit::CommandId, edit.ToParameters());
+    ActionManager::RunCommand(EntityEdit::CommandId, edit.ToParameters());
 }
 
 /// Tells why the text of a field is not taken.

@@ -52,7 +52,7 @@ public:
     void Choose(const std::string& name)
     {
         const std::wstring id(name.begin(), name.end());
-        JournalManager::GetInstance().Add(CommandRecord{id, {}});
+        Announce(id);
         ActionManager::ProcessCommand(&view, ICommandManager::Get()->GetCommand(id), {}, nullptr);
     }
 
@@ -60,7 +60,7 @@ public:
     void ChooseInMenu(const std::string& name)
     {
         const std::wstring id(name.begin(), name.end());
-        JournalManager::GetInstance().Add(CommandRecord{id, {}});
+        Announce(id);
         ActionManager::SendCommand(id, {}, nullptr);
     }
 
@@ -96,6 +96,14 @@ public:
     CountingApplication application;
 
 private:
+    static void Announce(const std::wstring& id)
+    {
+        auto opData = OwnerPtrCast<IJournalCommandData>(
+            NqIJournalFactory::GetImpl()->CreateJournalData(L"JournalCommandData"));
+        opData->SetCommandId(id);
+        IJournalManager::Get()->AddCommandData(std::move(opData));
+    }
+
     void Add(const std::string& name, Command::Kind kind, Command::Execution execute)
     {
         ICommandManager::Get()->AddCommand(

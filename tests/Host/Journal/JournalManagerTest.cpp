@@ -75,15 +75,20 @@ QByteArray ReadAll(const QString& path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-OwnerPtr<IJournalCommandData> MakeData()
+OwnerPtr<IJournalCommandData> MakeData(const wchar_t* id = L"Line")
 {
     auto opData = OwnerPtrCast<IJournalCommandData>(
         NqIJournalFactory::GetImpl()->CreateJournalData(L"JournalCommandData"));
     CommandParameters parameters;
     parameters.Add(L"Clicked", CommandParameterValue(true));
-    opData->SetCommandId(L"Line");
+    opData->SetCommandId(id);
     opData->SetCommandParameters(parameters);
     return opData;
+}
+
+void Announce(const wchar_t* id)
+{
+    IJournalManager::Get()->AddCommandData(MakeData(id));
 }
 
 }
@@ -99,9 +104,10 @@ private slots:
     void eachRecordIsInTheFileBeforeItsNumberIsKnown();
     void closingForgetsNumbersAndLines();
     void withoutAFileRecordsAreNumberedToo();
-    void theNumberOfTheLastCommandIsTakenOnce();
+    void theNumberOfAnAnnouncedCommandIsTakenOnce();
     void theNumberOfAnotherCommandIsNotTaken();
     void recordsInBetweenDoNotTakeTheNumber();
+    void aCommandThatNobodyAnnouncedHasNoNumberToTake();
     void theLastTwentyLinesAreKept();
     void theLastLinesMayBeAskedForFromAnyThread();
     void observersHearEveryRecord();
@@ -150,12 +156,12 @@ void JournalManagerTest::closingForgetsNumbersAndLines()
     const QTemporaryDir folder;
     const QString path = folder.filePath("journal");
     Journal().Open(path.toStdString(), m_error);
-    Journal().Add(CommandRecord{L"Line", {}});
+    Announce(L"Line");
 
     Journal().Close();
 
     QVERIFY(Journal().GetLastLines().empty());
-    QCOMPARE(Journal().TakeCommandNumber(L"Line"), 0);
+    QCOMPARE(Journal().TakeAnnounced(L"Line"), 0);
     QCOMPARE(Journal().Add(UndoRecord{2}), 1);
     QCOMPARE(ReadAll(path).count('\n'), 1);
 }
@@ -171,30 +177,41 @@ void JournalManagerTest::withoutAFileRecordsAreNumberedToo()
     QCOMPARE(Journal().GetLastLines().size(), std::size_t(2));
 }
 
-void JournalManagerTest::theNumberOfTheLastCommandIsTakenOnce()
+void JournalManagerTest::theNumberOfAnAnnouncedCommandIsTakenOnce()
 {
+    const HostCore core;
     Journal().Add(UndoRecord{1});
-    Journal().Add(CommandRecord{L"Line", {}});
+    Announce(L"Line");
 
-    QCOMPARE(Journal().TakeCommandNumber(L"Line"), 2);
-    QCOMPARE(Journal().TakeCommandNumber(L"Line"), 0);
+    QCOMPARE(Journal().TakeAnnounced(L"Line"), 2);
+    QCOMPARE(Journal().TakeAnnounced(L"Line"), 0);
 }
 
 void JournalManagerTest::theNumberOfAnotherCommandIsNotTaken()
 {
-    Journal().Add(CommandRecord{L"Line", {}});
-    Journal().Add(CommandRecord{L"Erase", {}});
+    const HostCore core;
+    Announce(L"Line");
+    Announce(L"Erase");
 
-    QCOMPARE(Journal().TakeCommandNumber(L"Line"), 0);
-    QCOMPARE(Journal().TakeCommandNumber(L"Erase"), 2);
+    QCOMPARE(Journal().TakeAnnounced(L"Line"), 0);
+    QCOMPARE(Journal().TakeAnnounced(L"Erase"), 2);
 }
 
 void JournalManagerTest::recordsInBetweenDoNotTakeTheNumber()
 {
-    Journal().Add(CommandRecord{L"Line", {}});
+    const HostCore core;
+    Announce(L"Line");
     Journal().Add(UndoRecord{1});
+    Journal().Add(CommandRecord{L"Erase", {}});
 
-    QCOMPARE(Journal().TakeCommandNumber(L"Line"), 1);
+    QCOMPARE(Journal().TakeAnnounced(L"Line"), 1);
+}
+
+void JournalManagerTest::aCommandThatNobodyAnnouncedHasNoNumberToTake()
+{
+    Journal().Add(CommandRecord{L"Line", {}});
+
+    QCOMPARE(Journal().TakeAnnounced(L"Line"), 0);
 }
 
 void JournalManagerTest::theLastTwentyLinesAreKept()
@@ -312,7 +329,7 @@ void JournalManagerTest::aCommandRecordHoldsTheIdOrTheParametersToo()
     QCOMPARE(lines.at(0), std::string(R"({"n":1,"kind":"command","id":"Line"})"));
     QCOMPARE(lines.at(1),
              std::string(R"({"n":2,"kind":"command","id":"Line","parameters":{"Clicked":true}})"));
-    QCOMPARE(Journal().TakeCommandNumber(L"Line"), 2);
+    QCOMPARE(Journal().TakeAnnounced(L"Line"), 2);
 }
 
 void JournalManagerTest::emptyPointersAreIgnored()

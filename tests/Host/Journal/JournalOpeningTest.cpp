@@ -150,7 +150,7 @@ void JournalOpeningTest::reservingNumbersAnew()
     QVERIFY(Journal().Reserve(path, m_error));
 
     QVERIFY(Journal().GetLastLines().empty());
-    QCOMPARE(Journal().TakeCommandNumber(L"Line"), 0);
+    QCOMPARE(Journal().TakeAnnounced(L"Line"), 0);
     QCOMPARE(Journal().Add(UndoRecord{2}), 1);
 }
 
@@ -209,7 +209,7 @@ void JournalOpeningTest::aReservedFileIsContinuedBehindItsLastLine()
     Journal().Add(CommandRecord{L"Line", {}});
 
     Journal().Continue(7);
-    QCOMPARE(Journal().TakeCommandNumber(L"Line"), 0);
+    QCOMPARE(Journal().TakeAnnounced(L"Line"), 0);
     QCOMPARE(ReadAll(path), Read + Torn);
     QCOMPARE(Journal().Add(UndoRecord{3}), 8);
 

@@ -45,7 +45,8 @@ public:
 ///
 /// At the begin, each step and the end of an action the view's text is set and a status refresh is
 /// posted. A command that is disabled when its turn comes is refused. Either way the command's
-/// journal record is completed.
+/// journal record is completed: what RunCommand wrote or, before ProcessCommand and SendCommand,
+/// whoever runs a command for a control.
 class VESK_HOST_API ActionManager
 {
 public:
@@ -58,6 +59,10 @@ public:
     /// its turn; a plain one runs beside it. The last argument is not used.
     static void ProcessCommand(IUiView* pView, ICommand* pCommand,
                                const CommandParameters& parameters, ICommand* pPrevious);
+
+    /// Records a command in the journal and runs it in the current view, as a click on its button
+    /// does. Returns the number of the record; 0, and nothing is done, for an unknown id.
+    static int RunCommand(const std::wstring& commandId, const CommandParameters& parameters);
 
     /// Runs the command with that id alone: a running action ends first. An unknown id does
     /// nothing.

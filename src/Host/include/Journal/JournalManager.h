@@ -65,9 +65,9 @@ public:
     /// Writes a record and returns its number. A number of an end record is its command's.
     virtual int Add(decltype(JournalRecord::what) what) = 0;
 
-    /// The number of the command record written last, if its command has not begun yet, else 0.
-    /// Taken once: whoever runs the command completes the record.
-    virtual int TakeCommandNumber(const std::wstring& commandId) = 0;
+    /// The number of the record of a command that a control has announced last (AddCommandData), if
+    /// it has not begun yet, else 0. Taken once: whoever runs the command completes the record.
+    virtual int TakeAnnounced(const std::wstring& commandId) = 0;
 
     /// The lines of the last records, oldest first, at most 20.
     virtual std::vector<std::string> GetLastLines() const = 0;

@@ -4,11 +4,14 @@
 #include "Command/ActionViewInput.h"
 #include "Command/IActionManager.h"
 #include "Command/ICommand.h"
+#include "Command/ICommandManager.h"
 #include "Command/TypedValue.h"
 #include "Dimension/ITemporaryDimensionContext.h"
 #include "Dimension/InputField.h"
 #include "Dimension/LengthUnit.h"
 #include "Dimension/TemporaryDimensionMgr.h"
+#include "Journal/JournalManager.h"
+#include "View/IUiDocumentViewManager.h"
 #include "View/IUiView.h"
 
 #include <utility>
@@ -51,14 +54,27 @@ void ActionManager::Reset()
 void ActionManager::ProcessCommand(IUiView* pView, ICommand* pCommand,
                                    const CommandParameters& parameters, ICommand* /*pPrevious*/)
 {
-    if (pCommand != nullptr)
-        Runner().Process(pView, *pCommand, parameters);
+    if (pCommand == nullptr)
+        return;
+    const int record = JournalManager::GetInstance().TakeAnnounced(pCommand->GetCommandId());
+    Runner().Process(pView, *pCommand, parameters, record);
+}
+
+int ActionManager::RunCommand(const std::wstring& commandId, const CommandParameters& parameters)
+{
+    ICommand* pCommand = ICommandManager::Get()->GetCommand(commandId);
+    if (pCommand == nullptr)
+        return 0;
+    const int record = JournalManager::GetInstance().Add(CommandRecord{commandId, parameters});
+    Runner().Process(UiDocumentViewManager::FindCurrentView(), *pCommand, parameters, record);
+    return record;
 }
 
 void ActionManager::SendCommand(const std::wstring& commandId, const CommandParameters& parameters,
                                 ICommand* /*pPrevious*/)
 {
-    Runner().Send(commandId, parameters);
+    const int record = JournalManager::GetInstance().TakeAnnounced(commandId);
+    Runner().Send(commandId, parameters, record);
 }
 
 void ActionManager::ProcessViewInput(IUiView* /*pView*/, const ActionViewInput& input)

@@ -104,20 +104,19 @@ ActionRunner& ActionRunner::GetInstance()
     return *s_pRunner;
 }
 
-void ActionRunner::Process(IUiView* pView, ICommand& command, const CommandParameters& parameters)
+void ActionRunner::Process(IUiView* pView, ICommand& command, const CommandParameters& parameters,
+                           int record)
 {
-    const std::wstring commandId = command.GetCommandId();
-    const int record = JournalManager::GetInstance().TakeCommandNumber(commandId);
-    const Waiting waiting{commandId, parameters, IdOf(pView), record};
+    const Waiting waiting{command.GetCommandId(), parameters, IdOf(pView), record};
     if (command.IsInteractive())
         Take(pView, command, waiting);
     else
         Run(pView, command, waiting);
 }
 
-void ActionRunner::Send(const std::wstring& commandId, const CommandParameters& parameters)
+void ActionRunner::Send(const std::wstring& commandId, const CommandParameters& parameters,
+                        int record)
 {
-    const int record = JournalManager::GetInstance().TakeCommandNumber(commandId);
     if (ICommand* pCommand = ICommandManager::Get()->GetCommand(commandId))
         Take(FindView(std::nullopt), *pCommand, {commandId, parameters, std::nullopt, record});
     else

@@ -33,8 +33,10 @@ public:
     /// Never destroyed: libraries that unload at the very end still ask for it.
     static ActionRunner& GetInstance();
 
-    void Process(IUiView* pView, ICommand& command, const CommandParameters& parameters);
-    void Send(const std::wstring& commandId, const CommandParameters& parameters);
+    /// Runs a command, and completes its journal record; 0 when it has none.
+    void Process(IUiView* pView, ICommand& command, const CommandParameters& parameters,
+                 int record);
+    void Send(const std::wstring& commandId, const CommandParameters& parameters, int record);
 
     /// Has the running action end as soon as it can; nothing happens when none runs.
     void RequestEnd();

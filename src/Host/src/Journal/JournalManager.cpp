@@ -58,7 +58,7 @@ public:
     bool IsKept() const override { return m_file.IsKept(); }
     bool Close() override;
     int Add(decltype(JournalRecord::what) what) override;
-    int TakeCommandNumber(const std::wstring& commandId) override;
+    int TakeAnnounced(const std::wstring& commandId) override;
     std::vector<std::string> GetLastLines() const override { return m_lastLines.Get(); }
     void AddObserver(IJournalObserver* pObserver) override;
     void RemoveObserver(IJournalObserver* pObserver) override;
@@ -68,14 +68,15 @@ public:
     void AddUiObject(OwnerPtr<IJournalUiObject> opObject, int kind, int reserved) override;
 
 private:
-    /// The command record written last; number 0 once it is taken.
-    struct LastCommand
+    /// The record of a command that a control is about to run; number 0 once it is taken.
+    struct Announced
     {
         std::wstring commandId;
         int number = 0;
     };
 
     void StartAnew();
+    void Announce(const CommandRecord& record);
 
     template <class Tell>
     void TellObservers(const Tell& tell)
@@ -90,7 +91,7 @@ private:
 
     JournalLines m_file;
     int m_lastNumber = 0;
-    LastCommand m_lastCommand;
+    Announced m_announced;
     LastLines m_lastLines;
     std::vector<IJournalObserver*> m_observers;
 };
@@ -115,7 +116,7 @@ void JournalManagerImpl::Continue(int lastNumber)
 {
     m_file.Continue();
     m_lastNumber = lastNumber;
-    m_lastCommand = {};
+    m_announced = {};
 }
 
 bool JournalManagerImpl::MoveTo(const std::string& path, std::string& error)
@@ -132,7 +133,7 @@ bool JournalManagerImpl::Close()
 void JournalManagerImpl::StartAnew()
 {
     m_lastNumber = 0;
-    m_lastCommand = {};
+    m_announced = {};
     m_lastLines.Clear();
 }
 
@@ -144,8 +145,6 @@ int JournalManagerImpl::Add(decltype(JournalRecord::what) what)
     const std::string line = JournalFormat::ToLine(record);
     if (pEnd == nullptr)
         m_lastNumber = record.number;
-    if (const auto* pCommand = std::get_if<CommandRecord>(&record.what))
-        m_lastCommand = {pCommand->commandId, record.number};
 
     m_lastLines.Add(line);
     m_file.Add(line + '\n');
@@ -153,10 +152,15 @@ int JournalManagerImpl::Add(decltype(JournalRecord::what) what)
     return record.number;
 }
 
-int JournalManagerImpl::TakeCommandNumber(const std::wstring& commandId)
+int JournalManagerImpl::TakeAnnounced(const std::wstring& commandId)
 {
-    const bool isLast = m_lastCommand.commandId == commandId;
-    return isLast ? std::exchange(m_lastCommand.number, 0) : 0;
+    const bool isAnnounced = m_announced.commandId == commandId;
+    return isAnnounced ? std::exchange(m_announced.number, 0) : 0;
+}
+
+void JournalManagerImpl::Announce(const CommandRecord& record)
+{
+    m_announced = {record.commandId, Add(record)};
 }
 
 void JournalManagerImpl::AddObserver(IJournalObserver* pObserver)
@@ -175,13 +179,13 @@ void JournalManagerImpl::RemoveObserver(IJournalObserver* pObserver)
 void JournalManagerImpl::AddCommandData(OwnerPtr<IJournalCommandData> opData)
 {
     if (opData != nullptr)
-        Add(CommandRecord{opData->GetCommandId(), {}});
+        Announce({opData->GetCommandId(), {}});
 }
 
 void JournalManagerImpl::AddCommandDataWithParameters(OwnerPtr<IJournalCommandData> opData)
 {
     if (opData != nullptr)
-        Add(CommandRecord{opData->GetCommandId(), opData->GetCommandParameters()});
+        Announce({opData->GetCommandId(), opData->GetCommandParameters()});
 }
 
 void JournalManagerImpl::AddUiObject(OwnerPtr<IJournalUiObject> opObject, int kind,

@@ -317,9 +317,7 @@ std::string Replay::RunCommand(const Pending& command)
         return "the command " + name + " is disabled";
     if (!m_target.CanRepeat(command.record))
         return "the command " + name + " cannot do what its parameters say";
-    JournalManager::GetInstance().Add(command.record);
-    ActionManager::ProcessCommand(UiDocumentViewManager::FindCurrentView(), pCommand,
-                                  command.record.parameters, nullptr);
+    ActionManager::RunCommand(command.record.commandId, command.record.parameters);
     return {};
 }
 
