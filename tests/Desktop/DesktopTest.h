@@ -23,6 +23,7 @@ class DesktopTest : public QObject
 
 protected:
     DesktopSession& Session() { return *m_pSession; }
+    XServer& Server() { return m_server; }
 
     /// Closes the program and returns the lines that it had; empty when it did not end well.
     QVector<DrawnLine> CloseAndReadLines();

@@ -1,4 +1,5 @@
 #include "Desktop/DesktopTest.h"
+#include "Desktop/FocusMonitor.h"
 
 namespace vesk
 {
@@ -20,6 +21,8 @@ private slots:
     void aChosenColourLeavesTheKeysWithTheValue();
     void aChosenUnitEndsTheValueAndLeavesTheKeysWithTheTool();
     void aMenuThatIsClosedLeavesTheKeysWithTheValue();
+    void keyboardIsNeverNobodysWhenTheValueIsDone_data();
+    void keyboardIsNeverNobodysWhenTheValueIsDone();
     void keysComeBackFromTheLineEditToo();
     void escapeGivesTheNameBack();
     void undoAfterANameIsTheDrawings();
@@ -203,6 +206,35 @@ void FocusTest::aMenuThatIsClosedLeavesTheKeysWithTheValue()
 
     QVERIFY(Session().WaitForEntities(1));
     QVERIFY(qAbs(CloseAndReadLines().value(0).GetLength() - 52.0) <= 1e-9);
+}
+
+void FocusTest::keyboardIsNeverNobodysWhenTheValueIsDone_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::newRow("taken") << "Return";
+    QTest::newRow("taken with the blank") << "space";
+    QTest::newRow("given up") << "Escape";
+}
+
+void FocusTest::keyboardIsNeverNobodysWhenTheValueIsDone()
+{
+    QFETCH(QString, key);
+    const QString window = Session().Input().GetKeyboardOwner();
+    FocusMonitor monitor(Server().GetDisplay(), window);
+    // It hears nothing at first.
+    QTRY_VERIFY(BeginValue() && !monitor.Take().isEmpty());
+    QTRY_VERIFY(Session().Input().GetKeyboardOwner() != window);
+    monitor.Take();
+
+    // What it does about an editor that is gone comes too late for what is typed on.
+    Server().PauseWindowManager();
+    const bool isDone = Session().Type("", {key}) && Session().WaitForNoEditor() &&
+                        PollUntil([&] { return Session().Input().GetKeyboardOwner() == window; });
+    const QStringList events = monitor.Take();
+    Server().ResumeWindowManager();
+
+    QVERIFY(isDone);
+    QCOMPARE(events, QStringList{"FocusIn NotifyNonlinear"});
 }
 
 void FocusTest::keysComeBackFromTheLineEditToo()

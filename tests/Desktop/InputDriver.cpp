@@ -102,6 +102,13 @@ bool InputDriver::HasKeyboard(const QString& title) const
            QString::fromUtf8(name).trimmed() == title;
 }
 
+QString InputDriver::GetKeyboardOwner() const
+{
+    QByteArray number;
+    Run("xdotool", {"getwindowfocus", "-f"}, &number);
+    return QString::fromLatin1(number).trimmed();
+}
+
 bool InputDriver::CloseMainWindow() const
 {
     QByteArray clients;

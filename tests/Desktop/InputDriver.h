@@ -48,6 +48,10 @@ public:
     /// True when the window with that title has the keyboard.
     bool HasKeyboard(const QString& title) const;
 
+    /// The number of the window to which the X server sends keys, whatever the window manager
+    /// knows; 1 where it sends them to whatever is under the mouse.
+    QString GetKeyboardOwner() const;
+
     /// Asks the window manager to close the window that was mapped first, as Alt+F4 does.
     bool CloseMainWindow() const;
 

@@ -4,6 +4,8 @@
 
 #include <QProcessEnvironment>
 
+#include <csignal>
+
 namespace vesk
 {
 
@@ -33,6 +35,16 @@ XServer::~XServer()
 bool XServer::Start()
 {
     return StartServer() && StartWindowManager();
+}
+
+void XServer::PauseWindowManager()
+{
+    kill(static_cast<pid_t>(m_windowManager.processId()), SIGSTOP);
+}
+
+void XServer::ResumeWindowManager()
+{
+    kill(static_cast<pid_t>(m_windowManager.processId()), SIGCONT);
 }
 
 bool XServer::StartServer()

@@ -24,6 +24,10 @@ public:
     QString GetDisplay() const { return m_display; }
     QString GetError() const { return m_error; }
 
+    /// Has the window manager do nothing until it is told to go on, as on a machine that is busy.
+    void PauseWindowManager();
+    void ResumeWindowManager();
+
 private:
     bool StartServer();
     bool StartWindowManager();

@@ -8,6 +8,7 @@
 #include "Dimension/InputField.h"
 #include "Dimension/LengthUnit.h"
 #include "Dimension/TemporaryDimensionStyle.h"
+#include "EditorKeyboard.h"
 #include "EditorNotes.h"
 #include "EditorWidth.h"
 #include "EscapeKey.h"
@@ -168,8 +169,6 @@ void DimensionInputController::SetKeyStripShown(bool isShown)
     UpdateNotes();
 }
 
-void DimensionInputController::OnRecord(const JournalRecord&) {}
-
 void DimensionInputController::OnUiObject(const IJournalUiObject& object, int kind)
 {
     QObject* const* ppObject = std::any_cast<QObject*>(&object.GetUiObject());
@@ -181,6 +180,7 @@ void DimensionInputController::OnUiObject(const IJournalUiObject& object, int ki
     // An input method would keep letters to itself, and no value is written with one.
     pEditor->setAttribute(Qt::WA_InputMethodEnabled, false);
     m_pEditor = pEditor;
+    new EditorKeyboard(*pEditor);
     connect(pEditor, &QLineEdit::textEdited, this, &DimensionInputController::OnTextEdited);
     connect(pEditor, &QLineEdit::textChanged, this, &DimensionInputController::OnTextChanged);
 }

@@ -65,7 +65,7 @@ public:
     bool IsKeyStripShown() const { return m_isKeyStripShown; }
     void SetKeyStripShown(bool isShown);
 
-    void OnRecord(const JournalRecord& record) override;
+    void OnRecord(const JournalRecord&) override {}
     void OnUiObject(const IJournalUiObject& object, int kind) override;
 
     void ResetEditorPosition(ITemporaryDimensionHandler& handler) override;

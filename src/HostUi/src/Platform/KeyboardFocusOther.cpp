@@ -1,0 +1,8 @@
+#include "Platform/KeyboardFocus.h"
+
+namespace vesk
+{
+
+void MoveKeyboard(const QWindow&, const QWindow&) {}
+
+}
