@@ -136,8 +136,7 @@ private:
 
     void Take(Qt::KeyboardModifiers modifiers)
     {
-        m_script.taken.push_back(
-            {m_pEditor->text(), EditorTextScope::Take(), modifiers});
+        m_script.taken.push_back({m_pEditor->text(), EditorTextScope::Take(), modifiers});
     }
 
     void GoOn()

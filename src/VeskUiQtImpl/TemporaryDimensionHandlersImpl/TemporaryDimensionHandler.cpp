@@ -8,8 +8,8 @@
 #include "Journal/IJournalUiObject.h"
 #include "View/IUiManager.h"
 #include "View/IUiView.h"
-#include "ViewLookup.h"
 #include "View/UiViewUtility.h"
+#include "ViewLookup.h"
 
 #include <QStyle>
 #include <QStyleFactory>
