@@ -3,7 +3,7 @@
 #include "Comparison.h"
 
 #include "Control/CheckBoxGroupDefinition.h"
-#include "Control/QtCheckBoxGroup.h"
+#include "VeskUiQtImpl/Control/QtCheckBoxGroup.h"
 
 #include <QApplication>
 #include <QButtonGroup>

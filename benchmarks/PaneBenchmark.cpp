@@ -1,11 +1,11 @@
 // Whether a drawing of ten thousand entities is selected and shown in the panes at once, and the
 // cursor moves over it.
 
+#include "Model/Workspace.h"
 #include "Panes/EntityPane.h"
 #include "Panes/JournalPane.h"
 #include "Panes/PropertyPane.h"
-#include "SketchView.h"
-#include "Workspace.h"
+#include "View/SketchView.h"
 
 #include "HostCore.h"
 #include "HostUi/ControlHost.h"

@@ -1,20 +1,20 @@
 #include "Session.h"
 
-#include "CommandTable.h"
 #include "DataFile.h"
-#include "DockManagerImpl.h"
-#include "EntityEdit.h"
-#include "ModelFile.h"
-#include "SketchView.h"
+#include "Model/EntityEdit.h"
+#include "Model/ModelFile.h"
+#include "Ribbon/CommandTable.h"
+#include "VeskUiQtImpl/DockManagerImpl.h"
+#include "View/SketchView.h"
 
 #include "Command/ActionManager.h"
-#include "Foundation/DebugMessageMgr.h"
 #include "Foundation/FileRewriting.h"
 #include "Foundation/Text.h"
 #include "HostUi/LayoutFile.h"
 #include "HostUi/PublishConfigFile.h"
 #include "Journal/JournalFormat.h"
 #include "Journal/JournalManager.h"
+#include "Warnings/DebugMessageMgr.h"
 
 #include <QApplication>
 #include <QBuffer>
@@ -89,6 +89,7 @@ Session::Session(const Options& options)
         m_window.setWindowState(Qt::WindowMaximized);
     m_application.SetDockManager(m_pDocks.get());
     m_pPanes = std::make_unique<Panes>(m_workspace, m_window, *m_pDocks, m_controls, m_input);
+    QObject::connect(&m_window, &SketcherWindow::unitChanged, m_pPanes.get(), &Panes::Refresh);
     std::vector<CommandEntry> commands = MakeCommandTable(m_workspace, m_window.GetView(), m_input);
     for (CommandEntry& entry : m_pPanes->MakeCommands())
         commands.push_back(std::move(entry));

@@ -1,13 +1,13 @@
 #pragma once
 
 #include "KeepingMonitor.h"
+#include "Model/Workspace.h"
 #include "Options.h"
 #include "Panes/Panes.h"
 #include "ReadingMonitor.h"
 #include "SessionJournal.h"
 #include "SketcherWindow.h"
 #include "WarningRaiser.h"
-#include "Workspace.h"
 
 #include "Dock/IDockManager.h"
 #include "HostCore.h"
@@ -18,7 +18,7 @@
 #include "HostUi/TranslationCatalogue.h"
 #include "HostUi/UiApplication.h"
 #include "HostUi/UiTreeWriter.h"
-#include "Journal/JournalReplayer.h"
+#include "Replay/JournalReplayer.h"
 
 #include <memory>
 #include <vector>

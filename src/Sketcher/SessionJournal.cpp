@@ -4,7 +4,7 @@
 #include "Options.h"
 
 #include "Journal/JournalManager.h"
-#include "Journal/JournalReplayer.h"
+#include "Replay/JournalReplayer.h"
 
 #include <QCoreApplication>
 #include <QDateTime>

@@ -1,6 +1,6 @@
 #include "WarningRaiser.h"
 
-#include "Foundation/Check.h"
+#include "Warnings/Check.h"
 
 #include <QEvent>
 #include <QTimer>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Foundation/Check.h"
+#include "Warnings/Check.h"
 
 /// The place of a precondition of this library, for `vesk::Check`. `function` is the qualified
 /// name.

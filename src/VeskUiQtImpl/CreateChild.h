@@ -1,6 +1,6 @@
 #pragma once
 
-#include "CheckSite.h"
+#include "VeskUiQtImpl/CheckSite.h"
 
 #include <memory>
 

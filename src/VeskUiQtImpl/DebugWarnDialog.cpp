@@ -1,7 +1,7 @@
-#include "DebugWarnDialog.h"
+#include "VeskUiQtImpl/DebugWarnDialog.h"
 
-#include "DebugWarnText.h"
 #include "Foundation/IPublishConfig.h"
+#include "VeskUiQtImpl/DebugWarnText.h"
 
 #include <HostUi/QtText.h>
 

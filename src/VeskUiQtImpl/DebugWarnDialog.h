@@ -1,6 +1,6 @@
 #pragma once
 
-#include "DebugWarnForm.h"
+#include "VeskUiQtImpl/DebugWarnForm.h"
 
 #include <QDialog>
 

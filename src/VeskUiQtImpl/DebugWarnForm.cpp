@@ -1,6 +1,6 @@
-#include "DebugWarnForm.h"
+#include "VeskUiQtImpl/DebugWarnForm.h"
 
-#include "DebugWarnText.h"
+#include "VeskUiQtImpl/DebugWarnText.h"
 
 #include <QDialog>
 #include <QGroupBox>

@@ -1,4 +1,4 @@
-#include "DebugWarnText.h"
+#include "VeskUiQtImpl/DebugWarnText.h"
 
 #include "Foundation/TranslatorManager.h"
 

@@ -1,11 +1,11 @@
-#include "DebugWarningDialogDisplayer.h"
+#include "VeskUiQtImpl/DebugWarningDialogDisplayer.h"
 
-#include "DebugWarnDialog.h"
-#include "Foundation/Assert.h"
 #include "Foundation/IApplication.h"
 #include "Foundation/Platform.h"
-#include "Platform/DebuggerBreak.h"
+#include "VeskUiQtImpl/DebugWarnDialog.h"
+#include "VeskUiQtImpl/Platform/DebuggerBreak.h"
 #include "View/IUiManager.h"
+#include "Warnings/Assert.h"
 
 #include <HostUi/QtText.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Foundation/IDebugWarningDisplayer.h"
+#include "Warnings/IDebugWarningDisplayer.h"
 
 namespace vesk
 {

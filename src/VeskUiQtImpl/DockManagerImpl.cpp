@@ -1,8 +1,8 @@
-#include "DockManagerImpl.h"
+#include "VeskUiQtImpl/DockManagerImpl.h"
 
-#include "CheckSite.h"
 #include "Dock/IPropertyWidget.h"
-#include "DockImpl.h"
+#include "VeskUiQtImpl/CheckSite.h"
+#include "VeskUiQtImpl/DockImpl.h"
 #include "View/IUiManager.h"
 
 #include <QDockWidget>

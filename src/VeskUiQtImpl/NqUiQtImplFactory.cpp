@@ -1,9 +1,9 @@
-#include "NqUiQtImplFactory.h"
+#include "VeskUiQtImpl/NqUiQtImplFactory.h"
 
-#include "CheckSite.h"
-#include "DebugWarningDialogDisplayer.h"
 #include "Dock/IDockManager.h"
 #include "Dock/IPropertyWidget.h"
+#include "VeskUiQtImpl/CheckSite.h"
+#include "VeskUiQtImpl/DebugWarningDialogDisplayer.h"
 #include "View/IUiManager.h"
 
 namespace vesk

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Control/NqUiInterfaceFactory.h"
+#include "Warnings/NqUiInterfaceFactory.h"
 
 namespace vesk
 {

@@ -1,8 +1,6 @@
-#include "ProcessCommandUtil.h"
+#include "VeskUiQtImpl/ProcessCommandUtil.h"
 
-#include "CheckSite.h"
 #include "Command/ActionManager.h"
-#include "Command/CommandParameters.h"
 #include "Command/IAction.h"
 #include "Command/IActionManager.h"
 #include "Command/ICommand.h"
@@ -10,13 +8,15 @@
 #include "Foundation/FirstException.h"
 #include "Foundation/IApplication.h"
 #include "Foundation/UpdateCtrlStatusEvent.h"
+#include "Journal/CommandParameters.h"
 #include "Journal/IJournalData.h"
 #include "Journal/IJournalManager.h"
 #include "Journal/NqIJournalFactory.h"
+#include "VeskUiQtImpl/CheckSite.h"
+#include "VeskUiQtImpl/ViewLookup.h"
 #include "View/IUiDocumentViewManager.h"
 #include "View/IUiManager.h"
 #include "View/IUiView.h"
-#include "ViewLookup.h"
 
 #include <Qtitan/RibbonButtonControl.h>
 

@@ -1,7 +1,7 @@
-#include "Control/VeskControlFactory.h"
 #include "Dimension/TemporaryDimensionMgr.h"
-#include "NqUiQtImplFactory.h"
-#include "TemporaryDimensionHandlersImpl/TemporaryDimensionHandlerFactory.h"
+#include "VeskUiQtImpl/Control/VeskControlFactory.h"
+#include "VeskUiQtImpl/NqUiQtImplFactory.h"
+#include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/TemporaryDimensionHandlerFactory.h"
 
 namespace vesk
 {

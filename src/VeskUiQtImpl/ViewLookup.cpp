@@ -1,4 +1,4 @@
-#include "ViewLookup.h"
+#include "VeskUiQtImpl/ViewLookup.h"
 
 #include "View/IUiDocumentViewManager.h"
 #include "View/IUiView.h"

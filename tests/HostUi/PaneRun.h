@@ -1,10 +1,10 @@
 #pragma once
 
-#include "DockManagerImpl.h"
 #include "HostUi/PaneLayout.h"
 #include "HostUi/QtText.h"
 #include "Support/HostFixture.h"
 #include "Support/TestValues.h"
+#include "VeskUiQtImpl/DockManagerImpl.h"
 
 #include <QDockWidget>
 #include <QLabel>

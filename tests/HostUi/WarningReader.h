@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Control/NqUiInterfaceFactory.h"
-#include "Foundation/IDebugWarningDisplayer.h"
+#include "Warnings/IDebugWarningDisplayer.h"
+#include "Warnings/NqUiInterfaceFactory.h"
 
 #include <functional>
 #include <utility>

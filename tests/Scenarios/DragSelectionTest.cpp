@@ -1,9 +1,9 @@
 #include "Drawing.h"
 #include "ScenarioFixture.h"
 #include "ScriptedUser.h"
-#include "SketchView.h"
 #include "SketcherProcess.h"
 #include "Support/TestValues.h"
+#include "View/SketchView.h"
 
 #include <QApplication>
 #include <QImage>

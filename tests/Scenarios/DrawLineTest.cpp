@@ -1,8 +1,8 @@
 #include "Drawing.h"
 #include "ScenarioFixture.h"
 #include "ScriptedUser.h"
-#include "SketchView.h"
 #include "SketcherWindow.h"
+#include "View/SketchView.h"
 
 #include "Command/ActionManager.h"
 #include "Dimension/TemporaryDimensionMgr.h"

@@ -1,12 +1,12 @@
 #include "Drawing.h"
 #include "ScenarioFixture.h"
 #include "ScriptedUser.h"
-#include "SketchView.h"
 #include "SketcherProcess.h"
+#include "View/SketchView.h"
 
 #include "Command/ActionManager.h"
-#include "Command/ActionViewInput.h"
 #include "Command/TypedValue.h"
+#include "Dimension/ActionViewInput.h"
 #include "Support/TestValues.h"
 
 #include <algorithm>

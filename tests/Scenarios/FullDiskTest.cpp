@@ -1,11 +1,11 @@
 #include "Drawing.h"
 #include "ScenarioFixture.h"
 #include "ScriptedUser.h"
-#include "SketchView.h"
 #include "SketcherProcess.h"
 #include "SketcherWindow.h"
 #include "Support/FileSizeLimit.h"
 #include "Support/SmallDisk.h"
+#include "View/SketchView.h"
 
 #include "HostUi/LayoutFile.h"
 #include "Support/TestValues.h"

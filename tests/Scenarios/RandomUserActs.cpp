@@ -1,9 +1,9 @@
 #include "RandomTables.h"
 #include "RandomUser.h"
 #include "ScriptedUser.h"
-#include "SketchView.h"
 #include "SketcherWindow.h"
 #include "Support/TestValues.h"
+#include "View/SketchView.h"
 
 #include <QLineEdit>
 #include <QWheelEvent>

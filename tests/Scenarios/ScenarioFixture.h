@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Foundation/DebugMessageMgr.h"
 #include "Options.h"
+#include "Warnings/DebugMessageMgr.h"
 
 #include <QString>
 #include <QStringList>

@@ -1,8 +1,8 @@
 #include "ScriptedUser.h"
 
 #include "Session.h"
-#include "SketchView.h"
 #include "SketcherWindow.h"
+#include "View/SketchView.h"
 
 #include "Command/ActionManager.h"
 #include "Support/TestValues.h"

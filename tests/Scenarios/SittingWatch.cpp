@@ -1,8 +1,8 @@
 #include "SittingWatch.h"
 
 #include "ScriptedUser.h"
-#include "SketchView.h"
 #include "SketcherWindow.h"
+#include "View/SketchView.h"
 
 #include "Command/ActionManager.h"
 #include "Dimension/LengthUnit.h"

@@ -1,8 +1,8 @@
 #include "Drawing.h"
 #include "ScenarioFixture.h"
 #include "ScriptedUser.h"
-#include "SketchView.h"
 #include "SketcherProcess.h"
+#include "View/SketchView.h"
 
 #include "Dimension/TemporaryDimensionMgr.h"
 #include "Support/TestValues.h"

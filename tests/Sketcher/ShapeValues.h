@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Shape.h"
+#include "Model/Shape.h"
 #include "Support/TestValues.h"
 
 // How shapes are shown where a test finds them different.

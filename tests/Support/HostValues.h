@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Command/CommandParameters.h"
 #include "Dimension/InputState.h"
 #include "Graphics/IGraphicsNode.h"
+#include "Journal/CommandParameters.h"
 #include "Support/TestValues.h"
 
 // How the host's values are shown where a test finds them different.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Foundation/DebugMessageMgr.h"
+#include "Warnings/DebugMessageMgr.h"
 
 #include <QString>
 

@@ -1,4 +1,4 @@
-#include "CheckSite.h"
+#include "VeskUiQtImpl/CheckSite.h"
 
 #include "Support/HostFixture.h"
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "ProcessCommandUtil.h"
 #include "Support/HostFixture.h"
 #include "Support/TestValues.h"
+#include "VeskUiQtImpl/ProcessCommandUtil.h"
 
 #include <utility>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "DebugWarnDialog.h"
+#include "VeskUiQtImpl/DebugWarnDialog.h"
 
 #include "Foundation/IPublishConfig.h"
 #include "Support/HostFixture.h"

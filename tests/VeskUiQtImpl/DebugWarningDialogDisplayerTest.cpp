@@ -1,14 +1,14 @@
-#include "DebugWarningDialogDisplayer.h"
+#include "VeskUiQtImpl/DebugWarningDialogDisplayer.h"
 
-#include "Control/NqUiInterfaceFactory.h"
-#include "Foundation/Assert.h"
 #include "Foundation/IPublishConfig.h"
-#include "Host/Foundation/LogFile.h"
+#include "Host/Warnings/LogFile.h"
 #include "Support/HostFixture.h"
 #include "Support/MemberAccess.h"
 #include "Support/Platform/BreakCounter.h"
 #include "Support/Platform/Debugger.h"
 #include "Support/TestValues.h"
+#include "Warnings/Assert.h"
+#include "Warnings/NqUiInterfaceFactory.h"
 
 #include <QApplication>
 #include <QDialog>

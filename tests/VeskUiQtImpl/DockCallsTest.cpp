@@ -1,6 +1,6 @@
 #include "DockFixture.h"
-#include "DockManagerImpl.h"
 #include "Support/TestValues.h"
+#include "VeskUiQtImpl/DockManagerImpl.h"
 
 #include <dlfcn.h>
 

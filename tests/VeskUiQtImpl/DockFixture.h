@@ -1,9 +1,9 @@
 #pragma once
 
 #include "Dock/IPropertyWidget.h"
-#include "DockManagerImpl.h"
 #include "Support/HostFixture.h"
 #include "Support/MemberAccess.h"
+#include "VeskUiQtImpl/DockManagerImpl.h"
 
 #include <QDockWidget>
 #include <QMainWindow>

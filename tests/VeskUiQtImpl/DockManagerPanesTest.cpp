@@ -1,4 +1,4 @@
-#include "DockManagerImpl.h"
+#include "VeskUiQtImpl/DockManagerImpl.h"
 
 #include "DockFixture.h"
 #include "Support/TestValues.h"

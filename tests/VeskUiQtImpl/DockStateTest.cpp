@@ -1,4 +1,4 @@
-#include "DockImpl.h"
+#include "VeskUiQtImpl/DockImpl.h"
 
 #include "DockFixture.h"
 #include "Foundation/NqStyleSheetHelper.h"

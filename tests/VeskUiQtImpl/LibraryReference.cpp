@@ -1,4 +1,4 @@
-#include "TemporaryDimensionHandlersImpl/TemporaryDimensionHandlerFactory.h"
+#include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/TemporaryDimensionHandlerFactory.h"
 
 namespace vesk::test
 {

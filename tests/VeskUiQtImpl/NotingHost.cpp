@@ -2,11 +2,11 @@
 
 #include "Command/ActionManager.h"
 #include "Command/IActionManager.h"
-#include "Foundation/DebugMessageMgr.h"
 #include "Foundation/IApplication.h"
 #include "Foundation/UpdateCtrlStatusEvent.h"
 #include "Journal/NqIJournalFactory.h"
 #include "View/IUiManager.h"
+#include "Warnings/DebugMessageMgr.h"
 
 #include <utility>
 

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "ProcessCommandUtil.h"
+#include "VeskUiQtImpl/ProcessCommandUtil.h"
 
-#include "Command/CommandParameters.h"
 #include "Command/IAction.h"
 #include "Command/ICommand.h"
 #include "Command/ICommandManager.h"
+#include "Journal/CommandParameters.h"
 #include "Journal/IJournalData.h"
 #include "Journal/IJournalManager.h"
 #include "Journal/IJournalUiObject.h"

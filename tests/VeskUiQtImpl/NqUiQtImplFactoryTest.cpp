@@ -1,8 +1,8 @@
-#include "NqUiQtImplFactory.h"
+#include "VeskUiQtImpl/NqUiQtImplFactory.h"
 
 #include "DockFixture.h"
-#include "Foundation/IDebugWarningDisplayer.h"
 #include "Support/TestValues.h"
+#include "Warnings/IDebugWarningDisplayer.h"
 
 #include <typeinfo>
 

@@ -1,4 +1,4 @@
-#include "ProcessCommandUtil.h"
+#include "VeskUiQtImpl/ProcessCommandUtil.h"
 
 #include "Journal/NqIJournalFactory.h"
 #include "Support/HostFixture.h"

@@ -1,8 +1,8 @@
-#include "Control/NqUiInterfaceFactory.h"
 #include "Control/VeskIControlFactory.h"
 #include "Dimension/TemporaryDimensionMgr.h"
 #include "Support/Platform/LoadedLibrary.h"
 #include "Support/TestValues.h"
+#include "Warnings/NqUiInterfaceFactory.h"
 
 #include <QFile>
 #include <QStringList>

@@ -2,15 +2,15 @@
 #include "Control/IControl.h"
 #include "Control/LabelDefinition.h"
 #include "Control/LineEditDefinition.h"
-#include "Control/NqUiInterfaceFactory.h"
 #include "Control/VeskIControlFactory.h"
 #include "Dimension/ITemporaryDimensionHandler.h"
 #include "Dimension/LinearTemporaryDimensionContext.h"
 #include "Dimension/TemporaryDimensionMgr.h"
-#include "Foundation/IDebugWarningDisplayer.h"
 #include "Support/HostFixture.h"
 #include "Support/Platform/LoadedLibrary.h"
 #include "Support/TestValues.h"
+#include "Warnings/IDebugWarningDisplayer.h"
+#include "Warnings/NqUiInterfaceFactory.h"
 
 #include <QApplication>
 #include <QTimer>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Control/NqUiInterfaceFactory.h"
-#include "Foundation/DebugMessageMgr.h"
-#include "Foundation/IDebugWarningDisplayer.h"
+#include "Warnings/DebugMessageMgr.h"
+#include "Warnings/IDebugWarningDisplayer.h"
+#include "Warnings/NqUiInterfaceFactory.h"
 
 #include <functional>
 #include <utility>

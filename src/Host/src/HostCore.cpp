@@ -4,9 +4,9 @@
 #include "Command/ICommand.h"
 #include "Command/ICommandManager.h"
 #include "Dimension/TemporaryDimensionMgr.h"
-#include "Foundation/DebugMessageMgr.h"
 #include "Journal/JournalFactory.h"
 #include "Journal/JournalManager.h"
+#include "Warnings/DebugMessageMgr.h"
 
 namespace vesk
 {

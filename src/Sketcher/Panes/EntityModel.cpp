@@ -1,8 +1,8 @@
 #include "Panes/EntityModel.h"
 
-#include "ShapeKind.h"
-#include "ShapeProperty.h"
-#include "Sketch.h"
+#include "Model/ShapeKind.h"
+#include "Model/ShapeProperty.h"
+#include "Model/Sketch.h"
 
 #include "Dimension/LengthUnit.h"
 #include "HostUi/QtText.h"

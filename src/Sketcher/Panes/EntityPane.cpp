@@ -1,7 +1,7 @@
 #include "Panes/EntityPane.h"
 
+#include "Model/Workspace.h"
 #include "Panes/EntityModel.h"
-#include "Workspace.h"
 
 #include <QHeaderView>
 #include <QItemSelectionModel>

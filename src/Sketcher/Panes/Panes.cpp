@@ -1,15 +1,15 @@
 #include "Panes/Panes.h"
 
+#include "Model/Workspace.h"
 #include "Panes/EntityPane.h"
 #include "Panes/JournalPane.h"
 #include "Panes/PropertyPane.h"
-#include "SketcherWindow.h"
-#include "Workspace.h"
 
 #include "Command/ActionManager.h"
 #include "Dock/IDockManager.h"
 #include "Dock/IPropertyWidget.h"
 #include "HostUi/Inspector.h"
+#include "HostUi/MainWindow.h"
 #include "HostUi/QtText.h"
 
 #include <QAction>
@@ -46,8 +46,8 @@ std::vector<PanePlace> FactoryPlaces()
 
 }
 
-Panes::Panes(Workspace& workspace, SketcherWindow& window, IDockManager& docks,
-             ControlHost& controls, const DimensionInputController& input)
+Panes::Panes(Workspace& workspace, MainWindow& window, IDockManager& docks, ControlHost& controls,
+             const DimensionInputController& input)
     : m_docks(docks), m_layout(window, docks, FactoryPlaces())
 {
     auto opInspector = MakeOwner<Inspector>(controls, input);
@@ -61,11 +61,9 @@ Panes::Panes(Workspace& workspace, SketcherWindow& window, IDockManager& docks,
     // Any number of changes at once bring the panes in step once.
     m_refresh.setSingleShot(true);
     connect(&m_refresh, &QTimer::timeout, this, [this] { m_docks.UpdateAllDockStatus(); });
-    const auto refresh = [this] { m_refresh.start(0); };
-    connect(&workspace.sketch, &Sketch::changed, this, refresh);
-    connect(&workspace.selection, &Selection::changed, this, refresh);
-    connect(&m_layout, &PaneLayout::visibilityChanged, this, refresh);
-    connect(&window, &SketcherWindow::unitChanged, this, refresh);
+    connect(&workspace.sketch, &Sketch::changed, this, &Panes::Refresh);
+    connect(&workspace.selection, &Selection::changed, this, &Panes::Refresh);
+    connect(&m_layout, &PaneLayout::visibilityChanged, this, &Panes::Refresh);
     JournalManager::GetInstance().AddObserver(this);
 }
 
@@ -139,7 +137,7 @@ void Panes::Attend(QToolButton& button)
 
 void Panes::OnRecord(const JournalRecord&)
 {
-    m_refresh.start(0);
+    Refresh();
 }
 
 void Panes::OnUiObject(const IJournalUiObject&, int) {}

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "CommandTable.h"
+#include "Ribbon/CommandTable.h"
 
 #include "Command/ActionManager.h"
 #include "HostUi/PaneLayout.h"
@@ -14,7 +14,6 @@
 
 class QMenu;
 class QToolButton;
-class SketcherWindow;
 struct Workspace;
 
 namespace vesk
@@ -23,6 +22,7 @@ class ControlHost;
 class DimensionInputController;
 class IDockManager;
 class Inspector;
+class MainWindow;
 }
 
 /// The panes of the window: properties, entities, journal and inspector. Makes and places them,
@@ -33,11 +33,14 @@ class Panes final : public QObject, public vesk::IJournalObserver
 
 public:
     /// Makes all panes, in their factory places. The arguments are not owned; they outlive this.
-    Panes(Workspace& workspace, SketcherWindow& window, vesk::IDockManager& docks,
+    Panes(Workspace& workspace, vesk::MainWindow& window, vesk::IDockManager& docks,
           vesk::ControlHost& controls, const vesk::DimensionInputController& input);
     ~Panes() override;
 
     vesk::PaneLayout& GetLayout() { return m_layout; }
+
+    /// Has the panes come in step with what they show, as soon as the event loop is idle.
+    void Refresh() { m_refresh.start(0); }
 
     std::vector<CommandEntry> MakeCommands();
 

@@ -1,9 +1,9 @@
 #include "Panes/PropertyPane.h"
 
-#include "EntityEdit.h"
-#include "FieldKeys.h"
-#include "ShapeKind.h"
-#include "Workspace.h"
+#include "Model/EntityEdit.h"
+#include "Model/ShapeKind.h"
+#include "Model/Workspace.h"
+#include "Ribbon/FieldKeys.h"
 
 #include "Command/ActionManager.h"
 #include "Control/LineEditDefinition.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ShapeProperty.h"
+#include "Model/ShapeProperty.h"
 
 #include "Control/LineEditEvent.h"
 #include "Dock/IPropertyWidget.h"

@@ -1,6 +1,6 @@
 #include "Panes/RecordText.h"
 
-#include "Overloaded.h"
+#include "Model/Overloaded.h"
 
 #include "Dimension/InputField.h"
 #include "HostUi/QtText.h"

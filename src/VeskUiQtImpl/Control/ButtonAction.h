@@ -1,8 +1,8 @@
 #pragma once
 
-#include "CheckSite.h"
-#include "Control/PropertyName.h"
-#include "CreateChild.h"
+#include "VeskUiQtImpl/CheckSite.h"
+#include "VeskUiQtImpl/Control/PropertyName.h"
+#include "VeskUiQtImpl/CreateChild.h"
 
 #include <HostUi/QtText.h>
 

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "CheckSite.h"
 #include "Control/IControlDefinition.h"
 #include "Control/IControlDefinitionChangeEvent.h"
-#include "Control/PropertyName.h"
-#include "CreateChild.h"
+#include "VeskUiQtImpl/CheckSite.h"
+#include "VeskUiQtImpl/Control/PropertyName.h"
+#include "VeskUiQtImpl/CreateChild.h"
 
 #include <HostUi/QtText.h>
 

@@ -1,4 +1,4 @@
-#include "Control/ControlStatus.h"
+#include "VeskUiQtImpl/Control/ControlStatus.h"
 
 #include <QPointer>
 

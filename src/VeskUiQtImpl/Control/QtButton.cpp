@@ -1,13 +1,13 @@
-#include "Control/QtButton.h"
+#include "VeskUiQtImpl/Control/QtButton.h"
 
-#include "CheckSite.h"
-#include "Command/CommandParameters.h"
-#include "Control/ButtonAction.h"
 #include "Control/ControlDefinitionChangeByUser.h"
-#include "Control/ControlStatus.h"
-#include "Control/ControlSubscription.h"
-#include "Control/PropertyName.h"
-#include "ProcessCommandUtil.h"
+#include "Journal/CommandParameters.h"
+#include "VeskUiQtImpl/CheckSite.h"
+#include "VeskUiQtImpl/Control/ButtonAction.h"
+#include "VeskUiQtImpl/Control/ControlStatus.h"
+#include "VeskUiQtImpl/Control/ControlSubscription.h"
+#include "VeskUiQtImpl/Control/PropertyName.h"
+#include "VeskUiQtImpl/ProcessCommandUtil.h"
 
 #include <HostUi/QtText.h>
 

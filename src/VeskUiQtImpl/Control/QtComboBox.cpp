@@ -1,10 +1,10 @@
-#include "Control/QtComboBox.h"
+#include "VeskUiQtImpl/Control/QtComboBox.h"
 
-#include "CheckSite.h"
 #include "Control/ControlDefinitionChangeByUser.h"
-#include "Control/ControlStatus.h"
-#include "Control/ControlSubscription.h"
-#include "Control/PropertyName.h"
+#include "VeskUiQtImpl/CheckSite.h"
+#include "VeskUiQtImpl/Control/ControlStatus.h"
+#include "VeskUiQtImpl/Control/ControlSubscription.h"
+#include "VeskUiQtImpl/Control/PropertyName.h"
 
 #include <HostUi/QtText.h>
 

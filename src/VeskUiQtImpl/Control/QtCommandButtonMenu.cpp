@@ -1,14 +1,14 @@
-#include "Control/QtCommandButtonMenu.h"
+#include "VeskUiQtImpl/Control/QtCommandButtonMenu.h"
 
-#include "CheckSite.h"
-#include "Command/CommandParameters.h"
 #include "Command/ICommand.h"
 #include "Command/ICommandManager.h"
-#include "Control/ButtonAction.h"
-#include "Control/ControlSubscription.h"
-#include "Control/PropertyName.h"
-#include "CreateChild.h"
-#include "ProcessCommandUtil.h"
+#include "Journal/CommandParameters.h"
+#include "VeskUiQtImpl/CheckSite.h"
+#include "VeskUiQtImpl/Control/ButtonAction.h"
+#include "VeskUiQtImpl/Control/ControlSubscription.h"
+#include "VeskUiQtImpl/Control/PropertyName.h"
+#include "VeskUiQtImpl/CreateChild.h"
+#include "VeskUiQtImpl/ProcessCommandUtil.h"
 
 #include <HostUi/QtText.h>
 

@@ -1,9 +1,9 @@
-#include "Control/QtLabel.h"
+#include "VeskUiQtImpl/Control/QtLabel.h"
 
-#include "CheckSite.h"
-#include "Control/ControlStatus.h"
-#include "Control/ControlSubscription.h"
-#include "Control/PropertyName.h"
+#include "VeskUiQtImpl/CheckSite.h"
+#include "VeskUiQtImpl/Control/ControlStatus.h"
+#include "VeskUiQtImpl/Control/ControlSubscription.h"
+#include "VeskUiQtImpl/Control/PropertyName.h"
 
 #include <HostUi/QtText.h>
 

@@ -1,13 +1,13 @@
-#include "Control/QtLineEdit.h"
+#include "VeskUiQtImpl/Control/QtLineEdit.h"
 
-#include "CheckSite.h"
 #include "Control/ControlDefinitionChangeByUser.h"
-#include "Control/ControlStatus.h"
-#include "Control/ControlSubscription.h"
 #include "Control/LineEditDefinition.h"
 #include "Control/LineEditEvent.h"
-#include "Control/PropertyName.h"
 #include "Validation/NumberValidator.h"
+#include "VeskUiQtImpl/CheckSite.h"
+#include "VeskUiQtImpl/Control/ControlStatus.h"
+#include "VeskUiQtImpl/Control/ControlSubscription.h"
+#include "VeskUiQtImpl/Control/PropertyName.h"
 
 #include <HostUi/QtText.h>
 

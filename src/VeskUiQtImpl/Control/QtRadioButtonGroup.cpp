@@ -1,11 +1,11 @@
-#include "Control/QtRadioButtonGroup.h"
+#include "VeskUiQtImpl/Control/QtRadioButtonGroup.h"
 
-#include "CheckSite.h"
-#include "Control/ButtonGroupItems.h"
 #include "Control/ControlDefinitionChangeByUser.h"
-#include "Control/ControlStatus.h"
-#include "Control/ControlSubscription.h"
-#include "Control/PropertyName.h"
+#include "VeskUiQtImpl/CheckSite.h"
+#include "VeskUiQtImpl/Control/ButtonGroupItems.h"
+#include "VeskUiQtImpl/Control/ControlStatus.h"
+#include "VeskUiQtImpl/Control/ControlSubscription.h"
+#include "VeskUiQtImpl/Control/PropertyName.h"
 
 #include <HostUi/QtText.h>
 

@@ -1,14 +1,14 @@
-#include "Control/VeskControlFactory.h"
+#include "VeskUiQtImpl/Control/VeskControlFactory.h"
 
-#include "CheckSite.h"
-#include "Control/QtButton.h"
-#include "Control/QtCheckBoxGroup.h"
-#include "Control/QtComboBox.h"
-#include "Control/QtCommandButtonMenu.h"
-#include "Control/QtLabel.h"
-#include "Control/QtLineEdit.h"
-#include "Control/QtProgressBar.h"
-#include "Control/QtRadioButtonGroup.h"
+#include "VeskUiQtImpl/CheckSite.h"
+#include "VeskUiQtImpl/Control/QtButton.h"
+#include "VeskUiQtImpl/Control/QtCheckBoxGroup.h"
+#include "VeskUiQtImpl/Control/QtComboBox.h"
+#include "VeskUiQtImpl/Control/QtCommandButtonMenu.h"
+#include "VeskUiQtImpl/Control/QtLabel.h"
+#include "VeskUiQtImpl/Control/QtLineEdit.h"
+#include "VeskUiQtImpl/Control/QtProgressBar.h"
+#include "VeskUiQtImpl/Control/QtRadioButtonGroup.h"
 
 #include <QPointer>
 #include <QWidget>

@@ -1,4 +1,4 @@
-#include "Platform/DebuggerBreak.h"
+#include "VeskUiQtImpl/Platform/DebuggerBreak.h"
 
 #include <csignal>
 

@@ -1,4 +1,4 @@
-#include "Platform/InputMethodSwitch.h"
+#include "VeskUiQtImpl/Platform/InputMethodSwitch.h"
 
 #include <utility>
 

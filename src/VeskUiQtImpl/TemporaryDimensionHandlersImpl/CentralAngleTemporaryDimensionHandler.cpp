@@ -1,4 +1,4 @@
-#include "TemporaryDimensionHandlersImpl/CentralAngleTemporaryDimensionHandler.h"
+#include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/CentralAngleTemporaryDimensionHandler.h"
 
 #include "Dimension/CentralAngleTemporaryDimensionContext.h"
 #include "Dimension/TemporaryDimensionCommons.h"

@@ -1,4 +1,4 @@
-#include "TemporaryDimensionHandlersImpl/DimensionKeys.h"
+#include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/DimensionKeys.h"
 
 #include <QKeyEvent>
 

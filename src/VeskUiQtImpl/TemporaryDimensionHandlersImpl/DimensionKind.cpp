@@ -1,4 +1,4 @@
-#include "TemporaryDimensionHandlersImpl/DimensionKind.h"
+#include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/DimensionKind.h"
 
 #include <HostUi/QtText.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "TemporaryDimensionHandlersImpl/DimensionField.h"
-#include "TemporaryDimensionHandlersImpl/DimensionKeys.h"
+#include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/DimensionField.h"
+#include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/DimensionKeys.h"
 
 #include <array>
 

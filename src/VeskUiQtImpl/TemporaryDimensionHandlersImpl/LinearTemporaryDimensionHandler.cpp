@@ -1,10 +1,10 @@
-#include "TemporaryDimensionHandlersImpl/LinearTemporaryDimensionHandler.h"
+#include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/LinearTemporaryDimensionHandler.h"
 
-#include "CheckSite.h"
 #include "Dimension/LinearTemporaryDimensionContext.h"
 #include "Dimension/TemporaryDimensionCommons.h"
 #include "Geometry/Constants.h"
 #include "Graphics/IGraphicsNode.h"
+#include "VeskUiQtImpl/CheckSite.h"
 
 #include <QKeyEvent>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "TemporaryDimensionHandlersImpl/TemporaryDimensionHandler.h"
+#include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/TemporaryDimensionHandler.h"
 
 namespace vesk
 {

@@ -1,10 +1,10 @@
-#include "TemporaryDimensionHandlersImpl/RadiusTemporaryDimensionHandler.h"
+#include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/RadiusTemporaryDimensionHandler.h"
 
-#include "CheckSite.h"
 #include "Dimension/RadiusTemporaryDimensionContext.h"
 #include "Dimension/TemporaryDimensionCommons.h"
 #include "Geometry/Constants.h"
 #include "Graphics/IGraphicsNode.h"
+#include "VeskUiQtImpl/CheckSite.h"
 
 #include <Eigen/Geometry>
 

@@ -1,4 +1,4 @@
-#include "TemporaryDimensionHandlersImpl/RectangleTemporaryDimensionHandler.h"
+#include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/RectangleTemporaryDimensionHandler.h"
 
 #include "Dimension/RectangleTemporaryDimensionContext.h"
 #include "Dimension/TemporaryDimensionCommons.h"

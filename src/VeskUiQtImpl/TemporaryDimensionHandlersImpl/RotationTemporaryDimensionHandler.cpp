@@ -1,4 +1,4 @@
-#include "TemporaryDimensionHandlersImpl/RotationTemporaryDimensionHandler.h"
+#include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/RotationTemporaryDimensionHandler.h"
 
 #include "Dimension/RotationTemporaryDimensionContext.h"
 #include "Dimension/TemporaryDimensionCommons.h"

@@ -1,4 +1,4 @@
-#include "TemporaryDimensionHandlersImpl/TemporaryDimensionHandleEditor.h"
+#include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/TemporaryDimensionHandleEditor.h"
 
 #include <limits>
 

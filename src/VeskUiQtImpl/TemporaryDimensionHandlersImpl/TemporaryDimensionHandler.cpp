@@ -1,15 +1,15 @@
-#include "TemporaryDimensionHandlersImpl/TemporaryDimensionHandler.h"
+#include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/TemporaryDimensionHandler.h"
 
-#include "CheckSite.h"
-#include "CreateChild.h"
 #include "Dimension/ITemporaryDimensionContext.h"
 #include "Geometry/Constants.h"
 #include "Journal/IJournalManager.h"
 #include "Journal/IJournalUiObject.h"
+#include "VeskUiQtImpl/CheckSite.h"
+#include "VeskUiQtImpl/CreateChild.h"
+#include "VeskUiQtImpl/ViewLookup.h"
 #include "View/IUiManager.h"
 #include "View/IUiView.h"
 #include "View/UiViewUtility.h"
-#include "ViewLookup.h"
 
 #include <QStyle>
 #include <QStyleFactory>

@@ -1,14 +1,14 @@
 #pragma once
 
-#include "Command/ActionViewInput.h"
+#include "Dimension/ActionViewInput.h"
 #include "Dimension/ITemporaryDimensionHandler.h"
 #include "Dimension/InputState.h"
 #include "Dimension/TemporaryDimensionData.h"
 #include "Dimension/TemporaryDimensionStyle.h"
-#include "Platform/InputMethodSwitch.h"
-#include "TemporaryDimensionHandlersImpl/DimensionKind.h"
-#include "TemporaryDimensionHandlersImpl/TemporaryDimensionHandleEditor.h"
 #include "Validation/NumberValidator.h"
+#include "VeskUiQtImpl/Platform/InputMethodSwitch.h"
+#include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/DimensionKind.h"
+#include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/TemporaryDimensionHandleEditor.h"
 
 #include <HostUi/LineEditValidateHelper.h>
 

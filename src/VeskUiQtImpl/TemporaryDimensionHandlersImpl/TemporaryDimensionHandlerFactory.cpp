@@ -1,18 +1,18 @@
-#include "TemporaryDimensionHandlersImpl/TemporaryDimensionHandlerFactory.h"
+#include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/TemporaryDimensionHandlerFactory.h"
 
-#include "CheckSite.h"
 #include "Dimension/CentralAngleTemporaryDimensionContext.h"
 #include "Dimension/ITemporaryDimensionContext.h"
 #include "Dimension/LinearTemporaryDimensionContext.h"
 #include "Dimension/RadiusTemporaryDimensionContext.h"
 #include "Dimension/RectangleTemporaryDimensionContext.h"
 #include "Dimension/RotationTemporaryDimensionContext.h"
-#include "TemporaryDimensionHandlersImpl/CentralAngleTemporaryDimensionHandler.h"
-#include "TemporaryDimensionHandlersImpl/LinearTemporaryDimensionHandler.h"
-#include "TemporaryDimensionHandlersImpl/RadiusTemporaryDimensionHandler.h"
-#include "TemporaryDimensionHandlersImpl/RectangleTemporaryDimensionHandler.h"
-#include "TemporaryDimensionHandlersImpl/RotationTemporaryDimensionHandler.h"
-#include "ViewLookup.h"
+#include "VeskUiQtImpl/CheckSite.h"
+#include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/CentralAngleTemporaryDimensionHandler.h"
+#include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/LinearTemporaryDimensionHandler.h"
+#include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/RadiusTemporaryDimensionHandler.h"
+#include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/RectangleTemporaryDimensionHandler.h"
+#include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/RotationTemporaryDimensionHandler.h"
+#include "VeskUiQtImpl/ViewLookup.h"
 
 #include <algorithm>
 #include <array>

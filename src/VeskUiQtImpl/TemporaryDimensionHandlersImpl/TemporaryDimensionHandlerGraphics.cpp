@@ -1,6 +1,6 @@
-#include "CheckSite.h"
 #include "Graphics/IGraphicsNode.h"
-#include "TemporaryDimensionHandlersImpl/TemporaryDimensionHandler.h"
+#include "VeskUiQtImpl/CheckSite.h"
+#include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/TemporaryDimensionHandler.h"
 #include "View/IUiView.h"
 #include "View/UiViewUtility.h"
 

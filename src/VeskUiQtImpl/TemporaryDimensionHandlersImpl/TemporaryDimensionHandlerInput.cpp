@@ -1,8 +1,8 @@
-#include "CheckSite.h"
 #include "Command/ActionManager.h"
 #include "Foundation/FirstException.h"
-#include "TemporaryDimensionHandlersImpl/TemporaryDimensionHandler.h"
-#include "ViewLookup.h"
+#include "VeskUiQtImpl/CheckSite.h"
+#include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/TemporaryDimensionHandler.h"
+#include "VeskUiQtImpl/ViewLookup.h"
 
 #include <HostUi/QtText.h>
 

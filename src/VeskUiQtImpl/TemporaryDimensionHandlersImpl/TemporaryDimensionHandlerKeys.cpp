@@ -1,6 +1,6 @@
-#include "CheckSite.h"
-#include "TemporaryDimensionHandlersImpl/TemporaryDimensionHandler.h"
-#include "ViewLookup.h"
+#include "VeskUiQtImpl/CheckSite.h"
+#include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/TemporaryDimensionHandler.h"
+#include "VeskUiQtImpl/ViewLookup.h"
 
 #include <QKeyEvent>
 

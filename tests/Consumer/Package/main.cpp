@@ -1,13 +1,13 @@
 // Shows a text on a label, made through the control factory of the installed package, and on a
 // control of its own.
 
-#include <Control/Control.h>
 #include <Control/IControl.h>
 #include <Control/LabelDefinition.h>
 #include <Control/VeskIControlFactory.h>
 #include <HostCore.h>
 #include <HostUi/ControlLibrary.h>
 #include <HostUi/UiApplication.h>
+#include <VeskUiQtImpl/Control/Control.h>
 
 #include <QApplication>
 #include <QLabel>

@@ -2,10 +2,10 @@
 
 #include "Command/ActionManager.h"
 #include "Command/Command.h"
-#include "Command/CommandParameters.h"
 #include "Command/ICommandManager.h"
 #include "Host/Command/ActionStandIns.h"
 #include "HostCore.h"
+#include "Journal/CommandParameters.h"
 #include "Journal/JournalManager.h"
 
 #include <map>

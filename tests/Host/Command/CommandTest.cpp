@@ -1,8 +1,8 @@
 #include "Command/Command.h"
 
-#include "Command/CommandParameters.h"
 #include "Command/IAction.h"
 #include "Command/ICommandManager.h"
+#include "Journal/CommandParameters.h"
 #include "Support/HostValues.h"
 #include "Support/TestValues.h"
 

@@ -1,12 +1,12 @@
 #include "HostCore.h"
 
 #include "Command/Command.h"
-#include "Command/CommandParameters.h"
 #include "Command/IActionManager.h"
 #include "Command/ICommandManager.h"
 #include "Dimension/TemporaryDimensionMgr.h"
 #include "Host/Command/ActionStandIns.h"
 #include "Host/Dimension/HandlerStandIns.h"
+#include "Journal/CommandParameters.h"
 #include "Journal/JournalManager.h"
 #include "Journal/NqIJournalFactory.h"
 #include "Support/TestValues.h"

@@ -7,10 +7,10 @@
 #include "Control/ILineEditDefinition.h"
 #include "Control/IProgressBarDefinition.h"
 #include "Control/IRadioButtonGroupDefinition.h"
-#include "Control/NqUiInterfaceFactory.h"
 #include "Control/VeskIControlFactory.h"
-#include "Foundation/IDebugWarningDisplayer.h"
 #include "Support/TestValues.h"
+#include "Warnings/IDebugWarningDisplayer.h"
+#include "Warnings/NqUiInterfaceFactory.h"
 
 #include <memory>
 

@@ -1,12 +1,12 @@
 #include "Journal/JournalManager.h"
 
-#include "Foundation/DebugMessageMgr.h"
 #include "HostCore.h"
 #include "Journal/IJournalData.h"
 #include "Journal/IJournalUiObject.h"
 #include "Journal/JournalFormat.h"
 #include "Journal/NqIJournalFactory.h"
 #include "Support/TestValues.h"
+#include "Warnings/DebugMessageMgr.h"
 
 #include <QFile>
 #include <QTemporaryDir>

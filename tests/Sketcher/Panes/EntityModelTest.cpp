@@ -1,6 +1,6 @@
 #include "Panes/EntityModel.h"
 
-#include "Sketch.h"
+#include "Model/Sketch.h"
 
 #include "Dimension/LengthUnit.h"
 #include "Support/TestValues.h"

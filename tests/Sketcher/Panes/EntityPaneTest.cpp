@@ -1,8 +1,8 @@
 #include "Panes/EntityPane.h"
 
+#include "Model/Workspace.h"
 #include "RecordedLines.h"
 #include "Support/TestValues.h"
-#include "Workspace.h"
 
 #include <QSignalSpy>
 #include <QTreeView>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "EntityEdit.h"
+#include "Model/EntityEdit.h"
+#include "Model/Workspace.h"
 #include "Panes/PropertyPane.h"
-#include "Workspace.h"
 
 #include "Dimension/LengthUnit.h"
 #include "HostUi/ControlHost.h"

@@ -1,14 +1,14 @@
 #include "Control/CheckBoxGroupDefinition.h"
 #include "Control/ControlDefinitionChangeByUser.h"
-#include "Control/QtButton.h"
-#include "Control/QtCheckBoxGroup.h"
-#include "Control/QtComboBox.h"
-#include "Control/QtLineEdit.h"
-#include "Control/QtRadioButtonGroup.h"
 #include "Control/RadioButtonGroupDefinition.h"
 #include "Support/HostFixture.h"
 #include "Support/MemberAccess.h"
 #include "Support/TestValues.h"
+#include "VeskUiQtImpl/Control/QtButton.h"
+#include "VeskUiQtImpl/Control/QtCheckBoxGroup.h"
+#include "VeskUiQtImpl/Control/QtComboBox.h"
+#include "VeskUiQtImpl/Control/QtLineEdit.h"
+#include "VeskUiQtImpl/Control/QtRadioButtonGroup.h"
 
 #include <QWidget>
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "Control/CommandButtonDefinition.h"
-#include "Control/QtButton.h"
 #include "Support/HostFixture.h"
+#include "VeskUiQtImpl/Control/QtButton.h"
 
 #include <QAction>
 #include <QIcon>

@@ -2,10 +2,10 @@
 
 #include "Control/ButtonGroupDefinitions.h"
 #include "Control/ChangeArgs.h"
-#include "Control/QtCheckBoxGroup.h"
-#include "Control/QtRadioButtonGroup.h"
 #include "Support/HostFixture.h"
 #include "Support/TestValues.h"
+#include "VeskUiQtImpl/Control/QtCheckBoxGroup.h"
+#include "VeskUiQtImpl/Control/QtRadioButtonGroup.h"
 
 #include <QAbstractButton>
 #include <QBoxLayout>

@@ -1,12 +1,12 @@
 #include "Control/CommandButtonDefinition.h"
 #include "Control/LabelDefinition.h"
 #include "Control/LineEditDefinitions.h"
-#include "Control/QtButton.h"
-#include "Control/QtLabel.h"
-#include "Control/QtLineEdit.h"
-#include "ProcessCommandUtil.h"
 #include "Support/HostFixture.h"
 #include "Support/TestValues.h"
+#include "VeskUiQtImpl/Control/QtButton.h"
+#include "VeskUiQtImpl/Control/QtLabel.h"
+#include "VeskUiQtImpl/Control/QtLineEdit.h"
+#include "VeskUiQtImpl/ProcessCommandUtil.h"
 
 #include <QAction>
 

@@ -6,13 +6,13 @@
 #include "Control/LabelDefinition.h"
 #include "Control/LineEditDefinition.h"
 #include "Control/ProgressBarDefinition.h"
-#include "Control/QtCheckBoxGroup.h"
-#include "Control/QtComboBox.h"
-#include "Control/QtRadioButtonGroup.h"
 #include "Control/VeskIControlFactory.h"
-#include "ProcessCommandUtil.h"
 #include "Support/HostFixture.h"
 #include "Support/TestValues.h"
+#include "VeskUiQtImpl/Control/QtCheckBoxGroup.h"
+#include "VeskUiQtImpl/Control/QtComboBox.h"
+#include "VeskUiQtImpl/Control/QtRadioButtonGroup.h"
+#include "VeskUiQtImpl/ProcessCommandUtil.h"
 
 #include <QAction>
 #include <QCheckBox>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "Control/LineEditDefinitions.h"
-#include "Control/QtLineEdit.h"
 #include "Support/HostFixture.h"
+#include "VeskUiQtImpl/Control/QtLineEdit.h"
 
 namespace vesk::test
 {

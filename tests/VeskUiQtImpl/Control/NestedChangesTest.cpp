@@ -2,14 +2,14 @@
 #include "Control/ComboBoxDefinition.h"
 #include "Control/CommandButtonMenuDefinition.h"
 #include "Control/LineEditDefinition.h"
-#include "Control/QtCheckBoxGroup.h"
-#include "Control/QtComboBox.h"
-#include "Control/QtLineEdit.h"
-#include "Control/QtRadioButtonGroup.h"
 #include "Control/RadioButtonGroupDefinition.h"
 #include "Control/VeskIControlFactory.h"
 #include "Support/HostFixture.h"
 #include "Support/TestValues.h"
+#include "VeskUiQtImpl/Control/QtCheckBoxGroup.h"
+#include "VeskUiQtImpl/Control/QtComboBox.h"
+#include "VeskUiQtImpl/Control/QtLineEdit.h"
+#include "VeskUiQtImpl/Control/QtRadioButtonGroup.h"
 
 #include <QAbstractButton>
 #include <QMenu>

@@ -1,7 +1,7 @@
 #include "Control/CommandButtonDefinition.h"
 #include "Control/CommandButtonMenuFixture.h"
-#include "Control/QtButton.h"
-#include "ProcessCommandUtil.h"
+#include "VeskUiQtImpl/Control/QtButton.h"
+#include "VeskUiQtImpl/ProcessCommandUtil.h"
 
 #include "Support/TestValues.h"
 

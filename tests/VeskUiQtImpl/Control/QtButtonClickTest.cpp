@@ -1,13 +1,13 @@
-#include "Control/QtButton.h"
+#include "VeskUiQtImpl/Control/QtButton.h"
 
 #include "Control/ChangeNotes.h"
 #include "Control/CommandButtonDefinition.h"
 #include "Control/ControlDefinitionChangeByUser.h"
 #include "Control/EchoModes.h"
-#include "ProcessCommandUtil.h"
 #include "Support/HostFixture.h"
 #include "Support/HostValues.h"
 #include "Support/TestValues.h"
+#include "VeskUiQtImpl/ProcessCommandUtil.h"
 
 #include <QAction>
 

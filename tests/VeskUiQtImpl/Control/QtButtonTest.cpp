@@ -1,4 +1,4 @@
-#include "Control/QtButton.h"
+#include "VeskUiQtImpl/Control/QtButton.h"
 
 #include "Control/ButtonFixture.h"
 #include "Control/ChangeArgs.h"

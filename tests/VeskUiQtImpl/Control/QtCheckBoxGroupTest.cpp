@@ -1,4 +1,4 @@
-#include "Control/QtCheckBoxGroup.h"
+#include "VeskUiQtImpl/Control/QtCheckBoxGroup.h"
 
 #include "Control/ButtonGroupDefinitions.h"
 #include "Control/ChangeArgs.h"

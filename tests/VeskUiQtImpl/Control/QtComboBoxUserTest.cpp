@@ -1,4 +1,4 @@
-#include "Control/QtComboBox.h"
+#include "VeskUiQtImpl/Control/QtComboBox.h"
 
 #include "Control/ChangeArgs.h"
 #include "Control/ChangeNotes.h"

@@ -1,7 +1,7 @@
 #include "Control/CommandButtonMenuFixture.h"
-#include "ProcessCommandUtil.h"
 #include "Support/HostValues.h"
 #include "Support/TestValues.h"
+#include "VeskUiQtImpl/ProcessCommandUtil.h"
 
 namespace vesk::test
 {

@@ -1,4 +1,4 @@
-#include "Control/QtLabel.h"
+#include "VeskUiQtImpl/Control/QtLabel.h"
 
 #include "Control/ChangeArgs.h"
 #include "Control/LabelDefinition.h"

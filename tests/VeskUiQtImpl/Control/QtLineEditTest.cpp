@@ -1,4 +1,4 @@
-#include "Control/QtLineEdit.h"
+#include "VeskUiQtImpl/Control/QtLineEdit.h"
 
 #include "Control/ChangeArgs.h"
 #include "Control/LineEditFixture.h"

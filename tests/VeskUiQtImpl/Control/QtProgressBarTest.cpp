@@ -1,4 +1,4 @@
-#include "Control/QtProgressBar.h"
+#include "VeskUiQtImpl/Control/QtProgressBar.h"
 #include "Control/ChangeArgs.h"
 #include "Control/OtherEventTypes.h"
 #include "Control/ProgressBarDefinition.h"

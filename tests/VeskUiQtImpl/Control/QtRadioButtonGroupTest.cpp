@@ -1,4 +1,4 @@
-#include "Control/QtRadioButtonGroup.h"
+#include "VeskUiQtImpl/Control/QtRadioButtonGroup.h"
 
 #include "Control/ButtonGroupDefinitions.h"
 #include "Control/ChangeArgs.h"

@@ -1,10 +1,10 @@
 #include "Control/ComboBoxDefinition.h"
 #include "Control/CommandButtonMenuDefinition.h"
-#include "Control/QtComboBox.h"
 #include "Control/RandomGroupSequences.h"
 #include "Control/VeskIControlFactory.h"
 #include "Support/HostFixture.h"
 #include "Support/TestValues.h"
+#include "VeskUiQtImpl/Control/QtComboBox.h"
 
 #include <QMenu>
 #include <QToolButton>

@@ -1,11 +1,11 @@
 #pragma once
 
 #include "Control/CheckBoxGroupDefinition.h"
-#include "Control/QtCheckBoxGroup.h"
-#include "Control/QtRadioButtonGroup.h"
 #include "Control/RadioButtonGroupDefinition.h"
 #include "Control/RandomSequence.h"
 #include "Support/TestValues.h"
+#include "VeskUiQtImpl/Control/QtCheckBoxGroup.h"
+#include "VeskUiQtImpl/Control/QtRadioButtonGroup.h"
 
 #include <QCheckBox>
 #include <QRadioButton>

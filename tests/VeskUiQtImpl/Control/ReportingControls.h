@@ -8,14 +8,14 @@
 #include "Control/LabelDefinition.h"
 #include "Control/LineEditDefinitions.h"
 #include "Control/ProgressBarDefinition.h"
-#include "Control/QtButton.h"
-#include "Control/QtCheckBoxGroup.h"
-#include "Control/QtLineEdit.h"
-#include "Control/QtRadioButtonGroup.h"
 #include "Control/VeskIControlFactory.h"
 #include "Support/HostFixture.h"
 #include "Support/MemberAccess.h"
 #include "Support/TestValues.h"
+#include "VeskUiQtImpl/Control/QtButton.h"
+#include "VeskUiQtImpl/Control/QtCheckBoxGroup.h"
+#include "VeskUiQtImpl/Control/QtLineEdit.h"
+#include "VeskUiQtImpl/Control/QtRadioButtonGroup.h"
 #include "WarningScript.h"
 
 #include <QApplication>

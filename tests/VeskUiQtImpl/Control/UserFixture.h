@@ -2,9 +2,9 @@
 
 #include "Control/EchoModes.h"
 #include "Control/LineEditDefinitions.h"
-#include "Control/QtLineEdit.h"
 #include "Support/HostFixture.h"
 #include "Support/TestValues.h"
+#include "VeskUiQtImpl/Control/QtLineEdit.h"
 
 namespace vesk::test
 {

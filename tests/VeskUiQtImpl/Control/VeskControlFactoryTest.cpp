@@ -8,16 +8,16 @@
 #include "Control/IRadioButtonGroupDefinition.h"
 #include "Control/LabelDefinition.h"
 #include "Control/LineEditDefinition.h"
-#include "Control/QtButton.h"
-#include "Control/QtCheckBoxGroup.h"
-#include "Control/QtComboBox.h"
-#include "Control/QtLabel.h"
-#include "Control/QtLineEdit.h"
-#include "Control/QtRadioButtonGroup.h"
-#include "Control/VeskControlFactory.h"
 #include "Support/HostFixture.h"
 #include "Support/MemberAccess.h"
 #include "Support/TestValues.h"
+#include "VeskUiQtImpl/Control/QtButton.h"
+#include "VeskUiQtImpl/Control/QtCheckBoxGroup.h"
+#include "VeskUiQtImpl/Control/QtComboBox.h"
+#include "VeskUiQtImpl/Control/QtLabel.h"
+#include "VeskUiQtImpl/Control/QtLineEdit.h"
+#include "VeskUiQtImpl/Control/QtRadioButtonGroup.h"
+#include "VeskUiQtImpl/Control/VeskControlFactory.h"
 
 #include <QProgressBar>
 #include <QToolButton>

@@ -1,12 +1,12 @@
-#include "Platform/InputMethodSwitch.h"
 #include "Support/HostFixture.h"
 #include "Support/HostValues.h"
 #include "Support/Platform/InputMethod.h"
 #include "Support/TestValues.h"
-#include "TemporaryDimensionHandlersImpl/DimensionKeys.h"
-#include "TemporaryDimensionHandlersImpl/DimensionKind.h"
-#include "TemporaryDimensionHandlersImpl/TemporaryDimensionHandler.h"
-#include "ViewLookup.h"
+#include "VeskUiQtImpl/Platform/InputMethodSwitch.h"
+#include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/DimensionKeys.h"
+#include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/DimensionKind.h"
+#include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/TemporaryDimensionHandler.h"
+#include "VeskUiQtImpl/ViewLookup.h"
 
 #include "Graphics/IGraphicsNode.h"
 

@@ -1,6 +1,6 @@
 #include "Support/TestValues.h"
-#include "TemporaryDimensionHandlersImpl/DimensionKeys.h"
-#include "TemporaryDimensionHandlersImpl/DimensionKind.h"
+#include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/DimensionKeys.h"
+#include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/DimensionKind.h"
 
 #include <QKeyEvent>
 

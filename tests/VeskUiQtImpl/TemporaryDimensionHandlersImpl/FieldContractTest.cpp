@@ -1,4 +1,4 @@
-#include "KeyCode.h"
+#include "Input/KeyCode.h"
 
 #include "Dimension/InputField.h"
 #include "Support/TestValues.h"

@@ -1,12 +1,12 @@
 #include "TemporaryDimensionHandlersImpl/HandlerFixture.h"
 
 #include "Support/TestValues.h"
-#include "TemporaryDimensionHandlersImpl/CentralAngleTemporaryDimensionHandler.h"
 #include "TemporaryDimensionHandlersImpl/KindTable.h"
-#include "TemporaryDimensionHandlersImpl/LinearTemporaryDimensionHandler.h"
-#include "TemporaryDimensionHandlersImpl/RadiusTemporaryDimensionHandler.h"
-#include "TemporaryDimensionHandlersImpl/RectangleTemporaryDimensionHandler.h"
-#include "TemporaryDimensionHandlersImpl/RotationTemporaryDimensionHandler.h"
+#include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/CentralAngleTemporaryDimensionHandler.h"
+#include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/LinearTemporaryDimensionHandler.h"
+#include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/RadiusTemporaryDimensionHandler.h"
+#include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/RectangleTemporaryDimensionHandler.h"
+#include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/RotationTemporaryDimensionHandler.h"
 
 #include <QMetaMethod>
 

@@ -7,8 +7,8 @@
 #include "HostUi/LineEditValidateHelper.h"
 #include "Support/HostFixture.h"
 #include "Support/MemberAccess.h"
-#include "TemporaryDimensionHandlersImpl/TemporaryDimensionHandler.h"
-#include "TemporaryDimensionHandlersImpl/TemporaryDimensionHandlerFactory.h"
+#include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/TemporaryDimensionHandler.h"
+#include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/TemporaryDimensionHandlerFactory.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>

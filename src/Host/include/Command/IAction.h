@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Command/ActionViewInput.h"
 #include "Command/TypedValue.h"
+#include "Dimension/ActionViewInput.h"
 #include "Dimension/InputState.h"
 #include "Foundation/HostExport.h"
 #include "Foundation/OwnerPtr.h"

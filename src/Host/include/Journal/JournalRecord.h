@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Command/CommandParameters.h"
 #include "Dimension/InputState.h"
 #include "Geometry/Vector3d.h"
+#include "Journal/CommandParameters.h"
 
 #include <optional>
 #include <string>

@@ -1,11 +1,11 @@
 #include "Command/ActionManager.h"
 
 #include "Command/ActionRunner.h"
-#include "Command/ActionViewInput.h"
 #include "Command/IActionManager.h"
 #include "Command/ICommand.h"
 #include "Command/ICommandManager.h"
 #include "Command/TypedValue.h"
+#include "Dimension/ActionViewInput.h"
 #include "Dimension/ITemporaryDimensionContext.h"
 #include "Dimension/InputField.h"
 #include "Dimension/LengthUnit.h"

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Command/CommandParameters.h"
 #include "Command/IAction.h"
 #include "Foundation/OwnerPtr.h"
+#include "Journal/CommandParameters.h"
 
 #include <cstdint>
 #include <deque>

@@ -1,7 +1,7 @@
 #include "Command/Command.h"
 
-#include "Command/CommandParameters.h"
 #include "Command/IAction.h"
+#include "Journal/CommandParameters.h"
 
 #include <utility>
 

@@ -1,7 +1,7 @@
 #include "Control/ComboBoxDefinition.h"
 
 #include "Control/ItemDefinitionList.h"
-#include "Foundation/HostSite.h"
+#include "Warnings/HostSite.h"
 
 #include <algorithm>
 #include <utility>

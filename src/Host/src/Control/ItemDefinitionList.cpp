@@ -1,6 +1,6 @@
 #include "Control/ItemDefinitionList.h"
 
-#include "Foundation/HostSite.h"
+#include "Warnings/HostSite.h"
 
 namespace vesk
 {

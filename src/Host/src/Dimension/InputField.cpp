@@ -1,6 +1,6 @@
 #include "Dimension/InputField.h"
 
-#include "Command/ActionViewInput.h"
+#include "Dimension/ActionViewInput.h"
 #include "Dimension/CentralAngleTemporaryDimensionContext.h"
 #include "Dimension/LinearTemporaryDimensionContext.h"
 #include "Dimension/RadiusTemporaryDimensionContext.h"

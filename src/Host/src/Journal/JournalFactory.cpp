@@ -1,6 +1,6 @@
 #include "Journal/JournalFactory.h"
 
-#include "Command/CommandParameters.h"
+#include "Journal/CommandParameters.h"
 
 namespace vesk
 {

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Foundation/DebugMessageMgr.h"
 #include "HostUi/HostUiExport.h"
 #include "View/IUiManager.h"
+#include "Warnings/DebugMessageMgr.h"
 
 #include <QMainWindow>
 #include <QMap>

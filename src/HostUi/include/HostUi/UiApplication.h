@@ -2,9 +2,9 @@
 
 #include "Command/ActionManager.h"
 #include "Foundation/IApplication.h"
-#include "Foundation/IDebugWarningScheduler.h"
 #include "HostUi/HostUiExport.h"
 #include "View/IUiManager.h"
+#include "Warnings/IDebugWarningScheduler.h"
 
 #include <QObject>
 #include <QPointer>

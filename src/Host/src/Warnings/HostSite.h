@@ -1,0 +1,10 @@
+#pragma once
+
+#include "Warnings/Check.h"
+
+/// The place of a precondition of the host, for `vesk::Check`. `function` is the qualified name.
+#define VESK_HOST_SITE(function, message)                                                          \
+    ::vesk::CheckSite                                                                              \
+    {                                                                                              \
+        __FILE__, __LINE__, function, message, L"vesk-host", L"2026-11-21"                         \
+    }

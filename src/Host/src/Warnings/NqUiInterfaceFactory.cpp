@@ -1,0 +1,20 @@
+#include "Warnings/NqUiInterfaceFactory.h"
+
+#include "Warnings/WarningDesk.h"
+
+namespace vesk
+{
+
+NqUiInterfaceFactory* NqUiInterfaceFactory::m_pFactory = nullptr;
+
+NqUiInterfaceFactory::NqUiInterfaceFactory() = default;
+
+NqUiInterfaceFactory::~NqUiInterfaceFactory()
+{
+    if (m_pFactory == this)
+        m_pFactory = nullptr;
+    // The displayer came through this factory: its code goes with it.
+    WarningDesk::GetInstance().DropDisplayer();
+}
+
+}

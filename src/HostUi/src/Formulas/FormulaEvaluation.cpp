@@ -1,0 +1,168 @@
+#include "Formulas/FormulaEvaluation.h"
+
+#include "Dimension/LengthUnit.h"
+#include "Formulas/FormulaFunctions.h"
+#include "HostUi/TypedText.h"
+
+#include <boost/multiprecision/cpp_int.hpp>
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+#include <cstdlib>
+#include <limits>
+#include <utility>
+
+namespace vesk
+{
+namespace
+{
+
+using Whole = boost::multiprecision::cpp_int;
+using Exact = boost::multiprecision::cpp_rational;
+using Result = std::optional<Exact>;
+
+/// How many digits of two a numerator or denominator may have: what is typed on purpose stays far
+/// below, and what is not would take its time.
+constexpr unsigned MostBits = 10000;
+
+unsigned CountBits(const Whole& number)
+{
+    return number.is_zero() ? 1 : msb(abs(number)) + 1;
+}
+
+unsigned CountBits(const Exact& value)
+{
+    return std::max(CountBits(numerator(value)), CountBits(denominator(value)));
+}
+
+/// The value, unless it is beyond all doubles or needs too many digits.
+Result Checked(const Exact& value)
+{
+    const auto size = static_cast<int>(CountBits(numerator(value))) -
+                      static_cast<int>(CountBits(denominator(value)));
+    if (CountBits(value) > MostBits || size > std::numeric_limits<double>::max_exponent)
+        return std::nullopt;
+    return value;
+}
+
+double ToDouble(const Exact& value)
+{
+    return value.convert_to<double>();
+}
+
+/// Every finite double is a fraction.
+Result FromDouble(double value)
+{
+    return std::isfinite(value) ? Result(Exact(value)) : std::nullopt;
+}
+
+Exact FromDecimal(const DecimalNumber& number)
+{
+    // Behind a zero the digits would be octal.
+    const std::size_t first = number.digits.find_first_not_of('0');
+    if (first == std::string::npos)
+        return 0;
+    const Whole digits(number.digits.substr(first));
+    const Whole ten = pow(Whole(10), static_cast<unsigned>(std::abs(number.exponent)));
+    return number.exponent < 0 ? Exact(digits, ten) : Exact(digits * ten);
+}
+
+/// How long one of the unit is. No double is 25.4: the shortest number that leads to it was meant.
+Exact MillimetresOf(const LengthUnit& unit)
+{
+    TypedTextFault fault = TypedTextFault::None;
+    return FromDecimal(
+        SplitFormula(ShortestNumber(unit.ToModel(1.0)), fault).value().front().number);
+}
+
+Result Divide(const Exact& dividend, const Exact& divisor)
+{
+    return divisor.is_zero() ? std::nullopt : Result(dividend / divisor);
+}
+
+/// Exact for whole exponents, where that leaves few enough digits.
+Result Power(const Exact& base, const Exact& exponent)
+{
+    const double times = ToDouble(exponent);
+    const bool isWhole = denominator(exponent) == 1;
+    if (!isWhole || std::abs(times) * CountBits(base) > MostBits)
+        return FromDouble(std::pow(ToDouble(base), times));
+    const auto count = static_cast<unsigned>(std::abs(times));
+    const Exact power(pow(numerator(base), count), pow(denominator(base), count));
+    return times < 0.0 ? Divide(1, power) : Result(power);
+}
+
+Result Apply(const FormulaFunction& function, const Exact& argument)
+{
+    if (function.pCompute == nullptr)
+        return Exact(abs(argument));
+    return FromDouble(function.pCompute(ToDouble(argument)));
+}
+
+/// The result of a step that takes two values.
+Result Combine(FormulaStep::Kind operation, const Exact& left, const Exact& right)
+{
+    switch (operation)
+    {
+    case FormulaStep::Kind::Add:
+        return Exact(left + right);
+    case FormulaStep::Kind::Subtract:
+        return Exact(left - right);
+    case FormulaStep::Kind::Multiply:
+        return Exact(left * right);
+    case FormulaStep::Kind::Divide:
+        return Divide(left, right);
+    default:
+        return Power(left, right);
+    }
+}
+
+/// Does a step on the stack.
+Result Take(const FormulaStep& step, std::vector<Exact>& stack)
+{
+    if (step.kind == FormulaStep::Kind::Number)
+        return FromDecimal(step.number);
+    const Exact last = std::move(stack.back());
+    stack.pop_back();
+    if (step.kind == FormulaStep::Kind::Negate)
+        return Exact(-last);
+    if (step.kind == FormulaStep::Kind::Function)
+        return Apply(*step.pFunction, last);
+    const Exact first = std::move(stack.back());
+    stack.pop_back();
+    return Combine(step.kind, first, last);
+}
+
+Result Compute(const std::vector<FormulaStep>& steps)
+{
+    std::vector<Exact> stack;
+    for (const FormulaStep& step : steps)
+    {
+        const Result result = Take(step, stack);
+        const Result checked = result.has_value() ? Checked(*result) : std::nullopt;
+        if (!checked.has_value())
+            return std::nullopt;
+        stack.push_back(*checked);
+    }
+    return stack.back();
+}
+
+}
+std::optional<FormulaValue> Evaluate(const CheckedFormula& formula, Quantity quantity,
+                                     const LengthUnit& unit)
+{
+    const Result value = Compute(formula.steps);
+    if (!value.has_value())
+        return std::nullopt;
+    const Exact scale = quantity == Quantity::Length ? MillimetresOf(unit) : Exact(1);
+    const Result shown = formula.isInMillimetres ? Divide(*value, scale) : value;
+    if (!shown.has_value())
+        return std::nullopt;
+    const Exact model = formula.isInMillimetres ? *value : Exact(*value * scale);
+    const FormulaValue result{ToDouble(*shown), ToDouble(model)};
+    const bool isFinite = std::isfinite(result.shown) && std::isfinite(result.model);
+    return isFinite ? std::optional(result) : std::nullopt;
+}
+
+}

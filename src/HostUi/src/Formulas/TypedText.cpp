@@ -1,0 +1,82 @@
+#include "HostUi/TypedText.h"
+
+#include "Formulas/FormulaEvaluation.h"
+#include "Formulas/FormulaReader.h"
+
+#include <QRegularExpression>
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <system_error>
+
+namespace vesk
+{
+namespace
+{
+
+/// What the handlers read by themselves.
+bool IsPlain(const QString& text)
+{
+    static const QRegularExpression s_pattern(
+        QStringLiteral(R"(\A *[+-]?([0-9]+\.?[0-9]*|\.[0-9]+)([eE][+-]?[0-9]+)? *\z)"));
+    return s_pattern.match(text).hasMatch();
+}
+
+}
+
+TypedReading ReadTypedText(const QString& text, Quantity quantity, const LengthUnit& unit)
+{
+    TypedTextFault fault = TypedTextFault::None;
+    const std::optional<std::vector<FormulaToken>> tokens = SplitFormula(text, fault);
+    if (!tokens.has_value())
+        return {fault};
+    FormulaReader reader(*tokens, quantity);
+    const std::optional<CheckedFormula> formula = reader.Read();
+    if (!formula.has_value())
+        return {reader.GetFault()};
+    const std::optional<FormulaValue> value = Evaluate(*formula, quantity, unit);
+    if (!value.has_value())
+        return {TypedTextFault::NoValue};
+    return {TypedTextFault::None, value->shown, IsPlain(text), value->model};
+}
+
+QString ShortestNumber(double value)
+{
+    constexpr double LeastFixed = 1e-7;
+    constexpr double GreatestFixed = 1e15;
+    const double size = std::abs(value);
+    const bool isFixed = size == 0.0 || (size >= LeastFixed && size < GreatestFixed);
+    std::array<char, 32> digits;
+    const auto format = isFixed ? std::chars_format::fixed : std::chars_format::scientific;
+    const std::to_chars_result result = std::to_chars(digits.begin(), digits.end(), value, format);
+    return QString::fromLatin1(digits.data(), static_cast<int>(result.ptr - digits.data()));
+}
+
+QString DescribeFault(TypedTextFault fault)
+{
+    switch (fault)
+    {
+    case TypedTextFault::None:
+        return {};
+    case TypedTextFault::NotANumber:
+        return QStringLiteral("这不是一个数，也不是算式");
+    case TypedTextFault::UnknownName:
+        return QStringLiteral("含有不认识的名称或单位");
+    case TypedTextFault::AmbiguousComma:
+        return QStringLiteral("逗号有歧义，小数点请用“.”");
+    case TypedTextFault::Ambiguous:
+        return QStringLiteral("有歧义，请加括号");
+    case TypedTextFault::MixedUnits:
+        return QStringLiteral("单位不一致，请给每一项写上单位");
+    case TypedTextFault::WrongQuantity:
+        return QStringLiteral("单位与此处的量不符");
+    case TypedTextFault::AngleUnit:
+        return QStringLiteral("角度请以度为单位，如 30d 或 sin(30d)");
+    case TypedTextFault::NoValue:
+        return QStringLiteral("算不出确定的值");
+    }
+    return {};
+}
+
+}

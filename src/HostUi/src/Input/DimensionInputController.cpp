@@ -1,0 +1,503 @@
+#include "HostUi/DimensionInputController.h"
+
+#include "Command/ActionManager.h"
+#include "Command/IAction.h"
+#include "Command/IActionManager.h"
+#include "Command/TypedValue.h"
+#include "Dimension/ITemporaryDimensionHandler.h"
+#include "Dimension/InputField.h"
+#include "Dimension/LengthUnit.h"
+#include "Dimension/TemporaryDimensionStyle.h"
+#include "HostUi/QtText.h"
+#include "Input/EditorKeyboard.h"
+#include "Input/EditorNotes.h"
+#include "Input/EditorWidth.h"
+#include "Input/EscapeKey.h"
+#include "Input/InputJudge.h"
+#include "Input/KeyCode.h"
+#include "Input/KeyTarget.h"
+#include "Input/LateUnit.h"
+#include "Input/NoteLayout.h"
+#include "Input/TextCollector.h"
+#include "Journal/IJournalUiObject.h"
+#include "View/IUiDocumentViewManager.h"
+#include "View/IUiView.h"
+
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMouseEvent>
+
+namespace vesk
+{
+namespace
+{
+
+constexpr int EditorKind = 3;
+
+TemporaryDimensionMgr& Manager()
+{
+    return *TemporaryDimensionMgr::GetInstance();
+}
+
+QWidget* CurrentViewWidget()
+{
+    const IUiView* pView = UiDocumentViewManager::FindCurrentView();
+    return pView != nullptr ? QWidget::find(pView->GetWindowId()) : nullptr;
+}
+
+/// An Escape that was kept: ends the input or, when there is none, is the action's.
+void TakeEscape()
+{
+    if (Manager().IsInputting())
+        Manager().EndInput();
+    else
+        ActionManager::ProcessEscape(UiDocumentViewManager::FindCurrentView());
+}
+
+/// Why the action cannot use a value of a field; empty when it can.
+QString AskAction(InputState field, double modelValue)
+{
+    IAction* pAction = IActionManager::CurrentAction();
+    return pAction != nullptr ? ToQString(pAction->GetRefusal(field, modelValue)) : QString();
+}
+
+}
+
+/// The time in which a key that was judged is on its way to the handler: it is not judged again.
+class DimensionInputController::Delivery
+{
+public:
+    Delivery(DimensionInputController& controller, const QEvent& event) : m_pController(&controller)
+    {
+        controller.m_pDelivered = &event;
+    }
+
+    ~Delivery()
+    {
+        if (m_pController != nullptr)
+            m_pController->m_pDelivered = nullptr;
+    }
+
+    Delivery(const Delivery&) = delete;
+    Delivery& operator=(const Delivery&) = delete;
+
+private:
+    QPointer<DimensionInputController> m_pController;
+};
+
+DimensionInputController::DimensionInputController()
+    : m_pNotes(std::make_unique<EditorNotes>()), m_pEscape(std::make_unique<EscapeKey>()),
+      m_pLateUnit(std::make_unique<LateUnit>())
+{
+    JournalManager::GetInstance().AddObserver(this);
+    Manager().SetHandlerAccess(this);
+    qApp->installEventFilter(this);
+}
+
+DimensionInputController::~DimensionInputController()
+{
+    Manager().SetHandlerAccess(nullptr);
+    JournalManager::GetInstance().RemoveObserver(this);
+}
+
+bool DimensionInputController::OnViewKey(QKeyEvent& event)
+{
+    if (KeepsForUnit(event))
+        return true;
+    if (ActionManager::IsCommandWaiting())
+    {
+        HoldKey(event);
+        return true;
+    }
+    if (QLineEdit* pEditor = GetActiveEditor())
+    {
+        m_pClicked.clear();
+        QCoreApplication::sendEvent(pEditor, &event);
+        // What the editor leaves would be offered to the window, too.
+        event.accept();
+        return true;
+    }
+    // Left over, it would be offered to the window, which moves the focus.
+    if (event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab)
+        return IActionManager::CurrentAction() != nullptr;
+    if (event.key() != Qt::Key_Escape)
+        return OpenInput(event);
+    if (!m_pEscape->Press(event))
+        return true;
+    if (IActionManager::CurrentAction() == nullptr)
+        return false;
+    ActionManager::ProcessEscape(UiDocumentViewManager::FindCurrentView());
+    return true;
+}
+
+bool DimensionInputController::Commit()
+{
+    QLineEdit* pEditor = GetActiveEditor();
+    if (pEditor == nullptr)
+        return true;
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    QCoreApplication::sendEvent(pEditor, &press);
+    return GetActiveEditor() == nullptr;
+}
+
+QLineEdit* DimensionInputController::GetActiveEditor() const
+{
+    return Manager().IsInputting() ? qobject_cast<QLineEdit*>(m_pEditor) : nullptr;
+}
+
+QString DimensionInputController::GetMessage() const
+{
+    return GetActiveEditor() != nullptr ? m_refusal : QString();
+}
+
+std::optional<double> DimensionInputController::GetValue() const
+{
+    const QLineEdit* pEditor = GetActiveEditor();
+    if (pEditor == nullptr)
+        return std::nullopt;
+    const TypedReading reading = ReadTypedText(pEditor->text(), Manager().GetInputField().quantity,
+                                               LengthUnit::GetCurrent());
+    const bool isRead = reading.isPlain || !Manager().IsRawTextInput();
+    return reading.fault == TypedTextFault::None && isRead ? std::optional(reading.value)
+                                                           : std::nullopt;
+}
+
+void DimensionInputController::SetKeyStripShown(bool isShown)
+{
+    m_isKeyStripShown = isShown;
+    UpdateNotes();
+}
+
+void DimensionInputController::OnUiObject(const IJournalUiObject& object, int kind)
+{
+    QObject* const* ppObject = std::any_cast<QObject*>(&object.GetUiObject());
+    if (kind != EditorKind || ppObject == nullptr)
+        return;
+    auto* pEditor = qobject_cast<QLineEdit*>(*ppObject);
+    if (pEditor == nullptr || pEditor == m_pEditor)
+        return;
+    // An input method would keep letters to itself, and no value is written with one.
+    pEditor->setAttribute(Qt::WA_InputMethodEnabled, false);
+    m_pEditor = pEditor;
+    new EditorKeyboard(*pEditor);
+    connect(pEditor, &QLineEdit::textEdited, this, &DimensionInputController::OnTextEdited);
+    connect(pEditor, &QLineEdit::textChanged, this, &DimensionInputController::OnTextChanged);
+}
+
+void DimensionInputController::ResetEditorPosition(ITemporaryDimensionHandler& handler)
+{
+    if (auto* pObject = dynamic_cast<QObject*>(&handler))
+        QMetaObject::invokeMethod(pObject, "ResetEditorPosition");
+    FitEditor();
+    UpdateNotes();
+}
+
+InputState DimensionInputController::GetInputState(ITemporaryDimensionHandler& handler)
+{
+    const auto* pObject = dynamic_cast<QObject*>(&handler);
+    return pObject != nullptr ? static_cast<InputState>(pObject->property("inputState").toInt())
+                              : InputState::IS_None;
+}
+
+bool DimensionInputController::IsRawTextInput(ITemporaryDimensionHandler& handler)
+{
+    const auto* pObject = dynamic_cast<QObject*>(&handler);
+    return pObject != nullptr && pObject->property("rawTextInput").toBool();
+}
+
+bool DimensionInputController::eventFilter(QObject* pWatched, QEvent* pEvent)
+{
+    if (pEvent->type() == QEvent::KeyRelease)
+        m_pEscape->Release(static_cast<QKeyEvent&>(*pEvent));
+    NoteCursor(pWatched, *pEvent);
+    NoteClick(pWatched, *pEvent);
+    NoteOtherKey(*pEvent);
+    return pWatched == m_pEditor && pWatched != nullptr && FilterEditorEvent(*pEvent);
+}
+
+void DimensionInputController::NoteCursor(const QObject* pWatched, const QEvent& event)
+{
+    const bool isMouse =
+        event.type() == QEvent::MouseMove || event.type() == QEvent::MouseButtonPress;
+    if ((!isMouse && event.type() != QEvent::Leave) || pWatched != CurrentViewWidget())
+        return;
+    m_cursor.reset();
+    if (isMouse)
+        m_cursor = static_cast<const QMouseEvent&>(event).pos();
+}
+
+/// Any click decides about letters that may become a unit, before it is heard of.
+void DimensionInputController::NoteClick(QObject* pWatched, const QEvent& event)
+{
+    if (event.type() != QEvent::MouseButtonPress && event.type() != QEvent::MouseButtonDblClick)
+        return;
+    if (const auto* pWidget = qobject_cast<QWidget*>(pWatched))
+        m_pClicked = pWidget->window();
+    EndLateUnit();
+}
+
+/// So does a key that is somebody's shortcut: the view does not hear of it.
+void DimensionInputController::NoteOtherKey(const QEvent& event)
+{
+    if (event.type() != QEvent::ShortcutOverride)
+        return;
+    const auto& key = static_cast<const QKeyEvent&>(event);
+    if (!IsModifierKey(key) && !m_pLateUnit->CanTake(key))
+        EndLateUnit();
+}
+
+bool DimensionInputController::FilterEditorEvent(QEvent& event)
+{
+    switch (event.type())
+    {
+    case QEvent::KeyPress:
+        return FilterEditorKey(static_cast<QKeyEvent&>(event));
+    case QEvent::ShortcutOverride:
+    case QEvent::KeyRelease:
+        return (GetActiveEditor() == nullptr || FindOtherField() != nullptr) && PassOn(event);
+    case QEvent::Close:
+        // Hidden by itself, it would go on taking keys unseen.
+        event.ignore();
+        Manager().EndInput();
+        return true;
+    case QEvent::Hide:
+        OnEditorHidden();
+        return false;
+    case QEvent::Move:
+    case QEvent::Resize:
+    case QEvent::Show:
+        UpdateNotes();
+        return false;
+    default:
+        return false;
+    }
+}
+
+void DimensionInputController::OnEditorHidden()
+{
+    m_refusal.clear();
+    m_pNotes->Hide();
+    if (!Manager().IsInputting())
+        Manager().SetEditorWidth(0);
+    m_pClicked.clear();
+    // Without a window manager nobody else gives the keyboard back.
+    IUiView* pView = UiDocumentViewManager::FindCurrentView();
+    if (pView != nullptr && QGuiApplication::applicationState() == Qt::ApplicationActive)
+        pView->Activate();
+}
+
+/// True when the key goes no further.
+bool DimensionInputController::FilterEditorKey(QKeyEvent& event)
+{
+    if (&event == m_pDelivered)
+        return false;
+    QLineEdit* pEditor = GetActiveEditor();
+    if (pEditor == nullptr || FindOtherField() != nullptr)
+        return PassOn(event);
+    m_pLateUnit->End();
+    if (ActionManager::IsCommandWaiting())
+    {
+        HoldKey(event);
+        return true;
+    }
+    if (event.key() == Qt::Key_Escape)
+        return !m_pEscape->Press(event);
+    const InputField field = Manager().GetInputField();
+    if (event.key() == Qt::Key_Backtab && TakesValue(field, Qt::Key_Tab))
+    {
+        // There are two fields: back is on.
+        QKeyEvent tab(event.type(), Qt::Key_Tab, Qt::NoModifier, event.text());
+        QCoreApplication::sendEvent(pEditor, &tab);
+        return true;
+    }
+    if (!TakesValue(field, event.key()))
+        return false;
+    TakeValue(*pEditor, event, field);
+    return true;
+}
+
+/// Judges what stands in the editor and, where it can be taken, lets the handler take it.
+void DimensionInputController::TakeValue(QLineEdit& editor, QKeyEvent& event,
+                                         const InputField& field)
+{
+    const bool isJudged = !Manager().IsRawTextInput();
+    const bool isSpace = event.key() == Qt::Key_Space;
+    if (isJudged && isSpace && !IsTakenWithSpace(editor.text(), field, LengthUnit::GetCurrent()))
+    {
+        editor.insert(QStringLiteral(" "));
+        return;
+    }
+    EditorText typed{ToWide(editor.text()), !m_isTextTyped, std::nullopt};
+    if (isJudged)
+    {
+        typed.modelValue = Accept(editor, field);
+        if (!typed.modelValue.has_value())
+            return;
+    }
+    m_isTextTyped = m_isTextTyped && event.key() != Qt::Key_Tab;
+    if (isJudged && isSpace)
+        m_pLateUnit->Begin();
+    const EditorTextScope text(typed);
+    const Delivery delivery(*this, event);
+    QCoreApplication::sendEvent(&editor, &event);
+}
+
+/// The field in which the user goes on typing instead of the editor; null when there is none.
+QWidget* DimensionInputController::FindOtherField() const
+{
+    const QWidget* pView = CurrentViewWidget();
+    if (pView == nullptr)
+        return nullptr;
+    return FindTextField(m_pClicked != nullptr ? *m_pClicked : *pView->window(), m_pEditor);
+}
+
+/// Passes on a key that arrived in the editor and is not for it: the window system gives the
+/// keyboard away late.
+bool DimensionInputController::PassOn(QEvent& event)
+{
+    QWidget* pField = FindOtherField();
+    QWidget* pWidget = pField != nullptr ? pField : CurrentViewWidget();
+    if (pWidget != nullptr)
+        SendKeyTo(*pWidget, event);
+    return true;
+}
+
+/// True for a key that may be part of a unit typed after a blank that took the value. Any other,
+/// unless it only modifies one, is not judged before those that were kept for a unit.
+bool DimensionInputController::KeepsForUnit(const QKeyEvent& event)
+{
+    if (!m_pLateUnit->IsAwaited() || IsModifierKey(event))
+        return false;
+    if (!m_pLateUnit->CanTake(event))
+    {
+        EndLateUnit();
+        return false;
+    }
+    IUiView* pView = UiDocumentViewManager::FindCurrentView();
+    if (m_pLateUnit->Take(event) && pView != nullptr)
+        pView->SetViewText(ToWide(DescribeLateUnit(m_pLateUnit->GetText())));
+    return true;
+}
+
+/// Hands on what was kept for a unit and is none.
+void DimensionInputController::EndLateUnit()
+{
+    for (QKeyEvent& key : m_pLateUnit->End())
+        OnViewKey(key);
+}
+
+/// Puts a number in the place of what comes to one, and gives the value that is meant, in model
+/// units. What is refused, by the action too, stays, selected; there is no value then.
+std::optional<double> DimensionInputController::Accept(QLineEdit& editor, const InputField& field)
+{
+    const InputVerdict verdict = JudgeInput(editor.text(), field, LengthUnit::GetCurrent());
+    m_refusal = verdict.refusal;
+    if (verdict.modelValue.has_value())
+        m_refusal = AskAction(field.state, *verdict.modelValue);
+    if (!m_refusal.isEmpty())
+        editor.selectAll();
+    else if (verdict.replacement.has_value())
+        editor.setText(*verdict.replacement);
+    UpdateNotes();
+    return m_refusal.isEmpty() ? verdict.modelValue : std::nullopt;
+}
+
+/// Keeps a key that is meant for a command which has not begun yet.
+void DimensionInputController::HoldKey(QKeyEvent& event)
+{
+    event.accept();
+    if (event.key() == Qt::Key_Escape)
+    {
+        // Judged now: its release will not wait.
+        if (m_pEscape->Press(event))
+            ActionManager::HoldInput(&TakeEscape);
+        return;
+    }
+    const QPointer<DimensionInputController> pSelf(this);
+    const QKeyEvent kept(event.type(), event.key(), event.modifiers(), event.text(),
+                         event.isAutoRepeat(), static_cast<ushort>(event.count()));
+    ActionManager::HoldInput([pSelf, kept] {
+        QKeyEvent again(kept);
+        if (pSelf != nullptr)
+            pSelf->OnViewKey(again);
+    });
+}
+
+/// False for a key that can open no input.
+bool DimensionInputController::OpenInput(const QKeyEvent& event)
+{
+    const int virtualKey = ToVirtualKey(event);
+    const Qt::KeyboardModifiers modifiers = event.modifiers();
+    if (virtualKey != 0)
+        Manager().OnKeyDown(virtualKey, false, modifiers & Qt::AltModifier,
+                            modifiers & Qt::ShiftModifier);
+    m_isTextTyped = virtualKey != VirtualComma || !Manager().IsInputting();
+    if (!CanBeginValue(event))
+        return virtualKey != 0;
+    if (Manager().IsInputting())
+        return true;
+    // Opened as by a digit, in whose place the character is put.
+    Manager().OnKeyDown('0', false, false, false);
+    if (QLineEdit* pEditor = GetActiveEditor())
+        pEditor->setText(event.text());
+    return true;
+}
+
+void DimensionInputController::OnTextChanged()
+{
+    FitEditor();
+    UpdateNotes();
+}
+
+void DimensionInputController::OnTextEdited()
+{
+    m_isTextTyped = true;
+    m_refusal.clear();
+    const QLineEdit* pEditor = GetActiveEditor();
+    const InputState field = Manager().GetInputState();
+    if (pEditor != nullptr && pEditor->text().isEmpty() && Manager().IsLocked(field))
+        ActionManager::FreeValue(UiDocumentViewManager::FindCurrentView(), field);
+    UpdateNotes();
+}
+
+/// Makes the editor as wide as its text needs. The generators must know: they place it.
+void DimensionInputController::FitEditor()
+{
+    QLineEdit* pEditor = GetActiveEditor();
+    const QWidget* pView = CurrentViewWidget();
+    if (pEditor == nullptr || pView == nullptr)
+        return;
+    const int width = FindEditorWidth(*pEditor, *pView);
+    if (width == Manager().GetEditorWidth())
+        return;
+    Manager().SetEditorWidth(width);
+    pEditor->setFixedWidth(TemporaryDimensionStyle().GetEditorWidth());
+    ActionManager::RefreshViewInput(UiDocumentViewManager::FindCurrentView());
+}
+
+void DimensionInputController::UpdateNotes()
+{
+    const QLineEdit* pEditor = GetActiveEditor();
+    QWidget* pView = CurrentViewWidget();
+    if (pEditor == nullptr || pView == nullptr || !pEditor->isVisible())
+    {
+        m_pNotes->Hide();
+        return;
+    }
+    const InputField field = Manager().GetInputField();
+    NoteTexts texts;
+    texts.refusal = m_refusal;
+    if (!Manager().IsRawTextInput())
+        texts.value = DescribeValue(pEditor->text(), field.quantity, LengthUnit::GetCurrent());
+    if (m_isKeyStripShown)
+        texts.keys =
+            DescribeKeys(field, IsTakenWithSpace(pEditor->text(), field, LengthUnit::GetCurrent()));
+    const QPoint corner = pView->mapFromGlobal(pEditor->mapToGlobal(QPoint(0, 0)));
+    m_pNotes->Show(*pView,
+                   {pView->size(), QRect(corner, pEditor->size()), m_cursor,
+                    FindDimensionTexts(*UiDocumentViewManager::FindCurrentView(), *pView)},
+                   texts);
+}
+
+}

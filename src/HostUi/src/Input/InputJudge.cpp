@@ -1,0 +1,83 @@
+#include "Input/InputJudge.h"
+
+#include "Dimension/LengthUnit.h"
+#include "Dimension/TemporaryDimensionStyle.h"
+#include "HostUi/QtText.h"
+
+#include <QRegularExpression>
+#include <QStringList>
+
+namespace vesk
+{
+namespace
+{
+
+QString DescribeRange(const Intervald& range)
+{
+    return QStringLiteral("请输入 %1 到 %2 之间的数")
+        .arg(QString::number(range.GetMin(), 'g', 12), QString::number(range.GetMax(), 'g', 12));
+}
+
+/// As dimensions show it, without zeros at the end; with some digits where none would be left.
+QString Round(double value, Quantity quantity)
+{
+    constexpr int FewDigits = 3;
+    const TemporaryDimensionStyle style;
+    const QString text = ToQString(quantity == Quantity::Length ? style.FormatLength(value)
+                                                                : style.FormatAngle(value));
+    if (text.toDouble() == 0.0 && value != 0.0)
+        return QString::number(value, 'g', FewDigits);
+    static const QRegularExpression s_lastZeros(QStringLiteral("\\.?0*$"));
+    return QString(text).remove(s_lastZeros);
+}
+
+}
+
+InputVerdict JudgeInput(const QString& text, const InputField& field, const LengthUnit& unit)
+{
+    const TypedReading reading = ReadTypedText(text, field.quantity, unit);
+    if (reading.fault != TypedTextFault::None)
+        return {DescribeFault(reading.fault), std::nullopt, std::nullopt};
+    if (!field.range.Contains(reading.value))
+        return {DescribeRange(field.range), std::nullopt, std::nullopt};
+    if (reading.isPlain)
+        return {{}, std::nullopt, reading.modelValue};
+    return {{}, ShortestNumber(reading.value), reading.modelValue};
+}
+
+QString DescribeValue(const QString& text, Quantity quantity, const LengthUnit& unit)
+{
+    const TypedReading reading = ReadTypedText(text, quantity, unit);
+    if (reading.fault != TypedTextFault::None || reading.isPlain)
+        return {};
+    const QString symbol = quantity == Quantity::Length
+                               ? QLatin1Char(' ') + ToQString(unit.GetSymbol())
+                               : QString(QChar(0xb0));
+    return QStringLiteral("= ") + Round(reading.value, quantity) + symbol;
+}
+
+bool IsTakenWithSpace(const QString& text, const InputField& field, const LengthUnit& unit)
+{
+    return field.takesWithSpace && ReadTypedText(text, field.quantity, unit).isPlain;
+}
+
+QString DescribeLateUnit(const QString& unit)
+{
+    return QStringLiteral("空格已经确定了数值，其后的“%1”没有采用；撤销（Ctrl+Z）一次即可取回")
+        .arg(unit);
+}
+
+QString DescribeKeys(const InputField& field, bool isTakenWithSpace)
+{
+    const QString pattern = QStringLiteral("<b>%1</b>&nbsp;%2");
+    QStringList keys;
+    if (field.next != InputState::IS_None)
+        keys << pattern.arg(QStringLiteral("Tab"), ToQString(CaptionOf(field.next)));
+    const QString taking =
+        isTakenWithSpace ? QStringLiteral("Enter</b>/<b>空格") : QStringLiteral("Enter");
+    keys << pattern.arg(taking, QStringLiteral("确定"))
+         << pattern.arg(QStringLiteral("Esc"), QStringLiteral("取消"));
+    return keys.join(QStringLiteral(" · "));
+}
+
+}

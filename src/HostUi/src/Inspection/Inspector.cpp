@@ -1,0 +1,255 @@
+#include "HostUi/Inspector.h"
+
+#include "Command/ActionManager.h"
+#include "Command/IAction.h"
+#include "Command/IActionManager.h"
+#include "Control/IControlDefinition.h"
+#include "Control/IControlDefinitionChangeEvent.h"
+#include "Dimension/InputField.h"
+#include "Dimension/TemporaryDimensionMgr.h"
+#include "HostUi/DimensionInputController.h"
+#include "HostUi/QtText.h"
+#include "Inspection/DefinitionText.h"
+
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QScrollBar>
+#include <QSplitter>
+#include <QTime>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <chrono>
+
+namespace vesk
+{
+namespace
+{
+
+constexpr std::chrono::milliseconds RefreshInterval{200};
+constexpr int MostEvents = 1000;
+
+QString TypeText(int type)
+{
+    switch (type)
+    {
+    case ControlDefinitionChangeEventType::Add:
+        return QStringLiteral("添加");
+    case ControlDefinitionChangeEventType::Insert:
+        return QStringLiteral("插入");
+    case ControlDefinitionChangeEventType::Delete:
+        return QStringLiteral("删除");
+    case ControlDefinitionChangeEventType::Clear:
+        return QStringLiteral("清空");
+    case ControlDefinitionChangeEventType::PropertyChanged:
+        return QStringLiteral("属性");
+    default:
+        return QString::number(type);
+    }
+}
+
+QString InputText(const DimensionInputController& input)
+{
+    const TemporaryDimensionMgr& manager = *TemporaryDimensionMgr::GetInstance();
+    if (!manager.HasHandler())
+        return QStringLiteral("无");
+    QStringList parts;
+    if (const QLineEdit* pEditor = input.GetActiveEditor())
+        parts << QStringLiteral("%1 “%2”").arg(ToQString(CaptionOf(manager.GetInputState())),
+                                               pEditor->text());
+    else
+        parts << QStringLiteral("等待键入");
+    if (manager.IsRawTextInput())
+        parts << QStringLiteral("原文");
+    for (const InputState field : manager.GetLocked())
+        parts << QStringLiteral("已锁定 ") + ToQString(CaptionOf(field));
+    return parts.join(QStringLiteral("，"));
+}
+
+/// Changes a text only where it differs: what is selected stays so.
+void SetCell(QTreeWidgetItem& item, int column, const QString& text)
+{
+    if (item.text(column) != text)
+        item.setText(column, text);
+}
+
+}
+
+/// Tells the inspector of the changes of one definition.
+class Inspector::Watch final : public IControlDefinitionChangeEventHandler
+{
+public:
+    Watch(Inspector& inspector, std::wstring id, IControlDefinitionChangeEvent& event)
+        : m_inspector(inspector), m_id(std::move(id)), m_event(event)
+    {
+        m_event.Add(this);
+    }
+
+    ~Watch() override { m_event.Delete(this); }
+
+    void On(IControlDefinitionChangeEventArgs* pArgs) override
+    {
+        if (pArgs != nullptr)
+            m_inspector.AddEvent(m_id, *pArgs);
+    }
+
+private:
+    Inspector& m_inspector;
+    std::wstring m_id;
+    IControlDefinitionChangeEvent& m_event;
+};
+
+Inspector::Inspector(ControlHost& controls, const DimensionInputController& input)
+    : m_pControls(&controls), m_pInput(&input), m_pState(new QLabel),
+      m_pDefinitions(new QTreeWidget), m_pEvents(new QListWidget)
+{
+    m_pState->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_pState->setMargin(4);
+    m_pDefinitions->setObjectName(QStringLiteral("InspectorDefinitions"));
+    m_pDefinitions->setRootIsDecorated(false);
+    m_pDefinitions->setUniformRowHeights(true);
+    m_pDefinitions->setFrameShape(QFrame::NoFrame);
+    m_pDefinitions->setHeaderLabels({QStringLiteral("定义"), QStringLiteral("种类"),
+                                     QStringLiteral("值"), QStringLiteral("可见"),
+                                     QStringLiteral("可用")});
+    m_pEvents->setObjectName(QStringLiteral("InspectorEvents"));
+    m_pEvents->setUniformItemSizes(true);
+    m_pEvents->setFrameShape(QFrame::NoFrame);
+
+    auto* pSplitter = new QSplitter;
+    pSplitter->addWidget(m_pDefinitions);
+    pSplitter->addWidget(m_pEvents);
+    auto* pLayout = new QVBoxLayout(this);
+    pLayout->setContentsMargins(0, 0, 0, 0);
+    pLayout->setSpacing(0);
+    pLayout->addWidget(m_pState);
+    pLayout->addWidget(pSplitter, 1);
+
+    m_refresh.setInterval(RefreshInterval);
+    connect(&m_refresh, &QTimer::timeout, this, &Inspector::UpdateStatus);
+    controls.SetRemovalObserver(this);
+    Listen();
+}
+
+Inspector::~Inspector()
+{
+    Stop();
+}
+
+void Inspector::UpdateStatus()
+{
+    if (m_pControls == nullptr)
+        return;
+    Listen();
+    ShowState();
+    ShowDefinitions();
+    ShowEvents();
+}
+
+/// Its event may not outlive it, and the next definition may stand in the same place.
+void Inspector::OnControlRemoved(const IControlDefinition& definition)
+{
+    m_watches.erase(&definition);
+}
+
+void Inspector::Stop()
+{
+    m_refresh.stop();
+    m_watches.clear();
+    if (m_pControls != nullptr)
+        m_pControls->SetRemovalObserver(nullptr);
+    m_pControls = nullptr;
+}
+
+void Inspector::showEvent(QShowEvent* pEvent)
+{
+    QWidget::showEvent(pEvent);
+    UpdateStatus();
+    if (m_pControls != nullptr)
+        m_refresh.start();
+}
+
+void Inspector::hideEvent(QHideEvent* pEvent)
+{
+    m_refresh.stop();
+    QWidget::hideEvent(pEvent);
+}
+
+/// Listens to definitions that are new.
+void Inspector::Listen()
+{
+    for (const IControlDefinition* pDefinition : m_pControls->GetDefinitions())
+    {
+        const auto* pSource = dynamic_cast<const IControlDefinitionChangeEventSource*>(pDefinition);
+        IControlDefinitionChangeEvent* pEvent =
+            pSource != nullptr ? pSource->GetControlDefinitionChangeEvent() : nullptr;
+        std::unique_ptr<Watch>& pWatch = m_watches[pDefinition];
+        if (pWatch == nullptr && pEvent != nullptr)
+            pWatch = std::make_unique<Watch>(*this, pDefinition->GetId(), *pEvent);
+    }
+}
+
+void Inspector::AddEvent(const std::wstring& id, const IControlDefinitionChangeEventArgs& args)
+{
+    QString text = QTime::currentTime().toString(QStringLiteral("HH:mm:ss.zzz  ")) + ToQString(id) +
+                   QLatin1String("  ") + TypeText(args.GetType());
+    if (args.GetIndex() >= 0)
+        text += QStringLiteral(" [%1]").arg(args.GetIndex());
+    text += args.IsChangeByUser() ? QStringLiteral("  用户") : QStringLiteral("  程序");
+    m_newEvents.append(text);
+    if (m_newEvents.size() > MostEvents)
+        m_newEvents.removeFirst();
+}
+
+/// Goes along with the newest event, unless its reader has scrolled back.
+void Inspector::ShowEvents()
+{
+    if (m_newEvents.isEmpty())
+        return;
+    const QScrollBar* pBar = m_pEvents->verticalScrollBar();
+    const bool isAtEnd = pBar->value() == pBar->maximum();
+    for (int surplus = m_pEvents->count() + m_newEvents.size() - MostEvents; surplus > 0; --surplus)
+        delete m_pEvents->takeItem(0);
+    m_pEvents->addItems(m_newEvents);
+    m_newEvents.clear();
+    if (isAtEnd)
+        m_pEvents->scrollToBottom();
+}
+
+void Inspector::ShowState()
+{
+    const IAction* pAction = IActionManager::CurrentAction();
+    const QString action = pAction != nullptr
+                               ? QStringLiteral("%1（%2）")
+                                     .arg(ToQString(ActionManager::GetRunningCommandId()),
+                                          ToQString(pAction->GetViewText()))
+                               : QStringLiteral("无");
+    m_pState->setText(QStringLiteral("动作：%1\n尺寸输入：%2").arg(action, InputText(*m_pInput)));
+}
+
+void Inspector::ShowDefinitions()
+{
+    const std::vector<IControlDefinition*> definitions = m_pControls->GetDefinitions();
+    while (m_pDefinitions->topLevelItemCount() > static_cast<int>(definitions.size()))
+        delete m_pDefinitions->takeTopLevelItem(m_pDefinitions->topLevelItemCount() - 1);
+    while (m_pDefinitions->topLevelItemCount() < static_cast<int>(definitions.size()))
+        m_pDefinitions->addTopLevelItem(new QTreeWidgetItem);
+
+    const auto yesOrNo = [](bool is) { return is ? QStringLiteral("是") : QStringLiteral("否"); };
+    int row = 0;
+    for (const IControlDefinition* pDefinition : definitions)
+    {
+        QTreeWidgetItem& item = *m_pDefinitions->topLevelItem(row++);
+        const DefinitionText text = DescribeDefinition(*pDefinition);
+        SetCell(item, 0, ToQString(pDefinition->GetId()));
+        SetCell(item, 1, text.kind);
+        SetCell(item, 2, text.value);
+        SetCell(item, 3, yesOrNo(pDefinition->IsVisible()));
+        SetCell(item, 4, yesOrNo(pDefinition->IsEnabled()));
+    }
+}
+
+}

@@ -1,0 +1,271 @@
+#include "HostUi/DrawingView.h"
+
+#include "Command/ActionManager.h"
+#include "Command/IAction.h"
+#include "Command/IActionManager.h"
+#include "Dimension/TemporaryDimensionMgr.h"
+#include "HostUi/DimensionInputController.h"
+#include "HostUi/QtText.h"
+#include "View/ProvisionalPainter.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+#include <cmath>
+
+namespace vesk
+{
+
+DrawingView::DrawingView(std::uint32_t id, DimensionInputController& input, QWidget* pParent)
+    : QWidget(pParent), m_id(id), m_input(input)
+{
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    setCursor(Qt::CrossCursor);
+    setMinimumSize(300, 200);
+    // The host names views by their native window.
+    winId();
+}
+
+DrawingView::~DrawingView() = default;
+
+std::uint32_t DrawingView::GetId() const
+{
+    return m_id;
+}
+
+WindowId DrawingView::GetWindowId() const
+{
+    return internalWinId();
+}
+
+IModelView* DrawingView::GetModelView() const
+{
+    return &m_camera;
+}
+
+void DrawingView::SetViewText(const std::wstring& text)
+{
+    const QString viewText = ToQString(text);
+    if (viewText == m_viewText)
+        return;
+    m_viewText = viewText;
+    emit viewTextChanged(m_viewText);
+}
+
+void DrawingView::Activate()
+{
+    if (!isVisible())
+        return;
+    window()->activateWindow();
+    setFocus(Qt::OtherFocusReason);
+}
+
+void DrawingView::Redraw()
+{
+    update();
+}
+
+void DrawingView::Fit(const Vector3d& corner, const Vector3d& oppositeCorner)
+{
+    m_camera.Fit(corner, oppositeCorner);
+    OnCameraChanged();
+}
+
+void DrawingView::Magnify(double factor)
+{
+    m_camera.ZoomAbout(width() / 2.0, height() / 2.0, factor);
+    OnCameraChanged();
+}
+
+void DrawingView::SetPixelsPerUnit(double devicePixels)
+{
+    m_camera.SetWorldPerPixel(devicePixelRatioF() / devicePixels);
+    OnCameraChanged();
+}
+
+void DrawingView::TellCursor()
+{
+    if (!m_cursor.has_value())
+        return;
+    const Vector3d world = m_camera.ScreenToWorld(m_cursor->x(), m_cursor->y());
+    emit cursorMoved(world.x(), world.y());
+}
+
+QPointF DrawingView::ToPixel(const Vector3d& world) const
+{
+    double x = 0.0;
+    double y = 0.0;
+    double depth = 0.0;
+    m_camera.WorldToScreen(world, x, y, depth);
+    return {x, y};
+}
+
+void DrawingView::UpdateModel()
+{
+    m_modelPicture = {};
+    update();
+}
+
+void DrawingView::changeEvent(QEvent* pEvent)
+{
+    if (pEvent->type() == QEvent::PaletteChange)
+        UpdateModel();
+    QWidget::changeEvent(pEvent);
+}
+
+bool DrawingView::eventFilter(QObject* pWatched, QEvent* pEvent)
+{
+    // The editor floats in a window of its own: it must follow when the view's window moves.
+    if (pWatched == m_pWatchedWindow && pEvent->type() == QEvent::Move)
+        OnCameraChanged();
+    return QWidget::eventFilter(pWatched, pEvent);
+}
+
+bool DrawingView::focusNextPrevChild(bool isNext)
+{
+    // While something is drawn, Tab belongs to the dimensions.
+    return IActionManager::CurrentAction() == nullptr && QWidget::focusNextPrevChild(isNext);
+}
+
+void DrawingView::keyPressEvent(QKeyEvent* pEvent)
+{
+    if (m_input.OnViewKey(*pEvent))
+        return;
+    if (pEvent->key() == Qt::Key_Escape)
+        OnFreeEscape();
+    else
+        QWidget::keyPressEvent(pEvent);
+}
+
+void DrawingView::leaveEvent(QEvent* pEvent)
+{
+    m_cursor.reset();
+    emit cursorLeft();
+    QWidget::leaveEvent(pEvent);
+}
+
+void DrawingView::mouseMoveEvent(QMouseEvent* pEvent)
+{
+    m_cursor = pEvent->localPos();
+    if (m_drag == Drag::Pan)
+    {
+        const QPointF moved = pEvent->localPos() - m_dragPosition;
+        m_dragPosition = pEvent->localPos();
+        m_camera.Pan(moved.x(), moved.y());
+        OnCameraChanged();
+        return;
+    }
+    TellCursor();
+    ActionManager::ProcessMouseMove(
+        this, m_camera.ScreenToWorld(pEvent->localPos().x(), pEvent->localPos().y()));
+}
+
+void DrawingView::mousePressEvent(QMouseEvent* pEvent)
+{
+    if (pEvent->button() == Qt::MiddleButton)
+    {
+        m_drag = Drag::Pan;
+        m_dragPosition = pEvent->localPos();
+        setCursor(Qt::ClosedHandCursor);
+    }
+    if (pEvent->button() == Qt::LeftButton)
+        OnClick(*pEvent);
+}
+
+void DrawingView::mouseReleaseEvent(QMouseEvent* pEvent)
+{
+    if (pEvent->button() != Qt::MiddleButton)
+        return;
+    m_drag = Drag::None;
+    setCursor(Qt::CrossCursor);
+}
+
+void DrawingView::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.drawPixmap(0, 0, GetModelPicture());
+
+    ProvisionalPainter provisional(painter, m_camera, palette());
+    if (const IAction* pAction = IActionManager::CurrentAction())
+    {
+        if (const OwnerPtr<IGraphicsNodeGroup> opRubberBand = pAction->CreateRubberBand())
+            opRubberBand->Accept(provisional);
+    }
+    if (const IGraphicsNodeGroup* pDimensions = TemporaryDimensionMgr::GetInstance()->GetGraphics())
+        pDimensions->Accept(provisional);
+    PaintOverlay(painter);
+}
+
+void DrawingView::resizeEvent(QResizeEvent*)
+{
+    m_camera.SetSize(width(), height());
+    OnCameraChanged();
+}
+
+void DrawingView::showEvent(QShowEvent* pEvent)
+{
+    if (!m_hasScale)
+    {
+        // One unit is one device pixel at first, on every screen.
+        m_hasScale = true;
+        m_camera.SetWorldPerPixel(devicePixelRatioF());
+    }
+    if (m_pWatchedWindow != window())
+    {
+        m_pWatchedWindow = window();
+        m_pWatchedWindow->installEventFilter(this);
+    }
+    QWidget::showEvent(pEvent);
+}
+
+void DrawingView::wheelEvent(QWheelEvent* pEvent)
+{
+    constexpr double StepsPerDoubling = 480.0;
+    const double factor = std::pow(2.0, pEvent->angleDelta().y() / StepsPerDoubling);
+    m_cursor = pEvent->position();
+    m_camera.ZoomAbout(pEvent->position().x(), pEvent->position().y(), factor);
+    OnCameraChanged();
+    pEvent->accept();
+}
+
+void DrawingView::OnCameraChanged()
+{
+    ActionManager::RenewViewInput(this);
+    UpdateModel();
+    TellCursor();
+}
+
+const QPixmap& DrawingView::GetModelPicture()
+{
+    const double ratio = devicePixelRatioF();
+    if (!m_modelPicture.isNull() && m_modelPicture.devicePixelRatioF() == ratio)
+        return m_modelPicture;
+    m_modelPicture = QPixmap(size() * ratio);
+    m_modelPicture.setDevicePixelRatio(ratio);
+    m_modelPicture.fill(palette().color(QPalette::Base));
+    QPainter painter(&m_modelPicture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    PaintModel(painter);
+    return m_modelPicture;
+}
+
+/// A click takes the value being typed, in the direction of the click; a refused one keeps it. Not
+/// where a command waits for its turn: then the value goes with its action.
+void DrawingView::OnClick(const QMouseEvent& event)
+{
+    setFocus(Qt::MouseFocusReason);
+    const Vector3d world = m_camera.ScreenToWorld(event.localPos().x(), event.localPos().y());
+    if (m_input.GetActiveEditor() != nullptr && !ActionManager::IsCommandWaiting())
+    {
+        ActionManager::ProcessMouseMove(this, world);
+        m_input.Commit();
+    }
+    else if (IActionManager::CurrentAction() != nullptr)
+        ActionManager::ProcessClick(this, world);
+    else
+        OnFreeClick(world, event.modifiers());
+}
+
+}

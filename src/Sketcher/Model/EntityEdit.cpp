@@ -1,0 +1,113 @@
+#include "Model/EntityEdit.h"
+
+#include "Model/ShapeProperty.h"
+#include "Model/Sketch.h"
+
+#include <algorithm>
+#include <cmath>
+#include <sstream>
+#include <utility>
+
+using namespace vesk;
+
+namespace
+{
+
+constexpr wchar_t EntitiesName[] = L"entities";
+constexpr wchar_t PropertyName[] = L"property";
+constexpr wchar_t ValueName[] = L"value";
+
+template <class Value>
+const Value* Find(const CommandParameters& parameters, const wchar_t* name)
+{
+    const CommandParameterValue* pValue = parameters.Find(name);
+    return pValue != nullptr ? std::get_if<Value>(&pValue->Get()) : nullptr;
+}
+
+/// The ids with blanks between them.
+std::wstring ToText(const std::vector<int>& ids)
+{
+    std::wstring text;
+    for (const int id : ids)
+        text += (text.empty() ? L"" : L" ") + std::to_wstring(id);
+    return text;
+}
+
+/// Nothing when the text is anything but ids.
+std::optional<std::vector<int>> FromText(const std::wstring& text)
+{
+    std::wistringstream stream(text);
+    std::vector<int> ids;
+    while (stream >> std::ws && !stream.eof())
+    {
+        int id = 0;
+        if (!(stream >> id))
+            return std::nullopt;
+        ids.push_back(id);
+    }
+    return ids;
+}
+
+using Shapes = std::vector<std::pair<int, Shape>>;
+
+/// The shape with the value; to the last bit the same when it has that value already.
+Shape ChangedShape(const Shape& shape, const ShapeProperty& property, double value)
+{
+    return property.get(shape) == value ? shape : property.set(shape, value);
+}
+
+/// The shapes as they would be; empty when an entity is missing or has no such value, or when the
+/// value is no number.
+Shapes ChangedShapes(const EntityEdit& edit, const Sketch& sketch)
+{
+    if (!std::isfinite(edit.value))
+        return {};
+    Shapes shapes;
+    for (const int id : edit.entities)
+    {
+        const Entity* pEntity = sketch.Find(id);
+        const ShapeProperty* pProperty =
+            pEntity != nullptr ? FindProperty(pEntity->shape, edit.property) : nullptr;
+        if (pProperty == nullptr)
+            return {};
+        shapes.emplace_back(id, ChangedShape(pEntity->shape, *pProperty, edit.value));
+    }
+    return shapes;
+}
+
+}
+
+CommandParameters EntityEdit::ToParameters() const
+{
+    CommandParameters parameters;
+    parameters.Add(EntitiesName, CommandParameterValue(ToText(entities)));
+    parameters.Add(PropertyName, CommandParameterValue(property));
+    parameters.Add(ValueName, CommandParameterValue(value));
+    return parameters;
+}
+
+std::optional<EntityEdit> EntityEdit::From(const CommandParameters& parameters)
+{
+    const auto* pEntities = Find<std::wstring>(parameters, EntitiesName);
+    const auto* pProperty = Find<std::wstring>(parameters, PropertyName);
+    const auto* pValue = Find<double>(parameters, ValueName);
+    if (pEntities == nullptr || pProperty == nullptr || pValue == nullptr)
+        return std::nullopt;
+    std::optional<std::vector<int>> ids = FromText(*pEntities);
+    if (!ids.has_value())
+        return std::nullopt;
+    return EntityEdit{std::move(*ids), *pProperty, *pValue};
+}
+
+bool EntityEdit::IsPossible(const Sketch& sketch) const
+{
+    const Shapes shapes = ChangedShapes(*this, sketch);
+    return !shapes.empty() && std::all_of(shapes.begin(), shapes.end(), [](const auto& changed) {
+        return IsDrawable(changed.second);
+    });
+}
+
+bool EntityEdit::Apply(Sketch& sketch) const
+{
+    return sketch.Replace(ChangedShapes(*this, sketch));
+}

@@ -1,0 +1,62 @@
+#include "Model/Pen.h"
+
+#include <algorithm>
+
+namespace
+{
+
+template <class Value>
+PenPart MakePart(const std::wstring& name, int Pen::*member, const std::vector<Value>& values)
+{
+    PenPart part{name, member, {}, {}};
+    for (const Value& value : values)
+    {
+        part.valueNames.push_back(value.name);
+        part.valueCaptions.push_back(value.caption);
+    }
+    return part;
+}
+
+}
+
+const std::vector<LineStyle>& LineStyles()
+{
+    static const std::vector<LineStyle> s_styles = {
+        {L"solid", L"实线", Qt::SolidLine},
+        {L"dashed", L"虚线", Qt::DashLine},
+        {L"dotted", L"点线", Qt::DotLine},
+        {L"dashdot", L"点画线", Qt::DashDotLine},
+    };
+    return s_styles;
+}
+
+const std::vector<LineColour>& LineColours()
+{
+    static const std::vector<LineColour> s_colours = {
+        {L"default", L"默认", QColor()},
+        {L"red", L"红色", QColor(0xd3, 0x2f, 0x2f)},
+        {L"orange", L"橙色", QColor(0xe0, 0x7b, 0x12)},
+        {L"green", L"绿色", QColor(0x2e, 0x8b, 0x3d)},
+        {L"blue", L"蓝色", QColor(0x2f, 0x7d, 0xe1)},
+        {L"magenta", L"洋红", QColor(0xb0, 0x3a, 0xb0)},
+        {L"grey", L"灰色", QColor(0x80, 0x86, 0x8b)},
+    };
+    return s_colours;
+}
+
+std::optional<int> PenPart::Find(const std::wstring& valueName) const
+{
+    const auto found = std::find(valueNames.begin(), valueNames.end(), valueName);
+    if (found == valueNames.end())
+        return std::nullopt;
+    return static_cast<int>(found - valueNames.begin());
+}
+
+const std::vector<PenPart>& PenParts()
+{
+    static const std::vector<PenPart> s_parts = {
+        MakePart(L"style", &Pen::style, LineStyles()),
+        MakePart(L"colour", &Pen::colour, LineColours()),
+    };
+    return s_parts;
+}

@@ -1,0 +1,29 @@
+#include "Model/Picking.h"
+
+#include "Model/ShapeMeasure.h"
+#include "Model/Sketch.h"
+
+#include "View/UiViewUtility.h"
+
+using namespace vesk;
+
+double CursorReach(const IUiView* pView)
+{
+    constexpr int ReachPixels = 10;
+    return UiViewUtility::ComputeWorldWidthFromPixel(pView, ReachPixels);
+}
+
+int PickEntity(const Sketch& sketch, const Vector3d& world, const IUiView* pView)
+{
+    double nearest = CursorReach(pView);
+    int picked = 0;
+    for (const Entity& entity : sketch.GetEntities())
+    {
+        const double distance = DistanceTo(entity.shape, world);
+        if (distance > nearest)
+            continue;
+        nearest = distance;
+        picked = entity.id;
+    }
+    return picked;
+}

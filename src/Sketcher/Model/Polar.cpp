@@ -1,0 +1,38 @@
+#include "Model/Polar.h"
+
+#include "Geometry/Degrees.h"
+
+#include <cmath>
+
+using vesk::Degrees;
+using vesk::Vector3d;
+
+namespace
+{
+
+const double s_degreesPerRadian = 180.0 / std::acos(-1.0);
+
+}
+
+Vector3d DirectionOf(double degrees)
+{
+    return {Degrees::Cosine(degrees), Degrees::Sine(degrees), 0.0};
+}
+
+double AngleOf(const Vector3d& direction)
+{
+    return AngleBetween(Vector3d::UnitX(), direction);
+}
+
+double AngleBetween(const Vector3d& from, const Vector3d& to)
+{
+    const double degrees =
+        std::atan2(QuarterTurned(from).dot(to), from.dot(to)) * s_degreesPerRadian;
+    // A hair beyond the half turn is rounded to it, and would turn the other way.
+    return degrees <= -180.0 ? 180.0 : degrees;
+}
+
+Vector3d QuarterTurned(const Vector3d& way)
+{
+    return {-way.y(), way.x(), 0.0};
+}

@@ -1,0 +1,162 @@
+#include "Model/Snapper.h"
+
+#include "Model/Crossings.h"
+#include "Model/Grid.h"
+#include "Model/Picking.h"
+#include "Model/ShapeMeasure.h"
+#include "Model/ShapePieces.h"
+#include "Model/Sketch.h"
+#include "Model/SnapPoints.h"
+
+#include "View/UiViewUtility.h"
+
+#include <algorithm>
+#include <cmath>
+
+using namespace vesk;
+
+namespace
+{
+
+/// The nearest of the points offered, within reach of the cursor.
+class Nearest
+{
+public:
+    Nearest(const Vector3d& cursor, double reach) : m_cursor(cursor), m_distance(reach) {}
+
+    void Offer(Snapper::Kind kind, const Vector3d& point)
+    {
+        const double distance = (point - m_cursor).norm();
+        if (distance > m_distance)
+            return;
+        m_distance = distance;
+        m_found = {kind, point};
+    }
+
+    const std::optional<Snapper::Caught>& Get() const { return m_found; }
+
+    /// The distance of what was found; the reach, as long as nothing was.
+    double GetDistance() const { return m_distance; }
+
+private:
+    Vector3d m_cursor;
+    double m_distance;
+    std::optional<Snapper::Caught> m_found;
+};
+
+/// A piece of the outline of an entity.
+struct NearPiece
+{
+    double distance;
+    const Entity* pEntity;
+    Piece piece;
+};
+
+/// The pieces of entities within reach of the cursor, the nearest first.
+std::vector<NearPiece> PiecesNear(const std::vector<const Entity*>& entities,
+                                  const Vector3d& cursor, double reach)
+{
+    std::vector<NearPiece> pieces;
+    for (const Entity* pEntity : entities)
+    {
+        VisitPieces(pEntity->shape, [&](const auto& piece) {
+            const double distance = DistanceTo(piece, cursor);
+            if (distance <= reach)
+                pieces.push_back({distance, pEntity, piece});
+        });
+    }
+    std::stable_sort(pieces.begin(), pieces.end(), [](const NearPiece& a, const NearPiece& b) {
+        return a.distance < b.distance;
+    });
+    return pieces;
+}
+
+void OfferIntersections(const std::vector<NearPiece>& pieces, Nearest& nearest)
+{
+    for (auto second = pieces.begin(); second != pieces.end(); ++second)
+    {
+        // No intersection is nearer than either piece.
+        if (second->distance > nearest.GetDistance())
+            return;
+        for (auto first = pieces.begin(); first != second; ++first)
+        {
+            if (first->pEntity == second->pEntity)
+                continue;
+            for (const Vector3d& point : Cross(first->piece, second->piece))
+                nearest.Offer(Snapper::Intersection, point);
+        }
+    }
+}
+
+void OfferAll(Snapper::Kind kind, const std::vector<Vector3d>& points, Nearest& nearest)
+{
+    for (const Vector3d& point : points)
+        nearest.Offer(kind, point);
+}
+
+/// A centre may be far from its outline.
+void OfferCentres(const Sketch& sketch, Nearest& nearest)
+{
+    for (const Entity& entity : sketch.GetEntities())
+    {
+        if (const std::optional<Vector3d> centre = CentreOf(entity.shape))
+            nearest.Offer(Snapper::Centre, *centre);
+    }
+}
+
+Vector3d NearestGridPoint(const Vector3d& cursor, double step)
+{
+    return {std::round(cursor.x() / step) * step, std::round(cursor.y() / step) * step, 0.0};
+}
+
+}
+
+Snapper::Snapper(const Sketch& sketch) : m_sketch(sketch)
+{
+    SetOn(End, true);
+}
+
+Vector3d Snapper::Catch(const Vector3d& cursor, const IUiView* pView)
+{
+    m_caught.reset();
+    const double pixel = UiViewUtility::ComputeWorldWidthFromPixel(pView, 1);
+    if (pixel > 0.0)
+        m_caught = Find(cursor, CursorReach(pView), GridStep(pixel));
+    return m_caught.has_value() ? m_caught->point : cursor;
+}
+
+std::optional<Snapper::Caught> Snapper::Find(const Vector3d& cursor, double reach,
+                                             double gridStep) const
+{
+    const std::vector<const Entity*> entities = GetNear(cursor, reach);
+    Nearest ends(cursor, reach);
+    Nearest others(cursor, reach);
+    for (const Entity* pEntity : entities)
+    {
+        OfferAll(End, EndsOf(pEntity->shape), ends);
+        if (IsOn(Middle))
+            OfferAll(Middle, MiddlesOf(pEntity->shape), others);
+    }
+    if (IsOn(End) && ends.Get().has_value())
+        return ends.Get();
+    if (IsOn(Centre))
+        OfferCentres(m_sketch, others);
+    if (IsOn(Intersection))
+        OfferIntersections(PiecesNear(entities, cursor, reach), others);
+    if (others.Get().has_value() || !IsOn(Grid))
+        return others.Get();
+    Nearest grid(cursor, reach);
+    grid.Offer(Grid, NearestGridPoint(cursor, gridStep));
+    return grid.Get();
+}
+
+std::vector<const Entity*> Snapper::GetNear(const Vector3d& cursor, double reach) const
+{
+    std::vector<const Entity*> entities;
+    for (const Entity& entity : m_sketch.GetEntities())
+    {
+        if (DistanceTo(entity.shape, cursor) <= reach)
+            entities.push_back(&entity);
+    }
+    return entities;
+}

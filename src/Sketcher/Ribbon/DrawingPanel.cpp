@@ -1,0 +1,60 @@
+#include "Ribbon/DrawingPanel.h"
+
+#include "Model/Workspace.h"
+#include "Ribbon/FieldKeys.h"
+#include "Ribbon/PlaceControl.h"
+
+#include "Control/LabelDefinition.h"
+#include "Control/LineEditDefinition.h"
+#include "HostUi/QtText.h"
+#include "Journal/JournalRecord.h"
+
+#include <QLineEdit>
+
+#include <utility>
+
+using namespace vesk;
+
+DrawingPanel::DrawingPanel(Workspace& workspace, Qtitan::RibbonGroup& group, ControlHost& controls)
+    : m_sketch(workspace.sketch), m_properties(workspace.properties),
+      m_shownName(workspace.sketch.GetName())
+{
+    auto opName = MakeOwner<LineEditDefinition>(L"Sketcher.DrawingName");
+    opName->SetText(m_shownName);
+    m_pName = PlaceControl(std::move(opName), QStringLiteral("图名"), group, controls);
+    m_pCount = PlaceControl(MakeOwner<LabelDefinition>(L"Sketcher.EntityCount"), QString(), group,
+                            controls);
+    if (m_pName != nullptr)
+    {
+        m_pName->GetLineEditEvent()->Add(this);
+        if (auto* pField = group.findChild<QLineEdit*>(ToQString(m_pName->GetId())))
+            new FieldKeys(*pField, *m_pName, [this] { return m_sketch.GetName(); });
+    }
+    connect(&workspace.sketch, &Sketch::changed, this, &DrawingPanel::OnSketchChanged);
+    OnSketchChanged();
+}
+
+DrawingPanel::~DrawingPanel()
+{
+    if (m_pName != nullptr)
+        m_pName->GetLineEditEvent()->Delete(this);
+}
+
+void DrawingPanel::On(LineEditEventArgs* pArgs)
+{
+    if (pArgs->GetText() == m_sketch.GetName())
+        return;
+    m_properties.Set(PropertyRecord{L"drawing", L"name", pArgs->GetText()});
+}
+
+void DrawingPanel::OnSketchChanged()
+{
+    // Only another name may replace what is being typed.
+    if (m_pName != nullptr && m_sketch.GetName() != m_shownName)
+    {
+        m_shownName = m_sketch.GetName();
+        m_pName->SetText(m_shownName);
+    }
+    if (m_pCount != nullptr)
+        m_pCount->SetCaption(L"图元：" + std::to_wstring(m_sketch.GetEntities().size()));
+}

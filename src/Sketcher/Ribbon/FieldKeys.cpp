@@ -1,0 +1,52 @@
+#include "Ribbon/FieldKeys.h"
+
+#include "Control/LineEditDefinition.h"
+
+#include <QKeyEvent>
+#include <QLineEdit>
+
+#include <utility>
+
+FieldKeys::FieldKeys(QLineEdit& field, vesk::LineEditDefinition& definition,
+                     FormerText getFormerText)
+    : QObject(&field), m_field(field), m_definition(definition),
+      m_getFormerText(std::move(getFormerText))
+{
+    field.installEventFilter(this);
+}
+
+FieldKeys::~FieldKeys() = default;
+
+bool FieldKeys::eventFilter(QObject*, QEvent* pEvent)
+{
+    if (pEvent->type() == QEvent::KeyPress)
+        return FilterKey(static_cast<QKeyEvent&>(*pEvent));
+    if (pEvent->type() != QEvent::ShortcutOverride ||
+        !static_cast<QKeyEvent&>(*pEvent).matches(QKeySequence::Undo) || HasOwnUndo())
+        return false;
+    // The field claims the key whether it has anything to undo or not.
+    pEvent->ignore();
+    return true;
+}
+
+bool FieldKeys::HasOtherText() const
+{
+    return m_definition.GetText() != m_getFormerText();
+}
+
+/// A text that was refused is the user's still.
+bool FieldKeys::HasOwnUndo() const
+{
+    return HasOtherText() || (m_definition.IsEditing() && m_field.isUndoAvailable());
+}
+
+/// True when the key goes no further.
+bool FieldKeys::FilterKey(const QKeyEvent& event)
+{
+    if (event.key() != Qt::Key_Escape || !HasOtherText())
+        return false;
+    m_definition.SetText(m_getFormerText());
+    m_definition.SetIsEditing(false);
+    emit restored();
+    return true;
+}

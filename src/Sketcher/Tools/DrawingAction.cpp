@@ -1,0 +1,136 @@
+#include "Tools/DrawingAction.h"
+
+#include "Model/Workspace.h"
+
+#include "Dimension/InputField.h"
+#include "Geometry/Constants.h"
+#include "Journal/JournalManager.h"
+#include "View/UiViewUtility.h"
+
+#include <algorithm>
+
+using namespace vesk;
+
+DrawingAction::DrawingAction(Workspace& workspace) : m_workspace(workspace) {}
+
+void DrawingAction::OnBegin(IUiView* pView)
+{
+    m_pView = pView;
+}
+
+void DrawingAction::OnMouseMove(const Vector3d& world)
+{
+    m_cursor = m_workspace.snapper.Catch(world, m_pView);
+}
+
+void DrawingAction::OnClick(const Vector3d& world)
+{
+    OnMouseMove(world);
+    if (HasValues() || !RestsOnStart())
+        EndStep(GetEnd());
+}
+
+std::wstring DrawingAction::GetRefusal(InputState field, double value)
+{
+    if (!Expects(field))
+        return {};
+    // The cursor may still give what the step needs.
+    const std::optional<InputState> other = FindOther(field);
+    if (other.has_value() && !GetTyped(*other).has_value())
+        return {};
+    const TypedValues::Trial trial(m_values, field, value);
+    return CanFinish(GetEnd()) ? std::wstring() : L"这个值在这里不起作用，请换一个";
+}
+
+void DrawingAction::OnViewInput(const ActionViewInput&, const TypedValue& typed)
+{
+    const InputState field = typed.field;
+    if (!Expects(field))
+        return;
+    // A field that was only confirmed keeps its own value, not the rounded one that was shown.
+    m_values.Take({field, typed.text, typed.isUnchanged ? GetValue(field) : typed.value});
+    if (!typed.isCommitted)
+        m_values.Record();
+    else if (!EndStep(GetEnd()) && !FindOther(field).has_value())
+        m_values.Drop(field);
+}
+
+void DrawingAction::OnValueFreed(InputState field)
+{
+    m_values.Drop(field);
+}
+
+bool DrawingAction::OnEscape()
+{
+    const bool hadValues = HasValues();
+    m_values.Clear();
+    return hadValues;
+}
+
+void DrawingAction::OnEnd()
+{
+    m_values.Clear();
+    m_workspace.snapper.Release();
+}
+
+bool DrawingAction::ReplayPoint(const Vector3d& world, const std::optional<int>& entity)
+{
+    return !entity.has_value() && EndStep(world);
+}
+
+bool DrawingAction::ReplayValue(InputState field, const std::wstring& text, double value)
+{
+    if (!Expects(field))
+        return false;
+    m_values.Take({field, text, value});
+    m_values.Record();
+    return true;
+}
+
+double DrawingAction::GetValue(InputState field) const
+{
+    const std::optional<double> typed = m_values.Get(field);
+    return typed.has_value() ? *typed : ReadCursor(field);
+}
+
+bool DrawingAction::RestsOn(const Vector3d& point) const
+{
+    return Vector3dUtils::IsEqual(m_cursor, point, Constants::DOUBLE_EPS);
+}
+
+bool DrawingAction::RestsOnStart() const
+{
+    const std::optional<Vector3d> start = GetStart();
+    return start.has_value() && RestsOn(*start);
+}
+
+Vector3d DrawingAction::GetCursorOff(const Vector3d& point) const
+{
+    return RestsOn(point) ? Vector3d(point + GetPixel() * Vector3d::UnitX()) : m_cursor;
+}
+
+double DrawingAction::GetPixel() const
+{
+    const double pixel = UiViewUtility::ComputeWorldWidthFromPixel(m_pView, 1);
+    return pixel > 0.0 ? pixel : 1.0;
+}
+
+/// The other value that the step takes; none where it takes one only.
+std::optional<InputState> DrawingAction::FindOther(InputState field) const
+{
+    const auto* pFound =
+        std::find_if(TypedStates.begin(), TypedStates.end(),
+                     [this, field](InputState other) { return other != field && Expects(other); });
+    return pFound != TypedStates.end() ? std::optional(*pFound) : std::nullopt;
+}
+
+/// False when the step cannot end there.
+bool DrawingAction::EndStep(const Vector3d& end)
+{
+    if (!Finish(end))
+        return false;
+    m_values.Record();
+    m_values.Clear();
+    JournalManager::GetInstance().Add(PointRecord{end, std::nullopt});
+    return true;
+}

@@ -1,0 +1,88 @@
+#include "Tools/LineAction.h"
+
+#include "Model/Polar.h"
+#include "Model/Workspace.h"
+#include "Tools/ShapeGraphics.h"
+
+#include "Dimension/LinearTemporaryDimensionContext.h"
+#include "Graphics/IGraphicsNode.h"
+
+#include <algorithm>
+
+using namespace vesk;
+
+LineAction::LineAction(Workspace& workspace) : DrawingAction(workspace) {}
+
+std::wstring LineAction::GetViewText() const
+{
+    return m_firstPoint.has_value() ? L"直线：单击下一点，或键入长度（Tab 切换到角度）；Esc 结束"
+                                    : L"直线：单击起点；Esc 结束";
+}
+
+OwnerPtr<ITemporaryDimensionContext> LineAction::CreateDimensionContext() const
+{
+    if (!m_firstPoint.has_value())
+        return nullptr;
+    return MakeOwner<LinearTemporaryDimensionContext>(Coordinate3d(), *GetStart(), GetEnd());
+}
+
+OwnerPtr<IGraphicsNodeGroup> LineAction::CreateRubberBand() const
+{
+    if (!m_firstPoint.has_value())
+        return nullptr;
+    return MakeRubberBand(LineShape{*GetStart(), GetEnd()});
+}
+
+/// The end of the last segment that still stands: an undo moves it back by itself.
+std::optional<Vector3d> LineAction::GetStart() const
+{
+    const Sketch& sketch = GetWorkspace().sketch;
+    const auto standing =
+        std::find_if(m_segments.rbegin(), m_segments.rend(), [&sketch](const Segment& segment) {
+            return sketch.Find(segment.entity) != nullptr;
+        });
+    return standing != m_segments.rend() ? standing->end : m_firstPoint;
+}
+
+Vector3d LineAction::GetEnd() const
+{
+    const std::optional<Vector3d> start = GetStart();
+    if (!start.has_value() || (!HasValues() && !RestsOnStart()))
+        return GetCursor();
+    return *start + GetValue(InputState::IS_Length) * DirectionOf(GetValue(InputState::IS_Angle));
+}
+
+bool LineAction::Expects(InputState field) const
+{
+    const bool isOwn = field == InputState::IS_Length || field == InputState::IS_Angle;
+    return isOwn && m_firstPoint.has_value();
+}
+
+/// The length is as far as the cursor reaches along the direction, a pixel at least; the angle of a
+/// cursor that rests on the start is along x.
+double LineAction::ReadCursor(InputState field) const
+{
+    const Vector3d way = GetCursor() - *GetStart();
+    if (field == InputState::IS_Angle)
+        return RestsOnStart() ? 0.0 : AngleOf(way);
+    return std::max(way.dot(DirectionOf(GetValue(InputState::IS_Angle))), GetPixel());
+}
+
+bool LineAction::CanFinish(const Vector3d& end) const
+{
+    return IsDrawable(LineShape{*GetStart(), end});
+}
+
+/// Ends the segment there, or starts there.
+bool LineAction::Finish(const Vector3d& end)
+{
+    if (!m_firstPoint.has_value())
+    {
+        m_firstPoint = end;
+        return true;
+    }
+    const int entity = GetWorkspace().sketch.AddLine(*GetStart(), end);
+    if (entity != 0)
+        m_segments.push_back({entity, end});
+    return entity != 0;
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "Model/Shape.h"
+
+class QPainter;
+class QPen;
+class QRectF;
+
+namespace vesk
+{
+class IModelView;
+}
+
+/// Paints what can be seen of the outline of a shape in a rectangle of pixels.
+void PaintShape(QPainter& painter, const QPen& pen, const Shape& shape,
+                const vesk::IModelView& modelView, const QRectF& visible);

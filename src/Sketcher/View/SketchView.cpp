@@ -1,0 +1,202 @@
+#include "View/SketchView.h"
+
+#include "Model/Grid.h"
+#include "Model/ShapeMeasure.h"
+#include "Model/SnapPoints.h"
+#include "Model/Workspace.h"
+#include "View/ShapePainter.h"
+#include "View/SnapMarker.h"
+
+#include "Command/IActionManager.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <cmath>
+#include <cstddef>
+
+using vesk::IActionManager;
+using vesk::Vector3d;
+
+namespace
+{
+
+QColor Mix(const QColor& a, const QColor& b, double share)
+{
+    return QColor::fromRgbF(a.redF() + (b.redF() - a.redF()) * share,
+                            a.greenF() + (b.greenF() - a.greenF()) * share,
+                            a.blueF() + (b.blueF() - a.blueF()) * share);
+}
+
+QPen MakePen(const Pen& pen, const QColor& textColour)
+{
+    const QColor& colour = LineColours()[static_cast<std::size_t>(pen.colour)].colour;
+    // Round caps take three times as long to paint.
+    return {colour.isValid() ? colour : textColour, 1.4,
+            LineStyles()[static_cast<std::size_t>(pen.style)].style, Qt::SquareCap};
+}
+
+}
+
+SketchView::SketchView(Workspace& workspace, vesk::DimensionInputController& input,
+                       QWidget* pParent)
+    : DrawingView(1, input, pParent), m_workspace(workspace), m_mouse(workspace, *this)
+{
+    setObjectName(QStringLiteral("SketchView"));
+    connect(&workspace.sketch, &Sketch::changed, this, &SketchView::UpdateModel);
+    connect(&workspace.selection, &Selection::changed, this, &SketchView::UpdateModel);
+}
+
+void SketchView::ZoomAll()
+{
+    const std::vector<Entity>& entities = m_workspace.sketch.GetEntities();
+    if (entities.empty())
+        return;
+    ShapeBounds all = BoundsOf(entities.front().shape);
+    for (const Entity& entity : entities)
+    {
+        const ShapeBounds bounds = BoundsOf(entity.shape);
+        all.low = all.low.cwiseMin(bounds.low);
+        all.high = all.high.cwiseMax(bounds.high);
+    }
+    Fit(all.low, all.high);
+}
+
+void SketchView::PaintModel(QPainter& painter)
+{
+    PaintGrid(painter);
+    PaintAxes(painter);
+    for (const int id : m_workspace.selection.GetIds())
+        PaintSelected(painter, *m_workspace.sketch.Find(id));
+    PaintEntities(painter);
+}
+
+void SketchView::PaintOverlay(QPainter& painter)
+{
+    if (const std::optional<Snapper::Caught>& caught = m_workspace.snapper.GetCaught())
+        PaintSnapMarker(painter, caught->kind, ToPixel(caught->point));
+    m_mouse.Paint(painter);
+}
+
+void SketchView::OnFreeClick(const Vector3d& world, Qt::KeyboardModifiers modifiers)
+{
+    m_mouse.Press(world, modifiers);
+}
+
+void SketchView::OnFreeEscape()
+{
+    if (m_mouse.IsPressed())
+        DropPress();
+    else
+        m_workspace.selection.Select({});
+}
+
+void SketchView::mouseMoveEvent(QMouseEvent* pEvent)
+{
+    DrawingView::mouseMoveEvent(pEvent);
+    if (!m_mouse.IsPressed())
+        return;
+    // The release may have gone elsewhere, and a command may have begun meanwhile.
+    if (!pEvent->buttons().testFlag(Qt::LeftButton) || IActionManager::CurrentAction() != nullptr)
+    {
+        DropPress();
+        return;
+    }
+    m_mouse.MoveTo(GetCamera().ScreenToWorld(pEvent->localPos().x(), pEvent->localPos().y()));
+    update();
+}
+
+void SketchView::mouseReleaseEvent(QMouseEvent* pEvent)
+{
+    DrawingView::mouseReleaseEvent(pEvent);
+    if (pEvent->button() != Qt::LeftButton)
+        return;
+    if (IActionManager::CurrentAction() == nullptr)
+        m_mouse.Release(GetCamera().ScreenToWorld(pEvent->localPos().x(), pEvent->localPos().y()));
+    DropPress();
+}
+
+void SketchView::DropPress()
+{
+    m_mouse.Drop();
+    update();
+}
+
+void SketchView::PaintGrid(QPainter& painter) const
+{
+    const QColor paper = palette().color(QPalette::Base);
+    const QColor ink = palette().color(QPalette::Text);
+    const double step = GridStep(GetCamera().GetWorldPerPixel());
+    PaintGridLines(painter, step, Mix(paper, ink, 0.06));
+    PaintGridLines(painter, step * 10.0, Mix(paper, ink, 0.14));
+}
+
+/// Hair lines, filled: to stroke them takes twenty times as long.
+void SketchView::PaintGridLines(QPainter& painter, double step, const QColor& color) const
+{
+    // Lines that fall between two pixels all take the latter, whatever the rounding.
+    constexpr double Nudge = 1e-6;
+    const double scale = painter.device()->devicePixelRatioF();
+    const auto startOfPixel = [scale](double place) {
+        return std::floor(place * scale + Nudge) / scale;
+    };
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    const Vector3d topLeft = GetCamera().ScreenToWorld(0, 0);
+    const Vector3d bottomRight = GetCamera().ScreenToWorld(width(), height());
+    for (double i = std::ceil(topLeft.x() / step); i * step <= bottomRight.x(); ++i)
+    {
+        const double x = startOfPixel(ToPixel({i * step, 0.0, 0.0}).x());
+        painter.fillRect(QRectF(x, 0.0, 1.0 / scale, height()), color);
+    }
+    for (double i = std::ceil(bottomRight.y() / step); i * step <= topLeft.y(); ++i)
+    {
+        const double y = startOfPixel(ToPixel({0.0, i * step, 0.0}).y());
+        painter.fillRect(QRectF(0.0, y, width(), 1.0 / scale), color);
+    }
+    painter.restore();
+}
+
+void SketchView::PaintAxes(QPainter& painter) const
+{
+    const QPointF origin = ToPixel(Vector3d::Zero());
+    painter.setPen(QPen(QColor(0xd0, 0x6a, 0x62, 150), 1.0));
+    painter.drawLine(QPointF(0, origin.y()), QPointF(width(), origin.y()));
+    painter.setPen(QPen(QColor(0x5f, 0xa8, 0x6a, 150), 1.0));
+    painter.drawLine(QPointF(origin.x(), 0), QPointF(origin.x(), height()));
+}
+
+void SketchView::PaintEntities(QPainter& painter) const
+{
+    const QRectF visible = GetPaintedRect();
+    const QColor textColour = palette().color(QPalette::Text);
+    for (const Entity& entity : m_workspace.sketch.GetEntities())
+        PaintShape(painter, MakePen(entity.pen, textColour), entity.shape, GetCamera(), visible);
+}
+
+/// A band below the outline, and grips at its ends and centre.
+void SketchView::PaintSelected(QPainter& painter, const Entity& entity) const
+{
+    constexpr double BandWidth = 7.0;
+    constexpr double GripSize = 7.0;
+    QColor band = palette().color(QPalette::Highlight);
+    band.setAlpha(110);
+    PaintShape(painter, QPen(band, BandWidth, Qt::SolidLine, Qt::RoundCap), entity.shape,
+               GetCamera(), GetPaintedRect());
+    std::vector<Vector3d> grips = EndsOf(entity.shape);
+    if (const std::optional<Vector3d> centre = CentreOf(entity.shape))
+        grips.push_back(*centre);
+    for (const Vector3d& grip : grips)
+    {
+        QRectF box(0.0, 0.0, GripSize, GripSize);
+        box.moveCenter(ToPixel(grip));
+        painter.fillRect(box, palette().color(QPalette::Highlight));
+    }
+}
+
+/// The view, and so much around it that no cap or join of a cut shows.
+QRectF SketchView::GetPaintedRect() const
+{
+    constexpr int Margin = 8;
+    return QRectF(rect()).adjusted(-Margin, -Margin, Margin, Margin);
+}

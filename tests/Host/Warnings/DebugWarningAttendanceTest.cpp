@@ -1,0 +1,112 @@
+#include "Foundation/IApplication.h"
+#include "Warnings/DebugMessageMgr.h"
+#include "Warnings/IDebugWarningScheduler.h"
+
+#include "Host/Warnings/LogFile.h"
+#include "Host/Warnings/RaiseWarning.h"
+#include "Support/TestValues.h"
+
+namespace vesk
+{
+
+namespace
+{
+
+class Application final : public IApplication
+{
+public:
+    Application() { Set(this); }
+    ~Application() override { Set(nullptr); }
+
+    void PostEvent(OwnerPtr<IApplicationEvent> /*opEvent*/) override {}
+    IApplicationWindow* GetMainWindow() const override { return nullptr; }
+};
+
+/// Counts the warnings that the user is to see; none is shown.
+class Scheduler final : public IDebugWarningScheduler
+{
+public:
+    Scheduler() { Manager().SetScheduler(this); }
+    ~Scheduler() override { Manager().SetScheduler(nullptr); }
+
+    bool IsDialogAllowed() const override { return false; }
+    void Post(std::function<void()> /*function*/) override { ++count; }
+    void PostWhenIdle(std::chrono::milliseconds /*delay*/,
+                      std::function<void()> /*function*/) override
+    {}
+
+    int count = 0;
+};
+
+constexpr char Variable[] = "VESK_UNATTENDED";
+
+}
+
+/// Whether somebody is there to see warnings, before anybody has said so.
+class DebugWarningAttendanceTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { m_before = qgetenv(Variable); }
+    void cleanup();
+
+    void theEnvironmentTellsWhetherSomebodyIsThere_data();
+    void theEnvironmentTellsWhetherSomebodyIsThere();
+    void withoutTheVariableSomebodyIsThere();
+
+private:
+    QByteArray m_before;
+};
+
+void DebugWarningAttendanceTest::cleanup()
+{
+    qputenv(Variable, m_before);
+    Manager().Reset();
+}
+
+void DebugWarningAttendanceTest::theEnvironmentTellsWhetherSomebodyIsThere_data()
+{
+    QTest::addColumn<QByteArray>("value");
+    QTest::addColumn<int>("count");
+    QTest::newRow("unattended") << QByteArray("1") << 0;
+    QTest::newRow("attended") << QByteArray("0") << 1;
+    QTest::newRow("anything else") << QByteArray("11") << 1;
+}
+
+void DebugWarningAttendanceTest::theEnvironmentTellsWhetherSomebodyIsThere()
+{
+    QFETCH(QByteArray, value);
+    QFETCH(int, count);
+    const LogFile log;
+    Manager().OpenLog(log.GetPath());
+    const Application application;
+    const Scheduler scheduler;
+    qputenv(Variable, value);
+
+    Manager().Reset();
+    Warn();
+
+    QCOMPARE(scheduler.count, count);
+    Manager().CloseLog();
+}
+
+void DebugWarningAttendanceTest::withoutTheVariableSomebodyIsThere()
+{
+    const LogFile log;
+    Manager().OpenLog(log.GetPath());
+    const Application application;
+    const Scheduler scheduler;
+    qunsetenv(Variable);
+
+    Manager().Reset();
+    Warn();
+
+    QCOMPARE(scheduler.count, 1);
+    Manager().CloseLog();
+}
+
+}
+
+VESK_TESTS_WITHOUT_APPLICATION(vesk::DebugWarningAttendanceTest);
+#include "DebugWarningAttendanceTest.moc"

@@ -1,0 +1,149 @@
+#pragma once
+
+#include "Model/Workspace.h"
+
+#include "Command/IAction.h"
+#include "Dimension/ActionViewInput.h"
+#include "Dimension/ITemporaryDimensionContext.h"
+#include "Dimension/InputField.h"
+#include "Dimension/LengthUnit.h"
+#include "Dimension/TemporaryDimensionMgr.h"
+#include "Graphics/IGraphicsNode.h"
+#include "Journal/JournalFormat.h"
+#include "Journal/JournalManager.h"
+#include "Support/TestValues.h"
+#include "Support/TestView.h"
+
+#include <QString>
+
+#include <string>
+#include <vector>
+
+/// An action at work in a drawing, with a view of one unit a pixel. What it records is kept.
+template <class Action>
+class ActionFixture final : public vesk::IJournalObserver
+{
+public:
+    ActionFixture() { vesk::JournalManager::GetInstance().AddObserver(this); }
+    ~ActionFixture() override { vesk::JournalManager::GetInstance().RemoveObserver(this); }
+    ActionFixture(const ActionFixture&) = delete;
+    ActionFixture& operator=(const ActionFixture&) = delete;
+
+    void OnRecord(const vesk::JournalRecord& record) override
+    {
+        // As it would be read again.
+        vesk::JournalRecord read;
+        std::string error;
+        QVERIFY(vesk::JournalFormat::FromLine(vesk::JournalFormat::ToLine(record), read, error));
+        records.push_back(read);
+    }
+    void OnUiObject(const vesk::IJournalUiObject&, int) override {}
+
+    void Begin() { action.OnBegin(&view); }
+    void MoveTo(double x, double y) { action.OnMouseMove({x, y, 0}); }
+    void ClickAt(double x, double y) { action.OnClick({x, y, 0}); }
+
+    /// Types a number, or confirms one that was shown.
+    void Type(vesk::ActionViewInput::Kind kind, double value, bool isUnchanged = false)
+    {
+        const vesk::InputMeaning meaning = vesk::FindInputMeaning(kind);
+        const bool isLength = vesk::QuantityOf(meaning.field) == vesk::Quantity::Length;
+        const double modelValue = isLength ? vesk::LengthUnit::GetCurrent().ToModel(value) : value;
+        action.OnViewInput(
+            {kind, value, {}, {}},
+            {meaning.field, modelValue, std::to_wstring(value), isUnchanged, meaning.isCommitted});
+    }
+
+    /// Types a text that stands for a value of the model.
+    void TypeText(vesk::ActionViewInput::Kind kind, const std::wstring& text, double value,
+                  double modelValue)
+    {
+        const vesk::InputMeaning meaning = vesk::FindInputMeaning(kind);
+        action.OnViewInput({kind, value, {}, {}},
+                           {meaning.field, modelValue, text, false, meaning.isCommitted});
+    }
+
+    /// The dimensions that are offered now; null when there are none, or others.
+    template <class Context>
+    vesk::OwnerPtr<Context> Offered() const
+    {
+        vesk::OwnerPtr<vesk::ITemporaryDimensionContext> opContext =
+            action.CreateDimensionContext();
+        auto* pContext = dynamic_cast<Context*>(opContext.Get());
+        if (pContext != nullptr)
+            opContext.Release();
+        return vesk::OwnerPtr<Context>(pContext);
+    }
+
+    /// The only entity's shape; the test fails when it is of another kind.
+    template <class Kind>
+    Kind Drawn() const
+    {
+        const auto& entities = workspace.sketch.GetEntities();
+        const Kind* pShape = entities.empty() ? nullptr : std::get_if<Kind>(&entities.back().shape);
+        if (pShape == nullptr)
+            QTest::qFail("no such shape was drawn", __FILE__, __LINE__);
+        return pShape != nullptr ? *pShape : Kind{};
+    }
+
+    std::size_t Count() const { return workspace.sketch.GetEntities().size(); }
+
+    /// Repeats the records on another drawing, which is made by `prepare` first. True when it
+    /// becomes the same to the last bit, and the same is recorded again. Nothing is heard after it.
+    template <class Prepare>
+    bool IsRepeated(const Prepare& prepare)
+    {
+        vesk::JournalManager::GetInstance().RemoveObserver(this);
+        ActionFixture again;
+        prepare(again.workspace);
+        again.records.clear();
+        again.action.OnBegin(nullptr);
+        for (const vesk::JournalRecord& record : records)
+        {
+            if (!again.Repeat(record))
+                return false;
+        }
+        return again.GetShapes() == GetShapes() && again.GetLines() == GetLines();
+    }
+
+    bool IsRepeated()
+    {
+        return IsRepeated([](Workspace&) {});
+    }
+
+    Workspace workspace;
+    vesk::test::TestView view{1, nullptr};
+    Action action{workspace};
+    std::vector<vesk::JournalRecord> records;
+
+private:
+    bool Repeat(const vesk::JournalRecord& record)
+    {
+        if (const auto* pPoint = std::get_if<vesk::PointRecord>(&record.what))
+            return action.ReplayPoint(pPoint->point, pPoint->entity);
+        if (const auto* pValue = std::get_if<vesk::ValueRecord>(&record.what))
+            return action.ReplayValue(pValue->field, pValue->text, pValue->value);
+        if (const auto* pSelection = std::get_if<vesk::SelectionRecord>(&record.what))
+            return workspace.selection.Select(pSelection->entities);
+        return false;
+    }
+
+    std::vector<Shape> GetShapes() const
+    {
+        std::vector<Shape> shapes;
+        for (const Entity& entity : workspace.sketch.GetEntities())
+            shapes.push_back(entity.shape);
+        return shapes;
+    }
+
+    std::vector<std::string> GetLines() const
+    {
+        std::vector<std::string> lines;
+        for (const vesk::JournalRecord& record : records)
+        {
+            const std::string line = vesk::JournalFormat::ToLine(record);
+            lines.push_back(line.substr(line.find(',')));
+        }
+        return lines;
+    }
+};
