@@ -44,7 +44,7 @@ OwnerPtr<CommandButtonDefinition> MakeDefinition(const CommandEntry& entry)
 {
     auto opDefinition = MakeOwner<CommandButtonDefinition>(entry.id, entry.id);
     opDefinition->SetCaption(entry.caption);
-    opDefinition->SetTooltip(entry.toolTip);
+    opDefinition->SetTooltip(entry.GetToolTip());
     opDefinition->SetIconPath(entry.iconPath);
     opDefinition->SetVisible(false);
     return opDefinition;

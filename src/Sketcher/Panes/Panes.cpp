@@ -75,55 +75,27 @@ Panes::~Panes()
 
 std::vector<CommandEntry> Panes::MakeCommands()
 {
-    const auto doing = [](auto function) {
-        return [function](IUiView*, const CommandParameters&) -> OwnerPtr<IAction> {
-            function();
-            return nullptr;
-        };
-    };
     std::vector<CommandEntry> entries = {
-        {L"Sketcher.HideAllPanes",
-         L"隐藏全部面板",
-         L":/icons/panes-hide.svg",
-         L"隐藏全部面板；再按一次恢复原样 (Ctrl+H)",
-         L"面板",
-         L"",
-         L"Ctrl+H",
-         Command::Kind::Plain,
-         doing([this] { m_layout.ToggleAllHidden(); }),
-         {}},
-        {L"Sketcher.DefaultLayout",
-         L"恢复默认布局",
-         L":/icons/panes-default.svg",
-         L"恢复面板的默认布局",
-         L"面板",
-         L"",
-         L"",
-         Command::Kind::Plain,
-         doing([this] { m_layout.RestoreDefault(); }),
-         {}},
-        {ShowAllId,
-         L"显示全部面板",
-         L"",
-         L"显示全部面板",
-         L"",
-         L"",
-         L"",
-         Command::Kind::Plain,
-         doing([this] { m_docks.ShowAllDockPane(); }),
-         {}},
+        CommandEntry::Plain(L"Sketcher.HideAllPanes", L"隐藏全部面板",
+                            [this] { m_layout.ToggleAllHidden(); })
+            .WithIcon(L"panes-hide")
+            .WithToolTip(L"隐藏全部面板；再按一次恢复原样")
+            .WithKeys(L"Ctrl+H")
+            .InGroup(L"面板"),
+        CommandEntry::Plain(L"Sketcher.DefaultLayout", L"恢复默认布局",
+                            [this] { m_layout.RestoreDefault(); })
+            .WithIcon(L"panes-default")
+            .WithToolTip(L"恢复面板的默认布局")
+            .InGroup(L"面板"),
+        CommandEntry::Plain(ShowAllId, L"显示全部面板", [this] { m_docks.ShowAllDockPane(); })
+            .WithToolTip(L"显示全部面板"),
     };
     for (const PanePlace& place : FactoryPlaces())
-        entries.push_back({CommandPrefix + place.name,
-                           m_docks.GetDock(place.name)->GetTitle(),
-                           L"",
-                           L"显示或隐藏此面板",
-                           L"",
-                           PaneMenu::Id,
-                           L"",
-                           Command::Kind::Plain,
-                           doing([this, name = place.name] { Toggle(name); }),
-                           {}});
+        entries.push_back(CommandEntry::Plain(CommandPrefix + place.name,
+                                              m_docks.GetDock(place.name)->GetTitle(),
+                                              [this, name = place.name] { Toggle(name); })
+                              .WithToolTip(L"显示或隐藏此面板")
+                              .InMenu(PaneMenu::Id));
     return entries;
 }
 

@@ -14,7 +14,7 @@ namespace
 OwnerPtr<IMenuItemDefinition> MakeItem(const CommandEntry& entry)
 {
     auto opItem = MakeOwner<CommandMenuItemDefinition>(entry.id, entry.id, entry.caption);
-    opItem->SetTooltip(entry.toolTip);
+    opItem->SetTooltip(entry.GetToolTip());
     opItem->SetIconPath(entry.iconPath);
     return opItem;
 }

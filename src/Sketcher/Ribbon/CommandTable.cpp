@@ -26,24 +26,12 @@ using namespace vesk;
 namespace
 {
 
-constexpr Command::Kind Plain = Command::Kind::Plain;
-constexpr Command::Kind Interactive = Command::Kind::Interactive;
-
+/// A command that begins an action of that class.
 template <class Action, class Argument>
-Command::Execution Begin(Argument& argument)
+CommandEntry Begin(const std::wstring& id, const std::wstring& caption, Argument& argument)
 {
-    return [&argument](IUiView*, const CommandParameters&) -> OwnerPtr<IAction> {
-        return MakeOwner<Action>(argument);
-    };
-}
-
-template <class Function>
-Command::Execution Do(Function function)
-{
-    return [function](IUiView*, const CommandParameters&) -> OwnerPtr<IAction> {
-        function();
-        return nullptr;
-    };
+    return CommandEntry::Interactive(
+        id, caption, [&argument]() -> OwnerPtr<IAction> { return MakeOwner<Action>(argument); });
 }
 
 void Undo(Sketch& sketch)
@@ -60,144 +48,115 @@ void SetProperty(Sketch& sketch, const CommandParameters& parameters)
         ActionManager::StepDone();
 }
 
-template <class Action>
-CommandEntry MakeAction(const std::wstring& id, const std::wstring& caption,
-                        const std::wstring& iconPath, const std::wstring& toolTip,
-                        const std::wstring& group, const std::wstring& keys, Workspace& workspace)
-{
-    return {id,  caption, iconPath,    toolTip + L" (" + keys + L")", group,
-            L"", keys,    Interactive, Begin<Action>(workspace),      {}};
-}
-
 std::vector<CommandEntry> MakeDrawingCommands(Workspace& workspace)
 {
-    return {
-        {L"Sketcher.Line",
-         L"直线",
-         L":/icons/line.svg",
-         L"直线：单击或键入长度和角度，逐段绘制 (Ctrl+L)",
-         L"绘图",
-         L"",
-         L"Ctrl+L",
-         Interactive,
-         Begin<LineAction>(workspace),
-         {}},
-        MakeAction<RectangleAction>(L"Sketcher.Rectangle", L"矩形", L":/icons/rectangle.svg",
-                                    L"矩形：单击两个对角点，或键入宽度和高度", L"绘图", L"Ctrl+R",
-                                    workspace),
-        MakeAction<CircleAction>(L"Sketcher.Circle", L"圆", L":/icons/circle.svg",
-                                 L"圆：单击圆心和圆上一点，或键入半径", L"绘图", L"Ctrl+I",
-                                 workspace),
-        MakeAction<ArcThreePointsAction>(
-            L"Sketcher.Arc3Points", L"三点圆弧", L":/icons/arc-three-points.svg",
-            L"三点圆弧：单击起点、端点和弧上一点，或键入半径", L"绘图", L"Ctrl+3", workspace),
-        MakeAction<ArcCentreAction>(L"Sketcher.ArcCentre", L"圆心圆弧", L":/icons/arc-centre.svg",
-                                    L"圆心圆弧：单击圆心、起点和端点，或键入圆心角", L"绘图",
-                                    L"Ctrl+4", workspace),
-        {L"Sketcher.Erase",
-         L"删除",
-         L":/icons/erase.svg",
-         L"删除：单击要删除的图元 (Ctrl+E)",
-         L"绘图",
-         L"",
-         L"Ctrl+E",
-         Interactive,
-         Begin<EraseAction>(workspace),
-         {}},
+    std::vector<CommandEntry> entries = {
+        Begin<LineAction>(L"Sketcher.Line", L"直线", workspace)
+            .WithIcon(L"line")
+            .WithToolTip(L"直线：单击或键入长度和角度，逐段绘制")
+            .WithKeys(L"Ctrl+L"),
+        Begin<RectangleAction>(L"Sketcher.Rectangle", L"矩形", workspace)
+            .WithIcon(L"rectangle")
+            .WithToolTip(L"矩形：单击两个对角点，或键入宽度和高度")
+            .WithKeys(L"Ctrl+R"),
+        Begin<CircleAction>(L"Sketcher.Circle", L"圆", workspace)
+            .WithIcon(L"circle")
+            .WithToolTip(L"圆：单击圆心和圆上一点，或键入半径")
+            .WithKeys(L"Ctrl+I"),
+        Begin<ArcThreePointsAction>(L"Sketcher.Arc3Points", L"三点圆弧", workspace)
+            .WithIcon(L"arc-three-points")
+            .WithToolTip(L"三点圆弧：单击起点、端点和弧上一点，或键入半径")
+            .WithKeys(L"Ctrl+3"),
+        Begin<ArcCentreAction>(L"Sketcher.ArcCentre", L"圆心圆弧", workspace)
+            .WithIcon(L"arc-centre")
+            .WithToolTip(L"圆心圆弧：单击圆心、起点和端点，或键入圆心角")
+            .WithKeys(L"Ctrl+4"),
+        Begin<EraseAction>(L"Sketcher.Erase", L"删除", workspace)
+            .WithIcon(L"erase")
+            .WithToolTip(L"删除：单击要删除的图元")
+            .WithKeys(L"Ctrl+E"),
     };
+    for (CommandEntry& entry : entries)
+        entry.InGroup(L"绘图");
+    return entries;
+}
+
+CommandEntry MakePropertyCommand(Sketch& sketch)
+{
+    CommandEntry entry;
+    entry.id = EntityEdit::CommandId;
+    entry.caption = L"设置特性";
+    entry.execute = [&sketch](IUiView*, const CommandParameters& parameters) -> OwnerPtr<IAction> {
+        SetProperty(sketch, parameters);
+        return nullptr;
+    };
+    return entry;
 }
 
 std::vector<CommandEntry> MakeEditCommands(Workspace& workspace)
 {
     Sketch& sketch = workspace.sketch;
     return {
-        {L"Sketcher.Undo", L"撤销", L":/icons/undo.svg", L"撤销上一步 (Ctrl+Z)", L"编辑", L"",
-         L"Ctrl+Z", Plain, Do([&sketch] { Undo(sketch); }), [&sketch] { return sketch.CanUndo(); }},
-        MakeAction<RotateAction>(L"Sketcher.Rotate", L"旋转", L":/icons/rotate.svg",
-                                 L"旋转：将所选图元绕一点转到另一方向，或键入角度", L"编辑",
-                                 L"Ctrl+T", workspace),
-        {EntityEdit::CommandId,
-         L"设置特性",
-         L"",
-         L"",
-         L"",
-         L"",
-         L"",
-         Plain,
-         [&sketch](IUiView*, const CommandParameters& parameters) -> OwnerPtr<IAction> {
-             SetProperty(sketch, parameters);
-             return nullptr;
-         },
-         {}},
+        CommandEntry::Plain(L"Sketcher.Undo", L"撤销", [&sketch] { Undo(sketch); })
+            .WithIcon(L"undo")
+            .WithToolTip(L"撤销上一步")
+            .WithKeys(L"Ctrl+Z")
+            .InGroup(L"编辑")
+            .EnabledWhile([&sketch] { return sketch.CanUndo(); }),
+        Begin<RotateAction>(L"Sketcher.Rotate", L"旋转", workspace)
+            .WithIcon(L"rotate")
+            .WithToolTip(L"旋转：将所选图元绕一点转到另一方向，或键入角度")
+            .WithKeys(L"Ctrl+T")
+            .InGroup(L"编辑"),
+        MakePropertyCommand(sketch),
     };
 }
 
 CommandEntry MakeKeyStripCommand(DimensionInputController& input)
 {
-    return {L"Sketcher.KeyStrip",
-            L"按键提示",
-            L":/icons/key-strip.svg",
-            L"键入数值时显示或隐藏按键提示",
-            L"视图",
-            L"",
-            L"",
-            Plain,
-            Do([&input] { input.SetKeyStripShown(!input.IsKeyStripShown()); }),
-            {}};
+    return CommandEntry::Plain(L"Sketcher.KeyStrip", L"按键提示",
+                               [&input] { input.SetKeyStripShown(!input.IsKeyStripShown()); })
+        .WithIcon(L"key-strip")
+        .WithToolTip(L"键入数值时显示或隐藏按键提示")
+        .InGroup(L"视图");
+}
+
+CommandEntry MakeScaleCommand(int percent, SketchView& view)
+{
+    const std::wstring number = std::to_wstring(percent);
+    return CommandEntry::Plain(ZoomMenu::ScaleId + (L"." + number), number + L"%",
+                               [&view, percent] { view.SetPixelsPerUnit(percent / 100.0); })
+        .WithToolTip(L"按 " + number + L"% 显示")
+        .InMenu(ZoomMenu::ScaleId);
 }
 
 std::vector<CommandEntry> MakeZoomCommands(const Sketch& sketch, SketchView& view)
 {
     constexpr double ZoomStep = 2.0;
     std::vector<CommandEntry> entries = {
-        {L"Sketcher.ZoomAll", L"全部", L":/icons/zoom-all.svg", L"缩放到全部图元 (Ctrl+0)", L"视图",
-         ZoomMenu::Id, L"Ctrl+0", Plain, Do([&view] { view.ZoomAll(); }),
-         [&sketch] { return !sketch.GetEntities().empty(); }},
-        {L"Sketcher.Zoom.Window",
-         L"窗口",
-         L":/icons/zoom-window.svg",
-         L"缩放到两个角点之间",
-         L"",
-         ZoomMenu::Id,
-         L"",
-         Interactive,
-         Begin<ZoomWindowAction>(view),
-         {}},
-        {L"Sketcher.Zoom.In",
-         L"放大",
-         L":/icons/zoom-in.svg",
-         L"放大一倍",
-         L"",
-         ZoomMenu::Id,
-         L"",
-         Plain,
-         Do([&view] { view.Magnify(ZoomStep); }),
-         {}},
-        {L"Sketcher.Zoom.Out",
-         L"缩小",
-         L":/icons/zoom-out.svg",
-         L"缩小一半",
-         L"",
-         ZoomMenu::Id,
-         L"",
-         Plain,
-         Do([&view] { view.Magnify(1.0 / ZoomStep); }),
-         {}},
+        CommandEntry::Plain(L"Sketcher.ZoomAll", L"全部", [&view] { view.ZoomAll(); })
+            .WithIcon(L"zoom-all")
+            .WithToolTip(L"缩放到全部图元")
+            .WithKeys(L"Ctrl+0")
+            .InGroup(L"视图")
+            .InMenu(ZoomMenu::Id)
+            .EnabledWhile([&sketch] { return !sketch.GetEntities().empty(); }),
+        Begin<ZoomWindowAction>(L"Sketcher.Zoom.Window", L"窗口", view)
+            .WithIcon(L"zoom-window")
+            .WithToolTip(L"缩放到两个角点之间")
+            .InMenu(ZoomMenu::Id),
+        CommandEntry::Plain(L"Sketcher.Zoom.In", L"放大", [&view] { view.Magnify(ZoomStep); })
+            .WithIcon(L"zoom-in")
+            .WithToolTip(L"放大一倍")
+            .InMenu(ZoomMenu::Id),
+        CommandEntry::Plain(L"Sketcher.Zoom.Out", L"缩小",
+                            [&view] { view.Magnify(1.0 / ZoomStep); })
+            .WithIcon(L"zoom-out")
+            .WithToolTip(L"缩小一半")
+            .InMenu(ZoomMenu::Id),
     };
     for (const int percent : {25, 50, 100, 200, 400, 1000})
-    {
-        const std::wstring number = std::to_wstring(percent);
-        entries.push_back({ZoomMenu::ScaleId + (L"." + number),
-                           number + L"%",
-                           L"",
-                           L"按 " + number + L"% 显示",
-                           L"",
-                           ZoomMenu::ScaleId,
-                           L"",
-                           Plain,
-                           Do([&view, percent] { view.SetPixelsPerUnit(percent / 100.0); }),
-                           {}});
-    }
+        entries.push_back(MakeScaleCommand(percent, view));
     return entries;
 }
 

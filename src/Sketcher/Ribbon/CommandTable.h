@@ -1,8 +1,7 @@
 #pragma once
 
-#include "Command/Command.h"
+#include "Ribbon/CommandEntry.h"
 
-#include <string>
 #include <vector>
 
 class SketchView;
@@ -12,23 +11,6 @@ namespace vesk
 {
 class DimensionInputController;
 }
-
-/// One command of the program: where it is shown, and what is done.
-struct CommandEntry
-{
-    std::wstring id;
-    std::wstring caption;
-    std::wstring iconPath;
-    std::wstring toolTip;
-
-    std::wstring group; ///< The ribbon group that holds its button; empty for none.
-    std::wstring menu;  ///< The menu or sub-menu that holds an entry for it; empty for none.
-    std::wstring keys;  ///< Shortcut of the button, as "Ctrl+Z".
-
-    vesk::Command::Kind kind = vesk::Command::Kind::Plain;
-    vesk::Command::Execution execute;
-    vesk::Command::Condition isEnabled; ///< Without one the command is always enabled.
-};
 
 /// All commands, in the order of the ribbon and of the menus. The arguments outlive the commands'
 /// execution.

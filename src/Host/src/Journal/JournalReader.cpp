@@ -2,7 +2,7 @@
 
 #include "Dimension/InputField.h"
 #include "Foundation/Text.h"
-#include "Journal/LocaleFreeJson.h"
+#include "Journal/StrictJson.h"
 
 #include <algorithm>
 #include <cstdint>

@@ -9,10 +9,6 @@ namespace vesk
 
 /// Reads one JSON value. False when the text (UTF-8) is none, holds a number beyond the doubles or
 /// a key twice in one object, or is nested more deeply than anybody means it; `error` then says so.
-///
-/// The JSON library reads real numbers with the C library, which takes the locale's decimal point
-/// for a point. This one takes none but the point, and gives the double nearest to what was
-/// written.
 bool ParseJson(const std::string& text, nlohmann::ordered_json& value, std::string& error);
 
 }

@@ -1,0 +1,15 @@
+#include "Platform/UtcCalendar.h"
+
+#include <time.h>
+
+namespace vesk
+{
+
+std::tm ToUtc(std::time_t time)
+{
+    std::tm utc{};
+    gmtime_s(&utc, &time);
+    return utc;
+}
+
+}

@@ -1,0 +1,71 @@
+#include "Ribbon/CommandEntry.h"
+
+#include "Command/IAction.h"
+#include "Journal/CommandParameters.h"
+
+using namespace vesk;
+
+CommandEntry CommandEntry::Plain(const std::wstring& id, const std::wstring& caption,
+                                 const std::function<void()>& function)
+{
+    CommandEntry entry;
+    entry.id = id;
+    entry.caption = caption;
+    entry.execute = [function](IUiView*, const CommandParameters&) -> OwnerPtr<IAction> {
+        function();
+        return nullptr;
+    };
+    return entry;
+}
+
+CommandEntry CommandEntry::Interactive(const std::wstring& id, const std::wstring& caption,
+                                       const std::function<OwnerPtr<IAction>()>& begin)
+{
+    CommandEntry entry;
+    entry.id = id;
+    entry.caption = caption;
+    entry.kind = Command::Kind::Interactive;
+    entry.execute = [begin](IUiView*, const CommandParameters&) { return begin(); };
+    return entry;
+}
+
+CommandEntry& CommandEntry::WithIcon(const std::wstring& name)
+{
+    iconPath = L":/icons/" + name + L".svg";
+    return *this;
+}
+
+CommandEntry& CommandEntry::WithToolTip(const std::wstring& text)
+{
+    toolTip = text;
+    return *this;
+}
+
+CommandEntry& CommandEntry::WithKeys(const std::wstring& sequence)
+{
+    keys = sequence;
+    return *this;
+}
+
+CommandEntry& CommandEntry::InGroup(const std::wstring& groupCaption)
+{
+    group = groupCaption;
+    return *this;
+}
+
+CommandEntry& CommandEntry::InMenu(const std::wstring& menuId)
+{
+    menu = menuId;
+    return *this;
+}
+
+CommandEntry& CommandEntry::EnabledWhile(const Command::Condition& condition)
+{
+    isEnabled = condition;
+    return *this;
+}
+
+std::wstring CommandEntry::GetToolTip() const
+{
+    return keys.empty() ? toolTip : toolTip + L" (" + keys + L")";
+}
