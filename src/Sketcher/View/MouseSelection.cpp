@@ -5,6 +5,7 @@
 #include "Model/Workspace.h"
 
 #include "HostUi/DrawingView.h"
+#include "HostUi/ViewPixel.h"
 
 #include <QApplication>
 #include <QPainter>
@@ -14,20 +15,6 @@
 #include <vector>
 
 using namespace vesk;
-
-namespace
-{
-
-QPointF PixelOf(const DrawingView& view, const Vector3d& world)
-{
-    double x = 0.0;
-    double y = 0.0;
-    double depth = 0.0;
-    view.GetCamera().WorldToScreen(world, x, y, depth);
-    return {x, y};
-}
-
-}
 
 MouseSelection::MouseSelection(Workspace& workspace, const DrawingView& view)
     : m_workspace(workspace), m_view(view)
@@ -70,8 +57,9 @@ void MouseSelection::Paint(QPainter& painter) const
     painter.save();
     painter.setPen(QPen(colour, 1.0, isWindow ? Qt::SolidLine : Qt::DashLine));
     painter.setBrush(fill);
-    painter.drawRect(
-        QRectF(PixelOf(m_view, m_press->start), PixelOf(m_view, m_press->cursor)).normalized());
+    painter.drawRect(QRectF(ToPixel(m_view.GetCamera(), m_press->start),
+                            ToPixel(m_view.GetCamera(), m_press->cursor))
+                         .normalized());
     painter.restore();
 }
 

@@ -5,6 +5,7 @@
 #include "View/ArcPainter.h"
 #include "View/LinePainter.h"
 
+#include "HostUi/ViewPixel.h"
 #include "View/IModelView.h"
 
 #include <QPen>
@@ -12,19 +13,11 @@
 #include <cmath>
 
 using vesk::IModelView;
+using vesk::ToPixel;
 using vesk::Vector3d;
 
 namespace
 {
-
-QPointF ToPixel(const IModelView& modelView, const Vector3d& world)
-{
-    double x = 0.0;
-    double y = 0.0;
-    double depth = 0.0;
-    modelView.WorldToScreen(world, x, y, depth);
-    return {x, y};
-}
 
 /// An arc of the drawing plane, seen from above.
 ScreenArc ToScreen(const IModelView& modelView, const ArcShape& arc)

@@ -72,9 +72,12 @@ void DimensionDrawing::AddArc(const PlaneVector& from, double radius, double swe
         IGraphicsArc::Create(m_origin, xAxis, yAxis, radius * m_pixel, sweep, m_role));
 }
 
-void DimensionDrawing::AddArrow(const PlaneVector& tip, const PlaneVector& direction, double size)
+void DimensionDrawing::AddArrow(const PlaneVector& tip, const PlaneVector& direction, double length)
 {
     constexpr double Slenderness = 0.35;
+    constexpr double Pixels = 8.0;
+    constexpr double GreatestPart = 1.0 / 3;
+    const double size = std::min(Pixels, GreatestPart * length);
     const PlaneVector back = tip - size * direction;
     const PlaneVector side = size * Slenderness * TurnLeft(direction);
     AddLine(tip, back + side);

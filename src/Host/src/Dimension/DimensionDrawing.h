@@ -41,8 +41,9 @@ public:
     /// Adds an arc about the origin, from a unit vector by `sweep` radians.
     void AddArc(const PlaneVector& from, double radius, double sweep);
 
-    /// Adds an arrow head that points along a unit vector.
-    void AddArrow(const PlaneVector& tip, const PlaneVector& direction, double size);
+    /// Adds an arrow head that points along a unit vector, smaller than others on a short line or
+    /// arc, whose length is `length`.
+    void AddArrow(const PlaneVector& tip, const PlaneVector& direction, double length);
 
     /// Adds the text, unless it is being typed: the editor then stands in its place.
     void AddText(const Vector3d& position, const std::wstring& text);

@@ -4,6 +4,7 @@
 #include "View/IModelView.h"
 #include "View/IUiDocumentViewManager.h"
 #include "View/IUiView.h"
+#include "View/UiViewUtility.h"
 
 #include <Eigen/LU>
 
@@ -136,10 +137,7 @@ bool EditorPlacement::Obstacle::Holds(const Pixel& pixel) const
 
 EditorPlacement::Pixel EditorPlacement::ToPixel(const Vector3d& world) const
 {
-    Pixel pixel;
-    double depth = 0.0;
-    m_pModelView->WorldToScreen(world, pixel.x(), pixel.y(), depth);
-    return pixel;
+    return UiViewUtility::ToPixel(*m_pModelView, world);
 }
 
 /// The point of the plane that the view shows at `pixel`; in a plane seen from its edge, near it.

@@ -12,11 +12,7 @@ namespace
 {
 
 // In pixels.
-constexpr double s_arrowSize = 8.0;
 constexpr double s_shortLength = 24.0;
-
-/// The part of a short radius that its arrow may take.
-constexpr double s_arrowPart = 1.0 / 3;
 
 /// From the centre; without a radius the x axis.
 PlaneVector DirectionOf(const RadiusLeader& leader)
@@ -38,7 +34,7 @@ void DrawRadiusLeader(const RadiusLeader& leader, DimensionDrawing& drawing)
     const PlaneVector start =
         leader.isWhole ? leader.centre : PlaneVector(leader.tip - length * direction);
     drawing.AddLine(start, leader.tip);
-    drawing.AddArrow(leader.tip, direction, std::min(s_arrowSize, s_arrowPart * radius));
+    drawing.AddArrow(leader.tip, direction, radius);
 }
 
 std::vector<Vector3d> GetRadiusPlaces(const RadiusLeader& leader, const EditorPlacement& placement,

@@ -12,13 +12,9 @@ namespace
 {
 
 // In pixels.
-constexpr double s_arrowSize = 8.0;
 constexpr double s_leastOffset = 28.0;
 constexpr double s_extensionGap = 4.0;
 constexpr double s_extensionOvershoot = 6.0;
-
-/// The arrows take no more than this part of a short dimension line each.
-constexpr double s_arrowPart = 1.0 / 3;
 
 /// How far the dimension line and the text are from the side.
 struct Offsets
@@ -66,9 +62,8 @@ void Draw(const MeasuredSide& side, double offset, DimensionDrawing& drawing)
     drawing.AddLine(start, end);
 
     const PlaneVector direction = (side.end - side.start) / length;
-    const double arrowSize = std::min(s_arrowSize, s_arrowPart * length);
-    drawing.AddArrow(start, -direction, arrowSize);
-    drawing.AddArrow(end, direction, arrowSize);
+    drawing.AddArrow(start, -direction, length);
+    drawing.AddArrow(end, direction, length);
 }
 
 }

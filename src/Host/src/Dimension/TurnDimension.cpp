@@ -15,13 +15,11 @@ namespace
 {
 
 // In pixels.
-constexpr double s_arrowSize = 8.0;
 constexpr double s_arcRadius = 60.0;
 constexpr double s_sideOvershoot = 12.0;
 
-/// The part of its sides that the arc may take, and the part of the arc that an arrow may.
+/// The part of its sides that the arc may take.
 constexpr double s_arcPart = 0.6;
-constexpr double s_arrowPart = 1.0 / 3;
 
 /// Below this angle no text has room between the two sides.
 constexpr double s_narrowRadians = 0.7;
@@ -61,11 +59,10 @@ void DrawTurn(const Turn& turn, TurnArrows arrows, DimensionDrawing& drawing)
         return;
     drawing.AddArc(turn.from, turn.radius, turn.radians);
     const double sense = turn.radians > 0.0 ? 1.0 : -1.0;
-    const double arrowSize = std::min(s_arrowSize, s_arrowPart * length);
     const PlaneVector end = DirectionAt(turn, turn.radians);
-    drawing.AddArrow(turn.radius * end, sense * TurnLeft(end), arrowSize);
+    drawing.AddArrow(turn.radius * end, sense * TurnLeft(end), length);
     if (arrows == TurnArrows::Both)
-        drawing.AddArrow(turn.radius * turn.from, -sense * TurnLeft(turn.from), arrowSize);
+        drawing.AddArrow(turn.radius * turn.from, -sense * TurnLeft(turn.from), length);
 }
 
 std::vector<Vector3d> GetTurnPlaces(const Turn& turn, const EditorPlacement& placement,

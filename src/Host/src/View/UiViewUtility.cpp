@@ -30,6 +30,14 @@ T Saturate(double value)
 
 }
 
+Eigen::Vector2d UiViewUtility::ToPixel(const IModelView& modelView, const Vector3d& world)
+{
+    Eigen::Vector2d pixel;
+    double depth = 0.0;
+    modelView.WorldToScreen(world, pixel.x(), pixel.y(), depth);
+    return pixel;
+}
+
 void UiViewUtility::WorldPositionToScreenPosition(const IUiView* pView, const Vector3d& world,
                                                   int& x, int& y, float& depth)
 {

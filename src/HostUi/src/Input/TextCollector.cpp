@@ -2,6 +2,7 @@
 
 #include "Dimension/TemporaryDimensionMgr.h"
 #include "HostUi/QtText.h"
+#include "HostUi/ViewPixel.h"
 #include "View/IModelView.h"
 #include "View/IUiView.h"
 
@@ -33,12 +34,8 @@ void TextCollector::Visit(const IGraphicsText& text)
 QRectF TextCollector::BoxOf(const IGraphicsText& text) const
 {
     constexpr double Padding = 3.0;
-    double x = 0.0;
-    double y = 0.0;
-    double depth = 0.0;
-    m_modelView.WorldToScreen(text.GetPosition(), x, y, depth);
     QRectF box = m_metrics.boundingRect(ToQString(text.GetText()));
-    box.moveCenter({x, y});
+    box.moveCenter(ToPixel(m_modelView, text.GetPosition()));
     return box.adjusted(-Padding, -1.0, Padding, 1.0);
 }
 

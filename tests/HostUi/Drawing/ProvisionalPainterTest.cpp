@@ -1,4 +1,4 @@
-#include "View/ProvisionalPainter.h"
+#include "Drawing/ProvisionalPainter.h"
 
 #include "Support/HostValues.h"
 #include "Support/TestValues.h"

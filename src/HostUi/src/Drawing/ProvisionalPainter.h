@@ -23,7 +23,6 @@ public:
     void Visit(const IGraphicsText& text) override;
 
 private:
-    QPointF ToPixel(const Vector3d& world) const;
     void SetPen(GraphicsRole role);
 
     QPainter& m_painter;

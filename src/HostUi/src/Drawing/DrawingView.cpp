@@ -4,9 +4,10 @@
 #include "Command/IAction.h"
 #include "Command/IActionManager.h"
 #include "Dimension/TemporaryDimensionMgr.h"
+#include "Drawing/ProvisionalPainter.h"
 #include "HostUi/DimensionInputController.h"
 #include "HostUi/QtText.h"
-#include "View/ProvisionalPainter.h"
+#include "HostUi/ViewPixel.h"
 
 #include <QKeyEvent>
 #include <QPainter>
@@ -94,11 +95,7 @@ void DrawingView::TellCursor()
 
 QPointF DrawingView::ToPixel(const Vector3d& world) const
 {
-    double x = 0.0;
-    double y = 0.0;
-    double depth = 0.0;
-    m_camera.WorldToScreen(world, x, y, depth);
-    return {x, y};
+    return vesk::ToPixel(m_camera, world);
 }
 
 void DrawingView::UpdateModel()

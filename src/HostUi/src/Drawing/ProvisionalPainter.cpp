@@ -1,6 +1,7 @@
-#include "View/ProvisionalPainter.h"
+#include "Drawing/ProvisionalPainter.h"
 
 #include "HostUi/QtText.h"
+#include "HostUi/ViewPixel.h"
 #include "Input/TextCollector.h"
 #include "View/IModelView.h"
 
@@ -56,7 +57,7 @@ ProvisionalPainter::ProvisionalPainter(QPainter& painter, const IModelView& mode
 void ProvisionalPainter::Visit(const IGraphicsLine& line)
 {
     SetPen(line.GetRole());
-    m_painter.drawLine(ToPixel(line.GetStart()), ToPixel(line.GetEnd()));
+    m_painter.drawLine(ToPixel(m_modelView, line.GetStart()), ToPixel(m_modelView, line.GetEnd()));
 }
 
 void ProvisionalPainter::Visit(const IGraphicsArc& arc)
@@ -66,7 +67,8 @@ void ProvisionalPainter::Visit(const IGraphicsArc& arc)
     for (int i = 0; i <= steps; ++i)
     {
         const double angle = arc.GetSweep() * i / steps;
-        points << ToPixel(arc.GetCentre() + arc.GetRadius() * (std::cos(angle) * arc.GetXAxis() +
+        points << ToPixel(m_modelView,
+                          arc.GetCentre() + arc.GetRadius() * (std::cos(angle) * arc.GetXAxis() +
                                                                std::sin(angle) * arc.GetYAxis()));
     }
     SetPen(arc.GetRole());
@@ -79,15 +81,6 @@ void ProvisionalPainter::Visit(const IGraphicsText& text)
     m_painter.fillRect(box, m_palette.color(QPalette::Base));
     SetPen(text.GetRole());
     m_painter.drawText(box, Qt::AlignCenter, ToQString(text.GetText()));
-}
-
-QPointF ProvisionalPainter::ToPixel(const Vector3d& world) const
-{
-    double x = 0.0;
-    double y = 0.0;
-    double depth = 0.0;
-    m_modelView.WorldToScreen(world, x, y, depth);
-    return {x, y};
 }
 
 void ProvisionalPainter::SetPen(GraphicsRole role)
