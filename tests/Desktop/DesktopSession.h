@@ -1,10 +1,10 @@
 #pragma once
 
 #include "Desktop/ChildProcess.h"
-#include "Desktop/DrawnLine.h"
 #include "Desktop/InputDriver.h"
 #include "Desktop/Polling.h"
 #include "Desktop/UiTree.h"
+#include "Support/DrawnLine.h"
 
 #include <QMap>
 #include <QTemporaryDir>

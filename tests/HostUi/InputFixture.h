@@ -10,6 +10,7 @@
 #include "Dimension/LinearTemporaryDimensionContext.h"
 #include "Dimension/RadiusTemporaryDimensionContext.h"
 #include "Support/HostFixture.h"
+#include "Support/IdleAction.h"
 
 #include <QCoreApplication>
 #include <QLabel>
@@ -44,7 +45,7 @@ inline OwnerPtr<ITemporaryDimensionContext> MakeCentralAngle()
 using Refuse = std::function<std::wstring(InputState field, double value)>;
 
 /// An action that does nothing but show dimensions, and refuse values.
-class DimensionAction final : public IAction
+class DimensionAction final : public IdleAction
 {
 public:
     DimensionAction(const ContextMaker& makeContext, const Refuse& refuse,
@@ -52,10 +53,6 @@ public:
         : m_makeContext(makeContext), m_refuse(refuse), m_freed(freed)
     {}
 
-    std::wstring GetViewText() const override { return {}; }
-    void OnBegin(IUiView*) override {}
-    void OnMouseMove(const Vector3d&) override {}
-    void OnClick(const Vector3d&) override {}
     std::wstring GetRefusal(InputState field, double value) override
     {
         return m_refuse ? m_refuse(field, value) : std::wstring();
@@ -65,7 +62,6 @@ public:
         return m_makeContext();
     }
     void OnValueFreed(InputState field) override { m_freed.push_back(field); }
-    bool ReplayPoint(const Vector3d&, const std::optional<int>&) override { return false; }
 
 private:
     ContextMaker m_makeContext;

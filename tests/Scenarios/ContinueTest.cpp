@@ -303,7 +303,7 @@ private:
         return options;
     }
 
-    QVector<DrawnLine> Model() const { return ReadModel(m_pFixture->File("model")); }
+    QVector<DrawnLine> Model() const { return ReadLines(m_pFixture->File("model")); }
 
     QByteArray ReplayedModel(const QString& journal) const
     {

@@ -120,7 +120,7 @@ private slots:
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
         QCOMPARE(Selected(), Selections());
-        QCOMPARE(ReadModel(m_pFixture->File("model")).size(), 3);
+        QCOMPARE(ReadLines(m_pFixture->File("model")).size(), 3);
     }
 
     void lostReleaseEndsTheDrag()
@@ -166,7 +166,7 @@ private slots:
         user.Drag(-50, -50, 50, 50).ChooseItem("Sketcher.LineStyle", 1);
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
-        const QVector<DrawnLine> lines = ReadModel(m_pFixture->File("model"));
+        const QVector<DrawnLine> lines = ReadLines(m_pFixture->File("model"));
         QCOMPARE(lines.size(), 3);
         QCOMPARE(lines[0].style + ' ' + lines[0].colour, QString("dashed red"));
         QCOMPARE(lines[1].style + ' ' + lines[1].colour, QString("solid red"));

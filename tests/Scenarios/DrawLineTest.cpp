@@ -128,10 +128,10 @@ private slots:
         user.Press(Qt::Key_Return).Press(Qt::Key_Escape);
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
-        const QVector<DrawnLine> lines = ReadModel(m_pFixture->File("model"));
+        const QVector<DrawnLine> lines = ReadLines(m_pFixture->File("model"));
         QCOMPARE(lines.size(), 1);
-        QVERIFY(qAbs(lines[0].Length() - length.toDouble()) <= Tolerance);
-        QVERIFY(qAbs(lines[0].Angle() - angle.toDouble()) <= Tolerance);
+        QVERIFY(qAbs(lines[0].GetLength() - length.toDouble()) <= Tolerance);
+        QVERIFY(qAbs(lines[0].GetAngle() - angle.toDouble()) <= Tolerance);
     }
 
     void lengthAloneFollowsTheCursor()
@@ -141,10 +141,10 @@ private slots:
         user.Click(s_line).ClickAt(0, 0).MoveTo(60, 80).Type("50").Press(Qt::Key_Return);
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
-        const QVector<DrawnLine> lines = ReadModel(m_pFixture->File("model"));
+        const QVector<DrawnLine> lines = ReadLines(m_pFixture->File("model"));
         QCOMPARE(lines.size(), 1);
-        QVERIFY(qAbs(lines[0].Way(0) - 30.0) <= Tolerance);
-        QVERIFY(qAbs(lines[0].Way(1) - 40.0) <= Tolerance);
+        QVERIFY(qAbs(lines[0].GetWay(0) - 30.0) <= Tolerance);
+        QVERIFY(qAbs(lines[0].GetWay(1) - 40.0) <= Tolerance);
     }
 
     void lengthTypedBeforeTheMouseMovedRunsAlongX()
@@ -154,9 +154,9 @@ private slots:
         user.Click(s_line).ClickAt(10, 20).Type("12.5").Press(Qt::Key_Return);
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
-        const QVector<DrawnLine> lines = ReadModel(m_pFixture->File("model"));
+        const QVector<DrawnLine> lines = ReadLines(m_pFixture->File("model"));
         QCOMPARE(lines.size(), 1);
-        QCOMPARE(lines[0].Length(), 12.5);
+        QCOMPARE(lines[0].GetLength(), 12.5);
         QCOMPARE(lines[0].end[1], lines[0].start[1]);
     }
 
@@ -169,11 +169,11 @@ private slots:
         user.ClickAt(100, 100);
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
-        const QVector<DrawnLine> lines = ReadModel(m_pFixture->File("model"));
+        const QVector<DrawnLine> lines = ReadLines(m_pFixture->File("model"));
         QCOMPARE(lines.size(), 3);
         QCOMPARE(lines[1].start, lines[0].end);
         QCOMPARE(lines[2].start, lines[1].end);
-        QCOMPARE(lines[1].Way(1), 20.0);
+        QCOMPARE(lines[1].GetWay(1), 20.0);
     }
 
     void refusedTextStaysSelectedUntilTheNextKey_data()
@@ -206,9 +206,9 @@ private slots:
         user.Press(Qt::Key_Return);
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
-        const QVector<DrawnLine> lines = ReadModel(m_pFixture->File("model"));
+        const QVector<DrawnLine> lines = ReadLines(m_pFixture->File("model"));
         QCOMPARE(lines.size(), 1);
-        QCOMPARE(lines[0].Length(), 7.0);
+        QCOMPARE(lines[0].GetLength(), 7.0);
     }
 
     void emptyTextIsRefused()
@@ -219,7 +219,7 @@ private slots:
         user.Press(Qt::Key_Return).Do([] { QVERIFY(IsInputting()); });
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
-        QCOMPARE(ReadModel(m_pFixture->File("model")).size(), 0);
+        QCOMPARE(ReadLines(m_pFixture->File("model")).size(), 0);
     }
 
     void escapeInTheEditorEndsOnlyTheInput()
@@ -234,7 +234,7 @@ private slots:
         user.Press(Qt::Key_Escape).Until([] { return IsRunning(L""); });
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
-        QCOMPARE(ReadModel(m_pFixture->File("model")).size(), 0);
+        QCOMPARE(ReadLines(m_pFixture->File("model")).size(), 0);
     }
 
     void heldEscapeCountsOnceEvenWhereTheRepetitionIsTorn()
@@ -308,10 +308,10 @@ private slots:
         user.MoveTo(60, 80).MoveTo(-30, 40).ClickAt(-30, 40);
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
-        const QVector<DrawnLine> lines = ReadModel(m_pFixture->File("model"));
+        const QVector<DrawnLine> lines = ReadLines(m_pFixture->File("model"));
         QCOMPARE(lines.size(), 1);
-        QVERIFY(qAbs(lines[0].Length() - 50.0) <= Tolerance);
-        QVERIFY(lines[0].Way(0) < 0.0);
+        QVERIFY(qAbs(lines[0].GetLength() - 50.0) <= Tolerance);
+        QVERIFY(lines[0].GetWay(0) < 0.0);
     }
 
     void mouseMovesLeaveTheTypedTextAlone()
@@ -324,9 +324,9 @@ private slots:
         user.Press(Qt::Key_Return);
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
-        const QVector<DrawnLine> lines = ReadModel(m_pFixture->File("model"));
+        const QVector<DrawnLine> lines = ReadLines(m_pFixture->File("model"));
         QCOMPARE(lines.size(), 1);
-        QVERIFY(qAbs(lines[0].Way(1) + 42.125) <= Tolerance);
+        QVERIFY(qAbs(lines[0].GetWay(1) + 42.125) <= Tolerance);
     }
 
     void clickTakesWhatIsTyped()
@@ -336,9 +336,9 @@ private slots:
         user.Click(s_line).ClickAt(0, 0).Type("25").ClickAt(0, 100);
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
-        const QVector<DrawnLine> lines = ReadModel(m_pFixture->File("model"));
+        const QVector<DrawnLine> lines = ReadLines(m_pFixture->File("model"));
         QCOMPARE(lines.size(), 1);
-        QVERIFY(qAbs(lines[0].Way(1) - 25.0) <= Tolerance);
+        QVERIFY(qAbs(lines[0].GetWay(1) - 25.0) <= Tolerance);
     }
 
     void undoInsideTheActionGoesBackOneSegment()
@@ -349,10 +349,10 @@ private slots:
         user.Click("Sketcher.Undo").ClickAt(90, 90);
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
-        const QVector<DrawnLine> lines = ReadModel(m_pFixture->File("model"));
+        const QVector<DrawnLine> lines = ReadLines(m_pFixture->File("model"));
         QCOMPARE(lines.size(), 2);
         QCOMPARE(lines[1].start, lines[0].end);
-        QCOMPARE(lines[1].Way(0), 40.0);
+        QCOMPARE(lines[1].GetWay(0), 40.0);
     }
 
     void pickedLineIsErased()
@@ -363,9 +363,9 @@ private slots:
         user.Click(s_erase).ClickAt(50, 4);
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
-        const QVector<DrawnLine> lines = ReadModel(m_pFixture->File("model"));
+        const QVector<DrawnLine> lines = ReadLines(m_pFixture->File("model"));
         QCOMPARE(lines.size(), 1);
-        QCOMPARE(lines[0].Way(1), 100.0);
+        QCOMPARE(lines[0].GetWay(1), 100.0);
     }
 
     void buttonIsCheckedWhileItsActionRuns()
@@ -390,7 +390,7 @@ private slots:
         user.Until([] { return ScriptedUser::FindButton(s_line)->isChecked(); });
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
-        const QVector<DrawnLine> lines = ReadModel(m_pFixture->File("model"));
+        const QVector<DrawnLine> lines = ReadLines(m_pFixture->File("model"));
         QCOMPARE(lines.size(), 1);
         QCOMPARE(lines[0].start[0], 10.0);
     }
@@ -418,7 +418,7 @@ private slots:
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
         QVERIFY2(highest - lowest < OneFrame, qPrintable(QString::number(highest - lowest)));
-        QCOMPARE(ReadModel(m_pFixture->File("model")).size(), 1);
+        QCOMPARE(ReadLines(m_pFixture->File("model")).size(), 1);
     }
 
 private:

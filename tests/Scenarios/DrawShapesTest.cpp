@@ -174,10 +174,10 @@ private slots:
         user.Click("Sketcher.Undo");
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
-        const QVector<DrawnLine> lines = ReadModel(m_pFixture->File("model"));
+        const QVector<DrawnLine> lines = ReadLines(m_pFixture->File("model"));
         QCOMPARE(lines.size(), 2);
-        QCOMPARE(lines[0].Way(0), 100.0);
-        QCOMPARE(lines[1].Way(1), 0.0);
+        QCOMPARE(lines[0].GetWay(0), 100.0);
+        QCOMPARE(lines[1].GetWay(1), 0.0);
         QCOMPARE(lines[1].start[1] - lines[0].start[1], 80.0);
         VerifyReplay(Journal());
     }
@@ -191,10 +191,10 @@ private slots:
         user.UntilRunning("");
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
-        const QVector<DrawnLine> lines = ReadModel(m_pFixture->File("model"));
+        const QVector<DrawnLine> lines = ReadLines(m_pFixture->File("model"));
         QCOMPARE(lines.size(), 1);
-        QCOMPARE(lines[0].Way(0), -100.0);
-        QCOMPARE(lines[0].Way(1), 0.0);
+        QCOMPARE(lines[0].GetWay(0), -100.0);
+        QCOMPARE(lines[0].GetWay(1), 0.0);
         VerifyReplay(Journal());
     }
 

@@ -7,8 +7,6 @@
 
 #include <QFile>
 
-#include <cmath>
-
 namespace
 {
 
@@ -19,16 +17,6 @@ nlohmann::json EntitiesOf(const QString& path)
     return model.is_discarded() ? nlohmann::json::array() : model["entities"];
 }
 
-}
-
-double DrawnLine::Length() const
-{
-    return std::hypot(Way(0), Way(1), Way(2));
-}
-
-double DrawnLine::Angle() const
-{
-    return std::atan2(Way(1), Way(0)) * 180.0 / std::acos(-1.0);
 }
 
 std::vector<DrawnEntity> ReadEntities(const QString& path)
@@ -44,20 +32,6 @@ std::vector<DrawnEntity> ReadEntities(const QString& path)
                          entity.value("corners", std::vector<DrawnEntity::Point>())});
     }
     return drawn;
-}
-
-QVector<DrawnLine> ReadModel(const QString& path)
-{
-    QVector<DrawnLine> lines;
-    for (const nlohmann::json& entity : EntitiesOf(path))
-    {
-        if (entity["type"] != "line")
-            continue;
-        lines.push_back({entity["start"], entity["end"],
-                         QString::fromStdString(entity["style"].get<std::string>()),
-                         QString::fromStdString(entity["colour"].get<std::string>())});
-    }
-    return lines;
 }
 
 std::vector<vesk::JournalRecord> ReadJournal(const QString& path)

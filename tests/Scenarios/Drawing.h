@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Journal/JournalRecord.h"
+#include "Support/DrawnLine.h"
 
 #include <QString>
 #include <QVector>
@@ -9,21 +10,8 @@
 #include <cstddef>
 #include <vector>
 
-/// A line of a model file.
-struct DrawnLine
-{
-    std::array<double, 3> start;
-    std::array<double, 3> end;
-    QString style;
-    QString colour;
-
-    /// From start to end along an axis: 0 is x.
-    double Way(std::size_t axis) const { return end[axis] - start[axis]; }
-    double Length() const;
-
-    /// In degrees, above -180 up to 180.
-    double Angle() const;
-};
+using vesk::DrawnLine;
+using vesk::ReadLines;
 
 /// An entity of a model file; what its kind does not have is empty.
 struct DrawnEntity
@@ -41,9 +29,6 @@ struct DrawnEntity
 
 /// All entities of a model file; empty when it cannot be read.
 std::vector<DrawnEntity> ReadEntities(const QString& path);
-
-/// The lines of a model file; empty when it cannot be read.
-QVector<DrawnLine> ReadModel(const QString& path);
 
 /// The records of a journal; the test fails when a line of it is bad.
 std::vector<vesk::JournalRecord> ReadJournal(const QString& path);

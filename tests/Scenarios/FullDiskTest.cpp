@@ -295,7 +295,7 @@ private slots:
         QCOMPARE(said.value(1), QStringLiteral("日志未保存|日志文件无法写入，操作没有保存|"
                                                "日志文件无法写入，从现在起所做的操作没有保存"));
         QCOMPARE(said.value(2), QStringLiteral("||日志文件又可写入，缺少的记录已补上"));
-        QVERIFY(ReadModel(m_pFixture->File("model")).size() == 4);
+        QVERIFY(ReadLines(m_pFixture->File("model")).size() == 4);
         const QString replayed = m_pFixture->File("replayed");
         const Outcome replay =
             RunSketcher({"--replay", m_pFixture->File("journal"), "--model", replayed});
@@ -336,7 +336,7 @@ private slots:
 
         QCOMPARE(code, 0);
         QCOMPARE(said, QStringLiteral("日志未保存；面板布局不会保存；警告未记录"));
-        QCOMPARE(ReadModel(m_pFixture->File("model")).size(), 1);
+        QCOMPARE(ReadLines(m_pFixture->File("model")).size(), 1);
         QCOMPARE(named.code, 2);
     }
 
@@ -364,7 +364,7 @@ private slots:
 
         QCOMPARE(outcome.code, 0);
         QCOMPARE(outcome.error, QString());
-        QCOMPARE(ReadModel(model).size(), 4);
+        QCOMPARE(ReadLines(model).size(), 4);
         QVERIFY(ReadFile(picture).startsWith("\x89PNG"));
         QVERIFY(QFileInfo::exists(ScenarioFixture::LayoutFile()));
     }
@@ -378,7 +378,7 @@ private slots:
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
 
-        QCOMPARE(ReadModel(m_pFixture->File("model")).size(), 1);
+        QCOMPARE(ReadLines(m_pFixture->File("model")).size(), 1);
         QVERIFY(ReadFile(m_pFixture->File("journal")).endsWith("\"result\":\"done\"}\n"));
     }
 

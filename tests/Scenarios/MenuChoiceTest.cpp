@@ -176,7 +176,7 @@ private slots:
         QCOMPARE(commands.count("begin " + s_window), 1);
         QVERIFY(commands.indexOf("done " + s_line) >= 0);
         QVERIFY(commands.indexOf("done " + s_line) < commands.indexOf("done " + s_window));
-        QCOMPARE(ReadModel(m_pFixture->File("model")).size(), 0);
+        QCOMPARE(ReadLines(m_pFixture->File("model")).size(), 0);
     }
 
     void whatWasDrawnBeforeIsRepeatedAlike()
@@ -195,7 +195,7 @@ private slots:
             RunSketcher({"--replay", m_pFixture->File("journal"), "--model", replayed});
         QCOMPARE(outcome.code, 0);
         QCOMPARE(outcome.error, QString());
-        QCOMPARE(ReadModel(replayed).size(), 3);
+        QCOMPARE(ReadLines(replayed).size(), 3);
         QCOMPARE(ReadFile(replayed), ReadFile(m_pFixture->File("model")));
     }
 
@@ -345,7 +345,7 @@ private slots:
         QCOMPARE(Commands(), QStringList({"begin " + s_erase, "begin " + s_line, "done " + s_erase,
                                           "begin Sketcher.ZoomAll", "done Sketcher.ZoomAll",
                                           "done " + s_line}));
-        QCOMPARE(ReadModel(m_pFixture->File("model")).size(), 2);
+        QCOMPARE(ReadLines(m_pFixture->File("model")).size(), 2);
     }
 
 private:

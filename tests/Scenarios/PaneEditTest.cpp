@@ -97,7 +97,7 @@ private slots:
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
         QCOMPARE(Records<vesk::CommandRecord>().size(), std::size_t{5});
-        const DrawnLine line = ReadModel(m_pFixture->File("model"))[0];
+        const DrawnLine line = ReadLines(m_pFixture->File("model"))[0];
         QVERIFY(qAbs(line.start[1] + 7.1) < 1e-12);
         VerifyReplay();
     }
@@ -155,7 +155,7 @@ private slots:
         user.ClickAt(50, -60).Press(Qt::Key_Escape).UntilRunning("");
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
-        QCOMPARE(ReadModel(m_pFixture->File("model")).size(), 3);
+        QCOMPARE(ReadLines(m_pFixture->File("model")).size(), 3);
         VerifyReplay();
     }
 
@@ -188,7 +188,7 @@ private slots:
         Enter(user, "length", "30");
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
-        QVERIFY(qAbs(ReadModel(m_pFixture->File("model"))[0].Length() - 300.0) < 1e-9);
+        QVERIFY(qAbs(ReadLines(m_pFixture->File("model"))[0].GetLength() - 300.0) < 1e-9);
         VerifyReplay();
     }
 

@@ -44,7 +44,7 @@ private slots:
         ScriptedUser user;
         DrawSomething(user);
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
-        QVERIFY(!ReadModel(m_pFixture->File("model")).isEmpty());
+        QVERIFY(!ReadLines(m_pFixture->File("model")).isEmpty());
     }
 
     void cleanup()
@@ -105,7 +105,7 @@ private slots:
             QCOMPARE(outcome.code, 0);
             QCOMPARE(outcome.error.trimmed(),
                      QStringLiteral("sketcher: not finished in the journal: Sketcher.Line"));
-            const int drawn = ReadModel(Replayed()).size();
+            const int drawn = ReadLines(Replayed()).size();
             QVERIFY(drawn >= drawnBefore);
             drawnBefore = drawn;
         }

@@ -261,7 +261,7 @@ private slots:
 
 private:
     QString Journal() const { return m_pFixture->File("journal"); }
-    QVector<DrawnLine> Model() const { return ReadModel(m_pFixture->File("model")); }
+    QVector<DrawnLine> Model() const { return ReadLines(m_pFixture->File("model")); }
 
     Selections Selected() const
     {

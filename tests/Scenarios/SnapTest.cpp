@@ -187,9 +187,9 @@ private slots:
         QCOMPARE(lines.size(), 2);
         const double wayX = lines[0].end[0] - lines[1].start[0];
         const double wayY = lines[0].end[1] - lines[1].start[1];
-        QVERIFY(qAbs(lines[1].Length() - 20.0) <= Tolerance);
-        QVERIFY(qAbs(lines[1].Way(0) * wayY - lines[1].Way(1) * wayX) <= Tolerance * 100.0);
-        QVERIFY(lines[1].Way(0) > 0.0);
+        QVERIFY(qAbs(lines[1].GetLength() - 20.0) <= Tolerance);
+        QVERIFY(qAbs(lines[1].GetWay(0) * wayY - lines[1].GetWay(1) * wayX) <= Tolerance * 100.0);
+        QVERIFY(lines[1].GetWay(0) > 0.0);
     }
 
     void snapSwitchedWhileALineIsDrawnHoldsForItsNextPoint()
@@ -206,7 +206,7 @@ private slots:
     }
 
 private:
-    QVector<DrawnLine> Model() const { return ReadModel(m_pFixture->File("model")); }
+    QVector<DrawnLine> Model() const { return ReadLines(m_pFixture->File("model")); }
 
     /// The point records count from 0.
     Point RecordedPoint(std::size_t index) const

@@ -116,7 +116,7 @@ private slots:
         QCOMPARE_EXACTLY(values[0].value, millimetres);
         QCOMPARE(QString::fromStdWString(values[1].text), angle);
         QCOMPARE_EXACTLY(values[1].value, degrees);
-        QCOMPARE(ReadModel(m_pFixture->File("model")).size(), 1);
+        QCOMPARE(ReadLines(m_pFixture->File("model")).size(), 1);
     }
 
     void lineAtThirtyDegreesEndsHalfAsHigh()
@@ -127,9 +127,9 @@ private slots:
         user.Press(Qt::Key_Return);
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
-        const QVector<DrawnLine> lines = ReadModel(m_pFixture->File("model"));
+        const QVector<DrawnLine> lines = ReadLines(m_pFixture->File("model"));
         QCOMPARE(lines.size(), 1);
-        QVERIFY(lines[0].Way(1) == 25.0);
+        QVERIFY(lines[0].GetWay(1) == 25.0);
     }
 
     void lockedAngleIsShownAsItWasTyped()
@@ -144,7 +144,7 @@ private slots:
         const auto values = RecordsOf<vesk::ValueRecord>(ReadJournal(Journal()));
         QVERIFY(!values.empty());
         QVERIFY(values.back().value == 270.0);
-        QCOMPARE(ReadModel(m_pFixture->File("model")).size(), 1);
+        QCOMPARE(ReadLines(m_pFixture->File("model")).size(), 1);
     }
 
     void replayGoesByTheValue()
@@ -159,7 +159,7 @@ private slots:
         const Outcome outcome = RunSketcher({"--replay", Journal(), "--model", replayed});
         QCOMPARE(outcome.code, 0);
         QCOMPARE(outcome.error, QString());
-        QCOMPARE(ReadModel(replayed).size(), 1);
+        QCOMPARE(ReadLines(replayed).size(), 1);
         QCOMPARE(ReadFile(replayed), ReadFile(m_pFixture->File("model")));
     }
 
@@ -185,7 +185,7 @@ private slots:
         const auto values = RecordsOf<vesk::ValueRecord>(ReadJournal(Journal()));
         QCOMPARE(values.size(), std::size_t(1));
         QCOMPARE(values[0].value, millimetres);
-        QCOMPARE(ReadModel(m_pFixture->File("model")).size(), 1);
+        QCOMPARE(ReadLines(m_pFixture->File("model")).size(), 1);
     }
 
     void unitAfterABlankIsToldAndOneUndoTakesTheValueBack_data()
@@ -256,9 +256,9 @@ private slots:
         user.Type("7").Press(Qt::Key_Return);
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
-        const QVector<DrawnLine> lines = ReadModel(m_pFixture->File("model"));
+        const QVector<DrawnLine> lines = ReadLines(m_pFixture->File("model"));
         QCOMPARE(lines.size(), 1);
-        QVERIFY(qAbs(lines[0].Length() - 7.0) <= 1e-9);
+        QVERIFY(qAbs(lines[0].GetLength() - 7.0) <= 1e-9);
     }
 
     void emptiedFieldFollowsTheCursorAgain()
@@ -274,10 +274,10 @@ private slots:
         user.Press(Qt::Key_Escape).ClickAt(40, 120);
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
-        const QVector<DrawnLine> lines = ReadModel(m_pFixture->File("model"));
+        const QVector<DrawnLine> lines = ReadLines(m_pFixture->File("model"));
         QCOMPARE(lines.size(), 1);
-        QVERIFY(qAbs(lines[0].Way(0)) <= 1e-9);
-        QVERIFY(qAbs(lines[0].Way(1) - 120.0) <= 1.0);
+        QVERIFY(qAbs(lines[0].GetWay(0)) <= 1e-9);
+        QVERIFY(qAbs(lines[0].GetWay(1) - 120.0) <= 1.0);
         const QString replayed = m_pFixture->File("replayed");
         QCOMPARE(RunSketcher({"--replay", Journal(), "--model", replayed}).code, 0);
         QCOMPARE(ReadFile(replayed), ReadFile(m_pFixture->File("model")));
@@ -375,9 +375,9 @@ private slots:
         user.Type("2*30").ClickAt(0, 100);
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
-        const QVector<DrawnLine> lines = ReadModel(m_pFixture->File("model"));
+        const QVector<DrawnLine> lines = ReadLines(m_pFixture->File("model"));
         QCOMPARE(lines.size(), 1);
-        QVERIFY(qAbs(lines[0].Way(1) - 60.0) <= 1e-9);
+        QVERIFY(qAbs(lines[0].GetWay(1) - 60.0) <= 1e-9);
     }
 
     void stripIsThereFromTheStart()

@@ -70,8 +70,8 @@ private slots:
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
         const QVector<DrawnLine> lines = Model();
         QCOMPARE(lines.size(), 1);
-        QVERIFY(qAbs(lines[0].Length() - millimetres) <= Tolerance);
-        QVERIFY(qAbs(lines[0].Angle() - 30.0) <= Tolerance);
+        QVERIFY(qAbs(lines[0].GetLength() - millimetres) <= Tolerance);
+        QVERIFY(qAbs(lines[0].GetAngle() - 30.0) <= Tolerance);
     }
 
     void typedNumberIsRoundedOnceInTheModel_data()
@@ -148,7 +148,7 @@ private slots:
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
         const QVector<DrawnLine> lines = Model();
         QCOMPARE(lines.size(), 2);
-        QVERIFY(qAbs(lines[0].Length() - 100.0) <= 1.0);
+        QVERIFY(qAbs(lines[0].GetLength() - 100.0) <= 1.0);
         QCOMPARE(RecordsOf<vesk::ValueRecord>(ReadJournal(Journal())).size(), std::size_t{0});
     }
 
@@ -163,7 +163,7 @@ private slots:
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
         const QVector<DrawnLine> lines = Model();
         QCOMPARE(lines.size(), 1);
-        QVERIFY(qAbs(lines[0].Length() - 120.0) <= Tolerance);
+        QVERIFY(qAbs(lines[0].GetLength() - 120.0) <= Tolerance);
     }
 
     void lengthLockedBeforeTheUnitWasChangedStays()
@@ -176,12 +176,12 @@ private slots:
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
         const QVector<DrawnLine> lines = Model();
         QCOMPARE(lines.size(), 1);
-        QVERIFY(qAbs(lines[0].Length() - 50.0) <= Tolerance);
+        QVERIFY(qAbs(lines[0].GetLength() - 50.0) <= Tolerance);
     }
 
 private:
     QString Journal() const { return m_pFixture->File("journal"); }
-    QVector<DrawnLine> Model() const { return ReadModel(m_pFixture->File("model")); }
+    QVector<DrawnLine> Model() const { return ReadLines(m_pFixture->File("model")); }
 
     std::unique_ptr<ScenarioFixture> m_pFixture;
 };

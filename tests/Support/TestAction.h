@@ -1,8 +1,7 @@
 #pragma once
 
-#include "Command/IAction.h"
 #include "Foundation/OwnerPtr.h"
-#include "Graphics/IGraphicsNode.h"
+#include "Support/IdleAction.h"
 
 #include "Dimension/ITemporaryDimensionContext.h"
 
@@ -26,23 +25,15 @@ struct ActionLog
 };
 
 /// An action that goes on until it is ended and notes typed values.
-class TestAction final : public IAction
+class TestAction final : public IdleAction
 {
 public:
     explicit TestAction(ActionLog& log) : m_log(log) {}
 
     std::wstring GetViewText() const override { return L"test action"; }
-    void OnBegin(IUiView*) override {}
-    void OnMouseMove(const Vector3d&) override {}
-    void OnClick(const Vector3d&) override {}
     void OnViewInput(const ActionViewInput& input, const TypedValue& typed) override;
-    bool OnEscape() override { return false; }
     void OnEnd() override { ++m_log.endCount; }
-    bool IsFinished() const override { return false; }
     OwnerPtr<ITemporaryDimensionContext> CreateDimensionContext() const override;
-    OwnerPtr<IGraphicsNodeGroup> CreateRubberBand() const override { return nullptr; }
-    bool ReplayPoint(const Vector3d&, const std::optional<int>&) override { return false; }
-    bool ReplayValue(InputState, const std::wstring&, double) override { return false; }
 
 private:
     ActionLog& m_log;

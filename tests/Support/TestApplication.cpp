@@ -25,16 +25,6 @@ private:
 
 }
 
-TestApplication::TestApplication() : m_pPrevious(IApplication::Get())
-{
-    Set(this);
-}
-
-TestApplication::~TestApplication()
-{
-    Set(m_pPrevious);
-}
-
 void TestApplication::PostEvent(OwnerPtr<IApplicationEvent> opEvent)
 {
     if (dynamic_cast<UpdateCtrlStatusEvent*>(opEvent.Get()) != nullptr)

@@ -1,19 +1,16 @@
 #pragma once
 
-#include "Foundation/IApplication.h"
+#include "Support/IdleApplication.h"
 
 #include <QObject>
 
 namespace vesk::test
 {
 
-/// An application that posts through Qt. Installed while it lives.
-class TestApplication final : public QObject, public IApplication
+/// An application that posts through Qt.
+class TestApplication final : public QObject, public IdleApplication
 {
 public:
-    TestApplication();
-    ~TestApplication() override;
-
     void PostEvent(OwnerPtr<IApplicationEvent> opEvent) override;
     IApplicationWindow* GetMainWindow() const override { return m_pMainWindow; }
 
@@ -27,7 +24,6 @@ protected:
     void customEvent(QEvent* pEvent) override;
 
 private:
-    IApplication* m_pPrevious;
     IApplicationWindow* m_pMainWindow = nullptr;
     int m_statusUpdateCount = 0;
 };

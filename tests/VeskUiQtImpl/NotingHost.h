@@ -9,6 +9,7 @@
 #include "Journal/IJournalData.h"
 #include "Journal/IJournalManager.h"
 #include "Journal/IJournalUiObject.h"
+#include "Support/IdleView.h"
 #include "Support/TestAction.h"
 #include "View/IUiDocumentViewManager.h"
 #include "View/IUiView.h"
@@ -35,23 +36,15 @@ inline QString Describe(const CommandParameters& parameters)
     return parameters.IsEmpty() ? "nothing" : "parameters";
 }
 
-class NotingView final : public IUiView
+class NotingView final : public test::IdleView
 {
 public:
-    explicit NotingView(std::uint32_t id) : m_id(id) {}
+    using IdleView::IdleView;
 
-    std::uint32_t GetId() const override { return m_id; }
-    WindowId GetWindowId() const override { return 0; }
-    IModelView* GetModelView() const override { return nullptr; }
     void SetViewText(const std::wstring& text) override
     {
-        Note(QString("view %1 shows %2").arg(m_id).arg(QString::fromStdWString(text)));
+        Note(QString("view %1 shows %2").arg(GetId()).arg(QString::fromStdWString(text)));
     }
-    void Activate() override {}
-    void Redraw() override {}
-
-private:
-    std::uint32_t m_id;
 };
 
 /// Registered under "asked", and called "Command" by itself.

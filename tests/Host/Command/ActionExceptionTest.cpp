@@ -4,6 +4,7 @@
 #include "Command/TypedValue.h"
 #include "Dimension/TemporaryDimensionMgr.h"
 
+#include "Support/IdleApplication.h"
 #include "Support/TestValues.h"
 
 #include <stdexcept>
@@ -20,17 +21,13 @@ namespace
 }
 
 /// Keeps what is posted until the test has the event loop come round.
-class PostingApplication final : public IApplication
+class PostingApplication final : public test::IdleApplication
 {
 public:
-    PostingApplication() : m_pPrevious(Get()) { Set(this); }
-    ~PostingApplication() override { Set(m_pPrevious); }
-
     void PostEvent(OwnerPtr<IApplicationEvent> opEvent) override
     {
         m_events.push_back(std::move(opEvent));
     }
-    IApplicationWindow* GetMainWindow() const override { return nullptr; }
 
     void DeliverPosted()
     {
@@ -39,7 +36,6 @@ public:
     }
 
 private:
-    IApplication* m_pPrevious;
     std::vector<OwnerPtr<IApplicationEvent>> m_events;
 };
 

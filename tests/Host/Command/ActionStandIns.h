@@ -5,6 +5,9 @@
 #include "Dimension/ITemporaryDimensionContext.h"
 #include "Foundation/IApplication.h"
 #include "Graphics/IGraphicsNode.h"
+#include "Support/IdleAction.h"
+#include "Support/IdleApplication.h"
+#include "Support/IdleView.h"
 #include "View/IUiView.h"
 
 #include <algorithm>
@@ -74,7 +77,7 @@ struct ActionScript
 };
 
 /// Logs what happens to it, as "Line.click", and follows a script, which outlives it.
-class StandInAction final : public IAction
+class StandInAction final : public test::IdleAction
 {
 public:
     StandInAction(std::string name, Log& log, ActionScript& script)
@@ -163,14 +166,11 @@ private:
 };
 
 /// Remembers what it was told.
-class RecordingView final : public IUiView
+class RecordingView final : public test::IdleView
 {
 public:
-    explicit RecordingView(std::uint32_t id) : m_id(id) {}
+    using IdleView::IdleView;
 
-    std::uint32_t GetId() const override { return m_id; }
-    WindowId GetWindowId() const override { return 0; }
-    IModelView* GetModelView() const override { return nullptr; }
     void SetViewText(const std::wstring& text) override { m_text = text; }
     void Activate() override { ++m_activationCount; }
     void Redraw() override { ++m_redrawCount; }
@@ -180,21 +180,16 @@ public:
     int GetRedrawCount() const { return m_redrawCount; }
 
 private:
-    std::uint32_t m_id;
     std::wstring m_text;
     int m_activationCount = 0;
     int m_redrawCount = 0;
 };
 
-/// Counts the events that are posted. Installed while it lives.
-class CountingApplication final : public IApplication
+/// Counts the events that are posted.
+class CountingApplication final : public test::IdleApplication
 {
 public:
-    CountingApplication() { Set(this); }
-    ~CountingApplication() override { Set(nullptr); }
-
     void PostEvent(OwnerPtr<IApplicationEvent> /*opEvent*/) override { ++m_postCount; }
-    IApplicationWindow* GetMainWindow() const override { return nullptr; }
 
     int GetPostCount() const { return m_postCount; }
 

@@ -4,6 +4,7 @@
 
 #include "Host/Warnings/LogFile.h"
 #include "Host/Warnings/RaiseWarning.h"
+#include "Support/IdleApplication.h"
 #include "Support/TestValues.h"
 
 namespace vesk
@@ -11,16 +12,6 @@ namespace vesk
 
 namespace
 {
-
-class Application final : public IApplication
-{
-public:
-    Application() { Set(this); }
-    ~Application() override { Set(nullptr); }
-
-    void PostEvent(OwnerPtr<IApplicationEvent> /*opEvent*/) override {}
-    IApplicationWindow* GetMainWindow() const override { return nullptr; }
-};
 
 /// Counts the warnings that the user is to see; none is shown.
 class Scheduler final : public IDebugWarningScheduler
@@ -80,7 +71,7 @@ void DebugWarningAttendanceTest::theEnvironmentTellsWhetherSomebodyIsThere()
     QFETCH(int, count);
     const LogFile log;
     Manager().OpenLog(log.GetPath());
-    const Application application;
+    const test::IdleApplication application;
     const Scheduler scheduler;
     qputenv(Variable, value);
 
@@ -95,7 +86,7 @@ void DebugWarningAttendanceTest::withoutTheVariableSomebodyIsThere()
 {
     const LogFile log;
     Manager().OpenLog(log.GetPath());
-    const Application application;
+    const test::IdleApplication application;
     const Scheduler scheduler;
     qunsetenv(Variable);
 

@@ -1,5 +1,6 @@
 #include "Foundation/IApplication.h"
 #include "Host/Warnings/RaiseWarning.h"
+#include "Support/IdleApplication.h"
 #include "Support/TestValues.h"
 #include "Warnings/IDebugWarningDisplayer.h"
 #include "Warnings/IDebugWarningScheduler.h"
@@ -100,16 +101,6 @@ public:
     std::vector<std::function<void()>> posted;
     std::vector<std::function<void()>> idle;
     std::vector<std::chrono::milliseconds> delays;
-};
-
-class Application final : public IApplication
-{
-public:
-    Application() { Set(this); }
-    ~Application() override { Set(nullptr); }
-
-    void PostEvent(OwnerPtr<IApplicationEvent>) override {}
-    IApplicationWindow* GetMainWindow() const override { return nullptr; }
 };
 
 struct Fixture
@@ -288,7 +279,7 @@ void DebugWarningDisplayTest::theCountGoesOnFromDialogToDialog()
 void DebugWarningDisplayTest::unattendedNothingIsCountedWhileOneIsShown()
 {
     Fixture f;
-    const Application application;
+    const test::IdleApplication application;
     f.user.whileShown = [] {
         Manager().SetAttended(false);
         Warn(2);
@@ -441,7 +432,7 @@ void DebugWarningDisplayTest::aWarningOfAnotherThreadOpensFromTheEventLoop()
 void DebugWarningDisplayTest::unattendedNothingIsShownWhileThereIsAnApplication()
 {
     Fixture f;
-    const Application application;
+    const test::IdleApplication application;
     Manager().SetAttended(false);
 
     Warn(7);

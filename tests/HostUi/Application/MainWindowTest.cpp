@@ -10,6 +10,7 @@
 #include "HostUi/DrawingView.h"
 #include "HostUi/UiApplication.h"
 #include "Qtitan/RibbonBar.h"
+#include "Support/IdleAction.h"
 #include "Support/TestValues.h"
 
 #include <QCloseEvent>
@@ -38,17 +39,12 @@ protected:
 };
 
 /// Tells that it has ended.
-class EndingAction final : public IAction
+class EndingAction final : public test::IdleAction
 {
 public:
     explicit EndingAction(int& endCount) : m_endCount(endCount) {}
 
-    std::wstring GetViewText() const override { return {}; }
-    void OnBegin(IUiView*) override {}
-    void OnMouseMove(const Vector3d&) override {}
-    void OnClick(const Vector3d&) override {}
     void OnEnd() override { ++m_endCount; }
-    bool ReplayPoint(const Vector3d&, const std::optional<int>&) override { return false; }
 
 private:
     int& m_endCount;

@@ -12,6 +12,7 @@
 #include "HostCore.h"
 #include "HostUi/ControlLibrary.h"
 #include "HostUi/UiApplication.h"
+#include "Support/IdleAction.h"
 #include "Support/TestValues.h"
 #include "Warnings/DebugMessageMgr.h"
 
@@ -32,17 +33,6 @@ using namespace vesk;
 
 namespace
 {
-
-/// Goes on until it is ended.
-class IdleAction final : public IAction
-{
-public:
-    std::wstring GetViewText() const override { return {}; }
-    void OnBegin(IUiView*) override {}
-    void OnMouseMove(const Vector3d&) override {}
-    void OnClick(const Vector3d&) override {}
-    bool ReplayPoint(const Vector3d&, const std::optional<int>&) override { return false; }
-};
 
 /// Counts the debug warnings while it lives.
 class WarningCounter final : public IDebugWarningObserver
@@ -78,7 +68,7 @@ private:
 
 OwnerPtr<IAction> Idle(IUiView*, const CommandParameters&)
 {
-    return MakeOwner<IdleAction>();
+    return MakeOwner<test::IdleAction>();
 }
 
 OwnerPtr<IAction> Nothing(IUiView*, const CommandParameters&)

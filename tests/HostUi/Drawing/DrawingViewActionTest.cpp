@@ -2,6 +2,7 @@
 
 #include "HostUi/InputFixture.h"
 #include "Support/HostValues.h"
+#include "Support/IdleAction.h"
 #include "Support/TestValues.h"
 
 #include <QPainter>
@@ -53,13 +54,11 @@ struct Points
 };
 
 /// Notes the points that it is told, and draws a line through the origin.
-class PointAction final : public IAction
+class PointAction final : public test::IdleAction
 {
 public:
     explicit PointAction(Points& points) : m_points(points) {}
 
-    std::wstring GetViewText() const override { return {}; }
-    void OnBegin(IUiView*) override {}
     void OnMouseMove(const Vector3d& world) override { m_points.moves.push_back(world); }
     void OnClick(const Vector3d& world) override { m_points.clicks.push_back(world); }
     OwnerPtr<ITemporaryDimensionContext> CreateDimensionContext() const override
@@ -73,7 +72,6 @@ public:
             IGraphicsLine::Create({-1000, 0, 0}, {1000, 0, 0}, GraphicsRole::LockedDimension));
         return opGroup;
     }
-    bool ReplayPoint(const Vector3d&, const std::optional<int>&) override { return false; }
 
 private:
     Points& m_points;

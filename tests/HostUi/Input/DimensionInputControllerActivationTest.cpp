@@ -1,5 +1,6 @@
 #include "HostUi/InputFixture.h"
 
+#include "Support/IdleView.h"
 #include "Support/TestValues.h"
 
 #include <QGuiApplication>
@@ -15,17 +16,14 @@ namespace
 Qt::ApplicationState s_state = Qt::ApplicationActive;
 
 /// The view in the place of another; counts how often it gets the keyboard.
-class KeyboardView final : public IUiView
+class KeyboardView final : public test::IdleView
 {
 public:
-    explicit KeyboardView(const IUiView& view) : m_view(view) {}
+    explicit KeyboardView(const IUiView& view) : IdleView(view.GetId() + 1), m_view(view) {}
 
-    std::uint32_t GetId() const override { return m_view.GetId() + 1; }
     WindowId GetWindowId() const override { return m_view.GetWindowId(); }
     IModelView* GetModelView() const override { return m_view.GetModelView(); }
-    void SetViewText(const std::wstring&) override {}
     void Activate() override { ++activationCount; }
-    void Redraw() override {}
 
     int activationCount = 0;
 

@@ -4,24 +4,29 @@
 #include <QString>
 #include <QVector>
 
+#include <array>
+#include <cstddef>
+
 namespace vesk
 {
 
 /// A line of a drawing, as its model file holds it.
 struct DrawnLine
 {
-    double start[3] = {};
-    double end[3] = {};
+    std::array<double, 3> start{};
+    std::array<double, 3> end{};
     QString style;
     QString colour;
 
+    /// From start to end along an axis: 0 is x.
+    double GetWay(std::size_t axis) const { return end[axis] - start[axis]; }
     double GetLength() const;
 
     /// Counter-clockwise from x, in degrees, above -180 up to 180.
     double GetAngle() const;
 };
 
-/// The lines of a model file, in its order.
+/// The lines of a model file, in its order; none when it cannot be read.
 QVector<DrawnLine> ReadLines(const QString& modelFile);
 
 /// The bytes of a file, empty when it cannot be read.

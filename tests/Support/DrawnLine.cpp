@@ -1,4 +1,4 @@
-#include "Desktop/DrawnLine.h"
+#include "Support/DrawnLine.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -14,22 +14,22 @@ namespace vesk
 namespace
 {
 
-void ReadPoint(const QJsonValue& json, double (&point)[3])
+std::array<double, 3> ReadPoint(const QJsonValue& json)
 {
-    for (int i = 0; i < 3; ++i)
-        point[i] = json.toArray().at(i).toDouble();
+    const QJsonArray point = json.toArray();
+    return {point.at(0).toDouble(), point.at(1).toDouble(), point.at(2).toDouble()};
 }
 
 }
 
 double DrawnLine::GetLength() const
 {
-    return std::hypot(end[0] - start[0], end[1] - start[1], end[2] - start[2]);
+    return std::hypot(GetWay(0), GetWay(1), GetWay(2));
 }
 
 double DrawnLine::GetAngle() const
 {
-    return qRadiansToDegrees(std::atan2(end[1] - start[1], end[0] - start[0]));
+    return qRadiansToDegrees(std::atan2(GetWay(1), GetWay(0)));
 }
 
 QVector<DrawnLine> ReadLines(const QString& modelFile)
@@ -40,12 +40,8 @@ QVector<DrawnLine> ReadLines(const QString& modelFile)
     {
         if (entity["type"].toString() != "line")
             continue;
-        DrawnLine line;
-        ReadPoint(entity["start"], line.start);
-        ReadPoint(entity["end"], line.end);
-        line.style = entity["style"].toString();
-        line.colour = entity["colour"].toString();
-        lines << line;
+        lines.push_back({ReadPoint(entity["start"]), ReadPoint(entity["end"]),
+                         entity["style"].toString(), entity["colour"].toString()});
     }
     return lines;
 }
