@@ -3,7 +3,7 @@
 #include "Foundation/IPublishConfig.h"
 #include "VeskUiQtImpl/DebugWarnText.h"
 
-#include <HostUi/QtText.h>
+#include "HostUi/QtText.h"
 
 #include <QLineEdit>
 #include <QPushButton>

@@ -2,7 +2,7 @@
 
 #include "Foundation/TranslatorManager.h"
 
-#include <HostUi/QtText.h>
+#include "HostUi/QtText.h"
 
 namespace vesk
 {

@@ -7,7 +7,7 @@
 #include "View/IUiManager.h"
 #include "Warnings/Assert.h"
 
-#include <HostUi/QtText.h>
+#include "HostUi/QtText.h"
 
 #include <QScreen>
 

@@ -3,7 +3,7 @@
 #include "Dock/IPropertyWidget.h"
 #include "Foundation/NqStyleSheetHelper.h"
 
-#include <HostUi/QtText.h>
+#include "HostUi/QtText.h"
 
 namespace vesk
 {

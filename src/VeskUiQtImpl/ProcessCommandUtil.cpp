@@ -18,7 +18,7 @@
 #include "View/IUiManager.h"
 #include "View/IUiView.h"
 
-#include <Qtitan/RibbonButtonControl.h>
+#include "Qtitan/RibbonButtonControl.h"
 
 #include <QAction>
 #include <QCoreApplication>

@@ -2,10 +2,10 @@
 
 #include "Support/TestValues.h"
 
-#include <Qtitan/RibbonBar.h>
-#include <Qtitan/RibbonButtonControl.h>
-#include <Qtitan/RibbonGroup.h>
-#include <Qtitan/RibbonPage.h>
+#include "Qtitan/RibbonBar.h"
+#include "Qtitan/RibbonButtonControl.h"
+#include "Qtitan/RibbonGroup.h"
+#include "Qtitan/RibbonPage.h"
 
 #include <QAction>
 #include <QKeyEvent>

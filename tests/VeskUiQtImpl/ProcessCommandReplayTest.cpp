@@ -5,7 +5,7 @@
 #include "Support/TestEventLoop.h"
 #include "Support/TestValues.h"
 
-#include <Qtitan/RibbonButtonControl.h>
+#include "Qtitan/RibbonButtonControl.h"
 
 #include <QAction>
 #include <QMenu>

@@ -4,7 +4,7 @@
 #include "VeskUiQtImpl/Control/PropertyName.h"
 #include "VeskUiQtImpl/CreateChild.h"
 
-#include <HostUi/QtText.h>
+#include "HostUi/QtText.h"
 
 #include <QAction>
 #include <QIcon>

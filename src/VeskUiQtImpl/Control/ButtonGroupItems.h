@@ -6,7 +6,7 @@
 #include "VeskUiQtImpl/Control/PropertyName.h"
 #include "VeskUiQtImpl/CreateChild.h"
 
-#include <HostUi/QtText.h>
+#include "HostUi/QtText.h"
 
 #include <QBoxLayout>
 #include <QButtonGroup>

@@ -9,7 +9,7 @@
 #include "VeskUiQtImpl/Control/PropertyName.h"
 #include "VeskUiQtImpl/ProcessCommandUtil.h"
 
-#include <HostUi/QtText.h>
+#include "HostUi/QtText.h"
 
 #include <QAction>
 #include <QIcon>

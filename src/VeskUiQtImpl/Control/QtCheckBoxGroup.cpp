@@ -7,7 +7,7 @@
 #include "VeskUiQtImpl/Control/ControlSubscription.h"
 #include "VeskUiQtImpl/Control/PropertyName.h"
 
-#include <HostUi/QtText.h>
+#include "HostUi/QtText.h"
 
 #include <QCheckBox>
 #include <QPointer>

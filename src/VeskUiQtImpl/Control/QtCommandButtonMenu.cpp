@@ -10,7 +10,7 @@
 #include "VeskUiQtImpl/CreateChild.h"
 #include "VeskUiQtImpl/ProcessCommandUtil.h"
 
-#include <HostUi/QtText.h>
+#include "HostUi/QtText.h"
 
 #include <QAction>
 #include <QIcon>

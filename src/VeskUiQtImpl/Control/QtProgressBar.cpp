@@ -5,7 +5,7 @@
 #include "VeskUiQtImpl/Control/ControlSubscription.h"
 #include "VeskUiQtImpl/Control/PropertyName.h"
 
-#include <HostUi/QtText.h>
+#include "HostUi/QtText.h"
 
 #include <QVariant>
 

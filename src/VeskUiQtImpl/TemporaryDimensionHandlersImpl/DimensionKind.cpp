@@ -1,6 +1,6 @@
 #include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/DimensionKind.h"
 
-#include <HostUi/QtText.h>
+#include "HostUi/QtText.h"
 
 #include <QKeyEvent>
 

@@ -10,7 +10,7 @@
 #include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/DimensionKind.h"
 #include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/TemporaryDimensionHandleEditor.h"
 
-#include <HostUi/LineEditValidateHelper.h>
+#include "HostUi/LineEditValidateHelper.h"
 
 #include <QPointer>
 #include <QWidget>

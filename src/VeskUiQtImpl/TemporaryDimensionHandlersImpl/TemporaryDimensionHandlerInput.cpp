@@ -4,7 +4,7 @@
 #include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/TemporaryDimensionHandler.h"
 #include "VeskUiQtImpl/ViewLookup.h"
 
-#include <HostUi/QtText.h>
+#include "HostUi/QtText.h"
 
 namespace vesk
 {
