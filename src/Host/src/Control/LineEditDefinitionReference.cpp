@@ -11,7 +11,7 @@ namespace vesk
 namespace
 {
 
-/// Carries the user's mark from one id over to another for as long as it lives.
+/// While it exists, changes of one id that count as the user's also do so for another id.
 class ForwardedUserChange
 {
 public:
