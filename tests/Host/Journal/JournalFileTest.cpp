@@ -11,7 +11,7 @@ namespace vesk
 namespace
 {
 
-/// What reading a file gives.
+/// The result of reading a file.
 struct Reading
 {
     bool isRead = false;
@@ -31,7 +31,7 @@ Reading ReadPath(const QString& path)
 Reading ReadContent(const QByteArray& content)
 {
     const QTemporaryDir folder;
-    // A name that is not ASCII.
+    // A non-ASCII name.
     QFile file(folder.filePath(QString::fromUtf8("日志.jsonl")));
     file.open(QIODevice::WriteOnly);
     file.write(content);

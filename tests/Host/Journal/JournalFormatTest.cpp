@@ -13,7 +13,7 @@ namespace vesk
 namespace
 {
 
-/// The record that a line holds; number 0, and the test fails, when it holds none.
+/// The record in a line; if there is none, the test fails and the number is 0.
 JournalRecord Read(const std::string& line)
 {
     JournalRecord record;

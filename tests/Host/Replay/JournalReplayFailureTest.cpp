@@ -20,7 +20,7 @@ QString FailureOf(const JournalReplayResult& result)
 
 }
 
-/// Replays of journals that cannot be repeated to their end.
+/// Replays of journals that fail before their end.
 class JournalReplayFailureTest : public QObject
 {
     Q_OBJECT
