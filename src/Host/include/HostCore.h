@@ -13,7 +13,7 @@ class NqIJournalFactory;
 /// Sets up the platform and tears it down: one instance exists as long as the platform is used.
 ///
 /// Destroying it ends the running action, drops the dimension handler, frees all commands, closes
-/// the journal and restores every static to its previous state.
+/// the journal, resets the debug warnings, and unregisters its view manager and journal factory.
 class VESK_HOST_API HostCore
 {
 public:

@@ -28,7 +28,7 @@ struct ActionViewInput
     };
 
     std::int32_t kind = 0;
-    double value = 0.0; ///< In the display unit; 0 if the text is not a number.
+    double value = 0.0; ///< In the display unit or in degrees; 0 if the text is not a number.
     std::wstring text;  ///< The text itself, in raw-text mode only.
     Any extra;
 };

@@ -8,7 +8,7 @@ namespace vesk
 {
 
 /// What an action hands in to have dimensions shown and typed. Points are world points, ranges are
-/// in the display unit.
+/// in the display unit, those of angles in degrees.
 class VESK_HOST_API ITemporaryDimensionContext
 {
 public:

@@ -26,7 +26,7 @@ struct InputField
 {
     InputState state = InputState::IS_None;
     Quantity quantity = Quantity::Length;
-    Intervald range{0.0, 0.0}; ///< Of its values, in the display unit.
+    Intervald range{0.0, 0.0}; ///< In the display unit; of angles in degrees.
     bool takesWithSpace = false;
 
     /// The field that Tab goes on to after committing the value; IS_None if Tab commits nothing.

@@ -36,7 +36,7 @@ public:
 /// The outcome of a replay.
 struct JournalReplayResult
 {
-    /// Empty if no record failed; otherwise which one could not be replayed, and why.
+    /// Empty if nothing failed; otherwise why, and which record if it was one.
     std::string failure;
 
     /// The number of the record that failed; 0 if none did.

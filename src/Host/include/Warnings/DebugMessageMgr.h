@@ -88,8 +88,8 @@ public:
     /// shown.
     int GetUnshownCount() const;
 
-    /// Restores the initial state: every site is shown, counts are zero, and a user is present
-    /// unless VESK_UNATTENDED is 1.
+    /// Restores the initial state: every site is shown, the unshown count is zero, and a user is
+    /// present unless VESK_UNATTENDED is 1.
     void Reset();
 
     /// Adds an observer (not owned), notified until it is removed. Null and an observer that was

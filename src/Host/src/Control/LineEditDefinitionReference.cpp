@@ -11,7 +11,7 @@ namespace vesk
 namespace
 {
 
-/// While it exists, changes of one id that count as the user's also do so for another id.
+/// Passes the user's mark on from one id to another while it exists.
 class ForwardedUserChange
 {
 public:

@@ -20,10 +20,10 @@ using WideVector = Eigen::Matrix<Wide, 3, 1>;
 
 constexpr Wide s_degreesPerRadian = 57.295779513082320876798154814105L;
 
-/// Points at most this far apart have no direction.
+/// Points at most this far apart define no direction.
 constexpr Wide s_samePoint = Constants::DOUBLE_EPS;
 
-/// An axis of a coordinate system is a unit vector up to rounding; this one also is in wide
+/// The axes of a coordinate system are unit vectors up to rounding; this normalises one in wide
 /// precision.
 WideVector MakeUnit(const Vector3d& axis)
 {

@@ -23,7 +23,7 @@ bool ReadText(const std::string& path, std::string& text)
     return stream.is_open() && !stream.bad() && content.good();
 }
 
-/// Checks that records follow one another as in a journal.
+/// Checks that the order of records is valid for a journal.
 class SequenceCheck
 {
 public:

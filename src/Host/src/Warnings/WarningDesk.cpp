@@ -96,7 +96,7 @@ void WarningDesk::DropDisplayer()
     m_opDisplayer.Reset();
 }
 
-/// True if the warning must be shown now: no other is shown until then.
+/// True if the caller must show the warning now; no other is shown until it has been.
 bool WarningDesk::Claim(const DebugWarning& warning)
 {
     const std::lock_guard lock(m_mutex);
