@@ -6,8 +6,8 @@
 namespace vesk
 {
 
-/// How many allocations the process has made so far. Its memory is filled: what nobody has set
-/// shows, for it is not zero.
+/// The number of allocations that the process has made so far. Allocated memory is filled with a
+/// non-zero pattern, so that uninitialised values show.
 class AllocationCounter
 {
 public:

@@ -10,10 +10,10 @@
 namespace vesk
 {
 
-/// The C locale's decimal point, as set by a locale that is made for the test. Back to "C"
-/// afterwards.
+/// Sets the C library's decimal point through a locale built for the test; restores "C" afterwards.
 ///
-/// Windows does not let locales be made: there one of its own is taken, and the symbol is a comma.
+/// Windows does not allow locales to be built: there one of its own is used, whose symbol is a
+/// comma.
 class DecimalPointScope
 {
 public:
@@ -34,7 +34,7 @@ public:
     DecimalPointScope(const DecimalPointScope&) = delete;
     DecimalPointScope& operator=(const DecimalPointScope&) = delete;
 
-    /// True where a decimal point can be another than that of a locale of the system.
+    /// True if the decimal point can be a symbol that no locale of the system has.
     static bool IsAnySymbolPossible() { return QSysInfo::productType() != "windows"; }
 
 private:
@@ -45,7 +45,7 @@ private:
         source.write("LC_NUMERIC\ndecimal_point \"" + symbol +
                      "\"\nthousands_sep \"\"\ngrouping -1\nEND LC_NUMERIC\n");
         source.close();
-        // It complains of all the other categories, which nobody needs here.
+        // It complains about all the other categories, which are not needed here.
         QProcess::execute("localedef", {"-c", "--quiet", "-f", "UTF-8", "-i", source.fileName(),
                                         m_folder.filePath("points")});
         qputenv("LOCPATH", m_folder.path().toLocal8Bit());

@@ -10,10 +10,10 @@ namespace vesk
 
 class NqIJournalFactory;
 
-/// Brings the platform up and takes it down: one lives for the time in which it is used.
+/// Sets up the platform and tears it down: one instance exists as long as the platform is used.
 ///
-/// Destroying it ends the running action, drops the dimension handler, frees all commands and
-/// closes the journal, and leaves every static as it was before.
+/// Destroying it ends the running action, drops the dimension handler, frees all commands, closes
+/// the journal, resets the debug warnings, and unregisters its view manager and journal factory.
 class VESK_HOST_API HostCore
 {
 public:

@@ -17,7 +17,7 @@ TemporaryDimensionMgr& Dimensions()
     return *TemporaryDimensionMgr::GetInstance();
 }
 
-/// A line command that shows dimensions, and handlers that are scripted.
+/// A line command that shows dimensions, and scripted handlers.
 struct Fixture : ActionFixture
 {
     Fixture()
@@ -26,14 +26,14 @@ struct Fixture : ActionFixture
         scripts["Line"].makeContext = [] { return MakeOwner<StandInContext>(1); };
     }
 
-    /// Runs the line command with an event.
+    /// Runs the line command with one event.
     void Run(ScriptedLoop::Event event)
     {
         loop.Post(std::move(event));
         Choose("Line");
     }
 
-    /// What was logged of the handlers since the last call.
+    /// What the handlers have logged since the last call.
     Log TakeHandlerLog() { return std::exchange(handlers.log, {}); }
 
     HandlerScript handlers;

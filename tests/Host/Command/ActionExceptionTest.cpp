@@ -20,7 +20,7 @@ namespace
     throw std::runtime_error("command");
 }
 
-/// Keeps what is posted until the test has the event loop come round.
+/// Keeps posted events until the test delivers them.
 class PostingApplication final : public test::IdleApplication
 {
 public:
@@ -39,7 +39,7 @@ private:
     std::vector<OwnerPtr<IApplicationEvent>> m_events;
 };
 
-/// Lets an event of the loop fail as one of the application's may.
+/// An event loop in which an event may throw, as one of the application's may.
 class ThrowingLoop final : public IActionEventLoop
 {
 public:
@@ -87,7 +87,7 @@ private:
     int m_count = 0;
 };
 
-/// What of an action throws.
+/// Makes one operation of an action throw.
 using Place = void (*)(ActionScript&);
 
 }
@@ -276,7 +276,7 @@ void ActionExceptionTest::anObserverThatThrowsKeepsNoOtherFromHearing()
 
     QVERIFY_EXCEPTION_THROWN(f.Choose("Line"), std::runtime_error);
 
-    // Of the beginning and of the end.
+    // For the beginning and for the end.
     QCOMPARE(second.GetCount(), 2);
     QVERIFY(IsIdle());
 }
@@ -407,7 +407,7 @@ void ActionExceptionTest::whatIsTypedForTheNextCommandIsKeptThen()
     f.scripts["Line"].onEnd = &Throw;
     f.loop.Post([&f] { f.ChooseInMenu("Save"); });
     QVERIFY_EXCEPTION_THROWN(f.Choose("Line"), std::runtime_error);
-    // The loop comes round when another action runs already and a third is chosen.
+    // Posted events are delivered while another action is already running and a third is chosen.
     f.loop.Post([&] {
         f.Choose("Erase");
         f.Click();

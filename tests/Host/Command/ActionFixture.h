@@ -13,7 +13,7 @@
 namespace vesk
 {
 
-/// A host with a view and an event loop, and commands that are scripted. One at a time.
+/// A host with a view and an event loop, and scripted commands. Only one may exist at a time.
 class ActionFixture
 {
 public:
@@ -29,7 +29,7 @@ public:
         ActionManager::Reset();
     }
 
-    /// Registers an interactive command; `name` is all of ASCII.
+    /// Registers an interactive command; `name` is ASCII.
     void AddInteractive(const std::string& name)
     {
         Add(name, Command::Kind::Interactive, [this, name](IUiView*, const CommandParameters&) {
@@ -71,7 +71,7 @@ public:
 
     UiDocumentViewManager& GetViews() { return m_core.GetViewManager(); }
 
-    /// The position of an entry of the log; past the end when it is not there.
+    /// The index of an entry in the log; past the end if it is missing.
     std::ptrdiff_t At(const std::string& entry) const
     {
         return std::find(log.begin(), log.end(), entry) - log.begin();

@@ -36,7 +36,7 @@ void AddInputRows()
 
 }
 
-/// What the view hands to the running action, and when the action ends of it.
+/// What the view passes to the running action, and when that ends the action.
 class ActionInputTest : public QObject
 {
     Q_OBJECT

@@ -22,7 +22,7 @@ namespace vesk
 
 using Log = std::vector<std::string>;
 
-/// Runs the events that were posted, one after the other, until it is told to quit.
+/// Runs the posted events one after the other until Quit is called.
 class ScriptedLoop final : public IActionEventLoop
 {
 public:
@@ -58,7 +58,7 @@ private:
     int m_greatestDepth = 0;
 };
 
-/// What a stand-in action does when it is asked.
+/// What a stand-in action does in its operations.
 struct ActionScript
 {
     std::function<void()> onBegin;
@@ -66,8 +66,8 @@ struct ActionScript
     std::function<void()> onClick;
     std::function<void(const ActionViewInput&)> onViewInput;
     TypedValue typed;                  ///< What was typed for the last input.
-    IUiView* pView = nullptr;          ///< In which view it began.
-    Vector3d world = Vector3d::Zero(); ///< The last point that it was given.
+    IUiView* pView = nullptr;          ///< The view in which it began.
+    Vector3d world = Vector3d::Zero(); ///< The last point it received.
     std::function<void()> onEnd;
     std::function<OwnerPtr<ITemporaryDimensionContext>()> makeContext;
     bool hasLocks = false;
@@ -156,7 +156,7 @@ private:
         if (!act)
             return;
         act();
-        // Only an action that still lives can say so.
+        // Only logged if the action still exists.
         Note(what + " done");
     }
 
@@ -165,7 +165,7 @@ private:
     ActionScript& m_script;
 };
 
-/// Remembers what it was told.
+/// Records the calls made to it.
 class RecordingView final : public test::IdleView
 {
 public:
@@ -185,7 +185,7 @@ private:
     int m_redrawCount = 0;
 };
 
-/// Counts the events that are posted.
+/// Counts posted events.
 class CountingApplication final : public test::IdleApplication
 {
 public:

@@ -18,7 +18,7 @@ namespace vesk
 namespace
 {
 
-/// Counts what it hears, and does something each time. Listens while it lives.
+/// Counts notifications and runs a function on each. Registered while it exists.
 class Observer final : public IActionObserver
 {
 public:
@@ -44,7 +44,7 @@ private:
 
 }
 
-/// What is shown at the begin, at each step and at the end of an action.
+/// What is shown when an action begins, at each step and when it ends.
 class ActionStepTest : public QObject
 {
     Q_OBJECT

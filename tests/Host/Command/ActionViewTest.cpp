@@ -15,7 +15,7 @@ IUiView* ToView(RecordingView& view)
     return &view;
 }
 
-/// A second view, and a command that tells in which view it is executed and with what.
+/// A second view, and a command that records the view and the parameters it is executed with.
 struct Fixture : ActionFixture
 {
     Fixture()

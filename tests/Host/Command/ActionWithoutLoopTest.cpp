@@ -15,7 +15,7 @@ Q_DECLARE_METATYPE(vesk::Input)
 namespace vesk
 {
 
-/// Actions while there is no event loop, as in a replay.
+/// Actions without an event loop, as in a replay.
 class ActionWithoutLoopTest : public QObject
 {
     Q_OBJECT

@@ -21,7 +21,7 @@ namespace
 constexpr char Done[] = R"({"n":1,"kind":"end","result":"done"})";
 constexpr char Refused[] = R"({"n":1,"kind":"end","result":"refused"})";
 
-/// Logs the ends of records, as "end 1". Listens while it lives.
+/// Logs the end records, as "end 1". Registered while it exists.
 class EndRecorder final : public IJournalObserver
 {
 public:

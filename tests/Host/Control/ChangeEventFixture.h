@@ -9,7 +9,7 @@
 namespace vesk
 {
 
-/// An event with two handlers; the changes of items are told apart by their captions.
+/// An event with two handlers; item changes are distinguished by their captions.
 struct ChangeEventFixture
 {
     void Add(const std::wstring& caption)
@@ -17,7 +17,8 @@ struct ChangeEventFixture
         pEvent->RaiseItemsChanged(ControlDefinitionChangeEventType::Add, 0, caption, nullptr);
     }
 
-    /// What a handler heard: captions of items, '*' for a change of properties, '!' for the user.
+    /// What a handler received: captions of items, '*' for a property change, '!' for one by the
+    /// user.
     static std::wstring GetHeard(const ChangeRecorder& recorder)
     {
         std::wstring heard;

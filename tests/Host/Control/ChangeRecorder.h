@@ -10,7 +10,7 @@
 namespace vesk
 {
 
-/// One change, as its arguments told it.
+/// One change, as described by its arguments.
 struct Change
 {
     int type;
@@ -20,7 +20,7 @@ struct Change
     bool isByUser;
 };
 
-/// Keeps the changes of one event and then does what the test wants.
+/// Records the changes of one event; a function passed to Then runs once, after the next change.
 class ChangeRecorder final : public IControlDefinitionChangeEventHandler
 {
 public:

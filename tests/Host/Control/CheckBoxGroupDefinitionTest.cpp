@@ -10,7 +10,7 @@
 namespace vesk
 {
 
-/// A group of the boxes "End", "Middle" and "Centre", and what has happened to it since.
+/// A group of the boxes "End", "Middle" and "Centre", and a record of its changes.
 struct CheckBoxGroupFixture
 {
     CheckBoxGroupFixture()
@@ -269,7 +269,7 @@ void CheckBoxGroupDefinitionTest::aHandlerMayChangeTheGroupAgain()
     f.pGroup->SetCheckState(L"End", 1);
 
     QCOMPARE(f.GetState(), QString("Middle0 Centre0"));
-    // The last one brings the states to whoever has been behind.
+    // The last one brings handlers that were behind up to date.
     QCOMPARE(f.pRecorder->GetCount(), 3);
 }
 

@@ -10,7 +10,7 @@
 namespace vesk
 {
 
-/// A combo box with the items "a", "b" and "c", and what has happened to it since.
+/// A combo box with the items "a", "b" and "c", and a record of its changes.
 struct ComboBoxFixture
 {
     explicit ComboBoxFixture(int currentIndex = 0)
@@ -325,7 +325,7 @@ void ComboBoxDefinitionTest::aHandlerMayChangeItAgain()
     f.pBox->InsertItem(0, L"x");
 
     QCOMPARE(f.GetState(), std::wstring(L"[a]bc"));
-    // The last one tells of the index.
+    // The last one reports the index.
     QCOMPARE(f.pRecorder->GetCount(), 3);
     QCOMPARE(f.pRecorder->GetChanges().at(1).type, int{Type::Delete});
     QCOMPARE(f.pRecorder->GetChanges().at(2).type, int{Type::PropertyChanged});

@@ -14,8 +14,8 @@ using Entry = CommandMenuItemDefinition;
 using Container = MenuItemContainerDefinition;
 using Menu = CommandButtonMenuDefinition;
 
-/// A menu with an entry "Centre" and a container "More" in which a container "Arcs" holds an
-/// entry "Three", and what has happened to it since.
+/// A menu with an entry "Centre" and a container "More" in which a container "Arcs" holds an entry
+/// "Three", and a record of its changes.
 struct MenuFixture
 {
     MenuFixture()
@@ -31,7 +31,7 @@ struct MenuFixture
         pRecorder = std::make_unique<ChangeRecorder>(*pMenu->GetControlDefinitionChangeEvent());
     }
 
-    /// The ids of all entries, those of a container in brackets behind it.
+    /// The ids of all entries, those of a container in brackets after it.
     QString GetState() const { return ToText(pMenu->GetMenuItemDefinitions()); }
 
     static QString ToText(const std::vector<const IMenuItemDefinition*>& items)

@@ -21,7 +21,7 @@ using Fixture = ChangeEventFixture;
 
 }
 
-/// Changes that are made while another one is being told.
+/// Changes that are made while another one is being delivered.
 class ControlDefinitionChangeEventNestingTest : public QObject
 {
     Q_OBJECT
@@ -218,7 +218,7 @@ void ControlDefinitionChangeEventNestingTest::changesMadeWhilePropertiesAreToldD
 
     f.pEvent->RaisePropertyChanged();
 
-    // The items are followed by properties: who was being told may have been interrupted.
+    // Items are followed by properties: the handler being notified may have been interrupted.
     QCOMPARE(heardInside, std::wstring(L"a**"));
     QCOMPARE(Fixture::GetHeard(f.second), std::wstring(L"a***"));
 }

@@ -19,7 +19,7 @@ namespace
 
 using Fixture = ChangeEventFixture;
 
-/// A control that does something when it hears of a change.
+/// A control that runs a function when it is notified of a change.
 class StandInControl final : public IControl, public IControlDefinitionChangeEventHandler
 {
 public:
@@ -41,7 +41,7 @@ private:
 
 }
 
-/// What controls write while they do not know all changes.
+/// Writes from controls that have not received all changes yet.
 class ControlDefinitionChangeEventRefusalTest : public QObject
 {
     Q_OBJECT
@@ -66,7 +66,7 @@ void ControlDefinitionChangeEventRefusalTest::aControlThatIsBehindIsRefusedAndSe
 
     f.Add(L"a");
 
-    // The last one is the change of properties, when the control knows all.
+    // The last one is the property change, when the control knows everything.
     QCOMPARE(refused, (std::vector<bool>{true, true, false}));
     QCOMPARE(Fixture::GetHeard(f.second), std::wstring(L"ab*"));
 }

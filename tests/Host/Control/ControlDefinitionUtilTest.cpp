@@ -63,7 +63,7 @@ public:
     void SetCurrentRadioButtonId(const std::wstring& /*radioButtonId*/) override {}
 };
 
-/// A label that tells of nothing.
+/// A label without a change event.
 class SilentLabel final : public ILabelDefinition
 {
 public:
@@ -80,7 +80,8 @@ IControlDefinitionChangeEvent* Find(const TInterface* pDefinition)
     return ControlDefinitionUtil::GetControlDefinitionChangeEvent(pDefinition);
 }
 
-/// True when the event is found through the kind's interface, and null for none.
+/// True if the event is found through the kind's interface, and null is found for a null
+/// definition.
 template <class TInterface, class TDefinition>
 bool FindsTheEventOf(const TDefinition& definition)
 {

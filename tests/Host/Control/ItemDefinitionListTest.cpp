@@ -19,7 +19,7 @@ constexpr char s_delete[] = "vesk::Some::Delete";
 
 using Type = ControlDefinitionChangeEventType;
 
-/// Tells of its destruction.
+/// Reports its destruction.
 class Item final : public LabelDefinition
 {
 public:
@@ -36,7 +36,7 @@ private:
 
 }
 
-/// A list of the items "a", "b" and "c", and what has happened to it since.
+/// A list of the items "a", "b" and "c", and a record of its changes.
 struct ItemListFixture
 {
     ItemListFixture()
@@ -82,7 +82,7 @@ using Fixture = ItemListFixture;
 namespace
 {
 
-/// What a handler that comes last hears of the item of each change.
+/// Reads the item of each change; subscribed last.
 class CaptionReader final : public IControlDefinitionChangeEventHandler
 {
 public:
@@ -462,7 +462,7 @@ void ItemDefinitionListTest::aHandlerMayRemoveTheItemThatChanges()
     f.pList->Get(1)->SetCaption(L"new");
 
     QCOMPARE(f.GetIds(), std::wstring(L"ac"));
-    // The change of the item, the removal, and the properties that follow it.
+    // The change to the item, the removal, and the property change that follows it.
     QCOMPARE(f.pRecorder->GetCount(), 3);
     QCOMPARE(f.pRecorder->GetChanges().at(1).type, int{Type::Delete});
     QCOMPARE(f.aliveCount, 2);

@@ -17,7 +17,7 @@ namespace vesk
 namespace
 {
 
-/// A definition "other", a reference "ref" to it, and what the definition has told.
+/// A definition "other", a reference "ref" to it, and a record of the definition's changes.
 struct Fixture
 {
     Fixture()

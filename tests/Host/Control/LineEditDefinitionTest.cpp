@@ -14,7 +14,7 @@ namespace vesk
 namespace
 {
 
-/// A definition with a text, and what has happened to it since.
+/// A definition with a text, and a record of its changes.
 struct Fixture
 {
     explicit Fixture(const std::wstring& text)
@@ -28,7 +28,7 @@ struct Fixture
     std::unique_ptr<ChangeRecorder> pRecorder;
 };
 
-/// Tells of its destruction.
+/// Reports its destruction.
 class MortalValidator final : public ValidatorBase
 {
 public:

@@ -10,7 +10,7 @@
 namespace vesk
 {
 
-/// A group of the buttons "mm", "cm" and "in", "cm" the current one, and what has happened since.
+/// A group of the buttons "mm", "cm" (current) and "in", and a record of its changes.
 struct RadioButtonGroupFixture
 {
     RadioButtonGroupFixture()

@@ -44,7 +44,7 @@ struct Fixture
         return {x, y};
     }
 
-    /// Where the editor of a value would stand.
+    /// Where the editor of a value would be.
     QRect GetEditor(const GeneratorKind& kind) const
     {
         const QSize size(input.style.GetEditorWidth(), input.style.GetEditorHeight());
@@ -52,14 +52,14 @@ struct Fixture
         return {ToPixel(input.data[kind.field].textPosition) - half, size};
     }
 
-    /// What must stay free about the cursor.
+    /// The area around the cursor that must not be covered.
     QRect GetCursor(const GeneratorKind& kind) const
     {
         const Vector3d& cursor = points[static_cast<std::size_t>(kind.cursorIndex)];
         return QRect(ToPixel(cursor), QSize(1, 1)).marginsAdded(QMargins(8, 8, 8, 8));
     }
 
-    /// Up to a hundredth of a pixel.
+    /// To within a hundredth of a pixel.
     bool IsInPlane(const GeneratorKind& kind) const
     {
         const Vector3d offset = input.data[kind.field].textPosition - points[0];
@@ -89,7 +89,7 @@ struct Fixture
     GeneratorPoints points;
 };
 
-/// Puts the cursor at a place of the view and the other points wherever chance wants.
+/// Puts the cursor at a position in the view and the other points at random.
 class Scene
 {
 public:
@@ -101,7 +101,7 @@ public:
         f.camera.SetCentre({Between(-1e4, 1e4), Between(-1e4, 1e4), 0});
     }
 
-    /// A plane that is seen from either side, turned and tilted, but not from its edge.
+    /// A plane seen from either side, rotated and tilted, but not edge-on.
     void SetPlane(Fixture& f)
     {
         const Eigen::AngleAxisd turn(Between(-4, 4), Vector3d::UnitZ());
@@ -162,7 +162,7 @@ public:
     WideEditor& operator=(const WideEditor&) = delete;
 };
 
-/// The corners, the middles and the quarters of the edges, on the edge and near it; the middle.
+/// The corners, the middles and quarters of the edges, on the edge and near it; and the centre.
 std::vector<QPointF> GetCursors(int width, int height)
 {
     std::vector<QPointF> cursors;
@@ -251,7 +251,7 @@ void DimensionPlacementTest::wideEditorsAreInTheViewAndOffTheCursorToo_data()
     editorsAreInTheViewAndOffTheCursorAtItsEdges_data();
 }
 
-/// Up to almost the whole width of a small view. Then there is not always room for two such texts.
+/// As wide as almost the whole of a small view. There is then not always room for two such texts.
 void DimensionPlacementTest::wideEditorsAreInTheViewAndOffTheCursorToo()
 {
     QFETCH(int, pair);

@@ -15,13 +15,13 @@ namespace
 
 constexpr int s_sceneCount = 20000;
 
-/// How far a measure is from what it was made from, at most.
+/// The largest error of a measured value against the value it was constructed from.
 class LargestError
 {
 public:
     explicit LargestError(const char* pName) : m_pName(pName) {}
 
-    /// True when the error is no more than `limit`, in the same unit.
+    /// True if the error is at most `limit`, in units of `unit`.
     bool IsWithin(Wide error, Wide unit, Wide limit)
     {
         m_largest = std::max(m_largest, std::abs(error) / unit);
@@ -41,7 +41,7 @@ Wide AngleBetween(Wide a, Wide b)
     return std::remainder(a - b, Wide(360));
 }
 
-/// What would be shown as a negative zero is zero.
+/// An angle that would be shown as negative zero becomes zero.
 Wide WithoutNegativeZero(Wide degrees)
 {
     return degrees < 0 && degrees > -0.005L ? 0 : degrees;
@@ -51,7 +51,7 @@ constexpr Wide s_limit = 4;
 
 using WideVector = Eigen::Matrix<Wide, 3, 1>;
 
-/// The angle between two vectors in degrees, without a sign.
+/// The unsigned angle between two vectors in degrees.
 Wide AngleBetween(const WideVector& a, const WideVector& b)
 {
     const WideVector scaledA = b.norm() * a;
@@ -68,10 +68,10 @@ Wide LastPlaceOf(double value)
 
 }
 
-/// Random planes, near and far, with points that are made from known lengths and angles.
+/// Random planes, near and far, with points constructed from known lengths and angles.
 ///
-/// Lengths may be off by four units in the last place of the largest coordinate, which each point's
-/// own rounding is part of; angles by as much at the distance of the nearer point.
+/// Lengths may be off by four units in the last place of the largest coordinate, including each
+/// point's own rounding; angles by the same amount at the distance of the nearer point.
 class DimensionPropertiesTest : public QObject
 {
     Q_OBJECT
@@ -176,7 +176,7 @@ void DimensionPropertiesTest::arcsAreWhatTheyWereMadeFrom()
         GetGeneratorKinds()[4].pGenerate(points, input);
         GetGeneratorKinds()[5].pGenerate(points, input);
 
-        // How far a step of one point moves the circle, and turns the lines to the third point.
+        // How far a step of one point moves the circle and rotates the lines to the third point.
         const Wide shortest =
             std::min({std::abs(third - first), std::abs(third - second), std::abs(second - first)});
         const Wide sharp = size / shortest;
@@ -192,7 +192,7 @@ void DimensionPropertiesTest::arcsAreWhatTheyWereMadeFrom()
 
 void DimensionPropertiesTest::aValueIsRoundedOnce()
 {
-    // Without numbers wider than the result each step rounds, in the reference too.
+    // Without a type wider than the result every step rounds, even in the reference.
     constexpr bool IsWider =
         std::numeric_limits<Wide>::digits > std::numeric_limits<double>::digits;
     constexpr Wide Limit = IsWider ? 0.51L : s_limit;
@@ -216,7 +216,8 @@ void DimensionPropertiesTest::aValueIsRoundedOnce()
         const double turn = std::abs(input.data[InputState::IS_CentralAngle].value);
         QVERIFY(length.IsWithin(distance - std::hypot(from.x(), from.y(), from.z()),
                                 LastPlaceOf(distance), Limit));
-        // Of tiny angles more than the last place would be asked of the vectors between the points.
+        // For tiny angles this would require more precision than the vectors between the points
+        // have.
         const Wide place = LastPlaceOf(std::max(turn, 1.0));
         QVERIFY(angle.IsWithin(turn - AngleBetween(from, to), place, Limit));
     }

@@ -28,7 +28,8 @@ public:
         });
     }
 
-    /// An arc about a centre, from one direction by some radians.
+    /// Whether there is an arc about a centre that starts in a direction and sweeps `sweep`
+    /// radians.
     bool HasArc(const Vector3d& centre, double radius, const Vector3d& from, double sweep) const
     {
         constexpr double Tolerance = 1e-6;
@@ -48,7 +49,7 @@ public:
                std::all_of(texts.begin(), texts.end(), has);
     }
 
-    /// Every coordinate and every measure is a finite number.
+    /// Whether every coordinate and every dimension is finite.
     bool AreNumbers() const
     {
         return std::all_of(lines.begin(), lines.end(),

@@ -55,7 +55,7 @@ GeneratorPoints Segment(const Vector3d& start, const Vector3d& end)
 
 }
 
-/// Where exactly texts and arrows are at the edges of a view.
+/// The exact positions of texts and arrows at the edges of a view.
 class ExactPlacementTest : public QObject
 {
     Q_OBJECT
@@ -113,7 +113,7 @@ void ExactPlacementTest::theTextOfWhatIsNotVisibleStandsAtTheEdge_data()
     QTest::addColumn<Vector3d>("start");
     QTest::addColumn<Vector3d>("end");
     QTest::addColumn<Vector3d>("text");
-    // The editor is 96 by 26 pixels and keeps three off the edge.
+    // The editor is 96 by 26 pixels and stays three pixels from the edge.
     QTest::newRow("above") << Vector3d(0, 10000, 0) << Vector3d(100, 10000, 0)
                            << Vector3d(50, 284, 0);
     QTest::newRow("below") << Vector3d(0, -10000, 0) << Vector3d(100, -10000, 0)
@@ -149,7 +149,7 @@ void ExactPlacementTest::whatHardlyReachesIntoTheViewIsCutAtItsEdge()
 {
     Fixture f(800, 600);
 
-    // One pixel across, of which a 64th is in the view.
+    // One pixel across, a 64th of which is in the view.
     const Vector3d position =
         f.PlaceText(Length, Segment({-400.984375, -10000, 0}, {-399.984375, 200, 0}));
 
@@ -200,7 +200,7 @@ void ExactPlacementTest::aTextKeepsOffAnEarlierOne()
     Fixture f(800, 600);
     f.input.data[InputState::IS_Width] = {earlier, value};
 
-    // The text of the height would stand at the origin.
+    // The text of the height would be at the origin.
     const Vector3d position = f.PlaceText(Height, Segment({60, -100, 0}, {200, 100, 0}));
 
     QCOMPARE(position.norm() > 1e-6, isOff);

@@ -25,17 +25,17 @@ struct GeneratorInput
 
 using GeneratorPoints = std::array<Vector3d, 4>;
 
-/// One of the generators, called with as many of the points as it takes.
+/// One of the generators, called with as many of the points as it needs.
 struct GeneratorKind
 {
     const char* pName;
     InputState field;
     int pointCount;
-    int cursorIndex; ///< Which of the points is the cursor.
+    int cursorIndex; ///< The index of the cursor among the points.
     OwnerPtr<IGraphicsNodeGroup> (*pGenerate)(const GeneratorPoints& points, GeneratorInput& input);
 };
 
-/// All kinds, those of one handler after each other in the order in which it calls them.
+/// All kinds; those of one handler are adjacent, in the order in which it calls them.
 inline const std::array<GeneratorKind, 9>& GetGeneratorKinds()
 {
     using C = TemporaryDimensionCommons;
@@ -91,7 +91,7 @@ inline const std::array<GeneratorKind, 9>& GetGeneratorKinds()
     return s_kinds;
 }
 
-/// The kinds of one handler: the first, and the second where there is one.
+/// The kinds of one handler: the first, and the second if there is one.
 struct GeneratorPair
 {
     const char* pName;

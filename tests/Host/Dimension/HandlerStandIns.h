@@ -27,14 +27,14 @@ private:
     int m_kind;
 };
 
-/// What happens inside the operations of a handler.
+/// What a stand-in handler does in its operations.
 struct HandlerScript
 {
     std::vector<std::string> log;
     std::function<void()> onGenerate;
     std::function<void()> onKeyDown;
     std::function<void()> onEndInput;
-    std::string key; ///< The key pressed last, as "65 ctrl alt shift".
+    std::string key; ///< The last key pressed, as "65 ctrl alt shift".
     bool isRawText = false;
 };
 
@@ -93,7 +93,7 @@ private:
         if (!act)
             return;
         act();
-        // Only a handler that still lives can say so.
+        // Only logged if the handler still exists.
         Note(what + " done");
     }
 
@@ -102,7 +102,8 @@ private:
     bool m_isInputting = false;
 };
 
-/// Makes a stand-in for each kind but 0, for which there is no handler. Registered while it lives.
+/// Creates a stand-in for each kind but 0, for which there is no handler. Registered while it
+/// exists.
 class StandInHandlerFactory final : public ITemporaryDimensionHandlerFactory
 {
 public:
@@ -130,7 +131,7 @@ private:
     HandlerScript& m_script;
 };
 
-/// Logs the placing of editors, as "place". Chosen while it lives.
+/// Logs the positioning of editors, as "place". Set while it exists.
 class StandInHandlerAccess final : public ITemporaryDimensionHandlerAccess
 {
 public:

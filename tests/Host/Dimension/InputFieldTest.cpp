@@ -43,7 +43,7 @@ LinearTemporaryDimensionContext Linear()
 
 }
 
-/// What the host knows of the fields of each kind of dimension.
+/// What the host knows about the fields of each kind of dimension.
 class InputFieldTest final : public QObject
 {
     Q_OBJECT

@@ -18,7 +18,8 @@
 namespace vesk
 {
 
-/// Points of a plane are complex numbers here, and wide ones: another way than the generators'.
+/// Points in a plane are wide complex numbers here, to be independent of the generators'
+/// computation.
 using Wide = long double;
 using Complex = std::complex<Wide>;
 
@@ -33,14 +34,14 @@ inline Wide LastPlaceOf(const GeneratorPoints& points, std::size_t count)
     return std::nextafter(largest, std::numeric_limits<double>::infinity()) - largest;
 }
 
-/// A plane anywhere in space, a scale and points in it, all by chance; and how dimensions in it are
-/// to look.
+/// A random plane in space, a random scale and random points in it, and checks of how dimensions in
+/// it are drawn.
 class RandomPlane
 {
 public:
     explicit RandomPlane(unsigned seed) : m_seed(seed), m_engine(seed) { PrintSeed(); }
 
-    /// Another plane and another scale.
+    /// Chooses another plane and another scale.
     void Next()
     {
         const double scale = std::pow(10.0, Between(-3, 9));
@@ -63,7 +64,7 @@ public:
     Wide MakeAngle() { return Between(-3.14, 3.14); }
     Complex MakePoint() { return m_scale * Complex(Between(-1, 1), Between(-1, 1)); }
 
-    /// Another point seen from one, near or far.
+    /// The offset of another point, near or far.
     Complex MakeOffset()
     {
         return std::polar(m_scale * std::pow(Wide(10), Wide(Between(-5, 0))), MakeAngle());
@@ -86,7 +87,7 @@ public:
         return input;
     }
 
-    /// Whether a straight dimension stands beside `along` on the side of a unit vector.
+    /// Whether a straight dimension is beside `along`, on the side that a unit vector points to.
     bool IsStraight(const IGraphicsNodeGroup& group, const Complex& start, const Complex& along,
                     const Complex& outwards) const
     {
@@ -127,7 +128,7 @@ public:
                DrawnNodes(group).lines.size() == 2 + 2 * static_cast<std::size_t>(arrows);
     }
 
-    /// Whether an arrow runs from a centre to a point seen from there.
+    /// Whether an arrow runs from a centre to a point given relative to it.
     bool IsLeader(const IGraphicsNodeGroup& group, const Complex& centre, const Complex& tip) const
     {
         const Wide radius = std::abs(tip);
@@ -156,7 +157,7 @@ private:
         return world.cast<double>();
     }
 
-    /// A thousandth of a pixel, and what coordinates of this size leave open.
+    /// To within a thousandth of a pixel plus the rounding of coordinates of this size.
     bool IsAt(const Vector3d& world, const Complex& point) const
     {
         return (world - ToWorld(point)).norm() <= 1e-3L * m_pixel + 1e-14L * m_scale;

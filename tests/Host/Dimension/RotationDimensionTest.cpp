@@ -18,7 +18,7 @@ namespace
 
 constexpr double s_degree = 3.14159265358979323846 / 180;
 
-/// A quarter turn, and what is generated for it. There is no view.
+/// A rotation by 90 degrees, and what is generated for it. There is no view.
 struct Fixture
 {
     OwnerPtr<IGraphicsNodeGroup> Make(InputState state = InputState::IS_None)

@@ -12,7 +12,7 @@
 namespace vesk
 {
 
-/// What a context was made of: three points of its plane, then its points.
+/// What a context was constructed from: three points of its plane, then its points.
 using Points = std::vector<Vector3d>;
 using Listing = std::function<Points()>;
 using ContextMaking = std::function<OwnerPtr<ITemporaryDimensionContext>()>;
@@ -34,7 +34,7 @@ const Vector3d s_b(4, 5, 6);
 const Vector3d s_c(7, 8, 9);
 const Vector3d s_d(10, 11, 12);
 
-/// A plane that is not the default one.
+/// A plane other than the default one.
 Coordinate3d Plane()
 {
     return {{1, 1, 1}, {0, 1, 0}, {0, 0, 1}};

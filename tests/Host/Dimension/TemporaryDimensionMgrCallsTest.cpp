@@ -20,7 +20,7 @@ TemporaryDimensionMgr& Manager()
     return *TemporaryDimensionMgr::GetInstance();
 }
 
-/// A host with a view and a handler of kind 1, which is scripted.
+/// A host with a view and a scripted handler of kind 1.
 struct Fixture
 {
     Fixture()
@@ -43,7 +43,7 @@ struct Fixture
 
 }
 
-/// What handlers are told, and what they may do with the manager meanwhile.
+/// Which calls handlers receive, and what they may do with the manager meanwhile.
 class TemporaryDimensionMgrCallsTest : public QObject
 {
     Q_OBJECT
@@ -149,7 +149,7 @@ void TemporaryDimensionMgrCallsTest::aHandlerReplacedWhileItDrawsLeavesTheGraphi
 
     f.Regenerate();
 
-    // The editor of the old one is not placed any more.
+    // The old handler's editor is no longer repositioned.
     QCOMPARE(f.script.log,
              (Log{"1.graphics", "2.made", "1.end input", "1.graphics done", "1.delete"}));
     QVERIFY(Manager().HasHandler());

@@ -19,7 +19,7 @@ TemporaryDimensionMgr& Manager()
     return *TemporaryDimensionMgr::GetInstance();
 }
 
-/// A host with a view, and handlers that are scripted.
+/// A host with a view, and scripted handlers.
 struct Fixture
 {
     Fixture() { core.GetViewManager().AddView(&view); }
@@ -113,7 +113,7 @@ void TemporaryDimensionMgrTest::aHandlerThatThrowsAtItsEndIsDropped()
 
     f.PressKey();
 
-    // It lives on while its operation is on the stack.
+    // The handler lives on while its operation is on the stack.
     QVERIFY(f.TakeLog() == (Log{"1.key", "1.end input", "dropped", "1.key done", "1.delete"}));
     QVERIFY(!Manager().HasHandler());
 }

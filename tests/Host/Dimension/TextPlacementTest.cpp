@@ -44,7 +44,7 @@ struct Fixture
         return {x, y};
     }
 
-    /// Where the editor of a value would stand.
+    /// Where the editor of a value would be.
     QRect GetEditor(InputState state) const
     {
         const QSize size(style.GetEditorWidth(), style.GetEditorHeight());
@@ -54,7 +54,7 @@ struct Fixture
 
     QRect GetView() const { return {0, 0, camera.GetWidth(), camera.GetHeight()}; }
 
-    /// The cursor and what must stay free about it.
+    /// The cursor and the area around it that must not be covered.
     QRect GetCursor() const
     {
         return QRect(ToPixel(end), QSize(1, 1)).marginsAdded(QMargins(8, 8, 8, 8));

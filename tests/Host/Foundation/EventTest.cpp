@@ -39,7 +39,7 @@ public:
 class Sender;
 using TestEvent = Event<Sender, IEvent, IHandler, Args>;
 
-/// Notes its name in the common record, then does what the test wants.
+/// Adds its name to the shared record; a function passed to Then runs once, after the next call.
 class Handler final : public IHandler
 {
 public:
@@ -390,7 +390,7 @@ void EventTest::aHandlerThatThrowsKeepsTheOthersFromNothing()
     f.a.Then([] { throw std::runtime_error("a"); });
     f.b.Then([] { throw std::logic_error("b"); });
 
-    // The first of them.
+    // The first of the exceptions.
     QVERIFY_EXCEPTION_THROWN(f.Emit(), std::runtime_error);
 
     QCOMPARE(f.record, std::string("abc"));

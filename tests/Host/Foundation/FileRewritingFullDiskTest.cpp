@@ -22,7 +22,7 @@ QByteArray Get(const QString& path)
 
 }
 
-/// Files that are replaced as a whole, or not at all.
+/// Files that are replaced completely or not at all.
 class FileRewritingFullDiskTest : public QObject
 {
     Q_OBJECT

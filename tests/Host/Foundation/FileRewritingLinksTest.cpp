@@ -11,7 +11,7 @@
 namespace vesk
 {
 
-/// Files that are replaced as a whole, under the name of a link.
+/// Files that are replaced completely through a link.
 class FileRewritingLinksTest : public QObject
 {
     Q_OBJECT
@@ -38,7 +38,7 @@ void FileRewritingLinksTest::linksStayLinks()
     const std::filesystem::path path = folder.path().toStdString();
     if (isThere)
         QVERIFY(RewriteFile(path / "file", "first"));
-    // Relative ones, as people make them.
+    // Relative links, as users create them.
     std::filesystem::create_symlink("file", path / "inner");
     std::filesystem::create_symlink(target.toStdString(), path / "link");
 

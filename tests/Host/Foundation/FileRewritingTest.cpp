@@ -13,7 +13,7 @@
 namespace vesk
 {
 
-/// Files that are replaced as a whole.
+/// Files that are replaced completely.
 class FileRewritingTest : public QObject
 {
     Q_OBJECT
@@ -84,7 +84,7 @@ void FileRewritingTest::permissionsStay()
     const QFile::Permissions permissions =
         QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
     QVERIFY(QFile::setPermissions(Path("file"), permissions));
-    // Not each system has all of them.
+    // Not every system supports all of them.
     const QFile::Permissions before = QFile::permissions(Path("file"));
 
     QVERIFY(Rewrite(Path("file"), "second"));
@@ -97,7 +97,7 @@ void FileRewritingTest::whatIsNoFileIsLeftAlone_data()
     QTest::addColumn<QString>("path");
     QTest::newRow("folder") << "FOLDER/folder";
     QTest::newRow("in no folder") << "FOLDER/none/file";
-    // Not a device: what a broken program replaces stays replaced on the whole machine.
+    // Not a device: one replaced by a faulty program would stay replaced on the whole machine.
     if (QSysInfo::kernelType() != "winnt")
         QTest::newRow("pipe") << "FOLDER/folder/pipe";
     QTest::newRow("no name") << "";

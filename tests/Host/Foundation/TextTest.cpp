@@ -122,7 +122,7 @@ void TextTest::aUnitBeyondUnicodeBecomesTheReplacement_data()
 
     const std::u32string wide{0x110000, 0xFFFFFFFF, 0x80000000};
     QTest::newRow("char32_t") << WideToUtf8<char32_t>(wide);
-    // A two-byte unit holds nothing beyond Unicode.
+    // A two-byte unit cannot hold a value beyond Unicode.
     if constexpr (sizeof(wchar_t) == sizeof(char32_t))
         QTest::newRow("wchar_t") << ToUtf8(std::wstring(wide.begin(), wide.end()));
 }
@@ -137,7 +137,7 @@ void TextTest::aUnitBeyondUnicodeBecomesTheReplacement()
 namespace
 {
 
-/// The UTF-16 units that each character of a text takes.
+/// The number of UTF-16 units of each character of a text.
 template <class Wide>
 QVector<int> CountUnits(const std::basic_string<Wide>& text)
 {

@@ -8,7 +8,7 @@ namespace vesk
 namespace
 {
 
-/// Knows one text of one module.
+/// Translates one text of one module.
 class OneText final : public ITranslator
 {
 public:

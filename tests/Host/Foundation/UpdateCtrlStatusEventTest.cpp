@@ -12,7 +12,7 @@ namespace vesk
 namespace
 {
 
-/// Listens while it lives.
+/// Installed while it exists.
 class Refresher final : public IControlStatusRefresher
 {
 public:

@@ -23,7 +23,7 @@ bool IsNear(const Vector3d& a, const Vector3d& b)
     return Vector3dUtils::IsEqual(a, b, Constants::DOUBLE_EPS);
 }
 
-/// Unit axes at right angles, right-handed.
+/// Whether the axes are orthogonal unit vectors and right-handed.
 bool IsFrame(const Coordinate3d& frame)
 {
     Eigen::Matrix3d axes;

@@ -11,7 +11,7 @@ namespace
 
 const long double s_degreesPerRadian = 180.0L / std::acos(-1.0L);
 
-/// The double nearest to a value that was computed with more digits; what ought to be zero is.
+/// The double nearest to a value computed with more digits; exactly zero if it should be.
 double Nearest(long double value)
 {
     return std::abs(value) < 1e-15L ? 0.0 : static_cast<double>(value);
@@ -24,7 +24,7 @@ void AddAngles(int first, int last)
         QTest::addRow("%d", degrees) << degrees;
 }
 
-/// All digits and the sign, which Qt leaves out before a zero.
+/// All digits and the sign, which Qt omits before a zero.
 QString Text(double value)
 {
     return (std::signbit(value) ? "-" : "") + QString::number(std::abs(value), 'g', 17);
@@ -32,7 +32,7 @@ QString Text(double value)
 
 }
 
-/// Sines and their like. Numbers are compared to the last bit, and with their signs.
+/// Trigonometric functions. Numbers are compared to the last bit, including their signs.
 class DegreesTest final : public QObject
 {
     Q_OBJECT

@@ -12,7 +12,7 @@ namespace vesk
 namespace
 {
 
-/// Notes what it visits: "l" for a line, "a" for an arc, the text itself for a text.
+/// Records what it visits: "l" for a line, "a" for an arc, the text itself for a text.
 class Recorder final : public IGraphicsNodeVisitor
 {
 public:
@@ -42,7 +42,7 @@ OwnerPtr<IGraphicsArc> MakeArc()
                                 GraphicsRole::ActiveDimension);
 }
 
-/// Tells of its destruction.
+/// Reports its destruction.
 class Mortal final : public IGraphicsNode
 {
 public:

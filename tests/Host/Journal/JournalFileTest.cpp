@@ -11,7 +11,7 @@ namespace vesk
 namespace
 {
 
-/// What reading a file gives.
+/// The result of reading a file.
 struct Reading
 {
     bool isRead = false;
@@ -31,7 +31,7 @@ Reading ReadPath(const QString& path)
 Reading ReadContent(const QByteArray& content)
 {
     const QTemporaryDir folder;
-    // A name that is not ASCII.
+    // A non-ASCII name.
     QFile file(folder.filePath(QString::fromUtf8("日志.jsonl")));
     file.open(QIODevice::WriteOnly);
     file.write(content);
@@ -103,21 +103,21 @@ void JournalFileTest::aBadLineIsNamed_data()
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QString>("error");
     QTest::newRow("rubbish") << Command1 + "\nrubbish\n"
-                             << "line 2: this is no JSON";
-    QTest::newRow("blank") << Command1 + "\n\n" + End1 + '\n' << "line 2: this is no JSON";
+                             << "line 2: not valid JSON";
+    QTest::newRow("blank") << Command1 + "\n\n" + End1 + '\n' << "line 2: not valid JSON";
     QTest::newRow("blank at the end") << Command1 + "\n\n"
-                                      << "line 2: this is no JSON";
-    const QString byReturn = "it ends with a carriage return alone";
+                                      << "line 2: not valid JSON";
+    const QString byReturn = "ends with a bare carriage return";
     QTest::newRow("ends by returns") << Command1 + '\r' + Undo2 + '\r' << "line 1: " + byReturn;
     QTest::newRow("one end by a return") << Undo2 + '\r' << "line 1: " + byReturn;
     QTest::newRow("ends by returns further on")
         << Command1 + '\n' + Undo2 + '\r' + End1 << "line 2: " + byReturn;
     QTest::newRow("returns before a line feed") << Command1 + '\r' + Undo2 + '\n'
-                                                << "line 1: this is no JSON";
+                                                << "line 1: not valid JSON";
     QTest::newRow("key twice") << Command1 + "\n{\"n\":2,\"n\":2,\"kind\":\"undo\",\"entity\":1}\n"
-                               << R"(line 2: the key "n" stands twice)";
+                               << R"(line 2: duplicate key "n")";
     QTest::newRow("deep") << Command1 + '\n' + QByteArray(20000, '[') + '\n'
-                          << "line 2: this is nested too deeply";
+                          << "line 2: nested too deeply";
     QTest::newRow("number twice") << Command1 + '\n' + Command1 + '\n'
                                   << "line 2: record 1 comes after record 1";
     QTest::newRow("number before") << Undo2 + '\n' + Command1 + '\n'

@@ -13,7 +13,7 @@ namespace vesk
 namespace
 {
 
-/// The record that a line holds; number 0, and the test fails, when it holds none.
+/// The record in a line; if there is none, the test fails and the number is 0.
 JournalRecord Read(const std::string& line)
 {
     JournalRecord record;
@@ -340,60 +340,60 @@ void JournalFormatTest::aBadLineIsTold_data()
         const char* line;
         const char* error;
     } rows[] = {
-        {"blank", "", "this is no JSON"},
-        {"text", "hello", "this is no JSON"},
-        {"torn", R"({"n":1,"kind":"und)", "this is no JSON"},
-        {"two values", R"({"n":1} {"n":2})", "this is no JSON"},
-        {"comma", R"({"n":1,5,"kind":"undo","entity":1})", "this is no JSON"},
-        {"number without digits", R"({"n":1,"kind":"undo","entity":-})", "this is no JSON"},
-        {"number without fraction", R"({"n":1,"kind":"point","point":[1.,2,3]})",
-         "this is no JSON"},
-        {"number without whole", R"({"n":1,"kind":"point","point":[.5,2,3]})", "this is no JSON"},
-        {"leading zero", R"({"n":1,"kind":"point","point":[01.5,2,3]})", "this is no JSON"},
-        {"two points", R"({"n":1,"kind":"point","point":[1.5.2,2,3]})", "this is no JSON"},
+        {"blank", "", "not valid JSON"},
+        {"text", "hello", "not valid JSON"},
+        {"torn", R"({"n":1,"kind":"und)", "not valid JSON"},
+        {"two values", R"({"n":1} {"n":2})", "not valid JSON"},
+        {"comma", R"({"n":1,5,"kind":"undo","entity":1})", "not valid JSON"},
+        {"number without digits", R"({"n":1,"kind":"undo","entity":-})", "not valid JSON"},
+        {"number without fraction", R"({"n":1,"kind":"point","point":[1.,2,3]})", "not valid JSON"},
+        {"number without whole", R"({"n":1,"kind":"point","point":[.5,2,3]})", "not valid JSON"},
+        {"leading zero", R"({"n":1,"kind":"point","point":[01.5,2,3]})", "not valid JSON"},
+        {"two points", R"({"n":1,"kind":"point","point":[1.5.2,2,3]})", "not valid JSON"},
         {"exponent without digits", R"({"n":1,"kind":"point","point":[1e+,2,3]})",
-         "this is no JSON"},
-        {"beyond the doubles", R"({"n":1,"kind":"point","point":[1e309,2,3]})", "this is no JSON"},
-        {"number as key", R"({"n":1,1.5:2})", "this is no JSON"},
-        {"bad UTF-8", "{\"n\":1,\"kind\":\"command\",\"id\":\"\xC3(\"}", "this is no JSON"},
-        {"half a character", R"({"n":1,"kind":"command","id":"\ud83d"})", "this is no JSON"},
-        {"list", "[1]", "this is no JSON object"},
+         "not valid JSON"},
+        {"beyond the doubles", R"({"n":1,"kind":"point","point":[1e309,2,3]})", "not valid JSON"},
+        {"number as key", R"({"n":1,1.5:2})", "not valid JSON"},
+        {"bad UTF-8", "{\"n\":1,\"kind\":\"command\",\"id\":\"\xC3(\"}", "not valid JSON"},
+        {"half a character", R"({"n":1,"kind":"command","id":"\ud83d"})", "not valid JSON"},
+        {"list", "[1]", "not a JSON object"},
         {"no number", R"({"kind":"undo","entity":1})", R"("n" is missing)"},
-        {"number as text", R"({"n":"1","kind":"undo","entity":1})", R"("n" is no integer)"},
-        {"real as number", R"({"n":1.0,"kind":"undo","entity":1})", R"("n" is no integer)"},
+        {"number as text", R"({"n":"1","kind":"undo","entity":1})", R"("n" is not an integer)"},
+        {"real as number", R"({"n":1.0,"kind":"undo","entity":1})", R"("n" is not an integer)"},
         {"zero", R"({"n":0,"kind":"undo","entity":1})", R"("n" is below 1)"},
-        {"too great", R"({"n":2147483648,"kind":"undo","entity":1})", R"("n" is no integer)"},
+        {"too great", R"({"n":2147483648,"kind":"undo","entity":1})", R"("n" is not an integer)"},
         {"far too great", R"({"n":18446744073709551615,"kind":"undo","entity":1})",
-         R"("n" is no integer)"},
+         R"("n" is not an integer)"},
         {"no kind", R"({"n":1})", R"("kind" is missing)"},
         {"selection as number", R"({"n":1,"kind":"selection","entities":3})",
-         R"("entities" is no list of integers)"},
+         R"("entities" is not a list of integers)"},
         {"selection of names", R"({"n":1,"kind":"selection","entities":["a"]})",
-         R"("entities" is no list of integers)"},
+         R"("entities" is not a list of integers)"},
         {"selection without list", R"({"n":1,"kind":"selection"})", R"("entities" is missing)"},
-        {"kind as number", R"({"n":1,"kind":1})", R"("kind" is no text)"},
+        {"kind as number", R"({"n":1,"kind":1})", R"("kind" is not a string)"},
         {"unknown kind", R"({"n":1,"kind":"circle"})", R"(unknown kind "circle")"},
         {"command without id", R"({"n":1,"kind":"command"})", R"("id" is missing)"},
         {"parameters as list", R"({"n":1,"kind":"command","id":"A","parameters":[1]})",
-         R"("parameters" is no JSON object)"},
+         R"("parameters" is not a JSON object)"},
         {"nested parameter", R"({"n":1,"kind":"command","id":"A","parameters":{"B":{}}})",
-         R"(the parameter "B" has no value that it can have)"},
+         R"(the parameter "B" has an invalid value)"},
         {"great parameter", R"({"n":1,"kind":"command","id":"A","parameters":{"B":5000000000}})",
-         R"(the parameter "B" has no value that it can have)"},
+         R"(the parameter "B" has an invalid value)"},
         {"parameter of a list", R"({"n":1,"kind":"command","id":"A","parameters":{"B":[]}})",
-         R"(the parameter "B" has no value that it can have)"},
-        {"too small", R"({"n":1,"kind":"undo","entity":-2147483649})", R"("entity" is no integer)"},
-        {"sign without digits", R"({"n":1,"kind":"point","point":[1,2,-.5]})", "this is no JSON"},
+         R"(the parameter "B" has an invalid value)"},
+        {"too small", R"({"n":1,"kind":"undo","entity":-2147483649})",
+         R"("entity" is not an integer)"},
+        {"sign without digits", R"({"n":1,"kind":"point","point":[1,2,-.5]})", "not valid JSON"},
         {"letter behind a number", R"({"n":1,"kind":"point","point":[1,2,3.5f]})",
-         "this is no JSON"},
-        {"two exponents", R"({"n":1,"kind":"point","point":[1,2,3e5e5]})", "this is no JSON"},
+         "not valid JSON"},
+        {"two exponents", R"({"n":1,"kind":"point","point":[1,2,3e5e5]})", "not valid JSON"},
         {"point without place", R"({"n":1,"kind":"point"})", R"("point" is missing)"},
         {"point of four", R"({"n":1,"kind":"point","point":[1,2,3,4]})",
-         R"("point" is no list of three numbers)"},
+         R"("point" is not a list of three numbers)"},
         {"point with a text at its end", R"({"n":1,"kind":"point","point":[1,2,"3"]})",
-         R"("point" is no list of three numbers)"},
+         R"("point" is not a list of three numbers)"},
         {"point with a text within", R"({"n":1,"kind":"point","point":[1,"2",3]})",
-         R"("point" is no list of three numbers)"},
+         R"("point" is not a list of three numbers)"},
         {"value without field", R"({"n":1,"kind":"value","text":"1","value":1})",
          R"("field" is missing)"},
         {"value without text", R"({"n":1,"kind":"value","field":"angle","value":1})",
@@ -401,7 +401,7 @@ void JournalFormatTest::aBadLineIsTold_data()
         {"value without number", R"({"n":1,"kind":"value","field":"angle","text":"1"})",
          R"("value" is missing)"},
         {"text as number", R"({"n":1,"kind":"value","field":"angle","text":1,"value":1})",
-         R"("text" is no text)"},
+         R"("text" is not a string)"},
         {"undo without entity", R"({"n":1,"kind":"undo"})", R"("entity" is missing)"},
         {"property without object", R"({"n":1,"kind":"property","property":"b","value":"c"})",
          R"("object" is missing)"},
@@ -411,26 +411,26 @@ void JournalFormatTest::aBadLineIsTold_data()
          R"("value" is missing)"},
         {"end without result", R"({"n":1,"kind":"end"})", R"("result" is missing)"},
         {"point of two", R"({"n":1,"kind":"point","point":[1,2]})",
-         R"("point" is no list of three numbers)"},
+         R"("point" is not a list of three numbers)"},
         {"point of texts", R"({"n":1,"kind":"point","point":["1.5","2","3"]})",
-         R"("point" is no list of three numbers)"},
+         R"("point" is not a list of three numbers)"},
         {"entity as real", R"({"n":1,"kind":"point","point":[1,2,3],"entity":1.5})",
-         R"("entity" is no integer)"},
+         R"("entity" is not an integer)"},
         {"unknown field", R"({"n":1,"kind":"value","field":"depth","text":"1","value":1})",
          R"(unknown field "depth")"},
         {"value as text", R"({"n":1,"kind":"value","field":"angle","text":"1","value":"1.5"})",
-         R"("value" is no number)"},
+         R"("value" is not a number)"},
         {"property as number",
          R"({"n":1,"kind":"property","object":"a","property":"b","value":1.5})",
-         R"("value" is no text)"},
+         R"("value" is not a string)"},
         {"unknown result", R"({"n":1,"kind":"end","result":"ok"})", R"(unknown result "ok")"},
-        {"key twice", R"({"n":1,"n":1,"kind":"undo","entity":1})", R"(the key "n" stands twice)"},
+        {"key twice", R"({"n":1,"n":1,"kind":"undo","entity":1})", R"(duplicate key "n")"},
         {"key twice, one escaped", R"({"n":1,"kind":"undo","entity":1,"\u0065ntity":2})",
-         R"(the key "entity" stands twice)"},
+         R"(duplicate key "entity")"},
         {"parameter twice", R"({"n":1,"kind":"command","id":"A","parameters":{"B":1,"C":2,"B":3}})",
-         R"(the key "B" stands twice)"},
+         R"(duplicate key "B")"},
         {"more than the kind has", R"({"n":1,"kind":"undo","entity":1,"point":[1,2,3]})",
-         R"("point" does not belong to this kind)"},
+         R"(unexpected key "point")"},
     };
     QTest::addColumn<QByteArray>("line");
     QTest::addColumn<QString>("error");
@@ -442,7 +442,7 @@ void JournalFormatTest::deepNestingIsTold_data()
 {
     QTest::addColumn<QByteArray>("line");
     QTest::addColumn<QString>("error");
-    const QString tooDeep = "this is nested too deeply";
+    const QString tooDeep = "nested too deeply";
     const QByteArray begin = R"({"n":1,"kind":"undo","entity":)";
     constexpr int Deep = 20000;
 
@@ -452,14 +452,14 @@ void JournalFormatTest::deepNestingIsTold_data()
     QTest::newRow("objects") << begin + QByteArray("{\"a\":").repeated(Deep) << tooDeep;
     QTest::newRow("a list too many") << begin + QByteArray(32, '[') << tooDeep;
     QTest::newRow("the deepest") << begin + QByteArray(31, '[') + QByteArray(31, ']') + "}"
-                                 << R"("entity" is no integer)";
+                                 << R"("entity" is not an integer)";
     QTest::newRow("lists in turn") << begin + "[" + QByteArray("[],").repeated(Deep) + "1]}"
-                                   << R"("entity" is no integer)";
+                                   << R"("entity" is not an integer)";
     QTest::newRow("lists of texts in turn")
         << begin + "[" + QByteArray("[\"a\"],").repeated(Deep) + "1]}"
-        << R"("entity" is no integer)";
+        << R"("entity" is not an integer)";
     QTest::newRow("brackets in a text") << begin + '"' + QByteArray(Deep, '[') + "\"}"
-                                        << R"("entity" is no integer)";
+                                        << R"("entity" is not an integer)";
 }
 
 void JournalFormatTest::deepNestingIsTold()

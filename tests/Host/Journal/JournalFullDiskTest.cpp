@@ -41,7 +41,7 @@ QByteArray LinesOf(int count)
     return lines;
 }
 
-/// How many whole lines that many bytes hold.
+/// The number of complete lines in that many bytes.
 QByteArray WholeLinesWithin(int bytes)
 {
     const QByteArray held = LinesOf(RecordCount).left(bytes);
@@ -50,7 +50,7 @@ QByteArray WholeLinesWithin(int bytes)
 
 }
 
-/// A journal whose disk is full from some byte on.
+/// A journal on a disk that is full from some byte on.
 class JournalFullDiskTest : public QObject
 {
     Q_OBJECT

@@ -9,7 +9,7 @@
 namespace vesk
 {
 
-/// Numbers in a locale whose decimal point is none.
+/// Numbers in a locale whose decimal point is not a point.
 class JournalLocaleTest : public QObject
 {
     Q_OBJECT

@@ -26,7 +26,7 @@ JournalManager& Journal()
     return JournalManager::GetInstance();
 }
 
-/// Counts what it hears, and does something each time. Listens while it lives.
+/// Counts notifications and runs a function on each. Registered while it exists.
 class Observer final : public IJournalObserver
 {
 public:
@@ -57,7 +57,7 @@ private:
     std::function<void()> m_act;
 };
 
-/// Counts warnings. Listens while it lives.
+/// Counts warnings. Registered while it exists.
 class WarningObserver final : public IDebugWarningObserver
 {
 public:

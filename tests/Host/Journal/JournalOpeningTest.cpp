@@ -12,7 +12,7 @@
 namespace vesk
 {
 
-/// Has the journal take a file.
+/// Makes the journal acquire a file: Open, Reserve or MoveTo.
 using Opening = std::function<bool(const std::string& path, std::string& error)>;
 
 }
@@ -43,13 +43,13 @@ void WriteAll(const QString& path, const QByteArray& content)
     QCOMPARE(file.write(content), qint64(content.size()));
 }
 
-/// A journal that was read, and the part of a line behind it.
+/// A journal that was read, and the incomplete line after it.
 const QByteArray Read = "{\"n\":7,\"kind\":\"undo\",\"entity\":9}\n";
 const QByteArray Torn = "{\"n\":8,\"ki";
 
 }
 
-/// How the journal takes a file, and leaves it.
+/// How the journal acquires and releases a file.
 class JournalOpeningTest : public QObject
 {
     Q_OBJECT

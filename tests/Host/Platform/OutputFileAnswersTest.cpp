@@ -19,7 +19,7 @@
 namespace vesk
 {
 
-/// Has a file make another.
+/// Makes a file object open another file.
 using Opening = std::function<void(OutputFile& file, const std::filesystem::path& path)>;
 
 }
@@ -29,7 +29,7 @@ Q_DECLARE_METATYPE(vesk::Opening)
 namespace
 {
 
-/// What the system is to answer next, once, in place of doing a call.
+/// What the system returns, once, instead of executing the next call of that name.
 struct Answer
 {
     const char* call = "";
@@ -39,10 +39,10 @@ struct Answer
 
 Answer s_answer;
 
-/// The descriptor that was opened last.
+/// The last descriptor opened.
 int s_opened = -1;
 
-/// Whether the call is answered so.
+/// Whether the prepared answer is for that call.
 bool IsAnswered(const char* call, ssize_t& value)
 {
     if (qstrcmp(s_answer.call, call) != 0)
@@ -53,7 +53,7 @@ bool IsAnswered(const char* call, ssize_t& value)
     return true;
 }
 
-/// The operation of the system, which stands behind the one of this program.
+/// The system function that this program's function replaces.
 template <class Function>
 Function Next(const char* symbol)
 {
@@ -62,7 +62,7 @@ Function Next(const char* symbol)
 
 }
 
-// The program's operations stand before the system's.
+// The program's functions take precedence over the system's.
 extern "C" {
 
 int open(const char* pPath, int flags, ...)
@@ -99,7 +99,7 @@ int flock(int descriptor, int operation)
     return Next<decltype(&flock)>("flock")(descriptor, operation);
 }
 
-/// The file is closed, whatever the answer.
+/// Closes the file, whatever it returns.
 int close(int descriptor)
 {
     const int closed = Next<decltype(&close)>("close")(descriptor);
@@ -111,7 +111,7 @@ int close(int descriptor)
 namespace vesk
 {
 
-/// What comes of the system's rarer answers.
+/// The effects of rare return values of the system.
 class OutputFileAnswersTest : public QObject
 {
     Q_OBJECT

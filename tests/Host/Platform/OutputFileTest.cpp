@@ -11,7 +11,7 @@
 namespace vesk
 {
 
-/// Opens another file with what has one open.
+/// Opens another file with an object that already has one open.
 using Opening = std::function<void(OutputFile& file, const std::filesystem::path& path)>;
 
 }
@@ -21,7 +21,7 @@ Q_DECLARE_METATYPE(vesk::Opening)
 namespace vesk
 {
 
-/// Files as the operating system has them.
+/// Files of the operating system.
 class OutputFileTest : public QObject
 {
     Q_OBJECT

@@ -20,7 +20,7 @@ QString FailureOf(const JournalReplayResult& result)
 
 }
 
-/// Replays of journals that cannot be repeated to their end.
+/// Replays of journals that fail before their end.
 class JournalReplayFailureTest : public QObject
 {
     Q_OBJECT
@@ -60,9 +60,9 @@ void JournalReplayFailureTest::whatCannotBeDoneIsNamed_data()
         << R"({"n":12,"kind":"property","object":"layer","property":"name","value":"a"})"
         << R"(record 12: the property "name" of "layer" cannot be set)";
     QTest::newRow("missing entity") << R"({"n":12,"kind":"selection","entities":[13]})"
-                                    << "record 12: an entity to select is missing";
+                                    << "record 12: an entity to be selected does not exist";
     QTest::newRow("another undo") << R"({"n":12,"kind":"undo","entity":13})"
-                                  << "record 12: the undo gave another result";
+                                  << "record 12: the undo had a different result";
 }
 
 void JournalReplayFailureTest::whatCannotBeDoneIsNamed()
@@ -86,7 +86,7 @@ void JournalReplayFailureTest::aFailureStopsTheReplayAndEndsTheAction()
 
     const JournalReplayResult result = f.Replay();
 
-    QCOMPARE(FailureOf(result), QString("record 2: the point cannot be repeated"));
+    QCOMPARE(FailureOf(result), QString("record 2: the point cannot be replayed"));
     QCOMPARE(f.log, (Log{"Line.begin", "Line.point 1", "Line.end", "Line.delete"}));
 }
 
@@ -97,7 +97,7 @@ void JournalReplayFailureTest::aValueThatCannotBeRepeatedIsAFailure()
     f.Command(L"Line");
     f.records.push_back({2, ValueRecord{InputState::IS_Length, L"12", 12}});
 
-    QCOMPARE(FailureOf(f.Replay()), QString("record 2: the value cannot be repeated"));
+    QCOMPARE(FailureOf(f.Replay()), QString("record 2: the value cannot be replayed"));
 }
 
 void JournalReplayFailureTest::anExceptionStopsTheReplayAndEndsTheAction()

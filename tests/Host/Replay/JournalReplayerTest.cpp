@@ -16,7 +16,7 @@ namespace
 
 using Fixture = ReplayFixture;
 
-/// Puts a journal together.
+/// Assembles a journal.
 using Writing = std::function<void(Fixture&)>;
 
 QString FailureOf(const JournalReplayResult& result)

@@ -12,7 +12,7 @@
 namespace vesk
 {
 
-/// A target that logs what is repeated of the model, as "undo 5".
+/// A target that logs the replayed model records, as "undo 5".
 class ReplayTarget final : public IJournalReplayTarget
 {
 public:
@@ -58,7 +58,7 @@ private:
     Log m_progress;
 };
 
-/// Some commands, and a journal that is put together record by record.
+/// Some commands, and a journal that is assembled record by record.
 struct ReplayFixture : ActionFixture
 {
     ReplayFixture()
@@ -104,11 +104,11 @@ struct ReplayFixture : ActionFixture
     std::vector<JournalRecord> records;
     int lastNumber = 0;
 
-    /// Before which record the target stops the replay.
+    /// The index of the record before which the target stops the replay.
     std::size_t stopAt = std::numeric_limits<std::size_t>::max();
     Log progress;
 
-    /// The command that the target cannot repeat.
+    /// The command that the target cannot replay.
     std::wstring impossible;
 };
 

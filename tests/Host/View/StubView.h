@@ -5,7 +5,7 @@
 namespace vesk
 {
 
-/// A view with an id and, if wanted, a model view.
+/// A view with an id and optionally a model view.
 class StubView final : public test::IdleView
 {
 public:

@@ -11,7 +11,7 @@ namespace vesk
 namespace
 {
 
-/// Two views, and the manager that knows them.
+/// Two views and their manager.
 struct Fixture
 {
     Fixture()

@@ -15,7 +15,7 @@ constexpr double s_maxDouble = std::numeric_limits<double>::max();
 const double s_infinity = std::numeric_limits<double>::infinity();
 const double s_nan = std::numeric_limits<double>::quiet_NaN();
 
-/// Passes world coordinates on as they are.
+/// Returns world coordinates unchanged.
 class PlainModelView final : public IModelView
 {
 public:

@@ -13,7 +13,7 @@ namespace
 constexpr CheckSite s_site{"QtButton.cpp", 12,         "vesk::QtButton::On",
                            L"pArgs为空",   L"vesk-ui", L"2026-11-21"};
 
-/// Keeps the warnings raised while it lives.
+/// Records the warnings raised while it exists.
 class Recorder final : public IDebugWarningObserver
 {
 public:

@@ -292,7 +292,7 @@ void DebugMessageMgrTest::aPathThatCannotBeWrittenIsToldAndLeavesTheOldLog()
 namespace
 {
 
-/// What this program, started anew, writes to standard error; empty unless it exits with 0.
+/// What a new process of this program writes to standard error; empty unless it exits with 0.
 QByteArray RunAnew(const QString& argument)
 {
     QProcess process;

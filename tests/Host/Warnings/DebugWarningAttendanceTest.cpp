@@ -13,7 +13,7 @@ namespace vesk
 namespace
 {
 
-/// Counts the warnings that the user is to see; none is shown.
+/// Counts the warnings that would be shown to the user; none is shown.
 class Scheduler final : public IDebugWarningScheduler
 {
 public:
@@ -33,7 +33,7 @@ constexpr char Variable[] = "VESK_UNATTENDED";
 
 }
 
-/// Whether somebody is there to see warnings, before anybody has said so.
+/// Whether a user is considered present before SetAttended is called.
 class DebugWarningAttendanceTest : public QObject
 {
     Q_OBJECT

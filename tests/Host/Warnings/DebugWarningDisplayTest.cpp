@@ -18,7 +18,7 @@ namespace vesk
 namespace
 {
 
-/// What the user sees and answers, in the order in which it happens.
+/// What the user sees and answers, in order.
 struct User
 {
     std::vector<int> shownLines;
@@ -63,7 +63,7 @@ private:
     User& m_user;
 };
 
-/// An event loop that comes round, and to rest, when the test says so.
+/// An event loop that runs, and becomes idle, when the test says so.
 class Scheduler final : public IDebugWarningScheduler
 {
 public:

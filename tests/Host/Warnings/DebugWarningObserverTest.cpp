@@ -20,7 +20,7 @@ namespace vesk
 namespace
 {
 
-/// Listens while it lives.
+/// Registered while it exists.
 class Observer final : public IDebugWarningObserver
 {
 public:

@@ -13,7 +13,7 @@
 namespace vesk
 {
 
-/// A place for a log file, gone with this object.
+/// A path for a log file, which is removed with this object.
 class LogFile
 {
 public:
@@ -25,14 +25,14 @@ public:
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 
-    /// Each line as a JSON object; an empty one where the line is none.
+    /// Each line as a JSON object; an empty one if the line is not one.
     QVector<QJsonObject> ReadRecords() const { return Parse(Read()); }
 
     static QVector<QJsonObject> Parse(const QByteArray& text)
     {
         QVector<QJsonObject> records;
         QList<QByteArray> lines = text.split('\n');
-        // The text behind the last line end.
+        // The text after the last line end.
         if (lines.last().isEmpty())
             lines.removeLast();
         for (const QByteArray& line : lines)

@@ -12,7 +12,7 @@ inline DebugMessageMgr& Manager()
     return *DebugMessageMgr::GetDebugMessageMgr();
 }
 
-/// Raises a warning of "QtButton.cpp" at that line.
+/// Raises a warning in "QtButton.cpp" at that line.
 inline void Warn(int line = 1, const std::wstring& message = L"pArgs为空")
 {
     Manager().ShowDebugWarn("QtButton.cpp", line, "vesk::QtButton::On", message, L"vesk-ui",

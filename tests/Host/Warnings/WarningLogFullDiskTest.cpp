@@ -9,7 +9,7 @@
 namespace vesk
 {
 
-/// A log whose disk is full from some byte on.
+/// A log on a disk that is full from some byte on.
 class WarningLogFullDiskTest : public QObject
 {
     Q_OBJECT

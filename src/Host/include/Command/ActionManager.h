@@ -24,11 +24,11 @@ public:
     /// Handles events until Quit is called or the application ends.
     virtual void Run() = 0;
 
-    /// Has Run return soon.
+    /// Makes Run return soon.
     virtual void Quit() = 0;
 };
 
-/// Hears when an action begins, makes a step or ends.
+/// Notified when an action begins, completes a step or ends.
 class VESK_HOST_API IActionObserver
 {
 public:
@@ -39,77 +39,78 @@ public:
 
 /// Runs commands, one interactive action at a time.
 ///
-/// An action runs inside ProcessCommand, in an event loop that is never more than one deep: a
-/// command that must not run beside it ends it, waits, and runs when that loop has unwound. Without
-/// an event loop (a replay) ProcessCommand only begins the action; the next one or Reset ends it.
+/// An action runs inside ProcessCommand, in an event loop that never nests: a command that must not
+/// run alongside the action ends it, waits, and runs once that loop has unwound. Without an event
+/// loop (in a replay) ProcessCommand only begins the action; the next action or Reset ends it.
 ///
-/// At the begin, each step and the end of an action the view's text is set and a status refresh is
-/// posted. A command that is disabled when its turn comes is refused. Either way the command's
-/// journal record is completed: what RunCommand wrote or, before ProcessCommand and SendCommand,
-/// whoever runs a command for a control.
+/// When an action begins, completes a step or ends, the view text is set and a status refresh is
+/// posted. A command that is disabled when its turn comes is refused. In either case the command's
+/// journal record is completed: the record written by RunCommand or, before ProcessCommand and
+/// SendCommand, by whoever runs a command for a control.
 class VESK_HOST_API ActionManager
 {
 public:
-    /// Ends the running action; commands that wait for its end take their turn. Nothing happens
-    /// when none runs. Called by an operation of the action itself, the end comes after that
+    /// Ends the running action; commands waiting for that run next. Does nothing if none is
+    /// running. If one of the action's own operations calls it, the action ends after that
     /// operation.
     static void Reset();
 
-    /// Runs a command now. An interactive one that meets a running action ends it and waits for
-    /// its turn; a plain one runs beside it. The last argument is not used.
+    /// Runs a command now. If an action is running, an interactive command ends it and waits for
+    /// its turn; a plain one runs alongside it. The last argument is unused.
     static void ProcessCommand(IUiView* pView, ICommand* pCommand,
                                const CommandParameters& parameters, ICommand* pPrevious);
 
     /// Records a command in the journal and runs it in the current view, as a click on its button
-    /// does. Returns the number of the record; 0, and nothing is done, for an unknown id.
+    /// does. Returns the number of the record; for an unknown id does nothing and returns 0.
     static int RunCommand(const std::wstring& commandId, const CommandParameters& parameters);
 
-    /// Runs the command with that id alone: a running action ends first. An unknown id does
-    /// nothing.
+    /// Runs the command with that id on its own: a running action ends first. Does nothing for an
+    /// unknown id.
     static void SendCommand(const std::wstring& commandId, const CommandParameters& parameters,
                             ICommand* pPrevious);
 
     /// Hands a typed value to the running action, with the text of the EditorTextScope if there is
-    /// one. The action, and who called, may be gone afterwards.
+    /// one. The action and the caller may be gone afterwards.
     static void ProcessViewInput(IUiView* pView, const ActionViewInput& input);
 
-    /// Tells the running action that a locked value is free again, and shows it.
+    /// Tells the running action that a locked value has been freed, and updates the dimensions.
     static void FreeValue(IUiView* pView, InputState field);
 
-    /// Makes the provisional graphics anew and places the editor again; never opens or ends an
+    /// Regenerates the provisional graphics and repositions the editor; never opens or ends an
     /// input.
     static void RefreshViewInput(IUiView* pView);
 
-    /// The same with dimensions that the action makes anew: what they depend on has changed, such
-    /// as the unit shown or the size of a pixel.
+    /// Like RefreshViewInput, but with a new context from the action: for when something that the
+    /// dimensions depend on has changed, such as the display unit or the size of a pixel.
     static void RenewViewInput(IUiView* pView);
 
-    /// Hands the cursor's position, a click and an Escape of the view to the running action.
+    /// Pass the cursor position, a click or an Escape in the view to the running action.
     static void ProcessMouseMove(IUiView* pView, const Vector3d& world);
     static void ProcessClick(IUiView* pView, const Vector3d& world);
 
-    /// Drops the action's locked values or, when there are none, ends it.
+    /// Drops the action's locked values or, if there are none, ends it.
     static void ProcessEscape(IUiView* pView);
 
-    /// True while a command waits for the running action to end: what the user does in a view is
-    /// meant for that command.
+    /// True while a command waits for the running action to end: user input in a view is then meant
+    /// for that command.
     static bool IsCommandWaiting();
 
-    /// Keeps such an input, which is done once the command has begun, in the order of all that was
-    /// kept, and dropped when it runs no action. False, and nothing is kept, when none waits.
+    /// Queues such input until that command has begun its action; it is then delivered in the order
+    /// it was queued, or dropped if the command runs no action. Returns false and queues nothing if
+    /// no command is waiting.
     static bool HoldInput(std::function<void()> input);
 
-    /// Sets the view text, remakes the provisional graphics and posts a refresh; an action whose
-    /// state changed from outside (an undo) calls it.
+    /// Sets the view text, regenerates the provisional graphics and posts a refresh; called by an
+    /// action whose state was changed from outside (by an undo).
     static void StepDone();
 
-    /// The id of the running action's command; empty when none runs.
+    /// The id of the running action's command; empty if none is running.
     static std::wstring GetRunningCommandId();
 
-    /// Chooses the event loop of actions; null for none. Not owned.
+    /// Sets the event loop for actions; null for none. Not owned.
     static void SetEventLoop(IActionEventLoop* pEventLoop);
 
-    /// Adds an observer (not owned), told until it is removed.
+    /// Adds an observer (not owned), notified until it is removed.
     static void AddObserver(IActionObserver* pObserver);
     static void RemoveObserver(IActionObserver* pObserver);
 };

@@ -9,7 +9,7 @@
 namespace vesk
 {
 
-/// A command made of functions, for tables of commands.
+/// A command built from functions, for command tables.
 class VESK_HOST_API Command final : public ICommand
 {
 public:
@@ -33,7 +33,7 @@ public:
     bool IsInteractive() const override;
     OwnerPtr<IAction> Execute(IUiView* pView, const CommandParameters& parameters) override;
 
-    /// Chooses whether the record holds the id alone.
+    /// Sets whether the journal record holds the id alone.
     void SetJournalIdOnly(bool isIdOnly);
     void SetVisible(bool isVisible);
 

@@ -7,13 +7,13 @@ namespace vesk
 
 class IAction;
 
-/// What is known of the running action.
+/// Gives access to the running action.
 class VESK_HOST_API IActionManager
 {
 public:
     virtual ~IActionManager() = default;
 
-    /// The running action, null when none runs. Not owned.
+    /// The running action, null if there is none. Not owned.
     static IAction* CurrentAction();
 };
 

@@ -12,7 +12,7 @@ class CommandParameters;
 class IAction;
 class IUiView;
 
-/// Something that the user can have done, registered under an id.
+/// Something the user can start, registered under an id.
 class VESK_HOST_API ICommand
 {
 public:
@@ -28,8 +28,8 @@ public:
     /// True when it runs as an action that goes on until the user ends it.
     virtual bool IsInteractive() const = 0;
 
-    /// Does what the command is for. An interactive command returns its action, which the action
-    /// manager runs; any other has done its work when it returns an empty pointer.
+    /// Executes the command. An interactive command returns its action, which the action manager
+    /// runs; any other returns an empty pointer when its work is done.
     virtual OwnerPtr<IAction> Execute(IUiView* pView, const CommandParameters& parameters) = 0;
 };
 

@@ -19,10 +19,10 @@ public:
 
     virtual ~ICommandManager() = default;
 
-    /// The command registered under that id, null when there is none. Not owned.
+    /// The command registered under that id, null if there is none. Not owned.
     virtual ICommand* GetCommand(const std::wstring& commandId) const = 0;
 
-    /// Registers a command; false, and the new one is freed, when its id is taken.
+    /// Registers a command; if its id is already in use, frees the new command and returns false.
     virtual bool AddCommand(OwnerPtr<ICommand> opCommand) = 0;
 
     /// Frees the command with that id. Must not be called while the command runs.

@@ -14,24 +14,24 @@ struct TypedValue
 {
     InputState field = InputState::IS_None;
     double value = 0.0;       ///< In model units.
-    std::wstring text;        ///< As it stood in the editor.
-    bool isUnchanged = false; ///< The field showed its current value and nobody typed in it.
-    bool isCommitted = false; ///< The input has ended; else it goes on with another field.
+    std::wstring text;        ///< As it was in the editor.
+    bool isUnchanged = false; ///< The field showed its current value and the user did not edit it.
+    bool isCommitted = false; ///< The input has ended; otherwise it goes on in another field.
 };
 
-/// What stands in the editor when a value is taken from it.
+/// The content of the editor when its value is committed.
 struct EditorText
 {
     std::wstring text;
     bool isUnchanged = false; ///< As in TypedValue.
 
-    /// What the text stands for, in model units: rounded once, which the delivered value, in the
-    /// unit shown, may not be when it is converted. Nothing where nobody judged the text.
+    /// The value of the text in model units, rounded only once; converting the delivered value,
+    /// which is in the display unit, may round twice. Not set if the text was not evaluated.
     std::optional<double> modelValue;
 };
 
-/// Lets the next value that a handler delivers go along with its text, as long as the scope lives.
-/// Handlers deliver the number alone. Scopes may be nested; the innermost counts.
+/// Attaches a text to the next value that a handler delivers while the scope exists; handlers
+/// deliver only the number. Scopes may be nested; the innermost one counts.
 class VESK_HOST_API EditorTextScope final
 {
 public:
@@ -40,7 +40,7 @@ public:
     EditorTextScope(const EditorTextScope&) = delete;
     EditorTextScope& operator=(const EditorTextScope&) = delete;
 
-    /// Gives the text of the innermost scope away, once; an empty one when there is none.
+    /// Returns the text of the innermost scope, once only; an empty one if there is none.
     static EditorText Take();
 
 private:

@@ -7,7 +7,7 @@
 namespace vesk
 {
 
-/// One box of a check-box group. At first unchecked.
+/// One box of a check-box group. Initially unchecked.
 class VESK_HOST_API CheckBoxDefinition : public ControlDefinition<ICheckBoxDefinition>
 {
 public:
@@ -15,16 +15,16 @@ public:
 
     int GetCheckState() const override;
 
-    /// 0 unchecked, any other value checked; kept as it is given.
+    /// 0 unchecked, any other value checked; stored as given.
     void SetCheckState(int checkState);
 
 private:
     int m_checkState = 0;
 };
 
-/// A check-box group; empty at first. A change of a box is a property change of the group.
+/// A check-box group; initially empty. A change to a box is a property change of the group.
 ///
-/// A bad index or a missing box is reported and changes nothing.
+/// An invalid index or a null box is reported and changes nothing.
 class VESK_HOST_API CheckBoxGroupDefinition : public ControlDefinition<ICheckBoxGroupDefinition>
 {
 public:
@@ -33,12 +33,12 @@ public:
     std::vector<const ICheckBoxDefinition*> GetCheckBoxDefinitions() const override;
     void SetCheckState(const std::wstring& checkBoxId, int checkState) override;
 
-    /// The box with that id, owned by the group; null when there is none.
+    /// The box with that id, owned by the group; null if there is none.
     CheckBoxDefinition* Find(const std::wstring& checkBoxId) const;
 
     void AddCheckBox(OwnerPtr<CheckBoxDefinition> opCheckBox);
 
-    /// Puts a box before the one at `index`; at the end it is an appended one.
+    /// Inserts a box before the one at `index`; at the end it is appended.
     void InsertCheckBox(int index, OwnerPtr<CheckBoxDefinition> opCheckBox);
     void DeleteCheckBox(int index);
     void ClearCheckBoxes();

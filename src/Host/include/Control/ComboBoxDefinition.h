@@ -6,12 +6,13 @@
 namespace vesk
 {
 
-/// A combo box. The current index stays with its item, as in every combo box: the first item of an
-/// empty list becomes current, items that come or go before the current one move the index, and
-/// when the current one goes, the item that takes its place, or else the last one, is current.
+/// A combo box. The current index follows its item, as in every combo box: the first item added to
+/// an empty list becomes current, items inserted or deleted before the current one shift the index,
+/// and when the current item is deleted, the item that moves up to its index, or else the last one,
+/// becomes current.
 ///
-/// A bad index is reported and changes nothing. An index that a control writes while it still hears
-/// of earlier changes of the items changes nothing either.
+/// An invalid index is reported and changes nothing. An index written by a control that has yet to
+/// receive earlier item changes changes nothing either.
 class VESK_HOST_API ComboBoxDefinition : public ControlDefinition<IComboBoxDefinition>
 {
 public:
@@ -25,7 +26,7 @@ public:
 
     void AddItem(const std::wstring& text);
 
-    /// Puts an item before the one at `index`; at the end it is an appended one.
+    /// Inserts an item before the one at `index`; at the end it is appended.
     void InsertItem(int index, const std::wstring& text);
     void DeleteItem(int index);
     void ClearItems();

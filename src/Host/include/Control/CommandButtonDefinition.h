@@ -6,7 +6,7 @@
 namespace vesk
 {
 
-/// A command button. At first enabled, unchecked, with its text under the icon.
+/// A command button. Initially enabled, unchecked, with its text under the icon.
 class VESK_HOST_API CommandButtonDefinition : public ControlDefinition<ICommandButtonDefinition>
 {
 public:

@@ -22,8 +22,8 @@ private:
     std::wstring m_iconPath;
 };
 
-/// A menu entry that holds further ones, to any depth. Filled before it is put into a menu: what
-/// shows a menu hears of its own entries only.
+/// A menu entry that holds further entries, to any depth. Fill it before adding it to a menu: a
+/// control that shows a menu is notified only of changes to the menu's own entries.
 class VESK_HOST_API MenuItemContainerDefinition
     : public ControlDefinition<IMenuItemContainerDefinition>
 {
@@ -34,7 +34,7 @@ public:
     std::vector<const IMenuItemDefinition*> GetMenuItemDefinitions() const override;
     void SetIconPath(const std::wstring& iconPath);
 
-    /// A missing entry is reported and changes nothing.
+    /// A null entry is reported and changes nothing.
     void AddMenuItem(OwnerPtr<IMenuItemDefinition> opMenuItem);
 
 private:
@@ -42,15 +42,15 @@ private:
     ItemDefinitionList<IMenuItemDefinition> m_menuItems{GetEvent()};
 };
 
-/// A button with a menu; the menu is empty at first. What shows it follows entries that are added
-/// or inserted and a menu that is cleared; single entries do not go.
+/// A button with a menu; the menu is initially empty. The control that shows it follows when
+/// entries are added or inserted and when the menu is cleared; single entries cannot be removed.
 ///
-/// A bad index or a missing entry is reported and changes nothing.
+/// An invalid index or a null entry is reported and changes nothing.
 class VESK_HOST_API CommandButtonMenuDefinition
     : public ControlDefinition<ICommandButtonMenuDefinition>
 {
 public:
-    /// `commandId` is the command of the main part; empty when it has none.
+    /// `commandId` is the command of the main part; empty if it has none.
     CommandButtonMenuDefinition(std::wstring id, std::wstring commandId);
 
     std::wstring GetCommandId() const override;
@@ -60,7 +60,7 @@ public:
 
     void AddMenuItem(OwnerPtr<IMenuItemDefinition> opMenuItem);
 
-    /// Puts an entry before the one at `index`; at the end it is an appended one.
+    /// Inserts an entry before the one at `index`; at the end it is appended.
     void InsertMenuItem(int index, OwnerPtr<IMenuItemDefinition> opMenuItem);
     void ClearMenuItems();
 

@@ -9,10 +9,10 @@
 namespace vesk
 {
 
-/// What every concrete definition of `TInterface` has in common: id, texts, states and the event.
+/// What all concrete definitions have in common: id, texts, states and the change event.
 ///
-/// A change brings the definition's state right first and then raises exactly one event; setting an
-/// equal value raises none. A handler may destroy the definition, so nothing follows the event.
+/// A setter first updates the definition's state and then raises exactly one event; setting an
+/// equal value raises none. A handler may destroy the definition, so raising the event comes last.
 template <class TInterface>
 class ControlDefinition : public TInterface, public IControlDefinitionChangeEventSource
 {
@@ -36,7 +36,7 @@ public:
 protected:
     explicit ControlDefinition(std::wstring id) : m_id(std::move(id)), m_event(m_id) {}
 
-    /// Stores a new value and tells of it; an equal one is nothing.
+    /// Stores a new value and raises the event; an equal one changes nothing.
     template <class T>
     void Change(T& member, const T& value)
     {

@@ -7,8 +7,8 @@
 namespace vesk
 {
 
-/// While one lives, changes of the definition with its id are the user's. Scopes may nest, and end
-/// in any order.
+/// While one exists, changes to the definition with its id count as the user's. Scopes may nest,
+/// and end in any order.
 ///
 /// GUI thread only.
 class VESK_HOST_API ControlDefinitionChangeByUser
@@ -19,19 +19,19 @@ public:
     ControlDefinitionChangeByUser(const ControlDefinitionChangeByUser&) = delete;
     ControlDefinitionChangeByUser& operator=(const ControlDefinitionChangeByUser&) = delete;
 
-    /// True while a scope with this id lives.
+    /// True while a scope with this id exists.
     static bool IsChangeByUser(const std::wstring& id);
 
 private:
     std::wstring m_id;
 
-    // All that live are linked, the youngest first.
+    // All existing scopes are linked, the youngest first.
     ControlDefinitionChangeByUser* m_pOlder;
     ControlDefinitionChangeByUser* m_pYounger = nullptr;
 };
 
-/// Marks that a line edit's text is being changed by the user: the edit sets the flag, the end of
-/// a scope object clears it.
+/// Marks that a line edit's text is being changed by the user: the edit sets the flag, and the
+/// destructor of an instance clears it.
 class VESK_HOST_API LineEditTextChangeFlag
 {
 public:

@@ -13,17 +13,17 @@ namespace vesk
 
 class IControlDefinition;
 
-/// The concrete change event of the definitions of this host.
+/// The concrete change event of this host's definitions.
 ///
-/// Whether a change is the user's is read when it is raised, from the scope with the definition's
-/// id.
+/// Whether a change is the user's is determined when it is raised, by the
+/// ControlDefinitionChangeByUser scope with the definition's id.
 ///
-/// While a change of items is being told, what changes besides waits: every handler hears of all
-/// changes of items in the order in which they were made, and afterwards of the properties, when
-/// the items that it knows are the definition's. What waited is told before the outermost call
-/// returns; whoever subscribes meanwhile hears of nothing that had happened before. A change of
-/// properties says nothing of what it changed, so that what is changed while one is being told
-/// need not wait.
+/// While an item change is being delivered, further changes wait: every handler receives all item
+/// changes in the order in which they were made, and property changes only afterwards, when the
+/// items it knows match the definition's. Waiting changes are delivered before the outermost call
+/// returns; a handler that subscribes meanwhile receives none of the changes made before it
+/// subscribed. A property change does not say what changed, so changes made while one is being
+/// delivered need not wait.
 class VESK_HOST_API ControlDefinitionChangeEvent
     : public Event<IControlDefinition, IControlDefinitionChangeEvent,
                    IControlDefinitionChangeEventHandler, IControlDefinitionChangeEventArgs>
@@ -31,22 +31,22 @@ class VESK_HOST_API ControlDefinitionChangeEvent
 public:
     explicit ControlDefinitionChangeEvent(const std::wstring& definitionId);
 
-    /// Each tells the handlers of one change; the event may be gone afterwards.
+    /// Each of these delivers one change to the handlers; the event may be gone afterwards.
     void RaisePropertyChanged();
 
     /// `type` is one of ControlDefinitionChangeEventType; `pItem` is not owned and may be null. It
-    /// stays at least as long as `pKept` does, which a change that waits holds until it is told.
+    /// lives at least as long as `pKept`, which a waiting change holds until it is delivered.
     void RaiseItemsChanged(int type, int index, const std::wstring& caption,
                            const IControlDefinition* pItem,
                            std::shared_ptr<const void> pKept = nullptr);
 
-    /// True while a change of items is being told: there may be handlers that do not know the
-    /// items.
+    /// True while an item change is being delivered: some handlers may not know the current items
+    /// yet.
     bool IsTellingItems() const { return m_pTelling != nullptr; }
 
-    /// Refuses what a control writes that has yet to hear of changes of the items: it tells of a
-    /// list that is no more, or the user chose from one. The last change of properties sets the
-    /// control right. False when there is nothing to refuse.
+    /// Refuses a write from a control that has yet to receive item changes: it refers to an
+    /// outdated list, or the user chose from one. The final property change brings the control up
+    /// to date. False if there is nothing to refuse.
     bool RefuseFromBehind();
 
 private:
@@ -57,7 +57,7 @@ private:
 
     std::wstring m_definitionId;
 
-    /// The change of items that is being told, on the stack of the call that raised it.
+    /// The item change that is being delivered, on the stack of the call that raised it.
     Telling* m_pTelling = nullptr;
 };
 

@@ -15,7 +15,7 @@ class ILineEditDefinition;
 class IProgressBarDefinition;
 class IRadioButtonGroupDefinition;
 
-/// Finds the change event of a definition; null for a null definition and for one that has none.
+/// Finds the change event of a definition; null if the definition is null or has none.
 class VESK_HOST_API ControlDefinitionUtil
 {
 public:

@@ -15,7 +15,7 @@ public:
     /// A path or resource name of the icon.
     virtual std::wstring GetIconPath() const = 0;
 
-    /// 0 icon only, 1 text only, 2 text beside icon, 3 text under icon, 4 as the style says.
+    /// 0 icon only, 1 text only, 2 text beside icon, 3 text under icon, 4 as set by the style.
     virtual int GetButtonStyle() const = 0;
     virtual void SetChecked(bool isChecked) = 0;
     virtual bool IsChecked() const = 0;

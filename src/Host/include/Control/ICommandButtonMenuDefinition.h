@@ -35,7 +35,7 @@ public:
 class VESK_HOST_API ICommandButtonMenuDefinition : public IControlDefinition
 {
 public:
-    /// The command of the main part; empty when it has none.
+    /// The command of the main part; empty if it has none.
     virtual std::wstring GetCommandId() const = 0;
     virtual std::wstring GetIconPath() const = 0;
 

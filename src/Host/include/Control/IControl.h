@@ -8,16 +8,16 @@ namespace vesk
 
 class IControlDefinition;
 
-/// What shows a control definition.
+/// A control: shows a control definition.
 class VESK_HOST_API IControl : public WeakReferenceable
 {
 public:
     virtual ~IControl();
 
-    /// The definition shown; owned by the control, null when it was made without one.
+    /// The definition shown; owned by the control, null if it was created without one.
     virtual IControlDefinition* GetControlDefinition() const = 0;
 
-    /// Takes visibility and enabled state over from the definition.
+    /// Applies the definition's visibility and enabled state.
     virtual void UpdateStatus() = 0;
 };
 

@@ -7,7 +7,7 @@
 namespace vesk
 {
 
-/// Describes one control of the user interface, whatever shows it.
+/// Describes one control of the user interface, independently of its widget.
 class VESK_HOST_API IControlDefinition
 {
 public:

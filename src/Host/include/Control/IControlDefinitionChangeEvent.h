@@ -23,7 +23,7 @@ struct ControlDefinitionChangeEventType
     };
 };
 
-/// Tells a handler what happened. Valid only during the call.
+/// Describes a change to a handler. Valid only during the call.
 class VESK_HOST_API IControlDefinitionChangeEventArgs
 {
 public:
@@ -32,20 +32,20 @@ public:
     /// One of ControlDefinitionChangeEventType.
     virtual int GetType() const = 0;
 
-    /// The index of the item concerned; -1 where there is none.
+    /// The index of the item concerned; -1 if there is none.
     virtual int GetIndex() const = 0;
 
-    /// The caption of the item concerned; empty where there is none.
+    /// The caption of the item concerned; empty if there is none.
     virtual std::wstring GetItemCaption() const = 0;
 
-    /// The definition of the item concerned, not owned; null where items are plain texts.
+    /// The definition of the item concerned, not owned; null if the items are plain texts.
     virtual const IControlDefinition* GetItemDefinition() const = 0;
 
     /// True when the change was made through a control by the user.
     virtual bool IsChangeByUser() const = 0;
 };
 
-/// Hears of the changes of a definition.
+/// Notified of changes to a definition.
 class VESK_HOST_API IControlDefinitionChangeEventHandler : public WeakReferenceable
 {
 public:
@@ -68,13 +68,13 @@ public:
     virtual void Delete(IControlDefinitionChangeEventHandler* pHandler) = 0;
 };
 
-/// A definition that tells of its changes.
+/// A definition that reports its changes.
 class VESK_HOST_API IControlDefinitionChangeEventSource
 {
 public:
     virtual ~IControlDefinitionChangeEventSource() = default;
 
-    /// The event; not owned by the caller, null when there is none.
+    /// The event; not owned by the caller, null if there is none.
     virtual IControlDefinitionChangeEvent* GetControlDefinitionChangeEvent() const = 0;
 };
 

@@ -5,7 +5,7 @@
 namespace vesk
 {
 
-/// A text that is only shown: its caption.
+/// A read-only text: its caption.
 class VESK_HOST_API ILabelDefinition : public IControlDefinition
 {};
 

@@ -11,7 +11,7 @@ namespace vesk
 class ILineEditEvent;
 class ValidatorBase;
 
-/// What a line edit takes; decides its default validator.
+/// What a line edit accepts; determines its default validator.
 struct LineEditInputType
 {
     enum : int
@@ -35,13 +35,13 @@ public:
     virtual void ClearText() = 0;
     virtual std::wstring GetSelectedText() const = 0;
 
-    /// Takes the validator over, freeing the one held before.
+    /// Takes ownership of the validator and frees the previous one.
     virtual void SetValidator(OwnerPtr<ValidatorBase> opValidator) = 0;
 
-    /// The validator, not owned by the caller; null when there is none.
+    /// The validator, not owned by the caller; null if there is none.
     virtual const ValidatorBase* GetValidator() const = 0;
 
-    /// The event on which the end of editing is told; owned by the definition.
+    /// The event raised when editing has finished; owned by the definition.
     virtual ILineEditEvent* GetLineEditEvent() const = 0;
 };
 

@@ -5,7 +5,7 @@
 namespace vesk
 {
 
-/// How far a task has come.
+/// The progress of a task.
 class VESK_HOST_API IProgressBarDefinition : public IControlDefinition
 {
 public:

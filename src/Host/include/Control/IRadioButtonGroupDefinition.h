@@ -8,11 +8,11 @@
 namespace vesk
 {
 
-/// One button of a radio-button group; whether it is checked is the group's to say.
+/// One button of a radio-button group; the group decides whether it is checked.
 class VESK_HOST_API IRadioButtonDefinition : public IControlDefinition
 {};
 
-/// Buttons of which one is checked.
+/// A group of buttons, one of which is checked.
 class VESK_HOST_API IRadioButtonGroupDefinition : public IControlDefinition
 {
 public:

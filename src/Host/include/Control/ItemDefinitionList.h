@@ -17,36 +17,37 @@
 namespace vesk
 {
 
-/// Reports an index that is not from 0 to `last` as a debug warning of `function`; false then.
+/// Reports an index outside 0 to `last` as a debug warning of `function`, and then returns false.
 VESK_HOST_API bool CheckItemIndex(int index, int last, const char* function);
 
-/// Reports a missing item as a debug warning of `function`; false then.
+/// Reports a null item as a debug warning of `function`, and then returns false.
 VESK_HOST_API bool CheckItem(const IControlDefinition* pItem, const char* function);
 
-/// The items that a definition owns. Each change of the list raises one event of the definition,
-/// each change of an item raises PropertyChanged there.
+/// The items that a definition owns. Each change to the list raises one event of the definition;
+/// each change to an item raises the definition's PropertyChanged.
 ///
-/// `TItem` is the class or interface of the items. `function` is the qualified name under which a
-/// bad argument is reported: such a call changes nothing. A handler may destroy the definition, so
-/// nothing follows an event. It may remove the item that it hears of, too: an item lives on until
-/// the outermost change of its list has been told, for the handlers that hear of it yet.
+/// `TItem` is the class or interface of the items. `function` is the qualified name under which an
+/// invalid argument is reported: such a call changes nothing. A handler may destroy the definition,
+/// so raising an event comes last. It may also remove the item it is notified of: a removed item
+/// lives until the outermost change to its list has been delivered, for the handlers that have yet
+/// to be notified.
 template <class TItem>
 class ItemDefinitionList final : private IControlDefinitionChangeEventHandler
 {
 public:
-    /// `event` is the definition's and outlives the list.
+    /// `event` belongs to the definition and outlives the list.
     explicit ItemDefinitionList(ControlDefinitionChangeEvent& event) : m_event(event) {}
 
     int GetCount() const { return static_cast<int>(m_items.size()); }
 
-    /// Null for an index that is not in the list.
+    /// Null if the index is out of range.
     TItem* Get(int index) const
     {
         const bool isInside = index >= 0 && index < GetCount();
         return isInside ? m_items[static_cast<std::size_t>(index)] : nullptr;
     }
 
-    /// The first item with that id, null when there is none.
+    /// The first item with that id, null if there is none.
     TItem* Find(const std::wstring& id) const
     {
         const auto found = std::find_if(m_items.begin(), m_items.end(),
@@ -54,14 +55,14 @@ public:
         return found != m_items.end() ? *found : nullptr;
     }
 
-    /// The items as what the interface of the definition shows of them.
+    /// The items, as the type that the definition's interface exposes.
     template <class TShown>
     std::vector<const TShown*> GetAll() const
     {
         return {m_items.begin(), m_items.end()};
     }
 
-    /// Puts an item before the one at `index`; at the end it is an appended one.
+    /// Inserts an item before the one at `index`; at the end it is appended.
     void Insert(int index, OwnerPtr<TItem> opItem, const char* function)
     {
         if (!CheckItem(opItem.Get(), function) || !CheckItemIndex(index, GetCount(), function))
@@ -93,7 +94,7 @@ public:
                                   pRemoved);
     }
 
-    /// An empty list is left alone.
+    /// Does nothing if the list is empty.
     void Clear()
     {
         if (m_items.empty())
@@ -108,7 +109,8 @@ public:
 private:
     using Removed = std::vector<OwnerPtr<TItem>>;
 
-    /// The removed items that handlers may still hear of; freed with the last call that holds it.
+    /// The removed items that handlers may still be notified of; freed when the last call that
+    /// holds them returns.
     std::shared_ptr<Removed> GetRemoved()
     {
         std::shared_ptr<Removed> pRemoved = m_pRemoved.lock();
@@ -136,7 +138,8 @@ private:
 
     ControlDefinitionChangeEvent& m_event;
 
-    // The order stands apart from the owners: to shift pointers in a long list costs nothing.
+    // The order is kept apart from the owners, because shifting plain pointers in a long list is
+    // cheap.
     std::vector<TItem*> m_items;
     std::unordered_map<TItem*, OwnerPtr<TItem>> m_owned;
     std::weak_ptr<Removed> m_pRemoved;

@@ -7,11 +7,11 @@
 namespace vesk
 {
 
-/// A line edit. Nothing is selected at first: selection start -1, selected text empty.
+/// A line edit. Initially nothing is selected: selection start -1, selected text empty.
 class VESK_HOST_API LineEditDefinition : public ControlDefinition<ILineEditDefinition>
 {
 public:
-    /// `inputType` is one of LineEditInputType, `decimals` belong to type Real.
+    /// `inputType` is one of LineEditInputType; `decimals` applies to type Real.
     explicit LineEditDefinition(std::wstring id, int inputType = LineEditInputType::Text,
                                 int decimals = 3);
     ~LineEditDefinition() override;
@@ -19,7 +19,7 @@ public:
     int GetInputType() const override;
     std::wstring GetText() const override;
 
-    /// A different text resets the selection together with it, in one event.
+    /// A different text also resets the selection, in the same event.
     void SetText(const std::wstring& text) override;
     void ClearText() override;
     std::wstring GetSelectedText() const override;
@@ -27,14 +27,14 @@ public:
     const ValidatorBase* GetValidator() const override;
     ILineEditEvent* GetLineEditEvent() const override;
 
-    /// Where the selection starts, in UTF-16 units; -1 when nothing is selected.
+    /// Where the selection starts, in UTF-16 units; -1 if nothing is selected.
     int GetSelectionStart() const;
 
-    /// Selects `length` UTF-16 units from `start`. What reaches beyond the text is cut off; a
+    /// Selects `length` UTF-16 units from `start`. A range beyond the end of the text is clipped; a
     /// negative start or an empty length selects nothing.
     void SetSelection(int start, int length);
 
-    /// Notes whether the user is editing; raises no event. Always true.
+    /// Stores whether the user is editing; raises no event. Always returns true.
     bool SetIsEditing(bool isEditing);
     bool IsEditing() const;
     int GetDecimals() const;
@@ -50,13 +50,13 @@ private:
     mutable LineEditEvent m_lineEditEvent;
 };
 
-/// Shows another line-edit definition under an id of its own; everything else is the other's.
+/// Refers to another line-edit definition under an id of its own; everything else is the other's.
 class VESK_HOST_API LineEditDefinitionReference : public ILineEditDefinition,
                                                   public IControlDefinitionChangeEventSource
 {
 public:
     /// `pDefinition` is not owned, must outlive the reference, and may be null: the reference is
-    /// then empty and takes nothing.
+    /// then empty and ignores what is set.
     LineEditDefinitionReference(std::wstring id, LineEditDefinition* pDefinition);
 
     std::wstring GetId() const override;
@@ -76,10 +76,10 @@ public:
     int GetSelectionStart() const;
     void SetSelection(int start, int length);
 
-    /// False when there is no definition to note it in.
+    /// False if there is no definition to store it in.
     bool SetIsEditing(bool isEditing);
 
-    /// The definition referred to, null when there is none.
+    /// The definition referred to, null if there is none.
     const LineEditDefinition* GetLineEditDefinition() const;
 
     IControlDefinitionChangeEvent* GetControlDefinitionChangeEvent() const override;

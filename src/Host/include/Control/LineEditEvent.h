@@ -12,7 +12,7 @@ class ILineEditDefinition;
 
 enum class LineEditEventType : int
 {
-    EditingFinished = 0, ///< Return was pressed or the focus left.
+    EditingFinished = 0, ///< Return was pressed or the edit lost the focus.
 };
 
 class VESK_HOST_API LineEditEventArgs

@@ -6,7 +6,7 @@
 namespace vesk
 {
 
-/// A progress bar. At first at 0, with its text, 100 pixels wide.
+/// A progress bar. Initially at 0, with its text visible, 100 pixels wide.
 class VESK_HOST_API ProgressBarDefinition : public ControlDefinition<IProgressBarDefinition>
 {
 public:
@@ -16,7 +16,7 @@ public:
     bool IsTextVisible() const override;
     int GetWidth() const override;
 
-    /// A value below 0 or above 100 is kept; a bar shows no such value.
+    /// A value below 0 or above 100 is stored, but a bar does not show it.
     void SetValue(int value);
     void SetTextVisible(bool isTextVisible);
 

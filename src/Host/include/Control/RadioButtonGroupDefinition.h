@@ -14,10 +14,10 @@ public:
     RadioButtonDefinition(std::wstring id, const std::wstring& caption);
 };
 
-/// A radio-button group; empty at first. A change of a button is a property change of the group.
+/// A radio-button group; initially empty. A change to a button is a property change of the group.
 ///
-/// The current id may name no button: none is checked then. When the current button goes, none is
-/// current. A bad index or a missing button is reported and changes nothing.
+/// The current id may match no button: then none is checked. When the current button is removed,
+/// none is current. An invalid index or a null button is reported and changes nothing.
 class VESK_HOST_API RadioButtonGroupDefinition
     : public ControlDefinition<IRadioButtonGroupDefinition>
 {
@@ -28,12 +28,12 @@ public:
     std::wstring GetCurrentRadioButtonId() const override;
     void SetCurrentRadioButtonId(const std::wstring& radioButtonId) override;
 
-    /// The button with that id, owned by the group; null when there is none.
+    /// The button with that id, owned by the group; null if there is none.
     RadioButtonDefinition* Find(const std::wstring& radioButtonId) const;
 
     void AddRadioButton(OwnerPtr<RadioButtonDefinition> opRadioButton);
 
-    /// Puts a button before the one at `index`; at the end it is an appended one.
+    /// Inserts a button before the one at `index`; at the end it is appended.
     void InsertRadioButton(int index, OwnerPtr<RadioButtonDefinition> opRadioButton);
     void DeleteRadioButton(int index);
     void ClearRadioButtons();

@@ -17,10 +17,10 @@ class ILineEditDefinition;
 class IProgressBarDefinition;
 class IRadioButtonGroupDefinition;
 
-/// Makes the controls that show definitions.
+/// Creates the controls that show definitions.
 ///
-/// Each operation takes the definition over and returns the control, which owns it from then on.
-/// The result is empty when no control could be made; the definition is then freed.
+/// Each operation takes ownership of the definition and returns the control, which owns it from
+/// then on. If no control could be created, the definition is freed and the result is empty.
 class VESK_HOST_API VeskIControlFactory
 {
 public:
@@ -29,7 +29,7 @@ public:
     VeskIControlFactory(const VeskIControlFactory&) = delete;
     VeskIControlFactory& operator=(const VeskIControlFactory&) = delete;
 
-    /// The registered factory, null when no control library is loaded. Not owned.
+    /// The registered factory, null if no control library is loaded. Not owned.
     static VeskIControlFactory* Get();
 
     virtual OwnerPtr<IControl> CreateQtButton(OwnerPtr<ICommandButtonDefinition> opDefinition) = 0;
@@ -50,7 +50,7 @@ public:
                           WindowId parentWindowId) = 0;
 
 protected:
-    /// Registers the factory; null withdraws it. Not owned.
+    /// Registers the factory; null unregisters it. Not owned.
     static void Set(VeskIControlFactory* pFactory);
 };
 

@@ -11,10 +11,10 @@ namespace vesk
 /// A value typed in the view.
 struct ActionViewInput
 {
-    /// Which value, and how it was given.
+    /// Which value it is, and how it was committed.
     enum Kind : std::int32_t
     {
-        LengthEntered = 1, ///< With Tab: the value is taken, the input goes on.
+        LengthEntered = 1, ///< With Tab: the value is committed, the input goes on.
         AngleEntered = 2,
         WidthEntered = 6,
         HeightEntered = 7,
@@ -28,7 +28,7 @@ struct ActionViewInput
     };
 
     std::int32_t kind = 0;
-    double value = 0.0; ///< In the unit shown; 0 when the text is no number.
+    double value = 0.0; ///< In the display unit or in degrees; 0 if the text is not a number.
     std::wstring text;  ///< The text itself, in raw-text mode only.
     Any extra;
 };

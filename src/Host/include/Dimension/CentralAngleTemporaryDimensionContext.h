@@ -11,7 +11,7 @@ namespace vesk
 /// An arc about a centre from a start point towards the cursor, with its radius and its central
 /// angle, which is counter-clockwise when positive.
 ///
-/// Angles from -360 to 360 degrees may be typed, unless the range is set otherwise.
+/// Angles from -360 to 360 degrees may be typed, unless another range is set.
 class VESK_HOST_API CentralAngleTemporaryDimensionContext final : public ITemporaryDimensionContext
 {
 public:

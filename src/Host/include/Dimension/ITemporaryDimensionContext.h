@@ -8,17 +8,17 @@ namespace vesk
 {
 
 /// What an action hands in to have dimensions shown and typed. Points are world points, ranges are
-/// in the unit shown.
+/// in the display unit, those of angles in degrees.
 class VESK_HOST_API ITemporaryDimensionContext
 {
 public:
     virtual ~ITemporaryDimensionContext() = default;
 
-    /// The values that may be typed in the first and in the second field.
+    /// The values that may be typed in the first and the second field.
     virtual Intervald GetFirstValueRange() const = 0;
     virtual Intervald GetSecondValueRange() const = 0;
 
-    /// Whether that value of the context's kind can be typed now.
+    /// For a value that this kind of context has: whether it can be typed now.
     virtual bool HasField(InputState /*state*/) const { return true; }
 };
 

@@ -8,11 +8,11 @@
 namespace vesk
 {
 
-/// A unit in which lengths are shown and typed. The model is in millimetres, always.
+/// A unit in which lengths are shown and typed. The model is always in millimetres.
 class VESK_HOST_API LengthUnit
 {
 public:
-    /// `millimetres` is how long one of the unit is, `symbol` what follows a number.
+    /// `millimetres` is the length of one unit; `symbol` follows a number.
     LengthUnit(std::wstring symbol, double millimetres);
 
     const std::wstring& GetSymbol() const { return m_symbol; }
@@ -27,11 +27,11 @@ public:
     static const LengthUnit& Metre();
     static const LengthUnit& Inch();
 
-    /// The unit in which everything shows its lengths now; millimetres at first. Whoever chooses
-    /// another one ends an open dimension input before.
+    /// The current display unit; initially millimetres. Whoever changes it must first end an open
+    /// dimension input.
     static const LengthUnit& GetCurrent();
 
-    /// `unit` lives as long as it is the current one.
+    /// `unit` must live as long as it is the current one.
     static void SetCurrent(const LengthUnit& unit);
 
 private:

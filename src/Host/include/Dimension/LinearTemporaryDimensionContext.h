@@ -26,7 +26,7 @@ public:
     const Vector3d& GetStartPoint() const { return m_start; }
     const Vector3d& GetEndPoint() const { return m_end; }
 
-    /// Whether the dimension is drawn and can be typed; both are at first.
+    /// Whether the dimension is drawn and can be typed; initially true for both.
     bool IsLengthEnabled() const { return m_isLengthEnabled; }
     bool IsAngleEnabled() const { return m_isAngleEnabled; }
     void SetLengthEnabled(bool isEnabled) { m_isLengthEnabled = isEnabled; }

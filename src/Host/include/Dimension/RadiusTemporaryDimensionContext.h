@@ -9,7 +9,7 @@ namespace vesk
 {
 
 /// The circle through three points, with its radius: an arc from the first point to the second
-/// through the third, which is the cursor's.
+/// through the third, the cursor.
 ///
 /// Radii from MIN_MODEL_SIZE to MAX_MODEL_SIZE millimetres may be typed.
 class VESK_HOST_API RadiusTemporaryDimensionContext final : public ITemporaryDimensionContext
@@ -29,11 +29,11 @@ public:
     const Vector3d& GetThirdPoint() const { return m_third; }
 
     /// Whether the lines from the first point to the others and the central angle are drawn too; a
-    /// radius is then delivered under a kind of its own. Off at first.
+    /// radius is then delivered as a kind of its own. Initially off.
     bool IsCentralAngleShown() const { return m_isCentralAngleShown; }
     void SetCentralAngleShown(bool isShown) { m_isCentralAngleShown = isShown; }
 
-    /// Narrows the range of the radius, in the unit shown.
+    /// Narrows the range of the radius, in the display unit.
     void SetFirstValueRange(const Intervald& range) { m_radiusRange = range; }
 
 private:

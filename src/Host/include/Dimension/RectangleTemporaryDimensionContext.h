@@ -8,8 +8,8 @@
 namespace vesk
 {
 
-/// A rectangle with sides along the plane's axes, from a corner to the opposite one, which is the
-/// cursor's, with its width (along x) and its height.
+/// A rectangle with sides along the plane's axes, from a corner to the opposite one, the cursor,
+/// with its width (along x) and its height.
 ///
 /// Both from MIN_MODEL_SIZE to MAX_MODEL_SIZE millimetres may be typed.
 class VESK_HOST_API RectangleTemporaryDimensionContext final : public ITemporaryDimensionContext
@@ -21,14 +21,14 @@ public:
     /// Of the width and of the height.
     Intervald GetFirstValueRange() const override { return m_sizeRange; }
 
-    /// Not used: nothing but lengths can be typed.
+    /// Not used: only lengths can be typed.
     Intervald GetSecondValueRange() const override;
 
     const Coordinate3d& GetCoordinate() const { return m_coordinate; }
     const Vector3d& GetFirstCorner() const { return m_corner; }
     const Vector3d& GetOppositeCorner() const { return m_opposite; }
 
-    /// Narrows the range of both, in the unit shown.
+    /// Narrows the range of both, in the display unit.
     void SetFirstValueRange(const Intervald& range) { m_sizeRange = range; }
 
 private:

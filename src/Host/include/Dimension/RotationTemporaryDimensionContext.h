@@ -8,10 +8,10 @@
 namespace vesk
 {
 
-/// A turn about a centre, from the direction of one point to that of another, which is the
-/// cursor's; counter-clockwise when positive.
+/// A rotation about a centre, from the direction of one point to that of another, the cursor;
+/// counter-clockwise when positive.
 ///
-/// Angles from -360 to 360 degrees may be typed, unless the range is set otherwise.
+/// Angles from -360 to 360 degrees may be typed, unless another range is set.
 class VESK_HOST_API RotationTemporaryDimensionContext final : public ITemporaryDimensionContext
 {
 public:

@@ -9,14 +9,14 @@
 namespace vesk
 {
 
-/// What the generators found: for each value that can be typed, where its text stands and what it
-/// is.
+/// The output of the generators: the position of the text and the value, for each value that can be
+/// typed.
 struct TemporaryDimensionData
 {
     struct Entry
     {
         Vector3d textPosition = Vector3d::Zero(); ///< World position of the text's centre.
-        double value = 0.0;                       ///< In the unit shown; angles in degrees.
+        double value = 0.0;                       ///< In the display unit; angles in degrees.
     };
 
     static constexpr int EntryCount = 6;

@@ -17,19 +17,19 @@ class ITemporaryDimensionContext;
 class ITemporaryDimensionHandler;
 class ITemporaryDimensionHandlerFactory;
 
-/// Reaches what handlers offer besides their interface.
+/// Gives access to what handlers offer beyond their interface.
 class VESK_HOST_API ITemporaryDimensionHandlerAccess
 {
 public:
     virtual ~ITemporaryDimensionHandlerAccess() = default;
 
-    /// Has the handler place its editor again.
+    /// Makes the handler reposition its editor.
     virtual void ResetEditorPosition(ITemporaryDimensionHandler& handler) = 0;
 
-    /// Which value the handler is taking.
+    /// Which value is being typed in the handler's editor.
     virtual InputState GetInputState(ITemporaryDimensionHandler& handler) = 0;
 
-    /// Whether the handler delivers texts as they stand.
+    /// Whether the handler delivers texts unevaluated.
     virtual bool IsRawTextInput(ITemporaryDimensionHandler&) { return false; }
 };
 
@@ -42,23 +42,23 @@ public:
     /// The manager; it lives as long as the process.
     static TemporaryDimensionMgr* GetInstance();
 
-    /// Registers the factory; null withdraws it, and the handler is dropped. Not owned.
+    /// Registers the factory, null for none; a change drops the handler. Not owned.
     void SetHandlerFactory(ITemporaryDimensionHandlerFactory* pFactory);
 
-    /// Chooses how handlers are reached; null for not at all. Not owned.
+    /// Sets the access to handlers; null for none. Not owned.
     void SetHandlerAccess(ITemporaryDimensionHandlerAccess* pAccess);
 
-    /// Shows a context: keeps, replaces or creates the handler and makes its graphics. An empty
-    /// pointer drops the handler. A handler of another kind starts without locks.
+    /// Shows a context: keeps, replaces or creates the handler and generates its graphics. An empty
+    /// pointer drops the handler. A replacement handler starts without locks.
     void SetContext(OwnerPtr<ITemporaryDimensionContext> opContext);
 
-    /// Makes the graphics anew with the handler there is, and places its editor again: of the
-    /// context that it has, or of a new one that takes its place. Without a handler or a context
-    /// nothing happens.
+    /// Regenerates the graphics with the current handler and repositions its editor, for its
+    /// current context or for a new one that replaces it. Does nothing without a handler or a
+    /// context.
     void Regenerate();
     void Regenerate(OwnerPtr<ITemporaryDimensionContext> opContext);
 
-    /// Ends the input and drops handler, graphics and locks.
+    /// Ends the input and drops the handler, graphics and locks.
     void Drop();
 
     /// Ends the input, if there is one.
@@ -66,33 +66,36 @@ public:
     bool IsInputting() const;
     bool HasHandler() const;
 
-    /// Hands a key of the view to the handler (codes: ITemporaryDimensionHandler). True when taken.
+    /// Passes a key pressed in the view to the handler (codes: ITemporaryDimensionHandler). True if
+    /// it was handled.
     bool OnKeyDown(int virtualKey, bool isCtrl, bool isAlt, bool isShift);
 
     /// Which value is being typed.
     InputState GetInputState() const;
 
-    /// The field that it is being typed in.
+    /// The field of that value.
     InputField GetInputField() const;
 
-    /// Whether what is being typed is taken as a text, whatever it says: nobody is to judge it.
+    /// Whether the typed text is delivered unevaluated, whatever it contains: it must not be
+    /// checked.
     bool IsRawTextInput() const;
 
-    /// How wide the open editor is, in pixels, where it has grown with its text; 0 where it is as
-    /// it opens. TemporaryDimensionStyle tells everybody.
+    /// The width of the open editor in pixels if it has grown with its text; 0 if it has its
+    /// opening width. Clients read it from TemporaryDimensionStyle.
     void SetEditorWidth(int width) { m_editorWidth = width; }
     int GetEditorWidth() const { return m_editorWidth; }
 
-    /// The provisional graphics, null when there are none. Not owned; gone with the next change.
+    /// The provisional graphics, null if there are none. Not owned; invalid after the next change.
     const IGraphicsNodeGroup* GetGraphics() const;
 
-    /// Values that the cursor no longer changes; their dimensions show it. A value in model units
-    /// is shown as it is given: an angle of 270 degrees not as the -90 that points tell.
+    /// Locked values, which the cursor no longer changes; their dimensions are shown as locked. A
+    /// value passed here, in model units, is shown as given: an angle of 270 degrees is not shown
+    /// as the -90 that the points give.
     void SetLocked(InputState field, bool isLocked, std::optional<double> value = std::nullopt);
     bool IsLocked(InputState field) const;
     std::vector<InputState> GetLocked() const;
 
-    /// The value that is locked with the field; nothing when none is.
+    /// The value passed when the field was locked; nothing if none was.
     std::optional<double> GetLockedValue(InputState field) const;
 
 private:
@@ -109,14 +112,13 @@ private:
     ITemporaryDimensionHandlerAccess* m_pAccess = nullptr;
     OwnerPtr<ITemporaryDimensionHandler> m_opHandler;
 
-    /// What the handler shows; null without a handler.
+    /// The context that the handler shows; null without a handler.
     OwnerPtr<ITemporaryDimensionContext> m_opContext;
     OwnerPtr<IGraphicsNodeGroup> m_opGraphics;
     std::map<InputState, std::optional<double>> m_locked;
     int m_editorWidth = 0;
 
-    /// Dropped handlers that still have an operation on the stack, and contexts that they may look
-    /// at.
+    /// Dropped handlers with an operation still on the stack, and contexts that they may still use.
     std::vector<OwnerPtr<ITemporaryDimensionHandler>> m_retired;
     std::vector<OwnerPtr<ITemporaryDimensionContext>> m_retiredContexts;
     int m_callDepth = 0;

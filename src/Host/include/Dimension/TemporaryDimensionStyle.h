@@ -7,11 +7,11 @@
 namespace vesk
 {
 
-/// How provisional dimensions look. It asks for the unit of lengths each time.
+/// The appearance of provisional dimensions. The display unit is queried on each call.
 class VESK_HOST_API TemporaryDimensionStyle
 {
 public:
-    /// How wide the editor is, in pixels, where its text asks for no more.
+    /// The width of the editor in pixels, unless its text needs more.
     static constexpr int OpeningEditorWidth = 96;
 
     /// Decimals of the first value (lengths) and of the second (angles).
@@ -23,10 +23,10 @@ public:
     int GetEditorWidth() const;
     int GetEditorHeight() const;
 
-    /// A length of the model in the unit that is shown at this moment.
+    /// A model length in the current display unit.
     double ToShown(double modelLength) const;
 
-    /// The text of a length in the unit shown, and of an angle in degrees.
+    /// The text of a length in the display unit, and of an angle in degrees.
     std::wstring FormatLength(double value) const;
     std::wstring FormatAngle(double value) const;
 };

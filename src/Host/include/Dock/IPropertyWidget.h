@@ -13,11 +13,11 @@ class VESK_HOST_API IWidget
 public:
     virtual ~IWidget() = default;
 
-    /// Brings the content in step with what it shows.
+    /// Updates the content to match what it shows.
     virtual void UpdateStatus() = 0;
 };
 
-/// The panel that shows the properties of what is selected.
+/// The panel that shows the properties of the selection.
 class VESK_HOST_API IPropertyWidget : public IWidget
 {
 public:

@@ -7,26 +7,26 @@
 namespace vesk
 {
 
-/// One emission of an event, linked with those around it. On the stack of the call that emits, and
-/// unlinked however that call ends; the event may die first.
+/// One emission of an event, linked with the enclosing ones. Lives on the stack of the emitting
+/// call and is unlinked however that call ends; the event may be destroyed first.
 class VESK_HOST_API EmissionScope
 {
 public:
     static constexpr std::size_t NoPlace = static_cast<std::size_t>(-1);
 
-    /// `pInnermost` is the event's; it points to this scope until the scope ends.
+    /// `pInnermost` belongs to the event; it points to this scope until the scope ends.
     explicit EmissionScope(EmissionScope*& pInnermost);
     ~EmissionScope();
     EmissionScope(const EmissionScope&) = delete;
     EmissionScope& operator=(const EmissionScope&) = delete;
 
-    /// Tells all emissions of an event that it dies.
+    /// Tells all emissions of an event that the event is being destroyed.
     static void EndAll(EmissionScope* pInnermost);
 
     bool IsEventAlive() const { return m_ppInnermost != nullptr; }
     bool IsOutermost() const { return m_pOuter == nullptr; }
 
-    /// Of the handler that is being called.
+    /// The slot of the handler that is being called.
     std::size_t GetPlace() const { return m_place; }
     void SetPlace(std::size_t place) { m_place = place; }
 

@@ -13,13 +13,13 @@ namespace vesk
 /// A list of handlers to which arguments are delivered; the concrete event behind an event
 /// interface.
 ///
-/// `TSender` tells whose event it is, `TEvent` is the interface with `Add` and `Delete`, `THandler`
-/// has `On(TArgs*)`. Handlers are not owned.
+/// `TSender` is the class whose event it is, `TEvent` the interface with `Add` and `Delete`;
+/// `THandler` has `On(TArgs*)`. Handlers are not owned.
 ///
 /// Emitting survives re-entry: a handler may subscribe, unsubscribe itself or another, emit again,
-/// or destroy the event itself. A handler added while emitting first hears the next emission; one
-/// removed hears nothing more. One that throws keeps the others from nothing: the first exception
-/// leaves the emission when all have been called. Emitting allocates nothing.
+/// or destroy the event itself. A handler added while emitting is called from the next emission on;
+/// a removed one is not called again. A handler that throws does not keep the others from being
+/// called: the first exception is rethrown when all have been called. Emitting allocates nothing.
 template <class TSender, class TEvent, class THandler, class TArgs>
 class Event : public TEvent
 {
@@ -46,7 +46,7 @@ public:
         const auto found = std::find(m_handlers.begin(), m_handlers.end(), pHandler);
         if (pHandler == nullptr || found == m_handlers.end())
             return;
-        // While emitting the places must not move: the entry is emptied and dropped afterwards.
+        // Slots must not move while emitting: the slot is cleared now and dropped afterwards.
         if (m_pInnermost != nullptr)
             *found = nullptr;
         else
@@ -56,7 +56,7 @@ public:
     /// Calls `On(pArgs)` of each handler in the order of subscription. `pArgs` is not owned.
     void Emit(TArgs* pArgs) { EmitTo(m_handlers.size(), pArgs); }
 
-    /// True when nobody listens.
+    /// True when there are no handlers.
     bool IsEmpty() const
     {
         return std::all_of(m_handlers.begin(), m_handlers.end(),
@@ -64,7 +64,7 @@ public:
     }
 
 protected:
-    /// As long as it lives, no handler changes its place.
+    /// While one exists, no handler changes its slot.
     class Emission final : public EmissionScope
     {
     public:
@@ -80,10 +80,10 @@ protected:
         Event& m_event;
     };
 
-    /// How many places handlers have: whoever subscribes from now on comes behind them.
+    /// The number of handler slots: handlers that subscribe from now on come after them.
     std::size_t GetPlaceCount() const { return m_handlers.size(); }
 
-    /// Calls the handlers in the first `placeCount` places.
+    /// Calls the handlers in the first `placeCount` slots.
     void EmitTo(std::size_t placeCount, TArgs* pArgs)
     {
         Emission emission(*this);
@@ -97,7 +97,7 @@ protected:
         exception.Throw();
     }
 
-    /// The handler that is being called, by the innermost emission; null when none is.
+    /// The handler that the innermost emission is calling; null if there is none.
     THandler* GetCalledHandler() const
     {
         const std::size_t place =

@@ -8,11 +8,11 @@
 namespace vesk
 {
 
-/// Replaces the content of the file at `path` (UTF-8), or makes the file.
+/// Replaces the content of the file at `path` (UTF-8), or creates the file.
 ///
-/// The new content is on the disk before the old one goes: at any moment, and whatever happens to
-/// disk or process, one of the two stands there as a whole. A link stays one, and the file keeps
-/// its permissions. False, and the file is as it was, when it cannot be written.
+/// The new content is on disk before the old content is removed: at any moment, whatever happens to
+/// the disk or the process, one of the two is there in full. A link remains a link, and the file
+/// keeps its permissions. If the file cannot be written, returns false and leaves it unchanged.
 VESK_HOST_API bool RewriteFile(const std::string& path, std::string_view content);
 
 }

@@ -5,7 +5,8 @@
 namespace vesk
 {
 
-/// Lets work that may throw be done to its end: the first exception is kept, and thrown afterwards.
+/// Lets a sequence of calls that may throw run to its end: the first exception is kept, and
+/// rethrown afterwards.
 class FirstException
 {
 public:
@@ -25,7 +26,7 @@ public:
 
     bool IsKept() const { return m_pThrown != nullptr; }
 
-    /// Throws what was kept; nothing happens when nothing was.
+    /// Rethrows the kept exception; does nothing if there is none.
     void Throw() const
     {
         if (m_pThrown != nullptr)

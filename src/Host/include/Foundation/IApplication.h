@@ -8,13 +8,13 @@ namespace vesk
 
 class IApplicationWindow;
 
-/// Something that is to happen when the event loop comes round.
+/// Something to be done from the event loop.
 class VESK_HOST_API IApplicationEvent
 {
 public:
     virtual ~IApplicationEvent() = default;
 
-    /// Does it. Called once, on the GUI thread.
+    /// Does the work. Called once, on the GUI thread.
     virtual void Emit() = 0;
 };
 
@@ -22,16 +22,17 @@ public:
 class VESK_HOST_API IApplication
 {
 public:
-    /// The installed application, null before and after.
+    /// The installed application, null if none is installed.
     static IApplication* Get();
 
     virtual ~IApplication() = default;
 
-    /// Takes the event and emits it from the event loop, in order with the window system's posted
-    /// events. An event still waiting when the application ends is freed unemitted.
+    /// Takes ownership of the event and emits it from the event loop, in order with the window
+    /// system's posted events. An event that is still pending when the application ends is freed
+    /// without being emitted.
     virtual void PostEvent(OwnerPtr<IApplicationEvent> opEvent) = 0;
 
-    /// The application's window, null when it has none. Not owned.
+    /// The application's window, null if there is none. Not owned.
     virtual IApplicationWindow* GetMainWindow() const = 0;
 
 protected:

@@ -10,7 +10,7 @@ namespace vesk
 /// The names of the records.
 struct VESK_HOST_API PublishConfigRecordNames
 {
-    /// False in a program that was given to customers.
+    /// False in a program released to customers.
     static const std::wstring InHouseMode;
 };
 
@@ -20,7 +20,7 @@ class VESK_HOST_API IConfigRecord
 public:
     virtual ~IConfigRecord() = default;
 
-    /// What the record says, as yes or no.
+    /// The record's value as a bool.
     virtual bool GetValueAsBool() const = 0;
 };
 
@@ -28,14 +28,14 @@ public:
 class VESK_HOST_API IPublishConfig
 {
 public:
-    /// The record with that name, null when there is none. Not owned; valid until it is set anew or
+    /// The record with that name, null if there is none. Not owned; valid until it is set again or
     /// removed.
     static const IConfigRecord* GetConfigRecord(const std::wstring& name);
 
-    /// Adds the record, or gives the one with that name another value.
+    /// Adds the record, or changes the value of the existing one with that name.
     static void SetConfigRecord(const std::wstring& name, bool value);
 
-    /// Takes the record out. Does nothing when there is none with that name.
+    /// Removes the record. Does nothing if there is none with that name.
     static void RemoveConfigRecord(const std::wstring& name);
 };
 

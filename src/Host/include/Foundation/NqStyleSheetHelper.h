@@ -7,17 +7,17 @@
 namespace vesk
 {
 
-/// The style sheet that the application gives its panes.
+/// The style sheet that the application applies to its panes.
 class VESK_HOST_API NqStyleSheetHelper
 {
 public:
-    /// The one of the process; never null.
+    /// The process-wide instance; never null.
     static NqStyleSheetHelper* Instance();
 
-    /// The text of the style sheet; empty at first.
+    /// The text of the style sheet; initially empty.
     const std::wstring& GetCurrentStyleData() const { return m_styleData; }
 
-    /// Chooses another one for the panes made from now on.
+    /// Sets the style sheet for panes created from now on.
     void SetCurrentStyleData(const std::wstring& styleData) { m_styleData = styleData; }
 
 private:

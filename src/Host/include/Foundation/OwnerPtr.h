@@ -8,7 +8,7 @@
 namespace vesk
 {
 
-/// Deletes one object whose class the holder need not know.
+/// Deletes one object whose class its holder need not know.
 class IOwnerPtrDeleter
 {
 public:
@@ -18,7 +18,7 @@ public:
     virtual void Delete() = 0;
 };
 
-/// Deletes an object through its concrete class, whatever interface its OwnerPtr shows.
+/// Deletes an object through its concrete class, whatever interface its OwnerPtr has.
 template <class Concrete>
 class OwnerPtrDeleter final : public IOwnerPtrDeleter
 {
@@ -31,10 +31,11 @@ private:
     Concrete* m_pObject;
 };
 
-/// Sole ownership of an object, together with the deleter that knows its concrete class.
+/// Sole owner of an object, with a deleter that knows the object's concrete class.
 ///
 /// An `OwnerPtr<IControl>` made from a `QtButton*` deletes the whole button, although `IControl` is
-/// not its first base. By value it takes ownership, a raw pointer only looks.
+/// not its first base. An `OwnerPtr` passed by value transfers ownership; a raw pointer only
+/// observes.
 template <class T>
 class OwnerPtr
 {
@@ -42,7 +43,7 @@ public:
     OwnerPtr() noexcept = default;
     OwnerPtr(std::nullptr_t) noexcept {}
 
-    /// Takes ownership of `pObject` (null gives an empty pointer); frees it if taking over fails.
+    /// Takes ownership of `pObject` (null gives an empty pointer); frees it if that fails.
     template <class Concrete>
     explicit OwnerPtr(Concrete* pObject)
     {
@@ -54,7 +55,7 @@ public:
         m_pObject = guard.release();
     }
 
-    /// Takes over what a pointer to a derived class owns.
+    /// Takes ownership from a pointer to a derived class.
     template <class U, class = std::enable_if_t<std::is_convertible<U*, T*>::value>>
     OwnerPtr(OwnerPtr<U>&& other) noexcept
         : m_pObject(other.m_pObject), m_pDeleter(std::move(other.m_pDeleter))
@@ -71,7 +72,7 @@ public:
     {
         if (this == &other)
             return *this;
-        // What was owned goes last: it may own `other`.
+        // The old object is deleted last: it may own `other`.
         const std::unique_ptr<IOwnerPtrDeleter> pOld =
             std::exchange(m_pDeleter, std::move(other.m_pDeleter));
         m_pObject = std::exchange(other.m_pObject, nullptr);
@@ -94,7 +95,7 @@ public:
             pDeleter->Delete();
     }
 
-    /// Gives the ownership away: the caller now owns the result.
+    /// Releases ownership: the caller now owns the result.
     T* Release() noexcept
     {
         m_pDeleter.reset();
@@ -135,8 +136,8 @@ OwnerPtr<Concrete> MakeOwner(Args&&... args)
     return OwnerPtr<Concrete>(new Concrete(std::forward<Args>(args)...));
 }
 
-/// Checked down-cast that keeps the deleter. An object of another kind is deleted and the result
-/// empty.
+/// Checked down-cast that keeps the deleter. An object of another class is deleted and the result
+/// is empty.
 template <class To, class From>
 OwnerPtr<To> OwnerPtrCast(OwnerPtr<From> opObject)
 {

@@ -5,11 +5,11 @@
 namespace vesk
 {
 
-/// What the process can do at this moment.
+/// The current state of the process.
 class VESK_HOST_API Platform
 {
 public:
-    /// True from the installation of the application object to its removal.
+    /// True from when the application object is installed until it is removed.
     static bool IsApplicationConstructed();
 };
 

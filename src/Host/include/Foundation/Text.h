@@ -7,11 +7,11 @@
 namespace vesk
 {
 
-/// UTF-8 of a wide text (UTF-32 or UTF-16, by the width of `wchar_t`). What is not valid becomes
-/// U+FFFD.
+/// Converts wide text (UTF-32 or UTF-16, by the width of `wchar_t`) to UTF-8. Invalid code units
+/// become U+FFFD.
 VESK_HOST_API std::string ToUtf8(const std::wstring& text);
 
-/// Wide text of UTF-8. What is not valid becomes U+FFFD.
+/// Converts UTF-8 to wide text. Invalid bytes become U+FFFD.
 VESK_HOST_API std::wstring FromUtf8(const std::string& utf8);
 
 }

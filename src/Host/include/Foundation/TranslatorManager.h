@@ -7,28 +7,28 @@
 namespace vesk
 {
 
-/// Knows what texts are in the user's language.
+/// Provides texts in the user's language.
 class VESK_HOST_API ITranslator
 {
 public:
     virtual ~ITranslator() = default;
 
-    /// The translation of a source text; empty when there is none.
+    /// The translation of a source text; empty if there is none.
     virtual std::wstring Translate(const std::wstring& context, const std::wstring& text) const = 0;
 };
 
-/// Translates the texts that a user sees.
+/// Translates the texts shown to the user.
 class VESK_HOST_API TranslatorManager
 {
 public:
-    /// The one of the process; never null.
+    /// The process-wide instance; never null.
     static TranslatorManager* Get();
 
-    /// The text in the user's language; the source text itself where no translation is known.
-    /// `context` is the module whose text it is.
+    /// The text in the user's language; the source text itself if it has no translation. `context`
+    /// is the module that the text belongs to.
     std::wstring Translate(const std::wstring& context, const std::wstring& text) const;
 
-    /// Chooses who knows the translations; null for nobody. Not owned.
+    /// Sets the translator; null for none. Not owned.
     void SetTranslator(const ITranslator* pTranslator) { m_pTranslator = pTranslator; }
 
 private:

@@ -8,8 +8,8 @@ namespace vesk
 
 /// Asks every control to refresh its status.
 ///
-/// Any number of these that wait together refresh the controls once, when the last of them is
-/// emitted.
+/// Any number of these events pending at the same time refresh the controls once, when the last of
+/// them is emitted.
 class VESK_HOST_API UpdateCtrlStatusEvent : public IApplicationEvent
 {
 public:
@@ -24,16 +24,16 @@ private:
     bool m_isWaiting = true;
 };
 
-/// Refreshes controls when it is asked to; one instance listens at a time.
+/// Refreshes controls on an UpdateCtrlStatusEvent; only one instance is installed at a time.
 class VESK_HOST_API IControlStatusRefresher
 {
 public:
     virtual ~IControlStatusRefresher() = default;
 
-    /// Brings every control in step with its definition's visibility and enabled state.
+    /// Updates every control to its definition's visibility and enabled state.
     virtual void RefreshControls() = 0;
 
-    /// Installs the one that listens; null removes it. Not owned.
+    /// Installs the refresher; null removes it. Not owned.
     static void Set(IControlStatusRefresher* pRefresher);
 };
 

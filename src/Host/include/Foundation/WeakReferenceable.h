@@ -7,19 +7,19 @@
 namespace vesk
 {
 
-/// Base of objects that others may watch without owning them.
+/// Base of objects that others may reference without owning them.
 ///
-/// Copies are watched separately: a weak reference follows the one object it was made from.
+/// A copy is a separate object: a weak reference refers only to the object it was made from.
 class VESK_HOST_API WeakReferenceable
 {
 public:
-    /// Shared with every weak reference; tells whether the object still lives.
+    /// Shared with every weak reference; says whether the object still exists.
     struct LifeToken
     {
         bool isAlive = true;
     };
 
-    /// The object's token, made on first use.
+    /// The object's token, created on first use.
     std::shared_ptr<const LifeToken> GetLifeToken() const;
 
 protected:
@@ -32,7 +32,7 @@ private:
     mutable std::shared_ptr<LifeToken> m_pToken;
 };
 
-/// Points at a `T` derived from WeakReferenceable and answers null once that object is destroyed.
+/// Points to a `T` derived from WeakReferenceable; null once that object is destroyed.
 template <class T>
 class WeakReference
 {
@@ -42,7 +42,7 @@ public:
         : m_pObject(pObject), m_pToken(pObject != nullptr ? pObject->GetLifeToken() : nullptr)
     {}
 
-    /// The object, or null when there is none or it no longer lives.
+    /// The object; null if there is none or it has been destroyed.
     T* Get() const { return m_pToken != nullptr && m_pToken->isAlive ? m_pObject : nullptr; }
 
 private:

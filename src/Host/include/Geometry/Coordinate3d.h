@@ -6,16 +6,16 @@
 namespace vesk
 {
 
-/// A right-handed frame: an origin and three unit axes at right angles. Drawing happens in its xy
-/// plane.
+/// A right-handed coordinate system: an origin and three orthogonal unit axes. Its xy plane is the
+/// drawing plane.
 class VESK_HOST_API Coordinate3d
 {
 public:
-    /// The world frame.
+    /// The world coordinate system.
     Coordinate3d();
 
-    /// The frame at `origin` whose x axis points along `xDirection` and whose plane holds
-    /// `yDirection`. Parallel or zero directions give the world axes at `origin`.
+    /// The coordinate system at `origin` whose x axis points along `xDirection` and whose xy plane
+    /// contains `yDirection`. Parallel or zero directions give the world axes at `origin`.
     Coordinate3d(const Vector3d& origin, const Vector3d& xDirection, const Vector3d& yDirection);
 
     const Vector3d& GetOrigin() const { return m_origin; }
@@ -23,7 +23,7 @@ public:
     const Vector3d& GetY() const { return m_y; }
     const Vector3d& GetZ() const { return m_z; }
 
-    /// World point to coordinates of this frame, and back.
+    /// Converts a world point to coordinates of this system, and back.
     Vector3d ToLocal(const Vector3d& world) const;
     Vector3d ToWorld(const Vector3d& local) const;
 

@@ -5,11 +5,11 @@
 namespace vesk
 {
 
-/// Functions of angles in degrees, and their inverses.
+/// Trigonometric functions of angles in degrees, and their inverses.
 ///
-/// At every multiple of 15 degrees they are the doubles nearest to the true values, which radians
-/// never give, and the inverse of such a value is the very angle. No zero among the results is
-/// negative. What has no value is not finite.
+/// At every multiple of 15 degrees the results are the doubles nearest to the true values, unlike
+/// with radians, and the inverse of such a value is exactly that angle. A zero result is never
+/// negative. An undefined result is not finite.
 class VESK_HOST_API Degrees
 {
 public:

@@ -12,7 +12,7 @@ public:
     constexpr double GetMin() const { return m_min; }
     constexpr double GetMax() const { return m_max; }
 
-    /// True inside and on the bounds; NaN is outside.
+    /// True inside and on the bounds; false for NaN.
     constexpr bool Contains(double value) const { return value >= m_min && value <= m_max; }
 
 private:

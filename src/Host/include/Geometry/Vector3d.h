@@ -7,7 +7,8 @@
 namespace vesk
 {
 
-/// A point or a direction, in millimetres. Default construction leaves it unset, as for a double.
+/// A point or a direction, in millimetres. Default construction leaves it uninitialised, as with a
+/// double.
 using Vector3d = Eigen::Vector3d;
 
 class VESK_HOST_API Vector3dUtils

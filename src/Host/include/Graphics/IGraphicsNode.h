@@ -10,13 +10,13 @@
 namespace vesk
 {
 
-/// What a node stands for; a view chooses colour and pen by it, fit for its background.
+/// What a node represents; a view chooses colour and pen by it, to suit its background.
 enum class GraphicsRole
 {
     RubberBand,      ///< What the running action would draw now.
     Dimension,       ///< A provisional dimension.
     ActiveDimension, ///< The dimension whose value is being typed.
-    LockedDimension, ///< A dimension whose value is fixed.
+    LockedDimension, ///< A dimension whose value is locked.
 };
 
 class IGraphicsNodeGroup;
@@ -24,7 +24,7 @@ class IGraphicsLine;
 class IGraphicsArc;
 class IGraphicsText;
 
-/// Visits each node of a group, depth first, in the order of adding.
+/// Visits each node of a group, depth first, in the order in which they were added.
 class VESK_HOST_API IGraphicsNodeVisitor
 {
 public:
@@ -54,10 +54,10 @@ public:
     virtual void AddChild(OwnerPtr<IGraphicsNode> opChild) = 0;
     virtual int GetChildCount() const = 0;
 
-    /// The child at `index`, null outside the range. Not owned.
+    /// The child at `index`, null if out of range. Not owned.
     virtual const IGraphicsNode* GetChild(int index) const = 0;
 
-    /// Whether a view may pick the group; true at first.
+    /// Whether a view may pick the group; initially true.
     virtual void SetPickable(bool isPickable) = 0;
     virtual bool IsPickable() const = 0;
 };
@@ -74,8 +74,8 @@ public:
     virtual GraphicsRole GetRole() const = 0;
 };
 
-/// A circular arc: it starts at `centre + xAxis * radius` and turns by `sweep` radians from the x
-/// axis towards the y axis (unit vectors at right angles).
+/// A circular arc: it starts at `centre + xAxis * radius` and sweeps `sweep` radians from the x
+/// axis towards the y axis (orthogonal unit vectors).
 class VESK_HOST_API IGraphicsArc : public IGraphicsNode
 {
 public:
@@ -91,7 +91,7 @@ public:
     virtual GraphicsRole GetRole() const = 0;
 };
 
-/// A text centred on a world point, upright on the screen at the view's own font size.
+/// A text centred on a world point, upright on the screen in the view's own font size.
 class VESK_HOST_API IGraphicsText : public IGraphicsNode
 {
 public:

@@ -35,7 +35,7 @@ public:
     /// Sets a parameter, replacing one of the same name.
     void Add(const std::wstring& name, const CommandParameterValue& value);
 
-    /// The parameter of that name, null when there is none.
+    /// The parameter of that name, null if there is none.
     const CommandParameterValue* Find(const std::wstring& name) const;
 
     /// All parameters by name.

@@ -9,7 +9,7 @@ namespace vesk
 
 class CommandParameters;
 
-/// One journal record that is being made.
+/// A journal record under construction.
 class VESK_HOST_API IJournalData
 {
 public:

@@ -9,7 +9,7 @@ namespace vesk
 class IJournalCommandData;
 class IJournalUiObject;
 
-/// Takes what the user does into the journal, before it is done.
+/// Records in the journal what the user does, before it is done.
 class VESK_HOST_API IJournalManager
 {
 public:
@@ -24,7 +24,7 @@ public:
     /// Writes the record of a command with its parameters. An empty pointer is ignored.
     virtual void AddCommandDataWithParameters(OwnerPtr<IJournalCommandData> opData) = 0;
 
-    /// Makes a widget known; `kind` 3 is the editor of a provisional dimension. `reserved` is 0.
+    /// Announces a widget; `kind` 3 is the editor of a provisional dimension. `reserved` is 0.
     virtual void AddUiObject(OwnerPtr<IJournalUiObject> opObject, int kind, int reserved) = 0;
 };
 

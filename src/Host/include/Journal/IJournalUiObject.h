@@ -7,16 +7,16 @@
 namespace vesk
 {
 
-/// Makes a widget known to the journal.
+/// Announces a widget to the journal.
 class VESK_HOST_API IJournalUiObject
 {
 public:
-    /// A new one; empty when no journal is installed.
+    /// Creates an instance; empty if no journal factory is installed.
     static OwnerPtr<IJournalUiObject> Create();
 
     virtual ~IJournalUiObject() = default;
 
-    /// The widget, as a pointer to the toolkit's base class of objects. Not owned.
+    /// The widget, as a pointer to the toolkit's object base class. Not owned.
     virtual void SetUiObject(const Any& uiObject) = 0;
     virtual const Any& GetUiObject() const = 0;
 };

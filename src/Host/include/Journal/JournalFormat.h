@@ -9,23 +9,23 @@
 namespace vesk
 {
 
-/// The journal's file format: one JSON object a line, UTF-8.
+/// The journal's file format: one JSON object per line, UTF-8.
 ///
-/// Reading gives the very doubles written, whatever the locale. What is no finite number is written
-/// as null and read as NaN. A record holds what its kind has and nothing else.
+/// Reading gives exactly the doubles that were written, whatever the locale. A number that is not
+/// finite is written as null and read as NaN. A record has the keys of its kind and no others.
 class VESK_HOST_API JournalFormat
 {
 public:
-    /// The line of a record, without its line end.
+    /// The line of a record, without the line terminator.
     static std::string ToLine(const JournalRecord& record);
 
-    /// Reads a line. False when it is no record; `error` then says why, in one sentence.
+    /// Reads a line. False if it is not a record; `error` then says why, in one sentence.
     static bool FromLine(const std::string& line, JournalRecord& record, std::string& error);
 
-    /// Reads a whole file (UTF-8 path). A last line without a line end was torn and is left out.
-    /// False when the file cannot be read or another line is bad; `error` names the line. Bad are
-    /// also a number that is not above those before it, and an end without a command to end.
-    /// `records` then holds what was read before.
+    /// Reads a whole file (UTF-8 path). A last line without a terminator is incomplete and is
+    /// skipped. False if the file cannot be read or another line is invalid; `error` names the
+    /// line. Also invalid are a record number that is not greater than those before it, and an end
+    /// record without a command to end. `records` then holds the records read before that line.
     static bool ReadFile(const std::string& path, std::vector<JournalRecord>& records,
                          std::string& error);
 };

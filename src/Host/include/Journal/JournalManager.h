@@ -10,7 +10,7 @@
 namespace vesk
 {
 
-/// Hears of the journal as it grows.
+/// Notified as the journal grows.
 class VESK_HOST_API IJournalObserver
 {
 public:
@@ -19,18 +19,18 @@ public:
     /// A record was written.
     virtual void OnRecord(const JournalRecord& record) = 0;
 
-    /// A widget was made known. The object lives as long as the call.
+    /// A widget was announced. The object is valid only during the call.
     virtual void OnUiObject(const IJournalUiObject& object, int kind) = 0;
 };
 
 /// The journal of this process.
 ///
-/// Each record is one line, handed to the operating system before what it records is done. While no
-/// file is open, records are numbered and told to the observers all the same.
+/// Each record is one line, handed to the operating system before what it records is done. Records
+/// are numbered and reported to the observers even while no file is open.
 ///
-/// A file in use is this program's alone. When a line cannot be written, the file is cut to its
-/// last whole line; each further record first writes what is missing. So the file never has a hole,
-/// and what stands in it can be repeated.
+/// A file in use is locked for this program. If a line cannot be written, the file is truncated to
+/// its last complete line; each further record first writes what is missing. So the file never has
+/// a gap, and its content can be replayed.
 ///
 /// Only GetLastLines may be called from any thread.
 class VESK_HOST_API JournalManager : public IJournalManager
@@ -38,41 +38,44 @@ class VESK_HOST_API JournalManager : public IJournalManager
 public:
     static JournalManager& GetInstance();
 
-    /// Replaces the file at `path` (UTF-8) and starts numbering anew. False, and nothing changes,
-    /// when it cannot be written or another program has it; `error` then says so in one sentence.
+    /// Replaces the file at `path` (UTF-8) and restarts numbering. If it cannot be written or
+    /// another program has it open, returns false, changes nothing, and `error` says so in one
+    /// sentence.
     virtual bool Open(const std::string& path, std::string& error) = 0;
 
-    /// Takes the file at `path` for this program and leaves it as it is, for its records are about
-    /// to be repeated: those that are added until Continue or MoveTo are kept back. Numbering
-    /// starts anew. False, and nothing changes, as with Open.
+    /// Locks the file at `path` for this program without changing it, because its records are about
+    /// to be replayed: records added before Continue or MoveTo are held back. Restarts numbering.
+    /// Returns false and changes nothing in the same cases as Open.
     virtual bool Reserve(const std::string& path, std::string& error) = 0;
 
-    /// Goes on in the file that was taken, behind its last whole line: what was kept back stands in
-    /// it already. The next number is the one after `lastNumber`.
+    /// Continues in the reserved file, after its last complete line; the records held back are
+    /// already in it. The next number is the one after `lastNumber`.
     virtual void Continue(int lastNumber) = 0;
 
-    /// Leaves the file that was taken and goes on in another, which is replaced and gets what was
-    /// kept back. False, and without a file from now on, when that cannot be written.
+    /// Releases the reserved file and continues in another, which is replaced and receives the
+    /// records held back. If that cannot be written, returns false, and no file is open from then
+    /// on.
     virtual bool MoveTo(const std::string& path, std::string& error) = 0;
 
-    /// True while every record stands in a file, or is about to.
+    /// True while every record is in a file, or is held back for one.
     virtual bool IsKept() const = 0;
 
-    /// Closes the file and forgets the last lines; numbering starts anew. False when there was a
-    /// file and records are missing in it.
+    /// Closes the file, forgets the last lines and restarts numbering. False if a file was open and
+    /// records are missing from it.
     virtual bool Close() = 0;
 
-    /// Writes a record and returns its number. A number of an end record is its command's.
+    /// Writes a record and returns its number. An end record has the number of its command.
     virtual int Add(decltype(JournalRecord::what) what) = 0;
 
-    /// The number of the record of a command that a control has announced last (AddCommandData), if
-    /// it has not begun yet, else 0. Taken once: whoever runs the command completes the record.
+    /// The number of the command record that a control announced last (AddCommandData), if it is
+    /// for that command and has not been taken yet, otherwise 0. Can be taken once only: whoever
+    /// runs the command completes the record.
     virtual int TakeAnnounced(const std::wstring& commandId) = 0;
 
     /// The lines of the last records, oldest first, at most 20.
     virtual std::vector<std::string> GetLastLines() const = 0;
 
-    /// Adds an observer (not owned), told until it is removed.
+    /// Adds an observer (not owned), notified until it is removed.
     virtual void AddObserver(IJournalObserver* pObserver) = 0;
     virtual void RemoveObserver(IJournalObserver* pObserver) = 0;
 };

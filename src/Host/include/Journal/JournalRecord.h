@@ -34,7 +34,7 @@ struct ValueRecord
     double value = 0.0; ///< In model units.
 };
 
-/// The user selected entities: these and no others.
+/// The user selected exactly these entities.
 struct SelectionRecord
 {
     std::vector<int> entities;
@@ -43,25 +43,26 @@ struct SelectionRecord
 /// A property was set by the user.
 struct PropertyRecord
 {
-    std::wstring object;   ///< Whose property: "drawing", "selection".
-    std::wstring property; ///< Which one: "name".
+    std::wstring object;   ///< The object: "drawing", "selection".
+    std::wstring property; ///< The property: "name".
     std::wstring value;
 };
 
-/// An undo took its last step back; `entity` is the one that came or went.
+/// An undo reverted the last step; `entity` is the one that appeared or disappeared.
 struct UndoRecord
 {
     int entity = 0;
 };
 
-/// A command has come to its end.
+/// A command has ended.
 struct EndRecord
 {
     int command = 0;        ///< The number of the command's record.
     bool isRefused = false; ///< It was disabled when its turn came.
 };
 
-/// What a journal line says; `number` counts the records from 1, an end repeats its command's.
+/// The content of a journal line; `number` counts the records from 1, an end record repeats its
+/// command's.
 struct JournalRecord
 {
     int number = 0;

@@ -11,11 +11,11 @@ namespace vesk
 class IJournalData;
 class IJournalUiObject;
 
-/// Makes journal records.
+/// Creates journal records.
 class VESK_HOST_API NqIJournalFactory
 {
 public:
-    /// The installed factory, null when there is none. Not owned.
+    /// The installed factory, null if there is none. Not owned.
     static NqIJournalFactory* GetImpl();
 
     /// Installs a factory; null removes it. Not owned.
@@ -23,7 +23,7 @@ public:
 
     virtual ~NqIJournalFactory() = default;
 
-    /// A record of the class with that name; empty for an unknown name.
+    /// Creates a record of the class with that name; empty for an unknown name.
     virtual OwnerPtr<IJournalData> CreateJournalData(const std::wstring& className) = 0;
     virtual OwnerPtr<IJournalUiObject> CreateJournalUiObject() = 0;
 };

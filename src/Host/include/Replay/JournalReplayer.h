@@ -10,38 +10,39 @@
 namespace vesk
 {
 
-/// Repeats what the journal holds of the model besides commands.
+/// Replays the journal's model records other than commands.
 class VESK_HOST_API IJournalReplayTarget
 {
 public:
     virtual ~IJournalReplayTarget() = default;
 
-    /// Told before each record, how many of all have been repeated. False stops the replay there.
+    /// Called before each record with the number of records replayed so far and in total. Return
+    /// false to stop the replay there.
     virtual bool OnProgress(std::size_t /*done*/, std::size_t /*total*/) { return true; }
 
-    /// False for a command that could not do what its parameters say.
+    /// False for a command that cannot do what its parameters say.
     virtual bool CanRepeat(const CommandRecord& /*record*/) { return true; }
 
-    /// Selects entities. False when there is no such entity.
+    /// Selects entities. False if one of them does not exist.
     virtual bool ReplaySelection(const SelectionRecord& record) = 0;
 
-    /// Sets a property. False when there is none of that name.
+    /// Sets a property. False if there is none of that name.
     virtual bool ReplayProperty(const PropertyRecord& record) = 0;
 
-    /// True when the last undo gave the result that the record names.
+    /// True if the last undo had the recorded result.
     virtual bool VerifyUndo(const UndoRecord& record) = 0;
 };
 
-/// How a replay went.
+/// The outcome of a replay.
 struct JournalReplayResult
 {
-    /// Empty when every record was repeated; else which one was not, and why.
+    /// Empty if nothing failed; otherwise why, and which record if it was one.
     std::string failure;
 
-    /// The number of the record that was not repeated; 0 when there is none.
+    /// The number of the record that failed; 0 if none did.
     int failedNumber = 0;
 
-    /// How many records were repeated.
+    /// The number of records replayed.
     std::size_t repeatedCount = 0;
 
     /// The target stopped the replay.
@@ -50,17 +51,16 @@ struct JournalReplayResult
     /// The commands whose completion mark is missing at the end of the journal.
     std::vector<std::wstring> unfinishedCommands;
 
-    /// The marks to be written behind the journal before anything else is: with them it means what
-    /// it meant without.
+    /// The marks to append to the journal before anything else; they do not change its meaning.
     std::vector<EndRecord> missingMarks;
 };
 
-/// Repeats a journal through the registered commands, without an event loop.
+/// Replays a journal through the registered commands, without an event loop.
 class VESK_HOST_API JournalReplayer
 {
 public:
-    /// Repeats the records in order and stops at the first that cannot be done or gives another
-    /// result. What was finished before stays done. Runs no event loop of actions meanwhile.
+    /// Replays the records in order and stops at the first that fails or gives a different result.
+    /// What was finished before that remains done. Runs no action event loop meanwhile.
     static JournalReplayResult Replay(const std::vector<JournalRecord>& records,
                                       IJournalReplayTarget& target);
 };

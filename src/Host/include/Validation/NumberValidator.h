@@ -9,11 +9,11 @@
 namespace vesk
 {
 
-/// Judges whether a text is a number within bounds. `T` is int or double.
+/// Checks whether a text is a number within bounds. `T` is int or double.
 ///
-/// By default every number is accepted. A text is a number when it is one as a whole, in the C
+/// By default every number is accepted. The whole text must be a number, in the format of the C
 /// locale whatever the current one is; a leading plus sign is allowed, a blank is not. NaN,
-/// infinity and what `T` cannot hold are outside every range.
+/// infinity and values that `T` cannot represent are outside every range.
 template <class T>
 class NumberValidator : public ValidatorBase
 {
@@ -28,7 +28,7 @@ public:
 
     bool ValidateInput(const std::wstring& text) const override;
 
-    /// The tip given at construction, or else one that names the range.
+    /// The tip given at construction; if it is empty, one that states the range.
     std::wstring GetTip() const override;
 
     /// True within the bounds.
@@ -51,7 +51,8 @@ public:
         m_isTopInclusive = isInclusive;
     }
 
-    /// How many decimals the value is shown with; never refuses or rounds a typed number.
+    /// The number of decimals with which the value is shown; a typed number is never rejected or
+    /// rounded for its decimals.
     void SetDecimals(int decimals) { m_decimals = decimals; }
     int GetDecimals() const { return m_decimals; }
     T GetBottom() const { return m_bottom; }

@@ -8,7 +8,7 @@
 namespace vesk
 {
 
-/// Judges what is typed. It never alters or refuses a character.
+/// Validates what is typed. Never alters or rejects a character.
 class VESK_HOST_API ValidatorBase
 {
 public:
@@ -18,7 +18,7 @@ public:
     /// True when the text as it stands would be accepted.
     virtual bool ValidateInput(const std::wstring& text) const = 0;
 
-    /// What to tell the user when it would not; may be empty.
+    /// What to tell the user if it would not be accepted; may be empty.
     virtual std::wstring GetTip() const { return m_tip; }
 
 private:

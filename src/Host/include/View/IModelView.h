@@ -6,8 +6,8 @@
 namespace vesk
 {
 
-/// How a view maps the world to its pixels. Pixels are the window system's, independent of the
-/// screen's density; x right, y down, (0, 0) at the view's top left corner.
+/// How a view maps the world to its pixels. Pixels are the window system's logical pixels,
+/// independent of the screen's density; x right, y down, (0, 0) at the view's top left corner.
 class VESK_HOST_API IModelView
 {
 public:

@@ -10,19 +10,19 @@ namespace vesk
 
 class IUiView;
 
-/// Knows the drawing views and which of them is current.
+/// Manages the drawing views and knows which is current.
 class VESK_HOST_API IUiDocumentViewManager
 {
 public:
-    /// The installed manager, null when there is none. Not owned.
+    /// The installed manager, null if there is none. Not owned.
     static IUiDocumentViewManager* Get();
 
     virtual ~IUiDocumentViewManager() = default;
 
-    /// The view the user works in, null when there is none. Not owned.
+    /// The view the user works in, null if there is none. Not owned.
     virtual IUiView* GetCurrentUiView() const = 0;
 
-    /// The view with that id, null when there is none. Not owned.
+    /// The view with that id, null if there is none. Not owned.
     virtual IUiView* GetUiViewById(std::uint32_t id) const = 0;
 
 protected:
@@ -30,7 +30,8 @@ protected:
     static void Set(IUiDocumentViewManager* pManager);
 };
 
-/// The host's manager: views come and go by AddView and RemoveView. Installed while it lives.
+/// The host's manager: views are added by AddView and removed by RemoveView. Installed as long as
+/// it exists.
 class VESK_HOST_API UiDocumentViewManager final : public IUiDocumentViewManager
 {
 public:
@@ -39,7 +40,7 @@ public:
     UiDocumentViewManager(const UiDocumentViewManager&) = delete;
     UiDocumentViewManager& operator=(const UiDocumentViewManager&) = delete;
 
-    /// The installed manager's current view, whoever installed it; null when there is none. Not
+    /// The installed manager's current view, whoever installed it; null if there is none. Not
     /// owned.
     static IUiView* FindCurrentView();
 
@@ -52,7 +53,7 @@ public:
     /// Forgets a view; if it was current, the first remaining one becomes current.
     void RemoveView(IUiView* pView);
 
-    /// Makes an added view current; an unknown one is ignored, null leaves none current.
+    /// Makes an added view current; an unknown view is ignored, and after null no view is current.
     void SetCurrentView(IUiView* pView);
 
 private:

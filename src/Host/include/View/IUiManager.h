@@ -22,15 +22,15 @@ public:
 class VESK_HOST_API IUiManager
 {
 public:
-    /// The installed manager, null when there is none. Not owned.
+    /// The installed manager, null if there is none. Not owned.
     static IUiManager* Get();
 
     virtual ~IUiManager() = default;
 
-    /// The main window, null when there is none. Not owned.
+    /// The main window, null if there is none. Not owned.
     virtual IApplicationWindow* GetMainWindow() const = 0;
 
-    /// The panes of the main window, null when there are none. Not owned.
+    /// The dock manager of the main window, null if there is none. Not owned.
     virtual IDockManager* GetDockManager() const = 0;
 
 protected:
@@ -42,7 +42,7 @@ protected:
 class VESK_HOST_API IMainWindow
 {
 public:
-    /// The installed main frame, null when there is none. Not owned.
+    /// The installed main frame, null if there is none. Not owned.
     static IMainWindow* GetMainWindow();
 
     virtual ~IMainWindow() = default;

@@ -22,16 +22,16 @@ public:
     /// The native window of the view's widget.
     virtual WindowId GetWindowId() const = 0;
 
-    /// How the view maps the world; owned by the view, null when it shows no model.
+    /// How the view maps the world; owned by the view, null if it shows no model.
     virtual IModelView* GetModelView() const = 0;
 
     /// Shows a line of text: what the running action expects. Empty clears it.
     virtual void SetViewText(const std::wstring& text) = 0;
 
-    /// Gives the view the keyboard.
+    /// Gives the view the keyboard focus.
     virtual void Activate() = 0;
 
-    /// Has the view painted again soon.
+    /// Schedules a repaint of the view.
     virtual void Redraw() = 0;
 };
 

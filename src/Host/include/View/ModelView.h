@@ -6,9 +6,9 @@
 namespace vesk
 {
 
-/// Looks straight down on the world's xy plane, y up.
+/// Looks straight down on the world's xy plane, with y up.
 ///
-/// What is no finite number, and a size, scale or factor that is not positive, changes nothing.
+/// A value that is not finite, or a size, scale or factor that is not positive, changes nothing.
 class VESK_HOST_API ModelView final : public IModelView
 {
 public:
@@ -18,16 +18,16 @@ public:
     int GetWidth() const override;
     int GetHeight() const override;
 
-    /// The point of the drawing plane in the middle of the view.
+    /// The point of the drawing plane at the centre of the view.
     const Vector3d& GetCentre() const;
 
-    /// Sets the size in pixels; centre and scale stay.
+    /// Sets the size in pixels; centre and scale are unchanged.
     void SetSize(int width, int height);
 
-    /// Moves the middle of the view over a world point, whose height does not matter.
+    /// Centres the view on a world point, whose height is ignored.
     void SetCentre(const Vector3d& centre);
 
-    /// Sets the scale, kept between 1e-9 and 1e9; the centre stays.
+    /// Sets the scale, clamped to 1e-9 to 1e9; the centre is unchanged.
     void SetWorldPerPixel(double worldPerPixel);
 
     /// Magnifies by `factor` so that the world point under (x, y) stays there.
@@ -37,7 +37,7 @@ public:
     void Pan(double dx, double dy);
 
     /// Shows the box between two corners and leaves at least a tenth of the view free on each side.
-    /// A box that is a point is centred only.
+    /// If the box is a point, only centres the view on it.
     void Fit(const Vector3d& corner, const Vector3d& oppositeCorner);
 
 private:

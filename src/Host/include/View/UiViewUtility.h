@@ -12,14 +12,14 @@ class IUiView;
 class VESK_HOST_API UiViewUtility
 {
 public:
-    /// Where a view shows a world point, in its pixels.
+    /// The position of a world point in a view, in pixels.
     static Eigen::Vector2d ToPixel(const IModelView& modelView, const Vector3d& world);
 
-    /// The view pixel nearest to a world point. Without view or model view everything is 0.
+    /// The view pixel nearest to a world point. Without a view or model view all results are 0.
     static void WorldPositionToScreenPosition(const IUiView* pView, const Vector3d& world, int& x,
                                               int& y, float& depth);
 
-    /// The world width of a number of pixels; 0 without view or model view.
+    /// The world width of a number of pixels; 0 without a view or model view.
     static double ComputeWorldWidthFromPixel(const IUiView* pView, int pixels);
 };
 

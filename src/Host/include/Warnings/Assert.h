@@ -10,14 +10,14 @@ namespace vesk
 /// True when failed assertions go to AssertHelper, false when they only go to the log.
 VESK_HOST_API bool IsAssertEnabled();
 
-/// Chooses between the two; assertions are enabled at start.
+/// Sets which of the two applies; assertions are initially enabled.
 VESK_HOST_API void SetAssertEnabled(bool isEnabled);
 
 /// Writes a failed condition to the log. Never ends the process.
 VESK_HOST_API void DumpAssertToLog(const std::string& condition, const std::string& file, int line,
                                    const std::string& function);
 
-/// Reports failed assertions where there is no user interface to do it.
+/// Reports failed assertions without a user interface.
 class VESK_HOST_API AssertHelper
 {
 public:

@@ -5,12 +5,12 @@
 namespace vesk
 {
 
-/// Where and by whom a precondition was written, and what it says when it fails.
+/// The site of a precondition, and the message for its failure.
 struct CheckSite
 {
     const char* file;
     int line;
-    const char* function;   ///< Qualified, as "vesk::QtButton::On".
+    const char* function;   ///< Qualified, like "vesk::QtButton::On".
     const wchar_t* message; ///< The failed condition.
     const wchar_t* person;  ///< Who is responsible for the check.
     const wchar_t* date;    ///< The day the check was written, "2026-11-21".
@@ -18,8 +18,8 @@ struct CheckSite
 
 /// Reports `site` as a debug warning when `condition` is false, and returns `condition`.
 ///
-/// The caller leaves the function itself, so that every exit stands in the code:
-/// `if (!Check(pArgs != nullptr, VESK_SITE("vesk::QtButton::On", L"pArgs为空"))) return;`
+/// The caller itself returns from the function, so that every exit is visible in the code: `if
+/// (!Check(pArgs != nullptr, VESK_SITE("vesk::QtButton::On", L"pArgs为空"))) return;`
 VESK_HOST_API bool Check(bool condition, const CheckSite& site);
 
 }

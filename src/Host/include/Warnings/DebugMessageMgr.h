@@ -26,10 +26,10 @@ struct ShownDebugWarning
 {
     std::string function;
     std::wstring message;
-    int suppressed = 0; ///< How many warnings were raised since it came on screen.
+    int suppressed = 0; ///< The number of warnings raised since it came on screen.
 };
 
-/// Hears of every warning, in the thread that raised it.
+/// Notified of every warning, in the thread that raised it.
 class VESK_HOST_API IDebugWarningObserver
 {
 public:
@@ -39,14 +39,13 @@ public:
     virtual void OnDebugWarning(const DebugWarning& warning) = 0;
 };
 
-/// Takes every failed precondition of the application, writes it to the log and shows it to the
-/// user.
+/// Receives every failed precondition of the application, logs it and shows it to the user.
 ///
 /// One warning is shown at a time, through the displayer of the control library; those raised
-/// meanwhile are counted and logged. One that is raised while something is painted, or in another
-/// thread, is shown from the event loop. A place (file and line) of which the user said "ignore
-/// all" is not shown again; one that was ignored once rests until the event loop is idle, a second
-/// at least.
+/// meanwhile are counted and logged. A warning raised during painting or in another thread is shown
+/// from the event loop. Warnings from a site (file and line) for which the user chose "ignore all"
+/// are not shown again; after "ignore once" the site is silent until the event loop is idle, for at
+/// least one second.
 ///
 /// Operations may be called from any thread.
 class VESK_HOST_API DebugMessageMgr
@@ -54,48 +53,50 @@ class VESK_HOST_API DebugMessageMgr
 public:
     static DebugMessageMgr* GetDebugMessageMgr();
 
-    /// Logs the warning, tells the observers, and shows it. Never throws and never ends the
+    /// Logs the warning, notifies the observers, and shows it. Never throws and never ends the
     /// process.
     ///
-    /// A place (file and line) writes at most ten lines; the rest are counted and told in one
-    /// closing line when the log is closed.
+    /// At most ten lines are written per site (file and line); further warnings are counted and
+    /// summarised in one closing line when the log is closed.
     void ShowDebugWarn(const std::string& file, int line, const std::string& function,
                        const std::wstring& message, const std::wstring& person,
                        const std::wstring& date);
 
-    /// Logs to `path` (UTF-8) from now on, appending; closes the log before. False when the file
-    /// cannot be opened: the log then goes to standard error, as it does before the first call.
+    /// Closes the current log, then appends to the file at `path` (UTF-8). False if the file cannot
+    /// be opened: the log then goes to standard error, as it does before the first call.
     bool OpenLog(const std::string& path);
 
-    /// Where the log goes (UTF-8, absolute); empty while it goes to standard error.
+    /// The absolute path of the log file (UTF-8); empty while the log goes to standard error.
     std::string GetLogPath() const;
 
-    /// Writes the closing lines of suppressed places and closes the file. False when there was a
-    /// file and a line is missing in it: that one went to standard error.
+    /// Writes the closing lines of suppressed sites and closes the file. False if a file was open
+    /// and a line is missing from it: that line went to standard error.
     bool CloseLog();
 
-    /// Whether somebody is there to be asked. At first so, unless VESK_UNATTENDED is set to 1 in
-    /// the environment. While nobody is and an application exists, warnings are only logged.
+    /// Sets whether a user is present to answer warnings. Initially true, unless the environment
+    /// variable VESK_UNATTENDED is 1. While it is false and an application exists, warnings are
+    /// only logged.
     void SetAttended(bool isAttended);
 
-    /// Chooses who knows the event loop; null for nobody. Not owned.
+    /// Sets the scheduler, which gives access to the event loop; null for none. Not owned.
     void SetScheduler(IDebugWarningScheduler* pScheduler);
 
-    /// The warning on screen, if there is one.
+    /// The warning on screen, if any.
     std::optional<ShownDebugWarning> GetShownWarning() const;
 
-    /// How many warnings would have been shown, had another not been on screen.
+    /// The number of warnings that were not shown because another was on screen or waiting to be
+    /// shown.
     int GetUnshownCount() const;
 
-    /// Is as at first: every place is shown, nothing is counted, and somebody is there unless the
-    /// environment says otherwise.
+    /// Restores the initial state: every site is shown, the unshown count is zero, and a user is
+    /// present unless VESK_UNATTENDED is 1.
     void Reset();
 
-    /// Adds an observer (not owned), told until it is removed. Null and one that is already there
-    /// are ignored.
+    /// Adds an observer (not owned), notified until it is removed. Null and an observer that was
+    /// already added are ignored.
     void AddObserver(IDebugWarningObserver* pObserver);
 
-    /// Waits until no other thread is telling the observer any more; it may be destroyed
+    /// Removes an observer and waits until no other thread is calling it; it may be destroyed
     /// afterwards.
     void RemoveObserver(IDebugWarningObserver* pObserver);
 

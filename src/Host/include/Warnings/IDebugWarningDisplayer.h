@@ -11,8 +11,7 @@ namespace vesk
 class VESK_HOST_API IDebugWarningDisplayer
 {
 public:
-    /// Shows one warning and waits for the answer. False when this warning is not to be shown
-    /// again.
+    /// Shows one warning and waits for the answer. False if this warning must not be shown again.
     virtual bool Display(const std::string& file, int line, const std::string& function,
                          const std::wstring& message, const std::wstring& person,
                          const std::wstring& date) = 0;
@@ -20,7 +19,7 @@ public:
     virtual ~IDebugWarningDisplayer() = default;
 };
 
-/// Shows them in a dialog.
+/// Shows warnings in a dialog.
 class VESK_HOST_API IDebugWarningDialogDisplayer : public IDebugWarningDisplayer
 {};
 

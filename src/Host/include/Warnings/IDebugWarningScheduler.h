@@ -8,21 +8,21 @@
 namespace vesk
 {
 
-/// What showing debug warnings needs of the event loop. Its operations raise no warning.
+/// What showing debug warnings needs from the event loop. Its operations raise no warning.
 class VESK_HOST_API IDebugWarningScheduler
 {
 public:
     virtual ~IDebugWarningScheduler() = default;
 
-    /// True where a dialog may be opened at this moment: on the GUI thread, while nothing is being
-    /// painted. Called from any thread.
+    /// True when a dialog may be opened now: on the GUI thread, while nothing is being painted.
+    /// Called from any thread.
     virtual bool IsDialogAllowed() const = 0;
 
-    /// Has `function` called from the event loop. Called from any thread.
+    /// Calls `function` from the event loop. May be called from any thread.
     virtual void Post(std::function<void()> function) = 0;
 
-    /// Has `function` called when that much time has passed and the event loop is idle. Called on
-    /// the GUI thread.
+    /// Calls `function` when the delay has passed and the event loop is idle. Called on the GUI
+    /// thread.
     virtual void PostWhenIdle(std::chrono::milliseconds delay, std::function<void()> function) = 0;
 };
 

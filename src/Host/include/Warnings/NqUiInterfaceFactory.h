@@ -9,7 +9,7 @@ namespace vesk
 class IDebugWarningDialogDisplayer;
 class IPropertyWidget;
 
-/// The door to the user-interface services of the control library.
+/// Gives access to the user-interface services of the control library.
 class VESK_HOST_API NqUiInterfaceFactory
 {
 public:
@@ -18,13 +18,13 @@ public:
     NqUiInterfaceFactory(const NqUiInterfaceFactory&) = delete;
     NqUiInterfaceFactory& operator=(const NqUiInterfaceFactory&) = delete;
 
-    /// The property panel, null when there is none. Not owned.
+    /// The property panel, null if there is none. Not owned.
     virtual IPropertyWidget* GetPropertyWidget() = 0;
 
-    /// A displayer of debug warnings, owned by the caller; empty when there is none.
+    /// A displayer of debug warnings, owned by the caller; empty if there is none.
     virtual OwnerPtr<IDebugWarningDialogDisplayer> CreateDebugWarningDialogDisplayer() = 0;
 
-    /// The registered factory, null when no control library is loaded. Not owned.
+    /// The registered factory, null if no control library is loaded. Not owned.
     static NqUiInterfaceFactory* m_pFactory;
 };
 

@@ -27,7 +27,7 @@ ActionRunner& Runner()
     return ActionRunner::GetInstance();
 }
 
-/// What an action is told of an input: the value that its text stands for, else the delivered one.
+/// What an action receives for an input: the value of its text, otherwise the delivered one.
 TypedValue MakeTypedValue(const ActionViewInput& input, const EditorText& editor)
 {
     const InputMeaning meaning = FindInputMeaning(input.kind);
@@ -79,7 +79,7 @@ void ActionManager::SendCommand(const std::wstring& commandId, const CommandPara
 
 void ActionManager::ProcessViewInput(IUiView* /*pView*/, const ActionViewInput& input)
 {
-    // A copy: the input may belong to the handler, which the action may have dropped.
+    // A copy: the input may belong to the handler, which the action may drop.
     const ActionViewInput delivered = input;
     const TypedValue typed = MakeTypedValue(input, EditorTextScope::Take());
     Runner().OperateStep([&](IAction& action) { action.OnViewInput(delivered, typed); });
@@ -105,7 +105,7 @@ void ActionManager::RenewViewInput(IUiView* pView)
     const auto regenerate = [](const IAction& action) {
         TemporaryDimensionMgr::GetInstance()->Regenerate(action.CreateDimensionContext());
     };
-    // An action whose end was asked for takes nothing more, but its input is still on screen.
+    // An action whose end was requested accepts nothing more, but its input is still on screen.
     const IAction* pAction = IActionManager::CurrentAction();
     if (!Runner().Operate(regenerate) && pAction != nullptr)
         regenerate(*pAction);

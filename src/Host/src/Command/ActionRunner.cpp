@@ -21,14 +21,14 @@ namespace vesk
 namespace
 {
 
-/// Has the runner take up what an exception has left waiting.
+/// Makes the runner run the commands left waiting by an exception.
 class TakeUpEvent final : public IApplicationEvent
 {
 public:
     void Emit() override { ActionRunner::GetInstance().TakeUp(); }
 };
 
-/// The view with that id, or the current one when there is none; null when there is no view at all.
+/// The view with that id, otherwise the current one; null if there is no view.
 IUiView* FindView(const std::optional<std::uint32_t>& id)
 {
     const IUiDocumentViewManager* pManager = IUiDocumentViewManager::Get();
@@ -64,8 +64,8 @@ void Complete(int record, bool isRefused)
 
 }
 
-/// The time in which a call is under way that runs the waiting commands. What still waits when an
-/// exception has ended it is taken up from the event loop.
+/// Exists while a call that runs the waiting commands is on the stack. Commands still waiting after
+/// an exception are run from the event loop.
 class ActionRunner::Turn
 {
 public:
@@ -189,7 +189,7 @@ void ActionRunner::RemoveObserver(IActionObserver* pObserver)
                       m_observers.end());
 }
 
-/// Runs a command alone: at once, or when its turn comes.
+/// Runs a command on its own: immediately, or when its turn comes.
 void ActionRunner::Take(IUiView* pView, ICommand& command, Waiting waiting)
 {
     if (MustWait())
@@ -251,13 +251,12 @@ void ActionRunner::RunInteractive(IUiView* pView, ICommand& command, const Waiti
     exception.Throw();
 }
 
-/// Begins the action and runs it as long as it goes on. False when it goes on without an event
-/// loop.
+/// Begins the action and runs it until it ends. False if it goes on without an event loop.
 bool ActionRunner::RunAction(IUiView* pView)
 {
     OperateStep([pView](IAction& action) { action.OnBegin(pView); });
 
-    // A replay works without the keyboard.
+    // A replay does not use the keyboard.
     IUiView* pShown = FindView(m_running.viewId);
     if (m_pEventLoop != nullptr && pShown != nullptr)
         pShown->Activate();
@@ -271,14 +270,14 @@ bool ActionRunner::RunAction(IUiView* pView)
     return true;
 }
 
-/// Runs what waits, in order, until one of them goes on without an event loop.
+/// Runs the waiting commands in order, until one of them goes on without an event loop.
 void ActionRunner::RunWaiting()
 {
     while (!m_waiting.empty() && GetAction() == nullptr)
     {
         const Waiting waiting = std::move(m_waiting.front());
         m_waiting.pop_front();
-        // Looked up again: it may have been removed while it waited.
+        // Looked up again: the command may have been removed while it waited.
         if (ICommand* pCommand = ICommandManager::Get()->GetCommand(waiting.commandId))
             Run(FindView(waiting.viewId), *pCommand, waiting);
         else
@@ -287,7 +286,7 @@ void ActionRunner::RunWaiting()
     m_held.clear();
 }
 
-/// Hands over what came in while the action was waiting for its turn.
+/// Delivers the input that was queued while the action was waiting for its turn.
 void ActionRunner::DeliverHeld()
 {
     if (!MayGoOn())
@@ -305,7 +304,7 @@ void ActionRunner::EndIfDue()
     RunWaiting();
 }
 
-/// Whatever throws, the action is gone afterwards; its command gets no mark then.
+/// Even after an exception the action is gone; its command then gets no completion mark.
 void ActionRunner::End()
 {
     FirstException exception;

@@ -19,54 +19,55 @@ class IActionObserver;
 class ICommand;
 class IUiView;
 
-/// What the action manager does, and its state: the running action and the commands that wait.
+/// The implementation of the action manager and its state: the running action and the waiting
+/// commands.
 ///
-/// Whoever begins an action also ends it and runs what waits afterwards, in one call on the stack.
-/// Where an action runs without an event loop, whoever asks for its end does so instead, as soon as
-/// none of the action's operations is under way.
+/// The call that begins an action also ends it and then runs the waiting commands. If an action
+/// runs without an event loop, the call that requests its end does so instead, as soon as none of
+/// the action's operations is on the stack.
 ///
-/// After an exception everything is as if the command had returned, except that its record gets no
-/// mark and that what waits runs from the application's event loop.
+/// After an exception the state is as if the command had returned, except that its record gets no
+/// completion mark and the waiting commands run from the application's event loop.
 class ActionRunner
 {
 public:
-    /// Never destroyed: libraries that unload at the very end still ask for it.
+    /// Never destroyed: libraries that are unloaded at process exit still use it.
     static ActionRunner& GetInstance();
 
-    /// Runs a command, and completes its journal record; 0 when it has none.
+    /// Runs a command and completes its journal record (`record` is 0 if it has none).
     void Process(IUiView* pView, ICommand& command, const CommandParameters& parameters,
                  int record);
     void Send(const std::wstring& commandId, const CommandParameters& parameters, int record);
 
-    /// Has the running action end as soon as it can; nothing happens when none runs.
+    /// Ends the running action as soon as possible; does nothing if none is running.
     void RequestEnd();
 
-    /// Does something with the running action, which lives at least until this returns. False when
-    /// none runs or the one that runs is to end: it takes nothing more.
+    /// Calls `operation` on the running action, which lives at least until this returns. False if
+    /// none is running or its end has been requested: it then accepts nothing more.
     bool Operate(const std::function<void(IAction&)>& operation);
 
-    /// The same, followed by a step unless the action is to end.
+    /// The same, followed by a step unless the action is about to end.
     void OperateStep(const std::function<void(IAction&)>& operation);
 
-    /// True while a command waits for the end of the running action, or to be taken up.
+    /// True while a command waits for the running action to end, or to be run from the event loop.
     bool IsCommandWaiting() const
     {
         return !m_waiting.empty() && (GetAction() != nullptr || !m_isUnderWay);
     }
 
-    /// Runs the commands that an exception has left waiting.
+    /// Runs the commands left waiting by an exception.
     void TakeUp();
 
-    /// Keeps an input for the command that is about to take its turn. False when none is.
+    /// Queues an input for the command that runs next. False if no command is waiting.
     bool Hold(std::function<void()> input);
 
     IAction* GetAction() const { return m_running.opAction.Get(); }
     const std::wstring& GetCommandId() const { return m_running.commandId; }
 
-    /// True while the running action has an event loop of its own.
+    /// True while the running action is in its event loop.
     bool IsInEventLoop() const { return m_pRunningLoop != nullptr; }
 
-    /// Chooses the event loop and returns the one chosen before.
+    /// Sets the event loop and returns the previous one.
     IActionEventLoop* SetEventLoop(IActionEventLoop* pEventLoop);
 
     void AddObserver(IActionObserver* pObserver);
@@ -79,11 +80,11 @@ private:
     {
         std::wstring commandId;
         CommandParameters parameters;
-        std::optional<std::uint32_t> viewId; ///< None for the view that is current at its turn.
-        int record = 0;                      ///< Its journal record; 0 when it has none.
+        std::optional<std::uint32_t> viewId; ///< None for the view that is current when it runs.
+        int record = 0;                      ///< Its journal record; 0 if it has none.
     };
 
-    /// Without an action everything is empty.
+    /// All members are empty without an action.
     struct Running
     {
         OwnerPtr<IAction> opAction;
@@ -120,7 +121,7 @@ private:
     /// True while a call that will run the waiting commands is on the stack.
     bool m_isUnderWay = false;
 
-    /// True from the request to the end of the end: the action takes nothing more.
+    /// True from the request until the action has ended: the action accepts nothing more.
     bool m_isEndRequested = false;
 };
 

@@ -39,7 +39,7 @@ private:
 
 ICommandManager* ICommandManager::Get()
 {
-    // Never destroyed: libraries that unload at the very end still ask for it.
+    // Never destroyed: libraries that are unloaded at process exit still use it.
     static CommandManager* const s_pManager = new CommandManager;
     return s_pManager;
 }

@@ -14,7 +14,7 @@ namespace vesk
 namespace
 {
 
-/// Refers to what the raiser passed: it lives on the stack of the call that emits it.
+/// Refers to the arguments of the call that raised the event, on whose stack it lives.
 class ChangeEventArgs final : public IControlDefinitionChangeEventArgs
 {
 public:
@@ -37,7 +37,7 @@ private:
     bool m_isByUser;
 };
 
-/// A change of items that is yet to be told.
+/// An item change that has yet to be delivered.
 struct WaitingChange
 {
     int type;
@@ -46,12 +46,12 @@ struct WaitingChange
     const IControlDefinition* pItem;
     std::shared_ptr<const void> pKept;
     bool isByUser;
-    std::size_t placeCount; ///< Of the handlers that were there when it happened.
+    std::size_t placeCount; ///< Of the handlers that were subscribed when it happened.
 };
 
 }
 
-/// A change of items that is being told, and what has happened since.
+/// An item change that is being delivered, and the changes made since.
 struct ControlDefinitionChangeEvent::Telling
 {
     Telling(ControlDefinitionChangeEvent& told, bool isByUserThen)
@@ -66,17 +66,17 @@ struct ControlDefinitionChangeEvent::Telling
     bool IsEventAlive() const { return emission.IsEventAlive(); }
     bool IsFollowed() const { return !items.empty() || !properties.empty(); }
 
-    /// True when whoever is being told may not know all items and properties yet.
+    /// True when the handlers being notified may not know all items and properties yet.
     bool AreHandlersBehind() const { return IsFollowed() || !emission.IsOutermost(); }
 
-    /// Keeps a change of properties; several in a row with the same mark are one.
+    /// Adds a property change; consecutive ones with the same mark are merged.
     void AddProperty(bool isPropertyByUser)
     {
         if (properties.empty() || properties.back() != isPropertyByUser)
             properties.push_back(isPropertyByUser);
     }
 
-    /// From now on nothing waits any more.
+    /// From now on no change has to wait.
     void End()
     {
         if (IsEventAlive() && event.m_pTelling == this)
@@ -86,8 +86,8 @@ struct ControlDefinitionChangeEvent::Telling
     Emission emission;
     ControlDefinitionChangeEvent& event;
     const bool isByUser;
-    std::list<WaitingChange> items; ///< Stay to the end: a handler may add to them.
-    std::vector<bool> properties;   ///< For each whether it is the user's.
+    std::list<WaitingChange> items; ///< Kept until the end: a handler may add to them.
+    std::vector<bool> properties;   ///< For each, whether it is the user's.
 };
 
 ControlDefinitionChangeEvent::ControlDefinitionChangeEvent(const std::wstring& definitionId)
@@ -125,7 +125,7 @@ void ControlDefinitionChangeEvent::RaiseItemsChanged(int type, int index,
     exception.Throw();
 }
 
-/// Tells what has happened meanwhile, until nothing does or the event has died.
+/// Delivers the changes made meanwhile, until there are none left or the event is destroyed.
 void ControlDefinitionChangeEvent::TellWaiting(Telling& telling, FirstException& exception)
 {
     const auto& items = telling.items;

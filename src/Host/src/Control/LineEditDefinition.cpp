@@ -19,7 +19,8 @@ struct Selection
     std::wstring text;
 };
 
-/// The characters of `text` that overlap the given UTF-16 units: no half of one can be selected.
+/// The characters of `text` that overlap the given UTF-16 units; half a surrogate pair cannot be
+/// selected.
 Selection Select(const std::wstring& text, int start, int length)
 {
     Selection selection;

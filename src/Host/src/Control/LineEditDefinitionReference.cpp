@@ -11,7 +11,7 @@ namespace vesk
 namespace
 {
 
-/// Carries the user's mark from one id over to another for as long as it lives.
+/// Passes the user's mark on from one id to another while it exists.
 class ForwardedUserChange
 {
 public:

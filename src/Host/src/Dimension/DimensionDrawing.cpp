@@ -21,7 +21,7 @@ GraphicsRole RoleOf(InputState field, InputState state)
     return isLocked ? GraphicsRole::LockedDimension : GraphicsRole::Dimension;
 }
 
-/// Beyond every model and every view, and yet so near to one that products of some stay finite.
+/// Beyond every model and every view, but small enough that products of several stay finite.
 constexpr double s_mostCoordinate = 1e30;
 constexpr double s_leastPixel = 1e-15;
 constexpr double s_mostPixel = 1e15;

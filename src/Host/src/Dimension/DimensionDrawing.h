@@ -14,41 +14,42 @@
 namespace vesk
 {
 
-/// Draws one provisional dimension in the plane of a coordinate system, seen from a point of it.
+/// Draws one provisional dimension in the plane of a coordinate system, relative to an origin.
 class DimensionDrawing
 {
 public:
-    /// `pixel` is the world width of one pixel; what is none counts as 1. The role comes from the
-    /// field's state.
+    /// `pixel` is the world width of one pixel; an invalid width counts as 1. The graphics role
+    /// depends on whether the field is being typed or locked.
     DimensionDrawing(const Vector3d& origin, const Coordinate3d& coordinate, double pixel,
                      InputState field, InputState state);
 
-    /// What to show of the field: the value that is locked, in model units, else the measured one.
+    /// The value to show: the locked one, in model units, otherwise the measured one.
     double GetValue(double measured) const { return m_lockedValue.value_or(measured); }
 
-    /// Whether all are points that some model could hold: numbers with which can be calculated.
+    /// Whether all points can be drawn: their coordinates are finite and small enough to compute
+    /// with.
     static bool AreDrawable(std::initializer_list<Vector3d> points);
 
-    /// World point to the plane, and back.
+    /// Converts a world point to the plane, and back.
     PlaneVector ToPlane(const Vector3d& world) const;
     Vector3d ToWorld(const PlaneVector& point) const;
 
-    /// A length of the model in pixels.
+    /// A model length in pixels.
     double ToPixels(double length) const { return length / m_pixel; }
 
     void AddLine(const PlaneVector& start, const PlaneVector& end);
 
-    /// Adds an arc about the origin, from a unit vector by `sweep` radians.
+    /// Adds an arc about the origin that starts at a unit vector and sweeps `sweep` radians.
     void AddArc(const PlaneVector& from, double radius, double sweep);
 
-    /// Adds an arrow head that points along a unit vector, smaller than others on a short line or
-    /// arc, whose length is `length`.
+    /// Adds an arrow head that points along a unit vector; it is smaller if the line or arc, of
+    /// length `length`, is short.
     void AddArrow(const PlaneVector& tip, const PlaneVector& direction, double length);
 
-    /// Adds the text, unless it is being typed: the editor then stands in its place.
+    /// Adds the text, unless it is being typed: the editor is then shown instead.
     void AddText(const Vector3d& position, const std::wstring& text);
 
-    /// What was drawn, given to the caller.
+    /// Transfers the graphics to the caller.
     OwnerPtr<IGraphicsNodeGroup> Take();
 
 private:

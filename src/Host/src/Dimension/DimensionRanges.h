@@ -7,7 +7,7 @@
 namespace vesk
 {
 
-/// What may be typed where an action does not narrow it: lengths of the model in the unit shown.
+/// The range of lengths that may be typed unless an action narrows it, in the display unit.
 inline Intervald DefaultLengthRange()
 {
     return LengthUnit::GetCurrent().ToShown(

@@ -12,7 +12,7 @@ namespace vesk
 namespace
 {
 
-/// The value, but zero where its text has lost the minus: who shows the value would show one.
+/// The value, but zero if its text has lost the minus sign: otherwise the editor would show one.
 double WithSignOf(const std::wstring& text, double value)
 {
     return std::signbit(value) && text.front() != L'-' ? 0.0 : value;

@@ -10,8 +10,8 @@ class DimensionDrawing;
 class EditorPlacement;
 class TemporaryDimensionStyle;
 
-/// Each enters what was found, and adds the text at its place: lengths and radii of the model, in
-/// millimetres, are entered in the unit shown.
+/// Each fills in the entry and adds the text at its position. Model lengths and radii, in
+/// millimetres, are entered in the display unit.
 void PlaceLengthText(const Vector3d& position, double modelLength,
                      const TemporaryDimensionStyle& style, DimensionDrawing& drawing,
                      TemporaryDimensionData::Entry& entry);
@@ -21,7 +21,8 @@ void PlaceRadiusText(const Vector3d& position, double modelRadius,
 void PlaceAngleText(const Vector3d& position, double degrees, const TemporaryDimensionStyle& style,
                     DimensionDrawing& drawing, TemporaryDimensionData::Entry& entry);
 
-/// Keeps a text off that of the dimension which is made before it; nothing while that was not made.
+/// Keeps a text clear of the text of the dimension generated before it; does nothing if that was
+/// not generated.
 void AvoidEarlierText(const TemporaryDimensionData::Entry& earlier, EditorPlacement& placement);
 
 }

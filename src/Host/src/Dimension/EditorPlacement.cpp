@@ -17,19 +17,20 @@ namespace vesk
 namespace
 {
 
-/// Pixels between the editor and the view's edge, the cursor and another text. Each holds one pixel
-/// by which the editor may be off, since it stands on whole pixels.
+/// Pixels between the editor and the view's edge, the cursor and another text. Each includes one
+/// pixel of rounding error, since the editor's position is in whole pixels.
 constexpr double s_viewMargin = 3.0;
 constexpr double s_cursorMargin = 10.0;
 constexpr double s_textMargin = 4.0;
 
-/// And between it and the lines of its dimension.
+/// Pixels between the editor and the lines of its dimension.
 constexpr double s_lineMargin = 12.0;
 
-/// What touches an obstacle is off it, wherever a rounded edge of the obstacle lies.
+/// A position that touches an obstacle is outside it, however the obstacle's edge is rounded.
 constexpr double s_touch = 1e-6;
 
-/// A plane seen more nearly from its edge, as the part of a length across it that is still seen.
+/// The fraction of a perpendicular length still visible, below which the plane counts as seen
+/// edge-on.
 constexpr double s_edgeOn = 0.1;
 
 const IModelView* FindModelView()
@@ -38,7 +39,7 @@ const IModelView* FindModelView()
     return pView != nullptr ? pView->GetModelView() : nullptr;
 }
 
-/// Narrows the part of a segment to where one of its coordinates is from 0 to `size`.
+/// Narrows the range of a segment to where one of its coordinates is between 0 and `size`.
 void Clip(double start, double along, double size, double& from, double& to)
 {
     if (along == 0.0)
@@ -125,7 +126,7 @@ Vector3d EditorPlacement::Choose(const std::vector<Vector3d>& places) const
     const Pixel clamped = Clamp(ToPixel(places.front()));
     if (const std::optional<Pixel> nearest = FindNearest(clamped, m_obstacles))
         return ToWorld(*nearest);
-    // No room for both texts: the cursor is what must stay free.
+    // No room for both texts: only the cursor must stay uncovered.
     const std::optional<Pixel> nearest = FindNearest(clamped, {m_obstacles.front()});
     return ToWorld(nearest.value_or(clamped));
 }
@@ -140,7 +141,7 @@ EditorPlacement::Pixel EditorPlacement::ToPixel(const Vector3d& world) const
     return UiViewUtility::ToPixel(*m_pModelView, world);
 }
 
-/// The point of the plane that the view shows at `pixel`; in a plane seen from its edge, near it.
+/// The point of the plane that the view shows at `pixel`; near it if the plane is seen edge-on.
 Vector3d EditorPlacement::ToWorld(const Pixel& pixel) const
 {
     const Vector3d& normal = m_coordinate.GetZ();
@@ -156,10 +157,10 @@ Vector3d EditorPlacement::ToWorld(const Pixel& pixel) const
     return world + step * (steps.x() * m_coordinate.GetX() + steps.y() * m_coordinate.GetY());
 }
 
-/// What one pixel's step along the plane's x axis and along its y axis moves on the view.
+/// How far a step of one pixel along the plane's x axis and along its y axis moves in the view.
 Eigen::Matrix2d EditorPlacement::GetPixelsPerStep(const Vector3d& at) const
 {
-    // A longer step: far from the origin the coordinates of a short one are rounded away.
+    // A longer step is used: far from the origin a short one is lost to rounding.
     constexpr double Steps = 128.0;
     const double span = Steps * m_pModelView->GetWorldPerPixel();
     Eigen::Matrix2d pixels;
@@ -180,7 +181,7 @@ bool EditorPlacement::IsFree(const Pixel& pixel, const std::vector<Obstacle>& ob
                         [&pixel](const Obstacle& obstacle) { return obstacle.Holds(pixel); });
 }
 
-/// The pixel inside the view that is nearest; the middle for what is no number.
+/// The nearest pixel inside the view; a NaN coordinate becomes the middle.
 EditorPlacement::Pixel EditorPlacement::Clamp(const Pixel& pixel) const
 {
     const Pixel middle = (m_least + m_most) / 2;
@@ -189,7 +190,8 @@ EditorPlacement::Pixel EditorPlacement::Clamp(const Pixel& pixel) const
     return number.cwiseMax(m_least).cwiseMin(m_most);
 }
 
-/// The free pixel nearest to one inside the view: it is there, or on the edges of obstacles.
+/// The free pixel nearest to one inside the view: that pixel itself, or one on the edges of
+/// obstacles.
 std::optional<EditorPlacement::Pixel>
 EditorPlacement::FindNearest(const Pixel& pixel, const std::vector<Obstacle>& obstacles) const
 {

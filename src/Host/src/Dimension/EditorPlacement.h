@@ -15,34 +15,34 @@ namespace vesk
 class IModelView;
 class TemporaryDimensionStyle;
 
-/// Finds the place of a dimension's text: wherever it stands, the editor that takes its place is to
-/// lie inside the current view and off the cursor.
+/// Finds the position of a dimension's text so that the editor shown there lies inside the current
+/// view and does not cover the cursor.
 class EditorPlacement
 {
 public:
-    /// Places stand in the coordinate system's plane through `cursor`, which is to stay free.
+    /// Positions lie in the coordinate system's plane through `cursor`, which must not be covered.
     EditorPlacement(const Coordinate3d& coordinate, const Vector3d& cursor,
                     const TemporaryDimensionStyle& style);
 
-    /// Keeps the editor off another text too, wherever there is room for both.
+    /// Also keeps the editor clear of another text, if there is room for both.
     void AvoidText(const Vector3d& position);
 
-    /// True when an editor at `position` is inside the view and off everything.
+    /// True if an editor at `position` is inside the view and covers nothing.
     bool Fits(const Vector3d& position) const;
 
-    /// How far an editor's centre must be from a line of the plane so that it does not touch it, in
-    /// pixels along `normal`, a unit vector at right angles to the line.
+    /// The distance that an editor's centre must keep from a line in the plane so as not to touch
+    /// it, in pixels along `normal`, a unit vector perpendicular to the line.
     double GetClearance(const PlaneVector& normal) const;
 
-    /// How much of a line of the plane an editor covers that stands on it, in pixels along
+    /// The length of a line in the plane that an editor centred on it covers, in pixels along
     /// `direction`, a unit vector.
     double GetCover(const PlaneVector& direction) const;
 
-    /// The middle of the segment's visible part; of the whole segment when the view shows none.
+    /// The middle of the segment's visible part; of the whole segment if none of it is visible.
     Vector3d GetVisibleMiddle(const Vector3d& start, const Vector3d& end) const;
 
-    /// The first of the places that fits; else the place that fits nearest to the first of them.
-    /// Without a current view, the first.
+    /// The first of the positions that fits; otherwise the fitting position nearest to the first of
+    /// them. Without a current view, the first.
     Vector3d Choose(const std::vector<Vector3d>& places) const;
 
 private:
@@ -71,11 +71,11 @@ private:
     const IModelView* m_pModelView;
     Pixel m_editorReach;
 
-    /// Where the editor's centre may be.
+    /// The bounds of the editor's centre.
     Pixel m_least = Pixel::Zero();
     Pixel m_most = Pixel::Zero();
 
-    /// The cursor first.
+    /// The cursor's comes first.
     std::vector<Obstacle> m_obstacles;
 };
 

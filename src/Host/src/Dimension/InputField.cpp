@@ -18,7 +18,7 @@ namespace vesk
 namespace
 {
 
-/// A value, whatever the kind of dimension.
+/// A value, independent of the kind of dimension.
 struct ValueRow
 {
     InputState state;
@@ -37,7 +37,7 @@ constexpr ValueRow s_values[] = {
     {InputState::IS_Height, Quantity::Length, "height", L"高度"},
 };
 
-/// What the handler of a kind of context does with the keys of a field.
+/// What the handler for a kind of context does with the keys in a field.
 struct FieldRow
 {
     std::type_index context;
@@ -56,7 +56,7 @@ const FieldRow s_fields[] = {
     {typeid(RotationTemporaryDimensionContext), InputState::IS_CentralAngle, true},
 };
 
-/// What a handler delivers a value as.
+/// How a handler delivers a value.
 struct InputRow
 {
     ActionViewInput::Kind kind;
@@ -77,7 +77,7 @@ constexpr InputRow s_inputs[] = {
     {ActionViewInput::HeightCommitted, {InputState::IS_Height, true}},
 };
 
-/// The row of a value; that of none where there is no such value.
+/// The row of a value; that of IS_None for an unknown value.
 const ValueRow& ValueOf(InputState state)
 {
     const auto* pFound =

@@ -13,16 +13,18 @@ namespace vesk
 namespace
 {
 
-/// Keeps what doubles lose in differences and products, so that only the result is rounded.
+/// Keeps the digits that doubles lose in differences and products, so that only the result is
+/// rounded.
 using Wide = long double;
 using WideVector = Eigen::Matrix<Wide, 3, 1>;
 
 constexpr Wide s_degreesPerRadian = 57.295779513082320876798154814105L;
 
-/// Points as near as this have no direction to each other.
+/// Points at most this far apart define no direction.
 constexpr Wide s_samePoint = Constants::DOUBLE_EPS;
 
-/// An axis of a frame is a unit vector up to rounding; this is one for wide numbers too.
+/// The axes of a coordinate system are unit vectors up to rounding; this normalises one in wide
+/// precision.
 WideVector MakeUnit(const Vector3d& axis)
 {
     return axis.cast<Wide>().normalized();
@@ -33,21 +35,22 @@ WideVector Difference(const Vector3d& start, const Vector3d& end)
     return end.cast<Wide>() - start.cast<Wide>();
 }
 
-/// The difference as it is seen along a unit normal.
+/// The difference, projected along a unit normal.
 WideVector Difference(const WideVector& normal, const Vector3d& start, const Vector3d& end)
 {
     const WideVector difference = Difference(start, end);
     return difference - difference.dot(normal) * normal;
 }
 
-/// Minus a half turn, exact or by rounding, is a half turn.
+/// -180 degrees, exact or by rounding, becomes 180 degrees.
 double ToDegrees(Wide y, Wide x)
 {
     const auto degrees = static_cast<double>(std::atan2(y, x) * s_degreesPerRadian);
     return degrees > -180.0 ? degrees : 180.0;
 }
 
-/// The arc's angle is twice the turn of the path from the first point over the third to the second.
+/// The arc's sweep is twice the change of direction at the third point on the path from the first
+/// point to the second.
 double MeasureSweep(Wide y, Wide x)
 {
     const double most = std::nextafter(360.0, 0.0);

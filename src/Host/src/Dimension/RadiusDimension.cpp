@@ -14,7 +14,7 @@ namespace
 // In pixels.
 constexpr double s_shortLength = 24.0;
 
-/// From the centre; without a radius the x axis.
+/// The direction from the centre; the x axis for a radius of zero.
 PlaneVector DirectionOf(const RadiusLeader& leader)
 {
     const PlaneVector along = leader.tip - leader.centre;

@@ -14,7 +14,7 @@ namespace
 {
 
 /// Where the dimension of the side along an axis of the plane may run: outside the rectangle beside
-/// the corner or beside the opposite one, or inside.
+/// the corner or the opposite one, or inside.
 std::vector<MeasuredSide> GetSides(const PlaneVector& opposite, const PlaneVector& axis)
 {
     const PlaneVector along = opposite.dot(axis) * axis;

@@ -16,14 +16,14 @@ constexpr double s_leastOffset = 28.0;
 constexpr double s_extensionGap = 4.0;
 constexpr double s_extensionOvershoot = 6.0;
 
-/// How far the dimension line and the text are from the side.
+/// The distances of the dimension line and the text from the side.
 struct Offsets
 {
     double line;
     double text;
 };
 
-/// The text stands on its line; outside it where it would hide the whole of it.
+/// The text is on the dimension line; outside it if it would hide the whole line.
 Offsets GetOffsets(const MeasuredSide& side, const EditorPlacement& placement)
 {
     const double clearance = placement.GetClearance(side.outwards);
@@ -35,7 +35,7 @@ Offsets GetOffsets(const MeasuredSide& side, const EditorPlacement& placement)
     return {offset, offset};
 }
 
-/// At the middle of the side, and of that part of it which the view shows.
+/// At the middle of the side, and at the middle of its visible part.
 std::vector<Vector3d> GetPlaces(const MeasuredSide& side, const EditorPlacement& placement,
                                 const DimensionDrawing& drawing)
 {

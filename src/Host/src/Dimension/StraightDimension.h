@@ -11,18 +11,18 @@ namespace vesk
 class DimensionDrawing;
 class EditorPlacement;
 
-/// A side of what is measured, beside which a straight dimension may run.
+/// A side of the measured object along which a straight dimension may run.
 struct MeasuredSide
 {
     PlaneVector start;
     PlaneVector end;
-    PlaneVector outwards; ///< Unit vector at right angles to the side.
+    PlaneVector outwards; ///< Unit vector perpendicular to the side.
 };
 
 /// Draws extension lines and a dimension line with arrows beside the first of the sides where the
-/// text has room, else beside the first of all; nothing beside a side without length.
+/// text has room, otherwise beside the first one; nothing beside a side of length zero.
 ///
-/// Gives the places of the text, the best first.
+/// Returns the possible positions of the text, best first.
 std::vector<Vector3d> DrawStraightDimension(const std::vector<MeasuredSide>& sides,
                                             const EditorPlacement& placement,
                                             DimensionDrawing& drawing);

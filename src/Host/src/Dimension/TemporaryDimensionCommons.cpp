@@ -20,7 +20,7 @@ OwnerPtr<IGraphicsNodeGroup> TemporaryDimensionCommons::GenerateLengthDimension(
     if (!DimensionDrawing::AreDrawable({start, end}) || !(length > 0.0))
         return drawing.Take();
     PlaneVector along = drawing.ToPlane(end);
-    // At right angles to the plane no direction is better than another.
+    // If the segment is perpendicular to the plane, no direction is better than another.
     if (along.isZero(0.0))
         along = drawing.ToPixels(length) * PlaneVector::UnitX();
 

@@ -24,7 +24,7 @@ void ActivateView()
 
 }
 
-/// A call into a handler: a handler that is dropped meanwhile is freed after the outermost one.
+/// A call into a handler: a handler dropped meanwhile is freed after the outermost call.
 class TemporaryDimensionMgr::Call
 {
 public:
@@ -47,7 +47,7 @@ private:
 
 TemporaryDimensionMgr* TemporaryDimensionMgr::GetInstance()
 {
-    // Never destroyed: the library of the handlers may be unloaded at the very end.
+    // Never destroyed: the library of the handlers may be unloaded at process exit.
     static TemporaryDimensionMgr* const s_pManager = new TemporaryDimensionMgr;
     return s_pManager;
 }
@@ -56,7 +56,7 @@ void TemporaryDimensionMgr::SetHandlerFactory(ITemporaryDimensionHandlerFactory*
 {
     if (pFactory == m_pFactory)
         return;
-    // Withdrawn first, so that nothing that happens while the handler goes makes a new one of it.
+    // Reset first, so that nothing that happens while the handler is dropped can create a new one.
     m_pFactory = nullptr;
     FirstException exception;
     exception.Catch([this] { Drop(); });
@@ -188,7 +188,7 @@ void TemporaryDimensionMgr::Replace(OwnerPtr<ITemporaryDimensionHandler> opHandl
     Retire(std::move(opOld));
 }
 
-/// Ends the input of a handler that is no longer the manager's, and frees it.
+/// Ends the input of a handler that the manager no longer uses, and frees it.
 void TemporaryDimensionMgr::Retire(OwnerPtr<ITemporaryDimensionHandler> opHandler)
 {
     if (opHandler == nullptr)
@@ -204,7 +204,7 @@ void TemporaryDimensionMgr::Retire(OwnerPtr<ITemporaryDimensionHandler> opHandle
         ActivateView();
 }
 
-/// Takes a context over. The one before lives as long as a handler may look at it.
+/// Replaces the context. The previous one lives as long as a handler may use it.
 void TemporaryDimensionMgr::Keep(OwnerPtr<ITemporaryDimensionContext> opContext)
 {
     OwnerPtr<ITemporaryDimensionContext> opOld = std::exchange(m_opContext, std::move(opContext));

@@ -17,19 +17,19 @@ namespace
 /// Room for the greatest double with its decimals.
 using Digits = std::array<char, 400>;
 
-/// Whether rounding to even takes a number towards zero that lies in the very middle between two of
-/// so many decimals. Its last digit is even then.
+/// Whether a number lies exactly halfway between two numbers with `decimals` decimals and rounding
+/// to even moves it towards zero; the last digit is then even.
 bool LosesHalf(double value, int decimals)
 {
     const double halves = 2.0 * std::pow(10.0, decimals);
-    // What is before the point plays no part.
+    // The integer part does not matter.
     const double fraction = value - std::trunc(value);
     const double count = fraction * halves;
     return std::fma(fraction, halves, -count) == 0.0 && std::abs(std::fmod(count, 4.0)) == 1.0;
 }
 
-/// The number with fixed decimals and a point, whatever the locale; zero has no sign. What lies
-/// halfway is rounded away from zero, as Qt does it in the editor.
+/// The number with fixed decimals and a decimal point, whatever the locale; zero has no sign.
+/// Halfway cases are rounded away from zero, as Qt does in the editor.
 std::wstring Format(double value, int decimals)
 {
     Digits digits;

@@ -39,7 +39,7 @@ OwnerPtr<IGraphicsNodeGroup> TemporaryDimensionCommons::GenerateRadiusDimensionF
         return drawing.Take();
     }
     leader.centre = drawing.ToPlane(GetCentre(*circle, third, coordinate));
-    // The text stands above the leader.
+    // The text is above the leader.
     leader.textSide = leader.centre.x() <= leader.tip.x() ? 1.0 : -1.0;
     DrawRadiusLeader(leader, drawing);
     const Vector3d position = placement.Choose(GetRadiusPlaces(leader, placement, drawing));

@@ -18,10 +18,10 @@ namespace
 constexpr double s_arcRadius = 60.0;
 constexpr double s_sideOvershoot = 12.0;
 
-/// The part of its sides that the arc may take.
+/// The largest radius of the arc, as a fraction of the side length.
 constexpr double s_arcPart = 0.6;
 
-/// Below this angle no text has room between the two sides.
+/// Below this angle there is no room for a text between the two sides.
 constexpr double s_narrowRadians = 0.7;
 
 constexpr double s_degreesPerRadian = 57.295779513082320877;

@@ -3,8 +3,8 @@
 namespace vesk
 {
 
-// Here, so that the class has its tables in the host: where imports are named it is looked for
-// there.
+// Defined here so that the class's vtable and type information are emitted in the host: on
+// platforms with explicit imports the linker looks for them there.
 IDockManager::~IDockManager() = default;
 
 }

@@ -16,7 +16,7 @@ namespace
 
 namespace fs = std::filesystem;
 
-/// The file that a name stands for, also where a link leads to nothing yet.
+/// The file that a path refers to after following links, even if it does not exist yet.
 fs::path FollowLinks(fs::path path)
 {
     constexpr int MostLinks = 40;
@@ -26,8 +26,8 @@ fs::path FollowLinks(fs::path path)
     return path;
 }
 
-/// False for what is there and must not be replaced: folders, devices, and files that are not to be
-/// written.
+/// False for what exists and must not be replaced: folders, devices, and files that are not
+/// writable.
 bool IsReplaceable(const fs::path& path)
 {
     std::error_code error;
@@ -36,7 +36,7 @@ bool IsReplaceable(const fs::path& path)
     return fs::is_regular_file(path, error) && OutputFile().OpenShared(path);
 }
 
-/// A new file beside another. Its name is in `path` when it could be made.
+/// Creates a new file beside another. On success, `path` is its path.
 OutputFile CreateBeside(const fs::path& target, fs::path& path)
 {
     constexpr int MostTries = 100;

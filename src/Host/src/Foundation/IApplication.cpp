@@ -8,7 +8,7 @@ namespace vesk
 namespace
 {
 
-// Warnings of other threads ask whether there is an application.
+// Atomic because warnings in other threads check whether there is an application.
 std::atomic<IApplication*> s_pApplication{nullptr};
 
 }

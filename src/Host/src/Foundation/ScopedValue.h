@@ -5,7 +5,7 @@
 namespace vesk
 {
 
-/// Gives a variable another value for as long as it lives, and then the former one back.
+/// Gives a variable another value while it exists, and restores the former one afterwards.
 template <class T>
 class ScopedValue
 {

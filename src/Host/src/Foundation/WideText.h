@@ -11,16 +11,16 @@
 namespace vesk
 {
 
-/// What stands for everything that is no character.
+/// Replaces everything that is not a character.
 inline constexpr std::uint32_t s_replacementCharacter = 0xFFFD;
 
-/// True for the halves of a UTF-16 pair, which are no characters by themselves.
+/// True for the halves of a UTF-16 surrogate pair, which are not characters by themselves.
 constexpr bool IsSurrogate(std::uint32_t unit)
 {
     return unit >= 0xD800 && unit <= 0xDFFF;
 }
 
-/// The code point at `index` of a text of four-byte units; moves the index behind it.
+/// The code point at `index` of a text of four-byte units; moves the index past it.
 template <class Wide>
 std::uint32_t TakeUtf32(std::basic_string_view<Wide> text, std::size_t& index)
 {
@@ -28,7 +28,7 @@ std::uint32_t TakeUtf32(std::basic_string_view<Wide> text, std::size_t& index)
     return unit > 0x10FFFF || IsSurrogate(unit) ? s_replacementCharacter : unit;
 }
 
-/// The code point at `index` of a text of two-byte units; moves the index behind it.
+/// The code point at `index` of a text of two-byte units; moves the index past it.
 template <class Wide>
 std::uint32_t TakeUtf16(std::basic_string_view<Wide> text, std::size_t& index)
 {
@@ -44,7 +44,7 @@ std::uint32_t TakeUtf16(std::basic_string_view<Wide> text, std::size_t& index)
     return 0x10000 + ((unit - 0xD800) << 10) + (next - 0xDC00);
 }
 
-/// How many UTF-16 units the character at `index` of a wide text takes; moves the index behind it.
+/// The number of UTF-16 units of the character at `index` of a wide text; moves the index past it.
 template <class Wide>
 int TakeUtf16Units(std::basic_string_view<Wide> text, std::size_t& index)
 {
@@ -61,7 +61,7 @@ int TakeUtf16Units(std::basic_string_view<Wide> text, std::size_t& index)
     }
 }
 
-/// UTF-8 of wide text in either width of `wchar_t`.
+/// Converts wide text to UTF-8, for either width of `wchar_t`.
 template <class Wide>
 std::string WideToUtf8(std::basic_string_view<Wide> text)
 {
@@ -77,7 +77,7 @@ std::string WideToUtf8(std::basic_string_view<Wide> text)
     return result;
 }
 
-/// Wide text of UTF-8 in either width of `wchar_t`.
+/// Converts UTF-8 to wide text, for either width of `wchar_t`.
 template <class Wide>
 std::basic_string<Wide> Utf8ToWide(std::string_view text)
 {

@@ -10,7 +10,7 @@ namespace vesk
 namespace
 {
 
-/// The direction at length one; zero when it has none.
+/// The unit vector in the given direction; zero if it has none.
 Vector3d Normalize(const Vector3d& direction)
 {
     const double length = direction.stableNorm();

@@ -17,7 +17,7 @@ constexpr double s_rightAngle = 90.0;
 constexpr double s_step = 15.0;
 constexpr long double s_degreesPerRadian = 57.295779513082320876798154814105L;
 
-/// At 0, 15, 30 … 90 degrees, with more digits than a double has.
+/// Values at 0, 15, 30 … 90 degrees, with more digits than a double has.
 using Table = std::array<double, 7>;
 constexpr Table s_sines{0.0,
                         0.25881904510252076235,
@@ -36,7 +36,7 @@ constexpr Table s_tangents{0.0,
                            3.7320508075688772935,
                            std::numeric_limits<double>::infinity()};
 
-/// The function of an angle from 0 to a right angle.
+/// The function of an angle from 0 to 90 degrees.
 double Compute(const Table& table, long double (*pFunction)(long double), double degrees)
 {
     const double steps = degrees / s_step;
@@ -51,7 +51,7 @@ double WithSign(double size, bool isNegative)
     return isNegative && size != 0.0 ? -size : size;
 }
 
-/// Whole degrees, wherever nothing but rounding is between.
+/// Returns whole degrees wherever the result differs from them only by rounding.
 double Invert(double argument, long double radians, double (*pFunction)(double))
 {
     constexpr double Rounding = 4 * std::numeric_limits<double>::epsilon();

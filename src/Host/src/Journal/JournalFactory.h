@@ -7,7 +7,7 @@
 namespace vesk
 {
 
-/// Makes the journal's own records: "JournalCommandData".
+/// Creates the journal's own records: "JournalCommandData".
 class JournalFactory final : public NqIJournalFactory
 {
 public:

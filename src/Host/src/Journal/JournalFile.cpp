@@ -16,18 +16,18 @@ bool ReadText(const std::string& path, std::string& text)
 {
     std::ifstream stream(std::filesystem::u8path(path), std::ios::binary);
     std::ostringstream content;
-    // An empty file is content too, but inserting nothing sets the fail bit.
+    // An empty file is valid, but inserting nothing sets the fail bit.
     if (stream.is_open() && stream.peek() != std::ifstream::traits_type::eof())
         content << stream.rdbuf();
     text = content.str();
     return stream.is_open() && !stream.bad() && content.good();
 }
 
-/// Tells whether records follow one another as a journal has them.
+/// Checks that the order of records is valid for a journal.
 class SequenceCheck
 {
 public:
-    /// Empty when the record may come next; else why not.
+    /// Empty if the record may come next; otherwise why not.
     std::string Add(const JournalRecord& record)
     {
         const std::string number = std::to_string(record.number);
@@ -76,10 +76,11 @@ bool JournalFormat::ReadFile(const std::string& path, std::vector<JournalRecord>
         ++lineNumber;
         begin = end + 1;
     }
-    // What follows the last line end was torn, but for lines that end as no line of a journal does.
+    // The text after the last line feed is an incomplete line, unless it has a carriage return,
+    // with which no journal line ends.
     if (text.find('\r', begin) == std::string::npos)
         return true;
-    error = "line " + std::to_string(lineNumber) + ": it ends with a carriage return alone";
+    error = "line " + std::to_string(lineNumber) + ": ends with a bare carriage return";
     return false;
 }
 

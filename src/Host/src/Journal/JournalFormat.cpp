@@ -17,7 +17,7 @@ namespace
 
 using Json = nlohmann::ordered_json;
 
-/// What is no finite number becomes null.
+/// A number that is not finite becomes null.
 Json ToJson(double value)
 {
     return std::isfinite(value) ? Json(value) : Json();
@@ -35,7 +35,7 @@ Json ToJson(const CommandParameterValue& value)
     return std::visit(Visitor(), value.Get());
 }
 
-/// Adds to a line what a record says.
+/// Adds the content of a record to a line.
 class Writer
 {
 public:

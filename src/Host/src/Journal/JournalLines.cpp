@@ -12,7 +12,7 @@ namespace vesk
 namespace
 {
 
-/// Where the last whole line of a file ends.
+/// Where the last complete line of a file ends.
 std::uint64_t EndOfLines(const std::filesystem::path& path)
 {
     std::ifstream stream(path, std::ios::binary);
@@ -47,7 +47,7 @@ bool JournalLines::Reserve(const std::string& path, std::string& error)
     OutputFile file;
     if (!Open(path, file, error))
         return false;
-    // Asked for now: later the name may stand for another file.
+    // Determined now: later the path may refer to another file.
     Take(std::move(file), path, EndOfLines(std::filesystem::u8path(path)));
     m_isReserved = true;
     return true;
@@ -87,7 +87,7 @@ bool JournalLines::Close()
     return m_file.Close() && isKept;
 }
 
-/// Opens a file that is this program's alone from then on.
+/// Opens a file and locks it for this program.
 bool JournalLines::Open(const std::string& path, OutputFile& file, std::string& error) const
 {
     switch (file.OpenAlone(std::filesystem::u8path(path)))
@@ -111,7 +111,7 @@ void JournalLines::Take(OutputFile file, const std::string& path, std::uint64_t 
     m_size = size;
 }
 
-/// Brings everything to the disk. False when lines are missing there.
+/// Writes everything to disk. False if lines are missing there.
 bool JournalLines::Finish()
 {
     if (!m_isReserved)
@@ -119,8 +119,8 @@ bool JournalLines::Finish()
     return m_file.Sync() && IsKept();
 }
 
-/// Writes what waits behind the last whole line, in one piece. Of what cannot be written, whole
-/// lines stay all the same.
+/// Writes the queued lines after the last complete line, in one write. If not all can be written,
+/// the complete lines are kept.
 void JournalLines::WriteWaiting()
 {
     if (m_waiting.empty() || !m_file.CutTo(m_size))

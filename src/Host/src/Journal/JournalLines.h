@@ -9,35 +9,36 @@
 namespace vesk
 {
 
-/// The lines of a journal on their way into its file.
+/// Writes the lines of a journal to its file.
 ///
-/// What the file cannot take waits here and goes there with the next line that it can take: the
-/// file always holds the first lines as a whole, and no others.
+/// Lines that cannot be written are queued here and written with the next line that can be: the
+/// file always contains the first lines, complete and without gaps.
 class JournalLines
 {
 public:
-    /// Makes the file anew, or empties it. False, and nothing changes, when it cannot be written or
-    /// another program has it; `error` then says so.
+    /// Creates or empties the file. If it cannot be written or another program has it open, returns
+    /// false, changes nothing, and `error` says so.
     bool Replace(const std::string& path, std::string& error);
 
-    /// Has the file alone and leaves it as it is; lines wait. False as with Replace.
+    /// Locks the file without changing it; lines are queued. Fails like Replace.
     bool Reserve(const std::string& path, std::string& error);
 
-    /// The lines that wait stand in the reserved file: they are dropped, and the next go behind its
-    /// last whole line.
+    /// The queued lines are already in the reserved file: they are dropped, and further lines are
+    /// written after its last complete line.
     void Continue();
 
-    /// Lets go of the file and writes the lines that wait to another. False, and without a file,
-    /// when that cannot be written.
+    /// Releases the file and writes the queued lines to another. If that cannot be written, returns
+    /// false and no file is open.
     bool MoveTo(const std::string& path, std::string& error);
 
-    /// Takes a line, its line end included.
+    /// Adds a line, including its terminator.
     void Add(const std::string& line);
 
-    /// False without a file, and while lines are missing in it.
+    /// False without a file, and while lines are missing from it.
     bool IsKept() const { return m_file.IsOpen() && (m_isReserved || m_waiting.empty()); }
 
-    /// Tries a last time, and closes the file. False when lines are missing in it.
+    /// Makes a last attempt to write the queued lines and closes the file. False if lines are
+    /// missing from it.
     bool Close();
 
 private:
@@ -49,10 +50,10 @@ private:
     OutputFile m_file;
     std::filesystem::path m_path;
 
-    /// Where the file's last whole line ends.
+    /// Where the file's last complete line ends.
     std::uint64_t m_size = 0;
 
-    /// The lines that are not in the file yet.
+    /// The queued lines, which are not in the file yet.
     std::string m_waiting;
     bool m_isReserved = false;
 };

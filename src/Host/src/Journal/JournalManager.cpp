@@ -19,7 +19,7 @@ namespace
 
 constexpr std::size_t s_keptLines = 20;
 
-/// The lines written last. Safe to use from any thread.
+/// The last lines written. Thread-safe.
 class LastLines
 {
 public:
@@ -68,7 +68,7 @@ public:
     void AddUiObject(OwnerPtr<IJournalUiObject> opObject, int kind, int reserved) override;
 
 private:
-    /// The record of a command that a control is about to run; number 0 once it is taken.
+    /// The record of a command that a control is about to run; number 0 once it has been taken.
     struct Announced
     {
         std::wstring commandId;
@@ -191,7 +191,7 @@ void JournalManagerImpl::AddCommandDataWithParameters(OwnerPtr<IJournalCommandDa
 void JournalManagerImpl::AddUiObject(OwnerPtr<IJournalUiObject> opObject, int kind,
                                      int /*reserved*/)
 {
-    // Not kept: the code that frees what it holds may belong to a library that is unloaded.
+    // Not kept: the code that frees its content may belong to a library that gets unloaded.
     if (opObject != nullptr)
         TellObservers([&](IJournalObserver& observer) { observer.OnUiObject(*opObject, kind); });
 }
@@ -200,7 +200,7 @@ void JournalManagerImpl::AddUiObject(OwnerPtr<IJournalUiObject> opObject, int ki
 
 JournalManager& JournalManager::GetInstance()
 {
-    // Never destroyed, so that a warning of a late thread still finds the last lines.
+    // Never destroyed, so that a warning in a thread that outlives main still finds the last lines.
     static JournalManagerImpl* const s_pManager = new JournalManagerImpl;
     return *s_pManager;
 }

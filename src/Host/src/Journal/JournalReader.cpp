@@ -31,7 +31,7 @@ bool ToInteger(const Json& json, int& integer)
     return true;
 }
 
-/// Null is NaN.
+/// Null reads as NaN.
 bool ToReal(const Json& json, double& real)
 {
     if (!json.is_number() && !json.is_null())
@@ -40,7 +40,7 @@ bool ToReal(const Json& json, double& real)
     return true;
 }
 
-/// Adds a parameter; false when the value is of no type that a parameter has.
+/// Adds a parameter; false if the value has a type that no parameter can have.
 bool AddParameter(CommandParameters& parameters, const std::wstring& name, const Json& json)
 {
     int integer = 0;
@@ -70,7 +70,7 @@ bool JournalReader::Read()
     if (!ParseJson(m_text, m_line, m_error))
         return false;
     if (!m_line.is_object())
-        return Fail("this is no JSON object");
+        return Fail("not a JSON object");
     if (!TakeInteger("n", m_record.number))
         return false;
     if (m_record.number < 1)
@@ -78,7 +78,7 @@ bool JournalReader::Read()
     if (!ReadKind())
         return false;
     if (!m_line.empty())
-        return Fail(Quote(m_line.begin().key()) + " does not belong to this kind");
+        return Fail("unexpected key " + Quote(m_line.begin().key()));
     return true;
 }
 
@@ -182,7 +182,7 @@ bool JournalReader::TakeText(const char* key, std::string& text)
     if (pJson == nullptr)
         return false;
     if (!pJson->is_string())
-        return Fail(Quote(key) + " is no text");
+        return Fail(Quote(key) + " is not a string");
     text = pJson->get<std::string>();
     return true;
 }
@@ -201,7 +201,7 @@ bool JournalReader::TakeInteger(const char* key, int& integer)
     const Json* pJson = Take(key);
     if (pJson == nullptr)
         return false;
-    return ToInteger(*pJson, integer) || Fail(Quote(key) + " is no integer");
+    return ToInteger(*pJson, integer) || Fail(Quote(key) + " is not an integer");
 }
 
 bool JournalReader::TakeIntegers(const char* key, std::vector<int>& integers)
@@ -213,7 +213,7 @@ bool JournalReader::TakeIntegers(const char* key, std::vector<int>& integers)
         pJson->is_array() && std::all_of(pJson->begin(), pJson->end(), [&](const Json& json) {
             return ToInteger(json, integers.emplace_back());
         });
-    return isList || Fail(Quote(key) + " is no list of integers");
+    return isList || Fail(Quote(key) + " is not a list of integers");
 }
 
 bool JournalReader::TakeReal(const char* key, double& real)
@@ -221,7 +221,7 @@ bool JournalReader::TakeReal(const char* key, double& real)
     const Json* pJson = Take(key);
     if (pJson == nullptr)
         return false;
-    return ToReal(*pJson, real) || Fail(Quote(key) + " is no number");
+    return ToReal(*pJson, real) || Fail(Quote(key) + " is not a number");
 }
 
 bool JournalReader::TakePoint(const char* key, Vector3d& point)
@@ -232,7 +232,7 @@ bool JournalReader::TakePoint(const char* key, Vector3d& point)
     const bool isPoint = pJson->is_array() && pJson->size() == 3 &&
                          ToReal((*pJson)[0], point.x()) && ToReal((*pJson)[1], point.y()) &&
                          ToReal((*pJson)[2], point.z());
-    return isPoint || Fail(Quote(key) + " is no list of three numbers");
+    return isPoint || Fail(Quote(key) + " is not a list of three numbers");
 }
 
 bool JournalReader::TakeField(const char* key, InputState& field)
@@ -253,11 +253,11 @@ bool JournalReader::TakeParameters(const char* key, CommandParameters& parameter
     if (pJson == nullptr)
         return false;
     if (!pJson->is_object())
-        return Fail(Quote(key) + " is no JSON object");
+        return Fail(Quote(key) + " is not a JSON object");
     for (const auto& member : pJson->items())
     {
         if (!AddParameter(parameters, FromUtf8(member.key()), member.value()))
-            return Fail("the parameter " + Quote(member.key()) + " has no value that it can have");
+            return Fail("the parameter " + Quote(member.key()) + " has an invalid value");
     }
     return true;
 }

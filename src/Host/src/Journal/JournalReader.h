@@ -16,12 +16,12 @@ class JournalReader
 public:
     explicit JournalReader(const std::string& line) : m_text(line) {}
 
-    /// Reads the line. False when it is no record.
+    /// Reads the line. False if it is not a record.
     bool Read();
 
     const JournalRecord& GetRecord() const { return m_record; }
 
-    /// Why the line is no record, in one sentence.
+    /// Why the line is not a record, in one sentence.
     const std::string& GetError() const { return m_error; }
 
 private:
@@ -36,7 +36,7 @@ private:
     bool ReadUndo();
     bool ReadEnd();
 
-    /// Each takes a member out of the line. False when it is missing or of another type.
+    /// Each removes a member from the line and reads it. False if it is missing or of another type.
     bool TakeText(const char* key, std::string& text);
     bool TakeText(const char* key, std::wstring& text);
     bool TakeInteger(const char* key, int& integer);
@@ -46,7 +46,7 @@ private:
     bool TakeField(const char* key, InputState& field);
     bool TakeParameters(const char* key, CommandParameters& parameters);
 
-    /// Takes a member out of the line; null with the error told when there is none.
+    /// Removes a member from the line; null, with the error set, if it is missing.
     const Json* Take(const char* key);
     bool Has(const char* key) const { return m_line.contains(key); }
     bool Fail(const std::string& error);

@@ -13,7 +13,7 @@ namespace
 
 using Json = nlohmann::ordered_json;
 
-/// Watches a text being parsed for what the parser lets pass.
+/// Watches the parsing of a text for errors that the parser accepts.
 class Strictness
 {
 public:
@@ -21,7 +21,7 @@ public:
     {
         constexpr int GreatestDepth = 32;
         if (depth >= GreatestDepth && m_error.empty())
-            m_error = "this is nested too deeply";
+            m_error = "nested too deeply";
         if (event == Json::parse_event_t::object_start)
             m_open.emplace_back();
         else if (event == Json::parse_event_t::object_end)
@@ -30,17 +30,17 @@ public:
             NoteKey(parsed.get<std::string>());
     }
 
-    /// What was found first; empty where there was nothing.
+    /// The first error found; empty if there was none.
     const std::string& GetError() const { return m_error; }
 
 private:
     void NoteKey(const std::string& key)
     {
         if (!m_open.back().insert(key).second && m_error.empty())
-            m_error = "the key \"" + key + "\" stands twice";
+            m_error = "duplicate key \"" + key + "\"";
     }
 
-    /// The keys of the objects that are open.
+    /// The keys of the objects being parsed.
     std::vector<std::set<std::string>> m_open;
     std::string m_error;
 };
@@ -49,7 +49,8 @@ private:
 
 bool ParseJson(const std::string& text, Json& value, std::string& error)
 {
-    // The parser takes the decimal point of the locale for one byte, which it is not everywhere.
+    // The parser assumes that the locale's decimal point is one byte, which is not true of every
+    // locale.
     const PlainNumbersScope plainNumbers;
     Strictness strictness;
     const auto watch = [&strictness](int depth, Json::parse_event_t event, const Json& parsed) {
@@ -59,7 +60,7 @@ bool ParseJson(const std::string& text, Json& value, std::string& error)
     value = Json::parse(text, watch, false);
     error = strictness.GetError();
     if (error.empty() && value.is_discarded())
-        error = "this is no JSON";
+        error = "not valid JSON";
     return error.empty();
 }
 

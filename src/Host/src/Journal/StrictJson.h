@@ -7,8 +7,8 @@
 namespace vesk
 {
 
-/// Reads one JSON value. False when the text (UTF-8) is none, holds a number beyond the doubles or
-/// a key twice in one object, or is nested more deeply than anybody means it; `error` then says so.
+/// Parses one JSON value. False if the text (UTF-8) is not valid JSON, contains a number beyond the
+/// range of double or a duplicate key in an object, or is nested too deeply; `error` then says so.
 bool ParseJson(const std::string& text, nlohmann::ordered_json& value, std::string& error);
 
 }

@@ -8,7 +8,7 @@
 namespace vesk
 {
 
-/// A file that is written at its end, with nothing buffered. Closed with the object.
+/// A file that is appended to without buffering. Closed with the object.
 class OutputFile
 {
 public:
@@ -16,7 +16,7 @@ public:
     {
         Done,
         Failed,
-        InUse, ///< Another program has it alone.
+        InUse, ///< Another program has it locked.
     };
 
     OutputFile() = default;
@@ -24,29 +24,29 @@ public:
     OutputFile(OutputFile&& other) noexcept;
     OutputFile& operator=(OutputFile&& other) noexcept;
 
-    /// Opens a file to have it alone, and makes it where it is missing; what stands in it stays.
-    /// Its lock ends with the object or the process, however that ends. Where the file system knows
-    /// no locks, the file is opened all the same.
+    /// Opens and locks a file, and creates it if it is missing; existing content is kept. The lock
+    /// ends with the object or the process, however that ends. If the file system does not support
+    /// locks, the file is opened without one.
     Opening OpenAlone(const std::filesystem::path& path);
 
-    /// Opens a file that others may write, too, and makes it where it is missing.
+    /// Opens a file that others may also write, and creates it if it is missing.
     bool OpenShared(const std::filesystem::path& path);
 
-    /// Makes a file that nobody has. False when there is one of that name.
+    /// Creates a new file. False if one of that name exists.
     bool Create(const std::filesystem::path& path);
 
     bool IsOpen() const { return m_handle != NoHandle; }
 
-    /// How many bytes were written; fewer than all when the rest cannot be.
+    /// Returns the number of bytes written; fewer than all if the rest cannot be written.
     std::size_t Write(std::string_view bytes);
 
-    /// Cuts the file where it is longer. False when it cannot be.
+    /// Truncates the file if it is longer. False if that fails.
     bool CutTo(std::uint64_t size);
 
-    /// Waits until everything is on the disk. False when it cannot get there.
+    /// Waits until everything is on disk. False if that fails.
     bool Sync();
 
-    /// False when what was written did not get to its place. A file that is not open is closed.
+    /// False if what was written may not have reached the file. Returns true if no file is open.
     bool Close();
 
 private:

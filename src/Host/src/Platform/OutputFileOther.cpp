@@ -22,7 +22,7 @@ int DescriptorOf(std::intptr_t handle)
     return static_cast<int>(handle);
 }
 
-/// Some files, as devices, have nothing that could be on a disk.
+/// Some files, such as devices, have nothing to be synced to disk.
 bool IsSyncUnknown()
 {
     return errno == EINVAL || errno == ENOSYS || errno == ENOTSUP || errno == EROFS;

@@ -16,7 +16,7 @@ HANDLE HandleOf(std::intptr_t handle)
     return reinterpret_cast<HANDLE>(handle);
 }
 
-/// `share` is what other programs may do with the file meanwhile.
+/// `share` is what other programs may do with the file while it is open.
 std::intptr_t OpenAtEnd(const std::filesystem::path& path, DWORD access, DWORD share,
                         DWORD disposition)
 {
@@ -97,7 +97,7 @@ bool OutputFile::CutTo(std::uint64_t size)
 
 bool OutputFile::Sync()
 {
-    // Devices have nothing that could be on a disk.
+    // Devices have nothing to be synced to disk.
     return IsOpen() && (::GetFileType(HandleOf(m_handle)) != FILE_TYPE_DISK ||
                         ::FlushFileBuffers(HandleOf(m_handle)));
 }

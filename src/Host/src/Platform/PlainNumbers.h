@@ -5,8 +5,8 @@
 namespace vesk
 {
 
-/// While it lives, the C library reads and writes this thread's numbers with a point, whatever the
-/// locale has in its place.
+/// While it exists, the C library reads and writes numbers in this thread with a decimal point,
+/// whatever the locale uses.
 class PlainNumbersScope final
 {
 public:

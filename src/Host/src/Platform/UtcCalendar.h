@@ -5,7 +5,7 @@
 namespace vesk
 {
 
-/// The calendar's date and time of a moment, in UTC. Safe to use from any thread.
+/// The calendar date and time in UTC. Thread-safe.
 std::tm ToUtc(std::time_t time);
 
 }

@@ -20,7 +20,7 @@ namespace vesk
 namespace
 {
 
-/// Switches the event loop of actions off for as long as it lives.
+/// Disables the event loop of actions while it exists.
 class EventLoopOffScope
 {
 public:
@@ -49,7 +49,7 @@ public:
     bool Has(int command) const { return m_marks.count(command) != 0; }
     bool IsRefused(int command) const { return Has(command) && m_marks.at(command).isRefused; }
 
-    /// True when the first ends before the second, or the second never ends.
+    /// True if the first ends before the second, or the second never ends.
     bool IsBefore(int first, int second) const
     {
         if (!Has(second))
@@ -57,7 +57,7 @@ public:
         return Has(first) && m_marks.at(first).index < m_marks.at(second).index;
     }
 
-    /// True when the command's mark stands behind that place.
+    /// True if the command's mark comes after that index.
     bool IsAfter(int command, std::size_t index) const
     {
         return Has(command) && m_marks.at(command).index > index;
@@ -73,7 +73,7 @@ private:
     std::map<int, Mark> m_marks;
 };
 
-/// One replay. Each operation returns why its record cannot be repeated; empty when it was.
+/// One replay. Each operation returns why its record cannot be replayed; empty on success.
 class Replay
 {
 public:
@@ -113,16 +113,16 @@ private:
     IJournalReplayTarget& m_target;
     const EndMarks m_marks;
 
-    /// The place of the record that is being repeated.
+    /// The index of the record that is being replayed.
     std::size_t m_index = 0;
 
-    /// The running action's command record; of no meaning when none runs.
+    /// The running action's command record; meaningless if none is running.
     int m_running = 0;
 
     /// Commands that were recorded while another was being ended.
     std::deque<Pending> m_pending;
 
-    /// The record that cannot be repeated; 0 for none so far.
+    /// The record that failed; 0 if none has so far.
     int m_failedNumber = 0;
 };
 
@@ -201,7 +201,7 @@ std::string Replay::operator()(const PointRecord& record)
     ActionRunner::GetInstance().Operate([&record, &isDone](IAction& action) {
         isDone = action.ReplayPoint(record.point, record.entity);
     });
-    return isDone ? "" : "the point cannot be repeated";
+    return isDone ? "" : "the point cannot be replayed";
 }
 
 std::string Replay::operator()(const ValueRecord& record)
@@ -212,12 +212,12 @@ std::string Replay::operator()(const ValueRecord& record)
     ActionRunner::GetInstance().Operate([&record, &isDone](IAction& action) {
         isDone = action.ReplayValue(record.field, record.text, record.value);
     });
-    return isDone ? "" : "the value cannot be repeated";
+    return isDone ? "" : "the value cannot be replayed";
 }
 
 std::string Replay::operator()(const SelectionRecord& record)
 {
-    return m_target.ReplaySelection(record) ? "" : "an entity to select is missing";
+    return m_target.ReplaySelection(record) ? "" : "an entity to be selected does not exist";
 }
 
 std::string Replay::operator()(const PropertyRecord& record)
@@ -230,7 +230,7 @@ std::string Replay::operator()(const PropertyRecord& record)
 
 std::string Replay::operator()(const UndoRecord& record)
 {
-    return m_target.VerifyUndo(record) ? "" : "the undo gave another result";
+    return m_target.VerifyUndo(record) ? "" : "the undo had a different result";
 }
 
 std::string Replay::operator()(const EndRecord& record)
@@ -240,33 +240,35 @@ std::string Replay::operator()(const EndRecord& record)
     return {};
 }
 
-/// True while a command runs that this one has to wait for: it ended before this one began.
+/// True while a command is running that this one has to wait for: in the journal it ended before
+/// this one began.
 bool Replay::MustWait(const Pending& command) const
 {
     return IsActionRunning() && !IsBeside(command) && m_marks.IsAfter(m_running, m_index);
 }
 
-/// True for a plain command that ran while the action went on.
+/// True for a plain command that ran alongside the running action.
 bool Replay::IsBeside(const Pending& command) const
 {
     return !IsInteractive(command.record) && m_marks.IsBefore(command.number, m_running);
 }
 
-/// False for a plain command that had not finished when the journal broke off: it is repeated only
-/// if its result is in the journal.
+/// False for a plain command that had not finished where the journal ends: it is replayed only if
+/// its result is in the journal.
 bool Replay::IsWorthRunning(const Pending& command) const
 {
     if (m_marks.Has(command.number) || IsInteractive(command.record))
         return true;
     std::size_t next = command.index + 1;
-    // The action that it waited for ended first.
+    // The action it waited for ended first.
     while (next < m_records.size() && std::holds_alternative<EndRecord>(m_records[next].what))
         ++next;
     return next < m_records.size() && std::holds_alternative<UndoRecord>(m_records[next].what);
 }
 
-/// Plain commands ran beside the action: their marks come first. An action that another one ended
-/// gets none if that one did anything: behind it, the mark would have the other one wait.
+/// Plain commands ran alongside the action: their marks come first. An action that was ended by
+/// another one gets no mark if that one did anything: a mark after it would make the other one
+/// wait.
 std::vector<EndRecord> Replay::FindMissingMarks() const
 {
     std::vector<EndRecord> plain;
@@ -286,7 +288,7 @@ std::vector<EndRecord> Replay::FindMissingMarks() const
     return plain;
 }
 
-/// True when nothing was done since the next action was asked for.
+/// True if nothing was done after the next action was requested.
 bool Replay::IsFollowedByCommandsOnly(std::size_t index) const
 {
     const auto isAction = [this](const JournalRecord& record) {
@@ -343,7 +345,7 @@ JournalReplayResult JournalReplayer::Replay(const std::vector<JournalRecord>& re
     JournalReplayResult result;
     FirstException exception;
     exception.Catch([&] { result = vesk::Replay(records, target).Run(); });
-    // No action goes on without its loop afterwards.
+    // No action may go on without its loop afterwards.
     exception.Catch(&ActionManager::Reset);
     exception.Throw();
     return result;

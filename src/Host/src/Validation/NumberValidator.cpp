@@ -28,11 +28,11 @@ std::string_view SkipSign(std::string_view text)
     return hasSign ? text.substr(1) : text;
 }
 
-/// The number that the whole text is; empty when it is none, or none that `T` can hold.
+/// The whole text as a number; empty if it is not a number or `T` cannot represent it.
 template <class T>
 std::optional<T> ParseNumber(std::string_view text)
 {
-    // Only a digit or a point begins a number; "inf" and "nan" are names.
+    // Only a digit or a point can begin a number; this excludes "inf" and "nan".
     const std::string_view unsignedText = SkipSign(text);
     if (unsignedText.empty() || !(IsDigit(unsignedText.front()) || unsignedText.front() == '.'))
         return std::nullopt;
@@ -50,7 +50,7 @@ std::wstring FormatNumber(int value)
     return std::to_wstring(value);
 }
 
-/// The shortest text that reads back to the same double, without an exponent where that is legible.
+/// The shortest text that reads back as the same double, without an exponent where that is legible.
 std::wstring FormatNumber(double value)
 {
     std::array<char, 64> text{};
@@ -64,7 +64,7 @@ std::wstring FormatNumber(double value)
     return FromUtf8(std::string(pBegin, result.ptr));
 }
 
-/// What a sentence about the range calls the number.
+/// The noun for the number in a tip about the range.
 template <class T>
 constexpr const wchar_t* s_pNoun = std::is_integral_v<T> ? L"整数" : L"数";
 

@@ -12,7 +12,7 @@ namespace
 constexpr double s_minWorldPerPixel = 1e-9;
 constexpr double s_maxWorldPerPixel = 1e9;
 
-/// The part of the view that a fitted box takes: a tenth is left free on each side.
+/// The fraction of the view that a fitted box fills: a tenth is left free on each side.
 constexpr double s_fittedPart = 0.8;
 
 bool IsPositive(double value)
@@ -80,7 +80,7 @@ void ModelView::ZoomAbout(double x, double y, double factor)
     if (!IsPositive(factor))
         return;
     ModelView zoomed = *this;
-    // A quotient beyond the doubles is beyond the bounds too.
+    // An infinite quotient is clamped too.
     zoomed.m_worldPerPixel =
         std::clamp(m_worldPerPixel / factor, s_minWorldPerPixel, s_maxWorldPerPixel);
     zoomed.m_centre += ScreenToWorld(x, y) - zoomed.ScreenToWorld(x, y);

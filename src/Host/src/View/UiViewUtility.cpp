@@ -18,7 +18,7 @@ const IModelView* FindModelView(const IUiView* pView)
     return pView != nullptr ? pView->GetModelView() : nullptr;
 }
 
-/// The value kept within the range of `T`; 0 for NaN.
+/// The value clamped to the range of `T`; 0 for NaN.
 template <class T>
 T Saturate(double value)
 {

@@ -37,7 +37,7 @@ void DumpAssertToLog(const std::string& condition, const std::string& file, int 
     }
     catch (...)
     {
-        // Out of memory: a report is not worth the program.
+        // Out of memory: a report is not worth ending the program.
     }
 }
 

@@ -16,7 +16,7 @@ namespace vesk
 namespace
 {
 
-/// The observers, and which of them are being told at this moment.
+/// The observers, and which of them are being called.
 class ObserverList
 {
 public:
@@ -70,12 +70,12 @@ private:
         }
         catch (...)
         {
-            // Whoever reports a warning must go on as if nothing had happened.
+            // The caller that reports a warning must go on as if nothing had happened.
         }
         End(call);
     }
 
-    /// False when the observer was removed meanwhile.
+    /// False if the observer was removed meanwhile.
     bool Begin(const Call& call)
     {
         const std::lock_guard lock(m_mutex);
@@ -110,7 +110,7 @@ private:
     std::vector<Call> m_calls;
 };
 
-/// Never destroyed, so that a warning of a late thread still finds it.
+/// Never destroyed, so that a warning in a thread that outlives main still finds it.
 ObserverList& GetObserverList()
 {
     static ObserverList* const s_pList = new ObserverList;
@@ -149,7 +149,7 @@ void DebugMessageMgr::ShowDebugWarn(const std::string& file, int line, const std
     }
     catch (...)
     {
-        // Out of memory: a report is not worth the program.
+        // Out of memory: a report is not worth ending the program.
     }
 }
 

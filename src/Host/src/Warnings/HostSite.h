@@ -2,7 +2,7 @@
 
 #include "Warnings/Check.h"
 
-/// The place of a precondition of the host, for `vesk::Check`. `function` is the qualified name.
+/// The site of a precondition in the host, for `vesk::Check`. `function` is the qualified name.
 #define VESK_HOST_SITE(function, message)                                                          \
     ::vesk::CheckSite                                                                              \
     {                                                                                              \

@@ -13,7 +13,7 @@ NqUiInterfaceFactory::~NqUiInterfaceFactory()
 {
     if (m_pFactory == this)
         m_pFactory = nullptr;
-    // The displayer came through this factory: its code goes with it.
+    // The displayer was created by this factory: its code is unloaded with it.
     WarningDesk::GetInstance().DropDisplayer();
 }
 

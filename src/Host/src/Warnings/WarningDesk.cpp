@@ -14,7 +14,7 @@ namespace vesk
 namespace
 {
 
-/// How long a place rests at least after it was ignored once.
+/// The minimum time for which a site is silent after "ignore once".
 constexpr std::chrono::seconds s_rest{1};
 
 bool IsAttendedAtFirst()
@@ -25,7 +25,7 @@ bool IsAttendedAtFirst()
 
 }
 
-/// The time in which one warning is shown; whatever ends it, the next may come.
+/// Exists while one warning is shown; however it ends, the next one can be shown.
 class WarningDesk::Turn
 {
 public:
@@ -96,7 +96,7 @@ void WarningDesk::DropDisplayer()
     m_opDisplayer.Reset();
 }
 
-/// True when the warning is to be shown now: nobody else shows one until it was.
+/// True if the caller must show the warning now; no other is shown until it has been.
 bool WarningDesk::Claim(const DebugWarning& warning)
 {
     const std::lock_guard lock(m_mutex);
@@ -114,7 +114,8 @@ bool WarningDesk::Claim(const DebugWarning& warning)
         m_shown = ShownDebugWarning{warning.function, warning.message, 0};
         return true;
     }
-    // First what may fail: a warning that nobody is going to show would keep back all others.
+    // Posted first because it may fail: a postponed warning that is never shown would block all
+    // others.
     m_pScheduler->Post([] { GetInstance().ShowPostponed(); });
     m_postponed = warning;
     return false;
@@ -125,7 +126,7 @@ bool WarningDesk::IsSilent(const DebugWarning& warning) const
 {
     const bool isNobodyThere = !m_isAttended && IApplication::Get() != nullptr;
     const bool isAnswered = m_silent.count({warning.file, warning.line}) != 0;
-    // While a dialog is open everything is counted, whatever was said of its place.
+    // While a dialog is open every warning is counted, even from a silenced site.
     return isNobodyThere || (isAnswered && !m_shown.has_value());
 }
 
@@ -154,7 +155,7 @@ void WarningDesk::ShowPostponed()
 void WarningDesk::Note(const Place& place, bool isToAskAgain)
 {
     const std::lock_guard lock(m_mutex);
-    // Without an event loop there is nobody who could be flooded.
+    // Without an event loop the user cannot be flooded.
     if (isToAskAgain && m_pScheduler == nullptr)
         return;
     if (isToAskAgain)

@@ -15,14 +15,14 @@ namespace vesk
 
 class IDebugWarningScheduler;
 
-/// Decides which warnings are shown to the user, and when: one at a time, and none again that the
-/// user has had enough of.
+/// Decides which warnings are shown to the user, and when: one at a time, and none that the user
+/// chose to ignore.
 ///
-/// Safe to use from any thread. The mutex is never held while a warning is shown.
+/// Thread-safe. The mutex is never held while a warning is shown.
 class WarningDesk
 {
 public:
-    /// Never destroyed, so that a warning of a late thread still finds it.
+    /// Never destroyed, so that a warning in a thread that outlives main still finds it.
     static WarningDesk& GetInstance();
 
     void Present(const DebugWarning& warning);
@@ -32,10 +32,10 @@ public:
     std::optional<ShownDebugWarning> GetShown();
     int GetUnshownCount();
 
-    /// Is as at first.
+    /// Restores the initial state.
     void Reset();
 
-    /// Frees the displayer, before the library goes that made it.
+    /// Frees the displayer, before the library that created it is unloaded.
     void DropDisplayer();
 
 private:
@@ -57,13 +57,13 @@ private:
     IDebugWarningScheduler* m_pScheduler = nullptr;
     OwnerPtr<IDebugWarningDialogDisplayer> m_opDisplayer;
 
-    /// The places that are not shown: for good, or until the event loop comes to rest.
+    /// The sites whose warnings are not shown: permanently, or until the event loop is idle.
     std::set<Place> m_silent;
 
     /// The warning on screen, or about to be.
     std::optional<ShownDebugWarning> m_shown;
 
-    /// A warning that waits for the event loop.
+    /// A warning waiting for the event loop.
     std::optional<DebugWarning> m_postponed;
     int m_unshownCount = 0;
 };

@@ -30,7 +30,7 @@ void ReplaceAll(std::string& text, std::string_view what, std::string_view by)
         text.replace(at, what.size(), by);
 }
 
-/// True when a file ends in the middle of a line.
+/// True if a file ends in the middle of a line.
 bool IsTorn(const std::filesystem::path& path)
 {
     std::ifstream stream(path, std::ios::binary | std::ios::ate);
@@ -40,7 +40,7 @@ bool IsTorn(const std::filesystem::path& path)
     return stream.get() != '\n';
 }
 
-/// The record in one line, also for readers to whom Unicode's line separators end a line.
+/// The record in one line, even for readers that treat Unicode line separators as line ends.
 std::string ToLine(const nlohmann::ordered_json& record)
 {
     std::string line = record.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
@@ -122,8 +122,8 @@ void WarningLog::WriteLine(const nlohmann::ordered_json& record)
     std::fwrite(line.data(), 1, line.size(), stderr);
 }
 
-/// A line that the disk had no room for leaves a part of it at most, for other programs may have
-/// written behind it: the next one begins a line of its own.
+/// If the disk is full, part of a line may remain in the file; it is not removed because other
+/// programs may have written after it. The next line then starts on a new line.
 bool WarningLog::WriteToFile(const std::string& line)
 {
     if (!m_file.IsOpen())

@@ -12,29 +12,30 @@
 namespace vesk
 {
 
-/// The log of warnings and failed assertions: one JSON object a line, to a file or standard error.
+/// The log of warnings and failed assertions: one JSON object per line, to a file or standard
+/// error.
 ///
-/// Safe to use from any thread.
+/// Thread-safe.
 class WarningLog
 {
 public:
-    /// Never destroyed, so that a warning of a late thread still finds it.
+    /// Never destroyed, so that a warning in a thread that outlives main still finds it.
     static WarningLog& GetInstance();
 
-    /// Closes, then appends to the file at `path` (UTF-8), which other programs may do, too. False
-    /// when it cannot be opened.
+    /// Closes the log, then appends to the file at `path` (UTF-8), which other programs may do as
+    /// well. False if it cannot be opened.
     bool Open(const std::string& path);
 
-    /// The file's absolute path (UTF-8); empty while none is open.
+    /// The file's absolute path (UTF-8); empty if none is open.
     std::string GetPath();
 
-    /// Writes a closing line for each place with suppressed lines, forgets all counts and closes
-    /// the file. False when there was a file and a line is missing in it: that one went to standard
+    /// Writes a closing line for each site with suppressed lines, resets all counts and closes the
+    /// file. False if a file was open and a line is missing from it: that line went to standard
     /// error.
     bool Close();
 
-    /// Counts one record of the place and writes it, completed by time, count and the end of the
-    /// journal, unless the place has written its share of lines.
+    /// Counts one record of the site and writes it, with the time, the count and the last lines of
+    /// the journal, unless the site has reached its limit of lines.
     void Add(const std::string& file, int line, nlohmann::ordered_json record);
 
 private:
@@ -49,7 +50,7 @@ private:
     std::mutex m_mutex;
     OutputFile m_file;
 
-    /// True while the end of the file is no line end: a line was torn there.
+    /// True while the file ends with an incomplete line.
     bool m_isTorn = false;
     bool m_isLineMissing = false;
     std::string m_path;
