@@ -28,7 +28,7 @@ public:
     bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
 
 private:
-    /// Tips are shown exactly in Tabs and Controls; AltHeld lasts while no key but Alt is used.
+    /// Tips are shown exactly in Tabs and Controls; AltHeld lasts while nothing but Alt is used.
     enum class State
     {
         Off,
