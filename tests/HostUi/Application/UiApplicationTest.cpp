@@ -179,7 +179,7 @@ void UiApplicationTest::noEventIsNothingToPost()
 
     application.PostEvent(nullptr);
 
-    // Calls a destroyed object if the event was posted.
+    // Dereferences null if the event was posted.
     QCoreApplication::sendPostedEvents();
 }
 
