@@ -19,7 +19,7 @@ namespace
 
 constexpr int BoxSpacing = 6;
 
-/// Makes four rows of check boxes as high as the three rows of a column.
+/// Lets four rows of check boxes fit beside the three rows of a column.
 void tighten(QLayout& layout)
 {
     layout.setContentsMargins(0, 0, 0, 0);

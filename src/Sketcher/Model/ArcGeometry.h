@@ -9,10 +9,10 @@ ArcShape ToArc(const CircleShape& circle);
 vesk::Vector3d StartTangent(const ArcShape& arc);
 
 /// The angle from the start of an arc, about its normal, to the direction of a point: in radians,
-/// from 0 to less than a full turn.
+/// from 0 to less than 2 pi.
 double AngleTo(const ArcShape& arc, const vesk::Vector3d& point);
 
-/// The angle from start to end in radians, more than 0, at most a full turn.
+/// The angle from start to end in radians, more than 0 and at most 2 pi.
 double SweepOf(const ArcShape& arc);
 
 /// The same in degrees.

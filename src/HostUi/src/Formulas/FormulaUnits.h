@@ -5,7 +5,7 @@
 namespace vesk
 {
 
-/// The dimension of a part of a formula: a number, or powers of a length and an angle.
+/// The dimension of a part of a formula: its powers of length and angle, both 0 for a number.
 struct Dimension
 {
     int length = 0;
