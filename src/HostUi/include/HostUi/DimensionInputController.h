@@ -28,8 +28,8 @@ struct InputField;
 /// otherwise to the view. A text to be committed is judged before the handler sees the key. A
 /// formula or a number with a unit is replaced by its value. A text without a clear value, or with
 /// one that the action cannot use, is rejected: it stays in the editor, selected, with a message
-/// beside it. A handler's raw text is left alone. A unit typed after a Space that committed the
-/// value is dropped, and the view text says so. Installed while it lives.
+/// beside it. While a handler's `rawTextInput` is on, texts are left alone. A unit typed after a
+/// Space that committed the value is dropped, and the view text says so. Installed while it lives.
 ///
 /// The editor is as wide as its text needs. Closing its window ends the input instead.
 class VESK_HOST_UI_API DimensionInputController final : public QObject,

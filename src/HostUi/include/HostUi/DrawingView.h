@@ -41,7 +41,7 @@ public:
     /// Shows the box between two world points.
     void Fit(const Vector3d& corner, const Vector3d& oppositeCorner);
 
-    /// Zooms in by a factor about the centre of the view.
+    /// Magnifies by a factor about the centre of the view.
     void Magnify(double factor);
 
     /// Shows one model unit as that many device pixels; the centre of the view stays.

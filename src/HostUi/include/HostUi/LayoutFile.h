@@ -33,7 +33,7 @@ public:
 
     /// Replaces the file, creating its folder if necessary. A file that is not a layout of this
     /// version is first copied beside it, with ".kept" appended to its name. Returns false if the
-    /// file cannot be written.
+    /// file or the copy cannot be written.
     static bool Write(const QString& path, const QByteArray& layout);
 };
 

@@ -26,8 +26,8 @@ public:
     explicit LineEditValidateHelper(QObject* pParent);
     ~LineEditValidateHelper() override;
 
-    /// Watches these edits from now on, and no others; an edit without a validator gets its normal
-    /// look. Neither edits nor validators are owned; validators must outlive their use.
+    /// Watches these edits from now on, and no others; an edit without a validator looks as it did
+    /// before. Neither edits nor validators are owned; validators must outlive their use.
     void SetValidators(const std::map<QLineEdit*, const ValidatorBase*>& validators);
 
 private:

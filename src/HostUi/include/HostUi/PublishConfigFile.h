@@ -9,7 +9,7 @@ namespace vesk
 
 /// Sets publish configuration records from a file of lines such as "InHouseMode=false". Records
 /// that the file does not name stay unchanged; a value other than true or false is ignored. Returns
-/// false if there is no such file.
+/// false if the file is missing or unreadable.
 VESK_HOST_UI_API bool LoadPublishConfig(const QString& path);
 
 }

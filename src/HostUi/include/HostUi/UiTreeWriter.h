@@ -16,8 +16,8 @@ class DimensionInputController;
 /// Keeps a JSON file that describes what is on screen: controls, views, the editor, the running
 /// action.
 ///
-/// After a change the file is replaced as a whole when the event loop is idle, but no later than
-/// 200 ms, in nested loops too.
+/// After a change the file is replaced as a whole as soon as the event loop is idle, and at the
+/// latest after 200 ms, in nested loops too.
 class VESK_HOST_UI_API UiTreeWriter final : public QObject
 {
     Q_OBJECT
