@@ -22,7 +22,7 @@ struct FileOption
 };
 
 constexpr FileOption s_fileOptions[] = {
-    {"journal", "FILE", "record everything done to FILE, replacing it unless it is also read",
+    {"journal", "FILE", "record the session in FILE, replacing it unless it is also read",
      &Options::journal, false},
     {"replay", "FILE", "replay the journal FILE without a window, then exit", &Options::replay,
      true},
@@ -96,7 +96,7 @@ Options ParseOptions(const QStringList& arguments)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(
-        QStringLiteral("Draws lines of exact length and angle; everything done can be replayed."));
+        QStringLiteral("Draws lines of exact length and angle; every session can be replayed."));
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
     for (const FileOption& option : s_fileOptions)
