@@ -2,5 +2,5 @@
 
 #include <QString>
 
-/// The path of a file below the user's data folder, which is made where it is missing.
+/// The path of a file in the user's data folder; creates the folder if it is missing.
 QString DataFile(const QString& name);

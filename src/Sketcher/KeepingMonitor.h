@@ -7,7 +7,7 @@ namespace vesk
 class MainWindow;
 }
 
-/// Says in the window when the journal does not keep what is done, once as a notice and in the
+/// Reports in the window when records do not reach the journal file: once as a notice, and in the
 /// status bar for as long as it lasts.
 class KeepingMonitor final : public vesk::IJournalObserver
 {
@@ -19,7 +19,7 @@ public:
     void OnRecord(const vesk::JournalRecord& record) override;
     void OnUiObject(const vesk::IJournalUiObject& object, int kind) override;
 
-    /// Looks whether the journal keeps what is done: another file may be in use since.
+    /// Checks again whether records reach the journal file, which may have changed.
     void Update();
 
 private:

@@ -22,13 +22,14 @@ struct FileOption
 };
 
 constexpr FileOption s_fileOptions[] = {
-    {"journal", "FILE", "record everything done in FILE, replacing it unless it is read, too",
+    {"journal", "FILE", "record the session in FILE, replacing it unless it is also read",
      &Options::journal, false},
-    {"replay", "FILE", "repeat the journal FILE without a window, then exit", &Options::replay,
+    {"replay", "FILE", "replay the journal FILE without a window, then exit", &Options::replay,
      true},
-    {"open", "JOURNAL", "repeat a journal in the window, then go on drawing", &Options::open, true},
+    {"open", "JOURNAL", "replay a journal in the window, then continue drawing", &Options::open,
+     true},
     {"model", "FILE", "write the drawing to FILE as JSON at exit", &Options::model, false},
-    {"ui-tree", "FILE", "keep FILE telling what is on screen, as JSON", &Options::uiTree, false},
+    {"ui-tree", "FILE", "keep FILE describing what is on screen, as JSON", &Options::uiTree, false},
     {"log", "FILE", "log warnings to FILE", &Options::log, false},
     {"screenshot", "FILE.png", "save a picture of the window at exit", &Options::screenshot, false},
 };
@@ -50,7 +51,7 @@ QString CheckFile(const FileOption& option, const QString& path)
     return {};
 }
 
-/// A journal that is read may be continued; no other file can be two things.
+/// A journal that is read may be continued; no other file may serve two options.
 bool MayBeOne(const FileOption& first, const FileOption& second)
 {
     const auto isJournal = [](const FileOption& option) {
@@ -67,7 +68,7 @@ QString CheckNames(const Options& options)
         {
             const QString& path = options.*first.member;
             if (!MayBeOne(first, *pSecond) && IsSameFile(path, options.*pSecond->member))
-                return QStringLiteral("%1 cannot be what --%2 and --%3 name")
+                return QStringLiteral("%1 cannot be used for both --%2 and --%3")
                     .arg(path, QString::fromLatin1(first.name), QString::fromLatin1(pSecond->name));
         }
     }
@@ -95,7 +96,7 @@ Options ParseOptions(const QStringList& arguments)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(
-        QStringLiteral("Draws lines of exact length and angle; everything done can be repeated."));
+        QStringLiteral("Draws lines of exact length and angle; every session can be replayed."));
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
     for (const FileOption& option : s_fileOptions)
@@ -134,10 +135,10 @@ Options ParseOptions(const QStringList& arguments)
     options.raiseWarnings = parser.value(raiseWarnings);
     if (options.error.isEmpty() && parser.isSet(raiseWarnings) &&
         !WarningRaiser::GetKinds().contains(options.raiseWarnings))
-        options.error = QStringLiteral("unknown kind of warnings %1").arg(options.raiseWarnings);
+        options.error = QStringLiteral("unknown kind of warning %1").arg(options.raiseWarnings);
     if (options.task == Options::Task::Draw && parser.isSet(QStringLiteral("replay")))
         options.task = Options::Task::Replay;
     if (options.error.isEmpty() && !options.replay.isEmpty() && !options.open.isEmpty())
-        options.error = QStringLiteral("--replay and --open exclude each other");
+        options.error = QStringLiteral("--replay and --open cannot be used together");
     return options;
 }

@@ -3,7 +3,7 @@
 #include <QString>
 #include <QStringList>
 
-/// What the command line asks for. File names are empty where nothing is asked.
+/// What the command line asks for. File names are empty if not given.
 struct Options
 {
     /// What to do instead of opening the window.
@@ -24,20 +24,20 @@ struct Options
     QString log;
     QString screenshot;
 
-    /// Which debug warnings to raise once the window stands; empty for none.
+    /// Which debug warnings to raise once the window is open; empty for none.
     QString raiseWarnings;
 
-    /// One line; empty when the command line makes sense and every file named can be used.
+    /// One line; empty if the command line is valid and every named file is usable.
     QString error;
 
     /// What --help prints.
     QString help;
 
-    /// The journal that is to be repeated; empty for none.
+    /// The journal to replay; empty for none.
     const QString& GetSource() const { return replay.isEmpty() ? open : replay; }
 };
 
-/// True when both names are those of one file, links or not, or will be.
+/// True if both names refer to the same file, directly or through links, or will once it exists.
 bool IsSameFile(const QString& first, const QString& second);
 
 /// Reads the arguments (the program's name first).

@@ -57,7 +57,7 @@ bool ReadingMonitor::Advance(std::size_t done, std::size_t total)
 {
     constexpr qint64 LeastWorkMs = 30;
     constexpr qint64 MostWorkMs = 100;
-    // The window gets as long as the reading, but never keeps waiting.
+    // The window gets as much time as the reading, but never waits long.
     const qint64 workMs = std::clamp(m_pauseMs, LeastWorkMs, MostWorkMs);
     if (m_isCancelled || m_sincePause.elapsed() < workMs)
         return !m_isCancelled;

@@ -12,21 +12,22 @@ namespace vesk
 class ProgressBarDefinition;
 }
 
-/// Keeps the window alive while a journal is read in it.
+/// Keeps the window responsive while a journal is replayed in it.
 ///
-/// Windows are painted, moved and resized as ever; keys and the mouse do nothing, but Escape and
-/// closing the window cancel the reading. Controls are disabled. The progress is on screen as long.
+/// Windows are painted, moved and resized as usual; keys and the mouse do nothing, except that
+/// Escape and closing the window cancel the reading. Controls are disabled, and the progress bar is
+/// shown.
 class ReadingMonitor final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The window's ribbon and panes are disabled as long as the monitor lives. Neither argument is
+    /// The window's ribbon and panes are disabled while the monitor lives. Neither argument is
     /// owned; the definition may be null.
     ReadingMonitor(QMainWindow& window, vesk::ProgressBarDefinition* pProgress);
     ~ReadingMonitor() override;
 
-    /// Shows how far the reading has come and handles what waits. False once it was cancelled.
+    /// Shows the progress and processes pending events. Returns false once cancelled.
     bool Advance(std::size_t done, std::size_t total);
 
     bool IsCancelled() const { return m_isCancelled; }

@@ -39,13 +39,13 @@ namespace
 constexpr int ExitUnusableFile = 2;
 constexpr int ExitNotRepeated = 3;
 
-/// What is delivered with the program, beside the folder of programs.
+/// The path of a file installed with the program, next to the program folder.
 QString SharedFile(const QString& name)
 {
     return QCoreApplication::applicationDirPath() + QStringLiteral("/../share/sketcher/") + name;
 }
 
-/// Where the layout of the panes is kept, below the user's configuration folder.
+/// The path of the pane layout file, in the user's configuration folder.
 QString LayoutPath()
 {
     return QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) +
@@ -57,7 +57,7 @@ void Complain(const std::string& text)
     std::cerr << "sketcher: " << text << std::endl;
 }
 
-/// True when the file, or a new one of that name, can be written as far as one can know.
+/// True if, as far as can be known, the file or a new one of that name can be written.
 bool IsWritable(const QString& path)
 {
     const QFileInfo file(path);
@@ -84,7 +84,7 @@ Session::Session(const Options& options)
     LoadPublishConfig(SharedFile(QStringLiteral("publish.ini")));
     m_host.GetViewManager().AddView(&m_window.GetView());
     m_application.SetMainWindow(&m_window);
-    // Sizes of panes hold for the window's size, and a warning stands where the window will be.
+    // Pane sizes depend on the window's size, and a warning appears where the window will be.
     if (m_options.task != Options::Task::Replay)
         m_window.setWindowState(Qt::WindowMaximized);
     m_application.SetDockManager(m_pDocks.get());
@@ -158,7 +158,7 @@ bool Session::VerifyUndo(const UndoRecord& record)
     return m_workspace.sketch.GetLastUndone() == record.entity;
 }
 
-/// The journal to repeat is read before anything is replaced.
+/// The journal to replay is read before anything is replaced.
 bool Session::OpenFiles()
 {
     std::string error;
@@ -172,7 +172,7 @@ bool Session::OpenFiles()
     return isDone;
 }
 
-/// Only a log that was asked for has to be written.
+/// Only a log named by an option must be writable.
 bool Session::OpenLog()
 {
     const bool isNamed = !m_options.log.isEmpty();
@@ -214,7 +214,7 @@ void Session::SaveLayout()
         m_unwritten << LayoutPath();
 }
 
-/// Ends as closing does; dialogs and menus do not outlive it.
+/// Ends the program as closing the window does; dialogs and menus close too.
 void Session::ObeyTerminationRequests()
 {
     m_pTermination = std::make_unique<TerminationRequests>();
@@ -243,13 +243,13 @@ int Session::Draw()
     return QApplication::exec();
 }
 
-/// Repeats a journal in the window. Cancelled, it leaves the drawing as it was before.
+/// Replays a journal in the window. If cancelled, the drawing is as before.
 void Session::Open()
 {
     const JournalReplayResult result = RepeatInWindow();
     if (!result.failure.empty())
         ShowFailure(result);
-    // A window that was closed meanwhile needs no other journal.
+    // If the window was closed in the meantime, no other journal is needed.
     if (!result.isStopped || m_window.isVisible())
         ShowOtherJournal(GoOn(result));
     if (result.isStopped)
@@ -267,7 +267,7 @@ int Session::Replay()
     return 0;
 }
 
-/// Repeats it while the window shows how far it has come.
+/// Replays it while the window shows the progress.
 JournalReplayResult Session::RepeatInWindow()
 {
     ReadingMonitor monitor(m_window, m_window.GetProgress());
@@ -275,20 +275,21 @@ JournalReplayResult Session::RepeatInWindow()
     return Repeat();
 }
 
-/// Repeats the journal that was read; tells of what could not be repeated and what was unfinished.
+/// Replays the journal that was read; reports the record that could not be replayed and unfinished
+/// commands.
 JournalReplayResult Session::Repeat()
 {
     JournalReplayResult result = JournalReplayer::Replay(m_records, *this);
     if (result.isStopped)
         return result;
     for (const std::wstring& commandId : result.unfinishedCommands)
-        Complain("not finished in the journal: " + ToUtf8(commandId));
+        Complain("unfinished in the journal: " + ToUtf8(commandId));
     if (!result.failure.empty())
         Complain(result.failure);
     return result;
 }
 
-/// Has the journal go on after the reading. Returns another file's path when it does so there.
+/// Continues the journal after the replay. Returns the path if it continues in another file.
 QString Session::GoOn(const JournalReplayResult& result)
 {
     if (result.isStopped)
@@ -297,7 +298,7 @@ QString Session::GoOn(const JournalReplayResult& result)
                                   : m_journal.LeaveForAnother();
 }
 
-/// The greatest number of the records that were read; an end repeats its command's.
+/// The greatest record number that was read; an end record repeats its command's number.
 int Session::GetLastNumber() const
 {
     int last = 0;
@@ -320,12 +321,12 @@ void Session::ShowOtherJournal(const QString& path)
 {
     if (path.isEmpty())
         return;
-    Complain(m_options.journal.toStdString() + " stays as it is, the journal goes on in " +
+    Complain(m_options.journal.toStdString() + " is left unchanged; the journal continues in " +
              path.toStdString());
     m_window.ShowState(QStringLiteral("other journal"), QStringLiteral("日志改存于另一文件"), path);
 }
 
-/// Tells in one line what could not be written. False when an option named some of it.
+/// Reports in one line what could not be written. Returns false if an option named any of it.
 bool Session::WriteResults()
 {
     QStringList named;

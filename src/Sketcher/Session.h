@@ -23,15 +23,16 @@
 #include <memory>
 #include <vector>
 
-/// One run of the program: the host, the library, the drawing and the window, in order of life.
+/// One run of the program: the host, the library, the drawing and the window, in order of
+/// construction.
 class Session final : public vesk::IJournalReplayTarget
 {
 public:
     explicit Session(const Options& options);
     ~Session() override;
 
-    /// Does what the options ask for and returns the program's exit code: 0, or 2 for a file that
-    /// cannot be used, or 3 for a journal that cannot be repeated.
+    /// Does what the options ask for and returns the program's exit code: 0, 2 for an unusable
+    /// file, or 3 for a journal that cannot be replayed.
     int Run();
 
     bool CanRepeat(const vesk::CommandRecord& record) override;
@@ -62,7 +63,7 @@ private:
     SessionJournal m_journal;
     std::vector<vesk::JournalRecord> m_records;
 
-    /// Files that nobody named and that could not be written at the end.
+    /// Files not named by an option that could not be written at the end.
     QStringList m_unwritten;
 
     vesk::HostCore m_host;
@@ -77,7 +78,7 @@ private:
     std::unique_ptr<Panes> m_pPanes;
     std::unique_ptr<vesk::UiTreeWriter> m_pUiTree;
     std::unique_ptr<WarningRaiser> m_pWarningRaiser;
-    ReadingMonitor* m_pReading = nullptr; ///< While a drawing is opened; not owned.
+    ReadingMonitor* m_pReading = nullptr; ///< Set while a drawing is opened; not owned.
     std::unique_ptr<KeepingMonitor> m_pKeeping;
     std::unique_ptr<vesk::TerminationRequests> m_pTermination;
 };

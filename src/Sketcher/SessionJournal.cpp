@@ -15,7 +15,7 @@ using namespace vesk;
 namespace
 {
 
-/// Far from the greatest number, so that any session's records come after it.
+/// Far below the greatest integer, to leave numbers for the records of any session.
 constexpr int GreatestNumberToGoOnFrom = 1000000000;
 
 JournalManager& Manager()
@@ -23,7 +23,7 @@ JournalManager& Manager()
     return JournalManager::GetInstance();
 }
 
-/// The path of a file below the user's data folder that is not there yet.
+/// The path of a file in the user's data folder that does not exist yet.
 QString OwnPath()
 {
     const QString name =

@@ -11,43 +11,43 @@ namespace vesk
 struct JournalReplayResult;
 }
 
-/// In which file a session's journal is kept: the one that an option names, or one below the user's
-/// data folder.
+/// The journal file of a session: the one named by an option, or one in the user's data folder.
 ///
-/// A file that is read too, by whatever name, is continued once its records have been repeated, and
-/// otherwise left as it is.
+/// A file that is also read, under whatever name, is continued once its records have been replayed,
+/// and otherwise left unchanged.
 class SessionJournal final
 {
 public:
     explicit SessionJournal(const Options& options);
 
-    /// Makes sure, before it is read, that a file which is to be continued is nobody else's. False
-    /// when that cannot be; `error` then says why in one sentence.
+    /// Reserves a file that is to be continued for this session before it is read. Returns false if
+    /// that fails; `error` then says why in one sentence.
     bool Reserve(std::string& error);
 
-    /// Opens any other file. False when one that an option names cannot be written; without one of
-    /// its own the session goes on all the same.
+    /// Opens any other file. Returns false if a file named by an option cannot be written; the
+    /// session can do without the one in the user's data folder.
     bool Open(std::string& error);
 
-    /// The records that were read, up to this number, have been repeated. Returns as
-    /// LeaveForAnother: a file can be numbered to its end.
+    /// Call when the records that were read, up to this number, have been replayed. Returns the
+    /// same as LeaveForAnother, because a file's numbers may be used up.
     QString GoOn(const vesk::JournalReplayResult& result, int lastNumber);
 
-    /// Not all of them could be repeated: what was, and what comes, goes to another file. Returns
-    /// its path; empty when the session's own file will do.
+    /// Call when not all of them could be replayed: those that were, and all new ones, go to
+    /// another file. Returns its path; empty if the current file is not the one that was read.
     QString LeaveForAnother();
 
-    /// Nothing of what was repeated stands: begins anew. Returns as LeaveForAnother.
+    /// Call when nothing of the replay remains: starts a new journal. Returns the same as
+    /// LeaveForAnother.
     QString StartAnew();
 
-    /// False without a named file.
+    /// Whether an option named the file.
     bool IsNamed() const { return m_isNamed; }
 
-    /// The file in use or meant to be.
+    /// The file in use, or to be used.
     const QString& GetPath() const { return m_path; }
 
 private:
-    QString m_path; ///< Empty where a replay writes none.
+    QString m_path; ///< Empty if a replay writes none.
     bool m_isNamed;
-    bool m_isContinued; ///< It is the file that is read.
+    bool m_isContinued; ///< Whether it is also the file that is read.
 };

@@ -28,7 +28,7 @@
 
 using namespace vesk;
 
-/// The icons stand in a static library: somebody has to ask for them.
+/// The icons are in a static library and must be requested explicitly.
 static void LoadIcons()
 {
     Q_INIT_RESOURCE(Sketcher);
@@ -37,7 +37,7 @@ static void LoadIcons()
 namespace
 {
 
-/// The tools with which one draws are the ones reached for all day.
+/// Drawing tools are used all day.
 constexpr wchar_t LargeGroup[] = L"绘图";
 
 OwnerPtr<CommandButtonDefinition> MakeDefinition(const CommandEntry& entry)
@@ -108,7 +108,7 @@ void SketcherWindow::BuildButtons(const std::vector<CommandEntry>& commands,
     m_pPaneButton = AddMenu(MakePaneMenu(commands), *groups[L"面板"], controls);
 }
 
-/// Places a button with a menu and returns it; null when there is none.
+/// Adds a button with a menu and returns it; null if it could not be created.
 QToolButton* SketcherWindow::AddMenu(OwnerPtr<CommandButtonMenuDefinition> opDefinition,
                                      Qtitan::RibbonGroup& group, ControlHost& controls)
 {

@@ -39,17 +39,16 @@ public:
 
     SketchView& GetView() { return *m_pView; }
 
-    /// Makes all controls: a button or a menu entry for each command, and the panels.
+    /// Creates all controls: a button or a menu entry for each command, and the panels.
     void BuildControls(const std::vector<CommandEntry>& commands, vesk::ControlHost& controls);
 
-    /// How far the reading of a drawing has come; null when there is no such control. Not owned.
+    /// The progress of opening a drawing; null if there is no such control. Not owned.
     vesk::ProgressBarDefinition* GetProgress() const { return m_pProgress; }
 
-    /// The button that shows all panes and has the menu of them; null when there is none. Not
-    /// owned.
+    /// The button that shows all panes, with their menu; null if there is none. Not owned.
     QToolButton* GetPaneButton() const { return m_pPaneButton; }
 
-    /// Drops what refers to the controls, before they go.
+    /// Drops all references to the controls before they are destroyed.
     void ReleaseControls();
 
 signals:

@@ -11,7 +11,7 @@ using namespace vesk;
 namespace
 {
 
-/// A warning of a place of its own.
+/// The site of a warning.
 #define SKETCHER_SITE(function, message)                                                           \
     CheckSite                                                                                      \
     {                                                                                              \

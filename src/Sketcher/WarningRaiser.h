@@ -8,19 +8,19 @@
 
 class QWidget;
 
-/// Raises debug warnings, for developers who want to see what becomes of them.
+/// Raises debug warnings for developers who want to see how they are handled.
 class WarningRaiser final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The kinds that can be asked for: "plain", one; "paint", one in each paint of a view that is
-    /// painted all the time; "nested", one while the first is shown; "thread", one from another
-    /// thread; "loop", 10,000 at one place.
+    /// The supported kinds: "plain", one; "paint", one in each paint event of a view that is
+    /// repainted continuously; "nested", one while the first is shown; "thread", one from another
+    /// thread; "loop", 10,000 from one site.
     static const QStringList& GetKinds();
 
-    /// Raises warnings of a kind as soon as the event loop runs. The view is not owned and outlives
-    /// the raiser.
+    /// Raises warnings of that kind as soon as the event loop runs. The view is not owned and
+    /// outlives the raiser.
     WarningRaiser(const QString& kind, QWidget& view);
     ~WarningRaiser() override;
 

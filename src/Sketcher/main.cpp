@@ -15,7 +15,7 @@ namespace
 
 constexpr int ExitUnusableOptions = 2;
 
-/// Arguments of the toolkit ("-platform offscreen") are for QApplication to take out.
+/// Arguments for the toolkit ("-platform offscreen") must be removed by QApplication.
 bool HasToolkitArguments(int argc, char** argv)
 {
     return std::any_of(argv + 1, argv + argc, [](const std::string& argument) {
@@ -23,7 +23,8 @@ bool HasToolkitArguments(int argc, char** argv)
     });
 }
 
-/// The exit code of a run that needs no display, or nothing when the program is to run on.
+/// Handles a run that needs no display and returns its exit code; nothing if the program must go
+/// on.
 std::optional<int> Answer(const Options& options)
 {
     if (!options.error.isEmpty())
@@ -40,10 +41,10 @@ std::optional<int> Answer(const Options& options)
     return 0;
 }
 
-/// What the toolkit tells of its own housekeeping and nobody can act upon: it makes a folder for
-/// the session's sockets where none is set; it asks for the window below the cursor, frame by
-/// frame, while the window manager removes one of the frames; and a display that is no screen
-/// cannot do all that windows ask of it.
+/// Messages about the toolkit's own housekeeping that no user can act on: it creates a folder for
+/// the session's sockets if none is set; it queries the window below the cursor, frame by frame,
+/// while the window manager removes one of the frames; and an offscreen display does not support
+/// everything that windows request.
 bool IsHousekeeping(const QString& message)
 {
     return message.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set")) ||
@@ -58,7 +59,7 @@ void PassMessage(QtMsgType type, const QMessageLogContext& context, const QStrin
         std::cerr << qFormatLogMessage(type, context, message).toStdString() << std::endl;
 }
 
-/// Answers before there is a display, where the arguments allow it.
+/// Answers before there is a display, if the arguments allow it.
 std::optional<int> AnswerEarly(int argc, char** argv)
 {
     if (HasToolkitArguments(argc, argv))

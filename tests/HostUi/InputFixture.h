@@ -44,7 +44,7 @@ inline OwnerPtr<ITemporaryDimensionContext> MakeCentralAngle()
 
 using Refuse = std::function<std::wstring(InputState field, double value)>;
 
-/// An action that does nothing but show dimensions, and refuse values.
+/// An action that only shows dimensions and rejects values.
 class DimensionAction final : public IdleAction
 {
 public:
@@ -69,7 +69,7 @@ private:
     std::vector<InputState>& m_freed;
 };
 
-/// A view in which an action shows dimensions, and somebody at the keyboard.
+/// A view in which an action shows dimensions, and a user at the keyboard.
 struct InputFixture
 {
     explicit InputFixture(const TypingScript& typing, const ContextMaker& makeContext = &MakeLinear,
@@ -115,14 +115,14 @@ struct InputFixture
 
     QLineEdit* Editor() const { return host.view.findChild<QLineEdit*>("Editor"); }
 
-    /// The text of a note; none while it does not show.
+    /// The text of a note; empty while it is hidden.
     QString Note(const char* name) const
     {
         const auto* pNote = host.view.findChild<QLabel*>(QLatin1String(name));
         return pNote != nullptr && pNote->isVisible() ? pNote->text() : QString();
     }
 
-    /// What the view was told last.
+    /// The last text that the view was given.
     std::wstring Hint() const { return host.view.GetTexts().back(); }
 
     /// The fields whose locked values the action was told to free.

@@ -29,7 +29,7 @@ public:
     WindowId GetWindowId() const override { return winId(); }
 };
 
-/// A run of a program: its window on screen, with panes in their factory places.
+/// A run of a program: its window on screen, with panes in the default layout.
 struct Run
 {
     explicit Run(const QStringList& names = {"A", "B", "C", "D", "E", "F"})
@@ -44,7 +44,7 @@ struct Run
         Settle();
     }
 
-    /// A and B at the left, one above the other, C behind A's tab; D and E at the right; F below.
+    /// A and B at the left, A above B, C tabbed behind A; D and E at the right; F at the bottom.
     static std::vector<PanePlace> Places()
     {
         return {{L"A", DockArea::Left, 200, L""},  {L"B", DockArea::Left, 200, L""},
@@ -91,8 +91,8 @@ struct Run
     std::unique_ptr<PaneLayout> pLayout;
 };
 
-/// True when the user sees the pane, or the tab that it stands behind, or can have it shown; a
-/// floating one when its title can be taken hold of and its close button clicked.
+/// True if the user sees the pane or its tab, or can show it; for a floating pane, if its title can
+/// be dragged and its close button clicked.
 inline bool IsPlaced(const Run& run, QDockWidget* pPane)
 {
     if (!pPane->isFloating())

@@ -15,7 +15,7 @@
 namespace vesk::test
 {
 
-/// A view of nothing.
+/// An empty view.
 class PlainView final : public DrawingView
 {
 public:
@@ -25,7 +25,7 @@ protected:
     void PaintModel(QPainter&) override {}
 };
 
-/// A window with a ribbon, a view, and a box beside them.
+/// A window with a ribbon, a view and a check box.
 struct RibbonFocusFixture
 {
     RibbonFocusFixture()
@@ -55,7 +55,7 @@ struct RibbonFocusFixture
     Control* Place(Control* pControl)
     {
         pRibbon->layout()->addWidget(pControl);
-        // A check box takes no clicks beside its text.
+        // A check box ignores clicks beside its text.
         pControl->setFixedSize(pControl->sizeHint());
         if (!QTest::qWaitFor([pControl] { return pControl->isVisible(); }, vesk::test::PatienceMs))
             qFatal("the control does not show");

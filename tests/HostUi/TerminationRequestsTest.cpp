@@ -21,7 +21,7 @@
 namespace vesk
 {
 
-/// What the operating system asks of a process.
+/// Requests of the operating system to a process.
 class TerminationRequestsTest : public QObject
 {
     Q_OBJECT
@@ -50,7 +50,7 @@ static QSet<int> OpenFiles()
     return files;
 }
 
-/// A handler of its own for each signal.
+/// A separate handler for each signal.
 template <int Signal>
 static void Ignore(int)
 {}
@@ -138,7 +138,7 @@ void TerminationRequestsTest::afterwardsEverythingIsAsBefore()
 
 void TerminationRequestsTest::theFilesThatItUsesAreClosed()
 {
-    // The first one makes what the event loop keeps.
+    // The first one creates resources that the event loop keeps.
     std::make_unique<TerminationRequests>().reset();
     const QSet<int> before = OpenFiles();
     {

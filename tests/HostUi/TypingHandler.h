@@ -21,15 +21,15 @@
 namespace vesk::test
 {
 
-/// A value that a handler took.
+/// A value that a handler committed.
 struct TakenValue
 {
-    QString text;                    ///< As it stood in the editor.
-    EditorText typed;                ///< What the host knew of it at that moment.
-    Qt::KeyboardModifiers modifiers; ///< Of the key that took it.
+    QString text;                    ///< As it was in the editor.
+    EditorText typed;                ///< What the host knew about it at that moment.
+    Qt::KeyboardModifiers modifiers; ///< Of the key that committed it.
 };
 
-/// A key that a handler was told of.
+/// A key that a handler received.
 struct HeardKey
 {
     int virtualKey = 0;
@@ -38,21 +38,21 @@ struct HeardKey
     bool isShift = false;
 };
 
-/// What a handler does, and what it did.
+/// What a handler must do, and what it did.
 struct TypingScript
 {
     InputState state = InputState::IS_Length;
 
-    /// The keys that take a value besides Return and Enter. Tab goes on with the angle then.
+    /// The keys, besides Return and Enter, that commit a value. Tab then continues with the angle.
     QSet<int> commitKeys;
     bool isRawTextInput = false;
     QString currentValue = QStringLiteral("50.000");
     std::vector<TakenValue> taken;
     std::vector<HeardKey> heard;
-    std::wstring dimensionText; ///< Shown at the origin of the model; none when it is empty.
+    std::wstring dimensionText; ///< Shown at the origin of the model unless it is empty.
 };
 
-/// Takes whatever stands in its editor, which lies over a view, when one of its keys is pressed.
+/// Commits any text in its editor, which floats over a view, when one of its keys is pressed.
 class TypingHandler final : public QObject, public ITemporaryDimensionHandler
 {
     Q_OBJECT
@@ -95,8 +95,8 @@ public:
 
     void OnEditorReturnPressed() override { Take(Qt::NoModifier); }
 
-    /// Shift and the comma open the editor with the current value, any other key but the comma with
-    /// its character.
+    /// Shift+comma opens the editor with the current value, any other key but the comma with its
+    /// character.
     bool OnKeyDown(int virtualKey, bool isCtrl, bool isAlt, bool isShift) override
     {
         constexpr int Comma = 188;
@@ -151,7 +151,7 @@ private:
     QPointer<QLineEdit> m_pEditor;
 };
 
-/// Makes such a handler for any context. Registered while it lives.
+/// Creates such a handler for any context. Registered while it lives.
 class TypingHandlerFactory final : public ITemporaryDimensionHandlerFactory
 {
 public:

@@ -9,7 +9,7 @@
 namespace vesk::test
 {
 
-/// A user who leaves the dialog of a debug warning after something has happened behind it.
+/// A user who closes the dialog of a debug warning after something has happened behind it.
 class WarningReader final : public NqUiInterfaceFactory
 {
 public:

@@ -19,7 +19,7 @@ QPalette paletteOf(const QColor& window, const QColor& text, const QColor& highl
     return palette;
 }
 
-/// A point of a widget as it is drawn on the bar.
+/// The colour of a point of a widget as drawn on the bar.
 QColor drawnColor(const RibbonBar& bar, const QWidget& widget, const QPoint& point)
 {
     const QPoint place = widget.mapTo(const_cast<RibbonBar*>(&bar), point);

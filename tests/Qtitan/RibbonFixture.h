@@ -17,7 +17,7 @@
 #include <algorithm>
 #include <memory>
 
-/// A view that takes the focus and every key, and remembers which came.
+/// A view that accepts the focus and every key, and records the keys.
 class KeyRecorder final : public QWidget
 {
 public:
@@ -31,7 +31,7 @@ protected:
     void keyReleaseEvent(QKeyEvent* pEvent) override { releasedKeys.append(pEvent->key()); }
 };
 
-/// Text and icon live on an action, as with the buttons that the host places.
+/// Text and icon belong to an action, as in the buttons that the host creates.
 inline QToolButton* createButton(const QString& caption)
 {
     auto* pButton = new QToolButton;
@@ -73,13 +73,13 @@ struct RibbonFixture
         return pButton;
     }
 
-    /// Types through the window system's door, where shortcuts and filters have their say.
+    /// Sends a key as the window system does, so that shortcuts and event filters see it.
     void type(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const
     {
         QTest::keyClick(window->windowHandle(), key, modifiers);
     }
 
-    /// The texts of the key tips on show, in the order of their controls.
+    /// The texts of the visible key tips, in the order of their controls.
     QStringList tips() const
     {
         QStringList texts;

@@ -260,7 +260,7 @@ private slots:
         QCOMPARE(f.arcSpy.count(), 1);
     }
 
-    /// As with a native part of the view, whose clicks do not come through the ribbon's window.
+    /// As with a native part of the view, whose clicks do not pass through the ribbon's window.
     void clickBesidesTheWindowEndsTheMode()
     {
         TipsFixture f;

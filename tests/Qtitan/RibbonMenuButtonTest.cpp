@@ -12,7 +12,7 @@ using namespace Qtitan;
 namespace
 {
 
-/// How a button comes into the ribbon.
+/// How a button is added to the ribbon.
 enum class Placing
 {
     Large,
@@ -53,7 +53,7 @@ struct MenuFixture : RibbonFixture
     QPoint arrowPlace() const { return {pButton->width() - 5, pButton->height() / 2}; }
     QPoint mainPlace() const { return {5, pButton->height() / 2}; }
 
-    /// True once the window system has told the button; it takes its time.
+    /// Returns true once the window system has notified the button, which may take a while.
     bool pointAt(const QPoint& place) const
     {
         QCursor::setPos(pButton->mapToGlobal(place));
@@ -75,7 +75,7 @@ struct MenuFixture : RibbonFixture
         return pBar->grab(QRect(pButton->mapTo(pBar, QPoint()), pButton->size())).toImage();
     }
 
-    /// Does something once the menu is open, and closes it if that has not.
+    /// Does something once the menu is open, and closes the menu if it is still open.
     template <class Action>
     void whenOpen(Action action)
     {
@@ -122,7 +122,7 @@ private:
     }
 
 private slots:
-    /// No pointer of an earlier test stands on a button.
+    /// Moves the pointer away from the buttons, where an earlier test may have left it.
     void init() { QCursor::setPos(QGuiApplication::primaryScreen()->geometry().bottomRight()); }
 
     void arrowStandsOutAtTheRightEdge_data()
@@ -153,7 +153,7 @@ private slots:
         const QImage image = f.drawn();
 
         const int page = image.pixelColor(2, 2).lightness();
-        // How tall the arrow is in its place is up to the style.
+        // The height of the arrow in its rectangle is up to the style.
         const QRect arrow(image.width() - 14, image.height() / 2 - 3, 13, 7);
         int contrast = 0;
         for (int i = 0; i < arrow.width() * arrow.height(); ++i)

@@ -36,7 +36,7 @@ struct PageFixture : RibbonFixture
         return event.isAccepted();
     }
 
-    /// Through the window system's door, so that what lies under the pointer gets it first. Qt
+    /// Sent as the window system does, so that the widget under the pointer gets it first. Qt
     /// offers only spontaneous wheel events to the parents.
     void turnWheelOver(QWidget& widget, int angle) const
     {

@@ -24,7 +24,7 @@ QPalette paletteOf(const QColor& window, const QColor& text)
     return palette;
 }
 
-/// An icon whose picture of 32 pixels has another colour than that of 16 pixels.
+/// An icon whose 32-pixel picture differs in colour from the 16-pixel one.
 QIcon createIcon()
 {
     QPixmap coarse(16, 16);
@@ -46,7 +46,7 @@ bool isOfDarkText(const QColor& color)
     return color.lightness() < 128 && !isOfIcon(color);
 }
 
-/// A ribbon in black on light grey with one small button.
+/// A ribbon, black on light grey, with one small button.
 struct SmallFixture : RibbonFixture
 {
     SmallFixture() : pControl(nullptr), pButton(addSmallButton("Arc"))
@@ -71,7 +71,7 @@ struct SmallFixture : RibbonFixture
         return pBar->grab(QRect(pShown->mapTo(pBar, QPoint()), pShown->size())).toImage();
     }
 
-    /// Where pixels of a kind are drawn, in the coordinates of the button.
+    /// The bounds of pixels of a kind, in the coordinates of the button.
     QRect inkOf(const QToolButton* pShown, const std::function<bool(const QColor&)>& isInk) const
     {
         const QImage image = drawn(pShown);

@@ -14,7 +14,7 @@ using namespace Qtitan;
 namespace
 {
 
-/// A ribbon with controls of every kind, named in the order in which they stand.
+/// A ribbon with controls of every kind, named in their visual order.
 struct ControlsFixture : RibbonFixture
 {
     ControlsFixture()
@@ -64,7 +64,7 @@ struct ControlsFixture : RibbonFixture
     QToolButton* pButton;
 };
 
-/// The names of what has the focus after each of so many Tabs.
+/// The names of the focus widgets after each of a number of Tabs.
 QStringList tabThrough(const RibbonFixture& f, int count,
                        Qt::KeyboardModifiers modifiers = Qt::NoModifier)
 {
@@ -81,7 +81,7 @@ const QStringList s_order{"button", "box", "check1", "check2", "check3", "check4
 
 } // namespace
 
-/// Every control in a ribbon with the keys alone.
+/// Every control in a ribbon with the keyboard alone.
 class RibbonTabOrderTest final : public QObject
 {
     Q_OBJECT

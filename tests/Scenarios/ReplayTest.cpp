@@ -104,7 +104,7 @@ private slots:
 
             QCOMPARE(outcome.code, 0);
             QCOMPARE(outcome.error.trimmed(),
-                     QStringLiteral("sketcher: not finished in the journal: Sketcher.Line"));
+                     QStringLiteral("sketcher: unfinished in the journal: Sketcher.Line"));
             const int drawn = ReadLines(Replayed()).size();
             QVERIFY(drawn >= drawnBefore);
             drawnBefore = drawn;

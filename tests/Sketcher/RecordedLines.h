@@ -6,7 +6,7 @@
 #include <QString>
 #include <QStringList>
 
-/// Hears what goes into the journal while it lives, as lines.
+/// Collects the lines that are written to the journal while it lives.
 class RecordedLines final : public vesk::IJournalObserver
 {
 public:
@@ -17,7 +17,7 @@ public:
 
     void OnRecord(const vesk::JournalRecord& record) override
     {
-        // The number says how much was recorded before, which is another test's business.
+        // The number depends on what was recorded before, which this test does not check.
         const QString line = QString::fromStdString(vesk::JournalFormat::ToLine(record));
         m_lines.push_back(QLatin1Char('{') + line.mid(line.indexOf(QLatin1Char(',')) + 1));
     }

@@ -3,7 +3,7 @@
 #include "Model/Shape.h"
 #include "Support/TestValues.h"
 
-// How shapes are shown where a test finds them different.
+// How test failures print shapes.
 
 inline char* toString(const LineShape& line)
 {

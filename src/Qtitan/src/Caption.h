@@ -6,10 +6,10 @@
 namespace Qtitan
 {
 
-/// The caption as a reader sees it: a single '&' is dropped, a double one becomes one.
+/// The caption as displayed: a single '&' is dropped, a double one becomes one.
 QString plainCaption(const QString& caption);
 
-/// The character behind the first single '&', in upper case; null when there is none.
+/// The character after the first single '&', in upper case; null if there is none.
 QChar mnemonicOf(const QString& caption);
 
 } // namespace Qtitan

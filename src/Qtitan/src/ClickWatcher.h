@@ -5,8 +5,8 @@
 namespace Qtitan
 {
 
-/// Tells of every press of a mouse button in the application while it is active. A part of the
-/// view may be a native window, whose clicks the ribbon's own window never sees.
+/// Reports every mouse button press in the application while it is active. A part of the view may
+/// be a native window, whose clicks the ribbon's own window never sees.
 class ClickWatcher final : public QObject
 {
     Q_OBJECT

@@ -30,7 +30,7 @@ void KeyTipBadge::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    // Inverse to the ribbon, so that it stands out from every palette.
+    // Inverts the ribbon's colours, so that it stands out with every palette.
     painter.setPen(palette().color(QPalette::Window));
     painter.setBrush(palette().color(QPalette::WindowText));
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);

@@ -5,14 +5,14 @@
 namespace Qtitan
 {
 
-/// The small plate with the keys of one key tip: a label, so that its text() are the keys.
+/// The badge with the keys of one key tip: a label, so that text() returns the keys.
 class KeyTipBadge final : public QLabel
 {
     Q_OBJECT
 
 public:
-    /// Shows the keys with the badge's centre at a point of the parent, moved as little as keeps
-    /// the badge inside it.
+    /// Shows the badge centred at a point of the parent, moved as little as necessary to stay
+    /// inside the parent.
     KeyTipBadge(const QString& keys, const QPoint& centre, QWidget* pParent);
 
     QSize sizeHint() const override;

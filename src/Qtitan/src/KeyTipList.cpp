@@ -18,8 +18,8 @@ namespace Qtitan
 namespace
 {
 
-/// The keys in the order in which they are given out: 1 to 9, A to Z, then pairs behind a 0.
-/// No key is the beginning of another.
+/// The keys in the order in which they are assigned: 1 to 9, A to Z, then both again after a 0. No
+/// key is a prefix of another.
 QStringList allKeys()
 {
     QStringList keys;
@@ -33,8 +33,8 @@ QStringList allKeys()
     return keys;
 }
 
-/// Wishes first, each to the first who has it; then the free keys in order. What is left over
-/// when all keys are given out goes without.
+/// Grants wishes first, each to the first tip that has it, then assigns the free keys in order.
+/// Tips left over when the keys run out get none.
 void assignKeys(KeyTipList& tips)
 {
     QStringList free = allKeys();
@@ -71,7 +71,7 @@ bool isLargeButton(const QWidget& widget)
     return pControl != nullptr && pControl->form() == RibbonButtonForm::Large;
 }
 
-/// At the foot of a large button, at the left end of a widget in a row, in the middle of an arrow.
+/// At the bottom of a large button, the left end of a widget in a row, the centre of an arrow.
 QPoint badgeCentre(const QWidget& target, const RibbonBar& bar)
 {
     const bool isArrow = qobject_cast<const RibbonPage*>(target.parentWidget()) != nullptr;

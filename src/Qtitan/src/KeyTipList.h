@@ -12,7 +12,7 @@ namespace Qtitan
 class RibbonBar;
 class RibbonPage;
 
-/// What one key tip leads to: a tab, or a widget on the page.
+/// A key tip and its target: a tab, or a widget on the page.
 struct KeyTip
 {
     QString keys;
@@ -27,8 +27,8 @@ using KeyTipList = std::vector<KeyTip>;
 /// The key tips of all tabs; centres are in the bar's coordinates.
 KeyTipList keyTipsOfTabs(const RibbonBar& bar);
 
-/// The key tips of what a page shows and can be used: buttons and whatever takes the focus.
-/// Controls that are scrolled out of the page have none, but its scroll buttons have.
+/// The key tips of a page's visible and enabled controls: buttons and widgets that accept the
+/// focus. Controls scrolled out of the page have none, but its scroll buttons do.
 KeyTipList keyTipsOfPage(const RibbonBar& bar, const RibbonPage& page);
 
 } // namespace Qtitan

@@ -32,7 +32,7 @@ RibbonBar::RibbonBar(QWidget* pParent)
 
 RibbonBar::~RibbonBar()
 {
-    // The pages go one by one with the base class, when there is nobody left to be told of it.
+    // The base class destroys the pages one by one, when there is no ribbon left to notify.
     disconnect(m_pPages, nullptr, this, nullptr);
     disconnect(m_pTabs, nullptr, this, nullptr);
 }
@@ -41,7 +41,7 @@ RibbonPage* RibbonBar::addPage(const QString& title)
 {
     auto* pPage = new RibbonPage(title, m_pPages);
     m_pPages->addWidget(pPage);
-    // The tab bar would make an Alt shortcut of a single '&'; here it marks a key tip only.
+    // The tab bar would turn a single '&' into an Alt shortcut; here it only marks a key tip.
     const QString caption = plainCaption(title);
     const int index =
         m_pTabs->addTab(QString(caption).replace(QLatin1Char('&'), QLatin1String("&&")));

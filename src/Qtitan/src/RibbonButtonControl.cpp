@@ -19,7 +19,7 @@ struct FormMetrics
     QSizePolicy::Policy vertical;
 };
 
-/// Small buttons are as wide as their column, so that their edges and arrows stand in line.
+/// Small buttons are as wide as their column, so that their edges and arrows line up.
 constexpr FormMetrics s_large{RibbonMetrics::LargeIcon, QSizePolicy::Fixed, QSizePolicy::Expanding};
 constexpr FormMetrics s_small{RibbonMetrics::SmallIcon, QSizePolicy::Minimum,
                               QSizePolicy::Preferred};
@@ -129,7 +129,7 @@ void RibbonButtonControl::resizeEvent(QResizeEvent* pEvent)
 void RibbonButtonControl::showEvent(QShowEvent* pEvent)
 {
     QWidget::showEvent(pEvent);
-    // What changed the button's size on a page that was not shown was not announced.
+    // Changes of the button's size are not announced while its page is hidden.
     updateGeometry();
 }
 

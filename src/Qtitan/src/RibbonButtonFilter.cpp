@@ -26,8 +26,8 @@ bool opensMenu(const QToolButton& button, const QEvent& event)
     return event.type() == QEvent::KeyPress && isMenuKey(static_cast<const QKeyEvent&>(event));
 }
 
-/// Shows the arrow pressed while the menu is open: Qt draws the button before it opens the menu,
-/// and again when it is closed.
+/// Shows the arrow pressed while the menu is open: Qt paints the button before it opens the menu
+/// and after it has closed it.
 void updateOnceMenuIsOpen(QToolButton& button)
 {
     QMetaObject::invokeMethod(&button, qOverload<>(&QWidget::update), Qt::QueuedConnection);

@@ -16,7 +16,7 @@ constexpr int ArrowMargin = 3;
 /// Between the edge of a small button and its content, and between its icon and its caption.
 constexpr int SmallMargin = 4;
 
-/// The mark of a split button tells how often it was clicked, and nothing of what goes on.
+/// The checked state of a split button reflects how often it was clicked, not what is going on.
 bool showsMark(const QToolButton& button)
 {
     return button.isChecked() && button.popupMode() != QToolButton::MenuButtonPopup;
@@ -73,13 +73,13 @@ QSize captionSize(const QStyleOptionToolButton& option)
     return option.fontMetrics.size(Qt::TextShowMnemonic, option.text);
 }
 
-/// Captions begin in one line, whether their buttons have an icon or not.
+/// Captions are left-aligned whether or not their buttons have an icon.
 int smallCaptionLeft(const QStyleOptionToolButton& option)
 {
     return SmallMargin + option.iconSize.width() + SmallMargin;
 }
 
-/// The width that a small button keeps free at its right end for what tells of a menu.
+/// The width that a small button reserves at its right end for the menu arrow.
 int smallArrowRoom(const QToolButton& button, const QStyleOptionToolButton& option)
 {
     if (option.features & QStyleOptionToolButton::MenuButtonPopup)
@@ -102,7 +102,7 @@ QRect arrowRect(const QStyleOptionToolButton& option, const QRect& menuPart, Rib
     return arrow;
 }
 
-/// The label without the room that a caption under its icon would leave between the two.
+/// The label without the gap between an icon and the caption under it.
 QStyleOptionToolButton largeLabel(const QStyleOptionToolButton& option, const QRect& menuPart)
 {
     QStyleOptionToolButton label(option);

@@ -20,15 +20,15 @@ struct RibbonButtonLayout
 
     /// The state and the content of the whole button.
     QStyleOptionToolButton option;
-    /// The part that opens the menu; empty where the whole button does, or nothing.
+    /// The part that opens the menu; empty if the whole button does, or nothing does.
     QRect menuPart;
-    /// The arrow that tells of a menu; empty without a menu.
+    /// The arrow that indicates a menu; empty without a menu.
     QRect arrow;
-    /// Icon and caption: what the style is to draw one after the other.
+    /// Icon and caption, for the style to draw one after the other.
     std::vector<QStyleOptionToolButton> labels;
 };
 
-/// The size in which a button shows all of its content.
+/// The size at which a button shows all of its content.
 QSize ribbonButtonSize(const QToolButton& button, RibbonButtonForm form);
 
 } // namespace Qtitan

@@ -7,7 +7,7 @@ class QPalette;
 namespace Qtitan
 {
 
-/// The colours of the ribbon, all of them mixed from one palette.
+/// The colours of the ribbon, all mixed from one palette.
 struct RibbonColors
 {
     explicit RibbonColors(const QPalette& palette);

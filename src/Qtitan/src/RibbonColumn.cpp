@@ -19,7 +19,7 @@ namespace
 
 constexpr int BoxSpacing = 6;
 
-/// Four rows of boxes fit beside the three rows of a column.
+/// Lets four rows of check boxes fit beside the three rows of a column.
 void tighten(QLayout& layout)
 {
     layout.setContentsMargins(0, 0, 0, 0);
@@ -85,7 +85,7 @@ bool RibbonColumn::eventFilter(QObject* pWatched, QEvent* pEvent)
 {
     const QEvent::Type type = pEvent->type();
     auto* pButton = qobject_cast<QToolButton*>(pWatched);
-    // A button that is stacked without a form is arranged by its own style, as a large one is.
+    // A button stacked without a form is arranged by its own style, like a large one.
     if (pButton != nullptr && filterRibbonButton(*pButton, RibbonButtonForm::Large, *pEvent))
         return true;
     if (type == QEvent::ShowToParent || type == QEvent::HideToParent)

@@ -13,11 +13,11 @@ class QGridLayout;
 namespace Qtitan
 {
 
-/// Whether a widget stacks widgets of its own, and so fills a column alone.
+/// Whether a widget stacks widgets of its own, and so needs a column to itself.
 bool isColumnOfItsOwn(const QWidget& widget);
 
-/// A column of up to three widgets with their labels. Rows whose widget is hidden or deleted
-/// close up; the column is hidden when all of them are.
+/// A column of up to three widgets with their labels. Rows whose widget is hidden or deleted close
+/// up; the column hides when all of them are.
 class RibbonColumn final : public QWidget
 {
     Q_OBJECT
@@ -25,11 +25,12 @@ class RibbonColumn final : public QWidget
 public:
     explicit RibbonColumn(QWidget* pParent = nullptr);
 
-    /// Whether every row holds a living widget.
+    /// Whether every row holds a live widget.
     bool isFull() const;
 
-    /// Puts a widget into the first free row; an empty label stands for none. A widget that is a
-    /// column of its own comes into an empty column, and its layout is made as tight as the rows.
+    /// Puts a widget into the first free row; an empty label means none. A widget that needs a
+    /// column to itself requires an empty column; the margins and spacing of its layout are
+    /// removed.
     void addRow(const QString& label, QWidget* pWidget);
 
 protected:

@@ -18,7 +18,7 @@ namespace Qtitan
 namespace
 {
 
-/// Where a control stands in its page.
+/// The position of a control in its page.
 struct Place
 {
     QWidget* pControl;
@@ -52,7 +52,7 @@ QRect rectIn(const RibbonPage& page, const QWidget& widget)
     return QRect(widget.mapTo(const_cast<RibbonPage*>(&page), QPoint()), widget.size());
 }
 
-/// The left edge of the part of a group that holds the control; beyond all of them without one.
+/// The left edge of the part of a group that holds the control; outside a group, beyond all others.
 int columnOf(const RibbonPage& page, const QWidget& control)
 {
     const QWidget* pPart = &control;
@@ -61,7 +61,7 @@ int columnOf(const RibbonPage& page, const QWidget& control)
     return pPart == &page ? std::numeric_limits<int>::max() : rectIn(page, *pPart).left();
 }
 
-/// Gives the places of one column that stand beside each other the same row.
+/// Gives controls that are side by side in a column the same row.
 void assignRows(std::vector<Place>& places)
 {
     std::stable_sort(places.begin(), places.end(), [](const Place& a, const Place& b) {
@@ -79,7 +79,7 @@ void assignRows(std::vector<Place>& places)
     }
 }
 
-/// The tabs of the ribbon that the page is in; null outside of one.
+/// The tabs of the ribbon that the page is in; null outside a ribbon.
 QWidget* tabsOf(const RibbonPage& page)
 {
     const QWidget* pBar = page.parentWidget();

@@ -9,13 +9,13 @@ namespace Qtitan
 
 class RibbonPage;
 
-/// The controls of a page as a reader meets them, shown or not: group by group, in a group column
-/// by column, in a column row by row, in a row from left to right. Then come the page's own
-/// buttons. A control is a button or whatever takes the focus with Tab.
+/// The controls of a page in reading order, visible or not: by group, then by column, then by row,
+/// then from left to right; last the page's own buttons. A control is a button or any widget that
+/// accepts the focus by Tab.
 QList<QWidget*> controlsInOrder(const RibbonPage& page);
 
-/// Makes Tab go from the tabs through the controls of a page in that order, whenever each of them
-/// was placed.
+/// Makes Tab go from the tabs through the controls of a page in that order, regardless of the order
+/// in which they were added.
 void orderFocus(const RibbonPage& page);
 
 } // namespace Qtitan

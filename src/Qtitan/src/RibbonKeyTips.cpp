@@ -30,7 +30,7 @@ bool isModifierKey(int key)
            key == Qt::Key_CapsLock || key == Qt::Key_NumLock;
 }
 
-/// The letter or digit of a key, whatever its case; empty for any other and with Ctrl, Alt, Meta.
+/// The letter or digit of a key, in upper case; empty for other keys and with Ctrl, Alt or Meta.
 QString tipKeyOf(const QKeyEvent& event)
 {
     const int key = event.key();
@@ -114,7 +114,7 @@ bool RibbonKeyTips::onShortcutOverride(QKeyEvent& event)
         event.accept();
         return true;
     }
-    // The key may be a shortcut, and then no key press follows.
+    // The key may be a shortcut; then no key press follows.
     if (event.key() != Qt::Key_F10)
         end();
     return false;
@@ -125,7 +125,7 @@ bool RibbonKeyTips::onKeyPress(const QKeyEvent& event)
     if (event.isAutoRepeat() && isHeld(event))
         return true;
     m_heldKey = 0;
-    // A menu or a combo box's list that is open gets the keys through this very window.
+    // An open menu or combo box list gets its keys through this same window.
     if (QApplication::activePopupWidget() != nullptr || !m_bar.isVisible())
         return false;
     return isOn() ? onKeyPressWhileOn(event) : onKeyPressWhileOff(event);
@@ -167,7 +167,7 @@ bool RibbonKeyTips::onKeyPressWhileOn(const QKeyEvent& event)
         end();
         return false;
     }
-    // Noted first: typing a tip may run an event loop, or be the end of this ribbon.
+    // Recorded first: typing a tip may run an event loop or destroy this ribbon.
     m_heldKey = event.key();
     if (isTip)
         type(key);
@@ -201,7 +201,7 @@ void RibbonKeyTips::showTabs()
 
 void RibbonKeyTips::showControls()
 {
-    // The page may have been shown a moment ago: badges need its layout now.
+    // The page may have just been shown; the badges need its layout now.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     const RibbonPage* pPage = m_bar.page(m_bar.currentPageIndex());
     if (pPage != nullptr)
@@ -288,11 +288,11 @@ void RibbonKeyTips::activateButton(QAbstractButton& button)
     auto* pTool = qobject_cast<QToolButton*>(&button);
     if (pTool != nullptr && pTool->menu() && pTool->popupMode() == QToolButton::InstantPopup)
     {
-        // click() would trigger its action, too, once the menu has closed.
+        // click() would also trigger its action once the menu has closed.
         pTool->showMenu();
         return;
     }
-    // A page's own buttons scroll it; any other may run a command, and all may be gone after it.
+    // A page's own buttons scroll it; any other may run a command that destroys everything here.
     const bool isScrollButton = qobject_cast<RibbonPage*>(button.parentWidget()) != nullptr;
     button.click();
     if (isScrollButton)

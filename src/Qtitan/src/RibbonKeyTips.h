@@ -14,8 +14,8 @@ namespace Qtitan
 class ClickWatcher;
 class KeyTipBadge;
 
-/// The keyboard's way into a ribbon, as its bar describes it. Watches the window that the bar is
-/// in, from the first time that it is shown there; consumes the keys that it acts on and no other.
+/// Keyboard access to a ribbon, as documented at RibbonBar. Watches the bar's window from the first
+/// time the bar is shown there; consumes only the keys that it acts on.
 class RibbonKeyTips final : public QObject
 {
     Q_OBJECT
@@ -28,7 +28,7 @@ public:
     bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
 
 private:
-    /// There are tips exactly in Tabs and Controls; AltHeld lasts while nothing but Alt is used.
+    /// Tips are shown exactly in Tabs and Controls; AltHeld lasts while nothing but Alt is used.
     enum class State
     {
         Off,
@@ -63,7 +63,7 @@ private:
     KeyTipList m_tips;
     std::vector<QPointer<KeyTipBadge>> m_badges;
     QString m_typed;
-    /// The key that is held since its press was consumed: its repeats and release go with it.
+    /// The held key whose press was consumed: its auto-repeats and release are consumed too.
     int m_heldKey = 0;
     ClickWatcher* m_pClicks;
 };

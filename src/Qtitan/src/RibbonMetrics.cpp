@@ -9,8 +9,8 @@ namespace Qtitan
 namespace
 {
 
-/// Chinese captions often come from a fallback font that is higher than the widget's own: rows and
-/// captions keep one height whatever language they are in.
+/// Chinese captions often use a fallback font that is higher than the widget's own; this keeps rows
+/// and captions at one height in every language.
 int textHeight(const QWidget& widget)
 {
     const QFontMetrics metrics = widget.fontMetrics();
@@ -48,7 +48,7 @@ bool takesRoom(const QWidget* pWidget, const QWidget* pPlace)
 {
     if (pWidget == nullptr || pWidget->parentWidget() != pPlace)
         return false;
-    // A child that was never shown counts as hidden to Qt until its first show.
+    // Qt reports a child as hidden until it is first shown.
     return !pWidget->isHidden() || !pWidget->testAttribute(Qt::WA_WState_ExplicitShowHide);
 }
 

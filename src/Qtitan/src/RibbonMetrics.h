@@ -7,7 +7,7 @@ class QWidget;
 namespace Qtitan
 {
 
-/// Lengths of the ribbon in logical pixels. What holds text is derived from the widget's font.
+/// Lengths of the ribbon in logical pixels. Those that hold text depend on the widget's font.
 namespace RibbonMetrics
 {
 
@@ -27,7 +27,7 @@ int tabHeight(const QWidget& widget);
 
 } // namespace RibbonMetrics
 
-/// Whether a placed widget takes room in its place: it lives there and nobody has hidden it.
+/// Whether a widget occupies space in `pPlace`: it is its child and not explicitly hidden.
 bool takesRoom(const QWidget* pWidget, const QWidget* pPlace);
 
 } // namespace Qtitan

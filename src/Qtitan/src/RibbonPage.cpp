@@ -59,7 +59,7 @@ void RibbonPage::ensureVisible(const QWidget& widget)
     if (!m_pContent->isAncestorOf(&widget))
         return;
     const int left = widget.mapTo(m_pContent, QPoint()).x();
-    // An arrow may cover either end, so the widget keeps clear of both.
+    // An arrow may cover either end, so keep the widget clear of both.
     const int firstOffset = left + widget.width() + RibbonMetrics::ArrowWidth - width();
     const int lastOffset = left - RibbonMetrics::ArrowWidth;
     scrollTo(qMin(qMax(m_offset, firstOffset), lastOffset));

@@ -5,7 +5,7 @@
 namespace Qtitan
 {
 
-/// The strip with an arrow at an edge of a page that has more behind it. It covers what is below.
+/// The strip with an arrow at an edge of a page that hides something; covers what is beneath it.
 class RibbonScrollButton final : public QToolButton
 {
     Q_OBJECT

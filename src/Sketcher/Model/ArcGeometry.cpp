@@ -15,7 +15,7 @@ const double s_turn = 2.0 * std::acos(-1.0);
 
 ArcShape ToArc(const CircleShape& circle)
 {
-    // The point from which all of it is drawn lies along x where the plane allows.
+    // The start point lies along x if the plane allows it.
     const bool isAcrossX = std::abs(circle.normal.x()) > 0.9;
     const Vector3d axis = isAcrossX ? Vector3d(Vector3d::UnitY()) : Vector3d(Vector3d::UnitX());
     const Vector3d inPlane = axis - axis.dot(circle.normal) * circle.normal;

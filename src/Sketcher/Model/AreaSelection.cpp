@@ -20,7 +20,7 @@ bool Contains(const Area& area, const Vector3d& point)
            point.y() <= area.high.y();
 }
 
-/// The sides; fewer than four of an area that is as thin as a line.
+/// The sides; fewer than four if the area is degenerate.
 std::vector<LineShape> SidesOf(const Area& area)
 {
     const std::array<Vector3d, 4> corners = {area.low, Vector3d(area.high.x(), area.low.y(), 0.0),
@@ -49,7 +49,7 @@ bool Overlap(const Area& area, const ShapeBounds& bounds)
            bounds.low.y() <= area.high.y() && bounds.high.y() >= area.low.y();
 }
 
-/// What touches an area begins in it or crosses its edge.
+/// A piece that touches an area starts in it or crosses its edge.
 bool Touches(const Area& area, const Shape& shape)
 {
     if (!Overlap(area, BoundsOf(shape)))

@@ -6,7 +6,7 @@
 
 class Sketch;
 
-/// A rectangle of the drawing plane, with its sides along the axes.
+/// An axis-aligned rectangle in the drawing plane.
 struct Area
 {
     vesk::Vector3d low;
@@ -16,11 +16,11 @@ struct Area
     static Area Between(const vesk::Vector3d& corner, const vesk::Vector3d& opposite);
 };
 
-/// What an area has to do with an entity so that it is selected.
+/// How an area selects an entity.
 enum class AreaRule
 {
-    Holds,   ///< All of the outline is inside or on the edge.
-    Touches, ///< Some of it is.
+    Holds,   ///< The whole outline is inside or on the edge.
+    Touches, ///< Part of it is.
 };
 
 bool Applies(AreaRule rule, const Area& area, const Shape& shape);

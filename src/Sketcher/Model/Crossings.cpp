@@ -14,13 +14,13 @@ using vesk::Vector3d;
 namespace
 {
 
-/// How far a computed point may be off an outline: it is rounded with the numbers around it.
+/// How far off an outline a computed point may be, given the rounding of numbers of that size.
 double Tolerance(double size)
 {
     return Constants::DOUBLE_EPS + 1e-12 * size;
 }
 
-/// Adds the points at `offset` on either side of `middle`; the only one where they coincide.
+/// Adds the points at `offset` on either side of `middle`; just one if they coincide.
 void AddPair(const Vector3d& middle, const Vector3d& offset, Crossings& points)
 {
     points.Add(middle + offset);
@@ -29,7 +29,7 @@ void AddPair(const Vector3d& middle, const Vector3d& offset, Crossings& points)
 }
 
 /// Half the length of a chord at a distance from the centre of a circle; 0 for a tangent, negative
-/// when there is none.
+/// if there is no chord.
 double HalfChord(double radius, double distance)
 {
     if (distance > radius + Tolerance(radius))
@@ -37,7 +37,7 @@ double HalfChord(double radius, double distance)
     return std::sqrt(std::max(0.0, (radius - distance) * (radius + distance)));
 }
 
-/// Where the whole straight lines of two pieces meet.
+/// The intersections of the infinite lines or full circles of two pieces.
 Crossings CrossWhole(const LineShape& first, const LineShape& second)
 {
     Crossings points;

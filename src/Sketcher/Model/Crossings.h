@@ -6,10 +6,10 @@
 #include <cstddef>
 #include <variant>
 
-/// A straight or a round piece of an outline.
+/// A straight or round piece of an outline.
 using Piece = std::variant<LineShape, ArcShape>;
 
-/// The points where two pieces meet, two at most.
+/// The points where two pieces meet; at most two.
 class Crossings final
 {
 public:
@@ -23,6 +23,6 @@ private:
     std::size_t m_count = 0;
 };
 
-/// Where two pieces in the drawing plane cross or touch, but for rounding; nothing where they run
-/// along one another.
+/// The points where two pieces in the drawing plane cross or touch, within rounding; none if they
+/// overlap.
 Crossings Cross(const Piece& first, const Piece& second);

@@ -24,7 +24,7 @@ const Value* Find(const CommandParameters& parameters, const wchar_t* name)
     return pValue != nullptr ? std::get_if<Value>(&pValue->Get()) : nullptr;
 }
 
-/// The ids with blanks between them.
+/// The ids, separated by blanks.
 std::wstring ToText(const std::vector<int>& ids)
 {
     std::wstring text;
@@ -33,7 +33,7 @@ std::wstring ToText(const std::vector<int>& ids)
     return text;
 }
 
-/// Nothing when the text is anything but ids.
+/// Nothing if the text contains anything but ids.
 std::optional<std::vector<int>> FromText(const std::wstring& text)
 {
     std::wistringstream stream(text);
@@ -50,14 +50,14 @@ std::optional<std::vector<int>> FromText(const std::wstring& text)
 
 using Shapes = std::vector<std::pair<int, Shape>>;
 
-/// The shape with the value; to the last bit the same when it has that value already.
+/// The shape with the value; bit for bit the same if it already has that value.
 Shape ChangedShape(const Shape& shape, const ShapeProperty& property, double value)
 {
     return property.get(shape) == value ? shape : property.set(shape, value);
 }
 
-/// The shapes as they would be; empty when an entity is missing or has no such value, or when the
-/// value is no number.
+/// The resulting shapes; empty if an entity is missing or has no such property, or if the value is
+/// not finite.
 Shapes ChangedShapes(const EntityEdit& edit, const Sketch& sketch)
 {
     if (!std::isfinite(edit.value))

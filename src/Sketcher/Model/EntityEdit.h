@@ -8,7 +8,7 @@
 
 class Sketch;
 
-/// Gives one value of some entities another number: what the command `Sketcher.SetProperty` does.
+/// Sets one property of some entities: the effect of the command `Sketcher.SetProperty`.
 struct EntityEdit
 {
     static constexpr wchar_t CommandId[] = L"Sketcher.SetProperty";
@@ -19,13 +19,13 @@ struct EntityEdit
 
     vesk::CommandParameters ToParameters() const;
 
-    /// Nothing when the parameters are no edit.
+    /// Nothing if the parameters do not describe an edit.
     static std::optional<EntityEdit> From(const vesk::CommandParameters& parameters);
 
-    /// False when an entity is missing, has no such value or could not be drawn with it.
+    /// False if an entity is missing, has no such property, or could not be drawn with the value.
     bool IsPossible(const Sketch& sketch) const;
 
-    /// Changes the entities in one undo step. False, and nothing changes, when that is not possible
-    /// or they have the value already.
+    /// Changes the entities in one undo step. Returns false and changes nothing if that is
+    /// impossible or they already have the value.
     bool Apply(Sketch& sketch) const;
 };

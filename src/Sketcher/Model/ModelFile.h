@@ -9,5 +9,5 @@ class Sketch;
 ///
 /// Instead of start and end, a "circle" has "centre", "radius" and "normal"; an "arc" has these and
 /// "start" and "end", counter-clockwise about the normal; a "rectangle" has "corners", four points.
-/// Numbers read back to the very doubles of the drawing. False when the file cannot be written.
+/// Numbers read back to exactly the drawing's doubles. Returns false if the file cannot be written.
 bool WriteModelFile(const Sketch& sketch, const QString& path);

@@ -1,6 +1,6 @@
 #pragma once
 
-/// A visitor made of one function for each alternative of a variant.
+/// A visitor composed of one function for each alternative of a variant.
 template <class... Functions>
 struct Overloaded : Functions...
 {

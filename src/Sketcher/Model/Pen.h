@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-/// How an entity is drawn: indices of the tables below.
+/// How an entity is drawn: indices into the tables below.
 struct Pen
 {
     int style = 0;
@@ -24,10 +24,10 @@ struct LineColour
 {
     std::wstring name;
     std::wstring caption;
-    QColor colour; ///< Invalid for the colour in which texts are shown.
+    QColor colour; ///< Invalid for the palette's text colour.
 };
 
-/// All styles and colours; the first of each is what a new drawing begins with.
+/// All styles and colours; a new drawing starts with the first of each.
 const std::vector<LineStyle>& LineStyles();
 const std::vector<LineColour>& LineColours();
 
@@ -39,7 +39,7 @@ struct PenPart
     std::vector<std::wstring> valueNames;
     std::vector<std::wstring> valueCaptions;
 
-    /// The value of that name; nothing when there is none.
+    /// The value of that name; nothing if there is none.
     std::optional<int> Find(const std::wstring& valueName) const;
 };
 

@@ -9,9 +9,9 @@ namespace vesk
 class IUiView;
 }
 
-/// How far the cursor reaches, in the units of the model: 10 pixels of the view. Zero without one.
+/// The reach of the cursor in model units: 10 pixels of the view. Zero without a view.
 double CursorReach(const vesk::IUiView* pView);
 
-/// The entity nearest to a point, within reach of the cursor; of equals the one drawn last. 0 when
+/// The entity nearest to a point, within reach of the cursor; among equals the one drawn last. 0 if
 /// there is none.
 int PickEntity(const Sketch& sketch, const vesk::Vector3d& world, const vesk::IUiView* pView);

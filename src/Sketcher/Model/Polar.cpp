@@ -28,7 +28,7 @@ double AngleBetween(const Vector3d& from, const Vector3d& to)
 {
     const double degrees =
         std::atan2(QuarterTurned(from).dot(to), from.dot(to)) * s_degreesPerRadian;
-    // A hair beyond the half turn is rounded to it, and would turn the other way.
+    // An angle just beyond 180 degrees is rounded to -180, which is the other direction.
     return degrees <= -180.0 ? 180.0 : degrees;
 }
 

@@ -2,16 +2,16 @@
 
 #include "Geometry/Vector3d.h"
 
-/// The unit vector of the drawing plane at an angle in degrees, counter-clockwise from x. As
-/// exact as doubles are at every multiple of 15 degrees.
+/// The unit vector in the drawing plane at an angle in degrees, counter-clockwise from x. As exact
+/// as doubles allow at every multiple of 15 degrees.
 vesk::Vector3d DirectionOf(double degrees);
 
-/// The angle of a vector of the drawing plane, in degrees above -180 up to 180.
+/// The angle of a vector in the drawing plane, in degrees, in (-180, 180].
 double AngleOf(const vesk::Vector3d& direction);
 
-/// The angle by which one vector of the drawing plane turns to another, in degrees above -180 up to
-/// 180, counter-clockwise when positive; 0 when one has no direction.
+/// The angle from one vector in the drawing plane to another, in degrees, in (-180, 180], positive
+/// counter-clockwise; 0 if one has no direction.
 double AngleBetween(const vesk::Vector3d& from, const vesk::Vector3d& to);
 
-/// A vector of the drawing plane, a quarter turn counter-clockwise.
+/// A vector in the drawing plane rotated 90 degrees counter-clockwise.
 vesk::Vector3d QuarterTurned(const vesk::Vector3d& way);

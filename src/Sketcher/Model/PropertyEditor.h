@@ -8,19 +8,18 @@ namespace vesk
 struct PropertyRecord;
 }
 
-/// Sets the properties of the drawing, by the user's hand or by a replay's.
+/// Sets the properties of the drawing, for the user or for a replay.
 ///
-/// "name" of "drawing" is its name. "style" and "colour" of "pen" are how the next entities are
-/// drawn; of "selection" they are the selected entities', which is one undo step, and the next
-/// entities are drawn as before.
+/// "name" of "drawing" is its name. "style" and "colour" of "pen" apply to the next entities; those
+/// of "selection" change the selected entities in one undo step and leave the pen unchanged.
 class PropertyEditor final
 {
 public:
     /// The arguments are not owned and outlive the editor.
     PropertyEditor(Sketch& sketch, const Selection& selection);
 
-    /// Records a property and sets it. False, and nothing happens, when there is none of that name
-    /// or it has no such value.
+    /// Records a property and sets it. Returns false and does nothing if there is no property of
+    /// that name or it has no such value.
     bool Set(const vesk::PropertyRecord& record);
 
 private:

@@ -6,8 +6,8 @@
 
 class Sketch;
 
-/// The entities that are selected, in the order in which they were picked. An entity that leaves
-/// the drawing leaves the selection.
+/// The selected entities, in the order in which they were picked. An entity that leaves the drawing
+/// leaves the selection.
 class Selection final : public QObject
 {
     Q_OBJECT
@@ -20,8 +20,8 @@ public:
     bool IsEmpty() const { return m_ids.empty(); }
     bool Contains(int id) const;
 
-    /// Selects these entities and no others, and records it. False, and nothing changes, when one
-    /// of them is not in the drawing; the same selection again is nothing.
+    /// Selects exactly these entities and records it. Returns false and changes nothing if one of
+    /// them is not in the drawing; selecting the same again has no effect.
     bool Select(const std::vector<int>& ids);
 
 signals:
@@ -35,6 +35,6 @@ private:
     const Sketch& m_sketch;
     std::vector<int> m_ids;
 
-    /// The same in ascending order, to be searched.
+    /// The same in ascending order, for searching.
     std::vector<int> m_ascending;
 };

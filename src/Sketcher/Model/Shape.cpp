@@ -13,7 +13,8 @@ using vesk::Vector3d;
 namespace
 {
 
-/// Whether a size at some place is in range. Turned about, a shape on the limit is still drawn.
+/// Whether a size at a position is in range. Tolerant of rounding, so that a shape at the limit can
+/// still be drawn after a rotation.
 bool IsSize(double size, const Vector3d& place)
 {
     const double rounding = 1e-15 * (size + place.norm());
@@ -21,7 +22,8 @@ bool IsSize(double size, const Vector3d& place)
            size <= Constants::MAX_MODEL_SIZE + rounding;
 }
 
-/// How far a computed point may be off: it is rounded with its size and with its place.
+/// The tolerance of a computed point: its rounding grows with its size and its distance from the
+/// origin.
 double Tolerance(double size, const Vector3d& place)
 {
     return 1e-9 * size + 1e-14 * place.norm();

@@ -11,7 +11,7 @@ struct LineShape
     vesk::Vector3d end = vesk::Vector3d::Zero();
 };
 
-/// The normal, of length one, stands on the plane of the circle.
+/// The normal is the unit normal of the circle's plane.
 struct CircleShape
 {
     vesk::Vector3d centre = vesk::Vector3d::Zero();
@@ -19,8 +19,8 @@ struct CircleShape
     vesk::Vector3d normal = vesk::Vector3d::UnitZ();
 };
 
-/// From the start counter-clockwise about the normal to the end; the whole turn where both are the
-/// same point.
+/// From the start counter-clockwise about the normal to the end; a full circle if both are the same
+/// point.
 struct ArcShape
 {
     vesk::Vector3d centre = vesk::Vector3d::Zero();
@@ -30,23 +30,23 @@ struct ArcShape
     vesk::Vector3d normal = vesk::Vector3d::UnitZ();
 };
 
-/// The corners stand in the order in which one walks around.
+/// The corners are in order around the rectangle.
 struct RectangleShape
 {
     std::array<vesk::Vector3d, 4> corners = {vesk::Vector3d::Zero(), vesk::Vector3d::Zero(),
                                              vesk::Vector3d::Zero(), vesk::Vector3d::Zero()};
 };
 
-/// What an entity looks like, in millimetres.
+/// The geometry of an entity, in millimetres.
 using Shape = std::variant<LineShape, CircleShape, ArcShape, RectangleShape>;
 
-/// True when every number of two shapes is the same.
+/// True if all numbers of two shapes are equal.
 bool operator==(const LineShape& a, const LineShape& b);
 bool operator==(const CircleShape& a, const CircleShape& b);
 bool operator==(const ArcShape& a, const ArcShape& b);
 bool operator==(const RectangleShape& a, const RectangleShape& b);
 
-/// True when a shape can stand in a drawing: all numbers are finite; length, radius, width and
-/// height lie between the least and the greatest size of the model; an arc is as long as the least
-/// and its ends lie on its circle; a rectangle has right angles. Rounding does not matter.
+/// True if a shape can be part of a drawing: all numbers are finite; length, radius, width and
+/// height are between the model's minimum and maximum size; an arc has at least the minimum length
+/// and its ends lie on its circle; a rectangle has right angles. Rounding errors are tolerated.
 bool IsDrawable(const Shape& shape);

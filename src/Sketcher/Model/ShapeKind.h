@@ -4,7 +4,7 @@
 
 #include <string>
 
-/// What kinds of shapes are called.
+/// The names of a kind of shape.
 struct ShapeKind
 {
     std::wstring name;    ///< In files.

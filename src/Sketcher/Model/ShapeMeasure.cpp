@@ -28,7 +28,7 @@ void Include(const LineShape& line, ShapeBounds& bounds)
     Include(line.end, bounds);
 }
 
-/// Besides its ends, an arc reaches farthest where it runs across an axis.
+/// Apart from its ends, an arc reaches farthest where it crosses the axes through its centre.
 void Include(const ArcShape& arc, ShapeBounds& bounds)
 {
     Include(arc.start, bounds);

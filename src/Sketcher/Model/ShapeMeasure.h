@@ -2,14 +2,14 @@
 
 #include "Model/Shape.h"
 
-/// The least box along the axes that holds shapes.
+/// An axis-aligned bounding box.
 struct ShapeBounds
 {
     vesk::Vector3d low;
     vesk::Vector3d high;
 };
 
-/// The bounds of a shape, round parts as they are.
+/// The exact bounds of a shape, round parts included.
 ShapeBounds BoundsOf(const Shape& shape);
 
 /// The distance of a point from the nearest point of a shape's outline.

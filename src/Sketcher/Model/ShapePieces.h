@@ -6,8 +6,8 @@
 
 #include <cstddef>
 
-/// What a shape is drawn of: calls `visitor` with each straight piece (LineShape) and each round
-/// piece (ArcShape), in the order in which they are drawn.
+/// Calls `visitor` with each piece of a shape's outline, straight (LineShape) or round (ArcShape),
+/// in drawing order.
 template <class Visitor>
 void VisitPieces(const Shape& shape, const Visitor& visitor)
 {

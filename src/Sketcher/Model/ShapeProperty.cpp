@@ -13,7 +13,7 @@ namespace
 
 using Properties = std::vector<ShapeProperty>;
 
-/// That far in the direction of a vector. A negative length would turn it round: it gives none.
+/// A vector of that length in a direction. A negative length would reverse it, so it gives zero.
 Vector3d Along(const Vector3d& direction, double length)
 {
     return std::max(length, 0.0) * direction.normalized();
@@ -58,7 +58,7 @@ ShapeProperty LineAngle()
             }};
 }
 
-/// Moves an arc so that its centre comes to stand at another coordinate.
+/// Moves an arc so that its centre has the new coordinate.
 template <int axis>
 ShapeProperty ArcCentre(const wchar_t* name, const wchar_t* caption)
 {
@@ -74,7 +74,7 @@ ShapeProperty ArcCentre(const wchar_t* name, const wchar_t* caption)
             }};
 }
 
-/// Gives an arc another radius; centre and angles stay.
+/// Changes the radius of an arc; centre and angles stay.
 ShapeProperty ArcRadius()
 {
     return {L"radius", L"半径", false,
@@ -99,7 +99,7 @@ ShapeProperty CircleRadius()
             }};
 }
 
-/// Moves a rectangle so that its first corner comes to stand at another coordinate.
+/// Moves a rectangle so that its first corner has the new coordinate.
 template <int axis>
 ShapeProperty RectangleCorner(const wchar_t* name, const wchar_t* caption)
 {
@@ -114,8 +114,8 @@ ShapeProperty RectangleCorner(const wchar_t* name, const wchar_t* caption)
             }};
 }
 
-/// The side of a rectangle from its first corner to the corner of that index. Another length moves
-/// the opposite side.
+/// The side of a rectangle from its first corner to the corner of that index. Changing its length
+/// moves the opposite side.
 template <int corner>
 ShapeProperty RectangleSide(const wchar_t* name, const wchar_t* caption)
 {

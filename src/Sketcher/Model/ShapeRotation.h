@@ -2,9 +2,10 @@
 
 #include "Model/Shape.h"
 
-/// A point turned in the drawing plane about a centre, in degrees, counter-clockwise when positive.
-/// Exact at every quarter turn, but for the rounding of the sums; a whole turn changes nothing.
+/// A point rotated in the drawing plane about a centre, in degrees, positive counter-clockwise.
+/// Multiples of 90 degrees are exact except for the rounding of sums; multiples of 360 degrees
+/// change nothing.
 vesk::Vector3d Rotated(const vesk::Vector3d& point, const vesk::Vector3d& centre, double degrees);
 
-/// A shape that stands in the drawing plane, turned in the same way; its radius stays as it is.
+/// A shape in the drawing plane, rotated in the same way; its radius stays unchanged.
 Shape Rotated(const Shape& shape, const vesk::Vector3d& centre, double degrees);

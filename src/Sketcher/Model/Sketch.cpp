@@ -13,7 +13,7 @@ constexpr wchar_t NewName[] = L"未命名";
 
 }
 
-/// A change of entities; it is known by the id of the first.
+/// A change of entities, identified by the id of the first.
 class Sketch::Step : public QUndoCommand
 {
 public:
@@ -100,7 +100,7 @@ public:
 
     void undo() override
     {
-        // An entity that is named twice gets its first shape back last.
+        // In reverse, so that an entity listed twice ends up with its original shape.
         for (auto other = m_others.rbegin(); other != m_others.rend(); ++other)
             Exchange(*other);
     }
@@ -111,7 +111,7 @@ private:
         other.second = std::exchange(Get(other.first).shape, other.second);
     }
 
-    /// The shapes that the entities do not have now.
+    /// The shapes to swap with the entities' current ones.
     std::vector<std::pair<int, Shape>> m_others;
 };
 
@@ -122,7 +122,7 @@ Sketch::Sketch() : m_name(NewName)
 
 const Entity* Sketch::Find(int id) const
 {
-    // Ids grow in the order of drawing, and an undo puts an entity back in its place.
+    // Ids ascend in drawing order, and an undo restores an entity at its old position.
     const auto found =
         std::lower_bound(m_entities.begin(), m_entities.end(), id,
                          [](const Entity& entity, int sought) { return entity.id < sought; });

@@ -10,7 +10,7 @@
 #include <utility>
 #include <vector>
 
-/// One shape of the drawing. Its id is never given to another entity.
+/// One shape of the drawing. Its id is never reused.
 struct Entity
 {
     int id = 0;
@@ -20,8 +20,8 @@ struct Entity
 
 /// The drawing: entities in the order in which they were drawn, in millimetres, and a name.
 ///
-/// Each change of an entity is one undo step. A sketch made by the same changes is the same to the
-/// last bit.
+/// Each change of entities is one undo step. The same changes result in the same sketch, bit for
+/// bit.
 class Sketch final : public QObject
 {
     Q_OBJECT
@@ -31,26 +31,26 @@ public:
 
     const std::vector<Entity>& GetEntities() const { return m_entities; }
 
-    /// The entity with that id, null when there is none. Valid until the next change.
+    /// The entity with that id; null if there is none. Valid until the next change.
     const Entity* Find(int id) const;
 
-    /// Draws a shape with the current pen and returns its id; 0, and nothing is drawn, when it is
-    /// not drawable.
+    /// Draws a shape with the current pen and returns its id. Returns 0 and draws nothing if the
+    /// shape is not drawable.
     int Add(const Shape& shape);
 
-    /// The same with a line.
+    /// The same for a line.
     int AddLine(const vesk::Vector3d& start, const vesk::Vector3d& end);
 
-    /// Gives entities other shapes; their ids, places and pens stay. False, and no step is made,
-    /// when one of them does not exist, a shape is not drawable, or none of them differs.
+    /// Gives entities other shapes; their ids, order and pens stay. Returns false and makes no step
+    /// if one of them does not exist, a shape is not drawable, or no shape differs.
     bool Replace(const std::vector<std::pair<int, Shape>>& shapes);
     bool CanReplace(const std::vector<std::pair<int, Shape>>& shapes) const;
 
-    /// False when there is no such entity.
+    /// Returns false if there is no such entity.
     bool Erase(int id);
 
-    /// Gives entities another style or colour. False, and no step is made, when they are all drawn
-    /// so already or one of them does not exist.
+    /// Gives entities another style or colour. Returns false and makes no step if they all have it
+    /// already or one of them does not exist.
     bool SetPen(const std::vector<int>& ids, int Pen::*part, int value);
 
     /// How the next entities are drawn. Setting it is not an undo step.
@@ -59,8 +59,8 @@ public:
 
     bool CanUndo() const;
 
-    /// Takes the last change back. The id of the entity that came or went, or of the first that was
-    /// changed; 0 when there was none.
+    /// Undoes the last change. Returns the id of the entity that appeared or disappeared, or of the
+    /// first that changed; 0 if there was nothing to undo.
     int Undo();
 
     /// What the last Undo returned.
@@ -71,7 +71,7 @@ public:
     /// Not an undo step.
     void SetName(const std::wstring& name);
 
-    /// Makes a new drawing of it, as at first: nothing can be undone.
+    /// Starts a new drawing in the initial state; nothing can be undone.
     void Clear();
 
 signals:

@@ -18,7 +18,7 @@ using namespace vesk;
 namespace
 {
 
-/// The nearest of the points offered, within reach of the cursor.
+/// The nearest of the offered points within reach of the cursor.
 class Nearest
 {
 public:
@@ -35,7 +35,7 @@ public:
 
     const std::optional<Snapper::Caught>& Get() const { return m_found; }
 
-    /// The distance of what was found; the reach, as long as nothing was.
+    /// The distance of the point found; the reach if there is none yet.
     double GetDistance() const { return m_distance; }
 
 private:
@@ -52,7 +52,7 @@ struct NearPiece
     Piece piece;
 };
 
-/// The pieces of entities within reach of the cursor, the nearest first.
+/// The pieces of entities within reach of the cursor, nearest first.
 std::vector<NearPiece> PiecesNear(const std::vector<const Entity*>& entities,
                                   const Vector3d& cursor, double reach)
 {

@@ -14,10 +14,10 @@ namespace vesk
 class IUiView;
 }
 
-/// Moves the cursor onto a point that the user means.
+/// Snaps the cursor to the point that the user means.
 ///
-/// A point within 10 pixels of the cursor is caught. An end comes before all others, the grid after
-/// all others; between them the nearest point wins.
+/// The cursor snaps to points within 10 pixels. Ends take precedence over all other points, and the
+/// grid comes last; among the rest the nearest point wins.
 class Snapper final
 {
 public:
@@ -37,20 +37,19 @@ public:
         vesk::Vector3d point;
     };
 
-    /// Only End is on at first. The sketch is not owned and outlives the snapper.
+    /// Initially only End is on. The sketch is not owned and outlives the snapper.
     explicit Snapper(const Sketch& sketch);
 
     bool IsOn(Kind kind) const { return m_isOn[kind]; }
     void SetOn(Kind kind, bool isOn) { m_isOn[kind] = isOn; }
 
-    /// The point that the cursor means; the cursor's own when nothing is caught. Without a view
-    /// nothing is.
+    /// The snapped point, or the cursor itself if there is none. Without a view there is none.
     vesk::Vector3d Catch(const vesk::Vector3d& cursor, const vesk::IUiView* pView);
 
-    /// What the last Catch caught.
+    /// The point to which the last Catch snapped.
     const std::optional<Caught>& GetCaught() const { return m_caught; }
 
-    /// Forgets what was caught.
+    /// Forgets the snapped point.
     void Release() { m_caught.reset(); }
 
 private:

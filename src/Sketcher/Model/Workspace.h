@@ -5,7 +5,7 @@
 #include "Model/Sketch.h"
 #include "Model/Snapper.h"
 
-/// What the user works on, and with: everything that commands and panels share.
+/// What the user works on and with: everything that commands and panels share.
 struct Workspace
 {
     Sketch sketch;

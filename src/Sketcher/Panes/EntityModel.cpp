@@ -23,7 +23,7 @@ const std::array<QString, EntityModel::ColumnCount>& Headers()
     return s_headers;
 }
 
-/// The lengths of a shape that do not depend on where it stands.
+/// The lengths of a shape that do not depend on its position.
 QString SizeOf(const Shape& shape)
 {
     const LengthUnit& unit = LengthUnit::GetCurrent();
@@ -93,7 +93,7 @@ QVariant EntityModel::data(const QModelIndex& index, int role) const
 {
     if (role != Qt::DisplayRole)
         return {};
-    // The drawing may be ahead of the rows.
+    // The drawing may have changed before the rows do.
     const Entity* pEntity = m_sketch.Find(GetId(index.row()));
     if (pEntity == nullptr)
         return {};

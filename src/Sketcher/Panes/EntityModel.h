@@ -6,7 +6,7 @@
 
 class Sketch;
 
-/// The entities of a drawing as the rows of a table, in the order in which they were drawn.
+/// The entities of a drawing as rows of a table, in drawing order.
 class EntityModel final : public QAbstractTableModel
 {
     Q_OBJECT
@@ -23,12 +23,12 @@ public:
     /// The sketch is not owned and outlives the model.
     EntityModel(const Sketch& sketch, QObject* pParent);
 
-    /// Takes the drawing's changes over, leaving rows that stay as they are.
+    /// Updates the rows from the drawing; rows of remaining entities are kept.
     void Refresh();
 
     int GetId(int row) const { return m_ids[static_cast<std::size_t>(row)]; }
 
-    /// The row of an entity, -1 when it has none.
+    /// The row of an entity; -1 if it has none.
     int GetRow(int id) const;
 
     int rowCount(const QModelIndex& parent = QModelIndex()) const override;

@@ -21,7 +21,7 @@ EntityPane::EntityPane(Workspace& workspace)
     m_pView->setUniformRowHeights(true);
     m_pView->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_pView->setFrameShape(QFrame::NoFrame);
-    // Widths that fit contents would have to be measured row by row.
+    // Fitting widths to the contents would measure every row.
     m_pView->header()->setSectionResizeMode(QHeaderView::Interactive);
     const int digit = fontMetrics().horizontalAdvance(QLatin1Char('0'));
     for (const int column : {EntityModel::NumberColumn, EntityModel::KindColumn})
@@ -45,7 +45,7 @@ void EntityPane::UpdateStatus()
     std::sort(rowsBefore.begin(), rowsBefore.end());
     if (rows == rowsBefore)
         return;
-    // In two steps: in one, the toolkit compares each range with each of those before.
+    // In two steps, because in one the toolkit compares each range with every earlier one.
     m_pView->selectionModel()->clearSelection();
     m_pView->selectionModel()->select(ToSelection(rows), QItemSelectionModel::Select);
     if (!ids.empty())
@@ -59,7 +59,7 @@ void EntityPane::OnSelected()
     std::vector<int> ids;
     for (const int row : GetSelectedRows())
         ids.push_back(m_pModel->GetId(row));
-    // Rows of which the drawing knows nothing any more cannot be selected there.
+    // Rows whose entities are no longer in the drawing cannot be selected there.
     ids.erase(std::remove_if(ids.begin(), ids.end(),
                              [this](int id) { return m_workspace.sketch.Find(id) == nullptr; }),
               ids.end());
@@ -78,7 +78,7 @@ std::vector<int> EntityPane::GetSelectedRows() const
     return rows;
 }
 
-/// Ascending, each once.
+/// Ascending, without duplicates.
 std::vector<int> EntityPane::ToRows(const std::vector<int>& ids) const
 {
     std::vector<int> rows;
@@ -89,7 +89,7 @@ std::vector<int> EntityPane::ToRows(const std::vector<int>& ids) const
     return rows;
 }
 
-/// As few ranges as there can be.
+/// Uses as few ranges as possible.
 QItemSelection EntityPane::ToSelection(const std::vector<int>& rows) const
 {
     QItemSelection selection;

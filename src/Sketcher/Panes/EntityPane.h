@@ -9,14 +9,13 @@ class QItemSelection;
 class QTreeView;
 struct Workspace;
 
-/// The entities of the drawing as a list. What is selected in it is selected in the drawing, and
-/// the other way round.
+/// The entities of the drawing as a list. Its selection and the drawing's follow each other.
 class EntityPane final : public QWidget, public vesk::IWidget
 {
     Q_OBJECT
 
 public:
-    /// The workspace is not owned and outlives the pane's use.
+    /// The workspace is not owned and must outlive all use of the pane.
     explicit EntityPane(Workspace& workspace);
 
     void UpdateStatus() override;

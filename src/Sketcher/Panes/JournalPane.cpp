@@ -44,12 +44,12 @@ JournalPane::JournalPane()
     pLayout->addWidget(m_pView);
 }
 
-/// Goes along with the newest record, unless its reader has scrolled back.
+/// Scrolls to the newest record unless the user has scrolled back.
 void JournalPane::UpdateStatus()
 {
     const QScrollBar* pBar = m_pView->verticalScrollBar();
     const bool isAtEnd = pBar->value() == pBar->maximum();
-    // Older records may go, and those that are read move up in the list.
+    // Older records may be dropped, which moves the visible ones up.
     const QPersistentModelIndex top = m_pView->indexAt(QPoint(0, 0));
     m_pState->setVisible(!JournalManager::GetInstance().IsKept());
     layout()->activate();

@@ -8,8 +8,8 @@ class JournalModel;
 class QLabel;
 class QListView;
 
-/// The records of the journal as they come. Those that are selected can be copied as they stand in
-/// the file. While the file does not get them, the pane says so.
+/// The records of the journal as they come. Selected records can be copied as they are in the file.
+/// The pane says so while records do not reach the file.
 class JournalPane final : public QWidget, public vesk::IWidget
 {
     Q_OBJECT
@@ -23,6 +23,6 @@ private:
     void Copy() const;
 
     JournalModel* m_pModel;
-    QLabel* m_pState; ///< Shown while the records are not kept.
+    QLabel* m_pState; ///< Shown while records do not reach the file.
     QListView* m_pView;
 };

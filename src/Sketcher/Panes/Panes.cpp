@@ -58,7 +58,7 @@ Panes::Panes(Workspace& workspace, MainWindow& window, IDockManager& docks, Cont
     Add(InspectorName, L"检查器", std::move(opInspector));
     m_layout.RestoreDefault();
 
-    // Any number of changes at once bring the panes in step once.
+    // Any number of changes at once refresh the panes once.
     m_refresh.setSingleShot(true);
     connect(&m_refresh, &QTimer::timeout, this, [this] { m_docks.UpdateAllDockStatus(); });
     connect(&workspace.sketch, &Sketch::changed, this, &Panes::Refresh);
@@ -135,7 +135,7 @@ void Panes::Mark(QMenu& menu)
         }
     };
     connect(&m_layout, &PaneLayout::visibilityChanged, this, mark);
-    // Whoever marks the chosen entry of a menu does not know what the marks mean here.
+    // The code that checks a menu's chosen entry does not know what the marks mean here.
     for (const QAction* pAction : menu.actions())
         connect(pAction, &QAction::toggled, this, mark);
     mark();
@@ -153,8 +153,8 @@ void Panes::Toggle(const std::wstring& name)
     pDock->Raise();
 }
 
-/// Hears of the click after the button has. A click that ends a tool does nothing else, but all
-/// panes were asked for.
+/// Runs after the button has handled the click. A click that ends a tool does nothing else, but the
+/// user asked for all panes.
 void Panes::OnAllChosen()
 {
     const std::vector<PanePlace> places = FactoryPlaces();

@@ -25,28 +25,28 @@ class Inspector;
 class MainWindow;
 }
 
-/// The panes of the window: properties, entities, journal and inspector. Makes and places them,
-/// keeps them in step with what they show, and has the commands that show and hide them.
+/// The panes of the window: properties, entities, journal and inspector. Creates and positions
+/// them, keeps them up to date, and provides the commands that show and hide them.
 class Panes final : public QObject, public vesk::IJournalObserver
 {
     Q_OBJECT
 
 public:
-    /// Makes all panes, in their factory places. The arguments are not owned; they outlive this.
+    /// Creates all panes in the default layout. The arguments are not owned and outlive this.
     Panes(Workspace& workspace, vesk::MainWindow& window, vesk::IDockManager& docks,
           vesk::ControlHost& controls, const vesk::DimensionInputController& input);
     ~Panes() override;
 
     vesk::PaneLayout& GetLayout() { return m_layout; }
 
-    /// Has the panes come in step with what they show, as soon as the event loop is idle.
+    /// Refreshes the panes as soon as the event loop is idle.
     void Refresh() { m_refresh.start(0); }
 
     std::vector<CommandEntry> MakeCommands();
 
-    /// Keeps the marks of the entries of a button's menu, of those that show or hide a pane, at the
-    /// truth, and has the button itself show all panes also when a tool runs. The button is not
-    /// owned and may go first.
+    /// Keeps the check marks of a button's menu entries that show or hide a pane correct, and makes
+    /// the button itself show all panes even while a tool runs. The button is not owned and may be
+    /// destroyed first.
     void Attend(QToolButton& button);
 
     void OnRecord(const vesk::JournalRecord& record) override;
@@ -63,6 +63,6 @@ private:
     vesk::Inspector* m_pInspector; ///< Owned by its pane.
     vesk::PaneLayout m_layout;
 
-    /// Runs out when the panes are to come in step.
+    /// Fires when the panes must be refreshed.
     QTimer m_refresh;
 };

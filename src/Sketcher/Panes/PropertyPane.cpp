@@ -48,7 +48,7 @@ PropertyPane::PropertyPane(Workspace& workspace, ControlHost& controls)
     m_pTitle->setObjectName(QStringLiteral("PropertyTitle"));
     auto* pForm = new QWidget;
     auto* pRows = new QFormLayout(pForm);
-    // Rows that are hidden keep their spacing.
+    // Hidden rows keep their spacing.
     pRows->setVerticalSpacing(2);
     pRows->addRow(m_pTitle);
     for (const ShapeProperty& property : AllProperties())
@@ -85,7 +85,7 @@ void PropertyPane::On(LineEditEventArgs* pArgs)
     });
     if (row == m_rows.end())
         return;
-    // What the field shows already, rounded, is not meant as a new value.
+    // The rounded text that the field already shows is not meant as a new value.
     if (pArgs->GetText() == row->shown)
         Accept(*row);
     else
@@ -141,7 +141,7 @@ void PropertyPane::ShowTitle()
                 .arg(m_shownIds.front()));
 }
 
-/// Shows a value. Only another one replaces what is being typed, unless it is of other entities.
+/// Shows a value. Text being typed is replaced only if the value or the selection has changed.
 void PropertyPane::ShowRow(Row& row, bool isAnew)
 {
     const bool isCommon = IsCommon(row.property);
@@ -164,7 +164,7 @@ bool PropertyPane::IsCommon(const ShapeProperty& property) const
            });
 }
 
-/// The value that all entities have; nothing when they differ.
+/// The value that all entities share; nothing if they differ.
 std::optional<double> PropertyPane::GetValue(const ShapeProperty& property) const
 {
     const auto valueOf = [&](int id) {
@@ -177,7 +177,7 @@ std::optional<double> PropertyPane::GetValue(const ShapeProperty& property) cons
     return isCommon ? std::make_optional(value) : std::nullopt;
 }
 
-/// In the unit shown; empty when the entities differ.
+/// In the display unit; empty if the entities differ.
 std::wstring PropertyPane::GetText(const ShapeProperty& property) const
 {
     const std::optional<double> value = GetValue(property);
@@ -210,12 +210,12 @@ void PropertyPane::Commit(Row& row, const std::wstring& text)
         row.pDefinition->SetText(row.shown);
         return;
     }
-    // The field may be left before the new value is shown: that is no second edit.
+    // The field may lose the focus before the new value is shown; that must not be a second edit.
     row.shown = text;
     ActionManager::RunCommand(EntityEdit::CommandId, edit.ToParameters());
 }
 
-/// Tells why the text of a field is not taken.
+/// Shows why the text of a field is rejected.
 void PropertyPane::Refuse(const Row& row, const QString& reason)
 {
     m_refusedId = row.pDefinition->GetId();
@@ -223,7 +223,7 @@ void PropertyPane::Refuse(const Row& row, const QString& reason)
     m_pMessage->show();
 }
 
-/// Takes the message away that is about this field.
+/// Hides the message if it is about this field.
 void PropertyPane::Accept(const Row& row)
 {
     if (m_refusedId != row.pDefinition->GetId())

@@ -21,12 +21,12 @@ class ControlHost;
 class LineEditDefinition;
 }
 
-/// The values of the selected entities, each in a line edit: those that all of them have.
+/// The properties that all selected entities have, each in a line edit.
 ///
-/// What the user types is read as in a dimension's editor, formulas and units too. A value that is
-/// finished is sent as a command; a text that makes no sense stays in its field, and a message says
-/// why. Escape gives a field the text back that it showed. Values that differ between the entities
-/// are left empty.
+/// What the user types is read as in a dimension's editor, including formulas and units. A finished
+/// value is sent as a command; an invalid text stays in its field, and a message says why. Escape
+/// restores the text that the field showed. Fields whose values differ between the entities are
+/// empty.
 class PropertyPane final : public QWidget,
                            public vesk::IPropertyWidget,
                            public vesk::ILineEditEventHandler
@@ -65,7 +65,7 @@ private:
     QLabel* m_pTitle;
     QLabel* m_pMessage;
 
-    /// The id of the field that the message is about; empty without one.
+    /// The id of the field that the message is about; empty if there is none.
     std::wstring m_refusedId;
     std::vector<Row> m_rows;
 

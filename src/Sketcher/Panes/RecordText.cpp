@@ -20,7 +20,7 @@ QString NumberText(double value)
     return QString::number(value, 'g', QLocale::FloatingPointShortest);
 }
 
-/// A text of the user's, or a list of entities, may have any length and lines.
+/// A user's text or a list of entities may have any length and any number of lines.
 QString Shortened(QString text)
 {
     constexpr int MostShown = 80;

@@ -7,5 +7,5 @@ namespace vesk
 struct JournalRecord;
 }
 
-/// A journal record in one line, for its reader.
+/// A journal record as one readable line.
 QString DescribeRecord(const vesk::JournalRecord& record);

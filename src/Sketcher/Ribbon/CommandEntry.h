@@ -5,16 +5,16 @@
 #include <functional>
 #include <string>
 
-/// One command of the program: what it does, and where it is shown.
+/// A command of the program: what it does and where it is shown.
 ///
-/// Made by naming what it has: `CommandEntry::Plain(id, caption, undo).InGroup(L"编辑")`.
+/// Built by chaining: `CommandEntry::Plain(id, caption, undo).InGroup(L"编辑")`.
 struct CommandEntry
 {
-    /// A command that is done at once.
+    /// A command that completes at once.
     static CommandEntry Plain(const std::wstring& id, const std::wstring& caption,
                               const std::function<void()>& function);
 
-    /// A command that begins an action, which goes on until the user ends it.
+    /// A command that begins an action, which runs until the user ends it.
     static CommandEntry Interactive(const std::wstring& id, const std::wstring& caption,
                                     const std::function<vesk::OwnerPtr<vesk::IAction>()>& begin);
 
@@ -35,9 +35,9 @@ struct CommandEntry
 
     std::wstring group; ///< The ribbon group that holds its button; empty for none.
     std::wstring menu;  ///< The menu or sub-menu that holds an entry for it; empty for none.
-    std::wstring keys;  ///< Shortcut of the button, as "Ctrl+Z".
+    std::wstring keys;  ///< Shortcut of the button, such as "Ctrl+Z".
 
     vesk::Command::Kind kind = vesk::Command::Kind::Plain;
     vesk::Command::Execution execute;
-    vesk::Command::Condition isEnabled; ///< Without one the command is always enabled.
+    vesk::Command::Condition isEnabled; ///< If empty, the command is always enabled.
 };

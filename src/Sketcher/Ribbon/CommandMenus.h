@@ -11,7 +11,7 @@ namespace vesk
 class CommandButtonMenuDefinition;
 }
 
-/// The button whose menu holds the zoom commands, the fixed scales in a sub-menu.
+/// The button whose menu holds the zoom commands, with the fixed scales in a sub-menu.
 vesk::OwnerPtr<vesk::CommandButtonMenuDefinition>
 MakeZoomMenu(const std::vector<CommandEntry>& commands);
 

@@ -37,7 +37,7 @@ CommandEntry Begin(const std::wstring& id, const std::wstring& caption, Argument
 void Undo(Sketch& sketch)
 {
     JournalManager::GetInstance().Add(UndoRecord{sketch.Undo()});
-    // A running action may go on from another point now.
+    // A running action may now continue from another point.
     ActionManager::StepDone();
 }
 

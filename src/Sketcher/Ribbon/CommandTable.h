@@ -12,8 +12,8 @@ namespace vesk
 class DimensionInputController;
 }
 
-/// All commands, in the order of the ribbon and of the menus. The arguments outlive the commands'
-/// execution.
+/// All commands, in the order of the ribbon and the menus. The arguments must outlive every
+/// execution of the commands.
 std::vector<CommandEntry> MakeCommandTable(Workspace& workspace, SketchView& view,
                                            vesk::DimensionInputController& input);
 
@@ -29,7 +29,7 @@ constexpr wchar_t ScaleId[] = L"Sketcher.Zoom.Scale";
 
 }
 
-/// The menu of the panes' button.
+/// The menu of the pane button.
 namespace PaneMenu
 {
 

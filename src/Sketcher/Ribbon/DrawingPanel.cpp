@@ -49,7 +49,7 @@ void DrawingPanel::On(LineEditEventArgs* pArgs)
 
 void DrawingPanel::OnSketchChanged()
 {
-    // Only another name may replace what is being typed.
+    // Only a changed name may replace text being typed.
     if (m_pName != nullptr && m_sketch.GetName() != m_shownName)
     {
         m_shownName = m_sketch.GetName();

@@ -24,7 +24,7 @@ bool FieldKeys::eventFilter(QObject*, QEvent* pEvent)
     if (pEvent->type() != QEvent::ShortcutOverride ||
         !static_cast<QKeyEvent&>(*pEvent).matches(QKeySequence::Undo) || HasOwnUndo())
         return false;
-    // The field claims the key whether it has anything to undo or not.
+    // The field would claim the key whether or not it has anything to undo.
     pEvent->ignore();
     return true;
 }
@@ -34,13 +34,13 @@ bool FieldKeys::HasOtherText() const
     return m_definition.GetText() != m_getFormerText();
 }
 
-/// A text that was refused is the user's still.
+/// A rejected text is still the user's.
 bool FieldKeys::HasOwnUndo() const
 {
     return HasOtherText() || (m_definition.IsEditing() && m_field.isUndoAvailable());
 }
 
-/// True when the key goes no further.
+/// True if the key goes no further.
 bool FieldKeys::FilterKey(const QKeyEvent& event)
 {
     if (event.key() != Qt::Key_Escape || !HasOtherText())

@@ -13,22 +13,22 @@ namespace vesk
 class LineEditDefinition;
 }
 
-/// Two keys of a field that shows a value of the drawing. Escape gives the text back that stands
-/// for the value, and what undoes is the drawing's as soon as nothing typed is in the field.
+/// Two keys of a field that shows a value of the drawing. Escape restores the text of the value,
+/// and the undo key belongs to the drawing as soon as the field contains nothing typed.
 class FieldKeys final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The text that stands for the value now.
+    /// The text of the current value.
     using FormerText = std::function<std::wstring()>;
 
-    /// Lives with the field, which owns its definition.
+    /// Becomes a child of the field, which owns the definition.
     FieldKeys(QLineEdit& field, vesk::LineEditDefinition& definition, FormerText getFormerText);
     ~FieldKeys() override;
 
 signals:
-    /// The field has its former text back.
+    /// The former text of the field has been restored.
     void restored();
 
 protected:

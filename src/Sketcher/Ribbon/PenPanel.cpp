@@ -72,8 +72,8 @@ void PenPanel::Show()
         box.pDefinition->SetCurrentIndex(GetShown(box.part));
 }
 
-/// What all selected entities have in common, -1 when they differ; the current pen's without a
-/// selection.
+/// The value that all selected entities share, -1 if they differ; without a selection that of the
+/// current pen.
 int PenPanel::GetShown(const PenPart& part) const
 {
     const std::vector<int>& ids = m_workspace.selection.GetIds();

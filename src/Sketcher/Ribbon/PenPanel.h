@@ -21,9 +21,9 @@ class ComboBoxDefinition;
 class ControlHost;
 }
 
-/// Line style and line colour, in the ribbon: with a selection those of the selected entities,
-/// nothing where they differ, and else those of the next ones. What the user chooses is for the
-/// ones that are shown alone.
+/// Line style and line colour, in the ribbon: those of the selected entities, or nothing where they
+/// differ; without a selection those of the next entities. A choice applies only to the entities
+/// whose pen is shown.
 class PenPanel final : public QObject, public vesk::IControlDefinitionChangeEventHandler
 {
     Q_OBJECT

@@ -9,9 +9,9 @@
 
 #include <utility>
 
-/// Makes the control of a definition and places it under a label. The definition is handed over
-/// invisible, so that the control does not open as a window, and made visible in its place. Null
-/// when there is no control; the definition is owned by the control.
+/// Creates the control of a definition and adds it to a group with a label. The definition is
+/// invisible meanwhile, so that the control does not open as a window, and made visible afterwards.
+/// Null if there is no control; the definition is owned by the control.
 template <class Definition>
 Definition* PlaceControl(vesk::OwnerPtr<Definition> opDefinition, const QString& label,
                          Qtitan::RibbonGroup& group, vesk::ControlHost& controls)

@@ -66,7 +66,7 @@ void UnitPanel::On(IControlDefinitionChangeEventArgs*)
     {
         if (chosen != choice.id || &choice.unit() == &LengthUnit::GetCurrent())
             continue;
-        // What is being typed was meant in the other unit.
+        // Text being typed was meant in the old unit.
         TemporaryDimensionMgr::GetInstance()->EndInput();
         LengthUnit::SetCurrent(choice.unit());
         ActionManager::RenewViewInput(&m_view);

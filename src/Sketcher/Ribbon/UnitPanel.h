@@ -22,7 +22,7 @@ class UnitPanel final : public QObject, public vesk::IControlDefinitionChangeEve
     Q_OBJECT
 
 public:
-    /// Shows millimetres. The arguments are not owned; the control host and the view, whose
+    /// Starts with millimetres. The arguments are not owned; the control host and the view, whose
     /// dimensions follow the unit, outlive the panel.
     UnitPanel(vesk::IUiView& view, Qtitan::RibbonGroup& group, vesk::ControlHost& controls);
     ~UnitPanel() override;

@@ -48,7 +48,7 @@ std::optional<Vector3d> ArcCentreAction::GetStart() const
     return m_start.has_value() ? m_start : m_centre;
 }
 
-/// The end lies on the circle, in the direction of the cursor or of the angle.
+/// The end lies on the circle, in the direction of the cursor or at the typed angle.
 Vector3d ArcCentreAction::GetEnd() const
 {
     if (!m_start.has_value())
@@ -79,7 +79,7 @@ bool ArcCentreAction::CanFinish(const Vector3d& end) const
     return MakeArc(end).has_value();
 }
 
-/// Takes the centre, then the start, then draws the arc.
+/// Sets the centre, then the start, then draws the arc.
 bool ArcCentreAction::Finish(const Vector3d& end)
 {
     if (!m_centre.has_value())
@@ -110,7 +110,7 @@ std::optional<ArcShape> ArcCentreAction::MakeArc(const Vector3d& end) const
     return ArcBetween(*m_centre, *m_start, end);
 }
 
-/// The cursor, or beside the start or the centre when it rests there.
+/// The cursor, or a point beside the start or the centre if it rests there.
 Vector3d ArcCentreAction::GetTarget() const
 {
     return GetCursorOff(RestsOn(*m_centre) ? *m_centre : *m_start);

@@ -5,8 +5,8 @@
 #include "Model/Shape.h"
 
 /// Draws arcs about a centre, one after the other, until the user ends it: the centre, the start,
-/// then the end by a click, which makes the shorter arc, or by a central angle, which is negative
-/// for an arc that runs clockwise from the start. A typed 360 is the whole turn.
+/// then the end by a click, which makes the shorter arc, or by a typed central angle, which is
+/// negative for an arc that runs clockwise from the start. 360 is a full circle.
 class ArcCentreAction final : public DrawingAction
 {
 public:

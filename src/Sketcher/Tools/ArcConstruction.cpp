@@ -18,7 +18,7 @@ std::optional<ArcShape> IfDrawable(const ArcShape& arc)
     return IsDrawable(arc) ? std::optional<ArcShape>(arc) : std::nullopt;
 }
 
-/// The chord of an arc, and what a radius and a third point make of it.
+/// The chord of an arc, and values derived from it, a radius and a third point.
 struct Chord
 {
     Chord(const Vector3d& start, const Vector3d& end, double radius, const Vector3d& third)
@@ -28,7 +28,7 @@ struct Chord
         isLeft = left.dot(third - start) >= 0.0;
         outwards = isLeft ? left : Vector3d(-left);
         height = std::sqrt(std::max(0.0, (radius - half) * (radius + half)));
-        // From a point of the longer arc the chord is seen at an acute angle.
+        // Seen from a point of the longer arc, the chord subtends an acute angle.
         if ((start - third).dot(end - third) > 0.0)
             height = -height;
     }
@@ -37,7 +37,7 @@ struct Chord
     Vector3d middle;
     Vector3d outwards; ///< From the chord towards the arc.
     bool isLeft;
-    double height; ///< From the centre to the chord; negative in the longer arc.
+    double height; ///< From the centre to the chord; negative for the longer arc.
 };
 
 }
@@ -63,7 +63,7 @@ std::optional<ArcShape> ArcOfRadius(const Vector3d& start, const Vector3d& end, 
 {
     const Chord chord(start, end, radius, third);
     ArcShape arc{chord.middle - chord.height * chord.outwards, radius, start, end};
-    // What bulges to the left of the way runs clockwise along it.
+    // An arc that bulges to the left runs clockwise from `start` to `end`.
     if (chord.isLeft)
         std::swap(arc.start, arc.end);
     return IfDrawable(arc);
@@ -72,7 +72,7 @@ std::optional<ArcShape> ArcOfRadius(const Vector3d& start, const Vector3d& end, 
 Vector3d TopOfArc(const Vector3d& start, const Vector3d& end, double radius, const Vector3d& third)
 {
     const Chord chord(start, end, radius, third);
-    // In the shorter arc without the loss of a difference.
+    // For the shorter arc in a form that avoids cancellation.
     const double rise = chord.height < 0.0 ? radius - chord.height
                                            : chord.half * chord.half / (radius + chord.height);
     return chord.middle + rise * chord.outwards;
@@ -84,7 +84,7 @@ std::optional<ArcShape> ArcByAngle(const Vector3d& centre, const Vector3d& start
     ArcShape arc{centre, (start - centre).norm(), start, Rotated(start, centre, degrees)};
     if (degrees < 0.0)
         std::swap(arc.start, arc.end);
-    // No angle, one lost in rounding and more than a turn have another arc's end.
+    // A zero angle, one lost in rounding and one of more than 360 degrees end like another arc.
     const double missing = std::abs(degrees) - CentralAngleOf(arc);
     return std::abs(missing) <= Slack ? IfDrawable(arc) : std::nullopt;
 }

@@ -73,7 +73,7 @@ bool ArcThreePointsAction::CanFinish(const Vector3d& end) const
     return MakeArc(end).has_value();
 }
 
-/// Takes the start, then the end, then draws the arc.
+/// Sets the start, then the end, then draws the arc.
 bool ArcThreePointsAction::Finish(const Vector3d& end)
 {
     if (!m_start.has_value())
@@ -104,8 +104,9 @@ std::optional<ArcShape> ArcThreePointsAction::MakeArc(const Vector3d& point) con
     return ArcThrough(*m_start, *m_end, point);
 }
 
-/// The cursor. Where it makes no arc there is still a radius to show: of the half circle to the
-/// left of the way before it has left the end, and on the chord of the arc a pixel to the left.
+/// The cursor. If it makes no arc, a point that still has a radius to show: while the cursor rests
+/// on the end, one of the half circle to the left of the chord; while it is on the chord's line,
+/// one a pixel to the left.
 Vector3d ArcThreePointsAction::GetCursorOffChord() const
 {
     const Vector3d left = QuarterTurned(*m_end - *m_start);

@@ -5,8 +5,8 @@
 #include "Model/Shape.h"
 
 /// Draws arcs through three points, one after the other, until the user ends it: the start, the
-/// end, then a point between them. A radius that is typed keeps the side of the arc that the cursor
-/// shows, and whether it is the longer one.
+/// end, then a point between them. A typed radius keeps the arc on the cursor's side of the chord
+/// and does not change whether it is the longer one.
 class ArcThreePointsAction final : public DrawingAction
 {
 public:

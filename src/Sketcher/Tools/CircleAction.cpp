@@ -17,7 +17,7 @@ std::wstring CircleAction::GetViewText() const
                                 : L"圆：单击圆心；Esc 结束";
 }
 
-/// The circle is told by three of its points, the last of them towards the cursor.
+/// Describes the circle by three of its points, the last of them towards the cursor.
 OwnerPtr<ITemporaryDimensionContext> CircleAction::CreateDimensionContext() const
 {
     if (!m_centre.has_value())
@@ -68,7 +68,7 @@ bool CircleAction::CanFinish(const Vector3d& end) const
     return IsDrawable(MakeCircle(end));
 }
 
-/// Draws the circle, or begins it.
+/// Sets the centre, then draws the circle.
 bool CircleAction::Finish(const Vector3d& end)
 {
     if (!m_centre.has_value())

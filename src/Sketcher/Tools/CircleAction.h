@@ -4,8 +4,8 @@
 
 #include "Model/Shape.h"
 
-/// Draws circles, one after the other, until the user ends it: the centre, then the radius by a
-/// click or typed.
+/// Draws circles, one after the other, until the user ends it: the centre, then the radius, clicked
+/// or typed.
 class CircleAction final : public DrawingAction
 {
 public:

@@ -34,7 +34,7 @@ std::wstring DrawingAction::GetRefusal(InputState field, double value)
 {
     if (!Expects(field))
         return {};
-    // The cursor may still give what the step needs.
+    // The cursor may still supply the other value.
     const std::optional<InputState> other = FindOther(field);
     if (other.has_value() && !GetTyped(*other).has_value())
         return {};
@@ -47,7 +47,7 @@ void DrawingAction::OnViewInput(const ActionViewInput&, const TypedValue& typed)
     const InputState field = typed.field;
     if (!Expects(field))
         return;
-    // A field that was only confirmed keeps its own value, not the rounded one that was shown.
+    // A field that was only confirmed keeps its exact value, not the rounded one shown.
     m_values.Take({field, typed.text, typed.isUnchanged ? GetValue(field) : typed.value});
     if (!typed.isCommitted)
         m_values.Record();
@@ -115,7 +115,7 @@ double DrawingAction::GetPixel() const
     return pixel > 0.0 ? pixel : 1.0;
 }
 
-/// The other value that the step takes; none where it takes one only.
+/// The other value that the step expects; nothing if it expects only one.
 std::optional<InputState> DrawingAction::FindOther(InputState field) const
 {
     const auto* pFound =
@@ -124,7 +124,7 @@ std::optional<InputState> DrawingAction::FindOther(InputState field) const
     return pFound != TypedStates.end() ? std::optional(*pFound) : std::nullopt;
 }
 
-/// False when the step cannot end there.
+/// Returns false if the step cannot end there.
 bool DrawingAction::EndStep(const Vector3d& end)
 {
     if (!Finish(end))

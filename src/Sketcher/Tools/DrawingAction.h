@@ -8,11 +8,11 @@
 
 struct Workspace;
 
-/// The base of actions that take points, clicked or given by typed values.
+/// Base of actions that accept points, clicked or given by typed values.
 ///
-/// A step ends where the user clicks, or where the values that are committed put it. A value that
-/// is taken with Tab holds, whatever the cursor does, until the step ends, Escape drops it or its
-/// field is emptied. A finished step is recorded: its values, then its point.
+/// A step ends where the user clicks, or at the point given by committed values. A value locked
+/// with Tab holds, wherever the cursor moves, until the step ends, Escape drops it or its field is
+/// emptied. A finished step is recorded: its values, then its point.
 class DrawingAction : public vesk::IAction
 {
 public:
@@ -31,23 +31,23 @@ protected:
     /// The workspace is not owned and outlives the action.
     explicit DrawingAction(Workspace& workspace);
 
-    /// Where the step under way began; empty when it has no direction yet.
+    /// The start of the current step; empty if it has no direction yet.
     virtual std::optional<vesk::Vector3d> GetStart() const = 0;
 
-    /// Where the step would end now, by the cursor and the values.
+    /// Where the step would end now, given the cursor and the values.
     virtual vesk::Vector3d GetEnd() const = 0;
 
     /// Whether a value can be typed now.
     virtual bool Expects(vesk::InputState field) const = 0;
 
-    /// A value as the cursor gives it, in model units and not rounded.
+    /// The value given by the cursor, in model units, unrounded.
     virtual double ReadCursor(vesk::InputState field) const = 0;
 
-    /// Whether a step that takes values could end at a point, with the values there are.
+    /// Whether a step that expects values could end at a point with the current values.
     virtual bool CanFinish(const vesk::Vector3d& end) const = 0;
 
-    /// Ends the step at a point, with the values there are. False, and nothing is done, when that
-    /// cannot be.
+    /// Ends the step at a point with the current values. Returns false and does nothing if that is
+    /// impossible.
     virtual bool Finish(const vesk::Vector3d& end) = 0;
 
     Workspace& GetWorkspace() const { return m_workspace; }
@@ -55,20 +55,20 @@ protected:
     bool HasValues() const { return !m_values.IsEmpty(); }
     std::optional<double> GetTyped(vesk::InputState field) const { return m_values.Get(field); }
 
-    /// The value typed, else the cursor's.
+    /// The typed value, else the cursor's.
     double GetValue(vesk::InputState field) const;
 
-    /// The cursor rests on a point.
+    /// Whether the cursor rests on a point.
     bool RestsOn(const vesk::Vector3d& point) const;
 
-    /// The cursor gives no direction: a click means nothing.
+    /// Whether the cursor gives no direction, so that a click means nothing.
     virtual bool RestsOnStart() const;
 
-    /// The cursor; a pixel beside the point along x when it rests there.
+    /// The cursor, or one pixel from the point along x if it rests there.
     vesk::Vector3d GetCursorOff(const vesk::Vector3d& point) const;
     const vesk::Vector3d& GetCursor() const { return m_cursor; }
 
-    /// The size of a pixel in the model.
+    /// The size of a pixel in model units.
     double GetPixel() const;
 
 private:

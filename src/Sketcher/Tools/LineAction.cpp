@@ -33,7 +33,7 @@ OwnerPtr<IGraphicsNodeGroup> LineAction::CreateRubberBand() const
     return MakeRubberBand(LineShape{*GetStart(), GetEnd()});
 }
 
-/// The end of the last segment that still stands: an undo moves it back by itself.
+/// The end of the last segment that still exists, so that an undo moves it back.
 std::optional<Vector3d> LineAction::GetStart() const
 {
     const Sketch& sketch = GetWorkspace().sketch;
@@ -58,8 +58,8 @@ bool LineAction::Expects(InputState field) const
     return isOwn && m_firstPoint.has_value();
 }
 
-/// The length is as far as the cursor reaches along the direction, a pixel at least; the angle of a
-/// cursor that rests on the start is along x.
+/// The length is the cursor's projection onto the direction, at least a pixel; the angle is 0 while
+/// the cursor rests on the start.
 double LineAction::ReadCursor(InputState field) const
 {
     const Vector3d way = GetCursor() - *GetStart();
@@ -73,7 +73,7 @@ bool LineAction::CanFinish(const Vector3d& end) const
     return IsDrawable(LineShape{*GetStart(), end});
 }
 
-/// Ends the segment there, or starts there.
+/// Sets the first point, then draws segments.
 bool LineAction::Finish(const Vector3d& end)
 {
     if (!m_firstPoint.has_value())

@@ -4,9 +4,9 @@
 
 #include <vector>
 
-/// Draws segments one after the other until the user ends it.
+/// Draws connected segments until the user ends it.
 ///
-/// The next point is clicked, or given by length and angle; what is not typed follows the cursor.
+/// The next point is clicked, or given by length and angle; a value not typed follows the cursor.
 class LineAction final : public DrawingAction
 {
 public:
@@ -26,7 +26,7 @@ protected:
     bool Finish(const vesk::Vector3d& end) override;
 
 private:
-    /// A segment drawn by this action; an undo may have taken it back since.
+    /// A segment drawn by this action; it may have been undone since.
     struct Segment
     {
         int entity;

@@ -19,7 +19,7 @@ RectangleShape MakeRectangle(const Vector3d& corner, const Vector3d& opposite)
              Vector3d(corner.x(), opposite.y(), 0.0)}};
 }
 
-/// From one coordinate as far as typed, to the side of the cursor; else to the cursor itself.
+/// From one coordinate by the typed distance towards the cursor; else to the cursor itself.
 double Reach(double from, double cursor, const std::optional<double>& typed)
 {
     if (!typed.has_value())
@@ -80,7 +80,7 @@ bool RectangleAction::CanFinish(const Vector3d& end) const
     return IsDrawable(MakeRectangle(*m_corner, end));
 }
 
-/// Draws the rectangle, or begins it.
+/// Sets the first corner, then draws the rectangle.
 bool RectangleAction::Finish(const Vector3d& end)
 {
     if (!m_corner.has_value())

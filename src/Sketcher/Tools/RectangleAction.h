@@ -2,10 +2,10 @@
 
 #include "Tools/DrawingAction.h"
 
-/// Draws rectangles with sides along the axes, one after the other, until the user ends it.
+/// Draws axis-aligned rectangles, one after the other, until the user ends it.
 ///
-/// The opposite corner is clicked, or given by width and height in the quadrant of the cursor; what
-/// is not typed follows the cursor.
+/// The opposite corner is clicked, or given by width and height in the quadrant of the cursor; a
+/// value not typed follows the cursor.
 class RectangleAction final : public DrawingAction
 {
 public:

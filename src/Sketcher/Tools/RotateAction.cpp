@@ -20,7 +20,7 @@ using namespace vesk;
 namespace
 {
 
-/// So many of the turned entities are shown beforehand that the picture follows the cursor.
+/// How many rotated entities to preview; few enough for the preview to keep up with the cursor.
 constexpr std::size_t MostShown = 500;
 
 }
@@ -136,7 +136,7 @@ bool RotateAction::CanFinish(const Vector3d& end) const
     return GetWorkspace().sketch.CanReplace(MakeTurned(GetAngleTo(end)));
 }
 
-/// Takes the centre, then the first direction, then turns.
+/// Sets the centre, then the first direction, then rotates.
 bool RotateAction::Finish(const Vector3d& end)
 {
     if (!m_centre.has_value())
@@ -155,7 +155,7 @@ bool RotateAction::Finish(const Vector3d& end)
     return m_isFinished;
 }
 
-/// An undo may have taken away what was selected.
+/// Also true if an undo has removed the selected entities.
 bool RotateAction::IsNothingSelected() const
 {
     return GetWorkspace().selection.IsEmpty();
@@ -166,7 +166,7 @@ bool RotateAction::TakesEntities() const
     return IsNothingSelected() || (m_beganWithNothing && !m_centre.has_value());
 }
 
-/// The entity under the cursor if it is not selected yet; 0 when there is none.
+/// The entity under the cursor if it is not selected yet; 0 if there is none.
 int RotateAction::PickOther(const Vector3d& world) const
 {
     const int picked = PickEntity(GetWorkspace().sketch, world, GetView());
@@ -190,7 +190,7 @@ double RotateAction::GetAngleTo(const Vector3d& end) const
     return typed.has_value() ? *typed : AngleBetween(*m_from - *m_centre, end - *m_centre);
 }
 
-/// What is selected, turned.
+/// The selected entities, rotated.
 std::vector<std::pair<int, Shape>> RotateAction::MakeTurned(double degrees) const
 {
     const Workspace& workspace = GetWorkspace();

@@ -7,11 +7,11 @@
 #include <utility>
 #include <vector>
 
-/// Turns the selected entities about a centre, from the direction of one point to that of another,
-/// or by a typed angle; then it has done its work. It is one undo step.
+/// Rotates the selected entities about a centre, from the direction of one point to that of
+/// another, or by a typed angle; then it ends. The rotation is one undo step.
 ///
-/// With nothing selected it takes entities first: each that is clicked is selected too, until a
-/// click elsewhere gives the centre.
+/// With nothing selected it first selects entities: each clicked entity is added, until a click
+/// elsewhere sets the centre.
 class RotateAction final : public DrawingAction
 {
 public:
@@ -49,6 +49,6 @@ private:
     bool m_beganWithNothing = false;
     bool m_isFinished = false;
 
-    /// The entity under the cursor, which a click would take; 0 for none.
+    /// The entity under the cursor, which a click would select; 0 for none.
     int m_hovered = 0;
 };

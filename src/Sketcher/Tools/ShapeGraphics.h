@@ -9,8 +9,8 @@ namespace vesk
 class IGraphicsNodeGroup;
 }
 
-/// Adds the outline of a shape to what an action would draw.
+/// Adds the outline of a shape to a rubber band.
 void AddRubberBand(vesk::IGraphicsNodeGroup& group, const Shape& shape);
 
-/// The outline of a shape alone.
+/// A rubber band of just the outline of a shape.
 vesk::OwnerPtr<vesk::IGraphicsNodeGroup> MakeRubberBand(const Shape& shape);

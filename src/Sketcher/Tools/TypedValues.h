@@ -7,7 +7,7 @@
 #include <vector>
 
 /// The values that the user has typed for a step of an action, in model units. The cursor no longer
-/// changes them; their dimensions show it.
+/// changes them, and their dimensions are shown as locked.
 class TypedValues final
 {
 public:
@@ -21,10 +21,10 @@ public:
     bool IsEmpty() const { return m_values.empty(); }
     std::optional<double> Get(vesk::InputState field) const;
 
-    /// Takes a value instead of the one that its field had.
+    /// Adds a value, replacing the previous one of its field.
     void Take(const vesk::ValueRecord& value);
 
-    /// Writes those values to the journal that were not yet written, in the order of taking.
+    /// Writes the values that are not in the journal yet, in the order in which they were added.
     void Record();
 
     /// Drops one value, or all.
@@ -41,8 +41,8 @@ private:
     std::vector<Value> m_values;
 };
 
-/// Puts a value in a field while it lives, to see what would come of it. Nothing is locked or
-/// recorded, and no value may be taken or dropped meanwhile.
+/// Gives a field a value while it lives, to try it out. Nothing is locked or recorded, and no value
+/// may be added or dropped in the meantime.
 class TypedValues::Trial final
 {
 public:

@@ -9,7 +9,7 @@ namespace vesk
 class DrawingView;
 }
 
-/// Magnifies what stands between two corners that are clicked.
+/// Zooms to the box between two clicked corners.
 class ZoomWindowAction final : public vesk::IAction
 {
 public:

@@ -15,8 +15,8 @@ namespace
 
 const double s_turn = 2.0 * std::acos(-1.0);
 
-/// The greatest radius, in pixels, at which the painter's own curves stay within a twentieth of a
-/// pixel of the circle.
+/// The greatest radius, in pixels, at which QPainter's curves stay within a twentieth of a pixel of
+/// the circle.
 constexpr double GreatestCurve = 200.0;
 
 QRectF SquareAround(const ScreenArc& arc)
@@ -25,7 +25,7 @@ QRectF SquareAround(const ScreenArc& arc)
             2.0 * arc.radius};
 }
 
-/// Notes the angle from the start of the arc to a direction, if the arc passes through it.
+/// Adds the angle from the start of the arc to a direction, if the arc passes through it.
 void AddCut(const ScreenArc& arc, double right, double up, std::vector<double>& cuts)
 {
     const double direction = arc.sweep < 0.0 ? -1.0 : 1.0;
@@ -35,8 +35,8 @@ void AddCut(const ScreenArc& arc, double right, double up, std::vector<double>& 
         cuts.push_back(ahead);
 }
 
-/// Where the whole circle crosses the lines through the sides of a rectangle. Beyond the circle
-/// there is no root, and what is not a number is no cut.
+/// The angles at which the full circle crosses the lines through the sides of a rectangle, and the
+/// arc's ends. A line that misses the circle gives NaN, which is never added.
 std::vector<double> CutAtSides(const ScreenArc& arc, const QRectF& rect)
 {
     std::vector<double> cuts = {0.0, std::abs(arc.sweep)};
@@ -62,7 +62,7 @@ double Degrees(double radians)
     return radians / s_turn * 360.0;
 }
 
-/// The painter's own curves are quicker to paint than many chords.
+/// QPainter's curves are faster to paint than many chords.
 QPainterPath CurveOf(const ScreenArc& arc, const ArcPart& part)
 {
     const double direction = arc.sweep < 0.0 ? -1.0 : 1.0;
@@ -74,7 +74,7 @@ QPainterPath CurveOf(const ScreenArc& arc, const ArcPart& part)
     return path;
 }
 
-/// Points so close that the chords between them cannot be told from the arc.
+/// Points so close that the chords between them look like the arc.
 QPolygonF PointsOf(const ScreenArc& arc, const ArcPart& part)
 {
     constexpr double Deviation = 0.05;

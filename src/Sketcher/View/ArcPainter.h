@@ -8,8 +8,8 @@
 class QPainter;
 class QPen;
 
-/// An arc on the screen. Angles are in radians, counter-clockwise as it is seen, from the direction
-/// to the right; a negative sweep runs clockwise.
+/// An arc on the screen. Angles are in radians, counter-clockwise as seen, from the positive x
+/// direction; a negative sweep is clockwise.
 struct ScreenArc
 {
     QPointF centre;
@@ -31,6 +31,6 @@ struct ArcPart
 /// The parts of an arc inside a rectangle, in order.
 std::vector<ArcPart> ClipArc(const ScreenArc& arc, const QRectF& rect);
 
-/// Paints what can be seen of an arc in a rectangle. An arc may be as large as it likes: what is
-/// seen is round, and dashed in the same places as all of it would be.
+/// Paints the part of an arc that is visible in a rectangle. For an arc of any size the visible
+/// part is round, and dashed in the same places as the whole arc would be.
 void PaintArc(QPainter& painter, QPen pen, const ScreenArc& arc, const QRectF& visible);

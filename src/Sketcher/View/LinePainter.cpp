@@ -10,8 +10,8 @@
 namespace
 {
 
-/// Narrows the parameters [from, to] of a line to where `position + t * way` is from `low` to
-/// `high`. False when nothing is left.
+/// Narrows the parameters [from, to] of a line to where `position + t * way` is within [low, high].
+/// Returns false if nothing is left.
 bool Narrow(double position, double way, double low, double high, double& from, double& to)
 {
     if (way == 0.0)

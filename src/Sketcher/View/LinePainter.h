@@ -8,12 +8,12 @@
 class QPainter;
 class QPen;
 
-/// The part of a line inside a rectangle; nothing when it passes by.
+/// The part of a line inside a rectangle; nothing if the line misses it.
 std::optional<QLineF> ClipLine(const QLineF& line, const QRectF& rect);
 
-/// Has a pen begin its dashes as if it had been drawn for a length before.
+/// Makes a pen begin its dashes as if it had already drawn that length.
 void SkipDashes(QPen& pen, double length);
 
-/// Paints the part of a line that can be seen in a rectangle. A line may be as long as it likes:
-/// only what is seen is dashed, in the same places as all of it would be.
+/// Paints the part of a line that is visible in a rectangle. For a line of any length only the
+/// visible part is dashed, in the same places as the whole line would be.
 void PaintLine(QPainter& painter, QPen pen, const QLineF& line, const QRectF& visible);

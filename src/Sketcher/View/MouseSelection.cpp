@@ -45,7 +45,7 @@ void MouseSelection::Release(const Vector3d& world)
         SelectAt(press);
 }
 
-/// The colours and lines that drawing programs have always used.
+/// The colours and line styles that are customary in drawing programs.
 void MouseSelection::Paint(QPainter& painter) const
 {
     if (!IsDragged())

@@ -14,18 +14,18 @@ namespace vesk
 class DrawingView;
 }
 
-/// Selects with the left button of the mouse.
+/// Selects with the left mouse button.
 ///
-/// A press that is released where it began selects what is under it. A drag to the right selects
-/// what is wholly inside its box, a drag to the left what is inside or touched. With Ctrl a click
-/// adds to the selection or takes out of it, and a drag adds. Each is one record of the journal.
+/// A click selects the entity under the cursor. A drag to the right selects the entities completely
+/// inside its box, a drag to the left also those that the box touches. With Ctrl a click adds an
+/// entity to the selection or removes it, and a drag adds. Each is one journal record.
 class MouseSelection final
 {
 public:
     /// Workspace and view are not owned and outlive it.
     MouseSelection(Workspace& workspace, const vesk::DrawingView& view);
 
-    /// True from the press to the release, unless it was dropped.
+    /// True from the press to the release, unless the press was dropped.
     bool IsPressed() const { return m_press.has_value(); }
 
     void Press(const vesk::Vector3d& world, Qt::KeyboardModifiers modifiers);
@@ -34,7 +34,7 @@ public:
     /// Selects, if there was a press.
     void Release(const vesk::Vector3d& world);
 
-    /// Forgets the press: its release selects nothing.
+    /// Forgets the press, so that its release selects nothing.
     void Drop() { m_press.reset(); }
 
     /// Paints the box of a drag.

@@ -19,7 +19,7 @@ using vesk::Vector3d;
 namespace
 {
 
-/// An arc of the drawing plane, seen from above.
+/// An arc in the drawing plane, seen from above.
 ScreenArc ToScreen(const IModelView& modelView, const ArcShape& arc)
 {
     const Vector3d spoke = arc.start - arc.centre;

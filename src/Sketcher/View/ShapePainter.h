@@ -11,6 +11,6 @@ namespace vesk
 class IModelView;
 }
 
-/// Paints what can be seen of the outline of a shape in a rectangle of pixels.
+/// Paints the part of a shape's outline that is visible in a rectangle of pixels.
 void PaintShape(QPainter& painter, const QPen& pen, const Shape& shape,
                 const vesk::IModelView& modelView, const QRectF& visible);

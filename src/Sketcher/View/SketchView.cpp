@@ -96,7 +96,7 @@ void SketchView::mouseMoveEvent(QMouseEvent* pEvent)
     DrawingView::mouseMoveEvent(pEvent);
     if (!m_mouse.IsPressed())
         return;
-    // The release may have gone elsewhere, and a command may have begun meanwhile.
+    // The release may have gone elsewhere, or a command may have begun in the meantime.
     if (!pEvent->buttons().testFlag(Qt::LeftButton) || IActionManager::CurrentAction() != nullptr)
     {
         DropPress();
@@ -131,10 +131,10 @@ void SketchView::PaintGrid(QPainter& painter) const
     PaintGridLines(painter, step * 10.0, Mix(paper, ink, 0.14));
 }
 
-/// Hair lines, filled: to stroke them takes twenty times as long.
+/// Hairlines, filled, because stroking them takes twenty times as long.
 void SketchView::PaintGridLines(QPainter& painter, double step, const QColor& color) const
 {
-    // Lines that fall between two pixels all take the latter, whatever the rounding.
+    // Lines between two pixels all go to the second, regardless of rounding.
     constexpr double Nudge = 1e-6;
     const double scale = painter.device()->devicePixelRatioF();
     const auto startOfPixel = [scale](double place) {
@@ -174,7 +174,7 @@ void SketchView::PaintEntities(QPainter& painter) const
         PaintShape(painter, MakePen(entity.pen, textColour), entity.shape, GetCamera(), visible);
 }
 
-/// A band below the outline, and grips at its ends and centre.
+/// Paints a band below the outline, and grips at its ends and centre.
 void SketchView::PaintSelected(QPainter& painter, const Entity& entity) const
 {
     constexpr double BandWidth = 7.0;
@@ -194,7 +194,7 @@ void SketchView::PaintSelected(QPainter& painter, const Entity& entity) const
     }
 }
 
-/// The view, and so much around it that no cap or join of a cut shows.
+/// The view, with a margin wide enough to hide the caps and joins of clipped outlines.
 QRectF SketchView::GetPaintedRect() const
 {
     constexpr int Margin = 8;

@@ -7,8 +7,8 @@
 struct Entity;
 struct Workspace;
 
-/// Shows the drawing over a grid. With no action running the mouse selects; Escape ends a drag,
-/// else it selects nothing.
+/// Shows the drawing over a grid. With no action running the mouse selects; Escape cancels a drag,
+/// else it clears the selection.
 class SketchView final : public vesk::DrawingView
 {
     Q_OBJECT

@@ -10,7 +10,7 @@ namespace
 
 constexpr double Size = 6.0;
 
-/// The marks that drawing programs have always used.
+/// The marks that are customary in drawing programs.
 void PaintShape(QPainter& painter, Snapper::Kind kind)
 {
     const QRectF box(-Size, -Size, 2 * Size, 2 * Size);

@@ -6,8 +6,8 @@ class QPainter;
 class QPointF;
 class QString;
 
-/// The name of a snap, as the user knows it.
+/// The name of a snap as shown to the user.
 QString SnapCaption(Snapper::Kind kind);
 
-/// Paints the mark of a snap, with its name, at a pixel position.
+/// Paints the mark and name of a snap at a pixel position.
 void PaintSnapMarker(QPainter& painter, Snapper::Kind kind, const QPointF& position);

@@ -21,7 +21,7 @@ using namespace vesk::test;
 namespace
 {
 
-/// A window with a box whose list is open, and a field in it that had the focus before.
+/// A window with a combo box whose list is open, and a field that had the focus before.
 struct Fixture
 {
     Fixture()
@@ -44,14 +44,14 @@ struct Fixture
     QLineEdit* pField = new QLineEdit;
     QComboBox* pBox = new QComboBox;
 
-    /// Which the window system names for a while yet.
+    /// To which the window system keeps delivering keys for a while.
     QWindow* pList = nullptr;
 };
 
 const QStringList LateKey{"ShortcutOverride", "KeyPress", "KeyRelease"};
 
-/// Writes down what an object is sent: keys, and events of the type User. The toolkit announces a
-/// key that is passed on twice.
+/// Records the events that an object is sent: keys, and events of type User. The toolkit announces
+/// a forwarded key twice.
 class EventLog final : public QObject
 {
 public:

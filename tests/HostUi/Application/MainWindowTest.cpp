@@ -28,7 +28,7 @@ namespace vesk
 namespace
 {
 
-/// A view of nothing.
+/// An empty view.
 class PlainView final : public DrawingView
 {
 public:
@@ -38,7 +38,7 @@ protected:
     void PaintModel(QPainter&) override {}
 };
 
-/// Tells that it has ended.
+/// Counts how often it ends.
 class EndingAction final : public test::IdleAction
 {
 public:
@@ -75,7 +75,7 @@ struct Fixture
 
 }
 
-/// What the main frame says of itself.
+/// The main frame.
 class MainWindowTest : public QObject
 {
     Q_OBJECT

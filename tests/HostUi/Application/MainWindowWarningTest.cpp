@@ -46,7 +46,7 @@ struct Fixture
 
 }
 
-/// What the status bar tells of warnings that nobody has seen.
+/// What the status bar shows about warnings that were not shown.
 class MainWindowWarningTest : public QObject
 {
     Q_OBJECT

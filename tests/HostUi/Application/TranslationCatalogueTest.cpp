@@ -5,7 +5,7 @@
 namespace vesk
 {
 
-/// Catalogues of translations, of which `catalogue_de.qm` is one; it is made of `catalogue_de.ts`.
+/// Translation catalogues; `catalogue_de.qm` is compiled from `catalogue_de.ts`.
 class TranslationCatalogueTest : public QObject
 {
     Q_OBJECT

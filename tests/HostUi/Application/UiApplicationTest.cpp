@@ -78,7 +78,7 @@ void UiApplicationTest::namesThePanes()
 {
     UiApplication application;
     QVERIFY(application.GetDockManager() == nullptr);
-    // Only the address counts: nothing is asked of the panes.
+    // Only the address matters; the panes are never accessed.
     std::max_align_t place{};
     auto* pPanes = reinterpret_cast<IDockManager*>(&place);
 
@@ -144,7 +144,7 @@ void UiApplicationTest::whatIsToBeDoneAtRestWaitsForTheTime()
     QVERIFY(calledAfter == -1 || calledAfter >= 114);
 
     QTRY_VERIFY(calledAfter != -1);
-    // A coarse timer may be a twentieth early.
+    // A coarse timer may be 5 % early.
     QVERIFY2(calledAfter >= 114, qPrintable(QString::number(calledAfter)));
 }
 
@@ -179,7 +179,7 @@ void UiApplicationTest::noEventIsNothingToPost()
 
     application.PostEvent(nullptr);
 
-    // Calls what is not there if it was posted.
+    // Dereferences null if the event was posted.
     QCoreApplication::sendPostedEvents();
 }
 
@@ -212,7 +212,7 @@ void UiApplicationTest::dialogsAreAllowedInTheThreadOfTheWindows()
     QVERIFY(!isAllowedElsewhere);
 }
 
-/// Asks while it is painted whether a dialog is allowed.
+/// Asks whether a dialog is allowed while it is being painted.
 class Painted final : public QWidget
 {
 public:
@@ -268,7 +268,7 @@ void UiApplicationTest::noDialogIsAllowedWhileAWidgetPaintsAnother()
     QVERIFY(application.IsDialogAllowed());
 }
 
-/// A dialog that notes that it was shown.
+/// A dialog that records that it was shown.
 class NotingFactory final : public NqUiInterfaceFactory
 {
 public:

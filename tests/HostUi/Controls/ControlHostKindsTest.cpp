@@ -66,7 +66,7 @@ OwnerPtr<Interface> MakeRadioButtons()
 
 using Creation = std::function<QWidget*(ControlHost&)>;
 
-/// Notes which controls go.
+/// Records which controls are removed.
 class RemovalNotes final : public IControlRemovalObserver
 {
 public:
@@ -89,7 +89,7 @@ struct Fixture
 
     ~Fixture()
     {
-        // The controls go before what holds them.
+        // The controls are destroyed before what holds them.
         pControls.reset();
     }
 
@@ -111,7 +111,7 @@ struct Fixture
 
 Q_DECLARE_METATYPE(Creation)
 
-/// The kinds of controls, what the host does to each, and how they go.
+/// The kinds of controls, what the host does with each, and how they are removed.
 class ControlHostKindsTest final : public QObject
 {
     Q_OBJECT

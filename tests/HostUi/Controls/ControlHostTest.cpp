@@ -47,7 +47,7 @@ private:
     int m_count = 0;
 };
 
-/// Refreshes the controls when an item is added, as a dialog does that it opens.
+/// Refreshes the controls when an item is added, as a dialog that it opens would.
 class Refresher final : public IControlDefinitionChangeEventHandler
 {
 public:
@@ -78,7 +78,7 @@ OwnerPtr<IAction> Nothing(IUiView*, const CommandParameters&)
 
 }
 
-/// Controls in a window, made by the control library.
+/// Controls in a window, created by the control library.
 class ControlHostTest final : public QObject
 {
     Q_OBJECT
@@ -217,7 +217,7 @@ private slots:
             ActionManager::Reset();
         });
 
-        // An event loop of its own, as that of a program: tests run in none.
+        // An event loop like a program's, because tests run in none.
         QEventLoop outermost;
         QTimer::singleShot(0, this, [pButton] { QTest::mouseClick(pButton, Qt::LeftButton); });
         QTimer::singleShot(400, &outermost, &QEventLoop::quit);

@@ -14,7 +14,7 @@
 namespace vesk::test
 {
 
-/// A control library that makes nothing; installed while it lives.
+/// A control library that creates nothing; installed while it lives.
 class EmptyControlFactory : public VeskIControlFactory
 {
 public:

@@ -126,7 +126,7 @@ private slots:
     }
 
 private:
-    /// Whatever shows in the edit by itself; null where nothing does.
+    /// The visible child widget of the edit; null if there is none.
     const QWidget* FindMark() const
     {
         for (const QWidget* pChild : m_pEdit->findChildren<QWidget*>())

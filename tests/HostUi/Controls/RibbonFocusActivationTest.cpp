@@ -16,13 +16,13 @@ Qt::ApplicationState s_state = Qt::ApplicationActive;
 
 }
 
-/// Stands before the toolkit's: whether the program is active is no matter of time.
+/// Replaces the toolkit's function, so that the program's activation does not depend on timing.
 Qt::ApplicationState QGuiApplication::applicationState()
 {
     return s_state;
 }
 
-/// Whether a click gives the keyboard back when another program has come to the front meanwhile.
+/// Whether a click returns the keyboard if another program has become active in the meantime.
 class RibbonFocusActivationTest final : public QObject
 {
     Q_OBJECT

@@ -25,7 +25,7 @@ namespace
 
 using Fixture = RibbonFocusFixture;
 
-/// A button with a menu of one entry, which opens at a click.
+/// A button with a menu of one entry that opens on a click.
 QToolButton* MakeMenuButton()
 {
     auto* pButton = new QToolButton;
@@ -202,7 +202,7 @@ private slots:
     {
         QTest::addColumn<Qt::MouseButton>("button");
         QTest::newRow("left button") << Qt::LeftButton;
-        // The control leaves it to the ribbon around it.
+        // The control leaves this click to the ribbon around it.
         QTest::newRow("right button") << Qt::RightButton;
     }
 

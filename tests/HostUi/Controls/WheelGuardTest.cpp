@@ -39,7 +39,7 @@ private:
     OwnerPtr<ILabelDefinition> m_opDefinition;
 };
 
-/// A control library that shows labels in combo boxes, and nothing else.
+/// A control library that creates combo boxes for labels, and nothing else.
 class BoxFactory final : public test::EmptyControlFactory
 {
 public:
@@ -49,7 +49,7 @@ public:
     }
 };
 
-/// A combo box of the host in a panel that is higher than its scroll area, whose view has focus.
+/// A combo box of the host in a panel that is higher than its scroll area; the view has the focus.
 struct PanelFixture
 {
     PanelFixture()

@@ -14,7 +14,7 @@
 namespace vesk::test
 {
 
-/// What a view has heard that no action wanted.
+/// The clicks and keys that a view received and no action used.
 struct FreeLog
 {
     std::vector<Vector3d> clicks;
@@ -22,7 +22,7 @@ struct FreeLog
     int escapeCount = 0;
 };
 
-/// A view that notes what is left to it, and paints a square below and a square above.
+/// A view that records what is left to it, and paints one square below and one above.
 class NotingView final : public DrawingView
 {
 public:
@@ -53,7 +53,7 @@ struct Points
     std::vector<Vector3d> clicks;
 };
 
-/// Notes the points that it is told, and draws a line through the origin.
+/// Records the points that it receives, and draws a line through the origin.
 class PointAction final : public test::IdleAction
 {
 public:

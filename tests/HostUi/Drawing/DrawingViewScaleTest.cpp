@@ -14,7 +14,7 @@ namespace vesk::test
 
 using Json = nlohmann::json;
 
-/// Paints a square, and counts how often.
+/// Paints a square and counts how often.
 class SquareView final : public DrawingView
 {
 public:
@@ -47,7 +47,7 @@ struct Fixture
     SquareView* pView = new SquareView(2, input, &host.window);
 };
 
-/// A view on a screen that has two pixels for each of Qt's.
+/// A view on a screen with a scale factor of 2.
 class DrawingViewScaleTest : public QObject
 {
     Q_OBJECT

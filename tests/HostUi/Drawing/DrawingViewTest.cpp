@@ -56,7 +56,7 @@ void Turn(QWidget& widget, QPointF position, int angle)
 
 Q_DECLARE_METATYPE(std::function<void(PlainView&)>)
 
-/// A view in a window beside a line edit.
+/// A view next to a line edit in a window.
 class DrawingViewTest final : public QObject
 {
     Q_OBJECT

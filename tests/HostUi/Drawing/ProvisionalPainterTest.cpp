@@ -18,7 +18,7 @@ namespace
 
 const double s_turn = 2.0 * std::acos(-1.0);
 
-/// The topmost pixel of a column that is painted; -1 when there is none.
+/// The topmost painted pixel of a column; -1 if there is none.
 int TopOf(const QImage& image, int x)
 {
     for (int y = 0; y < image.height(); ++y)
@@ -33,7 +33,7 @@ int TopOf(const QImage& image, int x)
 
 Q_DECLARE_METATYPE(vesk::GraphicsRole)
 
-/// What is provisional, painted over the model.
+/// Provisional graphics, painted over the model.
 class ProvisionalPainterTest final : public QObject
 {
     Q_OBJECT
@@ -50,7 +50,7 @@ private slots:
         QTest::newRow("part of a huge one") << 1e6 << -0.001;
     }
 
-    /// The arc touches the line 50 pixels below the top from below, in the middle of the view.
+    /// The arc touches, from below, the line 50 pixels below the top, in the middle of the view.
     void anArcIsRoundHoweverLargeItIs()
     {
         QFETCH(double, radius);

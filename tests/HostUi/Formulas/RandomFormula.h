@@ -14,7 +14,7 @@ namespace vesk
 
 using Rational = boost::multiprecision::cpp_rational;
 
-/// The very number that a text of decimal digits says.
+/// The exact number of a text of decimal digits.
 inline Rational ReadDecimal(const QString& text)
 {
     static const QRegularExpression s_firstZeros(QStringLiteral("^0+(?=.)"));
@@ -29,7 +29,7 @@ inline Rational ReadDecimal(const QString& text)
     return value;
 }
 
-/// Whether no double is nearer to a number.
+/// Whether no other double is nearer to a number.
 inline bool IsNearest(double value, const Rational& number)
 {
     const Rational error = abs(Rational(value) - number);
@@ -40,21 +40,21 @@ inline bool IsNearest(double value, const Rational& number)
            isNotNearer(std::nextafter(value, -HUGE_VAL));
 }
 
-/// A formula as somebody might type it, and its value, found while it was made.
+/// A formula as somebody might type it, and its value, computed while the formula was generated.
 struct RandomFormula
 {
     QString text;
 
-    /// In millimetres for a length. A root is a double, all else is exact.
+    /// In millimetres for a length. A root is a double, everything else is exact.
     Rational value;
 
     bool hasUnit = false;
 
-    /// How strongly its parts hold together: sums 1, products 2, all else 3.
+    /// Operator precedence: sums 1, products 2, everything else 3.
     int binding = 3;
 };
 
-/// Makes formulas of numbers and of lengths. All values are positive and neither great nor small.
+/// Generates formulas of numbers and of lengths. All values are positive and of moderate size.
 class RandomFormulas
 {
 public:
@@ -170,7 +170,7 @@ private:
                 (feet * 12 + inches.value) * Rational(254, 10), true};
     }
 
-    /// As an operand that nothing tears apart. What stands in parentheses may get more of them.
+    /// As an operand, in parentheses where necessary, and sometimes where not.
     QString Hold(const RandomFormula& part, int binding)
     {
         return part.binding < binding || Pick(8) == 0 ? '(' + part.text + ')' : part.text;

@@ -17,8 +17,7 @@ namespace
 constexpr int FormulaCount = 20000;
 constexpr int SumCount = 100000;
 
-/// How many digits of a number's text tell something. What is left out at the end of a whole
-/// number are zeros.
+/// The number of significant digits of a number's text, without trailing zeros.
 int CountDigits(QString number)
 {
     static const QRegularExpression s_mute(QStringLiteral("^-?[0.]*|e.*$|\\."));
@@ -26,7 +25,7 @@ int CountDigits(QString number)
     return number.remove(s_mute).remove(s_lastZeros).size();
 }
 
-/// Whether no number of fewer digits reads back to the same double.
+/// Whether no number with fewer digits reads back to the same double.
 bool IsShortest(const QString& number)
 {
     const int digits = CountDigits(number);
@@ -36,7 +35,7 @@ bool IsShortest(const QString& number)
 
 }
 
-/// Formulas that nobody thought of, against what they were made of.
+/// Random formulas, compared with the values from which they were generated.
 class RandomFormulaTest final : public QObject
 {
     Q_OBJECT

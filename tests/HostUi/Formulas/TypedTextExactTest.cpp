@@ -21,7 +21,7 @@ QString FeetAndInches(int inches)
 
 }
 
-/// How exact the values of clear texts are. Numbers are compared to the last bit.
+/// How exact the values of clear texts are. Numbers are compared bit for bit.
 class TypedTextExactTest final : public QObject
 {
     Q_OBJECT
@@ -89,7 +89,7 @@ private slots:
             const QString text = FeetAndInches(inches);
             const TypedReading reading = ReadTypedText(text, Quantity::Length, *unit);
 
-            // A quotient of two whole numbers is rounded once.
+            // A quotient of two integers is rounded once.
             QVERIFY2(reading.modelValue == inches * 254 / 10.0, qPrintable(text));
             QVERIFY2(reading.value == inches * inch / static_cast<double>(below), qPrintable(text));
         }

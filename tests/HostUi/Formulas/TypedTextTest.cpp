@@ -43,7 +43,7 @@ void AddFault(const char* text, TypedTextFault fault)
 
 }
 
-/// What is clear, what it comes to, and what is not clear.
+/// Which texts are clear, their values, and which are not clear.
 class TypedTextTest final : public QObject
 {
     Q_OBJECT

@@ -15,7 +15,7 @@ namespace
 
 Qt::ApplicationState s_state = Qt::ApplicationActive;
 
-/// The view in the place of another; counts how often it gets the keyboard.
+/// A view that replaces another and counts how often it gets the keyboard.
 class KeyboardView final : public test::IdleView
 {
 public:
@@ -33,13 +33,13 @@ private:
 
 }
 
-/// Stands before the toolkit's: whether the program is active is no matter of time.
+/// Replaces the toolkit's function, so that the program's activation does not depend on timing.
 Qt::ApplicationState QGuiApplication::applicationState()
 {
     return s_state;
 }
 
-/// To whom the keyboard goes when the editor vanishes.
+/// Which window gets the keyboard when the editor disappears.
 class DimensionInputControllerActivationTest final : public QObject
 {
     Q_OBJECT

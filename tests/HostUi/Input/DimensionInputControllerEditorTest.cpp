@@ -21,7 +21,7 @@ TemporaryDimensionMgr& Manager()
     return *TemporaryDimensionMgr::GetInstance();
 }
 
-/// A field of the window beside the view, in which the user types now.
+/// A field next to the view, in which the user types now.
 struct FieldFixture : InputFixture
 {
     FieldFixture() : InputFixture(Linear())
@@ -32,7 +32,7 @@ struct FieldFixture : InputFixture
 
     void ClickField() { QTest::mouseClick(pField, Qt::LeftButton); }
 
-    /// A key as the window system delivers it that still takes the editor for the active window.
+    /// A key from a window system that still considers the editor the active window.
     void PressInEditor(QEvent::Type type, int key, const QString& text = QString(),
                        Qt::KeyboardModifiers modifiers = Qt::NoModifier) const
     {
@@ -44,7 +44,7 @@ struct FieldFixture : InputFixture
     QLineEdit* pField;
 };
 
-/// Notes which events of a kind an object gets.
+/// Counts the events of a type that an object receives.
 class EventCounter final : public QObject
 {
 public:
@@ -68,7 +68,7 @@ private:
 
 }
 
-/// The editor as a window: its size, its end, and whose keys arrive in it.
+/// The editor as a window: its size, its closing, and the keys that arrive in it.
 class DimensionInputControllerEditorTest final : public QObject
 {
     Q_OBJECT

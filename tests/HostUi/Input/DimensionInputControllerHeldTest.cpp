@@ -9,12 +9,12 @@ using namespace vesk::test;
 namespace
 {
 
-/// A user who is faster than the command that was chosen.
+/// A user who types faster than the chosen command starts.
 struct HeldFixture : InputFixture
 {
     HeldFixture() : InputFixture(Linear()) {}
 
-    /// Has something done while the same command waits for the running action to end.
+    /// Runs something while the same command waits for the running action to end.
     void DoMeanwhile(const std::function<void()>& act)
     {
         host.view.SetOnRedraw([act] {
@@ -38,7 +38,7 @@ struct HeldFixture : InputFixture
     }
 };
 
-/// Keeps the last key that was pressed in an editor.
+/// Records the last key pressed in an editor.
 class KeyWatch final : public QObject
 {
 public:
@@ -57,7 +57,7 @@ protected:
 
 }
 
-/// What is typed while a command waits is the command's.
+/// What is typed while a command waits belongs to the command.
 class DimensionInputControllerHeldTest final : public QObject
 {
     Q_OBJECT

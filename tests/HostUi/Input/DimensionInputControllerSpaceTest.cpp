@@ -18,7 +18,7 @@ bool IsToldOfTheBlank(const InputFixture& f)
 
 }
 
-/// What Space does, and what becomes of a unit that is typed after it.
+/// What Space does, and what happens to a unit typed after it.
 class DimensionInputControllerSpaceTest final : public QObject
 {
     Q_OBJECT

@@ -7,7 +7,7 @@
 using namespace vesk;
 using namespace vesk::test;
 
-/// What a handler hears of what people type.
+/// What a handler receives of what users type.
 class DimensionInputControllerTest final : public QObject
 {
     Q_OBJECT

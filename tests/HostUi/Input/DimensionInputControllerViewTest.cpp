@@ -8,7 +8,7 @@ using namespace vesk::test;
 namespace
 {
 
-/// The current view is another for the time in which it lives.
+/// Makes another view the current one while it lives.
 struct CurrentView
 {
     CurrentView(HostFixture& hostFixture, IUiView& current) : host(hostFixture), view(current)
@@ -26,7 +26,7 @@ struct CurrentView
 
 }
 
-/// The editor of a view, its keys and notes, and the view.
+/// How the editor, its keys and its notes relate to the view.
 class DimensionInputControllerViewTest final : public QObject
 {
     Q_OBJECT

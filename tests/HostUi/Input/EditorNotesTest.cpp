@@ -10,7 +10,7 @@
 using namespace vesk;
 using namespace vesk::test;
 
-/// What people see beside the editor.
+/// What users see beside the editor.
 class EditorNotesTest final : public QObject
 {
     Q_OBJECT

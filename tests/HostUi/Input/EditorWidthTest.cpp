@@ -9,7 +9,7 @@ using namespace vesk;
 namespace
 {
 
-/// An editor that holds a text, and the view that it stands in.
+/// An editor with a text, and its view.
 struct Editor
 {
     Editor(const QString& text, int viewWidth)

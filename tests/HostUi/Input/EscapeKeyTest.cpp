@@ -9,7 +9,7 @@ using namespace vesk;
 namespace
 {
 
-/// A key at work, by the times of the window system.
+/// A key being used, with the timestamps of the window system.
 struct Finger
 {
     bool Press(unsigned long time, bool isMarked = false)

@@ -23,7 +23,7 @@ InputVerdict Judge(const QString& text)
 
 }
 
-/// What becomes of a text that is to be taken.
+/// What happens to a text that is to be committed.
 class InputJudgeTest final : public QObject
 {
     Q_OBJECT

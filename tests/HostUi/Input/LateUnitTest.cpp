@@ -14,8 +14,8 @@ QKeyEvent Press(QChar character, Qt::KeyboardModifiers modifiers = {})
     return {QEvent::KeyPress, character.toUpper().unicode(), modifiers, QString(character)};
 }
 
-/// Types after a blank that took a value, until a key can belong to no unit. The units that were
-/// whole, in order.
+/// Types after a Space that committed a value, until a key cannot belong to a unit. Returns the
+/// whole units, in order.
 QStringList Type(LateUnit& unit, const QString& text)
 {
     QStringList whole;
@@ -41,7 +41,7 @@ QString TextOf(const std::vector<QKeyEvent>& keys)
 
 }
 
-/// Which letters are dropped as a unit that comes after its value, and which are handed back.
+/// Which letters are dropped as a unit that comes too late, and which are handed back.
 class LateUnitTest final : public QObject
 {
     Q_OBJECT

@@ -15,7 +15,7 @@ const QSize s_refusal(250, 24);
 
 }
 
-/// Where the notes about an editor stand.
+/// The positions of the notes around an editor.
 class NoteLayoutTest final : public QObject
 {
     Q_OBJECT

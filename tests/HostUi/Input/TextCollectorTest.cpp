@@ -8,7 +8,7 @@
 namespace vesk::test
 {
 
-/// Where the texts of dimensions stand in a view.
+/// The positions of dimension texts in a view.
 class TextCollectorTest : public QObject
 {
     Q_OBJECT

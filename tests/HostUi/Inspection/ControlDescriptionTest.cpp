@@ -57,7 +57,7 @@ Json PlaceOf(const QMenu& menu, QAction* pAction)
 
 }
 
-/// What is told of a single control.
+/// The description of a single control.
 class ControlDescriptionTest final : public QObject
 {
     Q_OBJECT

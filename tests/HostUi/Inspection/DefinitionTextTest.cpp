@@ -12,7 +12,7 @@
 
 using namespace vesk;
 
-/// What the inspector says of each kind of definition.
+/// How the inspector describes each kind of definition.
 class DefinitionTextTest final : public QObject
 {
     Q_OBJECT
@@ -66,7 +66,7 @@ private slots:
 
     void anIndexBehindTheLastItemIsNone()
     {
-        /// As a host of its own may have it.
+        /// As another host may define it.
         struct StaleBox final : ComboBoxDefinition
         {
             using ComboBoxDefinition::ComboBoxDefinition;

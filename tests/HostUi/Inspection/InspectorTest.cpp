@@ -34,7 +34,7 @@ namespace
 constexpr int MostEvents = 1000;
 constexpr int RefreshMs = 200;
 
-/// An inspector on screen, and controls in a window beside it.
+/// An inspector on screen, and controls in another window.
 struct Fixture
 {
     Fixture()
@@ -64,7 +64,7 @@ struct Fixture
         return pDefinition;
     }
 
-    /// The rows, each with its cells.
+    /// The rows with their cells.
     QStringList Rows() const
     {
         const auto* pTree = pInspector->findChild<QTreeWidget*>("InspectorDefinitions");
@@ -243,7 +243,7 @@ private slots:
         f.pInspector->UpdateStatus();
     }
 
-    /// Definitions take the memory of one another when they go and come at once.
+    /// A definition may get the address of one that was just destroyed.
     void whatComesInTheStepsOfWhatWentIsHeardOf()
     {
         constexpr int Rounds = 30;
@@ -313,7 +313,7 @@ private slots:
 
     void afterStopItsClockRests()
     {
-        /// Counts how often a clock of the inspector's pace runs out.
+        /// Counts how often a timer with the inspector's interval fires.
         struct Ticks final : QObject
         {
             Ticks() { qApp->installEventFilter(this); }
@@ -456,7 +456,7 @@ private slots:
             headers << pTree->headerItem()->text(column);
         QCOMPARE(headers, (QStringList{"定义", "种类", "值", "可见", "可用"}));
         QVERIFY(!pTree->rootIsDecorated());
-        // Of a thousand rows only one is measured.
+        // Only one of a thousand rows is measured.
         QVERIFY(pTree->uniformRowHeights());
         QVERIFY(f.EventList()->uniformItemSizes());
         QCOMPARE(pTree->frameShape(), QFrame::NoFrame);

@@ -8,7 +8,7 @@ namespace vesk::test
 
 using Json = nlohmann::ordered_json;
 
-/// What is told of panes.
+/// The description of panes.
 class PaneDescriptionTest : public QObject
 {
     Q_OBJECT

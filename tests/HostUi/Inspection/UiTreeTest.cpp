@@ -16,7 +16,7 @@ namespace vesk::test
 
 using Json = nlohmann::json;
 
-/// What is told besides the controls: views, the value being typed, and what the user is told.
+/// The description of everything but controls: views, the value being typed, and the texts shown.
 class UiTreeTest : public QObject
 {
     Q_OBJECT

@@ -25,7 +25,7 @@
 
 using namespace vesk;
 
-/// A window with a button that stands for a definition, and the file that tells of it.
+/// A window with a button that represents a definition, and the file that describes it.
 class UiTreeWriterTest final : public QObject
 {
     Q_OBJECT
@@ -187,7 +187,7 @@ private slots:
         busy.start(0);
         QTimer::singleShot(20, this, [&] {
             m_entityCount = 5;
-            // Timers run out in the order of their times, however busy the machine is.
+            // Timers fire in order of their times, however busy the machine is.
             QTimer::singleShot(200, Qt::PreciseTimer, &nested, &QEventLoop::quit);
         });
 

@@ -20,7 +20,7 @@ static char* toString(LayoutFile::Content content)
 namespace vesk::test
 {
 
-/// Makes a bad file of a good one.
+/// Turns a good file into a bad one.
 using Damage = std::function<QByteArray(const QByteArray& good, QRandomGenerator& random)>;
 
 }
@@ -33,7 +33,7 @@ namespace vesk::test
 
 using Content = LayoutFile::Content;
 
-/// Files that keep layouts, and what may become of them between two runs.
+/// Layout files, and what may happen to them between two runs.
 class LayoutFileTest : public QObject
 {
     Q_OBJECT
@@ -155,7 +155,7 @@ void LayoutFileTest::oneOfMoreThanAMegabyteIsDamaged()
     QTEST(LayoutFile::Read(Path()).content, "content");
 }
 
-/// What the toolkit complained of.
+/// The toolkit's warnings.
 static QStringList s_complaints;
 
 void LayoutFileTest::aFolderInItsPlaceIsDamagedAndStays()
@@ -271,10 +271,10 @@ void LayoutFileTest::noFileHarmsTheProgram_data()
     });
 }
 
-/// However the file looks, every pane is somewhere, and showing it makes it visible.
+/// Whatever is in the file, every pane has a position, and showing it makes it visible.
 void LayoutFileTest::noFileHarmsTheProgram()
 {
-    // Each round lays six panes out anew: so many take some seconds.
+    // Each round lays out six panes again; this many rounds take a few seconds.
     const int rounds = qMax(150, qEnvironmentVariableIntValue("VESK_LAYOUT_ROUNDS"));
     QFETCH(Damage, damage);
     const quint32 seed = QRandomGenerator::global()->generate();
@@ -289,7 +289,7 @@ void LayoutFileTest::noFileHarmsTheProgram()
     {
         Put(damage(good, random));
         run.pLayout->Restore(LayoutFile::Read(Path()).layout);
-        // What the toolkit puts off until an event loop runs.
+        // What the toolkit defers until an event loop runs.
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         for (const char* name : {"A", "B", "C", "D", "E", "F"})
         {

@@ -9,7 +9,7 @@
 namespace vesk::test
 {
 
-/// What a user would call the layout.
+/// The layout as a user would describe it.
 static QStringList Describe(Run& run)
 {
     QStringList lines;
@@ -38,7 +38,7 @@ static QStringList Describe(Run& run)
     return lines;
 }
 
-/// Layouts of panes: saved and restored, hidden and brought back.
+/// Pane layouts: saved and restored, hidden and brought back.
 class PaneLayoutTest : public QObject
 {
     Q_OBJECT
@@ -303,7 +303,7 @@ void PaneLayoutTest::aPanesOwnLeastSizeIsLeft()
     QCOMPARE(run.Pane("D")->widget()->minimumSize(), QSize(90, 210));
 }
 
-/// What the toolkit complained of.
+/// The toolkit's warnings.
 static QStringList s_complaints;
 
 void PaneLayoutTest::aContentThatNeedsMoreIsGivenNoLeastSize()

@@ -7,7 +7,7 @@
 namespace vesk::test
 {
 
-/// Where floating panes stand, and at which size: so that their user can get hold of them.
+/// The positions and sizes of floating panes, which must stay within the user's reach.
 class PaneReachTest : public QObject
 {
     Q_OBJECT
@@ -31,7 +31,7 @@ private slots:
     void aPaneThatReachesBeyondTheScreenStaysWhereItIs();
 };
 
-/// A run with one floating pane in that place.
+/// A run with one floating pane at that position.
 struct FloatingRun : Run
 {
     explicit FloatingRun(const QRect& place)
@@ -47,7 +47,7 @@ static QRect ScreenRect()
     return QGuiApplication::primaryScreen()->availableGeometry();
 }
 
-/// The ways in which the window system tells that screens have changed.
+/// The ways in which the window system reports changed screens.
 enum class ScreenSignal
 {
     Geometry,
@@ -76,7 +76,7 @@ static void Tell(ScreenSignal signal)
     }
 }
 
-/// A mouse of which the pane thinks that it is real.
+/// A mouse that looks real to the pane.
 static void Mouse(QDockWidget* pPane, QEvent::Type type, QPoint global)
 {
     const auto button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;

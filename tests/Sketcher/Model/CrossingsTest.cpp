@@ -110,7 +110,7 @@ private slots:
         }
     }
 
-    /// A computed point may be off an outline as far as the numbers around it are rounded.
+    /// A computed point may be off an outline by the rounding of numbers of that size.
     void whatMeetsButForRoundingMeets_data()
     {
         QTest::addColumn<Piece>("first");
@@ -125,7 +125,7 @@ private slots:
         QTest::newRow("just not, far away")
             << Line(1e9, 10 + 1e-4, 1e9 + 40, 10 + 1e-4) << Circle(1e9 + 20, 0, 10) << 0;
 
-        // Their points are rounded by more than small ones may be off.
+        // The rounding of their points exceeds the tolerance of small ones.
         for (int i = 1; i <= 3; ++i)
         {
             QTest::addRow("huge circles %d", i)
@@ -186,13 +186,13 @@ private slots:
     }
 
 private:
-    /// A level line past a circle about the origin.
+    /// A horizontal line past a circle about the origin.
     static void AddTangent(const char* name, const Piece& circle, double height, int count)
     {
         QTest::newRow(name) << Line(-20, height, 20, height) << circle << count;
     }
 
-    /// How often a walk along a straight piece enters or leaves the circle where the arc is.
+    /// How often a walk along a straight piece crosses the circle within the arc.
     static std::ptrdiff_t CountSignChanges(const Piece& straight, const ArcShape& arc)
     {
         constexpr int Steps = 4000;

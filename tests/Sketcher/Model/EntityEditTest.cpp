@@ -66,7 +66,7 @@ CommandParameters Parameters(const std::wstring& entities, const std::wstring& p
 
 }
 
-/// Entities that get another value, as the command does it.
+/// Entities that get another value, as by the command.
 class EntityEditTest final : public QObject
 {
     Q_OBJECT
@@ -241,7 +241,8 @@ private slots:
         QCOMPARE(f.Get(1, L"radius"), 20.0);
     }
 
-    /// However crooked the shape: giving it the value that it has is nothing, to the last bit.
+    /// Setting the value that a shape already has changes nothing, bit for bit, however uneven its
+    /// numbers.
     void noValueOfAnyShapeMovesItWhereItIs()
     {
         constexpr int Rounds = 2000;

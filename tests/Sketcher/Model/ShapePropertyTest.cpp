@@ -17,7 +17,7 @@ Q_DECLARE_METATYPE(Shape)
 namespace
 {
 
-/// All points stand at this height: no property changes it.
+/// All points are at this height, which no property changes.
 constexpr double Z = 7.0;
 
 constexpr double Infinity = std::numeric_limits<double>::infinity();
@@ -45,7 +45,7 @@ Shape Upright()
     return RectangleShape{Corners{{{1, 2, Z}, {5, 2, Z}, {5, 5, Z}, {1, 5, Z}}}};
 }
 
-/// Width 5 and height 10, turned by the angle whose cosine is 0.8.
+/// Width 5 and height 10, rotated by the angle whose cosine is 0.8.
 Shape Turned()
 {
     return RectangleShape{Corners{{{1, 2, Z}, {5, 5, Z}, {-1, 13, Z}, {-5, 10, Z}}}};
@@ -91,7 +91,7 @@ QStringList NamesOf(const std::vector<ShapeProperty>& properties)
 
 }
 
-/// The values of shapes that can be read and set.
+/// The readable and settable properties of shapes.
 class ShapePropertyTest final : public QObject
 {
     Q_OBJECT

@@ -107,7 +107,7 @@ private slots:
         QVERIFY(!IsDrawable(shape));
     }
 
-    /// A computed number may be off as far as it is rounded with the sizes and places around it.
+    /// A computed number may be off by the rounding of sizes and positions of that magnitude.
     void whatIsOffButForRoundingCanBeDrawn_data()
     {
         QTest::addColumn<Shape>("shape");
@@ -183,7 +183,7 @@ private slots:
     }
 
 private:
-    /// At the origin, and a thousand kilometres to the right of it.
+    /// At the origin and a thousand kilometres to the right.
     static void AddLines()
     {
         const auto upwards = [](double x, double length) {
@@ -257,7 +257,7 @@ private:
         QTest::newRow("small and slanted by more") << slanted(0.01, 1.1e-11) << false;
     }
 
-    /// A row with a shape and one in which one number is another.
+    /// A row with a shape and a copy in which one number differs.
     template <class Kind, class Change>
     static void AddOther(const char* name, const Kind& shape, const Change& change)
     {

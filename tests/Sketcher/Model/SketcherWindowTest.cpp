@@ -40,7 +40,7 @@ using namespace vesk;
 namespace
 {
 
-/// Notes the widgets that are shown as windows of their own while it lives.
+/// Records the widgets that are shown as separate windows while it lives.
 class WindowsShown final : public QObject
 {
 public:
@@ -61,7 +61,7 @@ private:
     QStringList m_names;
 };
 
-/// The program's window, on screen, with a few commands that note that they ran.
+/// The program's window on screen, with a few commands that record that they ran.
 struct Fixture
 {
     explicit Fixture(bool hasLibrary = true)
@@ -123,7 +123,7 @@ struct Fixture
         return groups;
     }
 
-    /// What stands in a group, in the order in which it came there.
+    /// The buttons of a group, in the order in which they were added.
     QStringList ButtonsOf(const QString& title, Qtitan::RibbonButtonForm form) const
     {
         QStringList names;
@@ -169,7 +169,7 @@ struct Fixture
 
 }
 
-/// The window as it is built: what stands where, and what goes again.
+/// How the window is built: what is where, and what is removed again.
 class SketcherWindowTest final : public QObject
 {
     Q_OBJECT

@@ -12,8 +12,8 @@ using vesk::Vector3d;
 namespace
 {
 
-/// A view of 400 x 300 at one unit a pixel, the grid at 10, and two crossing lines: from (0, 0) to
-/// (100, 0) and from (80, -30) to (80, 70).
+/// A view of 400 x 300 pixels at one unit per pixel, a grid of 10, and two crossing lines: from (0,
+/// 0) to (100, 0) and from (80, -30) to (80, 70).
 struct Fixture
 {
     Fixture()
@@ -141,7 +141,7 @@ private slots:
         f.snapper.SetOn(Snapper::Grid, true);
         f.view.GetCamera().SetWorldPerPixel(1.26);
 
-        // The steps are 20 apart, the reach is 12.6.
+        // The grid spacing is 20, the reach is 12.6.
         QCOMPARE(f.Catch(-109.2, 109.2), Vector3d(-109.2, 109.2, 0));
         QCOMPARE(f.Catch(-108.8, 108.8), Vector3d(-100, 100, 0));
     }
@@ -239,7 +239,7 @@ private slots:
         f.snapper.SetOn(Snapper::Middle, true);
         f.snapper.SetOn(Snapper::Grid, true);
 
-        // The grid point (60, 0) is nearer than the middle at (50, 0).
+        // The grid point (60, 0) is nearer than the midpoint at (50, 0).
         QCOMPARE(f.Catch(56, 0), Vector3d(50, 0, 0));
     }
 

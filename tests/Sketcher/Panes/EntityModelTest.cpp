@@ -17,7 +17,7 @@ using vesk::LengthUnit;
 namespace
 {
 
-/// A model that is checked whenever it says something.
+/// A model that is checked at every signal.
 struct Fixture
 {
     explicit Fixture(int lines = 0)
@@ -208,7 +208,7 @@ private slots:
         QCOMPARE(f.reset.count(), 0);
     }
 
-    /// Rows that stay are known by whoever holds on to them.
+    /// Persistent indexes of remaining rows stay valid.
     void rowsFollowAnySequenceOfChangesWithoutAReset()
     {
         constexpr int Rounds = 600;

@@ -17,7 +17,7 @@ using Ids = std::vector<int>;
 namespace
 {
 
-/// A drawing of lines, of which the first three are erased: ids are not rows.
+/// A drawing of lines, the first three of them erased, so that ids differ from rows.
 struct Fixture
 {
     explicit Fixture(int lines = 8)
@@ -48,7 +48,7 @@ struct Fixture
         pPane->UpdateStatus();
     }
 
-    /// The ids that stand in the selected rows, ascending.
+    /// The ids in the selected rows, ascending.
     Ids SelectedInList() const
     {
         Ids ids;

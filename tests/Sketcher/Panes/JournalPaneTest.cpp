@@ -62,7 +62,7 @@ struct Fixture
 
 }
 
-/// The journal as its reader sees it.
+/// The journal as the user sees it.
 class JournalPaneTest final : public QObject
 {
     Q_OBJECT

@@ -30,7 +30,7 @@ constexpr int OtherCircleId = 5;
 
 inline const QString s_radius = QStringLiteral("radius");
 
-/// A pane on screen for a drawing with each kind of shape, and a second circle.
+/// A pane on screen for a drawing with one shape of each kind and a second circle.
 struct PropertyPaneFixture
 {
     PropertyPaneFixture()
@@ -72,7 +72,7 @@ struct PropertyPaneFixture
 
     QString Text(const QString& name) const { return Field(name)->text(); }
 
-    /// Types over what is in a field, without finishing it.
+    /// Replaces the text of a field by typing, without finishing it.
     void Type(const QString& name, const QString& text) const
     {
         QLineEdit* pField = Field(name);
@@ -102,7 +102,7 @@ struct PropertyPaneFixture
 
     QString Title() const { return pPane->findChild<QLabel*>("PropertyTitle")->text(); }
 
-    /// The names of the fields that can be seen, from top to bottom.
+    /// The names of the visible fields, from top to bottom.
     QString Fields() const
     {
         QStringList names;
@@ -128,7 +128,7 @@ struct PropertyPaneFixture
     std::unique_ptr<PropertyPane> pPane;
     std::optional<ControlHost> controls{std::in_place};
 
-    /// How many commands were in the journal whenever one ran.
+    /// How many commands were in the journal at each run of a command.
     std::vector<std::size_t> recordedAtRun;
 };
 

@@ -6,7 +6,7 @@ using namespace vesk;
 using namespace vesk::test;
 using Fixture = PropertyPaneFixture;
 
-/// The values of what is selected, shown and edited.
+/// The values of the selected entities, shown and edited.
 class PropertyPaneTest final : public QObject
 {
     Q_OBJECT

@@ -6,7 +6,7 @@ using namespace vesk;
 using namespace vesk::test;
 using Fixture = PropertyPaneFixture;
 
-/// What is typed into a field of the pane: what it is read as, and what becomes of it.
+/// Texts typed into a field of the pane: how they are read, and what happens to them.
 class PropertyPaneTextTest final : public QObject
 {
     Q_OBJECT

@@ -19,7 +19,7 @@ CommandRecord CommandWith(const std::wstring& name, const CommandParameterValue&
 
 }
 
-/// Journal records as their reader sees them.
+/// Journal records as the user sees them.
 class RecordTextTest final : public QObject
 {
     Q_OBJECT

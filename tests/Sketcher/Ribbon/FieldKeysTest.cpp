@@ -19,7 +19,7 @@ using namespace vesk::test;
 namespace
 {
 
-/// A field on screen that shows "former", in a window in which Ctrl+Z is a shortcut.
+/// A field on screen that shows "former", in a window with the shortcut Ctrl+Z.
 struct Fixture
 {
     Fixture()
@@ -60,7 +60,7 @@ struct Fixture
 
 }
 
-/// A field with keys of its own.
+/// A field with its own keys.
 class FieldKeysTest final : public QObject
 {
     Q_OBJECT

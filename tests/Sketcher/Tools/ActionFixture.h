@@ -19,7 +19,7 @@
 #include <string>
 #include <vector>
 
-/// An action at work in a drawing, with a view of one unit a pixel. What it records is kept.
+/// An action running in a drawing, with a view of one unit per pixel. Collects its records.
 template <class Action>
 class ActionFixture final : public vesk::IJournalObserver
 {
@@ -31,7 +31,7 @@ public:
 
     void OnRecord(const vesk::JournalRecord& record) override
     {
-        // As it would be read again.
+        // As it will be when read back.
         vesk::JournalRecord read;
         std::string error;
         QVERIFY(vesk::JournalFormat::FromLine(vesk::JournalFormat::ToLine(record), read, error));
@@ -43,7 +43,7 @@ public:
     void MoveTo(double x, double y) { action.OnMouseMove({x, y, 0}); }
     void ClickAt(double x, double y) { action.OnClick({x, y, 0}); }
 
-    /// Types a number, or confirms one that was shown.
+    /// Types a number, or confirms the one shown.
     void Type(vesk::ActionViewInput::Kind kind, double value, bool isUnchanged = false)
     {
         const vesk::InputMeaning meaning = vesk::FindInputMeaning(kind);
@@ -54,7 +54,7 @@ public:
             {meaning.field, modelValue, std::to_wstring(value), isUnchanged, meaning.isCommitted});
     }
 
-    /// Types a text that stands for a value of the model.
+    /// Types a text with a value in model units.
     void TypeText(vesk::ActionViewInput::Kind kind, const std::wstring& text, double value,
                   double modelValue)
     {
@@ -63,7 +63,7 @@ public:
                            {meaning.field, modelValue, text, false, meaning.isCommitted});
     }
 
-    /// The dimensions that are offered now; null when there are none, or others.
+    /// The dimensions offered now; null if there are none or others.
     template <class Context>
     vesk::OwnerPtr<Context> Offered() const
     {
@@ -75,7 +75,7 @@ public:
         return vesk::OwnerPtr<Context>(pContext);
     }
 
-    /// The only entity's shape; the test fails when it is of another kind.
+    /// The only entity's shape; the test fails if it is of another kind.
     template <class Kind>
     Kind Drawn() const
     {
@@ -88,8 +88,8 @@ public:
 
     std::size_t Count() const { return workspace.sketch.GetEntities().size(); }
 
-    /// Repeats the records on another drawing, which is made by `prepare` first. True when it
-    /// becomes the same to the last bit, and the same is recorded again. Nothing is heard after it.
+    /// Replays the records on another drawing, first set up by `prepare`. True if the result is the
+    /// same bit for bit and the same records are made. No more records are collected afterwards.
     template <class Prepare>
     bool IsRepeated(const Prepare& prepare)
     {

@@ -14,7 +14,7 @@ using Fixture = ActionFixture<ArcCentreAction>;
 namespace
 {
 
-/// At the last step of an arc about (10, 20) that starts at (15, 20).
+/// Proceeds to the last step of an arc about (10, 20) that starts at (15, 20).
 void BeginArc(Fixture& f)
 {
     f.Begin();

@@ -191,7 +191,7 @@ private slots:
         f.ClickAt(start.x(), start.y());
         f.ClickAt(end.x(), end.y());
 
-        // It shows the half circle to the left of the way.
+        // It shows the half circle to the left of the chord.
         const auto opContext = f.Offered<RadiusTemporaryDimensionContext>();
         QCOMPARE(opContext->GetThirdPoint(), top);
         f.Type(ActionViewInput::RadiusCommitted, 7);
@@ -271,7 +271,7 @@ private slots:
         f.ClickAt(-5, 0);
         f.ClickAt(5, 0);
 
-        // Rounded aside it would make a half circle.
+        // Rounded to the side, it would make a half circle.
         f.ClickAt(5, 5e-10);
 
         QCOMPARE(f.Count(), std::size_t{0});

@@ -16,7 +16,7 @@ namespace
 constexpr int Runs = 300;
 constexpr int StepsOfARun = 40;
 
-/// A user who does anything.
+/// A user who acts at random.
 class Restless
 {
 public:
@@ -44,7 +44,7 @@ public:
 private:
     int Choose(int count) { return static_cast<int>(m_random() % static_cast<unsigned>(count)); }
 
-    /// Often the same places again, and often on a line.
+    /// Often the same positions again, and often on a line.
     double Place() { return Choose(3) == 0 ? 10.0 * Choose(4) : Choose(100000) / 333.3 - 150.0; }
 
     double Value()
@@ -76,7 +76,7 @@ void DrawThree(Workspace& workspace)
     workspace.sketch.AddLine({0, -80, 0}, {40, -80, 0});
 }
 
-/// How many entities or turns came of all runs; the test fails when one is not repeated.
+/// How many runs changed the drawing; the test fails if a run cannot be replayed.
 template <class Action, class Prepare>
 std::size_t RunAll(const Prepare& prepare)
 {
@@ -90,7 +90,7 @@ std::size_t RunAll(const Prepare& prepare)
         for (int i = 0; i < StepsOfARun && !f.action.IsFinished(); ++i)
         {
             user.Do(f);
-            // Whatever the action shows, it can always be made.
+            // What the action shows can be created at any time.
             f.action.CreateDimensionContext();
             f.action.CreateRubberBand();
         }
@@ -106,7 +106,7 @@ void PrepareNothing(Workspace&) {}
 
 }
 
-/// Whatever a user does, its journal makes the same drawing to the last bit.
+/// Whatever a user does, the journal reproduces the drawing bit for bit.
 class RepeatedActionTest final : public QObject
 {
     Q_OBJECT

@@ -13,7 +13,7 @@ using Fixture = ActionFixture<RotateAction>;
 namespace
 {
 
-/// A line and a circle; a second line stands aside.
+/// Draws a line and a circle, and a second line that is not rotated.
 void DrawThree(Workspace& workspace)
 {
     workspace.sketch.AddLine({0, 0, 0}, {40, 0, 0});
@@ -27,7 +27,7 @@ void SelectTwo(Workspace& workspace)
     workspace.selection.Select({2, 1});
 }
 
-/// At the last step of a turn of two entities about (10, 20) from the direction of x.
+/// Proceeds to the last step of rotating two entities about (10, 20) from the x direction.
 void BeginTurn(Fixture& f)
 {
     SelectTwo(f.workspace);

@@ -15,7 +15,7 @@ namespace
 
 constexpr double Tolerance = 1e-9;
 
-/// Measures how long the nodes are and how far they stray from a shape, and counts them.
+/// Counts the nodes and measures their length and their greatest deviation from a shape.
 class StrayMeter final : public IGraphicsNodeVisitor
 {
 public:

@@ -5,7 +5,7 @@
 
 #include <vector>
 
-/// The lines and arcs of a picture, each kind in its order.
+/// The lines and the arcs of a picture, each in order.
 class ShownGraphics final : public vesk::IGraphicsNodeVisitor
 {
 public:

@@ -167,7 +167,7 @@ private slots:
             QTest::addRow("at %g", start) << start;
     }
 
-    /// Square ends would stand out beyond the outer edge.
+    /// Square caps would project beyond the outer edge.
     void aCircleHasNoEnds()
     {
         QFETCH(double, start);

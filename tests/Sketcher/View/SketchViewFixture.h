@@ -39,8 +39,8 @@ private:
     int m_count = 0;
 };
 
-/// A drawing in a view of 407 x 307 pixels, black on white, one unit a pixel; the middle of the
-/// picture is the middle of a pixel.
+/// A drawing in a view of 407 x 307 pixels, black on white, one unit per pixel; the centre of the
+/// picture is the centre of a pixel.
 struct SketchViewFixture
 {
     static constexpr int Width = 407;
@@ -65,7 +65,7 @@ struct SketchViewFixture
         view.setPalette(palette);
     }
 
-    /// The pixel that holds a world point, at first.
+    /// The pixel that contains a world point, before the camera moves.
     static QPoint PixelOf(int x, int y) { return {Width / 2 + x, Height / 2 - y}; }
 
     static void Send(QWidget& widget, QEvent::Type type, const QPointF& place,

@@ -10,11 +10,11 @@ using vesk::test::SketchViewFixture;
 namespace
 {
 
-/// Paper and ink, each part of which differs.
+/// Paper and ink; all their colour components differ.
 const QColor s_paper(250, 240, 220);
 const QColor s_ink(10, 30, 60);
 
-/// A share of the way from the paper to the ink.
+/// A mix of paper and ink.
 QColor Shade(double share)
 {
     const auto mix = [share](int from, int to) { return qRound(from + (to - from) * share); };
@@ -22,7 +22,7 @@ QColor Shade(double share)
             mix(s_paper.blue(), s_ink.blue())};
 }
 
-/// Rounding aside.
+/// Apart from rounding.
 bool IsLike(QRgb a, QRgb b)
 {
     return std::abs(qRed(a) - qRed(b)) <= 1 && std::abs(qGreen(a) - qGreen(b)) <= 1 &&
@@ -46,7 +46,7 @@ bool IsOn(const QPoint& fromOrigin, int step)
 
 }
 
-/// The grid, to the last pixel, on screens of any scale.
+/// The grid, pixel by pixel, on screens of any scale factor.
 class SketchViewGridTest final : public QObject
 {
     Q_OBJECT
@@ -85,7 +85,7 @@ private slots:
 
         const QImage picture = f.Picture();
 
-        // Where the origin is, and where that is no pixel's middle, the later one.
+        // The pixel of the origin; if that is between two pixels, the later one.
         const auto origin = [&](int length, double shift) {
             return static_cast<int>(std::floor((length / 2.0 + shift) * scale + 1e-6));
         };
@@ -101,7 +101,7 @@ private slots:
             for (int x = 0; x < picture.width(); ++x)
             {
                 const QPoint place = QPoint(x, y) - zero;
-                // The axes are another matter.
+                // The axes are not checked here.
                 if (std::abs(place.x()) <= 1 || std::abs(place.y()) <= 1)
                     continue;
                 const QRgb expected = IsOn(place, 10 * step) ? strong

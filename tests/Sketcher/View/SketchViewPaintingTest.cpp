@@ -21,11 +21,11 @@ const QColor s_grip(0, 0, 255);
 const QColor s_black(0, 0, 0);
 const QColor s_white(255, 255, 255);
 
-/// A level line through the middles of pixels, off the grid.
+/// A horizontal line through the centres of pixels, off the grid.
 constexpr int LineY = 35;
 const LineShape s_level{{-63, LineY, 0}, {63, LineY, 0}};
 
-/// A colour laid over the strong lines of the grid.
+/// A colour painted over the strong lines of the grid.
 QColor OverGrid(const QColor& colour)
 {
     constexpr int Grid = 219;
@@ -33,14 +33,14 @@ QColor OverGrid(const QColor& colour)
     return {mix(colour.red()), mix(colour.green()), mix(colour.blue())};
 }
 
-/// Rounding aside.
+/// Apart from rounding.
 bool IsLike(const QColor& a, const QColor& b)
 {
     return std::abs(a.red() - b.red()) <= 1 && std::abs(a.green() - b.green()) <= 1 &&
            std::abs(a.blue() - b.blue()) <= 1;
 }
 
-/// A style as one sees it: where along the row there is ink.
+/// A line style as it appears: where along the row there is ink.
 QString InkOf(const QImage& picture, int row)
 {
     QString ink;
@@ -63,7 +63,7 @@ QImage PaintLevelLine(Qt::PenStyle style)
 
 }
 
-/// What the view shows of the drawing.
+/// How the view shows the drawing.
 class SketchViewPaintingTest final : public QObject
 {
     Q_OBJECT
@@ -86,7 +86,7 @@ private slots:
 
         const QImage picture = f.Picture();
 
-        // Each has one pixel, over a line of the grid.
+        // Each is one pixel wide, over a line of the grid.
         const QPoint zero = SketchViewFixture::PixelOf(-centre.x(), -centre.y());
         const QColor red = OverGrid(QColor(0xd0, 0x6a, 0x62, 150));
         const QColor green = OverGrid(QColor(0x5f, 0xa8, 0x6a, 150));
@@ -160,7 +160,7 @@ private slots:
 
         f.workspace.sketch.Add(s_level);
 
-        // A fifth of the pixels above and below, and behind the square end.
+        // A fifth of the pixels above, below and beyond the square cap.
         const auto isFifth = [&f](int x, int y) {
             return std::abs(f.ColourAt(x, y).lightness() - 204) <= 4;
         };
@@ -258,7 +258,7 @@ private slots:
 
         f.workspace.selection.Select({id});
 
-        // Seven pixels wide and high; an outline runs through it along a row, a column or both.
+        // Seven pixels wide and high; an outline passes through it along a row, a column or both.
         const QImage picture = f.Picture();
         const QPoint middle = SketchViewFixture::PixelOf(grip.x(), grip.y());
         for (const QPoint& corner : {QPoint(-3, -3), QPoint(3, -3), QPoint(-3, 3), QPoint(3, 3)})

@@ -259,7 +259,7 @@ private slots:
         const QImage marked = f.Picture();
         f.workspace.snapper.Release();
 
-        // The mark of an end is a square of 12 pixels about it.
+        // The mark of an end is a 12-pixel square around it.
         const QPoint corner = SketchViewFixture::PixelOf(40, 30) + QPoint(-6, 3);
         QVERIFY(marked.pixelColor(corner) != before.pixelColor(corner));
         QVERIFY(f.Picture() == before);

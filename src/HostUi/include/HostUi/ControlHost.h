@@ -28,22 +28,22 @@ class IProgressBarDefinition;
 class IRadioButtonGroupDefinition;
 class VeskIControlFactory;
 
-/// Hears of controls that go.
+/// Is notified when a control is removed.
 class VESK_HOST_UI_API IControlRemovalObserver
 {
 public:
     virtual ~IControlRemovalObserver() = default;
 
-    /// The control of this definition is being removed. The definition still lives, but nobody may
-    /// use it after the call.
+    /// The control of this definition is being removed. The definition is still alive, but must not
+    /// be used after the call.
     virtual void OnControlRemoved(const IControlDefinition& definition) = 0;
 };
 
-/// Owns the controls on screen and keeps them in step with commands and actions.
+/// Owns the controls on screen and keeps them in sync with commands and actions.
 ///
-/// A definition is handed over invisible, so that no control opens as a window of its own; whoever
-/// places the widget makes the definition visible afterwards, and RefreshControls shows it.
-/// Destroyed before the widgets that hold the controls.
+/// Pass in definitions that are invisible, or the control opens as a window of its own. Make the
+/// definition visible once the widget has a parent; RefreshControls then shows it. Destroyed before
+/// the widgets that hold the controls.
 class VESK_HOST_UI_API ControlHost final : public IControlStatusRefresher
 {
 public:
@@ -52,9 +52,9 @@ public:
     ControlHost(const ControlHost&) = delete;
     ControlHost& operator=(const ControlHost&) = delete;
 
-    /// Makes the control of a definition, which it takes over, and returns its widget, which has no
-    /// parent yet: the caller places it. Null when no control could be made.
-    /// A command button is visible and enabled as its command is, and checked while it runs.
+    /// Creates the control of a definition, whose ownership it takes, and returns its widget. The
+    /// widget has no parent yet; the caller gives it one. Null if no control could be created. A
+    /// command button is visible and enabled as its command is, and checked while the command runs.
     QWidget* Create(OwnerPtr<CommandButtonDefinition> opDefinition);
     QWidget* Create(OwnerPtr<ILabelDefinition> opDefinition);
     QWidget* Create(OwnerPtr<ILineEditDefinition> opDefinition);
@@ -68,22 +68,22 @@ public:
     QWidget* Create(OwnerPtr<ICheckBoxGroupDefinition> opDefinition);
     QWidget* Create(OwnerPtr<IRadioButtonGroupDefinition> opDefinition);
 
-    /// Has every control take visibility and enabled state over.
+    /// Makes every control adopt the visibility and enabled state of its definition.
     void RefreshControls() override;
 
-    /// The definitions of all controls, in the order in which they were made. Not owned; none for a
-    /// control without one.
+    /// The definitions of all controls, in order of creation. Not owned; a control without a
+    /// definition is left out.
     std::vector<IControlDefinition*> GetDefinitions() const;
 
-    /// Destroys the control of the definition with that id once this is safe: when the outermost
-    /// event loop runs and no action is under way. A control must not die inside its own signal.
+    /// Destroys the control of the definition with that id as soon as it is safe: in the outermost
+    /// event loop, with no action running. A control must not be destroyed inside its own signal.
     void Remove(const std::wstring& definitionId);
 
-    /// Has an observer, which is not owned, hear of each control that is removed; null for none.
+    /// Sets the observer of removed controls; not owned, null for none.
     void SetRemovalObserver(IControlRemovalObserver* pObserver) { m_pRemovalObserver = pObserver; }
 
 private:
-    /// A control and the widget that was placed for it: itself, or the panel of a group.
+    /// A control and its widget: the control itself, or the panel of a group.
     struct Placed
     {
         OwnerPtr<IControl> opControl;

@@ -8,15 +8,14 @@
 namespace vesk
 {
 
-/// The library that makes the controls: loaded while this lives.
+/// The library that implements the controls; loaded for the lifetime of this object.
 ///
-/// Made after QApplication and HostCore; destroyed after the last control, handler and displayer of
-/// the library is gone.
+/// Created after QApplication and HostCore; destroyed after the library's last control, handler and
+/// displayer.
 class VESK_HOST_UI_API ControlLibrary
 {
 public:
-    /// Loads the library from the folder `lib`, on Windows `bin`, beside the program's own
-    /// folder.
+    /// Loads the library from the folder `lib` (on Windows `bin`) next to the program's own folder.
     ControlLibrary();
     ~ControlLibrary();
     ControlLibrary(const ControlLibrary&) = delete;
@@ -24,7 +23,7 @@ public:
 
     bool IsLoaded() const;
 
-    /// Why it could not be loaded; empty when it was.
+    /// Why loading failed; empty if it succeeded.
     QString GetError() const;
 
 private:

@@ -22,18 +22,16 @@ class EscapeKey;
 class LateUnit;
 struct InputField;
 
-/// Sees to it that every key of a dimension input arrives, in order and in the right place.
+/// Delivers every key of a dimension input in order and to the right widget.
 ///
 /// While a value is being typed, keys go to the editor, wherever the window system delivered them;
-/// otherwise to the view. A text that is to be taken is judged before the handler sees the key: a
-/// formula, or a number with a unit, gives way to the number that it comes to, and what has no
-/// clear value, or none that the action can use, is refused in place: it stays, is selected, and a
-/// message beside the editor says why. What a handler takes as a text is left alone. A unit that is
-/// typed after a blank that took the value is dropped, and the view says so. Installed while it
-/// lives.
+/// otherwise to the view. A text to be committed is judged before the handler sees the key. A
+/// formula or a number with a unit is replaced by its value. A text without a clear value, or with
+/// one that the action cannot use, is rejected: it stays in the editor, selected, with a message
+/// beside it. While a handler's `rawTextInput` is on, texts are left alone. A unit typed after a
+/// Space that committed the value is dropped, and the view text says so. Installed while it lives.
 ///
-/// The editor is as wide as its text needs, and is no window that one could close: that ends the
-/// input.
+/// The editor is as wide as its text needs. Closing its window ends the input instead.
 class VESK_HOST_UI_API DimensionInputController final : public QObject,
                                                         public IJournalObserver,
                                                         public ITemporaryDimensionHandlerAccess
@@ -44,24 +42,25 @@ public:
     DimensionInputController();
     ~DimensionInputController() override;
 
-    /// Takes a key that arrived in the view. False for a key that means nothing here: it is the
-    /// view's or the window's, an Escape without a running action among them.
+    /// Handles a key that arrived in the view. Returns false for a key that means nothing here,
+    /// such as Escape without a running action: it belongs to the view or the window.
     bool OnViewKey(QKeyEvent& event);
 
-    /// Takes the value being typed, as Return would. False when it was refused: the input goes on.
+    /// Commits the value being typed, as Return would. Returns false if it was rejected: the input
+    /// goes on.
     bool Commit();
 
-    /// The editor of the dimensions, while a value is being typed in it; else null.
+    /// The editor while a value is being typed in it; else null.
     QLineEdit* GetActiveEditor() const;
 
-    /// Why the text was refused; empty while nothing is refused.
+    /// Why the text was rejected; empty if it was not.
     QString GetMessage() const;
 
-    /// What the text of the editor comes to, in the unit shown, whether in range or not; nothing
-    /// where it has no clear value.
+    /// The value of the editor's text in the display unit, in range or not; nothing if it has no
+    /// clear value.
     std::optional<double> GetValue() const;
 
-    /// Whether a strip beside the editor tells what the keys do there. It does at first.
+    /// Whether a strip beside the editor explains its keys. Initially true.
     bool IsKeyStripShown() const { return m_isKeyStripShown; }
     void SetKeyStripShown(bool isShown);
 
@@ -97,26 +96,27 @@ private:
     void FitEditor();
     void UpdateNotes();
 
-    /// As a plain widget: it is asked for while the editor is being destroyed, too.
+    /// A plain QWidget because it is also used while the editor is being destroyed.
     QPointer<QWidget> m_pEditor;
     std::unique_ptr<EditorNotes> m_pNotes;
     std::unique_ptr<EscapeKey> m_pEscape;
     std::unique_ptr<LateUnit> m_pLateUnit;
 
-    /// The window that was clicked last, since the editor was hidden.
+    /// The window that was clicked last since the editor was hidden.
     QPointer<QWidget> m_pClicked;
 
-    /// Why the text as it stands was refused.
+    /// Why the current text was rejected.
     QString m_refusal;
     bool m_isKeyStripShown = true;
 
-    /// Where the cursor is in the current view; nothing while it is elsewhere.
+    /// The position of the cursor in the current view; nothing while it is elsewhere.
     std::optional<QPoint> m_cursor;
 
-    /// The key that is on its way to the handler, not owned; null while none is.
+    /// The key being delivered to the handler; not owned, null if there is none.
     const QEvent* m_pDelivered = nullptr;
 
-    /// Whether the text of the field is the user's: false while it shows the field's current value.
+    /// Whether the user typed the text of the field; false while it shows the field's current
+    /// value.
     bool m_isTextTyped = false;
 };
 

@@ -15,16 +15,15 @@ namespace vesk
 
 class DimensionInputController;
 
-/// The base of drawing views: camera, keys and clicks of the running action, provisional graphics.
+/// Base of drawing views: camera, keys and clicks of the running action, provisional graphics.
 ///
-/// The middle button pans, the wheel zooms about the cursor. What the model looks like is the
-/// derived class's.
+/// The middle button pans, the wheel zooms about the cursor. The derived class paints the model.
 class VESK_HOST_UI_API DrawingView : public QWidget, public IUiView
 {
     Q_OBJECT
 
 public:
-    /// `id` is unique among the views. The controller (not owned) takes the keys of dimension
+    /// `id` is unique among the views. The controller (not owned) handles the keys of dimension
     /// inputs.
     DrawingView(std::uint32_t id, DimensionInputController& input, QWidget* pParent);
     ~DrawingView() override;
@@ -42,35 +41,35 @@ public:
     /// Shows the box between two world points.
     void Fit(const Vector3d& corner, const Vector3d& oppositeCorner);
 
-    /// Magnifies by a factor about the middle of the view.
+    /// Magnifies by a factor about the centre of the view.
     void Magnify(double factor);
 
-    /// Shows a unit of the model in that many device pixels; the middle of the view stays.
+    /// Shows one model unit as that many device pixels; the centre of the view stays.
     void SetPixelsPerUnit(double devicePixels);
 
-    /// Says once more where the cursor is, if it is in the view: what it means has changed.
+    /// Emits cursorMoved again if the cursor is in the view, because what it points at has changed.
     void TellCursor();
 
 signals:
     void viewTextChanged(const QString& text);
 
-    /// The cursor is at another world point, since it moved or the camera did; or it left the view.
+    /// The cursor is at another world point because it or the camera moved; or it left the view.
     void cursorMoved(double x, double y);
     void cursorLeft();
 
 protected:
-    /// Paints what the view shows below the provisional graphics. The painter draws in pixels. What
-    /// is painted is kept while only the cursor and the provisional graphics move: until
-    /// UpdateModel is called, or the camera, the size or the palette changes.
+    /// Paints everything below the provisional graphics, in pixels. The result is cached, so that
+    /// moving the cursor or the provisional graphics does not repaint it, until UpdateModel is
+    /// called or the camera, the size or the palette changes.
     virtual void PaintModel(QPainter& painter) = 0;
 
-    /// Has the model painted anew: it looks different now.
+    /// Repaints the model after its appearance changed.
     void UpdateModel();
 
     /// Paints over everything else.
     virtual void PaintOverlay(QPainter&) {}
 
-    /// The user clicked, or pressed Escape, while no action runs.
+    /// The user clicked, or pressed Escape, while no action was running.
     virtual void OnFreeClick(const Vector3d& /*world*/, Qt::KeyboardModifiers) {}
     virtual void OnFreeEscape() {}
 
@@ -112,7 +111,7 @@ private:
     QPointer<QWidget> m_pWatchedWindow;
     bool m_hasScale = false;
 
-    /// The model as it was painted; null when it must be painted anew.
+    /// The painted model; null if it must be repainted.
     QPixmap m_modelPicture;
 };
 

@@ -23,10 +23,10 @@ class DimensionInputController;
 class IControlDefinition;
 class IControlDefinitionChangeEventArgs;
 
-/// Shows what a host and the library tell each other: all live definitions with their values, the
-/// change events as they happen and who made them, the running action, and the dimension input.
+/// Shows what passes between a host and the library: all live definitions with their values, the
+/// change events and who caused them, the running action, and the dimension input.
 ///
-/// Keeps itself in step while it can be seen. It keeps the newest 1,000 events.
+/// Refreshes itself while visible. Keeps the newest 1,000 events.
 class VESK_HOST_UI_API Inspector final : public QWidget,
                                          public IWidget,
                                          public IControlRemovalObserver
@@ -34,15 +34,16 @@ class VESK_HOST_UI_API Inspector final : public QWidget,
     Q_OBJECT
 
 public:
-    /// Listens to the definitions that there are then, and later to new ones. The arguments are not
-    /// owned; Stop is called before they go. The only observer of removals.
+    /// Listens to all present definitions, and to new ones as they appear. The arguments are not
+    /// owned; call Stop before they are destroyed. Becomes the control host's only removal
+    /// observer.
     Inspector(ControlHost& controls, const DimensionInputController& input);
     ~Inspector() override;
 
     void UpdateStatus() override;
     void OnControlRemoved(const IControlDefinition& definition) override;
 
-    /// Looks at nothing any more.
+    /// Stops observing anything.
     void Stop();
 
 protected:
@@ -64,7 +65,7 @@ private:
     QTreeWidget* m_pDefinitions;
     QListWidget* m_pEvents;
 
-    /// Those that are not in the list yet: there may be thousands at a time.
+    /// Events not in the list yet; there may be thousands at a time.
     QStringList m_newEvents;
     QTimer m_refresh;
 

@@ -8,10 +8,10 @@
 namespace vesk
 {
 
-/// The file in which a program keeps the layout of its panes from one run to the next.
+/// The file that keeps the layout of a program's panes from one run to the next.
 ///
-/// One JSON object: "version", "layout" (base 64) and "checksum" of the layout. The toolkit trusts
-/// a layout blindly, so one that is not what was saved, to the last bit, is not handed out.
+/// One JSON object: "version", "layout" (Base64) and "checksum" of the layout. The toolkit trusts a
+/// layout blindly, so only one that is bit for bit what was saved is handed out.
 class VESK_HOST_UI_API LayoutFile
 {
 public:
@@ -26,14 +26,14 @@ public:
     struct Reading
     {
         Content content = Content::Missing;
-        QByteArray layout; ///< Empty unless there is one.
+        QByteArray layout; ///< Empty unless `content` is Layout.
     };
 
     static Reading Read(const QString& path);
 
-    /// Replaces the file and makes its folder where it is missing. What stood there and was no
-    /// layout of this version is kept beside it, with ".kept" after its name. False when the file
-    /// cannot be written.
+    /// Replaces the file, creating its folder if necessary. A file that is not a layout of this
+    /// version is first copied beside it, with ".kept" appended to its name. Returns false if the
+    /// file or the copy cannot be written.
     static bool Write(const QString& path, const QByteArray& layout);
 };
 

@@ -15,9 +15,9 @@ namespace vesk
 
 class ValidatorBase;
 
-/// Shows on line edits whether their text would be accepted: by colour, and by the validator's tip.
+/// Shows on line edits whether their text would be accepted, by colour and by the validator's tip.
 ///
-/// It judges and shows; it never refuses, removes or alters a character.
+/// It only shows the verdict; it never rejects, removes or alters a character.
 class VESK_HOST_UI_API LineEditValidateHelper final : public QObject
 {
     Q_OBJECT
@@ -26,8 +26,8 @@ public:
     explicit LineEditValidateHelper(QObject* pParent);
     ~LineEditValidateHelper() override;
 
-    /// Watches these edits from now on and leaves all others alone; an edit without a validator is
-    /// shown as it was. Neither edits nor validators are owned; validators must outlive their use.
+    /// Watches these edits from now on, and no others; an edit without a validator looks as it did
+    /// before. Neither edits nor validators are owned; validators must outlive their use.
     void SetValidators(const std::map<QLineEdit*, const ValidatorBase*>& validators);
 
 private:

@@ -22,8 +22,8 @@ namespace vesk
 
 class DrawingView;
 
-/// The main frame: a ribbon above, a drawing view, and a status bar with the hint, the cursor, and
-/// the number of warnings that were not shown.
+/// The main frame: a ribbon at the top, a drawing view, and a status bar with the prompt, the
+/// cursor position, and the number of warnings that were not shown.
 ///
 /// Installed as the host's main window while it lives.
 class VESK_HOST_UI_API MainWindow : public QMainWindow,
@@ -45,18 +45,18 @@ public:
     /// The ribbon; owned by the window.
     Qtitan::RibbonBar* GetRibbon() const { return m_pRibbon; }
 
-    /// Shows a drawing view, of which the window becomes the Qt parent, and its texts.
+    /// Shows a drawing view and its texts; the window becomes the view's Qt parent.
     void SetDrawingView(DrawingView* pView);
 
-    /// Shows a text in the status bar for some seconds.
+    /// Shows a text in the status bar for a few seconds.
     void ShowNotice(const QString& text);
 
-    /// Keeps a short text in the status bar for as long as it is true; its tool tip tells more.
-    /// There is one for each subject, and an empty one takes it away.
+    /// Shows a short text in the status bar until it is replaced, with the details as its tool tip.
+    /// There is one text per subject; an empty one removes it.
     void ShowState(const QString& subject, const QString& text, const QString& details);
 
 signals:
-    /// The window is about to close; panes stand as they did.
+    /// The window is about to close; the panes are still in position.
     void closeAccepted();
 
 protected:
@@ -76,7 +76,7 @@ private:
         QString details;
     };
 
-    /// What is true for longer than a moment, by its subject.
+    /// The lasting texts of the status bar, by subject.
     QMap<QString, State> m_states;
     QLabel* m_pStates;
 

@@ -22,50 +22,51 @@ class QScreen;
 namespace vesk
 {
 
-/// Where a pane stands in the factory layout.
+/// The position of a pane in the default layout.
 struct PanePlace
 {
     std::wstring name;    ///< The pane's name.
     DockArea area;        ///< One of the four areas.
-    int extent;           ///< In pixels: its width at the left and right, else its height.
-    std::wstring tabWith; ///< The pane behind whose tab it stands; empty for a place of its own.
+    int extent;           ///< In pixels: the width at the left and right, else the height.
+    std::wstring tabWith; ///< The pane it is tabbed with, behind that pane; empty for none.
 };
 
-/// Where the panes of a main window stand: sizes, tabs, floating places, hidden or not.
+/// The layout of a main window's panes: sizes, tabs, floating positions, visibility.
 ///
-/// Panes are matched by name. A pane that was hidden or floated stays so; one that a saved layout
-/// does not know goes to its factory place; places of unknown panes are kept for the next save. A
-/// floating pane is always where its user can get hold of it, also after a screen has shrunk or
-/// gone, and floats at a size of its own. A docked pane stays wide and high enough to be of use.
+/// Panes are matched by name. A pane that was hidden or floating stays so; one that a saved layout
+/// does not name goes to its default position; positions of unknown panes are kept for the next
+/// save. A floating pane always stays within the user's reach, even after a screen shrinks or
+/// disappears, and floats at a size of its own. A docked pane stays wide and high enough to be
+/// usable.
 class VESK_HOST_UI_API PaneLayout final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Window and manager, not owned, outlive the layout. Panes without a factory place are left
-    /// where they are.
+    /// Window and manager are not owned and outlive the layout. Panes without a default position
+    /// are left where they are.
     PaneLayout(QMainWindow& window, IDockManager& docks, std::vector<PanePlace> places);
     ~PaneLayout() override;
 
-    /// The layout as it is, in a form of its own; while all panes are hidden at once, as it was
-    /// before.
+    /// The current layout in an opaque format; while ToggleAllHidden hides all panes, the layout
+    /// from before.
     QByteArray Save();
 
-    /// Brings a layout back that Save returned, of this run or an earlier one. False, and the
-    /// factory layout stands, when it cannot be used.
+    /// Restores a layout that Save returned in this run or an earlier one. If it is unusable,
+    /// restores the default layout and returns false.
     bool Restore(const QByteArray& layout);
 
-    /// Brings the factory layout back, in which every pane is visible.
+    /// Restores the default layout, in which every pane is visible.
     void RestoreDefault();
 
-    /// Hides all panes or, the second time, brings back exactly what was. A pane that is shown in
-    /// between ends that: then the next time hides all again.
+    /// Hides all panes; the next call restores exactly the layout from before. If a pane is shown
+    /// in between, the next call hides all again.
     void ToggleAllHidden();
 
     bool IsAllHidden() const { return !m_beforeHiding.isEmpty(); }
 
-    /// Brings floating panes back of which a user cannot get hold: 64 pixels of the title's width
-    /// in all its height and the close button have to be on a screen.
+    /// Brings back floating panes that are out of the user's reach: 64 pixels of the title's width,
+    /// at its full height, and the close button must be on a screen.
     void BringFloatingIntoReach();
 
 signals:
@@ -99,21 +100,21 @@ private:
     IDockManager& m_docks;
     std::vector<PanePlace> m_places;
 
-    /// While all panes are hidden at once.
+    /// The layout from before ToggleAllHidden hid all panes; empty otherwise.
     QByteArray m_beforeHiding;
 
-    /// Where panes floated that a layout named and nobody has added.
+    /// Floating positions of panes that a layout names but the manager does not have.
     QMap<QString, QRect> m_unknownPlaces;
     bool m_isApplying = false;
 
-    /// The panes that have been named here.
+    /// The panes whose object names were set here.
     std::vector<QPointer<QDockWidget>> m_named;
 
-    /// At which size each pane floated last, and which do so now, by name.
+    /// The size at which each pane last floated, and the panes that float now, by name.
     QMap<QString, QSize> m_floatingSizes;
     QSet<QString> m_floating;
 
-    /// The pane that is being dragged out of its area.
+    /// The pane being dragged out of its area.
     QPointer<QDockWidget> m_pDragged;
     QTimer m_reachCheck;
 };

@@ -7,9 +7,9 @@
 namespace vesk
 {
 
-/// Takes the records of how a program was published from a file of lines like "InHouseMode=false".
-/// Records that it does not name stay as they are; a value that is neither true nor false is left
-/// out. False when there is no such file.
+/// Sets publish configuration records from a file of lines such as "InHouseMode=false". Records
+/// that the file does not name stay unchanged; a value other than true or false is ignored. Returns
+/// false if the file is missing or unreadable.
 VESK_HOST_UI_API bool LoadPublishConfig(const QString& path);
 
 }

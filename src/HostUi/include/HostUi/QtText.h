@@ -7,7 +7,7 @@
 namespace vesk
 {
 
-/// The two ways across the text boundary between the host's wide texts and Qt.
+/// Convert between the host's wide texts and Qt's.
 inline QString ToQString(const std::wstring& text)
 {
     return QString::fromStdWString(text);

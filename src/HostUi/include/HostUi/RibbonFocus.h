@@ -12,11 +12,11 @@ namespace vesk
 class DimensionInputController;
 class DrawingView;
 
-/// Keeps the keyboard with the drawing while an action runs, whatever is clicked in a ribbon.
+/// Keeps the keyboard focus in the drawing while an action runs, whatever is clicked in a ribbon.
 ///
-/// What is clicked there works without the focus, and when the click is done, with the list or the
-/// menu that it opened, an open editor has the keyboard again, else the view. So it does after a
-/// list or menu that was opened with the keys. A control that takes text keeps the focus.
+/// A control clicked there works without the focus. When the click is done, including any list or
+/// menu it opened, an open editor gets the focus back, else the view; likewise after a list or menu
+/// that was opened with the keyboard. A control that accepts text keeps the focus.
 class VESK_HOST_UI_API RibbonFocus final : public QObject
 {
 public:
@@ -38,8 +38,8 @@ private:
     DrawingView& m_view;
     const DimensionInputController& m_input;
 
-    /// Whether something in the ribbon is being clicked or chosen for which the keyboard is to come
-    /// back.
+    /// Whether something in the ribbon is being clicked or chosen after which the focus is
+    /// returned.
     bool m_isUnderWay = false;
 };
 

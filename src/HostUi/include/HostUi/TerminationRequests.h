@@ -9,10 +9,10 @@
 namespace vesk
 {
 
-/// Hears of the operating system's requests to end: SIGTERM, SIGINT and SIGHUP, on Windows those of
-/// the console. The process goes on; whoever listens ends it.
+/// Receives the operating system's requests to terminate: SIGTERM, SIGINT and SIGHUP, on Windows
+/// those of the console. The process goes on; the receiver of the signal ends it.
 ///
-/// What the process was started to ignore stays ignored. One such object at a time.
+/// Signals that the process was started to ignore stay ignored. Only one such object at a time.
 class VESK_HOST_UI_API TerminationRequests final : public QObject
 {
     Q_OBJECT
@@ -20,11 +20,11 @@ class VESK_HOST_UI_API TerminationRequests final : public QObject
 public:
     TerminationRequests();
 
-    /// From now on requests end the process at once, as ever.
+    /// From now on requests end the process at once, as usual.
     ~TerminationRequests() override;
 
 signals:
-    /// Sent from the event loop.
+    /// Emitted from the event loop.
     void requested();
 
 private:
@@ -33,8 +33,8 @@ private:
     std::unique_ptr<Listener> m_pListener;
 };
 
-/// Has a write that fails say so, where the operating system would end the process for it: beyond
-/// the greatest size of a file, or when nobody reads what is written.
+/// Makes failed writes return an error where the operating system would otherwise end the process:
+/// beyond the file size limit, or on a pipe that has no reader.
 VESK_HOST_UI_API void SurviveFailedWrites();
 
 }

@@ -10,10 +10,10 @@
 namespace vesk
 {
 
-/// The translations of one locale: a catalogue of the toolkit's, `<name>_<locale>.qm`. Installed as
-/// the host's translator while it lives.
+/// The translations of one locale, from a Qt catalogue `<name>_<locale>.qm`. Installed as the
+/// host's translator while it lives.
 ///
-/// Without a catalogue for the locale nothing is translated, and the source texts stand.
+/// Without a catalogue for the locale nothing is translated and the source texts are shown.
 class VESK_HOST_UI_API TranslationCatalogue final : public ITranslator
 {
 public:

@@ -14,41 +14,41 @@ class LengthUnit;
 enum class TypedTextFault
 {
     None,
-    NotANumber,     ///< It is no number and no formula.
-    UnknownName,    ///< It holds a name that is no unit, function or constant.
-    AmbiguousComma, ///< A comma may be a decimal one or something else.
-    Ambiguous,      ///< It can be read in two ways; parentheses would tell.
-    MixedUnits,     ///< Its parts do not come to one quantity.
-    WrongQuantity,  ///< A length where an angle belongs, or the other way round.
-    AngleUnit,      ///< Degrees or radians: it does not say which.
-    NoValue,        ///< Such as a division by zero.
+    NotANumber,     ///< Neither a number nor a formula.
+    UnknownName,    ///< A name that is not a unit, function or constant.
+    AmbiguousComma, ///< A comma that may be a decimal comma or something else.
+    Ambiguous,      ///< Can be read in two ways; parentheses would resolve it.
+    MixedUnits,     ///< The parts do not make one quantity.
+    WrongQuantity,  ///< A length instead of an angle, or vice versa.
+    AngleUnit,      ///< Does not say whether it means degrees or radians.
+    NoValue,        ///< For example, a division by zero.
 };
 
-/// What a text says.
+/// The result of reading a text.
 struct TypedReading
 {
     TypedTextFault fault = TypedTextFault::None;
 
-    /// In the unit shown, an angle in degrees; finite. Zero where there is a fault.
+    /// In the display unit, or in degrees for an angle; finite. Zero if there is a fault.
     double value = 0.0;
 
-    /// A number as it stands, which needs no rewriting.
+    /// A plain number, which needs no rewriting.
     bool isPlain = false;
 
-    /// In millimetres, an angle in degrees: the double nearest to what the text says, not to
-    /// `value`, which is rounded too. Zero where there is a fault.
+    /// In millimetres, or in degrees for an angle: the double nearest to the exact value of the
+    /// text, not to `value`, which is itself rounded. Zero if there is a fault.
     double modelValue = 0.0;
 };
 
-/// Reads what people type for a length, shown in `unit`, or for an angle: numbers, formulas, units.
-/// Whatever can be read in two ways is a fault. The same in every locale.
+/// Reads what users type for a length, shown in `unit`, or for an angle: numbers, formulas, units.
+/// A text that can be read in two ways is a fault. Independent of the locale.
 VESK_HOST_UI_API TypedReading ReadTypedText(const QString& text, Quantity quantity,
                                             const LengthUnit& unit);
 
 /// The shortest text of a finite number that reads back to the same double.
 VESK_HOST_UI_API QString ShortestNumber(double value);
 
-/// What the user is told of a fault; empty for none.
+/// The message for the user about a fault; empty for None.
 VESK_HOST_UI_API QString DescribeFault(TypedTextFault fault);
 
 }

@@ -22,8 +22,8 @@ class ClosedPopupKeys;
 
 /// The application on Qt: posted events, the event loop of actions, the user-interface services.
 ///
-/// Made after QApplication; installed while it lives. Keys that the window system delivers to a
-/// list or menu after it has closed go to what has the focus.
+/// Created after QApplication; installed while it lives. Keys that the window system delivers to a
+/// list or menu after it has closed are passed on to the focus window.
 class VESK_HOST_UI_API UiApplication final : public QObject,
                                              public IApplication,
                                              public IUiManager,
@@ -48,14 +48,14 @@ public:
     void Post(std::function<void()> function) override;
     void PostWhenIdle(std::chrono::milliseconds delay, std::function<void()> function) override;
 
-    /// Frees the posted events that still wait, unemitted: before the library that posted them
-    /// goes.
+    /// Frees pending posted events without emitting them; must precede unloading the library that
+    /// posted them.
     static void DiscardPostedEvents();
 
-    /// The window that the services name as the application's (not owned); null for none.
+    /// Sets the window that GetMainWindow returns (not owned); null for none.
     void SetMainWindow(IApplicationWindow* pMainWindow);
 
-    /// The panes that the services name as the main window's (not owned); null for none.
+    /// Sets the manager that GetDockManager returns (not owned); null for none.
     void SetDockManager(IDockManager* pDockManager);
 
 protected:
@@ -68,7 +68,7 @@ private:
     QEventLoop* m_pActionLoop = nullptr;
     std::unique_ptr<ClosedPopupKeys> m_pPopupKeys;
 
-    /// The widgets that were asked to paint and may still be at it.
+    /// Widgets that received a paint event and may still be painting.
     std::vector<QPointer<QWidget>> m_painted;
 };
 

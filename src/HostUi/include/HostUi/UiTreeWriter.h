@@ -13,10 +13,11 @@ namespace vesk
 
 class DimensionInputController;
 
-/// Keeps a JSON file that says what is on screen: controls, views, the editor, the running action.
+/// Keeps a JSON file that describes what is on screen: controls, views, the editor, the running
+/// action.
 ///
-/// The file is replaced as a whole after a change, when the event loop is idle and at the latest
-/// 200 ms later, in nested loops too.
+/// After a change the file is replaced as a whole as soon as the event loop is idle, and at the
+/// latest after 200 ms, in nested loops too.
 class VESK_HOST_UI_API UiTreeWriter final : public QObject
 {
     Q_OBJECT
@@ -30,7 +31,7 @@ public:
                  EntityCount countEntities);
     ~UiTreeWriter() override;
 
-    /// Writes now. False when the file cannot be written.
+    /// Writes now. Returns false if the file cannot be written.
     bool Write();
 
 protected:

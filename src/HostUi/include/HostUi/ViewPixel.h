@@ -7,7 +7,7 @@
 namespace vesk
 {
 
-/// Where a view shows a world point, in its pixels.
+/// The position of a world point in a view, in the view's pixels.
 inline QPointF ToPixel(const IModelView& modelView, const Vector3d& world)
 {
     const Eigen::Vector2d pixel = UiViewUtility::ToPixel(modelView, world);

@@ -16,8 +16,8 @@ bool IsKey(const QEvent& event)
            event.type() == QEvent::KeyRelease;
 }
 
-/// The window of what has the focus or, while the window system takes its time to say so, the
-/// window from which the popup was opened; null when there is neither.
+/// The window of the focus widget or, until the window system has reported it, the window from
+/// which the popup was opened; null if there is neither.
 QWindow* FindReceiver(const QWindow& popup)
 {
     const QWidget* pFocus = QApplication::focusWidget();

@@ -5,11 +5,11 @@
 namespace vesk
 {
 
-/// Passes on the keys that arrive in a list or menu which has closed already.
+/// Forwards keys that arrive in a list or menu that has already closed.
 ///
-/// A popup grabs the keyboard, and until the window system has heard of its closing it goes on
-/// naming the popup as the receiver. Whoever types means what has the focus by then. The key that
-/// closed the popup stays there: its second half is no key for others.
+/// A popup grabs the keyboard, and until the window system learns that it has closed it still
+/// delivers keys to the popup. The user means the widget that has the focus by then. The rest of
+/// the key that closed the popup stays there: its release is meant for no one else.
 class ClosedPopupKeys final : public QObject
 {
 public:
@@ -20,7 +20,7 @@ protected:
     bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
 
 private:
-    /// Whether the popup was closed when its last key was announced.
+    /// Whether the popup was already closed when its last key was announced.
     bool m_isLate = false;
 };
 

@@ -18,7 +18,7 @@ ControlLibrary::~ControlLibrary()
 {
     if (!m_library.isLoaded())
         return;
-    // Their deleters are code of the library.
+    // Their deleters are code in the library.
     UiApplication::DiscardPostedEvents();
     m_library.unload();
 }

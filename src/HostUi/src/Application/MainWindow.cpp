@@ -16,7 +16,7 @@ namespace vesk
 namespace
 {
 
-/// What a user who reads that warnings were not shown wants to know.
+/// Explains where to find the warnings that were not shown.
 QString TellWhereTheLogIs()
 {
     const std::string path = DebugMessageMgr::GetDebugMessageMgr()->GetLogPath();
@@ -40,11 +40,11 @@ MainWindow::MainWindow()
         QStringLiteral("X -000000.000   Y -000000.000   mm")));
     constexpr int Margin = 6;
     m_pHint->setContentsMargins(Margin, 0, Margin, 0);
-    // As high without a hint: the drawing does not move when one comes or goes.
+    // As high without a hint, so that the drawing does not move when one appears or disappears.
     m_pHint->setText(QStringLiteral("汉"));
     m_pHint->setMinimumHeight(m_pHint->sizeHint().height());
     m_pHint->clear();
-    // No hint is so long that the window must grow for it.
+    // The window does not grow for a long hint.
     m_pHint->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_pCursor->setContentsMargins(Margin, 0, Margin, 0);
     statusBar()->addWidget(m_pHint, 1);
@@ -54,11 +54,11 @@ MainWindow::MainWindow()
     m_pWarningCount->setObjectName(QStringLiteral("WarningCount"));
     m_pWarningCount->hide();
     m_pStates->setObjectName(QStringLiteral("States"));
-    // Where there is no room the tool tip tells it: the window does not grow.
+    // The window does not grow for it; the tool tip shows what does not fit.
     m_pStates->setMinimumWidth(1);
     m_pStates->hide();
 
-    // The host names windows by their native window.
+    // The host identifies windows by their native window.
     winId();
     SetMainWindow(this);
     DebugMessageMgr::GetDebugMessageMgr()->AddObserver(this);
@@ -80,8 +80,8 @@ WindowId MainWindow::GetWinId() const
     return internalWinId();
 }
 
-/// In any thread, before the warning is counted: the count is asked for from the event loop, once
-/// however many warnings came.
+/// Called in any thread, before the warning is counted: the event loop reads the count, once for
+/// however many warnings.
 void MainWindow::OnDebugWarning(const DebugWarning&)
 {
     if (!m_isCountStale.exchange(true))
@@ -122,7 +122,7 @@ void MainWindow::ShowState(const QString& subject, const QString& text, const QS
 
 void MainWindow::closeEvent(QCloseEvent* pEvent)
 {
-    // What is finished stands in the journal already; nothing needs to be asked.
+    // All finished work is in the journal already, so there is nothing to ask.
     ActionManager::Reset();
     emit closeAccepted();
     pEvent->accept();

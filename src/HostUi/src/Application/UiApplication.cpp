@@ -113,7 +113,7 @@ void UiApplication::Post(std::function<void()> function)
 void UiApplication::PostWhenIdle(std::chrono::milliseconds delay, std::function<void()> function)
 {
     QTimer::singleShot(delay, this, [this, function = std::move(function)] {
-        // A timer of zero comes round when nothing else waits.
+        // A zero timer fires when nothing else is pending.
         QTimer::singleShot(0, this, function);
     });
 }

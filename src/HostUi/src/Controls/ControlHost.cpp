@@ -41,7 +41,7 @@ namespace
 
 constexpr std::chrono::milliseconds RetryInterval{20};
 
-/// Gives the menus of a button dark texts: their background is white, whatever the palette says.
+/// Gives the menus of a button dark text: their background is white whatever the palette.
 void WriteMenusInDark(QToolButton& button)
 {
     QPalette palette = button.palette();
@@ -65,7 +65,7 @@ public:
         pLayout->setContentsMargins(0, 0, 0, 0);
     }
 
-    /// Only the making of a group asks for a native window: inside others it would not be clipped.
+    /// The native window is only needed to create the group; as a child it would not be clipped.
     void DropNativeWindow()
     {
         setAttribute(Qt::WA_NativeWindow, false);
@@ -81,8 +81,8 @@ public:
     }
 };
 
-/// The event of a group that may not know the items of its definition yet: it takes their states
-/// over with the change of properties that comes when it does. Null where nothing is in the way.
+/// The event of a group that may not know the items of its definition yet; it adopts their states
+/// on the property change that follows. Null if it knows them.
 ControlDefinitionChangeEvent* FindEventThatTellsItems(const IControl& control)
 {
     if (dynamic_cast<const QButtonGroup*>(&control) == nullptr)
@@ -179,7 +179,7 @@ QWidget* ControlHost::Create(OwnerPtr<IRadioButtonGroupDefinition> opDefinition)
 
 void ControlHost::RefreshControls()
 {
-    // By index: a definition's event may bring a new control.
+    // By index: a definition's event may add a control.
     for (std::size_t i = 0; i < m_controls.size(); ++i)
     {
         IControl* pControl = m_controls[i].opControl.Get();
@@ -267,7 +267,7 @@ void ControlHost::DestroyRemoved()
     if (!IsSafeToDestroy())
         return;
     m_destroyLater.stop();
-    // A control goes before what holds it, a group before its panel.
+    // A control is destroyed before what holds it: a group before its panel.
     for (Placed& removed : m_removed)
     {
         removed.opControl.Reset();

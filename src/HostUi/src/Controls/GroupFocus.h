@@ -5,9 +5,9 @@ class QWidget;
 namespace vesk
 {
 
-/// Lets Tab and the arrows into every box of the group that a widget is in. The toolkit makes one
-/// stop of any group whenever one of its buttons gets the focus: right for radio buttons, of which
-/// one is chosen, but of independent boxes it leaves only that one.
+/// Makes every check box in a widget's group reachable with Tab and the arrow keys. The toolkit
+/// turns a group into a single tab stop whenever one of its buttons gets the focus: right for radio
+/// buttons, but of independent check boxes it leaves only that one reachable.
 void OpenGroupToTab(const QWidget& widget);
 
 }

@@ -11,9 +11,9 @@
 namespace vesk
 {
 
-/// Watches one edit: a red line at its bottom and the tip tell that the text would be refused.
+/// Watches one edit: a red line at its bottom and the tip show that its text would be rejected.
 ///
-/// The line is a child of its own, so that it shows whatever style sheet the edit has.
+/// The line is a child widget, so that it shows whatever style sheet the edit has.
 class LineEditValidateHelper::Watch final : public QObject
 {
 public:
@@ -61,7 +61,7 @@ private:
         m_pMark->raise();
     }
 
-    /// As a plain widget: it is asked for while the edit is being destroyed, too.
+    /// A plain QWidget because it is also used while the edit is being destroyed.
     QPointer<QWidget> m_pEdit;
     const ValidatorBase* m_pValidator;
     QString m_toolTip;

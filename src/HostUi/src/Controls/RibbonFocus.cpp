@@ -18,13 +18,13 @@ bool IsActionRunning()
     return IActionManager::CurrentAction() != nullptr;
 }
 
-/// Lists and menus that are open are such windows.
+/// Open lists and menus are popups.
 bool IsPopup(const QWidget& widget)
 {
     return widget.windowType() == Qt::Popup;
 }
 
-/// What can have the focus, and makes nothing of the keys that are meant for the drawing.
+/// True for a widget that can have the focus but has no use for keys meant for the drawing.
 bool TakesNoText(const QWidget& widget)
 {
     return widget.focusPolicy() != Qt::NoFocus && !widget.testAttribute(Qt::WA_InputMethodEnabled);
@@ -68,7 +68,7 @@ bool RibbonFocus::eventFilter(QObject* pWatched, QEvent* pEvent)
     return false;
 }
 
-/// Also what stands in a window of its own.
+/// Includes descendants in windows of their own.
 bool RibbonFocus::IsOfRibbon(const QWidget& widget) const
 {
     const QWidget* pWidget = &widget;
@@ -77,11 +77,11 @@ bool RibbonFocus::IsOfRibbon(const QWidget& widget) const
     return pWidget != nullptr;
 }
 
-/// The toolkit has given the focus away a moment ago. It is taken back before the control hears of
-/// the click, so that no key which comes before the click is done is lost.
+/// The toolkit has just moved the focus. It is taken back before the control receives the click, so
+/// that no key typed before the click is done is lost.
 void RibbonFocus::OnPress(const QWidget& pressed)
 {
-    // Lists and menus, and what a control leaves to the ribbon around it.
+    // Lists and menus, and clicks that a control leaves to the ribbon around it.
     if (pressed.focusPolicy() == Qt::NoFocus)
         return;
     m_isUnderWay =
@@ -98,7 +98,7 @@ void RibbonFocus::OnPopupShown(const QWidget& popup)
     m_isUnderWay = m_isUnderWay || (IsOfRibbon(*pOwner) && TakesNoText(*pOwner));
 }
 
-/// The control itself hears of it later than the filter.
+/// Queued, because the control receives the event after the filter.
 void RibbonFocus::OnSomethingDone()
 {
     if (m_isUnderWay)
@@ -111,7 +111,7 @@ void RibbonFocus::GiveBack()
     if (!m_isUnderWay || QApplication::activePopupWidget() != nullptr)
         return;
     m_isUnderWay = false;
-    // A dialog that the click has opened keeps the keyboard, and so does another program.
+    // A dialog that the click has opened keeps the keyboard, as does another program.
     if (!IsActionRunning() || QApplication::activeModalWidget() != nullptr ||
         QGuiApplication::applicationState() != Qt::ApplicationActive)
         return;

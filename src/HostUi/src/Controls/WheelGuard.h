@@ -7,9 +7,9 @@ class QComboBox;
 namespace vesk
 {
 
-/// Keeps the wheel from changing a combo box that does not have the focus: whoever scrolls a panel
-/// with the pointer over the box means the panel, so the event goes on to the parent. The wheel
-/// does not give the box the focus either. With the focus it works as usual.
+/// Keeps the wheel from changing a combo box that does not have the focus: a user who scrolls a
+/// panel with the pointer over the box means the panel, so the event is passed to the parent. Nor
+/// does the wheel give the box the focus. With the focus it works as usual.
 class WheelGuard final : public QObject
 {
 public:

@@ -24,7 +24,7 @@ DrawingView::DrawingView(std::uint32_t id, DimensionInputController& input, QWid
     setMouseTracking(true);
     setCursor(Qt::CrossCursor);
     setMinimumSize(300, 200);
-    // The host names views by their native window.
+    // The host identifies views by their native window.
     winId();
 }
 
@@ -113,7 +113,7 @@ void DrawingView::changeEvent(QEvent* pEvent)
 
 bool DrawingView::eventFilter(QObject* pWatched, QEvent* pEvent)
 {
-    // The editor floats in a window of its own: it must follow when the view's window moves.
+    // The editor floats in a window of its own and must follow when the view's window moves.
     if (pWatched == m_pWatchedWindow && pEvent->type() == QEvent::Move)
         OnCameraChanged();
     return QWidget::eventFilter(pWatched, pEvent);
@@ -121,7 +121,7 @@ bool DrawingView::eventFilter(QObject* pWatched, QEvent* pEvent)
 
 bool DrawingView::focusNextPrevChild(bool isNext)
 {
-    // While something is drawn, Tab belongs to the dimensions.
+    // While an action runs, Tab belongs to the dimensions.
     return IActionManager::CurrentAction() == nullptr && QWidget::focusNextPrevChild(isNext);
 }
 
@@ -205,7 +205,7 @@ void DrawingView::showEvent(QShowEvent* pEvent)
 {
     if (!m_hasScale)
     {
-        // One unit is one device pixel at first, on every screen.
+        // Initially one unit is one device pixel, on every screen.
         m_hasScale = true;
         m_camera.SetWorldPerPixel(devicePixelRatioF());
     }
@@ -248,8 +248,8 @@ const QPixmap& DrawingView::GetModelPicture()
     return m_modelPicture;
 }
 
-/// A click takes the value being typed, in the direction of the click; a refused one keeps it. Not
-/// where a command waits for its turn: then the value goes with its action.
+/// A click commits the value being typed, in the direction of the click; a rejected value stays in
+/// the editor. Not while a command waits for its turn: the value is then dropped with its action.
 void DrawingView::OnClick(const QMouseEvent& event)
 {
     setFocus(Qt::MouseFocusReason);

@@ -36,8 +36,8 @@ const Pen& PenOf(GraphicsRole role)
     return pens[static_cast<int>(role)];
 }
 
-/// So many chords that they cannot be told from an arc; of a huge one, of which little is seen, as
-/// many as are painted in no time.
+/// Enough chords to look like an arc; capped for a huge arc, of which little is visible, so that
+/// painting stays fast.
 int CountChords(double radiusPixels, double sweep)
 {
     constexpr double Deviation = 0.1;

@@ -22,8 +22,8 @@ using Whole = boost::multiprecision::cpp_int;
 using Exact = boost::multiprecision::cpp_rational;
 using Result = std::optional<Exact>;
 
-/// How many digits of two a numerator or denominator may have: what is typed on purpose stays far
-/// below, and what is not would take its time.
+/// The bits that a numerator or denominator may have: a value typed on purpose needs far fewer, and
+/// anything else would take long to compute.
 constexpr unsigned MostBits = 10000;
 
 unsigned CountBits(const Whole& number)
@@ -36,7 +36,7 @@ unsigned CountBits(const Exact& value)
     return std::max(CountBits(numerator(value)), CountBits(denominator(value)));
 }
 
-/// The value, unless it is beyond all doubles or needs too many digits.
+/// The value, unless it exceeds the range of doubles or needs too many digits.
 Result Checked(const Exact& value)
 {
     const auto size = static_cast<int>(CountBits(numerator(value))) -
@@ -51,7 +51,7 @@ double ToDouble(const Exact& value)
     return value.convert_to<double>();
 }
 
-/// Every finite double is a fraction.
+/// Every finite double is an exact fraction.
 Result FromDouble(double value)
 {
     return std::isfinite(value) ? Result(Exact(value)) : std::nullopt;
@@ -59,7 +59,7 @@ Result FromDouble(double value)
 
 Exact FromDecimal(const DecimalNumber& number)
 {
-    // Behind a zero the digits would be octal.
+    // A leading zero would make the digits octal.
     const std::size_t first = number.digits.find_first_not_of('0');
     if (first == std::string::npos)
         return 0;
@@ -68,7 +68,8 @@ Exact FromDecimal(const DecimalNumber& number)
     return number.exponent < 0 ? Exact(digits, ten) : Exact(digits * ten);
 }
 
-/// How long one of the unit is. No double is 25.4: the shortest number that leads to it was meant.
+/// The length of one unit. No double is exactly 25.4: the shortest decimal that rounds to it is
+/// meant.
 Exact MillimetresOf(const LengthUnit& unit)
 {
     TypedTextFault fault = TypedTextFault::None;
@@ -81,7 +82,7 @@ Result Divide(const Exact& dividend, const Exact& divisor)
     return divisor.is_zero() ? std::nullopt : Result(dividend / divisor);
 }
 
-/// Exact for whole exponents, where that leaves few enough digits.
+/// Exact for integer exponents, unless the result would have too many digits.
 Result Power(const Exact& base, const Exact& exponent)
 {
     const double times = ToDouble(exponent);
@@ -100,7 +101,7 @@ Result Apply(const FormulaFunction& function, const Exact& argument)
     return FromDouble(function.pCompute(ToDouble(argument)));
 }
 
-/// The result of a step that takes two values.
+/// The result of a binary step.
 Result Combine(FormulaStep::Kind operation, const Exact& left, const Exact& right)
 {
     switch (operation)
@@ -118,7 +119,7 @@ Result Combine(FormulaStep::Kind operation, const Exact& left, const Exact& righ
     }
 }
 
-/// Does a step on the stack.
+/// Executes a step on the stack and returns its result.
 Result Take(const FormulaStep& step, std::vector<Exact>& stack)
 {
     if (step.kind == FormulaStep::Kind::Number)

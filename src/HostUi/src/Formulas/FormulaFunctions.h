@@ -9,16 +9,16 @@
 namespace vesk
 {
 
-/// A function that may be typed.
+/// A function that can be typed.
 struct FormulaFunction
 {
-    /// How its argument and its result hang together.
+    /// How its result relates to its argument.
     enum class Rule
     {
-        Keeps,   ///< The result is what the argument is.
-        Halves,  ///< The argument is the square of what the result is.
+        Keeps,   ///< The result has the argument's dimension.
+        Halves,  ///< The result has the square root of the argument's dimension.
         OfAngle, ///< The argument is an angle, the result a number.
-        ToAngle, ///< The other way round.
+        ToAngle, ///< The argument is a number, the result an angle.
     };
 
     const char* name; ///< As typed.
@@ -27,11 +27,11 @@ struct FormulaFunction
     double (*pCompute)(double);
     Rule rule;
 
-    /// What the result is; nothing when it cannot be.
+    /// The dimension of the result; nothing if the argument's is invalid.
     std::optional<Dimension> ResultOf(const Dimension& argument) const;
 };
 
-/// The function of that name, null when there is none.
+/// The function of that name; null if there is none.
 const FormulaFunction* FindFunction(const QString& name);
 
 }

@@ -11,7 +11,7 @@ namespace vesk
 namespace
 {
 
-/// Beyond it a formula of lengths makes no sense, and a power would leave the doubles.
+/// Beyond it a formula of lengths makes no sense, and a power would exceed the range of doubles.
 constexpr int GreatestPower = 6;
 
 using Operation = FormulaStep::Kind;
@@ -21,7 +21,7 @@ bool IsWholeNumber(const FormulaToken& token)
     return token.kind == FormulaToken::Kind::Number && token.number.isInteger;
 }
 
-/// The power that a whole number says; nothing for any other, and for a greater one.
+/// The power given by an integer token; nothing for any other token or a greater power.
 std::optional<int> FindSmallPower(const FormulaToken& token)
 {
     bool isNumber = false;
@@ -94,7 +94,7 @@ FormulaReader::Result FormulaReader::ReadFactor(bool maySign)
     Result operand = ReadOperand();
     if (operand.has_value() && Peek().Is('^'))
     {
-        // Is -2^2 four or minus four, and 3cm^2 the square of 3 cm? It depends on whom you ask.
+        // Is -2^2 four or minus four, and 3cm^2 the square of 3 cm? Opinions differ.
         if (isSigned || operand->isQuantity)
             return Fail(TypedTextFault::Ambiguous);
         operand = ReadPower(*operand);
@@ -124,7 +124,7 @@ FormulaReader::Result FormulaReader::ReadPower(const Part& base)
     return Part{{base.dimension.length * times, base.dimension.angle * times}, base.namesUnit};
 }
 
-/// No unit belongs to a bare exponent: (3cm)^2/4cm is nine quarters of a centimetre.
+/// A bare exponent takes no unit: (3cm)^2/4cm is nine quarters of a centimetre.
 FormulaReader::Result FormulaReader::ReadExponent()
 {
     if (Peek().kind != FormulaToken::Kind::Number || Peek().number.hasComma)
@@ -154,7 +154,7 @@ FormulaReader::Result FormulaReader::ReadOperand()
 FormulaReader::Result FormulaReader::ReadLiteral()
 {
     const DecimalNumber& number = Peek().number;
-    // In a function's parentheses a comma may be meant to part two arguments.
+    // In a function's parentheses a comma may be meant to separate two arguments.
     if (number.hasComma && m_functionDepth > 0)
         return Fail(TypedTextFault::AmbiguousComma);
     const bool isFraction = IsFraction(0);
@@ -172,8 +172,8 @@ FormulaReader::Result FormulaReader::ReadLiteral()
     return pUnit->IsFoot() ? ReadInches(part) : part;
 }
 
-/// Feet and inches stand side by side. With a dash between them they are one length for builders
-/// and a difference for everybody else.
+/// Feet and inches are written side by side. With a dash between them they are one length to
+/// builders and a difference to everybody else.
 FormulaReader::Result FormulaReader::ReadInches(const Part& feet)
 {
     if (Peek().Is('-') && IsInches(1))
@@ -199,7 +199,7 @@ FormulaReader::Result FormulaReader::ReadParentheses()
     return sum;
 }
 
-/// A unit may follow what stands in parentheses.
+/// A unit may follow an expression in parentheses.
 FormulaReader::Result FormulaReader::ReadUnitAfter(const Part& part)
 {
     const FormulaUnit* pUnit = FindUnit(Peek());
@@ -220,7 +220,7 @@ FormulaReader::Result FormulaReader::ReadName()
     if (name != QLatin1String("pi"))
         return Fail(FindUnit(Peek()) != nullptr ? TypedTextFault::NotANumber
                                                 : TypedTextFault::UnknownName);
-    // Half a pi of what? An angle's field is in degrees.
+    // Pi of what? An angle field is in degrees.
     if (m_quantity == Quantity::Angle)
         return Fail(TypedTextFault::AngleUnit);
     ++m_position;
@@ -248,7 +248,7 @@ FormulaReader::Result FormulaReader::ReadFunction(const FormulaFunction& functio
     return Part{*dimension, argument->namesUnit && !isTrigonometric};
 }
 
-/// A formula that names units has to come to the field's.
+/// A formula that names units must have the field's dimension.
 bool FormulaReader::IsOfField(const Part& part)
 {
     constexpr Dimension Length{1, 0};
@@ -263,7 +263,7 @@ bool FormulaReader::IsOfField(const Part& part)
     return false;
 }
 
-/// Two whole numbers with a unit behind them: half an inch, not one by two inches.
+/// Two integers followed by a unit: 1/2" is half an inch, not 1 divided by 2".
 bool FormulaReader::IsFraction(std::size_t ahead) const
 {
     return IsWholeNumber(Peek(ahead)) && Peek(ahead + 1).Is('/') &&
@@ -296,7 +296,7 @@ FormulaReader::Result FormulaReader::Fail(TypedTextFault fault)
     return std::nullopt;
 }
 
-/// The token does not belong where it stands.
+/// The current token is out of place.
 FormulaReader::Result FormulaReader::FailAtToken()
 {
     const FormulaToken& token = Peek();
@@ -317,7 +317,7 @@ void FormulaReader::Emit(Operation operation)
     m_steps.push_back({operation, {}});
 }
 
-/// The value on top of the stack is so many of the unit.
+/// Converts the value on top of the stack from the unit.
 FormulaReader::Part FormulaReader::Scale(const FormulaUnit& unit)
 {
     Push({std::to_string(unit.tenths), -1});

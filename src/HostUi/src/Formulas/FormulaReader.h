@@ -18,9 +18,9 @@ struct FormulaStep
 {
     enum class Kind
     {
-        Number, ///< Puts a number on the stack.
+        Number, ///< Pushes a number.
 
-        // The others take one or two values from it and put their result there.
+        // The others pop one or two values and push their result.
         Negate,
         Add,
         Subtract,
@@ -35,39 +35,39 @@ struct FormulaStep
     const FormulaFunction* pFunction = nullptr;
 };
 
-/// How a formula is computed; one value remains in the end.
+/// How to compute a formula; one value remains at the end.
 struct CheckedFormula
 {
     std::vector<FormulaStep> steps;
 
-    /// Whether that value is in millimetres: the formula names units. Else it is an angle in
-    /// degrees or a bare number, which is in the unit of the field.
+    /// Whether that value is in millimetres because the formula names units. Otherwise it is an
+    /// angle in degrees, or a bare number in the unit of the field.
     bool isInMillimetres = false;
 };
 
-/// Reads a formula and finds what it is: a length, an angle or a number.
+/// Parses a formula and determines its dimension: a length, an angle or a number.
 ///
-/// It takes only what everybody reads alike. Where programs or trades differ (is -2^2 four, is
+/// It accepts only what everybody reads alike. Where programs or trades differ (is -2^2 four, is
 /// 10'-6" less than ten feet?) the formula is a fault.
 class FormulaReader
 {
 public:
     FormulaReader(std::vector<FormulaToken> tokens, Quantity quantity);
 
-    /// The formula of the field's quantity; nothing when there is a fault.
+    /// The formula, checked against the field's quantity; nothing if there is a fault.
     std::optional<CheckedFormula> Read();
     TypedTextFault GetFault() const { return m_fault; }
 
 private:
-    /// A part that was read.
+    /// A part of the formula.
     struct Part
     {
         Dimension dimension;
 
-        /// A unit was written in it, and it is no result of an angle's function.
+        /// It names a unit outside the argument of a trigonometric function.
         bool namesUnit = false;
 
-        /// A number that its unit follows.
+        /// A number followed by its unit.
         bool isQuantity = false;
     };
 

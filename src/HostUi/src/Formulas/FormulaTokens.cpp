@@ -11,7 +11,7 @@ namespace vesk
 namespace
 {
 
-/// A text of several screens is nothing that anybody typed.
+/// Nobody types a text of several screens.
 constexpr int LongestText = 300;
 
 const QRegularExpression& NumberPattern()
@@ -34,14 +34,14 @@ bool IsUnitMark(QChar character)
            character == QChar(0xb0);
 }
 
-/// One to three digits, a comma and three digits are also how thousands are written.
+/// One to three digits, a comma and three digits may also be thousands.
 bool CanBeThousands(const QString& whole, const QString& fraction)
 {
     return !whole.isEmpty() && whole.size() <= 3 && !whole.startsWith(QLatin1Char('0')) &&
            fraction.size() == 3;
 }
 
-/// A number of these digits times a power of ten; nothing when no double comes near it.
+/// These digits times a power of ten; nothing if that is out of the range of doubles.
 std::optional<DecimalNumber> MakeNumber(QString text, const QString& digits, int exponent)
 {
     const std::string plain =
@@ -55,7 +55,7 @@ std::optional<DecimalNumber> MakeNumber(QString text, const QString& digits, int
     return number;
 }
 
-/// The number at the beginning of a text.
+/// The number at a position of a text.
 std::optional<FormulaToken> TakeNumber(const QString& text, int position, TypedTextFault& fault)
 {
     const QRegularExpressionMatch match = NumberPattern().match(
@@ -84,7 +84,7 @@ std::optional<FormulaToken> TakeNumber(const QString& text, int position, TypedT
     return token;
 }
 
-/// The piece at a position that is no blank.
+/// The token at a position that is not a blank.
 std::optional<FormulaToken> TakeToken(const QString& text, int position, TypedTextFault& fault)
 {
     const QChar first = text[position];

@@ -11,23 +11,23 @@
 namespace vesk
 {
 
-/// A number without a sign, as it was written in decimal digits: digits * 10^exponent.
+/// An unsigned number as written in decimal digits: digits * 10^exponent.
 struct DecimalNumber
 {
     std::string digits; ///< At least one.
-    int exponent = 0;   ///< Of a size that doubles have, but for zero, where it says nothing.
+    int exponent = 0;   ///< Within the range of doubles; meaningless for zero.
 
-    bool isInteger = false; ///< Nothing but digits.
+    bool isInteger = false; ///< Digits only.
     bool hasComma = false;
 };
 
-/// A piece of a formula.
+/// A token of a formula.
 struct FormulaToken
 {
     enum class Kind
     {
         Number,
-        Name,   ///< Letters, or the mark of a unit: ' " or a degree sign.
+        Name,   ///< Letters, or the symbol of a unit: ' " or a degree sign.
         Symbol, ///< One of + - * / ^ ( ).
         End,
     };
@@ -39,7 +39,7 @@ struct FormulaToken
     bool Is(char symbol) const { return kind == Kind::Symbol && text == QLatin1Char(symbol); }
 };
 
-/// The pieces of a text, an End last; nothing, and a fault, where it cannot be one formula.
+/// Splits a text into tokens, with an End last; nothing, and a fault, if it cannot be a formula.
 std::optional<std::vector<FormulaToken>> SplitFormula(const QString& text, TypedTextFault& fault);
 
 }

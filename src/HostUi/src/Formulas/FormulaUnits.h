@@ -5,7 +5,7 @@
 namespace vesk
 {
 
-/// What a part of a formula is: a number, an angle, or a length to some power.
+/// The dimension of a part of a formula: its powers of length and angle, both 0 for a number.
 struct Dimension
 {
     int length = 0;
@@ -25,18 +25,17 @@ struct FormulaUnit
     const char16_t* name;
     Dimension dimension;
 
-    /// How long it is, in tenths of a millimetre, or how great, in tenths of a degree: whole for
-    /// every one.
+    /// Its size in tenths of a millimetre or of a degree, an integer for every unit.
     int tenths;
 
     bool IsFoot() const;
     bool IsInch() const;
 };
 
-/// The unit of that name; null for any other token.
+/// The unit that the token names; null for any other token.
 const FormulaUnit* FindUnit(const FormulaToken& token);
 
-/// Whether a text is the name of a unit, or its beginning, also where it is written in capitals.
+/// Whether a text is the name of a unit, or the beginning of one, ignoring case.
 bool IsUnit(const QString& text);
 bool BeginsUnit(const QString& text);
 

@@ -15,7 +15,7 @@ namespace vesk
 namespace
 {
 
-/// What the handlers read by themselves.
+/// The numbers that the handlers read themselves.
 bool IsPlain(const QString& text)
 {
     static const QRegularExpression s_pattern(

@@ -46,7 +46,7 @@ QWidget* CurrentViewWidget()
     return pView != nullptr ? QWidget::find(pView->GetWindowId()) : nullptr;
 }
 
-/// An Escape that was kept: ends the input or, when there is none, is the action's.
+/// Delivers a held Escape: ends the input or, if there is none, goes to the action.
 void TakeEscape()
 {
     if (Manager().IsInputting())
@@ -55,7 +55,7 @@ void TakeEscape()
         ActionManager::ProcessEscape(UiDocumentViewManager::FindCurrentView());
 }
 
-/// Why the action cannot use a value of a field; empty when it can.
+/// Why the action cannot use a value of a field; empty if it can.
 QString AskAction(InputState field, double modelValue)
 {
     IAction* pAction = IActionManager::CurrentAction();
@@ -64,7 +64,7 @@ QString AskAction(InputState field, double modelValue)
 
 }
 
-/// The time in which a key that was judged is on its way to the handler: it is not judged again.
+/// Marks a judged key as being delivered to the handler, so that it is not judged again.
 class DimensionInputController::Delivery
 {
 public:
@@ -114,11 +114,11 @@ bool DimensionInputController::OnViewKey(QKeyEvent& event)
     {
         m_pClicked.clear();
         QCoreApplication::sendEvent(pEditor, &event);
-        // What the editor leaves would be offered to the window, too.
+        // A key that the editor ignores would also be offered to the window.
         event.accept();
         return true;
     }
-    // Left over, it would be offered to the window, which moves the focus.
+    // If ignored, it would be offered to the window, which moves the focus.
     if (event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab)
         return IActionManager::CurrentAction() != nullptr;
     if (event.key() != Qt::Key_Escape)
@@ -177,7 +177,7 @@ void DimensionInputController::OnUiObject(const IJournalUiObject& object, int ki
     auto* pEditor = qobject_cast<QLineEdit*>(*ppObject);
     if (pEditor == nullptr || pEditor == m_pEditor)
         return;
-    // An input method would keep letters to itself, and no value is written with one.
+    // An input method would swallow letters, and no value needs one.
     pEditor->setAttribute(Qt::WA_InputMethodEnabled, false);
     m_pEditor = pEditor;
     new EditorKeyboard(*pEditor);
@@ -227,7 +227,7 @@ void DimensionInputController::NoteCursor(const QObject* pWatched, const QEvent&
         m_cursor = static_cast<const QMouseEvent&>(event).pos();
 }
 
-/// Any click decides about letters that may become a unit, before it is heard of.
+/// Any click decides about letters that may become a unit, before it is delivered.
 void DimensionInputController::NoteClick(QObject* pWatched, const QEvent& event)
 {
     if (event.type() != QEvent::MouseButtonPress && event.type() != QEvent::MouseButtonDblClick)
@@ -237,7 +237,7 @@ void DimensionInputController::NoteClick(QObject* pWatched, const QEvent& event)
     EndLateUnit();
 }
 
-/// So does a key that is somebody's shortcut: the view does not hear of it.
+/// So does a key that is a shortcut, which the view never receives.
 void DimensionInputController::NoteOtherKey(const QEvent& event)
 {
     if (event.type() != QEvent::ShortcutOverride)
@@ -257,7 +257,7 @@ bool DimensionInputController::FilterEditorEvent(QEvent& event)
     case QEvent::KeyRelease:
         return (GetActiveEditor() == nullptr || FindOtherField() != nullptr) && PassOn(event);
     case QEvent::Close:
-        // Hidden by itself, it would go on taking keys unseen.
+        // Hidden on its own, it would go on receiving keys unseen.
         event.ignore();
         Manager().EndInput();
         return true;
@@ -281,13 +281,13 @@ void DimensionInputController::OnEditorHidden()
     if (!Manager().IsInputting())
         Manager().SetEditorWidth(0);
     m_pClicked.clear();
-    // Without a window manager nobody else gives the keyboard back.
+    // Without a window manager nothing else returns the keyboard.
     IUiView* pView = UiDocumentViewManager::FindCurrentView();
     if (pView != nullptr && QGuiApplication::applicationState() == Qt::ApplicationActive)
         pView->Activate();
 }
 
-/// True when the key goes no further.
+/// True if the key goes no further.
 bool DimensionInputController::FilterEditorKey(QKeyEvent& event)
 {
     if (&event == m_pDelivered)
@@ -306,7 +306,7 @@ bool DimensionInputController::FilterEditorKey(QKeyEvent& event)
     const InputField field = Manager().GetInputField();
     if (event.key() == Qt::Key_Backtab && TakesValue(field, Qt::Key_Tab))
     {
-        // There are two fields: back is on.
+        // With two fields, backwards is the same as forwards.
         QKeyEvent tab(event.type(), Qt::Key_Tab, Qt::NoModifier, event.text());
         QCoreApplication::sendEvent(pEditor, &tab);
         return true;
@@ -317,7 +317,7 @@ bool DimensionInputController::FilterEditorKey(QKeyEvent& event)
     return true;
 }
 
-/// Judges what stands in the editor and, where it can be taken, lets the handler take it.
+/// Judges the text in the editor and, if it is accepted, lets the handler commit it.
 void DimensionInputController::TakeValue(QLineEdit& editor, QKeyEvent& event,
                                          const InputField& field)
 {
@@ -343,7 +343,7 @@ void DimensionInputController::TakeValue(QLineEdit& editor, QKeyEvent& event,
     QCoreApplication::sendEvent(&editor, &event);
 }
 
-/// The field in which the user goes on typing instead of the editor; null when there is none.
+/// The other text field into which the user now types; null if there is none.
 QWidget* DimensionInputController::FindOtherField() const
 {
     const QWidget* pView = CurrentViewWidget();
@@ -352,8 +352,7 @@ QWidget* DimensionInputController::FindOtherField() const
     return FindTextField(m_pClicked != nullptr ? *m_pClicked : *pView->window(), m_pEditor);
 }
 
-/// Passes on a key that arrived in the editor and is not for it: the window system gives the
-/// keyboard away late.
+/// Forwards a key in the editor that is not for it: the window system moves the keyboard late.
 bool DimensionInputController::PassOn(QEvent& event)
 {
     QWidget* pField = FindOtherField();
@@ -363,8 +362,7 @@ bool DimensionInputController::PassOn(QEvent& event)
     return true;
 }
 
-/// True for a key that may be part of a unit typed after a blank that took the value. Any other,
-/// unless it only modifies one, is not judged before those that were kept for a unit.
+/// True for a key kept for a late unit; any other, unless a modifier, delivers the kept ones first.
 bool DimensionInputController::KeepsForUnit(const QKeyEvent& event)
 {
     if (!m_pLateUnit->IsAwaited() || IsModifierKey(event))
@@ -380,15 +378,14 @@ bool DimensionInputController::KeepsForUnit(const QKeyEvent& event)
     return true;
 }
 
-/// Hands on what was kept for a unit and is none.
+/// Delivers the keys that were kept for a unit but are not one.
 void DimensionInputController::EndLateUnit()
 {
     for (QKeyEvent& key : m_pLateUnit->End())
         OnViewKey(key);
 }
 
-/// Puts a number in the place of what comes to one, and gives the value that is meant, in model
-/// units. What is refused, by the action too, stays, selected; there is no value then.
+/// Returns the model value and puts its number into the editor; only selects a rejected text.
 std::optional<double> DimensionInputController::Accept(QLineEdit& editor, const InputField& field)
 {
     const InputVerdict verdict = JudgeInput(editor.text(), field, LengthUnit::GetCurrent());
@@ -403,13 +400,13 @@ std::optional<double> DimensionInputController::Accept(QLineEdit& editor, const 
     return m_refusal.isEmpty() ? verdict.modelValue : std::nullopt;
 }
 
-/// Keeps a key that is meant for a command which has not begun yet.
+/// Holds a key that is meant for a command that has not begun yet.
 void DimensionInputController::HoldKey(QKeyEvent& event)
 {
     event.accept();
     if (event.key() == Qt::Key_Escape)
     {
-        // Judged now: its release will not wait.
+        // Checked now, because its release will not wait.
         if (m_pEscape->Press(event))
             ActionManager::HoldInput(&TakeEscape);
         return;
@@ -424,7 +421,7 @@ void DimensionInputController::HoldKey(QKeyEvent& event)
     });
 }
 
-/// False for a key that can open no input.
+/// False for a key that cannot open an input.
 bool DimensionInputController::OpenInput(const QKeyEvent& event)
 {
     const int virtualKey = ToVirtualKey(event);
@@ -437,7 +434,7 @@ bool DimensionInputController::OpenInput(const QKeyEvent& event)
         return virtualKey != 0;
     if (Manager().IsInputting())
         return true;
-    // Opened as by a digit, in whose place the character is put.
+    // Opened as if by a digit, which the character then replaces.
     Manager().OnKeyDown('0', false, false, false);
     if (QLineEdit* pEditor = GetActiveEditor())
         pEditor->setText(event.text());
@@ -461,7 +458,7 @@ void DimensionInputController::OnTextEdited()
     UpdateNotes();
 }
 
-/// Makes the editor as wide as its text needs. The generators must know: they place it.
+/// Makes the editor as wide as its text needs; the generators, which position it, must know.
 void DimensionInputController::FitEditor()
 {
     QLineEdit* pEditor = GetActiveEditor();

@@ -17,7 +17,7 @@ EditorKeyboard::EditorKeyboard(QWidget& editor) : QObject(&editor), m_editor(edi
 
 bool EditorKeyboard::eventFilter(QObject* pWatched, QEvent* pEvent)
 {
-    // The window may be another one than the last time.
+    // It may be a different window from the last time.
     if (pEvent->type() == QEvent::Show)
         WatchWindow();
     return QObject::eventFilter(pWatched, pEvent);
@@ -30,7 +30,7 @@ void EditorKeyboard::WatchWindow()
                 Qt::UniqueConnection);
 }
 
-/// The window says so before the window system hears of it.
+/// Emitted before the window system is told.
 void EditorKeyboard::OnVisibleChanged(bool isVisible)
 {
     const QWidget* pView = m_editor.parentWidget();

@@ -9,7 +9,7 @@ namespace vesk
 namespace
 {
 
-/// The look of a note; colours that are no palette's are readable on every one.
+/// The look of a note; colours that are not from the palette are readable with any palette.
 struct NoteKind
 {
     const char* name;
@@ -33,7 +33,7 @@ QLabel* MakeNote(const NoteKind& kind, QWidget& view)
     return pNote;
 }
 
-/// True for a note that is to be shown.
+/// Returns true if the note must be shown.
 bool Prepare(QPointer<QLabel>& pNote, const NoteKind& kind, const QString& text, QWidget& view)
 {
     if (pNote != nullptr && pNote->parentWidget() != &view)

@@ -11,8 +11,8 @@ namespace vesk
 
 struct EditorScene;
 
-/// What stands beside the editor of a value: why its text was refused, what the text comes to, and
-/// what the keys do. An empty text is not shown.
+/// The notes beside the editor: why its text was rejected, the value of the text, and what the keys
+/// do. An empty note is not shown.
 struct NoteTexts
 {
     QString refusal;
@@ -20,7 +20,7 @@ struct NoteTexts
     QString keys;
 };
 
-/// Shows the notes over a view. They take neither the keyboard nor the mouse.
+/// Shows the notes over a view. They accept neither keyboard nor mouse input.
 class EditorNotes
 {
 public:
@@ -31,7 +31,7 @@ public:
     void Hide();
 
 private:
-    /// Children of the view that they were last shown on.
+    /// Children of the view on which they were last shown.
     QPointer<QLabel> m_pRefusal;
     QPointer<QLabel> m_pValue;
     QPointer<QLabel> m_pKeys;

@@ -15,7 +15,7 @@ namespace
 /// Border, margins and cursor of the editor.
 constexpr int Frame = 16;
 
-/// What stays free of the view on either side.
+/// The part of the view that stays free on either side.
 constexpr int ViewMargin = 4;
 
 }

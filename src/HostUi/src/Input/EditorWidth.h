@@ -6,8 +6,8 @@ class QWidget;
 namespace vesk
 {
 
-/// How wide the editor of a value must be to show its whole text, as far as its view is that wide;
-/// 0 where it is wide enough as it opens.
+/// The width that the editor needs to show its whole text, limited by the view; 0 if its opening
+/// width is enough.
 int FindEditorWidth(QLineEdit& editor, const QWidget& view);
 
 }

@@ -5,11 +5,11 @@
 namespace vesk
 {
 
-/// The toolkit does not mark every repetition: a release that is read before its press looks like
-/// the end. The two then bear the same time, which no finger can do.
+/// The toolkit does not mark every auto-repeat: a release that is read before its press looks like
+/// the end. Both then carry the same timestamp, which no finger can achieve.
 bool EscapeKey::Press(const QKeyEvent& event)
 {
-    // The press that an editor hands on to its view is still the same.
+    // The press that an editor forwards to its view is still the same press.
     if (m_isDown && event.timestamp() == m_pressTime)
         return false;
     const bool isTornPair = event.timestamp() != 0 && event.timestamp() == m_releaseTime;
@@ -27,8 +27,9 @@ void EscapeKey::Release(const QKeyEvent& event)
     m_releaseTime = event.timestamp();
 }
 
-/// While the keyboard goes from one window to another a release may be lost: that of a repetition,
-/// or that of a finger, which may press again sooner than the first repetition comes.
+/// While the keyboard moves from one window to another a release may be lost: that of an
+/// auto-repeat, or a real one, after which the user may press again sooner than the first
+/// auto-repeat would come.
 bool EscapeKey::IsHeld(const QKeyEvent& event) const
 {
     constexpr unsigned long ShortestDelayMs = 150;

@@ -5,24 +5,24 @@ class QKeyEvent;
 namespace vesk
 {
 
-/// Tells the presses of Escape from its repetitions: a key that is held down was meant once.
+/// Distinguishes presses of Escape from auto-repeats: a key held down is meant once.
 class EscapeKey
 {
 public:
-    /// Hears of a press. True when it is a new one.
+    /// Receives a press. Returns true if it is a new one.
     bool Press(const QKeyEvent& event);
 
-    /// Hears of the release of any key.
+    /// Receives the release of any key.
     void Release(const QKeyEvent& event);
 
 private:
     bool IsHeld(const QKeyEvent& event) const;
 
-    /// Whether it was pressed and its release has not come yet, and whether it repeats itself.
+    /// Whether it was pressed and not released yet, and whether it is auto-repeating.
     bool m_isDown = false;
     bool m_isRepeating = false;
 
-    /// The window system's times of its last press and release.
+    /// The window system's timestamps of its last press and release.
     unsigned long m_pressTime = 0;
     unsigned long m_releaseTime = 0;
 };

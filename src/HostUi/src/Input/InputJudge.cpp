@@ -18,7 +18,8 @@ QString DescribeRange(const Intervald& range)
         .arg(QString::number(range.GetMin(), 'g', 12), QString::number(range.GetMax(), 'g', 12));
 }
 
-/// As dimensions show it, without zeros at the end; with some digits where none would be left.
+/// As dimensions show it, without trailing zeros; with a few significant digits if it would round
+/// to zero.
 QString Round(double value, Quantity quantity)
 {
     constexpr int FewDigits = 3;

@@ -30,7 +30,7 @@ int ToVirtualKey(const QKeyEvent& event)
     if (key == Qt::Key_Minus)
         return VirtualMinus;
 
-    // What Shift and the comma key give on real keyboards.
+    // What Shift+comma gives on real keyboards.
     const bool isShift = event.modifiers() & Qt::ShiftModifier;
     const bool isShiftedComma = isShift && (key == Qt::Key_Less || key == Qt::Key_Semicolon);
     return key == Qt::Key_Comma || isShiftedComma ? VirtualComma : 0;
@@ -38,7 +38,7 @@ int ToVirtualKey(const QKeyEvent& event)
 
 bool IsModifierKey(const QKeyEvent& event)
 {
-    // From Shift on: Ctrl, Meta, Alt and the locks.
+    // Shift, Ctrl, Meta, Alt and the lock keys.
     return (event.key() >= Qt::Key_Shift && event.key() <= Qt::Key_ScrollLock) ||
            event.key() == Qt::Key_AltGr;
 }

@@ -7,7 +7,7 @@ namespace vesk
 
 struct InputField;
 
-/// Codes of keys as dimension handlers take them (ITemporaryDimensionHandler).
+/// Key codes as dimension handlers expect them (ITemporaryDimensionHandler).
 enum VirtualKey : int
 {
     VirtualKeypad0 = 96,
@@ -17,16 +17,16 @@ enum VirtualKey : int
 };
 
 /// The code for a key of the view, digits and capital letters as themselves; 0 for a key that
-/// handlers do not take. With Ctrl or Meta a key belongs to the shortcuts: 0.
+/// handlers do not use, and with Ctrl or Meta, which make it a shortcut.
 int ToVirtualKey(const QKeyEvent& event);
 
-/// True for a key that does nothing alone: Shift, Ctrl and the like.
+/// True for a key that does nothing on its own: Shift, Ctrl and the like.
 bool IsModifierKey(const QKeyEvent& event);
 
 /// True for a printable character that can begin a value: the key may open an input.
 bool CanBeginValue(const QKeyEvent& event);
 
-/// True for a key (Qt::Key) with which a field takes its value.
+/// True for a key (Qt::Key) that commits a field's value.
 bool TakesValue(const InputField& field, int key);
 
 }

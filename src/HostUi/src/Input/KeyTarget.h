@@ -6,12 +6,11 @@ class QWidget;
 namespace vesk
 {
 
-/// The widget of a window that has its focus and takes text; null when that is another one, or
-/// `pEditor`.
+/// The focus widget of a window if it accepts text and is not `pEditor`; otherwise null.
 QWidget* FindTextField(const QWidget& window, const QWidget* pEditor);
 
-/// Sends a key that arrived elsewhere to a widget: through its window, where others listen, if the
-/// widget has its focus.
+/// Sends a key that arrived elsewhere to a widget; through its window, where others listen, if the
+/// widget has the window's focus.
 void SendKeyTo(QWidget& widget, QEvent& event);
 
 }

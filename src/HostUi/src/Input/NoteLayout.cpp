@@ -9,7 +9,7 @@ namespace
 
 constexpr int Gap = 4;
 
-/// Room for the cross of the cursor.
+/// Space for the cross of the cursor.
 constexpr int CursorReach = 14;
 
 enum class Side
@@ -18,7 +18,7 @@ enum class Side
     Top,
 };
 
-/// A position, and all at which something of that length touches what is taken.
+/// A coordinate, and all those at which something of that length adjoins an occupied rectangle.
 std::vector<int> FindStops(int position, int length, const std::vector<QRect>& taken, Side side)
 {
     std::vector<int> stops{position};
@@ -72,7 +72,7 @@ QRect NoteLayout::Place(const QRect& wanted)
     return m_taken.back();
 }
 
-/// The nearest free place is the wanted one inside the view, or touches something.
+/// The nearest free position is the preferred one, clamped to the view, or adjoins something.
 std::optional<QRect> NoteLayout::FindNearest(const QRect& wanted, const Rects& taken) const
 {
     const QPoint clamped = Clamp(wanted);

@@ -10,7 +10,7 @@
 namespace vesk
 {
 
-/// What a view shows about an editor, in the view's pixels.
+/// What a view shows around an editor, in the view's pixels.
 struct EditorScene
 {
     QSize view;
@@ -19,16 +19,16 @@ struct EditorScene
     std::vector<QRect> texts;     ///< Of the dimensions.
 };
 
-/// Where something may stand that belongs to the editor: the nearest free place to the one that is
-/// wanted, inside the view, off the editor, off the cursor and off what was placed before. Where
-/// there is room, off the dimensions' texts too.
+/// Positions notes that belong to the editor: as near as possible to the preferred position, inside
+/// the view, clear of the editor, the cursor and earlier notes. If there is room, clear of the
+/// dimensions' texts too.
 class NoteLayout
 {
 public:
     explicit NoteLayout(const EditorScene& scene);
 
-    /// Finds the place of a note of that size. Where there is no room, it is inside the view as far
-    /// as it can be.
+    /// Positions a note of that size. If there is no room, it is kept inside the view as far as
+    /// possible.
     QRect PlaceBelow(const QSize& size);
     QRect PlaceBeside(const QSize& size);
 
@@ -42,7 +42,7 @@ private:
     QRect m_view;
     QRect m_editor;
 
-    /// What the notes keep off, and what they would rather not cover.
+    /// What the notes must not cover, and what they should not cover if there is room.
     Rects m_taken;
     Rects m_texts;
 };

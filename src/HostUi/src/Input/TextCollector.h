@@ -18,7 +18,7 @@ class IUiView;
 /// The boxes of the provisional dimensions' texts in a view, in pixels of its widget.
 std::vector<QRect> FindDimensionTexts(const IUiView& view, const QWidget& widget);
 
-/// Finds where the texts among graphics nodes stand in a view.
+/// Finds the positions of the texts among graphics nodes in a view.
 class TextCollector final : public IGraphicsNodeVisitor
 {
 public:
@@ -29,7 +29,7 @@ public:
     void Visit(const IGraphicsArc&) override {}
     void Visit(const IGraphicsText& text) override;
 
-    /// The box about a text, in the view's pixels.
+    /// The box around a text, in the view's pixels.
     QRectF BoxOf(const IGraphicsText& text) const;
 
     const std::vector<QRect>& GetBoxes() const { return m_boxes; }

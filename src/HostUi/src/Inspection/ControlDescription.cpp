@@ -54,7 +54,7 @@ bool IsOnScreen(const QWidget& widget)
     return widget.isVisible() && !widget.visibleRegion().isEmpty();
 }
 
-/// What hangs on something disabled cannot be used.
+/// A widget inside a disabled one cannot be used.
 bool IsReachable(const QWidget* pWidget)
 {
     while (pWidget != nullptr && pWidget->isEnabled())
@@ -69,7 +69,7 @@ void DescribeWidget(const QWidget& widget, Json& control)
     control["enabled"] = widget.isEnabled();
 }
 
-/// Where an action is on screen. Only the entries of an open menu have a place.
+/// The position of an action on screen. Only entries of an open menu have one.
 void DescribePlace(QAction& action, Json& control)
 {
     for (const QWidget* pWidget : action.associatedWidgets())
@@ -89,7 +89,7 @@ void DescribeAction(QAction& action, Json& control)
     DescribePlace(action, control);
 }
 
-/// A closed menu is where the entry is that opens it.
+/// A closed menu is where the entry that opens it is.
 void DescribeClosedMenu(const QMenu& menu, Json& control)
 {
     control["rect"] = nullptr;
@@ -116,7 +116,7 @@ Json DescribeControl(QObject& object)
     control["text"] = ShownText(object).toStdString();
     control["rect"] = nullptr;
     control["visible"] = false;
-    // What is no widget, a group of buttons, can be used where what holds it can be.
+    // A button group, which is not a widget, can be used if its parent can.
     control["enabled"] = IsReachable(qobject_cast<QWidget*>(object.parent()));
     if (const auto* pWidget = qobject_cast<const QWidget*>(&object))
         DescribeWidget(*pWidget, control);

@@ -9,7 +9,7 @@ class QWidget;
 namespace vesk
 {
 
-/// Where a part of a widget is on screen, as [x, y, width, height] in global device pixels.
+/// The position of a part of a widget on screen, as [x, y, width, height] in global device pixels.
 nlohmann::ordered_json DescribeRect(const QWidget& widget, const QRect& part);
 
 /// What the user sees of a control or a menu entry.

@@ -7,7 +7,7 @@ namespace vesk
 
 class IControlDefinition;
 
-/// What a control definition is and holds, for whoever debugs a host.
+/// The kind and value of a control definition, for debugging a host.
 struct DefinitionText
 {
     QString kind;

@@ -69,7 +69,7 @@ QString InputText(const DimensionInputController& input)
     return parts.join(QStringLiteral("，"));
 }
 
-/// Changes a text only where it differs: what is selected stays so.
+/// Changes a text only if it differs, so that a selection survives.
 void SetCell(QTreeWidgetItem& item, int column, const QString& text)
 {
     if (item.text(column) != text)
@@ -78,7 +78,7 @@ void SetCell(QTreeWidgetItem& item, int column, const QString& text)
 
 }
 
-/// Tells the inspector of the changes of one definition.
+/// Reports the changes of one definition to the inspector.
 class Inspector::Watch final : public IControlDefinitionChangeEventHandler
 {
 public:
@@ -149,7 +149,7 @@ void Inspector::UpdateStatus()
     ShowEvents();
 }
 
-/// Its event may not outlive it, and the next definition may stand in the same place.
+/// Its event may die with it, and the next definition may get the same address.
 void Inspector::OnControlRemoved(const IControlDefinition& definition)
 {
     m_watches.erase(&definition);
@@ -178,7 +178,7 @@ void Inspector::hideEvent(QHideEvent* pEvent)
     QWidget::hideEvent(pEvent);
 }
 
-/// Listens to definitions that are new.
+/// Listens to new definitions.
 void Inspector::Listen()
 {
     for (const IControlDefinition* pDefinition : m_pControls->GetDefinitions())
@@ -204,7 +204,7 @@ void Inspector::AddEvent(const std::wstring& id, const IControlDefinitionChangeE
         m_newEvents.removeFirst();
 }
 
-/// Goes along with the newest event, unless its reader has scrolled back.
+/// Scrolls to the newest event unless the user has scrolled back.
 void Inspector::ShowEvents()
 {
     if (m_newEvents.isEmpty())

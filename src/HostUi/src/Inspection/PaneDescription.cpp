@@ -50,7 +50,7 @@ const char* NameOf(Qt::DockWidgetArea area)
     }
 }
 
-/// Panes that share a place, without the pane itself.
+/// The panes tabbed with a pane, without the pane itself.
 QList<QDockWidget*> TabsBeside(const QMainWindow& window, const QDockWidget& pane)
 {
     return window.tabifiedDockWidgets(const_cast<QDockWidget*>(&pane));
@@ -62,7 +62,7 @@ bool IsInFront(const QDockWidget& pane)
     return pane.isFloating() || pane.geometry().right() >= 0;
 }
 
-/// The place of a pane behind another tab is that of the one in front.
+/// A pane behind another tab is where the one in front is.
 const QDockWidget& FrontOf(const QMainWindow& window, const QDockWidget& pane)
 {
     if (IsInFront(pane))

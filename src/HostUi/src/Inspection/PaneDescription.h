@@ -7,7 +7,7 @@ class QMainWindow;
 namespace vesk
 {
 
-/// Appends what the user sees of the window's panes, in the order of their names.
+/// Appends what the user sees of the window's panes, sorted by name.
 void DescribePanes(const QMainWindow& window, nlohmann::ordered_json& panes);
 
 }

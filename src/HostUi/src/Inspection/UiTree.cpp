@@ -74,7 +74,7 @@ Json DescribeEditor(const DimensionInputController& input)
             {"message", Utf8(input.GetMessage())}};
 }
 
-/// What the user is told in the current view.
+/// The prompt shown for the current view.
 std::string DescribeHint()
 {
     const auto* pDrawingView =

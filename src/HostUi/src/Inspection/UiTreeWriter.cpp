@@ -23,7 +23,7 @@ UiTreeWriter::UiTreeWriter(const QString& path, const DimensionInputController& 
                            EntityCount countEntities)
     : m_path(path), m_input(input), m_countEntities(std::move(countEntities))
 {
-    // A timer of zero comes round when nothing else waits.
+    // A zero timer fires when nothing else is pending.
     m_whenIdle.setInterval(0);
     m_atTheLatest.setInterval(LatestDelay);
     for (const QTimer* pTimer : {&m_whenIdle, &m_atTheLatest})
@@ -48,8 +48,8 @@ bool UiTreeWriter::Write()
 
 bool UiTreeWriter::eventFilter(QObject* pWatched, QEvent* pEvent)
 {
-    // Whatever changed, some event went before it. The timers run together, until Write stops both:
-    // their own events find them running.
+    // Every change follows some event. The timers run together until Write stops both; their own
+    // events find them running.
     if (m_atTheLatest.isActive())
         return false;
     m_whenIdle.start();

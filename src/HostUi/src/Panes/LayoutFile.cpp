@@ -47,7 +47,7 @@ bool Rewrite(const QString& path, const QByteArray& content)
     return RewriteFile(path.toStdString(), {content.data(), std::size_t(content.size())});
 }
 
-/// Keeps a copy of what is no layout of this version. False when that cannot be done.
+/// Keeps a copy of a file that is not a layout of this version. Returns false if that fails.
 bool KeepForeign(const QString& path)
 {
     const LayoutFile::Content content = LayoutFile::Read(path).content;

@@ -23,17 +23,16 @@ namespace vesk
 namespace
 {
 
-/// Of saveState's format here.
+/// The version of our saveState format.
 constexpr int StateVersion = 1;
 
-/// Of the stream that holds the toolkit's state and the places of floating panes.
+/// The version of the stream that holds the toolkit's state and the positions of floating panes.
 constexpr QDataStream::Version StreamVersion = QDataStream::Qt_5_12;
 
-/// What a pane's content needs to be of use, in pixels; however small the window is, it gets no
-/// less.
+/// The least usable size of a pane's content, in pixels; it gets no less however small the window.
 constexpr QSize LeastUsable(160, 60);
 
-/// How large a pane floats at most that nobody has given a size yet, in pixels.
+/// The greatest size of a floating pane that nobody has resized yet, in pixels.
 constexpr QSize GreatestAtFirst(480, 360);
 
 Qt::DockWidgetArea ToQt(DockArea area)
@@ -41,13 +40,13 @@ Qt::DockWidgetArea ToQt(DockArea area)
     return static_cast<Qt::DockWidgetArea>(area);
 }
 
-/// The direction in which an area is as wide as its panes.
+/// The direction in which an area's extent is that of its panes.
 Qt::Orientation AcrossOf(DockArea area)
 {
     return area == DockArea::Left || area == DockArea::Right ? Qt::Horizontal : Qt::Vertical;
 }
 
-/// The least extent of a content: its own, if somebody gave it one, else what is usable.
+/// The minimum extent of a content: its own, if one was set, else the usable one.
 int LeastExtent(int own, int hint, int usable)
 {
     if (own != 0 && own != usable)
@@ -55,7 +54,8 @@ int LeastExtent(int own, int hint, int usable)
     return hint < usable ? usable : 0;
 }
 
-/// Has the toolkit leave the pane a usable size. What the content needs may be more, and change.
+/// Makes the toolkit leave the pane a usable size. The content may need more, and its needs may
+/// change.
 void KeepUsable(const QDockWidget& pane)
 {
     QWidget* pContent = pane.widget();
@@ -67,7 +67,7 @@ void KeepUsable(const QDockWidget& pane)
                              LeastExtent(own.height(), hint.height(), LeastUsable.height()));
 }
 
-/// Qt keeps the window manager out while it drags a pane.
+/// Qt bypasses the window manager while it drags a pane.
 bool IsDragged(const QDockWidget& pane)
 {
     return pane.windowFlags().testFlag(Qt::X11BypassWindowManagerHint);
@@ -79,7 +79,7 @@ PaneLayout::PaneLayout(QMainWindow& window, IDockManager& docks, std::vector<Pan
     : m_window(window), m_docks(docks), m_places(std::move(places))
 {
     Prepare();
-    // Several signals tell of one change; only after the last is every screen where it will be.
+    // One change emits several signals; only after the last is every screen in position.
     m_reachCheck.setSingleShot(true);
     connect(&m_reachCheck, &QTimer::timeout, this, &PaneLayout::BringFloatingIntoReach);
     connect(qApp, &QGuiApplication::screenAdded, this, &PaneLayout::WatchScreen);
@@ -207,8 +207,8 @@ QDockWidget* PaneLayout::FindWidget(const std::wstring& name) const
     return dynamic_cast<QDockWidget*>(m_docks.GetDock(name));
 }
 
-/// Names the panes, by which the toolkit tells them apart, and listens to them. One that has left
-/// the manager is nobody's any more; those that never were the manager's keep the names they have.
+/// Sets the panes' object names, by which the toolkit tells them apart, and listens to them. A pane
+/// that has left the manager loses both; panes that never were the manager's keep their names.
 void PaneLayout::Prepare()
 {
     const std::vector<Pane> panes = FindPanes();
@@ -240,22 +240,23 @@ void PaneLayout::WatchScreen(QScreen* pScreen)
     check();
 }
 
-/// A pane that leaves its area has the size that it had there, as wide or as high as the window.
+/// A pane that leaves its area still has the size that it had there, as wide or as high as the
+/// window.
 void PaneLayout::OnFloated(bool isFloating)
 {
     auto& pane = static_cast<QDockWidget&>(*sender());
     m_floating.remove(pane.objectName());
     if (!isFloating || m_isApplying)
         return;
-    // Dragged, it is held by a point of its title that must not move away from the cursor.
+    // While dragged, it is held by a point of its title that must stay under the cursor.
     if (IsDragged(pane))
         m_pDragged = &pane;
     else
         Float(pane);
 }
 
-/// Gives a pane that has left its area the size at which it floated last, the first time one that
-/// is not the whole window's.
+/// Gives a pane that has left its area the size at which it last floated; the first time, one that
+/// does not span the window.
 void PaneLayout::Float(QDockWidget& pane)
 {
     const QSize first = pane.size().boundedTo(GreatestAtFirst).expandedTo(pane.minimumSizeHint());
@@ -264,7 +265,8 @@ void PaneLayout::Float(QDockWidget& pane)
     NoteSize(pane);
 }
 
-/// Gives a pane that the user has dragged out of its area its size, and leaves it under the cursor.
+/// Gives a pane that the user has dragged out of its area its floating size, and keeps it under the
+/// cursor.
 void PaneLayout::EndDrag()
 {
     QDockWidget* pPane = m_pDragged;
@@ -277,7 +279,7 @@ void PaneLayout::EndDrag()
     pPane->move(pPane->x() + held - held * pPane->width() / widthBefore, pPane->y());
 }
 
-/// Remembers the size of a pane that floats.
+/// Remembers the size of a floating pane.
 void PaneLayout::NoteSize(const QDockWidget& pane)
 {
     if (m_floating.contains(pane.objectName()) && pane.isFloating())
@@ -307,7 +309,7 @@ bool PaneLayout::Apply(const QByteArray& layout)
     return true;
 }
 
-/// Puts floating panes exactly where they were: the toolkit would push those that reach beyond the
+/// Restores the exact positions of floating panes: the toolkit pushes those that extend beyond the
 /// screen back into it.
 void PaneLayout::PlaceFloating(QMap<QString, QRect> places)
 {
@@ -317,7 +319,7 @@ void PaneLayout::PlaceFloating(QMap<QString, QRect> places)
         if (!place.isValid() || !pane.pDock->IsFloating())
             continue;
         pane.pWidget->setGeometry(place);
-        // It must not come up before the window.
+        // It must not appear before the window.
         if (m_window.isVisible() || pane.pDock->IsHidden())
             continue;
         pane.pDock->Hide();
@@ -326,7 +328,7 @@ void PaneLayout::PlaceFloating(QMap<QString, QRect> places)
     m_unknownPlaces = places;
 }
 
-/// Gives the panes of an area the same share of it.
+/// Gives the panes of an area equal shares of it.
 void PaneLayout::ShareOut(DockArea area, const QList<QDockWidget*>& panes)
 {
     const bool isSide = AcrossOf(area) == Qt::Horizontal;
@@ -338,7 +340,7 @@ void PaneLayout::ShareOut(DockArea area, const QList<QDockWidget*>& panes)
     m_window.resizeDocks(panes, sizes, isSide ? Qt::Vertical : Qt::Horizontal);
 }
 
-/// Puts panes to their factory places that the layout has left nowhere.
+/// Puts panes that the layout has left without an area into their default positions.
 void PaneLayout::PlaceLost()
 {
     for (const PanePlace& place : m_places)

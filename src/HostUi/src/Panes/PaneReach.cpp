@@ -14,25 +14,26 @@ namespace vesk
 namespace
 {
 
-/// How much of a title's width has to be on a screen, in pixels.
+/// How much of a title's width must be on a screen, in pixels.
 constexpr int LeastTitleWidth = 64;
 
-/// What counts as the title of a pane that has none.
+/// The height that counts as the title of a pane without one.
 constexpr int StripHeight = 32;
 
-/// What the user takes a floating pane by, in global pixels.
+/// The parts by which the user moves and closes a floating pane, in global pixels.
 struct Handle
 {
     QRect title;
-    QRect closeButton; ///< Empty where there is none.
+    QRect closeButton; ///< Empty if there is none.
 };
 
-/// Where the window system gives the pane a title: above it, the close button at its end.
+/// For a pane whose title the window system draws: above the pane, with the close button at its
+/// end.
 Handle HandleInFrame(const QDockWidget& pane)
 {
     const QRect inner = pane.geometry();
     const QRect frame = pane.frameGeometry();
-    // Before it is shown nobody knows the frame.
+    // The frame is unknown until the pane is shown.
     const int known = inner.top() - frame.top();
     const int height =
         known > 0 ? known : pane.style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &pane);
@@ -44,7 +45,7 @@ Handle HandleInFrame(const QDockWidget& pane)
     return {title, {left, title.top(), height, height}};
 }
 
-/// Where the pane has a title of its own: down to its content.
+/// For a pane with a title of its own: down to its content.
 Handle HandleInside(const QDockWidget& pane)
 {
     pane.layout()->activate();
@@ -76,7 +77,7 @@ bool IsSoOnAScreen(Condition condition)
     });
 }
 
-/// How far a place is from a screen; negative by the area that is on it.
+/// The distance of a rectangle from a screen; if they overlap, minus the common area.
 qint64 DistanceFrom(const QRect& screen, const QRect& place)
 {
     const QRect seen = screen & place;

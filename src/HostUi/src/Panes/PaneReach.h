@@ -7,12 +7,12 @@ class QDockWidget;
 namespace vesk
 {
 
-/// True when the user can get hold of a floating pane: enough of the title's width in all its
-/// height is on a screen, and so is the close button where there is one.
+/// True if a floating pane is within the user's reach: enough of the title's width, at its full
+/// height, is on a screen, and so is the close button if there is one.
 bool IsInReach(const QDockWidget& pane);
 
-/// Where a floating pane is wholly on the screen that it is on, or nearest to: its frame, made
-/// smaller where the screen is.
+/// The frame of a floating pane, moved completely onto the screen that it is on or nearest to, and
+/// reduced to the screen's size if necessary.
 QRect PlaceInReach(const QDockWidget& pane);
 
 }

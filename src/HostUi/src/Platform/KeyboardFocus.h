@@ -5,11 +5,12 @@ class QWindow;
 namespace vesk
 {
 
-/// Moves the keyboard at once from a window that is about to close to another one of the program.
+/// Moves the keyboard at once from a window that is about to close to another window of the
+/// program.
 ///
-/// A window manager that finds the owner of the keyboard gone leaves it to nobody for a moment, and
-/// keys of that moment are lost. Nothing happens where the keyboard is elsewhere, or where the
-/// window system takes care of it itself.
+/// When the keyboard's owner disappears, a window manager leaves the keyboard unassigned for a
+/// moment, and keys typed then are lost. Does nothing if the keyboard is elsewhere, or if the
+/// window system takes care of this itself.
 void MoveKeyboard(const QWindow& from, const QWindow& to);
 
 }

@@ -34,7 +34,7 @@ void MoveKeyboard(const QWindow& from, const QWindow& to)
     const xcb_void_cookie_t cookie =
         xcb_set_input_focus_checked(pConnection, XCB_INPUT_FOCUS_PARENT,
                                     static_cast<xcb_window_t>(to.winId()), XCB_CURRENT_TIME);
-    // The other window may have been hidden meanwhile.
+    // The other window may have been hidden in the meantime.
     xcb_discard_reply(pConnection, cookie.sequence);
 }
 

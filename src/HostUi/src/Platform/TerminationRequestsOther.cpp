@@ -16,14 +16,14 @@ namespace
 
 constexpr std::array<int, 3> s_signals = {SIGTERM, SIGINT, SIGHUP};
 
-/// Where the handler writes; a handler may do little more.
+/// The pipe end that the handler writes to; a signal handler may do little more.
 int s_writingEnd = -1;
 
 void OnSignal(int)
 {
     const int error = errno;
     const char byte = 0;
-    // A full pipe holds requests enough.
+    // A full pipe already holds enough requests.
     [[maybe_unused]] const ssize_t count = ::write(s_writingEnd, &byte, 1);
     errno = error;
 }

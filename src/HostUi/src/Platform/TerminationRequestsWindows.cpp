@@ -12,7 +12,7 @@ namespace
 std::mutex s_mutex;
 TerminationRequests* s_pRequests = nullptr;
 
-/// In a thread of the system's own.
+/// Called in a system thread.
 BOOL WINAPI OnConsole(DWORD)
 {
     const std::lock_guard lock(s_mutex);
@@ -49,7 +49,7 @@ TerminationRequests::TerminationRequests() : m_pListener(std::make_unique<Listen
 
 TerminationRequests::~TerminationRequests() = default;
 
-/// A write that fails ends nothing here.
+/// A failed write does not end the process here.
 void SurviveFailedWrites() {}
 
 }

@@ -12,14 +12,14 @@ namespace Qtitan
 class RibbonPage;
 class RibbonTabBar;
 
-/// A row of page tabs with the current page below it, as high as its content and as wide as it is
-/// made. Colours come from the palette and follow it.
+/// A row of page tabs with the current page below it; as high as its content, at any width. Colours
+/// come from the palette and follow its changes.
 ///
 /// Keys, while the ribbon's window has the focus: pressing and releasing Alt alone, or F10, shows
-/// key tips over the tabs and then over the controls of the chosen page; Alt and a digit selects
-/// a page. The key of a control clicks a button, box or radio button, of a button with a menu its
-/// main part, and gives the focus to anything else; Down and F4 open the menu of the button that
-/// has the focus. Application shortcuts come first, and any other key goes its way untouched.
+/// key tips over the tabs and then over the controls of the chosen page; Alt with a digit selects a
+/// page. The key tip of a button, check box or radio button clicks it (a split button: its main
+/// part); that of any other control gives it the focus. Down and F4 open the menu of the focused
+/// button. Application shortcuts take precedence; all other keys pass through.
 class QTITAN_EXPORT RibbonBar : public QWidget
 {
     Q_OBJECT
@@ -38,13 +38,13 @@ public:
 
     int pageCount() const;
 
-    /// The page at an index from 0, or null when there is none.
+    /// The page at an index from 0; null if there is none.
     RibbonPage* page(int index) const;
 
     /// The index of the current page, -1 while there is no page.
     int currentPageIndex() const;
 
-    /// Makes a page the current one; an index that does not exist changes nothing.
+    /// Makes a page the current one; an invalid index changes nothing.
     void setCurrentPageIndex(int index);
 
     /// Whether only the tabs are shown.
@@ -53,11 +53,12 @@ public:
     /// Hides or shows everything below the tabs. A double-click on a tab does the same.
     void setMinimized(bool minimized);
 
-    /// The tab of a page in this widget's coordinates; empty when there is no such page.
+    /// The tab of a page in this widget's coordinates; empty if there is no such page.
     QRect tabRect(int index) const;
 
 signals:
-    /// The current page is another one, or has another index; -1 when the last page went.
+    /// Another page is current, or the current one has another index; -1 after the last page was
+    /// removed.
     void currentPageChanged(int index);
 
 protected:

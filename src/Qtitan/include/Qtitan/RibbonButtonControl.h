@@ -9,19 +9,19 @@
 namespace Qtitan
 {
 
-/// How a button stands in a ribbon.
+/// The form of a button in a ribbon.
 enum class RibbonButtonForm
 {
-    /// As high as its group, with an icon of 32 pixels, arranged as the button's own style says.
+    /// As high as its group, with an icon of 32 pixels, arranged by the button's own style.
     Large,
-    /// One row high, with an icon of 16 pixels at the left and the caption at its right, whatever
-    /// the button's own style says.
+    /// One row high, with an icon of 16 pixels at the left and the caption to its right, whatever
+    /// the button's own style.
     Small
 };
 
-/// The place of one tool button in a ribbon. It is shown exactly while it holds a button that is
-/// not hidden, and gives the button all of its room. A button looks checked while it is, but for a
-/// split one (`MenuButtonPopup`).
+/// The slot of one tool button in a ribbon. It is shown exactly while it holds a button that is not
+/// hidden, and gives the button all of its space. A checked button looks checked, unless it is a
+/// split button (`MenuButtonPopup`).
 class QTITAN_EXPORT RibbonButtonControl : public QWidget
 {
     Q_OBJECT
@@ -31,16 +31,15 @@ public:
                                  RibbonButtonForm form = RibbonButtonForm::Large);
     ~RibbonButtonControl() override;
 
-    /// The form that the control was made in; it keeps it for good.
+    /// The form that the control was created with; it never changes.
     RibbonButtonForm form() const;
 
-    /// The placed button itself; null when there is none, or when it was deleted or has been
-    /// given another parent.
+    /// The button in the slot; null if there is none, or if it was deleted or given another parent.
     QToolButton* widget() const;
 
-    /// Places a button, becomes its parent, draws it and gives it the icon size of the form; its
-    /// other properties stay. A button placed before is hidden and left without a parent: it is the
-    /// caller's again. Null empties the control.
+    /// Puts a button into the slot: becomes its parent, draws it and sets the icon size of the
+    /// form; its other properties stay unchanged. A previous button is hidden and left without a
+    /// parent; the caller owns it again. Null empties the slot.
     void setWidget(QToolButton* pButton);
 
     QSize sizeHint() const override;
@@ -57,8 +56,7 @@ private:
     void followButton();
 
     const RibbonButtonForm m_form;
-    /// A tool button, but no longer one while it is being destroyed: then it must not be looked at
-    /// as one.
+    /// A plain QWidget because it is no longer a QToolButton while it is being destroyed.
     QPointer<QWidget> m_pButton;
 };
 

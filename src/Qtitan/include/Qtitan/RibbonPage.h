@@ -12,26 +12,26 @@ namespace Qtitan
 class RibbonGroup;
 class RibbonScrollButton;
 
-/// One page of a ribbon: groups from left to right. Where they do not fit, the page scrolls with
-/// the wheel, with a button at each edge that has more behind it, and along with the focus.
-/// Tab goes through the controls from left to right and in a column downwards, whatever the order
-/// in which they were made.
+/// One page of a ribbon: groups from left to right. If they do not fit, the page scrolls with the
+/// wheel, with a button at each edge that hides something, and to the focused control. Tab visits
+/// the controls from left to right, and top to bottom within a column, in whatever order they were
+/// created.
 class QTITAN_EXPORT RibbonPage : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// Pages are made by RibbonBar::addPage.
+    /// Use RibbonBar::addPage to create pages.
     explicit RibbonPage(const QString& title, QWidget* pParent = nullptr);
     ~RibbonPage() override;
 
-    /// The title as it was given, with its '&'.
+    /// The title as given, with its '&'.
     QString title() const;
 
     /// Adds a group at the right end and returns it; the page owns it.
     RibbonGroup* addGroup(const QString& title);
 
-    /// Scrolls by the least that shows a widget of this page whole, or its left end when it is
+    /// Scrolls just far enough to show a widget of this page completely, or its left end if it is
     /// wider than the page.
     void ensureVisible(const QWidget& widget);
 
