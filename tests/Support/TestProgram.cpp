@@ -10,7 +10,7 @@ namespace vesk::test
 namespace
 {
 
-/// Entries are made before main() begins, in no certain order.
+/// Entries are created before main() begins, in unspecified order.
 std::map<std::string, TestEntry::Run>& Entries()
 {
     static std::map<std::string, TestEntry::Run> s_entries;
