@@ -330,8 +330,8 @@ void DockManagerImpl::ForEachDock(const std::function<void(IDock&)>& operation) 
     }
 }
 
-/// The widget of the pane with that name; null if there is no such name. In other failures also
-/// null, with a warning in the name of `function`.
+/// The widget of the pane with that name; null if there is no such name, or, with a warning in the
+/// name of `function`, if the pane is null or not a widget.
 QDockWidget* DockManagerImpl::FindQDock(const std::wstring& name, const char* function) const
 {
     const auto found = m_docks.find(name);

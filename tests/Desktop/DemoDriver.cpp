@@ -127,7 +127,7 @@ bool Run(const QString& pictures)
         return Fail(qPrintable(server.GetError()));
     DesktopSession session(server.GetDisplay());
     if (!session.Start())
-        return Fail("the program does not come up");
+        return Fail("the program did not start");
     if (!DrawAll(session, pictures))
     {
         session.SaveEvidence(pictures + "/failure");

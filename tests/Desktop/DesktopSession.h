@@ -49,8 +49,8 @@ public:
 
     const InputDriver& Input() const { return m_input; }
 
-    /// Clicks the control with that id. Returns false if it does not appear on screen within a few
-    /// seconds.
+    /// Clicks the control with that id. Returns false if it does not become visible and enabled in
+    /// time.
     bool Click(const QString& id);
 
     /// The keys that click a button of the ribbon, or give the focus to any other control in it:

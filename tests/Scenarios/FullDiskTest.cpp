@@ -173,7 +173,7 @@ private slots:
         if (isByPages)
             pDisk = std::make_unique<SmallDisk>(whole.size() / SmallDisk::PageSize + 8);
         if (pDisk != nullptr && !pDisk->IsMounted())
-            QSKIP("no disk can be mounted here; the rows by bytes stand for those by pages");
+            QSKIP("cannot mount a disk here; only the rows by bytes are run");
         const QString path = pDisk != nullptr ? pDisk->File("file") : m_pFixture->File("file");
         const int unit = isByPages ? SmallDisk::PageSize : 1;
         const int steps = (whole.size() + unit - 1) / unit;
@@ -216,7 +216,7 @@ private slots:
         const QByteArray whole = ReadFile(ScenarioFixture::LayoutFile());
         Shortage shortage(isByPages, m_pFixture->File("home"));
         if (!shortage.IsPossible())
-            QSKIP("no disk can be mounted here; the rows by bytes stand for those by pages");
+            QSKIP("cannot mount a disk here; only the rows by bytes are run");
         const Variable home("XDG_CONFIG_HOME", shortage.Folder());
         const QString layout = ScenarioFixture::LayoutFile();
         const int steps = shortage.StepsOf(whole.size());
@@ -247,7 +247,7 @@ private slots:
         QFETCH(bool, isByPages);
         Shortage shortage(isByPages, m_pFixture->File("home"));
         if (!shortage.IsPossible())
-            QSKIP("no disk can be mounted here; the rows by bytes stand for those by pages");
+            QSKIP("cannot mount a disk here; only the rows by bytes are run");
         Options options;
         options.log = shortage.Folder() + "/log";
         const QByteArray old = QByteArray(9, '.') + '\n';

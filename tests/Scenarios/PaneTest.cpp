@@ -211,7 +211,7 @@ private slots:
             ShowOrHideSomething(random, expected, user);
             user.Do([=, visible = expected.Get()] {
                 const QByteArray where =
-                    QStringLiteral("seed %1, step %2: %3, marked %4, but it is to be %5")
+                    QStringLiteral("seed %1, step %2: %3, marked %4, expected %5")
                         .arg(seed)
                         .arg(step)
                         .arg(PaneDriver::Visible(), PaneDriver::Marked(), visible)

@@ -71,7 +71,7 @@ public:
     /// Waits until the action of that command runs; if empty, until none runs.
     ScriptedUser& UntilRunning(const QString& commandId);
 
-    /// Waits until the condition holds; the test fails after twenty seconds.
+    /// Waits until the condition holds; the test fails after two minutes.
     ScriptedUser& Until(std::function<bool()> condition);
 
     /// Runs a session with these options and returns its exit code.

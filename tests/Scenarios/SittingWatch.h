@@ -15,10 +15,9 @@ struct SittingTally
 {
     int sittings = 0;
     int acts = 0;
-    int entities = 0;         ///< In the final drawings.
-    QMap<QString, int> begun; ///< Commands that were recorded.
-    QMap<QString, int>
-        committed;          ///< Values committed with a key, by the action that received them.
+    int entities = 0;             ///< In the final drawings.
+    QMap<QString, int> begun;     ///< Commands that were recorded.
+    QMap<QString, int> committed; ///< Values committed with a key, by the receiving action.
     int refused = 0;        ///< Values that a key should have committed but that were rejected.
     int zoomsWithin = 0;    ///< Zooms while a value was being typed.
     int switchesWithin = 0; ///< Buttons clicked while a value was being typed.

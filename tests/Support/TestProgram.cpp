@@ -30,7 +30,7 @@ int TestEntry::Main(int argc, char* argv[])
     const auto found = argc > 1 ? Entries().find(argv[1]) : Entries().end();
     if (found == Entries().end())
     {
-        std::cerr << "Name one of these, and then what Qt Test is to be told:\n";
+        std::cerr << "Name one of these, followed by arguments for Qt Test:\n";
         for (const auto& [name, run] : Entries())
             std::cerr << "  " << name << '\n';
         return 2;
