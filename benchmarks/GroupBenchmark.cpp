@@ -1,4 +1,4 @@
-// How much a check-box group costs beyond the Qt calls that anybody would write by hand.
+// The cost of a check-box group beyond the Qt calls anybody would write by hand.
 
 #include "Comparison.h"
 
@@ -24,8 +24,8 @@ namespace
 constexpr int BoxCount = 10000;
 constexpr int Rounds = 7;
 
-/// One deletion takes microseconds: the mean of some says more than the first, which finds the
-/// caches full of something else.
+/// One deletion takes microseconds: the mean of several is more meaningful than the first one,
+/// which runs with cold caches.
 constexpr int Deletions = 20;
 constexpr double Limit = 1.5;
 
@@ -77,7 +77,7 @@ std::vector<double> RunOurs()
     };
 }
 
-/// The same boxes by hand.
+/// The same boxes written by hand.
 class HandWritten
 {
 public:
@@ -128,7 +128,7 @@ public:
     }
 
 private:
-    /// As automatic ids run, without the search for a free one.
+    /// Follows the automatic ids, without the search for a free one.
     static int NextId(int number) { return -2 - number; }
 
     QCheckBox* MakeBox(int number)

@@ -1,5 +1,5 @@
-// Whether a drawing of ten thousand entities is selected and shown in the panes at once, and the
-// cursor moves over it.
+// Whether a drawing of ten thousand entities is selected and shown in the panes without noticeable
+// delay, and the cursor moves smoothly over it.
 
 #include "Model/Workspace.h"
 #include "Panes/EntityPane.h"
@@ -36,7 +36,7 @@ namespace
 constexpr int EntityCount = 10000;
 constexpr int Rounds = 7;
 
-/// What a user does not notice.
+/// A delay that users do not notice.
 constexpr double LimitMs = 50.0;
 
 struct Step
@@ -57,7 +57,7 @@ double Milliseconds(const std::function<void()>& act)
     return static_cast<double>(timer.nsecsElapsed()) / 1e6;
 }
 
-/// The view, and the three panes that show what is drawn, selected and recorded.
+/// The view, and the three panes that show the entities, the selection and the journal.
 struct Bench
 {
     Bench()

@@ -1,6 +1,6 @@
 option(VESK_BUILD_TESTS "Build the tests" ON)
 option(VESK_BUILD_SKETCHER "Build the drawing program" ON)
-option(VESK_FORMULAS "Compute formulas that are typed for lengths and angles" ON)
+option(VESK_FORMULAS "Evaluate formulas typed for lengths and angles" ON)
 option(VESK_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
 option(VESK_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
 
@@ -9,7 +9,7 @@ set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 
-# Only what a header exports leaves a library, so that a library can be unloaded and replaced.
+# Libraries export only what their headers mark for export, so that they can be unloaded and replaced.
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 

@@ -1,22 +1,22 @@
 include(GenerateExportHeader)
 
-# Flags that every target of this tree is compiled with. An interface target, so that installed packages do not carry them.
+# Compiler flags for every target of this tree. An interface target, so that installed packages do not carry them.
 add_library(vesk_build_flags INTERFACE)
 if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
     target_compile_options(vesk_build_flags INTERFACE
         -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wold-style-cast
-        # Warnings name the source file relative to the tree, on every machine alike.
+        # Source paths in debug warnings are relative to the tree, so they are the same on every machine.
         "-ffile-prefix-map=${PROJECT_SOURCE_DIR}/="
         $<$<BOOL:${VESK_WARNINGS_AS_ERRORS}>:-Werror>)
     target_link_options(vesk_build_flags INTERFACE
         $<$<AND:$<PLATFORM_ID:Linux>,$<NOT:$<BOOL:${VESK_SANITIZE}>>>:-Wl,--no-undefined>)
 endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-    # A unique symbol pins its library in the process: unloading must really unload.
+    # A unique symbol pins its library in the process, but unloading must really unload it.
     target_compile_options(vesk_build_flags INTERFACE -fno-gnu-unique)
 endif()
 if(WIN32)
-    # Else the system's headers take the names of std::min and std::max for macros of theirs.
+    # Otherwise macros of the system headers would replace std::min and std::max.
     target_compile_definitions(vesk_build_flags INTERFACE NOMINMAX=1)
 endif()
 if(VESK_SANITIZE)
@@ -27,8 +27,8 @@ endif()
 
 # vesk_library(<target> ALIAS <Vesk::Name> EXPORT <MACRO> EXPORT_FILE <path below the include root>)
 #
-# A shared library whose published headers stand in include/ beside its CMakeLists.txt (where it has any), and whose
-# export macro comes from a generated header.
+# A shared library whose published headers, if any, are in include/ next to its CMakeLists.txt, and whose export macro
+# comes from a generated header.
 function(vesk_library target)
     cmake_parse_arguments(ARG "" "ALIAS;EXPORT;EXPORT_FILE" "" ${ARGN})
     add_library(${target} SHARED)
@@ -36,7 +36,7 @@ function(vesk_library target)
     string(REGEX REPLACE "^.*::" "" exported "${ARG_ALIAS}")
     set_target_properties(${target} PROPERTIES EXPORT_NAME ${exported})
     if(WIN32)
-        # All compilers name it alike: whoever loads it at run time knows no more than the name.
+        # The same name with every compiler: whoever loads it at run time knows only the name.
         set_target_properties(${target} PROPERTIES PREFIX "")
     endif()
     target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:vesk_build_flags>)
@@ -58,9 +58,9 @@ endfunction()
 # vesk_test_program(<name> LABEL <unit|scenario|desktop> TESTS <file>... [SOURCES <file>...] [LIBRARIES <target>...]
 #                   [PREFIX <text>] [WITH_FOLDERS] [PRECOMPILED <header>] [TIMEOUT <s>])
 #
-# A program of Qt tests. Each <Name>.cpp of TESTS is a test, <PREFIX><Name>, or with WITH_FOLDERS <PREFIX><Folder><Name>,
-# and runs alone: in the C.UTF-8 locale, and on the offscreen platform unless it is a desktop test. On Windows real
-# windows open.
+# A program of Qt tests. Each <Name>.cpp of TESTS is a test called <PREFIX><Name>, or with WITH_FOLDERS
+# <PREFIX><Folder><Name>, and runs on its own: in the C.UTF-8 locale, and on the offscreen platform unless it is a
+# desktop test. On Windows it opens real windows.
 function(vesk_test_program program)
     cmake_parse_arguments(ARG "WITH_FOLDERS" "LABEL;PREFIX;PRECOMPILED;TIMEOUT" "TESTS;SOURCES;LIBRARIES" ${ARGN})
     add_executable(${program} ${ARG_TESTS} ${ARG_SOURCES})
@@ -80,14 +80,14 @@ function(vesk_test_program program)
     endforeach()
 endfunction()
 
-# One run of a program of tests.
+# Registers one run of a test program.
 function(vesk_add_test name program test label timeout)
-    # Ends only what hangs: no result depends on how fast the machine is.
+    # Ends only hanging tests: no result depends on the speed of the machine.
     if(NOT timeout)
         set(timeout 900)
     endif()
     if(WIN32 OR VESK_SANITIZE)
-        # Real windows take their time, and so do sanitizers.
+        # Real windows are slow, and so are sanitizers.
         math(EXPR timeout "${timeout} * 5")
     endif()
     add_test(NAME ${name} COMMAND ${program} ${test})

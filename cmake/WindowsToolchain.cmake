@@ -1,7 +1,8 @@
-# 64-bit Windows programs made by mingw-w64 (the variant with POSIX threads: std::thread and std::mutex need it).
+# 64-bit Windows programs built by mingw-w64 (the variant with POSIX threads, which std::thread and std::mutex need).
 #
-# CMAKE_PREFIX_PATH names the Qt for Windows and whatever else the programs are built with: packages and headers come
-# from there only, never from the machine that builds. moc, rcc and uic run on that machine; Qt's own package knows them.
+# CMAKE_PREFIX_PATH contains the Qt for Windows and whatever else the programs are built with: packages and headers come
+# only from there, never from the build machine. moc, rcc and uic run on the build machine; the Qt package knows where
+# they are.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 

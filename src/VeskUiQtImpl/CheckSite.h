@@ -2,8 +2,8 @@
 
 #include "Warnings/Check.h"
 
-/// The place of a precondition of this library, for `vesk::Check`. `function` is the qualified
-/// name.
+/// The site of a precondition of this library, for `vesk::Check`. `function` is the qualified name
+/// of the function.
 #define VESK_SITE(function, message)                                                               \
     ::vesk::CheckSite                                                                              \
     {                                                                                              \

@@ -7,8 +7,8 @@
 namespace vesk
 {
 
-/// Makes a Qt child of `pParent`, which owns it. Without a parent it warns in the name of
-/// `function` and makes nothing: the result is then null.
+/// Creates a Qt child of `pParent`, which owns it. Without a parent it warns in the name of
+/// `function`, creates nothing and returns null.
 template <class Child, class Parent>
 Child* CreateChild(Parent* pParent, const char* function)
 {

@@ -14,7 +14,7 @@ using namespace vesk;
 namespace
 {
 
-/// Shows a text from its beginning, however long it is.
+/// Shows a text scrolled to its beginning, however long it is.
 void Show(QLineEdit& field, const QString& text)
 {
     field.setText(text);

@@ -6,15 +6,15 @@
 
 #include <string>
 
-/// Shows one debug warning and asks what is to be done about it.
+/// Shows one debug warning and asks what to do about it.
 ///
-/// Nothing in it may raise a warning: it would have to be shown in turn.
+/// Nothing in it may raise a warning, since showing that one would need another dialog.
 class DebugWarnDialog final : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// What the user chose; closing the window is to ignore the warning once.
+    /// What the user chose; closing the window ignores the warning once.
     enum Answer
     {
         Ignored = 0,
@@ -26,11 +26,11 @@ public:
     explicit DebugWarnDialog(QWidget* pParent);
     ~DebugWarnDialog() override;
 
-    /// Fills the form. In a published program there is one button left, and nobody's name.
+    /// Fills in the form. A published program shows a single button and hides person and date.
     void SetInfo(const std::string& file, int line, const std::string& function,
                  const std::wstring& message, const std::wstring& person, const std::wstring& date);
 
-    /// Copies what was typed as user name and password. True when neither is empty.
+    /// Copies the typed user name and password. Returns true if neither is empty.
     bool GetUserNameAndPassword(std::wstring& userName, std::wstring& password) const;
 
 private slots:

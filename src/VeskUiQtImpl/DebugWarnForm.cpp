@@ -22,7 +22,7 @@ QLabel* MakeLabel(const wchar_t* text, const QRect& rect, QWidget* pParent)
     return pLabel;
 }
 
-/// A field whose text can be read and copied.
+/// A read-only field whose text can be selected and copied.
 template <class Field>
 Field* MakeField(const QRect& rect, QWidget* pParent)
 {
@@ -32,8 +32,8 @@ Field* MakeField(const QRect& rect, QWidget* pParent)
     return pField;
 }
 
-/// A field of several lines. It shows where the focus is, which styles do for no such field, and
-/// its text can be read with the keyboard alone.
+/// A multi-line field. It shows when it has the focus, which styles do not do for such a read-only
+/// field, and its text can be selected with the keyboard alone.
 QTextEdit* MakeBox(const QRect& rect, QWidget* pParent)
 {
     auto* pBox = MakeField<QTextEdit>(rect, pParent);
@@ -63,7 +63,7 @@ QPushButton* AddButton(const wchar_t* text, QWidget* pRow)
 void DebugWarnForm::Build(QDialog* pDialog)
 {
     pDialog->setWindowTitle(DebugWarnText(L"调试警告"));
-    // What stands in it keeps its place: there is nothing to gain from a smaller window.
+    // The contents do not move on resize, so a smaller window would gain nothing.
     pDialog->setMinimumSize(485, 393);
     pDialog->resize(485, 393);
     pDialog->setWindowModality(Qt::ApplicationModal);
@@ -73,7 +73,8 @@ void DebugWarnForm::Build(QDialog* pDialog)
     BuildFields(pDialog);
 }
 
-/// The way to report a warning is closed: it is disabled and stands outside its group, unseen.
+/// Reporting a warning is not available: the controls are disabled and lie outside the visible part
+/// of their group.
 void DebugWarnForm::BuildReport(QWidget* pDialog)
 {
     auto* pGroup = new QGroupBox(pDialog);

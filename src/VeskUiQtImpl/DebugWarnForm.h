@@ -11,8 +11,8 @@ class QWidget;
 /// The widgets of the dialog that shows a debug warning. Their Qt parents own them.
 struct DebugWarnForm
 {
-    /// Makes all widgets on the dialog, in their order: the first button then has the focus. It is
-    /// also the one that Return clicks while no button has.
+    /// Creates all widgets on the dialog in tab order, so the first button gets the initial focus.
+    /// That button is also the one Return clicks while no button has the focus.
     void Build(QDialog* pDialog);
 
     QLineEdit* pUserName = nullptr;

@@ -18,7 +18,7 @@ namespace
 
 constexpr char Condition[] = R"(false && "A DBG_WARN is triggered.")";
 
-/// By this line the report of a warning without an application is known.
+/// The fixed line number by which the report of a warning without an application is recognised.
 constexpr int ConditionLine = 58;
 
 QWidget* FindMainWindow()
@@ -29,8 +29,9 @@ QWidget* FindMainWindow()
     return pWindow != nullptr ? QWidget::find(pWindow->GetWindowId()) : nullptr;
 }
 
-/// Puts the dialog over a window that fills its screen, or will as soon as the window manager comes
-/// to it: until then the window has another place. Over any other, Qt does.
+/// Centres the dialog over a window that fills its screen, or will do so once the window manager
+/// has handled the request; until then the position of the window is a different one. For any other
+/// window, Qt positions the dialog.
 void PlaceOver(QWidget* pWindow, QWidget& dialog)
 {
     if (pWindow == nullptr || !(pWindow->isMaximized() || pWindow->isFullScreen()))
@@ -40,7 +41,7 @@ void PlaceOver(QWidget* pWindow, QWidget& dialog)
     dialog.move(place.topLeft());
 }
 
-/// Where no dialog can be shown the fact alone is told.
+/// If no dialog can be shown, only the fact that a warning was raised is reported.
 void ReportWithoutApplication()
 {
     if (IsAssertEnabled())

@@ -9,8 +9,8 @@ namespace vesk
 class DebugWarningDialogDisplayer final : public IDebugWarningDialogDisplayer
 {
 public:
-    /// Waits for the user's answer; false when this warning is not to be shown again. Without an
-    /// application the fact alone is asserted, or logged, and the answer is true.
+    /// Waits for the user's answer; false if this warning should not be shown again. Without an
+    /// application it only asserts, or logs, that a warning was raised, and returns true.
     bool Display(const std::string& file, int line, const std::string& function,
                  const std::wstring& message, const std::wstring& person,
                  const std::wstring& date) override;

@@ -10,11 +10,11 @@
 namespace vesk
 {
 
-/// A pane of the main window, for the host and for Qt at once.
+/// A pane of the main window, both for the host and for Qt.
 class DockImpl final : public QDockWidget, public IDock
 {
 public:
-    /// Dressed in the application's style sheet of this moment. The parent may be null.
+    /// Created with the application's current style sheet. The parent may be null.
     DockImpl(const std::wstring& name, const std::wstring& title, QWidget* pParent);
     ~DockImpl() override;
 
@@ -32,7 +32,7 @@ public:
     bool IsFloating() const override;
 
 private:
-    /// Owned by its Qt parent, where it is a widget.
+    /// Owned by its Qt parent if it is a widget.
     IWidget* m_pContent = nullptr;
     std::wstring m_name;
 };

@@ -17,14 +17,14 @@ namespace vesk
 namespace
 {
 
-/// What the user can do with a pane that is dockable.
+/// What the user can do with a dockable pane.
 constexpr QDockWidget::DockWidgetFeatures DockableFeatures = QDockWidget::DockWidgetClosable |
                                                              QDockWidget::DockWidgetMovable |
                                                              QDockWidget::DockWidgetFloatable;
 
-/// Tells an operation of a manager that runs code of others whether the manager still lives.
+/// Tells an operation of a manager that runs external code whether the manager is still alive.
 ///
-/// Stands on the stack of that operation; operations may nest.
+/// Lives on the stack of that operation; operations may nest.
 class LifeWatch
 {
 public:
@@ -96,7 +96,7 @@ void DockManagerImpl::AddDock(OwnerPtr<IDock> opDock, DockArea area, DockOrienta
     m_qDockWidgetToIDockMap[pQDockWidget] = opDock.Get();
     opDock.Release();
     pQMainWindow->addDockWidget(GetQtDockArea(area), pQDockWidget, GetQtOrientation(orientation));
-    // Qt takes nothing into an area that is none: then nobody else would own the pane.
+    // Qt adds nothing for an invalid area, and then nobody would own the pane.
     if (pQDockWidget->parent() == nullptr)
         pQDockWidget->setParent(pQMainWindow, pQDockWidget->windowFlags());
 }
@@ -139,7 +139,7 @@ void DockManagerImpl::ResizeDocks(const std::vector<IDock*>& docks, const std::v
 
     QList<QDockWidget*> qDockWidgets;
     QList<int> qSizes;
-    // The list that is being built bounds the loop: nothing is resized, which hosts rely on.
+    // The loop is bounded by the list it builds, so nothing is resized; hosts rely on that.
     for (int i = 0; i < qDockWidgets.size(); ++i)
     {
         const auto index = static_cast<std::size_t>(i);
@@ -178,7 +178,8 @@ std::vector<IDock*> DockManagerImpl::TabifiedDocks(IDock* dock) const
     if (!Check(pQDockWidget != nullptr, VESK_SITE(Function, L"pQDockWidget是空指针")))
         return {};
 
-    // Reported first: a report may run an event loop, in which panes go, and the manager with them.
+    // Reported first: a report may run an event loop, in which panes and even the manager may be
+    // destroyed.
     const LifeWatch watch(this);
     const QList<QDockWidget*> qTabified = pQMainWindow->tabifiedDockWidgets(pQDockWidget);
     for (QDockWidget* pTabified : qTabified)
@@ -312,8 +313,9 @@ QDockWidget* DockManagerImpl::GetQDockWidget(IDock* pDock) const
     return dynamic_cast<QDockWidget*>(pDock);
 }
 
-/// Does something with each pane, in the order of the names. Panes may come and go meanwhile: one
-/// that is gone when its turn comes is left out, and without the manager it ends.
+/// Applies an operation to each pane, in order of the names. Panes may be added or removed
+/// meanwhile: one that is gone when its turn comes is skipped, and the loop ends if the manager is
+/// destroyed.
 void DockManagerImpl::ForEachDock(const std::function<void(IDock&)>& operation) const
 {
     const LifeWatch watch(this);
@@ -328,8 +330,8 @@ void DockManagerImpl::ForEachDock(const std::function<void(IDock&)>& operation) 
     }
 }
 
-/// The widget of the pane with that name. Null, with a warning in the name of `function` unless
-/// there is no such name.
+/// The widget of the pane with that name; null if there is no such name, or, with a warning in the
+/// name of `function`, if the pane is null or not a widget.
 QDockWidget* DockManagerImpl::FindQDock(const std::wstring& name, const char* function) const
 {
     const auto found = m_docks.find(name);
@@ -342,7 +344,7 @@ QDockWidget* DockManagerImpl::FindQDock(const std::wstring& name, const char* fu
     return pQDock;
 }
 
-/// The host's manager has only to be there: the panes are this one's.
+/// The host must have a manager, even though the panes used are this manager's own.
 bool DockManagerImpl::CheckHostManager(const char* function) const
 {
     const IUiManager* pUiManager = IUiManager::Get();

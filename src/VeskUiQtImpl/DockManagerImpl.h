@@ -19,10 +19,10 @@ namespace vesk
 class IApplicationWindow;
 class IPropertyWidget;
 
-/// Keeps the panes of a main window that is a `QMainWindow`.
+/// Manages the panes of a main window that is a `QMainWindow`.
 ///
-/// A pane that was added belongs to the window; the manager only knows it, and copies of a manager
-/// know the same panes. Destroyed before the window.
+/// An added pane belongs to the window; the manager only refers to it, and copies of a manager
+/// refer to the same panes. The manager must be destroyed before the window.
 class VESK_UI_QT_IMPL_API DockManagerImpl : public IDockManager
 {
 public:
@@ -48,7 +48,7 @@ public:
     bool RemoveDockTitleBar(const std::wstring& name) override;
     void UpdateAllDockStatus() override;
 
-    /// The content of the pane that holds the property panel; null when there is none.
+    /// The content of the pane that holds the property panel; null if there is none.
     static IPropertyWidget* GetPropertyWidget();
 
 private:
@@ -63,7 +63,7 @@ private:
 
     IApplicationWindow* m_pMainWindow;
 
-    /// In the order in which panes are hidden, shown and brought in step.
+    /// In the order in which panes are hidden, shown and updated.
     std::map<std::wstring, IDock*> m_docks;
     std::map<QDockWidget*, IDock*> m_qDockWidgetToIDockMap;
 };

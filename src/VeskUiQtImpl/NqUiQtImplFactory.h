@@ -5,7 +5,7 @@
 namespace vesk
 {
 
-/// Gives the host this library's user-interface services.
+/// Provides the host with this library's user-interface services.
 class NqUiQtImplFactory final : public NqUiInterfaceFactory
 {
 public:

@@ -43,8 +43,8 @@ OwnerPtr<IJournalCommandData> CreateJournalCommandData()
     return OwnerPtrCast<IJournalCommandData>(pFactory->CreateJournalData(JournalCommandDataClass));
 }
 
-/// The command with that id; null, with a warning in the name of `function`, when there is none.
-/// Without a manager no command is known.
+/// The command with that id; null, with a warning in the name of `function`, if there is none.
+/// Without a command manager no command is known.
 ICommand* FindCommand(const std::wstring& commandId, const char* function)
 {
     const ICommandManager* pManager = ICommandManager::Get();
@@ -54,8 +54,8 @@ ICommand* FindCommand(const std::wstring& commandId, const char* function)
     return pCommand;
 }
 
-/// Shows what the running action expects. Asks for everything anew: the command may have changed
-/// it.
+/// Shows the prompt of the running action. Looks everything up again, since the command may have
+/// changed it.
 void ShowViewText()
 {
     const IAction* pAction = IActionManager::CurrentAction();
@@ -64,7 +64,7 @@ void ShowViewText()
         pView->SetViewText(pAction->GetViewText());
 }
 
-/// The time in which a command is executed: whatever ends it, it is executed then.
+/// Marks the command as executed at the end of its scope, however the scope is left.
 class ExecutedAtTheEnd
 {
 public:
@@ -83,7 +83,7 @@ struct ReplayTarget
     QPointF position;
 };
 
-/// Where a click reaches the action; without a widget when it stands in no ribbon and in no menu.
+/// Where a click reaches the action; without a widget if it is in neither a ribbon nor a menu.
 ReplayTarget FindReplayTarget(QAction* pAction)
 {
     QWidget* pParent = pAction->parentWidget();
@@ -164,8 +164,8 @@ bool ProcessCommandUtil::IsLastCommandExecuted()
     return s_isLastCommandExecuted;
 }
 
-/// Begins a command. False, and nothing is begun, for an action chosen while a command runs: that
-/// command is ended and the action put off.
+/// Begins a command. Returns false and begins nothing for an action chosen while a command runs:
+/// that command is ended and the action is put off.
 bool ProcessCommandUtil::Begin(QObject* pSender)
 {
     const QPointer<QAction> pAction(qobject_cast<QAction*>(pSender));
@@ -183,7 +183,8 @@ bool ProcessCommandUtil::Begin(QObject* pSender)
     return false;
 }
 
-/// Writes the record of a command that is about to run. False, and nothing is to run, without one.
+/// Writes the record of a command about to run. Returns false if it cannot; the command must not
+/// run then.
 bool ProcessCommandUtil::Journal(const ICommand& command, const CommandParameters& parameters,
                                  const char* function)
 {
@@ -203,7 +204,7 @@ bool ProcessCommandUtil::Journal(const ICommand& command, const CommandParameter
     return true;
 }
 
-/// Refreshes the controls and turns to what the user chose meanwhile.
+/// Refreshes the controls and replays what the user chose meanwhile.
 void ProcessCommandUtil::Finish()
 {
     FirstException exception;
@@ -215,7 +216,7 @@ void ProcessCommandUtil::Finish()
     exception.Throw();
 }
 
-/// Clicks what was put off once more, through the event loop.
+/// Clicks the pending action once more, through the event loop.
 void ProcessCommandUtil::ReplayPendingAction()
 {
     QAction* pAction = s_pendingAction;

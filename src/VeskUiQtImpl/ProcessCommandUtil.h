@@ -15,19 +15,20 @@ namespace vesk
 class CommandParameters;
 class ICommand;
 
-/// The one path by which a command chosen on a widget is journaled and sent. GUI thread only.
+/// The only path by which a command chosen on a widget is journaled and sent. GUI thread only.
 ///
-/// A menu or ribbon action chosen while a command runs ends that command, and is clicked again by
-/// posted mouse events once the command has returned. Any other sender is served at once.
+/// A menu or ribbon action chosen while a command runs ends that command and is clicked again, by
+/// posted mouse events, once the command has returned. Any other sender is served at once.
 class ProcessCommandUtil
 {
 public:
     /// Runs the command of a ribbon control in the current view, with its parameters. `pSender` is
-    /// the widget or action that was clicked. The sender may be gone afterwards.
+    /// the clicked widget or action. The sender may be destroyed before this returns.
     static void ProcessRibbonBarCommand(const std::wstring& commandId,
                                         const CommandParameters& parameters, QObject* pSender);
 
-    /// Runs the command of a menu or status bar entry. It takes no parameters: they are ignored.
+    /// Runs the command of a menu or status bar entry. Such commands have no parameters: any given
+    /// are ignored.
     static void ProcessStatusBarCommand(const std::wstring& commandId,
                                         const CommandParameters& parameters, QObject* pSender);
 

@@ -8,7 +8,7 @@ namespace vesk
 namespace
 {
 
-/// Withdraws the user-interface factory, which registered itself, before it is destroyed.
+/// Unregisters the user-interface factory, which registered itself, before it is destroyed.
 struct UiFactoryWithdrawal
 {
     ~UiFactoryWithdrawal() { NqUiInterfaceFactory::m_pFactory = nullptr; }
@@ -24,7 +24,7 @@ public:
     ControlFactoryRegistration& operator=(const ControlFactoryRegistration&) = delete;
 
 private:
-    /// Registering is open to factories only.
+    /// Only factories may register.
     struct Access : VeskIControlFactory
     {
         using VeskIControlFactory::Set;
@@ -47,9 +47,9 @@ public:
     HandlerFactoryRegistration& operator=(const HandlerFactoryRegistration&) = delete;
 };
 
-// What the library makes known when it is loaded, in this order. Each factory stands before its
-// registration and all stand in one file: only so is it certain that unloading withdraws each one
-// before it is destroyed, and all in the reverse order.
+// What the library registers when it is loaded, in this order. Each factory precedes its
+// registration, and all are in one file: only that guarantees that unloading unregisters each one
+// before it is destroyed, and all in reverse order.
 NqUiQtImplFactory s_uiFactory;
 UiFactoryWithdrawal s_uiFactoryWithdrawal;
 
@@ -61,7 +61,7 @@ HandlerFactoryRegistration s_handlerFactoryRegistration(&s_handlerFactory);
 
 }
 
-/// Stands here because the instance does.
+/// Defined here because the instance is.
 TemporaryDimensionHandlerFactory* TemporaryDimensionHandlerFactory::GetInstance()
 {
     return &s_handlerFactory;

@@ -9,13 +9,13 @@ namespace vesk
 
 class IUiView;
 
-/// The view the user works in; null when there is none, or no manager of views.
+/// The view the user is working in; null if there is none, or no view manager.
 IUiView* FindCurrentView();
 
-/// The host's view of an id; null when there is none, or none any more.
+/// The host's view with that id; null if there is none, or it no longer exists.
 IUiView* FindViewById(std::uint32_t id);
 
-/// Its widget; null when there is none.
+/// That view's widget; null if there is none.
 QWidget* FindViewWidget(std::uint32_t id);
 
 }

@@ -5,7 +5,7 @@
 namespace vesk
 {
 
-/// A program that ends when the test does, also when the test crashes.
+/// A program that ends when the test does, even if the test crashes.
 class ChildProcess final : public QProcess
 {
 protected:

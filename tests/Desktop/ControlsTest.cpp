@@ -56,7 +56,7 @@ bool ControlsTest::DrawLineAlongX(const QString& length, int number)
 void ControlsTest::comboBoxTakesTheClickedItem()
 {
     QVERIFY(OpenListOf(s_style));
-    // The list opens with the current item over the box.
+    // The list opens with its current item over the box.
     const int itemHeight = Session().Tree().FindControl(s_style)->rect.height() * 9 / 10;
     QVERIFY(Session().Input().Click(CentreOf(s_style) + QPoint(0, itemHeight)));
     QVERIFY(Session().WaitForText(s_style, "虚线"));
@@ -95,7 +95,7 @@ void ControlsTest::wheelOverABoxWithoutTheFocusChangesNothing()
     QVERIFY(Session().Input().MoveTo(CentreOf(s_colour)));
     QVERIFY(Session().Input().Wheel(-2));
 
-    // What comes after the wheel has arrived, so the wheel has too.
+    // What follows the wheel has arrived, so the wheel has too.
     QVERIFY(DrawLineAlongX("50", 1));
     QVERIFY(Session().WaitForText(s_style, "实线"));
     QVERIFY(Session().WaitForText(s_colour, "默认"));
@@ -143,7 +143,7 @@ void ControlsTest::checkBoxIsUsedWithTheKeys()
 
     QVERIFY(Session().Type("", Session().KeysTo(s_colour) + QStringList{"Tab", "space"}));
     QVERIFY(Session().WaitForChecked("Sketcher.Snap.End", false));
-    // Tab and the arrows both go from one box to the next.
+    // Both Tab and the arrow keys move from one box to the next.
     QVERIFY(Session().Type("", {"Tab", "space", "Tab", "Right", "Right", "space"}));
     QVERIFY(Session().WaitForChecked("Sketcher.Snap.Middle", true));
     QVERIFY(Session().WaitForChecked("Sketcher.Snap.Grid", true));
@@ -151,7 +151,7 @@ void ControlsTest::checkBoxIsUsedWithTheKeys()
     QVERIFY(Session().WaitForChecked("Sketcher.Snap.Intersection", false));
     QVERIFY(Session().Type("", {"space"}));
     QVERIFY(Session().WaitForChecked("Sketcher.Snap.Grid", false));
-    // The key that stands on the box itself.
+    // The key tip shown on the box itself.
     QVERIFY(Session().Type("", Session().KeysTo("Sketcher.Snap.Centre")));
     QVERIFY(Session().WaitForChecked("Sketcher.Snap.Centre", true));
 }

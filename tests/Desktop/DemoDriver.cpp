@@ -17,13 +17,13 @@ namespace
 
 constexpr double TOLERANCE = 1e-9;
 
-/// One line to draw: from the click at `start`, or from the end of the line before.
+/// One line to draw: from the click at `start`, or from the end of the previous line.
 struct DemoLine
 {
     std::optional<QPointF> start;
     QString length;
-    QString angle;  ///< Empty: typed without Tab, along the cursor.
-    QPointF cursor; ///< Where the cursor rests while nothing was typed for the angle.
+    QString angle;  ///< Empty: typed without Tab, in the direction of the cursor.
+    QPointF cursor; ///< Position of the cursor until an angle is typed.
 };
 
 const QVector<DemoLine>& House()
@@ -94,7 +94,7 @@ bool DrawAll(DesktopSession& session, const QString& pictures)
     return session.Input().TakePicture(pictures + "/sketcher.png");
 }
 
-/// Prints what was typed and what it became. True when they are the same.
+/// Prints what was typed and what it became. Returns true if they agree.
 bool Report(const DemoLine& typed, const DrawnLine& drawn)
 {
     const double lengthError = qAbs(drawn.GetLength() - typed.length.toDouble());
@@ -127,7 +127,7 @@ bool Run(const QString& pictures)
         return Fail(qPrintable(server.GetError()));
     DesktopSession session(server.GetDisplay());
     if (!session.Start())
-        return Fail("the program does not come up");
+        return Fail("the program did not start");
     if (!DrawAll(session, pictures))
     {
         session.SaveEvidence(pictures + "/failure");

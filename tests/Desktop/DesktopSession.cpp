@@ -11,10 +11,10 @@ namespace vesk
 namespace
 {
 
-/// So long nothing may move before a window counts as laid out.
+/// A window counts as laid out after nothing has moved for this long.
 constexpr int REST_MS = 250;
 
-/// After so long nobody has heard of a key.
+/// Keys that have had no effect for this long count as lost.
 constexpr int LOST_KEYS_MS = 10000;
 
 QString ProgramPath()
@@ -34,8 +34,8 @@ DesktopSession::~DesktopSession()
 bool DesktopSession::Start(const QStringList& arguments, const Environment& environment)
 {
     // The window manager frames and maximises the window when it maps it. On a busy machine that
-    // comes late, and what the program says comes later still: places hold when the window is to be
-    // seen and the server says the same.
+    // comes late, and the report of the program even later: positions are valid once the window is
+    // visible and the server reports the same geometry.
     const auto isPlaced = [&] {
         return m_input.CountWindows() > 0 && WaitForRest() &&
                m_input.HasWindowAt(m_tree.FindView()->rect);
@@ -59,7 +59,7 @@ int DesktopSession::Close()
 {
     if (m_program.state() == QProcess::NotRunning || !m_input.CloseMainWindow())
         return -1;
-    // A busy machine may lose the keys: they are pressed again while the window is there.
+    // A busy machine may lose the keys: they are pressed again as long as the window exists.
     PollUntil(
         [this] { return m_program.waitForFinished(LOST_KEYS_MS) || !m_input.CloseMainWindow(); });
     return WaitForExit();

@@ -14,11 +14,10 @@
 namespace vesk
 {
 
-/// The program, running on a display, and a user in front of it.
+/// The program, running on a display, and its user.
 ///
-/// Its files (what it shows, journal, model, warnings) and its home lie in a folder of this
-/// session. Whoever wants to know what came of an input waits until the program says so; nothing
-/// sleeps.
+/// Its files (screen contents, journal, model, warnings) and its home are in a folder of this
+/// session. To see the effect of an input, wait until the program reports it; nothing sleeps.
 class DesktopSession
 {
 public:
@@ -29,31 +28,33 @@ public:
     DesktopSession(const DesktopSession&) = delete;
     DesktopSession& operator=(const DesktopSession&) = delete;
 
-    /// Starts the program and waits until its window has come to rest. `arguments` come after the
-    /// files'.
+    /// Starts the program and waits until its window has settled. `arguments` follow those for the
+    /// files.
     bool Start(const QStringList& arguments = {}, const Environment& environment = {});
 
-    /// Starts the program and waits for nothing.
+    /// Starts the program without waiting for anything.
     bool Launch(const QStringList& arguments = {}, const Environment& environment = {});
 
-    /// Closes the main window as a user does. The exit code; -1 when the program did not end by
-    /// itself.
+    /// Closes the main window as a user does. Returns the exit code, or -1 if the program did not
+    /// exit by itself.
     int Close();
 
-    /// Ends the program without a warning, as `kill -9` does.
+    /// Kills the program without warning, as `kill -9` does.
     void Kill();
 
-    /// Runs the program to its end without a screen, with none of the session's files. The exit
-    /// code; -1 when it did not end by itself. What it said on standard error is `GetErrorOutput`.
+    /// Runs the program to its end without a screen, with none of the session's files. Returns the
+    /// exit code, or -1 if it did not exit by itself. `GetErrorOutput` returns what it wrote to
+    /// standard error.
     int RunOffscreen(const QStringList& arguments, const Environment& environment = {});
 
     const InputDriver& Input() const { return m_input; }
 
-    /// Clicks the control with that id. False when it is not on screen within a few seconds.
+    /// Clicks the control with that id. Returns false if it does not become visible and enabled in
+    /// time.
     bool Click(const QString& id);
 
-    /// The keys that click a button of the ribbon, or give another control of it the focus: F10
-    /// shows those of the tabs, the tab's shows those of its controls.
+    /// The keys that click a button of the ribbon, or give the focus to any other control in it:
+    /// F10 shows those of the tabs, and the key of a tab shows those of its controls.
     QStringList KeysTo(const QString& id);
 
     /// Opens the menu of a button by its arrow and waits for the entry of that command.
@@ -62,20 +63,20 @@ public:
     /// Clicks the entry of an open menu.
     bool ClickEntry(const QString& commandId);
 
-    /// Clicks the place of a world point in the view.
+    /// Clicks a world point in the view.
     bool ClickView(QPointF world);
     bool MoveInView(QPointF world);
 
-    /// Starts the line tool (anew, when it runs already) and clicks the point from which to draw.
+    /// Starts the line tool (again if it is already running) and clicks the start point.
     bool BeginLine(QPointF start = QPointF(0.0, 0.0));
 
-    /// Where a world point is on the screen, as the view stands now.
+    /// The screen position of a world point in the current state of the view.
     QPoint ToScreen(QPointF world) const;
 
     /// Types a text, then presses the named keys, in one stream at 200 keys a second.
     bool Type(const QString& text, const QStringList& keysAfterwards = {});
 
-    /// Waits until what the program shows fulfils `isTrue`. False when it does not in time.
+    /// Waits until the screen contents satisfy `isTrue`. Returns false on timeout.
     template <class Predicate>
     bool WaitFor(Predicate isTrue, int timeoutMs = PATIENCE_MS)
     {
@@ -94,21 +95,20 @@ public:
     bool WaitForEditor(const QString& text);
     bool WaitForNoEditor();
 
-    /// What the program showed when it was last asked.
+    /// The screen contents when they were last read.
     const UiTree& Tree() const { return m_tree; }
 
     QString PathOf(const QString& file) const { return m_folder.filePath(file); }
     QVector<DrawnLine> Lines() const { return ReadLines(PathOf("model.json")); }
     qint64 GetProcessId() const { return m_program.processId(); }
 
-    /// All that the program wrote to standard error.
+    /// Everything the program wrote to standard error.
     QString GetErrorOutput() const { return QString::fromUtf8(m_errorOutput); }
 
-    /// The debug warnings that were logged, a line each.
+    /// The debug warnings that were logged, one per line.
     QByteArray GetWarnings() const { return ReadBytes(PathOf("warnings.log")); }
 
-    /// Keeps this session's files and a picture of the screen in a folder, to find out what went
-    /// wrong.
+    /// Saves this session's files and a screenshot in a folder, for diagnosis.
     void SaveEvidence(const QString& folder);
 
 private:
@@ -122,7 +122,7 @@ private:
     InputDriver m_input;
     ChildProcess m_program;
     UiTree m_tree;
-    QString m_startHint; ///< What the line tool says while it waits for the first point.
+    QString m_startHint; ///< The prompt of the line tool for the first point.
     QByteArray m_errorOutput;
 };
 

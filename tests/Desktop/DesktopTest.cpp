@@ -40,7 +40,7 @@ void DesktopTest::init()
     m_isErrorOutputAccepted = false;
     m_areWarningsAccepted = false;
     m_pSession = std::make_unique<DesktopSession>(m_server.GetDisplay());
-    QVERIFY2(m_pSession->Start(), "the program does not come up");
+    QVERIFY2(m_pSession->Start(), "the program did not start");
 }
 
 void DesktopTest::cleanup()

@@ -11,12 +11,11 @@
 namespace vesk
 {
 
-/// What the desktop tests share: one X server for a test class, one program for each of its
-/// functions.
+/// Base of the desktop tests: one X server per test class, one program per test function.
 ///
-/// After each function the program is closed as a user closes it. It must exit with 0, and must
-/// have raised no debug warning and written nothing to standard error. What failed leaves its files
-/// in desktop-failures/ beside the test programs.
+/// After each function the program is closed as a user closes it. It must exit with 0, and must not
+/// have raised a debug warning or written to standard error. A failed function leaves its files in
+/// desktop-failures/ next to the test programs.
 class DesktopTest : public QObject
 {
     Q_OBJECT
@@ -25,22 +24,22 @@ protected:
     DesktopSession& Session() { return *m_pSession; }
     XServer& Server() { return m_server; }
 
-    /// Closes the program and returns the lines that it had; empty when it did not end well.
+    /// Closes the program and returns the lines of its drawing; empty if it did not exit cleanly.
     QVector<DrawnLine> CloseAndReadLines();
 
-    /// Closes the program as a user does. False when it did not end well.
+    /// Closes the program as a user does. Returns false if it did not exit cleanly.
     bool CloseProgram();
 
-    /// Ends the program as `kill -9` does.
+    /// Kills the program, as `kill -9` does.
     void KillProgram();
 
-    /// This function has read what the program wrote to standard error: it was meant to be there.
+    /// This function has checked what the program wrote to standard error: it was expected.
     void AcceptErrorOutput() { m_isErrorOutputAccepted = true; }
 
-    /// This function has raised warnings and judges the log itself.
+    /// This function has raised warnings and checks the log itself.
     void AcceptWarnings() { m_areWarningsAccepted = true; }
 
-    /// A number from the environment, for runs that are longer than the everyday one.
+    /// A number from the environment, for runs longer than the default.
     static int CountFromEnvironment(const char* name, int everyday);
 
 private slots:

@@ -3,7 +3,7 @@
 namespace vesk
 {
 
-/// Escape takes back one thing at a time, and nothing that is finished.
+/// Escape cancels one thing at a time, and nothing that is finished.
 class EscapeTest : public DesktopTest
 {
     Q_OBJECT
@@ -125,7 +125,7 @@ void EscapeTest::heldForTwoSecondsItCountsOnce()
     QCOMPARE(CloseAndReadLines().size(), 1);
 }
 
-/// As Escape does in the editor, by the window manager's own key.
+/// Like Escape in the editor, but by the key of the window manager.
 void EscapeTest::closingTheEditorEndsTheInputOnly()
 {
     DrawOneLine();

@@ -8,17 +8,17 @@
 namespace vesk
 {
 
-/// Hears what the X server tells a window about the keyboard.
+/// Records the focus events that the X server sends to a window.
 class FocusMonitor
 {
 public:
-    /// `window` is a number, as InputDriver::GetKeyboardOwner gives it.
+    /// `window` is a number as returned by InputDriver::GetKeyboardOwner.
     FocusMonitor(const QString& display, const QString& window);
     ~FocusMonitor();
     FocusMonitor(const FocusMonitor&) = delete;
     FocusMonitor& operator=(const FocusMonitor&) = delete;
 
-    /// What came since the last call, as "FocusIn NotifyNonlinear".
+    /// The events since the last call, such as "FocusIn NotifyNonlinear".
     QStringList Take();
 
 private:

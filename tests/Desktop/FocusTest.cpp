@@ -49,14 +49,14 @@ bool FocusTest::WaitForFocusInEditor()
         [](const UiTree& tree) { return tree.GetJson()["editor"].toObject()["focus"].toBool(); });
 }
 
-/// The line tool with a 5 in its open editor.
+/// Starts the line tool and opens the editor with a 5.
 bool FocusTest::BeginValue()
 {
     return Session().BeginLine() && Session().MoveInView(QPointF(80.0, 40.0)) &&
            Session().Type("5") && Session().WaitForEditor("5") && WaitForFocusInEditor();
 }
 
-/// Opens the list of a box with the mouse and takes its second item with the keys, in one stream
+/// Opens the list of a box with the mouse and selects its second item with the keys, in one stream
 /// with those that follow.
 bool FocusTest::ChooseSecond(const QString& boxId, const QStringList& keysAfterwards)
 {
@@ -221,12 +221,12 @@ void FocusTest::keyboardIsNeverNobodysWhenTheValueIsDone()
     QFETCH(QString, key);
     const QString window = Session().Input().GetKeyboardOwner();
     FocusMonitor monitor(Server().GetDisplay(), window);
-    // It hears nothing at first.
+    // The monitor receives nothing at first.
     QTRY_VERIFY(BeginValue() && !monitor.Take().isEmpty());
     QTRY_VERIFY(Session().Input().GetKeyboardOwner() != window);
     monitor.Take();
 
-    // What it does about an editor that is gone comes too late for what is typed on.
+    // The reaction of the window manager to a closed editor comes too late for keys typed next.
     Server().PauseWindowManager();
     const bool isDone = Session().Type("", {key}) && Session().WaitForNoEditor() &&
                         PollUntil([&] { return Session().Input().GetKeyboardOwner() == window; });

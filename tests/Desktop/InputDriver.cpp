@@ -128,7 +128,7 @@ bool InputDriver::ResizeScreen(QSize size) const
         return QStringList{QString::number(first), QString::number(first + 8),
                            QString::number(first + 16), QString::number(first + 32)};
     };
-    // The server shows nothing to anybody: any timing will do. It may know the mode already.
+    // The server has no physical display, so any timing will do. It may already know the mode.
     Run("xrandr",
         QStringList{"--newmode", mode, "40"} + numbers(size.width()) + numbers(size.height()));
     Run("xrandr", {"--addmode", "screen", mode});
@@ -164,8 +164,8 @@ int InputDriver::CountWindows() const
 
 bool InputDriver::WaitForWindowManager() const
 {
-    // It serves one thing after the other: when it has taken this request, it has let the click
-    // through.
+    // The window manager handles one request after the other: once it has handled this one, it has
+    // passed on the click.
     QByteArray before;
     if (!Run("xdotool", {"get_num_desktops"}, &before))
         return false;

@@ -8,15 +8,15 @@
 namespace vesk
 {
 
-/// A hand on the keyboard, the mouse and the screen of a display: real X events, to whatever has
-/// the focus.
+/// Operates the keyboard, the mouse and the screen of a display: real X events, sent to whatever
+/// has the focus.
 class InputDriver
 {
 public:
     explicit InputDriver(QString display = QString());
 
-    /// Presses keys one after the other without a pause between them but the rate's. A text between
-    /// keys goes in as single characters: `Keys({Text("125.5"), {"Tab"}, …})` is one stream.
+    /// Presses keys one after the other with no pauses but those of the rate. A text between keys
+    /// is passed as single characters: `Keys({Text("125.5"), {"Tab"}, …})` is one stream.
     bool Keys(const QStringList& keys, int keysPerSecond = 200) const;
 
     /// The key names of a text of printable ASCII characters.
@@ -25,40 +25,40 @@ public:
     bool KeyDown(const QString& key) const;
     bool KeyUp(const QString& key) const;
     bool MoveTo(QPoint position) const;
-    /// Clicks, and waits until the window manager has passed the click on: it holds clicks back for
-    /// a moment, and a key that is pressed meanwhile would overtake them.
+    /// Clicks, and waits until the window manager has passed on the click: it holds clicks back for
+    /// a moment, and a key pressed meanwhile would overtake them.
     bool Click(QPoint position, int button = 1) const;
 
-    /// Clicks the places in turn, about a hundred a second. At more than three hundred Qt itself
-    /// loses some.
+    /// Clicks the positions in turn, about a hundred per second. At more than three hundred, Qt
+    /// itself loses some.
     bool ClickAll(const QList<QPoint>& positions) const;
 
     /// Drags with the left button, in steps as a hand makes them, and rests before letting go.
     bool Drag(QPoint from, QPoint to) const;
 
-    /// Turns the wheel at the pointer's place; positive turns away from the user.
+    /// Turns the wheel at the pointer position; positive is away from the user.
     bool Wheel(int steps) const;
 
-    /// True when the server shows a window at exactly that place.
+    /// True if the server shows a window with exactly that geometry.
     bool HasWindowAt(const QRect& rect) const;
 
-    /// How many windows of the program the server shows; a list that drops down is one more.
+    /// The number of windows of the program that the server shows; a drop-down list counts as one.
     int CountWindows() const;
 
-    /// True when the window with that title has the keyboard.
+    /// True if the window with that title has the keyboard focus.
     bool HasKeyboard(const QString& title) const;
 
     /// The number of the window to which the X server sends keys, whatever the window manager
-    /// knows; 1 where it sends them to whatever is under the mouse.
+    /// believes; 1 if it sends them to whatever is under the mouse.
     QString GetKeyboardOwner() const;
 
     /// Asks the window manager to close the window that was mapped first, as Alt+F4 does.
     bool CloseMainWindow() const;
 
-    /// Gives the only screen another size, which is not larger than the first one.
+    /// Resizes the only screen, to at most its initial size.
     bool ResizeScreen(QSize size) const;
 
-    /// Saves a picture of the whole screen.
+    /// Saves a screenshot of the whole screen.
     bool TakePicture(const QString& file) const;
 
 private:

@@ -15,7 +15,7 @@ const QString s_quarter = QStringLiteral("Sketcher.Zoom.Scale.25");
 
 }
 
-/// The button with a menu, its main part, its arrow and its entries.
+/// The menu button: its main part, its arrow and its entries.
 class MenuTest : public DesktopTest
 {
     Q_OBJECT
@@ -38,20 +38,20 @@ private:
     bool OpenSubMenu();
 };
 
-/// The focus on the button: its own key would click it, so to the box behind the next group and
-/// four steps back.
+/// Moves the focus to the button: its own key tip would click it, so the keys go to the box behind
+/// the next group and four steps back.
 QStringList MenuTest::KeysToTheButton()
 {
     return Session().KeysTo("Sketcher.LineStyle") +
            QStringList{"shift+Tab", "shift+Tab", "shift+Tab", "shift+Tab"};
 }
 
-/// Moves the mouse on the last entry, which is the sub-menu, until it is open. A menu pays no heed
-/// to the first move, for the pointer may have been there when it opened; and of moves that a busy
-/// program finds waiting it hears of the last one only.
+/// Moves the mouse over the last entry, which is the sub-menu, until it is open. A menu ignores the
+/// first move, since the pointer may have been there when it opened; and of several queued moves a
+/// busy program sees only the last.
 bool MenuTest::OpenSubMenu()
 {
-    // Without an icon the last entry is not as high as the others.
+    // Without an icon, the last entry is lower than the others.
     const QRect above = Session().Tree().FindEntry(s_zoomOut).value_or(UiControl()).rect;
     QPoint place(above.center().x(), above.bottom() + above.height() / 4);
     return Session().WaitFor([&](const UiTree& tree) {

@@ -41,7 +41,7 @@ QJsonObject FindPane(const UiTree& tree, const QString& name)
     return {};
 }
 
-/// Says which pane differs.
+/// Reports which pane differs.
 void CompareLayouts(const QJsonArray& actual, const QJsonArray& expected)
 {
     const auto toLines = [](const QJsonArray& panes) {
@@ -56,7 +56,7 @@ void CompareLayouts(const QJsonArray& actual, const QJsonArray& expected)
 
 }
 
-/// Panes, dragged, tabbed, floated, closed and brought back by a user's hand.
+/// Panes, dragged, tabbed, floated, closed and brought back by a real user.
 class PaneTest : public DesktopTest
 {
     Q_OBJECT
@@ -87,14 +87,14 @@ private:
     bool ShowLengthOfALine();
 };
 
-/// What the user would call the layout.
+/// What a user would consider the layout.
 QJsonArray PaneTest::Layout()
 {
     Session().WaitForRest();
     return Session().Tree().GetJson()["docks"].toArray();
 }
 
-/// Takes a pane by its title.
+/// Drags a pane by its title.
 bool PaneTest::Drag(const QString& pane, QPoint to)
 {
     const QRect rect = RectOf(Pane(pane));
@@ -126,7 +126,7 @@ bool PaneTest::Restart()
     return Session().Close() == 0 && Session().Start();
 }
 
-/// A line of 100, selected, with the keys in the field of its length.
+/// A selected line of length 100, with the keyboard focus in its length field.
 bool PaneTest::ShowLengthOfALine()
 {
     const bool isDrawn = Session().BeginLine() && Session().Type("100", {"Return", "Escape"}) &&
@@ -156,7 +156,7 @@ void PaneTest::arrangedPanesComeBackInTheNextRun()
     constexpr int CloseButton = 9;
     const QRect properties = RectOf(Pane(s_properties));
 
-    // To another area, below the pane that is there.
+    // To another area, below the pane already there.
     QVERIFY(Drag(s_entities, QPoint(properties.center().x(), properties.bottom() - 20)));
     QVERIFY(WaitForArea(s_entities, "right"));
     QVERIFY(Session().WaitForRest());
@@ -173,7 +173,7 @@ void PaneTest::arrangedPanesComeBackInTheNextRun()
     QVERIFY(Drag(s_journal, QPoint(500, 400)));
     QVERIFY(WaitForPane(s_journal, "floating", true));
 
-    // Closed, and brought back by the menu.
+    // Closed, and reopened through the menu.
     QVERIFY(Session().WaitForRest());
     QVERIFY(ClickTitle(s_inspector, CloseButton));
     QVERIFY(WaitForPane(s_inspector, "visible", false));
@@ -183,7 +183,7 @@ void PaneTest::arrangedPanesComeBackInTheNextRun()
     QVERIFY(Session().ClickEntry(CommandOf(s_inspector)));
     QVERIFY(WaitForPane(s_inspector, "visible", true));
 
-    // And one hidden by the menu.
+    // And one hidden through the menu.
     QVERIFY(Session().OpenMenu(s_menu, CommandOf(s_properties)));
     QCOMPARE(Session().Tree().FindEntry(CommandOf(s_properties))->isChecked,
              std::make_optional(true));
@@ -210,7 +210,7 @@ void PaneTest::aPaneDraggedOutOfTheBottomFloatsAtASizeOfItsOwn()
     QCOMPARE(floating.height(), docked.height());
 }
 
-/// A smaller screen for the time in which it lives.
+/// Makes the screen smaller during its lifetime.
 struct SmallScreen
 {
     SmallScreen(const InputDriver& hand, QSize size) : input(hand), isSet(hand.ResizeScreen(size))
@@ -254,7 +254,7 @@ void PaneTest::allAreHiddenAndComeBackAsTheyWere()
     QVERIFY(WaitForPane(s_journal, "visible", false));
     for (const QString& name : {s_entities, s_properties, s_inspector})
         QVERIFY2(!Pane(name)["visible"].toBool(), qPrintable(name));
-    // Closed now, the next run has the layout that was there before.
+    // If the program is closed now, the next run has the previous layout.
     QVERIFY(Restart());
     CompareLayouts(Layout(), before);
 

@@ -6,11 +6,11 @@
 namespace vesk
 {
 
-/// How long a test waits for what must come. Only a test that fails waits so long: no machine is
+/// How long a test waits for an expected state. Only a failing test waits that long: no machine is
 /// too slow.
 constexpr int PATIENCE_MS = 120000;
 
-/// Asks again and again until `isTrue()` holds. False when it did not within the time.
+/// Polls until `isTrue()` holds. Returns false on timeout.
 template <class Predicate>
 bool PollUntil(Predicate isTrue, int timeoutMs = PATIENCE_MS)
 {

@@ -3,7 +3,7 @@
 namespace vesk
 {
 
-/// A text that makes no sense draws nothing and is offered for another try.
+/// A text that makes no sense draws nothing and stays for another try.
 class RefusedTextTest : public DesktopTest
 {
     Q_OBJECT

@@ -16,7 +16,7 @@ bool WriteBytes(const QString& path, const QByteArray& bytes)
 
 }
 
-/// The journal holds everything that was finished, and gives it back to the last bit.
+/// The journal contains everything that was finished, and restores it to the last bit.
 class ReplayTest : public DesktopTest
 {
     Q_OBJECT
@@ -89,7 +89,7 @@ void ReplayTest::sessionIsReplayedToTheLastBit()
 {
     QFETCH(QString, locale);
     QFETCH(QString, scale);
-    // A locale of our own: the machine may have none but C.
+    // A locale of its own: the machine may have none but C.
     QCOMPARE(QProcess::execute("localedef", {"--no-archive", "-i", "de_DE", "-f", "UTF-8",
                                              Session().PathOf("de_DE.UTF-8")}),
              0);

@@ -17,7 +17,7 @@ const QString s_arc3Points = QStringLiteral("Sketcher.Arc3Points");
 const QString s_arcCentre = QStringLiteral("Sketcher.ArcCentre");
 const QString s_rotate = QStringLiteral("Sketcher.Rotate");
 
-/// A click stands for its pixel, and the view's middle may lie between two.
+/// A click represents its pixel, and the centre of the view may lie between two.
 constexpr double Pixel = 2.0;
 constexpr double Rounding = 1e-9;
 
@@ -33,7 +33,7 @@ double Distance(const QJsonValue& left, const QJsonValue& right)
 
 }
 
-/// Rectangles, circles, arcs and turns, by real keys and clicks.
+/// Rectangles, circles, arcs and rotations, by real keys and clicks.
 class ShapeTest : public DesktopTest
 {
     Q_OBJECT
@@ -74,7 +74,7 @@ bool ShapeTest::Begin(const QString& command)
     return Session().Click(command) && Session().WaitForAction(command);
 }
 
-/// Clicks so that each is taken before the next.
+/// Clicks the points, each only after the previous one was accepted.
 bool ShapeTest::ClickPoints(const QVector<QPointF>& points)
 {
     for (const QPointF point : points)
@@ -90,7 +90,7 @@ bool ShapeTest::TypeValue(const QString& text)
     return Session().Type(text, {"Return"}) && Session().WaitForNoEditor();
 }
 
-/// A line to the right of 100, from the middle of the view.
+/// A line of 100 to the right, from the centre of the view.
 bool ShapeTest::DrawLine()
 {
     return Session().BeginLine(QPointF(0, 0)) && Session().Type("100", {"Tab"}) && TypeValue("0") &&
@@ -107,7 +107,7 @@ QJsonArray ShapeTest::CloseAndReadEntities()
         .toArray();
 }
 
-/// The only one that there is.
+/// The only entity of the drawing.
 QJsonObject ShapeTest::CloseAndReadEntity()
 {
     const QJsonArray entities = CloseAndReadEntities();
@@ -247,7 +247,7 @@ void ShapeTest::arcAboutACentreIsTyped()
     const double turned = (directionOf("end") - directionOf("start")) * 180.0 / M_PI;
     const double sweep = std::remainder(turned * normal - std::abs(degrees), 360.0);
     QVERIFY(std::abs(sweep) <= 1e-7);
-    // It begins or ends on the clicked direction.
+    // It starts or ends in the clicked direction.
     const double fixed = degrees * normal > 0 ? directionOf("start") : directionOf("end");
     QVERIFY(std::abs(fixed) <= Pixel / 40);
 }
@@ -405,7 +405,7 @@ void ShapeTest::editorsStandInTheViewAndOffTheCursor()
     constexpr int Margin = 6;
     QFETCH(QString, command);
     QFETCH(QVector<QPointF>, points);
-    // What a turn needs: something selected.
+    // A rotation needs a selection.
     QVERIFY(DrawLine());
     QVERIFY(ClickPoints({{50, 0}}));
     QVERIFY(Begin(command));

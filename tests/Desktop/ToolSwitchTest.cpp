@@ -8,10 +8,10 @@ namespace vesk
 namespace
 {
 
-/// So many switches go in as one burst before anybody looks.
+/// This many switches are sent as one burst before anything is checked.
 constexpr int BURST = 10;
 
-/// A line of /proc/<pid>/status in kB, -1 when it is not there.
+/// A value from /proc/<pid>/status in kB; -1 if it does not exist.
 int ReadStatus(qint64 processId, const char* field)
 {
     const QString status =
@@ -24,7 +24,7 @@ int ReadStatus(qint64 processId, const char* field)
 
 }
 
-/// Going from tool to tool all day costs nothing.
+/// Switching between tools all day costs nothing.
 class ToolSwitchTest : public DesktopTest
 {
     Q_OBJECT
@@ -41,7 +41,8 @@ private:
 bool ToolSwitchTest::EndWithErase(QPoint erase)
 {
     const auto runs = [](const UiTree& tree) { return tree.GetAction() == "Sketcher.Erase"; };
-    // On a busy machine the window manager lets a click in some hundreds get lost, in any program.
+    // On a busy machine the window manager loses about one click in several hundred, in any
+    // program.
     return Session().WaitFor(runs, 2000) ||
            (Session().Input().Click(erase) && Session().WaitFor(runs));
 }
@@ -51,7 +52,7 @@ int ToolSwitchTest::CountCommands()
     return ReadBytes(Session().PathOf("journal")).count("\"kind\":\"command\"");
 }
 
-/// Switches until the program has begun so many commands: a busy machine may lose clicks.
+/// Switches until the program has started this many commands: a busy machine may lose clicks.
 void ToolSwitchTest::Switch(int count)
 {
     const QPoint line = Session().Tree().FindControl("Sketcher.Line")->rect.center();

@@ -35,7 +35,7 @@ QVector<TypedValues> RandomValues(int count)
 
 }
 
-/// A typed value reaches the drawing as it was typed, however soon and however fast.
+/// A typed value reaches the drawing as typed, however soon and however fast it is typed.
 class TypedLineTest : public DesktopTest
 {
     Q_OBJECT
@@ -71,7 +71,7 @@ void TypedLineTest::lengthAloneTakesTheDirectionOfTheCursor()
     const QVector<DrawnLine> lines = CloseAndReadLines();
     QCOMPARE(lines.size(), 1);
     QVERIFY(qAbs(lines[0].GetLength() - 75.0) <= TOLERANCE);
-    // The points under a start and a cursor that rest on whole pixels.
+    // The world points of a start and a cursor on whole pixels.
     QVERIFY(AngleBetween(lines[0].GetAngle(), qRadiansToDegrees(std::atan2(120.0, 90.0))) < 0.5);
 }
 
@@ -128,7 +128,7 @@ void TypedLineTest::noneOfManyRandomValuesIsAltered()
         RandomValues(CountFromEnvironment("VESK_DESKTOP_VALUES", 60));
     for (int i = 0; i < values.size(); ++i)
     {
-        // A start of its own for each keeps the coordinates small, so that 1e-9 can be asked for.
+        // A separate start for each line keeps the coordinates small enough to require 1e-9.
         QVERIFY(Session().BeginLine());
         QVERIFY(Session().Type(values[i].length, QStringList{"Tab"} +
                                                      InputDriver::Text(values[i].angle) +

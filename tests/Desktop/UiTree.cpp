@@ -56,7 +56,7 @@ std::optional<UiTree> UiTree::Read(const QString& path)
 
 std::optional<UiControl> UiTree::FindControl(const QString& id) const
 {
-    // An action may bear the id of its button; only the button has a place.
+    // An action may have the same id as its button; only the button has a geometry.
     std::optional<UiControl> found;
     for (const QJsonValue value : m_root["controls"].toArray())
     {

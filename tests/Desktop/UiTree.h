@@ -31,7 +31,7 @@ struct UiView
     double worldPerPixel = 1.0;
     QPointF centre;
 
-    /// Where a world point is on the screen.
+    /// The screen position of a world point.
     QPoint ToScreen(QPointF world) const;
 };
 
@@ -45,34 +45,34 @@ struct UiEditor
     bool isVisible = false;
     bool hasFocus = false;
     int state = 0;
-    std::optional<double> value; ///< Nothing where the text has none.
+    std::optional<double> value; ///< Empty if the text has no value.
     QVector<int> locked;
 };
 
-/// What the program says that it shows, as read from its file.
+/// The screen contents reported by the program, as read from its file.
 class UiTree
 {
 public:
-    /// Reads the file; nothing while there is none, or none that is whole.
+    /// Reads the file; empty while it does not exist or is incomplete.
     static std::optional<UiTree> Read(const QString& path);
 
-    /// The control with that id; nothing when there is none.
+    /// The control with that id; empty if there is none.
     std::optional<UiControl> FindControl(const QString& id) const;
 
-    /// The key that the ribbon shows on a control: digits, then letters, counted from the left;
-    /// what cannot be used is left out. Empty when the control has none.
+    /// The key tip that the ribbon shows on a control: digits, then letters, counted from the left,
+    /// skipping unusable controls. Empty if the control has none.
     QString GetKeyTip(const QString& id) const;
 
-    /// The entry of an open menu with that command; nothing while it is not on screen.
+    /// The entry of an open menu with that command; empty while it is not on screen.
     std::optional<UiControl> FindEntry(const QString& commandId) const;
 
-    /// The first view; nothing when there is none.
+    /// The first view; empty if there is none.
     std::optional<UiView> FindView() const;
 
-    /// The open editor; nothing while no dimension is being typed.
+    /// The open editor; empty while no dimension is being typed.
     std::optional<UiEditor> FindEditor() const;
 
-    /// The command whose action runs, empty when none does.
+    /// The command whose action is running; empty if none is.
     QString GetAction() const;
     QString GetHint() const;
     int GetEntityCount() const;

@@ -12,7 +12,7 @@ const DesktopSession::Environment s_attended = {{"VESK_UNATTENDED", "0"}};
 
 }
 
-/// Debug warnings that the program raises when it is told to, and a user who is bothered by them.
+/// Debug warnings that the program raises on request, and a user disturbed by them.
 class WarningTest : public DesktopTest
 {
     Q_OBJECT
@@ -34,7 +34,7 @@ private:
     QVector<QJsonObject> CloseAndReadLog();
 };
 
-/// Starts the program once more; it raises warnings of that kind.
+/// Restarts the program so that it raises warnings of that kind.
 bool WarningTest::Begin(const QString& kind)
 {
     KillProgram();
@@ -120,7 +120,7 @@ void WarningTest::aStormFromPaintingShowsOneDialog()
     QVERIFY(WaitForWarning("RaiseInPaint"));
     const int windows = Session().Input().CountWindows();
 
-    // The storm goes on behind the dialog.
+    // The storm of warnings continues behind the dialog.
     QVERIFY(Session().WaitFor([](const UiTree& tree) {
         return tree.GetJson()["warning"].toObject()["suppressed"].toInt() > 50;
     }));

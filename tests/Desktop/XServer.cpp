@@ -49,8 +49,8 @@ void XServer::ResumeWindowManager()
 
 bool XServer::StartServer()
 {
-    // The number comes on standard output. Without -noreset the server starts anew when a query
-    // ends.
+    // The display number is printed on standard output. Without -noreset the server restarts when a
+    // client query ends.
     m_server.setStandardErrorFile(QProcess::nullDevice());
     m_server.start("Xvfb", {"-displayfd", "1", "-screen", "0", "1400x1000x24", "-nolisten", "tcp",
                             "-noreset"});

@@ -7,7 +7,7 @@
 namespace vesk
 {
 
-/// An X server of our own with a window manager, on the first display number that is free.
+/// A private X server with a window manager, on the first free display number.
 class XServer
 {
 public:
@@ -16,15 +16,15 @@ public:
     XServer(const XServer&) = delete;
     XServer& operator=(const XServer&) = delete;
 
-    /// Starts both and waits until the window manager rules. False when one of them cannot be
-    /// started; `GetError` then says which.
+    /// Starts both and waits until the window manager is in control. Returns false if one of them
+    /// cannot be started; `GetError` then says which.
     bool Start();
 
-    /// ":7", empty before the start.
+    /// For example ":7"; empty before the start.
     QString GetDisplay() const { return m_display; }
     QString GetError() const { return m_error; }
 
-    /// Has the window manager do nothing until it is told to go on, as on a machine that is busy.
+    /// Suspends the window manager until it is resumed, as on a busy machine.
     void PauseWindowManager();
     void ResumeWindowManager();
 

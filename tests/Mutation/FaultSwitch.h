@@ -6,14 +6,14 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
-/// Chooses which of the faults that were compiled in is at work. Every function that holds some
-/// asks as it is entered.
+/// Selects which of the compiled-in faults is active. Every function that contains faults queries
+/// it on entry.
 namespace vesk_fault
 {
 
-/// In place of the number of a fault: none is at work, and functions tell that they were entered.
+/// In place of a fault number: no fault is active, and functions record that they were entered.
 constexpr int Recording = -1;
-/// How a program ends when a fault takes the last `return` of a function away.
+/// The exit status of a program in which a fault removes the last `return` of a function.
 constexpr int FlowsOffStatus = 97;
 
 inline int Chosen()
@@ -25,7 +25,7 @@ inline int Chosen()
     return chosen;
 }
 
-/// Lifts the limit of a file's size, which stands for a full disk in some tests, while it lives.
+/// Lifts the file size limit, which simulates a full disk in some tests, during its lifetime.
 class NoFileSizeLimit
 {
 public:
@@ -57,7 +57,7 @@ inline void Record(int function)
     ::close(file);
 }
 
-/// The number of the fault at work, 0 when there is none.
+/// The number of the active fault; 0 if there is none.
 inline int Enter(int function)
 {
     if (Chosen() == Recording)
@@ -65,7 +65,7 @@ inline int Enter(int function)
     return Chosen();
 }
 
-/// No compiler lets this pass, so it is no fault that anybody could make.
+/// No compiler accepts such code without a warning, so it is not a fault anybody could make.
 [[noreturn]] inline void FlowsOff()
 {
     ::_exit(FlowsOffStatus);

@@ -1,4 +1,4 @@
-"""Finds where in a source a fault can be made, with the help of libclang."""
+"""Finds where faults can be made in a source, using libclang."""
 import concurrent.futures
 import dataclasses
 import hashlib
@@ -23,7 +23,7 @@ OPERATORS = [("comparison", OTHER_COMPARISON), ("connective", OTHER_CONNECTIVE),
 KINDS = ["argument", "arithmetic", "comparison", "condition", "connective", "constant", "early return", "not",
          "returned value", "statement"]
 
-# What they answer is the same when two neighbouring arguments change places.
+# Their result does not change if two neighbouring arguments are exchanged.
 SYMMETRIC = {"min", "max", "hypot", "operator+", "operator==", "operator!="}
 
 LEXEME = re.compile(r"""
@@ -39,7 +39,7 @@ COMMENT = re.compile(r"//[^\n]*|/\*.*?\*/", re.DOTALL)
 
 @dataclasses.dataclass
 class Body:
-    """Where faults can be: a function's body, or else what only a build of its own can change."""
+    """Where faults can be: the body of a function, or code that only a separate build can change."""
     function: str
     start: int
     end: int
@@ -49,7 +49,7 @@ class Body:
 
 @dataclasses.dataclass
 class Place:
-    """One fault: the text between start and end gives way to other text."""
+    """One fault: the text between start and end is replaced."""
     body: int
     start: int
     end: int
@@ -58,7 +58,7 @@ class Place:
 
 
 class Source:
-    """A source, what its functions are, and the faults that can be made in it."""
+    """A source, its functions, and the faults that can be made in it."""
 
     def __init__(self, name, text, bodies, places):
         self.name = name
@@ -67,7 +67,7 @@ class Source:
         self.places = places
 
     def body_of(self, start, end):
-        """The number of the function that holds all of this text, or None."""
+        """The number of the function that contains all of this text, or None."""
         for number, body in enumerate(self.bodies):
             if body.switchable and body.start < start and end < body.end:
                 return number
@@ -77,7 +77,7 @@ class Source:
         return self.text.count("\n", 0, offset) + 1
 
     def lines_around(self, place):
-        """The whole lines that a fault touches, before and after, with every blank counted as one."""
+        """The complete lines that a fault touches, before and after, with white space collapsed."""
         first = self.text.rfind("\n", 0, place.start) + 1
         last = self.text.find("\n", place.end)
         before = self.text[first:last]
@@ -86,13 +86,13 @@ class Source:
 
 
 class Scan:
-    """Walks through what libclang tells of one source."""
+    """Walks the syntax tree that libclang builds for one source."""
 
     def __init__(self, path, command):
         self.path = path
         raw = path.read_bytes()
         self.text = raw.decode("utf-8")
-        # libclang counts bytes.
+        # libclang counts in bytes.
         self.offset = [0] * (len(raw) + 1)
         position = 0
         for index, character in enumerate(self.text):
@@ -104,7 +104,7 @@ class Scan:
         unit = cindex.Index.create().parse(str(path), [*command[1:], "-x", "c++", "-w"])
         errors = [entry for entry in unit.diagnostics if entry.severity >= cindex.Diagnostic.Error]
         if errors:
-            raise Problem(f"{path.relative_to(COPY)}: libclang does not understand it: {errors[0].spelling}")
+            raise Problem(f"{path.relative_to(COPY)}: libclang cannot parse it: {errors[0].spelling}")
         self.find_bodies(unit.cursor)
 
     def extent(self, cursor):
@@ -251,7 +251,7 @@ class Scan:
             self.negate(children[0], "condition")
 
     def negate(self, cursor, kind):
-        """Unless another kind does the same: a comparison that is turned round, a negation that is dropped."""
+        """Negates, unless another kind has the same effect: an inverted comparison, or a dropped negation."""
         start, end = self.extent(cursor)
         text = self.text[start:end]
         if text and text not in ("true", "false") and not self.is_turned_round_otherwise(cursor):
@@ -294,7 +294,7 @@ class Scan:
             self.add(start, end, ";" if self.text[end - 1] in ";}" else "", "statement")
 
     def is_unnamed_elsewhere(self, cursor):
-        """A variable that is there for what its construction and destruction do."""
+        """A variable that exists only for the effects of its construction and destruction."""
         body = self.bodies[-1]
         names = [child.spelling for child in cursor.get_children() if child.kind.name == "VAR_DECL"]
         return bool(names) and all(
@@ -337,7 +337,7 @@ class Scan:
             self.add(start, end, "{}", "returned value")
 
     def visit_name(self, cursor, _children):
-        """A name from an enumeration gives way to its neighbour there."""
+        """Replaces an enumerator by its neighbour in the enumeration."""
         target = cursor.referenced
         if target is None or target.kind != cindex.CursorKind.ENUM_CONSTANT_DECL:
             return
@@ -404,7 +404,7 @@ def other_numbers(word):
 
 
 def scan_one(name, command):
-    """Answers what it found, or what went wrong: libclang's own errors tell little."""
+    """Returns what it found, or what went wrong: libclang's own errors say little."""
     try:
         scan = Scan(COPY / name, command)
     except Problem as problem:
@@ -416,7 +416,7 @@ def scan_one(name, command):
 
 
 def scan(commands, jobs):
-    """The sources that are named with their compile commands; what is known from an earlier run is read from there."""
+    """Scans the sources given with their compile commands; results of an earlier run are reused."""
     if cindex is None:
         raise Problem("needs libclang's bindings for Python: run scripts/setup mutation")
     store = WORK / "places"

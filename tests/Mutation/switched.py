@@ -1,4 +1,4 @@
-"""Compiles faults in, all at once: each is a copy of the function it is in, chosen by the environment."""
+"""Compiles faults in, all at once: each is a copy of its function, selected through the environment."""
 import concurrent.futures
 import dataclasses
 import functools
@@ -19,7 +19,7 @@ CHOICE = "VESK_FAULT"
 RECORD = "VESK_FAULT_RECORD"
 FLOWS_OFF = 97
 SWITCH = COPY / "tests" / "Mutation" / "FaultSwitch.h"
-# Copies of a function cost time to compile; more faults of one source than this wait for the next build.
+# Copies of a function take time to compile; faults of one source beyond this number wait for the next build.
 FAULTS_AT_ONCE = 80
 ERROR = re.compile(r"^([^:\n]+):\d+(?::\d+)?: (?:fatal )?error:")
 MARK = re.compile(r"\bfault-(\d+):\d+")
@@ -46,7 +46,7 @@ class Fault:
 
 
 def batches(faults):
-    """As few builds as the bound for one source allows."""
+    """As few builds as the limit per source allows."""
     taken, parts = {}, []
     for fault in faults:
         count = taken.get(fault.source.name, 0)
@@ -61,9 +61,9 @@ INLINED_QUIET = '#pragma GCC diagnostic ignored "-Wmaybe-uninitialized"\n'
 
 
 def install(name, text):
-    """Puts a text in the place of a source. Nobody wants warnings of it: GCC gives none for system headers.
+    """Replaces a source by a text. Its warnings are unwanted: GCC gives none for system headers.
 
-    It still gives those that stand in another header, into which something broken was inlined.
+    GCC still gives those located in another header into which broken code was inlined.
     """
     path = COPY / name
     quiet = f'#pragma GCC system_header\n#line 1 "{path}"\n{text}'
@@ -75,7 +75,7 @@ def install(name, text):
 
 
 class Switchboard:
-    """The faults that are compiled in, and the functions that tell when they are entered."""
+    """The faults that are compiled in, and the functions that record when they are entered."""
 
     def __init__(self, sources, commands, jobs):
         self.sources = sources
@@ -85,7 +85,7 @@ class Switchboard:
         self.faults = []
 
     def compile_in(self, faults, targets, also=()):
-        """Answers the faults that do not compile. The sources of `also` tell of their functions, too."""
+        """Returns the faults that do not compile. The sources in `also` record their functions, too."""
         wanted, self.faults = faults, list(faults)
         for number, fault in enumerate(faults, 1):
             fault.number = number
@@ -126,13 +126,13 @@ class Switchboard:
                 f'#line {line} "{path}"\n')
 
     def check_command(self, name):
-        """A header is looked at like a source of its library."""
+        """A header is checked like a source of its library."""
         if name in self.commands:
             return [*self.commands[name], str(COPY / name)]
         return [*any_command(self.commands, name), "-x", "c++", str(COPY / name)]
 
     def drop_what_does_not_compile(self, names, commands):
-        """Answers whether there was any."""
+        """Returns whether any were dropped."""
         before = len(self.faults)
         while commands:
             self.write(names, marked=True)
@@ -147,7 +147,7 @@ class Switchboard:
         return len(self.faults) < before
 
     def record(self, programs):
-        """Runs each program without a fault. Answers which enter each function, and which fail even so."""
+        """Runs each program without a fault. Returns which enter each function, and which fail regardless."""
         with tempfile.TemporaryDirectory(dir=WORK, prefix="record-") as folder:
             def settings(program):
                 return {CHOICE: "-1", RECORD: f"{folder}/{program.name}"}
@@ -166,14 +166,14 @@ def numbers_in(path):
 
 
 def any_command(commands, name):
-    """The compile command of a source that stands near a header."""
+    """The compile command of a source near a header."""
     def shared(other):
         return len(pathlib.os.path.commonprefix([name, other]))
     return commands[max(sorted(commands), key=shared)]
 
 
 def check(state, command):
-    """What the compiler says. It says the same again as long as all sources are in the same state."""
+    """The output of the compiler, cached as long as no source changes."""
     key = hashlib.sha256("\0".join([state, *command]).encode()).hexdigest()
     known = WORK / "checks" / key
     if known.exists():
@@ -185,7 +185,7 @@ def check(state, command):
 
 
 def culprits_in(output):
-    """The faults that errors stand in, or from which a template was used that has one."""
+    """The faults that contain an error, or that instantiate a template that does."""
     culprits, mentioned = set(), set()
     for line in output.splitlines():
         marks = {int(number) for number in MARK.findall(line)}
@@ -198,7 +198,7 @@ def culprits_in(output):
 
 
 def failed_commands(output):
-    """What ninja ran in vain, made into checks."""
+    """The failed commands of ninja, turned into checks."""
     commands = []
     lines = output.splitlines()
     for line, following in zip(lines, lines[1:]):

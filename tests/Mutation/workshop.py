@@ -1,6 +1,6 @@
 """The copy of the tree in which faults are made: it is built here, and test programs run against it.
 
-The sources stay untouched. The copy lies below build/mutation and is kept for the next run.
+The sources are not touched. The copy is below build/mutation and is kept for the next run.
 """
 import concurrent.futures
 import contextlib
@@ -25,19 +25,19 @@ WORK = ROOT / "build" / "mutation"
 COPY = WORK / "tree"
 BUILD = COPY / "build" / "dev"
 TABLES = pathlib.Path(__file__).resolve().parent
-# As the tree itself is built, so that the compiler cache serves both. A library that changed links no program anew.
+# Same as for the tree itself, so that both share the compiler cache. A changed library does not relink programs.
 CONFIGURE = ["cmake", "--preset", "dev", "-DCMAKE_LINK_DEPENDS_NO_SHARED=ON"]
 MEMCHECK = ["valgrind", "--quiet", "--error-exitcode=9"]
 ADDRESS_SPACE = 8 << 30
 
 
 class Problem(Exception):
-    """Something is wrong with a table, an option or the tree, not with a test."""
+    """Something is wrong with a table, an option or the tree, rather than with a test."""
 
 
 @dataclasses.dataclass
 class Program:
-    """A run of a test program, and what it takes when nothing is wrong."""
+    """A run of a test program, and the time it takes without a fault."""
     name: str
     target: str
     arguments: list
@@ -63,13 +63,13 @@ class Outcome:
 
 @contextlib.contextmanager
 def alone():
-    """Two runs would build in each other's way."""
+    """Two runs would interfere with each other's builds."""
     WORK.mkdir(parents=True, exist_ok=True)
     with open(WORK / "lock", "w", encoding="ascii") as lock:
         try:
             fcntl.flock(lock, fcntl.LOCK_EX | fcntl.LOCK_NB)
         except BlockingIOError:
-            raise Problem(f"another run is at work in {WORK.relative_to(ROOT)}") from None
+            raise Problem(f"another run is using {WORK.relative_to(ROOT)}") from None
         yield
 
 
@@ -95,13 +95,13 @@ def copy_tree():
 
 
 def write(path, text):
-    """Leaves the time of a file alone whose text stays, so that nothing is built for it."""
+    """Keeps the time stamp of a file whose text does not change, so that it causes no build."""
     if not path.exists() or path.read_text(encoding="utf-8") != text:
         path.write_text(text, encoding="utf-8")
 
 
 def state_of_sources():
-    """Differs whenever any source differs."""
+    """A hash that changes whenever any source does."""
     state = hashlib.sha256()
     for path in sorted((COPY / "src").rglob("*")):
         if path.is_file():
@@ -110,7 +110,7 @@ def state_of_sources():
 
 
 def environment():
-    """Nobody reads the stack of a program that a fault brings down, and a debugger takes long to tell it."""
+    """Nobody reads the stack trace of a program crashed by a fault, and a debugger takes long to print it."""
     return dict(os.environ, CCACHE_BASEDIR=str(COPY), CCACHE_NOHASHDIR="1", LC_ALL="C.UTF-8",
                 QTEST_DISABLE_STACK_DUMP="1")
 
@@ -128,7 +128,7 @@ def prepare():
 
 
 def commands_of_tests():
-    """The program that each test runs and its arguments; ctest does not tell them before the program is built."""
+    """The program that each test runs and its arguments; ctest does not list them before the program is built."""
     line = re.compile(r'^add_test\(\[=\[(.+)\]=\] "([^"]+)"(.*)\)$', re.MULTILINE)
     texts = (path.read_text(encoding="utf-8") for path in (BUILD / "tests").rglob("CTestTestfile.cmake"))
     return {name: (pathlib.Path(program).name, shlex.split(arguments))
@@ -157,7 +157,7 @@ def targets_of(programs):
 
 
 def compile_commands():
-    """How each source of a library is compiled, without output and without what clang does not know."""
+    """How each source of a library is compiled, without output and without options unknown to clang."""
     commands = {}
     for entry in json.loads((BUILD / "compile_commands.json").read_text(encoding="utf-8")):
         words = shlex.split(entry["command"])
@@ -173,7 +173,7 @@ def compile_commands():
 
 
 def build(targets, jobs):
-    """What ninja printed when the targets cannot be built, else nothing."""
+    """The output of ninja if the targets cannot be built, otherwise empty."""
     result = run(["ninja", "-C", str(BUILD), "-k0", f"-j{jobs}", *targets])
     return result.stdout if result.returncode != 0 else ""
 
@@ -186,7 +186,7 @@ def limited(command, cpu, with_address_space):
 
 
 def read_until_failure(process):
-    """Nothing that comes after the first failure is of interest."""
+    """Reads no further than the first failure."""
     lines = []
     for line in process.stdout:
         lines.append(line)
@@ -203,8 +203,8 @@ def end(process):
 def execute(program, variables=None, checker="", allowance=1):
     """Runs a program until it ends or fails for the first time.
 
-    Processor time is limited to a multiple of what the program takes when nothing is wrong; so is the time on the
-    clock, but that says little on a machine with other work: the caller repeats what ran into it.
+    Processor time is limited to a multiple of what the program takes without a fault. So is wall-clock time, but that
+    says little on a machine with other work: the caller repeats whatever timed out.
     """
     wall = (20 + 10 * program.seconds) * allowance * (30 if checker else 1)
     cpu = (10 + 10 * program.cpu) * allowance * (30 if checker else 1)
@@ -233,7 +233,7 @@ def execute(program, variables=None, checker="", allowance=1):
 
 
 def measure(chosen, jobs, variables_of=lambda program: {}):
-    """Runs each program without a fault, notes what it takes and answers those that fail even so."""
+    """Runs each program without a fault, records its times and returns those that fail regardless."""
     def one(program):
         program.seconds, program.cpu = 60.0, 60.0
         outcome = execute(program, variables_of(program))

@@ -29,7 +29,7 @@ const QByteArray s_end = "{\"n\":1,\"kind\":\"end\",\"result\":\"done\"}\n";
 const QByteArray s_end4 = "{\"n\":4,\"kind\":\"end\",\"result\":\"done\"}";
 const QByteArray s_torn = "{\"n\":4,\"ki";
 
-/// So many lines that the reading is still under way when the user comes.
+/// Enough lines that the journal is still being read when the user acts.
 QByteArray HugeJournal()
 {
     QByteArray journal = s_unfinished;
@@ -49,7 +49,7 @@ bool IsReading()
 
 }
 
-/// A journal that is read and gone on with.
+/// A journal that is read and then continued.
 class ContinueTest final : public QObject
 {
     Q_OBJECT
@@ -241,7 +241,7 @@ private slots:
 
         QCOMPARE(reader.End(SIGKILL).code, -1);
 
-        // On a fast machine the reading may have been over.
+        // On a fast machine, reading may already have finished.
         QVERIFY(ReadFile(Kept()) == huge || ReadFile(Kept()) == HugeJournal() + s_end);
     }
 
@@ -280,7 +280,7 @@ private:
         return m_pFixture->File("link");
     }
 
-    /// The record of a property of entities.
+    /// The record of a property change of entities.
     static QByteArray Edit(const QByteArray& ids, const QByteArray& property,
                            const QByteArray& value)
     {
@@ -289,7 +289,7 @@ private:
                ids + "\",\"property\":\"" + property + "\",\"value\":" + value + "}}\n" + s_end4;
     }
 
-    /// Options that open that journal and go on in the same file by another name.
+    /// Options that open that journal and continue it in the same file under another name.
     Options Continue(const QByteArray& journal, const QString& name) const
     {
         WriteFile(Kept(), journal);
@@ -313,7 +313,7 @@ private:
         return ReadFile(model);
     }
 
-    /// Journals below the user's data folder.
+    /// Journals in the user's data folder.
     QStringList OtherJournals() const
     {
         const QDir folder(m_pFixture->File("data/sketcher"));

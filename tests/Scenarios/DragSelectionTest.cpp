@@ -16,8 +16,8 @@ namespace
 
 using Selections = std::vector<std::vector<int>>;
 
-/// From left to right: one line that stands in the box from (-50, -50) to (50, 50), one that leaves
-/// it on the right, one outside.
+/// From left to right: one line inside the box from (-50, -50) to (50, 50), one that leaves it on
+/// the right, one outside.
 void DrawThreeLines(ScriptedUser& user)
 {
     user.DrawLine(-30, -20, -30, 20).DrawLine(0, 10, 90, 10).DrawLine(120, -20, 120, 20);
@@ -25,7 +25,7 @@ void DrawThreeLines(ScriptedUser& user)
 
 }
 
-/// Entities selected with a box.
+/// Selecting entities with a box.
 class DragSelectionTest final : public QObject
 {
     Q_OBJECT

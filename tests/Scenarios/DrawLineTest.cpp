@@ -43,7 +43,7 @@ bool IsRunning(const std::wstring& commandId)
 
 }
 
-/// Lines drawn by typing, by a user of the whole program.
+/// Drawing lines by typing, as a user of the whole program.
 class DrawLineTest final : public QObject
 {
     Q_OBJECT
@@ -76,7 +76,7 @@ private slots:
         QCOMPARE(busy, idle);
     }
 
-    /// The window is never narrower than its status bar asks for.
+    /// The window is never narrower than its status bar requires.
     void longHintAsksForNoWiderWindow()
     {
         int before = 0;

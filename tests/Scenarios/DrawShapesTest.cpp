@@ -25,7 +25,7 @@ const QString s_threePoints = QStringLiteral("Sketcher.Arc3Points");
 const QString s_arcCentre = QStringLiteral("Sketcher.ArcCentre");
 const QString s_rotate = QStringLiteral("Sketcher.Rotate");
 
-/// A value as the dimension's editor delivers it.
+/// Delivers a value as the dimension editor does.
 std::function<void()> Deliver(ActionViewInput::Kind kind, double value)
 {
     return [kind, value] {
@@ -35,7 +35,7 @@ std::function<void()> Deliver(ActionViewInput::Kind kind, double value)
     };
 }
 
-/// Each kind, by clicks and by values that no decimal fraction holds.
+/// Draws each kind, by clicks and by values without an exact decimal representation.
 void DrawEveryKind(ScriptedUser& user)
 {
     user.Click(s_rectangle).ClickAt(-150, -100).ClickAt(-90, -40).ClickAt(-150, 0).MoveTo(-90, 50);
@@ -54,7 +54,7 @@ void DrawEveryKind(ScriptedUser& user)
 
 }
 
-/// Rectangles, circles and arcs drawn and turned, by a user of the whole program.
+/// Drawing and rotating rectangles, circles and arcs, as a user of the whole program.
 class DrawShapesTest final : public QObject
 {
     Q_OBJECT

@@ -13,7 +13,7 @@
 using vesk::DrawnLine;
 using vesk::ReadLines;
 
-/// An entity of a model file; what its kind does not have is empty.
+/// An entity of a model file; fields its kind does not have are empty.
 struct DrawnEntity
 {
     using Point = std::array<double, 3>;
@@ -27,13 +27,13 @@ struct DrawnEntity
     std::vector<Point> corners;
 };
 
-/// All entities of a model file; empty when it cannot be read.
+/// All entities of a model file; empty if it cannot be read.
 std::vector<DrawnEntity> ReadEntities(const QString& path);
 
-/// The records of a journal; the test fails when a line of it is bad.
+/// The records of a journal; the test fails if a line is malformed.
 std::vector<vesk::JournalRecord> ReadJournal(const QString& path);
 
-/// The records of one kind, in their order.
+/// The records of one kind, in order.
 template <class Record>
 std::vector<Record> RecordsOf(const std::vector<vesk::JournalRecord>& records)
 {
@@ -46,8 +46,8 @@ std::vector<Record> RecordsOf(const std::vector<vesk::JournalRecord>& records)
     return found;
 }
 
-/// The whole file.
+/// The contents of the file.
 QByteArray ReadFile(const QString& path);
 
-/// Replaces a file; the test fails when it cannot be written.
+/// Replaces a file; the test fails if it cannot be written.
 void WriteFile(const QString& path, const QByteArray& content);

@@ -28,7 +28,7 @@ namespace
 
 const QString s_line = QStringLiteral("Sketcher.Line");
 
-/// So many lines that the files made of them take some pages.
+/// Enough lines that the files made from them occupy several pages.
 QByteArray MakeJournal(int lineCount)
 {
     QByteArray journal = "{\"n\":1,\"kind\":\"command\",\"id\":\"Sketcher.Line\"}\n";
@@ -45,7 +45,8 @@ QByteArray WholeLines(const QByteArray& text)
     return text.left(text.lastIndexOf('\n') + 1);
 }
 
-/// The complete walk takes minutes and is asked for by the environment; without it, some steps.
+/// The complete walk takes minutes and is enabled through the environment; without it, only some
+/// steps are taken.
 bool IsWalkComplete()
 {
     return qEnvironmentVariable("VESK_FULL_DISK") == QLatin1String("all");
@@ -58,8 +59,8 @@ void AddShortages()
     QTest::newRow("by pages") << true;
 }
 
-/// A folder that has room for some bytes a file, or for some pages, from Begin until End. Bytes and
-/// pages are its steps.
+/// A folder with room for a limited number of bytes per file, or of pages, from Begin until End.
+/// The steps are bytes or pages.
 class Shortage
 {
 public:
@@ -77,7 +78,7 @@ public:
         return m_pDisk == nullptr ? size : (size + SmallDisk::PageSize - 1) / SmallDisk::PageSize;
     }
 
-    /// A file that has `taken` steps can grow by so many.
+    /// Lets a file that already has `taken` steps grow by this many.
     void Begin(int steps, int taken = 0)
     {
         if (m_pDisk != nullptr)
@@ -101,7 +102,7 @@ private:
     QString m_folder;
 };
 
-/// A variable of the environment that has another value while this lives.
+/// Changes an environment variable during its lifetime.
 class Variable
 {
 public:
@@ -127,7 +128,7 @@ QString PaneState()
 
 }
 
-/// Disks that are full, homes that cannot be written, and requests to end.
+/// Full disks, home folders that cannot be written, and termination requests.
 class FullDiskTest final : public QObject
 {
     Q_OBJECT
@@ -172,13 +173,13 @@ private slots:
         if (isByPages)
             pDisk = std::make_unique<SmallDisk>(whole.size() / SmallDisk::PageSize + 8);
         if (pDisk != nullptr && !pDisk->IsMounted())
-            QSKIP("no disk can be mounted here; the rows by bytes stand for those by pages");
+            QSKIP("cannot mount a disk here; only the rows by bytes are run");
         const QString path = pDisk != nullptr ? pDisk->File("file") : m_pFixture->File("file");
         const int unit = isByPages ? SmallDisk::PageSize : 1;
         const int steps = (whole.size() + unit - 1) / unit;
         const int stride = isByPages || IsWalkComplete() ? 1 : std::max(1, steps / 6);
 
-        // A journal is emptied before it is written: the page that it had is free then.
+        // A journal is truncated before it is written, which frees the page it had.
         const bool isJournal = option == QLatin1String("--journal");
         const int own = isJournal && isByPages ? 1 : 0;
 
@@ -215,7 +216,7 @@ private slots:
         const QByteArray whole = ReadFile(ScenarioFixture::LayoutFile());
         Shortage shortage(isByPages, m_pFixture->File("home"));
         if (!shortage.IsPossible())
-            QSKIP("no disk can be mounted here; the rows by bytes stand for those by pages");
+            QSKIP("cannot mount a disk here; only the rows by bytes are run");
         const Variable home("XDG_CONFIG_HOME", shortage.Folder());
         const QString layout = ScenarioFixture::LayoutFile();
         const int steps = shortage.StepsOf(whole.size());
@@ -246,7 +247,7 @@ private slots:
         QFETCH(bool, isByPages);
         Shortage shortage(isByPages, m_pFixture->File("home"));
         if (!shortage.IsPossible())
-            QSKIP("no disk can be mounted here; the rows by bytes stand for those by pages");
+            QSKIP("cannot mount a disk here; only the rows by bytes are run");
         Options options;
         options.log = shortage.Folder() + "/log";
         const QByteArray old = QByteArray(9, '.') + '\n';

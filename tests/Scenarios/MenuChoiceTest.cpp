@@ -39,7 +39,7 @@ double PixelsPerUnit()
     return 1.0 / ScriptedUser::FindView()->GetCamera().GetWorldPerPixel();
 }
 
-/// What a journal says of the commands, in its order: "begin ID", and "done ID" or "refused ID".
+/// The commands recorded in a journal, in order: "begin ID", and "done ID" or "refused ID".
 QStringList CommandsOf(const QString& journal)
 {
     QStringList told;
@@ -61,7 +61,7 @@ QStringList CommandsOf(const QString& journal)
     return told;
 }
 
-/// How much of the stack is in use when asked, from the least to the most.
+/// The range of stack usage over all samples, from minimum to maximum.
 class StackRange
 {
 public:
@@ -80,7 +80,7 @@ private:
     std::intptr_t m_highest = 0;
 };
 
-/// Puts a command of the test in the place of one of the program's.
+/// Replaces a command of the program by one of the test.
 void ReplaceCommand(const QString& id, const std::function<void()>& work,
                     const vesk::Command::Condition& isEnabled)
 {
@@ -97,7 +97,7 @@ void ReplaceCommand(const QString& id, const std::function<void()>& work,
 
 }
 
-/// Entries of a menu that are chosen while something is drawn.
+/// Choosing menu entries while something is being drawn.
 class MenuChoiceTest final : public QObject
 {
     Q_OBJECT
@@ -145,7 +145,7 @@ private slots:
         user.Click(s_erase).Click(s_line).ClickAt(0, 0).Choose(s_zoom, entry);
         user.Until([] { return IsRunning("") && qFuzzyCompare(PixelsPerUnit(), 2.0); });
 
-        // What is recorded while another ends comes after it: the order of the ends tells.
+        // A command recorded while another one ends comes after it, as the order of the ends shows.
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
         QCOMPARE(Commands(), QStringList({"begin " + s_erase, "begin " + s_line, "done " + s_erase,
                                           "begin " + entry, "done " + s_line, "done " + entry}));

@@ -15,7 +15,7 @@
 #include <QString>
 #include <QStringList>
 
-/// The panes of the window in a running session, as their user and as a program reach them.
+/// Access to the panes of the window in a running session, both as a user and as a program.
 namespace PaneDriver
 {
 

@@ -32,7 +32,7 @@ QString Cell(int row, int column)
     return List()->model()->index(row, column).data().toString();
 }
 
-/// What the inspector says of the running action and the dimension input.
+/// What the inspector shows for the running action and the dimension input.
 QString Inspected()
 {
     return PaneDriver::Dock("Inspector").GetWidget() != nullptr
@@ -50,7 +50,7 @@ void ClickRow(ScriptedUser& user, int row, Qt::KeyboardModifiers modifiers = Qt:
     });
 }
 
-/// Types a value into a field as soon as it is there.
+/// Types a value into a field as soon as it exists.
 void Enter(ScriptedUser& user, const QString& name, const QString& text)
 {
     user.Until([name] { return Field(name)->isVisible() && !Field(name)->text().isEmpty(); });
@@ -69,7 +69,7 @@ void DrawTwoLines(ScriptedUser& user)
 
 }
 
-/// Entities selected and edited in the panes of a whole session.
+/// Selecting and editing entities in the panes during a whole session.
 class PaneEditTest final : public QObject
 {
     Q_OBJECT

@@ -22,11 +22,11 @@ namespace
 
 const QString s_hideAll = QStringLiteral("Sketcher.HideAllPanes");
 
-/// Runs a session that starts with these panes visible, and hides one more.
+/// Runs a session that must start with these panes visible, and hides one more.
 void RunOnce(const ScenarioFixture& fixture, const QString& atStart, const QString& hidden)
 {
     ScriptedUser user;
-    // Floating panes come after the window.
+    // Floating panes appear after the window.
     user.Until([] { return ScriptedUser::FindWindow()->isVisible(); }).Do([=] {
         QCOMPARE(PaneDriver::Visible(), atStart);
         QCOMPARE(PaneDriver::Marked(), atStart);
@@ -42,7 +42,7 @@ void Put(const QByteArray& text)
     WriteFile(ScenarioFixture::LayoutFile(), text);
 }
 
-/// What the window says below, once it is on screen.
+/// The notice in the status bar once the window is on screen.
 QString NoticeOf(const ScenarioFixture& fixture)
 {
     QString notice;
@@ -59,7 +59,7 @@ QString NoticeOf(const ScenarioFixture& fixture)
 
 }
 
-/// The layout of the panes from one session to the next.
+/// Keeping the layout of the panes from one session to the next.
 class PaneLayoutTest final : public QObject
 {
     Q_OBJECT

@@ -22,7 +22,7 @@ const QString s_default = QStringLiteral("Sketcher.DefaultLayout");
 const QString s_line = QStringLiteral("Sketcher.Line");
 const QString s_showAll = QStringLiteral("Sketcher.ShowAllPanes");
 
-/// What ought to be visible, told by the plainest rules.
+/// The panes expected to be visible, by the simplest rules.
 class ExpectedPanes
 {
 public:
@@ -63,7 +63,7 @@ private:
 
 }
 
-/// Panes shown and hidden, in every way that there is.
+/// Showing and hiding panes in every possible way.
 class PaneTest final : public QObject
 {
     Q_OBJECT
@@ -211,7 +211,7 @@ private slots:
             ShowOrHideSomething(random, expected, user);
             user.Do([=, visible = expected.Get()] {
                 const QByteArray where =
-                    QStringLiteral("seed %1, step %2: %3, marked %4, but it is to be %5")
+                    QStringLiteral("seed %1, step %2: %3, marked %4, expected %5")
                         .arg(seed)
                         .arg(step)
                         .arg(PaneDriver::Visible(), PaneDriver::Marked(), visible)
@@ -239,7 +239,7 @@ private:
         return commands;
     }
 
-    /// As another part of the program would.
+    /// As another part of the program would do it.
     static void Program(ScriptedUser& user, const std::function<void()>& act) { user.Do(act); }
 
     static void ShowOrHideSomething(QRandomGenerator& random, ExpectedPanes& expected,

@@ -2,7 +2,7 @@
 
 #include <Qt>
 
-/// What the user of a random sitting chooses from. What stands twice is chosen twice as often.
+/// What the user of a random sitting chooses from. Entries listed twice are chosen twice as often.
 namespace RandomTables
 {
 
@@ -10,10 +10,10 @@ struct Tool
 {
     const char* id;
     Qt::Key key; ///< With Ctrl.
-    int points;  ///< So many clicks before a value can be typed.
+    int points;  ///< Number of clicks before a value can be typed.
 };
 
-/// Those that draw come first.
+/// Drawing tools come first.
 constexpr Tool Tools[] = {
     {"Sketcher.Line", Qt::Key_L, 1},      {"Sketcher.Rectangle", Qt::Key_R, 1},
     {"Sketcher.Circle", Qt::Key_I, 1},    {"Sketcher.Arc3Points", Qt::Key_3, 2},
@@ -62,7 +62,7 @@ struct KeyChoice
     Qt::KeyboardModifier modifier;
 };
 
-/// With these a value is taken, or locked and the next field shown.
+/// These keys commit a value, or lock it and show the next field.
 constexpr KeyChoice CommittingKeys[] = {
     {"Return", Qt::Key_Return, Qt::NoModifier},
     {"Return", Qt::Key_Return, Qt::NoModifier},

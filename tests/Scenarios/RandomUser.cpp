@@ -82,7 +82,7 @@ void RandomUser::DoSomething()
     }
 }
 
-/// The points of shapes, each with values by the keys or a last point by a click.
+/// The points of shapes, each followed by typed values or a last point by a click.
 void RandomUser::Draw()
 {
     const int tool = Choose(DrawingTools);
@@ -124,7 +124,7 @@ void RandomUser::Select()
     DragAnywhere();
 }
 
-/// By a window as large as the view.
+/// With a selection box as large as the view.
 void RandomUser::SelectAll()
 {
     constexpr double Far = 10000.0;
@@ -192,7 +192,7 @@ void RandomUser::FidgetSometimes()
         Fidget();
 }
 
-/// One or two, as it were with Tab between them.
+/// One or two values, as if with Tab between them.
 void RandomUser::EnterValues()
 {
     for (int i = 1 + Choose(2); i > 0; --i)

@@ -14,23 +14,23 @@
 
 class ScriptedUser;
 
-/// A user who draws, and who does anything at any moment. The seed says beforehand what is done.
+/// A user who draws, and who does anything at any moment. The seed determines all of it in advance.
 class RandomUser final
 {
 public:
-    /// User and watch are not owned and outlive the sitting.
+    /// User and watch are not owned and must outlive the sitting.
     RandomUser(unsigned seed, ScriptedUser& user, SittingWatch& watch);
 
-    /// Notes the acts of a sitting, 30 to 60 of them or a few more.
+    /// Plans the acts of a sitting: 30 to 60, or a few more.
     void Plan();
 
-    /// The commands that are begun in some sittings or other.
+    /// The commands that are started in at least some sittings.
     static QStringList AllCommands();
 
 private:
     using Act = SittingWatch::Act;
 
-    /// Whole things that are done with the program, more or less well.
+    /// Complete tasks in the program, carried out more or less well.
     void DoSomething();
     void Draw();
     void Turn();
@@ -40,7 +40,7 @@ private:
     void EditProperty();
     void Arrange();
 
-    /// One act of any kind, wherever it falls.
+    /// A single act of any kind, wherever it hits.
     void Fidget();
     void FidgetSometimes();
 
@@ -67,8 +67,8 @@ private:
                Act act = Act::Key);
     void Type(const QString& text);
 
-    /// What is done until the end of a burst comes so fast that all of it waits in the queue of
-    /// events before the first is done.
+    /// Acts until the end of a burst arrive so fast that all of them are in the event queue before
+    /// the first one is handled.
     void BeginBurst();
     void EndBurst();
 
@@ -90,7 +90,7 @@ private:
     int m_noted = 0;
     std::vector<QPointF> m_clicked;
 
-    /// The acts of the burst that is being noted.
+    /// The acts of the burst being planned.
     std::vector<std::function<void()>> m_burst;
     bool m_isBurst = false;
 };

@@ -15,7 +15,7 @@ using namespace RandomTables;
 namespace
 {
 
-/// Inside the view, whatever its size is by now.
+/// Always inside the view, whatever its current size is.
 QPoint ToPixel(const QPointF& place)
 {
     constexpr int Margin = 3;
@@ -76,7 +76,7 @@ void RandomUser::DragAnywhere()
     DragBetween(start, end);
 }
 
-/// With the left button, or with the middle one.
+/// With the left or the middle button.
 void RandomUser::DragBetween(const QPointF& start, const QPointF& end)
 {
     const Qt::MouseButton button = IsOneIn(5) ? Qt::MiddleButton : Qt::LeftButton;
@@ -116,7 +116,7 @@ void RandomUser::ResizeWindow(const QSize& size)
        [size] { ScriptedUser::FindWindow()->resize(size); });
 }
 
-/// Sometimes with something else between its characters.
+/// Sometimes with another act between its characters.
 void RandomUser::TypeValue()
 {
     const QString text = Pick(Values);
@@ -140,7 +140,7 @@ void RandomUser::TypeValue()
     Type(text.mid(cut));
 }
 
-/// As a window manager asks it to.
+/// As when requested by a window manager.
 void RandomUser::CloseEditor()
 {
     Do("close the editor", Act::CloseEditor, [] {
@@ -207,7 +207,8 @@ int RandomUser::Choose(int count)
     return static_cast<int>(m_random() % static_cast<unsigned>(count));
 }
 
-/// From the middle of the view, in pixels; often a place clicked before, and often on a line.
+/// Relative to the centre of the view, in pixels; often a position clicked before, and often on a
+/// line.
 QPointF RandomUser::Place()
 {
     constexpr double Step = 60.0;

@@ -24,14 +24,14 @@ void ClickIfPossible(const QString& id)
         QTest::mouseClick(pButton, Qt::LeftButton);
 }
 
-/// A disabled entry leaves its menu open.
+/// Choosing a disabled entry leaves its menu open.
 void CloseMenus()
 {
     while (QWidget* pMenu = QApplication::activePopupWidget())
         pMenu->close();
 }
 
-/// The fields that the selected entities have in common.
+/// The fields common to the selected entities.
 std::vector<QLineEdit*> ShownProperties()
 {
     std::vector<QLineEdit*> shown;

@@ -13,7 +13,7 @@ namespace
 const QString s_line = QStringLiteral("Sketcher.Line");
 const QString s_erase = QStringLiteral("Sketcher.Erase");
 
-/// Every kind of record, with values that no decimal fraction holds.
+/// Produces every kind of record, with values without an exact decimal representation.
 void DrawSomething(ScriptedUser& user)
 {
     user.Click(s_line).ClickAt(-30, -20).Type("33.333333333").Press(Qt::Key_Tab);
@@ -32,7 +32,7 @@ QList<QByteArray> SortedLines(const QString& path)
 
 }
 
-/// Journals of whole sessions, repeated.
+/// Replaying the journals of whole sessions.
 class ReplayTest final : public QObject
 {
     Q_OBJECT
@@ -82,7 +82,7 @@ private slots:
 
         const Outcome outcome = RunSketcher({"--replay", Journal(), "--journal", again});
 
-        // Where one command ended another, only the order of mark and record may differ.
+        // Where one command ended another, only the order of completion mark and record may differ.
         QCOMPARE(outcome.code, 0);
         QCOMPARE(SortedLines(again), SortedLines(Journal()));
     }
@@ -96,7 +96,7 @@ private slots:
 
         for (const QByteArray& line : lines.mid(0, 6))
         {
-            // A process that was killed leaves a part of its last line at most.
+            // A killed process leaves at most a partial last line.
             cut += line + '\n';
             WriteFile(m_pFixture->File("cut"), cut + "{\"n\":99,\"ki");
             const Outcome outcome =

@@ -12,7 +12,7 @@ constexpr char ConfigFolder[] = "XDG_CONFIG_HOME";
 
 ScenarioFixture::ScenarioFixture() : m_configBefore(qgetenv(ConfigFolder))
 {
-    // Neither the user's own layout of panes nor another test's.
+    // Uses neither the user's own pane layout nor that of another test.
     qputenv(ConfigFolder, QFile::encodeName(File(QStringLiteral("config"))));
     vesk::DebugMessageMgr::GetDebugMessageMgr()->AddObserver(this);
 }

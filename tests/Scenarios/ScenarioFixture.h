@@ -7,7 +7,8 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
-/// Files of one session, a configuration folder of its own, and every warning that it raised.
+/// The files of one session, a configuration folder of its own, and every warning the session
+/// raised.
 class ScenarioFixture final : public vesk::IDebugWarningObserver
 {
 public:
@@ -19,7 +20,7 @@ public:
     /// A file in a folder that lives as long as the fixture.
     QString File(const QString& name) const;
 
-    /// Where a session keeps the layout of its panes.
+    /// Where a session stores the layout of its panes.
     static QString LayoutFile();
 
     /// Options that name the journal "journal", the model "model" and the log "log".
@@ -28,7 +29,7 @@ public:
     /// Options that replay a journal into a model.
     Options Replay(const QString& journal, const QString& model) const;
 
-    /// What was warned of, one text each.
+    /// The messages of the warnings, one each.
     const QStringList& GetWarnings() const { return m_warnings; }
 
 private:

@@ -306,7 +306,7 @@ void ScriptedUser::DoNext()
         FindWindow()->close();
         return;
     }
-    // The next step is due before this one returns: this one may run an event loop.
+    // The next step becomes due before this one returns, since this one may run an event loop.
     Step step = std::move(m_steps.front());
     m_steps.pop_front();
     Schedule();

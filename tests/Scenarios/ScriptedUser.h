@@ -19,33 +19,33 @@ class QToolButton;
 class SketchView;
 class SketcherWindow;
 
-/// Works with a whole session of the program in this process, as a user would: with the mouse and
-/// the keyboard, one step after the other, also while an action's event loop runs.
+/// Operates a whole session of the program in this process as a user would: with mouse and
+/// keyboard, one step after the other, even while the event loop of an action runs.
 ///
-/// Steps are noted first and done by Run; the window is closed after the last one.
+/// Steps are queued first and executed by Run; the window is closed after the last one.
 class ScriptedUser final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Clicks the button of any kind with that id, once it is enabled.
+    /// Clicks the button (of any kind) with that id, once it is enabled.
     ScriptedUser& Click(const QString& controlId);
 
-    /// Clicks the arrow of a button with a menu, and waits until the menu is open.
+    /// Clicks the arrow of a menu button, and waits until the menu is open.
     ScriptedUser& OpenMenu(const QString& buttonId);
 
     /// Opens the menu of a button, and the sub-menu that holds the entry, and clicks the entry of
     /// that command.
     ScriptedUser& Choose(const QString& buttonId, const QString& commandId);
 
-    /// Opens the list of a combo box with the mouse and takes an item of it with the keys.
+    /// Opens the list of a combo box with the mouse and selects an item with the keys.
     ScriptedUser& ChooseItem(const QString& boxId, int index);
 
-    /// Moves the mouse to, or clicks at, a world point.
+    /// Moves the mouse to a world point, or clicks there.
     ScriptedUser& MoveTo(double x, double y);
     ScriptedUser& ClickAt(double x, double y, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
-    /// Presses the left button at a world point, moves the mouse with it, releases it.
+    /// Presses the left button at a world point; moves the mouse while it is pressed; releases it.
     ScriptedUser& PressAt(double x, double y, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     ScriptedUser& DragTo(double x, double y);
     ScriptedUser& ReleaseAt(double x, double y);
@@ -57,31 +57,31 @@ public:
     /// Draws one line between two world points and ends the tool.
     ScriptedUser& DrawLine(double startX, double startY, double endX, double endY);
 
-    /// Types each character as a key of its own, wherever the keyboard is.
+    /// Types each character as a separate key, wherever the keyboard focus is.
     ScriptedUser& Type(const QString& text);
     ScriptedUser& Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
-    /// Does something else, or checks something.
+    /// Executes any other step, or checks something.
     ScriptedUser& Do(std::function<void()> step);
 
-    /// Does all of that as somebody faster than the program: everything waits in the queue of
-    /// events before the first of it is done.
+    /// Executes all of these as a user faster than the program: everything is in the event queue
+    /// before the first step is handled.
     ScriptedUser& DoAtOnce(const std::vector<std::function<void()>>& steps);
 
-    /// Waits until that command's action runs; none when empty.
+    /// Waits until the action of that command runs; if empty, until none runs.
     ScriptedUser& UntilRunning(const QString& commandId);
 
-    /// Waits until the condition holds; the test fails after twenty seconds.
+    /// Waits until the condition holds; the test fails after two minutes.
     ScriptedUser& Until(std::function<bool()> condition);
 
     /// Runs a session with these options and returns its exit code.
     int Run(const Options& options = {});
 
-    /// Moves the mouse within the view, inside a step: without a screen there is no pointer that
-    /// could be moved.
+    /// Moves the mouse within the view, inside a step: without a screen there is no real pointer to
+    /// move.
     static void MovePointer(const QPoint& pixel, Qt::MouseButtons buttons = Qt::NoButton);
 
-    /// Presses a key, or types a character, wherever the keyboard is, inside a step.
+    /// Presses a key, or types a character, wherever the keyboard focus is, inside a step.
     static void TypeNow(QChar character);
     static void PressNow(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
@@ -92,17 +92,17 @@ public:
     static QToolButton* FindMenuButton(const QString& controlId);
     static QComboBox* FindBox(const QString& controlId);
 
-    /// What the status bar says for as long as it lasts; empty when there is nothing.
+    /// The persistent text of the status bar; empty if there is none.
     static QString States();
 
-    /// True while that command's action runs; empty: while none does.
+    /// True while the action of that command runs; if empty, while none runs.
     static bool IsRunning(const QString& commandId);
 
-    /// The entry of a command in a menu; null when there is none.
+    /// The entry of a command in a menu; null if there is none.
     static QAction* FindEntry(const QString& commandId);
 
 private:
-    /// True when the step is done, false to try it again.
+    /// Returns true once the step is done, false to retry it.
     using Step = std::function<bool()>;
 
     void Schedule();

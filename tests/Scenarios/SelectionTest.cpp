@@ -19,7 +19,7 @@ const QString s_colour = QStringLiteral("Sketcher.LineColour");
 
 using Selections = std::vector<std::vector<int>>;
 
-/// Two lines, far enough from one another to be picked.
+/// Two lines, far enough from each other to be picked separately.
 void DrawTwoLines(ScriptedUser& user)
 {
     user.DrawLine(-100, 0, 100, 0).DrawLine(-100, 80, 100, 80);
@@ -32,7 +32,7 @@ int ShownItem(const QString& boxId)
 
 }
 
-/// Entities selected with the mouse, and the pen that they and the next ones are drawn with.
+/// Selecting entities with the mouse, and the pen used for them and for the next ones drawn.
 class SelectionTest final : public QObject
 {
     Q_OBJECT

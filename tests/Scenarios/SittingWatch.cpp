@@ -26,13 +26,13 @@ QLineEdit* FindEditor()
     return ScriptedUser::FindView()->findChild<QLineEdit*>("ViewInputLineEdit");
 }
 
-/// True while the user has turned to a field of the window: keys are for it.
+/// True while the user is in a field of the window: keys go there.
 bool IsTypingInAField()
 {
     return qobject_cast<QLineEdit*>(ScriptedUser::FindWindow()->focusWidget()) != nullptr;
 }
 
-/// How many letters a text begins with.
+/// The number of letters at the start of a text.
 int FindLettersBefore(const QString& text)
 {
     const auto end =
@@ -70,7 +70,7 @@ void SittingWatch::Do(const QString& name, Act act, const std::function<void()>&
 
     work();
 
-    // With some other acts the window may be closed by now.
+    // With some other acts the window may already be closed.
     if (!before.has_value())
         return;
     if (&LengthUnit::GetCurrent() != pUnitBefore && FindInput().has_value())
@@ -90,7 +90,7 @@ void SittingWatch::Type(QChar character)
                                 ? before->hasKeyboard
                                 : TemporaryDimensionMgr::GetInstance()->HasHandler() &&
                                       ScriptedUser::FindView()->hasFocus();
-    // It waits for a command that waits, too.
+    // A key is held back along with a waiting command.
     const bool isHeld = ActionManager::IsCommandWaiting();
 
     const QString hintBefore = ScriptedUser::FindView()->GetViewText();
@@ -166,7 +166,7 @@ void SittingWatch::JudgeClosed(const QString& name)
     ++m_tally.closed;
 }
 
-/// The view tells of a unit that came too late, and it opens no input.
+/// The view reports a unit that came too late, and the unit must not open an input.
 void SittingWatch::NoteLateUnit(const QString& hintBefore)
 {
     const QString hint = ScriptedUser::FindView()->GetViewText();
@@ -180,7 +180,8 @@ void SittingWatch::NoteLateUnit(const QString& hintBefore)
 void SittingWatch::JudgeDigit(QChar digit, const std::optional<Input>& before)
 {
     const std::optional<Input> after = FindInput();
-    // Letters that might have become a unit come with the first key that makes them none.
+    // Letters that might have become a unit are inserted together with the first key that rules
+    // this out.
     const int length = before.has_value()
                            ? before->text.size() - before->selectedText.size() + 1
                            : FindLettersBefore(after.has_value() ? after->text : QString()) + 1;

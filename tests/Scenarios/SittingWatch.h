@@ -10,32 +10,32 @@
 #include <functional>
 #include <optional>
 
-/// What the users of some sittings did, by the ids of commands.
+/// What the users of several sittings did, by command id.
 struct SittingTally
 {
     int sittings = 0;
     int acts = 0;
-    int entities = 0;             ///< In the drawings at the end.
+    int entities = 0;             ///< In the final drawings.
     QMap<QString, int> begun;     ///< Commands that were recorded.
-    QMap<QString, int> committed; ///< Values that a key had taken, by the action that took them.
-    int refused = 0;              ///< Values that a key should have taken, and that stayed.
-    int zoomsWithin = 0;          ///< Zooms beside a value that was being typed.
-    int switchesWithin = 0;       ///< Buttons clicked beside such a value.
-    int closed = 0;               ///< Editors that were closed with such a value in them.
-    int lateUnits = 0;            ///< Units typed after a blank that took the value.
+    QMap<QString, int> committed; ///< Values committed with a key, by the receiving action.
+    int refused = 0;        ///< Values that a key should have committed but that were rejected.
+    int zoomsWithin = 0;    ///< Zooms while a value was being typed.
+    int switchesWithin = 0; ///< Buttons clicked while a value was being typed.
+    int closed = 0;         ///< Editors closed with such a value in them.
+    int lateUnits = 0;      ///< Units typed after a blank that committed the value.
 };
 
-/// Looks over the shoulder of a sitting's user: keeps what was done, in order, and what it led to.
+/// Observes the user of a sitting: records what was done, in order, and its effects.
 class SittingWatch final : public vesk::IJournalObserver
 {
 public:
     enum class Act
     {
         Other,
-        Key, ///< Must leave the keyboard where a value is being typed, as long as one is.
+        Key, ///< Must leave the keyboard focus with the value being typed, if there is one.
         CommittingKey,
         Button,
-        Zoom,        ///< Must leave a value that is being typed as it is.
+        Zoom,        ///< Must not change a value that is being typed.
         CloseEditor, ///< Must end the input.
     };
 
@@ -44,16 +44,16 @@ public:
     SittingWatch(const SittingWatch&) = delete;
     SittingWatch& operator=(const SittingWatch&) = delete;
 
-    /// Does an act. It may run the event loop of an action, and the acts that follow.
+    /// Carries out an act. It may run the event loop of an action, and the acts that follow.
     void Do(const QString& name, Act act, const std::function<void()>& work);
 
-    /// Types a character wherever the keyboard is. No digit must be lost, neither to a value nor to
-    /// a dimension that waits for one.
+    /// Types a character wherever the keyboard focus is. No digit may be lost, neither from a value
+    /// nor from a dimension that waits for one.
     void Type(QChar character);
 
     const QStringList& GetActs() const { return m_acts; }
 
-    /// What no user should see; empty when all is well.
+    /// Faults that no user should see; empty if there are none.
     const QStringList& GetFaults() const { return m_faults; }
 
     void OnRecord(const vesk::JournalRecord& record) override;
@@ -66,7 +66,7 @@ private:
         vesk::InputState state;
         QString text;
         QString selectedText;
-        bool hasKeyboard; ///< A click on another control takes it away.
+        bool hasKeyboard; ///< False after a click on another control.
     };
 
     static std::optional<Input> FindInput();
@@ -80,5 +80,5 @@ private:
     SittingTally& m_tally;
     QStringList m_acts;
     QStringList m_faults;
-    Act m_act = Act::Other; ///< The one begun last.
+    Act m_act = Act::Other; ///< The most recently started act.
 };

@@ -13,7 +13,7 @@
 namespace
 {
 
-/// What the toolkit and the program say while it lives.
+/// Collects the messages of Qt and of the program during its lifetime.
 class Listener
 {
 public:
@@ -39,7 +39,7 @@ public:
     }
 
 private:
-    /// A display that is no screen cannot do all that windows ask of it, and says so.
+    /// A display without a screen cannot do everything windows ask of it, and says so.
     static void Note(QtMsgType type, const QMessageLogContext&, const QString& message)
     {
         if (type != QtDebugMsg && !message.startsWith("This plugin does not support"))
@@ -53,7 +53,7 @@ private:
     QtMessageHandler m_handlerBefore;
 };
 
-/// VESK_SITTINGS asks for another number of them.
+/// VESK_SITTINGS selects another number of sittings.
 unsigned CountSittings()
 {
     const int count = qEnvironmentVariableIntValue("VESK_SITTINGS");
@@ -62,8 +62,8 @@ unsigned CountSittings()
 
 }
 
-/// Whatever a user of the whole program does, nothing breaks, and the journal makes the same
-/// drawing to the last bit.
+/// Whatever a user of the whole program does, nothing breaks, and replaying the journal yields the
+/// same drawing to the last bit.
 class SittingsTest final : public QObject
 {
     Q_OBJECT
@@ -140,7 +140,7 @@ private slots:
     }
 
 private:
-    /// What was not as it should be. The journal and the model are in the fixture's files then.
+    /// The faults of a sitting. Its journal and model remain in the files of the fixture.
     QStringList Sit(const ScenarioFixture& f, unsigned seed)
     {
         SittingWatch watch(m_tally);

@@ -59,7 +59,7 @@ RunningSketcher::RunningSketcher(const QStringList& arguments, const QString& ui
         return QFileInfo(uiTree).size() > 0 || m_process.state() == QProcess::NotRunning;
     };
     if (!QTest::qWaitFor(isThere, vesk::test::PatienceMs))
-        QTest::qFail("the program does not come up", __FILE__, __LINE__);
+        QTest::qFail("the program did not start", __FILE__, __LINE__);
 }
 
 RunningSketcher::~RunningSketcher()

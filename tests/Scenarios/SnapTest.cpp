@@ -29,7 +29,7 @@ bool IsOn(const QString& snap)
 
 }
 
-/// Points of the drawing caught by the cursor.
+/// Snapping the cursor to points of the drawing.
 class SnapTest final : public QObject
 {
     Q_OBJECT
@@ -208,7 +208,7 @@ private slots:
 private:
     QVector<DrawnLine> Model() const { return ReadLines(m_pFixture->File("model")); }
 
-    /// The point records count from 0.
+    /// Point records are counted from 0.
     Point RecordedPoint(std::size_t index) const
     {
         const auto points = RecordsOf<vesk::PointRecord>(ReadJournal(m_pFixture->File("journal")));

@@ -34,7 +34,7 @@ QLineEdit* FindEditor()
     return ScriptedUser::FindView()->findChild<QLineEdit*>(QStringLiteral("ViewInputLineEdit"));
 }
 
-/// What the note beside the editor says.
+/// The text of the note beside the editor.
 QString Refusal()
 {
     const auto* pNote = ScriptedUser::FindView()->findChild<QLabel*>("InputRefusal");
@@ -46,7 +46,7 @@ bool IsInputting()
     return vesk::TemporaryDimensionMgr::GetInstance()->IsInputting();
 }
 
-/// Takes the tool and clicks the centre, before what follows.
+/// Chooses the tool and clicks the centre, followed by `rest`.
 std::vector<std::function<void()>> BeginCircle(const std::vector<std::function<void()>>& rest)
 {
     std::vector<std::function<void()>> steps = {
@@ -63,7 +63,7 @@ double Distance(const Point& a, const Point& b)
 
 }
 
-/// Sizes and angles of shapes typed by a user of the whole program.
+/// Sizes and angles of shapes, typed by a user of the whole program.
 class TypeShapesTest final : public QObject
 {
     Q_OBJECT
@@ -335,7 +335,7 @@ private slots:
     }
 
 private:
-    /// Runs the program; the journal is repeated too. The only entity that was drawn.
+    /// Runs the program and replays its journal; returns the only entity drawn.
     DrawnEntity RunToOne(ScriptedUser& user) const
     {
         const int code = user.Run(m_pFixture->Draw());

@@ -36,7 +36,8 @@ QLineEdit* FindEditor()
     return ScriptedUser::FindView()->findChild<QLineEdit*>("ViewInputLineEdit");
 }
 
-/// Moves the mouse that far from the middle, at most to the view's edge. The pixel it is at then.
+/// Moves the mouse this far from the centre, but not beyond the edge of the view; returns its
+/// pixel.
 QPoint MoveInside(const QPointF& cursor)
 {
     const QRect inside = ScriptedUser::FindView()->rect().adjusted(2, 2, -2, -2);
@@ -48,7 +49,7 @@ QPoint MoveInside(const QPointF& cursor)
     return pixel;
 }
 
-/// Whether a note beside the editor is on screen.
+/// Whether a note beside the editor is visible.
 bool IsShown(const char* name)
 {
     const auto* pNote = ScriptedUser::FindView()->findChild<QLabel*>(QLatin1String(name));

@@ -26,7 +26,7 @@ bool IsInputting()
 
 }
 
-/// Lengths typed in another unit than the model's.
+/// Lengths typed in a unit other than that of the model.
 class UnitTest final : public QObject
 {
     Q_OBJECT
@@ -79,7 +79,7 @@ private slots:
         QTest::addColumn<QString>("typed");
         QTest::addColumn<double>("millimetres");
 
-        // Each is another double where the number is read first and then converted.
+        // Each would be another double if the number were read first and then converted.
         QTest::newRow("number") << "1.2" << 30.48;
         QTest::newRow("sum") << "1+0.3" << 33.02;
         QTest::newRow("millimetre") << "1mm" << 1.0;

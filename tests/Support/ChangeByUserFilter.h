@@ -7,7 +7,7 @@
 namespace vesk::test
 {
 
-/// Passes the changes of a definition on, but not those that the user made.
+/// Forwards the changes of a definition, except those made by the user.
 class ChangeByUserFilter final
     : public IControlDefinitionChangeEventHandler,
       public Event<IControlDefinition, IControlDefinitionChangeEvent,
@@ -23,7 +23,8 @@ private:
     IControlDefinitionChangeEvent* m_pSource;
 };
 
-/// A definition of the host that does not echo: what the user does is told to nobody.
+/// A definition of the host that does not echo: changes by the user are not reported to any
+/// handler.
 template <class Definition>
 class Silent final : public Definition
 {

@@ -1,6 +1,6 @@
 #pragma once
 
-// What nearly every test of the host reads, compiled once for its program.
+// Headers that nearly every test of the host needs, precompiled once for its program.
 
 #include "Support/TestValues.h"
 

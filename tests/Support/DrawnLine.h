@@ -10,7 +10,7 @@
 namespace vesk
 {
 
-/// A line of a drawing, as its model file holds it.
+/// A line of a drawing, as stored in its model file.
 struct DrawnLine
 {
     std::array<double, 3> start{};
@@ -26,13 +26,13 @@ struct DrawnLine
     double GetAngle() const;
 };
 
-/// The lines of a model file, in its order; none when it cannot be read.
+/// The lines of a model file, in file order; empty if it cannot be read.
 QVector<DrawnLine> ReadLines(const QString& modelFile);
 
-/// The bytes of a file, empty when it cannot be read.
+/// The bytes of a file; empty if it cannot be read.
 QByteArray ReadBytes(const QString& file);
 
-/// How far two angles are apart, in degrees, turns left out.
+/// The difference between two angles, in degrees, ignoring full rotations.
 double AngleBetween(double left, double right);
 
 }

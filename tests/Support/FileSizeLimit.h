@@ -7,13 +7,13 @@
 namespace vesk
 {
 
-/// While it lives, no file of this process grows beyond that many bytes, as on a full disk.
+/// During its lifetime, no file of this process can grow beyond that many bytes, as on a full disk.
 class FileSizeLimit
 {
 public:
     explicit FileSizeLimit(rlim_t bytes)
     {
-        // Else the process would end instead of being told.
+        // Otherwise the process would be terminated instead of getting an error.
         std::signal(SIGXFSZ, SIG_IGN);
         getrlimit(RLIMIT_FSIZE, &m_before);
         Set(bytes);

@@ -13,7 +13,7 @@ namespace vesk::test
 HostFixture::HostFixture() : view(1, &window)
 {
     core.GetViewManager().AddView(&view);
-    // A warning fails the test; a dialog would only keep it from ending.
+    // A warning fails the test; a dialog would only block it.
     DebugMessageMgr::GetDebugMessageMgr()->SetAttended(false);
 }
 

@@ -15,10 +15,10 @@
 namespace vesk::test
 {
 
-/// A whole host with a main window and one view in it, for the time in which it lives.
+/// A complete host with a main window and one view in it, for the lifetime of the fixture.
 ///
-/// It removes everything and brings every static of the host back; a warning that the test did not
-/// take fails the test.
+/// It removes everything and restores every static of the host; a warning that the test did not
+/// consume fails the test.
 class HostFixture
 {
 public:
@@ -34,7 +34,7 @@ public:
     /// Registers a command that runs as a TestAction. Not owned by the caller.
     Command* AddInteractiveCommand(const std::wstring& id);
 
-    /// Begins an action, so that typed values are delivered to `actionLog`.
+    /// Starts an action, so that typed values are delivered to `actionLog`.
     void BeginAction();
 
     WarningRecorder warnings;

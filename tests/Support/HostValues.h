@@ -5,7 +5,7 @@
 #include "Journal/CommandParameters.h"
 #include "Support/TestValues.h"
 
-// How the host's values are shown where a test finds them different.
+// How values of the host are printed when a comparison fails.
 
 namespace vesk
 {

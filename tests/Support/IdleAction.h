@@ -5,7 +5,8 @@
 namespace vesk::test
 {
 
-/// An action that does nothing and goes on until it is ended. Stand-ins override what they need.
+/// An action that does nothing and continues until it is ended. Test doubles override what they
+/// need.
 class IdleAction : public IAction
 {
 public:

@@ -5,8 +5,8 @@
 namespace vesk::test
 {
 
-/// An application that drops what is posted. Installed while it lives. Stand-ins override what they
-/// need.
+/// An application that drops posted events. Installed during its lifetime. Test doubles override
+/// what they need.
 class IdleApplication : public IApplication
 {
 public:

@@ -5,7 +5,7 @@
 namespace vesk::test
 {
 
-/// A view without a window that does nothing. Stand-ins override what they need.
+/// A view without a window that does nothing. Test doubles override what they need.
 class IdleView : public IUiView
 {
 public:

@@ -9,7 +9,7 @@
 namespace vesk::test
 {
 
-/// Hears what goes into the journal while it lives.
+/// Records what is written to the journal during its lifetime.
 class JournalRecorder final : public IJournalObserver
 {
 public:

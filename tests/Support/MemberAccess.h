@@ -6,18 +6,18 @@
 namespace vesk::test
 {
 
-/// Names a member that only its class may name: access is not checked in an explicit instantiation.
-/// So tests of the memory layout need nothing of the class itself.
+/// Names a private member: access is not checked in an explicit instantiation. So tests of the
+/// memory layout need no support from the class itself.
 ///
-///     VESK_EXPOSE(ButtonDefinition, OwnerPtr<ICommandButtonDefinition>, QtButton,
-///     m_pControlDefinition) OffsetIn(button, MemberOf(ButtonDefinition()))
+///     VESK_EXPOSE(Definition, OwnerPtr<ICommandButtonDefinition>, QtButton, m_pControlDefinition)
+///     OffsetIn(button, MemberOf(Definition()))
 template <class Tag, typename Tag::Type member>
 struct Expose
 {
     friend typename Tag::Type MemberOf(Tag) { return member; }
 };
 
-/// How many bytes of the object lie before the member.
+/// Offset of the member in the object, in bytes.
 template <class Object, class Class, class Member>
 std::ptrdiff_t OffsetIn(const Object& object, Member Class::*pMember)
 {
@@ -26,7 +26,7 @@ std::ptrdiff_t OffsetIn(const Object& object, Member Class::*pMember)
            reinterpret_cast<const char*>(&object);
 }
 
-/// How many bytes of the object lie before its base.
+/// Offset of the base in the object, in bytes.
 template <class Base, class Object>
 std::ptrdiff_t BaseOffsetIn(const Object& object)
 {
@@ -34,8 +34,8 @@ std::ptrdiff_t BaseOffsetIn(const Object& object)
     return reinterpret_cast<const char*>(&base) - reinterpret_cast<const char*>(&object);
 }
 
-/// The place of a virtual operation in the table of virtual operations of the class that declares
-/// it first. The destructor takes the first two places (Itanium C++ ABI).
+/// The slot of a virtual function in the vtable of the class that declares it first. The destructor
+/// occupies the first two slots (Itanium C++ ABI).
 template <class Function>
 std::ptrdiff_t SlotOf(Function pFunction)
 {

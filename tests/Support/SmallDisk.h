@@ -12,9 +12,9 @@
 namespace vesk
 {
 
-/// A disk of a few pages, seen by this process and those that it starts, and gone with them.
+/// A disk of a few pages, visible to this process and its children, and gone when they end.
 ///
-/// To mount it takes rights; IsMounted tells whether they were there.
+/// Mounting it needs privileges; IsMounted tells whether they were available.
 class SmallDisk
 {
 public:
@@ -23,7 +23,7 @@ public:
     explicit SmallDisk(int pages)
     {
         const QByteArray options = "size=" + QByteArray::number(pages * PageSize);
-        // Without the rights in the system, they may be had among users of one's own.
+        // Without system privileges, a user namespace may provide them.
         const bool isOwn = unshare(CLONE_NEWNS) == 0 || unshare(CLONE_NEWUSER | CLONE_NEWNS) == 0;
         m_isMounted = isOwn && mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
                       mount("tmpfs", QFile::encodeName(m_folder.path()).constData(), "tmpfs", 0,
@@ -42,7 +42,7 @@ public:
     bool IsMounted() const { return m_isMounted; }
     QString File(const QString& name) const { return m_folder.filePath(name); }
 
-    /// Takes pages until so many are left.
+    /// Uses up pages until this many are left.
     void LeavePages(int count)
     {
         QFile::remove(Filler());
@@ -54,7 +54,7 @@ public:
         filler.resize(filler.size() - qint64(count) * PageSize);
     }
 
-    /// How many pages can still be had.
+    /// The number of pages still available.
     int CountFree() const
     {
         QFile probe(File("probe"));

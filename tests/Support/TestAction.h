@@ -11,20 +11,20 @@
 namespace vesk::test
 {
 
-/// What an action was told, shared with the test: the action itself is the action manager's.
+/// What an action was told, shared with the test: the action itself belongs to the action manager.
 struct ActionLog
 {
     std::vector<ActionViewInput> inputs;
 
-    /// Called inside the next delivery of a typed value, once.
+    /// Called once, inside the next delivery of a typed value.
     std::function<void()> onInput;
 
-    /// Makes the dimensions of each step; none without it.
+    /// Creates the dimensions of each step; without it there are none.
     std::function<OwnerPtr<ITemporaryDimensionContext>()> createContext;
     int endCount = 0;
 };
 
-/// An action that goes on until it is ended and notes typed values.
+/// An action that continues until it is ended and records typed values.
 class TestAction final : public IdleAction
 {
 public:

@@ -14,10 +14,10 @@ public:
     void PostEvent(OwnerPtr<IApplicationEvent> opEvent) override;
     IApplicationWindow* GetMainWindow() const override { return m_pMainWindow; }
 
-    /// Names the application's window (not owned); null, as at first, for none.
+    /// Sets the application's window (not owned); null, the initial value, for none.
     void SetMainWindow(IApplicationWindow* pMainWindow) { m_pMainWindow = pMainWindow; }
 
-    /// How many events were posted that refresh the controls.
+    /// How many events to refresh the controls were posted.
     int GetStatusUpdateCount() const { return m_statusUpdateCount; }
 
 protected:

@@ -9,7 +9,7 @@
 namespace vesk::test
 {
 
-/// Runs actions in a nested Qt event loop while it lives.
+/// Runs actions in a nested Qt event loop during its lifetime.
 class TestEventLoop final : public IActionEventLoop
 {
 public:
@@ -21,7 +21,7 @@ public:
     void Run() override;
     void Quit() override;
 
-    /// Called inside the next loop, once, as from an event.
+    /// Called once, inside the next loop, as from an event.
     void SetOnRun(std::function<void()> onRun) { m_onRun = std::move(onRun); }
     int GetRunCount() const { return m_runCount; }
     bool IsRunning() const { return m_pLoop != nullptr; }

@@ -10,7 +10,7 @@ namespace vesk::test
 namespace
 {
 
-/// Entries are made before main() begins, in no certain order.
+/// Entries are created before main() begins, in unspecified order.
 std::map<std::string, TestEntry::Run>& Entries()
 {
     static std::map<std::string, TestEntry::Run> s_entries;
@@ -30,7 +30,7 @@ int TestEntry::Main(int argc, char* argv[])
     const auto found = argc > 1 ? Entries().find(argv[1]) : Entries().end();
     if (found == Entries().end())
     {
-        std::cerr << "Name one of these, and then what Qt Test is to be told:\n";
+        std::cerr << "Name one of these, followed by arguments for Qt Test:\n";
         for (const auto& [name, run] : Entries())
             std::cerr << "  " << name << '\n';
         return 2;

@@ -1,6 +1,6 @@
 #pragma once
 
-// Reached through Support/TestValues.h, like Qt Test, which it needs.
+// Included through Support/TestValues.h, like Qt Test, which it needs.
 
 #ifdef QT_WIDGETS_LIB
 #include <QApplication>
@@ -11,22 +11,22 @@
 namespace vesk::test
 {
 
-/// Something that a program of tests does when its first argument names it: most often a class of
-/// tests.
+/// Something a test program does when its first argument names it: usually a test class.
 ///
-/// A program holds many, so that their headers are read and their libraries are linked once. Each
-/// run does one: what a class of tests leaves behind reaches no other.
+/// A program contains many entries, so that their headers are parsed and their libraries linked
+/// once. Each run executes one: what a test class leaves behind cannot affect another.
 class TestEntry
 {
 public:
-    /// Gets the program's arguments without the name of the entry.
+    /// Receives the arguments of the program without the name of the entry.
     using Run = int (*)(int argc, char* argv[]);
 
-    /// Made before main() begins. The name, not owned, is known by what follows its last colon.
+    /// Constructed before main() begins. The entry is known by the part of the name (not owned)
+    /// after its last colon.
     TestEntry(const char* name, Run run);
 
-    /// The program: runs the entry that the first argument names. Without one it lists the names,
-    /// and exits with 2.
+    /// The main function: runs the entry named by the first argument. Without an argument it lists
+    /// the names and exits with 2.
     static int Main(int argc, char* argv[]);
 };
 
@@ -48,7 +48,7 @@ int RunWithoutApplication(int argc, char* argv[])
 
 }
 
-// Each makes a class of tests known to its program, with as much of an application as it needs.
+// Each registers a test class with its program, with as much of an application as it needs.
 #define VESK_TESTS(Class)                                                                          \
     static const vesk::test::TestEntry s_tests                                                     \
     {                                                                                              \

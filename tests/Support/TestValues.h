@@ -13,10 +13,10 @@
 #include <variant>
 #include <vector>
 
-// Qt Test, with the values that tests compare shown where they differ.
+// Qt Test, extended to print the values that differ.
 //
-// A comparison finds what is declared before Qt Test itself, or beside the type: hence the order
-// here, and hence no test includes Qt Test in another way.
+// A comparison finds only overloads declared before Qt Test itself, or next to the type: hence the
+// order here, and hence no test includes Qt Test in any other way.
 
 namespace Eigen
 {
@@ -37,7 +37,7 @@ inline char* ToShown(const QString& text)
     return qstrdup(text.toUtf8().constData());
 }
 
-/// A number of which not one bit may differ. Comparing doubles as they are forgives the last ones,
+/// A number compared bit by bit. Comparing doubles directly tolerates differences in the last bits,
 /// and the sign of a zero.
 struct Exactly
 {
@@ -89,15 +89,15 @@ char* toString(
 
 #include "Support/TestProgram.h"
 
-// How long a test waits for what must come: only one that fails waits so long, and no machine is
-// too slow.
+// How long a test waits for an expected state: only a failing test waits that long, and no machine
+// is too slow.
 #undef QTRY_VERIFY
 #undef QTRY_COMPARE
 #define QTRY_VERIFY(condition) QTRY_VERIFY_WITH_TIMEOUT((condition), vesk::test::PatienceMs)
 #define QTRY_COMPARE(actual, expected)                                                             \
     QTRY_COMPARE_WITH_TIMEOUT((actual), (expected), vesk::test::PatienceMs)
 
-/// Compares two numbers of which not one bit may differ.
+/// Compares two numbers bit by bit.
 #define QCOMPARE_EXACTLY(actual, expected)                                                         \
     QCOMPARE(vesk::test::Exactly{double(actual)}, vesk::test::Exactly{double(expected)})
 

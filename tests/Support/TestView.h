@@ -24,20 +24,20 @@ public:
     void SetViewText(const std::wstring& text) override { m_texts.push_back(text); }
     void Activate() override {}
 
-    /// The host has the view painted again when its input is refreshed.
+    /// Called by the host to repaint the view when its input is refreshed.
     void Redraw() override;
 
-    /// Keys pressed in the view, and those handed to it directly; they stay unaccepted.
+    /// Keys pressed in the view, and those passed to it directly; they remain unaccepted.
     const std::vector<int>& GetKeys() const { return m_keys; }
 
-    /// Called inside the next key press, once.
+    /// Called once, inside the next key press.
     void SetOnKey(std::function<void()> onKey) { m_onKey = std::move(onKey); }
 
     ModelView& GetCamera() { return m_modelView; }
     const std::vector<std::wstring>& GetTexts() const { return m_texts; }
     int GetRedrawCount() const { return m_redrawCount; }
 
-    /// Called inside the next Redraw, once.
+    /// Called once, inside the next Redraw.
     void SetOnRedraw(std::function<void()> onRedraw) { m_onRedraw = std::move(onRedraw); }
     void SetHasModelView(bool hasModelView) { m_hasModelView = hasModelView; }
     void SetWindowId(WindowId windowId) { m_windowId = windowId; }

@@ -7,7 +7,7 @@
 namespace vesk::test
 {
 
-/// A main window and the services that name it. Installed while it lives.
+/// A main window and the services that refer to it. Installed during its lifetime.
 class TestWindow final : public QWidget,
                          public IApplicationWindow,
                          public IMainWindow,
@@ -22,13 +22,13 @@ public:
     IApplicationWindow* GetMainWindow() const override { return m_pNamedWindow; }
     IDockManager* GetDockManager() const override { return m_pDockManager; }
 
-    /// Names another window as the application's, or none.
+    /// Makes the services return another window as that of the application, or none.
     void SetNamedWindow(IApplicationWindow* pWindow) { m_pNamedWindow = pWindow; }
 
-    /// Names the panes of the window, or none.
+    /// Sets the manager of the panes of the window, or none.
     void SetDockManager(IDockManager* pDockManager) { m_pDockManager = pDockManager; }
 
-    /// Answers another window id than the widget's.
+    /// Returns a window id other than that of the widget.
     void SetWindowId(WindowId windowId) { m_windowId = windowId; }
 
     /// Removes the services, or installs them again.

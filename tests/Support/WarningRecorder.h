@@ -10,7 +10,8 @@
 namespace vesk::test
 {
 
-/// Hears every debug warning while it lives; what the test did not take fails the test at the end.
+/// Records every debug warning during its lifetime; any that the test did not consume fail the test
+/// at the end.
 class WarningRecorder final : public IDebugWarningObserver
 {
 public:
@@ -21,14 +22,14 @@ public:
 
     void OnDebugWarning(const DebugWarning& warning) override;
 
-    /// Takes the oldest warning not taken yet if it says exactly this in the name of `function`,
-    /// and tells a source file, a line, a person and a day as its place.
+    /// Consumes the oldest warning left if it says exactly this in the name of `function`, and its
+    /// site consists of a source file, a line, a person and a date.
     bool Take(const std::wstring& message, const std::string& function);
 
-    /// The oldest warning not taken yet, which is thereby taken; an empty one when there is none.
+    /// Consumes and returns the oldest warning left; an empty one if there is none.
     DebugWarning TakeAny();
 
-    /// What was not taken yet, for people.
+    /// The warnings not consumed yet, in readable form.
     QString Describe() const;
 
     bool IsEmpty() const { return m_warnings.empty(); }

@@ -1,6 +1,6 @@
 #pragma once
 
-// What nearly every test of widgets reads, compiled once for its program.
+// Headers that nearly every widget test needs, precompiled once for its program.
 
 #include "Support/TestValues.h"
 

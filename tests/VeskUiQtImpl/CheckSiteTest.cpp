@@ -7,7 +7,7 @@
 namespace vesk::test
 {
 
-/// What the library says of the place of a precondition that failed.
+/// What the library reports about the site of a failed precondition.
 class CheckSiteTest : public QObject
 {
     Q_OBJECT

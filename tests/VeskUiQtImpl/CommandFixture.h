@@ -38,7 +38,7 @@ private:
     IUiDocumentViewManager* m_pManager;
 };
 
-/// A host with one plain command, "Plain", that notes its calls.
+/// A host with one plain command, "Plain", that records its calls.
 struct CommandFixture
 {
     CommandFixture()
@@ -57,7 +57,7 @@ struct CommandFixture
     Command* pCommand;
     std::vector<CommandParameters> calls;
 
-    /// Called inside the next call of the command, once.
+    /// Called once, inside the next call of the command.
     std::function<void()> onCommand;
     bool wasExecuted = true;
     std::size_t recordCountInside = 0;

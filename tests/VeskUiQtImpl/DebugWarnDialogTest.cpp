@@ -10,7 +10,7 @@
 namespace vesk::test
 {
 
-/// What the dialog shows and answers.
+/// What the dialog shows and returns.
 class DebugWarnDialogTest : public QObject
 {
     Q_OBJECT
@@ -232,7 +232,7 @@ void DebugWarnDialogTest::returnClicksTheFirstButton()
     QTEST(finished[0][0].toInt(), "answer");
 }
 
-/// Every field that the Tab key reaches, in both forms.
+/// Every field reachable with the Tab key, in both forms.
 static void AddFocusPlaces()
 {
     QTest::addColumn<bool>("isPublished");

@@ -12,7 +12,7 @@
 namespace vesk::test
 {
 
-/// A dialog that shows a warning, in house unless told otherwise.
+/// A dialog that shows a warning, in in-house mode unless told otherwise.
 struct DialogFixture
 {
     explicit DialogFixture(bool isPublished = false)
@@ -31,7 +31,7 @@ struct DialogFixture
     DebugWarnDialog dialog{nullptr};
 };
 
-/// The places of the widgets among those of their class.
+/// Indexes of the widgets among those of their class.
 enum
 {
     ReportButton = 0,

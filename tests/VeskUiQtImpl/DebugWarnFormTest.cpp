@@ -44,7 +44,7 @@ QString TextOf(const QWidget& widget)
     return pBox != nullptr ? pBox->toPlainText() : QString();
 }
 
-/// Class, place, text and what is not as usual; without the place where a layout chooses it.
+/// Class, geometry, text and any unusual state; without the geometry if a layout decides it.
 QString Describe(const QWidget& widget)
 {
     const QRect rect = widget.geometry();
@@ -66,7 +66,7 @@ QString Describe(const QWidget& widget)
     return text;
 }
 
-/// All widgets in the order of their creation, what stands in a group or a row indented.
+/// All widgets in order of creation; contents of a group or row are indented.
 QStringList DescribeChildren(const QWidget& parent, const QString& indent = {})
 {
     QStringList lines;
@@ -119,7 +119,7 @@ void DebugWarnFormTest::aLargerWindowMovesNothing()
     QCOMPARE(DescribeChildren(f.dialog), before);
 }
 
-/// What both forms have in common, with the row of buttons and the last two fields left out.
+/// What both forms share, without the row of buttons and the last two fields.
 const char* const s_reportLines[] = {
     "QGroupBox 10,370 181x16 ''",
     "  QLabel 10,30 54x16 '用户名：'",
@@ -219,7 +219,7 @@ void DebugWarnFormTest::theButtonsFillTheirRowFromLeftToRight()
     QCOMPARE(f.Button(DebugButton).geometry().right(), row.rect().right());
 }
 
-/// Puts brackets around what it is asked for and notes it, with another context's name.
+/// Puts the text to translate in brackets and records it, with the name of any other context.
 class BracketTranslator final : public ITranslator
 {
 public:

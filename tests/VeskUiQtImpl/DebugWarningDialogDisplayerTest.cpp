@@ -37,7 +37,7 @@ bool Display()
         "File.cpp", 12, "vesk::F::G", L"pDock是空指针", L"vesk-ui", L"2026-11-21");
 }
 
-/// Has the user do something with the dialog as soon as it is shown.
+/// Simulates a user action as soon as the dialog is shown.
 void WhenShown(std::function<void(QDialog&)> act)
 {
     QTimer::singleShot(0, qApp, [act = std::move(act)] {
@@ -60,7 +60,7 @@ struct Child
     Child(const QString& program, const QStringList& arguments)
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        // Leaks are looked for in the tests' own process.
+        // Leaks are checked only in the process of the tests themselves.
         environment.insert("ASAN_OPTIONS", "detect_leaks=0");
         process.setProcessEnvironment(environment);
         process.start(program, arguments);
@@ -204,7 +204,7 @@ void DebugWarningDialogDisplayerTest::nothingIsAssertedOrLoggedBesidesADialog()
     QCOMPARE(log.ReadRecords().size(), 0);
 }
 
-/// The widget that a dialog shown now stands on.
+/// The parent widget of a dialog shown now.
 QWidget* FindDialogsParent(bool* pWasShown)
 {
     QWidget* pParent = nullptr;
@@ -248,7 +248,7 @@ void DebugWarningDialogDisplayerTest::theDialogStandsAloneWhenTheWindowIsUnknown
     QVERIFY(wasShown);
 }
 
-/// Where a dialog shown now stands.
+/// The geometry of a dialog shown now.
 QRect FindDialogsPlace()
 {
     QRect place;
@@ -260,7 +260,7 @@ QRect FindDialogsPlace()
     return place;
 }
 
-/// How far apart two places are in their middle.
+/// The distance between the centres of two rectangles.
 int DistanceOf(const QRect& first, const QRect& second)
 {
     return (first.center() - second.center()).manhattanLength();
@@ -279,7 +279,7 @@ void DebugWarningDialogDisplayerTest::theDialogStandsWhereAMaximisedWindowWillBe
     HostFixture host;
     TestWindow window;
     host.application.SetMainWindow(&window);
-    // Not shown yet: it has the place from which it will be maximised.
+    // Not shown yet: it still has the geometry from which it will be maximised.
     window.setGeometry(0, 0, 100, 80);
     window.setWindowState(state);
 
@@ -419,8 +419,8 @@ void DebugWarningDialogDisplayerTest::withoutAnApplicationTheFactIsLogged()
 namespace
 {
 
-/// Shows a warning and returns the answer, as the code of an exit. With the path of a log
-/// assertions are off.
+/// Shows a warning and returns the answer as an exit code. Given the path of a log, assertions are
+/// off.
 int DisplayAndAnswer(int argc, char* argv[])
 {
     if (argc > 1)
@@ -433,13 +433,13 @@ int DisplayAndAnswer(int argc, char* argv[])
     return answer;
 }
 
-/// The same when there is no application after one has come and gone.
+/// The same without an application, after one has been created and destroyed.
 int DisplayAfterApplication(int argc, char* argv[])
 {
-    // What the toolkit misses in the system is no part of the report.
+    // What Qt finds missing in the system is not part of the report.
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
     {
-        // As a session has it: without it the toolkit would make a folder.
+        // As in a real session: without it Qt would create a folder.
         const QTemporaryDir runtimeFolder;
         qputenv("XDG_RUNTIME_DIR", runtimeFolder.path().toUtf8());
         const QApplication application(argc, argv);
@@ -449,7 +449,7 @@ int DisplayAfterApplication(int argc, char* argv[])
     return DisplayAndAnswer(argc, argv);
 }
 
-/// Shows a warning, chooses to debug it and tells the answer.
+/// Shows a warning, chooses to debug it and reports the answer.
 int DebugWarningInApplication(int argc, char* argv[])
 {
     const QApplication application(argc, argv);
@@ -460,7 +460,7 @@ int DebugWarningInApplication(int argc, char* argv[])
     return 0;
 }
 
-/// The same while there is an application, whose user ignores the warning once.
+/// The same with an application, whose user ignores the warning once.
 int IgnoreWarningInApplication(int argc, char* argv[])
 {
     const QApplication application(argc, argv);

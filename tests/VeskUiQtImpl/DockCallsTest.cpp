@@ -7,12 +7,12 @@
 namespace
 {
 
-/// What main windows were told to resize, in order.
+/// What main windows were asked to resize, in order.
 QStringList s_notes;
 
 }
 
-// The program's operation stands before the toolkit's: it notes the call and hands it on.
+// This function of the program takes precedence over Qt's: it records the call and forwards it.
 void QMainWindow::resizeDocks(const QList<QDockWidget*>& docks, const QList<int>& sizes,
                               Qt::Orientation orientation)
 {
@@ -31,7 +31,7 @@ void QMainWindow::resizeDocks(const QList<QDockWidget*>& docks, const QList<int>
 namespace vesk::test
 {
 
-/// What the manager of panes asks of its window, where nothing is to be seen of it.
+/// What the manager of panes asks of its window where that has no visible effect.
 class DockCallsTest : public QObject
 {
     Q_OBJECT

@@ -46,7 +46,7 @@ public:
     std::function<void()> onUpdate;
 };
 
-/// Content that Qt cannot show; tells when it is destroyed.
+/// Content that Qt cannot show; reports its destruction.
 class PlainContent final : public IWidget
 {
 public:
@@ -65,7 +65,7 @@ public:
     void UpdateStatus() override {}
 };
 
-/// A pane that is nothing of Qt's; notes what is asked of it and when it is destroyed.
+/// A pane that is not a Qt object; records what is asked of it and when it is destroyed.
 class PlainDock final : public IDock
 {
 public:
@@ -104,7 +104,7 @@ struct DockFixture
         host.window.SetWindowId(window.GetWindowId());
     }
 
-    /// Adds a pane on the left, one above the other. Not owned.
+    /// Adds a pane on the left, one above the other; not owned.
     IDock* Add(const std::wstring& name) { return Add(name, DockArea::Left); }
 
     IDock* Add(const std::wstring& name, DockArea area,
@@ -114,7 +114,7 @@ struct DockFixture
         return manager.GetDock(name);
     }
 
-    /// Adds a shown pane whose content does this when it is to come in step.
+    /// Adds a shown pane whose content does this when it is updated.
     IDock* AddUpdated(const std::wstring& name, std::function<void()> onUpdate)
     {
         auto opContent = MakeOwner<WidgetContent>();
@@ -125,13 +125,13 @@ struct DockFixture
         return pDock;
     }
 
-    /// Enters something that no `AddDock` would: a pane of another kind, or null.
+    /// Enters something that `AddDock` would reject: a pane of another kind, or null.
     void Enter(const std::wstring& name, IDock* pDock)
     {
         (manager.*MemberOf(DockTable()))[name] = pDock;
     }
 
-    /// Has the manager forget its window: it gets one that holds no panes.
+    /// Replaces the window of the manager by one that cannot hold panes.
     void TakeWindow() { manager.*MemberOf(ManagerWindow()) = &host.window; }
 
     std::size_t CountDocks() const { return (manager.*MemberOf(DockTable())).size(); }

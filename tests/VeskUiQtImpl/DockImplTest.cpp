@@ -322,7 +322,7 @@ void DockImplTest::floatsAlsoWhenItIsHidden()
     QVERIFY(pDock->IsFloating());
 }
 
-/// Two panes in one place, the second in front.
+/// Two tabbed panes, the second in front.
 struct TabbedDocks : DockFixture
 {
     TabbedDocks()

@@ -10,7 +10,7 @@
 namespace vesk::test
 {
 
-/// How panes come into a manager and go.
+/// How panes are added to and removed from a manager.
 class DockManagerAddTest : public QObject
 {
     Q_OBJECT
@@ -340,7 +340,7 @@ void DockManagerAddTest::aDockAddedToAnotherWindowComesThere()
     delete pWidget;
 }
 
-/// Notes whether the manager knows a pane at the moment in which it is hidden.
+/// Records whether the manager knows a pane at the moment it is hidden.
 class HideWatch final : public QObject
 {
 public:

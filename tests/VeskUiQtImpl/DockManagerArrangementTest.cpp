@@ -6,7 +6,7 @@
 namespace vesk::test
 {
 
-/// How the panes of a window stand to each other.
+/// How the panes of a window are arranged.
 class DockManagerArrangementTest : public QObject
 {
     Q_OBJECT
@@ -37,7 +37,7 @@ private slots:
     void aPartnerOfSomebodyElseIsReportedAndLeftOut();
 };
 
-/// Two panes side by side in a window that is shown.
+/// Two panes side by side in a shown window.
 struct ShownDocks : DockFixture
 {
     ShownDocks()

@@ -7,7 +7,7 @@
 namespace vesk::test
 {
 
-/// What the manager lets a user do with a pane.
+/// What the manager allows a user to do with a pane.
 class DockManagerFeaturesTest : public QObject
 {
     Q_OBJECT

@@ -15,7 +15,7 @@ VESK_EXPOSE(GetQtArea, AreaMapping, DockManagerImpl, GetQtDockArea)
 using OrientationMapping = Qt::Orientation(DockOrientation) const;
 VESK_EXPOSE(GetOrientation, OrientationMapping, DockManagerImpl, GetQtOrientation)
 
-/// The main frame, taken away while this lives.
+/// Hides the main frame for its lifetime.
 class NoMainFrame final : private IMainWindow
 {
 public:
@@ -28,7 +28,7 @@ private:
     IMainWindow* m_pFrame;
 };
 
-/// The shape of a manager, how it makes panes and what copies of it know.
+/// The layout of a manager, how it creates panes and what its copies know.
 class DockManagerImplTest : public QObject
 {
     Q_OBJECT

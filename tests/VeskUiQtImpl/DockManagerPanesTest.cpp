@@ -47,7 +47,7 @@ private slots:
     void thePropertyPanelIsTheContentOfItsDock();
 };
 
-/// Three panes that note what is asked of them, and an empty place among them.
+/// Three panes that record what is asked of them, and an empty slot among them.
 struct NotedDocks : DockFixture
 {
     NotedDocks()

@@ -7,7 +7,7 @@
 namespace vesk::test
 {
 
-/// What of a pane stays as it is when something else is asked of it.
+/// Which state of a pane stays unchanged when another one is changed.
 class DockStateTest : public QObject
 {
     Q_OBJECT

@@ -3,7 +3,7 @@
 namespace vesk::test
 {
 
-// Only a program that names something of a library has it loaded, and not each test does.
+// A program loads a library only if it references a symbol of it, and not every test does.
 extern TemporaryDimensionHandlerFactory* (*const s_pLibraryReference)();
 TemporaryDimensionHandlerFactory* (*const s_pLibraryReference)() =
     &TemporaryDimensionHandlerFactory::GetInstance;

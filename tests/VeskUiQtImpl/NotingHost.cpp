@@ -84,7 +84,7 @@ NotingHost::~NotingHost()
 namespace vesk
 {
 
-// The program's operations stand before the host's.
+// These functions of the program take precedence over those of the host.
 ICommandManager* ICommandManager::Get()
 {
     return &test::s_pHost->commands;

@@ -23,7 +23,7 @@
 namespace vesk::test
 {
 
-/// What the host was asked and told, in order. What happened when no command was under way says so.
+/// What the host was asked and told, in order. Entries made while no command was running say so.
 inline QStringList s_notes;
 
 inline void Note(const QString& what)
@@ -112,7 +112,7 @@ public:
     void AddUiObject(OwnerPtr<IJournalUiObject>, int, int) override {}
 };
 
-/// The host that all operations below belong to.
+/// The host behind all functions below.
 struct NotingHost
 {
     NotingHost();
@@ -129,11 +129,11 @@ struct NotingHost
     TestAction action{actionLog};
     bool hasAction = true;
 
-    /// Called inside the next command, and inside the next end of a running one, once.
+    /// Called once, inside the next command or the next end of a running one.
     std::function<void()> onCommand;
     std::function<void()> onReset;
 
-    /// Called before a refresh is noted.
+    /// Called before a refresh is recorded.
     std::function<void()> onRefresh;
 };
 

@@ -124,7 +124,7 @@ void ProcessCommandExceptionTest::whatWasChosenMeanwhileIsClickedAfterAnExceptio
     QTRY_COMPARE(f.innerCount, 1);
 }
 
-/// The action has no event loop, so that the click itself ends it.
+/// The action has no event loop, so the click itself ends it.
 void ProcessCommandExceptionTest::aClickThatEndsAnActionWhichThrowsIsNotLost()
 {
     struct ThrowingObserver : IActionObserver

@@ -9,7 +9,7 @@
 namespace vesk::test
 {
 
-/// Makes journal records of another class, and notes their end.
+/// Creates journal records of another class, and records their destruction.
 class ForeignJournalFactory final : public NqIJournalFactory
 {
 public:

@@ -42,7 +42,7 @@ void SendStatusBarCommand(const wchar_t* id, QObject* pSender)
     ProcessCommandUtil::ProcessStatusBarCommand(id, SomeParameters(), pSender);
 }
 
-/// Notes the next question about the look of a widget.
+/// Records the next query about the style of a widget.
 class NotingStyle final : public QProxyStyle
 {
 public:
@@ -57,7 +57,7 @@ public:
     mutable bool isNoting = false;
 };
 
-/// A menu on the screen whose mouse events are noted and kept from it.
+/// A menu on the screen whose mouse events are recorded and not delivered to it.
 class NotingMenu final : public QMenu
 {
 public:
@@ -88,7 +88,7 @@ protected:
 
 }
 
-/// In which order the host is asked and told, and what is left out when something is missing.
+/// In which order the host is asked and told, and what is left out if something is missing.
 class ProcessCommandOrderTest : public QObject
 {
     Q_OBJECT
@@ -316,8 +316,8 @@ void ProcessCommandOrderTest::whatIsPutOffOnlyEndsTheCommand()
     QVERIFY(isExecuted);
 }
 
-/// What ends together with the command, and runs another one of a plain sender, finds nothing yet
-/// to click again.
+/// Something that ends together with the command, and runs another one from a plain sender, finds
+/// nothing to click again yet.
 void ProcessCommandOrderTest::whatIsPutOffWaitsUntilTheCommandHasEnded()
 {
     NotingHost host;
@@ -344,7 +344,7 @@ void ProcessCommandOrderTest::waitingClickComesAfterTheRefresh_data()
     unknownCommandNeedsNoRecord_data();
 }
 
-/// The click is posted while the command is still under way, and after the refresh.
+/// The click is posted while the command is still running, and after the refresh.
 void ProcessCommandOrderTest::waitingClickComesAfterTheRefresh()
 {
     QFETCH(bool, isRibbon);
@@ -358,7 +358,7 @@ void ProcessCommandOrderTest::waitingClickComesAfterTheRefresh()
         SendRibbonCommand(L"asked", &sender);
     };
     host.onRefresh = [&menu] { QCoreApplication::sendPostedEvents(&menu); };
-    // A hidden menu finds the places of its entries when it is asked for one.
+    // A hidden menu computes the geometry of its entries when asked for one.
     menu.hide();
     menu.addAction("third");
     style.isNoting = true;

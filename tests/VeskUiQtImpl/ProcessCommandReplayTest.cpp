@@ -15,7 +15,7 @@
 namespace vesk::test
 {
 
-/// Notes the mouse events of a widget and keeps them from it.
+/// Records the mouse events of a widget without delivering them.
 class MouseNotes final : public QObject
 {
 public:
@@ -43,7 +43,7 @@ public:
     std::vector<Note> notes;
 };
 
-/// Notes what Qt has to complain of while it lives.
+/// Records the warnings Qt prints during its lifetime.
 class Complaints
 {
 public:

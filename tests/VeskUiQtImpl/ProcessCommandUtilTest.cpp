@@ -11,8 +11,8 @@
 namespace vesk::test
 {
 
-/// A host with a second view, in which the command "Waiting" is chosen while another is under way.
-/// When its turn comes, the first view is current again.
+/// A host with a second view, in which the command "Waiting" is chosen while another one is
+/// running. When its turn comes, the first view is current again.
 struct WaitingFixture : CommandFixture
 {
     WaitingFixture()

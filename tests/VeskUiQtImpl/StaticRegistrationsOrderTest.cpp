@@ -16,10 +16,10 @@
 namespace
 {
 
-/// What the library registered and withdrew, in order, as the host's operations were told.
+/// What the library registered and unregistered, in order, as seen by the functions of the host.
 QStringList s_notes;
 
-/// The last factory of handlers that was registered.
+/// The last handler factory that was registered.
 const void* s_pHandlerFactory = nullptr;
 
 QString Describe(const char* what, const void* pFactory)
@@ -30,7 +30,7 @@ QString Describe(const char* what, const void* pFactory)
              hasUiFactory ? "there" : "gone");
 }
 
-/// The host's own operation, which stands behind the one of this program.
+/// The original function of the host behind the one of this program.
 template <class Function>
 Function Next(const char* symbol)
 {
@@ -42,7 +42,8 @@ Function Next(const char* symbol)
 namespace vesk
 {
 
-// The program's operations stand before the host's: they note the call and hand it on.
+// These functions of the program take precedence over the host's: they record the call and forward
+// it.
 void VeskIControlFactory::Set(VeskIControlFactory* pFactory)
 {
     s_notes << Describe("control factory", pFactory);
@@ -83,7 +84,7 @@ T ReadAt(const QByteArray& bytes, quint64 offset)
     return value;
 }
 
-/// How many symbols of the kind that pins a library in the process a file has.
+/// How many symbols a file has of the kind that pins a library in the process.
 int CountUniqueSymbols(const QByteArray& elf)
 {
     const auto header = ReadAt<Elf64_Ehdr>(elf, 0);

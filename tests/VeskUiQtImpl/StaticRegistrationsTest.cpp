@@ -107,8 +107,8 @@ void StaticRegistrationsTest::isUnloadedAfterWork()
         QVERIFY(manager.IsInputting());
         manager.Drop();
     }
-    // What is of the library's classes has to go before it: the editor, which is the view's child,
-    // and the posted refresh of the controls.
+    // Objects of the library's classes must be destroyed before it: the editor, which is a child of
+    // the view, and the posted refresh of the controls.
     qDeleteAll(host.view.children());
     QCoreApplication::sendPostedEvents();
 

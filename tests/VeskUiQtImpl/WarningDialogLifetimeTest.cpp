@@ -15,7 +15,7 @@ namespace vesk::test
 
 using EventType = ControlDefinitionChangeEventType;
 
-/// Has a control report something.
+/// Makes a control report something.
 using Scene = void (*)(ReportingControl& f);
 
 void FollowASelection(ReportingControl& f)
@@ -50,7 +50,7 @@ void ClearABareEdit(ReportingControl& f)
 
 void MakeAnEditOfRealNumbers(ReportingControl& f)
 {
-    // The window takes the edit along, so nobody owns it.
+    // The window destroys the edit with it, so nobody owns it.
     auto* pEdit = new QtLineEdit(MakeOwner<EmptyRealReference>(), f.pParent.get());
     f.pVictim = f.pParent == nullptr ? nullptr : pEdit;
 }
@@ -69,7 +69,7 @@ void SendAnUnknownCommand(ReportingControl& f)
         .click();
 }
 
-/// Makes a menu, which dies of what it reports, although nobody owns it yet.
+/// Creates a menu that is destroyed by what it reports, although nobody owns it yet.
 void MakeAMenu(ReportingControl& f, OwnerPtr<ICommandButtonMenuDefinition> opDefinition)
 {
     f.script.SetAct([&f] {
@@ -154,7 +154,7 @@ void MakeAGroupOfNothing(ReportingControl& f)
     QVERIFY(f.opControl == nullptr);
 }
 
-/// A group of two items, whose list of buttons begins with one that is missing.
+/// A group of two items whose list of buttons starts with a missing one.
 template <class Kind>
 struct TwoItems
 {
@@ -215,7 +215,7 @@ void TellOfAnItemWithoutAButton(ReportingControl& f)
     f.Tell(type, 1, &items.first);
 }
 
-/// Uses a control as a user would, so that it reports something inside a signal of Qt's.
+/// Uses a control as a user would, so that it reports something inside a Qt signal.
 using Use = void (*)(QWidget& control);
 
 void TypeAKey(QWidget& control)
@@ -238,7 +238,7 @@ void PressTheMainPart(QWidget& control)
     qobject_cast<QToolButton*>(&control)->click();
 }
 
-/// Makes a control with the id "Foreign".
+/// Creates a control with the id "Foreign".
 using Make = QWidget* (*)(ControlHost& controls);
 
 QWidget* MakeAForeignEdit(ControlHost& controls)
@@ -263,8 +263,8 @@ Q_DECLARE_METATYPE(vesk::test::Make)
 namespace vesk::test
 {
 
-/// While a warning is on screen the event loop of its dialog may destroy whoever reported it, and
-/// what holds it. Here it does, at every place that goes on afterwards.
+/// While a warning is on screen, the event loop of its dialog may destroy whoever reported it, and
+/// its container. Here it does so at every point where code continues afterwards.
 class WarningDialogLifetimeTest : public QObject
 {
     Q_OBJECT
@@ -386,7 +386,7 @@ void WarningDialogLifetimeTest::controlThatReportsInItsSignalMayBeRemoved()
         host.warnings.TakeAny();
 }
 
-/// A manager in a window of its own, both of which may go.
+/// A manager in a window of its own, both of which may be destroyed.
 struct MortalDocks
 {
     MortalDocks() { host.window.SetWindowId(pWindow->GetWindowId()); }

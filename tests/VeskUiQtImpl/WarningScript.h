@@ -10,8 +10,8 @@
 namespace vesk::test
 {
 
-/// Stands where the warning dialog does: while the first warning is on screen something happens, as
-/// in the event loop of a dialog. Made after the host, which it tells that somebody is there.
+/// Replaces the warning dialog: while the first warning is on screen something happens, as in the
+/// event loop of a dialog. Create it after the host, which it tells that a user is present.
 class WarningScript final : public NqUiInterfaceFactory
 {
 public:

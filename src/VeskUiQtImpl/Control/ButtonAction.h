@@ -14,9 +14,9 @@
 namespace vesk
 {
 
-/// Makes the checkable action on which the look of a button lives, a child of that button: caption,
-/// tool tip and icon come from the definition. Null, with a warning in the name of `function`, when
-/// it could not be made.
+/// Creates the checkable action that carries the appearance of a button, as a child of that button:
+/// caption, tool tip and icon come from the definition. Returns null, with a warning in the name of
+/// `function`, if it cannot be created.
 template <class Definition>
 QAction* CreateAction(const Definition& definition, QToolButton* pButton, const char* function)
 {

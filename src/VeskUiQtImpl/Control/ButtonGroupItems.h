@@ -20,8 +20,8 @@
 namespace vesk
 {
 
-/// Makes the button that shows an item, a child of `pParent`, with caption, name and tool tip.
-/// Null, with a warning in the name of `function`, when it could not be made.
+/// Creates the button that shows an item as a child of `pParent`, with caption, name and tool tip.
+/// Returns null, with a warning in the name of `function`, if it cannot be created.
 template <class Button>
 Button* CreateItemButton(QWidget* pParent, const IControlDefinition* pDefinition,
                          const char* function)
@@ -41,15 +41,15 @@ Button* CreateItemButton(QWidget* pParent, const IControlDefinition* pDefinition
     return pButton;
 }
 
-/// The buttons of a group at work: how their list, the button group and the layout of the parent
-/// follow the items of a definition.
+/// Operations on the buttons of a group: they keep its list, the button group and the layout of the
+/// parent in step with the items of a definition.
 ///
-/// Made for one operation; it refers to the group's own members. Ids are those of automatic
-/// numbering, one less than the smallest present, but are told to Qt as long as no other buttons
-/// are in the group: it would look through all ids for each button. What is wrong is reported in
-/// the name of `function`, the operation of the group. A report may run an event loop, and so may
-/// who hears of a button's change: what goes on afterwards asks first whether the group still
-/// lives.
+/// Created for one operation; it refers to the group's own members. Ids follow Qt's automatic
+/// numbering, one less than the smallest present, but are passed to Qt explicitly as long as the
+/// group holds no other buttons: otherwise Qt would search all ids for each button. Failures are
+/// reported in the name of `function`, the operation of the group. A report may run an event loop,
+/// and so may a handler of a button's change: code that continues afterwards first checks whether
+/// the group is still alive.
 template <class Button>
 class ButtonGroupItems
 {
@@ -58,13 +58,13 @@ public:
         : m_group(group), m_pParent(pParent), m_buttons(buttons)
     {}
 
-    /// Puts a button at the end of list and group and answers it; null when it or the group died
-    /// of it.
+    /// Appends a button to list and group and returns it; null if that destroyed the button or the
+    /// group.
     Button* Append(Button* pButton)
     {
         const QPointer<QButtonGroup> pGroup(&m_group);
         const QPointer<Button> pAppended(pButton);
-        // The last button has the smallest id, unless the group holds others: then Qt looks.
+        // The last button has the smallest id, unless the group holds others: then Qt searches.
         const bool isOfItems = !m_buttons.empty() && CountGrouped() == m_buttons.size();
         m_group.addButton(pButton, isOfItems ? m_group.id(m_buttons.back()) - 1 : Automatic);
         if (pGroup == nullptr || pAppended == nullptr)
@@ -73,7 +73,7 @@ public:
         return pButton;
     }
 
-    /// An item came at the end: `append` makes its button, which is then placed after the last one.
+    /// An item was appended: `append` creates its button, which is then placed after the last one.
     template <class Item, class AppendItem>
     void OnAdd(const IControlDefinitionChangeEventArgs* pArgs, AppendItem append,
                const char* function)
@@ -86,7 +86,7 @@ public:
         if (!Check(pLayout != nullptr, VESK_SITE(function, L"pLayout为空")))
             return;
 
-        // A layout answers for no widget with the place of a spacer.
+        // For a null widget, a layout would return the position of a spacer.
         const int lastPlace = m_buttons.empty() ? -1 : pLayout->indexOf(m_buttons.back());
         const auto* pItem = dynamic_cast<const Item*>(pArgs->GetItemDefinition());
         if (!Check(pItem != nullptr, VESK_SITE(function, L"pCheckBoxDefine为空")))
@@ -98,9 +98,9 @@ public:
         Place(pLayout, lastPlace + 1, pButton, function);
     }
 
-    /// An item came before another: `create` makes its button, for which there is `noButton` to say
-    /// when it does not. All buttons are grouped anew, so that their ids stay in order; a failure
-    /// leaves them in no group.
+    /// An item was inserted before another: `create` creates its button, and `noButton` is reported
+    /// if it does not. All buttons are regrouped so that their ids stay in order; a failure leaves
+    /// them ungrouped.
     template <class Item, class CreateButton>
     void OnInsert(const IControlDefinitionChangeEventArgs* pArgs, CreateButton create,
                   const wchar_t* noButton, const char* function)
@@ -131,7 +131,7 @@ public:
         Group(function);
     }
 
-    /// The item at `index` is gone: its button leaves list and group now, and dies later.
+    /// The item at `index` was removed: its button leaves list and group now and is deleted later.
     void OnDelete(int index, const char* function)
     {
         if (!Check(Has(index), VESK_SITE(function, L"deleteControlDefinitionIndex有误")))
@@ -144,7 +144,7 @@ public:
         m_buttons.erase(place);
     }
 
-    /// All items are gone.
+    /// All items were removed.
     void OnClear(const char* function)
     {
         const auto remove = [this](Button* pButton) {
@@ -155,9 +155,10 @@ public:
             m_buttons.clear();
     }
 
-    /// Calls `apply(button, item, isAlive)` for each button and its item, in order; `noPair` is to
-    /// say where either is missing. Who hears of a change may do anything: `isAlive()` tells
-    /// whether both still stand in the group, and without the group it ends.
+    /// Calls `apply(button, item, isAlive)` for each button and its item, in order; `noPair` is
+    /// reported where either is missing. Handlers of a change may do anything: `isAlive()` tells
+    /// whether the group still exists and the button is still at its position in it; the loop ends
+    /// at the first button for which it is not.
     template <class Item, class Apply>
     void ForEach(const std::vector<const Item*>& items, Apply apply, const wchar_t* noPair,
                  const char* function)
@@ -180,7 +181,7 @@ public:
     }
 
 private:
-    /// Has Qt number a button.
+    /// Lets Qt assign the id.
     static constexpr int Automatic = -1;
 
     std::size_t CountGrouped() const { return std::size_t(m_group.buttons().size()); }
@@ -205,12 +206,12 @@ private:
         ForEachButton(add, function);
     }
 
-    /// Does something with each button; false when the group died meanwhile.
+    /// Applies an operation to each button; false if the group was destroyed meanwhile.
     template <class Operation>
     bool ForEachButton(Operation operation, const char* function)
     {
         const QPointer<QButtonGroup> pGroup(&m_group);
-        // By index: while a missing one is reported, others may come and go.
+        // By index: while a missing button is reported, others may be added or removed.
         for (std::size_t i = 0; pGroup != nullptr && i < m_buttons.size(); ++i)
         {
             if (Check(m_buttons[i] != nullptr, VESK_SITE(function, L"iter为空")))

@@ -5,7 +5,7 @@
 namespace vesk
 {
 
-/// The base of controls that are written outside this library; its own controls do not need it.
+/// Base class for controls written outside this library; its own controls do not need it.
 class Control : public IControl
 {
 public:

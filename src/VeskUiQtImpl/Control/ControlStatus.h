@@ -7,11 +7,11 @@
 namespace vesk
 {
 
-/// Gives a widget the visibility and the enabled state of its definition, without comparing.
+/// Applies the visibility and enabled state of a definition to its widget, without comparing.
 ///
-/// Hiding takes the focus away, and who hears of that may do anything: so each state is read when
-/// its turn comes, and only while `isAlive()` says that both widget and definition are still there.
-/// False when they are not.
+/// Hiding moves the focus, and handlers of that may do anything: so each state is read just before
+/// it is applied, and only while `isAlive()` says that both widget and definition still exist.
+/// Returns false if they do not.
 template <class IsAlive>
 bool ApplyStatus(QWidget& widget, const IControlDefinition& definition, IsAlive isAlive)
 {
@@ -25,10 +25,10 @@ bool ApplyStatus(QWidget& widget, const IControlDefinition& definition, IsAlive 
 /// The same for a widget that owns its definition.
 bool ApplyStatus(QWidget& widget, const IControlDefinition& definition);
 
-/// Each gives a widget one state where it shows another.
+/// Each sets one state of a widget if the widget differs from it.
 ///
-/// Below a hidden or disabled parent a widget is so whatever it is told, and may then miss a
-/// change: the next ApplyStatus, which does not compare, sets that right.
+/// Under a hidden or disabled parent a widget reports that state whatever its own setting is, and
+/// may then miss a change: the next ApplyStatus, which does not compare, corrects that.
 void UpdateVisible(QWidget& widget, bool isVisible);
 void UpdateEnabled(QWidget& widget, bool isEnabled);
 

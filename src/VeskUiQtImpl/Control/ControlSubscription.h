@@ -6,7 +6,7 @@
 namespace vesk
 {
 
-/// Subscribes a handler to the change event of a definition; nothing happens where there is none.
+/// Subscribes a handler to the change event of a definition; does nothing if there is no event.
 template <class Definition>
 void Subscribe(const Definition* pDefinition, IControlDefinitionChangeEventHandler* pHandler)
 {
@@ -14,7 +14,7 @@ void Subscribe(const Definition* pDefinition, IControlDefinitionChangeEventHandl
         pEvent->Add(pHandler);
 }
 
-/// Withdraws the subscription; nothing happens where there is none. The definition may be null.
+/// Removes the subscription; does nothing if there is none. The definition may be null.
 template <class Definition>
 void Unsubscribe(const Definition* pDefinition, IControlDefinitionChangeEventHandler* pHandler)
 {

@@ -3,11 +3,11 @@
 namespace vesk
 {
 
-/// The names of the dynamic Qt properties by which others recognise the objects of this library.
+/// Names of the dynamic Qt properties by which other code recognises the objects of this library.
 namespace PropertyName
 {
 
-/// True on every object that stands for a definition of the host.
+/// True on every object that represents a definition of the host.
 constexpr char IsDefinition[] = "IsDefinition";
 
 /// On the action of a menu entry: the id of its command, a QString.

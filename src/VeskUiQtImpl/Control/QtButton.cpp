@@ -39,8 +39,7 @@ Qt::ToolButtonStyle ToQtButtonStyle(int hostStyle)
     }
 }
 
-/// The button whose definition is being applied to its action at this moment; only its address
-/// counts.
+/// The button whose definition is currently being applied to its action; only its address matters.
 const QtButton* s_pApplied = nullptr;
 
 }
@@ -106,8 +105,8 @@ void QtButton::On(IControlDefinitionChangeEventArgs* pArgs)
         ApplyAction();
 }
 
-/// Writes all three whether they changed or not. Who hears of a change of the action may delete it,
-/// or the button: each is read when its turn comes, if both are still there.
+/// Writes all three whether they changed or not. Handlers of a change of the action may delete it,
+/// or the button: each value is read just before it is written, if both still exist.
 void QtButton::ApplyAction()
 {
     const QScopedValueRollback<const QtButton*> applied(s_pApplied, this);
@@ -140,7 +139,7 @@ void QtButton::OnButtonClicked(bool checked)
         const ControlDefinitionChangeByUser byUser(m_pControlDefinition->GetId());
         m_pControlDefinition->SetChecked(checked);
     }
-    // Who heard of the change may have destroyed the button: then there is nobody to send for.
+    // A handler of the change may have destroyed the button; then there is no sender left.
     if (pSelf == nullptr)
         return;
 

@@ -21,23 +21,22 @@ class VESK_UI_QT_IMPL_API QtButton : public QToolButton,
     Q_OBJECT
 
 public:
-    /// Takes the definition over. With an empty one the button is bare and does nothing.
-    /// Visibility and enabled state come with the first UpdateStatus.
+    /// Takes ownership of the definition. With a null definition the button is bare and does
+    /// nothing. Visibility and enabled state are first applied by UpdateStatus.
     QtButton(OwnerPtr<ICommandButtonDefinition> pControlDefinition, QWidget* pParent);
     ~QtButton() override;
 
     IControlDefinition* GetControlDefinition() const override;
 
-    /// Takes visibility, enabled state and the button's own checked state over.
+    /// Applies visibility, enabled state and the checked state of the button itself.
     void UpdateStatus() override;
 
-    /// Takes style, icon, caption and checked state over; tool tip, visibility and enabled state
-    /// stay.
+    /// Applies style, icon, caption and checked state; tool tip, visibility and enabled state stay.
     void On(IControlDefinitionChangeEventArgs* pArgs) override;
 
 protected:
-    /// A tool button takes the enabled state of its action over whenever the action changes; what
-    /// On writes into the action leaves a disabled button disabled.
+    /// A tool button adopts the enabled state of its action whenever the action changes; this
+    /// override keeps a disabled button disabled while On updates the action.
     void actionEvent(QActionEvent* pEvent) override;
 
 private:

@@ -18,7 +18,7 @@ namespace vesk
 namespace
 {
 
-// There are two states only, both ways: a box is never shown partially checked.
+// Only two states are mapped, in both directions: a box is never shown partially checked.
 
 Qt::CheckState ToQtCheckState(int hostState)
 {
@@ -47,7 +47,7 @@ QtCheckBoxGroup::QtCheckBoxGroup(OwnerPtr<ICheckBoxGroupDefinition> pControlDefi
     for (const ICheckBoxDefinition* pDefinition : m_pControlDefinition->GetCheckBoxDefinitions())
     {
         AddCheckBox(pDefinition);
-        // A report may have run an event loop, and the parent takes its group along.
+        // A report may have run an event loop, and a destroyed parent destroys its group.
         if (pSelf == nullptr)
             return;
     }
@@ -90,7 +90,8 @@ void QtCheckBoxGroup::On(IControlDefinitionChangeEventArgs* pArgs)
     if (!Check(pArgs != nullptr, VESK_SITE(Function, L"pArgs为空")))
         return;
     const int type = pArgs->GetType();
-    // Without a definition there are no items: only their states are asked for, and missed.
+    // Without a definition there are no items; only a change of states still reports the missing
+    // definition.
     if (m_pControlDefinition == nullptr &&
         type != ControlDefinitionChangeEventType::PropertyChanged)
         return;

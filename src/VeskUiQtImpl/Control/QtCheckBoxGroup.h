@@ -17,11 +17,11 @@ class QWidget;
 namespace vesk
 {
 
-/// Shows a check-box group definition: a check box for each of its items, in the items' order.
+/// Shows a check-box group definition: one check box per item, in the items' order.
 ///
-/// The boxes are children of the parent widget, which owns them; they outlive the group. Boxes of
-/// the first items are placed by the host, later ones come into the parent's box layout next to
-/// them.
+/// The boxes are children of the parent widget, which owns them; they outlive the group. The host
+/// places the boxes of the initial items; later ones are inserted next to them in the box layout of
+/// the parent.
 class VESK_UI_QT_IMPL_API QtCheckBoxGroup : public QButtonGroup,
                                             public IControl,
                                             public IControlDefinitionChangeEventHandler
@@ -29,21 +29,21 @@ class VESK_UI_QT_IMPL_API QtCheckBoxGroup : public QButtonGroup,
     Q_OBJECT
 
 public:
-    /// Takes the definition over. Without it or without a parent the group is empty and follows
-    /// nothing.
+    /// Takes ownership of the definition. Without a definition or a parent the group is empty and
+    /// follows nothing.
     QtCheckBoxGroup(OwnerPtr<ICheckBoxGroupDefinition> pControlDefinition, QWidget* pParent);
     ~QtCheckBoxGroup() override;
 
-    /// The boxes in the order of their items. Not owned by the caller.
+    /// The boxes in the order of their items; not owned by the caller.
     std::vector<QCheckBox*> GetAllControls() const;
 
     IControlDefinition* GetControlDefinition() const override;
 
-    /// Takes visibility and enabled state of each box over; whether it is checked stays.
+    /// Applies visibility and enabled state of each box; the check state stays.
     void UpdateStatus() override;
 
-    /// Takes a change of the items over, or the states of all boxes, each only where it differs.
-    /// Boxes of items that are gone are deleted when control returns to the event loop.
+    /// Applies a change of the items, or the states of all boxes, each only if it differs. Boxes of
+    /// removed items are deleted when control returns to the event loop.
     void On(IControlDefinitionChangeEventArgs* pArgs) override;
 
 private:

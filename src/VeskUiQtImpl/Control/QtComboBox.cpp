@@ -61,7 +61,8 @@ void QtComboBox::On(IControlDefinitionChangeEventArgs* pArgs)
                VESK_SITE("vesk::QtComboBox::On", L"m_pControlDefinition为空")))
         return;
 
-    // What was found comes back: a change that is echoed inside another leaves the outer one alone.
+    // Restores the previous value: a change echoed inside another one must not affect the outer
+    // one.
     const QScopedValueRollback<bool> byDefinition(s_isIndexChangeByUser, false);
     switch (pArgs->GetType())
     {

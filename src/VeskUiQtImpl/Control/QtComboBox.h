@@ -11,7 +11,7 @@
 namespace vesk
 {
 
-/// Shows a combo-box definition: the items follow it, the current index goes both ways.
+/// Shows a combo-box definition: the items follow it, the current index is synchronised both ways.
 class VESK_UI_QT_IMPL_API QtComboBox : public QComboBox,
                                        public IControl,
                                        public IControlDefinitionChangeEventHandler
@@ -19,17 +19,18 @@ class VESK_UI_QT_IMPL_API QtComboBox : public QComboBox,
     Q_OBJECT
 
 public:
-    /// Takes the definition over. With an empty one the box is bare and follows nothing.
-    /// Visibility and enabled state come with the first UpdateStatus; the tool tip is not shown.
+    /// Takes ownership of the definition. With a null definition the box is bare and follows
+    /// nothing. Visibility and enabled state are first applied by UpdateStatus; the tool tip is not
+    /// shown.
     QtComboBox(OwnerPtr<IComboBoxDefinition> pControlDefinition, QWidget* pParent);
     ~QtComboBox() override;
 
     IControlDefinition* GetControlDefinition() const override;
     void UpdateStatus() override;
 
-    /// Takes a change of the items over, or current index, visibility and enabled state, each only
-    /// where it differs. Where Qt moves the current index with the items, the definition is told,
-    /// but not as of a change by the user.
+    /// Applies a change of the items, or current index, visibility and enabled state, each only if
+    /// it differs. When Qt moves the current index along with the items, the definition is updated,
+    /// but not as a change by the user.
     void On(IControlDefinitionChangeEventArgs* pArgs) override;
 
 private:
@@ -39,7 +40,7 @@ private:
 
     OwnerPtr<IComboBoxDefinition> m_pControlDefinition;
 
-    /// False exactly while a change of a definition is applied to a combo box.
+    /// False only while a change of a definition is applied to a combo box.
     static bool s_isIndexChangeByUser;
 };
 

@@ -33,7 +33,7 @@ constexpr char MenuStyleSheet[] =
 
 using MenuItems = std::vector<const IMenuItemDefinition*>;
 
-/// The entries that an entry holds; none when it is no container.
+/// The child entries of an entry; empty if it is not a container.
 MenuItems GetChildren(const IControlDefinition* pDefinition)
 {
     const auto* pContainer = dynamic_cast<const IMenuItemContainerDefinition*>(pDefinition);
@@ -55,15 +55,15 @@ std::wstring GetCommandId(const QAction& action)
     return ToWide(action.property(PropertyName::CommandId).toString());
 }
 
-/// Null for an unknown one. Without a manager no command is known.
+/// Null for an unknown id. Without a command manager no command is known.
 const ICommand* FindCommand(const std::wstring& commandId)
 {
     const ICommandManager* pManager = ICommandManager::Get();
     return pManager != nullptr ? pManager->GetCommand(commandId) : nullptr;
 }
 
-/// Gives an entry the states of its command; without one it keeps its own. A command's conditions,
-/// and who hears of a change of the entry, may do anything.
+/// Applies the states of its command to an entry; without a command the entry keeps its own. The
+/// conditions of a command, and handlers of a change of the entry, may do anything.
 void UpdateItem(const QPointer<QAction>& pAction)
 {
     const std::wstring commandId = GetCommandId(*pAction);
@@ -138,7 +138,7 @@ void QtCommandButtonMenu::UpdateStatus()
     if (pSelf == nullptr || !isVisible)
         return;
     setEnabled(m_pControlDefinition->IsEnabled());
-    // By index: entries may come and go meanwhile.
+    // By index: entries may be added or removed meanwhile.
     for (int i = 0; pSelf != nullptr && i < GetItems().size(); ++i)
         UpdateItem(GetItems().at(i));
 }
@@ -193,8 +193,8 @@ void QtCommandButtonMenu::AddMenuItem(QMenu* pMenu, const IMenuItemDefinition* p
     AddMenuItems(pSubMenu, children);
 }
 
-/// Adds entries in their order. False when the button died of it: what is missing is reported, and
-/// a report may run an event loop.
+/// Adds entries in order. Returns false if the button was destroyed: missing entries are reported,
+/// and a report may run an event loop.
 bool QtCommandButtonMenu::AddMenuItems(QMenu* pMenu, const MenuItems& items)
 {
     const QPointer<QtCommandButtonMenu> pSelf(this);
@@ -215,7 +215,7 @@ void QtCommandButtonMenu::AppendMenuItem(const IControlDefinition* pItemDefiniti
         AddMenuItem(menu(), pItem);
 }
 
-/// What is inserted does not count as a definition to those who look for the property.
+/// Inserted entries do not count as definitions for code that looks for the property.
 void QtCommandButtonMenu::InsertMenuItem(int index, const IControlDefinition* pItemDefinition)
 {
     constexpr char Function[] = "vesk::QtCommandButtonMenu::On";
@@ -252,8 +252,9 @@ void QtCommandButtonMenu::SetUpItem(QAction& action, const ICommandMenuItemDefin
     connect(&action, &QAction::triggered, this, &QtCommandButtonMenu::OnMenuItemTriggered);
 }
 
-/// Leaves of the menu itself only the chosen entry checked, and what looks exactly like it. False
-/// when the chosen entry or the button died of it: who hears of a check mark may do anything.
+/// Checks only the chosen entry of the menu itself, and any entry that looks exactly like it.
+/// Returns false if the chosen entry or the button was destroyed: handlers of a check mark may do
+/// anything.
 bool QtCommandButtonMenu::CheckOnly(const QAction& chosen)
 {
     const QPointer<QtCommandButtonMenu> pSelf(this);
@@ -270,7 +271,7 @@ bool QtCommandButtonMenu::CheckOnly(const QAction& chosen)
     return isAlive();
 }
 
-/// The entries of the menu itself; none without a menu.
+/// The entries of the menu itself; empty without a menu.
 QList<QAction*> QtCommandButtonMenu::GetItems() const
 {
     return menu() != nullptr ? menu()->actions() : QList<QAction*>();

@@ -19,7 +19,8 @@ namespace vesk
 /// Shows a command-button-menu definition: the main part sends the definition's own command, the
 /// arrow opens a menu of further commands and sub-menus.
 ///
-/// The last entry chosen of the menu itself is checked; an entry of a sub-menu unchecks them all.
+/// The entry of the menu itself that was chosen last is checked; choosing one in a sub-menu
+/// unchecks them all.
 class QtCommandButtonMenu final : public QToolButton,
                                   public IControl,
                                   public IControlDefinitionChangeEventHandler
@@ -27,18 +28,18 @@ class QtCommandButtonMenu final : public QToolButton,
     Q_OBJECT
 
 public:
-    /// Takes the definition over. With an empty one the button is bare, without a menu.
-    /// Visibility and enabled state come with the first UpdateStatus.
+    /// Takes ownership of the definition. With a null definition the button is bare and has no
+    /// menu. Visibility and enabled state are first applied by UpdateStatus.
     explicit QtCommandButtonMenu(OwnerPtr<ICommandButtonMenuDefinition> pControlDefinition);
     ~QtCommandButtonMenu() override;
 
     IControlDefinition* GetControlDefinition() const override;
 
-    /// Takes visibility over and, while the button is shown, its enabled state and both states of
-    /// the commands in the menu itself; sub-menus stay.
+    /// Applies visibility and, while the button is shown, its enabled state and both states of the
+    /// commands in the menu itself; sub-menus stay unchanged.
     void UpdateStatus() override;
 
-    /// Takes entries over that are added or inserted, and a menu that is cleared.
+    /// Adds or inserts entries, or clears the menu; other changes are ignored.
     void On(IControlDefinitionChangeEventArgs* pArgs) override;
 
 private slots:

@@ -11,21 +11,21 @@
 namespace vesk
 {
 
-/// Shows a label definition: its caption and its tool tip.
+/// Shows a label definition: its caption and tool tip.
 class VESK_UI_QT_IMPL_API QtLabel : public QLabel,
                                     public IControl,
                                     public IControlDefinitionChangeEventHandler
 {
 public:
-    /// Takes the definition over. With an empty one the label is bare and follows nothing.
-    /// Visibility and enabled state come with the first UpdateStatus.
+    /// Takes ownership of the definition. With a null definition the label is bare and follows
+    /// nothing. Visibility and enabled state are first applied by UpdateStatus.
     QtLabel(OwnerPtr<ILabelDefinition> pControlDefinition, QWidget* pParent);
     ~QtLabel() override;
 
     IControlDefinition* GetControlDefinition() const override;
     void UpdateStatus() override;
 
-    /// Takes caption, visibility and enabled state over; the tool tip stays.
+    /// Applies caption, visibility and enabled state; the tool tip stays.
     void On(IControlDefinitionChangeEventArgs* pArgs) override;
 
 private:

@@ -21,7 +21,7 @@ namespace vesk
 namespace
 {
 
-/// The definition that holds the text, itself or by reference; null when there is none.
+/// The definition that holds the text, directly or by reference; null if there is none.
 const LineEditDefinition* FindConcreteDefinition(const ILineEditDefinition* pDefinition)
 {
     if (const auto* pConcrete = dynamic_cast<const LineEditDefinition*>(pDefinition))
@@ -41,7 +41,7 @@ QtLineEdit::QtLineEdit(OwnerPtr<ILineEditDefinition> pControlDefinition, QWidget
     if (!GiveDefaultValidator())
         return;
 
-    // What Qt cuts off it would report as a change by the user.
+    // Qt would report text it truncates as a change by the user.
     setMaxLength(std::numeric_limits<int>::max());
     setText(ToQString(m_pControlDefinition->GetText()));
     if (!ApplyStatus(*this, *m_pControlDefinition))
@@ -60,7 +60,7 @@ QtLineEdit::~QtLineEdit()
     Unsubscribe(m_pControlDefinition.Get(), this);
 }
 
-/// False when the validator of the input type needs a definition that is not there.
+/// Returns false if the validator of the input type needs a definition that does not exist.
 bool QtLineEdit::GiveDefaultValidator()
 {
     if (m_pControlDefinition->GetValidator() != nullptr)
@@ -220,7 +220,7 @@ void QtLineEdit::OnEditingFinished()
     if (pSelf == nullptr)
         return;
 
-    // The edit may be gone after the event.
+    // The edit may be destroyed by the event.
     if (auto* pEvent = dynamic_cast<LineEditEvent*>(m_pControlDefinition->GetLineEditEvent()))
     {
         LineEditEventArgs args(LineEditEventType::EditingFinished, id, ToWide(text()));

@@ -14,8 +14,8 @@
 namespace vesk
 {
 
-/// Shows a line-edit definition: text, selection and the state of being edited follow the user, the
-/// end of editing is told as a line-edit event.
+/// Shows a line-edit definition: text, selection and editing state follow the user; the end of
+/// editing is reported as a line-edit event.
 class VESK_UI_QT_IMPL_API QtLineEdit : public QLineEdit,
                                        public IControl,
                                        public IControlDefinitionChangeEventHandler
@@ -23,31 +23,32 @@ class VESK_UI_QT_IMPL_API QtLineEdit : public QLineEdit,
     Q_OBJECT
 
 public:
-    /// Takes the definition over and gives it the validator of its input type if it has none. With
-    /// an empty one, or one of real numbers that refers to nothing, the edit is bare.
+    /// Takes ownership of the definition and gives it the validator of its input type if it has
+    /// none. With a null definition, or a reference of real-number type that refers to nothing, the
+    /// edit is bare.
     QtLineEdit(OwnerPtr<ILineEditDefinition> pControlDefinition, QWidget* pParent);
     ~QtLineEdit() override;
 
     IControlDefinition* GetControlDefinition() const override;
     void UpdateStatus() override;
 
-    /// Takes text, visibility, enabled state and selection over, each only where it differs.
+    /// Applies text, visibility, enabled state and selection, each only if it differs.
     void On(IControlDefinitionChangeEventArgs* pArgs) override;
 
     /// Sets the text of the edit and of its definition.
     void SetText(const std::wstring& text);
 
-    /// Empties the edit and its definition.
+    /// Clears the edit and its definition.
     void Clear();
 
     /// Selects the whole text; the definition follows.
     void SelectAll();
 
-    /// Holds a validator of the edit's own, freeing the one held before; the definition's is
-    /// another.
+    /// Stores a validator of the edit's own, freeing the previous one; it is separate from the
+    /// definition's.
     void SetValidator(OwnerPtr<ValidatorBase> pValidator);
 
-    /// The validator held, null when there is none. Not owned by the caller.
+    /// The stored validator; null if there is none. Not owned by the caller.
     const ValidatorBase* GetValidator() const;
 
 private:

@@ -16,7 +16,7 @@ namespace
 
 constexpr int Height = 18;
 
-// Qt does not know "margin - top" and draws the chunk without margins: so it is meant to look.
+// Qt ignores "margin - top" and draws the chunk without margins, which is the intended appearance.
 constexpr char StyleSheet[] = "QProgressBar \n"
                               "{\n"
                               "border: 1px solid #adcdf2;   \n"

@@ -10,22 +10,22 @@
 namespace vesk
 {
 
-/// Shows a progress-bar definition; of a fixed height, and with no way back from the user.
+/// Shows a progress-bar definition. The height is fixed, and the user cannot change the value.
 class QtProgressBar final : public QProgressBar,
                             public IControl,
                             public IControlDefinitionChangeEventHandler
 {
 public:
-    /// Takes the definition over. With an empty one the bar is bare and follows nothing.
-    /// The bar has no parent until the host places it, whatever `pParent` is.
-    /// Visibility and enabled state come with the first UpdateStatus.
+    /// Takes ownership of the definition. With a null definition the bar is bare and follows
+    /// nothing. The bar has no parent until the host places it, whatever `pParent` is. Visibility
+    /// and enabled state are first applied by UpdateStatus.
     QtProgressBar(OwnerPtr<IProgressBarDefinition> pControlDefinition, QWidget* pParent);
     ~QtProgressBar() override;
 
     IControlDefinition* GetControlDefinition() const override;
     void UpdateStatus() override;
 
-    /// Takes value, text visibility, width, visibility and enabled state over; the tool tip stays.
+    /// Applies value, text visibility, width, visibility and enabled state; the tool tip stays.
     void On(IControlDefinitionChangeEventArgs* pArgs) override;
 
 private:

@@ -32,7 +32,7 @@ QtRadioButtonGroup::QtRadioButtonGroup(OwnerPtr<IRadioButtonGroupDefinition> pCo
          m_pControlDefinition->GetRadioButtonDefinitions())
     {
         AddRadioButton(pDefinition);
-        // A report may have run an event loop, and the parent takes its group along.
+        // A report may have run an event loop, and a destroyed parent destroys its group.
         if (pSelf == nullptr)
             return;
     }
@@ -75,7 +75,8 @@ void QtRadioButtonGroup::On(IControlDefinitionChangeEventArgs* pArgs)
     if (!Check(pArgs != nullptr, VESK_SITE(Function, L"pArgs为空")))
         return;
     const int type = pArgs->GetType();
-    // Without a definition there are no items: only their states are asked for, and missed.
+    // Without a definition there are no items; only a change of states still reports the missing
+    // definition.
     if (m_pControlDefinition == nullptr &&
         type != ControlDefinitionChangeEventType::PropertyChanged)
         return;
@@ -110,7 +111,7 @@ void QtRadioButtonGroup::ApplyStates()
 
     const auto apply = [this](QRadioButton& radioButton, const IRadioButtonDefinition& definition,
                               auto isAlive) {
-        // None is ever unchecked here: the group sees to it that one at most is checked.
+        // No button is unchecked here: the group ensures that at most one is checked.
         const std::wstring currentId = m_pControlDefinition->GetCurrentRadioButtonId();
         if (ToWide(radioButton.objectName()) == currentId && !radioButton.isChecked())
             radioButton.setChecked(true);
@@ -135,7 +136,7 @@ QRadioButton* QtRadioButtonGroup::AddRadioButton(const IRadioButtonDefinition* p
         !Check(pRadioButton != nullptr, VESK_SITE(Function, L"pRadioButton为空")))
         return nullptr;
 
-    // Another button outside any group is unchecked by this, and somebody may hear of that.
+    // This unchecks another button outside any group, and a handler may react to that.
     if (pDefinition->GetId() == m_pControlDefinition->GetCurrentRadioButtonId())
         pRadioButton->setChecked(true);
     if (pSelf == nullptr || pRadioButton == nullptr)

@@ -17,12 +17,12 @@ class QWidget;
 namespace vesk
 {
 
-/// Shows a radio-button group definition: a radio button for each of its items, in the items'
-/// order, of which the one that the definition names is checked.
+/// Shows a radio-button group definition: one radio button per item, in the items' order; the one
+/// the definition names is checked.
 ///
-/// The buttons are children of the parent widget, which owns them; they outlive the group. Buttons
-/// of the first items are placed by the host, later ones come into the parent's box layout next to
-/// them.
+/// The buttons are children of the parent widget, which owns them; they outlive the group. The host
+/// places the buttons of the initial items; later ones are inserted next to them in the box layout
+/// of the parent.
 class VESK_UI_QT_IMPL_API QtRadioButtonGroup : public QButtonGroup,
                                                public IControl,
                                                public IControlDefinitionChangeEventHandler
@@ -30,21 +30,21 @@ class VESK_UI_QT_IMPL_API QtRadioButtonGroup : public QButtonGroup,
     Q_OBJECT
 
 public:
-    /// Takes the definition over. Without it or without a parent the group is empty and follows
-    /// nothing.
+    /// Takes ownership of the definition. Without a definition or a parent the group is empty and
+    /// follows nothing.
     QtRadioButtonGroup(OwnerPtr<IRadioButtonGroupDefinition> pControlDefinition, QWidget* pParent);
     ~QtRadioButtonGroup() override;
 
-    /// The buttons in the order of their items. Not owned by the caller.
+    /// The buttons in the order of their items; not owned by the caller.
     std::vector<QRadioButton*> GetAllControls() const;
 
     IControlDefinition* GetControlDefinition() const override;
 
-    /// Takes visibility and enabled state of each button over; whether it is checked stays.
+    /// Applies visibility and enabled state of each button; the checked state stays.
     void UpdateStatus() override;
 
-    /// Takes a change of the items over, or the states of all buttons, each only where it differs.
-    /// Buttons of items that are gone are deleted when control returns to the event loop.
+    /// Applies a change of the items, or the states of all buttons, each only if it differs.
+    /// Buttons of removed items are deleted when control returns to the event loop.
     void On(IControlDefinitionChangeEventArgs* pArgs) override;
 
 private:

@@ -18,8 +18,8 @@ namespace vesk
 namespace
 {
 
-/// A group in `pParent`. What a group reports while it is made may run an event loop, and a parent
-/// that dies takes its group along: nothing is then left to return.
+/// Creates a group in `pParent`. What a group reports during its construction may run an event
+/// loop, and a destroyed parent destroys its group: then nothing is left to return.
 template <class Group, class Definition>
 OwnerPtr<IControl> MakeGroup(OwnerPtr<Definition> opDefinition, QWidget* pParent)
 {

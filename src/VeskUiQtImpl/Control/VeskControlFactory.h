@@ -5,10 +5,10 @@
 namespace vesk
 {
 
-/// Makes the Qt controls of the host's definitions.
+/// Creates the Qt controls for the definitions of the host.
 ///
-/// Only a null parent widget stops a creation; a definition that is missing is the control's to
-/// report.
+/// Creation is refused only for a null parent widget; a missing definition is reported by the
+/// control.
 class VeskControlFactory final : public VeskIControlFactory
 {
 public:

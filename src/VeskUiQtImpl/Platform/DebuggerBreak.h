@@ -3,8 +3,8 @@
 namespace vesk
 {
 
-/// Stops the process in the debugger that watches it; the debugger can let it go on. Without one
-/// the operating system ends the process.
+/// Stops the process in the attached debugger, which can resume it. Without a debugger the
+/// operating system terminates the process.
 void BreakIntoDebugger();
 
 }

@@ -5,22 +5,23 @@ class QWidget;
 namespace vesk
 {
 
-/// What a window had before its input method was switched off: the platform's handle, null for
-/// none.
+/// The input method context a window had before it was switched off: the handle of the platform,
+/// null for none.
 using InputContext = void*;
 
-/// Switches the input method of the main window off for as long as anybody wants it off.
+/// Switches the input method of the main window off for as long as at least one holder wants it
+/// off.
 ///
-/// The first who wants it off saves what the window had, the last one restores it; those between
-/// only count. So the order in which they come and go does not matter. GUI thread only.
+/// The first holder saves the context of the window, the last one restores it; those in between
+/// only count. So holders may come and go in any order. GUI thread only.
 class InputMethodSwitch
 {
 public:
-    /// Joins those who want it off. The result is what the first one saved.
+    /// Adds a holder. Returns what the first holder saved.
     static InputContext SwitchOff(QWidget& window);
 
-    /// Leaves them. The last one gives `pWindow` back what was saved; without a window (null) that
-    /// is lost. Each SwitchOff is answered by one SwitchOn.
+    /// Removes a holder. The last one gives the saved context back to `pWindow`; without a window
+    /// (null) the context is lost. Each SwitchOff needs exactly one SwitchOn.
     static void SwitchOn(QWidget* pWindow);
 
 private:

@@ -9,7 +9,7 @@ namespace vesk
 namespace
 {
 
-/// Stands for "the window took input methods"; only its address matters.
+/// Represents "the window accepted input methods"; only its address matters.
 char s_enabled = 0;
 
 void SetInputMethodEnabled(QWidget& window, bool isEnabled)

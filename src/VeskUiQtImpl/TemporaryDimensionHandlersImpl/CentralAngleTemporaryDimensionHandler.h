@@ -5,7 +5,8 @@
 namespace vesk
 {
 
-/// Shows the radius and the central angle of an arc while its end is chosen, and takes the angle.
+/// Shows the radius and the central angle of an arc while its end is chosen, and accepts a typed
+/// angle.
 class CentralAngleTemporaryDimensionHandler final : public TemporaryDimensionHandler
 {
     Q_OBJECT

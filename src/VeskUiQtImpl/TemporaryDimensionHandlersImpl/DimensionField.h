@@ -8,30 +8,31 @@
 namespace vesk
 {
 
-/// Which of a handler's two values: it decides validator and decimals.
+/// Which of the two values of a handler: it selects validator and decimals.
 enum class ValueSlot
 {
     First,
     Second,
 };
 
-/// What a field shows, and whether that is selected, so that the next key replaces it. Every field
-/// shows the given text when told to, else its current value.
+/// What a field shows, and whether the text is selected so that the next key replaces it. A field
+/// shows the given text when requested, otherwise its current value.
 enum class FieldRule
 {
-    /// In an editor just fetched, the given text in any case, and nothing selected: the caret
-    /// follows the character that opened it. In one that is open, all is selected.
+    /// An editor that is just being opened always shows the given text with nothing selected, and
+    /// the caret follows the character that opened it. In one that is already open, all is
+    /// selected.
     OpenedByKey,
 
-    /// All is selected where Tab leads from field to field.
+    /// All is selected if Tab leads from field to field.
     ReachedByTab,
 
-    /// All is selected in an editor that is open.
+    /// All is selected if the editor is already open.
     StandsAlone,
 };
 
-/// One value that a kind of handler takes: how it is judged and shown, under which codes it is
-/// delivered, and which field Tab leads to. Kinds without Tab leave the last two out.
+/// One value that a kind of handler accepts: how it is validated and shown, the codes under which
+/// it is delivered, and which field Tab leads to. Kinds without Tab leave the last two out.
 struct DimensionField
 {
     InputState state = InputState::IS_None;
@@ -42,11 +43,11 @@ struct DimensionField
     InputState next = InputState::IS_None;
 };
 
-/// What is asked of a field when it is shown.
+/// How a field is to be shown.
 struct FieldRequest
 {
     InputState state;
-    bool editorReady;  ///< The editor is open already.
+    bool editorReady;  ///< The editor is already open.
     bool useGivenText; ///< Instead of the current value.
     std::wstring text;
 };

@@ -63,7 +63,7 @@ bool IsTakenFromView(int virtualKey, OpeningKeys keys)
 {
     if (IsDigitKey(virtualKey) || IsKeypadDigitKey(virtualKey))
         return true;
-    // The characters themselves are no codes of the view.
+    // The character codes themselves are not key codes of the view.
     if (virtualKey == VirtualKey::Minus || virtualKey == VirtualKey::KeypadMinus)
         return HasMinus(keys);
     if (virtualKey == VirtualKey::Comma)

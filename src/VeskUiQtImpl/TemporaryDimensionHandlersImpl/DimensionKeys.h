@@ -21,7 +21,7 @@ constexpr int Minus = 189;
 
 }
 
-/// Which keys open a kind's editor; each set holds the one before.
+/// Which keys open the editor of a kind; each set includes the one before.
 enum class OpeningKeys
 {
     Digits,
@@ -37,19 +37,19 @@ bool IsDigitKey(int key);
 bool IsKeypadDigitKey(int key);
 bool IsLetterKey(int key);
 
-/// The minus of the keyboard, of the keypad, and the character itself.
+/// The minus of the main keyboard or the keypad, or the character itself.
 bool IsMinusKey(int key);
 
-/// The comma of the keyboard and the character itself.
+/// The comma of the main keyboard, or the character itself.
 bool IsCommaKey(int key);
 
-/// The text with which a key opens the editor; none when it does not open it.
+/// The initial text when a key opens the editor; empty optional if the key does not open it.
 std::optional<QString> OpeningText(const QKeyEvent& event, OpeningKeys keys);
 
-/// Whether a key that came in the view is one for the handler.
+/// Whether the handler wants a key pressed in the view.
 bool IsTakenFromView(int virtualKey, OpeningKeys keys);
 
-/// The text of a key that came in the view, letters in lower case; empty for the comma.
+/// The text of a key pressed in the view, letters in lower case; empty for the comma.
 QString TextOf(int virtualKey);
 
 /// The Qt modifiers for the host's three flags.

@@ -8,30 +8,30 @@
 namespace vesk
 {
 
-/// What tells one kind of handler from another; it begins with what most kinds have in common.
+/// What distinguishes the kinds of handlers; the defaults are what most kinds share.
 struct DimensionKind
 {
-    /// Kinds that take one value leave the second out.
+    /// Kinds with a single value leave the second out.
     std::array<DimensionField, 2> fields;
 
     /// The field that the first typed character opens.
     InputState start = InputState::IS_None;
 
-    /// What is reported when a value is to be taken in a state that is none of the fields'.
+    /// Reported when a value is committed in a state that matches no field.
     const wchar_t* wrongState = nullptr;
 
     OpeningKeys openingKeys = OpeningKeys::Digits;
-    bool hasKeyText = false;      ///< Keys of the view become key presses with their text.
-    bool needsNumber = true;      ///< Else a text that is no number counts as 0.
-    bool commitsWithSpace = true; ///< As with Return.
-    bool switchesWithTab = false; ///< Else Tab is the editor's own.
-    bool handsEscapeOn = true;    ///< To the view, after the input has ended.
+    bool hasKeyText = false;      ///< Key presses made from keys of the view carry their text.
+    bool needsNumber = true;      ///< Otherwise a text that is not a number counts as 0.
+    bool commitsWithSpace = true; ///< Like Return.
+    bool switchesWithTab = false; ///< Otherwise the editor handles Tab itself.
+    bool handsEscapeOn = true;    ///< Passed to the view after the input has ended.
 };
 
-/// The field of a state, null when the kind has none.
+/// The field of a state; null if the kind has none.
 const DimensionField* FindField(const DimensionKind& kind, InputState state);
 
-/// The field that a key opens and what it shows; none when the key opens nothing.
+/// The field that a key opens and what it shows; empty optional if the key opens nothing.
 std::optional<FieldRequest> FindOpening(const DimensionKind& kind, const QKeyEvent& event);
 
 }

@@ -5,7 +5,8 @@
 namespace vesk
 {
 
-/// Shows the length and the angle of a segment while it is drawn, and takes either.
+/// Shows the length and the angle of a segment while it is drawn, and accepts either as a typed
+/// value.
 class LinearTemporaryDimensionHandler final : public TemporaryDimensionHandler
 {
     Q_OBJECT

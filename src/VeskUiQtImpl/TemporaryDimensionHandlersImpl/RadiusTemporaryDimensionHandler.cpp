@@ -27,7 +27,7 @@ DimensionKind MakeKind(bool isCentralAngleShown)
     return kind;
 }
 
-/// Adds a radius line; false, with a warning, when there is none.
+/// Adds a radius line; returns false, with a warning, if it cannot be created.
 bool AddLine(IGraphicsNodeGroup& group, const Vector3d& start, const Vector3d& end)
 {
     OwnerPtr<IGraphicsLine> opLine = IGraphicsLine::Create(start, end, GraphicsRole::Dimension);
@@ -37,8 +37,8 @@ bool AddLine(IGraphicsNodeGroup& group, const Vector3d& start, const Vector3d& e
     return true;
 }
 
-/// Whether an arc leads through the points: no two are one point, and they are not on one line, on
-/// which there is no centre and so no angle about it.
+/// Whether an arc passes through the points: no two coincide, and they are not collinear. Collinear
+/// points have no centre and so no angle about it.
 bool HasCentre(const Vector3d& first, const Vector3d& second, const Vector3d& third)
 {
     if (Vector3dUtils::IsEqual(first, second, Constants::DOUBLE_EPS) ||
@@ -115,7 +115,7 @@ DimensionKind RadiusTemporaryDimensionHandler::GetKind() const
     return MakeKind(m_isCentralAngleShown);
 }
 
-/// The two radius lines, and the angle where there is one.
+/// The two radius lines, and the angle if there is one.
 void RadiusTemporaryDimensionHandler::DrawCentralAngle(
     const RadiusTemporaryDimensionContext& context, Drawing& drawing)
 {

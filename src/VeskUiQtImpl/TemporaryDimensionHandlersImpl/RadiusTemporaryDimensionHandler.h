@@ -7,7 +7,7 @@ namespace vesk
 
 class RadiusTemporaryDimensionContext;
 
-/// Shows the radius of an arc through three points while it is drawn, and takes it.
+/// Shows the radius of an arc through three points while it is drawn, and accepts a typed radius.
 class RadiusTemporaryDimensionHandler final : public TemporaryDimensionHandler
 {
     Q_OBJECT

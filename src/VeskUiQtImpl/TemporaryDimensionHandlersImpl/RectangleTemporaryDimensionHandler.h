@@ -5,7 +5,8 @@
 namespace vesk
 {
 
-/// Shows the width and the height of a rectangle while it is drawn, and takes either.
+/// Shows the width and the height of a rectangle while it is drawn, and accepts either as a typed
+/// value.
 class RectangleTemporaryDimensionHandler final : public TemporaryDimensionHandler
 {
     Q_OBJECT

@@ -5,7 +5,7 @@
 namespace vesk
 {
 
-/// Shows the angle of a turn about a centre while it is made, and takes it.
+/// Shows the angle of a rotation about a centre while the user rotates, and accepts a typed angle.
 class RotationTemporaryDimensionHandler final : public TemporaryDimensionHandler
 {
     Q_OBJECT

@@ -5,7 +5,7 @@
 namespace vesk
 {
 
-/// The line edit in which a dimension is typed; all handlers of a view share one.
+/// The line edit in which a dimension is typed; all handlers of a view share it.
 class TemporaryDimensionHandleEditor final : public QLineEdit
 {
     Q_OBJECT

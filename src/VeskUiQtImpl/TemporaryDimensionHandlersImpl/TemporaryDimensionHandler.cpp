@@ -24,7 +24,7 @@ constexpr double MaxAngle = 180.0;
 constexpr int ValueDecimals = 3;
 constexpr int DimensionEditorKind = 3;
 
-/// Parks the editor of an embedded view far off screen: it keeps the focus and is not seen.
+/// Moves the editor of an embedded view far off screen: it keeps the focus but is not visible.
 constexpr int EmbeddedViewOffset = 10000;
 
 constexpr char EditorStyleSheet[] =
@@ -32,8 +32,8 @@ constexpr char EditorStyleSheet[] =
     "font:10pt; border-radius:4px}QLineEdit:!enabled{ color:rgba(100, 100, 100, "
     "100%);}QLineEdit:focus{ color:rgba(0, 0, 0, 100%); background:rgba(255, 255, 255, 100%);}";
 
-/// The main window's widget; null without one, which the caller's name warns of where the host is
-/// missing something.
+/// The main window's widget; null if there is none. Warns in the name of `function` if the host has
+/// no user-interface manager or no main window.
 QWidget* FindMainWindow(const char* function)
 {
     const IUiManager* pUiManager = IUiManager::Get();
@@ -46,8 +46,8 @@ QWidget* FindMainWindow(const char* function)
     return pWidget != nullptr && pWidget->winId() != 0 ? pWidget : nullptr;
 }
 
-/// The editor's style is its child, made once: the widget itself never owns a style. Null where the
-/// platform has no such style, and the editor then keeps the application's.
+/// The editor's style is its child, created once, since the widget itself never owns a style. Null
+/// if the platform has no such style; the editor then keeps the application's.
 QStyle* FindOrCreateStyle(QWidget& editor)
 {
     auto* pStyle = editor.findChild<QStyle*>(QString(), Qt::FindDirectChildrenOnly);
@@ -91,7 +91,7 @@ void TemporaryDimensionHandler::EndInput()
     TemporaryDimensionHandleEditor* pEditor = m_pEditor;
     if (pEditor == nullptr)
         return;
-    // The focus moves in these calls, and who hears of that may drop the handler.
+    // These calls move the focus, and handlers of that may destroy the handler.
     pEditor->clearFocus();
     pEditor->hide();
 }
@@ -197,7 +197,7 @@ void TemporaryDimensionHandler::EnableIme()
     InputMethodSwitch::SwitchOn(pMainWindow);
 }
 
-/// Takes the current view's id; the view worked in stays while there is none.
+/// Switches to the current view's id; keeps the previous view if there is none.
 void TemporaryDimensionHandler::RefreshViewId()
 {
     const IUiView* pView = FindCurrentView();
@@ -205,7 +205,7 @@ void TemporaryDimensionHandler::RefreshViewId()
         m_viewId = pView->GetId();
 }
 
-/// Successive handlers of a view share the editor that the first of them made there.
+/// Successive handlers of a view share the editor that the first of them created there.
 bool TemporaryDimensionHandler::FindOrCreateEditor(QWidget* pViewWidget)
 {
     constexpr char Function[] = "vesk::TemporaryDimensionHandler::CreateEditorWidget";
@@ -225,7 +225,7 @@ bool TemporaryDimensionHandler::FindOrCreateEditor(QWidget* pViewWidget)
     return true;
 }
 
-/// False when the handler or the editor died of it.
+/// Returns false if this destroyed the handler or the editor.
 bool TemporaryDimensionHandler::ActivateEditor(QWidget* pViewWidget)
 {
     const QPointer<TemporaryDimensionHandler> pSelf(this);

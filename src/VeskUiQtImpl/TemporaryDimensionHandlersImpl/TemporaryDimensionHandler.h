@@ -25,11 +25,11 @@ namespace vesk
 
 class IUiView;
 
-/// The common part of the handlers: the editor over the view, its look and place, the validators,
-/// and how a typed value is judged and delivered. The widget itself is never shown.
+/// The common part of the handlers: the editor over the view, its style and position, the
+/// validators, and how a typed value is validated and delivered. The widget itself is never shown.
 ///
-/// Telling the host of a key or a value may end the action, and with it the handler: whoever
-/// continues afterwards asks first whether it still lives.
+/// Notifying the host of a key or a value may end the action and destroy the handler: code that
+/// continues afterwards first checks whether the handler is still alive.
 class TemporaryDimensionHandler : public QWidget, public ITemporaryDimensionHandler
 {
     Q_OBJECT
@@ -37,8 +37,8 @@ class TemporaryDimensionHandler : public QWidget, public ITemporaryDimensionHand
     Q_PROPERTY(int inputState READ GetInputState)
 
 public:
-    /// Works in `pView`, which is not null and not kept. The main window's input method is off
-    /// while any handler lives.
+    /// Works in `pView`, which must not be null; the pointer is not kept. The main window's input
+    /// method is off while any handler exists.
     explicit TemporaryDimensionHandler(IUiView* pView);
     ~TemporaryDimensionHandler() override;
 
@@ -46,75 +46,74 @@ public:
     bool HasEditorFocus() override;
     void EndInput() override;
 
-    /// Takes the bounds of both values over.
+    /// Applies the bounds of both values.
     bool UpdateConfig(const ITemporaryDimensionContext* pContext) override;
 
-    /// Whether the text itself is delivered, whatever it says, instead of a number that was judged.
+    /// Whether the text itself is delivered, whatever it says, instead of a validated number.
     virtual bool IsRawTextInput() const;
     virtual void SetRawTextInput(bool isRawTextInput);
 
-    /// Opens the editor on a field. Without `editorReady` it is made or found first; the text is
-    /// `text`, or the current value where the field's rule allows.
+    /// Opens the editor on a field. Without `editorReady` the editor is first found or created; it
+    /// shows `text`, or the current value if the field's rule allows that.
     virtual void ShowInputWidget(InputState state, bool editorReady, bool useGivenText,
                                  std::wstring text) = 0;
 
-    /// Finds the view's editor, or makes it, and takes it over. Warns and keeps what there is when
-    /// the view has no widget.
+    /// Finds or creates the editor of the view and makes it this handler's. Warns and keeps the
+    /// current editor if the view has no widget.
     void CreateEditorWidget();
 
-    /// Centres the editor on a world point; nothing happens without an editor.
+    /// Centres the editor on a world point; does nothing without an editor.
     void SetEditorPosition(const Vector3d& world);
 
-    /// Places the editor where the text of the value being typed stands; without one the input
-    /// ends.
+    /// Moves the editor to the text of the value being typed; ends the input if none is.
     Q_INVOKABLE void ResetEditorPosition();
 
-    /// Switches the main window's input method off and, when no handler wants it off any more, on.
+    /// Switches the main window's input method off, and on again once no handler wants it off.
     void DisableIme();
     void EnableIme();
 
 protected:
-    /// What a kind draws into.
+    /// What a kind of handler draws into.
     struct Drawing
     {
         OwnerPtr<IGraphicsNodeGroup> opGroup;
-        std::optional<double> pixel; ///< World width of a pixel; empty when nothing can be drawn.
+        std::optional<double> pixel; ///< World width of a pixel; empty if nothing can be drawn.
     };
 
-    /// How a kind answers the keys of its editor.
+    /// How a kind of handler responds to the keys of its editor.
     struct EditorRules
     {
         DimensionKind kind;
-        const char* function;        ///< Who warns.
-        std::function<void()> onTab; ///< Left out by kinds that do not switch.
+        const char* function;        ///< Name used in warnings.
+        std::function<void()> onTab; ///< Empty for kinds without Tab switching.
     };
 
-    /// An empty group that no view picks.
+    /// An empty group that cannot be picked in a view.
     static OwnerPtr<IGraphicsNodeGroup> CreateGroup();
 
-    /// Makes what a kind draws into. In the name of `function` it warns when there is no context
-    /// (then there is no group either), when it is another kind's (`wrongContext`), and when the
-    /// view cannot be drawn in.
+    /// Creates what a kind draws into. Warns in the name of `function` if there is no context (then
+    /// there is no group either), if the context belongs to another kind (`wrongContext`), and if
+    /// the view cannot be drawn in.
     Drawing BeginDrawing(const ITemporaryDimensionContext* pContext, bool isOwnContext,
                          const char* function, const wchar_t* wrongContext) const;
 
-    /// Opens the editor on a field of the kind. Any other state is warned of.
+    /// Opens the editor on a field of the kind. Warns for any other state.
     void ShowField(const DimensionKind& kind, const char* function, const FieldRequest& request);
 
-    /// Has an event open the editor if it is a key of the kind. The rest is a plain object's: a
-    /// widget would call every key press consumed.
+    /// Opens the editor if the event is a key that does so for this kind. Everything else is
+    /// handled as by a plain QObject: a widget would report every key press as consumed.
     bool HandleEvent(QEvent* pEvent, const DimensionKind& kind, const char* function);
 
-    /// Sends a key of the view to `event` as a key press if the kind takes it.
+    /// Sends a key of the view to `event` as a key press if the kind accepts it.
     bool SendViewKey(const DimensionKind& kind, int virtualKey, Qt::KeyboardModifiers modifiers);
 
     bool FilterEditorEvent(QObject* pWatched, QEvent* pEvent, const EditorRules& rules);
 
-    /// Takes the typed value: the input ends and the value is delivered. One that is refused stays
+    /// Commits the typed value: the input ends and the value is delivered. A rejected value stays
     /// in the editor, selected.
     void CommitValue(const DimensionKind& kind, const char* function);
 
-    /// Takes the typed value in the same way, but goes on with the next field.
+    /// Commits the typed value in the same way, but continues with the next field.
     void CommitValueAndSwitch(const DimensionKind& kind, const char* function);
 
     std::uint32_t m_viewId;
@@ -124,13 +123,13 @@ protected:
     NumberValidator<double> m_secondValueValidator;
     OwnerPtr<LineEditValidateHelper> m_opValidateHelper;
 
-    /// IS_None exactly when no value is being typed; the editor shows only while it is another.
+    /// IS_None exactly when no value is being typed; the editor is visible only in other states.
     InputState m_InputState = InputState::IS_None;
     TemporaryDimensionData m_data;
     TemporaryDimensionStyle m_style;
 
 private:
-    /// A value that was taken, and the field in which it stood.
+    /// A value that is being committed, and its field.
     struct TakenValue
     {
         DimensionField field;
@@ -157,7 +156,7 @@ private:
     bool IsAccepted(double value, bool isNumber, const DimensionField& field);
     const NumberValidator<double>& ValidatorOf(const DimensionField& field) const;
 
-    /// What the main window had; empty when this handler switched nothing off.
+    /// What the main window had; empty if this handler switched nothing off.
     std::optional<InputContext> m_savedInputContext;
 };
 

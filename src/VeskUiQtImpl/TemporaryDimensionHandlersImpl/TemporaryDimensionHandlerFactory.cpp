@@ -45,7 +45,7 @@ HandlerKind KindOf()
     return {typeid(Context), typeid(Handler), &CreateHandler<Handler>};
 }
 
-/// The kind for exactly this class of context; null when there is none.
+/// The kind for exactly this class of context; null if there is none.
 const HandlerKind* FindKind(const ITemporaryDimensionContext& context)
 {
     static const std::array kinds{
@@ -62,7 +62,7 @@ const HandlerKind* FindKind(const ITemporaryDimensionContext& context)
     return found != kinds.end() ? &*found : nullptr;
 }
 
-/// The name as the compiler gives it, which holds the class name and is plain ASCII.
+/// The name as the compiler gives it: it contains the class name and is plain ASCII.
 std::wstring TypeName(const ITemporaryDimensionContext& context)
 {
     const char* name = typeid(context).name();

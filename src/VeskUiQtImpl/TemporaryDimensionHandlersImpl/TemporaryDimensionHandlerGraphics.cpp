@@ -30,7 +30,7 @@ TemporaryDimensionHandler::BeginDrawing(const ITemporaryDimensionContext* pConte
     return drawing;
 }
 
-/// The view when it can be drawn in; else null, with a warning in the name of `function`.
+/// The view if it can be drawn in; otherwise null, with a warning in the name of `function`.
 IUiView* TemporaryDimensionHandler::FindDrawableView(const char* function) const
 {
     IUiView* pView = FindView();

@@ -11,7 +11,7 @@ namespace vesk
 namespace
 {
 
-/// Without a view there is nobody to deliver to.
+/// Without a view nothing is delivered.
 void Deliver(std::uint32_t viewId, const ActionViewInput& record)
 {
     if (IUiView* pView = FindViewById(viewId))
@@ -20,13 +20,13 @@ void Deliver(std::uint32_t viewId, const ActionViewInput& record)
 
 }
 
-/// The view the handler works in; null when it is gone.
+/// The view the handler works in; null if it no longer exists.
 IUiView* TemporaryDimensionHandler::FindView() const
 {
     return FindViewById(m_viewId);
 }
 
-/// Has the host make the dimensions of the handler's view anew.
+/// Has the host regenerate the dimensions of the handler's view.
 void TemporaryDimensionHandler::RefreshView()
 {
     if (IUiView* pView = FindView())
@@ -49,8 +49,8 @@ void TemporaryDimensionHandler::ShowField(const DimensionKind& kind, const char*
     ShowEditor(isGivenText ? ToQString(request.text) : FormatValue(*pField), isSelected);
 }
 
-/// Enters a state; without `editorReady` the editor is fetched. False when there is no editor, and
-/// no input then runs, or when the host ended the input as the focus moved.
+/// Enters a state; without `editorReady` the editor is found or created. Returns false if there is
+/// no editor, and no input runs then, or if the host ended the input while the focus moved.
 bool TemporaryDimensionHandler::BeginInput(InputState state, bool editorReady)
 {
     const QPointer<TemporaryDimensionHandler> pSelf(this);
@@ -64,7 +64,7 @@ bool TemporaryDimensionHandler::BeginInput(InputState state, bool editorReady)
     return pSelf != nullptr && m_InputState == state;
 }
 
-/// The current value of a field, as its dimension shows it.
+/// The current value of a field, formatted as its dimension shows it.
 QString TemporaryDimensionHandler::FormatValue(const DimensionField& field) const
 {
     const int decimals = field.slot == ValueSlot::First ? m_style.GetFirstValueDecimals()
@@ -72,7 +72,7 @@ QString TemporaryDimensionHandler::FormatValue(const DimensionField& field) cons
     return QString::number(m_data[field.state].value, 'f', decimals);
 }
 
-/// Shows the editor with a text at its field.
+/// Shows the editor with a text at the position of its field.
 void TemporaryDimensionHandler::ShowEditor(const QString& text, bool isSelected)
 {
     const QPointer<TemporaryDimensionHandler> pSelf(this);
@@ -88,7 +88,7 @@ void TemporaryDimensionHandler::ShowEditor(const QString& text, bool isSelected)
     if (pSelf == nullptr)
         return;
     SetEditorPosition(anchor);
-    // A report of a view without a widget may have run an event loop.
+    // The report for a view without a widget may have run an event loop.
     if (pSelf != nullptr)
         RefreshView();
 }
@@ -116,7 +116,8 @@ void TemporaryDimensionHandler::CommitValueAndSwitch(const DimensionKind& kind,
     taken->record.kind = taken->field.tabKind;
     const QPointer<TemporaryDimensionHandler> pSelf(this);
     Deliver(m_viewId, taken->record);
-    // The action may have ended the input, and the handler may only still be on the stack.
+    // The action may have ended the input, and the handler may exist only because it is still on
+    // the stack.
     if (pSelf == nullptr || !IsInputting())
         return;
     if (m_opValidateHelper != nullptr && m_pEditor != nullptr)
@@ -124,8 +125,8 @@ void TemporaryDimensionHandler::CommitValueAndSwitch(const DimensionKind& kind,
     ShowInputWidget(taken->field.next, true, false, L"");
 }
 
-/// Reads and judges the editor; nothing when no value is being typed, or a wrong one. In raw-text
-/// mode every text is right, and the live validation ends with it.
+/// Reads and validates the text of the editor; empty if no value is being typed, or an invalid one.
+/// In raw-text mode every text is valid, and the live validation ends with it.
 std::optional<TemporaryDimensionHandler::TakenValue>
 TemporaryDimensionHandler::TakeValue(const DimensionKind& kind, const char* function)
 {
@@ -151,7 +152,7 @@ TemporaryDimensionHandler::TakeValue(const DimensionKind& kind, const char* func
     return taken;
 }
 
-/// Judges a value. One that is refused stays in the editor, selected.
+/// Validates a value. A rejected one stays in the editor, selected.
 bool TemporaryDimensionHandler::IsAccepted(double value, bool isNumber, const DimensionField& field)
 {
     const NumberValidator<double>& validator = ValidatorOf(field);

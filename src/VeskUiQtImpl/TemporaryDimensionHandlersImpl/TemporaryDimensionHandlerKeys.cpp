@@ -23,7 +23,7 @@ bool TemporaryDimensionHandler::HandleEvent(QEvent* pEvent, const DimensionKind&
     ShowInputWidget(opening->state, opening->editorReady, opening->useGivenText, opening->text);
     if (!IsMinusKey(pKeyEvent->key()))
         return true;
-    // A minus opens the editor too and yet is not consumed.
+    // A minus also opens the editor but is not consumed.
     return pSelf != nullptr && PassKeyOn(pEvent);
 }
 
@@ -37,7 +37,7 @@ bool TemporaryDimensionHandler::SendViewKey(const DimensionKind& kind, int virtu
     return event(&keyEvent);
 }
 
-/// A key that opens nothing: the host refreshes, the rest is a plain object's.
+/// For a key that opens nothing: the host refreshes, the rest is as for a plain QObject.
 bool TemporaryDimensionHandler::PassKeyOn(QEvent* pEvent)
 {
     const QPointer<TemporaryDimensionHandler> pSelf(this);
@@ -47,10 +47,10 @@ bool TemporaryDimensionHandler::PassKeyOn(QEvent* pEvent)
 
 bool TemporaryDimensionHandler::HandleAsPlainObject(QEvent* pEvent)
 {
-    return QObject::event(pEvent); // NOLINT(bugprone-parent-virtual-call): the widget is left out
+    return QObject::event(pEvent); // NOLINT(bugprone-parent-virtual-call): skips QWidget on purpose
 }
 
-/// Answers true for an editor that died: Qt would deliver the event to it otherwise.
+/// Returns true for an editor that was destroyed: otherwise Qt would deliver the event to it.
 bool TemporaryDimensionHandler::FilterEditorEvent(QObject* pWatched, QEvent* pEvent,
                                                   const EditorRules& rules)
 {

@@ -3,7 +3,8 @@
 namespace vesk::test
 {
 
-/// Counts the breaks into a debugger, while it lives, instead of ending the process. One at a time.
+/// Counts breaks into the debugger during its lifetime, instead of ending the process. Only one at
+/// a time.
 class BreakCounter
 {
 public:
@@ -15,10 +16,10 @@ public:
     int GetCount() const;
 };
 
-/// The exit code of a process that broke without a debugger, as QProcess tells it.
+/// The exit code of a process that broke without a debugger, as QProcess reports it.
 int GetExitCodeOfBreak();
 
-/// Has a break without a debugger end this process without anybody being asked.
+/// Makes a break without a debugger end this process without any prompt.
 void EndQuietlyAtBreak();
 
 }

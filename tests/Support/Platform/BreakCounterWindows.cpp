@@ -10,7 +10,7 @@ namespace
 int s_count = 0;
 void* s_pHandler = nullptr;
 
-/// Goes on behind the one byte of the break.
+/// Continues after the one byte of the break.
 LONG CALLBACK CountBreak(EXCEPTION_POINTERS* pException)
 {
     if (pException->ExceptionRecord->ExceptionCode != EXCEPTION_BREAKPOINT)

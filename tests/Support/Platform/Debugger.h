@@ -6,11 +6,10 @@
 namespace vesk::test
 {
 
-/// Runs a program in a debugger that lets it go on after each break.
+/// Runs a program in a debugger that resumes it after each break.
 ///
-/// The result is what happened, in order: "break", each line of the program that begins with
-/// `mark`, "exit" for one with success. Nothing more comes once it keeps the debugger waiting for
-/// a minute.
+/// The result is what happened, in order: "break", each line of output that begins with `mark`, and
+/// "exit" for a successful exit. It ends once the program keeps the debugger waiting for a minute.
 QStringList RunInDebugger(const QString& program, const QStringList& arguments,
                           const QByteArray& mark);
 

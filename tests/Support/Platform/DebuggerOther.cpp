@@ -14,7 +14,7 @@ QStringList RunInDebugger(const QString& program, const QStringList& arguments,
         return {"gdb is missing; scripts/setup installs it"};
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    // Leaks cannot be looked for in a process that a debugger watches.
+    // Leak detection does not work in a process that is being debugged.
     environment.insert("ASAN_OPTIONS", "detect_leaks=0");
     process.setProcessEnvironment(environment);
     process.start(gdb,

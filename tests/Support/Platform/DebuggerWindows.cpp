@@ -10,7 +10,7 @@ namespace vesk::test
 namespace
 {
 
-/// A program that this process debugs, and what it writes.
+/// A program that this process debugs, and its output.
 class DebuggedProcess
 {
 public:
@@ -35,7 +35,7 @@ public:
     DebuggedProcess(const DebuggedProcess&) = delete;
     DebuggedProcess& operator=(const DebuggedProcess&) = delete;
 
-    /// Waits for the next event and lets the process go on; false when there is none any more.
+    /// Waits for the next event and resumes the process; false once there are no more events.
     bool HandleEvent()
     {
         constexpr DWORD patience = 60000;
@@ -91,7 +91,7 @@ private:
             return true;
         if (event.u.Exception.ExceptionRecord.ExceptionCode != EXCEPTION_BREAKPOINT)
             return false;
-        // The first one is the system's, before the program begins.
+        // The first break is the system's, before the program starts.
         if (m_hasBegun)
             m_events << "break";
         m_hasBegun = true;

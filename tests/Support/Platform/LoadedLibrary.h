@@ -5,7 +5,7 @@
 namespace vesk::test
 {
 
-/// A library, loaded as a host loads it; unloaded at the end.
+/// A library, loaded as a host loads it and unloaded by the destructor.
 class LoadedLibrary
 {
 public:
@@ -16,7 +16,7 @@ public:
 
     bool IsLoaded() const { return m_pHandle != nullptr; }
 
-    /// Why it could not be loaded; empty when it was.
+    /// Why it could not be loaded; empty if it was.
     QString GetError() const { return m_error; }
 
     void Unload();

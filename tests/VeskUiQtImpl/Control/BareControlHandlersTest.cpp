@@ -50,7 +50,7 @@ VESK_EXPOSE(CreateRadio, MakeButton, QtRadioButtonGroup, CreateControl)
 namespace
 {
 
-/// Calls a handler as Qt or the control itself would, but for a control that has no definition.
+/// Calls a handler as Qt or the control itself would, on a control without a definition.
 using Call = void (*)(QWidget& parent);
 
 template <class Control, class Tag, class... Args>
@@ -60,7 +60,7 @@ auto CallBare(QWidget& parent, Args... args)
     return (control.*MemberOf(Tag()))(args...);
 }
 
-/// Makes a button for an item in a group that has a definition and, if so told, a parent.
+/// Creates a button for an item in a group that has a definition and, if given, a parent.
 template <class Group, class Definition, class Item, class Tag>
 void MakeFor(QWidget* pParent, const Item* pItem)
 {
@@ -121,8 +121,8 @@ Q_DECLARE_METATYPE(vesk::test::Call)
 namespace vesk::test
 {
 
-/// The handlers of a control check what they need, whoever calls them, and report it in their own
-/// names.
+/// The handlers of a control check what they need, whoever calls them, and report failures under
+/// their own names.
 class BareControlHandlersTest : public QObject
 {
     Q_OBJECT
@@ -249,7 +249,7 @@ void BareControlHandlersTest::groupReportsWhatItNeedsForAButton()
         taken << QString::fromStdString(warning.function) + ": " +
                      QString::fromStdWString(warning.message);
     }
-    // A group without a parent has reported that first, when it was made.
+    // A group without a parent already reported that in its constructor.
     taken.removeOne(taken.filter("或").value(0));
     QCOMPARE(taken, reports);
 }

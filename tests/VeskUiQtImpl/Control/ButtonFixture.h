@@ -33,7 +33,7 @@ struct ButtonFixture
     OwnerPtr<QtButton> opButton;
 };
 
-/// Writes an icon that is nothing but one colour, and returns its path.
+/// Writes an icon of a single colour and returns its path.
 inline QString WriteIcon(const QTemporaryDir& folder, const QString& name, const QColor& color)
 {
     QPixmap pixmap(16, 16);

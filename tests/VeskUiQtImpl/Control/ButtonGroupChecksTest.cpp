@@ -16,7 +16,7 @@ namespace
 constexpr char Add[] = "OnControlDefinitionChangeEventTypeAdd";
 constexpr char Insert[] = "OnControlDefinitionChangeEventTypeInsert";
 
-/// What is called differently by the two kinds of groups.
+/// Names that differ between the two kinds of groups.
 struct Words
 {
     QString append;
@@ -33,7 +33,7 @@ const Words RadioButtonWords{"AddRadioButton", "pRadioButton为空", "pRadioCont
                              "radioButtonGroupDefinition[i] && radioButtonControls[i]为空",
                              "radioButtonDefines[i] && radioButtonControls[i]为空"};
 
-/// Lets a group lose its first button from its list.
+/// Removes the first button of a group from its list.
 void ForgetFirstButton(GroupFixture& f)
 {
     if (auto* pBoxes = qobject_cast<QtCheckBoxGroup*>(&f.GetGroup()))
@@ -50,7 +50,7 @@ const Words& WordsOf(GroupFixture& f)
 
 }
 
-/// In which order both kinds of groups check what they need, and what they leave alone.
+/// The order in which both kinds of groups check what they need, and what they leave unchanged.
 class ButtonGroupChecksTest : public QObject
 {
     Q_OBJECT
@@ -261,7 +261,7 @@ void ButtonGroupChecksTest::missingButtonIsReportedTwiceByAnInsertion()
     QVERIFY(f->host.warnings.IsEmpty());
     QCOMPARE(f->GetPlacedNames(), QStringList({"head", "a", "x", "b", "tail"}));
     QCOMPARE(f->GetControls().size(), 3);
-    // The button that is missing in the list is still in the group, with -2.
+    // The button missing from the list is still in the group, with id -2.
     QCOMPARE(f->GetGroup().id(f->GetControls()[1]), -3);
     QCOMPARE(f->GetGroup().id(f->GetControls()[2]), -4);
 }

@@ -11,7 +11,7 @@
 namespace vesk::test
 {
 
-/// A check state that was written, and in whose name.
+/// A check state that was written, and on whose behalf.
 struct CheckStateWrite
 {
     std::wstring id;
@@ -29,7 +29,7 @@ inline char* toString(const CheckStateWrite& write)
     return ShowFields(write.id, write.checkState, write.isByUser);
 }
 
-/// A current button that was written, in whose name, and whether the host's flag was set.
+/// A current button that was written, on whose behalf, and whether the flag of the host was set.
 struct CurrentIdWrite
 {
     std::wstring id;
@@ -47,7 +47,7 @@ inline char* toString(const CurrentIdWrite& write)
     return ShowFields(write.id, write.isByUser, write.isFlagSet);
 }
 
-/// Definitions of the host that note who writes.
+/// Definitions of the host that record who writes.
 struct NotingCheckBoxGroupDefinition : CheckBoxGroupDefinition
 {
     using CheckBoxGroupDefinition::CheckBoxGroupDefinition;
@@ -76,7 +76,7 @@ struct NotingRadioButtonGroupDefinition : RadioButtonGroupDefinition
     std::vector<CurrentIdWrite> writes;
 };
 
-/// Definitions that hold and raise whatever a test wants, right or wrong.
+/// Definitions that hold and raise whatever a test wants, valid or not.
 struct LooseCheckBoxGroupDefinition final : ControlDefinition<ICheckBoxGroupDefinition>
 {
     LooseCheckBoxGroupDefinition() : ControlDefinition(L"Group.Id") {}

@@ -12,7 +12,7 @@ using EventType = ControlDefinitionChangeEventType;
 constexpr char Add[] = "OnControlDefinitionChangeEventTypeAdd";
 constexpr char Insert[] = "OnControlDefinitionChangeEventTypeInsert";
 
-/// A group without one of the two things that it needs.
+/// A group that lacks one of the two things it needs.
 using MakeBareGroup = OwnerPtr<IControl> (*)(QWidget* pParent);
 
 template <class Kind>
@@ -34,7 +34,7 @@ Q_DECLARE_METATYPE(vesk::test::MakeBareGroup)
 namespace vesk::test
 {
 
-/// What both kinds of groups say and leave alone when something is wrong.
+/// What both kinds of groups report and leave unchanged when something is wrong.
 class ButtonGroupFailureTest : public QObject
 {
     Q_OBJECT

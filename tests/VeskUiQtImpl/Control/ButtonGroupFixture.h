@@ -28,8 +28,8 @@ inline std::string ConstructorOf(const QButtonGroup& group)
     return name + "::" + name.substr(name.rfind(':') + 1);
 }
 
-/// A group of either kind, with a box layout in which a label stands before and one after the
-/// buttons. Its items are held by the fixture.
+/// A group of either kind, in a box layout with a label before and after the buttons. The fixture
+/// owns its items.
 class GroupFixture
 {
 public:
@@ -48,7 +48,7 @@ public:
     virtual void ClearItems() = 0;
     virtual void RaisePropertyChanged() = 0;
 
-    /// Each changes what the definition holds and raises nothing.
+    /// Each changes what the definition holds without raising its event.
     virtual void SetItem(int index, bool isVisible, bool isEnabled) = 0;
     virtual void ForgetItem(int index) = 0;
     virtual void RemoveLastItem() = 0;
@@ -56,14 +56,14 @@ public:
     /// An item of this kind that is in no definition; it lives as long as the fixture.
     virtual const IControlDefinition* MakeItem(const std::wstring& id) = 0;
 
-    /// Hands a change to the group that its definition knows nothing of.
+    /// Sends the group a change that its definition does not know about.
     void Tell(int type, int index = -1, const IControlDefinition* pItem = nullptr)
     {
         ChangeArgs args(type, index, pItem);
         GetHandler().On(&args);
     }
 
-    /// Puts the buttons between the labels, as a host does, and shows the window.
+    /// Places the buttons between the labels, as a host does, and shows the window.
     void PlaceAndShow()
     {
         for (QAbstractButton* pButton : GetControls())
@@ -82,7 +82,7 @@ public:
         return ids;
     }
 
-    /// The names of all that stands in the layout, in order.
+    /// The names of everything in the layout, in order.
     QStringList GetPlacedNames() const
     {
         QStringList names;
@@ -142,7 +142,7 @@ class GroupFixtureOf final : public GroupFixture
 public:
     using EventType = ControlDefinitionChangeEventType;
 
-    /// The items named in `ids`; each has its id in capitals as caption.
+    /// The items named in `ids`; the caption of each is its id in capitals.
     explicit GroupFixtureOf(const std::vector<std::wstring>& ids)
     {
         auto opDefinition = MakeOwner<typename Kind::Definition>();

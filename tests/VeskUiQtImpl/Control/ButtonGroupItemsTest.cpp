@@ -10,7 +10,7 @@ namespace vesk::test
 
 using EventType = ControlDefinitionChangeEventType;
 
-/// How both kinds of groups follow items that come and go.
+/// How both kinds of groups follow added and removed items.
 class ButtonGroupItemsTest : public QObject
 {
     Q_OBJECT

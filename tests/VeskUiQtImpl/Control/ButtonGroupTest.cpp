@@ -10,7 +10,7 @@
 namespace vesk::test
 {
 
-/// Does something when a button of a name comes into view.
+/// Does something when the button with a given name is shown.
 class OnShow final : public QObject
 {
 public:
@@ -31,7 +31,7 @@ private:
     std::function<void()> m_act;
 };
 
-/// How both kinds of groups show the items that they have.
+/// How both kinds of groups show their items.
 class ButtonGroupTest : public QObject
 {
     Q_OBJECT

@@ -7,7 +7,7 @@
 namespace vesk::test
 {
 
-/// The arguments of a change, made by hand.
+/// Change arguments with freely chosen values.
 class ChangeArgs final : public IControlDefinitionChangeEventArgs
 {
 public:

@@ -8,7 +8,7 @@
 namespace vesk::test
 {
 
-/// Notes of each change whether it was the user's.
+/// Records for each change whether it was the user's.
 struct ChangeNotes final : IControlDefinitionChangeEventHandler
 {
     void On(IControlDefinitionChangeEventArgs* pArgs) override

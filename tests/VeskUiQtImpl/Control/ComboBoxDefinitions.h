@@ -10,7 +10,7 @@
 namespace vesk::test
 {
 
-/// A current index that was written, and in whose name.
+/// A current index that was written, and on whose behalf.
 struct IndexWrite
 {
     int index;
@@ -27,7 +27,7 @@ inline char* toString(const IndexWrite& write)
     return ShowFields(write.index, write.isByUser);
 }
 
-/// A combo-box definition of the host that notes who writes its index.
+/// A combo-box definition of the host that records who writes its index.
 struct NotingComboBoxDefinition : ComboBoxDefinition
 {
     using ComboBoxDefinition::ComboBoxDefinition;

@@ -19,7 +19,7 @@
 namespace vesk::test
 {
 
-/// A name that a test gives to an icon, so that the icon is not null.
+/// An icon path that makes an icon non-null.
 constexpr wchar_t IconPath[] = L"/an/icon.png";
 
 inline OwnerPtr<CommandMenuItemDefinition> MakeItem(const std::wstring& commandId,
@@ -42,7 +42,7 @@ inline OwnerPtr<MenuItemContainerDefinition> MakeContainer(const std::wstring& c
     return opContainer;
 }
 
-/// A definition of the host that holds whatever a test wants, right or wrong.
+/// A definition of the host that holds whatever a test wants, valid or not.
 struct LooseMenuDefinition final : ControlDefinition<ICommandButtonMenuDefinition>
 {
     LooseMenuDefinition() : ControlDefinition(L"Menu.Id") {}
@@ -57,7 +57,7 @@ struct LooseMenuDefinition final : ControlDefinition<ICommandButtonMenuDefinitio
     std::vector<const IMenuItemDefinition*> items;
 };
 
-/// A command button menu in a window. Its host knows the commands Main, A, B and C, which note
+/// A command button menu in a window. Its host knows the commands Main, A, B and C, which record
 /// their calls.
 struct MenuFixture
 {
@@ -85,7 +85,7 @@ struct MenuFixture
         pButton->show();
     }
 
-    /// Hands a change to the button that its definition knows nothing of.
+    /// Sends the button a change that its definition does not know about.
     void Tell(int type, int index = -1, const IControlDefinition* pItem = nullptr) const
     {
         ChangeArgs args(type, index, pItem);

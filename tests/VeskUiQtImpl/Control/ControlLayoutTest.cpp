@@ -45,7 +45,7 @@ VESK_EXPOSE(RadioButtonParent, QWidget*, QtRadioButtonGroup, m_pParent)
 VESK_EXPOSE(RadioButtonList, std::vector<QRadioButton*>, QtRadioButtonGroup, m_radioButtons)
 VESK_EXPOSE(LineEditValidator, OwnerPtr<ValidatorBase>, QtLineEdit, m_pValidator)
 
-/// The controls that the library does not export are made by its factory.
+/// Controls that the library does not export are created by its factory.
 struct MadeByTheFactory
 {
     OwnerPtr<IControl> opBar =
@@ -56,8 +56,8 @@ struct MadeByTheFactory
     const QtCommandButtonMenu& menu = static_cast<QtCommandButtonMenu&>(*opMenu);
 };
 
-/// The host's libraries were compiled against these classes as they stand: bases, members and
-/// virtual operations have their places.
+/// The libraries of the host are compiled against these classes as they are: bases, members and
+/// virtual functions have fixed positions.
 class ControlLayoutTest : public QObject
 {
     Q_OBJECT

@@ -13,7 +13,8 @@
 namespace vesk::test
 {
 
-/// A definition whose event outlives it, and which notes at its end whether somebody still listens.
+/// A definition whose event outlives it, and which records at its end whether a handler is still
+/// subscribed.
 class WatchedLabelDefinition final : public ILabelDefinition,
                                      public IControlDefinitionChangeEventSource
 {
@@ -38,7 +39,7 @@ private:
     bool& m_isHeardAtTheEnd;
 };
 
-/// A definition that has no event at all.
+/// A definition without an event.
 class MuteLabelDefinition final : public ILabelDefinition
 {
 public:
@@ -239,7 +240,7 @@ void ControlLifetimeTest::labelMayDieOfADefinitionsChange()
     QVERIFY(opLabel == nullptr);
 }
 
-/// Deletes a control when it is hidden, as a host may that hears of it.
+/// Deletes a control when it is hidden, as a host that is notified of it may do.
 class HideWatcher final : public QObject
 {
 public:

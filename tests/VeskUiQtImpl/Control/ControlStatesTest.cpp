@@ -23,7 +23,8 @@
 namespace vesk::test
 {
 
-/// What a test needs of a control of any kind: the widget that shows states, and whose they are.
+/// What a test needs to know of a control of any kind: the widget that shows the states, and the
+/// definition they belong to.
 struct ShownStates
 {
     OwnerPtr<IControl> opControl;
@@ -118,7 +119,7 @@ ShownStates MakeRadioButton(QWidget& parent)
     return StatesOf(std::move(opGroup), pItem, pButton);
 }
 
-/// Does something once when a widget gets an event of a type, and notes the events that it gets.
+/// Does something once when a widget gets an event of a given type, and records the events it gets.
 class EventWatch final : public QObject
 {
 public:
@@ -135,7 +136,7 @@ public:
             return false;
         if (const auto act = std::exchange(m_act, nullptr))
             act();
-        // Qt delivers the event to a widget that died of it otherwise.
+        // Otherwise Qt would deliver the event to the destroyed widget.
         return m_pWidget == nullptr;
     }
 
@@ -189,7 +190,7 @@ void AddKinds()
     QTest::newRow("radio button") << MakeStates(&MakeRadioButton);
 }
 
-/// The kinds that take their states over with each change.
+/// The kinds that apply their states on every change.
 void AddKindsThatFollow()
 {
     QTest::addColumn<MakeStates>("make");
@@ -201,8 +202,8 @@ void AddKindsThatFollow()
     QTest::newRow("radio button") << MakeStates(&MakeRadioButton);
 }
 
-/// A shown window with a hidden control in it that follows no changes: its definition may change
-/// while nobody tells.
+/// A shown window with a hidden control that does not follow changes: its definition may change
+/// without any notification.
 struct HiddenControl
 {
     explicit HiddenControl(MakeStates make)
@@ -217,7 +218,7 @@ struct HiddenControl
             dynamic_cast<IControlDefinitionChangeEventHandler*>(states.opControl.Get()));
     }
 
-    /// Has the control take a change over.
+    /// Notifies the control of a change.
     void TellOfAChange() const
     {
         ChangeArgs args;

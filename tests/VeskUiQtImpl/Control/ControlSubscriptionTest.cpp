@@ -24,7 +24,7 @@
 namespace vesk::test
 {
 
-/// What can be seen of a control once it is complete: its name, its mark and how much it holds.
+/// What is visible of a control once it is complete: its name, its mark and how much it holds.
 QString Describe(const QObject& control)
 {
     QString text = control.objectName();
@@ -37,7 +37,7 @@ QString Describe(const QObject& control)
     return text;
 }
 
-/// Does something with a control as a user does.
+/// Uses a control as a user does.
 void Use(QObject& control)
 {
     if (auto* pButton = qobject_cast<QAbstractButton*>(&control))
@@ -50,8 +50,8 @@ void Use(QObject& control)
         pGroup->buttons().first()->click();
 }
 
-/// An event that notes what controls look like that subscribe or withdraw. It may use a control as
-/// soon as that has subscribed.
+/// An event that records the state of controls as they subscribe or unsubscribe. It may use a
+/// control as soon as that has subscribed.
 class NotingEvent final : public IControlDefinitionChangeEvent
 {
 public:
@@ -147,7 +147,7 @@ OwnerPtr<IControl> MakeRadioButtons(NotingEvent& event, WindowId parentId)
 
 using Make = OwnerPtr<IControl> (*)(NotingEvent& event, WindowId parentId);
 
-/// Whether a definition was told that its control was used.
+/// Whether a definition was notified that its control was used.
 using IsUsed = bool (*)(const IControlDefinition& definition);
 
 bool IsButtonUsed(const IControlDefinition& definition)
@@ -185,7 +185,7 @@ Q_DECLARE_METATYPE(vesk::test::IsUsed)
 namespace vesk::test
 {
 
-/// When controls of all kinds begin to follow their definition, and when they end it.
+/// When controls of all kinds start and stop following their definition.
 class ControlSubscriptionTest : public QObject
 {
     Q_OBJECT

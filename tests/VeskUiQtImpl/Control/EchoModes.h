@@ -9,7 +9,7 @@
 namespace vesk::test
 {
 
-/// A row for the host that tells everybody what the user does, and one for the host that does not.
+/// A row for a host that notifies all handlers of user changes, and one for a host that does not.
 inline void AddEchoModes()
 {
     QTest::addColumn<bool>("isEchoing");
@@ -17,7 +17,7 @@ inline void AddEchoModes()
     QTest::newRow("silent definition") << false;
 }
 
-/// A definition that tells what the user does, or keeps it to itself.
+/// A definition that raises its event for user changes, or does not.
 template <class Definition, class... Args>
 OwnerPtr<Definition> MakeDefinition(bool isEchoing, Args&&... args)
 {

@@ -27,7 +27,7 @@
 namespace vesk::test
 {
 
-/// What is seen of a definition from outside: its event, which outlives it, and its end.
+/// What is visible of a definition from outside: its event, which outlives it, and its end.
 struct Watch
 {
     ControlDefinitionChangeEvent event{L"id"};
@@ -58,7 +58,7 @@ private:
     Watch& m_watch;
 };
 
-/// Makes a control of a watched definition, placed in the parent.
+/// Creates a control for a watched definition, placed in the parent.
 using Creation = OwnerPtr<IControl> (*)(Watch& watch, QWidget& parent);
 
 OwnerPtr<IControl> Placed(OwnerPtr<IControl> opControl, QWidget& parent)
@@ -145,7 +145,7 @@ Q_DECLARE_METATYPE(vesk::test::Creation)
 namespace vesk::test
 {
 
-/// Does something at the next change, once.
+/// Does something once, at the next change.
 struct OnChange final : IControlDefinitionChangeEventHandler
 {
     void On(IControlDefinitionChangeEventArgs*) override
@@ -157,7 +157,7 @@ struct OnChange final : IControlDefinitionChangeEventHandler
     std::function<void()> act;
 };
 
-/// Deletes a control when it is hidden, as a host may that hears of it.
+/// Deletes a control when it is hidden, as a host that is notified of it may do.
 class HideWatcher final : public QObject
 {
 public:
@@ -201,7 +201,7 @@ struct CheckBoxFixture
     OwnerPtr<QtCheckBoxGroup> opGroup;
 };
 
-/// Ends of controls: what holds for all kinds, and what for those that have items.
+/// Destruction of controls: what holds for all kinds, and for those with items.
 class ItemControlLifetimeTest : public QObject
 {
     Q_OBJECT

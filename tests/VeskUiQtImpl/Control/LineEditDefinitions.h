@@ -11,7 +11,7 @@
 namespace vesk::test
 {
 
-/// One write of a text into a definition, and how it was marked.
+/// One text written into a definition, and how it was marked.
 struct TextWrite
 {
     std::wstring text;
@@ -30,7 +30,7 @@ inline char* toString(const TextWrite& write)
     return ShowFields(write.text, write.isMarkedByFlag, write.isMarkedByScope);
 }
 
-/// The host's line-edit definition, which notes what is written into it.
+/// The line-edit definition of the host, which records what is written into it.
 class NotingLineEditDefinition : public LineEditDefinition
 {
 public:
@@ -59,7 +59,7 @@ private:
     }
 };
 
-/// A definition of neither of the host's two classes.
+/// A definition that is neither of the host's two classes.
 class ForeignLineEditDefinition final : public ILineEditDefinition,
                                         public IControlDefinitionChangeEventSource
 {
@@ -96,7 +96,7 @@ private:
     mutable ControlDefinitionChangeEvent m_event{L"Foreign"};
 };
 
-/// A reference that asks for real numbers although it refers to nothing.
+/// A reference whose type is real numbers although it refers to nothing.
 class EmptyRealReference final : public LineEditDefinitionReference
 {
 public:
@@ -114,7 +114,7 @@ public:
     std::wstring GetSelectedText() const override { return {}; }
 };
 
-/// A validator that notes its end.
+/// A validator that records its destruction.
 class NotingValidator final : public ValidatorBase
 {
 public:

@@ -12,7 +12,7 @@ using Calls = std::vector<std::wstring>;
 namespace
 {
 
-/// An entry that carries a command and holds other entries, too.
+/// An entry that has a command and also contains other entries.
 class DoubleItem final : public ICommandMenuItemDefinition, public IMenuItemContainerDefinition
 {
 public:
@@ -33,7 +33,7 @@ public:
     std::vector<const IMenuItemDefinition*> children;
 };
 
-/// Notes in which order its states are asked for.
+/// Records the order in which its states are queried.
 class AskedCommand final : public ICommand
 {
 public:
@@ -62,7 +62,7 @@ constexpr char On[] = "vesk::QtCommandButtonMenu::On";
 
 }
 
-/// What kind of entry a definition becomes, and in which order it is found out.
+/// Which kind of entry a definition becomes, and in which order that is determined.
 class MenuEntryKindsTest : public QObject
 {
     Q_OBJECT
@@ -235,7 +235,7 @@ void MenuEntryKindsTest::withoutAnActionTheRestIsMade()
     QCOMPARE(f.GetCaptions(), QStringList("a"));
 }
 
-/// The action of the main part sends, and not the button, which would be served at once.
+/// The sender is the action of the main part, not the button, which would be served at once.
 void MenuEntryKindsTest::mainPartChosenWhileACommandRunsIsPutOff()
 {
     MenuFixture f;

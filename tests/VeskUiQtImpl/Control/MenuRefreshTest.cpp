@@ -18,7 +18,7 @@
 namespace vesk::test
 {
 
-/// A command that does something when it is asked whether it is visible.
+/// A command that does something when its visibility is queried.
 class AskedCommand final : public ICommand
 {
 public:
@@ -70,7 +70,7 @@ struct RefreshedMenu
             }));
     }
 
-    /// Has something happen when the refresh asks A's condition, or when A's entry changes.
+    /// Does something when the refresh queries A's condition, or when A's entry changes.
     void At(const QString& point, std::function<void()> wanted)
     {
         m_point = point;
@@ -101,7 +101,8 @@ private:
     std::function<void()> m_act;
 };
 
-/// What may go while a command button menu takes the states of its entries, or unchecks them.
+/// What may be destroyed while a command button menu applies the states of its entries, or unchecks
+/// them.
 class MenuRefreshTest : public QObject
 {
     Q_OBJECT
@@ -181,7 +182,7 @@ void MenuRefreshTest::entriesMayGoWhileTheyAreUnchecked()
 void MenuRefreshTest::menuMayDieWhileEntriesAreUnchecked()
 {
     RefreshedMenu f;
-    // An entry that outlives the menu: Qt goes on with it.
+    // An entry that outlives the menu, because Qt continues to use it.
     QAction chosen;
     chosen.setProperty("CommandId", "B");
     connect(&chosen, SIGNAL(triggered(bool)), f.pButton, SLOT(OnMenuItemTriggered(bool)));

@@ -27,7 +27,7 @@ namespace
 
 using Type = ControlDefinitionChangeEventType;
 
-/// A handler of the host's, which may do anything.
+/// A handler of the host, which may do anything.
 class HostHandler final : public IControlDefinitionChangeEventHandler
 {
 public:
@@ -39,7 +39,7 @@ public:
             m_act(*pArgs);
     }
 
-    /// Each time, or with `Once` the next time only.
+    /// Every time, or with `Once` only the next time.
     void Do(Act act) { m_act = std::move(act); }
     void Once(const std::function<void()>& act)
     {
@@ -82,7 +82,7 @@ using ComboBox = Fixture<ComboBoxDefinition, QtComboBox>;
 using CheckBoxes = Fixture<CheckBoxGroupDefinition, QtCheckBoxGroup>;
 using RadioButtons = Fixture<RadioButtonGroupDefinition, QtRadioButtonGroup>;
 
-/// "a[b]c" for three items of which the second is current.
+/// "a[b]c" for three items, the second of which is current.
 QString Displayed(const QComboBox& box)
 {
     QString shown;
@@ -103,7 +103,7 @@ QString Defined(const IComboBoxDefinition& definition)
     return defined;
 }
 
-/// The same for a group, whose checked buttons stand in brackets.
+/// The same for a group, with its checked buttons in brackets.
 QString Displayed(const QButtonGroup& group)
 {
     QString shown;
@@ -133,7 +133,7 @@ void AddPlaces()
 
 }
 
-/// Hosts that change a definition while its control is about to hear of a change.
+/// Hosts that change a definition while its control is about to be notified of a change.
 class NestedChangesTest : public QObject
 {
     Q_OBJECT
@@ -259,7 +259,7 @@ void NestedChangesTest::whatTheUserChoosesFromAnOldListIsNotTaken()
     ComboBox f(true);
     for (const wchar_t* item : {L"a", L"b", L"c"})
         f.pDefinition->AddItem(item);
-    // As where the handler asks something and the user uses the box meanwhile.
+    // As when the handler shows a question and the user uses the box meanwhile.
     f.handler.Once([&f] { QTest::keyClick(f.opControl.Get(), Qt::Key_End); });
 
     f.pDefinition->DeleteItem(1);

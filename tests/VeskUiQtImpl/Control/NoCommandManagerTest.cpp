@@ -26,7 +26,7 @@ ICommandManager* s_pManager = &emptyManager;
 
 }
 
-/// Stands before the host's own.
+/// Takes precedence over the host's own.
 ICommandManager* ICommandManager::Get()
 {
     return s_pManager;
@@ -37,7 +37,7 @@ ICommandManager* ICommandManager::Get()
 namespace vesk::test
 {
 
-/// Takes the command manager away for a time.
+/// Hides the command manager for its lifetime.
 class ManagerLoss
 {
 public:

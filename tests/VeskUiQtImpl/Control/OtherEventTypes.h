@@ -15,13 +15,13 @@ inline void AddEventTypes(std::initializer_list<int> types)
         QTest::addRow("%d", type) << type;
 }
 
-/// A row for each type of change that is no change of a property.
+/// A row for each type of change other than a property change.
 inline void AddOtherEventTypes()
 {
     AddEventTypes({-1, 0, 1, 2, 3, 4, 5, 7, 8});
 }
 
-/// A row for each type of change that is neither one of items nor one of a property.
+/// A row for each type of change that is neither an item change nor a property change.
 inline void AddUnknownEventTypes()
 {
     AddEventTypes({-1, 4, 5, 7, 8});

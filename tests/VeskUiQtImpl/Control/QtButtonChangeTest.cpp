@@ -199,7 +199,7 @@ void QtButtonChangeTest::writesItsActionWithoutComparing()
 
     f.pDefinition->SetTooltip(L"changes nothing that is shown");
 
-    // An icon counts as a change even where it is the same.
+    // Setting an icon counts as a change even if it is the same.
     QCOMPARE(changes.count(), 1);
 }
 
@@ -219,7 +219,7 @@ void QtButtonChangeTest::captionIsWrittenToTheActionOnly()
 
     f.pDefinition->SetCaption(L"&Open...");
 
-    // What Qt itself makes of the action's text.
+    // What Qt itself derives from the text of the action.
     QCOMPARE(f.Action().text(), QString("&Open..."));
     QCOMPARE(f.opButton->text(), QString("Open"));
 }

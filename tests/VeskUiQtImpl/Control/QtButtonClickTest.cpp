@@ -16,7 +16,7 @@
 namespace vesk::test
 {
 
-/// A checkable command button; its definition tells what the user does, or keeps it to itself.
+/// A checkable command button; its definition raises its event for user changes, or does not.
 struct ClickFixture
 {
     explicit ClickFixture(bool isEchoing)
@@ -39,7 +39,7 @@ struct ClickFixture
     std::function<void()> onCommand;
 };
 
-/// Notes each state that is written.
+/// Records each state that is written.
 class NotingButtonDefinition final : public CommandButtonDefinition
 {
 public:
@@ -173,7 +173,8 @@ void QtButtonClickTest::theDefinitionIsCheckedBeforeTheCommandRuns()
     QVERIFY(isChecked);
 }
 
-/// A button whose command depends on its state; it notes whether that is the user's at the time.
+/// A button whose command depends on its state; it records whether the change is the user's at the
+/// time.
 class TwoCommandsDefinition final : public CommandButtonDefinition
 {
 public:

@@ -17,7 +17,7 @@ namespace vesk::test
 
 using Writes = std::vector<CheckStateWrite>;
 
-/// A shown group with the boxes a, b and c, of which b is checked, in the layout of its parent.
+/// A shown group with the boxes a, b and c in the layout of its parent; b is checked.
 struct CheckBoxFixture
 {
     explicit CheckBoxFixture(bool isEchoing = true)
@@ -38,7 +38,7 @@ struct CheckBoxFixture
 
     void Click(std::size_t index) const
     {
-        // A box that was just added has no place yet, and not each style takes a click anywhere.
+        // A newly added box has no geometry yet, and not every style accepts a click anywhere.
         pLayout->activate();
         QTest::mouseClick(&GetBox(index), Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
     }
@@ -59,7 +59,7 @@ struct CheckBoxFixture
     OwnerPtr<QtCheckBoxGroup> opGroup;
 };
 
-/// Notes of each box that comes into view whether it is checked.
+/// Records for each box that is shown whether it is checked.
 class ShowNotes final : public QObject
 {
 public:

@@ -11,7 +11,7 @@ namespace vesk::test
 
 using EventType = ControlDefinitionChangeEventType;
 
-/// A shown combo box with the items a, b and c, of which b is current.
+/// A shown combo box with the items a, b and c; b is current.
 struct ComboBoxFixture
 {
     ComboBoxFixture()

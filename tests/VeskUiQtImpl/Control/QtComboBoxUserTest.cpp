@@ -20,8 +20,7 @@ namespace vesk::test
 using EventType = ControlDefinitionChangeEventType;
 using Writes = std::vector<IndexWrite>;
 
-/// A shown combo box of a definition of the host, with the items a, b, c and d, of which a is
-/// current.
+/// A shown combo box for a definition of the host, with the items a, b, c and d; a is current.
 struct UserFixture
 {
     explicit UserFixture(bool isEchoing = true)
@@ -42,7 +41,7 @@ struct UserFixture
     OwnerPtr<QtComboBox> opBox;
 };
 
-/// A combo box of a definition whose index stays where it is when its items change.
+/// A combo box for a definition whose index does not change when its items do.
 struct LooseFixture
 {
     LooseFixture(const std::vector<std::wstring>& items, int currentIndex)
@@ -59,7 +58,7 @@ struct LooseFixture
     OwnerPtr<QtComboBox> opBox;
 };
 
-/// Names the flag that tells the user's changes from the definition's.
+/// Gives access to the flag that distinguishes the user's changes from the definition's.
 template <class Tag, bool* pFlag>
 struct ExposeFlag
 {
@@ -271,7 +270,7 @@ void QtComboBoxUserTest::changeInsideAnotherDoesNotEndIt()
     *connection = connect(f.opBox.Get(), QOverload<int>::of(&QComboBox::currentIndexChanged), this,
                           [&f, connection] {
                               QObject::disconnect(*connection);
-                              // Straight to the box: an event would wait for the outer one.
+                              // Directly to the box: an event would wait for the outer one.
                               ChangeArgs args;
                               f.opBox->On(&args);
                               f.opBox->setCurrentIndex(2);

@@ -274,7 +274,7 @@ void QtCommandButtonMenuCommandTest::commandsAreJournaledWithoutParameters()
 void QtCommandButtonMenuCommandTest::entryChosenWhileACommandRunsIsPutOff()
 {
     ChoiceFixture f;
-    // A menu that was never shown has no place for its entries.
+    // A menu that was never shown has no geometry for its entries.
     f.pButton->menu()->popup(QPoint(0, 0));
     f.pButton->menu()->hide();
     std::size_t recordCountInside = 0;

@@ -209,7 +209,7 @@ void QtLabelTest::statusUpdateLeavesTheTextAlone()
     QCOMPARE(f.opLabel->toolTip(), QString("by hand"));
 }
 
-/// Notes what a label shows when it is hidden and when it is disabled.
+/// Records what a label shows when it is hidden and when it is disabled.
 class StateNotes final : public QObject
 {
 public:

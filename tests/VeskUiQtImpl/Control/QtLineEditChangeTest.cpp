@@ -195,7 +195,8 @@ void QtLineEditChangeTest::visibilityIsReadAfterTheText()
     QCOMPARE(f.opEdit->selectedText(), QString("no"));
 }
 
-/// Notes what an edit shows when it is hidden, when it is disabled and when its selection changes.
+/// Records what an edit shows when it is hidden, when it is disabled and when its selection
+/// changes.
 class EditNotes final : public QObject
 {
 public:

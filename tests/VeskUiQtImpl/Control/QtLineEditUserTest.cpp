@@ -3,7 +3,7 @@
 namespace vesk::test
 {
 
-/// Keeps the line-edit events, and what the definition says meanwhile.
+/// Records the line-edit events and the state of the definition at that time.
 class LineEditEventNotes final : public ILineEditEventHandler
 {
 public:
@@ -47,8 +47,8 @@ private:
     mutable ForeignEvent m_foreign;
 };
 
-/// A definition that notes whether its user is known when its id is asked for, and what it holds
-/// when its text is written.
+/// A definition that records whether its user is known when its id is read, and what it holds when
+/// its text is written.
 class TimedDefinition final : public LineEditDefinition
 {
 public:
@@ -129,7 +129,7 @@ void QtLineEditUserTest::textIsWrittenFlaggedBeforeTheStateOfBeingEdited()
 
     QTest::keyClick(&edit, Qt::Key_7);
 
-    // The flag is set before the scope of the user is opened.
+    // The flag is set before the user scope is opened.
     QVERIFY(!definition.wereFlagged.empty());
     QVERIFY(definition.wereFlagged.front());
     QCOMPARE(definition.wereEditing, std::vector<bool>{false});

@@ -91,7 +91,7 @@ void QtLineEditWriteTest::anEqualSelectionIsNotWritten()
 
     QMetaObject::invokeMethod(&edit, "selectionChanged");
 
-    // Read it was, and a write would be reported after it.
+    // It was read; a write would be reported after that.
     EXPECT_WARNING(host.warnings, L"类型不正确", "vesk::QtLineEdit::GetDefinitionSelectionStart");
     QVERIFY(host.warnings.IsEmpty());
 }

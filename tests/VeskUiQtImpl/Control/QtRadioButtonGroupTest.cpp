@@ -17,7 +17,7 @@ namespace vesk::test
 
 using Writes = std::vector<CurrentIdWrite>;
 
-/// A shown group with the buttons a, b and c, of which b is current, in the layout of its parent.
+/// A shown group with the buttons a, b and c in the layout of its parent; b is current.
 struct RadioButtonFixture
 {
     explicit RadioButtonFixture(bool isEchoing = true, const std::wstring& currentId = L"b")
@@ -65,7 +65,7 @@ struct RadioButtonFixture
     OwnerPtr<QtRadioButtonGroup> opGroup;
 };
 
-/// A definition that notes whether its user is known when its id is asked for.
+/// A definition that records whether its user is known when its id is read.
 class AskedDefinition final : public RadioButtonGroupDefinition
 {
 public:

@@ -117,7 +117,7 @@ private:
     int m_current = -1;
 };
 
-/// Entries and sub-menus of a menu; single ones never go.
+/// Entries and sub-menus of a menu; single entries are never removed.
 class MenuSequence final : public Sequence
 {
 public:
@@ -236,8 +236,8 @@ void RunSequences()
 
 }
 
-/// Control, definition and a plain model agree after each of many random changes, of which some
-/// are made while another one is being told.
+/// Control, definition and a plain model agree after each of many random changes, some of which are
+/// made while another one is being reported.
 class RandomChangesTest : public QObject
 {
     Q_OBJECT

@@ -18,7 +18,7 @@
 namespace vesk::test
 {
 
-/// The texts of the buttons that stand in a layout, in the order of the layout.
+/// The texts of the buttons in a layout, in layout order.
 inline QStringList PlacedTexts(const QWidget& panel)
 {
     QStringList texts;
@@ -50,7 +50,7 @@ inline QStringList CheckedTexts(const QButtonGroup& group)
     return texts;
 }
 
-/// What both groups have in common: items that come and go in a panel, and clicks.
+/// What both groups have in common: items that are added to and removed from a panel, and clicks.
 class GroupSequence : public Sequence
 {
 public:
@@ -237,7 +237,8 @@ protected:
         m_pDefinition->SetCurrentRadioButtonId(m_current);
     }
 
-    /// A group never unchecks the former button: it must have heard of a choice that goes again.
+    /// A group never unchecks the previous button, so it must have been notified of a choice before
+    /// that item may be removed.
     bool MayGo(const std::wstring& name) const override
     {
         return name != m_current || m_stepOfChoice != GetStep();

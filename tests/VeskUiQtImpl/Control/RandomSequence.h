@@ -14,7 +14,7 @@
 namespace vesk::test
 {
 
-/// The same numbers again for the same seed.
+/// Yields the same numbers for the same seed.
 class Dice
 {
 public:
@@ -53,7 +53,7 @@ inline QString Difference(const char* what, const QStringList& actual, const QSt
         .arg(QLatin1String(what), actual.join('|'), expected.join('|'));
 }
 
-/// Hears of a definition's changes, keeps those of its items and does something each time.
+/// Receives the changes of a definition, keeps those of its items and does something each time.
 class Listener final : public IControlDefinitionChangeEventHandler
 {
 public:
@@ -76,9 +76,9 @@ private:
     QStringList m_heard;
 };
 
-/// A sequence on one kind of control; each step changes the control and a plain model of it. Two
-/// handlers, one before the control and one behind it, now and then change the definition again
-/// while they hear of a change.
+/// A sequence of changes to one kind of control; each step changes the control and a plain model of
+/// it. Two handlers, one before the control and one after it, occasionally change the definition
+/// again while they are notified of a change.
 class Sequence
 {
 public:
@@ -95,7 +95,7 @@ public:
         m_nestedLeft = 0;
     }
 
-    /// What differs between the control, its definition and the model; empty when nothing does.
+    /// What differs between the control, its definition and the model; empty if nothing does.
     QString Compare() const
     {
         return CompareControl() +
@@ -103,7 +103,7 @@ public:
     }
 
 protected:
-    /// One change by program or by the user.
+    /// One change by the program or by the user.
     virtual void Change() = 0;
     virtual void ChangeByProgram() = 0;
     virtual QString CompareControl() const = 0;

@@ -47,7 +47,7 @@ struct ReportingControl
         script.SetAct([this] { Destroy(); });
     }
 
-    /// Owns a control in the window. What it reports from now on it does not survive.
+    /// Owns a control in the window. The control does not survive anything it reports from now on.
     template <class Control>
     Control& Own(OwnerPtr<Control> opMade)
     {
@@ -83,7 +83,7 @@ struct ReportingControl
     QPointer<QObject> pVictim;
 };
 
-/// Takes the next child of a kind away from its parent while it is being made, so that making it
+/// Removes the next child of a kind from its parent while it is being created, so that its creation
 /// fails.
 class ChildThief final : public QObject
 {

@@ -9,7 +9,7 @@
 namespace vesk::test
 {
 
-/// A shown line edit; its definition tells what the user does, or keeps it to itself.
+/// A shown line edit; its definition raises its event for user changes, or does not.
 struct UserFixture
 {
     explicit UserFixture(const std::wstring& text = L"", bool isEchoing = true)

@@ -27,7 +27,7 @@
 namespace vesk::test
 {
 
-/// A definition that notes when it is freed; the kinds add what is theirs.
+/// A definition that records when it is freed; subclasses add what is specific to each kind.
 template <class Interface>
 class FreedDefinition : public Interface
 {
@@ -92,7 +92,7 @@ VeskIControlFactory& Factory()
     return *VeskIControlFactory::Get();
 }
 
-/// Makes a control in the name of a window; most kinds do not ask for it.
+/// Creates a control on behalf of a window; most kinds ignore it.
 using Creation = OwnerPtr<IControl> (*)(WindowId parentWindowId);
 
 }

@@ -8,7 +8,7 @@
 namespace vesk::test
 {
 
-/// The styles that an editor was given; its style sheet puts one of its own before them.
+/// The styles that an editor was given; its style sheet adds one of its own first.
 QList<QStyle*> StylesOf(const QLineEdit& editor)
 {
     return editor.findChildren<QStyle*>(QString(), Qt::FindDirectChildrenOnly);

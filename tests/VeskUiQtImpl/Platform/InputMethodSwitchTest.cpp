@@ -8,13 +8,13 @@ namespace vesk::test
 VESK_EXPOSE(SavedContext, std::optional<InputContext>, TemporaryDimensionHandler,
             m_savedInputContext)
 
-/// What a handler keeps of the main window's input method.
+/// What a handler saved of the input method of the main window.
 std::optional<InputContext> SavedBy(ITemporaryDimensionHandler& handler)
 {
     return static_cast<TemporaryDimensionHandler&>(handler).*MemberOf(SavedContext());
 }
 
-/// A main window that takes input methods, and handlers that do not want it to.
+/// A main window that accepts input methods, and handlers that switch them off.
 struct InputMethodFixture
 {
     InputMethodFixture() { SetTakesInputMethod(host.window, true); }

@@ -9,7 +9,7 @@
 namespace vesk::test
 {
 
-/// The input context of a window that is not to keep it; null for none.
+/// The input context of a window, not retained; null for none.
 HIMC ContextOf(const QWidget& window)
 {
     auto pNative = reinterpret_cast<HWND>(window.winId());

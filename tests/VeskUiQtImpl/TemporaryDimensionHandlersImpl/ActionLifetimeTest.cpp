@@ -6,7 +6,8 @@
 namespace vesk::test
 {
 
-/// An action at work whose dimensions the host's manager keeps, with the editor open in a view.
+/// A running action whose dimensions are kept by the host's manager, with the editor open in a
+/// view.
 struct InputFixture
 {
     explicit InputFixture(const KindRules& rules)
@@ -58,8 +59,8 @@ struct InputFixture
         QCoreApplication::sendEvent(Editor(), &press);
     }
 
-    /// Kills a victim while the library has called the host or the toolkit: at "delivery" of a
-    /// value, at "refresh" of the view, when the editor is to "hide", when the "focus" changes.
+    /// Destroys a victim while the library is calling the host or Qt: at "delivery" of a value, at
+    /// "refresh" of the view, when the editor is about to "hide", when the "focus" changes.
     void KillAt(const QString& place, const QString& victim)
     {
         const auto kill = [this, victim] { Kill(victim); };
@@ -86,7 +87,7 @@ struct InputFixture
         }
     }
 
-    /// Calls what a host calls next, whoever is left.
+    /// Calls what a host calls next, whichever objects are left.
     void GoOn()
     {
         IUiView* pCurrent = host.core.GetViewManager().GetCurrentUiView();
@@ -103,7 +104,7 @@ struct InputFixture
     std::unique_ptr<TestView> pView;
 };
 
-/// The end of an action beside that of its handler, of the editor and of the view.
+/// Destruction of an action relative to that of its handler, editor and view.
 class ActionLifetimeTest : public QObject
 {
     Q_OBJECT
@@ -170,7 +171,7 @@ void ActionLifetimeTest::firstOfThemMayGoInsideACall_data()
     AddOrders([](int kind, const QStringList& order) {
         for (const char* place : {"delivery", "refresh"})
             AddRow(kind, place, order);
-        // The toolkit goes on with the widget that it hides or takes the focus from.
+        // Qt continues to use the widget that it hides or takes the focus from.
         if (order[0] != "editor" && order[0] != "view")
         {
             for (const char* place : {"hide", "focus"})
@@ -189,7 +190,7 @@ void ActionLifetimeTest::firstOfThemMayGoInsideACall()
 
     f.KillAt(place, order[0]);
 
-    // An input that has lost its editor goes on until it is ended.
+    // An input that has lost its editor continues until it is ended.
     QCOMPARE(f.Dimensions().IsInputting(), place == "refresh" && f.Editor() == nullptr);
     EndAll(f, order.mid(1));
 }

@@ -12,7 +12,7 @@
 namespace vesk::test
 {
 
-/// A view that answers for each key whether it took it.
+/// A view that reports for each key whether it accepted it.
 class AnsweringView final : public QWidget, public IUiView
 {
 public:

@@ -39,7 +39,7 @@ private:
 
 }
 
-/// What the action is given, and from which moment it is.
+/// What is delivered to the action, and the moment it reflects.
 class DimensionDeliveryTest : public QObject
 {
     Q_OBJECT

@@ -11,7 +11,7 @@ namespace vesk::test
 namespace
 {
 
-/// Throws when it is to hear of an editor.
+/// Throws when it is notified of an editor.
 class ThrowingObserver final : public IJournalObserver
 {
 public:

@@ -24,7 +24,7 @@ std::vector<Vector3d> Points(int count)
     return points;
 }
 
-/// A context in TiltedPlane(), of points in order.
+/// A context in TiltedPlane() with the given points in order.
 template <typename Context, int... numbers>
 OwnerPtr<ITemporaryDimensionContext> Create()
 {
@@ -43,7 +43,7 @@ OwnerPtr<ITemporaryDimensionContext> CreateSegment()
     return opContext;
 }
 
-/// A kind that has something generated, and what it has generated first or second.
+/// A kind that generates graphics, and what it generates first or second.
 struct ExpectedCall
 {
     const char* row;
@@ -52,7 +52,7 @@ struct ExpectedCall
     int callCount;
     int index;
     const char* generator;
-    int pointCount; ///< Of the context's, from the first on.
+    int pointCount; ///< Number of the context's points used, starting with the first.
     bool hasLines;
 };
 
@@ -88,7 +88,7 @@ constexpr ExpectedCall Calls[]{
 
 }
 
-/// What kinds have generated from the points of their contexts.
+/// What the kinds generate from the points of their contexts.
 class DimensionGraphicsTest : public QObject
 {
     Q_OBJECT

@@ -18,7 +18,7 @@ namespace vesk::test
 namespace
 {
 
-/// What came to a handler's `event` as a key.
+/// What reached `event` of a handler as a key.
 struct SeenKey
 {
     QEvent::Type type = QEvent::None;
@@ -29,7 +29,7 @@ struct SeenKey
     int count = 0;
 };
 
-/// The smallest handler, which lets see what the common part keeps and calls.
+/// A minimal handler that exposes what the common part stores and calls.
 class Probe final : public TemporaryDimensionHandler
 {
 public:
@@ -79,7 +79,7 @@ struct Fixture
     HostFixture host;
 };
 
-/// A kind with two fields, as far as an opening key asks for it.
+/// A kind with two fields, complete enough for an opening key.
 DimensionKind TwoFields()
 {
     DimensionKind kind;

@@ -11,7 +11,7 @@ namespace vesk::test
 namespace
 {
 
-/// A handler that is brought into a state as often as needed.
+/// A handler that can be put into a state repeatedly.
 struct MatrixFixture : KindFixture
 {
     MatrixFixture(const KindRules& rules, Door theDoor, const Typed& theTyped, ViewIs theView)
@@ -37,7 +37,7 @@ struct MatrixFixture : KindFixture
             host.view.SetWindowId(0);
     }
 
-    /// What there is before a key.
+    /// The state before a key.
     Outcome Begin()
     {
         Inputs().clear();
@@ -46,7 +46,7 @@ struct MatrixFixture : KindFixture
         return Look(false);
     }
 
-    /// The editor's own keys come when there is an editor, be it an idle one.
+    /// Keys of the editor need an editor, even if it is idle.
     void Open()
     {
         Object().setProperty("rawTextInput", typed.isRaw);
@@ -102,7 +102,7 @@ struct MatrixFixture : KindFixture
     std::size_t viewKeyCount = 0;
 };
 
-/// Every code that means anything to anybody, and those beside them.
+/// Every code that has a meaning anywhere, and its neighbours.
 std::vector<int> AllCodes()
 {
     std::vector<int> codes{Qt::Key_Return, Qt::Key_Enter, Qt::Key_Tab,       Qt::Key_Backtab,
@@ -115,7 +115,7 @@ std::vector<int> AllCodes()
     return codes;
 }
 
-/// The keys that come through a door.
+/// The keys that arrive through a door.
 std::vector<Key> AllKeys(Door door)
 {
     std::vector<Key> keys;
@@ -134,7 +134,8 @@ std::vector<Key> AllKeys(Door door)
     return keys;
 }
 
-/// What may be typed in a kind: nothing, and in each field something right, wrong and raw.
+/// What may be typed in a kind: nothing, and in each field a valid value, an invalid one and a raw
+/// text.
 std::vector<std::pair<const char*, Typed>> AllTyped(const KindRules& kind)
 {
     std::vector<std::pair<const char*, Typed>> typed{
@@ -195,7 +196,7 @@ void DimensionKeyMatrixTest::keysDoWhatTheKindIsTold_data()
     }
 }
 
-/// All keys of a row, since each is as quick as the naming of a row.
+/// All keys in one row, since a key takes no longer than naming a row.
 void DimensionKeyMatrixTest::keysDoWhatTheKindIsTold()
 {
     FETCH_KIND(rules);

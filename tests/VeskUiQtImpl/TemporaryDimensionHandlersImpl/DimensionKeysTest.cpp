@@ -12,7 +12,7 @@ struct NamedKey
     const char* name;
     int code;
     const char* text = "";
-    bool isEvent = false; ///< Else a key of the view.
+    bool isEvent = false; ///< Otherwise a key of the view.
 };
 
 void AddKeyColumns()
@@ -23,7 +23,7 @@ void AddKeyColumns()
     QTest::addColumn<bool>("isEvent");
 }
 
-/// Adds a row for each of the wanted kinds with each key.
+/// Adds a row for each of the wanted kinds and each key.
 void AddKeyRows(const std::vector<NamedKey>& keys, bool (*pIsWanted)(const KindRules&) = &IsAnyKind)
 {
     for (std::size_t kind = 0; kind < AllKinds().size(); ++kind)
@@ -49,7 +49,7 @@ bool HasNot(const KindRules& kind)
     return !kind.Has(rule);
 }
 
-/// An event comes with a text that is not the key's own.
+/// An event carries a text other than that of its key.
 bool Press(KindInputFixture& f, int key, bool isEvent)
 {
     return isEvent ? f.SendToHandler(key, Qt::NoModifier, "?")
@@ -191,7 +191,7 @@ void DimensionKeysTest::aRepeatedKeyIsAKey_data()
     AddKindRows();
 }
 
-/// Two quick presses of one key come with the mark of a repetition.
+/// Two quick presses of one key are marked as a repetition.
 void DimensionKeysTest::aRepeatedKeyIsAKey()
 {
     FETCH_KIND(rules);

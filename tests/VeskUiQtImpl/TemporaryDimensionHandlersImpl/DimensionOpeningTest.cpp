@@ -48,7 +48,7 @@ const KeySets Sets[]{
     {"point", 190, false, false, false, false, false},
 };
 
-/// A kind with two fields, as far as an opening key asks for it.
+/// A kind with two fields, complete enough for an opening key.
 DimensionKind TwoFields()
 {
     DimensionKind kind;

@@ -5,7 +5,7 @@
 namespace vesk::test
 {
 
-/// What every kind reports, and in whose name.
+/// What every kind reports, and under which name.
 class DimensionReportsTest : public QObject
 {
     Q_OBJECT
@@ -339,12 +339,12 @@ void DimensionReportsTest::eventsOfAnObjectAreTaken()
     QVERIFY(f.Object().event(&added));
     QVERIFY(!f.Object().event(&polish));
 
-    // What others have it do later, it does.
+    // A queued call is carried out later.
     QMetaObject::invokeMethod(&f.Object(), "ResetEditorPosition", Qt::QueuedConnection);
     QTRY_VERIFY(f.Editor()->isHidden());
 }
 
-/// A report, the source that makes it, and how to come by it.
+/// A report, the source file that makes it, and how to provoke it.
 struct PlacedReport
 {
     const char* row;

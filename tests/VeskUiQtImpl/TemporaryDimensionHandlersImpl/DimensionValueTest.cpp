@@ -20,7 +20,7 @@ const FieldRules& Next(const KindRules& kind, const FieldRules& field)
     return field.state == kind.fields[0].state ? kind.fields[1] : kind.fields[0];
 }
 
-/// A key that takes what is typed, in the wanted kinds.
+/// A key that commits the typed value, in the wanted kinds.
 struct Committer
 {
     const char* name;
@@ -35,7 +35,7 @@ const Committer Committers[]{
 
 }
 
-/// What fields show, and what is delivered of them, in every kind.
+/// What fields show, and what they deliver, in every kind.
 class DimensionValueTest : public QObject
 {
     Q_OBJECT
@@ -285,7 +285,7 @@ void DimensionValueTest::liveMarkIsThatOfTheField()
     QCOMPARE(f.Editor()->toolTip(), QString());
 }
 
-/// Has numbers be written as in another country while it lives.
+/// Uses the number format of another country during its lifetime.
 class Country
 {
 public:
@@ -313,7 +313,7 @@ void DimensionValueTest::numbersAreThoseOfNoCountry()
     f.Type(field.state, "7,5");
 
     f.opHandler->OnEditorReturnPressed();
-    // Where what is no number counts as 0, that is no length.
+    // Where text that is not a number counts as 0, that is not a valid length.
     QVERIFY(f.Inputs().empty());
     QCOMPARE(f.Editor()->selectedText(), QString("7,5"));
 

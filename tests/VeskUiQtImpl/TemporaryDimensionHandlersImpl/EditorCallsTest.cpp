@@ -13,11 +13,11 @@
 namespace
 {
 
-/// What handlers asked of the toolkit and of the host while notes are taken, in order.
+/// What handlers asked of Qt and of the host while recording, in order.
 QStringList s_notes;
 bool s_isNoting = false;
 
-/// How often the input method was told to ask whether it is wanted.
+/// How often the input method was told to query whether it is wanted.
 int s_inputMethodUpdateCount = 0;
 
 void Note(const QString& what)
@@ -26,7 +26,7 @@ void Note(const QString& what)
         s_notes << what;
 }
 
-/// The operation itself, which stands behind the one of this program.
+/// The original function behind the one of this program.
 template <class Function>
 Function Next(const char* symbol)
 {
@@ -43,7 +43,7 @@ bool IsHandler(const QObject* pObject)
     return pObject->inherits("vesk::TemporaryDimensionHandler");
 }
 
-/// Only what is done to the editor is of interest.
+/// Only calls on the editor are of interest.
 void NoteOf(const QObject* pObject, const QString& what)
 {
     if (IsEditor(pObject))
@@ -57,7 +57,7 @@ QString Numbers(const char* what, int first, int second)
 
 }
 
-// The program's operations stand before the toolkit's: they note the call and hand it on.
+// These functions of the program take precedence over Qt's: they record the call and forward it.
 
 void QObject::installEventFilter(QObject* pFilter)
 {
@@ -135,7 +135,7 @@ void QWidget::clearFocus()
 void QWidget::move(const QPoint& position)
 {
     NoteOf(this, "move");
-    // What is inline in the headers calls this one.
+    // Inline functions in the headers call this one.
     Next<void (*)(QWidget*, const QPoint&)>("_ZN7QWidget4moveERK6QPoint")(this, position);
 }
 
@@ -235,7 +235,7 @@ IJournalManager* IJournalManager::Get()
 namespace vesk::test
 {
 
-/// Takes notes while it lives.
+/// Records during its lifetime.
 class Noting
 {
 public:
@@ -249,7 +249,7 @@ public:
     Noting& operator=(const Noting&) = delete;
 };
 
-/// A handler for a segment in a view of its own, which is not the current one any more.
+/// A handler for a segment in a view of its own, which is no longer the current one.
 struct CallsFixture : HandlerFixture
 {
     CallsFixture() : other(2, &host.window) { host.BeginAction(); }
@@ -268,7 +268,7 @@ struct CallsFixture : HandlerFixture
     TestView other;
 };
 
-/// In which order handlers do what they do to their editor and ask of the host.
+/// In which order handlers act on their editor and call the host.
 class EditorCallsTest : public QObject
 {
     Q_OBJECT
@@ -471,7 +471,8 @@ void EditorCallsTest::viewKeysReachTheObjectWithTheirModifiers_data()
     }
 }
 
-/// A key during an input is a plain object's; only kinds with letters give it its text.
+/// A key during an input is handled as by a plain QObject; only kinds with letters give it its
+/// text.
 void EditorCallsTest::viewKeysReachTheObjectWithTheirModifiers()
 {
     FETCH_KIND(rules);

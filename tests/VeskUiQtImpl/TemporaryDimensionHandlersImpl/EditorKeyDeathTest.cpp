@@ -8,15 +8,15 @@ namespace vesk::test
 namespace
 {
 
-/// While what a victim dies.
+/// The moment at which a victim is destroyed.
 enum class During
 {
     Delivery, ///< Of the value, to the action.
-    Focus,    ///< As the editor gives the focus away. The toolkit goes on with the editor then.
-    Hidden,   ///< As the editor has been hidden, the last that the toolkit does with it.
-    View,     ///< As the view has the key.
-    NoView,   ///< As it is reported that the view is gone.
-    NoWidget, ///< As it is reported that the view has no widget.
+    Focus,    ///< As the editor gives up the focus. Qt continues to use the editor then.
+    Hidden,   ///< After the editor was hidden, the last thing Qt does with it.
+    View,     ///< While the view handles the key.
+    NoView,   ///< While the missing view is reported.
+    NoWidget, ///< While it is reported that the view has no widget.
 };
 
 struct NamedMoment
@@ -58,7 +58,7 @@ bool IsHandedOn(const KindRules& rules, int key)
     return key == Qt::Key_Escape && rules.Has(HandsEscapeOn);
 }
 
-/// Whether there is such a moment in what a key does.
+/// Whether the handling of a key has such a moment.
 bool Has(const KindRules& rules, int key, During during)
 {
     switch (during)
@@ -84,7 +84,7 @@ std::vector<const char*> VictimsOf(During during)
 
 }
 
-/// A handler in a view that answers, and an editor in which a value stands.
+/// A handler in a view that answers, and an editor with a value in it.
 struct EditorKeyFixture : KindFixture
 {
     EditorKeyFixture(const KindRules& rules, bool isTaking)
@@ -134,7 +134,7 @@ struct EditorKeyFixture : KindFixture
     std::unique_ptr<AnsweringView> pView;
 };
 
-/// What a key of the editor does and answers, whoever dies meanwhile.
+/// What a key of the editor does and returns, whichever object is destroyed meanwhile.
 class EditorKeyDeathTest : public QObject
 {
     Q_OBJECT
@@ -166,7 +166,7 @@ void AddDeathRow(std::size_t kind, const NamedKey& key, const NamedMoment& momen
 {
     for (const bool isTaking : {true, false})
     {
-        // Another key never comes to the view.
+        // Other keys never reach the view.
         if (isTaking || key.code == Qt::Key_Escape)
             QTest::addRow("%s, %s, %s dies %s, view %s", AllKinds()[kind].name, key.name, victim,
                           moment.name, isTaking ? "takes it" : "declines")
@@ -192,7 +192,7 @@ void EditorKeyDeathTest::keyIsSwallowedForAnEditorThatDied_data()
     }
 }
 
-/// Has a victim die at a moment.
+/// Destroys a victim at a given moment.
 class Death
 {
 public:
@@ -249,7 +249,7 @@ void EditorKeyDeathTest::keyIsSwallowedForAnEditorThatDied()
     const bool isTaken = Switches(rules, key) || (IsHandedOn(rules, key) && isTaking);
     QCOMPARE(isSwallowed, isEditorDead || (isTaken && !isReported));
     QCOMPARE(f.Editor() == nullptr, isEditorDead);
-    // Without a view there is nobody to deliver to.
+    // Without a view nothing is delivered.
     const bool isViewGone = victim == "view" && During(during) == During::Hidden;
     const bool isDelivered = Commits(rules, key) || Switches(rules, key);
     QCOMPARE(f.Inputs().size(), std::size_t(isDelivered && !isReported && !isViewGone ? 1 : 0));
@@ -262,7 +262,7 @@ void EditorKeyDeathTest::viewGetsEscapeItselfAndNothingElseOfIt_data()
     AddKindRows([](const KindRules& rules) { return rules.Has(HandsEscapeOn); });
 }
 
-/// Counts the key presses that go through the filters of an object.
+/// Counts the key presses that pass the event filters of an object.
 class KeyCounter final : public QObject
 {
 public:

@@ -7,7 +7,7 @@
 namespace vesk::test
 {
 
-/// Where the editor stands.
+/// The position of the editor.
 class EditorPlaceTest : public QObject
 {
     Q_OBJECT
@@ -37,7 +37,7 @@ void EditorPlaceTest::theEditorIsCentredOnItsPoint_data()
     QTest::newRow("height") << 6;
 }
 
-/// Where the editor's corner belongs for a world point.
+/// Where the top left corner of the editor belongs for a world point.
 QPoint CornerFor(const TestView& view, const Vector3d& world, const QSize& size)
 {
     int x = 0;

@@ -10,8 +10,8 @@ namespace vesk::test
 namespace
 {
 
-/// Notes whether typing is validated live while a shared editor gets its look, and then as the
-/// journal hears of it.
+/// Records whether typing is validated live while a shared editor is styled, and then while the
+/// journal is notified of it.
 class ValidationNotes final : public QObject, public IJournalObserver
 {
 public:
@@ -48,7 +48,7 @@ private:
 
 }
 
-/// What handlers do to the editor of their view, and what they leave as they find it.
+/// What handlers do to the editor of their view, and what they leave unchanged.
 class EditorReuseTest : public QObject
 {
     Q_OBJECT

@@ -13,7 +13,7 @@ int s_styleCount = 0;
 
 }
 
-/// Gives the toolkit the style that only one system has.
+/// Provides Qt with the style that only one system has.
 class SystemStylePlugin final : public QStylePlugin
 {
     Q_OBJECT
@@ -32,13 +32,13 @@ Q_IMPORT_PLUGIN(SystemStylePlugin)
 namespace vesk::test
 {
 
-/// The styles that an editor was given; its style sheet puts one of its own before them.
+/// The styles that an editor was given; its style sheet adds one of its own first.
 QList<QStyle*> StylesOf(const QLineEdit& editor)
 {
     return editor.findChildren<QStyle*>(QString(), Qt::FindDirectChildrenOnly);
 }
 
-/// The editor where there is the style that it is to have.
+/// The editor on a platform that has the style it asks for.
 class EditorStyleTest : public QObject
 {
     Q_OBJECT

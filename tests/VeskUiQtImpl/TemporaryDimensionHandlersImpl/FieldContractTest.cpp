@@ -11,7 +11,7 @@ using namespace vesk::test;
 namespace
 {
 
-/// A handler of a kind, under an action that notes what is delivered.
+/// A handler of a kind, under an action that records what is delivered.
 struct ContractFixture : KindFixture
 {
     explicit ContractFixture(const KindRules& kind) : KindFixture(kind.pCreateContext())
@@ -19,8 +19,8 @@ struct ContractFixture : KindFixture
         host.BeginAction();
     }
 
-    /// Opens a field with a number. False, and a warning is taken, when the handler has no such
-    /// field.
+    /// Opens a field with a number. Returns false, and consumes a warning, if the handler has no
+    /// such field.
     bool Open(InputState state, double value)
     {
         Inputs().clear();
@@ -32,7 +32,7 @@ struct ContractFixture : KindFixture
         return isOpen;
     }
 
-    /// Sends a key through the editor. True when the handler took the value with it.
+    /// Sends a key through the editor. Returns true if the handler committed the value with it.
     bool Press(int key)
     {
         FilterKey(key);
@@ -40,7 +40,7 @@ struct ContractFixture : KindFixture
     }
 };
 
-/// Every key that means something to anybody in an editor, and some more.
+/// Every key that has a meaning anywhere in an editor, and some more.
 std::vector<int> AllKeys()
 {
     std::vector<int> keys{Qt::Key_Return, Qt::Key_Enter,  Qt::Key_Tab,       Qt::Key_Backtab,
@@ -66,7 +66,7 @@ void AddFieldRows()
 
 Q_DECLARE_METATYPE(vesk::InputState)
 
-/// What the host takes for granted of the library's handlers, and what these do.
+/// What the host assumes about the handlers of the library, and what these do.
 class FieldContractTest final : public QObject
 {
     Q_OBJECT

@@ -8,13 +8,13 @@ namespace vesk::test
 
 VESK_EXPOSE(HandlerStyle, TemporaryDimensionStyle, TemporaryDimensionHandler, m_style)
 
-/// A plane that is not the world's.
+/// A plane other than the world plane.
 inline Coordinate3d TiltedPlane()
 {
     return {Vector3d(1, 2, 3), Vector3d(0, 1, 0), Vector3d(0, 0, 1)};
 }
 
-/// A handler of any kind and what it has generated.
+/// A handler of any kind and what it generated.
 struct GeneratorFixture : KindFixture
 {
     explicit GeneratorFixture(OwnerPtr<ITemporaryDimensionContext> opGiven)
@@ -23,7 +23,7 @@ struct GeneratorFixture : KindFixture
         host.view.GetCamera().SetWorldPerPixel(0.25);
     }
 
-    /// Whether the handler's own things went into a call, and TiltedPlane().
+    /// Whether a call was made with the handler's own objects and TiltedPlane().
     bool IsOwnCall(const GeneratorCall& call) const
     {
         const Coordinate3d plane = TiltedPlane();

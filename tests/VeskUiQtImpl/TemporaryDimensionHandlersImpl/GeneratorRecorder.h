@@ -19,12 +19,12 @@ struct TemporaryDimensionData;
 namespace vesk::test
 {
 
-/// One call of a generator of dimensions.
+/// One call of a dimension generator.
 struct GeneratorCall
 {
     std::string name;
     std::vector<Vector3d> points;
-    bool hasLines; ///< False where a generator is not told.
+    bool hasLines; ///< False if a generator is not told.
     Coordinate3d coordinate;
     InputState state;
     const TemporaryDimensionStyle* pStyle;
@@ -33,8 +33,8 @@ struct GeneratorCall
     const IGraphicsNode* pResult;
 };
 
-/// Notes the calls of generators while it lives. A program that links it has these generators
-/// instead of the host's, which the library then calls as well.
+/// Records the calls of generators during its lifetime. A program that links it has these
+/// generators instead of those of the host, and the library calls them too.
 class GeneratorRecorder
 {
 public:
@@ -45,7 +45,7 @@ public:
 
     const std::vector<GeneratorCall>& GetCalls() const;
 
-    /// Has the creation of lines fail after so many.
+    /// Makes the creation of lines fail after this many.
     void SetLineLimit(int count);
 };
 

@@ -119,7 +119,7 @@ void HandlerLayoutTest::operationsOfTheWidgetSideFollowEachOther()
 {
     const std::ptrdiff_t first = SlotOf(&Base::IsRawTextInput);
 
-    // The last operation that a widget has; what overrides the host's interface comes between.
+    // The last virtual function of a widget; overrides of the host's interface come in between.
     QVERIFY(first > SlotOf(&QWidget::setVisible));
     QCOMPARE(SlotOf(&Base::SetRawTextInput), first + 1);
     QCOMPARE(SlotOf(&Base::ShowInputWidget), first + 2);

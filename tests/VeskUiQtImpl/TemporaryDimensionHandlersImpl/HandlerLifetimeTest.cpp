@@ -5,7 +5,8 @@
 namespace vesk::test
 {
 
-/// Who may die while the host has control: handler, editor and view, in every kind.
+/// Which objects may be destroyed while the host has control: handler, editor and view, in every
+/// kind.
 class HandlerLifetimeTest : public QObject
 {
     Q_OBJECT
@@ -241,7 +242,7 @@ void HandlerLifetimeTest::handlerMayDieWhenTheFocusChanges_data()
     }
 }
 
-/// The editor may not: the toolkit goes on with the widget whose focus it took.
+/// The editor may not: Qt continues to use the widget that lost the focus.
 void HandlerLifetimeTest::handlerMayDieWhenTheFocusChanges()
 {
     FETCH_KIND(rules);

@@ -8,7 +8,7 @@ namespace vesk::test
 /// The three ways in which a key reaches a handler.
 enum class Door
 {
-    View,   ///< OnKeyDown, with the host's codes.
+    View,   ///< OnKeyDown, with the key codes of the host.
     Event,  ///< A key press of the handler itself.
     Editor, ///< The handler's filter on its editor.
 };
@@ -20,7 +20,7 @@ enum class ViewIs
     WithoutWidget,
 };
 
-/// What is being typed when the key comes.
+/// What is being typed when the key arrives.
 struct Typed
 {
     int field; ///< Negative: nothing.
@@ -46,7 +46,7 @@ struct Key
     }
 };
 
-/// What can be seen of a handler afterwards, and what the host was told by the key.
+/// The visible state of a handler afterwards, and what the key made it tell the host.
 struct Outcome
 {
     bool result = false;
@@ -58,7 +58,7 @@ struct Outcome
     QStringList values;
     QStringList warnings;
 
-    /// Whether the next key finds things as this one did.
+    /// Whether the next key starts from the same state as this one did.
     bool IsLike(const Outcome& before) const
     {
         return state == before.state && text == before.text && selected == before.selected &&
@@ -83,7 +83,7 @@ inline QString Warning(const std::string& function, const std::wstring& message)
     return QString::fromStdString(function) + ": " + QString::fromStdWString(message);
 }
 
-/// What the kinds are told about keys.
+/// What each kind does with a key, stated independently of the library.
 class Rules
 {
 public:
@@ -186,7 +186,7 @@ private:
         return outcome;
     }
 
-    /// Notes a delivered value. False when there was none, or a wrong one.
+    /// Records a delivered value. Returns false if there was none, or an invalid one.
     bool Deliver(Outcome& outcome, int kind) const
     {
         if (m_typed.field < 0)

@@ -21,7 +21,7 @@ VESK_EXPOSE(HandlerData, TemporaryDimensionData, TemporaryDimensionHandler, m_da
 
 constexpr char BaseClass[] = "vesk::TemporaryDimensionHandler::";
 
-/// A handler of any kind, made by the library's factory for a context.
+/// A handler of any kind, created for a context by the factory of the library.
 struct KindFixture
 {
     explicit KindFixture(OwnerPtr<ITemporaryDimensionContext> opGiven)
@@ -38,7 +38,7 @@ struct KindFixture
             opContext.Get(), nullptr);
     }
 
-    /// The handler as what the library knows it as.
+    /// The handler as the class by which the library knows it.
     TemporaryDimensionHandler& Handler() const
     {
         return static_cast<TemporaryDimensionHandler&>(*opHandler);
@@ -51,7 +51,7 @@ struct KindFixture
     void SetState(InputState state) { Handler().*MemberOf(HandlerState()) = state; }
     TemporaryDimensionData& Data() const { return Handler().*MemberOf(HandlerData()); }
 
-    /// The editor of the host's view, null before there is one.
+    /// The editor of the view of the host; null until it is created.
     QLineEdit* Editor() const
     {
         return host.view.findChild<QLineEdit*>(QStringLiteral("ViewInputLineEdit"));
@@ -63,7 +63,7 @@ struct KindFixture
         Handler().ShowInputWidget(state, false, true, text.toStdWString());
     }
 
-    /// Sends a key press to the handler's own event operation.
+    /// Sends a key press to the handler's own event function.
     bool SendToHandler(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier,
                        const QString& text = {})
     {
@@ -71,14 +71,14 @@ struct KindFixture
         return Object().event(&press);
     }
 
-    /// Has the handler filter a key press of its editor.
+    /// Makes the handler filter a key press of its editor.
     bool FilterKey(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
         QKeyEvent press(QEvent::KeyPress, key, modifiers);
         return Object().eventFilter(Editor(), &press);
     }
 
-    /// Takes the context's ranges and flags over, as when an action hands it in again.
+    /// Applies the ranges and flags of the context, as when an action passes it again.
     void Configure() { opHandler->UpdateConfig(opContext.Get()); }
 
     bool IsValidatedLive() const

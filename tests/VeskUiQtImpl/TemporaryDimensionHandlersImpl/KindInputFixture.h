@@ -5,7 +5,7 @@
 namespace vesk::test
 {
 
-/// A handler of a kind, whose fields show values, and an action that takes what is typed.
+/// A handler of a kind, whose fields show values, and an action that receives what is typed.
 struct KindInputFixture : KindFixture
 {
     explicit KindInputFixture(const KindRules& rules)
@@ -16,10 +16,10 @@ struct KindInputFixture : KindFixture
         redrawCountAtStart = host.view.GetRedrawCount();
     }
 
-    /// How often the handler had the host refresh the view.
+    /// How often the handler made the host refresh the view.
     int RefreshCount() const { return host.view.GetRedrawCount() - redrawCountAtStart; }
 
-    /// Has each field take its range and nothing else.
+    /// Makes each field accept only its range.
     void Narrow()
     {
         for (const FieldRules& field : kind.fields)
@@ -31,7 +31,7 @@ struct KindInputFixture : KindFixture
     int redrawCountAtStart;
 };
 
-/// One value of a kind, as it stands in a row. Both live as long as the table.
+/// One value of a kind, as it appears in a row. Both live as long as the table.
 struct KindField
 {
     const KindRules* pKind;

@@ -16,7 +16,7 @@ namespace vesk::test
 enum class Selected
 {
     Never,
-    InAnOpenEditor, ///< Not in one just fetched.
+    InAnOpenEditor, ///< Not in one that is just being opened.
     Always,
 };
 
@@ -29,16 +29,16 @@ struct FieldRules
     int returnKind;
     int tabKind;
     Selected selected;
-    bool isOpenedWithText; ///< An editor just fetched shows the given text, whatever is told.
-    Intervald range;       ///< To which tests narrow what is accepted.
+    bool isOpenedWithText; ///< An editor being opened always shows the given text.
+    Intervald range;       ///< The range to which tests restrict what is accepted.
     void (*pNarrow)(ITemporaryDimensionContext&, const Intervald&);
 
-    /// The value that tests have shown as the current one.
+    /// The value that tests show as the current one.
     double ShownValue() const { return 10.0 + int(state) + 0.98765; }
     QString ShownText() const { return QString::number(ShownValue(), 'f', decimals); }
 };
 
-/// What a kind does with keys beside digits, Return and Enter; together a set.
+/// What a kind does with keys other than digits, Return and Enter; flags of a set.
 enum KeyRule : unsigned
 {
     OpensWithLetters = 1, ///< And, where Tab switches, with Shift and comma.
@@ -48,7 +48,7 @@ enum KeyRule : unsigned
     HandsEscapeOn = 16, ///< To the view.
 };
 
-/// What is expected of a kind of handler, told once more for the tests.
+/// What is expected of a kind of handler, stated independently for the tests.
 struct KindRules
 {
     const char* name;
@@ -71,7 +71,7 @@ struct KindRules
                            [state](const FieldRules& field) { return field.state == state; });
     }
 
-    /// Gives every field its shown value.
+    /// Sets the shown value of every field.
     void ShowValuesIn(TemporaryDimensionData& data) const
     {
         for (const FieldRules& field : fields)
@@ -125,7 +125,7 @@ inline OwnerPtr<ITemporaryDimensionContext> CreateRotation()
                                                         Vector3d(30, 0, 0), Vector3d(0, 30, 0));
 }
 
-/// The values of the kinds. Where what is no number counts as 0, the range leaves that out.
+/// The values of the kinds. Where text that is not a number counts as 0, the range excludes 0.
 // clang-format off
 namespace Field
 {

@@ -8,7 +8,7 @@
 namespace vesk::test
 {
 
-/// A handler in a view that may go before it, and an action that takes its values.
+/// A handler in a view that may be destroyed first, and an action that receives its values.
 struct LifetimeFixture : KindFixture
 {
     explicit LifetimeFixture(const KindRules& rules)
@@ -33,7 +33,7 @@ struct LifetimeFixture : KindFixture
         pView.reset();
     }
 
-    /// Destroys "handler", "editor" or "view"; the editor goes with its view.
+    /// Destroys "handler", "editor" or "view"; the view destroys its editor.
     void Kill(const QString& victim)
     {
         if (victim == "handler")
@@ -44,7 +44,7 @@ struct LifetimeFixture : KindFixture
             delete Editor();
     }
 
-    /// Null without a view too.
+    /// Also null without a view.
     QLineEdit* Editor() const
     {
         return pView != nullptr ? pView->findChild<QLineEdit*>("ViewInputLineEdit") : nullptr;
@@ -66,7 +66,7 @@ struct LifetimeFixture : KindFixture
         QCoreApplication::sendEvent(Editor(), &press);
     }
 
-    /// Has all operations called that a host might still call.
+    /// Calls every function that a host might still call.
     void UseHandler()
     {
         opHandler->OnEditorReturnPressed();
@@ -80,8 +80,8 @@ struct LifetimeFixture : KindFixture
     std::unique_ptr<TestView> pView;
 };
 
-/// Does something once when a widget gets an event of a type. A widget that dies of it gets the
-/// event no more, for the toolkit would crash.
+/// Does something once when a widget gets an event of a given type. A widget destroyed by that no
+/// longer gets the event: Qt would crash.
 class EventTrap final : public QObject
 {
 public:

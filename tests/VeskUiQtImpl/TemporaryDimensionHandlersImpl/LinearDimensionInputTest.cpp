@@ -8,7 +8,7 @@ namespace vesk::test
 namespace
 {
 
-/// A handler for a segment, and an action that takes its values.
+/// A handler for a segment, and an action that receives its values.
 struct InputFixture : HandlerFixture
 {
     InputFixture() { host.BeginAction(); }

@@ -17,7 +17,7 @@ VESK_EXPOSE(SecondValidator, NumberValidator<double>, TemporaryDimensionHandler,
 
 constexpr char Function[] = "vesk::TemporaryDimensionHandlerFactory::UpdateOrCreateHandler";
 
-/// A handler of another kind, which notes whether it is configured.
+/// A handler of another kind, which records whether it is configured.
 class ForeignHandler final : public ITemporaryDimensionHandler
 {
 public:
@@ -215,7 +215,7 @@ void TemporaryDimensionHandlerFactoryTest::leavesAnOpenInputAlone_data()
     AddKindRows();
 }
 
-/// That of the linear handler, which the context keeps or has replaced.
+/// The input of the linear handler, which the context keeps or has replaced.
 void TemporaryDimensionHandlerFactoryTest::leavesAnOpenInputAlone()
 {
     FETCH_KIND(rules);
