@@ -41,17 +41,17 @@ QJsonObject FindPane(const UiTree& tree, const QString& name)
     return {};
 }
 
-/// Reports which pane differs.
-void CompareLayouts(const QJsonArray& actual, const QJsonArray& expected)
+QJsonArray PanesOf(const UiTree& tree)
 {
-    const auto toLines = [](const QJsonArray& panes) {
-        QStringList lines;
-        for (const QJsonValue& pane : panes)
-            lines << QString::fromUtf8(
-                QJsonDocument(pane.toObject()).toJson(QJsonDocument::Compact));
-        return lines;
-    };
-    QCOMPARE(toLines(actual), toLines(expected));
+    return tree.GetJson()["docks"].toArray();
+}
+
+QStringList ToLines(const QJsonArray& panes)
+{
+    QStringList lines;
+    for (const QJsonValue& pane : panes)
+        lines << QString::fromUtf8(QJsonDocument(pane.toObject()).toJson(QJsonDocument::Compact));
+    return lines;
 }
 
 }
@@ -84,6 +84,7 @@ private:
     bool WaitForPane(const QString& pane, const char* property, bool is);
     bool ClickTitle(const QString& pane, int fromTheRight);
     bool Restart();
+    void CompareLayout(const QJsonArray& expected);
     bool ShowLengthOfALine();
 };
 
@@ -91,7 +92,15 @@ private:
 QJsonArray PaneTest::Layout()
 {
     Session().WaitForRest();
-    return Session().Tree().GetJson()["docks"].toArray();
+    return PanesOf(Session().Tree());
+}
+
+/// Waits for a layout: panes that float come to their place when the window manager has got round
+/// to them. Says which pane differs.
+void PaneTest::CompareLayout(const QJsonArray& expected)
+{
+    Session().WaitFor([&expected](const UiTree& tree) { return PanesOf(tree) == expected; });
+    QCOMPARE(ToLines(PanesOf(Session().Tree())), ToLines(expected));
 }
 
 /// Drags a pane by its title.
@@ -192,7 +201,7 @@ void PaneTest::arrangedPanesComeBackInTheNextRun()
 
     const QJsonArray before = Layout();
     QVERIFY(Restart());
-    CompareLayouts(Layout(), before);
+    CompareLayout(before);
 }
 
 void PaneTest::aPaneDraggedOutOfTheBottomFloatsAtASizeOfItsOwn()
@@ -256,13 +265,13 @@ void PaneTest::allAreHiddenAndComeBackAsTheyWere()
         QVERIFY2(!Pane(name)["visible"].toBool(), qPrintable(name));
     // If the program is closed now, the next run has the previous layout.
     QVERIFY(Restart());
-    CompareLayouts(Layout(), before);
+    CompareLayout(before);
 
     QVERIFY(Session().Click(s_hideAll));
     QVERIFY(WaitForPane(s_journal, "visible", false));
     QVERIFY(Session().Click(s_hideAll));
     QVERIFY(WaitForPane(s_journal, "visible", true));
-    CompareLayouts(Layout(), before);
+    CompareLayout(before);
 }
 
 void PaneTest::theFactoryLayoutComesBack()
@@ -277,7 +286,7 @@ void PaneTest::theFactoryLayoutComesBack()
     QVERIFY(Session().Click(s_default));
 
     QVERIFY(WaitForPane(s_journal, "visible", true));
-    CompareLayouts(Layout(), factory);
+    CompareLayout(factory);
 }
 
 void PaneTest::thePanesFollowTheDrawing()
@@ -381,7 +390,7 @@ void PaneTest::aDamagedLayoutFileIsSurvived()
 
     QVERIFY(Session().Start());
 
-    CompareLayouts(Layout(), factory);
+    CompareLayout(factory);
     QCOMPARE(Session().Close(), 0);
     QVERIFY(Session().Start());
     QCOMPARE(ReadBytes(path + ".kept"), text);

@@ -325,7 +325,7 @@ class Scan:
             return
         start, end = self.extent(children[0])
         value, kind = self.text[start:end], children[0].type.get_canonical().kind
-        if start == end or re.fullmatch(r"true|false|nullptr|[\d.]+|\{\}", value):
+        if start == end or re.fullmatch(r"true|false|nullptr|std::nullopt|[\d.]+|\{\}", value):
             return
         if kind == cindex.TypeKind.BOOL:
             self.negate(children[0], "returned value")
@@ -361,7 +361,7 @@ class Scan:
         is_bool = result.kind == cindex.TypeKind.BOOL
         for child in body.get_children():
             start, end = self.extent(child)
-            if start == end or returns and re.fullmatch(r"return (\{\}|nullptr|false|true|0)", self.text[start:end]):
+            if start == end or returns and re.fullmatch(r"return (\{\}|nullptr|std::nullopt|false|true|0)", self.text[start:end]):
                 continue
             for put in [" {}"] if returns and not is_bool else [" false", " true"] if returns else [""]:
                 self.add(start, start, f"return{put}; ", "early return")

@@ -42,6 +42,8 @@ private slots:
     void idsAreThoseOfAutomaticNumbering();
     void idsOfOtherButtonsAreNotGivenAgain_data() { AddGroupKinds(); }
     void idsOfOtherButtonsAreNotGivenAgain();
+    void idOfAButtonThatCameBetweenIsNotGivenAgain_data() { AddGroupKinds(); }
+    void idOfAButtonThatCameBetweenIsNotGivenAgain();
     void insertionPutsIdsBackInOrder_data() { AddGroupKinds(); }
     void insertionPutsIdsBackInOrder();
     void clearingLetsIdsBeginAnew_data() { AddGroupKinds(); }
@@ -255,6 +257,21 @@ void ButtonGroupItemsTest::idsOfOtherButtonsAreNotGivenAgain()
     f->InsertItem(0, L"c");
     QCOMPARE(f->GetIds(), QList<int>({-3, -4, -5}));
     QCOMPARE(f->GetGroup().id(&other), -2);
+}
+
+void ButtonGroupItemsTest::idOfAButtonThatCameBetweenIsNotGivenAgain()
+{
+    QFETCH(MakeGroup, make);
+    const auto f = make({});
+    QPushButton other;
+    f->PlaceAndShow();
+    f->AddItem(L"a");
+    f->GetGroup().addButton(&other);
+
+    f->AddItem(L"b");
+
+    QCOMPARE(f->GetIds(), QList<int>({-2, -4}));
+    QCOMPARE(f->GetGroup().id(&other), -3);
 }
 
 void ButtonGroupItemsTest::insertionPutsIdsBackInOrder()

@@ -32,6 +32,8 @@ private slots:
     void handlerMayDieWhenTheEditorIsShown();
     void handlerMayDieWhenAReadyEditorIsShown_data();
     void handlerMayDieWhenAReadyEditorIsShown();
+    void editorMayDieWhenItIsShown_data() { AddKindRows(); }
+    void editorMayDieWhenItIsShown();
     void inputThatEndsWhenTheEditorIsShownStaysEnded_data();
     void inputThatEndsWhenTheEditorIsShownStaysEnded();
     void deathWhenAKeyIsReported_data();
@@ -300,6 +302,26 @@ void HandlerLifetimeTest::handlerMayDieWhenAReadyEditorIsShown()
     QVERIFY(f.opHandler == nullptr);
     QCOMPARE(f.Editor()->pos(), position);
     QCOMPARE(f.pView->GetRedrawCount(), redrawCount);
+}
+
+/// In the last event of it, behind which the toolkit leaves the editor alone.
+void HandlerLifetimeTest::editorMayDieWhenItIsShown()
+{
+    FETCH_KIND(rules);
+    LifetimeFixture f(rules);
+    f.TypeFirst("5");
+    f.opHandler->EndInput();
+    const EventTrap fetched(f.Editor(), QEvent::ShowToParent, [&] { delete f.Editor(); });
+    f.SendToHandler('6');
+    QVERIFY(f.Editor() == nullptr);
+    QVERIFY(!f.opHandler->IsInputting());
+
+    f.TypeFirst("5");
+    f.Editor()->hide();
+    const EventTrap ready(f.Editor(), QEvent::ShowToParent, [&] { delete f.Editor(); });
+    f.Handler().ShowInputWidget(rules.StartState(), true, true, L"6");
+
+    QVERIFY(f.Editor() == nullptr);
 }
 
 void HandlerLifetimeTest::inputThatEndsWhenTheEditorIsShownStaysEnded_data()

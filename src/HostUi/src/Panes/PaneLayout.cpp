@@ -1,6 +1,7 @@
 #include "HostUi/PaneLayout.h"
 
 #include "HostUi/QtText.h"
+#include "Panes/PanePosition.h"
 #include "Panes/PaneReach.h"
 
 #include <QCursor>
@@ -227,6 +228,7 @@ void PaneLayout::Prepare()
         pane.pWidget->installEventFilter(this);
         connect(pane.pWidget, &QDockWidget::topLevelChanged, this, &PaneLayout::OnFloated,
                 Qt::UniqueConnection);
+        PanePosition::Watch(*pane.pWidget);
         KeepUsable(*pane.pWidget);
         m_named.emplace_back(pane.pWidget);
     }

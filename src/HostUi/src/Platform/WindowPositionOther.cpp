@@ -1,0 +1,8 @@
+#include "Platform/WindowPosition.h"
+
+namespace vesk
+{
+
+void TellPosition(const QWindow&) {}
+
+}

@@ -1,0 +1,65 @@
+#include "Platform/WindowPosition.h"
+
+#include <QScreen>
+#include <QWindow>
+#include <QX11Info>
+
+#include <xcb/xcb.h>
+
+#include <cstdint>
+#include <cstdlib>
+#include <memory>
+
+namespace vesk
+{
+namespace
+{
+
+using Place = std::unique_ptr<xcb_translate_coordinates_reply_t, decltype(&std::free)>;
+
+Place AskForPlace(xcb_connection_t* pConnection, const QWindow& window)
+{
+    const auto root = static_cast<xcb_window_t>(QX11Info::appRootWindow());
+    const xcb_translate_coordinates_cookie_t cookie = xcb_translate_coordinates(
+        pConnection, static_cast<xcb_window_t>(window.winId()), root, 0, 0);
+    return {xcb_translate_coordinates_reply(pConnection, cookie, nullptr), &std::free};
+}
+
+/// In the window system's pixels. A screen keeps its corner, whatever its scale.
+QPoint PositionOf(const QWindow& window)
+{
+    const QPoint corner = window.screen()->geometry().topLeft();
+    return corner + (window.position() - corner) * window.devicePixelRatio();
+}
+
+/// What a window manager sends when it has moved a window without changing its size.
+void SendConfigureNotify(xcb_connection_t* pConnection, const QWindow& window, QPoint position)
+{
+    const QSize size = window.size() * window.devicePixelRatio();
+    xcb_configure_notify_event_t event{};
+    event.response_type = XCB_CONFIGURE_NOTIFY;
+    event.event = event.window = static_cast<xcb_window_t>(window.winId());
+    event.x = static_cast<std::int16_t>(position.x());
+    event.y = static_cast<std::int16_t>(position.y());
+    event.width = static_cast<std::uint16_t>(size.width());
+    event.height = static_cast<std::uint16_t>(size.height());
+    xcb_send_event(pConnection, 0, event.window, XCB_EVENT_MASK_STRUCTURE_NOTIFY,
+                   reinterpret_cast<const char*>(&event));
+    xcb_flush(pConnection);
+}
+
+}
+
+void TellPosition(const QWindow& window)
+{
+    xcb_connection_t* pConnection = QX11Info::isPlatformX11() ? QX11Info::connection() : nullptr;
+    const Place pPlace =
+        pConnection != nullptr ? AskForPlace(pConnection, window) : Place(nullptr, &std::free);
+    if (pPlace == nullptr)
+        return;
+    const QPoint position(pPlace->dst_x, pPlace->dst_y);
+    if (position != PositionOf(window))
+        SendConfigureNotify(pConnection, window, position);
+}
+
+}
