@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Dimension/InputField.h"
+#include "HostUi/TypedText.h"
 
 #include <QString>
 
