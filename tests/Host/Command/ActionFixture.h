@@ -6,7 +6,9 @@
 #include "Host/Command/ActionStandIns.h"
 #include "HostCore.h"
 #include "Journal/CommandParameters.h"
+#include "Journal/IJournalData.h"
 #include "Journal/JournalManager.h"
+#include "Journal/NqIJournalFactory.h"
 
 #include <map>
 

@@ -21,6 +21,8 @@ using ContextMaker = std::function<OwnerPtr<ITemporaryDimensionContext>()>;
 
 Q_DECLARE_METATYPE(ContextMaker)
 Q_DECLARE_METATYPE(InputState)
+Q_DECLARE_METATYPE(std::string)
+Q_DECLARE_METATYPE(std::wstring)
 Q_DECLARE_METATYPE(Quantity)
 
 namespace

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Support/IdleView.h"
+#include "View/IModelView.h"
 
 namespace vesk
 {
