@@ -34,6 +34,12 @@ struct Fixture
 
     void Send(QEvent& event) const { QCoreApplication::sendEvent(pPane->windowHandle(), &event); }
 
+    void Move() const
+    {
+        QMoveEvent move({7, 8}, {});
+        Send(move);
+    }
+
     QMainWindow window;
     QDockWidget* pPane = new QDockWidget(&window);
 };
@@ -92,9 +98,8 @@ private slots:
         f.pPane->setWindowFlag(Qt::X11BypassWindowManagerHint);
         f.pPane->show();
         s_askedCount = 0;
-        QMoveEvent move({7, 8}, {});
 
-        f.Send(move);
+        f.Move();
 
         QCOMPARE(s_askedCount, 0);
     }
@@ -105,9 +110,8 @@ private slots:
         f.pPane->setFloating(false);
         f.pPane->winId();
         s_askedCount = 0;
-        QMoveEvent move({7, 8}, {});
 
-        f.Send(move);
+        f.Move();
 
         QCOMPARE(s_askedCount, 0);
     }
@@ -118,9 +122,8 @@ private slots:
         f.pPane->setFloating(false);
         f.pPane->setFloating(true);
         s_askedCount = 0;
-        QMoveEvent move({7, 8}, {});
 
-        f.Send(move);
+        f.Move();
 
         QCOMPARE(s_askedCount, 1);
     }

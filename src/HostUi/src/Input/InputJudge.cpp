@@ -26,7 +26,7 @@ QString Round(double value, Quantity quantity)
     const TemporaryDimensionStyle style;
     const QString text = ToQString(quantity == Quantity::Length ? style.FormatLength(value)
                                                                 : style.FormatAngle(value));
-    if (text.toDouble() == 0.0 && value != 0.0)
+    if (text.toDouble() == 0.0)
         return QString::number(value, 'g', FewDigits);
     static const QRegularExpression s_lastZeros(QStringLiteral("\\.?0*$"));
     return QString(text).remove(s_lastZeros);

@@ -16,6 +16,14 @@ namespace
 {
 
 using Place = std::unique_ptr<xcb_translate_coordinates_reply_t, decltype(&std::free)>;
+using Geometry = std::unique_ptr<xcb_get_geometry_reply_t, decltype(&std::free)>;
+
+Geometry AskForGeometry(xcb_connection_t* pConnection, const QWindow& window)
+{
+    const xcb_get_geometry_cookie_t cookie =
+        xcb_get_geometry(pConnection, static_cast<xcb_window_t>(window.winId()));
+    return {xcb_get_geometry_reply(pConnection, cookie, nullptr), &std::free};
+}
 
 Place AskForPlace(xcb_connection_t* pConnection, const QWindow& window)
 {
@@ -35,14 +43,17 @@ QPoint PositionOf(const QWindow& window)
 /// What a window manager sends when it has moved a window without changing its size.
 void SendConfigureNotify(xcb_connection_t* pConnection, const QWindow& window, QPoint position)
 {
-    const QSize size = window.size() * window.devicePixelRatio();
+    // Its size as it is: from the toolkit's it cannot be told at every scale.
+    const Geometry pGeometry = AskForGeometry(pConnection, window);
+    if (pGeometry == nullptr)
+        return;
     xcb_configure_notify_event_t event{};
     event.response_type = XCB_CONFIGURE_NOTIFY;
     event.event = event.window = static_cast<xcb_window_t>(window.winId());
     event.x = static_cast<std::int16_t>(position.x());
     event.y = static_cast<std::int16_t>(position.y());
-    event.width = static_cast<std::uint16_t>(size.width());
-    event.height = static_cast<std::uint16_t>(size.height());
+    event.width = pGeometry->width;
+    event.height = pGeometry->height;
     xcb_send_event(pConnection, 0, event.window, XCB_EVENT_MASK_STRUCTURE_NOTIFY,
                    reinterpret_cast<const char*>(&event));
     xcb_flush(pConnection);
