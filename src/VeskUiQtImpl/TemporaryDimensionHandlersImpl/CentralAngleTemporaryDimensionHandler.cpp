@@ -3,6 +3,7 @@
 #include "Dimension/CentralAngleTemporaryDimensionContext.h"
 #include "Dimension/TemporaryDimensionCommons.h"
 #include "Graphics/IGraphicsNode.h"
+#include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/HandlerDrawing.h"
 
 namespace vesk
 {
@@ -30,7 +31,7 @@ CentralAngleTemporaryDimensionHandler::GenerateGraphics(const ITemporaryDimensio
 {
     const auto* pCentralAngle =
         dynamic_cast<const CentralAngleTemporaryDimensionContext*>(pContext);
-    Drawing drawing = BeginDrawing(pContext, pCentralAngle != nullptr,
+    HandlerDrawing drawing = HandlerDrawing::Begin(m_viewId, pContext, pCentralAngle != nullptr,
                                    "vesk::CentralAngleTemporaryDimensionHandler::GenerateGraphics",
                                    L"pCentralAngleCtx为空");
     if (!drawing.pixel.has_value())

@@ -30,4 +30,15 @@ std::optional<FieldRequest> FindOpening(const DimensionKind& kind, const QKeyEve
     return FieldRequest{kind.start, false, true, ToWide(*text)};
 }
 
+EditorKey FindEditorKey(const DimensionKind& kind, int key)
+{
+    if (key == Qt::Key_Return || key == Qt::Key_Enter)
+        return EditorKey::Commit;
+    if (key == Qt::Key_Space && kind.commitsWithSpace)
+        return EditorKey::Commit;
+    if (key == Qt::Key_Escape)
+        return EditorKey::Cancel;
+    return key == Qt::Key_Tab && kind.switchesWithTab ? EditorKey::Switch : EditorKey::Other;
+}
+
 }

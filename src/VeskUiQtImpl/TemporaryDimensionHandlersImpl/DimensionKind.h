@@ -28,10 +28,21 @@ struct DimensionKind
     bool handsEscapeOn = true;    ///< Passed to the view after the input has ended.
 };
 
+/// What a key does in the editor.
+enum class EditorKey
+{
+    Commit,
+    Cancel,
+    Switch, ///< Commits, and leads to the other field.
+    Other,
+};
+
 /// The field of a state; null if the kind has none.
 const DimensionField* FindField(const DimensionKind& kind, InputState state);
 
 /// The field that a key opens and what it shows; empty optional if the key opens nothing.
 std::optional<FieldRequest> FindOpening(const DimensionKind& kind, const QKeyEvent& event);
+
+EditorKey FindEditorKey(const DimensionKind& kind, int key);
 
 }

@@ -5,6 +5,7 @@
 #include "Geometry/Constants.h"
 #include "Graphics/IGraphicsNode.h"
 #include "VeskUiQtImpl/CheckSite.h"
+#include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/HandlerDrawing.h"
 
 #include <QKeyEvent>
 
@@ -39,9 +40,9 @@ LinearTemporaryDimensionHandler::GenerateGraphics(const ITemporaryDimensionConte
     const auto* pLinear = dynamic_cast<const LinearTemporaryDimensionContext*>(pContext);
     if (pLinear != nullptr && Vector3dUtils::IsEqual(pLinear->GetStartPoint(),
                                                      pLinear->GetEndPoint(), Constants::DOUBLE_EPS))
-        return CreateGroup();
-    Drawing drawing =
-        BeginDrawing(pContext, pLinear != nullptr,
+        return HandlerDrawing::CreateGroup();
+    HandlerDrawing drawing =
+        HandlerDrawing::Begin(m_viewId, pContext, pLinear != nullptr,
                      "vesk::LinearTemporaryDimensionHandler::GenerateGraphics", L"pLinearCtx为空");
     if (!drawing.pixel.has_value())
         return std::move(drawing.opGroup);

@@ -5,6 +5,7 @@
 #include "Geometry/Constants.h"
 #include "Graphics/IGraphicsNode.h"
 #include "VeskUiQtImpl/CheckSite.h"
+#include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/HandlerDrawing.h"
 
 #include <Eigen/Geometry>
 
@@ -55,8 +56,8 @@ OwnerPtr<IGraphicsNodeGroup>
 RadiusTemporaryDimensionHandler::GenerateGraphics(const ITemporaryDimensionContext* pContext)
 {
     const auto* pRadius = dynamic_cast<const RadiusTemporaryDimensionContext*>(pContext);
-    Drawing drawing =
-        BeginDrawing(pContext, pRadius != nullptr, GenerateFunction, L"pRadiusCtx为空");
+    HandlerDrawing drawing =
+        HandlerDrawing::Begin(m_viewId, pContext, pRadius != nullptr, GenerateFunction, L"pRadiusCtx为空");
     if (!drawing.pixel.has_value())
         return std::move(drawing.opGroup);
 

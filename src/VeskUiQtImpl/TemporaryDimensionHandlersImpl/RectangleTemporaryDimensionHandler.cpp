@@ -3,6 +3,7 @@
 #include "Dimension/RectangleTemporaryDimensionContext.h"
 #include "Dimension/TemporaryDimensionCommons.h"
 #include "Graphics/IGraphicsNode.h"
+#include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/HandlerDrawing.h"
 
 namespace vesk
 {
@@ -32,7 +33,7 @@ OwnerPtr<IGraphicsNodeGroup>
 RectangleTemporaryDimensionHandler::GenerateGraphics(const ITemporaryDimensionContext* pContext)
 {
     const auto* pRectangle = dynamic_cast<const RectangleTemporaryDimensionContext*>(pContext);
-    Drawing drawing = BeginDrawing(pContext, pRectangle != nullptr,
+    HandlerDrawing drawing = HandlerDrawing::Begin(m_viewId, pContext, pRectangle != nullptr,
                                    "vesk::RectangleTemporaryDimensionHandler::GenerateGraphics",
                                    L"pRectangleCtx为空");
     if (!drawing.pixel.has_value())

@@ -3,6 +3,7 @@
 #include "Dimension/RotationTemporaryDimensionContext.h"
 #include "Dimension/TemporaryDimensionCommons.h"
 #include "Graphics/IGraphicsNode.h"
+#include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/HandlerDrawing.h"
 
 namespace vesk
 {
@@ -28,7 +29,7 @@ OwnerPtr<IGraphicsNodeGroup>
 RotationTemporaryDimensionHandler::GenerateGraphics(const ITemporaryDimensionContext* pContext)
 {
     const auto* pRotation = dynamic_cast<const RotationTemporaryDimensionContext*>(pContext);
-    Drawing drawing = BeginDrawing(pContext, pRotation != nullptr,
+    HandlerDrawing drawing = HandlerDrawing::Begin(m_viewId, pContext, pRotation != nullptr,
                                    "vesk::RotationTemporaryDimensionHandler::GenerateGraphics",
                                    L"pRotationCtx为空");
     if (!drawing.pixel.has_value())

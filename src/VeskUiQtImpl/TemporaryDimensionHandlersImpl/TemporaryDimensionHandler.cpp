@@ -1,18 +1,20 @@
 #include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/TemporaryDimensionHandler.h"
 
+#include "Command/ActionManager.h"
 #include "Dimension/ITemporaryDimensionContext.h"
+#include "Foundation/FirstException.h"
 #include "Geometry/Constants.h"
 #include "Journal/IJournalManager.h"
 #include "Journal/IJournalUiObject.h"
 #include "VeskUiQtImpl/CheckSite.h"
-#include "VeskUiQtImpl/CreateChild.h"
+#include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/EditorWindow.h"
 #include "VeskUiQtImpl/ViewLookup.h"
 #include "View/IUiManager.h"
 #include "View/IUiView.h"
-#include "View/UiViewUtility.h"
 
-#include <QStyle>
-#include <QStyleFactory>
+#include "HostUi/QtText.h"
+
+#include <QKeyEvent>
 
 namespace vesk
 {
@@ -23,14 +25,6 @@ constexpr double MinAngle = -180.0;
 constexpr double MaxAngle = 180.0;
 constexpr int ValueDecimals = 3;
 constexpr int DimensionEditorKind = 3;
-
-/// Moves the editor of an embedded view far off screen: it keeps the focus but is not visible.
-constexpr int EmbeddedViewOffset = 10000;
-
-constexpr char EditorStyleSheet[] =
-    "QLineEdit{ color:rgba(199, 199, 120, 100%); border:2px solid rgba(199, 199, 120, 100%); "
-    "font:10pt; border-radius:4px}QLineEdit:!enabled{ color:rgba(100, 100, 100, "
-    "100%);}QLineEdit:focus{ color:rgba(0, 0, 0, 100%); background:rgba(255, 255, 255, 100%);}";
 
 /// The main window's widget; null if there is none. Warns in the name of `function` if the host has
 /// no user-interface manager or no main window.
@@ -46,17 +40,11 @@ QWidget* FindMainWindow(const char* function)
     return pWidget != nullptr && pWidget->winId() != 0 ? pWidget : nullptr;
 }
 
-/// The editor's style is its child, created once, since the widget itself never owns a style. Null
-/// if the platform has no such style; the editor then keeps the application's.
-QStyle* FindOrCreateStyle(QWidget& editor)
+/// Without a view nothing is delivered.
+void Deliver(std::uint32_t viewId, const ActionViewInput& record)
 {
-    auto* pStyle = editor.findChild<QStyle*>(QString(), Qt::FindDirectChildrenOnly);
-    if (pStyle != nullptr)
-        return pStyle;
-    pStyle = QStyleFactory::create(QStringLiteral("WindowsVista"));
-    if (pStyle != nullptr)
-        pStyle->setParent(&editor);
-    return pStyle;
+    if (IUiView* pView = FindViewById(viewId))
+        ActionManager::ProcessViewInput(pView, record);
 }
 
 }
@@ -88,12 +76,8 @@ bool TemporaryDimensionHandler::HasEditorFocus()
 void TemporaryDimensionHandler::EndInput()
 {
     m_InputState = InputState::IS_None;
-    TemporaryDimensionHandleEditor* pEditor = m_pEditor;
-    if (pEditor == nullptr)
-        return;
-    // These calls move the focus, and handlers of that may destroy the handler.
-    pEditor->clearFocus();
-    pEditor->hide();
+    if (m_pEditor != nullptr)
+        EditorWindow(m_pEditor).Hide();
 }
 
 bool TemporaryDimensionHandler::UpdateConfig(const ITemporaryDimensionContext* pContext)
@@ -131,9 +115,18 @@ void TemporaryDimensionHandler::CreateEditorWidget()
     QWidget* pViewWidget = QWidget::find(pView->GetWindowId());
     if (!Check(pViewWidget != nullptr, VESK_SITE(Function, L"pNqView为空。")))
         return;
-    if (!FindOrCreateEditor(pViewWidget) || !ActivateEditor(pViewWidget))
+    const QPointer<TemporaryDimensionHandler> pSelf(this);
+    TemporaryDimensionHandleEditor* pEditor = EditorWindow::FindOrCreate(*pViewWidget);
+    if (pSelf == nullptr)
         return;
-    StyleEditor();
+    m_pEditor = pEditor;
+    if (!Check(m_pEditor != nullptr, VESK_SITE(Function, L"m_pEditor创建失败。")))
+        return;
+    EditorWindow window(m_pEditor);
+    const QSize size(m_style.GetEditorWidth(), m_style.GetEditorHeight());
+    if (!window.Activate(*pViewWidget, *this, size))
+        return;
+    window.ApplyStyle();
     m_opValidateHelper = MakeOwner<LineEditValidateHelper>(this);
     RegisterEditor();
 }
@@ -145,21 +138,7 @@ void TemporaryDimensionHandler::SetEditorPosition(const Vector3d& world)
     const IUiView* pView = FindView();
     if (pView == nullptr)
         return;
-    int x = 0;
-    int y = 0;
-    float depth = 0.0F;
-    UiViewUtility::WorldPositionToScreenPosition(pView, world, x, y, depth);
-    const QWidget* pViewWidget = QWidget::find(pView->GetWindowId());
-    if (!Check(pViewWidget != nullptr,
-               VESK_SITE("vesk::TemporaryDimensionHandler::SetEditorPosition", L"pNqView为空。")))
-        return;
-
-    const QSize size = m_pEditor->size();
-    QPoint corner = pViewWidget->mapToGlobal(QPoint(0, 0)) +
-                    QPoint(x - size.width() / 2, y - size.height() / 2);
-    if (dynamic_cast<const IUiView*>(pViewWidget->parent()) != nullptr)
-        corner += QPoint(EmbeddedViewOffset, EmbeddedViewOffset);
-    m_pEditor->move(corner);
+    EditorWindow(m_pEditor).MoveTo(*pView, world);
 }
 
 void TemporaryDimensionHandler::ResetEditorPosition()
@@ -205,55 +184,6 @@ void TemporaryDimensionHandler::RefreshViewId()
         m_viewId = pView->GetId();
 }
 
-/// Successive handlers of a view share the editor that the first of them created there.
-bool TemporaryDimensionHandler::FindOrCreateEditor(QWidget* pViewWidget)
-{
-    constexpr char Function[] = "vesk::TemporaryDimensionHandler::CreateEditorWidget";
-    const QString name = QStringLiteral("ViewInputLineEdit");
-    m_pEditor = pViewWidget->findChild<TemporaryDimensionHandleEditor*>(name);
-    if (m_pEditor != nullptr)
-        return true;
-    const QPointer<TemporaryDimensionHandler> pSelf(this);
-    auto* pEditor = CreateChild<TemporaryDimensionHandleEditor>(pViewWidget, Function);
-    if (pSelf == nullptr)
-        return false;
-    m_pEditor = pEditor;
-    if (!Check(m_pEditor != nullptr, VESK_SITE(Function, L"m_pEditor创建失败。")))
-        return false;
-    m_pEditor->setObjectName(name);
-    m_pEditor->setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
-    return true;
-}
-
-/// Returns false if this destroyed the handler or the editor.
-bool TemporaryDimensionHandler::ActivateEditor(QWidget* pViewWidget)
-{
-    const QPointer<TemporaryDimensionHandler> pSelf(this);
-    const QPointer<TemporaryDimensionHandleEditor> pEditor = m_pEditor;
-    const QPointer<QWidget> pView(pViewWidget);
-    pEditor->installEventFilter(this);
-    pEditor->setFixedSize(m_style.GetEditorWidth(), m_style.GetEditorHeight());
-    pEditor->show();
-    if (pEditor != nullptr)
-    {
-        pEditor->activateWindow();
-        pEditor->setFocus(Qt::OtherFocusReason);
-    }
-    if (pSelf == nullptr || pEditor == nullptr || pView == nullptr)
-        return false;
-    pView->installEventFilter(pEditor);
-    return true;
-}
-
-void TemporaryDimensionHandler::StyleEditor()
-{
-    m_pEditor->setStyleSheet(QString::fromLatin1(EditorStyleSheet));
-    m_pEditor->setStyle(FindOrCreateStyle(*m_pEditor));
-    QPalette palette = m_pEditor->palette();
-    palette.setBrush(QPalette::Base, Qt::white);
-    m_pEditor->setPalette(palette);
-}
-
 void TemporaryDimensionHandler::RegisterEditor()
 {
     OwnerPtr<IJournalUiObject> opUiObject = IJournalUiObject::Create();
@@ -264,6 +194,246 @@ void TemporaryDimensionHandler::RegisterEditor()
 
     opUiObject->SetUiObject(Any(static_cast<QObject*>(m_pEditor)));
     IJournalManager::Get()->AddUiObject(std::move(opUiObject), DimensionEditorKind, 0);
+}
+
+/// The view the handler works in; null if it no longer exists.
+IUiView* TemporaryDimensionHandler::FindView() const
+{
+    return FindViewById(m_viewId);
+}
+
+/// Has the host regenerate the dimensions of the handler's view.
+void TemporaryDimensionHandler::RefreshView()
+{
+    if (IUiView* pView = FindView())
+        ActionManager::RefreshViewInput(pView);
+}
+
+void TemporaryDimensionHandler::ShowField(const DimensionKind& kind, const char* function,
+                                          const FieldRequest& request)
+{
+    const DimensionField* pField = FindField(kind, request.state);
+    if (!Check(pField != nullptr, VESK_SITE(function, L"InputState输入非法!")))
+        return;
+    if (!BeginInput(request.state, request.editorReady))
+        return;
+
+    const bool isOpenedByKey = pField->rule == FieldRule::OpenedByKey && !request.editorReady;
+    const bool isGivenText = request.useGivenText || isOpenedByKey;
+    const bool isSelected =
+        pField->rule == FieldRule::ReachedByTab ? kind.switchesWithTab : request.editorReady;
+    ShowEditor(isGivenText ? ToQString(request.text) : FormatValue(*pField), isSelected);
+}
+
+/// Enters a state; without `editorReady` the editor is found or created. Returns false if there is
+/// no editor, and no input runs then, or if the host ended the input while the focus moved.
+bool TemporaryDimensionHandler::BeginInput(InputState state, bool editorReady)
+{
+    const QPointer<TemporaryDimensionHandler> pSelf(this);
+    m_InputState = state;
+    FirstException exception;
+    if (!editorReady)
+        exception.Catch([this] { CreateEditorWidget(); });
+    if (pSelf != nullptr && (m_pEditor == nullptr || exception.IsKept()))
+        EndInput();
+    exception.Throw();
+    return pSelf != nullptr && m_InputState == state;
+}
+
+/// The current value of a field, formatted as its dimension shows it.
+QString TemporaryDimensionHandler::FormatValue(const DimensionField& field) const
+{
+    const int decimals = field.slot == ValueSlot::First ? m_style.GetFirstValueDecimals()
+                                                        : m_style.GetSecondValueDecimals();
+    return QString::number(m_data[field.state].value, 'f', decimals);
+}
+
+/// Shows the editor with a text at the position of its field.
+void TemporaryDimensionHandler::ShowEditor(const QString& text, bool isSelected)
+{
+    const QPointer<TemporaryDimensionHandler> pSelf(this);
+    const Vector3d anchor = m_data[m_InputState].textPosition;
+    EditorWindow(m_pEditor).Show(text, isSelected);
+    if (pSelf == nullptr)
+        return;
+    SetEditorPosition(anchor);
+    // The report for a view without a widget may have run an event loop.
+    if (pSelf != nullptr)
+        RefreshView();
+}
+
+void TemporaryDimensionHandler::CommitValue(const DimensionKind& kind, const char* function)
+{
+    std::optional<TakenValue> taken = TakeValue(kind, function);
+    if (!taken.has_value())
+        return;
+
+    taken->record.kind = taken->field.returnKind;
+    RefreshViewId();
+    const std::uint32_t viewId = m_viewId;
+    EndInput();
+    Deliver(viewId, taken->record);
+}
+
+void TemporaryDimensionHandler::CommitValueAndSwitch(const DimensionKind& kind,
+                                                     const char* function)
+{
+    std::optional<TakenValue> taken = TakeValue(kind, function);
+    if (!taken.has_value())
+        return;
+
+    taken->record.kind = taken->field.tabKind;
+    const QPointer<TemporaryDimensionHandler> pSelf(this);
+    Deliver(m_viewId, taken->record);
+    // The action may have ended the input, and the handler may exist only because it is still on
+    // the stack.
+    if (pSelf == nullptr || !IsInputting())
+        return;
+    if (m_opValidateHelper != nullptr && m_pEditor != nullptr)
+        m_opValidateHelper->SetValidators({{m_pEditor, nullptr}});
+    ShowInputWidget(taken->field.next, true, false, L"");
+}
+
+/// Reads and validates the text of the editor; empty if no value is being typed, or an invalid one.
+/// In raw-text mode every text is valid, and the live validation ends with it.
+std::optional<TemporaryDimensionHandler::TakenValue>
+TemporaryDimensionHandler::TakeValue(const DimensionKind& kind, const char* function)
+{
+    if (!IsInputting() || m_pEditor == nullptr)
+        return std::nullopt;
+    TakenValue taken;
+    const QString text = m_pEditor->text();
+    bool isNumber = false;
+    taken.record.value = text.toDouble(&isNumber);
+    if (m_isRawTextInput)
+    {
+        taken.record.text = ToWide(text);
+        m_opValidateHelper.Reset();
+    }
+
+    const DimensionField* pField = FindField(kind, m_InputState);
+    if (!Check(pField != nullptr, VESK_SITE(function, kind.wrongState)))
+        return std::nullopt;
+    taken.field = *pField;
+    if (!m_isRawTextInput &&
+        !IsAccepted(taken.record.value, isNumber || !kind.needsNumber, *pField))
+        return std::nullopt;
+    return taken;
+}
+
+/// Validates a value. A rejected one stays in the editor, selected.
+bool TemporaryDimensionHandler::IsAccepted(double value, bool isNumber, const DimensionField& field)
+{
+    const NumberValidator<double>& validator = ValidatorOf(field);
+    if (m_opValidateHelper != nullptr)
+        m_opValidateHelper->SetValidators({{m_pEditor, &validator}});
+    if (isNumber && validator.ValidateValue(value))
+        return true;
+    m_pEditor->selectAll();
+    return false;
+}
+
+const NumberValidator<double>&
+TemporaryDimensionHandler::ValidatorOf(const DimensionField& field) const
+{
+    return field.slot == ValueSlot::First ? m_firstValueValidator : m_secondValueValidator;
+}
+
+bool TemporaryDimensionHandler::HandleEvent(QEvent* pEvent, const DimensionKind& kind,
+                                            const char* function)
+{
+    if (pEvent->type() != QEvent::KeyPress)
+        return HandleAsPlainObject(pEvent);
+    const auto* pKeyEvent = dynamic_cast<QKeyEvent*>(pEvent);
+    if (!Check(pKeyEvent != nullptr, VESK_SITE(function, L"难道pEvent不是键盘事件?")))
+        return false;
+    const std::optional<FieldRequest> opening = FindOpening(kind, *pKeyEvent);
+    if (IsInputting() || !opening.has_value())
+        return PassKeyOn(pEvent);
+
+    const QPointer<TemporaryDimensionHandler> pSelf(this);
+    ShowInputWidget(opening->state, opening->editorReady, opening->useGivenText, opening->text);
+    if (!IsMinusKey(pKeyEvent->key()))
+        return true;
+    // A minus also opens the editor but is not consumed.
+    return pSelf != nullptr && PassKeyOn(pEvent);
+}
+
+bool TemporaryDimensionHandler::SendViewKey(const DimensionKind& kind, int virtualKey,
+                                            Qt::KeyboardModifiers modifiers)
+{
+    if (!IsTakenFromView(virtualKey, kind.openingKeys))
+        return false;
+    const QString text = kind.hasKeyText ? TextOf(virtualKey) : QString();
+    QKeyEvent keyEvent(QEvent::KeyPress, virtualKey, modifiers, text);
+    return event(&keyEvent);
+}
+
+/// For a key that opens nothing: the host refreshes, the rest is as for a plain QObject.
+bool TemporaryDimensionHandler::PassKeyOn(QEvent* pEvent)
+{
+    const QPointer<TemporaryDimensionHandler> pSelf(this);
+    RefreshView();
+    return pSelf != nullptr && HandleAsPlainObject(pEvent);
+}
+
+bool TemporaryDimensionHandler::HandleAsPlainObject(QEvent* pEvent)
+{
+    return QObject::event(pEvent); // NOLINT(bugprone-parent-virtual-call): skips QWidget on purpose
+}
+
+/// Returns true for an editor that was destroyed: otherwise Qt would deliver the event to it.
+bool TemporaryDimensionHandler::FilterEditorEvent(QObject* pWatched, QEvent* pEvent,
+                                                  const EditorRules& rules)
+{
+    if (pEvent->type() == QEvent::KeyRelease)
+        return true;
+    auto* pKeyEvent =
+        pEvent->type() == QEvent::KeyPress ? dynamic_cast<QKeyEvent*>(pEvent) : nullptr;
+    if (pKeyEvent == nullptr)
+        return QObject::eventFilter(pWatched, pEvent);
+    const QPointer<QObject> pEditor(pWatched);
+    if (!Check(FindView() != nullptr, VESK_SITE(rules.function, L"pUIView指针不能为空")))
+        return pEditor == nullptr;
+    if (!Check(FindViewWidget(m_viewId) != nullptr,
+               VESK_SITE(rules.function, L"pViewWidget指针不能为空")))
+        return pEditor == nullptr;
+
+    return HandleEditorKey(pWatched, *pKeyEvent, rules);
+}
+
+bool TemporaryDimensionHandler::HandleEditorKey(QObject* pWatched, QKeyEvent& event,
+                                                const EditorRules& rules)
+{
+    const QPointer<QObject> pEditor(pWatched);
+    switch (FindEditorKey(rules.kind, event.key()))
+    {
+    case EditorKey::Commit:
+        OnEditorReturnPressed();
+        return pEditor == nullptr;
+    case EditorKey::Cancel:
+        return HandleEscape(pEditor, event, rules.kind.handsEscapeOn);
+    case EditorKey::Switch:
+        rules.onTab();
+        return true;
+    case EditorKey::Other:
+        break;
+    }
+    return QObject::eventFilter(pWatched, &event);
+}
+
+bool TemporaryDimensionHandler::HandleEscape(const QPointer<QObject>& pWatched, QKeyEvent& event,
+                                             bool isHandedOn)
+{
+    const QPointer<TemporaryDimensionHandler> pSelf(this);
+    const std::uint32_t viewId = m_viewId;
+    EndInput();
+    if (!isHandedOn)
+        return pWatched == nullptr || (pSelf != nullptr && IsInputting());
+
+    QObject* pViewWidget = FindViewWidget(viewId);
+    const bool isConsumed = pViewWidget != nullptr && pViewWidget->event(&event);
+    return pWatched == nullptr || isConsumed;
 }
 
 }

@@ -73,13 +73,6 @@ public:
     void EnableIme();
 
 protected:
-    /// What a kind of handler draws into.
-    struct Drawing
-    {
-        OwnerPtr<IGraphicsNodeGroup> opGroup;
-        std::optional<double> pixel; ///< World width of a pixel; empty if nothing can be drawn.
-    };
-
     /// How a kind of handler responds to the keys of its editor.
     struct EditorRules
     {
@@ -87,15 +80,6 @@ protected:
         const char* function;        ///< Name used in warnings.
         std::function<void()> onTab; ///< Empty for kinds without Tab switching.
     };
-
-    /// An empty group that cannot be picked in a view.
-    static OwnerPtr<IGraphicsNodeGroup> CreateGroup();
-
-    /// Creates what a kind draws into. Warns in the name of `function` if there is no context (then
-    /// there is no group either), if the context belongs to another kind (`wrongContext`), and if
-    /// the view cannot be drawn in.
-    Drawing BeginDrawing(const ITemporaryDimensionContext* pContext, bool isOwnContext,
-                         const char* function, const wchar_t* wrongContext) const;
 
     /// Opens the editor on a field of the kind. Warns for any other state.
     void ShowField(const DimensionKind& kind, const char* function, const FieldRequest& request);
@@ -138,12 +122,8 @@ private:
 
     int GetInputState() const { return static_cast<int>(m_InputState); }
     IUiView* FindView() const;
-    IUiView* FindDrawableView(const char* function) const;
     void RefreshView();
     void RefreshViewId();
-    bool FindOrCreateEditor(QWidget* pViewWidget);
-    bool ActivateEditor(QWidget* pViewWidget);
-    void StyleEditor();
     void RegisterEditor();
     bool BeginInput(InputState state, bool editorReady);
     QString FormatValue(const DimensionField& field) const;

@@ -353,13 +353,13 @@ struct PlacedReport
 };
 
 const PlacedReport PlacedReports[]{
-    {"no context", "TemporaryDimensionHandlerGraphics.cpp",
+    {"no context", "HandlerDrawing.cpp",
      [](KindFixture& f) { f.opHandler->GenerateGraphics(nullptr); }},
-    {"wrong context", "TemporaryDimensionHandlerGraphics.cpp",
+    {"wrong context", "HandlerDrawing.cpp",
      [](KindFixture& f) {
          f.opHandler->GenerateGraphics(std::make_unique<ForeignContext>().get());
      }},
-    {"no model", "TemporaryDimensionHandlerGraphics.cpp",
+    {"no model", "HandlerDrawing.cpp",
      [](KindFixture& f) {
          f.host.view.SetHasModelView(false);
          f.opHandler->GenerateGraphics(f.opContext.Get());
@@ -373,9 +373,9 @@ const PlacedReport PlacedReports[]{
          f.host.view.SetWindowId(0);
          f.Handler().ShowInputWidget(InputState::IS_Length, false, true, L"5");
      }},
-    {"wrong field", "TemporaryDimensionHandlerInput.cpp",
+    {"wrong field", "TemporaryDimensionHandler.cpp",
      [](KindFixture& f) { f.Type(InputState::IS_Radius, "5"); }},
-    {"no key", "TemporaryDimensionHandlerKeys.cpp",
+    {"no key", "TemporaryDimensionHandler.cpp",
      [](KindFixture& f) {
          QEvent fake(QEvent::KeyPress);
          f.Object().event(&fake);
