@@ -21,7 +21,7 @@ struct FileOption
     bool isRead;
 };
 
-constexpr FileOption s_fileOptions[] = {
+constexpr FileOption FileOptions[] = {
     {"journal", "FILE", "record the session in FILE, replacing it unless it is also read",
      &Options::journal, false},
     {"replay", "FILE", "replay the journal FILE without a window, then exit", &Options::replay,
@@ -62,9 +62,9 @@ bool MayBeOne(const FileOption& first, const FileOption& second)
 
 QString CheckNames(const Options& options)
 {
-    for (const FileOption& first : s_fileOptions)
+    for (const FileOption& first : FileOptions)
     {
-        for (const FileOption* pSecond = &first + 1; pSecond != std::end(s_fileOptions); ++pSecond)
+        for (const FileOption* pSecond = &first + 1; pSecond != std::end(FileOptions); ++pSecond)
         {
             const QString& path = options.*first.member;
             if (!MayBeOne(first, *pSecond) && IsSameFile(path, options.*pSecond->member))
@@ -99,7 +99,7 @@ Options ParseOptions(const QStringList& arguments)
         QStringLiteral("Draws lines of exact length and angle; every session can be replayed."));
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
-    for (const FileOption& option : s_fileOptions)
+    for (const FileOption& option : FileOptions)
         parser.addOption(QCommandLineOption(QString::fromLatin1(option.name),
                                             QString::fromLatin1(option.help),
                                             QString::fromLatin1(option.value)));
@@ -123,7 +123,7 @@ Options ParseOptions(const QStringList& arguments)
         options.task = Options::Task::ShowVersion;
     options.help = parser.helpText();
 
-    for (const FileOption& option : s_fileOptions)
+    for (const FileOption& option : FileOptions)
     {
         const QString name = QString::fromLatin1(option.name);
         options.*option.member = parser.value(name);

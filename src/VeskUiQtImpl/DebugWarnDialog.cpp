@@ -26,10 +26,12 @@ void Show(QLineEdit& field, const QString& text)
 DebugWarnDialog::DebugWarnDialog(QWidget* pParent) : QDialog(pParent)
 {
     m_form.Build(this);
-    connect(m_form.pIgnore, SIGNAL(clicked()), this, SLOT(IgnoreButtonPushed()));
-    connect(m_form.pIgnoreAll, SIGNAL(clicked()), this, SLOT(IgnoreAllButtonPushed()));
-    connect(m_form.pReportBug, SIGNAL(clicked()), this, SLOT(ReportBugButtonPushed()));
-    connect(m_form.pDebug, SIGNAL(clicked()), this, SLOT(DebugButtonPushed()));
+    connect(m_form.pIgnore, &QPushButton::clicked, this, &DebugWarnDialog::IgnoreButtonPushed);
+    connect(m_form.pIgnoreAll, &QPushButton::clicked, this,
+            &DebugWarnDialog::IgnoreAllButtonPushed);
+    connect(m_form.pReportBug, &QPushButton::clicked, this,
+            &DebugWarnDialog::ReportBugButtonPushed);
+    connect(m_form.pDebug, &QPushButton::clicked, this, &DebugWarnDialog::DebugButtonPushed);
 }
 
 DebugWarnDialog::~DebugWarnDialog() = default;

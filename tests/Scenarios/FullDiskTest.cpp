@@ -65,7 +65,7 @@ class Shortage
 {
 public:
     Shortage(bool isByPages, const QString& folder)
-        : m_pDisk(isByPages ? std::make_unique<SmallDisk>(s_diskPages) : nullptr),
+        : m_pDisk(isByPages ? std::make_unique<SmallDisk>(DiskPages) : nullptr),
           m_folder(isByPages ? m_pDisk->File("home") : folder)
     {
         QDir().mkpath(m_folder);
@@ -95,7 +95,7 @@ public:
     }
 
 private:
-    static constexpr int s_diskPages = 16;
+    static constexpr int DiskPages = 16;
 
     std::unique_ptr<SmallDisk> m_pDisk;
     std::unique_ptr<FileSizeLimit> m_pLimit;

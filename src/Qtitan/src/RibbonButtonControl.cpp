@@ -20,13 +20,14 @@ struct FormMetrics
 };
 
 /// Small buttons are as wide as their column, so that their edges and arrows line up.
-constexpr FormMetrics s_large{RibbonMetrics::LargeIcon, QSizePolicy::Fixed, QSizePolicy::Expanding};
-constexpr FormMetrics s_small{RibbonMetrics::SmallIcon, QSizePolicy::Minimum,
-                              QSizePolicy::Preferred};
+constexpr FormMetrics LargeMetrics{RibbonMetrics::LargeIcon, QSizePolicy::Fixed,
+                                   QSizePolicy::Expanding};
+constexpr FormMetrics SmallMetrics{RibbonMetrics::SmallIcon, QSizePolicy::Minimum,
+                                   QSizePolicy::Preferred};
 
 const FormMetrics& metricsOf(RibbonButtonForm form)
 {
-    return form == RibbonButtonForm::Small ? s_small : s_large;
+    return form == RibbonButtonForm::Small ? SmallMetrics : LargeMetrics;
 }
 
 } // namespace

@@ -1,17 +1,12 @@
 #include "Model/ArcGeometry.h"
 
+#include "Model/Polar.h"
+
 #include <Eigen/Geometry>
 
 #include <cmath>
 
 using vesk::Vector3d;
-
-namespace
-{
-
-const double s_turn = 2.0 * std::acos(-1.0);
-
-}
 
 ArcShape ToArc(const CircleShape& circle)
 {
@@ -33,18 +28,18 @@ double AngleTo(const ArcShape& arc, const Vector3d& point)
     const Vector3d from = arc.start - arc.centre;
     const Vector3d to = point - arc.centre;
     const double angle = std::atan2(arc.normal.dot(from.cross(to)), from.dot(to));
-    return angle < 0.0 ? angle + s_turn : angle;
+    return angle < 0.0 ? angle + FullTurn : angle;
 }
 
 double SweepOf(const ArcShape& arc)
 {
     const double angle = arc.start == arc.end ? 0.0 : AngleTo(arc, arc.end);
-    return angle > 0.0 ? angle : s_turn;
+    return angle > 0.0 ? angle : FullTurn;
 }
 
 double CentralAngleOf(const ArcShape& arc)
 {
-    return SweepOf(arc) / s_turn * 360.0;
+    return SweepOf(arc) / FullTurn * 360.0;
 }
 
 Vector3d PointAt(const ArcShape& arc, double angle)

@@ -7,13 +7,6 @@
 using vesk::Degrees;
 using vesk::Vector3d;
 
-namespace
-{
-
-const double s_degreesPerRadian = 180.0 / std::acos(-1.0);
-
-}
-
 Vector3d DirectionOf(double degrees)
 {
     return {Degrees::Cosine(degrees), Degrees::Sine(degrees), 0.0};
@@ -26,8 +19,8 @@ double AngleOf(const Vector3d& direction)
 
 double AngleBetween(const Vector3d& from, const Vector3d& to)
 {
-    const double degrees =
-        std::atan2(QuarterTurned(from).dot(to), from.dot(to)) * s_degreesPerRadian;
+    constexpr auto PerRadian = static_cast<double>(Degrees::PerRadian);
+    const double degrees = std::atan2(QuarterTurned(from).dot(to), from.dot(to)) * PerRadian;
     // An angle just beyond 180 degrees is rounded to -180, which is the other direction.
     return degrees <= -180.0 ? 180.0 : degrees;
 }

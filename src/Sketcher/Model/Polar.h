@@ -2,6 +2,9 @@
 
 #include "Geometry/Vector3d.h"
 
+/// In radians.
+constexpr double FullTurn = 6.283185307179586477;
+
 /// The unit vector in the drawing plane at an angle in degrees, counter-clockwise from x. As exact
 /// as doubles allow at every multiple of 15 degrees.
 vesk::Vector3d DirectionOf(double degrees);

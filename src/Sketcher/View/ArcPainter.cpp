@@ -1,5 +1,6 @@
 #include "View/ArcPainter.h"
 
+#include "Model/Polar.h"
 #include "View/LinePainter.h"
 
 #include <QPainter>
@@ -12,8 +13,6 @@
 
 namespace
 {
-
-const double s_turn = 2.0 * std::acos(-1.0);
 
 /// The greatest radius, in pixels, at which QPainter's curves stay within a twentieth of a pixel of
 /// the circle.
@@ -29,8 +28,8 @@ QRectF SquareAround(const ScreenArc& arc)
 void AddCut(const ScreenArc& arc, double right, double up, std::vector<double>& cuts)
 {
     const double direction = arc.sweep < 0.0 ? -1.0 : 1.0;
-    const double angle = std::fmod(direction * (std::atan2(up, right) - arc.start), s_turn);
-    const double ahead = angle < 0.0 ? angle + s_turn : angle;
+    const double angle = std::fmod(direction * (std::atan2(up, right) - arc.start), FullTurn);
+    const double ahead = angle < 0.0 ? angle + FullTurn : angle;
     if (ahead < std::abs(arc.sweep))
         cuts.push_back(ahead);
 }
@@ -59,7 +58,7 @@ std::vector<double> CutAtSides(const ScreenArc& arc, const QRectF& rect)
 
 double Degrees(double radians)
 {
-    return radians / s_turn * 360.0;
+    return radians / FullTurn * 360.0;
 }
 
 /// QPainter's curves are faster to paint than many chords.

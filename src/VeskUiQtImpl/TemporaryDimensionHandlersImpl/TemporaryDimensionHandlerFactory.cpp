@@ -48,7 +48,7 @@ HandlerKind KindOf()
 /// The kind for exactly this class of context; null if there is none.
 const HandlerKind* FindKind(const ITemporaryDimensionContext& context)
 {
-    static const std::array kinds{
+    static const std::array s_kinds{
         KindOf<LinearTemporaryDimensionContext, LinearTemporaryDimensionHandler>(),
         KindOf<RadiusTemporaryDimensionContext, RadiusTemporaryDimensionHandler>(),
         KindOf<CentralAngleTemporaryDimensionContext, CentralAngleTemporaryDimensionHandler>(),
@@ -56,10 +56,10 @@ const HandlerKind* FindKind(const ITemporaryDimensionContext& context)
         KindOf<RectangleTemporaryDimensionContext, RectangleTemporaryDimensionHandler>(),
     };
     const std::type_index type = typeid(context);
-    const auto found = std::find_if(kinds.begin(), kinds.end(), [&type](const HandlerKind& kind) {
-        return kind.context == type;
-    });
-    return found != kinds.end() ? &*found : nullptr;
+    const auto found =
+        std::find_if(s_kinds.begin(), s_kinds.end(),
+                     [&type](const HandlerKind& kind) { return kind.context == type; });
+    return found != s_kinds.end() ? &*found : nullptr;
 }
 
 /// The name as the compiler gives it: it contains the class name and is plain ASCII.

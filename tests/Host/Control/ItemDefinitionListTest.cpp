@@ -14,8 +14,8 @@ namespace vesk
 namespace
 {
 
-constexpr char s_insert[] = "vesk::Some::Insert";
-constexpr char s_delete[] = "vesk::Some::Delete";
+constexpr char InsertFunction[] = "vesk::Some::Insert";
+constexpr char DeleteFunction[] = "vesk::Some::Delete";
 
 using Type = ControlDefinitionChangeEventType;
 
@@ -50,7 +50,7 @@ struct ItemListFixture
     {
         auto opItem = MakeOwner<Item>(id, aliveCount);
         Item* pItem = opItem.Get();
-        pList->Insert(index, std::move(opItem), s_insert);
+        pList->Insert(index, std::move(opItem), InsertFunction);
         return pItem;
     }
 
@@ -196,7 +196,7 @@ void ItemDefinitionListTest::deletingRaisesOneEventWithTheItem()
     Fixture f;
     const IControlDefinition* pItem = f.pList->Get(index);
 
-    f.pList->Delete(index, s_delete);
+    f.pList->Delete(index, DeleteFunction);
 
     QCOMPARE(f.GetIds(), ids.toStdWString());
     QCOMPARE(f.pRecorder->GetCount(), 1);
@@ -246,7 +246,7 @@ void ItemDefinitionListTest::badIndexOfAnInsertionIsReportedAndChangesNothing()
 
     f.Insert(index, L"x");
 
-    EXPECT_WARNING(f.warnings, L"index不正确", s_insert);
+    EXPECT_WARNING(f.warnings, L"index不正确", InsertFunction);
     QCOMPARE(f.GetIds(), std::wstring(L"abc"));
     QCOMPARE(f.pRecorder->GetCount(), 0);
     QCOMPARE(f.aliveCount, 3);
@@ -265,9 +265,9 @@ void ItemDefinitionListTest::badIndexOfADeletionIsReportedAndChangesNothing()
     QFETCH(int, index);
     Fixture f;
 
-    f.pList->Delete(index, s_delete);
+    f.pList->Delete(index, DeleteFunction);
 
-    EXPECT_WARNING(f.warnings, L"index不正确", s_delete);
+    EXPECT_WARNING(f.warnings, L"index不正确", DeleteFunction);
     QCOMPARE(f.GetIds(), std::wstring(L"abc"));
     QCOMPARE(f.pRecorder->GetCount(), 0);
 }
@@ -278,18 +278,18 @@ void ItemDefinitionListTest::deletingFromAnEmptyListIsReported()
     ItemDefinitionList<LabelDefinition> list(event);
     test::WarningRecorder warnings;
 
-    list.Delete(0, s_delete);
+    list.Delete(0, DeleteFunction);
 
-    EXPECT_WARNING(warnings, L"index不正确", s_delete);
+    EXPECT_WARNING(warnings, L"index不正确", DeleteFunction);
 }
 
 void ItemDefinitionListTest::missingItemIsReportedAndChangesNothing()
 {
     Fixture f;
 
-    f.pList->Insert(1, nullptr, s_insert);
+    f.pList->Insert(1, nullptr, InsertFunction);
 
-    EXPECT_WARNING(f.warnings, L"opItem为空", s_insert);
+    EXPECT_WARNING(f.warnings, L"opItem为空", InsertFunction);
     QCOMPARE(f.GetIds(), std::wstring(L"abc"));
     QCOMPARE(f.pRecorder->GetCount(), 0);
 }
@@ -318,7 +318,7 @@ void ItemDefinitionListTest::theListIsRightWhenTheEventIsRaised_data()
     QTest::addColumn<Act>("act");
     QTest::addColumn<QString>("ids");
     QTest::newRow("insert") << Act{[](Fixture& f) { f.Insert(0, L"x"); }} << "xabc";
-    QTest::newRow("delete") << Act{[](Fixture& f) { f.pList->Delete(0, s_delete); }} << "bc";
+    QTest::newRow("delete") << Act{[](Fixture& f) { f.pList->Delete(0, DeleteFunction); }} << "bc";
     QTest::newRow("clear") << Act{[](Fixture& f) { f.pList->Clear(); }} << "";
 }
 
@@ -367,7 +367,7 @@ void ItemDefinitionListTest::aChangeOfAnItemIsMarkedWithTheScopeOfTheOwner()
 void ItemDefinitionListTest::aRemovedItemIsNotHeardAnyMore_data()
 {
     QTest::addColumn<Act>("act");
-    QTest::newRow("deleted") << Act{[](Fixture& f) { f.pList->Delete(0, s_delete); }};
+    QTest::newRow("deleted") << Act{[](Fixture& f) { f.pList->Delete(0, DeleteFunction); }};
     QTest::newRow("cleared") << Act{[](Fixture& f) { f.pList->Clear(); }};
 }
 
@@ -387,7 +387,7 @@ void ItemDefinitionListTest::removedItemsAreFreed()
 {
     const Fixture f;
 
-    f.pList->Delete(1, s_delete);
+    f.pList->Delete(1, DeleteFunction);
     QCOMPARE(f.aliveCount, 2);
     f.pList->Clear();
 
@@ -434,7 +434,7 @@ void ItemDefinitionListTest::aHandlerMayRemoveTheItemConcerned_data()
 {
     QTest::addColumn<Act>("act");
     QTest::addColumn<QString>("heard");
-    QTest::newRow("delete") << Act{[](Fixture& f) { f.pList->Delete(3, s_delete); }}
+    QTest::newRow("delete") << Act{[](Fixture& f) { f.pList->Delete(3, DeleteFunction); }}
                             << "caption of x;caption of x;none;";
     QTest::newRow("clear") << Act{[](Fixture& f) { f.pList->Clear(); }}
                            << "caption of x;none;none;";
@@ -457,7 +457,7 @@ void ItemDefinitionListTest::aHandlerMayRemoveTheItemConcerned()
 void ItemDefinitionListTest::aHandlerMayRemoveTheItemThatChanges()
 {
     Fixture f;
-    f.pRecorder->Then([&] { f.pList->Delete(1, s_delete); });
+    f.pRecorder->Then([&] { f.pList->Delete(1, DeleteFunction); });
 
     f.pList->Get(1)->SetCaption(L"new");
 
@@ -472,7 +472,7 @@ void ItemDefinitionListTest::aHandlerMayDestroyEverything_data()
 {
     QTest::addColumn<Act>("act");
     QTest::newRow("insert") << Act{[](Fixture& f) { f.Insert(1, L"x"); }};
-    QTest::newRow("delete") << Act{[](Fixture& f) { f.pList->Delete(1, s_delete); }};
+    QTest::newRow("delete") << Act{[](Fixture& f) { f.pList->Delete(1, DeleteFunction); }};
     QTest::newRow("clear") << Act{[](Fixture& f) { f.pList->Clear(); }};
     QTest::newRow("change of an item")
         << Act{[](Fixture& f) { f.pList->Get(1)->SetCaption(L"new"); }};

@@ -57,7 +57,7 @@ private:
     LineEditEventType m_type{-1};
 };
 
-constexpr int s_maxInt = std::numeric_limits<int>::max();
+constexpr int MaxInt = std::numeric_limits<int>::max();
 
 }
 
@@ -188,9 +188,9 @@ void LineEditDefinitionTest::aSelectionIsCountedInUtf16Units_data()
     QTest::newRow("inside") << plain << 1 << 1 << 1 << "b";
     QTest::newRow("all") << plain << 0 << 3 << 0 << "abc";
     QTest::newRow("beyond the end") << plain << 1 << 9 << 1 << "bc";
-    QTest::newRow("so long that the end overflows") << plain << 2 << s_maxInt << 2 << "c";
+    QTest::newRow("so long that the end overflows") << plain << 2 << MaxInt << 2 << "c";
     QTest::newRow("from the end") << plain << 3 << 1 << -1 << "";
-    QTest::newRow("from beyond the end") << plain << s_maxInt << s_maxInt << -1 << "";
+    QTest::newRow("from beyond the end") << plain << MaxInt << MaxInt << -1 << "";
     QTest::newRow("negative start") << plain << -1 << 2 << -1 << "";
     QTest::newRow("no length") << plain << 1 << 0 << -1 << "";
     QTest::newRow("negative length") << plain << 1 << -1 << -1 << "";

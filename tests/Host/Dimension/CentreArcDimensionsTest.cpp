@@ -15,7 +15,7 @@ namespace vesk
 namespace
 {
 
-constexpr double s_degree = 3.14159265358979323846 / 180;
+constexpr double Degree = 3.14159265358979323846 / 180;
 
 /// A quarter of a circle of radius 200, and what is generated for it. There is no view.
 struct Fixture
@@ -104,7 +104,7 @@ void CentreArcDimensionsTest::theAngleRunsFromMinus180Above180()
     QFETCH(double, degrees);
     Fixture f;
     const auto at = [&f](double angle) -> Vector3d {
-        return f.centre + 200 * Vector3d(std::cos(angle * s_degree), std::sin(angle * s_degree), 0);
+        return f.centre + 200 * Vector3d(std::cos(angle * Degree), std::sin(angle * Degree), 0);
     };
     f.start = at(from);
     f.end = at(to);
@@ -169,7 +169,7 @@ void CentreArcDimensionsTest::theAngleIsAnArcBetweenTwoLines()
     QCOMPARE(drawn.lines.size(), std::size_t(6));
     QVERIFY(drawn.HasLine(f.centre, f.start));
     QVERIFY(drawn.HasLine(f.centre, f.end));
-    QVERIFY(drawn.HasArc(f.centre, 60, Vector3d::UnitX(), 90 * s_degree));
+    QVERIFY(drawn.HasArc(f.centre, 60, Vector3d::UnitX(), 90 * Degree));
     QVERIFY(drawn.HasLine({70, 20, 0}, {72.8, 28, 0}));
     QVERIFY(drawn.HasLine({10, 80, 0}, {18, 82.8, 0}));
     const Vector3d offset = f.GetAnglePosition() - f.centre;
@@ -186,7 +186,7 @@ void CentreArcDimensionsTest::theAngleWithoutLinesIsItsArc()
 
     const DrawnNodes drawn(*opAngle);
     QCOMPARE(drawn.lines.size(), std::size_t(4));
-    QVERIFY(drawn.HasArc(f.centre, 60, Vector3d::UnitX(), 90 * s_degree));
+    QVERIFY(drawn.HasArc(f.centre, 60, Vector3d::UnitX(), 90 * Degree));
     QVERIFY(!drawn.HasLine(f.centre, f.start));
 }
 
@@ -198,7 +198,7 @@ void CentreArcDimensionsTest::aNegativeAngleTurnsTheOtherWay()
     const OwnerPtr<IGraphicsNodeGroup> opAngle = f.MakeAngle();
 
     const DrawnNodes drawn(*opAngle);
-    QVERIFY(drawn.HasArc(f.centre, 60, Vector3d::UnitY(), -90 * s_degree));
+    QVERIFY(drawn.HasArc(f.centre, 60, Vector3d::UnitY(), -90 * Degree));
     QVERIFY(drawn.HasLine({70, 20, 0}, {72.8, 28, 0}));
     QVERIFY(drawn.HasLine({10, 80, 0}, {18, 82.8, 0}));
 }

@@ -18,8 +18,8 @@ namespace vesk
 namespace
 {
 
-constexpr double s_nan = std::numeric_limits<double>::quiet_NaN();
-constexpr double s_infinity = std::numeric_limits<double>::infinity();
+constexpr double Nan = std::numeric_limits<double>::quiet_NaN();
+constexpr double Infinity = std::numeric_limits<double>::infinity();
 
 struct NamedPoints
 {
@@ -156,7 +156,7 @@ void DegenerateDimensionsTest::whatIsNoPointLeavesTheData_data()
         const GeneratorKind& generator = GetGeneratorKinds()[kind];
         for (int index = 0; index < generator.pointCount; ++index)
         {
-            for (const double number : {s_nan, s_infinity, -s_infinity, 1e31})
+            for (const double number : {Nan, Infinity, -Infinity, 1e31})
                 QTest::addRow("%s, point %d, %g", generator.pName, index, number)
                     << kind << index << number;
         }
@@ -188,7 +188,7 @@ void DegenerateDimensionsTest::whatIsNoPixelCountsAsOne_data()
     QTest::addColumn<double>("pixel");
     for (int kind = 0; kind < static_cast<int>(GetGeneratorKinds().size()); ++kind)
     {
-        for (const double pixel : {0.0, -1.0, s_nan, s_infinity, 1e-320, 1e300})
+        for (const double pixel : {0.0, -1.0, Nan, Infinity, 1e-320, 1e300})
             QTest::addRow("%s, %g", GetGeneratorKinds()[kind].pName, pixel) << kind << pixel;
     }
 }

@@ -13,7 +13,7 @@ namespace vesk
 namespace
 {
 
-constexpr int s_sceneCount = 20000;
+constexpr int SceneCount = 20000;
 
 /// The largest error of a measured value against the value it was constructed from.
 class LargestError
@@ -47,7 +47,7 @@ Wide WithoutNegativeZero(Wide degrees)
     return degrees < 0 && degrees > -0.005L ? 0 : degrees;
 }
 
-constexpr Wide s_limit = 4;
+constexpr Wide Limit = 4;
 
 using WideVector = Eigen::Matrix<Wide, 3, 1>;
 
@@ -92,7 +92,7 @@ void DimensionPropertiesTest::lengthsAreWhatTheyWereMadeFrom()
     LargestError length("length, in units of the last place of the largest coordinate");
     LargestError size("width and height");
     LargestError radius("radius about a centre");
-    for (int i = 0; i < s_sceneCount; ++i)
+    for (int i = 0; i < SceneCount; ++i)
     {
         random.Next();
         const Complex centre = random.MakePoint();
@@ -108,12 +108,12 @@ void DimensionPropertiesTest::lengthsAreWhatTheyWereMadeFrom()
 
         const TemporaryDimensionData& data = input.data;
         const Wide distance = std::abs(along);
-        QVERIFY(length.IsWithin(data[InputState::IS_Length].value - distance, unit, s_limit));
-        QVERIFY(size.IsWithin(data[InputState::IS_Width].value - std::abs(along.real()), unit,
-                              s_limit));
-        QVERIFY(size.IsWithin(data[InputState::IS_Height].value - std::abs(along.imag()), unit,
-                              s_limit));
-        QVERIFY(radius.IsWithin(data[InputState::IS_Radius].value - distance, unit, s_limit));
+        QVERIFY(length.IsWithin(data[InputState::IS_Length].value - distance, unit, Limit));
+        QVERIFY(
+            size.IsWithin(data[InputState::IS_Width].value - std::abs(along.real()), unit, Limit));
+        QVERIFY(
+            size.IsWithin(data[InputState::IS_Height].value - std::abs(along.imag()), unit, Limit));
+        QVERIFY(radius.IsWithin(data[InputState::IS_Radius].value - distance, unit, Limit));
     }
     length.Print();
     size.Print();
@@ -125,7 +125,7 @@ void DimensionPropertiesTest::anglesAreWhatTheyWereMadeFrom()
     RandomPlane random(20252);
     LargestError direction("angle to the x axis, in units of that at the distance of the point");
     LargestError central("central angle and rotation");
-    for (int i = 0; i < s_sceneCount; ++i)
+    for (int i = 0; i < SceneCount; ++i)
     {
         random.Next();
         const Complex centre = random.MakePoint();
@@ -144,8 +144,8 @@ void DimensionPropertiesTest::anglesAreWhatTheyWereMadeFrom()
 
         const Wide along = input.data[InputState::IS_Angle].value;
         const Wide expected = WithoutNegativeZero(std::arg(from) * DegreesPerRadian);
-        QVERIFY(direction.IsWithin(AngleBetween(along, expected), unit, s_limit));
-        QVERIFY(central.IsWithin(AngleBetween(angle, turn), unit, s_limit));
+        QVERIFY(direction.IsWithin(AngleBetween(along, expected), unit, Limit));
+        QVERIFY(central.IsWithin(AngleBetween(angle, turn), unit, Limit));
         QCOMPARE_EXACTLY(input.data[InputState::IS_CentralAngle].value, angle);
         QVERIFY(angle > -180.0 && angle <= 180.0);
     }
@@ -158,7 +158,7 @@ void DimensionPropertiesTest::arcsAreWhatTheyWereMadeFrom()
     RandomPlane random(20253);
     LargestError radius("radius of three points, in units that they leave open");
     LargestError sweep("central angle of three points");
-    for (int i = 0; i < s_sceneCount; ++i)
+    for (int i = 0; i < SceneCount; ++i)
     {
         random.Next();
         const Complex centre = random.MakePoint();
@@ -181,10 +181,10 @@ void DimensionPropertiesTest::arcsAreWhatTheyWereMadeFrom()
             std::min({std::abs(third - first), std::abs(third - second), std::abs(second - first)});
         const Wide sharp = size / shortest;
         const Wide unit = LastPlaceOf(points, 3) * (1 + sharp * sharp);
-        QVERIFY(radius.IsWithin(input.data[InputState::IS_Radius].value - size, unit, s_limit));
+        QVERIFY(radius.IsWithin(input.data[InputState::IS_Radius].value - size, unit, Limit));
         const Wide turned = input.data[InputState::IS_CentralAngle].value;
         const Wide turnUnit = 2 * LastPlaceOf(points, 3) / shortest * DegreesPerRadian;
-        QVERIFY(sweep.IsWithin(turned - turn * DegreesPerRadian, turnUnit, s_limit));
+        QVERIFY(sweep.IsWithin(turned - turn * DegreesPerRadian, turnUnit, Limit));
     }
     radius.Print();
     sweep.Print();
@@ -195,11 +195,11 @@ void DimensionPropertiesTest::aValueIsRoundedOnce()
     // Without a type wider than the result every step rounds, even in the reference.
     constexpr bool IsWider =
         std::numeric_limits<Wide>::digits > std::numeric_limits<double>::digits;
-    constexpr Wide Limit = IsWider ? 0.51L : s_limit;
+    constexpr Wide OwnLimit = IsWider ? 0.51L : Limit;
     RandomPlane random(20257);
     LargestError length("length, in units of its own last place");
     LargestError angle("angle, in units of its own last place or of that of 1");
-    for (int i = 0; i < s_sceneCount; ++i)
+    for (int i = 0; i < SceneCount; ++i)
     {
         random.Next();
         const Complex centre = random.MakePoint();
@@ -215,11 +215,11 @@ void DimensionPropertiesTest::aValueIsRoundedOnce()
         const double distance = input.data[InputState::IS_Length].value;
         const double turn = std::abs(input.data[InputState::IS_CentralAngle].value);
         QVERIFY(length.IsWithin(distance - std::hypot(from.x(), from.y(), from.z()),
-                                LastPlaceOf(distance), Limit));
+                                LastPlaceOf(distance), OwnLimit));
         // For tiny angles this would require more precision than the vectors between the points
         // have.
         const Wide place = LastPlaceOf(std::max(turn, 1.0));
-        QVERIFY(angle.IsWithin(turn - AngleBetween(from, to), place, Limit));
+        QVERIFY(angle.IsWithin(turn - AngleBetween(from, to), place, OwnLimit));
     }
     length.Print();
     angle.Print();
@@ -228,7 +228,7 @@ void DimensionPropertiesTest::aValueIsRoundedOnce()
 void DimensionPropertiesTest::straightDimensionsStandAsConstructed()
 {
     RandomPlane random(20254);
-    for (int i = 0; i < s_sceneCount; ++i)
+    for (int i = 0; i < SceneCount; ++i)
     {
         random.Next();
         const Complex start = random.MakePoint();
@@ -252,7 +252,7 @@ void DimensionPropertiesTest::straightDimensionsStandAsConstructed()
 void DimensionPropertiesTest::turnsStandAsConstructed()
 {
     RandomPlane random(20255);
-    for (int i = 0; i < s_sceneCount; ++i)
+    for (int i = 0; i < SceneCount; ++i)
     {
         random.Next();
         const Complex centre = random.MakePoint();
@@ -278,7 +278,7 @@ void DimensionPropertiesTest::turnsStandAsConstructed()
 void DimensionPropertiesTest::leadersStandAsConstructed()
 {
     RandomPlane random(20256);
-    for (int i = 0; i < s_sceneCount; ++i)
+    for (int i = 0; i < SceneCount; ++i)
     {
         random.Next();
         const Complex centre = random.MakePoint();

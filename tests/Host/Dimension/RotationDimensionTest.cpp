@@ -16,7 +16,7 @@ namespace vesk
 namespace
 {
 
-constexpr double s_degree = 3.14159265358979323846 / 180;
+constexpr double Degree = 3.14159265358979323846 / 180;
 
 /// A rotation by 90 degrees, and what is generated for it. There is no view.
 struct Fixture
@@ -106,7 +106,7 @@ void RotationDimensionTest::theTurnIsAnArcWithAnArrowAtItsEnd()
     QCOMPARE(drawn.lines.size(), std::size_t(4));
     QVERIFY(drawn.HasLine(f.centre, f.from));
     QVERIFY(drawn.HasLine(f.centre, f.to));
-    QVERIFY(drawn.HasArc(f.centre, 60, Vector3d::UnitX(), 90 * s_degree));
+    QVERIFY(drawn.HasArc(f.centre, 60, Vector3d::UnitX(), 90 * Degree));
     QVERIFY(drawn.HasLine({10, 80, 0}, {18, 82.8, 0}));
     QVERIFY(drawn.HasLine({10, 80, 0}, {18, 77.2, 0}));
 }
@@ -119,7 +119,7 @@ void RotationDimensionTest::aTurnBackHasItsArrowAtItsEndToo()
     const OwnerPtr<IGraphicsNodeGroup> opTurn = f.Make();
 
     const DrawnNodes drawn(*opTurn);
-    QVERIFY(drawn.HasArc(f.centre, 60, Vector3d::UnitX(), -90 * s_degree));
+    QVERIFY(drawn.HasArc(f.centre, 60, Vector3d::UnitX(), -90 * Degree));
     QVERIFY(drawn.HasLine({10, -40, 0}, {18, -42.8, 0}));
 }
 
@@ -131,7 +131,7 @@ void RotationDimensionTest::theLinesReachTheArc()
     const OwnerPtr<IGraphicsNodeGroup> opTurn = f.Make();
 
     const DrawnNodes drawn(*opTurn);
-    QVERIFY(drawn.HasArc(f.centre, 60, Vector3d::UnitX(), 90 * s_degree));
+    QVERIFY(drawn.HasArc(f.centre, 60, Vector3d::UnitX(), 90 * Degree));
     QVERIFY(drawn.HasLine(f.centre, {10, 92, 0}));
     QVERIFY(drawn.HasLine(f.centre, f.from));
 }
@@ -145,7 +145,7 @@ void RotationDimensionTest::theArcFitsTheLongerSide()
     const OwnerPtr<IGraphicsNodeGroup> opTurn = f.Make();
 
     const DrawnNodes drawn(*opTurn);
-    QVERIFY(drawn.HasArc(f.centre, 30, Vector3d::UnitX(), 90 * s_degree));
+    QVERIFY(drawn.HasArc(f.centre, 30, Vector3d::UnitX(), 90 * Degree));
     QVERIFY(drawn.HasLine(f.centre, {52, 20, 0}));
     QVERIFY(drawn.HasLine(f.centre, f.to));
 }
@@ -230,7 +230,7 @@ void RotationDimensionTest::theSizeIsConstantInPixels()
 
     const OwnerPtr<IGraphicsNodeGroup> opTurn = f.Make();
 
-    QVERIFY(DrawnNodes(*opTurn).HasArc(f.centre, 30, Vector3d::UnitX(), 90 * s_degree));
+    QVERIFY(DrawnNodes(*opTurn).HasArc(f.centre, 30, Vector3d::UnitX(), 90 * Degree));
     QVERIFY(DrawnNodes(*opTurn).HasLine({10, 50, 0}, {14, 51.4, 0}));
 }
 

@@ -40,7 +40,7 @@ struct Fixture
     TemporaryDimensionData data;
 };
 
-constexpr double s_degree = 3.14159265358979323846 / 180;
+constexpr double Degree = 3.14159265358979323846 / 180;
 
 }
 
@@ -145,7 +145,7 @@ void TemporaryDimensionCommonsTest::theLengthStandsOffTheArc()
 {
     QFETCH(double, degrees);
     Fixture f;
-    const Vector3d direction(std::cos(degrees * s_degree), std::sin(degrees * s_degree), 0);
+    const Vector3d direction(std::cos(degrees * Degree), std::sin(degrees * Degree), 0);
     f.end = 300 * direction;
 
     f.MakeLength();
@@ -207,7 +207,7 @@ void TemporaryDimensionCommonsTest::theArcRunsFromTheXAxisToTheSegment()
     QCOMPARE(drawn.arcs[0]->GetCentre(), f.start);
     QCOMPARE(drawn.arcs[0]->GetXAxis(), Vector3d(Vector3d::UnitX()));
     QCOMPARE(drawn.arcs[0]->GetRadius(), 60.0);
-    QCOMPARE(drawn.arcs[0]->GetSweep(), -90 * s_degree);
+    QCOMPARE(drawn.arcs[0]->GetSweep(), -90 * Degree);
     QVERIFY(drawn.HasLine({10, 20, 0}, {82, 20, 0}));
     QVERIFY(drawn.HasLine({70, 20, 0}, {72.8, 12, 0}));
     QVERIFY(drawn.HasLine({10, -40, 0}, {18, -37.2, 0}));
@@ -326,7 +326,7 @@ void TemporaryDimensionCommonsTest::aLockedValueIsShownAsItWasGiven()
     const DrawnNodes angle(*opAngle);
     QCOMPARE(QString::fromStdWString(angle.texts.at(0)->GetText()), text);
     QCOMPARE(f.data[InputState::IS_Angle].value, degrees);
-    QCOMPARE(angle.arcs.at(0)->GetSweep(), degrees * s_degree);
+    QCOMPARE(angle.arcs.at(0)->GetSweep(), degrees * Degree);
     QCOMPARE(f.data[InputState::IS_Length].value, 1e-3);
 }
 

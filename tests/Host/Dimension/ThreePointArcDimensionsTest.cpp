@@ -18,7 +18,7 @@ namespace vesk
 namespace
 {
 
-constexpr double s_degree = 3.14159265358979323846 / 180;
+constexpr double Degree = 3.14159265358979323846 / 180;
 
 /// Three points of a circle of radius 125 about the origin, and what is generated for them. There
 /// is no view.
@@ -145,7 +145,7 @@ void ThreePointArcDimensionsTest::theAngleIsThatOfTheArcThroughTheThirdPoint()
     QFETCH(double, degrees);
     Fixture f;
     const auto at = [](double angle) {
-        return Vector3d(100 * std::cos(angle * s_degree), 100 * std::sin(angle * s_degree), 0);
+        return Vector3d(100 * std::cos(angle * Degree), 100 * std::sin(angle * Degree), 0);
     };
     f.first = at(from);
     f.second = at(to);
@@ -238,7 +238,7 @@ void ThreePointArcDimensionsTest::theAngleIsAnArcBetweenTwoLines()
     QCOMPARE(drawn.lines.size(), std::size_t(6));
     QVERIFY(drawn.HasLine({0, 0, 0}, f.first));
     QVERIFY(drawn.HasLine({0, 0, 0}, f.second));
-    QVERIFY(drawn.HasArc({0, 0, 0}, 60, Vector3d::UnitX(), 90 * s_degree));
+    QVERIFY(drawn.HasArc({0, 0, 0}, 60, Vector3d::UnitX(), 90 * Degree));
     QVERIFY(drawn.HasLine({60, 0, 0}, {62.8, 8, 0}));
     QVERIFY(drawn.HasLine({0, 60, 0}, {8, 62.8, 0}));
     const double distance = 60 + (48 + 13) * std::sqrt(0.5) + 12;
@@ -252,7 +252,7 @@ void ThreePointArcDimensionsTest::theArcOfAMajorAngleGoesTheLongWay()
 
     const OwnerPtr<IGraphicsNodeGroup> opAngle = f.MakeAngle();
 
-    QVERIFY(DrawnNodes(*opAngle).HasArc({0, 0, 0}, 60, Vector3d::UnitX(), -270 * s_degree));
+    QVERIFY(DrawnNodes(*opAngle).HasArc({0, 0, 0}, 60, Vector3d::UnitX(), -270 * Degree));
     QVERIFY(f.GetAnglePosition().x() < -60);
     QVERIFY(f.GetAnglePosition().y() < -60);
 }
@@ -264,7 +264,7 @@ void ThreePointArcDimensionsTest::theArcOfASmallCircleIsSmaller()
 
     const OwnerPtr<IGraphicsNodeGroup> opAngle = f.MakeAngle();
 
-    QVERIFY(DrawnNodes(*opAngle).HasArc({0, 0, 0}, 75, Vector3d::UnitX(), 90 * s_degree));
+    QVERIFY(DrawnNodes(*opAngle).HasArc({0, 0, 0}, 75, Vector3d::UnitX(), 90 * Degree));
 }
 
 void ThreePointArcDimensionsTest::theSizeIsConstantInPixels()
@@ -276,7 +276,7 @@ void ThreePointArcDimensionsTest::theSizeIsConstantInPixels()
     const OwnerPtr<IGraphicsNodeGroup> opAngle = f.MakeAngle();
 
     QVERIFY(DrawnNodes(*opRadius).HasLine({100, 75, 0}, {99.192, 74.744, 0}));
-    QVERIFY(DrawnNodes(*opAngle).HasArc({0, 0, 0}, 6, Vector3d::UnitX(), 90 * s_degree));
+    QVERIFY(DrawnNodes(*opAngle).HasArc({0, 0, 0}, 6, Vector3d::UnitX(), 90 * Degree));
 }
 
 void ThreePointArcDimensionsTest::theTextsAreTheValues()

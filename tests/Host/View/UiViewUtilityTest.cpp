@@ -11,7 +11,7 @@ namespace vesk
 namespace
 {
 
-constexpr double s_maxDouble = std::numeric_limits<double>::max();
+constexpr double MaxDouble = std::numeric_limits<double>::max();
 const double s_infinity = std::numeric_limits<double>::infinity();
 const double s_nan = std::numeric_limits<double>::quiet_NaN();
 
@@ -84,7 +84,7 @@ void UiViewUtilityTest::aPositionBeyondTheNumbersIsCutOff()
     int y = 0;
     float depth = 0;
 
-    UiViewUtility::WorldPositionToScreenPosition(&view, Vector3d(1e12, -s_infinity, s_maxDouble), x,
+    UiViewUtility::WorldPositionToScreenPosition(&view, Vector3d(1e12, -s_infinity, MaxDouble), x,
                                                  y, depth);
 
     QCOMPARE(x, std::numeric_limits<int>::max());

@@ -10,8 +10,8 @@ namespace vesk
 namespace
 {
 
-constexpr CheckSite s_site{"QtButton.cpp", 12,         "vesk::QtButton::On",
-                           L"pArgs为空",   L"vesk-ui", L"2026-11-21"};
+constexpr CheckSite Site{"QtButton.cpp", 12,         "vesk::QtButton::On",
+                         L"pArgs为空",   L"vesk-ui", L"2026-11-21"};
 
 /// Records the warnings raised while it exists.
 class Recorder final : public IDebugWarningObserver
@@ -51,7 +51,7 @@ void CheckTest::aTrueConditionIsReturnedSilently()
 {
     const Recorder recorder;
 
-    const bool result = Check(true, s_site);
+    const bool result = Check(true, Site);
 
     QVERIFY(result);
     QVERIFY(recorder.GetWarnings().empty());
@@ -61,7 +61,7 @@ void CheckTest::aFalseConditionIsReturnedAndReported()
 {
     const Recorder recorder;
 
-    const bool result = Check(false, s_site);
+    const bool result = Check(false, Site);
 
     QVERIFY(!result);
     QCOMPARE(recorder.GetWarnings().size(), std::size_t{1});

@@ -13,6 +13,8 @@ namespace vesk
 class VESK_HOST_API Degrees
 {
 public:
+    static constexpr long double PerRadian = 57.295779513082320876798154814105L;
+
     static double Sine(double degrees);
     static double Cosine(double degrees);
     static double Tangent(double degrees);

@@ -22,13 +22,13 @@ GraphicsRole RoleOf(InputState field, InputState state)
 }
 
 /// Beyond every model and every view, but small enough that products of several stay finite.
-constexpr double s_mostCoordinate = 1e30;
-constexpr double s_leastPixel = 1e-15;
-constexpr double s_mostPixel = 1e15;
+constexpr double MostCoordinate = 1e30;
+constexpr double LeastPixel = 1e-15;
+constexpr double MostPixel = 1e15;
 
 bool IsPixel(double width)
 {
-    return width >= s_leastPixel && width <= s_mostPixel;
+    return width >= LeastPixel && width <= MostPixel;
 }
 
 }
@@ -44,7 +44,7 @@ DimensionDrawing::DimensionDrawing(const Vector3d& origin, const Coordinate3d& c
 bool DimensionDrawing::AreDrawable(std::initializer_list<Vector3d> points)
 {
     return std::all_of(points.begin(), points.end(), [](const Vector3d& point) {
-        return (point.array().abs() <= s_mostCoordinate).all();
+        return (point.array().abs() <= MostCoordinate).all();
     });
 }
 

@@ -19,19 +19,19 @@ namespace
 
 /// Pixels between the editor and the view's edge, the cursor and another text. Each includes one
 /// pixel of rounding error, since the editor's position is in whole pixels.
-constexpr double s_viewMargin = 3.0;
-constexpr double s_cursorMargin = 10.0;
-constexpr double s_textMargin = 4.0;
+constexpr double ViewMargin = 3.0;
+constexpr double CursorMargin = 10.0;
+constexpr double TextMargin = 4.0;
 
 /// Pixels between the editor and the lines of its dimension.
-constexpr double s_lineMargin = 12.0;
+constexpr double LineMargin = 12.0;
 
 /// A position that touches an obstacle is outside it, however the obstacle's edge is rounded.
-constexpr double s_touch = 1e-6;
+constexpr double Touch = 1e-6;
 
 /// The fraction of a perpendicular length still visible, below which the plane counts as seen
 /// edge-on.
-constexpr double s_edgeOn = 0.1;
+constexpr double EdgeOnPart = 0.1;
 
 const IModelView* FindModelView()
 {
@@ -60,17 +60,16 @@ EditorPlacement::EditorPlacement(const Coordinate3d& coordinate, const Vector3d&
     if (m_pModelView == nullptr)
         return;
     const Pixel size(m_pModelView->GetWidth(), m_pModelView->GetHeight());
-    const Pixel border = (m_editorReach + Pixel::Constant(s_viewMargin)).cwiseMin(size / 2);
+    const Pixel border = (m_editorReach + Pixel::Constant(ViewMargin)).cwiseMin(size / 2);
     m_least = border;
     m_most = size - border;
-    m_obstacles.push_back({ToPixel(cursor), m_editorReach + Pixel::Constant(s_cursorMargin)});
+    m_obstacles.push_back({ToPixel(cursor), m_editorReach + Pixel::Constant(CursorMargin)});
 }
 
 void EditorPlacement::AvoidText(const Vector3d& position)
 {
     if (m_pModelView != nullptr)
-        m_obstacles.push_back(
-            {ToPixel(position), 2 * m_editorReach + Pixel::Constant(s_textMargin)});
+        m_obstacles.push_back({ToPixel(position), 2 * m_editorReach + Pixel::Constant(TextMargin)});
 }
 
 bool EditorPlacement::Fits(const Vector3d& position) const
@@ -87,11 +86,11 @@ double EditorPlacement::GetClearance(const PlaneVector& normal) const
         const Eigen::Matrix2d pixelsPerStep = GetPixelsPerStep(m_origin);
         const Pixel side = TurnLeft(pixelsPerStep * TurnLeft(normal)).normalized();
         const double part = std::abs(side.dot(pixelsPerStep * normal));
-        const bool isEdgeOn = !(part > s_edgeOn);
+        const bool isEdgeOn = !(part > EdgeOnPart);
         across = isEdgeOn ? across : side;
         seen = isEdgeOn ? seen : part;
     }
-    return (m_editorReach.dot(across.cwiseAbs()) + s_lineMargin) / seen;
+    return (m_editorReach.dot(across.cwiseAbs()) + LineMargin) / seen;
 }
 
 double EditorPlacement::GetCover(const PlaneVector& direction) const
@@ -133,7 +132,7 @@ Vector3d EditorPlacement::Choose(const std::vector<Vector3d>& places) const
 
 bool EditorPlacement::Obstacle::Holds(const Pixel& pixel) const
 {
-    return ((pixel - centre).cwiseAbs().array() < reach.array() - s_touch).all();
+    return ((pixel - centre).cwiseAbs().array() < reach.array() - Touch).all();
 }
 
 EditorPlacement::Pixel EditorPlacement::ToPixel(const Vector3d& world) const

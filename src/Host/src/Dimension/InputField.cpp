@@ -27,7 +27,7 @@ struct ValueRow
     const wchar_t* caption;
 };
 
-constexpr ValueRow s_values[] = {
+constexpr ValueRow Values[] = {
     {InputState::IS_None, Quantity::Length, "none", L""},
     {InputState::IS_Length, Quantity::Length, "length", L"长度"},
     {InputState::IS_Angle, Quantity::Angle, "angle", L"角度"},
@@ -63,7 +63,7 @@ struct InputRow
     InputMeaning meaning;
 };
 
-constexpr InputRow s_inputs[] = {
+constexpr InputRow Inputs[] = {
     {ActionViewInput::LengthEntered, {InputState::IS_Length, false}},
     {ActionViewInput::LengthCommitted, {InputState::IS_Length, true}},
     {ActionViewInput::AngleEntered, {InputState::IS_Angle, false}},
@@ -81,9 +81,9 @@ constexpr InputRow s_inputs[] = {
 const ValueRow& ValueOf(InputState state)
 {
     const auto* pFound =
-        std::find_if(std::begin(s_values), std::end(s_values),
+        std::find_if(std::begin(Values), std::end(Values),
                      [state](const ValueRow& value) { return value.state == state; });
-    return pFound != std::end(s_values) ? *pFound : s_values[0];
+    return pFound != std::end(Values) ? *pFound : Values[0];
 }
 
 }
@@ -109,9 +109,9 @@ InputField FindInputField(const ITemporaryDimensionContext* pContext, InputState
 
 InputMeaning FindInputMeaning(std::int32_t kind)
 {
-    const auto* pFound = std::find_if(std::begin(s_inputs), std::end(s_inputs),
+    const auto* pFound = std::find_if(std::begin(Inputs), std::end(Inputs),
                                       [kind](const InputRow& row) { return row.kind == kind; });
-    return pFound != std::end(s_inputs) ? pFound->meaning : InputMeaning();
+    return pFound != std::end(Inputs) ? pFound->meaning : InputMeaning();
 }
 
 Quantity QuantityOf(InputState state)
@@ -132,9 +132,9 @@ const char* JournalNameOf(InputState state)
 std::optional<InputState> FindByJournalName(std::string_view name)
 {
     const auto* pFound =
-        std::find_if(std::begin(s_values), std::end(s_values),
+        std::find_if(std::begin(Values), std::end(Values),
                      [name](const ValueRow& value) { return value.journalName == name; });
-    return pFound != std::end(s_values) ? std::optional(pFound->state) : std::nullopt;
+    return pFound != std::end(Values) ? std::optional(pFound->state) : std::nullopt;
 }
 
 }

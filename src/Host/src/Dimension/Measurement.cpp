@@ -1,6 +1,7 @@
 #include "Dimension/Measurement.h"
 
 #include "Geometry/Constants.h"
+#include "Geometry/Degrees.h"
 
 #include <Eigen/Geometry>
 
@@ -18,10 +19,8 @@ namespace
 using Wide = long double;
 using WideVector = Eigen::Matrix<Wide, 3, 1>;
 
-constexpr Wide s_degreesPerRadian = 57.295779513082320876798154814105L;
-
 /// Points at most this far apart define no direction.
-constexpr Wide s_samePoint = Constants::DOUBLE_EPS;
+constexpr Wide SamePoint = Constants::DOUBLE_EPS;
 
 /// The axes of a coordinate system are unit vectors up to rounding; this normalises one in wide
 /// precision.
@@ -45,7 +44,7 @@ WideVector Difference(const WideVector& normal, const Vector3d& start, const Vec
 /// -180 degrees, exact or by rounding, becomes 180 degrees.
 double ToDegrees(Wide y, Wide x)
 {
-    const auto degrees = static_cast<double>(std::atan2(y, x) * s_degreesPerRadian);
+    const auto degrees = static_cast<double>(std::atan2(y, x) * Degrees::PerRadian);
     return degrees > -180.0 ? degrees : 180.0;
 }
 
@@ -54,7 +53,7 @@ double ToDegrees(Wide y, Wide x)
 double MeasureSweep(Wide y, Wide x)
 {
     const double most = std::nextafter(360.0, 0.0);
-    const auto degrees = static_cast<double>(2 * std::atan2(y, x) * s_degreesPerRadian);
+    const auto degrees = static_cast<double>(2 * std::atan2(y, x) * Degrees::PerRadian);
     return std::clamp(degrees, -most, most);
 }
 
@@ -80,7 +79,7 @@ double MeasureDirection(const Coordinate3d& coordinate, const Vector3d& start, c
     const WideVector along = Difference(start, end);
     const Wide x = along.dot(MakeUnit(coordinate.GetX()));
     const Wide y = along.dot(MakeUnit(coordinate.GetY()));
-    return std::hypot(x, y) > s_samePoint ? ToDegrees(y, x) : 0.0;
+    return std::hypot(x, y) > SamePoint ? ToDegrees(y, x) : 0.0;
 }
 
 double MeasureTurn(const Coordinate3d& coordinate, const Vector3d& centre, const Vector3d& from,
@@ -89,7 +88,7 @@ double MeasureTurn(const Coordinate3d& coordinate, const Vector3d& centre, const
     const WideVector normal = MakeUnit(coordinate.GetZ());
     const WideVector first = Difference(normal, centre, from);
     const WideVector second = Difference(normal, centre, to);
-    const bool hasDirections = first.norm() > s_samePoint && second.norm() > s_samePoint;
+    const bool hasDirections = first.norm() > SamePoint && second.norm() > SamePoint;
     return hasDirections ? ToDegrees(first.cross(second).dot(normal), first.dot(second)) : 0.0;
 }
 

@@ -12,7 +12,7 @@ namespace
 {
 
 // In pixels.
-constexpr double s_shortLength = 24.0;
+constexpr double ShortLength = 24.0;
 
 /// The direction from the centre; the x axis for a radius of zero.
 PlaneVector DirectionOf(const RadiusLeader& leader)
@@ -30,7 +30,7 @@ void DrawRadiusLeader(const RadiusLeader& leader, DimensionDrawing& drawing)
     if (!(radius > 0.0))
         return;
     const PlaneVector direction = DirectionOf(leader);
-    const double length = std::min(s_shortLength, radius);
+    const double length = std::min(ShortLength, radius);
     const PlaneVector start =
         leader.isWhole ? leader.centre : PlaneVector(leader.tip - length * direction);
     drawing.AddLine(start, leader.tip);

@@ -12,9 +12,9 @@ namespace
 {
 
 // In pixels.
-constexpr double s_leastOffset = 28.0;
-constexpr double s_extensionGap = 4.0;
-constexpr double s_extensionOvershoot = 6.0;
+constexpr double LeastOffset = 28.0;
+constexpr double ExtensionGap = 4.0;
+constexpr double ExtensionOvershoot = 6.0;
 
 /// The distances of the dimension line and the text from the side.
 struct Offsets
@@ -30,8 +30,8 @@ Offsets GetOffsets(const MeasuredSide& side, const EditorPlacement& placement)
     const bool isHidden =
         (side.end - side.start).norm() < placement.GetCover(TurnLeft(side.outwards));
     if (isHidden)
-        return {s_leastOffset, s_leastOffset + clearance};
-    const double offset = std::max(s_leastOffset, clearance);
+        return {LeastOffset, LeastOffset + clearance};
+    const double offset = std::max(LeastOffset, clearance);
     return {offset, offset};
 }
 
@@ -52,8 +52,8 @@ void Draw(const MeasuredSide& side, double offset, DimensionDrawing& drawing)
     const double length = (side.end - side.start).norm();
     if (!(length > 0.0))
         return;
-    const PlaneVector gap = s_extensionGap * side.outwards;
-    const PlaneVector reach = (offset + s_extensionOvershoot) * side.outwards;
+    const PlaneVector gap = ExtensionGap * side.outwards;
+    const PlaneVector reach = (offset + ExtensionOvershoot) * side.outwards;
     drawing.AddLine(side.start + gap, side.start + reach);
     drawing.AddLine(side.end + gap, side.end + reach);
 

@@ -2,6 +2,7 @@
 
 #include "Dimension/DimensionDrawing.h"
 #include "Dimension/EditorPlacement.h"
+#include "Geometry/Degrees.h"
 
 #include <Eigen/Geometry>
 
@@ -15,16 +16,14 @@ namespace
 {
 
 // In pixels.
-constexpr double s_arcRadius = 60.0;
-constexpr double s_sideOvershoot = 12.0;
+constexpr double ArcRadius = 60.0;
+constexpr double SideOvershoot = 12.0;
 
 /// The largest radius of the arc, as a fraction of the side length.
-constexpr double s_arcPart = 0.6;
+constexpr double ArcPart = 0.6;
 
 /// Below this angle there is no room for a text between the two sides.
-constexpr double s_narrowRadians = 0.7;
-
-constexpr double s_degreesPerRadian = 57.295779513082320877;
+constexpr double NarrowRadians = 0.7;
 
 PlaneVector DirectionAt(const Turn& turn, double radians)
 {
@@ -37,12 +36,13 @@ Turn MakeTurn(const PlaneVector& from, double degrees, double sideLength)
 {
     const double length = from.norm();
     const PlaneVector direction = length > 0.0 ? PlaneVector(from / length) : PlaneVector::UnitX();
-    return {direction, degrees / s_degreesPerRadian, std::min(s_arcRadius, s_arcPart * sideLength)};
+    return {direction, static_cast<double>(degrees / Degrees::PerRadian),
+            std::min(ArcRadius, ArcPart * sideLength)};
 }
 
 double GetSideReach(const Turn& turn)
 {
-    return turn.radius + s_sideOvershoot;
+    return turn.radius + SideOvershoot;
 }
 
 void DrawTurnSide(const PlaneVector& point, double reach, DimensionDrawing& drawing)
@@ -78,7 +78,7 @@ std::vector<Vector3d> GetTurnPlaces(const Turn& turn, const EditorPlacement& pla
     const PlaneVector beside = turn.radius * turn.from + offset;
     const PlaneVector beyond = (GetSideReach(turn) + ahead) * turn.from;
     const PlaneVector behind = offset - ahead * turn.from;
-    if (std::abs(turn.radians) < s_narrowRadians)
+    if (std::abs(turn.radians) < NarrowRadians)
         return {drawing.ToWorld(beside), drawing.ToWorld(between), drawing.ToWorld(behind)};
     return {drawing.ToWorld(between), drawing.ToWorld(beside), drawing.ToWorld(beyond),
             drawing.ToWorld(behind)};

@@ -12,7 +12,7 @@ namespace vesk
 {
 
 /// Replaces everything that is not a character.
-inline constexpr std::uint32_t s_replacementCharacter = 0xFFFD;
+inline constexpr std::uint32_t ReplacementCharacter = 0xFFFD;
 
 /// True for the halves of a UTF-16 surrogate pair, which are not characters by themselves.
 constexpr bool IsSurrogate(std::uint32_t unit)
@@ -25,7 +25,7 @@ template <class Wide>
 std::uint32_t TakeUtf32(std::basic_string_view<Wide> text, std::size_t& index)
 {
     const auto unit = static_cast<std::uint32_t>(text[index++]);
-    return unit > 0x10FFFF || IsSurrogate(unit) ? s_replacementCharacter : unit;
+    return unit > 0x10FFFF || IsSurrogate(unit) ? ReplacementCharacter : unit;
 }
 
 /// The code point at `index` of a text of two-byte units; moves the index past it.
@@ -39,7 +39,7 @@ std::uint32_t TakeUtf16(std::basic_string_view<Wide> text, std::size_t& index)
         index < text.size() ? static_cast<std::uint32_t>(text[index]) : std::uint32_t{0};
     const bool isPair = unit < 0xDC00 && next >= 0xDC00 && next <= 0xDFFF;
     if (!isPair)
-        return s_replacementCharacter;
+        return ReplacementCharacter;
     ++index;
     return 0x10000 + ((unit - 0xD800) << 10) + (next - 0xDC00);
 }
@@ -84,7 +84,7 @@ std::basic_string<Wide> Utf8ToWide(std::string_view text)
     std::string valid;
     valid.reserve(text.size());
     utf8::replace_invalid(text.begin(), text.end(), std::back_inserter(valid),
-                          s_replacementCharacter);
+                          ReplacementCharacter);
     std::basic_string<Wide> result;
     result.reserve(valid.size());
     if constexpr (sizeof(Wide) == 2)

@@ -11,38 +11,36 @@ namespace vesk
 namespace
 {
 
-constexpr double s_turn = 360.0;
-constexpr double s_halfTurn = 180.0;
-constexpr double s_rightAngle = 90.0;
-constexpr double s_step = 15.0;
-constexpr long double s_degreesPerRadian = 57.295779513082320876798154814105L;
+constexpr double Turn = 360.0;
+constexpr double HalfTurn = 180.0;
+constexpr double RightAngle = 90.0;
+constexpr double Step = 15.0;
 
 /// Values at 0, 15, 30 … 90 degrees, with more digits than a double has.
 using Table = std::array<double, 7>;
-constexpr Table s_sines{0.0,
-                        0.25881904510252076235,
-                        0.5,
-                        0.70710678118654752440,
-                        0.86602540378443864676,
-                        0.96592582628906828675,
-                        1.0};
-constexpr Table s_cosines{s_sines[6], s_sines[5], s_sines[4], s_sines[3],
-                          s_sines[2], s_sines[1], s_sines[0]};
-constexpr Table s_tangents{0.0,
-                           0.26794919243112270647,
-                           0.57735026918962576451,
-                           1.0,
-                           1.7320508075688772935,
-                           3.7320508075688772935,
-                           std::numeric_limits<double>::infinity()};
+constexpr Table Sines{0.0,
+                      0.25881904510252076235,
+                      0.5,
+                      0.70710678118654752440,
+                      0.86602540378443864676,
+                      0.96592582628906828675,
+                      1.0};
+constexpr Table Cosines{Sines[6], Sines[5], Sines[4], Sines[3], Sines[2], Sines[1], Sines[0]};
+constexpr Table Tangents{0.0,
+                         0.26794919243112270647,
+                         0.57735026918962576451,
+                         1.0,
+                         1.7320508075688772935,
+                         3.7320508075688772935,
+                         std::numeric_limits<double>::infinity()};
 
 /// The function of an angle from 0 to 90 degrees.
 double Compute(const Table& table, long double (*pFunction)(long double), double degrees)
 {
-    const double steps = degrees / s_step;
+    const double steps = degrees / Step;
     if (steps == std::floor(steps))
         return table[static_cast<std::size_t>(steps)];
-    return static_cast<double>(pFunction(degrees / s_degreesPerRadian));
+    return static_cast<double>(pFunction(degrees / Degrees::PerRadian));
 }
 
 /// Zero has no sign.
@@ -55,7 +53,7 @@ double WithSign(double size, bool isNegative)
 double Invert(double argument, long double radians, double (*pFunction)(double))
 {
     constexpr double Rounding = 4 * std::numeric_limits<double>::epsilon();
-    const auto degrees = static_cast<double>(radians * s_degreesPerRadian);
+    const auto degrees = static_cast<double>(radians * Degrees::PerRadian);
     const double whole = std::round(degrees);
     const bool isWhole =
         pFunction(whole) == argument || std::abs(degrees - whole) <= Rounding * std::abs(whole);
@@ -66,24 +64,24 @@ double Invert(double argument, long double radians, double (*pFunction)(double))
 
 double Degrees::Sine(double degrees)
 {
-    const double rest = std::remainder(degrees, s_turn);
+    const double rest = std::remainder(degrees, Turn);
     const double size = std::abs(rest);
-    const double sharp = size > s_rightAngle ? s_halfTurn - size : size;
-    return WithSign(Compute(s_sines, &std::sin, sharp), rest < 0.0);
+    const double sharp = size > RightAngle ? HalfTurn - size : size;
+    return WithSign(Compute(Sines, &std::sin, sharp), rest < 0.0);
 }
 
 double Degrees::Cosine(double degrees)
 {
-    const double size = std::abs(std::remainder(degrees, s_turn));
-    const bool isObtuse = size > s_rightAngle;
-    const double sharp = isObtuse ? s_halfTurn - size : size;
-    return WithSign(Compute(s_cosines, &std::cos, sharp), isObtuse);
+    const double size = std::abs(std::remainder(degrees, Turn));
+    const bool isObtuse = size > RightAngle;
+    const double sharp = isObtuse ? HalfTurn - size : size;
+    return WithSign(Compute(Cosines, &std::cos, sharp), isObtuse);
 }
 
 double Degrees::Tangent(double degrees)
 {
-    const double rest = std::remainder(degrees, s_halfTurn);
-    return WithSign(Compute(s_tangents, &std::tan, std::abs(rest)), rest < 0.0);
+    const double rest = std::remainder(degrees, HalfTurn);
+    return WithSign(Compute(Tangents, &std::tan, std::abs(rest)), rest < 0.0);
 }
 
 double Degrees::ArcSine(double sine)

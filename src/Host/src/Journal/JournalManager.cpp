@@ -17,7 +17,7 @@ namespace vesk
 namespace
 {
 
-constexpr std::size_t s_keptLines = 20;
+constexpr std::size_t KeptLines = 20;
 
 /// The last lines written. Thread-safe.
 class LastLines
@@ -27,7 +27,7 @@ public:
     {
         const std::lock_guard lock(m_mutex);
         m_lines.push_back(line);
-        if (m_lines.size() > s_keptLines)
+        if (m_lines.size() > KeptLines)
             m_lines.pop_front();
     }
 

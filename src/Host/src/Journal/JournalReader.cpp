@@ -89,7 +89,7 @@ bool JournalReader::ReadKind()
         const char* name;
         bool (JournalReader::*read)();
     };
-    static constexpr Kind s_kinds[] = {
+    static constexpr Kind Kinds[] = {
         {"command", &JournalReader::ReadCommand}, {"point", &JournalReader::ReadPoint},
         {"value", &JournalReader::ReadValue},     {"selection", &JournalReader::ReadSelection},
         {"undo", &JournalReader::ReadUndo},       {"property", &JournalReader::ReadProperty},
@@ -98,9 +98,9 @@ bool JournalReader::ReadKind()
     std::string name;
     if (!TakeText("kind", name))
         return false;
-    const auto* pKind = std::find_if(std::begin(s_kinds), std::end(s_kinds),
+    const auto* pKind = std::find_if(std::begin(Kinds), std::end(Kinds),
                                      [&name](const Kind& kind) { return kind.name == name; });
-    if (pKind == std::end(s_kinds))
+    if (pKind == std::end(Kinds))
         return Fail("unknown kind " + Quote(name));
     return (this->*pKind->read)();
 }

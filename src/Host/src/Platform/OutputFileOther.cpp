@@ -14,8 +14,8 @@ namespace vesk
 namespace
 {
 
-constexpr mode_t s_newFileMode = 0666;
-constexpr int s_commonFlags = O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC;
+constexpr mode_t NewFileMode = 0666;
+constexpr int CommonFlags = O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC;
 
 int DescriptorOf(std::intptr_t handle)
 {
@@ -47,7 +47,7 @@ OutputFile& OutputFile::operator=(OutputFile&& other) noexcept
 OutputFile::Opening OutputFile::OpenAlone(const std::filesystem::path& path)
 {
     Close();
-    const int descriptor = ::open(path.c_str(), s_commonFlags, s_newFileMode);
+    const int descriptor = ::open(path.c_str(), CommonFlags, NewFileMode);
     if (descriptor < 0)
         return Opening::Failed;
     if (::flock(descriptor, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK)
@@ -62,14 +62,14 @@ OutputFile::Opening OutputFile::OpenAlone(const std::filesystem::path& path)
 bool OutputFile::OpenShared(const std::filesystem::path& path)
 {
     Close();
-    m_handle = ::open(path.c_str(), s_commonFlags, s_newFileMode);
+    m_handle = ::open(path.c_str(), CommonFlags, NewFileMode);
     return IsOpen();
 }
 
 bool OutputFile::Create(const std::filesystem::path& path)
 {
     Close();
-    m_handle = ::open(path.c_str(), s_commonFlags | O_EXCL, s_newFileMode);
+    m_handle = ::open(path.c_str(), CommonFlags | O_EXCL, NewFileMode);
     return IsOpen();
 }
 

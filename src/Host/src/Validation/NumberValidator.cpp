@@ -66,7 +66,7 @@ std::wstring FormatNumber(double value)
 
 /// The noun for the number in a tip about the range.
 template <class T>
-constexpr const wchar_t* s_pNoun = std::is_integral_v<T> ? L"整数" : L"数";
+constexpr const wchar_t* Noun = std::is_integral_v<T> ? L"整数" : L"数";
 
 }
 
@@ -85,7 +85,7 @@ std::wstring NumberValidator<T>::GetTip() const
         return tip;
     const bool hasBottom = m_bottom > std::numeric_limits<T>::lowest();
     const bool hasTop = m_top < std::numeric_limits<T>::max();
-    const std::wstring noun = s_pNoun<T>;
+    const std::wstring noun = Noun<T>;
     if (!hasBottom && !hasTop)
         return L"请输入一个" + noun;
     const std::wstring bottom = FormatNumber(m_bottom);

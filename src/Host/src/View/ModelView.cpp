@@ -9,11 +9,11 @@ namespace vesk
 namespace
 {
 
-constexpr double s_minWorldPerPixel = 1e-9;
-constexpr double s_maxWorldPerPixel = 1e9;
+constexpr double MinWorldPerPixel = 1e-9;
+constexpr double MaxWorldPerPixel = 1e9;
 
 /// The fraction of the view that a fitted box fills: a tenth is left free on each side.
-constexpr double s_fittedPart = 0.8;
+constexpr double FittedPart = 0.8;
 
 bool IsPositive(double value)
 {
@@ -72,7 +72,7 @@ void ModelView::SetCentre(const Vector3d& centre)
 void ModelView::SetWorldPerPixel(double worldPerPixel)
 {
     if (IsPositive(worldPerPixel))
-        m_worldPerPixel = std::clamp(worldPerPixel, s_minWorldPerPixel, s_maxWorldPerPixel);
+        m_worldPerPixel = std::clamp(worldPerPixel, MinWorldPerPixel, MaxWorldPerPixel);
 }
 
 void ModelView::ZoomAbout(double x, double y, double factor)
@@ -82,7 +82,7 @@ void ModelView::ZoomAbout(double x, double y, double factor)
     ModelView zoomed = *this;
     // An infinite quotient is clamped too.
     zoomed.m_worldPerPixel =
-        std::clamp(m_worldPerPixel / factor, s_minWorldPerPixel, s_maxWorldPerPixel);
+        std::clamp(m_worldPerPixel / factor, MinWorldPerPixel, MaxWorldPerPixel);
     zoomed.m_centre += ScreenToWorld(x, y) - zoomed.ScreenToWorld(x, y);
     if (zoomed.m_centre.allFinite())
         *this = zoomed;
@@ -99,7 +99,7 @@ void ModelView::Fit(const Vector3d& corner, const Vector3d& oppositeCorner)
     if (!size.allFinite())
         return;
     SetCentre(corner + (oppositeCorner - corner) / 2);
-    SetWorldPerPixel(std::max(size.x() / m_width, size.y() / m_height) / s_fittedPart);
+    SetWorldPerPixel(std::max(size.x() / m_width, size.y() / m_height) / FittedPart);
 }
 
 }

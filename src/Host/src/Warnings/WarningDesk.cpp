@@ -15,7 +15,7 @@ namespace
 {
 
 /// The minimum time for which a site is silent after "ignore once".
-constexpr std::chrono::seconds s_rest{1};
+constexpr std::chrono::seconds Rest{1};
 
 bool IsAttendedAtFirst()
 {
@@ -159,7 +159,7 @@ void WarningDesk::Note(const Place& place, bool isToAskAgain)
     if (isToAskAgain && m_pScheduler == nullptr)
         return;
     if (isToAskAgain)
-        m_pScheduler->PostWhenIdle(s_rest, [this, place] {
+        m_pScheduler->PostWhenIdle(Rest, [this, place] {
             const std::lock_guard restLock(m_mutex);
             m_silent.erase(place);
         });

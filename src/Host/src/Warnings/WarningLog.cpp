@@ -16,7 +16,7 @@ namespace vesk
 namespace
 {
 
-constexpr int s_maxLinesPerPlace = 10;
+constexpr int MaxLinesPerPlace = 10;
 
 std::string GetNow()
 {
@@ -81,13 +81,13 @@ bool WarningLog::Close()
     const std::lock_guard lock(m_mutex);
     for (const auto& [place, count] : m_counts)
     {
-        if (count <= s_maxLinesPerPlace)
+        if (count <= MaxLinesPerPlace)
             continue;
         WriteLine({{"file", place.first},
                    {"line", place.second},
                    {"time", GetNow()},
                    {"count", count},
-                   {"suppressed", count - s_maxLinesPerPlace}});
+                   {"suppressed", count - MaxLinesPerPlace}});
     }
     m_counts.clear();
     m_path.clear();
@@ -98,7 +98,7 @@ bool WarningLog::Close()
 void WarningLog::Add(const std::string& file, int line, nlohmann::ordered_json record)
 {
     const int count = CountUp({file, line});
-    if (count > s_maxLinesPerPlace)
+    if (count > MaxLinesPerPlace)
         return;
     record["time"] = GetNow();
     record["count"] = count;

@@ -27,13 +27,13 @@ struct Pen
 /// In the order of GraphicsRole.
 const Pen& PenOf(GraphicsRole role)
 {
-    static const Pen pens[] = {
+    static const Pen s_pens[] = {
         {QColor(0x1f, 0x6f, 0xc5), QColor(0x6c, 0xb6, 0xff), 1.6},
         {QColor(0x6b, 0x75, 0x80), QColor(0x9a, 0xa5, 0xb1), 1.0},
         {QColor(0x1f, 0x6f, 0xc5), QColor(0x6c, 0xb6, 0xff), 1.0},
         {QColor(0xb8, 0x6e, 0x00), QColor(0xff, 0xc1, 0x4d), 1.4},
     };
-    return pens[static_cast<int>(role)];
+    return s_pens[static_cast<int>(role)];
 }
 
 /// Enough chords to look like an arc; capped for a huge arc, of which little is visible, so that

@@ -14,7 +14,7 @@ namespace vesk
 namespace
 {
 
-constexpr std::array<int, 3> s_signals = {SIGTERM, SIGINT, SIGHUP};
+constexpr std::array<int, 3> Signals = {SIGTERM, SIGINT, SIGHUP};
 
 /// The pipe end that the handler writes to; a signal handler may do little more.
 int s_writingEnd = -1;
@@ -44,16 +44,16 @@ public:
                              Drain();
                              emit requests.requested();
                          });
-        for (std::size_t i = 0; i < s_signals.size(); ++i)
-            Catch(s_signals[i], m_before[i]);
+        for (std::size_t i = 0; i < Signals.size(); ++i)
+            Catch(Signals[i], m_before[i]);
     }
 
     ~Listener()
     {
         if (m_pNotifier == nullptr)
             return;
-        for (std::size_t i = 0; i < s_signals.size(); ++i)
-            ::sigaction(s_signals[i], &m_before[i], nullptr);
+        for (std::size_t i = 0; i < Signals.size(); ++i)
+            ::sigaction(Signals[i], &m_before[i], nullptr);
         s_writingEnd = -1;
         m_pNotifier.reset();
         for (const int end : m_ends)
@@ -83,7 +83,7 @@ private:
     }
 
     std::array<int, 2> m_ends = {-1, -1};
-    std::array<struct sigaction, s_signals.size()> m_before = {};
+    std::array<struct sigaction, Signals.size()> m_before = {};
     std::unique_ptr<QSocketNotifier> m_pNotifier;
 };
 
