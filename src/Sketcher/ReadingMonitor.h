@@ -30,8 +30,6 @@ public:
     /// Shows the progress and processes pending events. Returns false once cancelled.
     bool Advance(std::size_t done, std::size_t total);
 
-    bool IsCancelled() const { return m_isCancelled; }
-
 protected:
     bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
 

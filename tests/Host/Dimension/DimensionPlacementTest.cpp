@@ -145,7 +145,7 @@ private:
     static Vector3d ToPlane(const Fixture& f, Vector3d world)
     {
         const Coordinate3d& plane = f.input.coordinate;
-        world.z() -= plane.ToLocal(world).z() / plane.GetZ().z();
+        world.z() -= (world - plane.GetOrigin()).dot(plane.GetZ()) / plane.GetZ().z();
         return world;
     }
 

@@ -23,8 +23,7 @@ public:
     const Vector3d& GetY() const { return m_y; }
     const Vector3d& GetZ() const { return m_z; }
 
-    /// Converts a world point to coordinates of this system, and back.
-    Vector3d ToLocal(const Vector3d& world) const;
+    /// The world point that has these coordinates in this system.
     Vector3d ToWorld(const Vector3d& local) const;
 
 private:

@@ -38,12 +38,6 @@ Coordinate3d::Coordinate3d(const Vector3d& origin, const Vector3d& xDirection,
     m_y = m_z.cross(m_x).normalized();
 }
 
-Vector3d Coordinate3d::ToLocal(const Vector3d& world) const
-{
-    const Vector3d offset = world - m_origin;
-    return {offset.dot(m_x), offset.dot(m_y), offset.dot(m_z)};
-}
-
 Vector3d Coordinate3d::ToWorld(const Vector3d& local) const
 {
     return m_origin + local.x() * m_x + local.y() * m_y + local.z() * m_z;
