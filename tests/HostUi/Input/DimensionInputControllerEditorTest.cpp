@@ -66,6 +66,24 @@ private:
     QEvent::Type m_type;
 };
 
+/// Tells how many listen to its text.
+class CountedEdit final : public QLineEdit
+{
+public:
+    int CountListeners() const
+    {
+        return receivers(SIGNAL(textEdited(QString))) + receivers(SIGNAL(textChanged(QString)));
+    }
+};
+
+/// Tells the host of a widget, as the control library does of its editor.
+void Announce(QObject& object, int kind)
+{
+    OwnerPtr<IJournalUiObject> opUiObject = IJournalUiObject::Create();
+    opUiObject->SetUiObject(Any(&object));
+    IJournalManager::Get()->AddUiObject(std::move(opUiObject), kind, 0);
+}
+
 }
 
 /// The editor as a window: its size, its closing, and the keys that arrive in it.
@@ -384,18 +402,31 @@ private slots:
         InputFixture f(Linear());
         QLineEdit otherKind;
         QWidget noEdit;
-        const auto tell = [](QObject* pObject, int kind) {
-            OwnerPtr<IJournalUiObject> opUiObject = IJournalUiObject::Create();
-            opUiObject->SetUiObject(Any(pObject));
-            IJournalManager::Get()->AddUiObject(std::move(opUiObject), kind, 0);
-        };
 
-        tell(&otherKind, 2);
-        tell(&noEdit, 3);
+        Announce(otherKind, 2);
+        Announce(noEdit, 3);
         f.Type("5");
 
         QVERIFY(otherKind.testAttribute(Qt::WA_InputMethodEnabled));
         QCOMPARE(f.controller.GetActiveEditor(), f.Editor());
+    }
+
+    /// As it happens when the user goes from one view to another and back.
+    void editorAnnouncedAgainIsListenedToOnce()
+    {
+        InputFixture f(Linear());
+        CountedEdit editor;
+        QLineEdit other;
+        Announce(editor, 3);
+        const int listeners = editor.CountListeners();
+        const int children = editor.children().size();
+
+        Announce(other, 3);
+        Announce(editor, 3);
+
+        QCOMPARE(editor.CountListeners(), listeners);
+        QCOMPARE(editor.children().size(), children);
+        QVERIFY(listeners > 0);
     }
 
     void afterItsEndNobodyIsAsked()

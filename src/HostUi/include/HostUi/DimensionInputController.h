@@ -91,7 +91,6 @@ private:
     void HoldKey(QKeyEvent& event);
     bool OpenInput(const QKeyEvent& event);
     void OnEditorHidden();
-    void OnTextChanged();
     void OnTextEdited();
     void FitEditor();
     void UpdateNotes();

@@ -180,9 +180,13 @@ void DimensionInputController::OnUiObject(const IJournalUiObject& object, int ki
     // An input method would swallow letters, and no value needs one.
     pEditor->setAttribute(Qt::WA_InputMethodEnabled, false);
     m_pEditor = pEditor;
-    new EditorKeyboard(*pEditor);
-    connect(pEditor, &QLineEdit::textEdited, this, &DimensionInputController::OnTextEdited);
-    connect(pEditor, &QLineEdit::textChanged, this, &DimensionInputController::OnTextChanged);
+    EditorKeyboard::Watch(*pEditor);
+    connect(pEditor, &QLineEdit::textEdited, this, &DimensionInputController::OnTextEdited,
+            Qt::UniqueConnection);
+    connect(pEditor, &QLineEdit::textChanged, this, &DimensionInputController::FitEditor,
+            Qt::UniqueConnection);
+    connect(pEditor, &QLineEdit::textChanged, this, &DimensionInputController::UpdateNotes,
+            Qt::UniqueConnection);
 }
 
 void DimensionInputController::ResetEditorPosition(ITemporaryDimensionHandler& handler)
@@ -439,12 +443,6 @@ bool DimensionInputController::OpenInput(const QKeyEvent& event)
     if (QLineEdit* pEditor = GetActiveEditor())
         pEditor->setText(event.text());
     return true;
-}
-
-void DimensionInputController::OnTextChanged()
-{
-    FitEditor();
-    UpdateNotes();
 }
 
 void DimensionInputController::OnTextEdited()

@@ -9,6 +9,12 @@
 namespace vesk
 {
 
+void EditorKeyboard::Watch(QWidget& editor)
+{
+    if (editor.findChild<EditorKeyboard*>(QString(), Qt::FindDirectChildrenOnly) == nullptr)
+        new EditorKeyboard(editor);
+}
+
 EditorKeyboard::EditorKeyboard(QWidget& editor) : QObject(&editor), m_editor(editor)
 {
     editor.installEventFilter(this);

@@ -11,14 +11,19 @@ namespace vesk
 /// manager finds it without an owner, so that no typed key is lost.
 class EditorKeyboard final : public QObject
 {
+    Q_OBJECT
+
 public:
-    /// Becomes a child of the editor, which is a child of the view and a window of its own.
-    explicit EditorKeyboard(QWidget& editor);
+    /// Creates one as a child of the editor, which is a child of the view and a window of its own.
+    /// An editor that already has one keeps it.
+    static void Watch(QWidget& editor);
 
 protected:
     bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
 
 private:
+    explicit EditorKeyboard(QWidget& editor);
+
     void WatchWindow();
     void OnVisibleChanged(bool isVisible);
 
