@@ -5,6 +5,7 @@
 #include "Support/TestValues.h"
 
 #include <algorithm>
+#include <functional>
 
 namespace vesk
 {
@@ -55,6 +56,10 @@ private slots:
     void anActionWithoutDimensionsDropsTheHandler();
     void refreshingMakesGraphicsOnly();
     void refreshingGoesOnUntilTheEnd();
+    void refreshingAsksForNoContext();
+    void renewingAsksForAContext();
+    void renewingKeepsTheHandler();
+    void renewingGoesOnUntilTheEnd();
     void aFreedValueShowsTheDimensionsAnew();
     void aHandlerMayRefreshInItsKey();
     void theEndDropsTheHandlerBeforeTheActionIsFreed();
@@ -147,6 +152,69 @@ void ActionDimensionTest::refreshingGoesOnUntilTheEnd()
     });
 
     QVERIFY(log == (Log{"1.graphics", "place"}));
+}
+
+/// How often something asks the running action for a context.
+static int CountContexts(const std::function<void(Fixture& f)>& act)
+{
+    Fixture f;
+    int asked = 0;
+    f.scripts["Line"].makeContext = [&asked] {
+        ++asked;
+        return MakeOwner<StandInContext>(1);
+    };
+    f.Run([&] {
+        asked = 0;
+        act(f);
+    });
+    return asked;
+}
+
+void ActionDimensionTest::refreshingAsksForNoContext()
+{
+    QCOMPARE(CountContexts([](Fixture& f) { ActionManager::RefreshViewInput(&f.view); }), 0);
+}
+
+void ActionDimensionTest::renewingAsksForAContext()
+{
+    QCOMPARE(CountContexts([](Fixture& f) { ActionManager::RenewViewInput(&f.view); }), 1);
+}
+
+void ActionDimensionTest::renewingKeepsTheHandler()
+{
+    Fixture f;
+    Log log;
+    int redraws = 0;
+
+    f.Run([&] {
+        Dimensions().OnKeyDown('1', false, false, false);
+        f.TakeHandlerLog();
+        f.scripts["Line"].makeContext = [] { return MakeOwner<StandInContext>(2); };
+        redraws = f.view.GetRedrawCount();
+        ActionManager::RenewViewInput(&f.view);
+        redraws = f.view.GetRedrawCount() - redraws;
+        ActionManager::RenewViewInput(nullptr);
+        log = f.TakeHandlerLog();
+    });
+
+    QCOMPARE(log, (Log{"1.graphics", "place", "1.graphics", "place"}));
+    QCOMPARE(redraws, 1);
+}
+
+void ActionDimensionTest::renewingGoesOnUntilTheEnd()
+{
+    Fixture f;
+    Log log;
+
+    f.Run([&] {
+        Dimensions().OnKeyDown('1', false, false, false);
+        ActionManager::Reset();
+        f.TakeHandlerLog();
+        ActionManager::RenewViewInput(&f.view);
+        log = f.TakeHandlerLog();
+    });
+
+    QCOMPARE(log, (Log{"1.graphics", "place"}));
 }
 
 void ActionDimensionTest::aFreedValueShowsTheDimensionsAnew()

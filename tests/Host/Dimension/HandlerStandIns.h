@@ -6,6 +6,7 @@
 #include "Graphics/IGraphicsNode.h"
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
@@ -17,7 +18,11 @@ namespace vesk
 class StandInContext final : public ITemporaryDimensionContext
 {
 public:
-    explicit StandInContext(int kind) : m_kind(kind) {}
+    /// The token lives as long as the context.
+    explicit StandInContext(int kind, std::shared_ptr<int> pToken = nullptr)
+        : m_kind(kind), m_pToken(std::move(pToken))
+    {
+    }
 
     Intervald GetFirstValueRange() const override { return {0.0, 1.0}; }
     Intervald GetSecondValueRange() const override { return {0.0, 1.0}; }
@@ -25,6 +30,7 @@ public:
 
 private:
     int m_kind;
+    std::shared_ptr<int> m_pToken;
 };
 
 /// What a stand-in handler does in its operations.

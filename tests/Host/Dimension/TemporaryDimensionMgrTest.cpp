@@ -6,6 +6,7 @@
 #include "Support/HostValues.h"
 #include "Support/TestValues.h"
 
+#include <memory>
 #include <stdexcept>
 
 namespace vesk
@@ -71,6 +72,9 @@ private slots:
     void aHandlerReplacedWhileItsInputEndsStaysTheNewOne();
     void aHandlerDroppedWhileItDrawsLeavesNoGraphics();
     void drawingInsideDrawingDoesNothing();
+    void aContextLivesWhileTheHandlerDraws_data();
+    void aContextLivesWhileTheHandlerDraws();
+    void aContextThatIsReplacedIsFreed();
     void locksAreRemembered();
     void locksGoWithTheHandler();
     void locksOutliveAContextOfTheSameKind();
@@ -402,6 +406,49 @@ void TemporaryDimensionMgrTest::drawingInsideDrawingDoesNothing()
     f.SetContext(1);
 
     QCOMPARE(f.TakeLog(), (Log{"1.made", "1.graphics", "1.graphics done"}));
+}
+
+void TemporaryDimensionMgrTest::aContextLivesWhileTheHandlerDraws_data()
+{
+    QTest::addColumn<int>("nextKind");
+    QTest::newRow("another context") << 1;
+    QTest::newRow("another kind") << 2;
+    QTest::newRow("no context") << -1;
+}
+
+void TemporaryDimensionMgrTest::aContextLivesWhileTheHandlerDraws()
+{
+    QFETCH(int, nextKind);
+    Fixture f;
+    auto pToken = std::make_shared<int>();
+    const std::weak_ptr<int> pContext = pToken;
+    bool isAlive = false;
+    f.script.onGenerate = [&] {
+        f.script.onGenerate = nullptr;
+        if (nextKind < 0)
+            Manager().Drop();
+        else
+            f.SetContext(nextKind);
+        isAlive = !pContext.expired();
+    };
+
+    Manager().SetContext(MakeOwner<StandInContext>(1, std::move(pToken)));
+
+    QVERIFY(isAlive);
+    QVERIFY(pContext.expired());
+}
+
+void TemporaryDimensionMgrTest::aContextThatIsReplacedIsFreed()
+{
+    Fixture f;
+    auto pToken = std::make_shared<int>();
+    const std::weak_ptr<int> pContext = pToken;
+    Manager().SetContext(MakeOwner<StandInContext>(1, std::move(pToken)));
+    QVERIFY(!pContext.expired());
+
+    f.SetContext(1);
+
+    QVERIFY(pContext.expired());
 }
 
 void TemporaryDimensionMgrTest::locksAreRemembered()
