@@ -31,9 +31,9 @@ CentralAngleTemporaryDimensionHandler::GenerateGraphics(const ITemporaryDimensio
 {
     const auto* pCentralAngle =
         dynamic_cast<const CentralAngleTemporaryDimensionContext*>(pContext);
-    HandlerDrawing drawing = HandlerDrawing::Begin(m_viewId, pContext, pCentralAngle != nullptr,
-                                   "vesk::CentralAngleTemporaryDimensionHandler::GenerateGraphics",
-                                   L"pCentralAngleCtx为空");
+    HandlerDrawing drawing = HandlerDrawing::Begin(
+        m_viewId, pContext, pCentralAngle != nullptr,
+        "vesk::CentralAngleTemporaryDimensionHandler::GenerateGraphics", L"pCentralAngleCtx为空");
     if (!drawing.pixel.has_value())
         return std::move(drawing.opGroup);
 

@@ -41,9 +41,9 @@ LinearTemporaryDimensionHandler::GenerateGraphics(const ITemporaryDimensionConte
     if (pLinear != nullptr && Vector3dUtils::IsEqual(pLinear->GetStartPoint(),
                                                      pLinear->GetEndPoint(), Constants::DOUBLE_EPS))
         return HandlerDrawing::CreateGroup();
-    HandlerDrawing drawing =
-        HandlerDrawing::Begin(m_viewId, pContext, pLinear != nullptr,
-                     "vesk::LinearTemporaryDimensionHandler::GenerateGraphics", L"pLinearCtx为空");
+    HandlerDrawing drawing = HandlerDrawing::Begin(
+        m_viewId, pContext, pLinear != nullptr,
+        "vesk::LinearTemporaryDimensionHandler::GenerateGraphics", L"pLinearCtx为空");
     if (!drawing.pixel.has_value())
         return std::move(drawing.opGroup);
 

@@ -56,8 +56,8 @@ OwnerPtr<IGraphicsNodeGroup>
 RadiusTemporaryDimensionHandler::GenerateGraphics(const ITemporaryDimensionContext* pContext)
 {
     const auto* pRadius = dynamic_cast<const RadiusTemporaryDimensionContext*>(pContext);
-    HandlerDrawing drawing =
-        HandlerDrawing::Begin(m_viewId, pContext, pRadius != nullptr, GenerateFunction, L"pRadiusCtx为空");
+    HandlerDrawing drawing = HandlerDrawing::Begin(m_viewId, pContext, pRadius != nullptr,
+                                                   GenerateFunction, L"pRadiusCtx为空");
     if (!drawing.pixel.has_value())
         return std::move(drawing.opGroup);
 
@@ -118,7 +118,7 @@ DimensionKind RadiusTemporaryDimensionHandler::GetKind() const
 
 /// The two radius lines, and the angle if there is one.
 void RadiusTemporaryDimensionHandler::DrawCentralAngle(
-    const RadiusTemporaryDimensionContext& context, Drawing& drawing)
+    const RadiusTemporaryDimensionContext& context, HandlerDrawing& drawing)
 {
     const Vector3d& first = context.GetFirstPoint();
     const Vector3d& second = context.GetSecondPoint();

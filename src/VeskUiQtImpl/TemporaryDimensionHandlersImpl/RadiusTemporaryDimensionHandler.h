@@ -6,6 +6,7 @@ namespace vesk
 {
 
 class RadiusTemporaryDimensionContext;
+struct HandlerDrawing;
 
 /// Shows the radius of an arc through three points while it is drawn, and accepts a typed radius.
 class RadiusTemporaryDimensionHandler final : public TemporaryDimensionHandler
@@ -30,7 +31,7 @@ public slots:
 
 private:
     DimensionKind GetKind() const;
-    void DrawCentralAngle(const RadiusTemporaryDimensionContext& context, Drawing& drawing);
+    void DrawCentralAngle(const RadiusTemporaryDimensionContext& context, HandlerDrawing& drawing);
 
     bool m_isCentralAngleShown = false;
 };

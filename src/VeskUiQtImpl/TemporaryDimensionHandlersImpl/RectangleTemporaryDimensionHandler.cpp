@@ -33,9 +33,9 @@ OwnerPtr<IGraphicsNodeGroup>
 RectangleTemporaryDimensionHandler::GenerateGraphics(const ITemporaryDimensionContext* pContext)
 {
     const auto* pRectangle = dynamic_cast<const RectangleTemporaryDimensionContext*>(pContext);
-    HandlerDrawing drawing = HandlerDrawing::Begin(m_viewId, pContext, pRectangle != nullptr,
-                                   "vesk::RectangleTemporaryDimensionHandler::GenerateGraphics",
-                                   L"pRectangleCtx为空");
+    HandlerDrawing drawing = HandlerDrawing::Begin(
+        m_viewId, pContext, pRectangle != nullptr,
+        "vesk::RectangleTemporaryDimensionHandler::GenerateGraphics", L"pRectangleCtx为空");
     if (!drawing.pixel.has_value())
         return std::move(drawing.opGroup);
 

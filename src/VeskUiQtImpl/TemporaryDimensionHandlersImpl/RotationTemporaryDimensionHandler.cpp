@@ -29,9 +29,9 @@ OwnerPtr<IGraphicsNodeGroup>
 RotationTemporaryDimensionHandler::GenerateGraphics(const ITemporaryDimensionContext* pContext)
 {
     const auto* pRotation = dynamic_cast<const RotationTemporaryDimensionContext*>(pContext);
-    HandlerDrawing drawing = HandlerDrawing::Begin(m_viewId, pContext, pRotation != nullptr,
-                                   "vesk::RotationTemporaryDimensionHandler::GenerateGraphics",
-                                   L"pRotationCtx为空");
+    HandlerDrawing drawing = HandlerDrawing::Begin(
+        m_viewId, pContext, pRotation != nullptr,
+        "vesk::RotationTemporaryDimensionHandler::GenerateGraphics", L"pRotationCtx为空");
     if (!drawing.pixel.has_value())
         return std::move(drawing.opGroup);
 

@@ -8,6 +8,7 @@
 
 #include <memory>
 #include <stdexcept>
+#include <utility>
 
 namespace vesk
 {
@@ -423,8 +424,10 @@ void TemporaryDimensionMgrTest::aContextLivesWhileTheHandlerDraws()
     auto pToken = std::make_shared<int>();
     const std::weak_ptr<int> pContext = pToken;
     bool isAlive = false;
+    bool isFirst = true;
     f.script.onGenerate = [&] {
-        f.script.onGenerate = nullptr;
+        if (!std::exchange(isFirst, false))
+            return;
         if (nextKind < 0)
             Manager().Drop();
         else

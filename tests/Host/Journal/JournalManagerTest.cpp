@@ -153,6 +153,7 @@ void JournalManagerTest::eachRecordIsInTheFileBeforeItsNumberIsKnown()
 
 void JournalManagerTest::closingForgetsNumbersAndLines()
 {
+    const HostCore core;
     const QTemporaryDir folder;
     const QString path = folder.filePath("journal");
     Journal().Open(path.toStdString(), m_error);
