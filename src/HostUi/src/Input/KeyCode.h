@@ -8,7 +8,7 @@ namespace vesk
 struct InputField;
 
 /// Key codes as dimension handlers expect them (ITemporaryDimensionHandler).
-enum VirtualKey : int
+enum KeyCode : int
 {
     VirtualKeypad0 = 96,
     VirtualKeypadMinus = 109,
