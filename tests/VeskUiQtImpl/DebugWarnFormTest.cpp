@@ -45,7 +45,7 @@ QString TextOf(const QWidget& widget)
 }
 
 /// Class, geometry, text and any unusual state; without the geometry if a layout decides it.
-QString Describe(const QWidget& widget)
+static QString Describe(const QWidget& widget)
 {
     const QRect rect = widget.geometry();
     const bool isLaidOut = widget.parentWidget()->layout() != nullptr;

@@ -22,6 +22,8 @@
 
 namespace vesk::test
 {
+namespace
+{
 
 /// What a test needs to know of a control of any kind: the widget that shows the states, and the
 /// definition they belong to.
@@ -147,6 +149,8 @@ private:
     QEvent::Type m_type;
     std::function<void()> m_act;
 };
+
+}
 
 }
 

@@ -23,6 +23,8 @@
 
 namespace vesk::test
 {
+namespace
+{
 
 /// What is visible of a control once it is complete: its name, its mark and how much it holds.
 QString Describe(const QObject& control)
@@ -175,6 +177,8 @@ bool IsRadioButtonUsed(const IControlDefinition& definition)
 {
     const auto& group = dynamic_cast<const IRadioButtonGroupDefinition&>(definition);
     return group.GetCurrentRadioButtonId() == L"a";
+}
+
 }
 
 }

@@ -26,6 +26,8 @@
 
 namespace vesk::test
 {
+namespace
+{
 
 /// What is visible of a definition from outside: its event, which outlives it, and its end.
 struct Watch
@@ -136,6 +138,8 @@ void AddKinds()
     QTest::newRow("command button menu") << Creation(&MakeMenu);
     QTest::newRow("check boxes") << Creation(&MakeCheckBoxes);
     QTest::newRow("radio buttons") << Creation(&MakeRadioButtons);
+}
+
 }
 
 }

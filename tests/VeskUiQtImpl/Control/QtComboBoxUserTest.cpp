@@ -70,7 +70,7 @@ struct IndexFlag
 };
 template struct ExposeFlag<IndexFlag, &QtComboBox::s_isIndexChangeByUser>;
 
-void ChooseWithTheMouse(QComboBox& box, int index)
+static void ChooseWithTheMouse(QComboBox& box, int index)
 {
     box.showPopup();
     const QRect item = box.view()->visualRect(box.model()->index(index, 0));

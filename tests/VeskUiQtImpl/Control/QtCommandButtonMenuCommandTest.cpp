@@ -37,7 +37,7 @@ struct ChoiceFixture : MenuFixture
     }
 };
 
-void ChooseWithTheMouse(QMenu& menu, QAction* pAction)
+static void ChooseWithTheMouse(QMenu& menu, QAction* pAction)
 {
     menu.popup(QPoint(0, 0));
     const QPoint place = menu.actionGeometry(pAction).center();

@@ -26,6 +26,8 @@
 
 namespace vesk::test
 {
+namespace
+{
 
 /// A definition that records when it is freed; subclasses add what is specific to each kind.
 template <class Interface>
@@ -94,6 +96,8 @@ VeskIControlFactory& Factory()
 
 /// Creates a control on behalf of a window; most kinds ignore it.
 using Creation = OwnerPtr<IControl> (*)(WindowId parentWindowId);
+
+}
 
 }
 

@@ -39,7 +39,7 @@ public:
     int configCount = 0;
 };
 
-TemporaryDimensionHandlerFactory& Factory()
+static TemporaryDimensionHandlerFactory& Factory()
 {
     return *TemporaryDimensionHandlerFactory::GetInstance();
 }
