@@ -42,12 +42,14 @@ std::optional<int> Answer(const Options& options)
 
 /// What the toolkit tells of its own housekeeping and nobody can act upon: it makes a folder for
 /// the session's sockets where none is set; it asks for the window below the cursor, frame by
-/// frame, while the window manager removes one of the frames; and a display that is no screen
+/// frame, while the window manager removes one of the frames; it shows a window again that a busy
+/// window manager has put on screen only after it was hidden; and a display that is no screen
 /// cannot do all that windows ask of it.
 bool IsHousekeeping(const QString& message)
 {
     return message.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set")) ||
            message.startsWith(QLatin1String("This plugin does not support")) ||
+           message.contains(QLatin1String("setNetWmStateOnUnmappedWindow() called on mapped")) ||
            (message.startsWith(QLatin1String("QXcbConnection: XCB error: 3 (BadWindow)")) &&
             message.contains(QLatin1String("(TranslateCoords)")));
 }
