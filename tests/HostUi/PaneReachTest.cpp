@@ -27,6 +27,8 @@ private slots:
     void aRestoredPaneFloatsAgainAtItsLastSize();
     void aDraggedPaneGetsItsSizeWhenItIsLetGo();
     void aPaneThatIsDraggedOutAgainGetsItsLastSize();
+    void aDraggedPaneThatIsDockedAsItIsLetGoIsLeftThere();
+    void aDraggedPaneMayDieAsItIsLetGo();
     void aPaneThatReachesBeyondTheScreenStaysWhereItIs_data();
     void aPaneThatReachesBeyondTheScreenStaysWhereItIs();
 };
@@ -315,6 +317,44 @@ void PaneReachTest::aPaneThatIsDraggedOutAgainGetsItsLastSize()
     Run::Settle();
 
     QTRY_COMPARE(pPane->size(), QSize(700, 210));
+}
+
+/// The pane is let go 200 pixels above its place; what has still to be done then has not begun.
+static void DragOut(QDockWidget* pPane)
+{
+    const QPoint held = pPane->mapToGlobal(QPoint(pPane->width() / 2, 8));
+    Mouse(pPane, QEvent::MouseButtonPress, held);
+    Mouse(pPane, QEvent::MouseMove, held - QPoint(0, 60));
+    Mouse(pPane, QEvent::MouseMove, held - QPoint(0, 200));
+    Run::Settle();
+    QVERIFY(pPane->isFloating());
+    Mouse(pPane, QEvent::MouseButtonRelease, held - QPoint(0, 200));
+}
+
+void PaneReachTest::aDraggedPaneThatIsDockedAsItIsLetGoIsLeftThere()
+{
+    Run run;
+    QDockWidget* pPane = run.Pane("F");
+    const QRect docked = pPane->geometry();
+    DragOut(pPane);
+
+    pPane->setFloating(false);
+    QTest::qWait(0);
+
+    QCOMPARE(pPane->geometry(), docked);
+}
+
+void PaneReachTest::aDraggedPaneMayDieAsItIsLetGo()
+{
+    Run run;
+    QDockWidget* pPane = run.Pane("F");
+    DragOut(pPane);
+    run.manager.DeleteDock(L"F");
+
+    delete pPane;
+    QTest::qWait(0);
+
+    QVERIFY(!run.pLayout->Save().isEmpty());
 }
 
 }
