@@ -27,6 +27,7 @@ class TerminationRequestsTest : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase();
     void eachSignalIsARequest_data();
     void eachSignalIsARequest();
     void aRequestComesInNestedLoopsToo();
@@ -54,6 +55,13 @@ static QSet<int> OpenFiles()
 template <int Signal>
 static void Ignore(int)
 {}
+
+/// Who starts the tests may have ignored some: a shell does, for what runs in the background.
+void TerminationRequestsTest::initTestCase()
+{
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP})
+        std::signal(signal, SIG_DFL);
+}
 
 void TerminationRequestsTest::eachSignalIsARequest_data()
 {
