@@ -104,7 +104,6 @@ private:
 
     /// Where panes floated that a layout named and nobody has added.
     QMap<QString, QRect> m_unknownPlaces;
-    bool m_isApplying = false;
 
     /// The panes that have been named here.
     std::vector<QPointer<QDockWidget>> m_named;
