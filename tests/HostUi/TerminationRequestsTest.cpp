@@ -35,6 +35,7 @@ private slots:
     void whatWasIgnoredStaysIgnored();
     void afterwardsEverythingIsAsBefore();
     void theFilesThatItUsesAreClosed();
+    void withoutFilesEverythingIsAsBefore();
     void aCallThatASignalInterruptsGoesOn();
     void failedWritesAreSurvived();
 };
@@ -158,6 +159,23 @@ void TerminationRequestsTest::theFilesThatItUsesAreClosed()
     }
 
     QCOMPARE(OpenFiles(), before);
+}
+
+void TerminationRequestsTest::withoutFilesEverythingIsAsBefore()
+{
+    const auto before = std::signal(SIGTERM, &Ignore<SIGTERM>);
+    rlimit most = {};
+    QCOMPARE(::getrlimit(RLIMIT_NOFILE, &most), 0);
+    rlimit none = most;
+    none.rlim_cur = 0;
+    QCOMPARE(::setrlimit(RLIMIT_NOFILE, &none), 0);
+
+    {
+        const TerminationRequests requests;
+    }
+
+    QCOMPARE(::setrlimit(RLIMIT_NOFILE, &most), 0);
+    QVERIFY(std::signal(SIGTERM, before) == &Ignore<SIGTERM>);
 }
 
 void TerminationRequestsTest::aCallThatASignalInterruptsGoesOn()
