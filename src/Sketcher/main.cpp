@@ -43,12 +43,14 @@ std::optional<int> Answer(const Options& options)
 
 /// Messages about the toolkit's own housekeeping that no user can act on: it creates a folder for
 /// the session's sockets if none is set; it queries the window below the cursor, frame by frame,
-/// while the window manager removes one of the frames; and an offscreen display does not support
+/// while the window manager removes one of the frames; it shows a window again that a busy window
+/// manager has mapped only after it was hidden; and an offscreen display does not support
 /// everything that windows request.
 bool IsHousekeeping(const QString& message)
 {
     return message.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set")) ||
            message.startsWith(QLatin1String("This plugin does not support")) ||
+           message.contains(QLatin1String("setNetWmStateOnUnmappedWindow() called on mapped")) ||
            (message.startsWith(QLatin1String("QXcbConnection: XCB error: 3 (BadWindow)")) &&
             message.contains(QLatin1String("(TranslateCoords)")));
 }

@@ -27,6 +27,7 @@ class TerminationRequestsTest : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase();
     void eachSignalIsARequest_data();
     void eachSignalIsARequest();
     void aRequestComesInNestedLoopsToo();
@@ -34,6 +35,7 @@ private slots:
     void whatWasIgnoredStaysIgnored();
     void afterwardsEverythingIsAsBefore();
     void theFilesThatItUsesAreClosed();
+    void withoutFilesEverythingIsAsBefore();
     void aCallThatASignalInterruptsGoesOn();
     void failedWritesAreSurvived();
 };
@@ -54,6 +56,13 @@ static QSet<int> OpenFiles()
 template <int Signal>
 static void Ignore(int)
 {}
+
+/// Who starts the tests may have ignored some: a shell does, for what runs in the background.
+void TerminationRequestsTest::initTestCase()
+{
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP})
+        std::signal(signal, SIG_DFL);
+}
 
 void TerminationRequestsTest::eachSignalIsARequest_data()
 {
@@ -150,6 +159,23 @@ void TerminationRequestsTest::theFilesThatItUsesAreClosed()
     }
 
     QCOMPARE(OpenFiles(), before);
+}
+
+void TerminationRequestsTest::withoutFilesEverythingIsAsBefore()
+{
+    const auto before = std::signal(SIGTERM, &Ignore<SIGTERM>);
+    rlimit most = {};
+    QCOMPARE(::getrlimit(RLIMIT_NOFILE, &most), 0);
+    rlimit none = most;
+    none.rlim_cur = 0;
+    QCOMPARE(::setrlimit(RLIMIT_NOFILE, &none), 0);
+
+    {
+        const TerminationRequests requests;
+    }
+
+    QCOMPARE(::setrlimit(RLIMIT_NOFILE, &most), 0);
+    QVERIFY(std::signal(SIGTERM, before) == &Ignore<SIGTERM>);
 }
 
 void TerminationRequestsTest::aCallThatASignalInterruptsGoesOn()

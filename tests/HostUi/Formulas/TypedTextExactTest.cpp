@@ -165,6 +165,11 @@ private slots:
         add("1.000001^99999", TypedTextFault::None);
         add("(((9^99)^99)^99)^99", TypedTextFault::NoValue);
         add("10^400/10^399", TypedTextFault::NoValue);
+        // The last power, the last fraction that are still exact.
+        add("(1/2)^5000/(1/2)^5000", TypedTextFault::None);
+        add("(1/2)^5001/(1/2)^5001", TypedTextFault::NoValue);
+        add("1/((1/2)^4999*(1/2)^4999*(1/2)*0+1)", TypedTextFault::None);
+        add("1/((1/2)^4999*(1/2)^4999*(1/4)*0+1)", TypedTextFault::NoValue);
         QTest::newRow("many small numbers")
             << QStringLiteral("1e-300*").repeated(9) + "1" << TypedTextFault::None;
         QTest::newRow("more small numbers than anybody needs")

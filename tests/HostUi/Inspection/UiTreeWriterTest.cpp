@@ -25,6 +25,26 @@
 
 using namespace vesk;
 
+/// Counts how often the maximum delay runs out after which a change is written.
+class LateWrites final : public QObject
+{
+public:
+    static constexpr int Time = 150;
+
+    LateWrites() { qApp->installEventFilter(this); }
+
+    int count = 0;
+
+protected:
+    bool eventFilter(QObject* pWatched, QEvent* pEvent) override
+    {
+        const auto* pTimer = qobject_cast<QTimer*>(pWatched);
+        const bool isTime = pEvent->type() == QEvent::Timer && pTimer != nullptr;
+        count += isTime && pTimer->interval() == Time ? 1 : 0;
+        return false;
+    }
+};
+
 /// A window with a button that represents a definition, and the file that describes it.
 class UiTreeWriterTest final : public QObject
 {
@@ -194,6 +214,28 @@ private slots:
         nested.exec();
 
         QCOMPARE(int(Read()["entities"]), 5);
+    }
+
+    /// Only a loop that never rests waits for the longer of the two times.
+    void anIdleLoopIsNotKeptAwake()
+    {
+        QVERIFY(m_pWriter->Write());
+        const LateWrites late;
+
+        m_pButton->setText(QStringLiteral("changed"));
+        QTRY_COMPARE(QString::fromStdString(Read()["controls"][0]["text"]),
+                     QStringLiteral("changed"));
+        QTest::qWait(2 * LateWrites::Time);
+
+        QCOMPARE(late.count, 0);
+    }
+
+    /// People read it, and compare it line by line.
+    void eachValueHasAnIndentedLine()
+    {
+        QVERIFY(m_pWriter->Write());
+
+        QVERIFY(Text().split('\n').contains(" \"action\": null,"));
     }
 
     void whatIsTheSameIsNotWrittenAgain()

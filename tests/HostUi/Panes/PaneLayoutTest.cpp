@@ -63,6 +63,9 @@ private slots:
     void aPaneWithoutContentIsLaidOutToo();
     void namesOfForeignDocksAreLeft();
     void aFloatingPaneComesUpAfterTheWindow();
+    void aFloatingPaneStaysOnScreenInAWindowThatIsThere();
+    void aHiddenFloatingPaneDoesNotComeUp();
+    void aFloatingPaneThatIsNotThereKeepsItsPlaceForLater();
     void anUnusableLayoutGivesTheFactoryLayout();
     void aPaneThatLeftTheManagerIsNobodysAnyMore();
     void showingAndHidingIsTold();
@@ -374,6 +377,59 @@ void PaneLayoutTest::aFloatingPaneComesUpAfterTheWindow()
 
     QTRY_VERIFY(next.Pane("D")->isVisible());
     QVERIFY(next.Pane("D")->isFloating());
+}
+
+void PaneLayoutTest::aFloatingPaneStaysOnScreenInAWindowThatIsThere()
+{
+    Run run;
+    run.Arrange();
+    const QByteArray saved = run.pLayout->Save();
+    Run next;
+
+    QVERIFY(next.pLayout->Restore(saved));
+
+    QVERIFY(next.Pane("D")->isFloating());
+    QVERIFY(next.Pane("D")->isVisible());
+}
+
+void PaneLayoutTest::aHiddenFloatingPaneDoesNotComeUp()
+{
+    Run run;
+    run.Arrange();
+    run.Pane("D")->hide();
+    const QByteArray saved = run.pLayout->Save();
+    Run next;
+    next.window.hide();
+
+    QVERIFY(next.pLayout->Restore(saved));
+    next.window.show();
+    Run::Settle();
+
+    QVERIFY(next.Pane("D")->isFloating());
+    QVERIFY(next.Pane("D")->isHidden());
+}
+
+void PaneLayoutTest::aFloatingPaneThatIsNotThereKeepsItsPlaceForLater()
+{
+    // The toolkit itself would push it back into the screen.
+    const QRect place(-190, 200, 260, 180);
+    QByteArray saved;
+    {
+        Run run;
+        run.Arrange();
+        run.Pane("D")->setGeometry(place);
+        saved = run.pLayout->Save();
+    }
+    {
+        Run run({"A", "B", "C", "E", "F"});
+        QVERIFY(run.pLayout->Restore(saved));
+        saved = run.pLayout->Save();
+    }
+
+    Run last;
+    QVERIFY(last.pLayout->Restore(saved));
+
+    QCOMPARE(last.Pane("D")->geometry(), place);
 }
 
 void PaneLayoutTest::anUnusableLayoutGivesTheFactoryLayout()

@@ -1,6 +1,7 @@
 #include "HostUi/PaneLayout.h"
 
 #include "HostUi/PaneRun.h"
+#include "PaneReach.h"
 
 #include "Support/TestValues.h"
 
@@ -27,6 +28,13 @@ private slots:
     void aRestoredPaneFloatsAgainAtItsLastSize();
     void aDraggedPaneGetsItsSizeWhenItIsLetGo();
     void aPaneThatIsDraggedOutAgainGetsItsLastSize();
+    void aDraggedPaneThatIsDockedAsItIsLetGoIsLeftThere();
+    void aDraggedPaneMayDieAsItIsLetGo();
+    void aPaneOfASmallWidthIsInReachAsAWhole();
+    void sixtyFourPixelsOfATitleAreEnough();
+    void aTitleOfItsOwnIsWhatAPaneIsHeldBy();
+    void theNearestScreenShowsMostOfAPane_data();
+    void theNearestScreenShowsMostOfAPane();
     void aPaneThatReachesBeyondTheScreenStaysWhereItIs_data();
     void aPaneThatReachesBeyondTheScreenStaysWhereItIs();
 };
@@ -315,6 +323,128 @@ void PaneReachTest::aPaneThatIsDraggedOutAgainGetsItsLastSize()
     Run::Settle();
 
     QTRY_COMPARE(pPane->size(), QSize(700, 210));
+}
+
+/// The pane is let go 200 pixels above its place; what has still to be done then has not begun.
+static void DragOut(QDockWidget* pPane)
+{
+    const QPoint held = pPane->mapToGlobal(QPoint(pPane->width() / 2, 8));
+    Mouse(pPane, QEvent::MouseButtonPress, held);
+    Mouse(pPane, QEvent::MouseMove, held - QPoint(0, 60));
+    Mouse(pPane, QEvent::MouseMove, held - QPoint(0, 200));
+    Run::Settle();
+    QVERIFY(pPane->isFloating());
+    Mouse(pPane, QEvent::MouseButtonRelease, held - QPoint(0, 200));
+}
+
+void PaneReachTest::aDraggedPaneThatIsDockedAsItIsLetGoIsLeftThere()
+{
+    Run run;
+    QDockWidget* pPane = run.Pane("F");
+    const QRect docked = pPane->geometry();
+    DragOut(pPane);
+
+    pPane->setFloating(false);
+    QTest::qWait(0);
+
+    QCOMPARE(pPane->geometry(), docked);
+}
+
+void PaneReachTest::aPaneOfASmallWidthIsInReachAsAWhole()
+{
+    FloatingRun run(QRect(100, 100, 200, 150));
+    QDockWidget* pPane = run.Pane("D");
+    pPane->widget()->setMinimumSize(10, 10);
+    pPane->setFeatures(QDockWidget::NoDockWidgetFeatures);
+    Run::Settle();
+    // Its lower half is beyond the screen: what is out of reach would be moved.
+    pPane->setGeometry(300, ScreenRect().bottom() - 75, 1, 150);
+    const QRect place = pPane->geometry();
+    QVERIFY(pPane->frameGeometry().width() < 64);
+
+    run.pLayout->BringFloatingIntoReach();
+
+    QCOMPARE(pPane->geometry(), place);
+}
+
+void PaneReachTest::sixtyFourPixelsOfATitleAreEnough()
+{
+    FloatingRun run(QRect(100, 100, 200, 150));
+    QDockWidget* pPane = run.Pane("D");
+    const int border = pPane->frameGeometry().right() - pPane->geometry().right();
+    pPane->setGeometry(63 - border - 199, 100, 200, 150);
+    QCOMPARE(pPane->frameGeometry().right(), ScreenRect().left() + 63);
+
+    run.pLayout->BringFloatingIntoReach();
+    QCOMPARE(pPane->frameGeometry().right(), ScreenRect().left() + 63);
+
+    pPane->move(pPane->x() - 1, pPane->y());
+    run.pLayout->BringFloatingIntoReach();
+    QCOMPARE(pPane->frameGeometry().left(), ScreenRect().left());
+}
+
+void PaneReachTest::aTitleOfItsOwnIsWhatAPaneIsHeldBy()
+{
+    FloatingRun run(QRect(100, 100, 200, 150));
+    QDockWidget* pPane = run.Pane("D");
+    auto* pTitle = new QLabel;
+    pTitle->setFixedHeight(50);
+    pPane->setTitleBarWidget(pTitle);
+    pPane->setFloating(false);
+    pPane->setFloating(true);
+    Run::Settle();
+    QVERIFY(pPane->windowFlags().testFlag(Qt::FramelessWindowHint));
+    const int titleHeight = pPane->widget()->y();
+    QVERIFY(titleHeight >= 50);
+    const int lowest = ScreenRect().bottom() + 1 - titleHeight;
+
+    pPane->setGeometry(300, lowest, 200, 150);
+    run.pLayout->BringFloatingIntoReach();
+    QCOMPARE(pPane->geometry().top(), lowest);
+
+    pPane->setGeometry(300, lowest + 1, 200, 150);
+    run.pLayout->BringFloatingIntoReach();
+    QCOMPARE(pPane->geometry().bottom(), ScreenRect().bottom());
+}
+
+void PaneReachTest::theNearestScreenShowsMostOfAPane_data()
+{
+    QTest::addColumn<QRect>("place");
+    QTest::addColumn<int>("nearest");
+    QTest::newRow("within the first") << QRect(100, 100, 200, 150) << 0;
+    QTest::newRow("within the second") << QRect(1100, 100, 200, 150) << 1;
+    QTest::newRow("more of it on the first") << QRect(850, 100, 200, 150) << 0;
+    QTest::newRow("more of it on the second") << QRect(950, 100, 200, 150) << 1;
+    QTest::newRow("a larger part that is flat") << QRect(995, 750, 600, 150) << 1;
+    QTest::newRow("a corner of the first, the second's centre nearer")
+        << QRect(990, 790, 900, 700) << 0;
+    QTest::newRow("left of both") << QRect(-900, 100, 200, 150) << 0;
+    QTest::newRow("right of both") << QRect(3900, 100, 200, 150) << 1;
+    QTest::newRow("below the first") << QRect(100, 2000, 200, 150) << 0;
+}
+
+void PaneReachTest::theNearestScreenShowsMostOfAPane()
+{
+    QFETCH(QRect, place);
+    QFETCH(int, nearest);
+    // The second is not as high as the first.
+    const QList<QRect> screens = {QRect(0, 0, 1000, 800), QRect(1000, 0, 1600, 760)};
+
+    QCOMPARE(FindNearestScreen(screens, place), screens[nearest]);
+    QCOMPARE(FindNearestScreen({}, place), place);
+}
+
+void PaneReachTest::aDraggedPaneMayDieAsItIsLetGo()
+{
+    Run run;
+    QDockWidget* pPane = run.Pane("F");
+    DragOut(pPane);
+    run.manager.DeleteDock(L"F");
+
+    delete pPane;
+    QTest::qWait(0);
+
+    QVERIFY(!run.pLayout->Save().isEmpty());
 }
 
 }

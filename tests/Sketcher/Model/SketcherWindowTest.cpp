@@ -6,6 +6,7 @@
 
 #include "Command/ActionManager.h"
 #include "Control/ProgressBarDefinition.h"
+#include "Control/VeskIControlFactory.h"
 #include "Dimension/LengthUnit.h"
 #include "HostCore.h"
 #include "HostUi/ControlHost.h"
@@ -59,6 +60,24 @@ protected:
 
 private:
     QStringList m_names;
+};
+
+/// While it exists nothing creates controls, not even a library that is linked.
+class NoControlFactory
+{
+public:
+    NoControlFactory() { Access::Set(nullptr); }
+    ~NoControlFactory() { Access::Set(m_pBefore); }
+    NoControlFactory(const NoControlFactory&) = delete;
+    NoControlFactory& operator=(const NoControlFactory&) = delete;
+
+private:
+    struct Access : VeskIControlFactory
+    {
+        using VeskIControlFactory::Set;
+    };
+
+    VeskIControlFactory* m_pBefore = VeskIControlFactory::Get();
 };
 
 /// The program's window on screen, with a few commands that record that they ran.
@@ -377,6 +396,7 @@ private slots:
 
     void withoutTheLibraryThereAreNoControls()
     {
+        const NoControlFactory none;
         Fixture f(false);
 
         QVERIFY(f.window.GetProgress() == nullptr);

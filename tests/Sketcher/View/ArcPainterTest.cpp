@@ -75,7 +75,7 @@ private slots:
             return QLineF(a, b).length() <= 1e-9;
         };
         const double quarter = s_turn / 4.0;
-        const ScreenArc up{{30, 40}, 10, 0, 1.0};
+        const ScreenArc up{{30, 40}, 10, 0, 0.5};
         const ScreenArc down{{30, 40}, 10, quarter, -1.0};
 
         QVERIFY(isNear(up.PointAt(0.0), {40, 40}));

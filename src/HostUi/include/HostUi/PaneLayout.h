@@ -105,7 +105,6 @@ private:
 
     /// Floating positions of panes that a layout names but the manager does not have.
     QMap<QString, QRect> m_unknownPlaces;
-    bool m_isApplying = false;
 
     /// The panes whose object names were set here.
     std::vector<QPointer<QDockWidget>> m_named;

@@ -11,7 +11,6 @@
 #include <QGuiApplication>
 #include <QLayout>
 #include <QMainWindow>
-#include <QScopedValueRollback>
 #include <QScreen>
 #include <QTimer>
 
@@ -183,7 +182,7 @@ bool PaneLayout::eventFilter(QObject* pWatched, QEvent* pEvent)
         NoteSize(static_cast<QDockWidget&>(*pWatched));
     if (pEvent->type() == QEvent::LayoutRequest)
         KeepUsable(static_cast<QDockWidget&>(*pWatched));
-    if (pEvent->type() == QEvent::ShowToParent && !m_isApplying)
+    if (pEvent->type() == QEvent::ShowToParent)
         m_beforeHiding.clear();
     if (pEvent->type() == QEvent::ShowToParent || pEvent->type() == QEvent::HideToParent)
         emit visibilityChanged();
@@ -248,7 +247,7 @@ void PaneLayout::OnFloated(bool isFloating)
 {
     auto& pane = static_cast<QDockWidget&>(*sender());
     m_floating.remove(pane.objectName());
-    if (!isFloating || m_isApplying)
+    if (!isFloating)
         return;
     // While dragged, it is held by a point of its title that must stay under the cursor.
     if (IsDragged(pane))
@@ -290,7 +289,6 @@ void PaneLayout::NoteSize(const QDockWidget& pane)
 
 bool PaneLayout::Apply(const QByteArray& layout)
 {
-    const QScopedValueRollback<bool> applying(m_isApplying, true);
     Prepare();
     QByteArray state;
     QMap<QString, QRect> places;

@@ -25,7 +25,7 @@ bool PanePosition::eventFilter(QObject* pWatched, QEvent* pEvent)
 {
     const QEvent::Type type = pEvent->type();
     // It may have another window each time that it leaves its area.
-    if (pWatched == &m_pane && type == QEvent::Show)
+    if (type == QEvent::Show)
         WatchWindow();
     if (pWatched != &m_pane &&
         (type == QEvent::Expose || type == QEvent::Move || type == QEvent::Enter))

@@ -68,13 +68,20 @@ Handle HandleOf(const QDockWidget& pane)
                                                             : HandleInside(pane);
 }
 
+/// What panes may cover of each screen.
+QList<QRect> Screens()
+{
+    QList<QRect> screens;
+    for (const QScreen* pScreen : QGuiApplication::screens())
+        screens.append(pScreen->availableGeometry());
+    return screens;
+}
+
 template <class Condition>
 bool IsSoOnAScreen(Condition condition)
 {
-    const QList<QScreen*> screens = QGuiApplication::screens();
-    return std::any_of(screens.begin(), screens.end(), [&](const QScreen* pScreen) {
-        return condition(pScreen->availableGeometry());
-    });
+    const QList<QRect> screens = Screens();
+    return std::any_of(screens.begin(), screens.end(), condition);
 }
 
 /// The distance of a rectangle from a screen; if they overlap, minus the common area.
@@ -86,17 +93,15 @@ qint64 DistanceFrom(const QRect& screen, const QRect& place)
     return (screen.center() - place.center()).manhattanLength();
 }
 
-QRect NearestScreen(const QRect& place)
-{
-    const QList<QScreen*> screens = QGuiApplication::screens();
-    const auto nearest = std::min_element(
-        screens.begin(), screens.end(), [&](const QScreen* pOne, const QScreen* pOther) {
-            return DistanceFrom(pOne->availableGeometry(), place) <
-                   DistanceFrom(pOther->availableGeometry(), place);
-        });
-    return nearest != screens.end() ? (*nearest)->availableGeometry() : place;
 }
 
+QRect FindNearestScreen(const QList<QRect>& screens, const QRect& place)
+{
+    const auto nearest = std::min_element(
+        screens.begin(), screens.end(), [&place](const QRect& one, const QRect& other) {
+            return DistanceFrom(one, place) < DistanceFrom(other, place);
+        });
+    return nearest != screens.end() ? *nearest : place;
 }
 
 bool IsInReach(const QDockWidget& pane)
@@ -117,7 +122,7 @@ bool IsInReach(const QDockWidget& pane)
 QRect PlaceInReach(const QDockWidget& pane)
 {
     QRect place = pane.frameGeometry() | HandleOf(pane).title;
-    const QRect screen = NearestScreen(place);
+    const QRect screen = FindNearestScreen(Screens(), place);
     place.setSize(place.size().boundedTo(screen.size()));
     place.moveLeft(std::clamp(place.left(), screen.left(), screen.right() - place.width() + 1));
     place.moveTop(std::clamp(place.top(), screen.top(), screen.bottom() - place.height() + 1));
