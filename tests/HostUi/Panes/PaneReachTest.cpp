@@ -1,7 +1,7 @@
 #include "HostUi/PaneLayout.h"
 
 #include "HostUi/PaneRun.h"
-#include "PaneReach.h"
+#include "Panes/PaneReach.h"
 
 #include "Support/TestValues.h"
 

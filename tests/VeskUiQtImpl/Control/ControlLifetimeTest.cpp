@@ -13,6 +13,9 @@
 namespace vesk::test
 {
 
+namespace
+{
+
 /// A definition whose event outlives it, and which records at its end whether a handler is still
 /// subscribed.
 class WatchedLabelDefinition final : public ILabelDefinition,
@@ -64,6 +67,26 @@ struct OnLineEditEvent final : ILineEditEventHandler
 
     std::function<void()> act;
 };
+
+/// Deletes a control when it is hidden, as a host that is notified of it may do.
+class HideWatcher final : public QObject
+{
+public:
+    explicit HideWatcher(OwnerPtr<QtLabel>& opLabel) : m_opLabel(opLabel) {}
+
+    bool eventFilter(QObject* pWatched, QEvent* pEvent) override
+    {
+        if (pEvent->type() != QEvent::HideToParent)
+            return QObject::eventFilter(pWatched, pEvent);
+        m_opLabel.Reset();
+        return true;
+    }
+
+private:
+    OwnerPtr<QtLabel>& m_opLabel;
+};
+
+}
 
 class ControlLifetimeTest : public QObject
 {
@@ -239,24 +262,6 @@ void ControlLifetimeTest::labelMayDieOfADefinitionsChange()
 
     QVERIFY(opLabel == nullptr);
 }
-
-/// Deletes a control when it is hidden, as a host that is notified of it may do.
-class HideWatcher final : public QObject
-{
-public:
-    explicit HideWatcher(OwnerPtr<QtLabel>& opLabel) : m_opLabel(opLabel) {}
-
-    bool eventFilter(QObject* pWatched, QEvent* pEvent) override
-    {
-        if (pEvent->type() != QEvent::HideToParent)
-            return QObject::eventFilter(pWatched, pEvent);
-        m_opLabel.Reset();
-        return true;
-    }
-
-private:
-    OwnerPtr<QtLabel>& m_opLabel;
-};
 
 void ControlLifetimeTest::labelMayDieWhileItIsHidden()
 {

@@ -149,6 +149,9 @@ Q_DECLARE_METATYPE(vesk::test::Creation)
 namespace vesk::test
 {
 
+namespace
+{
+
 /// Does something once, at the next change.
 struct OnChange final : IControlDefinitionChangeEventHandler
 {
@@ -204,6 +207,8 @@ struct CheckBoxFixture
     CheckBoxGroupDefinition* pDefinition;
     OwnerPtr<QtCheckBoxGroup> opGroup;
 };
+
+}
 
 /// Destruction of controls: what holds for all kinds, and for those with items.
 class ItemControlLifetimeTest : public QObject

@@ -16,6 +16,8 @@
 
 namespace vesk::test
 {
+namespace
+{
 
 using EventType = ControlDefinitionChangeEventType;
 using Writes = std::vector<IndexWrite>;
@@ -70,13 +72,15 @@ struct IndexFlag
 };
 template struct ExposeFlag<IndexFlag, &QtComboBox::s_isIndexChangeByUser>;
 
-static void ChooseWithTheMouse(QComboBox& box, int index)
+void ChooseWithTheMouse(QComboBox& box, int index)
 {
     box.showPopup();
     const QRect item = box.view()->visualRect(box.model()->index(index, 0));
     const QPoint place = item.topLeft() + QPoint(5, 5);
     QTest::mouseMove(box.view()->viewport(), place);
     QTest::mouseClick(box.view()->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+}
+
 }
 
 class QtComboBoxUserTest : public QObject
