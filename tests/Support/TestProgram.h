@@ -33,6 +33,8 @@ public:
 template <class Application, class Test>
 int RunIn(int argc, char* argv[])
 {
+    // What the class prepares before there is an application, as with Qt Test's own main function.
+    QTest::Internal::callInitMain<Test>();
     const Application application(argc, argv);
     QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
     Test test;
