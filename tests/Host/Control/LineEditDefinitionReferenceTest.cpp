@@ -98,12 +98,13 @@ void LineEditDefinitionReferenceTest::changesReachTheOther()
     const Fixture f;
 
     f.pReference->SetText(L"defg");
-    f.pReference->SetSelection(2, 2);
+    f.pReference->SetSelection(1, 2);
     const bool isNoted = f.pReference->SetIsEditing(true);
     f.pReference->SetValidator(MakeOwner<NumberValidator<int>>());
 
     QCOMPARE(f.pOther->GetText(), std::wstring(L"defg"));
-    QCOMPARE(f.pOther->GetSelectionStart(), 2);
+    QCOMPARE(f.pOther->GetSelectionStart(), 1);
+    QCOMPARE(f.pOther->GetSelectedText(), std::wstring(L"ef"));
     QVERIFY(isNoted);
     QVERIFY(f.pOther->IsEditing());
     QVERIFY(f.pOther->GetValidator() != nullptr);

@@ -65,6 +65,8 @@ private slots:
     void theTextStandsInTheMiddleOfWhatIsVisible();
     void theTextOfWhatIsNotVisibleStandsAtTheEdge_data();
     void theTextOfWhatIsNotVisibleStandsAtTheEdge();
+    void theTextStandsBesideTheCursorInALowView_data();
+    void theTextStandsBesideTheCursorInALowView();
     void theTextStandsInTheMiddleOfATinyView();
     void whatHardlyReachesIntoTheViewIsCutAtItsEdge();
     void theTextOfAShortOppositeSideStandsOutsideItsLine();
@@ -134,6 +136,28 @@ void ExactPlacementTest::theTextOfWhatIsNotVisibleStandsAtTheEdge()
     const Vector3d position = f.PlaceText(Length, Segment(start, end));
 
     QVERIFY((position - text).norm() < 1e-6);
+}
+
+void ExactPlacementTest::theTextStandsBesideTheCursorInALowView_data()
+{
+    QTest::addColumn<Vector3d>("start");
+    QTest::addColumn<Vector3d>("cursor");
+    QTest::addColumn<double>("x");
+    // The editor is 96 pixels wide and keeps ten off the cursor; above it there is no room.
+    QTest::newRow("left") << Vector3d(0, 0, 0) << Vector3d(100, 0, 0) << 42.0;
+    QTest::newRow("right") << Vector3d(100, 0, 0) << Vector3d(0, 0, 0) << 58.0;
+}
+
+void ExactPlacementTest::theTextStandsBesideTheCursorInALowView()
+{
+    QFETCH(Vector3d, start);
+    QFETCH(Vector3d, cursor);
+    QFETCH(double, x);
+    Fixture f(800, 60);
+
+    const Vector3d position = f.PlaceText(Length, Segment(start, cursor));
+
+    QVERIFY(std::abs(position.x() - x) < 1e-6);
 }
 
 void ExactPlacementTest::theTextStandsInTheMiddleOfATinyView()

@@ -475,6 +475,7 @@ void JournalFormatTest::keysOfDifferentObjectsMayBeTheSame()
     const CommandParameters parameters = ReadParameters(R"({"n":5,"kind":6,"id":7})");
 
     QVERIFY(*parameters.Find(L"kind") == CommandParameterValue(6));
+    QCOMPARE(ErrorOf(R"({"parameters":{"n":5,"kind":6},"n":1,"kind":"command","id":"A"})"), "");
 }
 
 void JournalFormatTest::aBadLineIsTold()

@@ -15,6 +15,7 @@
 #include <cstdarg>
 #include <functional>
 #include <memory>
+#include <vector>
 
 namespace vesk
 {
@@ -41,6 +42,9 @@ Answer s_answer;
 
 /// The last descriptor opened.
 int s_opened = -1;
+
+/// How much each write to it was asked to write.
+std::vector<std::size_t> s_askedSizes;
 
 /// Whether the prepared answer is for that call.
 bool IsAnswered(const char* call, ssize_t& value)
@@ -78,6 +82,8 @@ int open(const char* pPath, int flags, ...)
 ssize_t write(int descriptor, const void* pBytes, size_t size)
 {
     ssize_t value = 0;
+    if (descriptor == s_opened)
+        s_askedSizes.push_back(size);
     if (IsAnswered("write", value))
         return value;
     return Next<decltype(&write)>("write")(descriptor, pBytes, size);
@@ -218,10 +224,12 @@ void OutputFileAnswersTest::anInterruptedWriteIsRepeated()
 void OutputFileAnswersTest::aWriteInPiecesGoesOn()
 {
     s_answer = {"write", 4, 0};
+    s_askedSizes.clear();
 
     QCOMPARE(m_file.Write("0123456789"), std::size_t(10));
 
     QCOMPARE(Content(), QByteArray("456789"));
+    QCOMPARE(s_askedSizes, (std::vector<std::size_t>{10, 6}));
 }
 
 void OutputFileAnswersTest::whatIsNotWrittenIsTold_data()
