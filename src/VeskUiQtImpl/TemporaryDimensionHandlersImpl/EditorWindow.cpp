@@ -56,7 +56,7 @@ bool EditorWindow::Activate(QWidget& view, QObject& filter, const QSize& size)
     const QPointer<QWidget> pView(&view);
     const QPointer<QObject> pFilter(&filter);
     m_pEditor->installEventFilter(pFilter);
-    m_pEditor->setFixedSize(size);
+    m_pEditor->setFixedSize(size.width(), size.height());
     m_pEditor->show();
     if (m_pEditor != nullptr)
     {
