@@ -336,6 +336,10 @@ private slots:
         AddValue("0.000001", 1e-6);
         AddValue("70.71067811865476", std::sqrt(2.0) * 50.0);
         AddValue("0", 0.0);
+        AddValue("999999999999999", 999999999999999.0);
+        AddValue("1e+15", 1e15);
+        AddValue("1.5e+15", 1.5e15);
+        AddValue("0.0000001", 1e-7);
         AddValue("1e+300", 1e300);
         AddValue("1e-09", 1e-9);
     }
@@ -415,9 +419,10 @@ private:
     {
         constexpr TypedTextFault Fault = TypedTextFault::UnknownName;
         for (const char* text :
-             {"abc",    "nan",    "inf",    "0x10",   "5e",    "2e",       "e",      "x",
-              "2pi",    "10CM",   "10M",    "10yd",   "v0",    "max(1,2)", "min(1)", "ln(5)",
-              "log(5)", "exp(1)", "sum(1)", "rnd(1)", "if(1)", "PI",       "Sqrt(4)"})
+             {"abc",    "nan",     "inf",    "0x10",   "5e",     "2e",     "e",
+              "x",      "2pi",     "10CM",   "10M",    "10yd",   "v0",     "max(1,2)",
+              "min(1)", "ln(5)",   "log(5)", "exp(1)", "sum(1)", "rnd(1)", "if(1)",
+              "PI",     "Sqrt(4)", "5A",     "5Z"})
             AddFault(text, Fault);
     }
 
@@ -462,7 +467,8 @@ private:
                                  "1/1.5in",
                                  "(3cm)^1.5*1cm",
                                  "(2cm)^7/(1cm)^6",
-                                 "abs(3cm)/abs(1cm)"})
+                                 "abs(3cm)/abs(1cm)",
+                                 "2^(1cm/1cm)"})
             AddFault(text, TypedTextFault::MixedUnits);
         for (const char* text : {"30d", "30\xc2\xb0", "45d+15d", "asin(0.5)"})
             AddFault(text, TypedTextFault::WrongQuantity);

@@ -52,6 +52,7 @@ private slots:
 
     void aLayoutComesBackInAnotherRun();
     void theFactoryLayoutComesBack();
+    void theFactoryLayoutNamesANewPane();
     void aPaneThatTheLayoutDoesNotKnowGoesToItsFactoryPlace();
     void aPaneThatIsNotThereKeepsItsPlaceForLater();
     void aRestoredPaneKeepsAUsableSizeInASmallWindow_data();
@@ -180,6 +181,16 @@ void PaneLayoutTest::theFactoryLayoutComesBack()
     QCOMPARE(run.Pane("F")->height(), 120);
     QVERIFY(!run.Pane("A")->visibleRegion().isEmpty());
     QVERIFY(run.Pane("C")->visibleRegion().isEmpty());
+}
+
+void PaneLayoutTest::theFactoryLayoutNamesANewPane()
+{
+    Run run;
+    run.AddPane("G");
+
+    run.pLayout->RestoreDefault();
+
+    QCOMPARE(run.Pane("G")->objectName(), QStringLiteral("G"));
 }
 
 void PaneLayoutTest::aPaneThatTheLayoutDoesNotKnowGoesToItsFactoryPlace()

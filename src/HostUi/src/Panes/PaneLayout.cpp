@@ -120,7 +120,6 @@ bool PaneLayout::Restore(const QByteArray& layout)
 void PaneLayout::RestoreDefault()
 {
     Prepare();
-    m_beforeHiding.clear();
     std::map<DockArea, QList<QDockWidget*>> areas;
     for (const PanePlace& place : m_places)
     {
@@ -300,12 +299,6 @@ bool PaneLayout::Apply(const QByteArray& layout)
     PlaceLost();
     PlaceFloating(places);
     BringFloatingIntoReach();
-    for (const Pane& pane : FindPanes())
-    {
-        if (pane.pDock->IsFloating())
-            m_floating.insert(pane.pWidget->objectName());
-        NoteSize(*pane.pWidget);
-    }
     return true;
 }
 
