@@ -295,7 +295,11 @@ void DimensionInputController::OnEditorHidden()
 bool DimensionInputController::FilterEditorKey(QKeyEvent& event)
 {
     if (&event == m_pDelivered)
+    {
+        if (event.key() == Qt::Key_Space && !Manager().IsRawTextInput())
+            m_pLateUnit->Begin(); // Not before: the same key, asked for as a shortcut, ends it.
         return false;
+    }
     QLineEdit* pEditor = GetActiveEditor();
     if (pEditor == nullptr || FindOtherField() != nullptr)
         return PassOn(event);
@@ -340,8 +344,6 @@ void DimensionInputController::TakeValue(QLineEdit& editor, QKeyEvent& event,
             return;
     }
     m_isTextTyped = m_isTextTyped && event.key() != Qt::Key_Tab;
-    if (isJudged && isSpace)
-        m_pLateUnit->Begin();
     const EditorTextScope text(typed);
     const Delivery delivery(*this, event);
     QCoreApplication::sendEvent(&editor, &event);
