@@ -445,7 +445,7 @@ void DebugWarningDisplayTest::unattendedNothingIsShownWhileThereIsAnApplication(
 void DebugWarningDisplayTest::whoAttendsMayGoAndComeBack()
 {
     Fixture f;
-    const Application application;
+    const test::IdleApplication application;
     Manager().SetAttended(false);
     Manager().SetAttended(true);
     Warn(7);
