@@ -157,7 +157,6 @@ private slots:
     void aPostponedWarningOfAPlaceThatWasIgnoredIsNotShown();
     void aWarningOfAnotherThreadOpensFromTheEventLoop();
     void unattendedNothingIsShownWhileThereIsAnApplication();
-    void whoAttendsMayGoAndComeBack();
     void unattendedWithoutApplicationItIsShown();
     void aDisplayerThatThrowsLeavesTheNextItsTurn();
     void afterAResetEverythingIsShownAgain();
@@ -449,21 +448,9 @@ void DebugWarningDisplayTest::unattendedNothingIsShownWhileThereIsAnApplication(
 
     QVERIFY(f.user.shownLines.empty());
     QCOMPARE(Manager().GetUnshownCount(), 0);
-}
-
-void DebugWarningDisplayTest::whoAttendsMayGoAndComeBack()
-{
-    Fixture f;
-    const Application application;
-    Manager().SetAttended(false);
     Manager().SetAttended(true);
-    Warn(7);
-    QCOMPARE(f.user.shownLines, Lines{7});
-
-    Manager().SetAttended(false);
     Warn(8);
-
-    QCOMPARE(f.user.shownLines, Lines{7});
+    QCOMPARE(f.user.shownLines, Lines{8});
 }
 
 void DebugWarningDisplayTest::unattendedWithoutApplicationItIsShown()
