@@ -148,7 +148,6 @@ private slots:
     void aPostponedWarningOfAPlaceThatWasIgnoredIsNotShown();
     void aWarningOfAnotherThreadOpensFromTheEventLoop();
     void unattendedNothingIsShownWhileThereIsAnApplication();
-    void whoAttendsMayGoAndComeBack();
     void unattendedWithoutApplicationItIsShown();
     void aDisplayerThatThrowsLeavesTheNextItsTurn();
     void afterAResetEverythingIsShownAgain();
@@ -440,21 +439,9 @@ void DebugWarningDisplayTest::unattendedNothingIsShownWhileThereIsAnApplication(
 
     QVERIFY(f.user.shownLines.empty());
     QCOMPARE(Manager().GetUnshownCount(), 0);
-}
-
-void DebugWarningDisplayTest::whoAttendsMayGoAndComeBack()
-{
-    Fixture f;
-    const test::IdleApplication application;
-    Manager().SetAttended(false);
     Manager().SetAttended(true);
-    Warn(7);
-    QCOMPARE(f.user.shownLines, Lines{7});
-
-    Manager().SetAttended(false);
     Warn(8);
-
-    QCOMPARE(f.user.shownLines, Lines{7});
+    QCOMPARE(f.user.shownLines, Lines{8});
 }
 
 void DebugWarningDisplayTest::unattendedWithoutApplicationItIsShown()
