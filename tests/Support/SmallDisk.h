@@ -14,18 +14,34 @@ namespace vesk
 
 /// A disk of a few pages, seen by this process and those that it starts, and gone with them.
 ///
-/// To mount it takes rights; IsMounted tells whether they were there.
+/// To mount it takes rights. A user without any has them among users of one's own, as the kernel
+/// allows unless it is told otherwise; IsMounted tells whether they were there.
 class SmallDisk
 {
 public:
     static constexpr int PageSize = 4096;
 
+    /// Gives the process mounts of its own. To be called from a test's initMain: a process that has
+    /// threads, and Qt Test begins one, can no longer become a user of its own.
+    static void Prepare()
+    {
+        const QByteArray user = QByteArray::number(getuid());
+        const QByteArray group = QByteArray::number(getgid());
+        s_hasOwnMounts = unshare(CLONE_NEWNS) == 0;
+        if (s_hasOwnMounts || unshare(CLONE_NEWUSER | CLONE_NEWNS) != 0)
+            return;
+        s_hasOwnMounts = true;
+        // Who is nobody there could make no file.
+        Write("/proc/self/setgroups", "deny");
+        Write("/proc/self/uid_map", user + ' ' + user + " 1");
+        Write("/proc/self/gid_map", group + ' ' + group + " 1");
+    }
+
     explicit SmallDisk(int pages)
     {
         const QByteArray options = "size=" + QByteArray::number(pages * PageSize);
-        // Without the rights in the system, they may be had among users of one's own.
-        const bool isOwn = unshare(CLONE_NEWNS) == 0 || unshare(CLONE_NEWUSER | CLONE_NEWNS) == 0;
-        m_isMounted = isOwn && mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+        m_isMounted = s_hasOwnMounts &&
+                      mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
                       mount("tmpfs", QFile::encodeName(m_folder.path()).constData(), "tmpfs", 0,
                             options.constData()) == 0;
     }
@@ -68,7 +84,16 @@ public:
     }
 
 private:
+    static void Write(const char* pPath, const QByteArray& text)
+    {
+        QFile file(QString::fromLatin1(pPath));
+        if (file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+            file.write(text);
+    }
+
     QString Filler() const { return File("filler"); }
+
+    inline static bool s_hasOwnMounts = false;
 
     QTemporaryDir m_folder;
     bool m_isMounted = false;

@@ -27,6 +27,9 @@ class FileRewritingFullDiskTest : public QObject
 {
     Q_OBJECT
 
+public:
+    static void initMain() { SmallDisk::Prepare(); }
+
 private slots:
     void everySizeLeavesTheOldFileOrTheNew();
     void everyPageLeavesTheOldFileOrTheNew();
@@ -76,5 +79,5 @@ void FileRewritingFullDiskTest::everyPageLeavesTheOldFileOrTheNew()
 
 }
 
-QTEST_APPLESS_MAIN(vesk::FileRewritingFullDiskTest)
+QTEST_GUILESS_MAIN(vesk::FileRewritingFullDiskTest)
 #include "FileRewritingFullDiskTest.moc"
