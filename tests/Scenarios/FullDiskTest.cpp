@@ -133,6 +133,9 @@ class FullDiskTest final : public QObject
 {
     Q_OBJECT
 
+public:
+    static void initMain() { SmallDisk::Prepare(); }
+
 private slots:
     void initTestCase() { QCoreApplication::setApplicationName(QStringLiteral("sketcher")); }
 

@@ -14,18 +14,34 @@ namespace vesk
 
 /// A disk of a few pages, visible to this process and its children, and gone when they end.
 ///
-/// Mounting it needs privileges; IsMounted tells whether they were available.
+/// Mounting it needs privileges. A user without any gets them in a user namespace, unless the kernel
+/// is told to forbid those; IsMounted tells whether they were available.
 class SmallDisk
 {
 public:
     static constexpr int PageSize = 4096;
 
+    /// Gives the process mounts of its own. To be called from a test's initMain: a process that has
+    /// threads, and Qt Test begins one, can no longer become a user of its own.
+    static void Prepare()
+    {
+        const QByteArray user = QByteArray::number(getuid());
+        const QByteArray group = QByteArray::number(getgid());
+        s_hasOwnMounts = unshare(CLONE_NEWNS) == 0;
+        if (s_hasOwnMounts || unshare(CLONE_NEWUSER | CLONE_NEWNS) != 0)
+            return;
+        s_hasOwnMounts = true;
+        // Who is nobody there could make no file.
+        Write("/proc/self/setgroups", "deny");
+        Write("/proc/self/uid_map", user + ' ' + user + " 1");
+        Write("/proc/self/gid_map", group + ' ' + group + " 1");
+    }
+
     explicit SmallDisk(int pages)
     {
         const QByteArray options = "size=" + QByteArray::number(pages * PageSize);
-        // Without system privileges, a user namespace may provide them.
-        const bool isOwn = unshare(CLONE_NEWNS) == 0 || unshare(CLONE_NEWUSER | CLONE_NEWNS) == 0;
-        m_isMounted = isOwn && mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+        m_isMounted = s_hasOwnMounts &&
+                      mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
                       mount("tmpfs", QFile::encodeName(m_folder.path()).constData(), "tmpfs", 0,
                             options.constData()) == 0;
     }
@@ -68,7 +84,16 @@ public:
     }
 
 private:
+    static void Write(const char* pPath, const QByteArray& text)
+    {
+        QFile file(QString::fromLatin1(pPath));
+        if (file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+            file.write(text);
+    }
+
     QString Filler() const { return File("filler"); }
+
+    inline static bool s_hasOwnMounts = false;
 
     QTemporaryDir m_folder;
     bool m_isMounted = false;

@@ -44,6 +44,7 @@ int RunIn(int argc, char* argv[])
 template <class Test>
 int RunWithoutApplication(int argc, char* argv[])
 {
+    QTest::Internal::callInitMain<Test>();
     Test test;
     return QTest::qExec(&test, argc, argv);
 }

@@ -27,6 +27,9 @@ class FileRewritingFullDiskTest : public QObject
 {
     Q_OBJECT
 
+public:
+    static void initMain() { SmallDisk::Prepare(); }
+
 private slots:
     void everySizeLeavesTheOldFileOrTheNew();
     void everyPageLeavesTheOldFileOrTheNew();
