@@ -9,6 +9,8 @@
 
 namespace vesk
 {
+namespace
+{
 
 /// A combo box with the items "a", "b" and "c", and a record of its changes.
 struct ComboBoxFixture
@@ -36,6 +38,8 @@ struct ComboBoxFixture
     std::unique_ptr<ChangeRecorder> pRecorder;
     test::WarningRecorder warnings;
 };
+
+}
 
 }
 
