@@ -7,6 +7,7 @@
 #include <QTemporaryDir>
 
 #include <filesystem>
+#include <string>
 
 namespace vesk
 {
@@ -19,6 +20,7 @@ class FileRewritingLinksTest : public QObject
 private slots:
     void linksStayLinks_data();
     void linksStayLinks();
+    void asManyLinksAreFollowedAsTheSystemFollows();
 };
 
 void FileRewritingLinksTest::linksStayLinks_data()
@@ -48,6 +50,23 @@ void FileRewritingLinksTest::linksStayLinks()
     QVERIFY(QFileInfo(folder.filePath("inner")).isSymLink());
     QVERIFY(!QFileInfo(folder.filePath("file")).isSymLink());
     QFile file(folder.filePath("file"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), QByteArray("second"));
+}
+
+void FileRewritingLinksTest::asManyLinksAreFollowedAsTheSystemFollows()
+{
+    constexpr int MostOfLinux = 40;
+    const QTemporaryDir folder;
+    const std::filesystem::path path = folder.path().toStdString();
+    QVERIFY(RewriteFile(path / "0", "first"));
+    for (int i = 0; i < MostOfLinux; ++i)
+        std::filesystem::create_symlink(std::to_string(i), path / std::to_string(i + 1));
+
+    QVERIFY(RewriteFile(path / std::to_string(MostOfLinux), "second"));
+
+    QVERIFY(QFileInfo(folder.filePath("1")).isSymLink());
+    QFile file(folder.filePath("0"));
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll(), QByteArray("second"));
 }

@@ -157,6 +157,8 @@ private slots:
         Fixture f;
         PlainView* pView = f.AddView();
         f.window.resize(700, 500);
+        // Windows that are not shown do not take notice of what their widgets need.
+        f.window.show();
         QCoreApplication::processEvents();
         const int least = f.window.minimumSizeHint().width();
 

@@ -45,6 +45,19 @@ protected:
     }
 };
 
+/// Counts the user events that it receives.
+class UserEventCounter final : public QObject
+{
+public:
+    int count = 0;
+
+    bool event(QEvent* pEvent) override
+    {
+        count += pEvent->type() == QEvent::User ? 1 : 0;
+        return QObject::event(pEvent);
+    }
+};
+
 /// A window with a button that represents a definition, and the file that describes it.
 class UiTreeWriterTest final : public QObject
 {
@@ -217,6 +230,18 @@ private slots:
     }
 
     /// Only a loop that never rests waits for the longer of the two times.
+    void theEventThatWakesItIsDelivered()
+    {
+        QVERIFY(m_pWriter->Write());
+        QEvent event(QEvent::User);
+        UserEventCounter counter;
+
+        QCoreApplication::sendEvent(&counter, &event);
+        QCoreApplication::sendEvent(&counter, &event);
+
+        QCOMPARE(counter.count, 2);
+    }
+
     void anIdleLoopIsNotKeptAwake()
     {
         QVERIFY(m_pWriter->Write());
