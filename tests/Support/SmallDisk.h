@@ -14,8 +14,8 @@ namespace vesk
 
 /// A disk of a few pages, visible to this process and its children, and gone when they end.
 ///
-/// Mounting it needs privileges. A user without any gets them in a user namespace, unless the kernel
-/// is told to forbid those; IsMounted tells whether they were available.
+/// Mounting it needs privileges. A user without any gets them in a user namespace, unless the
+/// kernel is told to forbid those; IsMounted tells whether they were available.
 class SmallDisk
 {
 public:

@@ -21,8 +21,7 @@ public:
     /// The token lives as long as the context.
     explicit StandInContext(int kind, std::shared_ptr<int> pToken = nullptr)
         : m_kind(kind), m_pToken(std::move(pToken))
-    {
-    }
+    {}
 
     Intervald GetFirstValueRange() const override { return {0.0, 1.0}; }
     Intervald GetSecondValueRange() const override { return {0.0, 1.0}; }

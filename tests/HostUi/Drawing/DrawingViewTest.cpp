@@ -28,7 +28,15 @@ public:
 
     int GetPaintCount() const { return m_paintCount; }
 
+    int eventsOfPainting = 0;
+
 protected:
+    void paintEvent(QPaintEvent* pEvent) override
+    {
+        ++eventsOfPainting;
+        DrawingView::paintEvent(pEvent);
+    }
+
     void PaintModel(QPainter& painter) override
     {
         ++m_paintCount;
@@ -222,6 +230,20 @@ private slots:
         QCOMPARE(m_pView->GetPaintCount(), paintCount);
         QCOMPARE(picture.pixelColor(15, 15), QColor(Qt::red));
         QCOMPARE(picture.pixelColor(40, 40), m_pView->palette().color(QPalette::Base));
+    }
+
+    /// The dimensions are written in it.
+    void viewIsPaintedAnewInAnotherFont()
+    {
+        QVERIFY(QTest::qWaitForWindowExposed(m_pWindow.get()));
+        QCoreApplication::processEvents();
+        m_pView->eventsOfPainting = 0;
+        QFont font = m_pView->font();
+        font.setPointSize(font.pointSize() + 4);
+
+        m_pView->setFont(font);
+
+        QTRY_VERIFY(m_pView->eventsOfPainting > 0);
     }
 
     void modelIsPaintedAnewWhenItLooksDifferent_data()

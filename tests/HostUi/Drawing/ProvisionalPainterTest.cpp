@@ -43,26 +43,30 @@ private slots:
     {
         QTest::addColumn<double>("radius");
         QTest::addColumn<double>("sweep");
+        QTest::addColumn<double>("pixel");
 
-        QTest::newRow("small") << 60.0 << s_turn;
-        QTest::newRow("large") << 1000.0 << s_turn;
-        QTest::newRow("very large") << 30000.0 << s_turn;
-        QTest::newRow("part of a huge one") << 1e6 << -0.001;
+        QTest::newRow("small") << 60.0 << s_turn << 1.0;
+        QTest::newRow("large") << 1000.0 << s_turn << 1.0;
+        QTest::newRow("very large") << 30000.0 << s_turn << 1.0;
+        QTest::newRow("part of a huge one") << 1e6 << -0.001 << 1.0;
+        QTest::newRow("in a near view") << 30000.0 << s_turn << 0.01;
     }
 
     /// The arc touches, from below, the line 50 pixels below the top, in the middle of the view.
+    /// Its radius is in pixels.
     void anArcIsRoundHoweverLargeItIs()
     {
         QFETCH(double, radius);
         QFETCH(double, sweep);
+        QFETCH(double, pixel);
         const double before = sweep < 0.0 ? sweep / 2.0 : 0.025;
         const double start = s_turn / 4.0 - before;
         const Vector3d xAxis(std::cos(start), std::sin(start), 0.0);
         const Vector3d yAxis(-xAxis.y(), xAxis.x(), 0.0);
-        const auto opArc = IGraphicsArc::Create({0.0, 50.0 - radius, 0.0}, xAxis, yAxis, radius,
-                                                sweep, GraphicsRole::Dimension);
+        const auto opArc = IGraphicsArc::Create({0.0, (50.0 - radius) * pixel, 0.0}, xAxis, yAxis,
+                                                radius * pixel, sweep, GraphicsRole::Dimension);
 
-        const QImage image = Paint(*opArc).image;
+        const QImage image = Paint(*opArc, Qt::white, Qt::white, pixel).image;
 
         for (int x = 60; x <= 140; x += 5)
         {
@@ -169,12 +173,13 @@ private:
         QPen pen;
     };
 
-    /// Paints on a view of 200 x 200 pixels, one unit each.
+    /// Paints on a view of 200 x 200 pixels.
     static Painted Paint(const IGraphicsNode& node, const QColor& base = Qt::white,
-                         const QColor& below = Qt::white)
+                         const QColor& below = Qt::white, double pixel = 1.0)
     {
         ModelView modelView;
         modelView.SetSize(200, 200);
+        modelView.SetWorldPerPixel(pixel);
         QImage image(200, 200, QImage::Format_RGB32);
         image.fill(below);
         QPainter painter(&image);

@@ -177,6 +177,7 @@ void PaneLayoutTest::theFactoryLayoutComesBack()
     Run::Settle();
 
     QCOMPARE(Describe(run), factory);
+    QCOMPARE(run.Pane("A")->width(), 200);
     QCOMPARE(run.Pane("D")->width(), 250);
     QCOMPARE(run.Pane("F")->height(), 120);
     QVERIFY(!run.Pane("A")->visibleRegion().isEmpty());

@@ -193,6 +193,10 @@ void PaneReachTest::aPaneWithoutATitleComesIntoReach()
     pPane->setGeometry(-130, 40, 200, 150);
     run.pLayout->BringFloatingIntoReach();
     QCOMPARE(pPane->geometry(), QRect(-130, 40, 200, 150));
+
+    pPane->setGeometry(100, ScreenRect().bottom() - 5, 200, 150);
+    run.pLayout->BringFloatingIntoReach();
+    QCOMPARE(pPane->frameGeometry().bottom(), ScreenRect().bottom());
 }
 
 void PaneReachTest::aChangeOfTheScreensBringsFloatingPanesIntoReach_data()

@@ -20,8 +20,7 @@ std::string FormatUtcTime(std::chrono::system_clock::time_point time)
     const auto millis = static_cast<int>((sinceEpoch - wholeSeconds).count());
 
     std::array<char, 32> text{};
-    const std::size_t length =
-        std::strftime(text.data(), text.size(), "%Y-%m-%dT%H:%M:%S", &utc);
+    const std::size_t length = std::strftime(text.data(), text.size(), "%Y-%m-%dT%H:%M:%S", &utc);
     std::snprintf(text.data() + length, text.size() - length, ".%03dZ", millis);
     return text.data();
 }
