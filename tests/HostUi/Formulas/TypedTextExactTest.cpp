@@ -48,6 +48,7 @@ private slots:
         add("1/49*49", LengthUnit::Millimetre(), 1.0);
         add("1-0.9", LengthUnit::Metre(), 100.0);
         add("abs(0.1-0.3)", LengthUnit::Millimetre(), 0.2);
+        add("abs(0.1)+abs(0.2)", LengthUnit::Millimetre(), 0.3);
         add("1.1*1.1*cos(0d)", LengthUnit::Millimetre(), 1.21);
         add("1/3", LengthUnit::Inch(), 127.0 / 15.0);
         add("1.1in+0.1in", LengthUnit::Inch(), 30.48);

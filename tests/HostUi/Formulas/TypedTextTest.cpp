@@ -102,6 +102,7 @@ private slots:
         AddValue("sqrt(2)*50", std::sqrt(2.0) * 50.0);
         AddValue("abs(3-10)", 7.0);
         AddValue("abs(2)+1,5", 3.5);
+        AddValue("1,7e308/1e308", 1.7);
         AddValue("pi*10", std::acos(-1.0) * 10.0);
         AddValue("50*sin(30d)", 25.0);
         AddValue("50*cos(60deg)", 25.0);

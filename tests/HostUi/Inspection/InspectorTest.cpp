@@ -20,6 +20,7 @@
 #include <QRegularExpression>
 #include <QScrollBar>
 #include <QSignalSpy>
+#include <QSplitter>
 #include <QTimer>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -123,6 +124,15 @@ private slots:
         f.pInspector->UpdateStatus();
 
         QCOMPARE(f.Rows(), QStringList({"Edit|输入框|abc|是|是", "Label|标签||是|否"}));
+    }
+
+    void theListsFillTheWindow()
+    {
+        Fixture f;
+
+        f.pInspector->resize(600, 600);
+
+        QVERIFY(f.pInspector->findChild<QSplitter*>()->height() > 450);
     }
 
     void aShownInspectorKeepsItselfInStep()

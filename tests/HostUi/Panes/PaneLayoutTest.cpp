@@ -140,11 +140,19 @@ void PaneLayoutTest::restoringEndsTheHiddenState()
 {
     Run run;
     const QByteArray factory = run.pLayout->Save();
+    for (const char* name : {"A", "B", "C", "D", "E", "F"})
+        run.Pane(name)->hide();
     run.pLayout->ToggleAllHidden();
+    QVERIFY(run.pLayout->IsAllHidden());
+
+    run.pLayout->ToggleAllHidden();
+    QVERIFY(!run.pLayout->IsAllHidden());
+
+    run.pLayout->ToggleAllHidden();
+    QVERIFY(run.pLayout->Restore(run.pLayout->Save()));
+    QVERIFY(!run.pLayout->IsAllHidden());
 
     QVERIFY(run.pLayout->Restore(factory));
-
-    QVERIFY(!run.pLayout->IsAllHidden());
     QVERIFY(!run.Pane("A")->isHidden());
 }
 
