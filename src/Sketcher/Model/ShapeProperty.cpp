@@ -180,10 +180,11 @@ const Properties& RectangleProperties()
 }
 
 /// In the order of the kinds.
-const std::array<const Properties*, std::variant_size_v<Shape>>& Tables()
+const auto& Tables()
 {
-    static const std::array<const Properties*, std::variant_size_v<Shape>> s_tables = {
-        &LineProperties(), &CircleProperties(), &ArcProperties(), &RectangleProperties()};
+    static const std::array s_tables = {&LineProperties(), &CircleProperties(), &ArcProperties(),
+                                        &RectangleProperties()};
+    static_assert(s_tables.size() == std::variant_size_v<Shape>);
     return s_tables;
 }
 
