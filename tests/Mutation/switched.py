@@ -57,7 +57,7 @@ def batches(faults):
     return parts
 
 
-INLINED_QUIET = '#pragma GCC diagnostic ignored "-Wmaybe-uninitialized"\n'
+INLINED_QUIET = "".join(f'#pragma GCC diagnostic ignored "-W{kind}"\n' for kind in ("maybe-uninitialized", "uninitialized"))
 
 
 def install(name, text):

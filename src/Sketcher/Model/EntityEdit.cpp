@@ -4,7 +4,6 @@
 #include "Model/Sketch.h"
 
 #include <algorithm>
-#include <cmath>
 #include <sstream>
 #include <utility>
 
@@ -60,8 +59,6 @@ Shape ChangedShape(const Shape& shape, const ShapeProperty& property, double val
 /// not finite.
 Shapes ChangedShapes(const EntityEdit& edit, const Sketch& sketch)
 {
-    if (!std::isfinite(edit.value))
-        return {};
     Shapes shapes;
     for (const int id : edit.entities)
     {

@@ -270,6 +270,32 @@ private slots:
         }
     }
 
+    void whatIsNoNumberIsNoValueOfAnyShape_data()
+    {
+        QTest::addColumn<double>("value");
+
+        QTest::newRow("no number") << NotANumber;
+        QTest::newRow("infinite") << Infinity;
+        QTest::newRow("infinite, negative") << -Infinity;
+    }
+
+    void whatIsNoNumberIsNoValueOfAnyShape()
+    {
+        QFETCH(double, value);
+        Sketch sketch;
+        for (int kind = 0; kind < 4; ++kind)
+        {
+            double number = 1.0;
+            const int id = sketch.Add(RandomShape(kind, [&number] { return number += 7.0; }));
+            for (const ShapeProperty& property : PropertiesOf(sketch.Find(id)->shape))
+            {
+                const EntityEdit edit{{id}, property.name, value};
+                QVERIFY2(!edit.IsPossible(sketch),
+                         qPrintable(QString::fromStdWString(property.name)));
+            }
+        }
+    }
+
 private:
     template <class Number>
     static Shape RandomShape(int kind, Number number)

@@ -70,6 +70,7 @@ private slots:
         QTest::newRow("clockwise") << -90.0;
         QTest::newRow("crooked") << 12.34567;
         QTest::newRow("long way") << -275.5;
+        QTest::newRow("smaller than the end point tells") << 1e-9;
     }
 
     void aTypedAngleTurnsByIt()
