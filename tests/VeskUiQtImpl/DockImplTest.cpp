@@ -242,6 +242,8 @@ void DockImplTest::replacedContentIsNotDeleted()
     QWidget* pSecond = opSecond.Get();
 
     f.opDock->SetWidget(std::move(opSecond));
+    // Nor later.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 
     QVERIFY(!pFirst.isNull());
     QCOMPARE(f.Widget().widget(), pSecond);

@@ -155,8 +155,9 @@ void QtComboBoxTest::appendsAnItemWhateverItsIndex()
     ComboBoxFixture f;
 
     f.pDefinition->Raise(EventType::Add, 0, L"d");
+    f.pDefinition->Raise(EventType::Add, 0, L"");
 
-    QCOMPARE(f.GetItems(), QStringList({"a", "b", "c", "d"}));
+    QCOMPARE(f.GetItems(), QStringList({"a", "b", "c", "d", ""}));
 }
 
 void QtComboBoxTest::insertsAnItemAtItsIndex()

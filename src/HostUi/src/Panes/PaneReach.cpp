@@ -55,7 +55,10 @@ Handle HandleInside(const QDockWidget& pane)
         QStringLiteral("qt_dockwidget_closebutton"), Qt::FindDirectChildrenOnly);
     const bool hasButton = pButton != nullptr && !pButton->isHidden();
     int height = hasButton ? pButton->geometry().bottom() + 1 : 0;
-    if (pContent != nullptr && pContent->y() > 0)
+    // One without a height is there to show none, whatever frame the style puts around it.
+    if (const QWidget* pOwnTitle = pane.titleBarWidget())
+        height = pOwnTitle->height() > 0 ? pOwnTitle->geometry().bottom() + 1 : 0;
+    else if (pContent != nullptr && pContent->y() > 0)
         height = pContent->y();
     const int titleHeight = height > 0 ? height : std::min(StripHeight, whole.height());
     return {QRect(whole.topLeft(), QSize(whole.width(), titleHeight)),
