@@ -55,8 +55,8 @@ Shape ChangedShape(const Shape& shape, const ShapeProperty& property, double val
     return property.get(shape) == value ? shape : property.set(shape, value);
 }
 
-/// The shapes as they would be; empty when an entity is missing or has no such value, or when the
-/// value is no number.
+/// The shapes as they would be; empty when an entity is missing or has no such value. The sketch
+/// refuses shapes that cannot be drawn.
 Shapes ChangedShapes(const EntityEdit& edit, const Sketch& sketch)
 {
     Shapes shapes;
