@@ -55,8 +55,8 @@ Shape ChangedShape(const Shape& shape, const ShapeProperty& property, double val
     return property.get(shape) == value ? shape : property.set(shape, value);
 }
 
-/// The resulting shapes; empty if an entity is missing or has no such property, or if the value is
-/// not finite.
+/// The resulting shapes; empty if an entity is missing or has no such property. The sketch refuses
+/// shapes that cannot be drawn.
 Shapes ChangedShapes(const EntityEdit& edit, const Sketch& sketch)
 {
     Shapes shapes;
