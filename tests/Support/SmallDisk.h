@@ -14,15 +14,15 @@ namespace vesk
 
 /// A disk of a few pages, seen by this process and those that it starts, and gone with them.
 ///
-/// To mount it takes rights. A user without any has them among users of one's own, as the kernel
-/// allows unless it is told otherwise; IsMounted tells whether they were there.
+/// To mount it takes rights, which an ordinary user has in a user namespace unless the kernel
+/// forbids those; IsMounted tells whether they were there.
 class SmallDisk
 {
 public:
     static constexpr int PageSize = 4096;
 
     /// Gives the process mounts of its own. To be called from a test's initMain: a process that has
-    /// threads, and Qt Test begins one, can no longer become a user of its own.
+    /// threads, and Qt Test begins one, can no longer enter a user namespace.
     static void Prepare()
     {
         const QByteArray user = QByteArray::number(getuid());
@@ -31,7 +31,7 @@ public:
         if (s_hasOwnMounts || unshare(CLONE_NEWUSER | CLONE_NEWNS) != 0)
             return;
         s_hasOwnMounts = true;
-        // Who is nobody there could make no file.
+        // A user that is not mapped could create no files there.
         Write("/proc/self/setgroups", "deny");
         Write("/proc/self/uid_map", user + ' ' + user + " 1");
         Write("/proc/self/gid_map", group + ' ' + group + " 1");
