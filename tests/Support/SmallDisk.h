@@ -22,7 +22,7 @@ public:
     static constexpr int PageSize = 4096;
 
     /// Gives the process mounts of its own. To be called from a test's initMain: a process that has
-    /// threads, and Qt Test begins one, can no longer become a user of its own.
+    /// threads, and Qt Test begins one, can no longer enter a user namespace.
     static void Prepare()
     {
         const QByteArray user = QByteArray::number(getuid());
@@ -31,7 +31,7 @@ public:
         if (s_hasOwnMounts || unshare(CLONE_NEWUSER | CLONE_NEWNS) != 0)
             return;
         s_hasOwnMounts = true;
-        // Who is nobody there could make no file.
+        // A user that is not mapped could create no files there.
         Write("/proc/self/setgroups", "deny");
         Write("/proc/self/uid_map", user + ' ' + user + " 1");
         Write("/proc/self/gid_map", group + ' ' + group + " 1");

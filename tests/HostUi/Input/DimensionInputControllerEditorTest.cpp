@@ -178,6 +178,19 @@ private slots:
         QVERIFY(f.Editor()->width() > 280);
     }
 
+    void editorFollowsTheSizeOfItsView()
+    {
+        InputFixture f(Linear());
+        f.host.view.resize(640, 480);
+        f.Type(QString(60, '7'));
+        QVERIFY(f.Editor()->width() > 300);
+
+        f.host.view.resize(300, 200);
+        ActionManager::RefreshViewInput(&f.host.view);
+
+        QVERIFY(f.Editor()->width() <= 300);
+    }
+
     void widthGoesWithTheInput()
     {
         InputFixture f(Linear());

@@ -229,7 +229,6 @@ private slots:
         QCOMPARE(int(Read()["entities"]), 5);
     }
 
-    /// Only a loop that never rests waits for the longer of the two times.
     void theEventThatWakesItIsDelivered()
     {
         QVERIFY(m_pWriter->Write());
@@ -242,6 +241,7 @@ private slots:
         QCOMPARE(counter.count, 2);
     }
 
+    /// Only a loop that never rests waits for the longer of the two times.
     void anIdleLoopIsNotKeptAwake()
     {
         QVERIFY(m_pWriter->Write());

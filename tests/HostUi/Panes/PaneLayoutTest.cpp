@@ -152,7 +152,9 @@ void PaneLayoutTest::restoringEndsTheHiddenState()
     QVERIFY(run.pLayout->Restore(run.pLayout->Save()));
     QVERIFY(!run.pLayout->IsAllHidden());
 
+    run.pLayout->ToggleAllHidden();
     QVERIFY(run.pLayout->Restore(factory));
+    QVERIFY(!run.pLayout->IsAllHidden());
     QVERIFY(!run.Pane("A")->isHidden());
 }
 

@@ -5,8 +5,23 @@
 
 #include "Support/TestValues.h"
 
+#include <QProxyStyle>
+
 namespace vesk::test
 {
+
+/// Draws frames around panes as wide as on Windows.
+class WideFrames final : public QProxyStyle
+{
+public:
+    int pixelMetric(PixelMetric metric, const QStyleOption* pOption,
+                    const QWidget* pWidget) const override
+    {
+        return metric == PM_DockWidgetFrameWidth
+                   ? 4
+                   : QProxyStyle::pixelMetric(metric, pOption, pWidget);
+    }
+};
 
 /// The positions and sizes of floating panes, which must stay within the user's reach.
 class PaneReachTest : public QObject
@@ -179,8 +194,10 @@ void PaneReachTest::aFloatingPaneComesNoFurtherThanItHasTo()
 
 void PaneReachTest::aPaneWithoutATitleComesIntoReach()
 {
+    WideFrames style;
     FloatingRun run(QRect(100, 100, 200, 150));
     QDockWidget* pPane = run.Pane("D");
+    pPane->setStyle(&style);
     run.manager.RemoveDockTitleBar(L"D");
     pPane->setFloating(false);
     pPane->setFloating(true);

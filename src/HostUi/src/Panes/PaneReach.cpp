@@ -55,7 +55,7 @@ Handle HandleInside(const QDockWidget& pane)
         QStringLiteral("qt_dockwidget_closebutton"), Qt::FindDirectChildrenOnly);
     const bool hasButton = pButton != nullptr && !pButton->isHidden();
     int height = hasButton ? pButton->geometry().bottom() + 1 : 0;
-    // One without a height is there to show none, whatever frame the style puts around it.
+    // A pane whose title has no height is to show none, however wide a frame the style draws.
     if (const QWidget* pOwnTitle = pane.titleBarWidget())
         height = pOwnTitle->height() > 0 ? pOwnTitle->geometry().bottom() + 1 : 0;
     else if (pContent != nullptr && pContent->y() > 0)
