@@ -25,6 +25,14 @@ if(VESK_SANITIZE)
     target_link_options(vesk_build_flags INTERFACE -fsanitize=address,undefined)
 endif()
 
+# Compiles the targets of this folder in batches of files, which parse their headers once. With -DCMAKE_UNITY_BUILD=OFF
+# each file is compiled alone: that is how scripts/lint sees them, so that none can lack an include unnoticed.
+macro(vesk_compile_in_batches)
+    if(NOT DEFINED CMAKE_UNITY_BUILD)
+        set(CMAKE_UNITY_BUILD ON)
+    endif()
+endmacro()
+
 # vesk_library(<target> ALIAS <Vesk::Name> EXPORT <MACRO> EXPORT_FILE <path below the include root>)
 #
 # A shared library whose published headers, if any, are in include/ next to its CMakeLists.txt, and whose export macro
@@ -56,28 +64,47 @@ function(vesk_library target)
 endfunction()
 
 # vesk_test_program(<name> LABEL <unit|scenario|desktop> TESTS <file>... [SOURCES <file>...] [LIBRARIES <target>...]
-#                   [PREFIX <text>] [WITH_FOLDERS] [PRECOMPILED <header>] [TIMEOUT <s>])
+#                   [PREFIX <text>] [WITH_FOLDERS] [PRECOMPILED] [TIMEOUT <s>])
 #
 # A program of Qt tests. Each <Name>.cpp of TESTS is a test called <PREFIX><Name>, or with WITH_FOLDERS
 # <PREFIX><Folder><Name>, and runs on its own: in the C.UTF-8 locale, and on the offscreen platform unless it is a
-# desktop test. On Windows it opens real windows.
+# desktop test. On Windows it opens real windows. PRECOMPILED programs link Qt Widgets and share the precompiled headers
+# of vesk_test_support.
 function(vesk_test_program program)
-    cmake_parse_arguments(ARG "WITH_FOLDERS" "LABEL;PREFIX;PRECOMPILED;TIMEOUT" "TESTS;SOURCES;LIBRARIES" ${ARGN})
+    cmake_parse_arguments(ARG "WITH_FOLDERS;PRECOMPILED" "LABEL;PREFIX;TIMEOUT" "TESTS;SOURCES;LIBRARIES" ${ARGN})
     add_executable(${program} ${ARG_TESTS} ${ARG_SOURCES})
+    # The types and functions of a test are its own: several tests may use the same names.
+    set_source_files_properties(${ARG_TESTS} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
     set_target_properties(${program} PROPERTIES AUTOMOC ON RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
     target_include_directories(${program} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
     target_link_libraries(${program} PRIVATE vesk_build_flags vesk_test_main ${ARG_LIBRARIES} Qt::Test)
     if(ARG_PRECOMPILED)
-        target_precompile_headers(${program} PRIVATE "${PROJECT_SOURCE_DIR}/tests/Support/${ARG_PRECOMPILED}")
+        target_precompile_headers(${program} REUSE_FROM vesk_test_support)
     endif()
     foreach(source IN LISTS ARG_TESTS)
         get_filename_component(test "${source}" NAME_WE)
+        vesk_moc_test(${program} "${source}")
         set(name "${test}")
         if(ARG_WITH_FOLDERS)
             string(REGEX REPLACE "[/]|\\.cpp$" "" name "${source}")
         endif()
         vesk_add_test("${ARG_PREFIX}${name}" ${program} ${test} ${ARG_LABEL} "${ARG_TIMEOUT}")
     endforeach()
+endfunction()
+
+# Runs moc on a test without looking for headers, which tells no more about a test class and takes moc a hundred times as
+# long: automatic runs parse all of Qt for each test.
+function(vesk_moc_test program source)
+    set(folder "${CMAKE_CURRENT_BINARY_DIR}/${program}_moc")
+    file(MAKE_DIRECTORY "${folder}")
+    get_filename_component(test "${source}" NAME_WE)
+    set(output "${folder}/${test}.moc")
+    set(input "${CMAKE_CURRENT_SOURCE_DIR}/${source}")
+    add_custom_command(OUTPUT "${output}" COMMAND Qt${QT_VERSION_MAJOR}::moc "${input}" -o "${output}"
+        DEPENDS "${input}" VERBATIM)
+    target_sources(${program} PRIVATE "${output}")
+    target_include_directories(${program} PRIVATE "${folder}")
+    set_source_files_properties("${source}" PROPERTIES SKIP_AUTOMOC ON)
 endfunction()
 
 # Registers one run of a test program.

@@ -25,8 +25,8 @@ WORK = ROOT / "build" / "mutation"
 COPY = WORK / "tree"
 BUILD = COPY / "build" / "dev"
 TABLES = pathlib.Path(__file__).resolve().parent
-# Same as for the tree itself, so that both share the compiler cache. A changed library does not relink programs.
-CONFIGURE = ["cmake", "--preset", "dev", "-DCMAKE_LINK_DEPENDS_NO_SHARED=ON"]
+# A fault costs the compilation of its file, not of a batch. A changed library does not relink programs.
+CONFIGURE = ["cmake", "--preset", "dev", "-DCMAKE_UNITY_BUILD=OFF", "-DCMAKE_LINK_DEPENDS_NO_SHARED=ON"]
 MEMCHECK = ["valgrind", "--quiet", "--error-exitcode=9"]
 ADDRESS_SPACE = 8 << 30
 

@@ -11,9 +11,9 @@ namespace Qtitan
 namespace
 {
 
-constexpr int ArrowSize = 8;
+constexpr int ScrollArrowSize = 8;
 
-QColor fillOf(const QToolButton& button, const RibbonColors& colors)
+QColor fillOfScrollButton(const QToolButton& button, const RibbonColors& colors)
 {
     if (button.isDown())
         return colors.pressed;
@@ -39,12 +39,12 @@ void RibbonScrollButton::paintEvent(QPaintEvent*)
     const RibbonColors colors(palette());
     const bool isLeft = arrowType() == Qt::LeftArrow;
     QPainter painter(this);
-    painter.fillRect(rect(), fillOf(*this, colors));
+    painter.fillRect(rect(), fillOfScrollButton(*this, colors));
     painter.fillRect(isLeft ? width() - 1 : 0, 0, 1, height(), colors.line);
 
     QStyleOption option;
     option.initFrom(this);
-    option.rect = QRect(0, 0, ArrowSize, ArrowSize);
+    option.rect = QRect(0, 0, ScrollArrowSize, ScrollArrowSize);
     option.rect.moveCenter(rect().center());
     const auto arrow = isLeft ? QStyle::PE_IndicatorArrowLeft : QStyle::PE_IndicatorArrowRight;
     style()->drawPrimitive(arrow, &option, &painter, this);

@@ -12,9 +12,9 @@ using namespace vesk;
 namespace
 {
 
-constexpr wchar_t EntitiesName[] = L"entities";
-constexpr wchar_t PropertyName[] = L"property";
-constexpr wchar_t ValueName[] = L"value";
+constexpr wchar_t EntitiesParameter[] = L"entities";
+constexpr wchar_t PropertyParameter[] = L"property";
+constexpr wchar_t ValueParameter[] = L"value";
 
 template <class Value>
 const Value* Find(const CommandParameters& parameters, const wchar_t* name)
@@ -77,17 +77,17 @@ Shapes ChangedShapes(const EntityEdit& edit, const Sketch& sketch)
 CommandParameters EntityEdit::ToParameters() const
 {
     CommandParameters parameters;
-    parameters.Add(EntitiesName, CommandParameterValue(ToText(entities)));
-    parameters.Add(PropertyName, CommandParameterValue(property));
-    parameters.Add(ValueName, CommandParameterValue(value));
+    parameters.Add(EntitiesParameter, CommandParameterValue(ToText(entities)));
+    parameters.Add(PropertyParameter, CommandParameterValue(property));
+    parameters.Add(ValueParameter, CommandParameterValue(value));
     return parameters;
 }
 
 std::optional<EntityEdit> EntityEdit::From(const CommandParameters& parameters)
 {
-    const auto* pEntities = Find<std::wstring>(parameters, EntitiesName);
-    const auto* pProperty = Find<std::wstring>(parameters, PropertyName);
-    const auto* pValue = Find<double>(parameters, ValueName);
+    const auto* pEntities = Find<std::wstring>(parameters, EntitiesParameter);
+    const auto* pProperty = Find<std::wstring>(parameters, PropertyParameter);
+    const auto* pValue = Find<double>(parameters, ValueParameter);
     if (pEntities == nullptr || pProperty == nullptr || pValue == nullptr)
         return std::nullopt;
     std::optional<std::vector<int>> ids = FromText(*pEntities);

@@ -10,8 +10,7 @@ namespace vesk
 namespace
 {
 
-constexpr DimensionKind MakeKind()
-{
+constexpr DimensionKind CentralAngleKind = [] {
     DimensionKind kind;
     kind.fields[0] = {InputState::IS_CentralAngle, ValueSlot::Second, FieldRule::StandsAlone,
                       ActionViewInput::CentralAngleCommitted};
@@ -20,9 +19,7 @@ constexpr DimensionKind MakeKind()
     kind.openingKeys = OpeningKeys::DigitsAndMinus;
     kind.commitsWithSpace = false;
     return kind;
-}
-
-constexpr DimensionKind Kind = MakeKind();
+}();
 
 }
 
@@ -51,30 +48,33 @@ CentralAngleTemporaryDimensionHandler::GenerateGraphics(const ITemporaryDimensio
 bool CentralAngleTemporaryDimensionHandler::OnKeyDown(int virtualKey, bool isCtrl, bool isAlt,
                                                       bool isShift)
 {
-    return SendViewKey(Kind, virtualKey, ToQtModifiers(isCtrl, isAlt, isShift));
+    return SendViewKey(CentralAngleKind, virtualKey, ToQtModifiers(isCtrl, isAlt, isShift));
 }
 
 void CentralAngleTemporaryDimensionHandler::ShowInputWidget(InputState state, bool editorReady,
                                                             bool useGivenText, std::wstring text)
 {
-    ShowField(Kind, "vesk::CentralAngleTemporaryDimensionHandler::ShowInputWidget",
+    ShowField(CentralAngleKind, "vesk::CentralAngleTemporaryDimensionHandler::ShowInputWidget",
               {state, editorReady, useGivenText, std::move(text)});
 }
 
 bool CentralAngleTemporaryDimensionHandler::event(QEvent* pEvent)
 {
-    return HandleEvent(pEvent, Kind, "vesk::CentralAngleTemporaryDimensionHandler::event");
+    return HandleEvent(pEvent, CentralAngleKind,
+                       "vesk::CentralAngleTemporaryDimensionHandler::event");
 }
 
 bool CentralAngleTemporaryDimensionHandler::eventFilter(QObject* pWatched, QEvent* pEvent)
 {
     return FilterEditorEvent(
-        pWatched, pEvent, {Kind, "vesk::CentralAngleTemporaryDimensionHandler::eventFilter", {}});
+        pWatched, pEvent,
+        {CentralAngleKind, "vesk::CentralAngleTemporaryDimensionHandler::eventFilter", {}});
 }
 
 void CentralAngleTemporaryDimensionHandler::OnEditorReturnPressed()
 {
-    CommitValue(Kind, "vesk::CentralAngleTemporaryDimensionHandler::OnEditorReturnPressed");
+    CommitValue(CentralAngleKind,
+                "vesk::CentralAngleTemporaryDimensionHandler::OnEditorReturnPressed");
 }
 
 }

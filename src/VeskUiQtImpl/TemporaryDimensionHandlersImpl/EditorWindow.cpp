@@ -16,7 +16,7 @@ namespace
 /// Moves the editor of an embedded view far off screen: it keeps the focus but is not visible.
 constexpr int EmbeddedViewOffset = 10000;
 
-constexpr char StyleSheet[] =
+constexpr char EditorStyleSheet[] =
     "QLineEdit{ color:rgba(199, 199, 120, 100%); border:2px solid rgba(199, 199, 120, 100%); "
     "font:10pt; border-radius:4px}QLineEdit:!enabled{ color:rgba(100, 100, 100, "
     "100%);}QLineEdit:focus{ color:rgba(0, 0, 0, 100%); background:rgba(255, 255, 255, 100%);}";
@@ -71,7 +71,7 @@ bool EditorWindow::Activate(QWidget& view, QObject& filter, const QSize& size)
 
 void EditorWindow::ApplyStyle()
 {
-    m_pEditor->setStyleSheet(QString::fromLatin1(StyleSheet));
+    m_pEditor->setStyleSheet(QString::fromLatin1(EditorStyleSheet));
     m_pEditor->setStyle(FindOrCreateStyle(*m_pEditor));
     QPalette palette = m_pEditor->palette();
     palette.setBrush(QPalette::Base, Qt::white);

@@ -10,8 +10,7 @@ namespace vesk
 namespace
 {
 
-constexpr DimensionKind MakeKind()
-{
+constexpr DimensionKind RectangleKind = [] {
     DimensionKind kind;
     kind.fields[0] = {InputState::IS_Width,          ValueSlot::First,
                       FieldRule::OpenedByKey,        ActionViewInput::WidthCommitted,
@@ -23,9 +22,7 @@ constexpr DimensionKind MakeKind()
     kind.wrongState = L"m_enInputState怎么不是IS_Width或IS_Height?";
     kind.switchesWithTab = true;
     return kind;
-}
-
-constexpr DimensionKind Kind = MakeKind();
+}();
 
 }
 
@@ -51,36 +48,38 @@ RectangleTemporaryDimensionHandler::GenerateGraphics(const ITemporaryDimensionCo
 bool RectangleTemporaryDimensionHandler::OnKeyDown(int virtualKey, bool isCtrl, bool isAlt,
                                                    bool isShift)
 {
-    return SendViewKey(Kind, virtualKey, ToQtModifiers(isCtrl, isAlt, isShift));
+    return SendViewKey(RectangleKind, virtualKey, ToQtModifiers(isCtrl, isAlt, isShift));
 }
 
 void RectangleTemporaryDimensionHandler::ShowInputWidget(InputState state, bool editorReady,
                                                          bool useGivenText, std::wstring text)
 {
-    ShowField(Kind, "vesk::RectangleTemporaryDimensionHandler::ShowInputWidget",
+    ShowField(RectangleKind, "vesk::RectangleTemporaryDimensionHandler::ShowInputWidget",
               {state, editorReady, useGivenText, std::move(text)});
 }
 
 bool RectangleTemporaryDimensionHandler::event(QEvent* pEvent)
 {
-    return HandleEvent(pEvent, Kind, "vesk::RectangleTemporaryDimensionHandler::event");
+    return HandleEvent(pEvent, RectangleKind, "vesk::RectangleTemporaryDimensionHandler::event");
 }
 
 bool RectangleTemporaryDimensionHandler::eventFilter(QObject* pWatched, QEvent* pEvent)
 {
     return FilterEditorEvent(pWatched, pEvent,
-                             {Kind, "vesk::RectangleTemporaryDimensionHandler::eventFilter",
+                             {RectangleKind,
+                              "vesk::RectangleTemporaryDimensionHandler::eventFilter",
                               [this] { OnEditorTabPressed(); }});
 }
 
 void RectangleTemporaryDimensionHandler::OnEditorReturnPressed()
 {
-    CommitValue(Kind, "vesk::RectangleTemporaryDimensionHandler::OnEditorReturnPressed");
+    CommitValue(RectangleKind, "vesk::RectangleTemporaryDimensionHandler::OnEditorReturnPressed");
 }
 
 void RectangleTemporaryDimensionHandler::OnEditorTabPressed()
 {
-    CommitValueAndSwitch(Kind, "vesk::RectangleTemporaryDimensionHandler::OnEditorTabPressed");
+    CommitValueAndSwitch(RectangleKind,
+                         "vesk::RectangleTemporaryDimensionHandler::OnEditorTabPressed");
 }
 
 }

@@ -10,8 +10,7 @@ namespace vesk
 namespace
 {
 
-constexpr DimensionKind MakeKind()
-{
+constexpr DimensionKind RotationKind = [] {
     DimensionKind kind;
     kind.fields[0] = {InputState::IS_CentralAngle, ValueSlot::Second, FieldRule::StandsAlone,
                       ActionViewInput::CentralAngleCommitted};
@@ -19,9 +18,7 @@ constexpr DimensionKind MakeKind()
     kind.wrongState = L"m_InputState怎么不是CentralAngle?";
     kind.openingKeys = OpeningKeys::DigitsAndMinus;
     return kind;
-}
-
-constexpr DimensionKind Kind = MakeKind();
+}();
 
 }
 
@@ -44,30 +41,31 @@ RotationTemporaryDimensionHandler::GenerateGraphics(const ITemporaryDimensionCon
 bool RotationTemporaryDimensionHandler::OnKeyDown(int virtualKey, bool isCtrl, bool isAlt,
                                                   bool isShift)
 {
-    return SendViewKey(Kind, virtualKey, ToQtModifiers(isCtrl, isAlt, isShift));
+    return SendViewKey(RotationKind, virtualKey, ToQtModifiers(isCtrl, isAlt, isShift));
 }
 
 void RotationTemporaryDimensionHandler::ShowInputWidget(InputState state, bool editorReady,
                                                         bool useGivenText, std::wstring text)
 {
-    ShowField(Kind, "vesk::RotationTemporaryDimensionHandler::ShowInputWidget",
+    ShowField(RotationKind, "vesk::RotationTemporaryDimensionHandler::ShowInputWidget",
               {state, editorReady, useGivenText, std::move(text)});
 }
 
 bool RotationTemporaryDimensionHandler::event(QEvent* pEvent)
 {
-    return HandleEvent(pEvent, Kind, "vesk::RotationTemporaryDimensionHandler::event");
+    return HandleEvent(pEvent, RotationKind, "vesk::RotationTemporaryDimensionHandler::event");
 }
 
 bool RotationTemporaryDimensionHandler::eventFilter(QObject* pWatched, QEvent* pEvent)
 {
-    return FilterEditorEvent(pWatched, pEvent,
-                             {Kind, "vesk::RotationTemporaryDimensionHandler::eventFilter", {}});
+    return FilterEditorEvent(
+        pWatched, pEvent,
+        {RotationKind, "vesk::RotationTemporaryDimensionHandler::eventFilter", {}});
 }
 
 void RotationTemporaryDimensionHandler::OnEditorReturnPressed()
 {
-    CommitValue(Kind, "vesk::RotationTemporaryDimensionHandler::OnEditorReturnPressed");
+    CommitValue(RotationKind, "vesk::RotationTemporaryDimensionHandler::OnEditorReturnPressed");
 }
 
 }

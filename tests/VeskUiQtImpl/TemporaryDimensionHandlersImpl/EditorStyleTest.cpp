@@ -17,7 +17,7 @@ int s_styleCount = 0;
 class SystemStylePlugin final : public QStylePlugin
 {
     Q_OBJECT
-    Q_PLUGIN_METADATA(IID QStyleFactoryInterface_iid FILE "EditorStyle.json")
+    Q_PLUGIN_METADATA(IID "org.qt-project.Qt.QStyleFactoryInterface" FILE "EditorStyle.json")
 
 public:
     QStyle* create(const QString&) override

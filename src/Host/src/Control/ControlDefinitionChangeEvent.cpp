@@ -37,23 +37,23 @@ private:
     bool m_isByUser;
 };
 
-/// An item change that has yet to be delivered.
-struct WaitingChange
-{
-    int type;
-    int index;
-    std::wstring caption;
-    const IControlDefinition* pItem;
-    std::shared_ptr<const void> pKept;
-    bool isByUser;
-    std::size_t placeCount; ///< Of the handlers that were subscribed when it happened.
-};
-
 }
 
 /// An item change that is being delivered, and the changes made since.
 struct ControlDefinitionChangeEvent::Telling
 {
+    /// An item change that has yet to be delivered.
+    struct WaitingChange
+    {
+        int type;
+        int index;
+        std::wstring caption;
+        const IControlDefinition* pItem;
+        std::shared_ptr<const void> pKept;
+        bool isByUser;
+        std::size_t placeCount; ///< Of the handlers that were subscribed when it happened.
+    };
+
     Telling(ControlDefinitionChangeEvent& told, bool isByUserThen)
         : emission(told), event(told), isByUser(isByUserThen)
     {

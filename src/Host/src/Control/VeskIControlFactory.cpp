@@ -6,18 +6,18 @@ namespace vesk
 namespace
 {
 
-VeskIControlFactory* s_pFactory = nullptr;
+VeskIControlFactory* s_pControlFactory = nullptr;
 
 }
 
 VeskIControlFactory* VeskIControlFactory::Get()
 {
-    return s_pFactory;
+    return s_pControlFactory;
 }
 
 void VeskIControlFactory::Set(VeskIControlFactory* pFactory)
 {
-    s_pFactory = pFactory;
+    s_pControlFactory = pFactory;
 }
 
 }

@@ -11,7 +11,7 @@ namespace vesk
 namespace
 {
 
-constexpr double Turn = 360.0;
+constexpr double FullTurn = 360.0;
 constexpr double HalfTurn = 180.0;
 constexpr double RightAngle = 90.0;
 constexpr double Step = 15.0;
@@ -64,7 +64,7 @@ double Invert(double argument, long double radians, double (*pFunction)(double))
 
 double Degrees::Sine(double degrees)
 {
-    const double rest = std::remainder(degrees, Turn);
+    const double rest = std::remainder(degrees, FullTurn);
     const double size = std::abs(rest);
     const double sharp = size > RightAngle ? HalfTurn - size : size;
     return WithSign(Compute(Sines, &std::sin, sharp), rest < 0.0);
@@ -72,7 +72,7 @@ double Degrees::Sine(double degrees)
 
 double Degrees::Cosine(double degrees)
 {
-    const double size = std::abs(std::remainder(degrees, Turn));
+    const double size = std::abs(std::remainder(degrees, FullTurn));
     const bool isObtuse = size > RightAngle;
     const double sharp = isObtuse ? HalfTurn - size : size;
     return WithSign(Compute(Cosines, &std::cos, sharp), isObtuse);

@@ -9,18 +9,18 @@ namespace vesk
 namespace
 {
 
-NqIJournalFactory* s_pFactory = nullptr;
+NqIJournalFactory* s_pJournalFactory = nullptr;
 
 }
 
 NqIJournalFactory* NqIJournalFactory::GetImpl()
 {
-    return s_pFactory;
+    return s_pJournalFactory;
 }
 
 void NqIJournalFactory::SetImpl(NqIJournalFactory* pFactory)
 {
-    s_pFactory = pFactory;
+    s_pJournalFactory = pFactory;
 }
 
 }

@@ -1,10 +1,11 @@
 #pragma once
 
-// Headers that nearly every test of the host needs, precompiled once for its program.
+// Headers that most tests need, precompiled once for all programs.
 
 #include "Support/TestValues.h"
 
-#include <Eigen/Core>
+#include <Eigen/Geometry>
+#include <QtWidgets>
 
 #include <functional>
 #include <map>
