@@ -33,6 +33,32 @@ macro(vesk_compile_in_batches)
     endif()
 endmacro()
 
+# Leaves in a list of sources one file of each Platform/<Name><System>.cpp: that of the target's window system, Windows or
+# X11, or else the one for all others. Each is compiled alone, for the headers of a system define macros with everyday
+# names.
+function(vesk_select_platform_sources variable)
+    if(WIN32)
+        set(system Windows)
+    else()
+        set(system X11)
+    endif()
+    set(selected ${${variable}})
+    foreach(source IN LISTS ${variable})
+        if(source MATCHES "^(.*Platform/.*)(Windows|X11|Other)\\.cpp$")
+            set(chosen "${CMAKE_MATCH_1}${system}.cpp")
+            if(NOT chosen IN_LIST ${variable})
+                set(chosen "${CMAKE_MATCH_1}Other.cpp")
+            endif()
+            if(source STREQUAL chosen)
+                set_source_files_properties("${source}" PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
+            else()
+                list(REMOVE_ITEM selected "${source}")
+            endif()
+        endif()
+    endforeach()
+    set(${variable} ${selected} PARENT_SCOPE)
+endfunction()
+
 # vesk_library(<target> ALIAS <Vesk::Name> EXPORT <MACRO> EXPORT_FILE <path below the include root>)
 #
 # A shared library whose published headers, if any, are in include/ next to its CMakeLists.txt, and whose export macro
@@ -73,8 +99,11 @@ endfunction()
 function(vesk_test_program program)
     cmake_parse_arguments(ARG "WITH_FOLDERS;PRECOMPILED" "LABEL;PREFIX;TIMEOUT" "TESTS;SOURCES;LIBRARIES" ${ARGN})
     add_executable(${program} ${ARG_TESTS} ${ARG_SOURCES})
-    # The types and functions of a test are its own: several tests may use the same names.
-    set_source_files_properties(${ARG_TESTS} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
+    # The types and functions of a test are its own: several tests may use the same names. The headers of a system define
+    # macros with everyday names.
+    set(alone ${ARG_TESTS} ${ARG_SOURCES})
+    list(FILTER alone INCLUDE REGEX "Test\\.cpp$|Platform/")
+    set_source_files_properties(${alone} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
     set_target_properties(${program} PROPERTIES AUTOMOC ON RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
     target_include_directories(${program} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
     target_link_libraries(${program} PRIVATE vesk_build_flags vesk_test_main ${ARG_LIBRARIES} Qt::Test)

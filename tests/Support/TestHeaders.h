@@ -1,11 +1,32 @@
 #pragma once
 
-// Headers that most tests need, precompiled once for all programs.
+// Headers that many tests include, precompiled once for all programs. Those of OpenGL, which are
+// part of QtWidgets, would define the macros of Windows in every test.
 
 #include "Support/TestValues.h"
 
 #include <Eigen/Geometry>
-#include <QtWidgets>
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QDockWidget>
+#include <QFile>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPointer>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QToolButton>
+#include <QVBoxLayout>
 
 #include <functional>
 #include <map>

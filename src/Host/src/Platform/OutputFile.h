@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <string_view>
+#include <utility>
 
 namespace vesk
 {
@@ -21,8 +22,14 @@ public:
 
     OutputFile() = default;
     ~OutputFile() { Close(); }
-    OutputFile(OutputFile&& other) noexcept;
-    OutputFile& operator=(OutputFile&& other) noexcept;
+    OutputFile(OutputFile&& other) noexcept : m_handle(std::exchange(other.m_handle, NoHandle)) {}
+
+    /// Closes the file that was open.
+    OutputFile& operator=(OutputFile other) noexcept
+    {
+        std::swap(m_handle, other.m_handle);
+        return *this;
+    }
 
     /// Opens and locks a file, and creates it if it is missing; existing content is kept. The lock
     /// ends with the object or the process, however that ends. If the file system does not support

@@ -30,20 +30,6 @@ bool IsSyncUnknown()
 
 }
 
-OutputFile::OutputFile(OutputFile&& other) noexcept
-    : m_handle(std::exchange(other.m_handle, NoHandle))
-{}
-
-OutputFile& OutputFile::operator=(OutputFile&& other) noexcept
-{
-    if (this != &other)
-    {
-        Close();
-        m_handle = std::exchange(other.m_handle, NoHandle);
-    }
-    return *this;
-}
-
 OutputFile::Opening OutputFile::OpenAlone(const std::filesystem::path& path)
 {
     Close();
