@@ -1,7 +1,6 @@
 #pragma once
 
-// Headers that many tests include, precompiled once for all programs. Those of OpenGL, which are
-// part of QtWidgets, would define the macros of Windows in every test.
+// Headers that many tests include, precompiled once for all programs.
 
 #include "Support/TestValues.h"
 
