@@ -5,6 +5,7 @@
 #include "Desktop/Polling.h"
 #include "Desktop/UiTree.h"
 #include "Support/DrawnLine.h"
+#include "Support/FileBytes.h"
 
 #include <QMap>
 #include <QTemporaryDir>

@@ -10,6 +10,16 @@ QVector<DrawnLine> DesktopTest::CloseAndReadLines()
     return CloseProgram() ? Session().Lines() : QVector<DrawnLine>();
 }
 
+bool DesktopTest::DrawsOneLine(double length, std::optional<double> angle)
+{
+    constexpr double Tolerance = 1e-9;
+    if (!Session().WaitForEntities(1))
+        return false;
+    const QVector<DrawnLine> lines = CloseAndReadLines();
+    return lines.size() == 1 && qAbs(lines[0].GetLength() - length) <= Tolerance &&
+           (!angle || AngleBetween(lines[0].GetAngle(), *angle) <= Tolerance);
+}
+
 bool DesktopTest::CloseProgram()
 {
     m_isClosed = true;

@@ -7,6 +7,7 @@
 #include <QObject>
 
 #include <memory>
+#include <optional>
 
 namespace vesk
 {
@@ -26,6 +27,10 @@ protected:
 
     /// Closes the program and returns the lines of its drawing; empty if it did not exit cleanly.
     QVector<DrawnLine> CloseAndReadLines();
+
+    /// Waits for the only line, closes the program and compares the line with what was typed; the
+    /// angle only if there is one.
+    bool DrawsOneLine(double length, std::optional<double> angle = {});
 
     /// Closes the program as a user does. Returns false if it did not exit cleanly.
     bool CloseProgram();

@@ -65,10 +65,7 @@ void EscapeTest::inTheEditorItLeavesALockedValueLocked()
 
     QVERIFY(Session().ClickView(QPointF(0.0, 150.0)));
 
-    QVERIFY(Session().WaitForEntities(1));
-    const QVector<DrawnLine> lines = CloseAndReadLines();
-    QCOMPARE(lines.size(), 1);
-    QVERIFY(qAbs(lines[0].GetLength() - 50.0) <= 1e-9);
+    QVERIFY(DrawsOneLine(50.0));
 }
 
 void EscapeTest::inTheViewItFirstDropsLockedValues()

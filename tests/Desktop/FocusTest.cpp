@@ -126,10 +126,7 @@ void FocusTest::keysStayWithTheToolWhateverIsClicked()
 
     QVERIFY(Session().Type("64", {"Return"}));
 
-    QVERIFY(Session().WaitForEntities(1));
-    const QVector<DrawnLine> lines = CloseAndReadLines();
-    QCOMPARE(lines.size(), 1);
-    QVERIFY(qAbs(lines[0].GetLength() - 64.0) <= 1e-9);
+    QVERIFY(DrawsOneLine(64.0));
 }
 
 void FocusTest::keysStayWithTheValueWhateverIsClicked_data()
@@ -146,10 +143,7 @@ void FocusTest::keysStayWithTheValueWhateverIsClicked()
     QVERIFY(WaitForFocusInEditor());
     QVERIFY(Session().Type("2", {"Return"}));
 
-    QVERIFY(Session().WaitForEntities(1));
-    const QVector<DrawnLine> lines = CloseAndReadLines();
-    QCOMPARE(lines.size(), 1);
-    QVERIFY(qAbs(lines[0].GetLength() - 52.0) <= 1e-9);
+    QVERIFY(DrawsOneLine(52.0));
 }
 
 void FocusTest::aChosenColourLeavesTheKeysWithTheTool()
@@ -187,10 +181,7 @@ void FocusTest::aChosenUnitEndsTheValueAndLeavesTheKeysWithTheTool()
 
     QVERIFY(Session().Type("3", {"Return"}));
 
-    QVERIFY(Session().WaitForEntities(1));
-    const QVector<DrawnLine> lines = CloseAndReadLines();
-    QCOMPARE(lines.size(), 1);
-    QVERIFY(qAbs(lines[0].GetLength() - 30.0) <= 1e-9);
+    QVERIFY(DrawsOneLine(30.0));
 }
 
 void FocusTest::aMenuThatIsClosedLeavesTheKeysWithTheValue()

@@ -383,10 +383,7 @@ void PaneTest::aDamagedLayoutFileIsSurvived()
     QByteArray text = ReadBytes(path);
     QVERIFY(!text.isEmpty());
     text[text.size() / 2] = '!';
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(text);
-    file.close();
+    QVERIFY(WriteBytes(path, text));
 
     QVERIFY(Session().Start());
 

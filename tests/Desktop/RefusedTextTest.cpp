@@ -47,10 +47,7 @@ void RefusedTextTest::refusedTextStaysSelectedAndIsReplaced()
     QVERIFY(Session().Type("7"));
     QVERIFY(Session().WaitForEditor("7"));
     QVERIFY(Session().Type("", {"Return"}));
-    QVERIFY(Session().WaitForEntities(1));
-    const QVector<DrawnLine> lines = CloseAndReadLines();
-    QCOMPARE(lines.size(), 1);
-    QVERIFY(qAbs(lines[0].GetLength() - 7.0) <= 1e-9);
+    QVERIFY(DrawsOneLine(7.0));
 }
 
 void RefusedTextTest::emptyTextIsRefused()
@@ -62,10 +59,7 @@ void RefusedTextTest::emptyTextIsRefused()
 
     QVERIFY(Session().Type("8", {"Return"}));
 
-    QVERIFY(Session().WaitForEntities(1));
-    const QVector<DrawnLine> lines = CloseAndReadLines();
-    QCOMPARE(lines.size(), 1);
-    QVERIFY(qAbs(lines[0].GetLength() - 8.0) <= 1e-9);
+    QVERIFY(DrawsOneLine(8.0));
 }
 
 void RefusedTextTest::refusedAngleStaysInItsField()
@@ -81,11 +75,7 @@ void RefusedTextTest::refusedAngleStaysInItsField()
 
     QVERIFY(Session().Type("-45", {"Return"}));
 
-    QVERIFY(Session().WaitForEntities(1));
-    const QVector<DrawnLine> lines = CloseAndReadLines();
-    QCOMPARE(lines.size(), 1);
-    QVERIFY(qAbs(lines[0].GetLength() - 50.0) <= 1e-9);
-    QVERIFY(AngleBetween(lines[0].GetAngle(), -45.0) <= 1e-9);
+    QVERIFY(DrawsOneLine(50.0, -45.0));
 }
 
 void RefusedTextTest::blankAfterARefusedTextReplacesIt()
@@ -100,10 +90,7 @@ void RefusedTextTest::blankAfterARefusedTextReplacesIt()
 
     QVERIFY(Session().Type(" 2*4 ", {"Return"}));
 
-    QVERIFY(Session().WaitForEntities(1));
-    const QVector<DrawnLine> lines = CloseAndReadLines();
-    QCOMPARE(lines.size(), 1);
-    QVERIFY(qAbs(lines[0].GetLength() - 8.0) <= 1e-9);
+    QVERIFY(DrawsOneLine(8.0));
 }
 
 }

@@ -1,20 +1,7 @@
 #include "Desktop/DesktopTest.h"
 
-#include <QFile>
-
 namespace vesk
 {
-
-namespace
-{
-
-bool WriteBytes(const QString& path, const QByteArray& bytes)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
-}
-
-}
 
 /// The journal contains everything that was finished, and restores it to the last bit.
 class ReplayTest : public DesktopTest

@@ -88,10 +88,7 @@ void ToolSwitchTest::manySwitchesLeaveTheStackAsItWas()
 
     QVERIFY(Session().BeginLine(QPointF(-50.0, 0.0)));
     QVERIFY(Session().Type("12.5", {"Return"}));
-    QVERIFY(Session().WaitForEntities(1));
-    const QVector<DrawnLine> lines = CloseAndReadLines();
-    QCOMPARE(lines.size(), 1);
-    QVERIFY(qAbs(lines[0].GetLength() - 12.5) <= 1e-9);
+    QVERIFY(DrawsOneLine(12.5));
 }
 
 }

@@ -54,11 +54,7 @@ void TypedLineTest::lengthAndAngleMakeTheVeryLine()
     QVERIFY(Session().BeginLine());
     QVERIFY(Session().Type("125.5", {"Tab", "3", "0", "Return"}));
 
-    QVERIFY(Session().WaitForEntities(1));
-    const QVector<DrawnLine> lines = CloseAndReadLines();
-    QCOMPARE(lines.size(), 1);
-    QVERIFY(qAbs(lines[0].GetLength() - 125.5) <= TOLERANCE);
-    QVERIFY(AngleBetween(lines[0].GetAngle(), 30.0) <= TOLERANCE);
+    QVERIFY(DrawsOneLine(125.5, 30.0));
 }
 
 void TypedLineTest::lengthAloneTakesTheDirectionOfTheCursor()
@@ -80,11 +76,7 @@ void TypedLineTest::valueTypedBeforeTheMouseHasMovedGoesAlongX()
     QVERIFY(Session().BeginLine());
     QVERIFY(Session().Type("42.25", {"Return"}));
 
-    QVERIFY(Session().WaitForEntities(1));
-    const QVector<DrawnLine> lines = CloseAndReadLines();
-    QCOMPARE(lines.size(), 1);
-    QVERIFY(qAbs(lines[0].GetLength() - 42.25) <= TOLERANCE);
-    QVERIFY(AngleBetween(lines[0].GetAngle(), 0.0) <= TOLERANCE);
+    QVERIFY(DrawsOneLine(42.25, 0.0));
 }
 
 void TypedLineTest::mouseMovesLeaveTheTypedTextAlone()
@@ -97,10 +89,7 @@ void TypedLineTest::mouseMovesLeaveTheTypedTextAlone()
     QVERIFY(Session().WaitForEditor("61.75"));
     QVERIFY(Session().Type("", {"Return"}));
 
-    QVERIFY(Session().WaitForEntities(1));
-    const QVector<DrawnLine> lines = CloseAndReadLines();
-    QCOMPARE(lines.size(), 1);
-    QVERIFY(qAbs(lines[0].GetLength() - 61.75) <= TOLERANCE);
+    QVERIFY(DrawsOneLine(61.75));
 }
 
 void TypedLineTest::wheelLeavesTheTypedTextAlone()
@@ -116,10 +105,7 @@ void TypedLineTest::wheelLeavesTheTypedTextAlone()
     QVERIFY(Session().WaitForEditor("33.125"));
     QVERIFY(Session().Type("", {"Return"}));
 
-    QVERIFY(Session().WaitForEntities(1));
-    const QVector<DrawnLine> lines = CloseAndReadLines();
-    QCOMPARE(lines.size(), 1);
-    QVERIFY(qAbs(lines[0].GetLength() - 33.125) <= TOLERANCE);
+    QVERIFY(DrawsOneLine(33.125));
 }
 
 void TypedLineTest::noneOfManyRandomValuesIsAltered()

@@ -13,6 +13,7 @@
 #include <QLineEdit>
 #include <QPointer>
 #include <QSet>
+#include <QStringList>
 
 #include <functional>
 #include <string>
@@ -50,6 +51,15 @@ struct TypingScript
     std::vector<TakenValue> taken;
     std::vector<HeardKey> heard;
     std::wstring dimensionText; ///< Shown at the origin of the model unless it is empty.
+
+    /// The texts of the values taken.
+    QStringList TakenTexts() const
+    {
+        QStringList texts;
+        for (const TakenValue& value : taken)
+            texts << value.text;
+        return texts;
+    }
 };
 
 /// Commits any text in its editor, which floats over a view, when one of its keys is pressed.

@@ -10,6 +10,7 @@
 #include <QAction>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPalette>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <QWindow>
@@ -39,6 +40,16 @@ inline QToolButton* createButton(const QString& caption)
     pButton->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     pButton->setAutoRaise(true);
     return pButton;
+}
+
+/// Colours by which window, text and highlight can be told apart in a picture.
+inline QPalette paletteOf(const QColor& window, const QColor& text)
+{
+    QPalette palette(window);
+    palette.setColor(QPalette::WindowText, text);
+    palette.setColor(QPalette::ButtonText, text);
+    palette.setColor(QPalette::Highlight, Qt::blue);
+    return palette;
 }
 
 /// A window with a ribbon of one page and one group above a view that has the focus.

@@ -96,15 +96,6 @@ struct MenuFixture : RibbonFixture
     bool wasOpen = false;
 };
 
-QPalette paletteOf(const QColor& window, const QColor& text)
-{
-    QPalette palette(window);
-    palette.setColor(QPalette::WindowText, text);
-    palette.setColor(QPalette::ButtonText, text);
-    palette.setColor(QPalette::Highlight, Qt::blue);
-    return palette;
-}
-
 } // namespace
 
 Q_DECLARE_METATYPE(Placing)

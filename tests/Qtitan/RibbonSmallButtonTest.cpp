@@ -15,15 +15,6 @@ namespace
 const QColor s_iconColor(Qt::red);
 const QColor s_sharpIconColor(Qt::magenta);
 
-QPalette paletteOf(const QColor& window, const QColor& text)
-{
-    QPalette palette(window);
-    palette.setColor(QPalette::WindowText, text);
-    palette.setColor(QPalette::ButtonText, text);
-    palette.setColor(QPalette::Highlight, Qt::blue);
-    return palette;
-}
-
 /// An icon whose 32-pixel picture differs in colour from the 16-pixel one.
 QIcon createIcon()
 {

@@ -1,5 +1,5 @@
 #include "Drawing.h"
-#include "ScenarioFixture.h"
+#include "ScenarioTest.h"
 #include "ScriptedUser.h"
 #include "SketcherProcess.h"
 #include "SketcherWindow.h"
@@ -14,7 +14,6 @@
 
 #include <csignal>
 #include <filesystem>
-#include <memory>
 #include <system_error>
 
 namespace
@@ -50,25 +49,12 @@ bool IsReading()
 }
 
 /// A journal that is read and then continued.
-class ContinueTest final : public QObject
+class ContinueTest final : public ScenarioTest
 {
     Q_OBJECT
 
 private slots:
     void initTestCase() { QCoreApplication::setApplicationName(QStringLiteral("sketcher")); }
-
-    void init()
-    {
-        m_pFixture = std::make_unique<ScenarioFixture>();
-        qputenv("XDG_DATA_HOME", QFile::encodeName(m_pFixture->File("data")));
-    }
-
-    void cleanup()
-    {
-        QCOMPARE(m_pFixture->GetWarnings(), QStringList());
-        qunsetenv("XDG_DATA_HOME");
-        m_pFixture.reset();
-    }
 
     void theFileIsContinuedByAnyName_data()
     {
@@ -90,10 +76,10 @@ private slots:
 
         QCOMPARE(user.Run(options), 0);
 
-        const QByteArray journal = ReadFile(Kept());
+        const QByteArray journal = ReadBytes(Kept());
         QVERIFY2(journal.startsWith(s_unfinished + s_end + "{\"n\":4,"), journal.constData());
         QCOMPARE(Model().size(), 2);
-        QCOMPARE(ReplayedModel(Kept()), ReadFile(m_pFixture->File("model")));
+        QCOMPARE(ReplayedModel(Kept()), ReadBytes(m_pFixture->File("model")));
         QCOMPARE(OtherJournals(), QStringList());
     }
 
@@ -101,16 +87,16 @@ private slots:
     {
         for (int i = 1; i <= 3; ++i)
         {
-            const QByteArray before = i > 1 ? ReadFile(Kept()) : s_unfinished;
+            const QByteArray before = i > 1 ? ReadBytes(Kept()) : s_unfinished;
             ScriptedUser user;
             user.DrawLine(-250, -250 + 10 * i, -200, -250 + 10 * i);
 
             QCOMPARE(user.Run(Continue(before + s_torn, "kept")), 0);
 
-            QVERIFY(ReadFile(Kept()).startsWith(before));
+            QVERIFY(ReadBytes(Kept()).startsWith(before));
             QCOMPARE(Model().size(), i + 1);
         }
-        QCOMPARE(ReplayedModel(Kept()), ReadFile(m_pFixture->File("model")));
+        QCOMPARE(ReplayedModel(Kept()), ReadBytes(m_pFixture->File("model")));
     }
 
     void everyCutOfASessionMayBeContinued()
@@ -120,7 +106,7 @@ private slots:
         user.Click(s_line).ClickAt(-30, -20).ClickAt(-60, -90).Click("Sketcher.Erase");
         user.ClickAt(0, 30).Click("Sketcher.ZoomAll").Press(Qt::Key_Escape);
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
-        const QByteArray whole = ReadFile(m_pFixture->File("journal"));
+        const QByteArray whole = ReadBytes(m_pFixture->File("journal"));
 
         for (int end = whole.indexOf('\n'); end >= 0; end = whole.indexOf('\n', end + 1))
         {
@@ -129,7 +115,7 @@ private slots:
             const Outcome outcome = RunSketcher({"--replay", Kept(), "--journal", Kept()});
 
             QCOMPARE(outcome.code, 0);
-            QVERIFY(ReadFile(Kept()).startsWith(whole.left(end + 1)));
+            QVERIFY(ReadBytes(Kept()).startsWith(whole.left(end + 1)));
             QCOMPARE(RunSketcher({"--replay", Kept()}).error, QString());
             QCOMPARE(ReplayedModel(Kept()), model);
         }
@@ -146,11 +132,11 @@ private slots:
 
         QCOMPARE(user.Run(Continue(huge, "link")), 0);
 
-        QVERIFY(ReadFile(Kept()) == huge);
+        QVERIFY(ReadBytes(Kept()) == huge);
         QCOMPARE(said, QStringLiteral("日志改存于另一文件"));
         QCOMPARE(Model().size(), 1);
         QCOMPARE(OtherJournals().size(), 1);
-        QCOMPARE(ReplayedModel(OtherJournals().front()), ReadFile(m_pFixture->File("model")));
+        QCOMPARE(ReplayedModel(OtherJournals().front()), ReadBytes(m_pFixture->File("model")));
     }
 
     void closingWhileItIsReadLeavesTheFileAsItIs()
@@ -161,7 +147,7 @@ private slots:
 
         QCOMPARE(user.Run(Continue(huge, "kept")), 0);
 
-        QVERIFY(ReadFile(Kept()) == huge);
+        QVERIFY(ReadBytes(Kept()) == huge);
         QCOMPARE(OtherJournals(), QStringList());
     }
 
@@ -195,18 +181,18 @@ private slots:
 
         QCOMPARE(user.Run(Continue(journal, "kept")), 0);
 
-        QCOMPARE(ReadFile(Kept()), journal);
+        QCOMPARE(ReadBytes(Kept()), journal);
         const QString much = QStringLiteral("第 4 条记录无法重做，已恢复 4 / %1 条");
         QVERIFY2(said.contains(much.arg(journal.count('\n'))), qPrintable(said));
         QVERIFY(said.contains(QStringLiteral("日志改存于另一文件")));
         QCOMPARE(Model().size(), 2);
         QCOMPARE(OtherJournals().size(), 1);
-        QCOMPARE(ReplayedModel(OtherJournals().front()), ReadFile(m_pFixture->File("model")));
+        QCOMPARE(ReplayedModel(OtherJournals().front()), ReadBytes(m_pFixture->File("model")));
         const Outcome replay = RunSketcher({"--replay", Kept(), "--journal", Kept()});
         QCOMPARE(replay.code, 3);
         QCOMPARE(replay.error.count('\n'), 1);
         QVERIFY2(replay.error.startsWith("sketcher: record 4: "), qPrintable(replay.error));
-        QCOMPARE(ReadFile(Kept()), journal);
+        QCOMPARE(ReadBytes(Kept()), journal);
     }
 
     void aPropertyThatIsSoAlreadyCanBeDone()
@@ -242,7 +228,7 @@ private slots:
         QCOMPARE(reader.End(SIGKILL).code, -1);
 
         // On a fast machine, reading may already have finished.
-        QVERIFY(ReadFile(Kept()) == huge || ReadFile(Kept()) == HugeJournal() + s_end);
+        QVERIFY(ReadBytes(Kept()) == huge || ReadBytes(Kept()) == HugeJournal() + s_end);
     }
 
     void aFileIsOfOneProgramAtATime()
@@ -256,14 +242,14 @@ private slots:
 
         for (const QStringList& arguments : second)
         {
-            const QByteArray before = ReadFile(Kept());
+            const QByteArray before = ReadBytes(Kept());
             const Outcome outcome = RunSketcher(arguments);
 
             QCOMPARE(outcome.code, 2);
             QCOMPARE(outcome.error.count('\n'), 1);
             QVERIFY2(outcome.error.contains("in use by another program"),
                      qPrintable(outcome.error));
-            QVERIFY(ReadFile(Kept()).startsWith(before));
+            QVERIFY(ReadBytes(Kept()).startsWith(before));
         }
         QCOMPARE(RunSketcher({"--replay", Kept()}).code, 0);
 
@@ -303,14 +289,12 @@ private:
         return options;
     }
 
-    QVector<DrawnLine> Model() const { return ReadLines(m_pFixture->File("model")); }
-
     QByteArray ReplayedModel(const QString& journal) const
     {
         const QString model = m_pFixture->File("replayed");
         if (RunSketcher({"--replay", journal, "--model", model}).code != 0)
             QTest::qFail("the journal cannot be replayed", __FILE__, __LINE__);
-        return ReadFile(model);
+        return ReadBytes(model);
     }
 
     /// Journals in the user's data folder.
@@ -322,8 +306,6 @@ private:
             paths << folder.filePath(name);
         return paths;
     }
-
-    std::unique_ptr<ScenarioFixture> m_pFixture;
 };
 
 VESK_TESTS(ContinueTest);

@@ -1,5 +1,5 @@
 #include "Drawing.h"
-#include "ScenarioFixture.h"
+#include "ScenarioTest.h"
 #include "ScriptedUser.h"
 #include "SketcherProcess.h"
 #include "Support/TestValues.h"
@@ -8,13 +8,10 @@
 #include <QApplication>
 #include <QImage>
 
-#include <memory>
 #include <vector>
 
 namespace
 {
-
-using Selections = std::vector<std::vector<int>>;
 
 /// From left to right: one line inside the box from (-50, -50) to (50, 50), one that leaves it on
 /// the right, one outside.
@@ -26,19 +23,11 @@ void DrawThreeLines(ScriptedUser& user)
 }
 
 /// Selecting entities with a box.
-class DragSelectionTest final : public QObject
+class DragSelectionTest final : public ScenarioTest
 {
     Q_OBJECT
 
 private slots:
-    void init() { m_pFixture = std::make_unique<ScenarioFixture>(); }
-
-    void cleanup()
-    {
-        QCOMPARE(m_pFixture->GetWarnings(), QStringList());
-        m_pFixture.reset();
-    }
-
     void dragToTheRightSelectsWhatIsInside()
     {
         ScriptedUser user;
@@ -170,24 +159,8 @@ private slots:
         QCOMPARE(lines.size(), 3);
         QCOMPARE(lines[0].style + ' ' + lines[0].colour, QString("dashed red"));
         QCOMPARE(lines[1].style + ' ' + lines[1].colour, QString("solid red"));
-        const QString replayed = m_pFixture->File("replayed");
-        const Outcome outcome =
-            RunSketcher({"--replay", m_pFixture->File("journal"), "--model", replayed});
-        QCOMPARE(outcome.code, 0);
-        QCOMPARE(ReadFile(replayed), ReadFile(m_pFixture->File("model")));
+        VerifyReplay();
     }
-
-private:
-    Selections Selected() const
-    {
-        Selections selections;
-        const auto records = ReadJournal(m_pFixture->File("journal"));
-        for (const auto& record : RecordsOf<vesk::SelectionRecord>(records))
-            selections.push_back(record.entities);
-        return selections;
-    }
-
-    std::unique_ptr<ScenarioFixture> m_pFixture;
 };
 
 VESK_TESTS(DragSelectionTest);

@@ -1,5 +1,5 @@
 #include "Drawing.h"
-#include "ScenarioFixture.h"
+#include "ScenarioTest.h"
 #include "ScriptedUser.h"
 #include "SketcherWindow.h"
 #include "View/SketchView.h"
@@ -16,7 +16,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <memory>
 
 namespace
 {
@@ -44,19 +43,11 @@ bool IsRunning(const std::wstring& commandId)
 }
 
 /// Drawing lines by typing, as a user of the whole program.
-class DrawLineTest final : public QObject
+class DrawLineTest final : public ScenarioTest
 {
     Q_OBJECT
 
 private slots:
-    void init() { m_pFixture = std::make_unique<ScenarioFixture>(); }
-
-    void cleanup()
-    {
-        QCOMPARE(m_pFixture->GetWarnings(), QStringList());
-        m_pFixture.reset();
-    }
-
     void hintThatComesAndGoesLeavesTheViewWhereItIs()
     {
         QRect busy;
@@ -420,9 +411,6 @@ private slots:
         QVERIFY2(highest - lowest < OneFrame, qPrintable(QString::number(highest - lowest)));
         QCOMPARE(ReadLines(m_pFixture->File("model")).size(), 1);
     }
-
-private:
-    std::unique_ptr<ScenarioFixture> m_pFixture;
 };
 
 VESK_TESTS(DrawLineTest);

@@ -1,5 +1,5 @@
 #include "Drawing.h"
-#include "ScenarioFixture.h"
+#include "ScenarioTest.h"
 #include "ScriptedUser.h"
 #include "SketcherProcess.h"
 #include "View/SketchView.h"
@@ -10,7 +10,6 @@
 #include "Support/TestValues.h"
 
 #include <algorithm>
-#include <memory>
 #include <vector>
 
 using vesk::ActionViewInput;
@@ -55,19 +54,11 @@ void DrawEveryKind(ScriptedUser& user)
 }
 
 /// Drawing and rotating rectangles, circles and arcs, as a user of the whole program.
-class DrawShapesTest final : public QObject
+class DrawShapesTest final : public ScenarioTest
 {
     Q_OBJECT
 
 private slots:
-    void init() { m_pFixture = std::make_unique<ScenarioFixture>(); }
-
-    void cleanup()
-    {
-        QCOMPARE(m_pFixture->GetWarnings(), QStringList());
-        m_pFixture.reset();
-    }
-
     void everyKindIsDrawn()
     {
         ScriptedUser user;
@@ -77,10 +68,10 @@ private slots:
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
         QCOMPARE(Types(), QStringList({"rectangle", "rectangle", "circle", "circle", "arc", "arc",
                                        "arc", "arc"}));
-        QCOMPARE(Model()[3].radius, 1.0 / 7.0);
-        QCOMPARE(Model()[5].radius, 61.7);
-        QCOMPARE(Model()[7].normal, Point({0.0, 0.0, 1.0}));
-        VerifyReplay(Journal());
+        QCOMPARE(Entities()[3].radius, 1.0 / 7.0);
+        QCOMPARE(Entities()[5].radius, 61.7);
+        QCOMPARE(Entities()[7].normal, Point({0.0, 0.0, 1.0}));
+        VerifyReplay();
     }
 
     void everyShapeIsOneUndoStepWhileItsActionRuns()
@@ -92,9 +83,9 @@ private slots:
         user.ClickAt(-100, 0).ClickAt(-100, 40);
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
-        QCOMPARE(Model().size(), std::size_t{2});
-        QCOMPARE(Model()[1].radius, 40.0);
-        VerifyReplay(Journal());
+        QCOMPARE(Entities().size(), std::size_t{2});
+        QCOMPARE(Entities()[1].radius, 40.0);
+        VerifyReplay();
     }
 
     void escapeEndsEveryAction_data()
@@ -117,8 +108,8 @@ private slots:
         user.UntilRunning("");
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
-        QCOMPARE(Model().size(), std::size_t{0});
-        VerifyReplay(Journal());
+        QCOMPARE(Entities().size(), std::size_t{0});
+        VerifyReplay();
     }
 
     void shortcutsBeginTheActions_data()
@@ -154,7 +145,7 @@ private slots:
         user.Do(Deliver(ActionViewInput::CentralAngleCommitted, 90)).UntilRunning("");
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
-        const std::vector<DrawnEntity> drawn = Model();
+        const std::vector<DrawnEntity> drawn = Entities();
         QCOMPARE(drawn.size(), std::size_t{8});
         const std::vector<Point>& corners = drawn[0].corners;
         QCOMPARE(corners[1][0], corners[0][0]);
@@ -162,7 +153,7 @@ private slots:
         QCOMPARE(drawn[2].centre[0] - corners[0][0], -100.0);
         QCOMPARE(drawn[2].centre[1] - corners[0][1], 150.0);
         QCOMPARE(drawn[3].radius, 1.0 / 7.0);
-        VerifyReplay(Journal());
+        VerifyReplay();
     }
 
     void aTurnIsOneUndoStep()
@@ -179,7 +170,7 @@ private slots:
         QCOMPARE(lines[0].GetWay(0), 100.0);
         QCOMPARE(lines[1].GetWay(1), 0.0);
         QCOMPARE(lines[1].start[1] - lines[0].start[1], 80.0);
-        VerifyReplay(Journal());
+        VerifyReplay();
     }
 
     void withNothingSelectedEntitiesArePicked()
@@ -195,7 +186,7 @@ private slots:
         QCOMPARE(lines.size(), 1);
         QCOMPARE(lines[0].GetWay(0), -100.0);
         QCOMPARE(lines[0].GetWay(1), 0.0);
-        VerifyReplay(Journal());
+        VerifyReplay();
     }
 
     void shapesArePickedErasedAndGivenAnotherPen()
@@ -209,8 +200,8 @@ private slots:
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
         QCOMPARE(Types(), QStringList("circle"));
-        QVERIFY(ReadFile(m_pFixture->File("model")).contains("\"colour\":\"red\""));
-        VerifyReplay(Journal());
+        QVERIFY(ReadBytes(m_pFixture->File("model")).contains("\"colour\":\"red\""));
+        VerifyReplay();
     }
 
     void everyCutOfTheJournalLeavesWhatWasFinished()
@@ -222,7 +213,7 @@ private slots:
         user.ClickAt(100, 0).ClickAt(200, 0).Do(
             Deliver(ActionViewInput::CentralAngleCommitted, 90));
         QCOMPARE(user.UntilRunning("").Run(m_pFixture->Draw()), 0);
-        const QList<QByteArray> lines = ReadFile(Journal()).split('\n');
+        const QList<QByteArray> lines = ReadBytes(Journal()).split('\n');
         QByteArray cut;
         std::vector<Point> centres;
 
@@ -241,31 +232,19 @@ private slots:
         }
 
         QCOMPARE(centres.size(), std::size_t{2});
-        QCOMPARE(centres[1], Model()[0].centre);
+        QCOMPARE(centres[1], Entities()[0].centre);
     }
 
 private:
-    QString Journal() const { return m_pFixture->File("journal"); }
-    std::vector<DrawnEntity> Model() const { return ReadEntities(m_pFixture->File("model")); }
+    std::vector<DrawnEntity> Entities() const { return ReadEntities(m_pFixture->File("model")); }
 
     QStringList Types() const
     {
         QStringList types;
-        for (const DrawnEntity& entity : Model())
+        for (const DrawnEntity& entity : Entities())
             types << entity.type;
         return types;
     }
-
-    void VerifyReplay(const QString& journal) const
-    {
-        const QString replayed = m_pFixture->File("replayed");
-        const Outcome outcome = RunSketcher({"--replay", journal, "--model", replayed});
-        QCOMPARE(outcome.code, 0);
-        QCOMPARE(outcome.error, QString());
-        QCOMPARE(ReadFile(replayed), ReadFile(m_pFixture->File("model")));
-    }
-
-    std::unique_ptr<ScenarioFixture> m_pFixture;
 };
 
 VESK_TESTS(DrawShapesTest);

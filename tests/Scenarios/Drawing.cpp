@@ -5,15 +5,13 @@
 
 #include <nlohmann/json.hpp>
 
-#include <QFile>
-
 namespace
 {
 
 nlohmann::json EntitiesOf(const QString& path)
 {
     const nlohmann::json model =
-        nlohmann::json::parse(ReadFile(path).toStdString(), nullptr, false);
+        nlohmann::json::parse(ReadBytes(path).toStdString(), nullptr, false);
     return model.is_discarded() ? nlohmann::json::array() : model["entities"];
 }
 
@@ -43,15 +41,7 @@ std::vector<vesk::JournalRecord> ReadJournal(const QString& path)
     return records;
 }
 
-QByteArray ReadFile(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 void WriteFile(const QString& path, const QByteArray& content)
 {
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), content.size());
+    QVERIFY(vesk::WriteBytes(path, content));
 }

@@ -2,6 +2,7 @@
 
 #include "Journal/JournalRecord.h"
 #include "Support/DrawnLine.h"
+#include "Support/FileBytes.h"
 
 #include <QString>
 #include <QVector>
@@ -11,6 +12,7 @@
 #include <vector>
 
 using vesk::DrawnLine;
+using vesk::ReadBytes;
 using vesk::ReadLines;
 
 /// An entity of a model file; fields its kind does not have are empty.
@@ -45,9 +47,6 @@ std::vector<Record> RecordsOf(const std::vector<vesk::JournalRecord>& records)
     }
     return found;
 }
-
-/// The contents of the file.
-QByteArray ReadFile(const QString& path);
 
 /// Replaces a file; the test fails if it cannot be written.
 void WriteFile(const QString& path, const QByteArray& content);

@@ -1,5 +1,5 @@
 #include "Drawing.h"
-#include "ScenarioFixture.h"
+#include "ScenarioTest.h"
 #include "ScriptedUser.h"
 #include "SketcherProcess.h"
 #include "SketcherWindow.h"
@@ -102,24 +102,6 @@ private:
     QString m_folder;
 };
 
-/// Changes an environment variable during its lifetime.
-class Variable
-{
-public:
-    Variable(const char* pName, const QString& value) : m_pName(pName), m_before(qgetenv(pName))
-    {
-        qputenv(pName, QFile::encodeName(value));
-    }
-
-    ~Variable() { qputenv(m_pName, m_before); }
-    Variable(const Variable&) = delete;
-    Variable& operator=(const Variable&) = delete;
-
-private:
-    const char* m_pName;
-    QByteArray m_before;
-};
-
 QString PaneState()
 {
     const auto* pState = ScriptedUser::FindWindow()->findChild<QLabel*>("JournalState");
@@ -129,7 +111,7 @@ QString PaneState()
 }
 
 /// Full disks, home folders that cannot be written, and termination requests.
-class FullDiskTest final : public QObject
+class FullDiskTest final : public ScenarioTest
 {
     Q_OBJECT
 
@@ -138,19 +120,6 @@ public:
 
 private slots:
     void initTestCase() { QCoreApplication::setApplicationName(QStringLiteral("sketcher")); }
-
-    void init()
-    {
-        m_pFixture = std::make_unique<ScenarioFixture>();
-        qputenv("XDG_DATA_HOME", QFile::encodeName(m_pFixture->File("data")));
-    }
-
-    void cleanup()
-    {
-        QCOMPARE(m_pFixture->GetWarnings(), QStringList());
-        qunsetenv("XDG_DATA_HOME");
-        m_pFixture.reset();
-    }
 
     void whateverIsWrittenIsOldOrNew_data()
     {
@@ -171,7 +140,7 @@ private slots:
         const QString sample = m_pFixture->File("sample");
         WriteFile(journal, MakeJournal(isByPages ? 400 : 4));
         QCOMPARE(RunSketcher({"--replay", journal, option, sample}).code, 0);
-        const QByteArray whole = ReadFile(sample);
+        const QByteArray whole = ReadBytes(sample);
         std::unique_ptr<SmallDisk> pDisk;
         if (isByPages)
             pDisk = std::make_unique<SmallDisk>(whole.size() / SmallDisk::PageSize + 8);
@@ -200,7 +169,7 @@ private slots:
 
             const bool isWritten = room == steps;
             const QByteArray left = isJournal ? WholeLines(whole.left(room * unit)) : "old";
-            QCOMPARE(ReadFile(path), isWritten ? whole : left);
+            QCOMPARE(ReadBytes(path), isWritten ? whole : left);
             QCOMPARE(outcome.code, isWritten ? 0 : 2);
             const QString line = "sketcher: cannot write " + path + '\n';
             QCOMPARE(outcome.error, isWritten ? QString() : line);
@@ -216,11 +185,11 @@ private slots:
             RunningSketcher sample({}, m_pFixture->File("ui"));
             QCOMPARE(sample.End(SIGTERM).code, 0);
         }
-        const QByteArray whole = ReadFile(ScenarioFixture::LayoutFile());
+        const QByteArray whole = ReadBytes(ScenarioFixture::LayoutFile());
         Shortage shortage(isByPages, m_pFixture->File("home"));
         if (!shortage.IsPossible())
             QSKIP("cannot mount a disk here; only the rows by bytes are run");
-        const Variable home("XDG_CONFIG_HOME", shortage.Folder());
+        const ScopedVariable home("XDG_CONFIG_HOME", shortage.Folder());
         const QString layout = ScenarioFixture::LayoutFile();
         const int steps = shortage.StepsOf(whole.size());
         const int stride = isByPages || IsWalkComplete() ? 1 : std::max(1, steps / 6);
@@ -229,7 +198,7 @@ private slots:
         {
             shortage.End();
             QVERIFY(vesk::LayoutFile::Write(layout, "old"));
-            const QByteArray old = ReadFile(layout);
+            const QByteArray old = ReadBytes(layout);
             ScriptedUser user;
             user.Until([] { return ScriptedUser::FindWindow()->isVisible(); });
             user.Do([&] { shortage.Begin(room); });
@@ -237,7 +206,7 @@ private slots:
             QCOMPARE(user.Run(Options()), 0);
 
             shortage.End();
-            const QByteArray left = ReadFile(layout);
+            const QByteArray left = ReadBytes(layout);
             QCOMPARE(left == old, room < steps);
             QCOMPARE(vesk::LayoutFile::Read(layout).content, vesk::LayoutFile::Content::Layout);
         }
@@ -273,8 +242,8 @@ private slots:
             QCOMPARE(user.Run(options), 2);
 
             shortage.End();
-            QVERIFY(ReadFile(options.log).startsWith(old));
-            QCOMPARE(shortage.StepsOf(ReadFile(options.log).size()), taken + room);
+            QVERIFY(ReadBytes(options.log).startsWith(old));
+            QCOMPARE(shortage.StepsOf(ReadBytes(options.log).size()), taken + room);
         }
     }
 
@@ -300,12 +269,7 @@ private slots:
                                                "日志文件无法写入，从现在起所做的操作没有保存"));
         QCOMPARE(said.value(2), QStringLiteral("||日志文件又可写入，缺少的记录已补上"));
         QVERIFY(ReadLines(m_pFixture->File("model")).size() == 4);
-        const QString replayed = m_pFixture->File("replayed");
-        const Outcome replay =
-            RunSketcher({"--replay", m_pFixture->File("journal"), "--model", replayed});
-        QCOMPARE(replay.code, 0);
-        QCOMPARE(replay.error, QString());
-        QCOMPARE(ReadFile(replayed), ReadFile(m_pFixture->File("model")));
+        VerifyReplay();
     }
 
     void aSessionThatCouldNotKeepItsJournalEndsSo()
@@ -324,8 +288,8 @@ private slots:
     void aHomeThatCannotBeWrittenKeepsNobodyFromDrawing()
     {
         WriteFile(m_pFixture->File("home"), "no folder");
-        const Variable config("XDG_CONFIG_HOME", m_pFixture->File("home/config"));
-        const Variable data("XDG_DATA_HOME", m_pFixture->File("home/data"));
+        const ScopedVariable config("XDG_CONFIG_HOME", m_pFixture->File("home/config"));
+        const ScopedVariable data("XDG_DATA_HOME", m_pFixture->File("home/data"));
         QString said;
         ScriptedUser user;
         user.Until([] { return ScriptedUser::FindWindow()->isVisible(); });
@@ -362,14 +326,14 @@ private slots:
         WriteFile(model, "old");
         RunningSketcher program({"--open", journal, "--model", model, "--screenshot", picture},
                                 m_pFixture->File("ui"));
-        QTRY_VERIFY(nlohmann::json::parse(ReadFile(m_pFixture->File("ui")))["entities"] == 4);
+        QTRY_VERIFY(nlohmann::json::parse(ReadBytes(m_pFixture->File("ui")))["entities"] == 4);
 
         const Outcome outcome = program.End(signal);
 
         QCOMPARE(outcome.code, 0);
         QCOMPARE(outcome.error, QString());
         QCOMPARE(ReadLines(model).size(), 4);
-        QVERIFY(ReadFile(picture).startsWith("\x89PNG"));
+        QVERIFY(ReadBytes(picture).startsWith("\x89PNG"));
         QVERIFY(QFileInfo::exists(ScenarioFixture::LayoutFile()));
     }
 
@@ -383,11 +347,8 @@ private slots:
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
 
         QCOMPARE(ReadLines(m_pFixture->File("model")).size(), 1);
-        QVERIFY(ReadFile(m_pFixture->File("journal")).endsWith("\"result\":\"done\"}\n"));
+        QVERIFY(ReadBytes(m_pFixture->File("journal")).endsWith("\"result\":\"done\"}\n"));
     }
-
-private:
-    std::unique_ptr<ScenarioFixture> m_pFixture;
 };
 
 VESK_TESTS(FullDiskTest);

@@ -1,5 +1,5 @@
 #include "Drawing.h"
-#include "ScenarioFixture.h"
+#include "ScenarioTest.h"
 #include "ScriptedUser.h"
 #include "SketcherProcess.h"
 #include "View/SketchView.h"
@@ -15,7 +15,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <memory>
 #include <utility>
 #include <vector>
 
@@ -98,19 +97,11 @@ void ReplaceCommand(const QString& id, const std::function<void()>& work,
 }
 
 /// Choosing menu entries while something is being drawn.
-class MenuChoiceTest final : public QObject
+class MenuChoiceTest final : public ScenarioTest
 {
     Q_OBJECT
 
 private slots:
-    void init() { m_pFixture = std::make_unique<ScenarioFixture>(); }
-
-    void cleanup()
-    {
-        QCOMPARE(m_pFixture->GetWarnings(), QStringList());
-        m_pFixture.reset();
-    }
-
     void entryRunsOnceAfterTheActionThatItEnded_data()
     {
         QTest::addColumn<QString>("entry");
@@ -190,13 +181,8 @@ private slots:
         user.Click(s_line).ClickAt(0, -20).Type("12.5").Press(Qt::Key_Return);
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
-        const QString replayed = m_pFixture->File("replayed");
-        const Outcome outcome =
-            RunSketcher({"--replay", m_pFixture->File("journal"), "--model", replayed});
-        QCOMPARE(outcome.code, 0);
-        QCOMPARE(outcome.error, QString());
-        QCOMPARE(ReadLines(replayed).size(), 3);
-        QCOMPARE(ReadFile(replayed), ReadFile(m_pFixture->File("model")));
+        QCOMPARE(Model().size(), 3);
+        VerifyReplay();
     }
 
     void twoHundredChoicesRunTwoHundredTimes_data()
@@ -350,8 +336,6 @@ private slots:
 
 private:
     QStringList Commands() const { return CommandsOf(m_pFixture->File("journal")); }
-
-    std::unique_ptr<ScenarioFixture> m_pFixture;
 };
 
 VESK_TESTS(MenuChoiceTest);

@@ -1,6 +1,6 @@
 #include "Drawing.h"
 #include "PaneDriver.h"
-#include "ScenarioFixture.h"
+#include "ScenarioTest.h"
 #include "ScriptedUser.h"
 #include "SketcherProcess.h"
 #include "Support/TestValues.h"
@@ -9,7 +9,6 @@
 #include <QLineEdit>
 #include <QTreeView>
 
-#include <memory>
 #include <vector>
 
 namespace
@@ -70,19 +69,11 @@ void DrawTwoLines(ScriptedUser& user)
 }
 
 /// Selecting and editing entities in the panes during a whole session.
-class PaneEditTest final : public QObject
+class PaneEditTest final : public ScenarioTest
 {
     Q_OBJECT
 
 private slots:
-    void init() { m_pFixture = std::make_unique<ScenarioFixture>(); }
-
-    void cleanup()
-    {
-        QCOMPARE(m_pFixture->GetWarnings(), QStringList());
-        m_pFixture.reset();
-    }
-
     void editsInThePaneAreRepeatedToTheLastBit()
     {
         ScriptedUser user;
@@ -232,18 +223,6 @@ private:
     {
         return RecordsOf<Record>(ReadJournal(m_pFixture->File("journal")));
     }
-
-    void VerifyReplay() const
-    {
-        const QString replayed = m_pFixture->File("replayed");
-        const Outcome outcome =
-            RunSketcher({"--replay", m_pFixture->File("journal"), "--model", replayed});
-        QCOMPARE(outcome.code, 0);
-        QCOMPARE(outcome.error, QString());
-        QCOMPARE(ReadFile(replayed), ReadFile(m_pFixture->File("model")));
-    }
-
-    std::unique_ptr<ScenarioFixture> m_pFixture;
 };
 
 VESK_TESTS(PaneEditTest);

@@ -1,6 +1,6 @@
 #include "Drawing.h"
 #include "PaneDriver.h"
-#include "ScenarioFixture.h"
+#include "ScenarioTest.h"
 #include "ScriptedUser.h"
 #include "SketcherProcess.h"
 
@@ -12,8 +12,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QStatusBar>
-
-#include <memory>
 
 using vesk::LayoutFile;
 
@@ -60,19 +58,12 @@ QString NoticeOf(const ScenarioFixture& fixture)
 }
 
 /// Keeping the layout of the panes from one session to the next.
-class PaneLayoutTest final : public QObject
+class PaneLayoutTest final : public ScenarioTest
 {
     Q_OBJECT
 
 private slots:
     void initTestCase() { QCoreApplication::setApplicationName(QStringLiteral("sketcher")); }
-    void init() { m_pFixture = std::make_unique<ScenarioFixture>(); }
-
-    void cleanup()
-    {
-        QCOMPARE(m_pFixture->GetWarnings(), QStringList());
-        m_pFixture.reset();
-    }
 
     void theLayoutComesBackInTheNextSession()
     {
@@ -169,7 +160,7 @@ private slots:
 
         QCOMPARE(NoticeOf(*m_pFixture), notice);
 
-        QCOMPARE(ReadFile(ScenarioFixture::LayoutFile() + ".kept"), text);
+        QCOMPARE(ReadBytes(ScenarioFixture::LayoutFile() + ".kept"), text);
         QCOMPARE(NoticeOf(*m_pFixture), QString());
     }
 
@@ -194,7 +185,7 @@ private slots:
         RunOnce(*m_pFixture, "1111", "Journal");
         if (!hasLayout)
             QVERIFY(QFile::remove(ScenarioFixture::LayoutFile()));
-        const QByteArray before = ReadFile(ScenarioFixture::LayoutFile());
+        const QByteArray before = ReadBytes(ScenarioFixture::LayoutFile());
         const QString tree = m_pFixture->File("tree");
 
         const Outcome outcome =
@@ -203,15 +194,12 @@ private slots:
         QCOMPARE(outcome.code, 0);
         QCOMPARE(outcome.error, QString());
         QCOMPARE(QFileInfo::exists(ScenarioFixture::LayoutFile()), hasLayout);
-        QCOMPARE(ReadFile(ScenarioFixture::LayoutFile()), before);
-        const auto docks = nlohmann::json::parse(ReadFile(tree).toStdString())["docks"];
+        QCOMPARE(ReadBytes(ScenarioFixture::LayoutFile()), before);
+        const auto docks = nlohmann::json::parse(ReadBytes(tree).toStdString())["docks"];
         QCOMPARE(docks.size(), std::size_t{4});
         for (const nlohmann::json& dock : docks)
             QVERIFY2(dock["visible"].get<bool>(), dock.dump().c_str());
     }
-
-private:
-    std::unique_ptr<ScenarioFixture> m_pFixture;
 };
 
 VESK_TESTS(PaneLayoutTest);

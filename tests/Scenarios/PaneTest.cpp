@@ -1,13 +1,12 @@
 #include "Drawing.h"
 #include "PaneDriver.h"
-#include "ScenarioFixture.h"
+#include "ScenarioTest.h"
 #include "ScriptedUser.h"
 #include "Support/TestValues.h"
 
 #include <QRandomGenerator>
 
 #include <functional>
-#include <memory>
 #include <optional>
 
 using Act = std::function<void(ScriptedUser& user)>;
@@ -64,19 +63,11 @@ private:
 }
 
 /// Showing and hiding panes in every possible way.
-class PaneTest final : public QObject
+class PaneTest final : public ScenarioTest
 {
     Q_OBJECT
 
 private slots:
-    void init() { m_pFixture = std::make_unique<ScenarioFixture>(); }
-
-    void cleanup()
-    {
-        QCOMPARE(m_pFixture->GetWarnings(), QStringList());
-        m_pFixture.reset();
-    }
-
     void allPanesAreVisibleAndMarkedAtFirst()
     {
         ScriptedUser user;
@@ -279,8 +270,6 @@ private:
             user.Choose(s_menu, PaneDriver::CommandOf(name));
         }
     }
-
-    std::unique_ptr<ScenarioFixture> m_pFixture;
 };
 
 VESK_TESTS(PaneTest);

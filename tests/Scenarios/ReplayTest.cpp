@@ -1,11 +1,10 @@
 #include "Drawing.h"
-#include "ScenarioFixture.h"
+#include "ScenarioTest.h"
 #include "ScriptedUser.h"
 #include "SketcherProcess.h"
 #include "Support/TestValues.h"
 
 #include <algorithm>
-#include <memory>
 
 namespace
 {
@@ -25,7 +24,7 @@ void DrawSomething(ScriptedUser& user)
 
 QList<QByteArray> SortedLines(const QString& path)
 {
-    QList<QByteArray> lines = ReadFile(path).split('\n');
+    QList<QByteArray> lines = ReadBytes(path).split('\n');
     std::sort(lines.begin(), lines.end());
     return lines;
 }
@@ -33,24 +32,18 @@ QList<QByteArray> SortedLines(const QString& path)
 }
 
 /// Replaying the journals of whole sessions.
-class ReplayTest final : public QObject
+class ReplayTest final : public ScenarioTest
 {
     Q_OBJECT
 
 private slots:
     void init()
     {
-        m_pFixture = std::make_unique<ScenarioFixture>();
+        ScenarioTest::init();
         ScriptedUser user;
         DrawSomething(user);
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
         QVERIFY(!ReadLines(m_pFixture->File("model")).isEmpty());
-    }
-
-    void cleanup()
-    {
-        QCOMPARE(m_pFixture->GetWarnings(), QStringList());
-        m_pFixture.reset();
     }
 
     void replayGivesTheSameModelToTheLastBit_data()
@@ -72,8 +65,8 @@ private slots:
 
         QCOMPARE(outcome.code, 0);
         QCOMPARE(outcome.error, QString());
-        QCOMPARE(ReadFile(Replayed()), ReadFile(m_pFixture->File("model")));
-        QCOMPARE(ReadFile(m_pFixture->File("log2")), QByteArray());
+        QCOMPARE(ReadBytes(Replayed()), ReadBytes(m_pFixture->File("model")));
+        QCOMPARE(ReadBytes(m_pFixture->File("log2")), QByteArray());
     }
 
     void replayRecordsWhatItRepeats()
@@ -89,7 +82,7 @@ private slots:
 
     void everyCutLeavesWhatWasFinished()
     {
-        const QByteArray whole = ReadFile(Journal());
+        const QByteArray whole = ReadBytes(Journal());
         const QList<QByteArray> lines = whole.split('\n');
         QByteArray cut;
         int drawnBefore = 0;
@@ -115,7 +108,7 @@ private slots:
     void unknownCommandIsNamed()
     {
         WriteFile(m_pFixture->File("bad"),
-                  ReadFile(Journal()) +
+                  ReadBytes(Journal()) +
                       "{\"n\":1000,\"kind\":\"command\",\"id\":\"Nobody.Knows\"}\n");
 
         const Outcome outcome =
@@ -123,7 +116,7 @@ private slots:
 
         QCOMPARE(outcome.code, 3);
         QVERIFY2(outcome.error.contains("Nobody.Knows"), qPrintable(outcome.error));
-        QCOMPARE(ReadFile(Replayed()), ReadFile(m_pFixture->File("model")));
+        QCOMPARE(ReadBytes(Replayed()), ReadBytes(m_pFixture->File("model")));
     }
 
     void unusableJournalsAndOptionsAreToldInOneLine_data()
@@ -141,7 +134,7 @@ private slots:
     void unusableJournalsAndOptionsAreToldInOneLine()
     {
         QFETCH(QStringList, arguments);
-        WriteFile(m_pFixture->File("bad"), "{\"n\":1}\n" + ReadFile(Journal()));
+        WriteFile(m_pFixture->File("bad"), "{\"n\":1}\n" + ReadBytes(Journal()));
         arguments.replaceInStrings("BAD", m_pFixture->File("bad"));
 
         const Outcome outcome = RunSketcher(arguments);
@@ -151,10 +144,7 @@ private slots:
     }
 
 private:
-    QString Journal() const { return m_pFixture->File("journal"); }
     QString Replayed() const { return m_pFixture->File("replayed"); }
-
-    std::unique_ptr<ScenarioFixture> m_pFixture;
 };
 
 VESK_TESTS(ReplayTest);

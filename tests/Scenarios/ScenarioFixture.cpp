@@ -1,29 +1,15 @@
 #include "ScenarioFixture.h"
 
-#include <QFile>
 #include <QStandardPaths>
 
-namespace
+ScenarioFixture::ScenarioFixture()
 {
-
-constexpr char ConfigFolder[] = "XDG_CONFIG_HOME";
-
-}
-
-ScenarioFixture::ScenarioFixture() : m_configBefore(qgetenv(ConfigFolder))
-{
-    // Uses neither the user's own pane layout nor that of another test.
-    qputenv(ConfigFolder, QFile::encodeName(File(QStringLiteral("config"))));
     vesk::DebugMessageMgr::GetDebugMessageMgr()->AddObserver(this);
 }
 
 ScenarioFixture::~ScenarioFixture()
 {
     vesk::DebugMessageMgr::GetDebugMessageMgr()->RemoveObserver(this);
-    if (m_configBefore.isNull())
-        qunsetenv(ConfigFolder);
-    else
-        qputenv(ConfigFolder, m_configBefore);
 }
 
 void ScenarioFixture::OnDebugWarning(const vesk::DebugWarning& warning)

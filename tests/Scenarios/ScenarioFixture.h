@@ -1,14 +1,15 @@
 #pragma once
 
 #include "Options.h"
+#include "ScopedVariable.h"
 #include "Warnings/DebugMessageMgr.h"
 
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
 
-/// The files of one session, a configuration folder of its own, and every warning the session
-/// raised.
+/// The files of one session, folders of its own for configuration and data, and every warning the
+/// session raised.
 class ScenarioFixture final : public vesk::IDebugWarningObserver
 {
 public:
@@ -34,6 +35,8 @@ public:
 
 private:
     QTemporaryDir m_folder;
-    QByteArray m_configBefore;
+    // Neither the user's own files nor those of another test are used.
+    ScopedVariable m_config{"XDG_CONFIG_HOME", File(QStringLiteral("config"))};
+    ScopedVariable m_data{"XDG_DATA_HOME", File(QStringLiteral("data"))};
     QStringList m_warnings;
 };

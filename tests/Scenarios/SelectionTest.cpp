@@ -1,5 +1,5 @@
 #include "Drawing.h"
-#include "ScenarioFixture.h"
+#include "ScenarioTest.h"
 #include "ScriptedUser.h"
 #include "SketcherProcess.h"
 #include "Support/TestValues.h"
@@ -8,7 +8,6 @@
 #include <QComboBox>
 #include <QKeyEvent>
 
-#include <memory>
 #include <vector>
 
 namespace
@@ -16,8 +15,6 @@ namespace
 
 const QString s_style = QStringLiteral("Sketcher.LineStyle");
 const QString s_colour = QStringLiteral("Sketcher.LineColour");
-
-using Selections = std::vector<std::vector<int>>;
 
 /// Two lines, far enough from each other to be picked separately.
 void DrawTwoLines(ScriptedUser& user)
@@ -33,19 +30,11 @@ int ShownItem(const QString& boxId)
 }
 
 /// Selecting entities with the mouse, and the pen used for them and for the next ones drawn.
-class SelectionTest final : public QObject
+class SelectionTest final : public ScenarioTest
 {
     Q_OBJECT
 
 private slots:
-    void init() { m_pFixture = std::make_unique<ScenarioFixture>(); }
-
-    void cleanup()
-    {
-        QCOMPARE(m_pFixture->GetWarnings(), QStringList());
-        m_pFixture.reset();
-    }
-
     void clickSelectsWhatIsUnderItAlone()
     {
         ScriptedUser user;
@@ -260,17 +249,6 @@ private slots:
     }
 
 private:
-    QString Journal() const { return m_pFixture->File("journal"); }
-    QVector<DrawnLine> Model() const { return ReadLines(m_pFixture->File("model")); }
-
-    Selections Selected() const
-    {
-        Selections selections;
-        for (const auto& record : RecordsOf<vesk::SelectionRecord>(ReadJournal(Journal())))
-            selections.push_back(record.entities);
-        return selections;
-    }
-
     QStringList Properties() const
     {
         QStringList told;
@@ -287,17 +265,6 @@ private:
             pens << line.style + ' ' + line.colour;
         return pens;
     }
-
-    void VerifyReplay() const
-    {
-        const QString replayed = m_pFixture->File("replayed");
-        const Outcome outcome = RunSketcher({"--replay", Journal(), "--model", replayed});
-        QCOMPARE(outcome.code, 0);
-        QCOMPARE(outcome.error, QString());
-        QCOMPARE(ReadFile(replayed), ReadFile(m_pFixture->File("model")));
-    }
-
-    std::unique_ptr<ScenarioFixture> m_pFixture;
 };
 
 VESK_TESTS(SelectionTest);

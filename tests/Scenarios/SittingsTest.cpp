@@ -157,7 +157,7 @@ private:
     {
         const QString repeated = f.File("repeated");
         const int code = Session(f.Replay(f.File("journal"), repeated)).Run();
-        const bool isSame = ReadFile(repeated) == ReadFile(f.File("model"));
+        const bool isSame = ReadBytes(repeated) == ReadBytes(f.File("model"));
         return Expect(code == 0, "cannot be repeated") + Expect(isSame, "repeated otherwise");
     }
 

@@ -1,5 +1,5 @@
 #include "Drawing.h"
-#include "ScenarioFixture.h"
+#include "ScenarioTest.h"
 #include "ScriptedUser.h"
 #include "Support/TestValues.h"
 
@@ -7,7 +7,6 @@
 
 #include <array>
 #include <cmath>
-#include <memory>
 #include <vector>
 
 namespace
@@ -30,19 +29,11 @@ bool IsOn(const QString& snap)
 }
 
 /// Snapping the cursor to points of the drawing.
-class SnapTest final : public QObject
+class SnapTest final : public ScenarioTest
 {
     Q_OBJECT
 
 private slots:
-    void init() { m_pFixture = std::make_unique<ScenarioFixture>(); }
-
-    void cleanup()
-    {
-        QCOMPARE(m_pFixture->GetWarnings(), QStringList());
-        m_pFixture.reset();
-    }
-
     void onlyEndIsOnAtFirst()
     {
         QStringList on;
@@ -206,8 +197,6 @@ private slots:
     }
 
 private:
-    QVector<DrawnLine> Model() const { return ReadLines(m_pFixture->File("model")); }
-
     /// Point records are counted from 0.
     Point RecordedPoint(std::size_t index) const
     {
@@ -217,8 +206,6 @@ private:
         const vesk::Vector3d& point = points[index].point;
         return {point.x(), point.y(), point.z()};
     }
-
-    std::unique_ptr<ScenarioFixture> m_pFixture;
 };
 
 VESK_TESTS(SnapTest);

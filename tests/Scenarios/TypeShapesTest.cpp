@@ -1,5 +1,5 @@
 #include "Drawing.h"
-#include "ScenarioFixture.h"
+#include "ScenarioTest.h"
 #include "ScriptedUser.h"
 #include "SketcherProcess.h"
 #include "View/SketchView.h"
@@ -13,7 +13,6 @@
 
 #include <cmath>
 #include <functional>
-#include <memory>
 #include <vector>
 
 using Point = DrawnEntity::Point;
@@ -64,19 +63,11 @@ double Distance(const Point& a, const Point& b)
 }
 
 /// Sizes and angles of shapes, typed by a user of the whole program.
-class TypeShapesTest final : public QObject
+class TypeShapesTest final : public ScenarioTest
 {
     Q_OBJECT
 
 private slots:
-    void init() { m_pFixture = std::make_unique<ScenarioFixture>(); }
-
-    void cleanup()
-    {
-        QCOMPARE(m_pFixture->GetWarnings(), QStringList());
-        m_pFixture.reset();
-    }
-
     void typedWidthAndHeightMakeARectangle()
     {
         ScriptedUser user;
@@ -343,15 +334,13 @@ private:
         const Outcome outcome =
             RunSketcher({"--replay", m_pFixture->File("journal"), "--model", replayed});
         const bool isRepeated = code == 0 && outcome.code == 0 && outcome.error.isEmpty() &&
-                                ReadFile(replayed) == ReadFile(m_pFixture->File("model"));
+                                ReadBytes(replayed) == ReadBytes(m_pFixture->File("model"));
         const std::vector<DrawnEntity> drawn = ReadEntities(replayed);
         if (!isRepeated || drawn.size() != 1)
             QTest::qFail("not one entity that is repeated as it is", __FILE__, __LINE__);
         return drawn.empty() ? DrawnEntity{QString(), {}, {}, {}, 0.0, {}, std::vector<Point>(4)}
                              : drawn.front();
     }
-
-    std::unique_ptr<ScenarioFixture> m_pFixture;
 };
 
 VESK_TESTS(TypeShapesTest);

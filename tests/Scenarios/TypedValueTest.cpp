@@ -1,5 +1,5 @@
 #include "Drawing.h"
-#include "ScenarioFixture.h"
+#include "ScenarioTest.h"
 #include "ScriptedUser.h"
 #include "SketcherProcess.h"
 #include "SketcherWindow.h"
@@ -12,7 +12,6 @@
 #include <QLineEdit>
 
 #include <cmath>
-#include <memory>
 #include <vector>
 
 namespace
@@ -59,19 +58,11 @@ bool IsShown(const char* name)
 }
 
 /// Lengths and angles as people type them, in the whole program.
-class TypedValueTest final : public QObject
+class TypedValueTest final : public ScenarioTest
 {
     Q_OBJECT
 
 private slots:
-    void init() { m_pFixture = std::make_unique<ScenarioFixture>(); }
-
-    void cleanup()
-    {
-        QCOMPARE(m_pFixture->GetWarnings(), QStringList());
-        m_pFixture.reset();
-    }
-
     void clearTextIsDrawnToTheLastBit_data()
     {
         QTest::addColumn<QString>("length");
@@ -156,12 +147,8 @@ private slots:
         user.Press(Qt::Key_Tab).Type("atan(3/4)").Press(Qt::Key_Return);
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
-        const QString replayed = m_pFixture->File("replayed");
-        const Outcome outcome = RunSketcher({"--replay", Journal(), "--model", replayed});
-        QCOMPARE(outcome.code, 0);
-        QCOMPARE(outcome.error, QString());
-        QCOMPARE(ReadLines(replayed).size(), 1);
-        QCOMPARE(ReadFile(replayed), ReadFile(m_pFixture->File("model")));
+        QCOMPARE(Model().size(), 1);
+        VerifyReplay();
     }
 
     void textWithABlankIsAWhole_data()
@@ -279,9 +266,7 @@ private slots:
         QCOMPARE(lines.size(), 1);
         QVERIFY(qAbs(lines[0].GetWay(0)) <= 1e-9);
         QVERIFY(qAbs(lines[0].GetWay(1) - 120.0) <= 1.0);
-        const QString replayed = m_pFixture->File("replayed");
-        QCOMPARE(RunSketcher({"--replay", Journal(), "--model", replayed}).code, 0);
-        QCOMPARE(ReadFile(replayed), ReadFile(m_pFixture->File("model")));
+        VerifyReplay();
     }
 
     void wideEditorLiesInTheViewAndOffTheCursor_data()
@@ -404,11 +389,6 @@ private slots:
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
     }
-
-private:
-    QString Journal() const { return m_pFixture->File("journal"); }
-
-    std::unique_ptr<ScenarioFixture> m_pFixture;
 };
 
 VESK_TESTS(TypedValueTest);

@@ -1,5 +1,5 @@
 #include "Drawing.h"
-#include "ScenarioFixture.h"
+#include "ScenarioTest.h"
 #include "ScriptedUser.h"
 #include "SketcherProcess.h"
 #include "View/SketchView.h"
@@ -9,7 +9,6 @@
 
 #include <QAbstractButton>
 
-#include <memory>
 #include <vector>
 
 namespace
@@ -27,19 +26,11 @@ bool IsInputting()
 }
 
 /// Lengths typed in a unit other than that of the model.
-class UnitTest final : public QObject
+class UnitTest final : public ScenarioTest
 {
     Q_OBJECT
 
 private slots:
-    void init() { m_pFixture = std::make_unique<ScenarioFixture>(); }
-
-    void cleanup()
-    {
-        QCOMPARE(m_pFixture->GetWarnings(), QStringList());
-        m_pFixture.reset();
-    }
-
     void typedLengthIsOfTheChosenUnit_data()
     {
         QTest::addColumn<QString>("unit");
@@ -126,12 +117,8 @@ private slots:
 
         // A replay shows millimetres.
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
-        const QString replayed = m_pFixture->File("replayed");
-        const Outcome outcome = RunSketcher({"--replay", Journal(), "--model", replayed});
-        QCOMPARE(outcome.code, 0);
-        QCOMPARE(outcome.error, QString());
         QCOMPARE(Model().size(), 3);
-        QCOMPARE(ReadFile(replayed), ReadFile(m_pFixture->File("model")));
+        VerifyReplay();
     }
 
     void otherUnitEndsWhatIsBeingTyped()
@@ -178,12 +165,6 @@ private slots:
         QCOMPARE(lines.size(), 1);
         QVERIFY(qAbs(lines[0].GetLength() - 50.0) <= Tolerance);
     }
-
-private:
-    QString Journal() const { return m_pFixture->File("journal"); }
-    QVector<DrawnLine> Model() const { return ReadLines(m_pFixture->File("model")); }
-
-    std::unique_ptr<ScenarioFixture> m_pFixture;
 };
 
 VESK_TESTS(UnitTest);

@@ -1,6 +1,7 @@
 #include "Support/DrawnLine.h"
 
-#include <QFile>
+#include "Support/FileBytes.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -44,12 +45,6 @@ QVector<DrawnLine> ReadLines(const QString& modelFile)
                          entity["style"].toString(), entity["colour"].toString()});
     }
     return lines;
-}
-
-QByteArray ReadBytes(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 double AngleBetween(double left, double right)

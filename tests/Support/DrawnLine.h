@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QByteArray>
 #include <QString>
 #include <QVector>
 
@@ -28,9 +27,6 @@ struct DrawnLine
 
 /// The lines of a model file, in file order; empty if it cannot be read.
 QVector<DrawnLine> ReadLines(const QString& modelFile);
-
-/// The bytes of a file; empty if it cannot be read.
-QByteArray ReadBytes(const QString& file);
 
 /// The difference between two angles, in degrees, ignoring full rotations.
 double AngleBetween(double left, double right);

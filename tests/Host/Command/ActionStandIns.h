@@ -5,6 +5,7 @@
 #include "Dimension/ITemporaryDimensionContext.h"
 #include "Foundation/IApplication.h"
 #include "Graphics/IGraphicsNode.h"
+#include "Host/StandInNotes.h"
 #include "Support/IdleAction.h"
 #include "Support/IdleApplication.h"
 #include "Support/IdleView.h"
@@ -77,11 +78,11 @@ struct ActionScript
 };
 
 /// Logs what happens to it, as "Line.click", and follows a script, which outlives it.
-class StandInAction final : public test::IdleAction
+class StandInAction final : public test::IdleAction, private StandInNotes
 {
 public:
     StandInAction(std::string name, Log& log, ActionScript& script)
-        : m_name(std::move(name)), m_log(log), m_script(script)
+        : StandInNotes(std::move(name), log), m_script(script)
     {}
     ~StandInAction() override { Note("delete"); }
 
@@ -148,20 +149,6 @@ public:
     }
 
 private:
-    void Note(const std::string& what) { m_log.push_back(m_name + "." + what); }
-
-    void Do(const std::string& what, const std::function<void()>& act)
-    {
-        Note(what);
-        if (!act)
-            return;
-        act();
-        // Only logged if the action still exists.
-        Note(what + " done");
-    }
-
-    std::string m_name;
-    Log& m_log;
     ActionScript& m_script;
 };
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Control/IControlDefinitionChangeEvent.h"
+#include "Support/TestValues.h"
 
 #include <functional>
 #include <string>
@@ -42,5 +43,28 @@ private:
     std::vector<Change> m_changes;
     std::function<void()> m_then;
 };
+
+/// Columns that describe the change of a definition with items.
+inline void AddItemChangeColumns()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<int>("index");
+    QTest::addColumn<QString>("caption");
+}
+
+/// Verifies that the only change recorded is that of the row. Without an index it has no item.
+inline void VerifyItemChange(const ChangeRecorder& recorder)
+{
+    QFETCH(int, type);
+    QFETCH(int, index);
+    QFETCH(QString, caption);
+
+    QCOMPARE(recorder.GetCount(), 1);
+    const Change& change = recorder.GetChanges().front();
+    QCOMPARE(change.type, type);
+    QCOMPARE(change.index, index);
+    QCOMPARE(QString::fromStdWString(change.caption), caption);
+    QCOMPARE(change.pItem != nullptr, index >= 0);
+}
 
 }

@@ -115,9 +115,7 @@ void CheckBoxGroupDefinitionTest::aChangeOfTheBoxesRaisesOneEvent_data()
 {
     QTest::addColumn<Act>("act");
     QTest::addColumn<QString>("state");
-    QTest::addColumn<int>("type");
-    QTest::addColumn<int>("index");
-    QTest::addColumn<QString>("caption");
+    AddItemChangeColumns();
 
     QTest::newRow("add") << Act{[](Group& g) { g.AddCheckBox(MakeOwner<Box>(L"X", L"cross")); }}
                          << "End0 Middle0 Centre0 X0" << int{Type::Add} << 3 << "cross";
@@ -138,20 +136,12 @@ void CheckBoxGroupDefinitionTest::aChangeOfTheBoxesRaisesOneEvent()
 {
     QFETCH(Act, act);
     QFETCH(QString, state);
-    QFETCH(int, type);
-    QFETCH(int, index);
-    QFETCH(QString, caption);
     const CheckBoxGroupFixture f;
 
     act(*f.pGroup);
 
     QCOMPARE(f.GetState(), state);
-    QCOMPARE(f.pRecorder->GetCount(), 1);
-    const Change& change = f.pRecorder->GetChanges().front();
-    QCOMPARE(change.type, type);
-    QCOMPARE(change.index, index);
-    QCOMPARE(QString::fromStdWString(change.caption), caption);
-    QCOMPARE(change.pItem != nullptr, index >= 0);
+    VerifyItemChange(*f.pRecorder);
 }
 
 void CheckBoxGroupDefinitionTest::aStateRaisesOneEventOfTheBoxAndOneOfTheGroup()

@@ -129,9 +129,7 @@ void CommandButtonMenuDefinitionTest::aChangeOfTheEntriesRaisesOneEvent_data()
 {
     QTest::addColumn<Act>("act");
     QTest::addColumn<QString>("state");
-    QTest::addColumn<int>("type");
-    QTest::addColumn<int>("index");
-    QTest::addColumn<QString>("caption");
+    AddItemChangeColumns();
 
     QTest::newRow("add") << Act{[](Menu& m) { m.AddMenuItem(MakeOwner<Entry>(L"X", L"", L"x")); }}
                          << "Centre More(Arcs(Three)) X" << int{Type::Add} << 2 << "x";
@@ -150,20 +148,12 @@ void CommandButtonMenuDefinitionTest::aChangeOfTheEntriesRaisesOneEvent()
 {
     QFETCH(Act, act);
     QFETCH(QString, state);
-    QFETCH(int, type);
-    QFETCH(int, index);
-    QFETCH(QString, caption);
     const MenuFixture f;
 
     act(*f.pMenu);
 
     QCOMPARE(f.GetState(), state);
-    QCOMPARE(f.pRecorder->GetCount(), 1);
-    const Change& change = f.pRecorder->GetChanges().front();
-    QCOMPARE(change.type, type);
-    QCOMPARE(change.index, index);
-    QCOMPARE(QString::fromStdWString(change.caption), caption);
-    QCOMPARE(change.pItem != nullptr, index >= 0);
+    VerifyItemChange(*f.pRecorder);
 }
 
 void CommandButtonMenuDefinitionTest::anIconRaisesOneEventAndAnEqualOneNone()

@@ -3,6 +3,7 @@
 #include "Control/ControlDefinitionChangeByUser.h"
 #include "Control/ControlDefinitionUtil.h"
 #include "Host/Control/ChangeRecorder.h"
+#include "Host/Control/MortalValidator.h"
 #include "Support/TestValues.h"
 #include "Validation/NumberValidator.h"
 
@@ -224,16 +225,6 @@ void LineEditDefinitionReferenceTest::withoutDefinitionItIsEmptyAndTakesNothing(
 
 void LineEditDefinitionReferenceTest::withoutDefinitionItFreesTheValidator()
 {
-    class MortalValidator final : public ValidatorBase
-    {
-    public:
-        explicit MortalValidator(bool& isAlive) : m_isAlive(isAlive) { m_isAlive = true; }
-        ~MortalValidator() override { m_isAlive = false; }
-        bool ValidateInput(const std::wstring& /*text*/) const override { return true; }
-
-    private:
-        bool& m_isAlive;
-    };
     bool isAlive = false;
     LineEditDefinitionReference reference(L"ref", nullptr);
 

@@ -2,6 +2,7 @@
 
 #include "Control/ControlDefinitionChangeByUser.h"
 #include "Host/Control/ChangeRecorder.h"
+#include "Host/Control/MortalValidator.h"
 #include "Support/TestValues.h"
 #include "Validation/NumberValidator.h"
 
@@ -26,18 +27,6 @@ struct Fixture
 
     std::unique_ptr<LineEditDefinition> pDefinition = std::make_unique<LineEditDefinition>(L"id");
     std::unique_ptr<ChangeRecorder> pRecorder;
-};
-
-/// Reports its destruction.
-class MortalValidator final : public ValidatorBase
-{
-public:
-    explicit MortalValidator(bool& isAlive) : m_isAlive(isAlive) { m_isAlive = true; }
-    ~MortalValidator() override { m_isAlive = false; }
-    bool ValidateInput(const std::wstring& /*text*/) const override { return true; }
-
-private:
-    bool& m_isAlive;
 };
 
 class EditingRecorder final : public ILineEditEventHandler

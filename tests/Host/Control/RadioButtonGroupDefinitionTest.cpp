@@ -85,9 +85,7 @@ void RadioButtonGroupDefinitionTest::aChangeOfTheButtonsRaisesOneEvent_data()
 {
     QTest::addColumn<Act>("act");
     QTest::addColumn<QString>("state");
-    QTest::addColumn<int>("type");
-    QTest::addColumn<int>("index");
-    QTest::addColumn<QString>("caption");
+    AddItemChangeColumns();
 
     QTest::newRow("add") << Act{[](Group& g) { g.AddRadioButton(MakeOwner<Button>(L"m", L"M")); }}
                          << "mm cm in m: cm" << int{Type::Add} << 3 << "M";
@@ -110,20 +108,12 @@ void RadioButtonGroupDefinitionTest::aChangeOfTheButtonsRaisesOneEvent()
 {
     QFETCH(Act, act);
     QFETCH(QString, state);
-    QFETCH(int, type);
-    QFETCH(int, index);
-    QFETCH(QString, caption);
     const RadioButtonGroupFixture f;
 
     act(*f.pGroup);
 
     QCOMPARE(f.GetState(), state);
-    QCOMPARE(f.pRecorder->GetCount(), 1);
-    const Change& change = f.pRecorder->GetChanges().front();
-    QCOMPARE(change.type, type);
-    QCOMPARE(change.index, index);
-    QCOMPARE(QString::fromStdWString(change.caption), caption);
-    QCOMPARE(change.pItem != nullptr, index >= 0);
+    VerifyItemChange(*f.pRecorder);
 }
 
 void RadioButtonGroupDefinitionTest::choosingAButtonRaisesOneEventAndAnEqualIdNone()

@@ -1,10 +1,9 @@
 #include "Dimension/LengthUnit.h"
 #include "Dimension/TemporaryDimensionCommons.h"
-#include "Dimension/TemporaryDimensionData.h"
 #include "Dimension/TemporaryDimensionMgr.h"
-#include "Dimension/TemporaryDimensionStyle.h"
 #include "Graphics/IGraphicsNode.h"
 #include "Host/Dimension/DrawnNodes.h"
+#include "Host/Dimension/GeneratorSetting.h"
 #include "Support/TestValues.h"
 
 #include <cmath>
@@ -15,10 +14,8 @@ namespace vesk
 namespace
 {
 
-constexpr double Degree = 3.14159265358979323846 / 180;
-
 /// A quarter of a circle of radius 200, and what is generated for it. There is no view.
-struct Fixture
+struct Fixture : ArcGeneratorSetting
 {
     OwnerPtr<IGraphicsNodeGroup> MakeAngle(InputState state = InputState::IS_None)
     {
@@ -32,19 +29,10 @@ struct Fixture
             centre, start, end, hasLines, coordinate, state, style, pixel, data);
     }
 
-    double GetRadius() const { return data[InputState::IS_Radius].value; }
-    double GetAngle() const { return data[InputState::IS_CentralAngle].value; }
-    Vector3d GetRadiusPosition() const { return data[InputState::IS_Radius].textPosition; }
-    Vector3d GetAnglePosition() const { return data[InputState::IS_CentralAngle].textPosition; }
-
-    Coordinate3d coordinate;
     Vector3d centre{10, 20, 0};
     Vector3d start{210, 20, 0};
     Vector3d end{10, 220, 0};
     bool hasLines = true;
-    TemporaryDimensionStyle style;
-    double pixel = 1.0;
-    TemporaryDimensionData data;
 };
 
 }

@@ -1,10 +1,8 @@
+#include "Host/Dimension/CurrentView.h"
 #include "Host/Dimension/DrawnNodes.h"
 #include "Host/Dimension/GeneratorKinds.h"
-#include "Host/View/StubView.h"
 #include "Support/HostValues.h"
 #include "Support/TestValues.h"
-#include "View/IUiDocumentViewManager.h"
-#include "View/ModelView.h"
 
 #include <cmath>
 #include <limits>
@@ -71,6 +69,21 @@ bool AreNumbers(const TemporaryDimensionData::Entry& entry)
     return entry.textPosition.allFinite() && std::isfinite(entry.value);
 }
 
+/// Verifies that in every plane only numbers are drawn and computed.
+void VerifyNumbers(const GeneratorKind& generator, const GeneratorPoints& points)
+{
+    for (const Coordinate3d& plane : GetPlanes())
+    {
+        GeneratorInput input;
+        input.coordinate = plane;
+
+        const OwnerPtr<IGraphicsNodeGroup> opGroup = generator.pGenerate(points, input);
+
+        QVERIFY(DrawnNodes(*opGroup).AreNumbers());
+        QVERIFY(AreNumbers(input.data[generator.field]));
+    }
+}
+
 }
 
 class DegenerateDimensionsTest : public QObject
@@ -106,17 +119,8 @@ void DegenerateDimensionsTest::everythingDrawnIsANumber()
 {
     QFETCH(int, kind);
     QFETCH(GeneratorPoints, points);
-    const GeneratorKind& generator = GetGeneratorKinds()[kind];
-    for (const Coordinate3d& plane : GetPlanes())
-    {
-        GeneratorInput input;
-        input.coordinate = plane;
 
-        const OwnerPtr<IGraphicsNodeGroup> opGroup = generator.pGenerate(points, input);
-
-        QVERIFY(DrawnNodes(*opGroup).AreNumbers());
-        QVERIFY(AreNumbers(input.data[generator.field]));
-    }
+    VerifyNumbers(GetGeneratorKinds()[kind], points);
 }
 
 void DegenerateDimensionsTest::everythingDrawnInAViewIsANumber_data()
@@ -128,22 +132,10 @@ void DegenerateDimensionsTest::everythingDrawnInAViewIsANumber()
 {
     QFETCH(int, kind);
     QFETCH(GeneratorPoints, points);
-    const GeneratorKind& generator = GetGeneratorKinds()[kind];
-    UiDocumentViewManager views;
-    ModelView camera;
-    StubView view{1, &camera};
-    camera.SetSize(300, 200);
-    views.AddView(&view);
-    for (const Coordinate3d& plane : GetPlanes())
-    {
-        GeneratorInput input;
-        input.coordinate = plane;
+    CurrentView current;
+    current.camera.SetSize(300, 200);
 
-        const OwnerPtr<IGraphicsNodeGroup> opGroup = generator.pGenerate(points, input);
-
-        QVERIFY(DrawnNodes(*opGroup).AreNumbers());
-        QVERIFY(AreNumbers(input.data[generator.field]));
-    }
+    VerifyNumbers(GetGeneratorKinds()[kind], points);
 }
 
 void DegenerateDimensionsTest::whatIsNoPointLeavesTheData_data()

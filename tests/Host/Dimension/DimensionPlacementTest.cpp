@@ -1,10 +1,7 @@
 #include "Dimension/TemporaryDimensionMgr.h"
+#include "Host/Dimension/CurrentView.h"
 #include "Host/Dimension/GeneratorKinds.h"
-#include "Host/View/StubView.h"
 #include "Support/TestValues.h"
-#include "View/IUiDocumentViewManager.h"
-#include "View/ModelView.h"
-#include "View/UiViewUtility.h"
 
 #include <Eigen/Geometry>
 
@@ -22,10 +19,8 @@ namespace
 {
 
 /// A current view, a plane in it and the dimensions of one handler.
-struct Fixture
+struct Fixture : CurrentView
 {
-    Fixture() { views.AddView(&view); }
-
     void Generate(const GeneratorPair& pair)
     {
         input.pixel = camera.GetWorldPerPixel();
@@ -35,28 +30,15 @@ struct Fixture
             pair.pSecond->pGenerate(points, input);
     }
 
-    QPoint ToPixel(const Vector3d& world) const
-    {
-        int x = 0;
-        int y = 0;
-        float depth = 0;
-        UiViewUtility::WorldPositionToScreenPosition(&view, world, x, y, depth);
-        return {x, y};
-    }
-
     /// Where the editor of a value would be.
     QRect GetEditor(const GeneratorKind& kind) const
     {
-        const QSize size(input.style.GetEditorWidth(), input.style.GetEditorHeight());
-        const QPoint half(size.width() / 2, size.height() / 2);
-        return {ToPixel(input.data[kind.field].textPosition) - half, size};
+        return EditorAt(input.data[kind.field].textPosition, input.style);
     }
 
-    /// The area around the cursor that must not be covered.
     QRect GetCursor(const GeneratorKind& kind) const
     {
-        const Vector3d& cursor = points[static_cast<std::size_t>(kind.cursorIndex)];
-        return QRect(ToPixel(cursor), QSize(1, 1)).marginsAdded(QMargins(8, 8, 8, 8));
+        return CursorAt(points[static_cast<std::size_t>(kind.cursorIndex)]);
     }
 
     /// To within a hundredth of a pixel.
@@ -68,9 +50,8 @@ struct Fixture
 
     bool IsPlaced(const GeneratorKind& kind) const
     {
-        const QRect whole(0, 0, camera.GetWidth(), camera.GetHeight());
         const QRect editor = GetEditor(kind);
-        return whole.marginsRemoved(QMargins(2, 2, 2, 2)).contains(editor) &&
+        return GetView().marginsRemoved(QMargins(2, 2, 2, 2)).contains(editor) &&
                !editor.intersects(GetCursor(kind)) && IsInPlane(kind);
     }
 
@@ -82,9 +63,6 @@ struct Fixture
                !GetEditor(*pair.pFirst).intersects(GetEditor(*pair.pSecond));
     }
 
-    UiDocumentViewManager views;
-    ModelView camera;
-    StubView view{1, &camera};
     GeneratorInput input;
     GeneratorPoints points;
 };

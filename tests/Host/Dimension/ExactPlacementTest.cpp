@@ -1,10 +1,8 @@
 #include "Geometry/Constants.h"
+#include "Host/Dimension/CurrentView.h"
 #include "Host/Dimension/DrawnNodes.h"
 #include "Host/Dimension/GeneratorKinds.h"
-#include "Host/View/StubView.h"
 #include "Support/TestValues.h"
-#include "View/IUiDocumentViewManager.h"
-#include "View/ModelView.h"
 
 #include <cmath>
 
@@ -27,13 +25,9 @@ enum Kind
 };
 
 /// A current view in which a pixel is one millimetre, around the origin.
-struct Fixture
+struct Fixture : CurrentView
 {
-    Fixture(int width, int height)
-    {
-        camera.SetSize(width, height);
-        views.AddView(&view);
-    }
+    Fixture(int width, int height) { camera.SetSize(width, height); }
 
     Vector3d PlaceText(Kind kind, const GeneratorPoints& points)
     {
@@ -42,15 +36,33 @@ struct Fixture
         return input.data[generator.field].textPosition;
     }
 
-    UiDocumentViewManager views;
-    ModelView camera;
-    StubView view{1, &camera};
     GeneratorInput input;
 };
 
 GeneratorPoints Segment(const Vector3d& start, const Vector3d& end)
 {
     return {start, end, end, end};
+}
+
+/// Columns of rows that tell where the text of a segment's length stands.
+void AddTextColumns()
+{
+    QTest::addColumn<Vector3d>("start");
+    QTest::addColumn<Vector3d>("end");
+    QTest::addColumn<Vector3d>("text");
+}
+
+/// Verifies such a row in a view of 800 by 600 pixels.
+void VerifyTextPosition()
+{
+    QFETCH(Vector3d, start);
+    QFETCH(Vector3d, end);
+    QFETCH(Vector3d, text);
+    Fixture f(800, 600);
+
+    const Vector3d position = f.PlaceText(Length, Segment(start, end));
+
+    QVERIFY((position - text).norm() < 1e-6);
 }
 
 }
@@ -81,9 +93,7 @@ private slots:
 
 void ExactPlacementTest::theTextStandsInTheMiddleOfWhatIsVisible_data()
 {
-    QTest::addColumn<Vector3d>("start");
-    QTest::addColumn<Vector3d>("end");
-    QTest::addColumn<Vector3d>("text");
+    AddTextColumns();
     QTest::newRow("from the right")
         << Vector3d(10000, 0, 0) << Vector3d(-200, 0, 0) << Vector3d(100, -28, 0);
     QTest::newRow("to the right") << Vector3d(-200, 0, 0) << Vector3d(10000, 0, 0)
@@ -100,21 +110,12 @@ void ExactPlacementTest::theTextStandsInTheMiddleOfWhatIsVisible_data()
 
 void ExactPlacementTest::theTextStandsInTheMiddleOfWhatIsVisible()
 {
-    QFETCH(Vector3d, start);
-    QFETCH(Vector3d, end);
-    QFETCH(Vector3d, text);
-    Fixture f(800, 600);
-
-    const Vector3d position = f.PlaceText(Length, Segment(start, end));
-
-    QVERIFY((position - text).norm() < 1e-6);
+    VerifyTextPosition();
 }
 
 void ExactPlacementTest::theTextOfWhatIsNotVisibleStandsAtTheEdge_data()
 {
-    QTest::addColumn<Vector3d>("start");
-    QTest::addColumn<Vector3d>("end");
-    QTest::addColumn<Vector3d>("text");
+    AddTextColumns();
     // The editor is 96 by 26 pixels and stays three pixels from the edge.
     QTest::newRow("above") << Vector3d(0, 10000, 0) << Vector3d(100, 10000, 0)
                            << Vector3d(50, 284, 0);
@@ -128,14 +129,7 @@ void ExactPlacementTest::theTextOfWhatIsNotVisibleStandsAtTheEdge_data()
 
 void ExactPlacementTest::theTextOfWhatIsNotVisibleStandsAtTheEdge()
 {
-    QFETCH(Vector3d, start);
-    QFETCH(Vector3d, end);
-    QFETCH(Vector3d, text);
-    Fixture f(800, 600);
-
-    const Vector3d position = f.PlaceText(Length, Segment(start, end));
-
-    QVERIFY((position - text).norm() < 1e-6);
+    VerifyTextPosition();
 }
 
 void ExactPlacementTest::theTextStandsBesideTheCursorInALowView_data()

@@ -2,10 +2,9 @@
 
 #include "Dimension/InputState.h"
 #include "Dimension/TemporaryDimensionCommons.h"
-#include "Dimension/TemporaryDimensionData.h"
 #include "Dimension/TemporaryDimensionMgr.h"
-#include "Dimension/TemporaryDimensionStyle.h"
 #include "Graphics/IGraphicsNode.h"
+#include "Host/Dimension/GeneratorSetting.h"
 
 #include <array>
 #include <cstddef>
@@ -14,13 +13,9 @@ namespace vesk
 {
 
 /// What a generator is called with, besides its points.
-struct GeneratorInput
+struct GeneratorInput : GeneratorSetting
 {
-    Coordinate3d coordinate;
     InputState state = InputState::IS_None;
-    TemporaryDimensionStyle style;
-    double pixel = 1.0;
-    TemporaryDimensionData data;
 };
 
 using GeneratorPoints = std::array<Vector3d, 4>;

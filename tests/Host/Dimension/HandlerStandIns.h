@@ -4,6 +4,7 @@
 #include "Dimension/ITemporaryDimensionHandler.h"
 #include "Dimension/TemporaryDimensionMgr.h"
 #include "Graphics/IGraphicsNode.h"
+#include "Host/StandInNotes.h"
 
 #include <functional>
 #include <memory>
@@ -44,10 +45,11 @@ struct HandlerScript
 };
 
 /// Logs what happens to it, as "1.end input", and follows a script, which outlives it.
-class StandInHandler final : public ITemporaryDimensionHandler
+class StandInHandler final : public ITemporaryDimensionHandler, private StandInNotes
 {
 public:
-    StandInHandler(int kind, HandlerScript& script) : m_kind(kind), m_script(script)
+    StandInHandler(int kind, HandlerScript& script)
+        : StandInNotes(std::to_string(kind), script.log), m_kind(kind), m_script(script)
     {
         Note("made");
     }
@@ -87,21 +89,6 @@ public:
     int GetKind() const { return m_kind; }
 
 private:
-    void Note(const std::string& what)
-    {
-        m_script.log.push_back(std::to_string(m_kind) + "." + what);
-    }
-
-    void Do(const std::string& what, const std::function<void()>& act)
-    {
-        Note(what);
-        if (!act)
-            return;
-        act();
-        // Only logged if the handler still exists.
-        Note(what + " done");
-    }
-
     int m_kind;
     HandlerScript& m_script;
     bool m_isInputting = false;

@@ -1,10 +1,9 @@
 #include "Dimension/LengthUnit.h"
 #include "Dimension/TemporaryDimensionCommons.h"
-#include "Dimension/TemporaryDimensionData.h"
 #include "Dimension/TemporaryDimensionMgr.h"
-#include "Dimension/TemporaryDimensionStyle.h"
 #include "Graphics/IGraphicsNode.h"
 #include "Host/Dimension/DrawnNodes.h"
+#include "Host/Dimension/GeneratorSetting.h"
 #include "Support/HostValues.h"
 #include "Support/TestValues.h"
 
@@ -15,7 +14,7 @@ namespace
 {
 
 /// A rectangle and what is generated for it. There is no view.
-struct Fixture
+struct Fixture : GeneratorSetting
 {
     OwnerPtr<IGraphicsNodeGroup> MakeWidth(InputState state = InputState::IS_None)
     {
@@ -34,12 +33,8 @@ struct Fixture
     Vector3d GetWidthPosition() const { return data[InputState::IS_Width].textPosition; }
     Vector3d GetHeightPosition() const { return data[InputState::IS_Height].textPosition; }
 
-    Coordinate3d coordinate;
     Vector3d corner{0, 0, 0};
     Vector3d opposite{200, 100, 0};
-    TemporaryDimensionStyle style;
-    double pixel = 1.0;
-    TemporaryDimensionData data;
 };
 
 bool AreClose(const Vector3d& a, const Vector3d& b)

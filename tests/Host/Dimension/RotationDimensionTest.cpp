@@ -1,9 +1,8 @@
 #include "Dimension/TemporaryDimensionCommons.h"
-#include "Dimension/TemporaryDimensionData.h"
 #include "Dimension/TemporaryDimensionMgr.h"
-#include "Dimension/TemporaryDimensionStyle.h"
 #include "Graphics/IGraphicsNode.h"
 #include "Host/Dimension/DrawnNodes.h"
+#include "Host/Dimension/GeneratorSetting.h"
 #include "Support/TestValues.h"
 
 #include <cmath>
@@ -16,10 +15,8 @@ namespace vesk
 namespace
 {
 
-constexpr double Degree = 3.14159265358979323846 / 180;
-
 /// A rotation by 90 degrees, and what is generated for it. There is no view.
-struct Fixture
+struct Fixture : ArcGeneratorSetting
 {
     OwnerPtr<IGraphicsNodeGroup> Make(InputState state = InputState::IS_None)
     {
@@ -27,16 +24,9 @@ struct Fixture
             centre, from, to, coordinate, state, style, pixel, data);
     }
 
-    double GetAngle() const { return data[InputState::IS_CentralAngle].value; }
-    Vector3d GetPosition() const { return data[InputState::IS_CentralAngle].textPosition; }
-
-    Coordinate3d coordinate;
     Vector3d centre{10, 20, 0};
     Vector3d from{210, 20, 0};
     Vector3d to{10, 320, 0};
-    TemporaryDimensionStyle style;
-    double pixel = 1.0;
-    TemporaryDimensionData data;
 };
 
 }
@@ -156,7 +146,7 @@ void RotationDimensionTest::theTextStandsBetweenTheLines()
 
     f.Make();
 
-    const Vector3d offset = f.GetPosition() - f.centre;
+    const Vector3d offset = f.GetAnglePosition() - f.centre;
     QVERIFY(std::abs(offset.x() - offset.y()) < 1e-9);
     QVERIFY(std::abs(offset.norm() - (72 + 61 * std::sqrt(0.5))) < 1e-9);
 }
@@ -178,7 +168,7 @@ void RotationDimensionTest::theTextOfANarrowTurnStandsBesideIt()
 
     f.Make();
 
-    QVERIFY((f.GetPosition() - Vector3d(70, textY, 0)).norm() < 1e-9);
+    QVERIFY((f.GetAnglePosition() - Vector3d(70, textY, 0)).norm() < 1e-9);
 }
 
 void RotationDimensionTest::noTurnHasNoArc()
@@ -191,7 +181,7 @@ void RotationDimensionTest::noTurnHasNoArc()
     const DrawnNodes drawn(*opTurn);
     QVERIFY(drawn.arcs.empty());
     QCOMPARE(drawn.lines.size(), std::size_t(2));
-    QVERIFY((f.GetPosition() - Vector3d(70, -5, 0)).norm() < 1e-9);
+    QVERIFY((f.GetAnglePosition() - Vector3d(70, -5, 0)).norm() < 1e-9);
 }
 
 void RotationDimensionTest::aPointAtTheCentreHasNoDirection_data()
@@ -220,7 +210,7 @@ void RotationDimensionTest::aPointAtTheCentreHasNoDirection()
     QVERIFY(drawn.arcs.empty());
     QCOMPARE(static_cast<int>(drawn.lines.size()), lines);
     QCOMPARE(drawn.texts.at(0)->GetText(), std::wstring(L"0.00\u00B0"));
-    QVERIFY((f.GetPosition() - f.centre).norm() < 100);
+    QVERIFY((f.GetAnglePosition() - f.centre).norm() < 100);
 }
 
 void RotationDimensionTest::theSizeIsConstantInPixels()
@@ -242,7 +232,7 @@ void RotationDimensionTest::theTextIsTheValue()
 
     const IGraphicsText& text = *DrawnNodes(*opTurn).texts.at(0);
     QCOMPARE(text.GetText(), std::wstring(L"90.00\u00B0"));
-    QCOMPARE(text.GetPosition(), f.GetPosition());
+    QCOMPARE(text.GetPosition(), f.GetAnglePosition());
     QVERIFY(DrawnNodes(*opTurn).AreAll(GraphicsRole::Dimension));
 }
 
@@ -271,12 +261,12 @@ void RotationDimensionTest::otherTextsPlayNoPart()
 {
     Fixture f;
     f.Make();
-    const Vector3d alone = f.GetPosition();
+    const Vector3d alone = f.GetAnglePosition();
     f.data[InputState::IS_Radius] = {alone, 100.0};
 
     f.Make();
 
-    QCOMPARE(f.GetPosition(), alone);
+    QCOMPARE(f.GetAnglePosition(), alone);
 }
 
 }

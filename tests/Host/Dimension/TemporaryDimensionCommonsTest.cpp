@@ -1,10 +1,9 @@
 #include "Dimension/TemporaryDimensionCommons.h"
 
-#include "Dimension/TemporaryDimensionData.h"
 #include "Dimension/TemporaryDimensionMgr.h"
-#include "Dimension/TemporaryDimensionStyle.h"
 #include "Graphics/IGraphicsNode.h"
 #include "Host/Dimension/DrawnNodes.h"
+#include "Host/Dimension/GeneratorSetting.h"
 #include "Support/HostValues.h"
 #include "Support/TestValues.h"
 
@@ -18,7 +17,7 @@ namespace
 {
 
 /// A segment and what is generated for it. There is no view.
-struct Fixture
+struct Fixture : GeneratorSetting
 {
     OwnerPtr<IGraphicsNodeGroup> MakeLength(InputState state = InputState::IS_None)
     {
@@ -32,15 +31,9 @@ struct Fixture
                                                                  style, pixel, data);
     }
 
-    Coordinate3d coordinate;
     Vector3d start{0, 0, 0};
     Vector3d end{100, 0, 0};
-    TemporaryDimensionStyle style;
-    double pixel = 1.0;
-    TemporaryDimensionData data;
 };
-
-constexpr double Degree = 3.14159265358979323846 / 180;
 
 }
 

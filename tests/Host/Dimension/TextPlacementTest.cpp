@@ -2,12 +2,9 @@
 #include "Dimension/TemporaryDimensionData.h"
 #include "Dimension/TemporaryDimensionStyle.h"
 #include "Graphics/IGraphicsNode.h"
-#include "Host/View/StubView.h"
+#include "Host/Dimension/CurrentView.h"
 #include "Support/HostValues.h"
 #include "Support/TestValues.h"
-#include "View/IUiDocumentViewManager.h"
-#include "View/ModelView.h"
-#include "View/UiViewUtility.h"
 
 #include <QRect>
 
@@ -21,10 +18,8 @@ namespace
 {
 
 /// A current view and a segment in it.
-struct Fixture
+struct Fixture : CurrentView
 {
-    Fixture() { views.AddView(&view); }
-
     void Generate(bool hasLength = true)
     {
         const double pixel = camera.GetWorldPerPixel();
@@ -35,34 +30,11 @@ struct Fixture
                                                           InputState::IS_None, style, pixel, data);
     }
 
-    QPoint ToPixel(const Vector3d& world) const
-    {
-        int x = 0;
-        int y = 0;
-        float depth = 0;
-        UiViewUtility::WorldPositionToScreenPosition(&view, world, x, y, depth);
-        return {x, y};
-    }
-
     /// Where the editor of a value would be.
-    QRect GetEditor(InputState state) const
-    {
-        const QSize size(style.GetEditorWidth(), style.GetEditorHeight());
-        const QPoint half(size.width() / 2, size.height() / 2);
-        return {ToPixel(data[state].textPosition) - half, size};
-    }
+    QRect GetEditor(InputState state) const { return EditorAt(data[state].textPosition, style); }
 
-    QRect GetView() const { return {0, 0, camera.GetWidth(), camera.GetHeight()}; }
+    QRect GetCursor() const { return CursorAt(end); }
 
-    /// The cursor and the area around it that must not be covered.
-    QRect GetCursor() const
-    {
-        return QRect(ToPixel(end), QSize(1, 1)).marginsAdded(QMargins(8, 8, 8, 8));
-    }
-
-    UiDocumentViewManager views;
-    ModelView camera;
-    StubView view{1, &camera};
     Coordinate3d coordinate;
     Vector3d start{0, 0, 0};
     Vector3d end{100, 0, 0};

@@ -1,10 +1,9 @@
 #include "Dimension/LengthUnit.h"
 #include "Dimension/TemporaryDimensionCommons.h"
-#include "Dimension/TemporaryDimensionData.h"
 #include "Dimension/TemporaryDimensionMgr.h"
-#include "Dimension/TemporaryDimensionStyle.h"
 #include "Graphics/IGraphicsNode.h"
 #include "Host/Dimension/DrawnNodes.h"
+#include "Host/Dimension/GeneratorSetting.h"
 #include "Support/HostValues.h"
 #include "Support/TestValues.h"
 
@@ -18,11 +17,9 @@ namespace vesk
 namespace
 {
 
-constexpr double Degree = 3.14159265358979323846 / 180;
-
 /// Three points of a circle of radius 125 about the origin, and what is generated for them. There
 /// is no view.
-struct Fixture
+struct Fixture : ArcGeneratorSetting
 {
     OwnerPtr<IGraphicsNodeGroup> MakeRadius(InputState state = InputState::IS_None)
     {
@@ -36,18 +33,9 @@ struct Fixture
             first, second, third, coordinate, state, style, pixel, data);
     }
 
-    double GetRadius() const { return data[InputState::IS_Radius].value; }
-    double GetAngle() const { return data[InputState::IS_CentralAngle].value; }
-    Vector3d GetRadiusPosition() const { return data[InputState::IS_Radius].textPosition; }
-    Vector3d GetAnglePosition() const { return data[InputState::IS_CentralAngle].textPosition; }
-
-    Coordinate3d coordinate;
     Vector3d first{125, 0, 0};
     Vector3d second{0, 125, 0};
     Vector3d third{100, 75, 0};
-    TemporaryDimensionStyle style;
-    double pixel = 1.0;
-    TemporaryDimensionData data;
 };
 
 }

@@ -1,5 +1,6 @@
 #include "Foundation/FileRewriting.h"
 
+#include "Support/FileBytes.h"
 #include "Support/FileSizeLimit.h"
 #include "Support/SmallDisk.h"
 #include "Support/TestValues.h"
@@ -13,12 +14,6 @@ namespace
 {
 
 const QByteArray Old = "what was there";
-
-QByteArray Get(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
-}
 
 }
 
@@ -48,7 +43,7 @@ void FileRewritingFullDiskTest::everySizeLeavesTheOldFileOrTheNew()
         const bool isWritten = RewriteFile(path.toStdString(), content);
 
         QCOMPARE(isWritten, limit == content.size());
-        QCOMPARE(Get(path), isWritten ? QByteArray::fromStdString(content) : Old);
+        QCOMPARE(ReadBytes(path), isWritten ? QByteArray::fromStdString(content) : Old);
         QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList("file"));
     }
 }
@@ -71,7 +66,8 @@ void FileRewritingFullDiskTest::everyPageLeavesTheOldFileOrTheNew()
         const bool isWritten = RewriteFile(path, content);
 
         QCOMPARE(isWritten, pages == ContentPages);
-        QCOMPARE(Get(disk.File("file")), isWritten ? QByteArray::fromStdString(content) : Old);
+        QCOMPARE(ReadBytes(disk.File("file")),
+                 isWritten ? QByteArray::fromStdString(content) : Old);
         QCOMPARE(QDir(disk.File("")).entryList(QDir::Files | QDir::Hidden),
                  QStringList({"file", "filler"}));
     }

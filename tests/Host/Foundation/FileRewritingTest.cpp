@@ -1,5 +1,6 @@
 #include "Foundation/FileRewriting.h"
 
+#include "Support/FileBytes.h"
 #include "Support/TestValues.h"
 
 #include <QDir>
@@ -31,12 +32,6 @@ private slots:
 private:
     QString Path(const QString& name) const { return m_pFolder->filePath(name); }
 
-    static QByteArray Get(const QString& path)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
-    }
-
     static bool Rewrite(const QString& path, const std::string& content)
     {
         return RewriteFile(path.toStdString(), content);
@@ -57,7 +52,7 @@ void FileRewritingTest::aFileIsMade()
 
     QVERIFY(Rewrite(Path(name), "content"));
 
-    QCOMPARE(Get(Path(name)), QByteArray("content"));
+    QCOMPARE(ReadBytes(Path(name)), QByteArray("content"));
     QVERIFY(QFileInfo(Path(name)).permission(QFile::ReadOwner | QFile::WriteOwner));
 }
 
@@ -67,7 +62,7 @@ void FileRewritingTest::aFileIsReplaced()
 
     QVERIFY(Rewrite(Path("file"), std::string("b\0c", 3)));
 
-    QCOMPARE(Get(Path("file")), QByteArray("b\0c", 3));
+    QCOMPARE(ReadBytes(Path("file")), QByteArray("b\0c", 3));
 }
 
 void FileRewritingTest::noOtherFileIsLeft()

@@ -1,6 +1,7 @@
 #include "Journal/JournalManager.h"
 
 #include "Journal/JournalFormat.h"
+#include "Support/FileBytes.h"
 #include "Support/FileSizeLimit.h"
 #include "Support/TestValues.h"
 
@@ -18,12 +19,6 @@ constexpr int RecordCount = 6;
 JournalManager& Journal()
 {
     return JournalManager::GetInstance();
-}
-
-QByteArray ReadAll(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 /// Records of different lengths.
@@ -89,12 +84,12 @@ void JournalFullDiskTest::theFileHoldsWholeLinesWhereverTheDiskEnds()
         for (int i = 1; i <= RecordCount; ++i)
         {
             Journal().Add(MakeRecord(i));
-            QCOMPARE(ReadAll(Path()), WholeLinesWithin(std::min(limit, LinesOf(i).size())));
+            QCOMPARE(ReadBytes(Path()), WholeLinesWithin(std::min(limit, LinesOf(i).size())));
             QCOMPARE(Journal().IsKept(), LinesOf(i).size() <= limit);
         }
 
         QCOMPARE(Journal().Close(), limit == all);
-        QCOMPARE(ReadAll(Path()), WholeLinesWithin(limit));
+        QCOMPARE(ReadBytes(Path()), WholeLinesWithin(limit));
     }
 }
 
@@ -113,7 +108,7 @@ void JournalFullDiskTest::whatIsMissingFollowsWithTheNextRecord()
         Journal().Add(MakeRecord(RecordCount));
 
         QVERIFY(Journal().IsKept());
-        QCOMPARE(ReadAll(Path()), LinesOf(RecordCount));
+        QCOMPARE(ReadBytes(Path()), LinesOf(RecordCount));
     }
 }
 
@@ -128,7 +123,7 @@ void JournalFullDiskTest::whatIsMissingFollowsAtTheEnd()
 
     QVERIFY(Journal().Close());
 
-    QCOMPARE(ReadAll(Path()), LinesOf(RecordCount));
+    QCOMPARE(ReadBytes(Path()), LinesOf(RecordCount));
 }
 
 void JournalFullDiskTest::roomThatComesSlowlyIsUsedLineByLine()
@@ -142,7 +137,7 @@ void JournalFullDiskTest::roomThatComesSlowlyIsUsedLineByLine()
         Journal().Add(MakeRecord(i));
 
         QVERIFY(!Journal().IsKept());
-        QCOMPARE(ReadAll(Path()), LinesOf(i - 1));
+        QCOMPARE(ReadBytes(Path()), LinesOf(i - 1));
     }
 }
 
@@ -165,7 +160,7 @@ void JournalFullDiskTest::aContinuedFileKeepsWhatWasRead()
             Journal().Add(MakeRecord(i));
 
         QCOMPARE(Journal().Close(), limit == all);
-        QCOMPARE(ReadAll(Path()), WholeLinesWithin(limit));
+        QCOMPARE(ReadBytes(Path()), WholeLinesWithin(limit));
     }
 }
 
@@ -183,7 +178,7 @@ void JournalFullDiskTest::aSecondFileDoesNotGetWhatTheFirstOneMissed()
     Journal().Add(MakeRecord(1));
 
     QVERIFY(Journal().IsKept());
-    QCOMPARE(ReadAll(second), LinesOf(1));
+    QCOMPARE(ReadBytes(second), LinesOf(1));
 }
 
 void JournalFullDiskTest::aFileThatBeginsAnewDoesNotGetWhatItMissed()
@@ -198,7 +193,7 @@ void JournalFullDiskTest::aFileThatBeginsAnewDoesNotGetWhatItMissed()
 
     Journal().Add(MakeRecord(1));
 
-    QCOMPARE(ReadAll(Path()), LinesOf(1));
+    QCOMPARE(ReadBytes(Path()), LinesOf(1));
 }
 
 }

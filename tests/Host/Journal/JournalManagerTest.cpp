@@ -5,10 +5,10 @@
 #include "Journal/IJournalUiObject.h"
 #include "Journal/JournalFormat.h"
 #include "Journal/NqIJournalFactory.h"
+#include "Support/FileBytes.h"
 #include "Support/TestValues.h"
 #include "Warnings/DebugMessageMgr.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 
 #include <atomic>
@@ -68,12 +68,6 @@ public:
 
     int count = 0;
 };
-
-QByteArray ReadAll(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 OwnerPtr<IJournalCommandData> MakeData(const wchar_t* id = L"Line")
 {
@@ -140,7 +134,7 @@ void JournalManagerTest::eachRecordIsInTheFileBeforeItsNumberIsKnown()
     const QString path = folder.filePath(QString::fromUtf8("日志.jsonl"));
     QVERIFY(Journal().Open(path.toStdString(), m_error));
     QByteArray seen;
-    const Observer observer([&] { seen = ReadAll(path); });
+    const Observer observer([&] { seen = ReadBytes(path); });
 
     Journal().Add(UndoRecord{1});
     QCOMPARE(seen, QByteArray("{\"n\":1,\"kind\":\"undo\",\"entity\":1}\n"));
@@ -164,7 +158,7 @@ void JournalManagerTest::closingForgetsNumbersAndLines()
     QVERIFY(Journal().GetLastLines().empty());
     QCOMPARE(Journal().TakeAnnounced(L"Line"), 0);
     QCOMPARE(Journal().Add(UndoRecord{2}), 1);
-    QCOMPARE(ReadAll(path).count('\n'), 1);
+    QCOMPARE(ReadBytes(path).count('\n'), 1);
 }
 
 void JournalManagerTest::withoutAFileRecordsAreNumberedToo()

@@ -1,9 +1,9 @@
 #include "Journal/JournalManager.h"
 
 #include "Platform/OutputFile.h"
+#include "Support/FileBytes.h"
 #include "Support/TestValues.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 
 #include <filesystem>
@@ -28,19 +28,6 @@ namespace
 JournalManager& Journal()
 {
     return JournalManager::GetInstance();
-}
-
-QByteArray ReadAll(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void WriteAll(const QString& path, const QByteArray& content)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), qint64(content.size()));
 }
 
 /// A journal that was read, and the incomplete line after it.
@@ -84,10 +71,10 @@ void JournalOpeningTest::openingReplacesTheFileAndNumbersAnew()
     Journal().Add(UndoRecord{2});
 
     QVERIFY(Journal().Open(path.toStdString(), m_error));
-    QCOMPARE(ReadAll(path), QByteArray());
+    QCOMPARE(ReadBytes(path), QByteArray());
     Journal().Add(UndoRecord{3});
 
-    QCOMPARE(ReadAll(path), QByteArray("{\"n\":1,\"kind\":\"undo\",\"entity\":3}\n"));
+    QCOMPARE(ReadBytes(path), QByteArray("{\"n\":1,\"kind\":\"undo\",\"entity\":3}\n"));
 }
 
 void JournalOpeningTest::openingWhatCannotBeWrittenChangesNothing()
@@ -101,7 +88,7 @@ void JournalOpeningTest::openingWhatCannotBeWrittenChangesNothing()
     QVERIFY(!Journal().Open(folder.filePath("none/journal").toStdString(), m_error));
     Journal().Add(UndoRecord{2});
 
-    QCOMPARE(ReadAll(path).count('\n'), 2);
+    QCOMPARE(ReadBytes(path).count('\n'), 2);
 }
 
 void JournalOpeningTest::reservingWhatCannotBeWrittenChangesNothing()
@@ -115,7 +102,7 @@ void JournalOpeningTest::reservingWhatCannotBeWrittenChangesNothing()
 
     QCOMPARE(Journal().GetLastLines().size(), std::size_t(1));
     QCOMPARE(Journal().Add(UndoRecord{2}), 2);
-    QCOMPARE(ReadAll(path).count('\n'), 2);
+    QCOMPARE(ReadBytes(path).count('\n'), 2);
 }
 
 void JournalOpeningTest::whatCannotBeWrittenIsTold_data()
@@ -158,14 +145,14 @@ void JournalOpeningTest::aFileHasOneWriter()
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath("journal");
-    WriteAll(path, "of another program\n");
+    QVERIFY(WriteBytes(path, "of another program\n"));
     OutputFile other;
     QVERIFY(other.OpenAlone(path.toStdString()) == OutputFile::Opening::Done);
 
     QVERIFY(!Journal().Open(path.toStdString(), m_error));
     QCOMPARE(m_error, path.toStdString() + " is in use by another program");
     QVERIFY(!Journal().Reserve(path.toStdString(), m_error));
-    QCOMPARE(ReadAll(path), QByteArray("of another program\n"));
+    QCOMPARE(ReadBytes(path), QByteArray("of another program\n"));
 
     other.Close();
     QVERIFY(Journal().Open(path.toStdString(), m_error));
@@ -183,52 +170,52 @@ void JournalOpeningTest::theSameFileByAnotherNameIsReplaced()
     QVERIFY(Journal().Open(link, m_error));
     Journal().Add(UndoRecord{3});
 
-    QCOMPARE(ReadAll(path), QByteArray("{\"n\":1,\"kind\":\"undo\",\"entity\":3}\n"));
+    QCOMPARE(ReadBytes(path), QByteArray("{\"n\":1,\"kind\":\"undo\",\"entity\":3}\n"));
 }
 
 void JournalOpeningTest::aReservedFileStaysAsItIs()
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath("journal");
-    WriteAll(path, Read + Torn);
+    QVERIFY(WriteBytes(path, Read + Torn));
 
     QVERIFY(Journal().Reserve(path.toStdString(), m_error));
     QCOMPARE(Journal().Add(UndoRecord{1}), 1);
 
     QVERIFY(Journal().IsKept());
     QVERIFY(Journal().Close());
-    QCOMPARE(ReadAll(path), Read + Torn);
+    QCOMPARE(ReadBytes(path), Read + Torn);
 }
 
 void JournalOpeningTest::aReservedFileIsContinuedBehindItsLastLine()
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath("journal");
-    WriteAll(path, Read + Torn);
+    QVERIFY(WriteBytes(path, Read + Torn));
     QVERIFY(Journal().Reserve(path.toStdString(), m_error));
     Journal().Add(CommandRecord{L"Line", {}});
 
     Journal().Continue(7);
     QCOMPARE(Journal().TakeAnnounced(L"Line"), 0);
-    QCOMPARE(ReadAll(path), Read + Torn);
+    QCOMPARE(ReadBytes(path), Read + Torn);
     QCOMPARE(Journal().Add(UndoRecord{3}), 8);
 
-    QCOMPARE(ReadAll(path), Read + "{\"n\":8,\"kind\":\"undo\",\"entity\":3}\n");
+    QCOMPARE(ReadBytes(path), Read + "{\"n\":8,\"kind\":\"undo\",\"entity\":3}\n");
 }
 
 void JournalOpeningTest::aReservedFileCanBeginAnew()
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath("journal");
-    WriteAll(path, Read + Torn);
+    QVERIFY(WriteBytes(path, Read + Torn));
     QVERIFY(Journal().Reserve(path.toStdString(), m_error));
     Journal().Add(UndoRecord{1});
 
     QVERIFY(Journal().Open(path.toStdString(), m_error));
-    QCOMPARE(ReadAll(path), QByteArray());
+    QCOMPARE(ReadBytes(path), QByteArray());
     Journal().Add(UndoRecord{3});
 
-    QCOMPARE(ReadAll(path), QByteArray("{\"n\":1,\"kind\":\"undo\",\"entity\":3}\n"));
+    QCOMPARE(ReadBytes(path), QByteArray("{\"n\":1,\"kind\":\"undo\",\"entity\":3}\n"));
 }
 
 void JournalOpeningTest::whatWasKeptBackMovesToAnotherFile()
@@ -236,24 +223,24 @@ void JournalOpeningTest::whatWasKeptBackMovesToAnotherFile()
     const QTemporaryDir folder;
     const QString path = folder.filePath("journal");
     const QString other = folder.filePath("other");
-    WriteAll(path, Read + Torn);
+    QVERIFY(WriteBytes(path, Read + Torn));
     QVERIFY(Journal().Reserve(path.toStdString(), m_error));
     Journal().Add(UndoRecord{1});
 
     QVERIFY(Journal().MoveTo(other.toStdString(), m_error));
-    QCOMPARE(ReadAll(other), QByteArray("{\"n\":1,\"kind\":\"undo\",\"entity\":1}\n"));
+    QCOMPARE(ReadBytes(other), QByteArray("{\"n\":1,\"kind\":\"undo\",\"entity\":1}\n"));
     QCOMPARE(Journal().Add(UndoRecord{2}), 2);
 
-    QCOMPARE(ReadAll(path), Read + Torn);
-    QCOMPARE(ReadAll(other), QByteArray("{\"n\":1,\"kind\":\"undo\",\"entity\":1}\n"
-                                        "{\"n\":2,\"kind\":\"undo\",\"entity\":2}\n"));
+    QCOMPARE(ReadBytes(path), Read + Torn);
+    QCOMPARE(ReadBytes(other), QByteArray("{\"n\":1,\"kind\":\"undo\",\"entity\":1}\n"
+                                          "{\"n\":2,\"kind\":\"undo\",\"entity\":2}\n"));
 }
 
 void JournalOpeningTest::whereTheOtherFileCannotBeWrittenNothingIsKept()
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath("journal");
-    WriteAll(path, Read);
+    QVERIFY(WriteBytes(path, Read));
     QVERIFY(Journal().Reserve(path.toStdString(), m_error));
     Journal().Add(UndoRecord{1});
 
@@ -261,7 +248,7 @@ void JournalOpeningTest::whereTheOtherFileCannotBeWrittenNothingIsKept()
 
     QVERIFY(!Journal().IsKept());
     Journal().Add(UndoRecord{2});
-    QCOMPARE(ReadAll(path), Read);
+    QCOMPARE(ReadBytes(path), Read);
 }
 
 }

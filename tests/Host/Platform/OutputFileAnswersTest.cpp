@@ -1,8 +1,9 @@
 #include "Platform/OutputFile.h"
 
+#include "Host/Platform/FileOpenings.h"
+#include "Support/FileBytes.h"
 #include "Support/TestValues.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 
 #include <dlfcn.h>
@@ -16,16 +17,6 @@
 #include <functional>
 #include <memory>
 #include <vector>
-
-namespace vesk
-{
-
-/// Makes a file object open another file.
-using Opening = std::function<void(OutputFile& file, const std::filesystem::path& path)>;
-
-}
-
-Q_DECLARE_METATYPE(vesk::Opening)
 
 namespace
 {
@@ -144,28 +135,12 @@ private slots:
     void aFileInUseIsLeft();
 
 private:
-    static void AddOpenings();
     std::string Path() const { return m_pFolder->filePath("file").toStdString(); }
-    QByteArray Content() const
-    {
-        QFile file(m_pFolder->filePath("file"));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    QByteArray Content() const { return ReadBytes(m_pFolder->filePath("file")); }
 
     std::unique_ptr<QTemporaryDir> m_pFolder;
     OutputFile m_file;
 };
-
-void OutputFileAnswersTest::AddOpenings()
-{
-    QTest::addColumn<Opening>("open");
-    QTest::newRow("alone") << Opening(
-        [](OutputFile& file, const std::filesystem::path& path) { file.OpenAlone(path); });
-    QTest::newRow("shared") << Opening(
-        [](OutputFile& file, const std::filesystem::path& path) { file.OpenShared(path); });
-    QTest::newRow("new") << Opening(
-        [](OutputFile& file, const std::filesystem::path& path) { file.Create(path); });
-}
 
 void OutputFileAnswersTest::init()
 {

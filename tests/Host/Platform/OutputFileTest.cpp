@@ -1,22 +1,13 @@
 #include "Platform/OutputFile.h"
 
+#include "Host/Platform/FileOpenings.h"
+#include "Support/FileBytes.h"
 #include "Support/TestValues.h"
 
 #include <QFile>
 #include <QTemporaryDir>
 
-#include <functional>
 #include <utility>
-
-namespace vesk
-{
-
-/// Opens another file with an object that already has one open.
-using Opening = std::function<void(OutputFile& file, const std::filesystem::path& path)>;
-
-}
-
-Q_DECLARE_METATYPE(vesk::Opening)
 
 namespace vesk
 {
@@ -49,11 +40,6 @@ private:
     {
         return std::filesystem::u8path(Path().toStdString());
     }
-    QByteArray Content() const
-    {
-        QFile file(Path());
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
 
     QTemporaryDir m_folder;
 };
@@ -67,7 +53,7 @@ void OutputFileTest::whatIsWrittenGoesBehindWhatIsThere()
 
     QCOMPARE(file.Write("second"), std::size_t(6));
 
-    QCOMPARE(Content(), QByteArray("first second"));
+    QCOMPARE(ReadBytes(Path()), QByteArray("first second"));
     QVERIFY(file.Sync());
     QVERIFY(file.Close());
     QVERIFY(file.Close());
@@ -110,13 +96,7 @@ void OutputFileTest::theLockGoesWithTheFile()
 
 void OutputFileTest::openingAnotherFileLetsGoOfTheFirst_data()
 {
-    QTest::addColumn<Opening>("open");
-    QTest::newRow("alone") << Opening(
-        [](OutputFile& file, const std::filesystem::path& path) { file.OpenAlone(path); });
-    QTest::newRow("shared") << Opening(
-        [](OutputFile& file, const std::filesystem::path& path) { file.OpenShared(path); });
-    QTest::newRow("new") << Opening(
-        [](OutputFile& file, const std::filesystem::path& path) { file.Create(path); });
+    AddOpenings();
     QTest::newRow("moved") << Opening([](OutputFile& file, const std::filesystem::path& path) {
         OutputFile other;
         other.OpenShared(path);

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "Support/FileBytes.h"
+
 #include <QByteArray>
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -19,11 +20,7 @@ class LogFile
 public:
     std::string GetPath() const { return m_folder.filePath("warnings.log").toStdString(); }
 
-    QByteArray Read() const
-    {
-        QFile file(m_folder.filePath("warnings.log"));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    QByteArray Read() const { return ReadBytes(m_folder.filePath("warnings.log")); }
 
     /// Each line as a JSON object; an empty one if the line is not one.
     QVector<QJsonObject> ReadRecords() const { return Parse(Read()); }

@@ -2,8 +2,8 @@
 
 #include "Host/Warnings/LogFile.h"
 #include "Host/Warnings/RaiseWarning.h"
+#include "Support/FileBytes.h"
 #include "Support/FileSizeLimit.h"
-
 #include "Support/TestValues.h"
 
 namespace vesk
@@ -27,9 +27,7 @@ private slots:
 private:
     static void Put(const LogFile& log, const QByteArray& text)
     {
-        QFile file(QString::fromStdString(log.GetPath()));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(text);
+        QVERIFY(WriteBytes(QString::fromStdString(log.GetPath()), text));
     }
 };
 

@@ -1,8 +1,6 @@
 #include "HostUi/DrawingView.h"
 
-#include "HostCore.h"
-#include "HostUi/DimensionInputController.h"
-#include "HostUi/UiApplication.h"
+#include "HostUi/UiHost.h"
 #include "Support/TestValues.h"
 
 #include <QApplication>
@@ -72,28 +70,22 @@ class DrawingViewTest final : public QObject
 private slots:
     void init()
     {
-        m_pHost = std::make_unique<HostCore>();
-        m_pApplication = std::make_unique<UiApplication>();
-        m_pInput = std::make_unique<DimensionInputController>();
-        m_pWindow = std::make_unique<QWidget>();
-        m_pView = new PlainView(7, *m_pInput, m_pWindow.get());
-        m_pEdit = new QLineEdit(m_pWindow.get());
-        auto* pLayout = new QVBoxLayout(m_pWindow.get());
+        m_pHost = std::make_unique<test::UiHost>();
+        m_pView = new PlainView(7, m_pHost->input, &m_pHost->window);
+        m_pEdit = new QLineEdit(&m_pHost->window);
+        auto* pLayout = new QVBoxLayout(&m_pHost->window);
         pLayout->addWidget(m_pView);
         pLayout->addWidget(m_pEdit);
-        m_pHost->GetViewManager().AddView(m_pView);
-        m_pWindow->resize(640, 480);
-        m_pWindow->show();
-        m_pWindow->activateWindow();
-        QVERIFY(QTest::qWaitForWindowExposed(m_pWindow.get(), vesk::test::PatienceMs));
+        m_pHost->core.GetViewManager().AddView(m_pView);
+        m_pHost->window.resize(640, 480);
+        m_pHost->window.show();
+        m_pHost->window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowExposed(&m_pHost->window, vesk::test::PatienceMs));
     }
 
     void cleanup()
     {
-        m_pHost->GetViewManager().RemoveView(m_pView);
-        m_pWindow.reset();
-        m_pInput.reset();
-        m_pApplication.reset();
+        m_pHost->core.GetViewManager().RemoveView(m_pView);
         m_pHost.reset();
     }
 
@@ -111,7 +103,7 @@ private slots:
 
     void originStaysInTheMiddleWhileTheViewIsLaidOut()
     {
-        m_pWindow->resize(900, 700);
+        m_pHost->window.resize(900, 700);
         QCoreApplication::processEvents();
 
         QCOMPARE(m_pView->GetCamera().GetWidth(), m_pView->width());
@@ -189,7 +181,7 @@ private slots:
         const QSignalSpy moves(m_pView, &DrawingView::cursorMoved);
 
         QEvent other(QEvent::WindowTitleChange);
-        QCoreApplication::sendEvent(m_pWindow.get(), &other);
+        QCoreApplication::sendEvent(&m_pHost->window, &other);
 
         QCOMPARE(moves.count(), 0);
     }
@@ -235,7 +227,7 @@ private slots:
     /// The dimensions are written in it.
     void viewIsPaintedAnewInAnotherFont()
     {
-        QVERIFY(QTest::qWaitForWindowExposed(m_pWindow.get()));
+        QVERIFY(QTest::qWaitForWindowExposed(&m_pHost->window));
         QCoreApplication::processEvents();
         m_pView->eventsOfPainting = 0;
         QFont font = m_pView->font();
@@ -326,10 +318,7 @@ private slots:
     }
 
 private:
-    std::unique_ptr<HostCore> m_pHost;
-    std::unique_ptr<UiApplication> m_pApplication;
-    std::unique_ptr<DimensionInputController> m_pInput;
-    std::unique_ptr<QWidget> m_pWindow;
+    std::unique_ptr<test::UiHost> m_pHost;
     PlainView* m_pView = nullptr;
     QLineEdit* m_pEdit = nullptr;
 };

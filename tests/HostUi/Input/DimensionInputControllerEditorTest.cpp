@@ -116,8 +116,7 @@ private slots:
         QVERIFY(!f.Editor()->close());
         f.Type("7").Press(Qt::Key_Return);
 
-        QCOMPARE(f.script.taken.size(), std::size_t(1));
-        QCOMPARE(f.script.taken[0].text, QString("7"));
+        QCOMPARE(f.script.TakenTexts(), QStringList{"7"});
     }
 
     void editorTakesNoInputMethod()

@@ -30,8 +30,7 @@ private slots:
 
         f.Type("10").Press(Qt::Key_Space, " ");
 
-        QCOMPARE(f.script.taken.size(), std::size_t(1));
-        QCOMPARE(f.script.taken[0].text, QString("10"));
+        QCOMPARE(f.script.TakenTexts(), QStringList{"10"});
         QVERIFY(!TemporaryDimensionMgr::GetInstance()->IsInputting());
         QVERIFY(!IsToldOfTheBlank(f));
     }
@@ -83,8 +82,7 @@ private slots:
 
         f.Type(text).Press(Qt::Key_Return);
 
-        QCOMPARE(f.script.taken.size(), std::size_t(1));
-        QCOMPARE(f.script.taken[0].text, number);
+        QCOMPARE(f.script.TakenTexts(), QStringList{number});
     }
 
     void unitAfterTheBlankIsDroppedAndTold_data()
@@ -107,8 +105,7 @@ private slots:
 
         f.Type("10 ").Type(unit);
 
-        QCOMPARE(f.script.taken.size(), std::size_t(1));
-        QCOMPARE(f.script.taken[0].text, QString("10"));
+        QCOMPARE(f.script.TakenTexts(), QStringList{"10"});
         QVERIFY(!TemporaryDimensionMgr::GetInstance()->IsInputting());
         QVERIFY(IsToldOfTheBlank(f));
         QVERIFY(ToQString(f.Hint()).contains(unit));
@@ -120,8 +117,7 @@ private slots:
 
         f.Type("10 m25").Press(Qt::Key_Return);
 
-        QCOMPARE(f.script.taken.size(), std::size_t(2));
-        QCOMPARE(f.script.taken[1].text, QString("25"));
+        QCOMPARE(f.script.TakenTexts(), (QStringList{"10", "25"}));
     }
 
     void lettersOfNoUnitAreTypedInTheirOrder_data()

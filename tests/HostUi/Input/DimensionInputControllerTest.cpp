@@ -19,8 +19,7 @@ private slots:
 
         f.Type("007.5").Press(Qt::Key_Return);
 
-        QCOMPARE(f.script.taken.size(), std::size_t(1));
-        QCOMPARE(f.script.taken[0].text, QString("007.5"));
+        QCOMPARE(f.script.TakenTexts(), QStringList{"007.5"});
         QCOMPARE(ToQString(f.script.taken[0].typed.text), QString("007.5"));
     }
 
@@ -41,8 +40,7 @@ private slots:
 
         f.Type("10cm").Press(key);
 
-        QCOMPARE(f.script.taken.size(), std::size_t(1));
-        QCOMPARE(f.script.taken[0].text, QString("100"));
+        QCOMPARE(f.script.TakenTexts(), QStringList{"100"});
         QCOMPARE(ToQString(f.script.taken[0].typed.text), QString("10cm"));
         QVERIFY(!f.script.taken[0].typed.isUnchanged);
     }
@@ -181,8 +179,7 @@ private slots:
 
         f.Type("1,000cm").Press(Qt::Key_Return);
 
-        QCOMPARE(f.script.taken.size(), std::size_t(1));
-        QCOMPARE(f.script.taken[0].text, QString("1,000cm"));
+        QCOMPARE(f.script.TakenTexts(), QStringList{"1,000cm"});
         QVERIFY(!f.script.taken[0].typed.modelValue.has_value());
         QCOMPARE(f.controller.GetMessage(), QString());
     }
@@ -195,8 +192,7 @@ private slots:
 
         f.Type(",").Press(Qt::Key_Return);
 
-        QCOMPARE(f.script.taken.size(), std::size_t(1));
-        QCOMPARE(f.script.taken[0].text, QString(","));
+        QCOMPARE(f.script.TakenTexts(), QStringList{","});
         QVERIFY(!f.script.taken[0].typed.isUnchanged);
     }
 
@@ -232,8 +228,7 @@ private slots:
 
         f.Type("90d/4").Press(Qt::Key_Return);
 
-        QCOMPARE(f.script.taken.size(), std::size_t(1));
-        QCOMPARE(f.script.taken[0].text, QString("22.5"));
+        QCOMPARE(f.script.TakenTexts(), QStringList{"22.5"});
     }
 
     void shownValueIsConfirmedAsItIs()
@@ -242,8 +237,7 @@ private slots:
 
         f.PressShiftComma().Press(Qt::Key_Return);
 
-        QCOMPARE(f.script.taken.size(), std::size_t(1));
-        QCOMPARE(f.script.taken[0].text, f.script.currentValue);
+        QCOMPARE(f.script.TakenTexts(), QStringList{f.script.currentValue});
         QVERIFY(f.script.taken[0].typed.isUnchanged);
     }
 
@@ -265,8 +259,7 @@ private slots:
 
         f.PressShiftComma().Type("+2").Press(Qt::Key_Return);
 
-        QCOMPARE(f.script.taken.size(), std::size_t(1));
-        QCOMPARE(f.script.taken[0].text, QString("52"));
+        QCOMPARE(f.script.TakenTexts(), QStringList{"52"});
         QVERIFY(!f.script.taken[0].typed.isUnchanged);
     }
 
@@ -293,8 +286,7 @@ private slots:
 
         f.Type(text).Press(Qt::Key_Return);
 
-        QCOMPARE(f.script.taken.size(), std::size_t(1));
-        QCOMPARE(f.script.taken[0].text, number);
+        QCOMPARE(f.script.TakenTexts(), QStringList{number});
         QCOMPARE(ToQString(f.script.taken[0].typed.text), text);
         QVERIFY(!f.script.taken[0].typed.isUnchanged);
     }
@@ -346,8 +338,7 @@ private slots:
         f.Type("10cm");
         QVERIFY(f.controller.Commit());
 
-        QCOMPARE(f.script.taken.size(), std::size_t(1));
-        QCOMPARE(f.script.taken[0].text, QString("100"));
+        QCOMPARE(f.script.TakenTexts(), QStringList{"100"});
     }
 
     void valueIsWhatTheTextComesTo_data()

@@ -10,6 +10,17 @@
 using namespace vesk;
 using namespace vesk::test;
 
+namespace
+{
+
+void MoveCursor(QWidget& widget, const QPoint& point)
+{
+    QMouseEvent move(QEvent::MouseMove, point, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&widget, &move);
+}
+
+}
+
 /// What users see beside the editor.
 class EditorNotesTest final : public QObject
 {
@@ -94,8 +105,7 @@ private slots:
         const auto* pStrip = f.host.view.findChild<QLabel*>("InputKeys");
         const QPoint cursor = pStrip->geometry().center();
 
-        QMouseEvent move(QEvent::MouseMove, cursor, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(&f.host.view, &move);
+        MoveCursor(f.host.view, cursor);
         f.Type("+1m");
 
         QVERIFY(!pStrip->geometry().contains(cursor));
@@ -108,8 +118,7 @@ private slots:
         const auto* pStrip = f.host.view.findChild<QLabel*>("InputKeys");
         const QPoint place = pStrip->pos();
         const QPoint cursor = pStrip->geometry().center();
-        QMouseEvent move(QEvent::MouseMove, cursor, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(&f.host.view, &move);
+        MoveCursor(f.host.view, cursor);
         f.Type("+1m");
         QVERIFY(pStrip->pos() != place);
 
@@ -127,9 +136,7 @@ private slots:
         const auto* pStrip = f.host.view.findChild<QLabel*>("InputKeys");
         const QPoint place = pStrip->pos();
 
-        QMouseEvent move(QEvent::MouseMove, pStrip->geometry().center(), Qt::NoButton, Qt::NoButton,
-                         Qt::NoModifier);
-        QCoreApplication::sendEvent(&f.host.window, &move);
+        MoveCursor(f.host.window, pStrip->geometry().center());
         f.Type("+1m");
 
         QCOMPARE(pStrip->pos(), place);
@@ -141,8 +148,7 @@ private slots:
         f.Type("10cm");
         const auto* pStrip = f.host.view.findChild<QLabel*>("InputKeys");
         const QPoint cursor = pStrip->geometry().center();
-        QMouseEvent move(QEvent::MouseMove, cursor, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(&f.host.view, &move);
+        MoveCursor(f.host.view, cursor);
 
         QEvent other(QEvent::ToolTipChange);
         QCoreApplication::sendEvent(&f.host.view, &other);

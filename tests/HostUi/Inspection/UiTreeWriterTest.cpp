@@ -1,8 +1,7 @@
 #include "HostUi/UiTreeWriter.h"
 
-#include "HostCore.h"
-#include "HostUi/DimensionInputController.h"
-#include "HostUi/UiApplication.h"
+#include "HostUi/UiHost.h"
+#include "Support/FileBytes.h"
 #include "Support/JsonValues.h"
 #include "Support/TestValues.h"
 
@@ -66,27 +65,21 @@ class UiTreeWriterTest final : public QObject
 private slots:
     void init()
     {
-        m_pHost = std::make_unique<HostCore>();
-        m_pApplication = std::make_unique<UiApplication>();
-        m_pInput = std::make_unique<DimensionInputController>();
-        m_pWindow = std::make_unique<QWidget>();
-        auto* pLayout = new QHBoxLayout(m_pWindow.get());
+        m_pHost = std::make_unique<test::UiHost>();
+        auto* pLayout = new QHBoxLayout(&m_pHost->window);
         m_pButton = new QPushButton(QStringLiteral("直线"));
         m_pButton->setObjectName(QStringLiteral("Line"));
         m_pButton->setProperty("IsDefinition", true);
         pLayout->addWidget(m_pButton);
         pLayout->addWidget(new QLabel(QStringLiteral("not a definition")));
-        m_pWindow->show();
-        m_pWriter = std::make_unique<UiTreeWriter>(m_folder.filePath("ui"), *m_pInput,
+        m_pHost->window.show();
+        m_pWriter = std::make_unique<UiTreeWriter>(m_folder.filePath("ui"), m_pHost->input,
                                                    [this] { return m_entityCount; });
     }
 
     void cleanup()
     {
         m_pWriter.reset();
-        m_pWindow.reset();
-        m_pInput.reset();
-        m_pApplication.reset();
         m_pHost.reset();
     }
 
@@ -191,7 +184,7 @@ private slots:
     void menuIsDisabledWithItsButton()
     {
         const MenuFixture f(*m_pButton);
-        m_pWindow->setEnabled(false);
+        m_pHost->window.setEnabled(false);
 
         QVERIFY(m_pWriter->Write());
 
@@ -266,7 +259,7 @@ private slots:
     void whatIsTheSameIsNotWrittenAgain()
     {
         QVERIFY(m_pWriter->Write());
-        Put("mark");
+        QVERIFY(WriteBytes(m_folder.filePath("ui"), "mark"));
 
         QVERIFY(m_pWriter->Write());
         QCOMPARE(Text(), QByteArray("mark"));
@@ -279,7 +272,7 @@ private slots:
     void whatCouldNotBeWrittenIsTriedAgain()
     {
         const QString path = m_folder.filePath("later/ui");
-        UiTreeWriter writer(path, *m_pInput, [] { return 0; });
+        UiTreeWriter writer(path, m_pHost->input, [] { return 0; });
         QVERIFY(!writer.Write());
 
         QVERIFY(QDir(m_folder.path()).mkdir("later"));
@@ -290,7 +283,7 @@ private slots:
 
     void fileThatCannotBeWrittenIsToldSo()
     {
-        UiTreeWriter writer(QStringLiteral("/nonexistent/ui"), *m_pInput, [] { return 0; });
+        UiTreeWriter writer(QStringLiteral("/nonexistent/ui"), m_pHost->input, [] { return 0; });
 
         QVERIFY(!writer.Write());
     }
@@ -326,18 +319,7 @@ private:
         return {};
     }
 
-    void Put(const QByteArray& text) const
-    {
-        QFile file(m_folder.filePath("ui"));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(text), qint64(text.size()));
-    }
-
-    QByteArray Text() const
-    {
-        QFile file(m_folder.filePath("ui"));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    QByteArray Text() const { return ReadBytes(m_folder.filePath("ui")); }
 
     nlohmann::json Read() const
     {
@@ -347,10 +329,7 @@ private:
 
     QTemporaryDir m_folder;
     int m_entityCount = 0;
-    std::unique_ptr<HostCore> m_pHost;
-    std::unique_ptr<UiApplication> m_pApplication;
-    std::unique_ptr<DimensionInputController> m_pInput;
-    std::unique_ptr<QWidget> m_pWindow;
+    std::unique_ptr<test::UiHost> m_pHost;
     QPushButton* m_pButton = nullptr;
     std::unique_ptr<UiTreeWriter> m_pWriter;
 };

@@ -1,6 +1,7 @@
 #include "HostUi/LayoutFile.h"
 
 #include "HostUi/PaneRun.h"
+#include "Support/FileBytes.h"
 
 #include <QRandomGenerator>
 #include <QTemporaryDir>
@@ -60,7 +61,6 @@ private slots:
 private:
     QString Path() const { return m_folder.filePath(QStringLiteral("sub/layout.json")); }
     void Put(const QByteArray& text) const;
-    static QByteArray Get(const QString& path);
 
     QTemporaryDir m_folder;
 };
@@ -68,15 +68,7 @@ private:
 void LayoutFileTest::Put(const QByteArray& text) const
 {
     QDir().mkpath(QFileInfo(Path()).path());
-    QFile file(Path());
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(text), qint64(text.size()));
-}
-
-QByteArray LayoutFileTest::Get(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    QVERIFY(WriteBytes(Path(), text));
 }
 
 void LayoutFileTest::whatIsWrittenIsRead()
@@ -109,7 +101,7 @@ void LayoutFileTest::aFileThatIsNotThereIsMissing()
 void LayoutFileTest::anythingElseIsDamaged_data()
 {
     QVERIFY(LayoutFile::Write(Path(), "layout"));
-    const QByteArray good = Get(Path());
+    const QByteArray good = ReadBytes(Path());
     QTest::addColumn<QByteArray>("text");
 
     QTest::newRow("empty") << QByteArray();
@@ -119,7 +111,7 @@ void LayoutFileTest::anythingElseIsDamaged_data()
     QTest::newRow("an older version") << QByteArray(good).replace(": 1", ": 0");
     QTest::newRow("no layout") << QByteArray(good).replace("\"layout\"", "\"other\"");
     QVERIFY(LayoutFile::Write(Path(), ""));
-    QTest::newRow("an empty layout") << Get(Path());
+    QTest::newRow("an empty layout") << ReadBytes(Path());
     QTest::newRow("another layout")
         << QByteArray(good).replace(QByteArray("layout").toBase64(), "AAAA");
     QTest::newRow("no checksum") << QByteArray(good).replace("checksum", "sum");
@@ -149,7 +141,7 @@ void LayoutFileTest::oneOfMoreThanAMegabyteIsDamaged()
 {
     QFETCH(int, size);
     QVERIFY(LayoutFile::Write(Path(), "layout"));
-    const QByteArray good = Get(Path()).trimmed();
+    const QByteArray good = ReadBytes(Path()).trimmed();
     Put(QByteArray(size - good.size(), ' ') + good);
 
     QTEST(LayoutFile::Read(Path()).content, "content");
@@ -199,7 +191,7 @@ void LayoutFileTest::whatCannotBeReadIsKept()
     QVERIFY(LayoutFile::Write(Path(), "layout"));
     QVERIFY(LayoutFile::Write(Path(), "another layout"));
 
-    QCOMPARE(Get(Path() + ".kept"), text);
+    QCOMPARE(ReadBytes(Path() + ".kept"), text);
     QCOMPARE(LayoutFile::Read(Path()).layout, QByteArray("another layout"));
 }
 
@@ -220,7 +212,7 @@ void LayoutFileTest::aLargeFileIsKeptWhole()
 
     QVERIFY(LayoutFile::Write(Path(), "layout"));
 
-    QVERIFY(Get(Path() + ".kept") == text);
+    QVERIFY(ReadBytes(Path() + ".kept") == text);
 }
 
 void LayoutFileTest::whatCannotBeKeptIsNotReplaced()
@@ -231,7 +223,7 @@ void LayoutFileTest::whatCannotBeKeptIsNotReplaced()
 
     QVERIFY(!LayoutFile::Write(Path(), "layout"));
 
-    QCOMPARE(Get(Path()), QByteArray("damaged"));
+    QCOMPARE(ReadBytes(Path()), QByteArray("damaged"));
     QVERIFY(QDir(Path() + ".kept").removeRecursively());
 }
 
@@ -283,7 +275,7 @@ void LayoutFileTest::noFileHarmsTheProgram()
     Run run;
     run.Arrange();
     QVERIFY(LayoutFile::Write(Path(), run.pLayout->Save()));
-    const QByteArray good = Get(Path());
+    const QByteArray good = ReadBytes(Path());
 
     for (int round = 0; round < rounds; ++round)
     {

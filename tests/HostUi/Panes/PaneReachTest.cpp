@@ -99,6 +99,16 @@ static void Tell(ScreenSignal signal)
     }
 }
 
+/// Lets a docked pane float at a size and docks it again.
+static void FloatOnce(QDockWidget& pane, const QSize& size)
+{
+    pane.setFloating(true);
+    pane.resize(size);
+    Run::Settle();
+    pane.setFloating(false);
+    Run::Settle();
+}
+
 /// A mouse that looks real to the pane.
 static void Mouse(QDockWidget* pPane, QEvent::Type type, QPoint global)
 {
@@ -273,11 +283,7 @@ void PaneReachTest::aPaneFloatsAgainAtItsLastSize()
 {
     Run run;
     QDockWidget* pPane = run.Pane("F");
-    pPane->setFloating(true);
-    pPane->resize(700, 210);
-    Run::Settle();
-    pPane->setFloating(false);
-    Run::Settle();
+    FloatOnce(*pPane, QSize(700, 210));
     QCOMPARE(pPane->width(), run.window.width());
 
     pPane->setFloating(true);
@@ -328,11 +334,7 @@ void PaneReachTest::aPaneThatIsDraggedOutAgainGetsItsLastSize()
 {
     Run run;
     QDockWidget* pPane = run.Pane("F");
-    pPane->setFloating(true);
-    pPane->resize(700, 210);
-    Run::Settle();
-    pPane->setFloating(false);
-    Run::Settle();
+    FloatOnce(*pPane, QSize(700, 210));
     const QPoint held = pPane->mapToGlobal(QPoint(pPane->width() / 2, 8));
 
     Mouse(pPane, QEvent::MouseButtonPress, held);

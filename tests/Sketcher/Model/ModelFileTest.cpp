@@ -1,9 +1,9 @@
 #include "Model/ModelFile.h"
 
 #include "Model/Sketch.h"
+#include "Support/FileBytes.h"
 #include "Support/TestValues.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 
 using vesk::Vector3d;
@@ -52,8 +52,7 @@ private:
         const QString path = folder.filePath("model");
         if (!WriteModelFile(sketch, path))
             return {};
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        return vesk::ReadBytes(path);
     }
 };
 

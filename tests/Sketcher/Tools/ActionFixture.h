@@ -16,6 +16,7 @@
 
 #include <QString>
 
+#include <cmath>
 #include <string>
 #include <vector>
 
@@ -42,6 +43,20 @@ public:
     void Begin() { action.OnBegin(&view); }
     void MoveTo(double x, double y) { action.OnMouseMove({x, y, 0}); }
     void ClickAt(double x, double y) { action.OnClick({x, y, 0}); }
+
+    /// Draws 50 shapes with two or three clicks each, at points that no short number tells.
+    void DrawFiftyCrookedShapes(int clickCount)
+    {
+        workspace.snapper.SetOn(Snapper::End, false);
+        Begin();
+        for (int i = 1; i <= 50; ++i)
+        {
+            ClickAt(i / 3.0, -i * 1.7);
+            ClickAt(i * 7.1, std::sqrt(i));
+            if (clickCount == 3)
+                ClickAt(-i, i * i / 7.0);
+        }
+    }
 
     /// Types a number, or confirms the one shown.
     void Type(vesk::ActionViewInput::Kind kind, double value, bool isUnchanged = false)

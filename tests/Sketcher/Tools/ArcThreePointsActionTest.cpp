@@ -17,6 +17,19 @@ using Fixture = ActionFixture<ArcThreePointsAction>;
 
 Q_DECLARE_METATYPE(Vector3d)
 
+namespace
+{
+
+/// Proceeds to the last step of an arc from (-5, 0) to (5, 0).
+void BeginArc(Fixture& f)
+{
+    f.Begin();
+    f.ClickAt(-5, 0);
+    f.ClickAt(5, 0);
+}
+
+}
+
 class ArcThreePointsActionTest final : public QObject
 {
     Q_OBJECT
@@ -56,9 +69,7 @@ private slots:
     void aRadiusThatSpansNoArcIsRefused()
     {
         Fixture f;
-        f.Begin();
-        f.ClickAt(-5, 0);
-        f.ClickAt(5, 0);
+        BeginArc(f);
         f.MoveTo(1, 4);
 
         QVERIFY(!f.action.GetRefusal(InputState::IS_Radius, 4.9).empty());
@@ -68,15 +79,8 @@ private slots:
     void clickedArcsAreRepeatedToTheLastBit()
     {
         Fixture f;
-        f.workspace.snapper.SetOn(Snapper::End, false);
-        f.Begin();
 
-        for (int i = 1; i <= 50; ++i)
-        {
-            f.ClickAt(i / 3.0, -i * 1.7);
-            f.ClickAt(i * 7.1, std::sqrt(i));
-            f.ClickAt(-i, i * i / 7.0);
-        }
+        f.DrawFiftyCrookedShapes(3);
 
         QCOMPARE(f.Count(), std::size_t{50});
         QVERIFY(f.IsRepeated());
@@ -103,9 +107,7 @@ private slots:
         QFETCH(Vector3d, cursor);
         QFETCH(bool, isLonger);
         Fixture f;
-        f.Begin();
-        f.ClickAt(-5, 0);
-        f.ClickAt(5, 0);
+        BeginArc(f);
         f.MoveTo(cursor.x(), cursor.y());
 
         f.Type(ActionViewInput::RadiusCommitted, radius);
@@ -132,9 +134,7 @@ private slots:
     {
         QFETCH(Vector3d, cursor);
         Fixture f;
-        f.Begin();
-        f.ClickAt(-5, 0);
-        f.ClickAt(5, 0);
+        BeginArc(f);
         f.MoveTo(cursor.x(), cursor.y());
         const ArcShape shown = *ArcThrough({-5, 0, 0}, {5, 0, 0}, cursor);
 
@@ -253,9 +253,7 @@ private slots:
     {
         Fixture f;
         f.view.GetCamera().SetWorldPerPixel(0.5);
-        f.Begin();
-        f.ClickAt(-5, 0);
-        f.ClickAt(5, 0);
+        BeginArc(f);
 
         f.MoveTo(1, 0);
 
@@ -267,9 +265,7 @@ private slots:
     {
         Fixture f;
         f.workspace.snapper.SetOn(Snapper::End, false);
-        f.Begin();
-        f.ClickAt(-5, 0);
-        f.ClickAt(5, 0);
+        BeginArc(f);
 
         // Rounded to the side, it would make a half circle.
         f.ClickAt(5, 5e-10);
@@ -329,9 +325,7 @@ private slots:
     void aPointOnTheChordMeansTheLeftSide()
     {
         Fixture f;
-        f.Begin();
-        f.ClickAt(-5, 0);
-        f.ClickAt(5, 0);
+        BeginArc(f);
         f.action.ReplayValue(InputState::IS_Radius, L"7", 7);
 
         QVERIFY(f.action.ReplayPoint({1, 0, 0}, std::nullopt));
@@ -343,9 +337,7 @@ private slots:
     void theStepOfATypedRadiusEndsOnItsArc()
     {
         Fixture f;
-        f.Begin();
-        f.ClickAt(-5, 0);
-        f.ClickAt(5, 0);
+        BeginArc(f);
         f.MoveTo(1, 4);
 
         f.Type(ActionViewInput::RadiusCommitted, 13);
@@ -380,9 +372,7 @@ private slots:
     void theArcIsShownAlone()
     {
         Fixture f;
-        f.Begin();
-        f.ClickAt(-5, 0);
-        f.ClickAt(5, 0);
+        BeginArc(f);
 
         f.MoveTo(3, -4);
 

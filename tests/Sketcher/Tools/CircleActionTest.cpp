@@ -34,14 +34,8 @@ private slots:
     void aClickedRadiusIsRepeatedToTheLastBit()
     {
         Fixture f;
-        f.workspace.snapper.SetOn(Snapper::End, false);
-        f.Begin();
 
-        for (int i = 1; i <= 50; ++i)
-        {
-            f.ClickAt(i / 3.0, -i * 1.7);
-            f.ClickAt(i * 7.1, std::sqrt(i));
-        }
+        f.DrawFiftyCrookedShapes(2);
 
         QCOMPARE(f.Count(), std::size_t{50});
         QVERIFY(f.IsRepeated());

@@ -27,6 +27,17 @@ QImage Paint(const ScreenArc& arc, Qt::PenStyle style = Qt::SolidLine)
     return image;
 }
 
+/// The arc of the row.
+ScreenArc FetchArc()
+{
+    QFETCH(double, x);
+    QFETCH(double, y);
+    QFETCH(double, radius);
+    QFETCH(double, start);
+    QFETCH(double, sweep);
+    return {{x, y}, radius, start, sweep};
+}
+
 bool IsInked(const QImage& image, int x, int y)
 {
     return image.pixelColor(x, y) != QColor(Qt::white);
@@ -105,12 +116,7 @@ private slots:
 
     void whatIsInsideIsExactlyTheParts()
     {
-        QFETCH(double, x);
-        QFETCH(double, y);
-        QFETCH(double, radius);
-        QFETCH(double, start);
-        QFETCH(double, sweep);
-        const ScreenArc arc{{x, y}, radius, start, sweep};
+        const ScreenArc arc = FetchArc();
         const QRectF rect(0, 0, 100, 100);
         constexpr int Steps = 20000;
 
@@ -118,7 +124,7 @@ private slots:
 
         for (int i = 0; i <= Steps; ++i)
         {
-            const double angle = std::abs(sweep) * i / Steps;
+            const double angle = std::abs(arc.sweep) * i / Steps;
             const QPointF point = arc.PointAt(angle);
             const bool isOnSide = rect.adjusted(-0.01, -0.01, 0.01, 0.01).contains(point) !=
                                   rect.adjusted(0.01, 0.01, -0.01, -0.01).contains(point);
@@ -134,12 +140,7 @@ private slots:
 
     void whatIsInsideIsPaintedAndNothingElse()
     {
-        QFETCH(double, x);
-        QFETCH(double, y);
-        QFETCH(double, radius);
-        QFETCH(double, start);
-        QFETCH(double, sweep);
-        const ScreenArc arc{{x, y}, radius, start, sweep};
+        const ScreenArc arc = FetchArc();
         constexpr int Steps = 20000;
 
         QImage image = Paint(arc);
@@ -147,7 +148,7 @@ private slots:
         QImage missing = image;
         for (int i = 0; i <= Steps; ++i)
         {
-            const QPointF point = arc.PointAt(std::abs(sweep) * i / Steps);
+            const QPointF point = arc.PointAt(std::abs(arc.sweep) * i / Steps);
             const QRect around(qFloor(point.x()) - 1, qFloor(point.y()) - 1, 3, 3);
             if (!image.rect().contains(around))
                 continue;

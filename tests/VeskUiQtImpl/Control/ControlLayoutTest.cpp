@@ -2,6 +2,7 @@
 #include "Control/ComboBoxDefinition.h"
 #include "Control/CommandButtonDefinition.h"
 #include "Control/CommandButtonMenuDefinition.h"
+#include "Control/FactorySlots.h"
 #include "Control/LabelDefinition.h"
 #include "Control/LineEditDefinition.h"
 #include "Control/ProgressBarDefinition.h"
@@ -263,14 +264,7 @@ void ControlLayoutTest::operationsOfDefinitionsWithItemsHaveTheirSlots()
 
 void ControlLayoutTest::operationsOfTheFactoryHaveTheirSlots()
 {
-    QCOMPARE(SlotOf(&VeskIControlFactory::CreateQtButton), std::ptrdiff_t(2));
-    QCOMPARE(SlotOf(&VeskIControlFactory::CreateQtLineEdit), std::ptrdiff_t(3));
-    QCOMPARE(SlotOf(&VeskIControlFactory::CreateQtLabel), std::ptrdiff_t(4));
-    QCOMPARE(SlotOf(&VeskIControlFactory::CreateQtCommandButtonMenu), std::ptrdiff_t(5));
-    QCOMPARE(SlotOf(&VeskIControlFactory::CreateQtComboBox), std::ptrdiff_t(6));
-    QCOMPARE(SlotOf(&VeskIControlFactory::CreateQtProgressBar), std::ptrdiff_t(7));
-    QCOMPARE(SlotOf(&VeskIControlFactory::CreateQtRadioButtonGroup), std::ptrdiff_t(8));
-    QCOMPARE(SlotOf(&VeskIControlFactory::CreateQtCheckBoxGroup), std::ptrdiff_t(9));
+    VerifySlotsOfTheFactory();
 }
 
 void ControlLayoutTest::theFactoryHasNoMembers()

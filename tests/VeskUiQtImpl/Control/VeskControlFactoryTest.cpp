@@ -1,6 +1,7 @@
 #include "Control/VeskIControlFactory.h"
 
 #include "Control/CommandButtonDefinition.h"
+#include "Control/FactorySlots.h"
 #include "Control/ICheckBoxGroupDefinition.h"
 #include "Control/IComboBoxDefinition.h"
 #include "Control/ICommandButtonMenuDefinition.h"
@@ -9,7 +10,6 @@
 #include "Control/LabelDefinition.h"
 #include "Control/LineEditDefinition.h"
 #include "Support/HostFixture.h"
-#include "Support/MemberAccess.h"
 #include "Support/TestValues.h"
 #include "VeskUiQtImpl/Control/QtButton.h"
 #include "VeskUiQtImpl/Control/QtCheckBoxGroup.h"
@@ -132,14 +132,7 @@ private slots:
 
 void VeskControlFactoryTest::operationsHaveTheirSlotsAndThereAreNoMembers()
 {
-    QCOMPARE(SlotOf(&VeskIControlFactory::CreateQtButton), std::ptrdiff_t(2));
-    QCOMPARE(SlotOf(&VeskIControlFactory::CreateQtLineEdit), std::ptrdiff_t(3));
-    QCOMPARE(SlotOf(&VeskIControlFactory::CreateQtLabel), std::ptrdiff_t(4));
-    QCOMPARE(SlotOf(&VeskIControlFactory::CreateQtCommandButtonMenu), std::ptrdiff_t(5));
-    QCOMPARE(SlotOf(&VeskIControlFactory::CreateQtComboBox), std::ptrdiff_t(6));
-    QCOMPARE(SlotOf(&VeskIControlFactory::CreateQtProgressBar), std::ptrdiff_t(7));
-    QCOMPARE(SlotOf(&VeskIControlFactory::CreateQtRadioButtonGroup), std::ptrdiff_t(8));
-    QCOMPARE(SlotOf(&VeskIControlFactory::CreateQtCheckBoxGroup), std::ptrdiff_t(9));
+    VerifySlotsOfTheFactory();
     QCOMPARE(sizeof(VeskControlFactory), sizeof(VeskIControlFactory));
 }
 

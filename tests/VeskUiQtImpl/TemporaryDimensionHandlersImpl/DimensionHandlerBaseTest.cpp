@@ -2,6 +2,7 @@
 #include "Support/HostValues.h"
 #include "Support/Platform/InputMethod.h"
 #include "Support/TestValues.h"
+#include "TemporaryDimensionHandlersImpl/TwoFields.h"
 #include "VeskUiQtImpl/Platform/InputMethodSwitch.h"
 #include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/DimensionKeys.h"
 #include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/DimensionKind.h"
@@ -78,18 +79,6 @@ struct Fixture
 
     HostFixture host;
 };
-
-/// A kind with two fields, complete enough for an opening key.
-DimensionKind TwoFields()
-{
-    DimensionKind kind;
-    kind.fields[0].state = InputState::IS_Width;
-    kind.fields[1].state = InputState::IS_Angle;
-    kind.start = InputState::IS_Width;
-    kind.openingKeys = OpeningKeys::AllCharacters;
-    kind.switchesWithTab = true;
-    return kind;
-}
 
 }
 

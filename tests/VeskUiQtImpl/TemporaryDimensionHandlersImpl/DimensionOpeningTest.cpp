@@ -1,4 +1,5 @@
 #include "Support/TestValues.h"
+#include "TemporaryDimensionHandlersImpl/TwoFields.h"
 #include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/DimensionKeys.h"
 #include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/DimensionKind.h"
 
@@ -47,18 +48,6 @@ const KeySets Sets[]{
     {"minus", 189, false, false, false, true, false},
     {"point", 190, false, false, false, false, false},
 };
-
-/// A kind with two fields, complete enough for an opening key.
-DimensionKind TwoFields()
-{
-    DimensionKind kind;
-    kind.fields[0].state = InputState::IS_Width;
-    kind.fields[1].state = InputState::IS_Angle;
-    kind.start = InputState::IS_Width;
-    kind.openingKeys = OpeningKeys::AllCharacters;
-    kind.switchesWithTab = true;
-    return kind;
-}
 
 }
 

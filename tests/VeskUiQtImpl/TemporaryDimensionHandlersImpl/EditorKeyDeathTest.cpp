@@ -85,53 +85,12 @@ std::vector<const char*> VictimsOf(During during)
 }
 
 /// A handler in a view that answers, and an editor with a value in it.
-struct EditorKeyFixture : KindFixture
+struct EditorKeyFixture : MortalViewFixture<AnsweringView>
 {
-    EditorKeyFixture(const KindRules& rules, bool isTaking)
-        : KindFixture(rules.pCreateContext()),
-          pView(std::make_unique<AnsweringView>(2, &host.window, isTaking))
+    EditorKeyFixture(const KindRules& rules, bool isTaking) : MortalViewFixture(rules, isTaking)
     {
-        host.BeginAction();
-        host.core.GetViewManager().AddView(pView.get());
-        host.core.GetViewManager().SetCurrentView(pView.get());
-        opHandler = CreateHandler();
-        Type(rules.StartState(), "5");
+        TypeFirst("5");
     }
-
-    ~EditorKeyFixture()
-    {
-        ActionManager::Reset();
-        DropView();
-    }
-
-    void DropView()
-    {
-        host.core.GetViewManager().RemoveView(pView.get());
-        pView.reset();
-    }
-
-    void Kill(const QString& victim)
-    {
-        if (victim == "handler")
-            opHandler.Reset();
-        else if (victim == "editor")
-            delete Editor();
-        else if (victim == "view")
-            DropView();
-    }
-
-    QLineEdit* Editor() const
-    {
-        return pView != nullptr ? pView->findChild<QLineEdit*>("ViewInputLineEdit") : nullptr;
-    }
-
-    bool FilterKey(int key)
-    {
-        QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
-        return Object().eventFilter(Editor(), &press);
-    }
-
-    std::unique_ptr<AnsweringView> pView;
 };
 
 /// What a key of the editor does and returns, whichever object is destroyed meanwhile.

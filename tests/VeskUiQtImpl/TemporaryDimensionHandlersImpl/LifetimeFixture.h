@@ -9,11 +9,14 @@ namespace vesk::test
 {
 
 /// A handler in a view that may be destroyed first, and an action that receives its values.
-struct LifetimeFixture : KindFixture
+template <class View>
+struct MortalViewFixture : KindFixture
 {
-    explicit LifetimeFixture(const KindRules& rules)
+    /// The view is created with the other arguments.
+    template <class... Arguments>
+    explicit MortalViewFixture(const KindRules& rules, Arguments... arguments)
         : KindFixture(rules.pCreateContext()), kind(rules),
-          pView(std::make_unique<TestView>(2, &host.window))
+          pView(std::make_unique<View>(2, &host.window, arguments...))
     {
         host.BeginAction();
         host.core.GetViewManager().AddView(pView.get());
@@ -21,7 +24,7 @@ struct LifetimeFixture : KindFixture
         opHandler = CreateHandler();
     }
 
-    ~LifetimeFixture()
+    ~MortalViewFixture()
     {
         ActionManager::Reset();
         DropView();
@@ -33,21 +36,23 @@ struct LifetimeFixture : KindFixture
         pView.reset();
     }
 
-    /// Destroys "handler", "editor" or "view"; the view destroys its editor.
+    /// Destroys "handler", "editor" or "view"; the view destroys its editor. "nobody" is none of
+    /// them.
     void Kill(const QString& victim)
     {
         if (victim == "handler")
             opHandler.Reset();
+        else if (victim == "editor")
+            delete Editor();
         else if (victim == "view")
             DropView();
-        else
-            delete Editor();
     }
 
     /// Also null without a view.
     QLineEdit* Editor() const
     {
-        return pView != nullptr ? pView->findChild<QLineEdit*>("ViewInputLineEdit") : nullptr;
+        return pView != nullptr ? pView->template findChild<QLineEdit*>("ViewInputLineEdit")
+                                : nullptr;
     }
 
     /// Opens the first field with a text, as if it had been typed.
@@ -77,8 +82,10 @@ struct LifetimeFixture : KindFixture
     }
 
     const KindRules& kind;
-    std::unique_ptr<TestView> pView;
+    std::unique_ptr<View> pView;
 };
+
+using LifetimeFixture = MortalViewFixture<TestView>;
 
 /// Does something once when a widget gets an event of a given type. A widget destroyed by that no
 /// longer gets the event: Qt would crash.
