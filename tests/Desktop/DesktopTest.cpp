@@ -16,8 +16,12 @@ bool DesktopTest::DrawsOneLine(double length, std::optional<double> angle)
     if (!Session().WaitForEntities(1))
         return false;
     const QVector<DrawnLine> lines = CloseAndReadLines();
-    return lines.size() == 1 && qAbs(lines[0].GetLength() - length) <= Tolerance &&
-           (!angle || AngleBetween(lines[0].GetAngle(), *angle) <= Tolerance);
+    if (lines.size() == 1 && qAbs(lines[0].GetLength() - length) <= Tolerance &&
+        (!angle || AngleBetween(lines[0].GetAngle(), *angle) <= Tolerance))
+        return true;
+    for (const DrawnLine& line : lines)
+        qWarning("drawn: length %.17g, angle %.17g", line.GetLength(), line.GetAngle());
+    return false;
 }
 
 bool DesktopTest::CloseProgram()
