@@ -99,8 +99,7 @@ endfunction()
 function(vesk_test_program program)
     cmake_parse_arguments(ARG "WITH_FOLDERS;PRECOMPILED" "LABEL;PREFIX;TIMEOUT" "TESTS;SOURCES;LIBRARIES" ${ARGN})
     add_executable(${program} ${ARG_TESTS} ${ARG_SOURCES})
-    # The types and functions of a test are its own: several tests may use the same names. The headers of a system define
-    # macros with everyday names.
+    # The types and functions of a test are its own: several tests may use the same names. For Platform/ see above.
     set(alone ${ARG_TESTS} ${ARG_SOURCES})
     list(FILTER alone INCLUDE REGEX "Test\\.cpp$|Platform/")
     set_source_files_properties(${alone} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
