@@ -6,12 +6,16 @@
 #include <string>
 #include <vector>
 
-/// How an entity is drawn: indices into the tables below.
+/// How an entity is drawn, and on which layer.
 struct Pen
 {
-    int style = 0;
-    int colour = 0;
+    int style = 0;  ///< Index into LineStyles().
+    int colour = 0; ///< Index into LineColours(); 0 for the layer's colour.
+    int width = 2;  ///< Index into LineWidths().
+    int layer = 0;  ///< The id of a layer.
 };
+
+bool operator==(const Pen& a, const Pen& b);
 
 struct LineStyle
 {
@@ -27,11 +31,19 @@ struct LineColour
     QColor colour; ///< Invalid for the palette's text colour.
 };
 
-/// All styles and colours; a new drawing starts with the first of each.
+struct LineWidth
+{
+    std::wstring name;    ///< In journals and files: the width in millimetres, such as "0.25".
+    std::wstring caption; ///< On screen.
+    double millimetres;   ///< On paper.
+};
+
+/// All styles, colours and widths; a new drawing starts with those of a default Pen.
 const std::vector<LineStyle>& LineStyles();
 const std::vector<LineColour>& LineColours();
+const std::vector<LineWidth>& LineWidths();
 
-/// One of the two parts of a pen, as the journal and the user know it.
+/// A part of a pen with a fixed set of values, as the journal and the user know it.
 struct PenPart
 {
     std::wstring name;
@@ -43,5 +55,5 @@ struct PenPart
     std::optional<int> Find(const std::wstring& valueName) const;
 };
 
-/// "style" and "colour".
+/// "style", "colour" and "width".
 const std::vector<PenPart>& PenParts();

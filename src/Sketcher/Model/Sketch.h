@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Model/Pen.h"
-#include "Model/Shape.h"
+#include "Model/Digest.h"
+#include "Model/SketchContent.h"
 
 #include <QObject>
 #include <QUndoStack>
@@ -10,26 +10,21 @@
 #include <utility>
 #include <vector>
 
-/// One shape of the drawing. Its id is never reused.
-struct Entity
-{
-    int id = 0;
-    Shape shape;
-    Pen pen;
-};
-
-/// The drawing: entities in the order in which they were drawn, in millimetres, and a name.
+/// The drawing: entities in the order in which they were drawn, in millimetres, layers and a name.
 ///
-/// Each change of entities is one undo step. The same changes result in the same sketch, bit for
-/// bit.
+/// Each change of entities or layers is one undo step, which has a name. Entities on a locked layer
+/// cannot be changed. The same changes result in the same sketch, bit for bit.
 class Sketch final : public QObject
 {
     Q_OBJECT
 
 public:
+    /// A shape to be drawn with that pen; its layer exists.
+    using PenShape = std::pair<Shape, Pen>;
+
     Sketch();
 
-    const std::vector<Entity>& GetEntities() const { return m_entities; }
+    const std::vector<Entity>& GetEntities() const { return m_content.entities; }
 
     /// The entity with that id; null if there is none. Valid until the next change.
     const Entity* Find(int id) const;
@@ -41,35 +36,86 @@ public:
     /// The same for a line.
     int AddLine(const vesk::Vector3d& start, const vesk::Vector3d& end);
 
+    /// Draws shapes in one step of that name and returns their ids in order. Returns none and draws
+    /// nothing if one of them is not drawable or has a layer that does not exist.
+    std::vector<int> Add(const std::vector<PenShape>& shapes, const std::wstring& stepName);
+
     /// Gives entities other shapes; their ids, order and pens stay. Returns false and makes no step
-    /// if one of them does not exist, a shape is not drawable, or no shape differs.
-    bool Replace(const std::vector<std::pair<int, Shape>>& shapes);
+    /// if one of them cannot be changed, a shape is not drawable, or no shape differs.
+    bool Replace(const std::vector<std::pair<int, Shape>>& shapes,
+                 const std::wstring& stepName = L"修改");
     bool CanReplace(const std::vector<std::pair<int, Shape>>& shapes) const;
 
-    /// Returns false if there is no such entity.
-    bool Erase(int id);
+    /// Returns false and erases nothing if there are none or one of them cannot be changed.
+    bool Erase(const std::vector<int>& ids, const std::wstring& stepName = L"删除");
+    bool Erase(int id) { return Erase(std::vector<int>{id}); }
 
-    /// Gives entities another style or colour. Returns false and makes no step if they all have it
-    /// already or one of them does not exist.
+    /// Gives entities another style, colour, width or layer. Returns false and makes no step if
+    /// they all have it already, one of them cannot be changed, or the layer does not exist.
     bool SetPen(const std::vector<int>& ids, int Pen::*part, int value);
 
-    /// How the next entities are drawn. Setting it is not an undo step.
-    const Pen& GetCurrentPen() const { return m_currentPen; }
+    /// True if the entity exists and its layer is not locked.
+    bool CanChange(int id) const;
+
+    /// True if the entity exists and can be picked and selected: its layer is visible and not
+    /// locked.
+    bool CanPick(int id) const;
+
+    /// How the next entities are drawn. Setting it is not an undo step; a layer that does not exist
+    /// is ignored.
+    const Pen& GetCurrentPen() const { return m_content.currentPen; }
     void SetCurrentPen(int Pen::*part, int value);
 
-    bool CanUndo() const;
+    /// By ascending id; the base layer comes first.
+    const std::vector<Layer>& GetLayers() const { return m_content.layers; }
 
-    /// Undoes the last change. Returns the id of the entity that appeared or disappeared, or of the
-    /// first that changed; 0 if there was nothing to undo.
+    /// The layer with that id; null if there is none. Valid until the next change.
+    const Layer* FindLayer(int id) const;
+
+    /// The layer of an entity of this drawing.
+    const Layer& LayerOf(const Entity& entity) const;
+
+    /// Adds a layer of that name and returns its id, which is never reused. Returns 0 and adds
+    /// nothing if the name is empty or taken.
+    int AddLayer(const std::wstring& name);
+
+    /// Gives the layer with that id the other values. Returns false and makes no step if it does
+    /// not exist, nothing differs, or its name is empty or another layer's.
+    bool SetLayer(const Layer& layer);
+
+    /// Removes a layer. Returns false and removes nothing if it is the base layer, does not exist
+    /// or has entities. If it is the current pen's, the base layer becomes that.
+    bool RemoveLayer(int id);
+    bool CanRemoveLayer(int id) const;
+
+    /// An undo or redo of the last step. Returns the id of the entity that appeared or disappeared,
+    /// or of the first that changed; 0 if none did.
+    bool CanUndo() const { return m_steps.canUndo(); }
+    bool CanRedo() const { return m_steps.canRedo(); }
     int Undo();
+    int Redo();
 
-    /// What the last Undo returned.
+    /// The names of the steps that they would act on; empty for none.
+    std::wstring GetUndoText() const;
+    std::wstring GetRedoText() const;
+
+    /// What the last Undo or Redo returned.
     int GetLastUndone() const { return m_lastUndone; }
 
-    const std::wstring& GetName() const { return m_name; }
+    const std::wstring& GetName() const { return m_content.name; }
 
     /// Not an undo step.
     void SetName(const std::wstring& name);
+
+    /// The digest of entities, layers and name, as 64 hexadecimal digits: equal for equal drawings,
+    /// whatever their history. Costs the same for any size.
+    std::string GetDigest() const;
+
+    const SketchContent& GetContent() const { return m_content; }
+
+    /// Replaces the drawing; nothing can be undone afterwards. Returns false and changes nothing if
+    /// the content breaks a rule of SketchContent or an entity is not drawable.
+    bool Restore(SketchContent content);
 
     /// Starts a new drawing in the initial state; nothing can be undone.
     void Clear();
@@ -83,13 +129,15 @@ private:
     class EraseStep;
     class PenStep;
     class ShapeStep;
+    class LayerStep;
 
     Entity* FindEntity(int id);
+    bool AreChangeable(const std::vector<int>& ids) const;
+    bool IsNameFree(const std::wstring& name, int exceptLayer) const;
+    void Push(Step* pStep, const std::wstring& name);
 
-    std::vector<Entity> m_entities;
-    std::wstring m_name;
-    Pen m_currentPen;
+    SketchContent m_content;
+    Digest m_digest; ///< Of the entities and layers.
     QUndoStack m_steps;
-    int m_lastId = 0;
     int m_lastUndone = 0;
 };

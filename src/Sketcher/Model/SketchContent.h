@@ -1,0 +1,40 @@
+#pragma once
+
+#include "Model/Layer.h"
+#include "Model/Pen.h"
+#include "Model/Shape.h"
+
+#include <map>
+#include <string>
+#include <vector>
+
+/// One shape of the drawing. Its id is never reused.
+struct Entity
+{
+    int id = 0;
+    Shape shape;
+    Pen pen;
+};
+
+bool operator==(const Entity& a, const Entity& b);
+
+/// Fields of a drawing file that this version of the program does not know, as JSON objects in
+/// text form, so that they survive reading and saving.
+struct UnknownFields
+{
+    std::string document; ///< Empty for none.
+    std::map<int, std::string> layers;
+    std::map<int, std::string> entities;
+};
+
+/// Everything that a drawing file keeps.
+struct SketchContent
+{
+    std::wstring name;
+    std::vector<Layer> layers = {Layer()}; ///< By ascending id; the base layer comes first.
+    std::vector<Entity> entities;          ///< By ascending id, the order in which they are drawn.
+    int lastId = 0;                        ///< The greatest id that an entity ever had.
+    int lastLayerId = 0;                   ///< The same of a layer.
+    Pen currentPen;                        ///< Its layer exists.
+    UnknownFields unknown;
+};
