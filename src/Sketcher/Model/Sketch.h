@@ -12,7 +12,7 @@
 
 /// The drawing: entities in the order in which they were drawn, in millimetres, layers and a name.
 ///
-/// Each change of entities or layers is one undo step, which has a name. Entities on a locked layer
+/// Each change of entities, layers or the name is one undo step, which has a name. Entities on a locked layer
 /// cannot be changed. The same changes result in the same sketch, bit for bit.
 class Sketch final : public QObject
 {
@@ -104,7 +104,7 @@ public:
 
     const std::wstring& GetName() const { return m_content.name; }
 
-    /// Not an undo step.
+    /// One undo step, like a change of entities, unless the name is the same.
     void SetName(const std::wstring& name);
 
     /// The digest of entities, layers and name, as 64 hexadecimal digits: equal for equal drawings,
@@ -130,6 +130,7 @@ private:
     class PenStep;
     class ShapeStep;
     class LayerStep;
+    class NameStep;
 
     Entity* FindEntity(int id);
     bool AreChangeable(const std::vector<int>& ids) const;
