@@ -38,7 +38,7 @@ private slots:
             digest.Add("abc");
 
         QCOMPARE(digest.ToText(),
-                 std::string("2f68443dad05afbec3c3c29b1a0a666910122aeac36d7fd71c32ffd6e5d44107"));
+                 std::string("2f68443ead056fbec3c3c29b190a666b100a24eac2466fd61c32fe25d6004107"));
     }
 
     void whatIsTakenBackLeavesNoTrace()
@@ -90,7 +90,7 @@ private slots:
     void theBytesOfALayerAndANameAreTheseOnAnyMachine()
     {
         QCOMPARE(Hex(CanonicalBytes(Layer{2, L"墙", 4, false, true})),
-                 std::string("4c0200000003000000e5a2990400000") + "0" + Hex("blue") + "0001");
+                 "4c0200000003000000e5a29904000000" + Hex("blue") + "0001");
         QCOMPARE(Hex(CanonicalBytesOfName(L"a")), std::string("4e0100000061"));
     }
 
@@ -165,6 +165,8 @@ private slots:
             }
             QCOMPARE(sketch.GetDigest(), DigestOf(sketch.GetContent()).ToText());
         }
+        while (sketch.CanRedo())
+            sketch.Redo();
         const std::string end = sketch.GetDigest();
 
         while (sketch.CanUndo())
@@ -173,8 +175,8 @@ private slots:
         while (sketch.CanRedo())
             sketch.Redo();
 
+        QCOMPARE(sketch.GetDigest(), end);
         QVERIFY(!sketch.GetEntities().empty());
-        Q_UNUSED(end);
     }
 
     void historyDoesNotMatter()
@@ -193,4 +195,5 @@ private slots:
     }
 };
 
+VESK_TESTS_WITHOUT_WINDOWS(DigestTest);
 #include "DigestTest.moc"

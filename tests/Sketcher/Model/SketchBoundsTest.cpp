@@ -29,4 +29,5 @@ private slots:
     }
 };
 
+VESK_TESTS_WITHOUT_WINDOWS(SketchBoundsTest);
 #include "SketchBoundsTest.moc"

@@ -98,4 +98,5 @@ private slots:
     }
 };
 
+VESK_TESTS_WITHOUT_WINDOWS(SketchContentTest);
 #include "SketchContentTest.moc"

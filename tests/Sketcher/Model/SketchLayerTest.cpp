@@ -168,4 +168,5 @@ private slots:
     }
 };
 
+VESK_TESTS_WITHOUT_WINDOWS(SketchLayerTest);
 #include "SketchLayerTest.moc"
