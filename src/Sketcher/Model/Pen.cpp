@@ -44,6 +44,21 @@ const std::vector<LineColour>& LineColours()
     return s_colours;
 }
 
+const std::vector<LineWidth>& LineWidths()
+{
+    static const std::vector<LineWidth> s_widths = {
+        {L"0.13", L"0.13 mm", 0.13}, {L"0.18", L"0.18 mm", 0.18}, {L"0.25", L"0.25 mm", 0.25},
+        {L"0.35", L"0.35 mm", 0.35}, {L"0.5", L"0.5 mm", 0.5},    {L"0.7", L"0.7 mm", 0.7},
+        {L"1", L"1 mm", 1.0},        {L"1.4", L"1.4 mm", 1.4},    {L"2", L"2 mm", 2.0},
+    };
+    return s_widths;
+}
+
+bool operator==(const Pen& a, const Pen& b)
+{
+    return a.style == b.style && a.colour == b.colour && a.width == b.width && a.layer == b.layer;
+}
+
 std::optional<int> PenPart::Find(const std::wstring& valueName) const
 {
     const auto found = std::find(valueNames.begin(), valueNames.end(), valueName);
@@ -57,6 +72,7 @@ const std::vector<PenPart>& PenParts()
     static const std::vector<PenPart> s_parts = {
         MakePart(L"style", &Pen::style, LineStyles()),
         MakePart(L"colour", &Pen::colour, LineColours()),
+        MakePart(L"width", &Pen::width, LineWidths()),
     };
     return s_parts;
 }

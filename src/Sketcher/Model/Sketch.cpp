@@ -1,9 +1,17 @@
 #include "Model/Sketch.h"
 
+#include "Model/ShapeKind.h"
+
+#include "HostUi/QtText.h"
+
 #include <QUndoCommand>
+
+#include <QSignalBlocker>
 
 #include <algorithm>
 #include <cstddef>
+#include <limits>
+#include <memory>
 #include <utility>
 
 namespace
@@ -11,137 +19,51 @@ namespace
 
 constexpr wchar_t NewName[] = L"未命名";
 
+SketchContent NewContent()
+{
+    SketchContent content;
+    content.name = NewName;
+    return content;
 }
 
-/// A change of entities, identified by the id of the first.
-class Sketch::Step : public QUndoCommand
+constexpr int GreatestId = std::numeric_limits<int>::max();
+
+}
+
+/// A change, and then what takes it back.
+class Sketch::Step final : public QUndoCommand
 {
 public:
-    Step(Sketch& sketch, int entityId) : m_sketch(sketch), m_entityId(entityId) {}
+    /// `entityId` is the first entity concerned, 0 for none.
+    Step(Sketch& sketch, SketchChange change, int entityId)
+        : m_sketch(sketch), m_change(std::move(change)), m_entityId(entityId)
+    {}
+
+    void redo() override { m_sketch.Exchange(m_change); }
+    void undo() override { m_sketch.Exchange(m_change); }
 
     int GetEntityId() const { return m_entityId; }
 
-protected:
-    std::vector<Entity>& Entities() { return m_sketch.m_entities; }
-    Entity& Get(int id) { return *m_sketch.FindEntity(id); }
-
 private:
     Sketch& m_sketch;
+    SketchChange m_change;
     int m_entityId;
 };
 
-class Sketch::AddStep final : public Step
-{
-public:
-    AddStep(Sketch& sketch, const Entity& entity) : Step(sketch, entity.id), m_entity(entity) {}
-
-    void redo() override { Entities().push_back(m_entity); }
-    void undo() override { Entities().pop_back(); }
-
-private:
-    Entity m_entity;
-};
-
-class Sketch::EraseStep final : public Step
-{
-public:
-    EraseStep(Sketch& sketch, const Entity& entity, std::ptrdiff_t place)
-        : Step(sketch, entity.id), m_entity(entity), m_place(place)
-    {}
-
-    void redo() override { Entities().erase(Entities().begin() + m_place); }
-    void undo() override { Entities().insert(Entities().begin() + m_place, m_entity); }
-
-private:
-    Entity m_entity;
-    std::ptrdiff_t m_place;
-};
-
-class Sketch::PenStep final : public Step
-{
-public:
-    PenStep(Sketch& sketch, const std::vector<int>& ids, int Pen::*part, int value)
-        : Step(sketch, ids.front()), m_part(part), m_value(value)
-    {
-        for (const int id : ids)
-            m_before.emplace_back(id, Get(id).pen.*part);
-    }
-
-    void redo() override
-    {
-        for (const auto& [id, before] : m_before)
-            Get(id).pen.*m_part = m_value;
-    }
-
-    void undo() override
-    {
-        for (const auto& [id, before] : m_before)
-            Get(id).pen.*m_part = before;
-    }
-
-private:
-    int Pen::*m_part;
-    int m_value;
-    std::vector<std::pair<int, int>> m_before;
-};
-
-class Sketch::ShapeStep final : public Step
-{
-public:
-    ShapeStep(Sketch& sketch, const std::vector<std::pair<int, Shape>>& shapes)
-        : Step(sketch, shapes.front().first), m_others(shapes)
-    {}
-
-    void redo() override
-    {
-        for (auto& other : m_others)
-            Exchange(other);
-    }
-
-    void undo() override
-    {
-        // In reverse, so that an entity listed twice ends up with its original shape.
-        for (auto other = m_others.rbegin(); other != m_others.rend(); ++other)
-            Exchange(*other);
-    }
-
-private:
-    void Exchange(std::pair<int, Shape>& other)
-    {
-        other.second = std::exchange(Get(other.first).shape, other.second);
-    }
-
-    /// The shapes to swap with the entities' current ones.
-    std::vector<std::pair<int, Shape>> m_others;
-};
-
-Sketch::Sketch() : m_name(NewName)
+Sketch::Sketch() : m_content(NewContent()), m_digest(DigestOf(m_content))
 {
     connect(&m_steps, &QUndoStack::indexChanged, this, &Sketch::changed);
 }
 
 const Entity* Sketch::Find(int id) const
 {
-    // Ids ascend in drawing order, and an undo restores an entity at its old position.
-    const auto found =
-        std::lower_bound(m_entities.begin(), m_entities.end(), id,
-                         [](const Entity& entity, int sought) { return entity.id < sought; });
-    return found != m_entities.end() && found->id == id ? &*found : nullptr;
-}
-
-Entity* Sketch::FindEntity(int id)
-{
-    const Entity* pEntity = Find(id);
-    return pEntity != nullptr ? &m_entities[static_cast<std::size_t>(pEntity - m_entities.data())]
-                              : nullptr;
+    return FindById(m_content.entities, id);
 }
 
 int Sketch::Add(const Shape& shape)
 {
-    if (!IsDrawable(shape))
-        return 0;
-    m_steps.push(new AddStep(*this, Entity{++m_lastId, shape, m_currentPen}));
-    return m_lastId;
+    const std::vector<int> ids = Add({{shape, m_content.currentPen}}, KindOf(shape).caption);
+    return ids.empty() ? 0 : ids.front();
 }
 
 int Sketch::AddLine(const vesk::Vector3d& start, const vesk::Vector3d& end)
@@ -149,10 +71,77 @@ int Sketch::AddLine(const vesk::Vector3d& start, const vesk::Vector3d& end)
     return Add(LineShape{start, end});
 }
 
+std::vector<int> Sketch::Add(const std::vector<PenShape>& shapes, const std::wstring& stepName)
+{
+    const bool arePossible =
+        std::all_of(shapes.begin(), shapes.end(), [this](const PenShape& shape) {
+            return FindLayer(shape.second.layer) != nullptr;
+        });
+    return arePossible ? AddEntities(shapes, {}, stepName) : std::vector<int>();
+}
+
+/// Draws the shapes in one step with other changes, of layers.
+std::vector<int> Sketch::AddEntities(const std::vector<PenShape>& shapes, SketchChange change,
+                                     const std::wstring& stepName)
+{
+    const bool arePossible =
+        shapes.size() <= static_cast<std::size_t>(GreatestId - m_content.lastId) &&
+        std::all_of(shapes.begin(), shapes.end(),
+                    [](const PenShape& shape) { return IsDrawable(shape.first); });
+    if (shapes.empty() || !arePossible)
+        return {};
+    std::vector<int> ids;
+    for (const auto& [shape, pen] : shapes)
+    {
+        ids.push_back(++m_content.lastId);
+        change.entities.emplace_hint(change.entities.end(), ids.back(),
+                                     Entity{ids.back(), shape, pen});
+    }
+    Push(std::move(change), ids.front(), stepName);
+    return ids;
+}
+
+std::vector<int> Sketch::Insert(const SketchContent& content, const std::wstring& stepName)
+{
+    const auto freeLayerIds = static_cast<std::size_t>(GreatestId - m_content.lastLayerId);
+    if (!IsValid(content) || content.layers.size() > freeLayerIds)
+        return {};
+    SketchChange change;
+    const std::map<int, int> layerIds = MatchLayers(content.layers, change);
+    std::vector<PenShape> shapes;
+    for (const Entity& entity : content.entities)
+    {
+        shapes.emplace_back(entity.shape, entity.pen);
+        shapes.back().second.layer = layerIds.at(entity.pen.layer);
+    }
+    const int layerCount = static_cast<int>(change.layers.size());
+    const std::vector<int> ids = AddEntities(shapes, std::move(change), stepName);
+    m_content.lastLayerId += ids.empty() ? 0 : layerCount;
+    return ids;
+}
+
+/// The layers of this drawing for those of another, by their ids there; notes in the change which
+/// are to be added.
+std::map<int, int> Sketch::MatchLayers(const std::vector<Layer>& layers, SketchChange& change) const
+{
+    std::map<int, int> ids;
+    int lastId = m_content.lastLayerId;
+    for (Layer layer : layers)
+    {
+        const int otherId = layer.id;
+        const auto own = FindLayerNamed(layer.name);
+        layer.id = own != nullptr ? own->id : ++lastId;
+        if (own == nullptr)
+            change.layers[layer.id] = layer;
+        ids[otherId] = layer.id;
+    }
+    return ids;
+}
+
 bool Sketch::CanReplace(const std::vector<std::pair<int, Shape>>& shapes) const
 {
     const auto isPossible = [this](const auto& next) {
-        return Find(next.first) != nullptr && IsDrawable(next.second);
+        return CanChange(next.first) && IsDrawable(next.second);
     };
     const auto isOther = [this](const auto& next) {
         return !(Find(next.first)->shape == next.second);
@@ -161,72 +150,218 @@ bool Sketch::CanReplace(const std::vector<std::pair<int, Shape>>& shapes) const
            std::any_of(shapes.begin(), shapes.end(), isOther);
 }
 
-bool Sketch::Replace(const std::vector<std::pair<int, Shape>>& shapes)
+bool Sketch::Replace(const std::vector<std::pair<int, Shape>>& shapes, const std::wstring& stepName)
 {
-    const bool isChange = CanReplace(shapes);
-    if (isChange)
-        m_steps.push(new ShapeStep(*this, shapes));
-    return isChange;
+    if (!CanReplace(shapes))
+        return false;
+    SketchChange change;
+    for (const auto& [id, shape] : shapes)
+        change.entities[id] = Entity{id, shape, Find(id)->pen};
+    Push(std::move(change), shapes.front().first, stepName);
+    return true;
 }
 
-bool Sketch::Erase(int id)
+bool Sketch::Erase(const std::vector<int>& ids, const std::wstring& stepName)
 {
-    const Entity* pEntity = Find(id);
-    if (pEntity == nullptr)
+    if (ids.empty() || !AreChangeable(ids))
         return false;
-    m_steps.push(new EraseStep(*this, *pEntity, pEntity - m_entities.data()));
+    SketchChange change;
+    for (const int id : ids)
+        change.entities[id] = std::nullopt;
+    Push(std::move(change), ids.front(), stepName);
     return true;
 }
 
 bool Sketch::SetPen(const std::vector<int>& ids, int Pen::*part, int value)
 {
-    const bool isKnown =
-        std::all_of(ids.begin(), ids.end(), [this](int id) { return Find(id) != nullptr; });
-    const bool isChange = isKnown && std::any_of(ids.begin(), ids.end(), [&](int id) {
+    const bool isPossible =
+        AreChangeable(ids) && (part != &Pen::layer || FindLayer(value) != nullptr);
+    const bool isChange = isPossible && std::any_of(ids.begin(), ids.end(), [&](int id) {
                               return Find(id)->pen.*part != value;
                           });
-    if (isChange)
-        m_steps.push(new PenStep(*this, ids, part, value));
-    return isChange;
+    if (!isChange)
+        return false;
+    SketchChange change;
+    for (const int id : ids)
+    {
+        Entity entity = *Find(id);
+        entity.pen.*part = value;
+        change.entities[id] = entity;
+    }
+    Push(std::move(change), ids.front(), L"线条特性");
+    return true;
+}
+
+bool Sketch::CanChange(int id) const
+{
+    const Entity* pEntity = Find(id);
+    return pEntity != nullptr && !LayerOf(*pEntity).isLocked;
+}
+
+bool Sketch::CanPick(int id) const
+{
+    const Entity* pEntity = Find(id);
+    return pEntity != nullptr && !LayerOf(*pEntity).isLocked && LayerOf(*pEntity).isVisible;
+}
+
+bool Sketch::AreChangeable(const std::vector<int>& ids) const
+{
+    return std::all_of(ids.begin(), ids.end(), [this](int id) { return CanChange(id); });
 }
 
 void Sketch::SetCurrentPen(int Pen::*part, int value)
 {
-    if (m_currentPen.*part == value)
+    const bool isKnown = part != &Pen::layer || FindLayer(value) != nullptr;
+    if (!isKnown || m_content.currentPen.*part == value)
         return;
-    m_currentPen.*part = value;
+    m_content.currentPen.*part = value;
     emit changed();
 }
 
-bool Sketch::CanUndo() const
+const Layer* Sketch::FindLayer(int id) const
 {
-    return m_steps.canUndo();
+    return FindById(m_content.layers, id);
+}
+
+const Layer* Sketch::FindLayerNamed(const std::wstring& name) const
+{
+    const auto found = std::find_if(m_content.layers.begin(), m_content.layers.end(),
+                                    [&name](const Layer& layer) { return layer.name == name; });
+    return found != m_content.layers.end() ? &*found : nullptr;
+}
+
+const Layer& Sketch::LayerOf(const Entity& entity) const
+{
+    return *FindLayer(entity.pen.layer);
+}
+
+int Sketch::AddLayer(const std::wstring& name)
+{
+    if (name.empty() || FindLayerNamed(name) != nullptr || m_content.lastLayerId == GreatestId)
+        return 0;
+    Layer layer;
+    layer.id = ++m_content.lastLayerId;
+    layer.name = name;
+    SketchChange change;
+    change.layers[layer.id] = layer;
+    Push(std::move(change), 0, L"新建图层");
+    return layer.id;
+}
+
+bool Sketch::SetLayer(const Layer& layer)
+{
+    const Layer* pLayer = FindLayer(layer.id);
+    const Layer* pNamesake = FindLayerNamed(layer.name);
+    const bool isNameFree =
+        !layer.name.empty() && (pNamesake == nullptr || pNamesake->id == layer.id);
+    if (pLayer == nullptr || *pLayer == layer || !isNameFree)
+        return false;
+    SketchChange change;
+    change.layers[layer.id] = layer;
+    Push(std::move(change), 0, L"修改图层");
+    return true;
+}
+
+bool Sketch::CanRemoveLayer(int id) const
+{
+    return id != Layer::BaseId && FindLayer(id) != nullptr &&
+           std::none_of(m_content.entities.begin(), m_content.entities.end(),
+                        [id](const Entity& entity) { return entity.pen.layer == id; });
+}
+
+bool Sketch::RemoveLayer(int id)
+{
+    if (!CanRemoveLayer(id))
+        return false;
+    SketchChange change;
+    change.layers[id] = std::nullopt;
+    Push(std::move(change), 0, L"删除图层");
+    return true;
 }
 
 int Sketch::Undo()
 {
-    m_lastUndone = 0;
-    if (const QUndoCommand* pStep = m_steps.command(m_steps.index() - 1))
-        m_lastUndone = static_cast<const Step*>(pStep)->GetEntityId();
-    m_steps.undo();
+    return Turn(m_steps.index() - 1, &QUndoStack::undo);
+}
+
+int Sketch::Redo()
+{
+    return Turn(m_steps.index(), &QUndoStack::redo);
+}
+
+/// Undoes or redoes the step at that index, if there is one.
+int Sketch::Turn(int index, void (QUndoStack::*turn)())
+{
+    const auto* pStep = static_cast<const Step*>(m_steps.command(index));
+    m_lastUndone = pStep != nullptr ? pStep->GetEntityId() : 0;
+    (m_steps.*turn)();
     return m_lastUndone;
+}
+
+std::wstring Sketch::GetUndoText() const
+{
+    return vesk::ToWide(m_steps.undoText());
+}
+
+std::wstring Sketch::GetRedoText() const
+{
+    return vesk::ToWide(m_steps.redoText());
 }
 
 void Sketch::SetName(const std::wstring& name)
 {
-    if (name == m_name)
+    if (name == m_content.name)
         return;
-    m_name = name;
+    SketchChange change;
+    change.name = name;
+    Push(std::move(change), 0, L"图名");
+}
+
+void Sketch::SetNameWithoutStep(const std::wstring& name)
+{
+    if (name == m_content.name)
+        return;
+    SketchChange change;
+    change.name = name;
+    Exchange(change);
     emit changed();
+}
+
+std::string Sketch::GetDigest() const
+{
+    return m_digest.ToText();
+}
+
+bool Sketch::Restore(SketchContent content)
+{
+    if (!IsValid(content))
+        return false;
+    m_content = std::move(content);
+    m_digest = DigestOf(m_content);
+    m_lastUndone = 0;
+    {
+        const QSignalBlocker noSignals(this);
+        m_steps.clear();
+    }
+    emit changed();
+    return true;
 }
 
 void Sketch::Clear()
 {
-    m_entities.clear();
-    m_name = NewName;
-    m_currentPen = {};
-    m_lastId = 0;
-    m_lastUndone = 0;
-    m_steps.clear();
-    emit changed();
+    Restore(NewContent());
+}
+
+void Sketch::Push(SketchChange change, int entityId, const std::wstring& stepName)
+{
+    auto pStep = std::make_unique<Step>(*this, std::move(change), entityId);
+    pStep->setText(vesk::ToQString(stepName));
+    m_steps.push(pStep.release());
+}
+
+void Sketch::Exchange(SketchChange& change)
+{
+    ::Exchange(m_content, m_digest, change);
+    if (FindLayer(m_content.currentPen.layer) == nullptr)
+        m_content.currentPen.layer = Layer::BaseId;
 }

@@ -1,19 +1,21 @@
 #pragma once
 
 #include "Model/Digest.h"
+#include "Model/SketchChange.h"
 #include "Model/SketchContent.h"
 
 #include <QObject>
 #include <QUndoStack>
 
+#include <map>
 #include <string>
 #include <utility>
 #include <vector>
 
 /// The drawing: entities in the order in which they were drawn, in millimetres, layers and a name.
 ///
-/// Each change of entities, layers or the name is one undo step, which has a name. Entities on a locked layer
-/// cannot be changed. The same changes result in the same sketch, bit for bit.
+/// Each change of entities, layers or the name is one undo step, which has a name. Entities on a
+/// locked layer cannot be changed. The same changes result in the same sketch, bit for bit.
 class Sketch final : public QObject
 {
     Q_OBJECT
@@ -39,6 +41,11 @@ public:
     /// Draws shapes in one step of that name and returns their ids in order. Returns none and draws
     /// nothing if one of them is not drawable or has a layer that does not exist.
     std::vector<int> Add(const std::vector<PenShape>& shapes, const std::wstring& stepName);
+
+    /// Draws the entities of another drawing in one step of that name and returns their new ids in
+    /// order. Their layers are those of the same names; missing ones are added in the same step.
+    /// Returns none and changes nothing if there are no entities or the content is not valid.
+    std::vector<int> Insert(const SketchContent& content, const std::wstring& stepName);
 
     /// Gives entities other shapes; their ids, order and pens stay. Returns false and makes no step
     /// if one of them cannot be changed, a shape is not drawable, or no shape differs.
@@ -104,8 +111,11 @@ public:
 
     const std::wstring& GetName() const { return m_content.name; }
 
-    /// One undo step, like a change of entities, unless the name is the same.
+    /// One undo step, unless that is the name already.
     void SetName(const std::wstring& name);
+
+    /// The same without a step: in journals of version 1 a name was none.
+    void SetNameWithoutStep(const std::wstring& name);
 
     /// The digest of entities, layers and name, as 64 hexadecimal digits: equal for equal drawings,
     /// whatever their history. Costs the same for any size.
@@ -125,20 +135,18 @@ signals:
 
 private:
     class Step;
-    class AddStep;
-    class EraseStep;
-    class PenStep;
-    class ShapeStep;
-    class LayerStep;
-    class NameStep;
 
-    Entity* FindEntity(int id);
     bool AreChangeable(const std::vector<int>& ids) const;
-    bool IsNameFree(const std::wstring& name, int exceptLayer) const;
-    void Push(Step* pStep, const std::wstring& name);
+    const Layer* FindLayerNamed(const std::wstring& name) const;
+    std::map<int, int> MatchLayers(const std::vector<Layer>& layers, SketchChange& change) const;
+    std::vector<int> AddEntities(const std::vector<PenShape>& shapes, SketchChange change,
+                                 const std::wstring& stepName);
+    void Push(SketchChange change, int entityId, const std::wstring& stepName);
+    void Exchange(SketchChange& change);
+    int Turn(int index, void (QUndoStack::*turn)());
 
     SketchContent m_content;
-    Digest m_digest; ///< Of the entities and layers.
+    Digest m_digest; ///< Of m_content.
     QUndoStack m_steps;
     int m_lastUndone = 0;
 };

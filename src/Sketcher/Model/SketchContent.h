@@ -4,6 +4,7 @@
 #include "Model/Pen.h"
 #include "Model/Shape.h"
 
+#include <algorithm>
 #include <map>
 #include <string>
 #include <vector>
@@ -22,7 +23,8 @@ bool operator==(const Entity& a, const Entity& b);
 /// text form, so that they survive reading and saving.
 struct UnknownFields
 {
-    std::string document; ///< Empty for none.
+    std::string document;   ///< Empty for none.
+    std::string currentPen; ///< The same.
     std::map<int, std::string> layers;
     std::map<int, std::string> entities;
 };
@@ -38,3 +40,17 @@ struct SketchContent
     Pen currentPen;                        ///< Its layer exists.
     UnknownFields unknown;
 };
+
+/// The thing with that id among things by ascending id; null if there is none.
+template <class Thing>
+const Thing* FindById(const std::vector<Thing>& things, int id)
+{
+    const auto found =
+        std::lower_bound(things.begin(), things.end(), id,
+                         [](const Thing& thing, int sought) { return thing.id < sought; });
+    return found != things.end() && found->id == id ? &*found : nullptr;
+}
+
+/// True if the content keeps the rules above, its pens exist, its layers have different names and
+/// its shapes are drawable.
+bool IsValid(const SketchContent& content);

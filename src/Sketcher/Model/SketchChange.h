@@ -1,0 +1,22 @@
+#pragma once
+
+#include "Model/Digest.h"
+#include "Model/SketchContent.h"
+
+#include <map>
+#include <optional>
+#include <string>
+
+/// What differs between a drawing and the drawing after a step: the new state of each entity and
+/// layer that changes, nothing for one that disappears.
+struct SketchChange
+{
+    std::map<int, std::optional<Entity>> entities;
+    std::map<int, std::optional<Layer>> layers;
+    std::optional<std::wstring> name;
+};
+
+/// Applies a change to a drawing and its digest, and turns it into the change that takes it back.
+/// The cost is that of the entities named; entities that appear or disappear before others cost a
+/// move of these.
+void Exchange(SketchContent& content, Digest& digest, SketchChange& change);
