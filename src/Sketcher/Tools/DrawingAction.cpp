@@ -3,6 +3,7 @@
 #include "Model/Workspace.h"
 
 #include "Dimension/InputField.h"
+#include "Dimension/TemporaryDimensionStyle.h"
 #include "Geometry/Constants.h"
 #include "Journal/JournalManager.h"
 #include "View/UiViewUtility.h"
@@ -10,6 +11,19 @@
 #include <algorithm>
 
 using namespace vesk;
+
+namespace
+{
+
+/// The number that a field shows for a value.
+std::wstring TextOf(InputState field, double value)
+{
+    const TemporaryDimensionStyle style;
+    return QuantityOf(field) == Quantity::Length ? style.FormatLength(style.ToShown(value))
+                                                 : style.FormatAngle(value);
+}
+
+}
 
 DrawingAction::DrawingAction(Workspace& workspace) : m_workspace(workspace) {}
 
@@ -47,8 +61,7 @@ void DrawingAction::OnViewInput(const ActionViewInput&, const TypedValue& typed)
     const InputState field = typed.field;
     if (!Expects(field))
         return;
-    // A field that was only confirmed keeps its exact value, not the rounded one shown.
-    m_values.Take({field, typed.text, typed.isUnchanged ? GetValue(field) : typed.value});
+    m_values.Take({field, typed.text, typed.isUnchanged ? Confirm(typed) : typed.value});
     if (!typed.isCommitted)
         m_values.Record();
     else if (!EndStep(GetEnd()) && !FindOther(field).has_value())
@@ -91,6 +104,15 @@ double DrawingAction::GetValue(InputState field) const
 {
     const std::optional<double> typed = m_values.Get(field);
     return typed.has_value() ? *typed : ReadCursor(field);
+}
+
+/// A field that was only confirmed keeps its exact value, unless the cursor has moved on since the
+/// field showed it: the user has confirmed the number that is shown.
+double DrawingAction::Confirm(const TypedValue& typed) const
+{
+    const double exact = GetValue(typed.field);
+    const bool isShown = TextOf(typed.field, exact) == TextOf(typed.field, typed.value);
+    return isShown ? exact : typed.value;
 }
 
 bool DrawingAction::RestsOn(const Vector3d& point) const

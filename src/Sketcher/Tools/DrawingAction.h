@@ -72,6 +72,7 @@ protected:
     double GetPixel() const;
 
 private:
+    double Confirm(const vesk::TypedValue& typed) const;
     std::optional<vesk::InputState> FindOther(vesk::InputState field) const;
     bool EndStep(const vesk::Vector3d& end);
 
