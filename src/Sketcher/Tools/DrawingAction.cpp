@@ -1,8 +1,10 @@
 #include "Tools/DrawingAction.h"
 
+#include "Model/Polar.h"
 #include "Model/Workspace.h"
 
 #include "Dimension/InputField.h"
+#include "Dimension/LinearTemporaryDimensionContext.h"
 #include "Dimension/TemporaryDimensionStyle.h"
 #include "Geometry/Constants.h"
 #include "Journal/JournalManager.h"
@@ -135,6 +137,30 @@ double DrawingAction::GetPixel() const
 {
     const double pixel = UiViewUtility::ComputeWorldWidthFromPixel(m_pView, 1);
     return pixel > 0.0 ? pixel : 1.0;
+}
+
+Vector3d DrawingAction::GetStraightEnd() const
+{
+    const std::optional<Vector3d> start = GetStart();
+    const bool isCursor = !HasValues() && !RestsOnStart() && !m_workspace.isDirectionHeld;
+    if (!start.has_value() || isCursor)
+        return m_cursor;
+    return *start + GetValue(InputState::IS_Length) * DirectionOf(GetValue(InputState::IS_Angle));
+}
+
+double DrawingAction::ReadStraight(InputState field) const
+{
+    const Vector3d way = m_cursor - *GetStart();
+    if (field == InputState::IS_Length)
+        return std::max(way.dot(DirectionOf(GetValue(InputState::IS_Angle))), GetPixel());
+    const double angle = RestsOnStart() ? 0.0 : AngleOf(way);
+    return m_workspace.isDirectionHeld ? HeldAngle(angle) : angle;
+}
+
+OwnerPtr<ITemporaryDimensionContext> DrawingAction::MakeStraightContext() const
+{
+    return MakeOwner<LinearTemporaryDimensionContext>(Coordinate3d(), *GetStart(),
+                                                      GetStraightEnd());
 }
 
 /// The other value that the step expects; nothing if it expects only one.
