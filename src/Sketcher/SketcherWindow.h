@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+class ContextMenu;
 class QToolButton;
 class SketchView;
 struct CommandEntry;
@@ -49,6 +50,9 @@ public:
     /// The button that shows all panes, with their menu; null if there is none. Not owned.
     QToolButton* GetPaneButton() const { return m_pPaneButton; }
 
+    /// Opens the menu of what is selected at a point of the screen.
+    void ShowContextMenu(const QPoint& position);
+
     /// Drops all references to the controls before they are destroyed.
     void ReleaseControls();
 
@@ -77,5 +81,6 @@ private:
     vesk::RibbonFocus m_ribbonFocus;
     vesk::ProgressBarDefinition* m_pProgress = nullptr;
     QToolButton* m_pPaneButton = nullptr;
+    std::unique_ptr<ContextMenu> m_pContextMenu;
     std::vector<std::unique_ptr<QObject>> m_panels;
 };

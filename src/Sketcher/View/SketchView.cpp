@@ -1,6 +1,7 @@
 #include "View/SketchView.h"
 
 #include "Model/Grid.h"
+#include "Model/Picking.h"
 #include "Model/SketchBounds.h"
 #include "Model/SnapPoints.h"
 #include "Model/Workspace.h"
@@ -10,11 +11,14 @@
 
 #include "Command/IActionManager.h"
 
+#include <QContextMenuEvent>
+#include <QCoreApplication>
 #include <QMouseEvent>
 #include <QPainter>
 
 #include <cmath>
 #include <optional>
+#include <utility>
 
 using vesk::IActionManager;
 using vesk::Vector3d;
@@ -36,6 +40,7 @@ SketchView::SketchView(Workspace& workspace, vesk::DimensionInputController& inp
     : DrawingView(1, input, pParent), m_workspace(workspace), m_mouse(workspace, *this)
 {
     setObjectName(QStringLiteral("SketchView"));
+    qApp->installEventFilter(this);
     connect(&workspace.sketch, &Sketch::changed, this, &SketchView::UpdateModel);
     connect(&workspace.selection, &Selection::changed, this, &SketchView::UpdateModel);
 }
@@ -75,8 +80,37 @@ void SketchView::OnFreeEscape()
         m_workspace.selection.Select({});
 }
 
+void SketchView::OnFreeConfirm()
+{
+    emit repeatRequested();
+}
+
+void SketchView::contextMenuEvent(QContextMenuEvent* pEvent)
+{
+    if (IActionManager::CurrentAction() != nullptr || m_mouse.IsPressed())
+    {
+        DrawingView::contextMenuEvent(pEvent);
+        return;
+    }
+    if (pEvent->reason() == QContextMenuEvent::Mouse)
+        SelectBelow(pEvent->pos());
+    emit menuRequested(pEvent->globalPos());
+}
+
+/// Shift may be released in the editor of a value.
+bool SketchView::eventFilter(QObject* pWatched, QEvent* pEvent)
+{
+    if (pEvent->type() != QEvent::KeyRelease)
+        return DrawingView::eventFilter(pWatched, pEvent);
+    const bool isShift = static_cast<const QKeyEvent*>(pEvent)->key() == Qt::Key_Shift;
+    if (isShift && std::exchange(m_workspace.isDirectionHeld, false))
+        PassCursor();
+    return false;
+}
+
 void SketchView::mouseMoveEvent(QMouseEvent* pEvent)
 {
+    m_workspace.isDirectionHeld = pEvent->modifiers().testFlag(Qt::ShiftModifier);
     DrawingView::mouseMoveEvent(pEvent);
     if (!m_mouse.IsPressed())
         return;
@@ -88,6 +122,12 @@ void SketchView::mouseMoveEvent(QMouseEvent* pEvent)
     }
     m_mouse.MoveTo(GetCamera().ScreenToWorld(pEvent->localPos().x(), pEvent->localPos().y()));
     update();
+}
+
+void SketchView::mousePressEvent(QMouseEvent* pEvent)
+{
+    m_workspace.isDirectionHeld = pEvent->modifiers().testFlag(Qt::ShiftModifier);
+    DrawingView::mousePressEvent(pEvent);
 }
 
 void SketchView::mouseReleaseEvent(QMouseEvent* pEvent)
@@ -104,6 +144,15 @@ void SketchView::DropPress()
 {
     m_mouse.Drop();
     update();
+}
+
+/// An entity that is not selected yet is selected, so that the menu is about it.
+void SketchView::SelectBelow(const QPoint& pixel)
+{
+    const int picked =
+        PickEntity(m_workspace.sketch, GetCamera().ScreenToWorld(pixel.x(), pixel.y()), this);
+    if (picked != 0 && !m_workspace.selection.Contains(picked))
+        m_workspace.selection.Select({picked});
 }
 
 void SketchView::PaintGrid(QPainter& painter) const
