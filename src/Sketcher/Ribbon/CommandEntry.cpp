@@ -18,6 +18,12 @@ CommandEntry CommandEntry::Plain(const std::wstring& id, const std::wstring& cap
     return entry;
 }
 
+CommandEntry CommandEntry::Dialog(const std::wstring& id, const std::wstring& caption,
+                                  const std::function<void()>& open)
+{
+    return Plain(id, caption, open);
+}
+
 CommandEntry CommandEntry::Interactive(const std::wstring& id, const std::wstring& caption,
                                        const std::function<OwnerPtr<IAction>()>& begin)
 {
