@@ -6,7 +6,9 @@
 #include <QSignalSpy>
 
 #include <functional>
+#include <limits>
 #include <string>
+#include <vector>
 
 using Break = std::function<void(SketchContent&)>;
 
@@ -77,6 +79,27 @@ private slots:
         QVERIFY(!sketch.Restore(content));
         QCOMPARE(sketch.GetDigest(), digest);
         QVERIFY(sketch.CanUndo());
+    }
+
+    void whenIdsRunOutNothingIsAdded()
+    {
+        constexpr int Greatest = std::numeric_limits<int>::max();
+        SketchContent content = SomeContent();
+        content.lastId = Greatest - 1;
+        content.lastLayerId = Greatest;
+        Sketch sketch;
+        QVERIFY(sketch.Restore(content));
+        SketchContent other = SomeContent();
+        other.layers[1].name = L"doors";
+
+        QCOMPARE(sketch.AddLayer(L"doors"), 0);
+        QVERIFY(sketch.Insert(other, L"粘贴").empty());
+        const Sketch::PenShape line(content.entities[0].shape, Pen());
+        QVERIFY(sketch.Add({line, line}, L"粘贴").empty());
+
+        QCOMPARE(sketch.GetDigest(), DigestOf(content).ToText());
+        QCOMPARE(sketch.AddLine({0, 0, 0}, {1, 0, 0}), Greatest);
+        QCOMPARE(sketch.AddLine({0, 0, 0}, {1, 0, 0}), 0);
     }
 
     void restoredContentIsTheDrawing()
