@@ -2,6 +2,7 @@
 
 #include "Command/IAction.h"
 #include "Journal/CommandParameters.h"
+#include "Replay/JournalReplayer.h"
 
 using namespace vesk;
 
@@ -21,7 +22,10 @@ CommandEntry CommandEntry::Plain(const std::wstring& id, const std::wstring& cap
 CommandEntry CommandEntry::Dialog(const std::wstring& id, const std::wstring& caption,
                                   const std::function<void()>& open)
 {
-    return Plain(id, caption, open);
+    return Plain(id, caption, [open] {
+        if (!JournalReplayer::IsReplaying())
+            open();
+    });
 }
 
 CommandEntry CommandEntry::Interactive(const std::wstring& id, const std::wstring& caption,
