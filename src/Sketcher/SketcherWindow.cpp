@@ -6,7 +6,6 @@
 #include "Ribbon/DrawingPanel.h"
 #include "Ribbon/PenPanel.h"
 #include "Ribbon/SnapPanel.h"
-#include "Ribbon/StepTips.h"
 #include "Ribbon/UnitPanel.h"
 #include "View/SketchView.h"
 
@@ -74,7 +73,6 @@ void SketcherWindow::BuildControls(const std::vector<CommandEntry>& commands, Co
     GetRibbon()->setCurrentPageIndex(1);
     BuildButtons(commands, pages, controls);
     BuildPanels(pages.drawing, controls);
-    m_panels.push_back(std::make_unique<StepTips>(commands, m_workspace.sketch, *GetRibbon()));
     BuildProgress(controls);
     controls.RefreshControls();
 }

@@ -42,12 +42,6 @@ void Undo(Sketch& sketch)
     ActionManager::StepDone();
 }
 
-void Redo(Sketch& sketch)
-{
-    JournalManager::GetInstance().Add(RedoRecord{sketch.Redo()});
-    ActionManager::StepDone();
-}
-
 void SetProperty(Sketch& sketch, const CommandParameters& parameters)
 {
     const std::optional<EntityEdit> edit = EntityEdit::From(parameters);
@@ -110,12 +104,6 @@ std::vector<CommandEntry> MakeEditCommands(Workspace& workspace)
             .WithKeys(L"Ctrl+Z")
             .InGroup(L"编辑")
             .EnabledWhile([&sketch] { return sketch.CanUndo(); }),
-        CommandEntry::Plain(L"Sketcher.Redo", L"重做", [&sketch] { Redo(sketch); })
-            .WithIcon(L"redo")
-            .WithToolTip(L"重做撤销的一步")
-            .WithKeys(L"Ctrl+Y")
-            .InGroup(L"编辑")
-            .EnabledWhile([&sketch] { return sketch.CanRedo(); }),
         Begin<RotateAction>(L"Sketcher.Rotate", L"旋转", workspace)
             .WithIcon(L"rotate")
             .WithToolTip(L"旋转：将所选图元绕一点转到另一方向，或键入角度")
