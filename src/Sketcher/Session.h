@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Documents/Documents.h"
 #include "KeepingMonitor.h"
 #include "Model/Workspace.h"
 #include "Options.h"
@@ -42,6 +43,7 @@ public:
     bool VerifyUndo(const vesk::UndoRecord& record) override;
 
 private:
+    void MakeDocuments();
     bool OpenFiles();
     bool OpenLog();
     bool ReadJournal(const QString& path);
@@ -76,6 +78,7 @@ private:
     const std::unique_ptr<vesk::IDockManager> m_pDocks;
     vesk::ControlHost m_controls;
     std::unique_ptr<Panes> m_pPanes;
+    std::unique_ptr<Documents> m_pDocuments;
     std::unique_ptr<vesk::UiTreeWriter> m_pUiTree;
     std::unique_ptr<WarningRaiser> m_pWarningRaiser;
     ReadingMonitor* m_pReading = nullptr; ///< Set while a drawing is opened; not owned.

@@ -77,6 +77,13 @@ void SketcherWindow::BuildControls(const std::vector<CommandEntry>& commands, Co
     controls.RefreshControls();
 }
 
+void SketcherWindow::ShowDocument(const QString& name, bool isModified)
+{
+    m_documentName = name;
+    OnSketchChanged();
+    setWindowModified(isModified);
+}
+
 void SketcherWindow::ReleaseControls()
 {
     m_pProgress = nullptr;
@@ -155,5 +162,9 @@ void SketcherWindow::BuildProgress(ControlHost& controls)
 
 void SketcherWindow::OnSketchChanged()
 {
-    setWindowTitle(QStringLiteral("%1 - Sketcher").arg(ToQString(m_workspace.sketch.GetName())));
+    QString name =
+        m_documentName.isEmpty() ? ToQString(m_workspace.sketch.GetName()) : m_documentName;
+    // A name that looks like the place of the mark is not one.
+    name.replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
+    setWindowTitle(name + QStringLiteral("[*] - Sketcher"));
 }

@@ -49,6 +49,9 @@ public:
     /// The button that shows all panes, with their menu; null if there is none. Not owned.
     QToolButton* GetPaneButton() const { return m_pPaneButton; }
 
+    /// Shows the name of the file that the drawing is in; without one, that of the drawing.
+    void ShowDocument(const QString& name, bool isModified);
+
     /// Drops all references to the controls before they are destroyed.
     void ReleaseControls();
 
@@ -75,6 +78,7 @@ private:
     Workspace& m_workspace;
     SketchView* m_pView;
     vesk::RibbonFocus m_ribbonFocus;
+    QString m_documentName;
     vesk::ProgressBarDefinition* m_pProgress = nullptr;
     QToolButton* m_pPaneButton = nullptr;
     std::vector<std::unique_ptr<QObject>> m_panels;
