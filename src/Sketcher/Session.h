@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Documents/Documents.h"
 #include "KeepingMonitor.h"
 #include "Model/Workspace.h"
 #include "Options.h"
@@ -50,6 +51,7 @@ public:
     std::string VerifyMark(const vesk::MarkRecord& record) override;
 
 private:
+    void MakeDocuments();
     bool OpenFiles();
     bool OpenLog();
     bool ReadJournal(const QString& path);
@@ -88,6 +90,7 @@ private:
     vesk::ControlHost m_controls;
     SettingsApplier m_settingsApplier;
     std::unique_ptr<Panes> m_pPanes;
+    std::unique_ptr<Documents> m_pDocuments;
     std::unique_ptr<vesk::UiTreeWriter> m_pUiTree;
     std::unique_ptr<WarningRaiser> m_pWarningRaiser;
     ReadingMonitor* m_pReading = nullptr; ///< Set while a drawing is opened; not owned.

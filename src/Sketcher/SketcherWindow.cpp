@@ -99,6 +99,13 @@ void SketcherWindow::ChooseUnit(const std::wstring& symbol)
         m_pUnits->Choose(symbol);
 }
 
+void SketcherWindow::ShowDocument(const QString& name, bool isModified)
+{
+    m_documentName = name;
+    OnSketchChanged();
+    setWindowModified(isModified);
+}
+
 void SketcherWindow::ReleaseControls()
 {
     m_pContextMenu.reset();
@@ -191,5 +198,9 @@ void SketcherWindow::BuildProgress(ControlHost& controls)
 
 void SketcherWindow::OnSketchChanged()
 {
-    setWindowTitle(QStringLiteral("%1 - Sketcher").arg(ToQString(m_workspace.sketch.GetName())));
+    QString name =
+        m_documentName.isEmpty() ? ToQString(m_workspace.sketch.GetName()) : m_documentName;
+    // A name that looks like the place of the mark is not one.
+    name.replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
+    setWindowTitle(name + QStringLiteral("[*] - Sketcher"));
 }

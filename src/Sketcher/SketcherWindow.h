@@ -61,6 +61,9 @@ public:
     void ChooseSnaps(const std::array<bool, Snapper::KindCount>& snaps);
     void ChooseUnit(const std::wstring& symbol);
 
+    /// Shows the name of the file that the drawing is in; without one, that of the drawing.
+    void ShowDocument(const QString& name, bool isModified);
+
     /// Drops all references to the controls before they are destroyed.
     void ReleaseControls();
 
@@ -88,6 +91,7 @@ private:
     Workspace& m_workspace;
     SketchView* m_pView;
     vesk::RibbonFocus m_ribbonFocus;
+    QString m_documentName;
     vesk::ProgressBarDefinition* m_pProgress = nullptr;
     QToolButton* m_pPaneButton = nullptr;
     std::unique_ptr<ContextMenu> m_pContextMenu;
