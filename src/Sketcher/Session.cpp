@@ -3,6 +3,7 @@
 #include "DataFile.h"
 #include "Model/EntityEdit.h"
 #include "Model/ModelFile.h"
+#include "Output/PictureExport.h"
 #include "Ribbon/CommandTable.h"
 #include "VeskUiQtImpl/DockManagerImpl.h"
 #include "View/SketchView.h"
@@ -79,7 +80,8 @@ bool WritePicture(const QPixmap& picture, const QString& path)
 Session::Session(const Options& options)
     : m_options(options), m_journal(options),
       m_translations(SharedFile(QStringLiteral("translations")), QStringLiteral("sketcher")),
-      m_window(m_workspace, m_input), m_pDocks(std::make_unique<DockManagerImpl>(&m_window))
+      m_window(m_workspace, m_input), m_pDocks(std::make_unique<DockManagerImpl>(&m_window)),
+      m_clipboard(m_workspace, [this](const QString& text) { m_window.ShowNotice(text); })
 {
     LoadPublishConfig(SharedFile(QStringLiteral("publish.ini")));
     m_host.GetViewManager().AddView(&m_window.GetView());
@@ -95,6 +97,11 @@ Session::Session(const Options& options)
     std::vector<CommandEntry> commands = MakeCommandTable(m_workspace, m_window.GetView(), m_input);
     for (CommandEntry& entry : m_pPanes->MakeCommands())
         commands.push_back(std::move(entry));
+    for (CommandEntry& entry : m_clipboard.MakeCommands())
+        commands.push_back(std::move(entry));
+    m_clipboard.SetPicture([](const SketchContent& content) {
+        return MakeSvg(content, [](double) { return true; }).bytes;
+    });
     RegisterCommands(commands);
     m_window.BuildControls(commands, m_controls);
     if (QToolButton* pButton = m_window.GetPaneButton())

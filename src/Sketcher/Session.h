@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Clipboard/ClipboardCommands.h"
 #include "KeepingMonitor.h"
 #include "Model/Workspace.h"
 #include "Options.h"
@@ -76,6 +77,7 @@ private:
     const std::unique_ptr<vesk::IDockManager> m_pDocks;
     vesk::ControlHost m_controls;
     std::unique_ptr<Panes> m_pPanes;
+    ClipboardCommands m_clipboard;
     std::unique_ptr<vesk::UiTreeWriter> m_pUiTree;
     std::unique_ptr<WarningRaiser> m_pWarningRaiser;
     ReadingMonitor* m_pReading = nullptr; ///< Set while a drawing is opened; not owned.
