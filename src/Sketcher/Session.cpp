@@ -1,6 +1,7 @@
 #include "Session.h"
 
 #include "DataFile.h"
+#include "Help/HelpCommands.h"
 #include "Model/EntityEdit.h"
 #include "Model/ModelFile.h"
 #include "Output/PictureExport.h"
@@ -53,6 +54,19 @@ QString LayoutPath()
            QStringLiteral("/layout.json");
 }
 
+/// The settings file if somebody is there whose settings it has; a replay, and a program that is
+/// driven, do the same for everyone.
+QString SettingsToRead(const Options& options)
+{
+    const bool isAttended = qEnvironmentVariable("VESK_UNATTENDED") != QLatin1String("1");
+    return options.task == Options::Task::Replay || !isAttended ? QString() : SettingsPath();
+}
+
+QLocale LocaleOf(const Settings& settings)
+{
+    return settings.language.isEmpty() ? QLocale() : QLocale(settings.language);
+}
+
 void Complain(const std::string& text)
 {
     std::cerr << "sketcher: " << text << std::endl;
@@ -78,9 +92,11 @@ bool WritePicture(const QPixmap& picture, const QString& path)
 }
 
 Session::Session(const Options& options)
-    : m_options(options), m_journal(options),
-      m_translations(SharedFile(QStringLiteral("translations")), QStringLiteral("sketcher")),
+    : m_options(options), m_settings(SettingsToRead(options), SettingsPath()), m_journal(options),
+      m_translations(SharedFile(QStringLiteral("translations")), QStringLiteral("sketcher"),
+                     LocaleOf(m_settings.Get())),
       m_window(m_workspace, m_input), m_pDocks(std::make_unique<DockManagerImpl>(&m_window)),
+      m_settingsApplier(m_settings, m_window, m_input, SharedFile(QStringLiteral("translations"))),
       m_clipboard(m_workspace, [this](const QString& text) { m_window.ShowNotice(text); })
 {
     LoadPublishConfig(SharedFile(QStringLiteral("publish.ini")));
@@ -102,8 +118,12 @@ Session::Session(const Options& options)
     m_clipboard.SetPicture([](const SketchContent& content) {
         return MakeSvg(content, [](double) { return true; }).bytes;
     });
+    commands.push_back(m_settingsApplier.MakeCommand());
+    for (CommandEntry& entry : MakeHelpCommands(commands, m_window))
+        commands.push_back(std::move(entry));
     RegisterCommands(commands);
     m_window.BuildControls(commands, m_controls);
+    m_settingsApplier.Apply(Settings());
     if (QToolButton* pButton = m_window.GetPaneButton())
         m_pPanes->Attend(*pButton);
     if (!m_options.uiTree.isEmpty())

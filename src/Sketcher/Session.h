@@ -7,6 +7,8 @@
 #include "Panes/Panes.h"
 #include "ReadingMonitor.h"
 #include "SessionJournal.h"
+#include "Settings/SettingsStore.h"
+#include "SettingsApplier.h"
 #include "SketcherWindow.h"
 #include "WarningRaiser.h"
 
@@ -61,6 +63,7 @@ private:
     bool WriteResults();
 
     const Options m_options;
+    SettingsStore m_settings;
     SessionJournal m_journal;
     std::vector<vesk::JournalRecord> m_records;
 
@@ -76,6 +79,7 @@ private:
     SketcherWindow m_window;
     const std::unique_ptr<vesk::IDockManager> m_pDocks;
     vesk::ControlHost m_controls;
+    SettingsApplier m_settingsApplier;
     std::unique_ptr<Panes> m_pPanes;
     ClipboardCommands m_clipboard;
     std::unique_ptr<vesk::UiTreeWriter> m_pUiTree;

@@ -3,7 +3,9 @@
 #include "Foundation/OwnerPtr.h"
 #include "HostUi/MainWindow.h"
 #include "HostUi/RibbonFocus.h"
+#include "Model/Snapper.h"
 
+#include <array>
 #include <memory>
 #include <string>
 #include <vector>
@@ -11,6 +13,8 @@
 class ContextMenu;
 class QToolButton;
 class SketchView;
+class SnapPanel;
+class UnitPanel;
 struct CommandEntry;
 struct Workspace;
 
@@ -53,6 +57,10 @@ public:
     /// Opens the menu of what is selected at a point of the screen.
     void ShowContextMenu(const QPoint& position);
 
+    /// Switches exactly these snaps on, or chooses the unit with that symbol, in the ribbon.
+    void ChooseSnaps(const std::array<bool, Snapper::KindCount>& snaps);
+    void ChooseUnit(const std::wstring& symbol);
+
     /// Drops all references to the controls before they are destroyed.
     void ReleaseControls();
 
@@ -83,4 +91,6 @@ private:
     QToolButton* m_pPaneButton = nullptr;
     std::unique_ptr<ContextMenu> m_pContextMenu;
     std::vector<std::unique_ptr<QObject>> m_panels;
+    SnapPanel* m_pSnaps = nullptr; ///< These two are among the panels.
+    UnitPanel* m_pUnits = nullptr;
 };
