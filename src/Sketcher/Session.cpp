@@ -6,6 +6,7 @@
 #include "Documents/DocumentCommands.h"
 #include "Model/KeptContent.h"
 #include "Model/ModelFile.h"
+#include "Output/PictureExport.h"
 #include "Ribbon/CommandTable.h"
 #include "VeskUiQtImpl/DockManagerImpl.h"
 #include "View/SketchView.h"
@@ -106,7 +107,8 @@ Session::Session(const Options& options)
       m_translations(SharedFile(QStringLiteral("translations")), QStringLiteral("sketcher"),
                      LocaleOf(m_settings.Get())),
       m_window(m_workspace, m_input), m_pDocks(std::make_unique<DockManagerImpl>(&m_window)),
-      m_settingsApplier(m_settings, m_window, m_input, SharedFile(QStringLiteral("translations")))
+      m_settingsApplier(m_settings, m_window, m_input, SharedFile(QStringLiteral("translations"))),
+      m_clipboard(m_workspace, [this](const QString& text) { m_window.ShowNotice(text); })
 {
     LoadPublishConfig(SharedFile(QStringLiteral("publish.ini")));
     m_host.GetViewManager().AddView(&m_window.GetView());
@@ -125,6 +127,11 @@ Session::Session(const Options& options)
     MakeDocuments();
     for (CommandEntry& entry : MakeDocumentCommands(*m_pDocuments))
         commands.push_back(std::move(entry));
+    for (CommandEntry& entry : m_clipboard.MakeCommands())
+        commands.push_back(std::move(entry));
+    m_clipboard.SetPicture([](const SketchContent& content) {
+        return MakeSvg(content, [](double) { return true; }).bytes;
+    });
     commands.push_back(m_settingsApplier.MakeCommand());
     for (CommandEntry& entry : MakeHelpCommands(commands, m_window))
         commands.push_back(std::move(entry));

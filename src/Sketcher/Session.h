@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Clipboard/ClipboardCommands.h"
 #include "Documents/Documents.h"
 #include "KeepingMonitor.h"
 #include "Model/Workspace.h"
@@ -91,6 +92,7 @@ private:
     SettingsApplier m_settingsApplier;
     std::unique_ptr<Panes> m_pPanes;
     std::unique_ptr<Documents> m_pDocuments;
+    ClipboardCommands m_clipboard;
     std::unique_ptr<vesk::UiTreeWriter> m_pUiTree;
     std::unique_ptr<WarningRaiser> m_pWarningRaiser;
     ReadingMonitor* m_pReading = nullptr; ///< Set while a drawing is opened; not owned.
