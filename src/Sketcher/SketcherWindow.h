@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+class QLabel;
 class QToolButton;
 class SketchView;
 class SnapPanel;
@@ -78,11 +79,14 @@ private:
                          Qtitan::RibbonGroup& group, vesk::ControlHost& controls);
     void BuildPanels(Qtitan::RibbonPage& page, vesk::ControlHost& controls);
     void BuildProgress(vesk::ControlHost& controls);
+    void BuildPointedText();
+    void ShowPointed();
     void OnSketchChanged();
 
     Workspace& m_workspace;
     SketchView* m_pView;
     vesk::RibbonFocus m_ribbonFocus;
+    QLabel* m_pPointed; ///< What is under the cursor, in the status bar.
     vesk::ProgressBarDefinition* m_pProgress = nullptr;
     QToolButton* m_pPaneButton = nullptr;
     std::vector<std::unique_ptr<QObject>> m_panels;

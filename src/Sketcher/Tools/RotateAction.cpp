@@ -102,6 +102,13 @@ OwnerPtr<IGraphicsNodeGroup> RotateAction::CreateRubberBand() const
     return opGroup;
 }
 
+IPickingTool::Click RotateAction::GetClick() const
+{
+    if (m_hovered != 0)
+        return Click::PicksEntity;
+    return IsNothingSelected() ? Click::DoesNothing : Click::SetsPoint;
+}
+
 std::optional<Vector3d> RotateAction::GetStart() const
 {
     return m_from.has_value() ? m_from : m_centre;

@@ -2,6 +2,7 @@
 
 #include "Tools/DrawingAction.h"
 
+#include "Model/PickingTool.h"
 #include "Model/Shape.h"
 
 #include <utility>
@@ -12,7 +13,7 @@
 ///
 /// With nothing selected it first selects entities: each clicked entity is added, until a click
 /// elsewhere sets the centre.
-class RotateAction final : public DrawingAction
+class RotateAction final : public DrawingAction, public IPickingTool
 {
 public:
     /// The workspace is not owned and outlives the action.
@@ -26,6 +27,7 @@ public:
     bool ReplayPoint(const vesk::Vector3d& world, const std::optional<int>& entity) override;
     vesk::OwnerPtr<vesk::ITemporaryDimensionContext> CreateDimensionContext() const override;
     vesk::OwnerPtr<vesk::IGraphicsNodeGroup> CreateRubberBand() const override;
+    Click GetClick() const override;
 
 protected:
     std::optional<vesk::Vector3d> GetStart() const override;
