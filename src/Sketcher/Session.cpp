@@ -106,6 +106,8 @@ Session::Session(const Options& options)
     m_application.SetDockManager(m_pDocks.get());
     m_pPanes = std::make_unique<Panes>(m_workspace, m_window, *m_pDocks, m_controls, m_input);
     QObject::connect(&m_window, &SketcherWindow::unitChanged, m_pPanes.get(), &Panes::Refresh);
+    QObject::connect(m_pPanes.get(), &Panes::menuRequested, &m_window,
+                     &SketcherWindow::ShowContextMenu);
     std::vector<CommandEntry> commands = MakeCommandTable(m_workspace, m_window.GetView(), m_input);
     for (CommandEntry& entry : m_pPanes->MakeCommands())
         commands.push_back(std::move(entry));

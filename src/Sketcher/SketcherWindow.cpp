@@ -3,6 +3,7 @@
 #include "Model/Workspace.h"
 #include "Ribbon/CommandMenus.h"
 #include "Ribbon/CommandTable.h"
+#include "Ribbon/ContextMenu.h"
 #include "Ribbon/DrawingPanel.h"
 #include "Ribbon/PenPanel.h"
 #include "Ribbon/SnapPanel.h"
@@ -77,7 +78,14 @@ void SketcherWindow::BuildControls(const std::vector<CommandEntry>& commands, Co
     BuildButtons(commands, pages, controls);
     BuildPanels(pages.drawing, controls);
     BuildProgress(controls);
+    m_pContextMenu = std::make_unique<ContextMenu>(commands, *m_pView);
     controls.RefreshControls();
+}
+
+void SketcherWindow::ShowContextMenu(const QPoint& position)
+{
+    if (m_pContextMenu != nullptr)
+        m_pContextMenu->Show(position);
 }
 
 void SketcherWindow::ChooseSnaps(const std::array<bool, Snapper::KindCount>& snaps)
@@ -94,6 +102,7 @@ void SketcherWindow::ChooseUnit(const std::wstring& symbol)
 
 void SketcherWindow::ReleaseControls()
 {
+    m_pContextMenu.reset();
     m_pProgress = nullptr;
     m_pPaneButton = nullptr;
     m_pSnaps = nullptr;

@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+class ContextMenu;
 class QLabel;
 class QToolButton;
 class SketchView;
@@ -54,6 +55,9 @@ public:
     /// The button that shows all panes, with their menu; null if there is none. Not owned.
     QToolButton* GetPaneButton() const { return m_pPaneButton; }
 
+    /// Opens the menu of what is selected at a point of the screen.
+    void ShowContextMenu(const QPoint& position);
+
     /// Switches exactly these snaps on, or chooses the unit with that symbol, in the ribbon.
     void ChooseSnaps(const std::array<bool, Snapper::KindCount>& snaps);
     void ChooseUnit(const std::wstring& symbol);
@@ -89,6 +93,7 @@ private:
     QLabel* m_pPointed; ///< What is under the cursor, in the status bar.
     vesk::ProgressBarDefinition* m_pProgress = nullptr;
     QToolButton* m_pPaneButton = nullptr;
+    std::unique_ptr<ContextMenu> m_pContextMenu;
     std::vector<std::unique_ptr<QObject>> m_panels;
     SnapPanel* m_pSnaps = nullptr; ///< These two are among the panels.
     UnitPanel* m_pUnits = nullptr;

@@ -13,11 +13,14 @@
 #include "Command/IAction.h"
 #include "Command/IActionManager.h"
 
+#include <QContextMenuEvent>
+#include <QCoreApplication>
 #include <QMouseEvent>
 #include <QPainter>
 
 #include <cmath>
 #include <optional>
+#include <utility>
 
 using vesk::IActionManager;
 using vesk::Vector3d;
@@ -39,6 +42,7 @@ SketchView::SketchView(Workspace& workspace, vesk::DimensionInputController& inp
     : DrawingView(1, input, pParent), m_workspace(workspace), m_mouse(workspace, *this)
 {
     setObjectName(QStringLiteral("SketchView"));
+    qApp->installEventFilter(this);
     connect(&workspace.sketch, &Sketch::changed, this, &SketchView::UpdateModel);
     connect(&workspace.selection, &Selection::changed, this, &SketchView::UpdateModel);
     connect(&workspace.sketch, &Sketch::changed, this, &SketchView::TellCursor);
@@ -111,8 +115,37 @@ QCursor SketchView::GetRestingCursor() const
     }
 }
 
+void SketchView::OnFreeConfirm()
+{
+    emit repeatRequested();
+}
+
+void SketchView::contextMenuEvent(QContextMenuEvent* pEvent)
+{
+    if (IActionManager::CurrentAction() != nullptr || m_mouse.IsPressed())
+    {
+        DrawingView::contextMenuEvent(pEvent);
+        return;
+    }
+    if (pEvent->reason() == QContextMenuEvent::Mouse)
+        SelectBelow(pEvent->pos());
+    emit menuRequested(pEvent->globalPos());
+}
+
+/// Shift may be released in the editor of a value.
+bool SketchView::eventFilter(QObject* pWatched, QEvent* pEvent)
+{
+    if (pEvent->type() != QEvent::KeyRelease)
+        return DrawingView::eventFilter(pWatched, pEvent);
+    const bool isShift = static_cast<const QKeyEvent*>(pEvent)->key() == Qt::Key_Shift;
+    if (isShift && std::exchange(m_workspace.isDirectionHeld, false))
+        PassCursor();
+    return false;
+}
+
 void SketchView::mouseMoveEvent(QMouseEvent* pEvent)
 {
+    m_workspace.isDirectionHeld = pEvent->modifiers().testFlag(Qt::ShiftModifier);
     DrawingView::mouseMoveEvent(pEvent);
     UpdateCursor();
     if (!m_mouse.IsPressed())
@@ -125,6 +158,12 @@ void SketchView::mouseMoveEvent(QMouseEvent* pEvent)
     }
     m_mouse.MoveTo(GetCamera().ScreenToWorld(pEvent->localPos().x(), pEvent->localPos().y()));
     update();
+}
+
+void SketchView::mousePressEvent(QMouseEvent* pEvent)
+{
+    m_workspace.isDirectionHeld = pEvent->modifiers().testFlag(Qt::ShiftModifier);
+    DrawingView::mousePressEvent(pEvent);
 }
 
 void SketchView::mouseReleaseEvent(QMouseEvent* pEvent)
@@ -154,6 +193,15 @@ void SketchView::DropPress()
 {
     m_mouse.Drop();
     update();
+}
+
+/// An entity that is not selected yet is selected, so that the menu is about it.
+void SketchView::SelectBelow(const QPoint& pixel)
+{
+    const int picked =
+        PickEntity(m_workspace.sketch, GetCamera().ScreenToWorld(pixel.x(), pixel.y()), this);
+    if (picked != 0 && !m_workspace.selection.Contains(picked))
+        m_workspace.selection.Select({picked});
 }
 
 void SketchView::PaintGrid(QPainter& painter) const

@@ -9,7 +9,8 @@ struct Entity;
 struct Workspace;
 
 /// Shows the drawing over a grid. With no action running the mouse selects; Escape cancels a drag,
-/// else it clears the selection.
+/// else it clears the selection. While the mouse moves with Shift, directions are held to multiples
+/// of 15 degrees.
 ///
 /// The cursor says what a click does: a hand picks the entity below it, a cross sets a point, an
 /// arrow begins a box, and a forbidding sign does nothing.
@@ -34,20 +35,30 @@ signals:
     /// The cursor points at another entity, or that entity has changed.
     void pointedChanged();
 
+    /// With no action running: the user wants the last tool again, or the menu of what is selected,
+    /// at a point of the screen.
+    void repeatRequested();
+    void menuRequested(const QPoint& position);
+
 protected:
     void PaintModel(QPainter& painter) override;
     void PaintOverlay(QPainter& painter) override;
     void OnFreeClick(const vesk::Vector3d& world, Qt::KeyboardModifiers modifiers) override;
     void OnFreeEscape() override;
+    void OnFreeConfirm() override;
     QCursor GetRestingCursor() const override;
 
+    void contextMenuEvent(QContextMenuEvent* pEvent) override;
+    bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
     void mouseMoveEvent(QMouseEvent* pEvent) override;
+    void mousePressEvent(QMouseEvent* pEvent) override;
     void mouseReleaseEvent(QMouseEvent* pEvent) override;
 
 private:
     void OnCursorMoved(double x, double y);
     void SetPointed(int entity);
     void DropPress();
+    void SelectBelow(const QPoint& pixel);
     void PaintGrid(QPainter& painter) const;
     void PaintGridLines(QPainter& painter, double step, const QColor& color) const;
     void PaintAxes(QPainter& painter) const;
