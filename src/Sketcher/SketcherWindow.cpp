@@ -9,6 +9,7 @@
 #include "Ribbon/SnapPanel.h"
 #include "Ribbon/StepTips.h"
 #include "Ribbon/UnitPanel.h"
+#include "View/EntityText.h"
 #include "View/SketchView.h"
 
 #include "Control/CommandButtonDefinition.h"
@@ -21,6 +22,7 @@
 #include "Qtitan/RibbonPage.h"
 
 #include <QIcon>
+#include <QLabel>
 #include <QShortcut>
 #include <QStatusBar>
 #include <QToolButton>
@@ -56,11 +58,12 @@ OwnerPtr<CommandButtonDefinition> MakeDefinition(const CommandEntry& entry)
 
 SketcherWindow::SketcherWindow(Workspace& workspace, DimensionInputController& input)
     : m_workspace(workspace), m_pView(new SketchView(workspace, input, this)),
-      m_ribbonFocus(*GetRibbon(), *m_pView, input)
+      m_ribbonFocus(*GetRibbon(), *m_pView, input), m_pPointed(new QLabel)
 {
     LoadIcons();
     setWindowIcon(QIcon(QStringLiteral(":/icons/sketcher.svg")));
     SetDrawingView(m_pView);
+    BuildPointedText();
     resize(1200, 800);
     connect(&workspace.sketch, &Sketch::changed, this, &SketcherWindow::OnSketchChanged);
     OnSketchChanged();
@@ -194,6 +197,22 @@ void SketcherWindow::BuildProgress(ControlHost& controls)
         return;
     statusBar()->insertPermanentWidget(1, pWidget);
     m_pProgress = pProgress;
+}
+
+void SketcherWindow::BuildPointedText()
+{
+    m_pPointed->setObjectName(QStringLiteral("Pointed"));
+    // The window does not grow for it.
+    m_pPointed->setMinimumWidth(1);
+    statusBar()->insertPermanentWidget(1, m_pPointed);
+    connect(m_pView, &SketchView::pointedChanged, this, &SketcherWindow::ShowPointed);
+    connect(this, &SketcherWindow::unitChanged, this, &SketcherWindow::ShowPointed);
+}
+
+void SketcherWindow::ShowPointed()
+{
+    const Entity* pEntity = m_workspace.sketch.Find(m_pView->GetPointed());
+    m_pPointed->setText(pEntity != nullptr ? DescribeEntity(*pEntity) : QString());
 }
 
 void SketcherWindow::OnSketchChanged()

@@ -11,6 +11,7 @@
 #include <vector>
 
 class ContextMenu;
+class QLabel;
 class QToolButton;
 class SketchView;
 class SnapPanel;
@@ -86,12 +87,15 @@ private:
                          Qtitan::RibbonGroup& group, vesk::ControlHost& controls);
     void BuildPanels(Qtitan::RibbonPage& page, vesk::ControlHost& controls);
     void BuildProgress(vesk::ControlHost& controls);
+    void BuildPointedText();
+    void ShowPointed();
     void OnSketchChanged();
 
     Workspace& m_workspace;
     SketchView* m_pView;
     vesk::RibbonFocus m_ribbonFocus;
     QString m_documentName;
+    QLabel* m_pPointed; ///< What is under the cursor, in the status bar.
     vesk::ProgressBarDefinition* m_pProgress = nullptr;
     QToolButton* m_pPaneButton = nullptr;
     std::unique_ptr<ContextMenu> m_pContextMenu;
