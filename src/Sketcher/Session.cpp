@@ -1,6 +1,7 @@
 #include "Session.h"
 
 #include "DataFile.h"
+#include "Help/HelpCommands.h"
 #include "Model/EntityEdit.h"
 #include "Model/ModelFile.h"
 #include "Ribbon/CommandTable.h"
@@ -52,6 +53,19 @@ QString LayoutPath()
            QStringLiteral("/layout.json");
 }
 
+/// The settings file if somebody is there whose settings it has; a replay, and a program that is
+/// driven, do the same for everyone.
+QString SettingsToRead(const Options& options)
+{
+    const bool isAttended = qEnvironmentVariable("VESK_UNATTENDED") != QLatin1String("1");
+    return options.task == Options::Task::Replay || !isAttended ? QString() : SettingsPath();
+}
+
+QLocale LocaleOf(const Settings& settings)
+{
+    return settings.language.isEmpty() ? QLocale() : QLocale(settings.language);
+}
+
 void Complain(const std::string& text)
 {
     std::cerr << "sketcher: " << text << std::endl;
@@ -77,9 +91,11 @@ bool WritePicture(const QPixmap& picture, const QString& path)
 }
 
 Session::Session(const Options& options)
-    : m_options(options), m_journal(options),
-      m_translations(SharedFile(QStringLiteral("translations")), QStringLiteral("sketcher")),
-      m_window(m_workspace, m_input), m_pDocks(std::make_unique<DockManagerImpl>(&m_window))
+    : m_options(options), m_settings(SettingsToRead(options), SettingsPath()), m_journal(options),
+      m_translations(SharedFile(QStringLiteral("translations")), QStringLiteral("sketcher"),
+                     LocaleOf(m_settings.Get())),
+      m_window(m_workspace, m_input), m_pDocks(std::make_unique<DockManagerImpl>(&m_window)),
+      m_settingsApplier(m_settings, m_window, m_input, SharedFile(QStringLiteral("translations")))
 {
     LoadPublishConfig(SharedFile(QStringLiteral("publish.ini")));
     m_host.GetViewManager().AddView(&m_window.GetView());
@@ -90,11 +106,17 @@ Session::Session(const Options& options)
     m_application.SetDockManager(m_pDocks.get());
     m_pPanes = std::make_unique<Panes>(m_workspace, m_window, *m_pDocks, m_controls, m_input);
     QObject::connect(&m_window, &SketcherWindow::unitChanged, m_pPanes.get(), &Panes::Refresh);
+    QObject::connect(m_pPanes.get(), &Panes::menuRequested, &m_window,
+                     &SketcherWindow::ShowContextMenu);
     std::vector<CommandEntry> commands = MakeCommandTable(m_workspace, m_window.GetView(), m_input);
     for (CommandEntry& entry : m_pPanes->MakeCommands())
         commands.push_back(std::move(entry));
+    commands.push_back(m_settingsApplier.MakeCommand());
+    for (CommandEntry& entry : MakeHelpCommands(commands, m_window))
+        commands.push_back(std::move(entry));
     RegisterCommands(commands);
     m_window.BuildControls(commands, m_controls);
+    m_settingsApplier.Apply(Settings());
     if (QToolButton* pButton = m_window.GetPaneButton())
         m_pPanes->Attend(*pButton);
     if (!m_options.uiTree.isEmpty())

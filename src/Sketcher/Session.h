@@ -6,6 +6,8 @@
 #include "Panes/Panes.h"
 #include "ReadingMonitor.h"
 #include "SessionJournal.h"
+#include "Settings/SettingsStore.h"
+#include "SettingsApplier.h"
 #include "SketcherWindow.h"
 #include "WarningRaiser.h"
 
@@ -60,6 +62,7 @@ private:
     bool WriteResults();
 
     const Options m_options;
+    SettingsStore m_settings;
     SessionJournal m_journal;
     std::vector<vesk::JournalRecord> m_records;
 
@@ -75,6 +78,7 @@ private:
     SketcherWindow m_window;
     const std::unique_ptr<vesk::IDockManager> m_pDocks;
     vesk::ControlHost m_controls;
+    SettingsApplier m_settingsApplier;
     std::unique_ptr<Panes> m_pPanes;
     std::unique_ptr<vesk::UiTreeWriter> m_pUiTree;
     std::unique_ptr<WarningRaiser> m_pWarningRaiser;

@@ -3,6 +3,7 @@
 #include "Model/Workspace.h"
 #include "Ribbon/CommandMenus.h"
 #include "Ribbon/CommandTable.h"
+#include "Ribbon/ContextMenu.h"
 #include "Ribbon/DrawingPanel.h"
 #include "Ribbon/PenPanel.h"
 #include "Ribbon/SnapPanel.h"
@@ -74,13 +75,35 @@ void SketcherWindow::BuildControls(const std::vector<CommandEntry>& commands, Co
     BuildButtons(commands, pages, controls);
     BuildPanels(pages.drawing, controls);
     BuildProgress(controls);
+    m_pContextMenu = std::make_unique<ContextMenu>(commands, *m_pView);
     controls.RefreshControls();
+}
+
+void SketcherWindow::ShowContextMenu(const QPoint& position)
+{
+    if (m_pContextMenu != nullptr)
+        m_pContextMenu->Show(position);
+}
+
+void SketcherWindow::ChooseSnaps(const std::array<bool, Snapper::KindCount>& snaps)
+{
+    if (m_pSnaps != nullptr)
+        m_pSnaps->Choose(snaps);
+}
+
+void SketcherWindow::ChooseUnit(const std::wstring& symbol)
+{
+    if (m_pUnits != nullptr)
+        m_pUnits->Choose(symbol);
 }
 
 void SketcherWindow::ReleaseControls()
 {
+    m_pContextMenu.reset();
     m_pProgress = nullptr;
     m_pPaneButton = nullptr;
+    m_pSnaps = nullptr;
+    m_pUnits = nullptr;
     m_panels.clear();
 }
 
@@ -131,10 +154,13 @@ void SketcherWindow::BuildPanels(Qtitan::RibbonPage& page, ControlHost& controls
     m_panels.push_back(
         std::make_unique<PenPanel>(m_workspace, *page.addGroup(QStringLiteral("线条")), controls));
     Qtitan::RibbonGroup* pDrafting = page.addGroup(QStringLiteral("绘图设置"));
-    m_panels.push_back(std::make_unique<SnapPanel>(m_workspace.snapper, *pDrafting, controls));
+    auto pSnaps = std::make_unique<SnapPanel>(m_workspace.snapper, *pDrafting, controls);
+    m_pSnaps = pSnaps.get();
+    m_panels.push_back(std::move(pSnaps));
     auto pUnits = std::make_unique<UnitPanel>(*m_pView, *pDrafting, controls);
     connect(pUnits.get(), &UnitPanel::unitChanged, this, &SketcherWindow::unitChanged);
     connect(pUnits.get(), &UnitPanel::unitChanged, m_pView, &vesk::DrawingView::TellCursor);
+    m_pUnits = pUnits.get();
     m_panels.push_back(std::move(pUnits));
     m_panels.push_back(std::make_unique<DrawingPanel>(
         m_workspace, *page.addGroup(QStringLiteral("图纸")), controls));

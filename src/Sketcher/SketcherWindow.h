@@ -3,13 +3,18 @@
 #include "Foundation/OwnerPtr.h"
 #include "HostUi/MainWindow.h"
 #include "HostUi/RibbonFocus.h"
+#include "Model/Snapper.h"
 
+#include <array>
 #include <memory>
 #include <string>
 #include <vector>
 
+class ContextMenu;
 class QToolButton;
 class SketchView;
+class SnapPanel;
+class UnitPanel;
 struct CommandEntry;
 struct Workspace;
 
@@ -49,6 +54,13 @@ public:
     /// The button that shows all panes, with their menu; null if there is none. Not owned.
     QToolButton* GetPaneButton() const { return m_pPaneButton; }
 
+    /// Opens the menu of what is selected at a point of the screen.
+    void ShowContextMenu(const QPoint& position);
+
+    /// Switches exactly these snaps on, or chooses the unit with that symbol, in the ribbon.
+    void ChooseSnaps(const std::array<bool, Snapper::KindCount>& snaps);
+    void ChooseUnit(const std::wstring& symbol);
+
     /// Drops all references to the controls before they are destroyed.
     void ReleaseControls();
 
@@ -77,5 +89,8 @@ private:
     vesk::RibbonFocus m_ribbonFocus;
     vesk::ProgressBarDefinition* m_pProgress = nullptr;
     QToolButton* m_pPaneButton = nullptr;
+    std::unique_ptr<ContextMenu> m_pContextMenu;
     std::vector<std::unique_ptr<QObject>> m_panels;
+    SnapPanel* m_pSnaps = nullptr; ///< These two are among the panels.
+    UnitPanel* m_pUnits = nullptr;
 };

@@ -9,6 +9,7 @@
 #include <QSignalBlocker>
 
 #include <algorithm>
+#include <cstddef>
 #include <limits>
 #include <memory>
 #include <utility>
@@ -102,7 +103,8 @@ std::vector<int> Sketch::AddEntities(const std::vector<PenShape>& shapes, Sketch
 
 std::vector<int> Sketch::Insert(const SketchContent& content, const std::wstring& stepName)
 {
-    if (!IsValid(content))
+    const auto freeLayerIds = static_cast<std::size_t>(GreatestId - m_content.lastLayerId);
+    if (!IsValid(content) || content.layers.size() > freeLayerIds)
         return {};
     SketchChange change;
     const std::map<int, int> layerIds = MatchLayers(content.layers, change);
@@ -312,15 +314,11 @@ void Sketch::SetName(const std::wstring& name)
         return;
     SketchChange change;
     change.name = name;
-    Push(std::move(change), 0, L"图名");
-}
-
-void Sketch::SetNameWithoutStep(const std::wstring& name)
-{
-    if (name == m_content.name)
+    if (m_isNameStep)
+    {
+        Push(std::move(change), 0, L"图名");
         return;
-    SketchChange change;
-    change.name = name;
+    }
     Exchange(change);
     emit changed();
 }
@@ -337,6 +335,7 @@ bool Sketch::Restore(SketchContent content)
     m_content = std::move(content);
     m_digest = DigestOf(m_content);
     m_lastUndone = 0;
+    m_isNameStep = true;
     {
         const QSignalBlocker noSignals(this);
         m_steps.clear();

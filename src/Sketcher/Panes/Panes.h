@@ -25,8 +25,8 @@ class Inspector;
 class MainWindow;
 }
 
-/// The panes of the window: properties, entities, journal and inspector. Creates and positions
-/// them, keeps them up to date, and provides the commands that show and hide them.
+/// The panes of the window: properties, entities, layers, journal and inspector. Creates and
+/// positions them, keeps them up to date, and provides the commands that show and hide them.
 class Panes final : public QObject, public vesk::IJournalObserver
 {
     Q_OBJECT
@@ -51,6 +51,10 @@ public:
 
     void OnRecord(const vesk::JournalRecord& record) override;
     void OnUiObject(const vesk::IJournalUiObject& object, int kind) override;
+
+signals:
+    /// The user wants the menu of what is selected, at a point of the screen.
+    void menuRequested(const QPoint& position);
 
 private:
     void Add(const std::wstring& name, const wchar_t* title,

@@ -1,19 +1,24 @@
 #include "View/SketchView.h"
 
 #include "Model/Grid.h"
-#include "Model/ShapeMeasure.h"
+#include "Model/Picking.h"
+#include "Model/SketchBounds.h"
 #include "Model/SnapPoints.h"
 #include "Model/Workspace.h"
+#include "View/ScreenPens.h"
 #include "View/ShapePainter.h"
 #include "View/SnapMarker.h"
 
 #include "Command/IActionManager.h"
 
+#include <QContextMenuEvent>
+#include <QCoreApplication>
 #include <QMouseEvent>
 #include <QPainter>
 
 #include <cmath>
-#include <cstddef>
+#include <optional>
+#include <utility>
 
 using vesk::IActionManager;
 using vesk::Vector3d;
@@ -28,14 +33,6 @@ QColor Mix(const QColor& a, const QColor& b, double share)
                             a.blueF() + (b.blueF() - a.blueF()) * share);
 }
 
-QPen MakePen(const Pen& pen, const QColor& textColour)
-{
-    const QColor& colour = LineColours()[static_cast<std::size_t>(pen.colour)].colour;
-    // Round caps take three times as long to paint.
-    return {colour.isValid() ? colour : textColour, 1.4,
-            LineStyles()[static_cast<std::size_t>(pen.style)].style, Qt::SquareCap};
-}
-
 }
 
 SketchView::SketchView(Workspace& workspace, vesk::DimensionInputController& input,
@@ -43,23 +40,15 @@ SketchView::SketchView(Workspace& workspace, vesk::DimensionInputController& inp
     : DrawingView(1, input, pParent), m_workspace(workspace), m_mouse(workspace, *this)
 {
     setObjectName(QStringLiteral("SketchView"));
+    qApp->installEventFilter(this);
     connect(&workspace.sketch, &Sketch::changed, this, &SketchView::UpdateModel);
     connect(&workspace.selection, &Selection::changed, this, &SketchView::UpdateModel);
 }
 
 void SketchView::ZoomAll()
 {
-    const std::vector<Entity>& entities = m_workspace.sketch.GetEntities();
-    if (entities.empty())
-        return;
-    ShapeBounds all = BoundsOf(entities.front().shape);
-    for (const Entity& entity : entities)
-    {
-        const ShapeBounds bounds = BoundsOf(entity.shape);
-        all.low = all.low.cwiseMin(bounds.low);
-        all.high = all.high.cwiseMax(bounds.high);
-    }
-    Fit(all.low, all.high);
+    if (const std::optional<ShapeBounds> all = BoundsOf(m_workspace.sketch))
+        Fit(all->low, all->high);
 }
 
 void SketchView::PaintModel(QPainter& painter)
@@ -91,8 +80,37 @@ void SketchView::OnFreeEscape()
         m_workspace.selection.Select({});
 }
 
+void SketchView::OnFreeConfirm()
+{
+    emit repeatRequested();
+}
+
+void SketchView::contextMenuEvent(QContextMenuEvent* pEvent)
+{
+    if (IActionManager::CurrentAction() != nullptr || m_mouse.IsPressed())
+    {
+        DrawingView::contextMenuEvent(pEvent);
+        return;
+    }
+    if (pEvent->reason() == QContextMenuEvent::Mouse)
+        SelectBelow(pEvent->pos());
+    emit menuRequested(pEvent->globalPos());
+}
+
+/// Shift may be released in the editor of a value.
+bool SketchView::eventFilter(QObject* pWatched, QEvent* pEvent)
+{
+    if (pEvent->type() != QEvent::KeyRelease)
+        return DrawingView::eventFilter(pWatched, pEvent);
+    const bool isShift = static_cast<const QKeyEvent*>(pEvent)->key() == Qt::Key_Shift;
+    if (isShift && std::exchange(m_workspace.isDirectionHeld, false))
+        PassCursor();
+    return false;
+}
+
 void SketchView::mouseMoveEvent(QMouseEvent* pEvent)
 {
+    m_workspace.isDirectionHeld = pEvent->modifiers().testFlag(Qt::ShiftModifier);
     DrawingView::mouseMoveEvent(pEvent);
     if (!m_mouse.IsPressed())
         return;
@@ -104,6 +122,12 @@ void SketchView::mouseMoveEvent(QMouseEvent* pEvent)
     }
     m_mouse.MoveTo(GetCamera().ScreenToWorld(pEvent->localPos().x(), pEvent->localPos().y()));
     update();
+}
+
+void SketchView::mousePressEvent(QMouseEvent* pEvent)
+{
+    m_workspace.isDirectionHeld = pEvent->modifiers().testFlag(Qt::ShiftModifier);
+    DrawingView::mousePressEvent(pEvent);
 }
 
 void SketchView::mouseReleaseEvent(QMouseEvent* pEvent)
@@ -120,6 +144,15 @@ void SketchView::DropPress()
 {
     m_mouse.Drop();
     update();
+}
+
+/// An entity that is not selected yet is selected, so that the menu is about it.
+void SketchView::SelectBelow(const QPoint& pixel)
+{
+    const int picked =
+        PickEntity(m_workspace.sketch, GetCamera().ScreenToWorld(pixel.x(), pixel.y()), this);
+    if (picked != 0 && !m_workspace.selection.Contains(picked))
+        m_workspace.selection.Select({picked});
 }
 
 void SketchView::PaintGrid(QPainter& painter) const
@@ -169,9 +202,12 @@ void SketchView::PaintAxes(QPainter& painter) const
 void SketchView::PaintEntities(QPainter& painter) const
 {
     const QRectF visible = GetPaintedRect();
-    const QColor textColour = palette().color(QPalette::Text);
+    ScreenPens pens(m_workspace.sketch, palette().color(QPalette::Text));
     for (const Entity& entity : m_workspace.sketch.GetEntities())
-        PaintShape(painter, MakePen(entity.pen, textColour), entity.shape, GetCamera(), visible);
+    {
+        if (const QPen* pPen = pens.Find(entity.pen))
+            PaintShape(painter, *pPen, entity.shape, GetCamera(), visible);
+    }
 }
 
 /// Paints a band below the outline, and grips at its ends and centre.
