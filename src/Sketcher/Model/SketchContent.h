@@ -23,7 +23,8 @@ bool operator==(const Entity& a, const Entity& b);
 /// text form, so that they survive reading and saving.
 struct UnknownFields
 {
-    std::string document; ///< Empty for none.
+    std::string document;   ///< Empty for none.
+    std::string currentPen; ///< The same.
     std::map<int, std::string> layers;
     std::map<int, std::string> entities;
 };

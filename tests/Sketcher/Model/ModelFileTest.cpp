@@ -30,13 +30,13 @@ private slots:
             QByteArray(
                 R"({"entities":[)"
                 R"({"type":"line","start":[0.1,0.0,0.0],"end":[3.0,4.0,0.0],)"
-                R"("style":"solid","colour":"default"},)"
+                R"("style":"solid","colour":"default","width":"0.25","layer":0},)"
                 R"({"type":"circle","centre":[1.0,2.0,0.0],"radius":0.3333333333333333,)"
-                R"("normal":[0.0,0.0,1.0],"style":"dashed","colour":"default"},)"
+                R"("normal":[0.0,0.0,1.0],"style":"dashed","colour":"default","width":"0.25","layer":0},)"
                 R"({"type":"arc","centre":[0.0,0.0,0.0],"radius":5.0,"start":[5.0,0.0,0.0],)"
-                R"("end":[0.0,5.0,0.0],"normal":[0.0,0.0,1.0],"style":"dashed","colour":"red"},)"
+                R"("end":[0.0,5.0,0.0],"normal":[0.0,0.0,1.0],"style":"dashed","colour":"red","width":"0.25","layer":0},)"
                 R"({"type":"rectangle","corners":[[0.0,0.0,0.0],[8.0,0.0,0.0],[8.0,6.0,0.0],)"
-                R"([0.0,6.0,0.0]],"style":"dashed","colour":"red"}]})"
+                R"([0.0,6.0,0.0]],"style":"dashed","colour":"red","width":"0.25","layer":0}]})"
                 "\n"));
     }
 

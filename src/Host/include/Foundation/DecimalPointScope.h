@@ -1,0 +1,26 @@
+#pragma once
+
+#include "Foundation/HostExport.h"
+
+#include <memory>
+
+namespace vesk
+{
+
+class PlainNumbersScope;
+
+/// While it exists, the C library reads and writes numbers in this thread with a decimal point,
+/// whatever the locale uses. Parsers of JSON need it.
+class VESK_HOST_API DecimalPointScope final
+{
+public:
+    DecimalPointScope();
+    ~DecimalPointScope();
+    DecimalPointScope(const DecimalPointScope&) = delete;
+    DecimalPointScope& operator=(const DecimalPointScope&) = delete;
+
+private:
+    std::unique_ptr<PlainNumbersScope> m_pScope;
+};
+
+}
