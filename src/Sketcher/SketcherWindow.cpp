@@ -68,9 +68,11 @@ SketcherWindow::~SketcherWindow() = default;
 
 void SketcherWindow::BuildControls(const std::vector<CommandEntry>& commands, ControlHost& controls)
 {
-    Qtitan::RibbonPage* pPage = GetRibbon()->addPage(QStringLiteral("草图"));
-    BuildButtons(commands, *pPage, controls);
-    BuildPanels(*pPage, controls);
+    const Pages pages{*GetRibbon()->addPage(QStringLiteral("开始")),
+                      *GetRibbon()->addPage(QStringLiteral("草图"))};
+    GetRibbon()->setCurrentPageIndex(1);
+    BuildButtons(commands, pages, controls);
+    BuildPanels(pages.drawing, controls);
     BuildProgress(controls);
     controls.RefreshControls();
 }
@@ -82,15 +84,17 @@ void SketcherWindow::ReleaseControls()
     m_panels.clear();
 }
 
-void SketcherWindow::BuildButtons(const std::vector<CommandEntry>& commands,
-                                  Qtitan::RibbonPage& page, ControlHost& controls)
+void SketcherWindow::BuildButtons(const std::vector<CommandEntry>& commands, const Pages& pages,
+                                  ControlHost& controls)
 {
+    std::map<std::wstring, Qtitan::RibbonGroup*> startGroups;
     std::map<std::wstring, Qtitan::RibbonGroup*> groups;
     for (const CommandEntry& entry : commands)
     {
         if (entry.group.empty())
             continue;
-        Qtitan::RibbonGroup*& pGroup = groups[entry.group];
+        Qtitan::RibbonPage& page = entry.isOnStartPage ? pages.start : pages.drawing;
+        Qtitan::RibbonGroup*& pGroup = (entry.isOnStartPage ? startGroups : groups)[entry.group];
         if (pGroup == nullptr)
             pGroup = page.addGroup(ToQString(entry.group));
         auto* pButton = qobject_cast<QToolButton*>(controls.Create(MakeDefinition(entry)));

@@ -27,7 +27,8 @@ class DimensionInputController;
 class ProgressBarDefinition;
 }
 
-/// The program's window: ribbon page "草图", the drawing, the status bar.
+/// The program's window: the ribbon pages 开始 and 草图, of which the second is shown at first, the
+/// drawing, the status bar.
 class SketcherWindow final : public vesk::MainWindow
 {
     Q_OBJECT
@@ -56,7 +57,14 @@ signals:
     void unitChanged();
 
 private:
-    void BuildButtons(const std::vector<CommandEntry>& commands, Qtitan::RibbonPage& page,
+    /// The pages of the ribbon.
+    struct Pages
+    {
+        Qtitan::RibbonPage& start;
+        Qtitan::RibbonPage& drawing;
+    };
+
+    void BuildButtons(const std::vector<CommandEntry>& commands, const Pages& pages,
                       vesk::ControlHost& controls);
     QToolButton* AddMenu(vesk::OwnerPtr<vesk::CommandButtonMenuDefinition> opDefinition,
                          Qtitan::RibbonGroup& group, vesk::ControlHost& controls);

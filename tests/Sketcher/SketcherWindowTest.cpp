@@ -95,6 +95,8 @@ struct Fixture
             MakeEntry(L"More", L"绘图", L"", L""),
             MakeEntry(L"Hidden", L"", L"", L"Ctrl+K"),
             MakeEntry(L"Pane", L"面板", PaneMenu::Id, L""),
+            MakeEntry(L"Start", L"文件", L"", L"Ctrl+N").OnStartPage(),
+            MakeEntry(L"Start2", L"视图", L"", L"").OnStartPage(),
         };
         RegisterCommands(commands);
         window.show();
@@ -130,12 +132,15 @@ struct Fixture
                 {}};
     }
 
-    Qtitan::RibbonPage& Page() const { return *window.GetRibbon()->page(0); }
+    Qtitan::RibbonPage& StartPage() const { return *window.GetRibbon()->page(0); }
+    Qtitan::RibbonPage& Page() const { return *window.GetRibbon()->page(1); }
 
-    /// The groups from left to right.
-    std::vector<Qtitan::RibbonGroup*> Groups() const
+    /// The groups of the drawing page from left to right.
+    std::vector<Qtitan::RibbonGroup*> Groups() const { return GroupsOf(Page()); }
+
+    static std::vector<Qtitan::RibbonGroup*> GroupsOf(const Qtitan::RibbonPage& page)
     {
-        const auto found = Page().findChildren<Qtitan::RibbonGroup*>();
+        const auto found = page.findChildren<Qtitan::RibbonGroup*>();
         std::vector<Qtitan::RibbonGroup*> groups(found.begin(), found.end());
         std::sort(groups.begin(), groups.end(),
                   [](const auto* pA, const auto* pB) { return pA->x() < pB->x(); });
@@ -223,9 +228,43 @@ private slots:
         for (const Qtitan::RibbonGroup* pGroup : f.Groups())
             titles << pGroup->title();
 
-        QCOMPARE(f.window.GetRibbon()->pageCount(), 1);
         QCOMPARE(f.Page().title(), QStringLiteral("草图"));
         QCOMPARE(titles, QStringList({"绘图", "视图", "面板", "线条", "绘图设置", "图纸"}));
+    }
+
+    void theDrawingPageIsShownFirst()
+    {
+        Fixture f;
+
+        QCOMPARE(f.window.GetRibbon()->pageCount(), 2);
+        QCOMPARE(f.window.GetRibbon()->currentPageIndex(), 1);
+        QVERIFY(f.Page().isVisible());
+    }
+
+    void theStartPageHasTheGroupsOfItsCommands()
+    {
+        Fixture f;
+
+        f.window.GetRibbon()->setCurrentPageIndex(0);
+
+        QStringList titles;
+        for (const Qtitan::RibbonGroup* pGroup : f.GroupsOf(f.StartPage()))
+            titles << pGroup->title();
+        QCOMPARE(f.StartPage().title(), QStringLiteral("开始"));
+        QCOMPARE(titles, QStringList({"文件", "视图"}));
+        QVERIFY(f.StartPage().isAncestorOf(f.Button("Start")));
+        QVERIFY(f.StartPage().isAncestorOf(f.Button("Start2")));
+        QVERIFY(f.Button("Start")->isVisible());
+    }
+
+    void keysClickAButtonOfAPageThatIsNotShown()
+    {
+        Fixture f;
+
+        emit f.Shortcut("Ctrl+N")->activated();
+
+        QTRY_COMPARE_WITH_TIMEOUT(f.ran, (std::vector<std::wstring>{L"Start"}),
+                                  vesk::test::PatienceMs);
     }
 
     void onlyTheDrawingToolsAreLarge()

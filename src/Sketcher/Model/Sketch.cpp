@@ -9,6 +9,7 @@
 #include <QSignalBlocker>
 
 #include <algorithm>
+#include <cstddef>
 #include <limits>
 #include <memory>
 #include <utility>
@@ -102,7 +103,8 @@ std::vector<int> Sketch::AddEntities(const std::vector<PenShape>& shapes, Sketch
 
 std::vector<int> Sketch::Insert(const SketchContent& content, const std::wstring& stepName)
 {
-    if (!IsValid(content))
+    const auto freeLayerIds = static_cast<std::size_t>(GreatestId - m_content.lastLayerId);
+    if (!IsValid(content) || content.layers.size() > freeLayerIds)
         return {};
     SketchChange change;
     const std::map<int, int> layerIds = MatchLayers(content.layers, change);

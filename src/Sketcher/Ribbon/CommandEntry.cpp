@@ -53,6 +53,12 @@ CommandEntry& CommandEntry::InGroup(const std::wstring& groupCaption)
     return *this;
 }
 
+CommandEntry& CommandEntry::OnStartPage()
+{
+    isOnStartPage = true;
+    return *this;
+}
+
 CommandEntry& CommandEntry::InMenu(const std::wstring& menuId)
 {
     menu = menuId;

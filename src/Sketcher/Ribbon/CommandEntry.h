@@ -22,6 +22,7 @@ struct CommandEntry
     CommandEntry& WithToolTip(const std::wstring& text);
     CommandEntry& WithKeys(const std::wstring& sequence);
     CommandEntry& InGroup(const std::wstring& caption);
+    CommandEntry& OnStartPage();
     CommandEntry& InMenu(const std::wstring& menuId);
     CommandEntry& EnabledWhile(const vesk::Command::Condition& condition);
 
@@ -40,4 +41,6 @@ struct CommandEntry
     vesk::Command::Kind kind = vesk::Command::Kind::Plain;
     vesk::Command::Execution execute;
     vesk::Command::Condition isEnabled; ///< If empty, the command is always enabled.
+
+    bool isOnStartPage = false; ///< Whether its group is on the page 开始 instead of 草图.
 };

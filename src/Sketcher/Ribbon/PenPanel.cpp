@@ -21,7 +21,9 @@ struct BoxText
 };
 
 /// In the order of the parts.
-constexpr BoxText BoxTexts[] = {{L"Sketcher.LineStyle", "线型"}, {L"Sketcher.LineColour", "颜色"}};
+constexpr BoxText BoxTexts[] = {{L"Sketcher.LineStyle", "线型"},
+                                {L"Sketcher.LineColour", "颜色"},
+                                {L"Sketcher.LineWidth", "线宽"}};
 
 }
 

@@ -41,6 +41,8 @@ Reading ReadContent(const QByteArray& content)
 
 const QByteArray Command1 = R"({"n":1,"kind":"command","id":"A"})";
 const QByteArray End1 = R"({"n":1,"kind":"end","result":"done"})";
+const QByteArray Header =
+    R"({"n":0,"kind":"journal","version":2,"program":"sketcher","time":"2026-11-21T08:15:30.123Z"})";
 const QByteArray Undo2 = R"({"n":2,"kind":"undo","entity":1})";
 
 }
@@ -51,6 +53,8 @@ class JournalFileTest : public QObject
 
 private slots:
     void recordsAreReadInOrder();
+    void aHeaderIsTheFirstRecord();
+    void linesAreReadWithTheirText();
     void anEmptyFileHoldsNothing();
     void aTornLastLineIsNothing_data();
     void aTornLastLineIsNothing();
@@ -69,6 +73,36 @@ void JournalFileTest::recordsAreReadInOrder()
     QCOMPARE(reading.records[0].number, 1);
     QCOMPARE(reading.records[1].number, 2);
     QVERIFY(std::holds_alternative<EndRecord>(reading.records[2].what));
+}
+
+void JournalFileTest::aHeaderIsTheFirstRecord()
+{
+    const Reading reading = ReadContent(Header + '\n' + Command1 + '\n');
+
+    QVERIFY2(reading.isRead, qPrintable(reading.error));
+    QCOMPARE(reading.records.size(), std::size_t(2));
+    QCOMPARE(reading.records[0].number, 0);
+    QCOMPARE(std::get<HeaderRecord>(reading.records[0].what).program, std::wstring(L"sketcher"));
+}
+
+void JournalFileTest::linesAreReadWithTheirText()
+{
+    const QTemporaryDir folder;
+    QFile file(folder.filePath("journal"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(Header + '\n' + "{ \"n\":2,\"kind\":\"undo\",\"entity\":1}\nto");
+    file.close();
+    std::vector<JournalLine> lines;
+    std::string torn;
+    std::string error;
+
+    QVERIFY(JournalFormat::ReadLines(file.fileName().toStdString(), lines, torn, error));
+
+    QCOMPARE(lines.size(), std::size_t(2));
+    QCOMPARE(QByteArray::fromStdString(lines[0].text), Header);
+    QCOMPARE(lines[1].text, std::string("{ \"n\":2,\"kind\":\"undo\",\"entity\":1}"));
+    QCOMPARE(lines[1].record.number, 2);
+    QCOMPARE(torn, std::string("to"));
 }
 
 void JournalFileTest::anEmptyFileHoldsNothing()
@@ -118,6 +152,10 @@ void JournalFileTest::aBadLineIsNamed_data()
                                << R"(line 2: duplicate key "n")";
     QTest::newRow("deep") << Command1 + '\n' + QByteArray(20000, '[') + '\n'
                           << "line 2: nested too deeply";
+    const QString headerWithin = "a header that is not in the first line";
+    QTest::newRow("header twice") << Header + '\n' + Header + '\n' << "line 2: " + headerWithin;
+    QTest::newRow("header after a record") << Command1 + '\n' + Header + '\n'
+                                           << "line 2: " + headerWithin;
     QTest::newRow("number twice") << Command1 + '\n' + Command1 + '\n'
                                   << "line 2: record 1 comes after record 1";
     QTest::newRow("number before") << Undo2 + '\n' + Command1 + '\n'

@@ -116,6 +116,15 @@ void JournalFormatTest::eachKindHasItsLine_data()
          {4, PropertyRecord{L"drawing", L"name", L"图一"}},
          R"({"n":4,"kind":"property","object":"drawing","property":"name","value":"图一"})"},
         {"undo", {5, UndoRecord{7}}, R"({"n":5,"kind":"undo","entity":7})"},
+        {"redo", {5, RedoRecord{7}}, R"({"n":5,"kind":"redo","entity":7})"},
+        {"mark", {6, MarkRecord{"0f", 250}}, R"({"n":6,"kind":"mark","digest":"0f","t":250})"},
+        {"mark without time",
+         {6, MarkRecord{"0f", std::nullopt}},
+         R"({"n":6,"kind":"mark","digest":"0f"})"},
+        {"close", {7, CloseRecord{}}, R"({"n":7,"kind":"close"})"},
+        {"header",
+         {0, HeaderRecord{2, L"画图 1.0", L"2026-11-21T08:15:30.123Z"}},
+         R"({"n":0,"kind":"journal","version":2,"program":"画图 1.0","time":"2026-11-21T08:15:30.123Z"})"},
         {"end", {1, EndRecord{1, false}}, R"({"n":1,"kind":"end","result":"done"})"},
         {"end, refused", {1, EndRecord{1, true}}, R"({"n":1,"kind":"end","result":"refused"})"},
     };
@@ -429,6 +438,24 @@ void JournalFormatTest::aBadLineIsTold_data()
          R"(duplicate key "entity")"},
         {"parameter twice", R"({"n":1,"kind":"command","id":"A","parameters":{"B":1,"C":2,"B":3}})",
          R"(duplicate key "B")"},
+        {"redo without entity", R"({"n":1,"kind":"redo"})", R"("entity" is missing)"},
+        {"mark without digest", R"({"n":1,"kind":"mark","t":1})", R"("digest" is missing)"},
+        {"mark at a text", R"({"n":1,"kind":"mark","digest":"0f","t":"1"})",
+         R"("t" is not an integer)"},
+        {"close with more", R"({"n":1,"kind":"close","entity":1})", R"(unexpected key "entity")"},
+        {"header with a number", R"({"n":1,"kind":"journal","version":2,"program":"a","time":"b"})",
+         R"("n" of a header is not 0)"},
+        {"header without version", R"({"n":0,"kind":"journal","program":"a","time":"b"})",
+         R"("version" is missing)"},
+        {"header without program", R"({"n":0,"kind":"journal","version":2,"time":"b"})",
+         R"("program" is missing)"},
+        {"header without time", R"({"n":0,"kind":"journal","version":2,"program":"a"})",
+         R"("time" is missing)"},
+        {"newer header, unknown in every other way",
+         R"({"n":0,"kind":"journal","version":3,"layout":{}})",
+         "the journal has version 3, this program reads up to version 2"},
+        {"header of the first version", R"({"n":0,"kind":"journal","version":1})",
+         "no header has version 1"},
         {"more than the kind has", R"({"n":1,"kind":"undo","entity":1,"point":[1,2,3]})",
          R"(unexpected key "point")"},
     };
@@ -457,6 +484,13 @@ void JournalFormatTest::deepNestingIsTold_data()
                                    << R"("entity" is not an integer)";
     QTest::newRow("lists of texts in turn")
         << begin + "[" + QByteArray("[\"a\"],").repeated(Deep) + "1]}"
+        << R"("entity" is not an integer)";
+    QTest::newRow("lists in order")
+        << begin + QByteArray("[[],[[]]],").repeated(Deep) << "not valid JSON";
+    QTest::newRow("lists behind a text with a quote")
+        << begin + "\"\\\"\\\\\"," + QByteArray(Deep, '[') << tooDeep;
+    QTest::newRow("brackets in a text with a quote")
+        << begin + "\"\\\"" + QByteArray(Deep, '[') + "\"}"
         << R"("entity" is not an integer)";
     QTest::newRow("brackets in a text") << begin + '"' + QByteArray(Deep, '[') + "\"}"
                                         << R"("entity" is not an integer)";

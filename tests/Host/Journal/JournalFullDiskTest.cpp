@@ -1,8 +1,8 @@
 #include "Journal/JournalManager.h"
 
 #include "Journal/JournalFormat.h"
-#include "Support/FileBytes.h"
 #include "Support/FileSizeLimit.h"
+#include "Support/JournalBytes.h"
 #include "Support/TestValues.h"
 
 #include <QFile>
@@ -55,6 +55,7 @@ private slots:
     void cleanup() { Journal().Close(); }
 
     void theFileHoldsWholeLinesWhereverTheDiskEnds();
+    void aHeaderThatDoesNotFitFollowsToo();
     void whatIsMissingFollowsWithTheNextRecord();
     void whatIsMissingFollowsAtTheEnd();
     void roomThatComesSlowlyIsUsedLineByLine();
@@ -70,6 +71,12 @@ private:
         QVERIFY2(Journal().Open(Path().toStdString(), error), error.c_str());
     }
 
+    /// Leaves room for that many bytes after the header, which is in the file already.
+    FileSizeLimit LimitAfterHeader(int bytes) const
+    {
+        return FileSizeLimit(static_cast<rlim_t>(ReadBytes(Path()).size() + bytes));
+    }
+
     std::unique_ptr<QTemporaryDir> m_pFolder;
 };
 
@@ -79,17 +86,38 @@ void JournalFullDiskTest::theFileHoldsWholeLinesWhereverTheDiskEnds()
     for (int limit = 0; limit <= all; ++limit)
     {
         OpenJournal();
-        const FileSizeLimit full(static_cast<rlim_t>(limit));
+        const FileSizeLimit full = LimitAfterHeader(limit);
 
         for (int i = 1; i <= RecordCount; ++i)
         {
             Journal().Add(MakeRecord(i));
-            QCOMPARE(ReadBytes(Path()), WholeLinesWithin(std::min(limit, LinesOf(i).size())));
+            QCOMPARE(ReadLinesAfterHeader(Path()),
+                     WholeLinesWithin(std::min(limit, LinesOf(i).size())));
             QCOMPARE(Journal().IsKept(), LinesOf(i).size() <= limit);
         }
 
         QCOMPARE(Journal().Close(), limit == all);
-        QCOMPARE(ReadBytes(Path()), WholeLinesWithin(limit));
+        QCOMPARE(ReadLinesAfterHeader(Path()), WholeLinesWithin(limit));
+    }
+}
+
+void JournalFullDiskTest::aHeaderThatDoesNotFitFollowsToo()
+{
+    OpenJournal();
+    const int header = ReadBytes(Path()).size();
+    for (int limit = 0; limit < header; ++limit)
+    {
+        {
+            const FileSizeLimit full(static_cast<rlim_t>(limit));
+            OpenJournal();
+            QVERIFY(!Journal().IsKept());
+            QCOMPARE(ReadBytes(Path()), QByteArray());
+        }
+
+        Journal().Add(MakeRecord(1));
+
+        QVERIFY(Journal().IsKept());
+        QCOMPARE(ReadLinesAfterHeader(Path()), LinesOf(1));
     }
 }
 
@@ -99,7 +127,7 @@ void JournalFullDiskTest::whatIsMissingFollowsWithTheNextRecord()
     {
         OpenJournal();
         {
-            const FileSizeLimit full(static_cast<rlim_t>(limit));
+            const FileSizeLimit full = LimitAfterHeader(limit);
             for (int i = 1; i < RecordCount; ++i)
                 Journal().Add(MakeRecord(i));
             QVERIFY(!Journal().IsKept());
@@ -108,7 +136,7 @@ void JournalFullDiskTest::whatIsMissingFollowsWithTheNextRecord()
         Journal().Add(MakeRecord(RecordCount));
 
         QVERIFY(Journal().IsKept());
-        QCOMPARE(ReadBytes(Path()), LinesOf(RecordCount));
+        QCOMPARE(ReadLinesAfterHeader(Path()), LinesOf(RecordCount));
     }
 }
 
@@ -116,28 +144,29 @@ void JournalFullDiskTest::whatIsMissingFollowsAtTheEnd()
 {
     OpenJournal();
     {
-        const FileSizeLimit full(50);
+        const FileSizeLimit full = LimitAfterHeader(50);
         for (int i = 1; i <= RecordCount; ++i)
             Journal().Add(MakeRecord(i));
     }
 
     QVERIFY(Journal().Close());
 
-    QCOMPARE(ReadBytes(Path()), LinesOf(RecordCount));
+    QCOMPARE(ReadLinesAfterHeader(Path()), LinesOf(RecordCount));
 }
 
 void JournalFullDiskTest::roomThatComesSlowlyIsUsedLineByLine()
 {
     OpenJournal();
-    FileSizeLimit full(0);
+    const int header = ReadBytes(Path()).size();
+    FileSizeLimit full(static_cast<rlim_t>(header));
 
     for (int i = 1; i <= RecordCount; ++i)
     {
-        full.Set(static_cast<rlim_t>(LinesOf(i).size() - 1));
+        full.Set(static_cast<rlim_t>(header + LinesOf(i).size() - 1));
         Journal().Add(MakeRecord(i));
 
         QVERIFY(!Journal().IsKept());
-        QCOMPARE(ReadBytes(Path()), LinesOf(i - 1));
+        QCOMPARE(ReadLinesAfterHeader(Path()), LinesOf(i - 1));
     }
 }
 
@@ -178,7 +207,7 @@ void JournalFullDiskTest::aSecondFileDoesNotGetWhatTheFirstOneMissed()
     Journal().Add(MakeRecord(1));
 
     QVERIFY(Journal().IsKept());
-    QCOMPARE(ReadBytes(second), LinesOf(1));
+    QCOMPARE(ReadLinesAfterHeader(second), LinesOf(1));
 }
 
 void JournalFullDiskTest::aFileThatBeginsAnewDoesNotGetWhatItMissed()
@@ -189,11 +218,11 @@ void JournalFullDiskTest::aFileThatBeginsAnewDoesNotGetWhatItMissed()
         Journal().Add(MakeRecord(1));
         OpenJournal();
     }
-    QVERIFY(Journal().IsKept());
 
     Journal().Add(MakeRecord(1));
 
-    QCOMPARE(ReadBytes(Path()), LinesOf(1));
+    QVERIFY(Journal().IsKept());
+    QCOMPARE(ReadLinesAfterHeader(Path()), LinesOf(1));
 }
 
 }

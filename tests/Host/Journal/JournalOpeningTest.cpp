@@ -1,9 +1,11 @@
 #include "Journal/JournalManager.h"
 
 #include "Platform/OutputFile.h"
-#include "Support/FileBytes.h"
+#include "Support/JournalBytes.h"
 #include "Support/TestValues.h"
 
+#include <QFile>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include <filesystem>
@@ -57,6 +59,10 @@ private slots:
     void aReservedFileCanBeginAnew();
     void whatWasKeptBackMovesToAnotherFile();
     void whereTheOtherFileCannotBeWrittenNothingIsKept();
+    void aFileBeginsWithTheProgramAndTheTime();
+    void aContinuedFileGetsNoHeader();
+    void aFileOfAnotherProgramIsInUse();
+    void whatIsOnDiskIsKept();
 
 private:
     std::string m_error;
@@ -71,10 +77,10 @@ void JournalOpeningTest::openingReplacesTheFileAndNumbersAnew()
     Journal().Add(UndoRecord{2});
 
     QVERIFY(Journal().Open(path.toStdString(), m_error));
-    QCOMPARE(ReadBytes(path), QByteArray());
+    QCOMPARE(ReadLinesAfterHeader(path), QByteArray());
     Journal().Add(UndoRecord{3});
 
-    QCOMPARE(ReadBytes(path), QByteArray("{\"n\":1,\"kind\":\"undo\",\"entity\":3}\n"));
+    QCOMPARE(ReadLinesAfterHeader(path), QByteArray("{\"n\":1,\"kind\":\"undo\",\"entity\":3}\n"));
 }
 
 void JournalOpeningTest::openingWhatCannotBeWrittenChangesNothing()
@@ -88,7 +94,7 @@ void JournalOpeningTest::openingWhatCannotBeWrittenChangesNothing()
     QVERIFY(!Journal().Open(folder.filePath("none/journal").toStdString(), m_error));
     Journal().Add(UndoRecord{2});
 
-    QCOMPARE(ReadBytes(path).count('\n'), 2);
+    QCOMPARE(ReadLinesAfterHeader(path).count('\n'), 2);
 }
 
 void JournalOpeningTest::reservingWhatCannotBeWrittenChangesNothing()
@@ -102,7 +108,7 @@ void JournalOpeningTest::reservingWhatCannotBeWrittenChangesNothing()
 
     QCOMPARE(Journal().GetLastLines().size(), std::size_t(1));
     QCOMPARE(Journal().Add(UndoRecord{2}), 2);
-    QCOMPARE(ReadBytes(path).count('\n'), 2);
+    QCOMPARE(ReadLinesAfterHeader(path).count('\n'), 2);
 }
 
 void JournalOpeningTest::whatCannotBeWrittenIsTold_data()
@@ -170,7 +176,7 @@ void JournalOpeningTest::theSameFileByAnotherNameIsReplaced()
     QVERIFY(Journal().Open(link, m_error));
     Journal().Add(UndoRecord{3});
 
-    QCOMPARE(ReadBytes(path), QByteArray("{\"n\":1,\"kind\":\"undo\",\"entity\":3}\n"));
+    QCOMPARE(ReadLinesAfterHeader(path), QByteArray("{\"n\":1,\"kind\":\"undo\",\"entity\":3}\n"));
 }
 
 void JournalOpeningTest::aReservedFileStaysAsItIs()
@@ -212,10 +218,10 @@ void JournalOpeningTest::aReservedFileCanBeginAnew()
     Journal().Add(UndoRecord{1});
 
     QVERIFY(Journal().Open(path.toStdString(), m_error));
-    QCOMPARE(ReadBytes(path), QByteArray());
+    QCOMPARE(ReadLinesAfterHeader(path), QByteArray());
     Journal().Add(UndoRecord{3});
 
-    QCOMPARE(ReadBytes(path), QByteArray("{\"n\":1,\"kind\":\"undo\",\"entity\":3}\n"));
+    QCOMPARE(ReadLinesAfterHeader(path), QByteArray("{\"n\":1,\"kind\":\"undo\",\"entity\":3}\n"));
 }
 
 void JournalOpeningTest::whatWasKeptBackMovesToAnotherFile()
@@ -228,12 +234,76 @@ void JournalOpeningTest::whatWasKeptBackMovesToAnotherFile()
     Journal().Add(UndoRecord{1});
 
     QVERIFY(Journal().MoveTo(other.toStdString(), m_error));
-    QCOMPARE(ReadBytes(other), QByteArray("{\"n\":1,\"kind\":\"undo\",\"entity\":1}\n"));
+    QCOMPARE(ReadLinesAfterHeader(other), QByteArray("{\"n\":1,\"kind\":\"undo\",\"entity\":1}\n"));
     QCOMPARE(Journal().Add(UndoRecord{2}), 2);
 
     QCOMPARE(ReadBytes(path), Read + Torn);
-    QCOMPARE(ReadBytes(other), QByteArray("{\"n\":1,\"kind\":\"undo\",\"entity\":1}\n"
-                                          "{\"n\":2,\"kind\":\"undo\",\"entity\":2}\n"));
+    QCOMPARE(ReadLinesAfterHeader(other), QByteArray("{\"n\":1,\"kind\":\"undo\",\"entity\":1}\n"
+                                                     "{\"n\":2,\"kind\":\"undo\",\"entity\":2}\n"));
+}
+
+void JournalOpeningTest::aFileBeginsWithTheProgramAndTheTime()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("journal");
+    Journal().SetProgram(L"画图 1.0");
+
+    QVERIFY(Journal().Open(path.toStdString(), m_error));
+    Journal().SetProgram(L"");
+
+    const QRegularExpression header(
+        QString::fromUtf8("^\\{\"n\":0,\"kind\":\"journal\",\"version\":2,\"program\":\"画图 1.0\","
+                          "\"time\":\"[0-9-]{10}T[0-9:]{8}\\.[0-9]{3}Z\"\\}\n$"));
+    const QString written = QString::fromUtf8(ReadBytes(path));
+    QVERIFY2(header.match(written).hasMatch(), qPrintable(written));
+    QVERIFY2(Journal().GetLastLines().empty(), "a header is no record of a session");
+    QCOMPARE(Journal().Add(UndoRecord{1}), 1);
+}
+
+void JournalOpeningTest::aContinuedFileGetsNoHeader()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("journal");
+    QVERIFY(WriteBytes(path, Read));
+    QVERIFY(Journal().Reserve(path.toStdString(), m_error));
+    Journal().Continue(7);
+
+    Journal().Add(CloseRecord{});
+
+    QCOMPARE(ReadBytes(path), Read + "{\"n\":8,\"kind\":\"close\"}\n");
+}
+
+void JournalOpeningTest::aFileOfAnotherProgramIsInUse()
+{
+    const QTemporaryDir folder;
+    const std::string path = folder.filePath("journal").toStdString();
+    const std::string own = folder.filePath("own").toStdString();
+    OutputFile other;
+    QVERIFY(other.OpenAlone(path) == OutputFile::Opening::Done);
+    QVERIFY(Journal().Open(own, m_error));
+
+    QVERIFY(Journal().IsInUse(path));
+    QVERIFY2(!Journal().IsInUse(own), "that is this program");
+    QVERIFY(!Journal().IsInUse(folder.filePath("none").toStdString()));
+    QVERIFY2(!QFile::exists(folder.filePath("none")), "asking creates nothing");
+
+    other.Close();
+    QVERIFY(!Journal().IsInUse(path));
+    QVERIFY2(other.OpenAlone(path) == OutputFile::Opening::Done, "asking leaves no lock");
+}
+
+void JournalOpeningTest::whatIsOnDiskIsKept()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("journal");
+    Journal().SetSynced(true);
+    QVERIFY(Journal().Open(path.toStdString(), m_error));
+
+    Journal().Add(UndoRecord{1});
+    Journal().SetSynced(false);
+
+    QVERIFY(Journal().IsKept());
+    QCOMPARE(ReadLinesAfterHeader(path), QByteArray("{\"n\":1,\"kind\":\"undo\",\"entity\":1}\n"));
 }
 
 void JournalOpeningTest::whereTheOtherFileCannotBeWrittenNothingIsKept()

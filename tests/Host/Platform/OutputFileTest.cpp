@@ -204,6 +204,7 @@ void OutputFileTest::aDeviceHasNothingToBringToTheDisk()
     QVERIFY(file.OpenShared("/dev/full"));
 
     QVERIFY(file.Sync());
+    QVERIFY(file.SyncData());
 }
 
 void OutputFileTest::withoutAFileNothingIsDone()
@@ -212,6 +213,7 @@ void OutputFileTest::withoutAFileNothingIsDone()
 
     QVERIFY(!file.CutTo(0));
     QVERIFY(!file.Sync());
+    QVERIFY(!file.SyncData());
     QVERIFY(file.Close());
 }
 

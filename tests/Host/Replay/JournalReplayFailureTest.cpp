@@ -62,7 +62,14 @@ void JournalReplayFailureTest::whatCannotBeDoneIsNamed_data()
     QTest::newRow("missing entity") << R"({"n":12,"kind":"selection","entities":[13]})"
                                     << "record 12: an entity to be selected does not exist";
     QTest::newRow("another undo") << R"({"n":12,"kind":"undo","entity":13})"
-                                  << "record 12: the undo had a different result";
+                                  << "record 12: the undo had a different result: expected "
+                                     "entity 13, actual 5";
+    QTest::newRow("another redo") << R"({"n":12,"kind":"redo","entity":13})"
+                                  << "record 12: the redo had a different result: expected "
+                                     "entity 13, actual 5";
+    QTest::newRow("another drawing")
+        << R"({"n":12,"kind":"mark","digest":"0f"})"
+        << "record 12: the drawing is different: expected 0f, actual a1";
 }
 
 void JournalReplayFailureTest::whatCannotBeDoneIsNamed()

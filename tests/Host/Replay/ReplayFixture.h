@@ -51,6 +51,20 @@ public:
         return record.entity != 13;
     }
 
+    bool VerifyRedo(const RedoRecord& record) override
+    {
+        m_log.push_back("redo " + std::to_string(record.entity));
+        return record.entity != 13;
+    }
+
+    std::optional<int> GetLastUndone() override { return 5; }
+
+    std::string VerifyMark(const MarkRecord& record) override
+    {
+        m_log.push_back("mark " + record.digest);
+        return record.digest == "a1" ? "" : "a1";
+    }
+
 private:
     Log& m_log;
     std::size_t m_stopAt;

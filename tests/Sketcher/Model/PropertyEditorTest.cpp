@@ -18,7 +18,7 @@ private slots:
         QVERIFY(workspace.properties.Set({L"drawing", L"name", L"图一"}));
 
         QCOMPARE(workspace.sketch.GetName(), std::wstring(L"图一"));
-        QVERIFY(!workspace.sketch.CanUndo());
+        QVERIFY(workspace.sketch.CanUndo());
     }
 
     void thePenIsForTheNextEntities()
@@ -94,7 +94,7 @@ private slots:
                                                  << "style"
                                                  << "dashed";
         QTest::newRow("property of the pen") << "pen"
-                                             << "width"
+                                             << "thickness"
                                              << "1";
         QTest::newRow("property of the selection") << "selection"
                                                    << "name"

@@ -4,6 +4,7 @@
 #include "Journal/IJournalManager.h"
 #include "Journal/JournalRecord.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -27,6 +28,9 @@ public:
 ///
 /// Each record is one line, handed to the operating system before what it records is done. Records
 /// are numbered and reported to the observers even while no file is open.
+///
+/// A file that is replaced begins with a header. While there is a digest source, each finished step
+/// is followed by a mark.
 ///
 /// A file in use is locked for this program. If a line cannot be written, the file is truncated to
 /// its last complete line; each further record first writes what is missing. So the file never has
@@ -57,7 +61,22 @@ public:
     /// on.
     virtual bool MoveTo(const std::string& path, std::string& error) = 0;
 
-    /// True while every record is in a file, or is held back for one.
+    /// True if another program has the file at `path` (UTF-8) open as its journal; false if it
+    /// cannot be determined. Creates and changes nothing.
+    virtual bool IsInUse(const std::string& path) const = 0;
+
+    /// Sets the name and version of this program for the headers of files that it begins.
+    virtual void SetProgram(const std::wstring& program) = 0;
+
+    /// Sets what computes the digest of the document; empty for no marks.
+    virtual void SetDigestSource(std::function<std::string()> source) = 0;
+
+    /// Sets whether each record is on disk before what it records is done, rather than only with
+    /// the operating system. It then survives a power failure.
+    virtual void SetSynced(bool isSynced) = 0;
+
+    /// True while every record is in a file (on disk, if that was asked for), or is held back for
+    /// one.
     virtual bool IsKept() const = 0;
 
     /// Closes the file, forgets the last lines and restarts numbering. False if a file was open and
@@ -66,6 +85,12 @@ public:
 
     /// Writes a record and returns its number. An end record has the number of its command.
     virtual int Add(decltype(JournalRecord::what) what) = 0;
+
+    /// Call when a step is finished: writes a mark if a point, property, undo or redo was recorded
+    /// or the document's digest has changed since the last one. The action manager does this after
+    /// each operation of an action and each plain command; whoever changes the document outside of
+    /// those does it too.
+    virtual void FinishStep() = 0;
 
     /// The number of the command record that a control announced last (AddCommandData), if it is
     /// for that command and has not been taken yet, otherwise 0. Can be taken once only: whoever

@@ -12,6 +12,16 @@
 namespace vesk
 {
 
+/// The first record of a file, number 0; files of version 1 have none.
+struct HeaderRecord
+{
+    static constexpr int CurrentVersion = 2;
+
+    int version = CurrentVersion;
+    std::wstring program; ///< Name and version of the program that wrote the file.
+    std::wstring time;    ///< When it began, in UTC: "2026-11-21T08:15:30.123Z".
+};
+
 /// A command is about to run, or to wait for its turn.
 struct CommandRecord
 {
@@ -54,6 +64,23 @@ struct UndoRecord
     int entity = 0;
 };
 
+/// A redo repeated the step that was undone last; `entity` as for an undo.
+struct RedoRecord
+{
+    int entity = 0;
+};
+
+/// A step is finished.
+struct MarkRecord
+{
+    std::string digest;      ///< Of the document after it.
+    std::optional<int> time; ///< In milliseconds since this program began with the file.
+};
+
+/// The program that wrote the records before this one has ended in order.
+struct CloseRecord
+{};
+
 /// A command has ended.
 struct EndRecord
 {
@@ -62,12 +89,12 @@ struct EndRecord
 };
 
 /// The content of a journal line; `number` counts the records from 1, an end record repeats its
-/// command's.
+/// command's, a header has 0.
 struct JournalRecord
 {
     int number = 0;
     std::variant<CommandRecord, PointRecord, ValueRecord, SelectionRecord, PropertyRecord,
-                 UndoRecord, EndRecord>
+                 UndoRecord, EndRecord, HeaderRecord, RedoRecord, MarkRecord, CloseRecord>
         what;
 };
 

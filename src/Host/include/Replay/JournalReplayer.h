@@ -4,6 +4,7 @@
 #include "Journal/JournalRecord.h"
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -31,6 +32,15 @@ public:
 
     /// True if the last undo had the recorded result.
     virtual bool VerifyUndo(const UndoRecord& record) = 0;
+
+    /// True if the last redo had the recorded result.
+    virtual bool VerifyRedo(const RedoRecord& /*record*/) { return true; }
+
+    /// The entity that the last undo or redo was about, for a message; nothing if that is unknown.
+    virtual std::optional<int> GetLastUndone() { return std::nullopt; }
+
+    /// The document's digest if it is not the recorded one, otherwise empty.
+    virtual std::string VerifyMark(const MarkRecord& /*record*/) { return {}; }
 };
 
 /// The outcome of a replay.
@@ -63,6 +73,9 @@ public:
     /// What was finished before that remains done. Runs no action event loop meanwhile.
     static JournalReplayResult Replay(const std::vector<JournalRecord>& records,
                                       IJournalReplayTarget& target);
+
+    /// True while a journal is being replayed: nobody is there to answer a question.
+    static bool IsReplaying();
 };
 
 }

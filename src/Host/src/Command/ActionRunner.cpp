@@ -158,6 +158,7 @@ void ActionRunner::OperateStep(const std::function<void(IAction&)>& operation)
 {
     Operate([this, &operation](IAction& action) {
         operation(action);
+        JournalManager::GetInstance().FinishStep();
         if (!m_isEndRequested && !action.IsFinished())
             ShowStep();
     });
@@ -227,6 +228,7 @@ void ActionRunner::Run(IUiView* pView, ICommand& command, const Waiting& waiting
 void ActionRunner::RunPlain(IUiView* pView, ICommand& command, const Waiting& waiting)
 {
     command.Execute(pView, waiting.parameters);
+    JournalManager::GetInstance().FinishStep();
     Complete(waiting.record, false);
 }
 
@@ -235,6 +237,7 @@ void ActionRunner::RunInteractive(IUiView* pView, ICommand& command, const Waiti
     OwnerPtr<IAction> opAction = command.Execute(pView, waiting.parameters);
     if (opAction == nullptr)
     {
+        JournalManager::GetInstance().FinishStep();
         Complete(waiting.record, false);
         return;
     }

@@ -5,6 +5,7 @@
 #include <fstream>
 #include <set>
 #include <sstream>
+#include <utility>
 
 namespace vesk
 {
@@ -31,6 +32,9 @@ public:
     std::string Add(const JournalRecord& record)
     {
         const std::string number = std::to_string(record.number);
+        const bool isFirst = std::exchange(m_isFirst, false);
+        if (std::holds_alternative<HeaderRecord>(record.what))
+            return isFirst ? "" : "a header that is not in the first line";
         if (std::holds_alternative<EndRecord>(record.what))
             return m_running.erase(record.number) == 1 ? "" : "no command " + number + " to end";
         if (record.number <= m_last)
@@ -42,6 +46,7 @@ public:
     }
 
 private:
+    bool m_isFirst = true;
     int m_last = 0;
     std::set<int> m_running;
 };
@@ -52,6 +57,20 @@ bool JournalFormat::ReadFile(const std::string& path, std::vector<JournalRecord>
                              std::string& error)
 {
     records.clear();
+    std::vector<JournalLine> lines;
+    std::string torn;
+    const bool isRead = ReadLines(path, lines, torn, error);
+    records.reserve(lines.size());
+    for (JournalLine& line : lines)
+        records.push_back(std::move(line.record));
+    return isRead;
+}
+
+bool JournalFormat::ReadLines(const std::string& path, std::vector<JournalLine>& lines,
+                              std::string& torn, std::string& error)
+{
+    lines.clear();
+    torn.clear();
     std::string text;
     if (!ReadText(path, text))
     {
@@ -59,28 +78,27 @@ bool JournalFormat::ReadFile(const std::string& path, std::vector<JournalRecord>
         return false;
     }
     SequenceCheck sequence;
-    std::size_t lineNumber = 1;
     std::size_t begin = 0;
     for (std::size_t end = text.find('\n'); end != std::string::npos; end = text.find('\n', begin))
     {
-        JournalRecord record;
+        JournalLine line{text.substr(begin, end - begin), {}};
         std::string reason;
-        if (FromLine(text.substr(begin, end - begin), record, reason))
-            reason = sequence.Add(record);
+        if (FromLine(line.text, line.record, reason))
+            reason = sequence.Add(line.record);
         if (!reason.empty())
         {
-            error = "line " + std::to_string(lineNumber) + ": " + reason;
+            error = "line " + std::to_string(lines.size() + 1) + ": " + reason;
             return false;
         }
-        records.push_back(record);
-        ++lineNumber;
+        lines.push_back(std::move(line));
         begin = end + 1;
     }
     // The text after the last line feed is an incomplete line, unless it has a carriage return,
     // with which no journal line ends.
-    if (text.find('\r', begin) == std::string::npos)
+    torn = text.substr(begin);
+    if (torn.find('\r') == std::string::npos)
         return true;
-    error = "line " + std::to_string(lineNumber) + ": ends with a bare carriage return";
+    error = "line " + std::to_string(lines.size() + 1) + ": ends with a bare carriage return";
     return false;
 }
 

@@ -86,6 +86,30 @@ public:
         m_line["entity"] = record.entity;
     }
 
+    void operator()(const RedoRecord& record) const
+    {
+        m_line["kind"] = "redo";
+        m_line["entity"] = record.entity;
+    }
+
+    void operator()(const MarkRecord& record) const
+    {
+        m_line["kind"] = "mark";
+        m_line["digest"] = record.digest;
+        if (record.time.has_value())
+            m_line["t"] = *record.time;
+    }
+
+    void operator()(const CloseRecord&) const { m_line["kind"] = "close"; }
+
+    void operator()(const HeaderRecord& record) const
+    {
+        m_line["kind"] = "journal";
+        m_line["version"] = record.version;
+        m_line["program"] = ToUtf8(record.program);
+        m_line["time"] = ToUtf8(record.time);
+    }
+
     void operator()(const EndRecord& record) const
     {
         m_line["kind"] = "end";

@@ -27,9 +27,7 @@ std::uint64_t EndOfLines(const std::filesystem::path& path)
 
 bool JournalLines::Replace(const std::string& path, std::string& error)
 {
-    std::error_code unknown;
-    const std::filesystem::path newPath = std::filesystem::u8path(path);
-    const bool isOwn = m_file.IsOpen() && std::filesystem::equivalent(newPath, m_path, unknown);
+    const bool isOwn = IsOwn(std::filesystem::u8path(path));
     OutputFile file;
     if (!isOwn && !Open(path, file, error))
         return false;
@@ -59,15 +57,21 @@ void JournalLines::Continue()
     m_isReserved = false;
 }
 
-bool JournalLines::MoveTo(const std::string& path, std::string& error)
+bool JournalLines::MoveTo(const std::string& path, const std::string& firstLine, std::string& error)
 {
     const std::string kept = std::move(m_waiting);
     Close();
     if (!Replace(path, error))
         return false;
-    m_waiting = kept;
+    m_waiting = firstLine + kept;
     WriteWaiting();
     return true;
+}
+
+bool JournalLines::IsInUse(const std::string& path) const
+{
+    const std::filesystem::path asked = std::filesystem::u8path(path);
+    return !IsOwn(asked) && OutputFile::IsInUse(asked);
 }
 
 void JournalLines::Add(const std::string& line)
@@ -85,6 +89,12 @@ bool JournalLines::Close()
     m_waiting.clear();
     m_isReserved = false;
     return m_file.Close() && isKept;
+}
+
+bool JournalLines::IsOwn(const std::filesystem::path& path) const
+{
+    std::error_code unknown;
+    return m_file.IsOpen() && std::filesystem::equivalent(path, m_path, unknown);
 }
 
 /// Opens a file and locks it for this program.
@@ -109,6 +119,7 @@ void JournalLines::Take(OutputFile file, const std::string& path, std::uint64_t 
     m_file = std::move(file);
     m_path = std::filesystem::u8path(path);
     m_size = size;
+    m_isOnDisk = true;
 }
 
 /// Writes everything to disk. False if lines are missing there.
@@ -132,6 +143,8 @@ void JournalLines::WriteWaiting()
     m_waiting.erase(0, whole);
     if (!m_waiting.empty())
         m_file.CutTo(m_size);
+    if (m_isSynced)
+        m_isOnDisk = m_file.SyncData();
 }
 
 }

@@ -27,21 +27,31 @@ public:
     /// written after its last complete line.
     void Continue();
 
-    /// Releases the file and writes the queued lines to another. If that cannot be written, returns
-    /// false and no file is open.
-    bool MoveTo(const std::string& path, std::string& error);
+    /// Releases the file and writes the first line and the queued ones to another. If that cannot
+    /// be written, returns false and no file is open.
+    bool MoveTo(const std::string& path, const std::string& firstLine, std::string& error);
+
+    /// True if another program has the file locked.
+    bool IsInUse(const std::string& path) const;
+
+    /// Sets whether lines are on disk when Add returns.
+    void SetSynced(bool isSynced) { m_isSynced = isSynced; }
 
     /// Adds a line, including its terminator.
     void Add(const std::string& line);
 
-    /// False without a file, and while lines are missing from it.
-    bool IsKept() const { return m_file.IsOpen() && (m_isReserved || m_waiting.empty()); }
+    /// False without a file, and while lines are missing from it or, if asked for, from the disk.
+    bool IsKept() const
+    {
+        return m_file.IsOpen() && (m_isReserved || (m_waiting.empty() && m_isOnDisk));
+    }
 
     /// Makes a last attempt to write the queued lines and closes the file. False if lines are
     /// missing from it.
     bool Close();
 
 private:
+    bool IsOwn(const std::filesystem::path& path) const;
     bool Open(const std::string& path, OutputFile& file, std::string& error) const;
     void Take(OutputFile file, const std::string& path, std::uint64_t size);
     bool Finish();
@@ -56,6 +66,10 @@ private:
     /// The queued lines, which are not in the file yet.
     std::string m_waiting;
     bool m_isReserved = false;
+    bool m_isSynced = false;
+
+    /// False if lines should be on disk and may not be.
+    bool m_isOnDisk = true;
 };
 
 }

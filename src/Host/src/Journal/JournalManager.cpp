@@ -1,13 +1,18 @@
 #include "Journal/JournalManager.h"
 
+#include "Foundation/Text.h"
+#include "Foundation/UtcTime.h"
 #include "Journal/IJournalData.h"
 #include "Journal/IJournalUiObject.h"
 #include "Journal/JournalFormat.h"
 #include "Journal/JournalLines.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cstddef>
+#include <cstdint>
 #include <deque>
+#include <limits>
 #include <mutex>
 #include <utility>
 
@@ -48,6 +53,23 @@ private:
     std::deque<std::string> m_lines;
 };
 
+/// True if a step is finished by what the record says.
+bool EndsStep(const JournalRecord& record)
+{
+    return std::holds_alternative<PointRecord>(record.what) ||
+           std::holds_alternative<PropertyRecord>(record.what) ||
+           std::holds_alternative<UndoRecord>(record.what) ||
+           std::holds_alternative<RedoRecord>(record.what);
+}
+
+/// Limited to the greatest integer, which is reached after 24 days.
+int MillisecondsSince(std::chrono::steady_clock::time_point begin)
+{
+    const auto elapsed = std::chrono::steady_clock::now() - begin;
+    const auto count = std::chrono::duration_cast<std::chrono::milliseconds>(elapsed).count();
+    return static_cast<int>(std::min<std::int64_t>(count, std::numeric_limits<int>::max()));
+}
+
 class JournalManagerImpl final : public JournalManager
 {
 public:
@@ -55,9 +77,14 @@ public:
     bool Reserve(const std::string& path, std::string& error) override;
     void Continue(int lastNumber) override;
     bool MoveTo(const std::string& path, std::string& error) override;
+    bool IsInUse(const std::string& path) const override { return m_file.IsInUse(path); }
+    void SetProgram(const std::wstring& program) override { m_program = program; }
+    void SetDigestSource(std::function<std::string()> source) override;
+    void SetSynced(bool isSynced) override { m_file.SetSynced(isSynced); }
     bool IsKept() const override { return m_file.IsKept(); }
     bool Close() override;
     int Add(decltype(JournalRecord::what) what) override;
+    void FinishStep() override;
     int TakeAnnounced(const std::wstring& commandId) override;
     std::vector<std::string> GetLastLines() const override { return m_lastLines.Get(); }
     void AddObserver(IJournalObserver* pObserver) override;
@@ -76,6 +103,7 @@ private:
     };
 
     void StartAnew();
+    std::string HeaderLine() const;
     void Announce(const CommandRecord& record);
 
     template <class Tell>
@@ -90,7 +118,14 @@ private:
     }
 
     JournalLines m_file;
+    std::wstring m_program;
+    std::chrono::steady_clock::time_point m_begin = std::chrono::steady_clock::now();
     int m_lastNumber = 0;
+    std::function<std::string()> m_digestSource;
+    std::string m_lastDigest;
+
+    /// True if a record of a finished step has no mark yet.
+    bool m_isMarkDue = false;
     Announced m_announced;
     LastLines m_lastLines;
     std::vector<IJournalObserver*> m_observers;
@@ -101,6 +136,7 @@ bool JournalManagerImpl::Open(const std::string& path, std::string& error)
     if (!m_file.Replace(path, error))
         return false;
     StartAnew();
+    m_file.Add(HeaderLine());
     return true;
 }
 
@@ -117,11 +153,13 @@ void JournalManagerImpl::Continue(int lastNumber)
     m_file.Continue();
     m_lastNumber = lastNumber;
     m_announced = {};
+    m_isMarkDue = false;
+    m_begin = std::chrono::steady_clock::now();
 }
 
 bool JournalManagerImpl::MoveTo(const std::string& path, std::string& error)
 {
-    return m_file.MoveTo(path, error);
+    return m_file.MoveTo(path, HeaderLine(), error);
 }
 
 bool JournalManagerImpl::Close()
@@ -134,7 +172,23 @@ void JournalManagerImpl::StartAnew()
 {
     m_lastNumber = 0;
     m_announced = {};
+    m_isMarkDue = false;
+    m_begin = std::chrono::steady_clock::now();
     m_lastLines.Clear();
+}
+
+std::string JournalManagerImpl::HeaderLine() const
+{
+    const std::string time = FormatUtcTime(std::chrono::system_clock::now());
+    const HeaderRecord header{HeaderRecord::CurrentVersion, m_program, FromUtf8(time)};
+    return JournalFormat::ToLine({0, header}) + '\n';
+}
+
+void JournalManagerImpl::SetDigestSource(std::function<std::string()> source)
+{
+    m_digestSource = std::move(source);
+    m_lastDigest = m_digestSource ? m_digestSource() : std::string();
+    m_isMarkDue = false;
 }
 
 int JournalManagerImpl::Add(decltype(JournalRecord::what) what)
@@ -145,11 +199,24 @@ int JournalManagerImpl::Add(decltype(JournalRecord::what) what)
     const std::string line = JournalFormat::ToLine(record);
     if (pEnd == nullptr)
         m_lastNumber = record.number;
+    m_isMarkDue = m_isMarkDue || EndsStep(record);
 
     m_lastLines.Add(line);
     m_file.Add(line + '\n');
     TellObservers([&record](IJournalObserver& observer) { observer.OnRecord(record); });
     return record.number;
+}
+
+void JournalManagerImpl::FinishStep()
+{
+    if (!m_digestSource)
+        return;
+    const std::string digest = m_digestSource();
+    if (!m_isMarkDue && digest == m_lastDigest)
+        return;
+    m_isMarkDue = false;
+    m_lastDigest = digest;
+    Add(MarkRecord{digest, MillisecondsSince(m_begin)});
 }
 
 int JournalManagerImpl::TakeAnnounced(const std::wstring& commandId)

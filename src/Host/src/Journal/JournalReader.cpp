@@ -73,13 +73,18 @@ bool JournalReader::Read()
         return Fail("not a JSON object");
     if (!TakeInteger("n", m_record.number))
         return false;
-    if (m_record.number < 1)
-        return Fail("\"n\" is below 1");
-    if (!ReadKind())
+    if (!ReadKind() || !CheckNumber())
         return false;
     if (!m_line.empty())
         return Fail("unexpected key " + Quote(m_line.begin().key()));
     return true;
+}
+
+bool JournalReader::CheckNumber()
+{
+    if (std::holds_alternative<HeaderRecord>(m_record.what))
+        return m_record.number == 0 || Fail("\"n\" of a header is not 0");
+    return m_record.number >= 1 || Fail("\"n\" is below 1");
 }
 
 bool JournalReader::ReadKind()
@@ -93,6 +98,8 @@ bool JournalReader::ReadKind()
         {"command", &JournalReader::ReadCommand}, {"point", &JournalReader::ReadPoint},
         {"value", &JournalReader::ReadValue},     {"selection", &JournalReader::ReadSelection},
         {"undo", &JournalReader::ReadUndo},       {"property", &JournalReader::ReadProperty},
+        {"redo", &JournalReader::ReadRedo},       {"mark", &JournalReader::ReadMark},
+        {"close", &JournalReader::ReadClose},     {"journal", &JournalReader::ReadHeader},
         {"end", &JournalReader::ReadEnd},
     };
     std::string name;
@@ -160,6 +167,50 @@ bool JournalReader::ReadUndo()
 {
     UndoRecord record;
     if (!TakeInteger("entity", record.entity))
+        return false;
+    m_record.what = record;
+    return true;
+}
+
+bool JournalReader::ReadRedo()
+{
+    RedoRecord record;
+    if (!TakeInteger("entity", record.entity))
+        return false;
+    m_record.what = record;
+    return true;
+}
+
+bool JournalReader::ReadMark()
+{
+    MarkRecord record;
+    if (!TakeText("digest", record.digest))
+        return false;
+    if (Has("t") && !TakeInteger("t", record.time.emplace()))
+        return false;
+    m_record.what = record;
+    return true;
+}
+
+bool JournalReader::ReadClose()
+{
+    m_record.what = CloseRecord();
+    return true;
+}
+
+/// The version is checked first: a newer one may have other fields.
+bool JournalReader::ReadHeader()
+{
+    constexpr int Current = HeaderRecord::CurrentVersion;
+    HeaderRecord record;
+    if (!TakeInteger("version", record.version))
+        return false;
+    if (record.version > Current)
+        return Fail("the journal has version " + std::to_string(record.version) +
+                    ", this program reads up to version " + std::to_string(Current));
+    if (record.version < Current)
+        return Fail("no header has version " + std::to_string(record.version));
+    if (!TakeText("program", record.program) || !TakeText("time", record.time))
         return false;
     m_record.what = record;
     return true;

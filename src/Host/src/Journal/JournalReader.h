@@ -34,7 +34,12 @@ private:
     bool ReadSelection();
     bool ReadProperty();
     bool ReadUndo();
+    bool ReadRedo();
+    bool ReadMark();
+    bool ReadClose();
+    bool ReadHeader();
     bool ReadEnd();
+    bool CheckNumber();
 
     /// Each removes a member from the line and reads it. False if it is missing or of another type.
     bool TakeText(const char* key, std::string& text);

@@ -2,7 +2,9 @@
 
 #include "Platform/PlainNumbers.h"
 
+#include <algorithm>
 #include <set>
+#include <utility>
 #include <vector>
 
 namespace vesk
@@ -17,11 +19,8 @@ using Json = nlohmann::ordered_json;
 class Strictness
 {
 public:
-    void On(int depth, Json::parse_event_t event, const Json& parsed)
+    void On(Json::parse_event_t event, const Json& parsed)
     {
-        constexpr int GreatestDepth = 32;
-        if (depth >= GreatestDepth && m_error.empty())
-            m_error = "nested too deeply";
         if (event == Json::parse_event_t::object_start)
             m_open.emplace_back();
         else if (event == Json::parse_event_t::object_end)
@@ -45,16 +44,63 @@ private:
     std::string m_error;
 };
 
+/// Counts the brackets before anything is parsed: the parser needs memory for each level.
+class Nesting
+{
+public:
+    explicit Nesting(const std::string& text)
+    {
+        for (const char character : text)
+            Add(character);
+    }
+
+    bool IsTooDeep() const
+    {
+        constexpr int GreatestDepth = 32;
+        return m_deepest > GreatestDepth;
+    }
+
+private:
+    void Add(char character)
+    {
+        if (m_isInText)
+            AddInText(character);
+        else if (character == '[' || character == '{')
+            m_deepest = std::max(m_deepest, ++m_depth);
+        else if (character == ']' || character == '}')
+            --m_depth;
+        else
+            m_isInText = character == '"';
+    }
+
+    void AddInText(char character)
+    {
+        const bool isEscaped = std::exchange(m_isEscaped, false);
+        m_isEscaped = character == '\\' && !isEscaped;
+        m_isInText = character != '"' || isEscaped;
+    }
+
+    int m_depth = 0;
+    int m_deepest = 0;
+    bool m_isInText = false;
+    bool m_isEscaped = false;
+};
+
 }
 
 bool ParseJson(const std::string& text, Json& value, std::string& error)
 {
+    if (Nesting(text).IsTooDeep())
+    {
+        error = "nested too deeply";
+        return false;
+    }
     // The parser assumes that the locale's decimal point is one byte, which is not true of every
     // locale.
     const PlainNumbersScope plainNumbers;
     Strictness strictness;
-    const auto watch = [&strictness](int depth, Json::parse_event_t event, const Json& parsed) {
-        strictness.On(depth, event, parsed);
+    const auto watch = [&strictness](int, Json::parse_event_t event, const Json& parsed) {
+        strictness.On(event, parsed);
         return true;
     };
     value = Json::parse(text, watch, false);

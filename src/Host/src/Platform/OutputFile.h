@@ -36,6 +36,10 @@ public:
     /// locks, the file is opened without one.
     Opening OpenAlone(const std::filesystem::path& path);
 
+    /// True if another program has the file open by OpenAlone. Changes nothing; false if the file
+    /// is missing or that cannot be determined.
+    static bool IsInUse(const std::filesystem::path& path);
+
     /// Opens a file that others may also write, and creates it if it is missing.
     bool OpenShared(const std::filesystem::path& path);
 
@@ -52,6 +56,9 @@ public:
 
     /// Waits until everything is on disk. False if that fails.
     bool Sync();
+
+    /// The same for the content and its length alone, which takes less time.
+    bool SyncData();
 
     /// False if what was written may not have reached the file. Returns true if no file is open.
     bool Close();

@@ -45,6 +45,16 @@ OutputFile::Opening OutputFile::OpenAlone(const std::filesystem::path& path)
     return Opening::Done;
 }
 
+bool OutputFile::IsInUse(const std::filesystem::path& path)
+{
+    const int descriptor = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (descriptor < 0)
+        return false;
+    const bool isLocked = ::flock(descriptor, LOCK_SH | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+    ::close(descriptor);
+    return isLocked;
+}
+
 bool OutputFile::OpenShared(const std::filesystem::path& path)
 {
     Close();
@@ -87,6 +97,11 @@ bool OutputFile::CutTo(std::uint64_t size)
 bool OutputFile::Sync()
 {
     return ::fsync(DescriptorOf(m_handle)) == 0 || IsSyncUnknown();
+}
+
+bool OutputFile::SyncData()
+{
+    return ::fdatasync(DescriptorOf(m_handle)) == 0 || IsSyncUnknown();
 }
 
 bool OutputFile::Close()

@@ -35,6 +35,15 @@ OutputFile::Opening OutputFile::OpenAlone(const std::filesystem::path& path)
     return ::GetLastError() == ERROR_SHARING_VIOLATION ? Opening::InUse : Opening::Failed;
 }
 
+bool OutputFile::IsInUse(const std::filesystem::path& path)
+{
+    OutputFile file;
+    file.m_handle =
+        OpenAtEnd(path, FILE_APPEND_DATA, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                  OPEN_EXISTING);
+    return !file.IsOpen() && ::GetLastError() == ERROR_SHARING_VIOLATION;
+}
+
 bool OutputFile::OpenShared(const std::filesystem::path& path)
 {
     Close();
@@ -86,6 +95,11 @@ bool OutputFile::Sync()
     // Devices have nothing to be synced to disk.
     return IsOpen() && (::GetFileType(HandleOf(m_handle)) != FILE_TYPE_DISK ||
                         ::FlushFileBuffers(HandleOf(m_handle)));
+}
+
+bool OutputFile::SyncData()
+{
+    return Sync();
 }
 
 bool OutputFile::Close()

@@ -5,6 +5,7 @@
 #include "Command/ICommand.h"
 #include "Command/ICommandManager.h"
 #include "Foundation/FirstException.h"
+#include "Foundation/ScopedValue.h"
 #include "Foundation/Text.h"
 #include "Journal/JournalManager.h"
 #include "View/IUiDocumentViewManager.h"
@@ -19,6 +20,8 @@ namespace vesk
 
 namespace
 {
+
+bool s_isReplaying = false;
 
 /// Disables the event loop of actions while it exists.
 class EventLoopOffScope
@@ -90,6 +93,10 @@ public:
     std::string operator()(const PropertyRecord& record);
     std::string operator()(const UndoRecord& record);
     std::string operator()(const EndRecord& record);
+    std::string operator()(const RedoRecord& record);
+    std::string operator()(const MarkRecord& record);
+    std::string operator()(const HeaderRecord&) { return {}; }
+    std::string operator()(const CloseRecord&) { return {}; }
 
 private:
     struct Pending
@@ -108,6 +115,7 @@ private:
     std::string FailAt(int number, const std::string& failure);
     std::vector<EndRecord> FindMissingMarks() const;
     bool IsFollowedByCommandsOnly(std::size_t index) const;
+    std::string TellUndone(const std::string& what, int expected) const;
 
     const std::vector<JournalRecord>& m_records;
     IJournalReplayTarget& m_target;
@@ -130,6 +138,14 @@ bool IsInteractive(const CommandRecord& record)
 {
     const ICommand* pCommand = ICommandManager::Get()->GetCommand(record.commandId);
     return pCommand != nullptr && pCommand->IsInteractive();
+}
+
+/// True for a record that a plain command writes when it has done its work.
+bool IsResult(const JournalRecord& record)
+{
+    return std::holds_alternative<UndoRecord>(record.what) ||
+           std::holds_alternative<RedoRecord>(record.what) ||
+           std::holds_alternative<MarkRecord>(record.what);
 }
 
 bool IsActionRunning()
@@ -200,6 +216,7 @@ std::string Replay::operator()(const PointRecord& record)
     bool isDone = false;
     ActionRunner::GetInstance().Operate([&record, &isDone](IAction& action) {
         isDone = action.ReplayPoint(record.point, record.entity);
+        JournalManager::GetInstance().FinishStep();
     });
     return isDone ? "" : "the point cannot be replayed";
 }
@@ -230,7 +247,28 @@ std::string Replay::operator()(const PropertyRecord& record)
 
 std::string Replay::operator()(const UndoRecord& record)
 {
-    return m_target.VerifyUndo(record) ? "" : "the undo had a different result";
+    return m_target.VerifyUndo(record) ? "" : TellUndone("undo", record.entity);
+}
+
+std::string Replay::operator()(const RedoRecord& record)
+{
+    return m_target.VerifyRedo(record) ? "" : TellUndone("redo", record.entity);
+}
+
+std::string Replay::operator()(const MarkRecord& record)
+{
+    const std::string actual = m_target.VerifyMark(record);
+    return actual.empty()
+               ? ""
+               : "the drawing is different: expected " + record.digest + ", actual " + actual;
+}
+
+std::string Replay::TellUndone(const std::string& what, int expected) const
+{
+    const std::string failure =
+        "the " + what + " had a different result: expected entity " + std::to_string(expected);
+    const std::optional<int> actual = m_target.GetLastUndone();
+    return actual.has_value() ? failure + ", actual " + std::to_string(*actual) : failure;
 }
 
 std::string Replay::operator()(const EndRecord& record)
@@ -263,7 +301,7 @@ bool Replay::IsWorthRunning(const Pending& command) const
     // The action it waited for ended first.
     while (next < m_records.size() && std::holds_alternative<EndRecord>(m_records[next].what))
         ++next;
-    return next < m_records.size() && std::holds_alternative<UndoRecord>(m_records[next].what);
+    return next < m_records.size() && IsResult(m_records[next]);
 }
 
 /// Plain commands ran alongside the action: their marks come first. An action that was ended by
@@ -331,6 +369,11 @@ std::string Replay::FailAt(int number, const std::string& failure)
 
 }
 
+bool JournalReplayer::IsReplaying()
+{
+    return s_isReplaying;
+}
+
 JournalReplayResult JournalReplayer::Replay(const std::vector<JournalRecord>& records,
                                             IJournalReplayTarget& target)
 {
@@ -342,6 +385,7 @@ JournalReplayResult JournalReplayer::Replay(const std::vector<JournalRecord>& re
     }
     ActionManager::Reset();
     const EventLoopOffScope eventLoopOff;
+    const ScopedValue<bool> replaying(s_isReplaying, true);
     JournalReplayResult result;
     FirstException exception;
     exception.Catch([&] { result = vesk::Replay(records, target).Run(); });

@@ -1,7 +1,7 @@
 #include "Warnings/WarningLog.h"
 
+#include "Foundation/UtcTime.h"
 #include "Journal/JournalManager.h"
-#include "Warnings/UtcTime.h"
 
 #include <chrono>
 #include <cstdio>

@@ -1,4 +1,4 @@
-#include "Warnings/UtcTime.h"
+#include "Foundation/UtcTime.h"
 
 #include "Support/TestValues.h"
 

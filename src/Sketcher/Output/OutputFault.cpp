@@ -1,0 +1,40 @@
+#include "Output/OutputFault.h"
+
+namespace
+{
+
+struct FaultTexts
+{
+    OutputFault fault;
+    const char* caption;
+    const char* description;
+};
+
+constexpr FaultTexts OutputFaultTexts[] = {
+    {OutputFault::None, "", ""},
+    {OutputFault::Stopped, "已取消", "stopped"},
+    {OutputFault::NothingVisible, "图纸中没有可见的图元", "the drawing has no visible entities"},
+    {OutputFault::TooLarge, "图纸太大，此格式无法按 1:1 输出",
+     "the drawing is too large for this format at true scale"},
+    {OutputFault::OutOfMemory, "内存不足", "not enough memory"},
+    {OutputFault::CannotWrite, "无法写入文件", "the file cannot be written"},
+    {OutputFault::NoDxfTool, "找不到 vesk-dxf 程序", "the program vesk-dxf cannot be started"},
+    {OutputFault::DxfToolFailed, "vesk-dxf 程序出错", "the program vesk-dxf failed"},
+};
+
+const FaultTexts& TextsOf(OutputFault fault)
+{
+    return OutputFaultTexts[static_cast<int>(fault)];
+}
+
+}
+
+QString CaptionOf(OutputFault fault)
+{
+    return QString::fromUtf8(TextsOf(fault).caption);
+}
+
+std::string DescribeOutputFault(OutputFault fault)
+{
+    return TextsOf(fault).description;
+}

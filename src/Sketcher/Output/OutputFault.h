@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+
+#include <string>
+
+/// Why a drawing could not be put out.
+enum class OutputFault
+{
+    None,
+    Stopped,        ///< By the user.
+    NothingVisible, ///< The drawing is empty, or all its entities are on hidden layers.
+    TooLarge,       ///< At true scale the format has no sheet of that size.
+    OutOfMemory,
+    CannotWrite,
+    NoDxfTool,     ///< The program vesk-dxf cannot be started.
+    DxfToolFailed, ///< It ended with an error or was too slow.
+};
+
+/// On screen.
+QString CaptionOf(OutputFault fault);
+
+/// On standard error.
+std::string DescribeOutputFault(OutputFault fault);

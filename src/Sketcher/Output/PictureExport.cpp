@@ -1,0 +1,126 @@
+#include "Output/PictureExport.h"
+
+#include "Model/SketchContent.h"
+
+#include "HostUi/QtText.h"
+
+#include <QBuffer>
+#include <QImage>
+#include <QPageSize>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QSvgGenerator>
+
+#include <algorithm>
+#include <cmath>
+
+namespace
+{
+
+constexpr double MillimetresPerInch = 25.4;
+
+/// In millimetres.
+constexpr double PictureMargin = 5.0;
+
+/// Paints on a device with that many of its units per millimetre.
+bool PaintOnDevice(QPaintDevice& device, double unitsPerMillimetre, const SketchContent& content,
+                   const PaperPlacement& placement, const OutputProgress& progress)
+{
+    QPainter painter(&device);
+    if (unitsPerMillimetre != 1.0)
+        painter.scale(unitsPerMillimetre, unitsPerMillimetre);
+    painter.setRenderHint(QPainter::Antialiasing);
+    return PaintOnPaper(painter, content, placement, progress);
+}
+
+bool IsWithin(const QSizeF& size, double greatest)
+{
+    return size.width() <= greatest && size.height() <= greatest;
+}
+
+}
+
+OutputBytes MakeSvg(const SketchContent& content, const OutputProgress& progress)
+{
+    constexpr int UnitsPerInch = 254;
+    constexpr double Greatest = 1e7;
+    const std::optional<ShapeBounds> bounds = VisibleBounds(content);
+    if (!bounds.has_value())
+        return {{}, OutputFault::NothingVisible};
+    const auto placement = PaperPlacement::Around(*bounds, 1.0, PictureMargin, 1.0);
+    if (!IsWithin(placement.paper, Greatest))
+        return {{}, OutputFault::TooLarge};
+
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    QSvgGenerator generator;
+    generator.setOutputDevice(&buffer);
+    generator.setTitle(vesk::ToQString(content.name));
+    // The size in the file is the number of units divided by the resolution.
+    generator.setResolution(UnitsPerInch);
+    generator.setSize((placement.paper * (UnitsPerInch / MillimetresPerInch)).toSize());
+    generator.setViewBox(QRectF(QPointF(0.0, 0.0), placement.paper));
+    if (!PaintOnDevice(generator, 1.0, content, placement, progress))
+        return {{}, OutputFault::Stopped};
+    return {buffer.data()};
+}
+
+OutputBytes MakePdf(const SketchContent& content, const OutputProgress& progress)
+{
+    constexpr double PointsPerInch = 72.0;
+    constexpr double MillimetresPerPoint = MillimetresPerInch / PointsPerInch;
+    constexpr double Greatest = 14400.0 * MillimetresPerPoint;
+    constexpr int Resolution = 1200;
+    const std::optional<ShapeBounds> bounds = VisibleBounds(content);
+    if (!bounds.has_value())
+        return {{}, OutputFault::NothingVisible};
+    // The page has whole points in the file.
+    const auto placement =
+        PaperPlacement::Around(*bounds, 1.0, PictureMargin, MillimetresPerPoint);
+    if (!IsWithin(placement.paper, Greatest))
+        return {{}, OutputFault::TooLarge};
+
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    {
+        QPdfWriter writer(&buffer);
+        writer.setTitle(vesk::ToQString(content.name));
+        writer.setResolution(Resolution);
+        const QSize points(static_cast<int>(std::lround(placement.paper.width() / MillimetresPerPoint)),
+                           static_cast<int>(std::lround(placement.paper.height() / MillimetresPerPoint)));
+        writer.setPageSize(QPageSize(points, QString(), QPageSize::ExactMatch));
+        writer.setPageMargins(QMarginsF());
+        if (!PaintOnDevice(writer, Resolution / MillimetresPerInch, content, placement, progress))
+            return {{}, OutputFault::Stopped};
+    }
+    return {buffer.data()};
+}
+
+OutputBytes MakePng(const SketchContent& content, const OutputProgress& progress)
+{
+    constexpr double PixelsPerMillimetre = 300.0 / MillimetresPerInch;
+    constexpr double GreatestSide = 6000.0 / PixelsPerMillimetre - 2.0 * PictureMargin;
+    const std::optional<ShapeBounds> bounds = VisibleBounds(content);
+    if (!bounds.has_value())
+        return {{}, OutputFault::NothingVisible};
+    const vesk::Vector3d size = bounds->high - bounds->low;
+    const double side = std::max(size.x(), size.y());
+    const double scale = side > GreatestSide ? GreatestSide / side : 1.0;
+    const auto placement =
+        PaperPlacement::Around(*bounds, scale, PictureMargin, 1.0 / PixelsPerMillimetre);
+
+    QImage image((placement.paper * PixelsPerMillimetre).toSize(), QImage::Format_RGB32);
+    if (image.isNull())
+        return {{}, OutputFault::OutOfMemory};
+    image.fill(Qt::white);
+    if (!PaintOnDevice(image, PixelsPerMillimetre, content, placement, progress))
+        return {{}, OutputFault::Stopped};
+    const auto pixelsPerMetre = static_cast<int>(std::lround(PixelsPerMillimetre * 1000.0));
+    image.setDotsPerMeterX(pixelsPerMetre);
+    image.setDotsPerMeterY(pixelsPerMetre);
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    if (!image.save(&buffer, "PNG"))
+        return {{}, OutputFault::OutOfMemory};
+    return {buffer.data()};
+}
