@@ -8,7 +8,7 @@
 #include <cstddef>
 #include <optional>
 
-using Json = nlohmann::json;
+using Json = nlohmann::ordered_json;
 
 namespace
 {
@@ -46,9 +46,8 @@ DocumentFields::DocumentFields(const JsonPiece& object) : m_object(object)
 
 JsonPiece DocumentFields::Take(const std::string& key)
 {
-    const auto found = std::find_if(m_fields.begin(), m_fields.end(), [&key](const Field& field) {
-        return field.member.key == key;
-    });
+    const auto found = std::find_if(m_fields.begin(), m_fields.end(),
+                                    [&key](const Field& field) { return field.member.key == key; });
     if (found == m_fields.end())
         Refuse(key, m_object, "missing");
     found->isTaken = true;

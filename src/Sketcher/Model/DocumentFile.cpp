@@ -5,7 +5,7 @@
 #include "Model/EntityJson.h"
 #include "Model/JsonPieces.h"
 
-#include "Foundation/DecimalPointScope.h"
+#include "Foundation/LocaleFreeNumbers.h"
 #include "Foundation/Text.h"
 
 #include <algorithm>
@@ -56,8 +56,8 @@ std::string HeadOf(const SketchContent& content)
     text += ",\"lastId\":" + std::to_string(content.lastId);
     text += ",\"lastLayerId\":" + std::to_string(content.lastLayerId);
     text += ",\n\"layers\":" + LayersOf(content);
-    return text + ",\n\"pen\":" +
-           Join(ToJson(content.currentPen).dump(), content.unknown.currentPen);
+    return text +
+           ",\n\"pen\":" + Join(ToJson(content.currentPen).dump(), content.unknown.currentPen);
 }
 
 DocumentReading Failed(DocumentReading::Outcome outcome, const std::string& error, int line)
@@ -93,7 +93,7 @@ std::string DocumentFile::ToText(const SketchContent& content, const Progress& p
 
 DocumentReading DocumentFile::FromText(std::string_view text, const Progress& progress)
 {
-    const vesk::DecimalPointScope decimalPoint;
+    const vesk::LocaleFreeNumbers decimalPoint;
     try
     {
         return DocumentReader(progress).Read(text);

@@ -36,7 +36,8 @@ private slots:
                 R"({"type":"arc","centre":[0.0,0.0,0.0],"radius":5.0,"start":[5.0,0.0,0.0],)"
                 R"("end":[0.0,5.0,0.0],"normal":[0.0,0.0,1.0],"style":"dashed","colour":"red","width":"0.25","layer":0},)"
                 R"({"type":"rectangle","corners":[[0.0,0.0,0.0],[8.0,0.0,0.0],[8.0,6.0,0.0],)"
-                R"([0.0,6.0,0.0]],"style":"dashed","colour":"red","width":"0.25","layer":0}]})"
+                R"([0.0,6.0,0.0]],"style":"dashed","colour":"red","width":"0.25","layer":0}],)"
+                R"("layers":[{"id":0,"name":"0","colour":"default","visible":true,"locked":false}]})"
                 "\n"));
     }
 
