@@ -22,7 +22,7 @@ namespace PaneDriver
 inline QStringList Names()
 {
     return {vesk::ToQString(vesk::IPropertyWidget::GetTypeName()), QStringLiteral("Entities"),
-            QStringLiteral("Journal"), QStringLiteral("Inspector")};
+            QStringLiteral("Layers"), QStringLiteral("Journal"), QStringLiteral("Inspector")};
 }
 
 /// The command that shows or hides a pane.
@@ -51,7 +51,7 @@ inline QAbstractButton* CloseButton(const QString& name)
     return Widget(name).findChild<QAbstractButton*>(QStringLiteral("qt_dockwidget_closebutton"));
 }
 
-/// Which panes are visible, in the order of the menu: "1011".
+/// Which panes are visible, in the order of the menu: "10111".
 inline QString Visible()
 {
     QString visible;

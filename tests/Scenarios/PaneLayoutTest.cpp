@@ -47,8 +47,8 @@ QString NoticeOf(const ScenarioFixture& fixture)
     ScriptedUser user;
     user.Do([&notice] {
         notice = ScriptedUser::FindWindow()->statusBar()->currentMessage();
-        QCOMPARE(PaneDriver::Visible(), QStringLiteral("1111"));
-        QCOMPARE(PaneDriver::Marked(), QStringLiteral("1111"));
+        QCOMPARE(PaneDriver::Visible(), QStringLiteral("11111"));
+        QCOMPARE(PaneDriver::Marked(), QStringLiteral("11111"));
     });
     if (user.Run(fixture.Draw()) != 0)
         QTest::qFail("the session did not end well", __FILE__, __LINE__);
@@ -67,9 +67,9 @@ private slots:
 
     void theLayoutComesBackInTheNextSession()
     {
-        RunOnce(*m_pFixture, "1111", "Journal");
-        RunOnce(*m_pFixture, "1101", "Entities");
-        RunOnce(*m_pFixture, "1001", QString());
+        RunOnce(*m_pFixture, "11111", "Journal");
+        RunOnce(*m_pFixture, "11101", "Entities");
+        RunOnce(*m_pFixture, "10101", QString());
     }
 
     void aSessionThatEndsWithAllHiddenSavesWhatWasBefore()
@@ -78,7 +78,7 @@ private slots:
         user.Do([] { PaneDriver::Dock("Entities").Hide(); }).Click(s_hideAll);
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
 
-        RunOnce(*m_pFixture, "1011", QString());
+        RunOnce(*m_pFixture, "10111", QString());
     }
 
     void placesAndSizesComeBack()
@@ -118,15 +118,15 @@ private slots:
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
 
         ScriptedUser next;
-        next.Until([] { return PaneDriver::Visible() == "1111"; }).Do([place] {
+        next.Until([] { return PaneDriver::Visible() == "11111"; }).Do([place] {
             QVERIFY(PaneDriver::Dock("Journal").IsFloating());
             QCOMPARE(PaneDriver::Widget("Journal").geometry(), place);
-            QCOMPARE(PaneDriver::Marked(), QStringLiteral("1111"));
+            QCOMPARE(PaneDriver::Marked(), QStringLiteral("11111"));
         });
-        next.Click(s_hideAll).Do([] { QCOMPARE(PaneDriver::Visible(), QStringLiteral("0000")); });
+        next.Click(s_hideAll).Do([] { QCOMPARE(PaneDriver::Visible(), QStringLiteral("00000")); });
         QCOMPARE(next.Run(m_pFixture->Draw()), 0);
 
-        RunOnce(*m_pFixture, "1111", QString());
+        RunOnce(*m_pFixture, "11111", QString());
     }
 
     void withoutAFileTheFactoryLayoutStandsAndNothingIsSaid()
@@ -182,7 +182,7 @@ private slots:
     void aReplayNeitherReadsNorWritesALayout()
     {
         QFETCH(bool, hasLayout);
-        RunOnce(*m_pFixture, "1111", "Journal");
+        RunOnce(*m_pFixture, "11111", "Journal");
         if (!hasLayout)
             QVERIFY(QFile::remove(ScenarioFixture::LayoutFile()));
         const QByteArray before = ReadBytes(ScenarioFixture::LayoutFile());
@@ -196,7 +196,7 @@ private slots:
         QCOMPARE(QFileInfo::exists(ScenarioFixture::LayoutFile()), hasLayout);
         QCOMPARE(ReadBytes(ScenarioFixture::LayoutFile()), before);
         const auto docks = nlohmann::json::parse(ReadBytes(tree).toStdString())["docks"];
-        QCOMPARE(docks.size(), std::size_t{4});
+        QCOMPARE(docks.size(), std::size_t{5});
         for (const nlohmann::json& dock : docks)
             QVERIFY2(dock["visible"].get<bool>(), dock.dump().c_str());
     }

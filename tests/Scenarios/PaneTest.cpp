@@ -51,12 +51,12 @@ public:
     void ToggleAll()
     {
         const QString before = m_visible;
-        m_visible = m_remembered.value_or(QStringLiteral("0000"));
+        m_visible = m_remembered.value_or(QStringLiteral("00000"));
         m_remembered = m_remembered.has_value() ? std::nullopt : std::make_optional(before);
     }
 
 private:
-    QString m_visible = QStringLiteral("1111");
+    QString m_visible = QStringLiteral("11111");
     std::optional<QString> m_remembered;
 };
 
@@ -73,8 +73,8 @@ private slots:
         ScriptedUser user;
 
         user.Do([] {
-            QCOMPARE(PaneDriver::Visible(), QStringLiteral("1111"));
-            QCOMPARE(PaneDriver::Marked(), QStringLiteral("1111"));
+            QCOMPARE(PaneDriver::Visible(), QStringLiteral("11111"));
+            QCOMPARE(PaneDriver::Marked(), QStringLiteral("11111"));
         });
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
@@ -97,40 +97,40 @@ private slots:
         QTest::addColumn<QString>("visible");
 
         const QString entry = PaneDriver::CommandOf("Journal");
-        AddRow("menu", "1101", [entry](ScriptedUser& user) { user.Choose(s_menu, entry); });
-        AddRow("menu twice", "1111",
+        AddRow("menu", "11101", [entry](ScriptedUser& user) { user.Choose(s_menu, entry); });
+        AddRow("menu twice", "11111",
                [entry](ScriptedUser& user) { user.Choose(s_menu, entry).Choose(s_menu, entry); });
-        AddRow("all hidden", "0000", [](ScriptedUser& user) { user.Click(s_hideAll); });
-        AddRow("all hidden and back", "1101", [](ScriptedUser& user) {
+        AddRow("all hidden", "00000", [](ScriptedUser& user) { user.Click(s_hideAll); });
+        AddRow("all hidden and back", "11101", [](ScriptedUser& user) {
             Program(user, [] { PaneDriver::Dock("Journal").Hide(); });
             user.Click(s_hideAll).Click(s_hideAll);
         });
-        AddRow("one shown of all hidden", "0010",
+        AddRow("one shown of all hidden", "00010",
                [entry](ScriptedUser& user) { user.Click(s_hideAll).Choose(s_menu, entry); });
-        AddRow("main part of the button", "1111",
+        AddRow("main part of the button", "11111",
                [](ScriptedUser& user) { user.Click(s_hideAll).Click(s_menu); });
-        AddRow("hidden by the program", "1011", [](ScriptedUser& user) {
+        AddRow("hidden by the program", "10111", [](ScriptedUser& user) {
             Program(user, [] { PaneDriver::Dock("Entities").Hide(); });
         });
-        AddRow("shown by the program", "0100", [](ScriptedUser& user) {
+        AddRow("shown by the program", "01000", [](ScriptedUser& user) {
             user.Click(s_hideAll);
             Program(user, [] { PaneDriver::Dock("Entities").Show(); });
         });
-        AddRow("all hidden by the program", "0000", [](ScriptedUser& user) {
+        AddRow("all hidden by the program", "00000", [](ScriptedUser& user) {
             Program(user, [] { PaneDriver::Manager().HideAllDockPane(); });
         });
-        AddRow("all shown by the program", "1111", [](ScriptedUser& user) {
+        AddRow("all shown by the program", "11111", [](ScriptedUser& user) {
             user.Click(s_hideAll);
             Program(user, [] { PaneDriver::Manager().ShowAllDockPane(); });
         });
-        AddRow("closed", "1011", [](ScriptedUser& user) {
+        AddRow("closed", "10111", [](ScriptedUser& user) {
             user.Do([] { PaneDriver::CloseButton("Entities")->click(); });
         });
-        AddRow("floating and closed", "1101", [](ScriptedUser& user) {
+        AddRow("floating and closed", "11101", [](ScriptedUser& user) {
             Program(user, [] { PaneDriver::Dock("Journal").SetFloating(true); });
             user.Do([] { PaneDriver::Widget("Journal").close(); });
         });
-        AddRow("default layout", "1111", [](ScriptedUser& user) {
+        AddRow("default layout", "11111", [](ScriptedUser& user) {
             Program(user, [] { PaneDriver::Manager().HideAllDockPane(); });
             user.Click(s_default);
         });
@@ -170,7 +170,7 @@ private slots:
             user.Click("Sketcher.Erase").UntilRunning("Sketcher.Erase");
         user.Click(s_line).UntilRunning(s_line).ClickAt(0, 0);
         user.Click(s_menu).UntilRunning(runsAfterwards).Do([] {
-            QCOMPARE(PaneDriver::Visible(), QStringLiteral("1111"));
+            QCOMPARE(PaneDriver::Visible(), QStringLiteral("11111"));
         });
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);

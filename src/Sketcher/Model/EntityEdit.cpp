@@ -1,5 +1,6 @@
 #include "Model/EntityEdit.h"
 
+#include "Model/ParameterValue.h"
 #include "Model/ShapeProperty.h"
 #include "Model/Sketch.h"
 
@@ -15,13 +16,6 @@ namespace
 constexpr wchar_t EntitiesParameter[] = L"entities";
 constexpr wchar_t PropertyParameter[] = L"property";
 constexpr wchar_t ValueParameter[] = L"value";
-
-template <class Value>
-const Value* Find(const CommandParameters& parameters, const wchar_t* name)
-{
-    const CommandParameterValue* pValue = parameters.Find(name);
-    return pValue != nullptr ? std::get_if<Value>(&pValue->Get()) : nullptr;
-}
 
 /// The ids, separated by blanks.
 std::wstring ToText(const std::vector<int>& ids)
@@ -85,9 +79,9 @@ CommandParameters EntityEdit::ToParameters() const
 
 std::optional<EntityEdit> EntityEdit::From(const CommandParameters& parameters)
 {
-    const auto* pEntities = Find<std::wstring>(parameters, EntitiesParameter);
-    const auto* pProperty = Find<std::wstring>(parameters, PropertyParameter);
-    const auto* pValue = Find<double>(parameters, ValueParameter);
+    const auto* pEntities = FindParameter<std::wstring>(parameters, EntitiesParameter);
+    const auto* pProperty = FindParameter<std::wstring>(parameters, PropertyParameter);
+    const auto* pValue = FindParameter<double>(parameters, ValueParameter);
     if (pEntities == nullptr || pProperty == nullptr || pValue == nullptr)
         return std::nullopt;
     std::optional<std::vector<int>> ids = FromText(*pEntities);

@@ -1,6 +1,5 @@
 #include "Model/PropertyEditor.h"
 
-#include "Model/Pen.h"
 #include "Model/Selection.h"
 #include "Model/Sketch.h"
 
@@ -28,21 +27,34 @@ bool PropertyEditor::Set(const PropertyRecord& record)
 
 bool PropertyEditor::SetPenPart(const PropertyRecord& record)
 {
-    const bool isOfSelection = record.object == L"selection";
-    if (!isOfSelection && record.object != L"pen")
-        return false;
+    if (record.property == L"layer")
+        return SetPen(record, &Pen::layer, FindLayer(record.value));
     const auto part =
         std::find_if(PenParts().begin(), PenParts().end(),
                      [&record](const PenPart& known) { return known.name == record.property; });
-    if (part == PenParts().end())
-        return false;
-    const std::optional<int> value = part->Find(record.value);
-    if (!value.has_value())
+    return part != PenParts().end() && SetPen(record, part->member, part->Find(record.value));
+}
+
+bool PropertyEditor::SetPen(const PropertyRecord& record, int Pen::*part, std::optional<int> value)
+{
+    const bool isOfSelection = record.object == L"selection";
+    if (!value.has_value() || (!isOfSelection && record.object != L"pen"))
         return false;
     JournalManager::GetInstance().Add(record);
     if (isOfSelection)
-        m_sketch.SetPen(m_selection.GetIds(), part->member, *value);
+        m_sketch.SetPen(m_selection.GetIds(), part, *value);
     else
-        m_sketch.SetCurrentPen(part->member, *value);
+        m_sketch.SetCurrentPen(part, *value);
     return true;
+}
+
+/// The id that a text stands for; nothing if there is no such layer.
+std::optional<int> PropertyEditor::FindLayer(const std::wstring& idText) const
+{
+    for (const Layer& layer : m_sketch.GetLayers())
+    {
+        if (std::to_wstring(layer.id) == idText)
+            return layer.id;
+    }
+    return std::nullopt;
 }

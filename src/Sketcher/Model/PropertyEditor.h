@@ -1,5 +1,10 @@
 #pragma once
 
+#include "Model/Pen.h"
+
+#include <optional>
+#include <string>
+
 class Selection;
 class Sketch;
 
@@ -10,8 +15,9 @@ struct PropertyRecord;
 
 /// Sets the properties of the drawing, for the user or for a replay.
 ///
-/// "name" of "drawing" is its name. "style" and "colour" of "pen" apply to the next entities; those
-/// of "selection" change the selected entities in one undo step and leave the pen unchanged.
+/// "name" of "drawing" is its name. "style", "colour", "width" and "layer" of "pen" apply to the
+/// next entities; those of "selection" change the selected entities in one undo step and leave the
+/// pen unchanged. A layer is given by its id, which does not change when it is renamed.
 class PropertyEditor final
 {
 public:
@@ -24,6 +30,8 @@ public:
 
 private:
     bool SetPenPart(const vesk::PropertyRecord& record);
+    bool SetPen(const vesk::PropertyRecord& record, int Pen::*part, std::optional<int> value);
+    std::optional<int> FindLayer(const std::wstring& idText) const;
 
     Sketch& m_sketch;
     const Selection& m_selection;

@@ -314,15 +314,11 @@ void Sketch::SetName(const std::wstring& name)
         return;
     SketchChange change;
     change.name = name;
-    Push(std::move(change), 0, L"图名");
-}
-
-void Sketch::SetNameWithoutStep(const std::wstring& name)
-{
-    if (name == m_content.name)
+    if (m_isNameStep)
+    {
+        Push(std::move(change), 0, L"图名");
         return;
-    SketchChange change;
-    change.name = name;
+    }
     Exchange(change);
     emit changed();
 }
@@ -339,6 +335,7 @@ bool Sketch::Restore(SketchContent content)
     m_content = std::move(content);
     m_digest = DigestOf(m_content);
     m_lastUndone = 0;
+    m_isNameStep = true;
     {
         const QSignalBlocker noSignals(this);
         m_steps.clear();

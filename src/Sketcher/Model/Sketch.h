@@ -114,8 +114,9 @@ public:
     /// One undo step, unless that is the name already.
     void SetName(const std::wstring& name);
 
-    /// The same without a step: in journals of version 1 a name was none.
-    void SetNameWithoutStep(const std::wstring& name);
+    /// From now on, until the next Restore or Clear, a name is no step: so it was when journals of
+    /// version 1 were written, and their undos count without it.
+    void SetNamesWithoutSteps() { m_isNameStep = false; }
 
     /// The digest of entities, layers and name, as 64 hexadecimal digits: equal for equal drawings,
     /// whatever their history. Costs the same for any size.
@@ -149,4 +150,5 @@ private:
     Digest m_digest; ///< Of m_content.
     QUndoStack m_steps;
     int m_lastUndone = 0;
+    bool m_isNameStep = true;
 };

@@ -3,6 +3,7 @@
 #include "Model/Workspace.h"
 #include "Panes/EntityPane.h"
 #include "Panes/JournalPane.h"
+#include "Panes/LayerPane.h"
 #include "Panes/PropertyPane.h"
 
 #include "Command/ActionManager.h"
@@ -26,6 +27,7 @@ namespace
 {
 
 constexpr wchar_t EntitiesName[] = L"Entities";
+constexpr wchar_t LayersName[] = L"Layers";
 constexpr wchar_t JournalName[] = L"Journal";
 constexpr wchar_t InspectorName[] = L"Inspector";
 constexpr wchar_t CommandPrefix[] = L"Sketcher.Pane.";
@@ -39,6 +41,7 @@ std::vector<PanePlace> FactoryPlaces()
     return {
         {IPropertyWidget::GetTypeName(), DockArea::Right, SideWidth, L""},
         {EntitiesName, DockArea::Left, SideWidth, L""},
+        {LayersName, DockArea::Left, SideWidth, EntitiesName},
         {JournalName, DockArea::Bottom, BottomHeight, L""},
         {InspectorName, DockArea::Bottom, BottomHeight, JournalName},
     };
@@ -54,6 +57,7 @@ Panes::Panes(Workspace& workspace, MainWindow& window, IDockManager& docks, Cont
     m_pInspector = opInspector.Get();
     Add(IPropertyWidget::GetTypeName(), L"特性", MakeOwner<PropertyPane>(workspace, controls));
     Add(EntitiesName, L"图元", MakeOwner<EntityPane>(workspace));
+    Add(LayersName, L"图层", MakeOwner<LayerPane>(workspace));
     Add(JournalName, L"日志", MakeOwner<JournalPane>());
     Add(InspectorName, L"检查器", std::move(opInspector));
     m_layout.RestoreDefault();

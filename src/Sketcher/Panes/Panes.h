@@ -25,8 +25,8 @@ class Inspector;
 class MainWindow;
 }
 
-/// The panes of the window: properties, entities, journal and inspector. Creates and positions
-/// them, keeps them up to date, and provides the commands that show and hide them.
+/// The panes of the window: properties, entities, layers, journal and inspector. Creates and
+/// positions them, keeps them up to date, and provides the commands that show and hide them.
 class Panes final : public QObject, public vesk::IJournalObserver
 {
     Q_OBJECT

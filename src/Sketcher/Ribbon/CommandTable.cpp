@@ -2,6 +2,7 @@
 
 #include "Model/EntityEdit.h"
 #include "Model/Workspace.h"
+#include "Ribbon/LayerCommands.h"
 #include "Tools/ArcCentreAction.h"
 #include "Tools/ArcThreePointsAction.h"
 #include "Tools/CircleAction.h"
@@ -167,6 +168,8 @@ std::vector<CommandEntry> MakeCommandTable(Workspace& workspace, SketchView& vie
 {
     std::vector<CommandEntry> entries = MakeDrawingCommands(workspace);
     for (CommandEntry& entry : MakeEditCommands(workspace))
+        entries.push_back(std::move(entry));
+    for (CommandEntry& entry : MakeLayerCommands(workspace.sketch))
         entries.push_back(std::move(entry));
     entries.push_back(MakeKeyStripCommand(input));
     for (CommandEntry& entry : MakeZoomCommands(workspace.sketch, view))

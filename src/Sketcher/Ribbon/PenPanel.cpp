@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <utility>
 
 using namespace vesk;
 
@@ -21,9 +22,9 @@ struct BoxText
 };
 
 /// In the order of the parts.
-constexpr BoxText BoxTexts[] = {{L"Sketcher.LineStyle", "线型"},
-                                {L"Sketcher.LineColour", "颜色"},
-                                {L"Sketcher.LineWidth", "线宽"}};
+constexpr BoxText PartTexts[] = {{L"Sketcher.LineStyle", "线型"},
+                                 {L"Sketcher.LineColour", "颜色"},
+                                 {L"Sketcher.LineWidth", "线宽"}};
 
 }
 
@@ -33,18 +34,14 @@ PenPanel::PenPanel(Workspace& workspace, Qtitan::RibbonGroup& group, ControlHost
     for (std::size_t i = 0; i < PenParts().size(); ++i)
     {
         const PenPart& part = PenParts()[i];
-        auto opDefinition = MakeOwner<ComboBoxDefinition>(BoxTexts[i].id);
-        for (const std::wstring& caption : part.valueCaptions)
-            opDefinition->AddItem(caption);
-        auto* pDefinition = PlaceControl(std::move(opDefinition),
-                                         QString::fromUtf8(BoxTexts[i].label), group, controls);
-        if (pDefinition == nullptr)
-            continue;
-        pDefinition->GetControlDefinitionChangeEvent()->Add(this);
-        m_boxes.push_back({part, pDefinition});
+        AddBox({part.name, part.member, ChoicesOf(part), nullptr}, PartTexts[i].id,
+               PartTexts[i].label, group, controls);
     }
+    AddBox({L"layer", &Pen::layer, LayerChoices(), nullptr}, L"Sketcher.Layer", "图层", group,
+           controls);
     connect(&workspace.sketch, &Sketch::changed, this, &PenPanel::Show);
     connect(&workspace.selection, &Selection::changed, this, &PenPanel::Show);
+    Show();
 }
 
 PenPanel::~PenPanel()
@@ -58,32 +55,91 @@ void PenPanel::On(IControlDefinitionChangeEventArgs* pArgs)
     if (!pArgs->IsChangeByUser())
         return;
     for (const Box& box : m_boxes)
-    {
-        const int chosen = box.pDefinition->GetCurrentIndex();
-        if (chosen < 0 || chosen == GetShown(box.part))
-            continue;
-        const std::wstring object = m_workspace.selection.IsEmpty() ? L"pen" : L"selection";
-        const std::wstring& value = box.part.valueNames[static_cast<std::size_t>(chosen)];
-        m_workspace.properties.Set(PropertyRecord{object, box.part.name, value});
-    }
+        Choose(box);
+}
+
+std::vector<PenPanel::Choice> PenPanel::ChoicesOf(const PenPart& part)
+{
+    std::vector<Choice> choices;
+    for (std::size_t i = 0; i < part.valueNames.size(); ++i)
+        choices.push_back({static_cast<int>(i), part.valueNames[i], part.valueCaptions[i]});
+    return choices;
+}
+
+std::vector<PenPanel::Choice> PenPanel::LayerChoices() const
+{
+    std::vector<Choice> choices;
+    for (const Layer& layer : m_workspace.sketch.GetLayers())
+        choices.push_back({layer.id, std::to_wstring(layer.id), layer.name});
+    return choices;
+}
+
+void PenPanel::AddBox(Box box, const wchar_t* id, const char* label, Qtitan::RibbonGroup& group,
+                      ControlHost& controls)
+{
+    auto opDefinition = MakeOwner<ComboBoxDefinition>(id);
+    for (const Choice& choice : box.choices)
+        opDefinition->AddItem(choice.caption);
+    box.pDefinition =
+        PlaceControl(std::move(opDefinition), QString::fromUtf8(label), group, controls);
+    if (box.pDefinition == nullptr)
+        return;
+    box.pDefinition->GetControlDefinitionChangeEvent()->Add(this);
+    m_boxes.push_back(std::move(box));
+}
+
+void PenPanel::Choose(const Box& box)
+{
+    const int index = box.pDefinition->GetCurrentIndex();
+    if (index < 0)
+        return;
+    const Choice& choice = box.choices[static_cast<std::size_t>(index)];
+    if (choice.value == GetShown(box.part))
+        return;
+    const std::wstring object = m_workspace.selection.IsEmpty() ? L"pen" : L"selection";
+    m_workspace.properties.Set(PropertyRecord{object, box.property, choice.name});
 }
 
 void PenPanel::Show()
 {
-    for (const Box& box : m_boxes)
-        box.pDefinition->SetCurrentIndex(GetShown(box.part));
+    for (Box& box : m_boxes)
+    {
+        if (box.part == &Pen::layer)
+            ListLayers(box);
+        const std::optional<int> shown = GetShown(box.part);
+        const auto found =
+            std::find_if(box.choices.begin(), box.choices.end(),
+                         [&shown](const Choice& choice) { return choice.value == shown; });
+        const auto index = static_cast<int>(found - box.choices.begin());
+        box.pDefinition->SetCurrentIndex(found != box.choices.end() ? index : -1);
+    }
 }
 
-/// The value that all selected entities share, -1 if they differ; without a selection that of the
-/// current pen.
-int PenPanel::GetShown(const PenPart& part) const
+/// Lists the layers anew if one was added, removed or renamed.
+void PenPanel::ListLayers(Box& box) const
+{
+    std::vector<Choice> choices = LayerChoices();
+    const auto isSame = [](const Choice& a, const Choice& b) {
+        return a.value == b.value && a.caption == b.caption;
+    };
+    if (std::equal(choices.begin(), choices.end(), box.choices.begin(), box.choices.end(), isSame))
+        return;
+    box.choices = std::move(choices);
+    box.pDefinition->ClearItems();
+    for (const Choice& choice : box.choices)
+        box.pDefinition->AddItem(choice.caption);
+}
+
+/// The value that all selected entities share, nothing if they differ; without a selection that of
+/// the current pen.
+std::optional<int> PenPanel::GetShown(int Pen::*part) const
 {
     const std::vector<int>& ids = m_workspace.selection.GetIds();
     const Sketch& sketch = m_workspace.sketch;
     if (ids.empty())
-        return sketch.GetCurrentPen().*part.member;
-    const int first = sketch.Find(ids.front())->pen.*part.member;
-    const bool isCommon = std::all_of(
-        ids.begin(), ids.end(), [&](int id) { return sketch.Find(id)->pen.*part.member == first; });
-    return isCommon ? first : -1;
+        return sketch.GetCurrentPen().*part;
+    const int first = sketch.Find(ids.front())->pen.*part;
+    const bool isCommon = std::all_of(ids.begin(), ids.end(),
+                                      [&](int id) { return sketch.Find(id)->pen.*part == first; });
+    return isCommon ? std::make_optional(first) : std::nullopt;
 }

@@ -6,6 +6,8 @@
 
 #include <QObject>
 
+#include <optional>
+#include <string>
 #include <vector>
 
 struct Workspace;
@@ -21,9 +23,9 @@ class ComboBoxDefinition;
 class ControlHost;
 }
 
-/// Line style and line colour, in the ribbon: those of the selected entities, or nothing where they
-/// differ; without a selection those of the next entities. A choice applies only to the entities
-/// whose pen is shown.
+/// Line style, colour and width and the layer, in the ribbon: those of the selected entities, or
+/// nothing where they differ; without a selection those of the next entities. A choice applies only
+/// to the entities whose pen is shown.
 class PenPanel final : public QObject, public vesk::IControlDefinitionChangeEventHandler
 {
     Q_OBJECT
@@ -36,14 +38,30 @@ public:
     void On(vesk::IControlDefinitionChangeEventArgs* pArgs) override;
 
 private:
+    /// A value that can be chosen.
+    struct Choice
+    {
+        int value;         ///< In the pen.
+        std::wstring name; ///< In the journal.
+        std::wstring caption;
+    };
+
     struct Box
     {
-        const PenPart& part;
+        std::wstring property; ///< In the journal.
+        int Pen::*part;
+        std::vector<Choice> choices; ///< In the order of the entries.
         vesk::ComboBoxDefinition* pDefinition;
     };
 
+    static std::vector<Choice> ChoicesOf(const PenPart& part);
+    std::vector<Choice> LayerChoices() const;
+    void AddBox(Box box, const wchar_t* id, const char* label, Qtitan::RibbonGroup& group,
+                vesk::ControlHost& controls);
+    void Choose(const Box& box);
     void Show();
-    int GetShown(const PenPart& part) const;
+    void ListLayers(Box& box) const;
+    std::optional<int> GetShown(int Pen::*part) const;
 
     Workspace& m_workspace;
     std::vector<Box> m_boxes;

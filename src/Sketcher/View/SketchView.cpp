@@ -1,9 +1,10 @@
 #include "View/SketchView.h"
 
 #include "Model/Grid.h"
-#include "Model/ShapeMeasure.h"
+#include "Model/SketchBounds.h"
 #include "Model/SnapPoints.h"
 #include "Model/Workspace.h"
+#include "View/ScreenPens.h"
 #include "View/ShapePainter.h"
 #include "View/SnapMarker.h"
 
@@ -13,7 +14,7 @@
 #include <QPainter>
 
 #include <cmath>
-#include <cstddef>
+#include <optional>
 
 using vesk::IActionManager;
 using vesk::Vector3d;
@@ -26,14 +27,6 @@ QColor Mix(const QColor& a, const QColor& b, double share)
     return QColor::fromRgbF(a.redF() + (b.redF() - a.redF()) * share,
                             a.greenF() + (b.greenF() - a.greenF()) * share,
                             a.blueF() + (b.blueF() - a.blueF()) * share);
-}
-
-QPen MakePen(const Pen& pen, const QColor& textColour)
-{
-    const QColor& colour = LineColours()[static_cast<std::size_t>(pen.colour)].colour;
-    // Round caps take three times as long to paint.
-    return {colour.isValid() ? colour : textColour, 1.4,
-            LineStyles()[static_cast<std::size_t>(pen.style)].style, Qt::SquareCap};
 }
 
 }
@@ -49,17 +42,8 @@ SketchView::SketchView(Workspace& workspace, vesk::DimensionInputController& inp
 
 void SketchView::ZoomAll()
 {
-    const std::vector<Entity>& entities = m_workspace.sketch.GetEntities();
-    if (entities.empty())
-        return;
-    ShapeBounds all = BoundsOf(entities.front().shape);
-    for (const Entity& entity : entities)
-    {
-        const ShapeBounds bounds = BoundsOf(entity.shape);
-        all.low = all.low.cwiseMin(bounds.low);
-        all.high = all.high.cwiseMax(bounds.high);
-    }
-    Fit(all.low, all.high);
+    if (const std::optional<ShapeBounds> all = BoundsOf(m_workspace.sketch))
+        Fit(all->low, all->high);
 }
 
 void SketchView::PaintModel(QPainter& painter)
@@ -169,9 +153,12 @@ void SketchView::PaintAxes(QPainter& painter) const
 void SketchView::PaintEntities(QPainter& painter) const
 {
     const QRectF visible = GetPaintedRect();
-    const QColor textColour = palette().color(QPalette::Text);
+    ScreenPens pens(m_workspace.sketch, palette().color(QPalette::Text));
     for (const Entity& entity : m_workspace.sketch.GetEntities())
-        PaintShape(painter, MakePen(entity.pen, textColour), entity.shape, GetCamera(), visible);
+    {
+        if (const QPen* pPen = pens.Find(entity.pen))
+            PaintShape(painter, *pPen, entity.shape, GetCamera(), visible);
+    }
 }
 
 /// Paints a band below the outline, and grips at its ends and centre.

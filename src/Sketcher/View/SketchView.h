@@ -17,7 +17,7 @@ public:
     /// Workspace and controller are not owned and outlive the view.
     SketchView(Workspace& workspace, vesk::DimensionInputController& input, QWidget* pParent);
 
-    /// Shows the whole drawing.
+    /// Shows all that is visible of the drawing.
     void ZoomAll();
 
 protected:

@@ -35,6 +35,52 @@ private slots:
         QCOMPARE(NameOf(workspace, after), QStringLiteral("dashed blue"));
     }
 
+    void aWidthIsForTheNextEntities()
+    {
+        Workspace workspace;
+
+        QVERIFY(workspace.properties.Set({L"pen", L"width", L"0.7"}));
+
+        const int width = workspace.sketch.GetCurrentPen().width;
+        QCOMPARE(LineWidths()[std::size_t(width)].millimetres, 0.7);
+    }
+
+    void aLayerIsGivenByItsId()
+    {
+        Workspace workspace;
+        const int layer = workspace.sketch.AddLayer(L"walls");
+        const int line = workspace.sketch.AddLine({0, 0, 0}, {1, 0, 0});
+        workspace.selection.Select({line});
+
+        QVERIFY(workspace.properties.Set({L"selection", L"layer", std::to_wstring(layer)}));
+        QCOMPARE(workspace.sketch.Find(line)->pen.layer, layer);
+        QCOMPARE(workspace.sketch.GetCurrentPen().layer, Layer::BaseId);
+
+        QVERIFY(workspace.properties.Set({L"pen", L"layer", std::to_wstring(layer)}));
+        QCOMPARE(workspace.sketch.GetCurrentPen().layer, layer);
+    }
+
+    void aLayerThatDoesNotExistIsNotSet_data()
+    {
+        QTest::addColumn<QString>("text");
+
+        QTest::newRow("another id") << "7";
+        QTest::newRow("a name") << "walls";
+        QTest::newRow("nothing") << "";
+        QTest::newRow("more than a number") << "1x";
+    }
+
+    void aLayerThatDoesNotExistIsNotSet()
+    {
+        QFETCH(QString, text);
+        Workspace workspace;
+        workspace.sketch.AddLayer(L"walls");
+
+        QVERIFY(!workspace.properties.Set({L"pen", L"layer", text.toStdWString()}));
+
+        QCOMPARE(workspace.sketch.GetCurrentPen().layer, Layer::BaseId);
+    }
+
     void aChangeOfTheSelectionIsOneStep()
     {
         Workspace workspace;

@@ -380,10 +380,11 @@ private slots:
     void aNameCanBeGivenWithoutAStep()
     {
         Sketch sketch;
+        sketch.SetNamesWithoutSteps();
         const QSignalSpy changes(&sketch, &Sketch::changed);
 
-        sketch.SetNameWithoutStep(L"plan");
-        sketch.SetNameWithoutStep(L"plan");
+        sketch.SetName(L"plan");
+        sketch.SetName(L"plan");
 
         QCOMPARE(sketch.GetName(), std::wstring(L"plan"));
         QVERIFY(!sketch.CanUndo());
@@ -391,6 +392,17 @@ private slots:
         Sketch other;
         other.SetName(L"plan");
         QCOMPARE(sketch.GetDigest(), other.GetDigest());
+    }
+
+    void inANewDrawingANameIsAStepAgain()
+    {
+        Sketch sketch;
+        sketch.SetNamesWithoutSteps();
+
+        sketch.Clear();
+        sketch.SetName(L"plan");
+
+        QVERIFY(sketch.CanUndo());
     }
 
     void severalShapesAreOneStep()

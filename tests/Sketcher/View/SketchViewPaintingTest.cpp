@@ -55,7 +55,7 @@ QImage PaintLevelLine(Qt::PenStyle style)
     picture.fill(Qt::white);
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(Qt::black, 1.4, style, Qt::SquareCap));
+    painter.setPen(QPen(Qt::black, 1.0, style, Qt::SquareCap));
     const QPointF middle = QPointF(SketchViewFixture::PixelOf(0, LineY)) + QPointF(0.5, 0.5);
     painter.drawLine(middle - QPointF(63, 0), middle + QPointF(63, 0));
     return picture;
@@ -154,22 +154,59 @@ private slots:
                  InkOf(PaintLevelLine(static_cast<Qt::PenStyle>(style)), row));
     }
 
-    void aLineIsALittleWiderThanAPixel()
+    void aLineIsAsWideAsItsPen_data()
     {
+        QTest::addColumn<int>("index");
+        QTest::addColumn<int>("reach");
+
+        // So many rows above and below the middle one.
+        QTest::newRow("0.25 mm") << 2 << 0;
+        QTest::newRow("0.7 mm") << 5 << 1;
+    }
+
+    void aLineIsAsWideAsItsPen()
+    {
+        QFETCH(int, index);
+        QFETCH(int, reach);
         SketchViewFixture f;
+        f.workspace.sketch.SetCurrentPen(&Pen::width, index);
 
         f.workspace.sketch.Add(s_level);
 
-        // A fifth of the pixels above, below and beyond the square cap.
-        const auto isFifth = [&f](int x, int y) {
-            return std::abs(f.ColourAt(x, y).lightness() - 204) <= 4;
-        };
+        for (const int side : {-1, 1})
+        {
+            QCOMPARE(f.ColourAt(5, LineY + side * reach), s_black);
+            QCOMPARE(f.ColourAt(5, LineY + side * (reach + 1)), s_white);
+        }
+        // The cap is square.
+        QCOMPARE(f.ColourAt(63 + reach, LineY), s_black);
+        QCOMPARE(f.ColourAt(63 + reach + 1, LineY), s_white);
+    }
+
+    void aLineWithoutAColourHasItsLayers()
+    {
+        SketchViewFixture f;
+        f.workspace.sketch.Add(s_level);
+        Layer layer;
+        layer.colour = 4;
+
+        f.workspace.sketch.SetLayer(layer);
+
+        QCOMPARE(f.ColourAt(5, LineY), LineColours()[4].colour);
+    }
+
+    void aHiddenLayerIsNotPainted()
+    {
+        SketchViewFixture f;
+        f.workspace.sketch.Add(s_level);
+        Layer layer;
+        layer.isVisible = false;
+
+        f.workspace.sketch.SetLayer(layer);
+        QCOMPARE(f.ColourAt(5, LineY), s_white);
+
+        f.workspace.sketch.Undo();
         QCOMPARE(f.ColourAt(5, LineY), s_black);
-        QVERIFY(isFifth(5, LineY + 1));
-        QVERIFY(isFifth(5, LineY - 1));
-        QCOMPARE(f.ColourAt(5, LineY + 2), s_white);
-        QCOMPARE(f.ColourAt(63, LineY), s_black);
-        QVERIFY(isFifth(64, LineY));
     }
 
     void slantedLinesAreSmooth()

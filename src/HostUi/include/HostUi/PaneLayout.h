@@ -95,6 +95,7 @@ private:
     void PlaceFloating(QMap<QString, QRect> places);
     void ShareOut(DockArea area, const QList<QDockWidget*>& panes);
     void PlaceLost();
+    void PutBehind(QDockWidget* pFront, QDockWidget& pane);
 
     QMainWindow& m_window;
     IDockManager& m_docks;

@@ -343,7 +343,18 @@ void PaneLayout::PlaceLost()
             continue;
         pWidget->setFloating(false);
         m_window.addDockWidget(ToQt(place.area), pWidget);
+        PutBehind(FindWidget(place.tabWith), *pWidget);
     }
+}
+
+/// Tabs a pane with another, behind it, if that one is docked where the pane goes by default.
+void PaneLayout::PutBehind(QDockWidget* pFront, QDockWidget& pane)
+{
+    if (pFront == nullptr || pFront->isFloating() || pFront->isHidden() ||
+        m_window.dockWidgetArea(pFront) != m_window.dockWidgetArea(&pane))
+        return;
+    m_window.tabifyDockWidget(pFront, &pane);
+    pFront->raise();
 }
 
 }

@@ -1,0 +1,183 @@
+#include "Panes/LayerModel.h"
+
+#include "Model/LayerEdit.h"
+#include "Model/Sketch.h"
+#include "Panes/ColourSwatch.h"
+
+#include "Command/ActionManager.h"
+#include "HostUi/QtText.h"
+
+#include <QGuiApplication>
+#include <QPalette>
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+
+using namespace vesk;
+
+namespace
+{
+
+struct LayerColumn
+{
+    QString header;
+    QString toolTip;
+};
+
+const LayerColumn& ColumnAt(int column)
+{
+    static const std::array<LayerColumn, LayerModel::ColumnCount> s_columns = {{
+        {QString(), QStringLiteral("新图元画在当前图层上；单击设为当前")},
+        {QStringLiteral("名称"), QStringLiteral("双击改名")},
+        {QStringLiteral("颜色"), QStringLiteral("颜色为默认的图元所用的颜色；单击选择")},
+        {QStringLiteral("可见"), QStringLiteral("不可见的图层不显示，也不能选取和捕捉")},
+        {QStringLiteral("锁定"), QStringLiteral("锁定的图层可以捕捉，但不能选取和修改")},
+    }};
+    return s_columns[static_cast<std::size_t>(column)];
+}
+
+const LineColour& ColourOf(const Layer& layer)
+{
+    return LineColours()[static_cast<std::size_t>(layer.colour)];
+}
+
+QVariant ToCheckState(bool isOn)
+{
+    return isOn ? Qt::Checked : Qt::Unchecked;
+}
+
+QString DescribeNameRefusal(const std::wstring& name)
+{
+    return name.empty() ? QStringLiteral("图层名不能为空")
+                        : QStringLiteral("已有名为“%1”的图层").arg(ToQString(name));
+}
+
+}
+
+LayerModel::LayerModel(const Sketch& sketch, QObject* pParent)
+    : QAbstractTableModel(pParent), m_sketch(sketch)
+{}
+
+void LayerModel::Refresh()
+{
+    const std::vector<Layer>& next = m_sketch.GetLayers();
+    const bool isSameSet = std::equal(m_layers.begin(), m_layers.end(), next.begin(), next.end(),
+                                      [](const Layer& a, const Layer& b) { return a.id == b.id; });
+    if (!isSameSet)
+        beginResetModel();
+    m_layers = next;
+    m_currentLayer = m_sketch.GetCurrentPen().layer;
+    if (!isSameSet)
+        endResetModel();
+    else
+        emit dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
+}
+
+int LayerModel::GetRow(int layerId) const
+{
+    const auto found = std::find_if(m_layers.begin(), m_layers.end(),
+                                    [layerId](const Layer& layer) { return layer.id == layerId; });
+    return found != m_layers.end() ? static_cast<int>(found - m_layers.begin()) : -1;
+}
+
+void LayerModel::Change(int row, const std::wstring& property,
+                        const std::variant<bool, std::wstring>& value)
+{
+    const LayerEdit edit{GetLayer(row).id, property, value};
+    const auto* pName = std::get_if<std::wstring>(&value);
+    QString refusal;
+    if (edit.IsPossible(m_sketch))
+        ActionManager::RunCommand(LayerEdit::CommandId, edit.ToParameters());
+    else if (pName != nullptr)
+        refusal = DescribeNameRefusal(*pName);
+    emit answered(refusal);
+}
+
+int LayerModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_layers.size());
+}
+
+int LayerModel::columnCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : ColumnCount;
+}
+
+QVariant LayerModel::data(const QModelIndex& index, int role) const
+{
+    const Layer& layer = GetLayer(index.row());
+    const int column = index.column();
+    switch (role)
+    {
+    case Qt::DisplayRole:
+    case Qt::EditRole:
+        return GetText(layer, column);
+    case Qt::CheckStateRole:
+        if (column == VisibleColumn || column == LockedColumn)
+            return ToCheckState(column == VisibleColumn ? layer.isVisible : layer.isLocked);
+        return {};
+    case Qt::DecorationRole:
+        if (column == ColourColumn)
+            return MakeColourSwatch(ColourOf(layer).colour.isValid()
+                                        ? ColourOf(layer).colour
+                                        : QGuiApplication::palette().color(QPalette::Text));
+        return {};
+    case Qt::ToolTipRole:
+        return column == ColourColumn ? ToQString(ColourOf(layer).caption)
+                                      : ColumnAt(column).toolTip;
+    case Qt::TextAlignmentRole:
+        return column == CurrentColumn ? QVariant(Qt::AlignCenter) : QVariant();
+    default:
+        return {};
+    }
+}
+
+bool LayerModel::setData(const QModelIndex& index, const QVariant& value, int role)
+{
+    if (index.column() == NameColumn && role == Qt::EditRole)
+    {
+        const std::wstring name = ToWide(value.toString().trimmed());
+        if (name != GetLayer(index.row()).name)
+            Change(index.row(), L"name", name);
+        return true;
+    }
+    if (role != Qt::CheckStateRole)
+        return false;
+    Change(index.row(), index.column() == VisibleColumn ? L"visible" : L"locked",
+           value.toInt() == Qt::Checked);
+    return true;
+}
+
+Qt::ItemFlags LayerModel::flags(const QModelIndex& index) const
+{
+    const Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
+    switch (index.column())
+    {
+    case NameColumn:
+        return flags | Qt::ItemIsEditable;
+    case VisibleColumn:
+    case LockedColumn:
+        return flags | Qt::ItemIsUserCheckable;
+    default:
+        return flags;
+    }
+}
+
+QVariant LayerModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal)
+        return {};
+    if (role == Qt::ToolTipRole)
+        return ColumnAt(section).toolTip;
+    return role == Qt::DisplayRole ? ColumnAt(section).header : QVariant();
+}
+
+QVariant LayerModel::GetText(const Layer& layer, int column) const
+{
+    if (column == NameColumn)
+        return ToQString(layer.name);
+    if (column == CurrentColumn && layer.id == m_currentLayer)
+        return QStringLiteral("●");
+    return {};
+}

@@ -1,0 +1,41 @@
+#include "Ribbon/LayerCommands.h"
+
+#include "Model/LayerEdit.h"
+#include "Model/Sketch.h"
+
+#include "Command/ActionManager.h"
+#include "Command/IAction.h"
+
+#include <optional>
+
+using namespace vesk;
+
+namespace
+{
+
+/// A command that applies the edit of that class that its parameters describe.
+template <class Edit>
+CommandEntry MakeLayerCommand(const std::wstring& caption, Sketch& sketch)
+{
+    CommandEntry entry;
+    entry.id = Edit::CommandId;
+    entry.caption = caption;
+    entry.execute = [&sketch](IUiView*, const CommandParameters& parameters) -> OwnerPtr<IAction> {
+        const std::optional<Edit> edit = Edit::From(parameters);
+        if (edit.has_value() && edit->Apply(sketch))
+            ActionManager::StepDone();
+        return nullptr;
+    };
+    return entry;
+}
+
+}
+
+std::vector<CommandEntry> MakeLayerCommands(Sketch& sketch)
+{
+    return {
+        MakeLayerCommand<LayerAddition>(L"新建图层", sketch),
+        MakeLayerCommand<LayerEdit>(L"设置图层", sketch),
+        MakeLayerCommand<LayerRemoval>(L"删除图层", sketch),
+    };
+}
