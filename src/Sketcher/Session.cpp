@@ -1,7 +1,6 @@
 #include "Session.h"
 
 #include "DataFile.h"
-#include "Model/EntityEdit.h"
 #include "Model/ModelFile.h"
 #include "Ribbon/CommandTable.h"
 #include "VeskUiQtImpl/DockManagerImpl.h"
@@ -94,6 +93,13 @@ Session::Session(const Options& options)
     for (CommandEntry& entry : m_pPanes->MakeCommands())
         commands.push_back(std::move(entry));
     RegisterCommands(commands);
+    for (const CommandEntry& entry : commands)
+    {
+        if (entry.isPossible)
+            m_possibilities[entry.id] = entry.isPossible;
+    }
+    JournalManager::GetInstance().SetDigestSource(
+        [this] { return m_workspace.sketch.GetDigest(); });
     m_window.BuildControls(commands, m_controls);
     if (QToolButton* pButton = m_window.GetPaneButton())
         m_pPanes->Attend(*pButton);
@@ -106,6 +112,7 @@ Session::Session(const Options& options)
 Session::~Session()
 {
     ActionManager::Reset();
+    JournalManager::GetInstance().SetDigestSource(nullptr);
     m_window.ReleaseControls();
     m_application.SetDockManager(nullptr);
     m_application.SetMainWindow(nullptr);
@@ -132,10 +139,8 @@ int Session::Run()
 
 bool Session::CanRepeat(const CommandRecord& record)
 {
-    if (record.commandId != EntityEdit::CommandId)
-        return true;
-    const std::optional<EntityEdit> edit = EntityEdit::From(record.parameters);
-    return edit.has_value() && edit->IsPossible(m_workspace.sketch);
+    const auto found = m_possibilities.find(record.commandId);
+    return found == m_possibilities.end() || found->second(record.parameters);
 }
 
 bool Session::OnProgress(std::size_t done, std::size_t total)
@@ -156,6 +161,22 @@ bool Session::ReplayProperty(const PropertyRecord& record)
 bool Session::VerifyUndo(const UndoRecord& record)
 {
     return m_workspace.sketch.GetLastUndone() == record.entity;
+}
+
+bool Session::VerifyRedo(const RedoRecord& record)
+{
+    return m_workspace.sketch.GetLastUndone() == record.entity;
+}
+
+std::optional<int> Session::GetLastUndone()
+{
+    return m_workspace.sketch.GetLastUndone();
+}
+
+std::string Session::VerifyMark(const MarkRecord& record)
+{
+    const std::string actual = m_workspace.sketch.GetDigest();
+    return actual == record.digest ? std::string() : actual;
 }
 
 /// The journal to replay is read before anything is replaced.
@@ -191,9 +212,21 @@ bool Session::ReadJournal(const QString& path)
 {
     std::string error;
     if (JournalFormat::ReadFile(path.toStdString(), m_records, error))
+    {
+        ObeyVersion();
         return true;
+    }
     Complain(path.toStdString() + ": " + error);
     return false;
+}
+
+/// Records of version 1 go on as such, into whatever file: in them a name is no step.
+void Session::ObeyVersion()
+{
+    if (!m_records.empty() && std::holds_alternative<HeaderRecord>(m_records.front().what))
+        return;
+    m_workspace.sketch.SetNamesWithoutSteps();
+    JournalManager::GetInstance().SetVersion(1);
 }
 
 void Session::RestoreLayout()

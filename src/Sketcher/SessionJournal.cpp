@@ -76,6 +76,7 @@ QString SessionJournal::StartAnew()
         *this = SessionJournal(Options());
         Manager().Close();
     }
+    Manager().SetVersion(HeaderRecord::CurrentVersion);
     std::string error;
     Manager().Open(m_path.toStdString(), error);
     return isContinued ? m_path : QString();
