@@ -19,6 +19,10 @@ struct CommandEntry
     static CommandEntry Plain(const std::wstring& id, const std::wstring& caption,
                               const std::function<void()>& function);
 
+    /// A command that opens a window and changes nothing by itself: a replay leaves it out.
+    static CommandEntry Dialog(const std::wstring& id, const std::wstring& caption,
+                               const std::function<void()>& open);
+
     /// A command that begins an action, which runs until the user ends it.
     static CommandEntry Interactive(const std::wstring& id, const std::wstring& caption,
                                     const std::function<vesk::OwnerPtr<vesk::IAction>()>& begin);
