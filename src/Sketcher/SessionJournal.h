@@ -45,6 +45,9 @@ public:
     /// LeaveForAnother.
     QString StartAnew();
 
+    /// Records the orderly end and closes the file. Returns false if records are missing from it.
+    bool Close();
+
     /// Whether an option named the file.
     bool IsNamed() const { return m_isNamed; }
 
