@@ -1,9 +1,12 @@
 #include "Session.h"
 
+#include "BackgroundWork.h"
 #include "DataFile.h"
 #include "Help/HelpCommands.h"
-#include "Model/EntityEdit.h"
+#include "Documents/DocumentCommands.h"
+#include "Model/KeptContent.h"
 #include "Model/ModelFile.h"
+#include "Output/PictureExport.h"
 #include "Ribbon/CommandTable.h"
 #include "VeskUiQtImpl/DockManagerImpl.h"
 #include "View/SketchView.h"
@@ -71,6 +74,15 @@ void Complain(const std::string& text)
     std::cerr << "sketcher: " << text << std::endl;
 }
 
+Documents::Manners MannersOf(const Options& options)
+{
+    using Manners = Documents::Manners;
+    if (options.task == Options::Task::Replay || qgetenv("VESK_UNATTENDED") == "1")
+        return Manners::Silent;
+    return options.journal.isEmpty() && options.model.isEmpty() ? Manners::Ask
+                                                                : Manners::AskAboutFiles;
+}
+
 /// True if, as far as can be known, the file or a new one of that name can be written.
 bool IsWritable(const QString& path)
 {
@@ -95,7 +107,8 @@ Session::Session(const Options& options)
       m_translations(SharedFile(QStringLiteral("translations")), QStringLiteral("sketcher"),
                      LocaleOf(m_settings.Get())),
       m_window(m_workspace, m_input), m_pDocks(std::make_unique<DockManagerImpl>(&m_window)),
-      m_settingsApplier(m_settings, m_window, m_input, SharedFile(QStringLiteral("translations")))
+      m_settingsApplier(m_settings, m_window, m_input, SharedFile(QStringLiteral("translations"))),
+      m_clipboard(m_workspace, [this](const QString& text) { m_window.ShowNotice(text); })
 {
     LoadPublishConfig(SharedFile(QStringLiteral("publish.ini")));
     m_host.GetViewManager().AddView(&m_window.GetView());
@@ -111,10 +124,25 @@ Session::Session(const Options& options)
     std::vector<CommandEntry> commands = MakeCommandTable(m_workspace, m_window.GetView(), m_input);
     for (CommandEntry& entry : m_pPanes->MakeCommands())
         commands.push_back(std::move(entry));
+    MakeDocuments();
+    for (CommandEntry& entry : MakeDocumentCommands(*m_pDocuments))
+        commands.push_back(std::move(entry));
+    for (CommandEntry& entry : m_clipboard.MakeCommands())
+        commands.push_back(std::move(entry));
+    m_clipboard.SetPicture([](const SketchContent& content) {
+        return MakeSvg(content, [](double) { return true; }).bytes;
+    });
     commands.push_back(m_settingsApplier.MakeCommand());
     for (CommandEntry& entry : MakeHelpCommands(commands, m_window))
         commands.push_back(std::move(entry));
     RegisterCommands(commands);
+    for (const CommandEntry& entry : commands)
+    {
+        if (entry.isPossible)
+            m_possibilities[entry.id] = entry.isPossible;
+    }
+    JournalManager::GetInstance().SetDigestSource(
+        [this] { return m_workspace.sketch.GetDigest(); });
     m_window.BuildControls(commands, m_controls);
     m_settingsApplier.Apply(Settings());
     if (QToolButton* pButton = m_window.GetPaneButton())
@@ -128,6 +156,7 @@ Session::Session(const Options& options)
 Session::~Session()
 {
     ActionManager::Reset();
+    JournalManager::GetInstance().SetDigestSource(nullptr);
     m_window.ReleaseControls();
     m_application.SetDockManager(nullptr);
     m_application.SetMainWindow(nullptr);
@@ -154,10 +183,8 @@ int Session::Run()
 
 bool Session::CanRepeat(const CommandRecord& record)
 {
-    if (record.commandId != EntityEdit::CommandId)
-        return true;
-    const std::optional<EntityEdit> edit = EntityEdit::From(record.parameters);
-    return edit.has_value() && edit->IsPossible(m_workspace.sketch);
+    const auto found = m_possibilities.find(record.commandId);
+    return found == m_possibilities.end() || found->second(record.parameters);
 }
 
 bool Session::OnProgress(std::size_t done, std::size_t total)
@@ -180,11 +207,47 @@ bool Session::VerifyUndo(const UndoRecord& record)
     return m_workspace.sketch.GetLastUndone() == record.entity;
 }
 
+bool Session::VerifyRedo(const RedoRecord& record)
+{
+    return m_workspace.sketch.GetLastUndone() == record.entity;
+}
+
+std::optional<int> Session::GetLastUndone()
+{
+    return m_workspace.sketch.GetLastUndone();
+}
+
+std::string Session::VerifyMark(const MarkRecord& record)
+{
+    const std::string actual = m_workspace.sketch.GetDigest();
+    return actual == record.digest ? std::string() : actual;
+}
+
+void Session::MakeDocuments()
+{
+    const auto run = [this](const Documents::Work& work) {
+        RunInBackground(m_window, m_window.GetProgress(), [&work](WorkProgress& progress) {
+            work([&progress](std::size_t done, std::size_t total) {
+                return progress.Advance(static_cast<double>(done) / static_cast<double>(total));
+            });
+        });
+    };
+    m_pDocuments =
+        std::make_unique<Documents>(m_workspace.sketch, m_window, MannersOf(m_options), run);
+    QObject::connect(m_pDocuments.get(), &Documents::changed, &m_window, [this] {
+        m_window.ShowDocument(m_pDocuments->GetDocument().GetName(), m_pDocuments->IsModified());
+    });
+    QObject::connect(m_pDocuments.get(), &Documents::opened, &m_window,
+                     [this] { m_window.GetView().ZoomAll(); });
+}
+
 /// The journal to replay is read before anything is replaced.
 bool Session::OpenFiles()
 {
     std::string error;
     const QString& source = m_options.GetSource();
+    KeptContent::Get().Forget();
+    KeptContent::Get().SetSource(source);
     bool isDone = m_journal.Reserve(error);
     if (isDone && ((!source.isEmpty() && !ReadJournal(source)) || !OpenLog()))
         return false;
@@ -213,9 +276,21 @@ bool Session::ReadJournal(const QString& path)
 {
     std::string error;
     if (JournalFormat::ReadFile(path.toStdString(), m_records, error))
+    {
+        ObeyVersion();
         return true;
+    }
     Complain(path.toStdString() + ": " + error);
     return false;
+}
+
+/// Records of version 1 go on as such, into whatever file: in them a name is no step.
+void Session::ObeyVersion()
+{
+    if (!m_records.empty() && std::holds_alternative<HeaderRecord>(m_records.front().what))
+        return;
+    m_workspace.sketch.SetNamesWithoutSteps();
+    JournalManager::GetInstance().SetVersion(1);
 }
 
 void Session::RestoreLayout()
@@ -241,6 +316,7 @@ void Session::ObeyTerminationRequests()
 {
     m_pTermination = std::make_unique<TerminationRequests>();
     QObject::connect(m_pTermination.get(), &TerminationRequests::requested, &m_window, [this] {
+        m_pDocuments->EndWithoutQuestions();
         m_window.close();
         QCoreApplication::quit();
     });
@@ -259,6 +335,9 @@ int Session::Draw()
     m_window.GetView().Activate();
     if (!m_options.open.isEmpty())
         QTimer::singleShot(0, &m_window, [this] { Open(); });
+    if (!m_options.document.isEmpty())
+        QTimer::singleShot(0, m_pDocuments.get(),
+                           [this] { m_pDocuments->OpenFile(m_options.document); });
     if (!m_options.raiseWarnings.isEmpty())
         m_pWarningRaiser =
             std::make_unique<WarningRaiser>(m_options.raiseWarnings, m_window.GetView());

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Clipboard/ClipboardCommands.h"
+#include "Documents/Documents.h"
 #include "KeepingMonitor.h"
 #include "Model/Workspace.h"
 #include "Options.h"
@@ -22,7 +24,10 @@
 #include "HostUi/UiTreeWriter.h"
 #include "Replay/JournalReplayer.h"
 
+#include <map>
 #include <memory>
+#include <optional>
+#include <string>
 #include <vector>
 
 /// One run of the program: the host, the library, the drawing and the window, in order of
@@ -42,11 +47,16 @@ public:
     bool ReplaySelection(const vesk::SelectionRecord& record) override;
     bool ReplayProperty(const vesk::PropertyRecord& record) override;
     bool VerifyUndo(const vesk::UndoRecord& record) override;
+    bool VerifyRedo(const vesk::RedoRecord& record) override;
+    std::optional<int> GetLastUndone() override;
+    std::string VerifyMark(const vesk::MarkRecord& record) override;
 
 private:
+    void MakeDocuments();
     bool OpenFiles();
     bool OpenLog();
     bool ReadJournal(const QString& path);
+    void ObeyVersion();
     void RestoreLayout();
     void SaveLayout();
     void ObeyTerminationRequests();
@@ -65,6 +75,7 @@ private:
     SettingsStore m_settings;
     SessionJournal m_journal;
     std::vector<vesk::JournalRecord> m_records;
+    std::map<std::wstring, std::function<bool(const vesk::CommandParameters&)>> m_possibilities;
 
     /// Files not named by an option that could not be written at the end.
     QStringList m_unwritten;
@@ -80,6 +91,8 @@ private:
     vesk::ControlHost m_controls;
     SettingsApplier m_settingsApplier;
     std::unique_ptr<Panes> m_pPanes;
+    std::unique_ptr<Documents> m_pDocuments;
+    ClipboardCommands m_clipboard;
     std::unique_ptr<vesk::UiTreeWriter> m_pUiTree;
     std::unique_ptr<WarningRaiser> m_pWarningRaiser;
     ReadingMonitor* m_pReading = nullptr; ///< Set while a drawing is opened; not owned.

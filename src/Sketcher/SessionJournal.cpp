@@ -1,14 +1,11 @@
 #include "SessionJournal.h"
 
 #include "DataFile.h"
+#include "Model/KeptContent.h"
 #include "Options.h"
 
 #include "Journal/JournalManager.h"
 #include "Replay/JournalReplayer.h"
-
-#include <QCoreApplication>
-#include <QDateTime>
-#include <QFileInfo>
 
 using namespace vesk;
 
@@ -23,19 +20,6 @@ JournalManager& Manager()
     return JournalManager::GetInstance();
 }
 
-/// The path of a file in the user's data folder that does not exist yet.
-QString OwnPath()
-{
-    const QString name =
-        QStringLiteral("journal-%1-%2")
-            .arg(QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMdd-hhmmss")))
-            .arg(QCoreApplication::applicationPid());
-    QString path = DataFile(name + QStringLiteral(".jsonl"));
-    for (int i = 2; QFileInfo::exists(path); ++i)
-        path = DataFile(QStringLiteral("%1-%2.jsonl").arg(name).arg(i));
-    return path;
-}
-
 }
 
 SessionJournal::SessionJournal(const Options& options)
@@ -43,11 +27,17 @@ SessionJournal::SessionJournal(const Options& options)
       m_isContinued(m_isNamed && IsSameFile(m_path, options.GetSource()))
 {
     if (!m_isNamed && options.task != Options::Task::Replay)
-        m_path = OwnPath();
+        m_path = GetFolder().NewPath();
+}
+
+JournalFolder SessionJournal::GetFolder()
+{
+    return JournalFolder(DataFile(QStringLiteral("journals")));
 }
 
 bool SessionJournal::Reserve(std::string& error)
 {
+    KeptContent::Get().SetJournal(m_path);
     return !m_isContinued || Manager().Reserve(m_path.toStdString(), error);
 }
 
@@ -55,7 +45,10 @@ bool SessionJournal::Open(std::string& error)
 {
     if (m_isContinued || m_path.isEmpty())
         return true;
-    return Manager().Open(m_path.toStdString(), error) || !m_isNamed;
+    const bool isOpen = Manager().Open(m_path.toStdString(), error);
+    if (!isOpen)
+        KeptContent::Get().SetJournal({});
+    return isOpen || !m_isNamed;
 }
 
 QString SessionJournal::GoOn(const JournalReplayResult& result, int lastNumber)
@@ -75,6 +68,7 @@ QString SessionJournal::LeaveForAnother()
     if (!m_isContinued)
         return {};
     *this = SessionJournal(Options());
+    KeptContent::Get().SetJournal(m_path);
     std::string error;
     Manager().MoveTo(m_path.toStdString(), error);
     return m_path;
@@ -86,8 +80,10 @@ QString SessionJournal::StartAnew()
     if (isContinued)
     {
         *this = SessionJournal(Options());
+        KeptContent::Get().SetJournal(m_path);
         Manager().Close();
     }
+    Manager().SetVersion(HeaderRecord::CurrentVersion);
     std::string error;
     Manager().Open(m_path.toStdString(), error);
     return isContinued ? m_path : QString();

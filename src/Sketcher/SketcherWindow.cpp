@@ -7,6 +7,7 @@
 #include "Ribbon/DrawingPanel.h"
 #include "Ribbon/PenPanel.h"
 #include "Ribbon/SnapPanel.h"
+#include "Ribbon/StepTips.h"
 #include "Ribbon/UnitPanel.h"
 #include "View/EntityText.h"
 #include "View/SketchView.h"
@@ -79,6 +80,7 @@ void SketcherWindow::BuildControls(const std::vector<CommandEntry>& commands, Co
     BuildPanels(pages.drawing, controls);
     BuildProgress(controls);
     m_pContextMenu = std::make_unique<ContextMenu>(commands, *m_pView);
+    m_panels.push_back(std::make_unique<StepTips>(m_workspace.sketch, *this));
     controls.RefreshControls();
 }
 
@@ -98,6 +100,13 @@ void SketcherWindow::ChooseUnit(const std::wstring& symbol)
 {
     if (m_pUnits != nullptr)
         m_pUnits->Choose(symbol);
+}
+
+void SketcherWindow::ShowDocument(const QString& name, bool isModified)
+{
+    m_documentName = name;
+    OnSketchChanged();
+    setWindowModified(isModified);
 }
 
 void SketcherWindow::ReleaseControls()
@@ -130,12 +139,20 @@ void SketcherWindow::BuildButtons(const std::vector<CommandEntry>& commands, con
             pGroup->addButton(pButton);
         else
             pGroup->addSmallButton(pButton);
-        auto* pShortcut = new QShortcut(QKeySequence(ToQString(entry.keys)), this);
-        pShortcut->setContext(Qt::ApplicationShortcut);
-        connect(pShortcut, &QShortcut::activated, pButton, &QToolButton::click);
+        for (const std::wstring& keys : {entry.keys, entry.otherKeys})
+            AddShortcut(keys, *pButton);
     }
     AddMenu(MakeZoomMenu(commands), *groups[L"视图"], controls);
     m_pPaneButton = AddMenu(MakePaneMenu(commands), *groups[L"面板"], controls);
+}
+
+void SketcherWindow::AddShortcut(const std::wstring& keys, QToolButton& button)
+{
+    if (keys.empty())
+        return;
+    auto* pShortcut = new QShortcut(QKeySequence(ToQString(keys)), this);
+    pShortcut->setContext(Qt::ApplicationShortcut);
+    connect(pShortcut, &QShortcut::activated, &button, &QToolButton::click);
 }
 
 /// Adds a button with a menu and returns it; null if it could not be created.
@@ -200,5 +217,9 @@ void SketcherWindow::ShowPointed()
 
 void SketcherWindow::OnSketchChanged()
 {
-    setWindowTitle(QStringLiteral("%1 - Sketcher").arg(ToQString(m_workspace.sketch.GetName())));
+    QString name =
+        m_documentName.isEmpty() ? ToQString(m_workspace.sketch.GetName()) : m_documentName;
+    // A name that looks like the place of the mark is not one.
+    name.replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
+    setWindowTitle(name + QStringLiteral("[*] - Sketcher"));
 }

@@ -62,6 +62,9 @@ public:
     void ChooseSnaps(const std::array<bool, Snapper::KindCount>& snaps);
     void ChooseUnit(const std::wstring& symbol);
 
+    /// Shows the name of the file that the drawing is in; without one, that of the drawing.
+    void ShowDocument(const QString& name, bool isModified);
+
     /// Drops all references to the controls before they are destroyed.
     void ReleaseControls();
 
@@ -79,6 +82,7 @@ private:
 
     void BuildButtons(const std::vector<CommandEntry>& commands, const Pages& pages,
                       vesk::ControlHost& controls);
+    void AddShortcut(const std::wstring& keys, QToolButton& button);
     QToolButton* AddMenu(vesk::OwnerPtr<vesk::CommandButtonMenuDefinition> opDefinition,
                          Qtitan::RibbonGroup& group, vesk::ControlHost& controls);
     void BuildPanels(Qtitan::RibbonPage& page, vesk::ControlHost& controls);
@@ -90,6 +94,7 @@ private:
     Workspace& m_workspace;
     SketchView* m_pView;
     vesk::RibbonFocus m_ribbonFocus;
+    QString m_documentName;
     QLabel* m_pPointed; ///< What is under the cursor, in the status bar.
     vesk::ProgressBarDefinition* m_pProgress = nullptr;
     QToolButton* m_pPaneButton = nullptr;
