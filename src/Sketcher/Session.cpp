@@ -1,7 +1,10 @@
 #include "Session.h"
 
+#include "BackgroundWork.h"
 #include "DataFile.h"
 #include "Help/HelpCommands.h"
+#include "Documents/DocumentCommands.h"
+#include "Model/KeptContent.h"
 #include "Model/ModelFile.h"
 #include "Output/PictureExport.h"
 #include "Ribbon/CommandTable.h"
@@ -71,6 +74,15 @@ void Complain(const std::string& text)
     std::cerr << "sketcher: " << text << std::endl;
 }
 
+Documents::Manners MannersOf(const Options& options)
+{
+    using Manners = Documents::Manners;
+    if (options.task == Options::Task::Replay || qgetenv("VESK_UNATTENDED") == "1")
+        return Manners::Silent;
+    return options.journal.isEmpty() && options.model.isEmpty() ? Manners::Ask
+                                                                : Manners::AskAboutFiles;
+}
+
 /// True if, as far as can be known, the file or a new one of that name can be written.
 bool IsWritable(const QString& path)
 {
@@ -111,6 +123,9 @@ Session::Session(const Options& options)
                      &SketcherWindow::ShowContextMenu);
     std::vector<CommandEntry> commands = MakeCommandTable(m_workspace, m_window.GetView(), m_input);
     for (CommandEntry& entry : m_pPanes->MakeCommands())
+        commands.push_back(std::move(entry));
+    MakeDocuments();
+    for (CommandEntry& entry : MakeDocumentCommands(*m_pDocuments))
         commands.push_back(std::move(entry));
     for (CommandEntry& entry : m_clipboard.MakeCommands())
         commands.push_back(std::move(entry));
@@ -208,11 +223,31 @@ std::string Session::VerifyMark(const MarkRecord& record)
     return actual == record.digest ? std::string() : actual;
 }
 
+void Session::MakeDocuments()
+{
+    const auto run = [this](const Documents::Work& work) {
+        RunInBackground(m_window, m_window.GetProgress(), [&work](WorkProgress& progress) {
+            work([&progress](std::size_t done, std::size_t total) {
+                return progress.Advance(static_cast<double>(done) / static_cast<double>(total));
+            });
+        });
+    };
+    m_pDocuments =
+        std::make_unique<Documents>(m_workspace.sketch, m_window, MannersOf(m_options), run);
+    QObject::connect(m_pDocuments.get(), &Documents::changed, &m_window, [this] {
+        m_window.ShowDocument(m_pDocuments->GetDocument().GetName(), m_pDocuments->IsModified());
+    });
+    QObject::connect(m_pDocuments.get(), &Documents::opened, &m_window,
+                     [this] { m_window.GetView().ZoomAll(); });
+}
+
 /// The journal to replay is read before anything is replaced.
 bool Session::OpenFiles()
 {
     std::string error;
     const QString& source = m_options.GetSource();
+    KeptContent::Get().Forget();
+    KeptContent::Get().SetSource(source);
     bool isDone = m_journal.Reserve(error);
     if (isDone && ((!source.isEmpty() && !ReadJournal(source)) || !OpenLog()))
         return false;
@@ -281,6 +316,7 @@ void Session::ObeyTerminationRequests()
 {
     m_pTermination = std::make_unique<TerminationRequests>();
     QObject::connect(m_pTermination.get(), &TerminationRequests::requested, &m_window, [this] {
+        m_pDocuments->EndWithoutQuestions();
         m_window.close();
         QCoreApplication::quit();
     });
@@ -299,6 +335,9 @@ int Session::Draw()
     m_window.GetView().Activate();
     if (!m_options.open.isEmpty())
         QTimer::singleShot(0, &m_window, [this] { Open(); });
+    if (!m_options.document.isEmpty())
+        QTimer::singleShot(0, m_pDocuments.get(),
+                           [this] { m_pDocuments->OpenFile(m_options.document); });
     if (!m_options.raiseWarnings.isEmpty())
         m_pWarningRaiser =
             std::make_unique<WarningRaiser>(m_options.raiseWarnings, m_window.GetView());

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Clipboard/ClipboardCommands.h"
+#include "Documents/Documents.h"
 #include "KeepingMonitor.h"
 #include "Model/Workspace.h"
 #include "Options.h"
@@ -51,6 +52,7 @@ public:
     std::string VerifyMark(const vesk::MarkRecord& record) override;
 
 private:
+    void MakeDocuments();
     bool OpenFiles();
     bool OpenLog();
     bool ReadJournal(const QString& path);
@@ -89,6 +91,7 @@ private:
     vesk::ControlHost m_controls;
     SettingsApplier m_settingsApplier;
     std::unique_ptr<Panes> m_pPanes;
+    std::unique_ptr<Documents> m_pDocuments;
     ClipboardCommands m_clipboard;
     std::unique_ptr<vesk::UiTreeWriter> m_pUiTree;
     std::unique_ptr<WarningRaiser> m_pWarningRaiser;

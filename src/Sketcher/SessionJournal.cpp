@@ -1,6 +1,7 @@
 #include "SessionJournal.h"
 
 #include "DataFile.h"
+#include "Model/KeptContent.h"
 #include "Options.h"
 
 #include "Journal/JournalManager.h"
@@ -48,6 +49,7 @@ SessionJournal::SessionJournal(const Options& options)
 
 bool SessionJournal::Reserve(std::string& error)
 {
+    KeptContent::Get().SetJournal(m_path);
     return !m_isContinued || Manager().Reserve(m_path.toStdString(), error);
 }
 
@@ -55,7 +57,10 @@ bool SessionJournal::Open(std::string& error)
 {
     if (m_isContinued || m_path.isEmpty())
         return true;
-    return Manager().Open(m_path.toStdString(), error) || !m_isNamed;
+    const bool isOpen = Manager().Open(m_path.toStdString(), error);
+    if (!isOpen)
+        KeptContent::Get().SetJournal({});
+    return isOpen || !m_isNamed;
 }
 
 QString SessionJournal::GoOn(const JournalReplayResult& result, int lastNumber)
@@ -75,6 +80,7 @@ QString SessionJournal::LeaveForAnother()
     if (!m_isContinued)
         return {};
     *this = SessionJournal(Options());
+    KeptContent::Get().SetJournal(m_path);
     std::string error;
     Manager().MoveTo(m_path.toStdString(), error);
     return m_path;
@@ -86,6 +92,7 @@ QString SessionJournal::StartAnew()
     if (isContinued)
     {
         *this = SessionJournal(Options());
+        KeptContent::Get().SetJournal(m_path);
         Manager().Close();
     }
     Manager().SetVersion(HeaderRecord::CurrentVersion);

@@ -1,5 +1,7 @@
 #include "Output/DrawingExport.h"
 
+#include "Output/DxfProcess.h"
+
 #include "Foundation/FileRewriting.h"
 #include "HostUi/QtText.h"
 
@@ -33,6 +35,7 @@ const std::vector<ExportFormat>& ExportFormats()
         {L"svg", L"SVG 矢量图", &MakeSvg},
         {L"pdf", L"PDF 文档", &MakePdf},
         {L"png", L"PNG 图片", &MakePng},
+        {L"dxf", L"DXF 图形", &MakeDxf},
     };
     return s_formats;
 }

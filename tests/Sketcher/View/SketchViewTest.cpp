@@ -246,7 +246,7 @@ private slots:
         f.MoveTo(30, 20);
 
         QCOMPARE(f.view.GetCamera().GetCentre(), Vector3d(0, 0, 0));
-        QCOMPARE(f.view.cursor().shape(), Qt::CrossCursor);
+        QCOMPARE(f.view.cursor().shape(), Qt::ArrowCursor);
     }
 
     void theMenuIsAboutWhatIsBelowIt()
