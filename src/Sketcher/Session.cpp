@@ -3,7 +3,6 @@
 #include "BackgroundWork.h"
 #include "DataFile.h"
 #include "Documents/DocumentCommands.h"
-#include "Model/EntityEdit.h"
 #include "Model/KeptContent.h"
 #include "Model/ModelFile.h"
 #include "Ribbon/CommandTable.h"
@@ -109,6 +108,13 @@ Session::Session(const Options& options)
     for (CommandEntry& entry : MakeDocumentCommands(*m_pDocuments))
         commands.push_back(std::move(entry));
     RegisterCommands(commands);
+    for (const CommandEntry& entry : commands)
+    {
+        if (entry.isPossible)
+            m_possibilities[entry.id] = entry.isPossible;
+    }
+    JournalManager::GetInstance().SetDigestSource(
+        [this] { return m_workspace.sketch.GetDigest(); });
     m_window.BuildControls(commands, m_controls);
     if (QToolButton* pButton = m_window.GetPaneButton())
         m_pPanes->Attend(*pButton);
@@ -121,6 +127,7 @@ Session::Session(const Options& options)
 Session::~Session()
 {
     ActionManager::Reset();
+    JournalManager::GetInstance().SetDigestSource(nullptr);
     m_window.ReleaseControls();
     m_application.SetDockManager(nullptr);
     m_application.SetMainWindow(nullptr);
@@ -147,10 +154,8 @@ int Session::Run()
 
 bool Session::CanRepeat(const CommandRecord& record)
 {
-    if (record.commandId != EntityEdit::CommandId)
-        return true;
-    const std::optional<EntityEdit> edit = EntityEdit::From(record.parameters);
-    return edit.has_value() && edit->IsPossible(m_workspace.sketch);
+    const auto found = m_possibilities.find(record.commandId);
+    return found == m_possibilities.end() || found->second(record.parameters);
 }
 
 bool Session::OnProgress(std::size_t done, std::size_t total)
@@ -191,6 +196,22 @@ void Session::MakeDocuments()
                      [this] { m_window.GetView().ZoomAll(); });
 }
 
+bool Session::VerifyRedo(const RedoRecord& record)
+{
+    return m_workspace.sketch.GetLastUndone() == record.entity;
+}
+
+std::optional<int> Session::GetLastUndone()
+{
+    return m_workspace.sketch.GetLastUndone();
+}
+
+std::string Session::VerifyMark(const MarkRecord& record)
+{
+    const std::string actual = m_workspace.sketch.GetDigest();
+    return actual == record.digest ? std::string() : actual;
+}
+
 /// The journal to replay is read before anything is replaced.
 bool Session::OpenFiles()
 {
@@ -226,9 +247,21 @@ bool Session::ReadJournal(const QString& path)
 {
     std::string error;
     if (JournalFormat::ReadFile(path.toStdString(), m_records, error))
+    {
+        ObeyVersion();
         return true;
+    }
     Complain(path.toStdString() + ": " + error);
     return false;
+}
+
+/// Records of version 1 go on as such, into whatever file: in them a name is no step.
+void Session::ObeyVersion()
+{
+    if (!m_records.empty() && std::holds_alternative<HeaderRecord>(m_records.front().what))
+        return;
+    m_workspace.sketch.SetNamesWithoutSteps();
+    JournalManager::GetInstance().SetVersion(1);
 }
 
 void Session::RestoreLayout()

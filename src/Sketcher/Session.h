@@ -21,7 +21,10 @@
 #include "HostUi/UiTreeWriter.h"
 #include "Replay/JournalReplayer.h"
 
+#include <map>
 #include <memory>
+#include <optional>
+#include <string>
 #include <vector>
 
 /// One run of the program: the host, the library, the drawing and the window, in order of
@@ -41,12 +44,16 @@ public:
     bool ReplaySelection(const vesk::SelectionRecord& record) override;
     bool ReplayProperty(const vesk::PropertyRecord& record) override;
     bool VerifyUndo(const vesk::UndoRecord& record) override;
+    bool VerifyRedo(const vesk::RedoRecord& record) override;
+    std::optional<int> GetLastUndone() override;
+    std::string VerifyMark(const vesk::MarkRecord& record) override;
 
 private:
     void MakeDocuments();
     bool OpenFiles();
     bool OpenLog();
     bool ReadJournal(const QString& path);
+    void ObeyVersion();
     void RestoreLayout();
     void SaveLayout();
     void ObeyTerminationRequests();
@@ -64,6 +71,7 @@ private:
     const Options m_options;
     SessionJournal m_journal;
     std::vector<vesk::JournalRecord> m_records;
+    std::map<std::wstring, std::function<bool(const vesk::CommandParameters&)>> m_possibilities;
 
     /// Files not named by an option that could not be written at the end.
     QStringList m_unwritten;

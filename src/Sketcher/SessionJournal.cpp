@@ -95,6 +95,7 @@ QString SessionJournal::StartAnew()
         KeptContent::Get().SetJournal(m_path);
         Manager().Close();
     }
+    Manager().SetVersion(HeaderRecord::CurrentVersion);
     std::string error;
     Manager().Open(m_path.toStdString(), error);
     return isContinued ? m_path : QString();

@@ -6,6 +6,7 @@
 #include "Ribbon/DrawingPanel.h"
 #include "Ribbon/PenPanel.h"
 #include "Ribbon/SnapPanel.h"
+#include "Ribbon/StepTips.h"
 #include "Ribbon/UnitPanel.h"
 #include "View/SketchView.h"
 
@@ -74,6 +75,7 @@ void SketcherWindow::BuildControls(const std::vector<CommandEntry>& commands, Co
     BuildButtons(commands, pages, controls);
     BuildPanels(pages.drawing, controls);
     BuildProgress(controls);
+    m_panels.push_back(std::make_unique<StepTips>(m_workspace.sketch, *this));
     controls.RefreshControls();
 }
 
@@ -111,12 +113,20 @@ void SketcherWindow::BuildButtons(const std::vector<CommandEntry>& commands, con
             pGroup->addButton(pButton);
         else
             pGroup->addSmallButton(pButton);
-        auto* pShortcut = new QShortcut(QKeySequence(ToQString(entry.keys)), this);
-        pShortcut->setContext(Qt::ApplicationShortcut);
-        connect(pShortcut, &QShortcut::activated, pButton, &QToolButton::click);
+        for (const std::wstring& keys : {entry.keys, entry.otherKeys})
+            AddShortcut(keys, *pButton);
     }
     AddMenu(MakeZoomMenu(commands), *groups[L"视图"], controls);
     m_pPaneButton = AddMenu(MakePaneMenu(commands), *groups[L"面板"], controls);
+}
+
+void SketcherWindow::AddShortcut(const std::wstring& keys, QToolButton& button)
+{
+    if (keys.empty())
+        return;
+    auto* pShortcut = new QShortcut(QKeySequence(ToQString(keys)), this);
+    pShortcut->setContext(Qt::ApplicationShortcut);
+    connect(pShortcut, &QShortcut::activated, &button, &QToolButton::click);
 }
 
 /// Adds a button with a menu and returns it; null if it could not be created.

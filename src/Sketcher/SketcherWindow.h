@@ -69,6 +69,7 @@ private:
 
     void BuildButtons(const std::vector<CommandEntry>& commands, const Pages& pages,
                       vesk::ControlHost& controls);
+    void AddShortcut(const std::wstring& keys, QToolButton& button);
     QToolButton* AddMenu(vesk::OwnerPtr<vesk::CommandButtonMenuDefinition> opDefinition,
                          Qtitan::RibbonGroup& group, vesk::ControlHost& controls);
     void BuildPanels(Qtitan::RibbonPage& page, vesk::ControlHost& controls);

@@ -16,6 +16,14 @@ PropertyEditor::PropertyEditor(Sketch& sketch, const Selection& selection)
 
 bool PropertyEditor::Set(const PropertyRecord& record)
 {
+    if (!SetKnown(record))
+        return false;
+    JournalManager::GetInstance().FinishStep();
+    return true;
+}
+
+bool PropertyEditor::SetKnown(const PropertyRecord& record)
+{
     if (record.object != L"drawing")
         return SetPenPart(record);
     if (record.property != L"name")

@@ -15,9 +15,10 @@ struct PropertyRecord;
 
 /// Sets the properties of the drawing, for the user or for a replay.
 ///
-/// "name" of "drawing" is its name. "style", "colour", "width" and "layer" of "pen" apply to the
-/// next entities; those of "selection" change the selected entities in one undo step and leave the
-/// pen unchanged. A layer is given by its id, which does not change when it is renamed.
+/// "name" of "drawing" is its name. "style",
+/// "colour", "width" and "layer" of "pen" apply to the next entities; those of "selection" change
+/// the selected entities in one undo step and leave the pen unchanged. A layer is given by its id,
+/// which does not change when it is renamed.
 class PropertyEditor final
 {
 public:
@@ -29,6 +30,7 @@ public:
     bool Set(const vesk::PropertyRecord& record);
 
 private:
+    bool SetKnown(const vesk::PropertyRecord& record);
     bool SetPenPart(const vesk::PropertyRecord& record);
     bool SetPen(const vesk::PropertyRecord& record, int Pen::*part, std::optional<int> value);
     std::optional<int> FindLayer(const std::wstring& idText) const;

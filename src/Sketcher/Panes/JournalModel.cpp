@@ -27,6 +27,9 @@ JournalModel::~JournalModel()
 
 void JournalModel::OnRecord(const JournalRecord& record)
 {
+    // A mark tells what a step has led to, not what the user did.
+    if (std::holds_alternative<MarkRecord>(record.what))
+        return;
     m_new.push_back(record);
     if (m_new.size() > MostRecords)
         m_new.pop_front();

@@ -90,6 +90,16 @@ QString DescribeRecord(const JournalRecord& record)
                          Shortened(ToQString(property.value)));
             },
             [](const UndoRecord& undo) { return QStringLiteral("撤销 #%1").arg(undo.entity); },
+            [](const RedoRecord& redo) { return QStringLiteral("重做 #%1").arg(redo.entity); },
+            [](const MarkRecord& mark) {
+                return QStringLiteral("图纸 %1").arg(
+                    Shortened(QString::fromStdString(mark.digest).left(8)));
+            },
+            [](const CloseRecord&) { return QStringLiteral("程序结束"); },
+            [](const HeaderRecord& header) {
+                return QStringLiteral("日志 %1  %2")
+                    .arg(Shortened(ToQString(header.program)), Shortened(ToQString(header.time)));
+            },
             [](const EndRecord& end) {
                 return end.isRefused ? QStringLiteral("未执行") : QStringLiteral("结束");
             },

@@ -29,6 +29,27 @@ CommandEntry CommandEntry::Interactive(const std::wstring& id, const std::wstrin
     return entry;
 }
 
+CommandEntry
+CommandEntry::WithParameters(const std::wstring& id, const std::wstring& caption,
+                             const std::function<void(const CommandParameters&)>& execute)
+{
+    CommandEntry entry;
+    entry.id = id;
+    entry.caption = caption;
+    entry.execute = [execute](IUiView*, const CommandParameters& parameters) -> OwnerPtr<IAction> {
+        execute(parameters);
+        return nullptr;
+    };
+    return entry;
+}
+
+CommandEntry&
+CommandEntry::PossibleWith(const std::function<bool(const CommandParameters&)>& predicate)
+{
+    isPossible = predicate;
+    return *this;
+}
+
 CommandEntry& CommandEntry::WithIcon(const std::wstring& name)
 {
     iconPath = L":/icons/" + name + L".svg";
@@ -44,6 +65,12 @@ CommandEntry& CommandEntry::WithToolTip(const std::wstring& text)
 CommandEntry& CommandEntry::WithKeys(const std::wstring& sequence)
 {
     keys = sequence;
+    return *this;
+}
+
+CommandEntry& CommandEntry::WithOtherKeys(const std::wstring& sequence)
+{
+    otherKeys = sequence;
     return *this;
 }
 

@@ -5,6 +5,11 @@
 #include <functional>
 #include <string>
 
+namespace vesk
+{
+class CommandParameters;
+}
+
 /// A command of the program: what it does and where it is shown.
 ///
 /// Built by chaining: `CommandEntry::Plain(id, caption, undo).InGroup(L"编辑")`.
@@ -18,9 +23,21 @@ struct CommandEntry
     static CommandEntry Interactive(const std::wstring& id, const std::wstring& caption,
                                     const std::function<vesk::OwnerPtr<vesk::IAction>()>& begin);
 
+    /// A plain command whose arguments are its parameters: it has no button, and a replay runs it
+    /// with the parameters of its record. Run it with ActionManager::RunCommand.
+    static CommandEntry
+    WithParameters(const std::wstring& id, const std::wstring& caption,
+                   const std::function<void(const vesk::CommandParameters&)>& execute);
+
+    /// Sets whether a command can do what its parameters say now. A replay asks before it runs the
+    /// command, and stops if it cannot.
+    CommandEntry&
+    PossibleWith(const std::function<bool(const vesk::CommandParameters&)>& predicate);
+
     CommandEntry& WithIcon(const std::wstring& name); ///< "line" for ":/icons/line.svg".
     CommandEntry& WithToolTip(const std::wstring& text);
     CommandEntry& WithKeys(const std::wstring& sequence);
+    CommandEntry& WithOtherKeys(const std::wstring& sequence); ///< Not in the tool tip.
     CommandEntry& InGroup(const std::wstring& caption);
     CommandEntry& OnStartPage();
     CommandEntry& InMenu(const std::wstring& menuId);
@@ -37,10 +54,12 @@ struct CommandEntry
     std::wstring group; ///< The ribbon group that holds its button; empty for none.
     std::wstring menu;  ///< The menu or sub-menu that holds an entry for it; empty for none.
     std::wstring keys;  ///< Shortcut of the button, such as "Ctrl+Z".
+    std::wstring otherKeys;
 
     vesk::Command::Kind kind = vesk::Command::Kind::Plain;
     vesk::Command::Execution execute;
     vesk::Command::Condition isEnabled; ///< If empty, the command is always enabled.
+    std::function<bool(const vesk::CommandParameters&)> isPossible; ///< If empty, always.
 
     bool isOnStartPage = false; ///< Whether its group is on the page 开始 instead of 草图.
 };

@@ -3,6 +3,7 @@
 #include "Model/EntityEdit.h"
 #include "Model/Workspace.h"
 #include "Ribbon/LayerCommands.h"
+#include "Ribbon/StepCommands.h"
 #include "Tools/ArcCentreAction.h"
 #include "Tools/ArcThreePointsAction.h"
 #include "Tools/CircleAction.h"
@@ -16,7 +17,6 @@
 #include "Command/ActionManager.h"
 #include "Command/ICommandManager.h"
 #include "HostUi/DimensionInputController.h"
-#include "Journal/JournalManager.h"
 #include "View/IUiDocumentViewManager.h"
 
 #include <optional>
@@ -33,13 +33,6 @@ CommandEntry Begin(const std::wstring& id, const std::wstring& caption, Argument
 {
     return CommandEntry::Interactive(
         id, caption, [&argument]() -> OwnerPtr<IAction> { return MakeOwner<Action>(argument); });
-}
-
-void Undo(Sketch& sketch)
-{
-    JournalManager::GetInstance().Add(UndoRecord{sketch.Undo()});
-    // A running action may now continue from another point.
-    ActionManager::StepDone();
 }
 
 void SetProperty(Sketch& sketch, const CommandParameters& parameters)
@@ -84,26 +77,21 @@ std::vector<CommandEntry> MakeDrawingCommands(Workspace& workspace)
 
 CommandEntry MakePropertyCommand(Sketch& sketch)
 {
-    CommandEntry entry;
-    entry.id = EntityEdit::CommandId;
-    entry.caption = L"设置特性";
-    entry.execute = [&sketch](IUiView*, const CommandParameters& parameters) -> OwnerPtr<IAction> {
-        SetProperty(sketch, parameters);
-        return nullptr;
-    };
-    return entry;
+    return CommandEntry::WithParameters(
+               EntityEdit::CommandId, L"设置特性",
+               [&sketch](const CommandParameters& parameters) { SetProperty(sketch, parameters); })
+        .PossibleWith([&sketch](const CommandParameters& parameters) {
+            const std::optional<EntityEdit> edit = EntityEdit::From(parameters);
+            return edit.has_value() && edit->IsPossible(sketch);
+        });
 }
 
 std::vector<CommandEntry> MakeEditCommands(Workspace& workspace)
 {
     Sketch& sketch = workspace.sketch;
     return {
-        CommandEntry::Plain(L"Sketcher.Undo", L"撤销", [&sketch] { Undo(sketch); })
-            .WithIcon(L"undo")
-            .WithToolTip(L"撤销上一步")
-            .WithKeys(L"Ctrl+Z")
-            .InGroup(L"编辑")
-            .EnabledWhile([&sketch] { return sketch.CanUndo(); }),
+        MakeUndoCommand(sketch),
+        MakeRedoCommand(sketch),
         Begin<RotateAction>(L"Sketcher.Rotate", L"旋转", workspace)
             .WithIcon(L"rotate")
             .WithToolTip(L"旋转：将所选图元绕一点转到另一方向，或键入角度")

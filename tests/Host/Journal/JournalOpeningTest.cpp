@@ -61,6 +61,7 @@ private slots:
     void whereTheOtherFileCannotBeWrittenNothingIsKept();
     void aFileBeginsWithTheProgramAndTheTime();
     void aContinuedFileGetsNoHeader();
+    void aFileForRecordsOfTheFirstVersionGetsNoHeader();
     void aFileOfAnotherProgramIsInUse();
     void whatIsOnDiskIsKept();
 
@@ -271,6 +272,26 @@ void JournalOpeningTest::aContinuedFileGetsNoHeader()
     Journal().Add(CloseRecord{});
 
     QCOMPARE(ReadBytes(path), Read + "{\"n\":8,\"kind\":\"close\"}\n");
+}
+
+void JournalOpeningTest::aFileForRecordsOfTheFirstVersionGetsNoHeader()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("journal");
+    const QString other = folder.filePath("other");
+    QVERIFY(WriteBytes(path, Read));
+    Journal().SetVersion(1);
+
+    QVERIFY(Journal().Open(other.toStdString(), m_error));
+    QCOMPARE(ReadBytes(other), QByteArray());
+    QVERIFY(Journal().Reserve(path.toStdString(), m_error));
+    Journal().Add(CloseRecord{});
+    QVERIFY(Journal().MoveTo(other.toStdString(), m_error));
+    QCOMPARE(ReadBytes(other), QByteArray("{\"n\":1,\"kind\":\"close\"}\n"));
+
+    Journal().Close();
+    QVERIFY(Journal().Open(other.toStdString(), m_error));
+    QCOMPARE(ReadLinesAfterHeader(other), QByteArray());
 }
 
 void JournalOpeningTest::aFileOfAnotherProgramIsInUse()

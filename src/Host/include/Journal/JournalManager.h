@@ -68,6 +68,11 @@ public:
     /// Sets the name and version of this program for the headers of files that it begins.
     virtual void SetProgram(const std::wstring& program) = 0;
 
+    /// Sets the version of the records to come: the present one, or 1 if they continue records of
+    /// version 1, which a file begun for them must be known by. It then gets no header. Close
+    /// restores the present version.
+    virtual void SetVersion(int version) = 0;
+
     /// Sets what computes the digest of the document; empty for no marks.
     virtual void SetDigestSource(std::function<std::string()> source) = 0;
 

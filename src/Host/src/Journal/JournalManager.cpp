@@ -79,6 +79,7 @@ public:
     bool MoveTo(const std::string& path, std::string& error) override;
     bool IsInUse(const std::string& path) const override { return m_file.IsInUse(path); }
     void SetProgram(const std::wstring& program) override { m_program = program; }
+    void SetVersion(int version) override { m_version = version; }
     void SetDigestSource(std::function<std::string()> source) override;
     void SetSynced(bool isSynced) override { m_file.SetSynced(isSynced); }
     bool IsKept() const override { return m_file.IsKept(); }
@@ -119,6 +120,7 @@ private:
 
     JournalLines m_file;
     std::wstring m_program;
+    int m_version = HeaderRecord::CurrentVersion;
     std::chrono::steady_clock::time_point m_begin = std::chrono::steady_clock::now();
     int m_lastNumber = 0;
     std::function<std::string()> m_digestSource;
@@ -165,6 +167,7 @@ bool JournalManagerImpl::MoveTo(const std::string& path, std::string& error)
 bool JournalManagerImpl::Close()
 {
     StartAnew();
+    m_version = HeaderRecord::CurrentVersion;
     return m_file.Close();
 }
 
@@ -177,10 +180,13 @@ void JournalManagerImpl::StartAnew()
     m_lastLines.Clear();
 }
 
+/// Empty for records of version 1.
 std::string JournalManagerImpl::HeaderLine() const
 {
+    if (m_version < HeaderRecord::CurrentVersion)
+        return {};
     const std::string time = FormatUtcTime(std::chrono::system_clock::now());
-    const HeaderRecord header{HeaderRecord::CurrentVersion, m_program, FromUtf8(time)};
+    const HeaderRecord header{m_version, m_program, FromUtf8(time)};
     return JournalFormat::ToLine({0, header}) + '\n';
 }
 
