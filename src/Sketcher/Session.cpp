@@ -2,9 +2,11 @@
 
 #include "BackgroundWork.h"
 #include "DataFile.h"
+#include "Help/HelpCommands.h"
 #include "Documents/DocumentCommands.h"
 #include "Model/KeptContent.h"
 #include "Model/ModelFile.h"
+#include "Output/PictureExport.h"
 #include "Ribbon/CommandTable.h"
 #include "VeskUiQtImpl/DockManagerImpl.h"
 #include "View/SketchView.h"
@@ -54,6 +56,19 @@ QString LayoutPath()
            QStringLiteral("/layout.json");
 }
 
+/// The settings file if somebody is there whose settings it has; a replay, and a program that is
+/// driven, do the same for everyone.
+QString SettingsToRead(const Options& options)
+{
+    const bool isAttended = qEnvironmentVariable("VESK_UNATTENDED") != QLatin1String("1");
+    return options.task == Options::Task::Replay || !isAttended ? QString() : SettingsPath();
+}
+
+QLocale LocaleOf(const Settings& settings)
+{
+    return settings.language.isEmpty() ? QLocale() : QLocale(settings.language);
+}
+
 void Complain(const std::string& text)
 {
     std::cerr << "sketcher: " << text << std::endl;
@@ -88,9 +103,12 @@ bool WritePicture(const QPixmap& picture, const QString& path)
 }
 
 Session::Session(const Options& options)
-    : m_options(options), m_journal(options),
-      m_translations(SharedFile(QStringLiteral("translations")), QStringLiteral("sketcher")),
-      m_window(m_workspace, m_input), m_pDocks(std::make_unique<DockManagerImpl>(&m_window))
+    : m_options(options), m_settings(SettingsToRead(options), SettingsPath()), m_journal(options),
+      m_translations(SharedFile(QStringLiteral("translations")), QStringLiteral("sketcher"),
+                     LocaleOf(m_settings.Get())),
+      m_window(m_workspace, m_input), m_pDocks(std::make_unique<DockManagerImpl>(&m_window)),
+      m_settingsApplier(m_settings, m_window, m_input, SharedFile(QStringLiteral("translations"))),
+      m_clipboard(m_workspace, [this](const QString& text) { m_window.ShowNotice(text); })
 {
     LoadPublishConfig(SharedFile(QStringLiteral("publish.ini")));
     m_host.GetViewManager().AddView(&m_window.GetView());
@@ -101,11 +119,21 @@ Session::Session(const Options& options)
     m_application.SetDockManager(m_pDocks.get());
     m_pPanes = std::make_unique<Panes>(m_workspace, m_window, *m_pDocks, m_controls, m_input);
     QObject::connect(&m_window, &SketcherWindow::unitChanged, m_pPanes.get(), &Panes::Refresh);
+    QObject::connect(m_pPanes.get(), &Panes::menuRequested, &m_window,
+                     &SketcherWindow::ShowContextMenu);
     std::vector<CommandEntry> commands = MakeCommandTable(m_workspace, m_window.GetView(), m_input);
     for (CommandEntry& entry : m_pPanes->MakeCommands())
         commands.push_back(std::move(entry));
     MakeDocuments();
     for (CommandEntry& entry : MakeDocumentCommands(*m_pDocuments))
+        commands.push_back(std::move(entry));
+    for (CommandEntry& entry : m_clipboard.MakeCommands())
+        commands.push_back(std::move(entry));
+    m_clipboard.SetPicture([](const SketchContent& content) {
+        return MakeSvg(content, [](double) { return true; }).bytes;
+    });
+    commands.push_back(m_settingsApplier.MakeCommand());
+    for (CommandEntry& entry : MakeHelpCommands(commands, m_window))
         commands.push_back(std::move(entry));
     RegisterCommands(commands);
     for (const CommandEntry& entry : commands)
@@ -116,6 +144,7 @@ Session::Session(const Options& options)
     JournalManager::GetInstance().SetDigestSource(
         [this] { return m_workspace.sketch.GetDigest(); });
     m_window.BuildControls(commands, m_controls);
+    m_settingsApplier.Apply(Settings());
     if (QToolButton* pButton = m_window.GetPaneButton())
         m_pPanes->Attend(*pButton);
     if (!m_options.uiTree.isEmpty())
@@ -178,6 +207,22 @@ bool Session::VerifyUndo(const UndoRecord& record)
     return m_workspace.sketch.GetLastUndone() == record.entity;
 }
 
+bool Session::VerifyRedo(const RedoRecord& record)
+{
+    return m_workspace.sketch.GetLastUndone() == record.entity;
+}
+
+std::optional<int> Session::GetLastUndone()
+{
+    return m_workspace.sketch.GetLastUndone();
+}
+
+std::string Session::VerifyMark(const MarkRecord& record)
+{
+    const std::string actual = m_workspace.sketch.GetDigest();
+    return actual == record.digest ? std::string() : actual;
+}
+
 void Session::MakeDocuments()
 {
     const auto run = [this](const Documents::Work& work) {
@@ -194,22 +239,6 @@ void Session::MakeDocuments()
     });
     QObject::connect(m_pDocuments.get(), &Documents::opened, &m_window,
                      [this] { m_window.GetView().ZoomAll(); });
-}
-
-bool Session::VerifyRedo(const RedoRecord& record)
-{
-    return m_workspace.sketch.GetLastUndone() == record.entity;
-}
-
-std::optional<int> Session::GetLastUndone()
-{
-    return m_workspace.sketch.GetLastUndone();
-}
-
-std::string Session::VerifyMark(const MarkRecord& record)
-{
-    const std::string actual = m_workspace.sketch.GetDigest();
-    return actual == record.digest ? std::string() : actual;
 }
 
 /// The journal to replay is read before anything is replaced.

@@ -7,10 +7,6 @@
 #include "Journal/JournalManager.h"
 #include "Replay/JournalReplayer.h"
 
-#include <QCoreApplication>
-#include <QDateTime>
-#include <QFileInfo>
-
 using namespace vesk;
 
 namespace
@@ -24,19 +20,6 @@ JournalManager& Manager()
     return JournalManager::GetInstance();
 }
 
-/// The path of a file in the user's data folder that does not exist yet.
-QString OwnPath()
-{
-    const QString name =
-        QStringLiteral("journal-%1-%2")
-            .arg(QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMdd-hhmmss")))
-            .arg(QCoreApplication::applicationPid());
-    QString path = DataFile(name + QStringLiteral(".jsonl"));
-    for (int i = 2; QFileInfo::exists(path); ++i)
-        path = DataFile(QStringLiteral("%1-%2.jsonl").arg(name).arg(i));
-    return path;
-}
-
 }
 
 SessionJournal::SessionJournal(const Options& options)
@@ -44,7 +27,12 @@ SessionJournal::SessionJournal(const Options& options)
       m_isContinued(m_isNamed && IsSameFile(m_path, options.GetSource()))
 {
     if (!m_isNamed && options.task != Options::Task::Replay)
-        m_path = OwnPath();
+        m_path = GetFolder().NewPath();
+}
+
+JournalFolder SessionJournal::GetFolder()
+{
+    return JournalFolder(DataFile(QStringLiteral("journals")));
 }
 
 bool SessionJournal::Reserve(std::string& error)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Recovery/JournalFolder.h"
+
 #include <QString>
 
 #include <string>
@@ -19,6 +21,9 @@ class SessionJournal final
 {
 public:
     explicit SessionJournal(const Options& options);
+
+    /// The folder of the journals that no option names.
+    static JournalFolder GetFolder();
 
     /// Reserves a file that is to be continued for this session before it is read. Returns false if
     /// that fails; `error` then says why in one sentence.
