@@ -6,6 +6,7 @@
 #include "Panes/Panes.h"
 #include "ReadingMonitor.h"
 #include "SessionJournal.h"
+#include "SessionRecovery.h"
 #include "SketcherWindow.h"
 #include "WarningRaiser.h"
 
@@ -58,6 +59,7 @@ private:
     int Draw();
     int Replay();
     void Open();
+    void BeginRecovery();
     vesk::JournalReplayResult Repeat();
     vesk::JournalReplayResult RepeatInWindow();
     QString GoOn(const vesk::JournalReplayResult& result);
@@ -70,6 +72,7 @@ private:
     SessionJournal m_journal;
     std::vector<vesk::JournalRecord> m_records;
     std::map<std::wstring, std::function<bool(const vesk::CommandParameters&)>> m_possibilities;
+    std::map<std::wstring, std::wstring> m_captions;
 
     /// Files not named by an option that could not be written at the end.
     QStringList m_unwritten;
@@ -88,5 +91,6 @@ private:
     std::unique_ptr<WarningRaiser> m_pWarningRaiser;
     ReadingMonitor* m_pReading = nullptr; ///< Set while a drawing is opened; not owned.
     std::unique_ptr<KeepingMonitor> m_pKeeping;
+    std::unique_ptr<SessionRecovery> m_pRecovery;
     std::unique_ptr<vesk::TerminationRequests> m_pTermination;
 };
