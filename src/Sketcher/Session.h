@@ -11,6 +11,7 @@
 #include "SessionJournal.h"
 #include "Settings/SettingsStore.h"
 #include "SettingsApplier.h"
+#include "SessionRecovery.h"
 #include "SketcherWindow.h"
 #include "WarningRaiser.h"
 
@@ -64,6 +65,7 @@ private:
     int Draw();
     int Replay();
     void Open();
+    void BeginRecovery();
     vesk::JournalReplayResult Repeat();
     vesk::JournalReplayResult RepeatInWindow();
     vesk::JournalReplayResult RepeatInRealTime();
@@ -79,6 +81,7 @@ private:
     SessionJournal m_journal;
     std::vector<vesk::JournalRecord> m_records;
     std::map<std::wstring, std::function<bool(const vesk::CommandParameters&)>> m_possibilities;
+    std::map<std::wstring, std::wstring> m_captions;
 
     /// Files not named by an option that could not be written at the end.
     QStringList m_unwritten;
@@ -101,5 +104,6 @@ private:
     std::unique_ptr<ReplayPace> m_pPace;  ///< Set during a replay in real time.
     ReadingMonitor* m_pReading = nullptr; ///< Set while a drawing is opened; not owned.
     std::unique_ptr<KeepingMonitor> m_pKeeping;
+    std::unique_ptr<SessionRecovery> m_pRecovery;
     std::unique_ptr<vesk::TerminationRequests> m_pTermination;
 };

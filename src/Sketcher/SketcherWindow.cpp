@@ -171,9 +171,9 @@ QToolButton* SketcherWindow::AddMenu(OwnerPtr<CommandButtonMenuDefinition> opDef
 
 void SketcherWindow::BuildPanels(Qtitan::RibbonPage& page, ControlHost& controls)
 {
-    m_panels.push_back(
-        std::make_unique<PenPanel>(m_workspace, *page.addGroup(QStringLiteral("线条")), controls));
+    Qtitan::RibbonGroup* pLines = page.addGroup(QStringLiteral("线条"));
     Qtitan::RibbonGroup* pDrafting = page.addGroup(QStringLiteral("绘图设置"));
+    m_panels.push_back(std::make_unique<PenPanel>(m_workspace, *pLines, *pDrafting, controls));
     auto pSnaps = std::make_unique<SnapPanel>(m_workspace.snapper, *pDrafting, controls);
     m_pSnaps = pSnaps.get();
     m_panels.push_back(std::move(pSnaps));

@@ -54,7 +54,7 @@ CommandParameters MakeParameters(const wchar_t* name, const QString& text)
 
 QString TextOf(const CommandParameters& parameters, const wchar_t* name)
 {
-    const auto* pText = FindValue<std::wstring>(parameters, name);
+    const auto* pText = FindParameter<std::wstring>(parameters, name);
     return pText != nullptr ? ToQString(*pText) : QString();
 }
 
