@@ -60,16 +60,31 @@ bool MayBeOne(const FileOption& first, const FileOption& second)
     return isJournal(first) && isJournal(second);
 }
 
+/// The argument that is no option; empty for none.
+QString TakeDocument(const QStringList& arguments, QString& error)
+{
+    if (arguments.size() > 1)
+        error = QStringLiteral("unexpected argument %1").arg(arguments[1]);
+    else if (arguments.size() == 1 &&
+             !(QFileInfo(arguments[0]).isFile() && QFileInfo(arguments[0]).isReadable()))
+        error = QStringLiteral("cannot read %1").arg(arguments[0]);
+    return arguments.value(0);
+}
+
 QString CheckNames(const Options& options)
 {
     for (const FileOption& first : FileOptions)
     {
+        const QString& named = options.*first.member;
+        if (IsSameFile(options.document, named))
+            return QStringLiteral("%1 cannot be used for both the drawing and --%2")
+                .arg(named, QString::fromLatin1(first.name));
         for (const FileOption* pSecond = &first + 1; pSecond != std::end(FileOptions); ++pSecond)
         {
-            const QString& path = options.*first.member;
-            if (!MayBeOne(first, *pSecond) && IsSameFile(path, options.*pSecond->member))
+            if (!MayBeOne(first, *pSecond) && IsSameFile(named, options.*pSecond->member))
                 return QStringLiteral("%1 cannot be used for both --%2 and --%3")
-                    .arg(path, QString::fromLatin1(first.name), QString::fromLatin1(pSecond->name));
+                    .arg(named, QString::fromLatin1(first.name),
+                         QString::fromLatin1(pSecond->name));
         }
     }
     return {};
@@ -110,18 +125,20 @@ Options ParseOptions(const QStringList& arguments)
             WarningRaiser::GetKinds().join(QStringLiteral(", ")),
         QStringLiteral("KIND"));
     parser.addOption(raiseWarnings);
+    parser.addPositionalArgument(QStringLiteral("FILE.vsk"),
+                                 QStringLiteral("the drawing file to open"),
+                                 QStringLiteral("[FILE.vsk]"));
 
     Options options;
     if (!parser.parse(arguments))
         options.error = parser.errorText();
-    else if (!parser.positionalArguments().isEmpty())
-        options.error =
-            QStringLiteral("unexpected argument %1").arg(parser.positionalArguments().front());
     else if (parser.isSet(help))
         options.task = Options::Task::ShowHelp;
     else if (parser.isSet(version))
         options.task = Options::Task::ShowVersion;
     options.help = parser.helpText();
+    if (options.error.isEmpty())
+        options.document = TakeDocument(parser.positionalArguments(), options.error);
 
     for (const FileOption& option : FileOptions)
     {
@@ -140,5 +157,7 @@ Options ParseOptions(const QStringList& arguments)
         options.task = Options::Task::Replay;
     if (options.error.isEmpty() && !options.replay.isEmpty() && !options.open.isEmpty())
         options.error = QStringLiteral("--replay and --open cannot be used together");
+    if (options.error.isEmpty() && !options.document.isEmpty() && !options.GetSource().isEmpty())
+        options.error = QStringLiteral("a drawing file cannot be opened besides a journal");
     return options;
 }

@@ -16,6 +16,7 @@ struct Options
     };
 
     Task task = Task::Draw;
+    QString document; ///< The drawing file to open.
     QString journal;
     QString replay;
     QString open;

@@ -1,7 +1,12 @@
 #include "Session.h"
 
+#include "BackgroundWork.h"
 #include "DataFile.h"
+#include "Documents/DocumentCommands.h"
+#include "Help/HelpCommands.h"
+#include "Model/KeptContent.h"
 #include "Model/ModelFile.h"
+#include "Output/PictureExport.h"
 #include "Recovery/RecoverContent.h"
 #include "Ribbon/CommandTable.h"
 #include "VeskUiQtImpl/DockManagerImpl.h"
@@ -52,9 +57,31 @@ QString LayoutPath()
            QStringLiteral("/layout.json");
 }
 
+/// The settings file if somebody is there whose settings it has; a replay, and a program that is
+/// driven, do the same for everyone.
+QString SettingsToRead(const Options& options)
+{
+    const bool isAttended = qEnvironmentVariable("VESK_UNATTENDED") != QLatin1String("1");
+    return options.task == Options::Task::Replay || !isAttended ? QString() : SettingsPath();
+}
+
+QLocale LocaleOf(const Settings& settings)
+{
+    return settings.language.isEmpty() ? QLocale() : QLocale(settings.language);
+}
+
 void Complain(const std::string& text)
 {
     std::cerr << "sketcher: " << text << std::endl;
+}
+
+Documents::Manners MannersOf(const Options& options)
+{
+    using Manners = Documents::Manners;
+    if (options.task == Options::Task::Replay || qgetenv("VESK_UNATTENDED") == "1")
+        return Manners::Silent;
+    return options.journal.isEmpty() && options.model.isEmpty() ? Manners::Ask
+                                                                : Manners::AskAboutFiles;
 }
 
 /// True if, as far as can be known, the file or a new one of that name can be written.
@@ -77,9 +104,12 @@ bool WritePicture(const QPixmap& picture, const QString& path)
 }
 
 Session::Session(const Options& options)
-    : m_options(options), m_journal(options),
-      m_translations(SharedFile(QStringLiteral("translations")), QStringLiteral("sketcher")),
-      m_window(m_workspace, m_input), m_pDocks(std::make_unique<DockManagerImpl>(&m_window))
+    : m_options(options), m_settings(SettingsToRead(options), SettingsPath()), m_journal(options),
+      m_translations(SharedFile(QStringLiteral("translations")), QStringLiteral("sketcher"),
+                     LocaleOf(m_settings.Get())),
+      m_window(m_workspace, m_input), m_pDocks(std::make_unique<DockManagerImpl>(&m_window)),
+      m_settingsApplier(m_settings, m_window, m_input, SharedFile(QStringLiteral("translations"))),
+      m_clipboard(m_workspace, [this](const QString& text) { m_window.ShowNotice(text); })
 {
     LoadPublishConfig(SharedFile(QStringLiteral("publish.ini")));
     m_host.GetViewManager().AddView(&m_window.GetView());
@@ -90,10 +120,23 @@ Session::Session(const Options& options)
     m_application.SetDockManager(m_pDocks.get());
     m_pPanes = std::make_unique<Panes>(m_workspace, m_window, *m_pDocks, m_controls, m_input);
     QObject::connect(&m_window, &SketcherWindow::unitChanged, m_pPanes.get(), &Panes::Refresh);
+    QObject::connect(m_pPanes.get(), &Panes::menuRequested, &m_window,
+                     &SketcherWindow::ShowContextMenu);
     std::vector<CommandEntry> commands = MakeCommandTable(m_workspace, m_window.GetView(), m_input);
     for (CommandEntry& entry : m_pPanes->MakeCommands())
         commands.push_back(std::move(entry));
     commands.push_back(MakeRecoverCommand(m_workspace.sketch));
+    MakeDocuments();
+    for (CommandEntry& entry : MakeDocumentCommands(*m_pDocuments))
+        commands.push_back(std::move(entry));
+    for (CommandEntry& entry : m_clipboard.MakeCommands())
+        commands.push_back(std::move(entry));
+    m_clipboard.SetPicture([](const SketchContent& content) {
+        return MakeSvg(content, [](double) { return true; }).bytes;
+    });
+    commands.push_back(m_settingsApplier.MakeCommand());
+    for (CommandEntry& entry : MakeHelpCommands(commands, m_window))
+        commands.push_back(std::move(entry));
     RegisterCommands(commands);
     for (const CommandEntry& entry : commands)
     {
@@ -104,6 +147,7 @@ Session::Session(const Options& options)
     JournalManager::GetInstance().SetDigestSource(
         [this] { return m_workspace.sketch.GetDigest(); });
     m_window.BuildControls(commands, m_controls);
+    m_settingsApplier.Apply(Settings());
     if (QToolButton* pButton = m_window.GetPaneButton())
         m_pPanes->Attend(*pButton);
     if (!m_options.uiTree.isEmpty())
@@ -182,11 +226,31 @@ std::string Session::VerifyMark(const MarkRecord& record)
     return actual == record.digest ? std::string() : actual;
 }
 
+void Session::MakeDocuments()
+{
+    const auto run = [this](const Documents::Work& work) {
+        RunInBackground(m_window, m_window.GetProgress(), [&work](WorkProgress& progress) {
+            work([&progress](std::size_t done, std::size_t total) {
+                return progress.Advance(static_cast<double>(done) / static_cast<double>(total));
+            });
+        });
+    };
+    m_pDocuments =
+        std::make_unique<Documents>(m_workspace.sketch, m_window, MannersOf(m_options), run);
+    QObject::connect(m_pDocuments.get(), &Documents::changed, &m_window, [this] {
+        m_window.ShowDocument(m_pDocuments->GetDocument().GetName(), m_pDocuments->IsModified());
+    });
+    QObject::connect(m_pDocuments.get(), &Documents::opened, &m_window,
+                     [this] { m_window.GetView().ZoomAll(); });
+}
+
 /// The journal to replay is read before anything is replaced.
 bool Session::OpenFiles()
 {
     std::string error;
     const QString& source = m_options.GetSource();
+    KeptContent::Get().Forget();
+    KeptContent::Get().SetSource(source);
     bool isDone = m_journal.Reserve(error);
     if (isDone && ((!source.isEmpty() && !ReadJournal(source)) || !OpenLog()))
         return false;
@@ -259,6 +323,7 @@ void Session::ObeyTerminationRequests()
 {
     m_pTermination = std::make_unique<TerminationRequests>();
     QObject::connect(m_pTermination.get(), &TerminationRequests::requested, &m_window, [this] {
+        m_pDocuments->EndWithoutQuestions();
         m_window.close();
         QCoreApplication::quit();
     });
@@ -278,6 +343,9 @@ int Session::Draw()
     m_window.GetView().Activate();
     if (!m_options.open.isEmpty())
         QTimer::singleShot(0, &m_window, [this] { Open(); });
+    if (!m_options.document.isEmpty())
+        QTimer::singleShot(0, m_pDocuments.get(),
+                           [this] { m_pDocuments->OpenFile(m_options.document); });
     if (!m_options.raiseWarnings.isEmpty())
         m_pWarningRaiser =
             std::make_unique<WarningRaiser>(m_options.raiseWarnings, m_window.GetView());

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Clipboard/ClipboardCommands.h"
+#include "Documents/Documents.h"
 #include "KeepingMonitor.h"
 #include "Model/Workspace.h"
 #include "Options.h"
@@ -7,6 +9,8 @@
 #include "ReadingMonitor.h"
 #include "SessionJournal.h"
 #include "SessionRecovery.h"
+#include "Settings/SettingsStore.h"
+#include "SettingsApplier.h"
 #include "SketcherWindow.h"
 #include "WarningRaiser.h"
 
@@ -49,6 +53,7 @@ public:
     std::string VerifyMark(const vesk::MarkRecord& record) override;
 
 private:
+    void MakeDocuments();
     bool OpenFiles();
     bool OpenLog();
     bool ReadJournal(const QString& path);
@@ -69,6 +74,7 @@ private:
     bool WriteResults();
 
     const Options m_options;
+    SettingsStore m_settings;
     SessionJournal m_journal;
     std::vector<vesk::JournalRecord> m_records;
     std::map<std::wstring, std::function<bool(const vesk::CommandParameters&)>> m_possibilities;
@@ -86,7 +92,10 @@ private:
     SketcherWindow m_window;
     const std::unique_ptr<vesk::IDockManager> m_pDocks;
     vesk::ControlHost m_controls;
+    SettingsApplier m_settingsApplier;
     std::unique_ptr<Panes> m_pPanes;
+    std::unique_ptr<Documents> m_pDocuments;
+    ClipboardCommands m_clipboard;
     std::unique_ptr<vesk::UiTreeWriter> m_pUiTree;
     std::unique_ptr<WarningRaiser> m_pWarningRaiser;
     ReadingMonitor* m_pReading = nullptr; ///< Set while a drawing is opened; not owned.

@@ -40,6 +40,7 @@ JournalFolder SessionJournal::GetFolder()
 
 bool SessionJournal::Reserve(std::string& error)
 {
+    KeptContent::Get().SetJournal(m_path);
     return !m_isContinued || Manager().Reserve(m_path.toStdString(), error);
 }
 
@@ -49,7 +50,10 @@ bool SessionJournal::Open(std::string& error)
         return true;
     if (m_isNamed && !SecureReplaced(error))
         return false;
-    return Manager().Open(m_path.toStdString(), error) || !m_isNamed;
+    const bool isOpen = Manager().Open(m_path.toStdString(), error);
+    if (!isOpen)
+        KeptContent::Get().SetJournal({});
+    return isOpen || !m_isNamed;
 }
 
 /// The file is locked before it is moved: another program may still be writing it.
@@ -86,6 +90,7 @@ QString SessionJournal::LeaveForAnother()
     if (!m_isContinued)
         return {};
     *this = SessionJournal(Options());
+    KeptContent::Get().SetJournal(m_path);
     std::string error;
     Manager().MoveTo(m_path.toStdString(), error);
     return m_path;
@@ -97,6 +102,7 @@ QString SessionJournal::StartAnew()
     if (isContinued)
     {
         *this = SessionJournal(Options());
+        KeptContent::Get().SetJournal(m_path);
         Manager().Close();
     }
     Manager().SetVersion(HeaderRecord::CurrentVersion);

@@ -3,13 +3,19 @@
 #include "Foundation/OwnerPtr.h"
 #include "HostUi/MainWindow.h"
 #include "HostUi/RibbonFocus.h"
+#include "Model/Snapper.h"
 
+#include <array>
 #include <memory>
 #include <string>
 #include <vector>
 
+class ContextMenu;
+class QLabel;
 class QToolButton;
 class SketchView;
+class SnapPanel;
+class UnitPanel;
 struct CommandEntry;
 struct Workspace;
 
@@ -49,6 +55,16 @@ public:
     /// The button that shows all panes, with their menu; null if there is none. Not owned.
     QToolButton* GetPaneButton() const { return m_pPaneButton; }
 
+    /// Opens the menu of what is selected at a point of the screen.
+    void ShowContextMenu(const QPoint& position);
+
+    /// Switches exactly these snaps on, or chooses the unit with that symbol, in the ribbon.
+    void ChooseSnaps(const std::array<bool, Snapper::KindCount>& snaps);
+    void ChooseUnit(const std::wstring& symbol);
+
+    /// Shows the name of the file that the drawing is in; without one, that of the drawing.
+    void ShowDocument(const QString& name, bool isModified);
+
     /// Drops all references to the controls before they are destroyed.
     void ReleaseControls();
 
@@ -71,12 +87,19 @@ private:
                          Qtitan::RibbonGroup& group, vesk::ControlHost& controls);
     void BuildPanels(Qtitan::RibbonPage& page, vesk::ControlHost& controls);
     void BuildProgress(vesk::ControlHost& controls);
+    void BuildPointedText();
+    void ShowPointed();
     void OnSketchChanged();
 
     Workspace& m_workspace;
     SketchView* m_pView;
     vesk::RibbonFocus m_ribbonFocus;
+    QString m_documentName;
+    QLabel* m_pPointed; ///< What is under the cursor, in the status bar.
     vesk::ProgressBarDefinition* m_pProgress = nullptr;
     QToolButton* m_pPaneButton = nullptr;
+    std::unique_ptr<ContextMenu> m_pContextMenu;
     std::vector<std::unique_ptr<QObject>> m_panels;
+    SnapPanel* m_pSnaps = nullptr; ///< These two are among the panels.
+    UnitPanel* m_pUnits = nullptr;
 };

@@ -233,6 +233,21 @@ private slots:
         QCOMPARE(values[1].value, 40.0);
     }
 
+    void shownNumberIsConfirmedWhereverTheMouseHasMoved()
+    {
+        ScriptedUser user;
+        QString shown;
+
+        user.Click(s_line).ClickAt(0, 0).MoveTo(70, 30).Type("50").Press(Qt::Key_Tab);
+        user.Do([&shown] { shown = FindEditor()->text(); }).MoveTo(10, 90);
+        user.Do([&shown] { QCOMPARE(FindEditor()->text(), shown); }).Press(Qt::Key_Return);
+
+        QCOMPARE(user.Run(m_pFixture->Draw()), 0);
+        const auto values = RecordsOf<vesk::ValueRecord>(ReadJournal(Journal()));
+        QCOMPARE(values.size(), std::size_t(2));
+        QCOMPARE(QString::number(values[1].value, 'f', 2), shown);
+    }
+
     void closedEditorForgetsItsText()
     {
         ScriptedUser user;

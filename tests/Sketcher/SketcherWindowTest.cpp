@@ -202,11 +202,11 @@ private slots:
     void theTitleIsTheDrawingsName()
     {
         Fixture f;
-        QCOMPARE(f.window.windowTitle(), QStringLiteral("未命名 - Sketcher"));
+        QCOMPARE(f.window.windowTitle(), QStringLiteral("未命名[*] - Sketcher"));
 
         f.workspace.sketch.SetName(L"plan");
 
-        QCOMPARE(f.window.windowTitle(), QStringLiteral("plan - Sketcher"));
+        QCOMPARE(f.window.windowTitle(), QStringLiteral("plan[*] - Sketcher"));
     }
 
     void theWindowHasItsSizeAndIcon()

@@ -82,7 +82,7 @@ std::vector<int> FindInArea(const Sketch& sketch, const Area& area, AreaRule rul
     std::vector<int> ids;
     for (const Entity& entity : sketch.GetEntities())
     {
-        if (Applies(rule, area, entity.shape))
+        if (sketch.CanPick(entity.id) && Applies(rule, area, entity.shape))
             ids.push_back(entity.id);
     }
     return ids;

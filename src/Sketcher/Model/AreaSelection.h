@@ -25,5 +25,6 @@ enum class AreaRule
 
 bool Applies(AreaRule rule, const Area& area, const Shape& shape);
 
-/// The entities to which the rule applies, in the order in which they were drawn.
+/// The entities to which the rule applies and that can be picked, in the order in which they were
+/// drawn.
 std::vector<int> FindInArea(const Sketch& sketch, const Area& area, AreaRule rule);

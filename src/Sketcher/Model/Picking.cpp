@@ -20,7 +20,7 @@ int PickEntity(const Sketch& sketch, const Vector3d& world, const IUiView* pView
     for (const Entity& entity : sketch.GetEntities())
     {
         const double distance = DistanceTo(entity.shape, world);
-        if (distance > nearest)
+        if (distance > nearest || !sketch.CanPick(entity.id))
             continue;
         nearest = distance;
         picked = entity.id;

@@ -12,6 +12,13 @@ Vector3d DirectionOf(double degrees)
     return {Degrees::Cosine(degrees), Degrees::Sine(degrees), 0.0};
 }
 
+double HeldAngle(double degrees)
+{
+    constexpr double Step = 15.0;
+    const double held = std::round(degrees / Step) * Step;
+    return held <= -180.0 ? 180.0 : held;
+}
+
 double AngleOf(const Vector3d& direction)
 {
     return AngleBetween(Vector3d::UnitX(), direction);

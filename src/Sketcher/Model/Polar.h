@@ -9,6 +9,9 @@ constexpr double FullTurn = 6.283185307179586477;
 /// as doubles allow at every multiple of 15 degrees.
 vesk::Vector3d DirectionOf(double degrees);
 
+/// The multiple of 15 degrees nearest to an angle in (-180, 180], in the same range.
+double HeldAngle(double degrees);
+
 /// The angle of a vector in the drawing plane, in degrees, in (-180, 180].
 double AngleOf(const vesk::Vector3d& direction);
 

@@ -22,8 +22,8 @@ bool Selection::Contains(int id) const
 
 bool Selection::Select(const std::vector<int>& ids)
 {
-    const bool isKnown = std::all_of(ids.begin(), ids.end(),
-                                     [this](int id) { return m_sketch.Find(id) != nullptr; });
+    const bool isKnown =
+        std::all_of(ids.begin(), ids.end(), [this](int id) { return m_sketch.CanPick(id); });
     if (!isKnown || ids == m_ids)
         return isKnown;
     JournalManager::GetInstance().Add(SelectionRecord{ids});
@@ -35,7 +35,7 @@ void Selection::OnSketchChanged()
 {
     std::vector<int> standing;
     std::copy_if(m_ids.begin(), m_ids.end(), std::back_inserter(standing),
-                 [this](int id) { return m_sketch.Find(id) != nullptr; });
+                 [this](int id) { return m_sketch.CanPick(id); });
     if (standing.size() != m_ids.size())
         Set(std::move(standing));
 }

@@ -6,8 +6,8 @@
 
 class Sketch;
 
-/// The selected entities, in the order in which they were picked. An entity that leaves the drawing
-/// leaves the selection.
+/// The selected entities, in the order in which they were picked. An entity that leaves the
+/// drawing, or whose layer is hidden or locked, leaves the selection.
 class Selection final : public QObject
 {
     Q_OBJECT
@@ -21,7 +21,7 @@ public:
     bool Contains(int id) const;
 
     /// Selects exactly these entities and records it. Returns false and changes nothing if one of
-    /// them is not in the drawing; selecting the same again has no effect.
+    /// them cannot be picked; selecting the same again has no effect.
     bool Select(const std::vector<int>& ids);
 
 signals:

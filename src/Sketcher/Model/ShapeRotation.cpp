@@ -1,7 +1,7 @@
 #include "Model/ShapeRotation.h"
 
-#include "Model/Overloaded.h"
 #include "Model/Polar.h"
+#include "Model/ShapePoints.h"
 
 #include <cmath>
 
@@ -19,26 +19,8 @@ Vector3d Rotated(const Vector3d& point, const Vector3d& centre, double degrees)
 
 Shape Rotated(const Shape& shape, const Vector3d& centre, double degrees)
 {
-    const auto turn = [&centre, degrees](Vector3d& point) {
-        point = Rotated(point, centre, degrees);
-    };
     Shape rotated = shape;
-    std::visit(Overloaded{
-                   [&turn](LineShape& line) {
-                       turn(line.start);
-                       turn(line.end);
-                   },
-                   [&turn](CircleShape& circle) { turn(circle.centre); },
-                   [&turn](ArcShape& arc) {
-                       turn(arc.centre);
-                       turn(arc.start);
-                       turn(arc.end);
-                   },
-                   [&turn](RectangleShape& rectangle) {
-                       for (Vector3d& corner : rectangle.corners)
-                           turn(corner);
-                   },
-               },
-               rotated);
+    ChangePoints(rotated,
+                 [&centre, degrees](Vector3d& point) { point = Rotated(point, centre, degrees); });
     return rotated;
 }

@@ -99,7 +99,8 @@ void OfferCentres(const Sketch& sketch, Nearest& nearest)
 {
     for (const Entity& entity : sketch.GetEntities())
     {
-        if (const std::optional<Vector3d> centre = CentreOf(entity.shape))
+        const std::optional<Vector3d> centre = CentreOf(entity.shape);
+        if (centre.has_value() && sketch.LayerOf(entity).isVisible)
             nearest.Offer(Snapper::Centre, *centre);
     }
 }
@@ -155,7 +156,7 @@ std::vector<const Entity*> Snapper::GetNear(const Vector3d& cursor, double reach
     std::vector<const Entity*> entities;
     for (const Entity& entity : m_sketch.GetEntities())
     {
-        if (DistanceTo(entity.shape, cursor) <= reach)
+        if (DistanceTo(entity.shape, cursor) <= reach && m_sketch.LayerOf(entity).isVisible)
             entities.push_back(&entity);
     }
     return entities;

@@ -17,7 +17,7 @@ class IUiView;
 /// Snaps the cursor to the point that the user means.
 ///
 /// The cursor snaps to points within 10 pixels. Ends take precedence over all other points, and the
-/// grid comes last; among the rest the nearest point wins.
+/// grid comes last; among the rest the nearest point wins. Hidden layers give no points.
 class Snapper final
 {
 public:

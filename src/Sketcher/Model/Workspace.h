@@ -12,4 +12,7 @@ struct Workspace
     Selection selection{sketch};
     Snapper snapper{sketch};
     PropertyEditor properties{sketch, selection};
+
+    /// Whether directions given by the cursor are held to multiples of 15 degrees.
+    bool isDirectionHeld = false;
 };

@@ -38,13 +38,11 @@ public:
 
     QPen Make(const Entity& entity) const
     {
-        const auto style =
-            LineStyles()[static_cast<std::size_t>(entity.pen.style)].style;
-        const double width =
-            LineWidths()[static_cast<std::size_t>(entity.pen.width)].millimetres;
+        const auto style = LineStyles()[static_cast<std::size_t>(entity.pen.style)].style;
+        const double width = LineWidths()[static_cast<std::size_t>(entity.pen.width)].millimetres;
         // Other caps would lengthen each dash.
-        return {ColourOf(entity), width, style,
-                style == Qt::SolidLine ? Qt::RoundCap : Qt::FlatCap, Qt::MiterJoin};
+        return {ColourOf(entity), width, style, style == Qt::SolidLine ? Qt::RoundCap : Qt::FlatCap,
+                Qt::MiterJoin};
     }
 
 private:
@@ -77,8 +75,8 @@ public:
     ScreenArc Map(const ArcShape& arc) const
     {
         const Vector3d spoke = arc.start - arc.centre;
-        return {Map(arc.centre), arc.radius * m_placement.scale,
-                std::atan2(spoke.y(), spoke.x()), std::copysign(SweepOf(arc), arc.normal.z())};
+        return {Map(arc.centre), arc.radius * m_placement.scale, std::atan2(spoke.y(), spoke.x()),
+                std::copysign(SweepOf(arc), arc.normal.z())};
     }
 
     QRectF Map(const ShapeBounds& bounds) const
@@ -108,8 +106,7 @@ void AddArc(QPainterPath& path, const ScreenArc& arc, const ArcPart& part)
     {
         const double from = part.from + step * i;
         const double to = part.from + step * (i + 1);
-        path.cubicTo(arc.PointAt(from) + ahead(from), arc.PointAt(to) - ahead(to),
-                     arc.PointAt(to));
+        path.cubicTo(arc.PointAt(from) + ahead(from), arc.PointAt(to) - ahead(to), arc.PointAt(to));
     }
 }
 
@@ -174,8 +171,7 @@ PaperPlacement PaperPlacement::Around(const ShapeBounds& bounds, double scale, d
             {roundUp(size.x() + 2.0 * margin), roundUp(size.y() + 2.0 * margin)}};
 }
 
-PaperPlacement PaperPlacement::Centred(const ShapeBounds& bounds, double scale,
-                                       const QSizeF& paper)
+PaperPlacement PaperPlacement::Centred(const ShapeBounds& bounds, double scale, const QSizeF& paper)
 {
     const Vector3d middle = (bounds.low + bounds.high) / 2.0;
     const Vector3d toCorner(-paper.width() / 2.0 / scale, paper.height() / 2.0 / scale, 0.0);
@@ -191,9 +187,9 @@ std::optional<ShapeBounds> VisibleBounds(const SketchContent& content)
         if (!pens.IsVisible(entity))
             continue;
         const ShapeBounds bounds = BoundsOf(entity.shape);
-        all = all.has_value() ? ShapeBounds{all->low.cwiseMin(bounds.low),
-                                            all->high.cwiseMax(bounds.high)}
-                              : bounds;
+        all = all.has_value()
+                  ? ShapeBounds{all->low.cwiseMin(bounds.low), all->high.cwiseMax(bounds.high)}
+                  : bounds;
     }
     return all;
 }

@@ -75,8 +75,7 @@ OutputBytes MakePdf(const SketchContent& content, const OutputProgress& progress
     if (!bounds.has_value())
         return {{}, OutputFault::NothingVisible};
     // The page has whole points in the file.
-    const auto placement =
-        PaperPlacement::Around(*bounds, 1.0, PictureMargin, MillimetresPerPoint);
+    const auto placement = PaperPlacement::Around(*bounds, 1.0, PictureMargin, MillimetresPerPoint);
     if (!IsWithin(placement.paper, Greatest))
         return {{}, OutputFault::TooLarge};
 
@@ -86,8 +85,9 @@ OutputBytes MakePdf(const SketchContent& content, const OutputProgress& progress
         QPdfWriter writer(&buffer);
         writer.setTitle(vesk::ToQString(content.name));
         writer.setResolution(Resolution);
-        const QSize points(static_cast<int>(std::lround(placement.paper.width() / MillimetresPerPoint)),
-                           static_cast<int>(std::lround(placement.paper.height() / MillimetresPerPoint)));
+        const QSize points(
+            static_cast<int>(std::lround(placement.paper.width() / MillimetresPerPoint)),
+            static_cast<int>(std::lround(placement.paper.height() / MillimetresPerPoint)));
         writer.setPageSize(QPageSize(points, QString(), QPageSize::ExactMatch));
         writer.setPageMargins(QMarginsF());
         if (!PaintOnDevice(writer, Resolution / MillimetresPerInch, content, placement, progress))

@@ -32,6 +32,10 @@ EntityPane::EntityPane(Workspace& workspace)
     pLayout->addWidget(m_pView);
     connect(m_pView->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &EntityPane::OnSelected);
+    m_pView->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(m_pView, &QTreeView::customContextMenuRequested, this, [this](const QPoint& position) {
+        emit menuRequested(m_pView->viewport()->mapToGlobal(position));
+    });
     UpdateStatus();
 }
 
@@ -59,9 +63,9 @@ void EntityPane::OnSelected()
     std::vector<int> ids;
     for (const int row : GetSelectedRows())
         ids.push_back(m_pModel->GetId(row));
-    // Rows whose entities are no longer in the drawing cannot be selected there.
+    // Rows whose entities are no longer in the drawing, hidden or locked cannot be selected there.
     ids.erase(std::remove_if(ids.begin(), ids.end(),
-                             [this](int id) { return m_workspace.sketch.Find(id) == nullptr; }),
+                             [this](int id) { return !m_workspace.sketch.CanPick(id); }),
               ids.end());
     m_workspace.selection.Select(ids);
 }

@@ -20,6 +20,10 @@ public:
 
     void UpdateStatus() override;
 
+signals:
+    /// The user wants the menu of what is selected, at a point of the screen.
+    void menuRequested(const QPoint& position);
+
 private:
     void OnSelected();
     std::vector<int> GetSelectedRows() const;

@@ -56,7 +56,9 @@ Panes::Panes(Workspace& workspace, MainWindow& window, IDockManager& docks, Cont
     auto opInspector = MakeOwner<Inspector>(controls, input);
     m_pInspector = opInspector.Get();
     Add(IPropertyWidget::GetTypeName(), L"特性", MakeOwner<PropertyPane>(workspace, controls));
-    Add(EntitiesName, L"图元", MakeOwner<EntityPane>(workspace));
+    auto opEntities = MakeOwner<EntityPane>(workspace);
+    connect(opEntities.Get(), &EntityPane::menuRequested, this, &Panes::menuRequested);
+    Add(EntitiesName, L"图元", std::move(opEntities));
     Add(LayersName, L"图层", MakeOwner<LayerPane>(workspace));
     Add(JournalName, L"日志", MakeOwner<JournalPane>());
     Add(InspectorName, L"检查器", std::move(opInspector));

@@ -52,6 +52,10 @@ public:
     void OnRecord(const vesk::JournalRecord& record) override;
     void OnUiObject(const vesk::IJournalUiObject& object, int kind) override;
 
+signals:
+    /// The user wants the menu of what is selected, at a point of the screen.
+    void menuRequested(const QPoint& position);
+
 private:
     void Add(const std::wstring& name, const wchar_t* title,
              vesk::OwnerPtr<vesk::IWidget> opContent);

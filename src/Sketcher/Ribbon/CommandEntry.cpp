@@ -2,6 +2,7 @@
 
 #include "Command/IAction.h"
 #include "Journal/CommandParameters.h"
+#include "Replay/JournalReplayer.h"
 
 using namespace vesk;
 
@@ -16,6 +17,15 @@ CommandEntry CommandEntry::Plain(const std::wstring& id, const std::wstring& cap
         return nullptr;
     };
     return entry;
+}
+
+CommandEntry CommandEntry::Dialog(const std::wstring& id, const std::wstring& caption,
+                                  const std::function<void()>& open)
+{
+    return Plain(id, caption, [open] {
+        if (!JournalReplayer::IsReplaying())
+            open();
+    });
 }
 
 CommandEntry CommandEntry::Interactive(const std::wstring& id, const std::wstring& caption,

@@ -19,6 +19,10 @@ struct CommandEntry
     static CommandEntry Plain(const std::wstring& id, const std::wstring& caption,
                               const std::function<void()>& function);
 
+    /// A command that opens a window and changes nothing by itself: a replay leaves it out.
+    static CommandEntry Dialog(const std::wstring& id, const std::wstring& caption,
+                               const std::function<void()>& open);
+
     /// A command that begins an action, which runs until the user ends it.
     static CommandEntry Interactive(const std::wstring& id, const std::wstring& caption,
                                     const std::function<vesk::OwnerPtr<vesk::IAction>()>& begin);
@@ -54,12 +58,13 @@ struct CommandEntry
     std::wstring group; ///< The ribbon group that holds its button; empty for none.
     std::wstring menu;  ///< The menu or sub-menu that holds an entry for it; empty for none.
     std::wstring keys;  ///< Shortcut of the button, such as "Ctrl+Z".
-    std::wstring otherKeys;
 
     vesk::Command::Kind kind = vesk::Command::Kind::Plain;
     vesk::Command::Execution execute;
     vesk::Command::Condition isEnabled; ///< If empty, the command is always enabled.
-    std::function<bool(const vesk::CommandParameters&)> isPossible; ///< If empty, always.
+
+    std::wstring otherKeys = {}; ///< Another shortcut of the button.
+    std::function<bool(const vesk::CommandParameters&)> isPossible = {}; ///< If empty, always.
 
     bool isOnStartPage = false; ///< Whether its group is on the page 开始 instead of 草图.
 };

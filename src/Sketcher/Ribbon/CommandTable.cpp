@@ -2,6 +2,7 @@
 
 #include "Model/EntityEdit.h"
 #include "Model/Workspace.h"
+#include "Ribbon/EditCommands.h"
 #include "Ribbon/LayerCommands.h"
 #include "Ribbon/StepCommands.h"
 #include "Tools/ArcCentreAction.h"
@@ -156,6 +157,8 @@ std::vector<CommandEntry> MakeCommandTable(Workspace& workspace, SketchView& vie
 {
     std::vector<CommandEntry> entries = MakeDrawingCommands(workspace);
     for (CommandEntry& entry : MakeEditCommands(workspace))
+        entries.push_back(std::move(entry));
+    for (CommandEntry& entry : MakeModifyCommands(workspace))
         entries.push_back(std::move(entry));
     for (CommandEntry& entry : MakeLayerCommands(workspace.sketch))
         entries.push_back(std::move(entry));

@@ -22,7 +22,7 @@ bool FieldKeys::eventFilter(QObject*, QEvent* pEvent)
     if (pEvent->type() == QEvent::KeyPress)
         return FilterKey(static_cast<QKeyEvent&>(*pEvent));
     if (pEvent->type() != QEvent::ShortcutOverride ||
-        !static_cast<QKeyEvent&>(*pEvent).matches(QKeySequence::Undo) || HasOwnUndo())
+        !IsForDrawing(static_cast<const QKeyEvent&>(*pEvent)))
         return false;
     // The field would claim the key whether or not it has anything to undo.
     pEvent->ignore();
@@ -38,6 +38,14 @@ bool FieldKeys::HasOtherText() const
 bool FieldKeys::HasOwnUndo() const
 {
     return HasOtherText() || (m_definition.IsEditing() && m_field.isUndoAvailable());
+}
+
+/// True for undo and redo if the field has nothing of its own to undo or redo.
+bool FieldKeys::IsForDrawing(const QKeyEvent& event) const
+{
+    if (event.matches(QKeySequence::Undo))
+        return !HasOwnUndo();
+    return event.matches(QKeySequence::Redo) && !m_field.isRedoAvailable();
 }
 
 /// True if the key goes no further.

@@ -13,8 +13,9 @@ namespace vesk
 class LineEditDefinition;
 }
 
-/// Two keys of a field that shows a value of the drawing. Escape restores the text of the value,
-/// and the undo key belongs to the drawing as soon as the field contains nothing typed.
+/// Keys of a field that shows a value of the drawing. Escape restores the text of the value,
+/// and the undo key belongs to the drawing as soon as the field contains nothing typed, as the redo
+/// key does while there is nothing to redo in the field.
 class FieldKeys final : public QObject
 {
     Q_OBJECT
@@ -37,6 +38,7 @@ protected:
 private:
     bool HasOtherText() const;
     bool HasOwnUndo() const;
+    bool IsForDrawing(const QKeyEvent& event) const;
     bool FilterKey(const QKeyEvent& event);
 
     QLineEdit& m_field;

@@ -1,12 +1,12 @@
 #include "Ribbon/SnapPanel.h"
 
-#include "Model/Snapper.h"
 #include "Ribbon/PlaceControl.h"
 #include "View/SnapMarker.h"
 
 #include "Control/CheckBoxGroupDefinition.h"
 #include "HostUi/QtText.h"
 
+#include <cstddef>
 #include <string>
 
 using namespace vesk;
@@ -58,4 +58,10 @@ void SnapPanel::On(IControlDefinitionChangeEventArgs*)
         const bool isOn = m_pDefinition->Find(BoxIds[i])->GetCheckState() != 0;
         m_snapper.SetOn(static_cast<Snapper::Kind>(i), isOn);
     }
+}
+
+void SnapPanel::Choose(const std::array<bool, Snapper::KindCount>& snaps)
+{
+    for (std::size_t i = 0; i < snaps.size() && m_pDefinition != nullptr; ++i)
+        m_pDefinition->Find(BoxIds[i])->SetCheckState(snaps[i] ? Checked : 0);
 }

@@ -1,10 +1,12 @@
 #pragma once
 
+#include "Model/Snapper.h"
+
 #include "Control/IControlDefinitionChangeEvent.h"
 
 #include <QObject>
 
-class Snapper;
+#include <array>
 
 namespace Qtitan
 {
@@ -28,6 +30,9 @@ public:
     ~SnapPanel() override;
 
     void On(vesk::IControlDefinitionChangeEventArgs* pArgs) override;
+
+    /// Switches exactly these snaps on.
+    void Choose(const std::array<bool, Snapper::KindCount>& snaps);
 
 private:
     Snapper& m_snapper;

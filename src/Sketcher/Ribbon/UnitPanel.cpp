@@ -7,8 +7,6 @@
 #include "Dimension/LengthUnit.h"
 #include "Dimension/TemporaryDimensionMgr.h"
 
-#include <string>
-
 using namespace vesk;
 
 namespace
@@ -71,5 +69,14 @@ void UnitPanel::On(IControlDefinitionChangeEventArgs*)
         LengthUnit::SetCurrent(choice.unit());
         ActionManager::RenewViewInput(&m_view);
         emit unitChanged();
+    }
+}
+
+void UnitPanel::Choose(const std::wstring& symbol)
+{
+    for (const Choice& choice : Choices)
+    {
+        if (symbol == choice.caption && m_pDefinition != nullptr)
+            m_pDefinition->SetCurrentRadioButtonId(choice.id);
     }
 }

@@ -4,6 +4,8 @@
 
 #include <QObject>
 
+#include <string>
+
 namespace Qtitan
 {
 class RibbonGroup;
@@ -28,6 +30,9 @@ public:
     ~UnitPanel() override;
 
     void On(vesk::IControlDefinitionChangeEventArgs* pArgs) override;
+
+    /// Chooses the unit with that symbol; does nothing if there is none.
+    void Choose(const std::wstring& symbol);
 
 signals:
     /// Lengths are shown in another unit from now on.

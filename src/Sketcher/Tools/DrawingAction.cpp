@@ -1,8 +1,11 @@
 #include "Tools/DrawingAction.h"
 
+#include "Model/Polar.h"
 #include "Model/Workspace.h"
 
 #include "Dimension/InputField.h"
+#include "Dimension/LinearTemporaryDimensionContext.h"
+#include "Dimension/TemporaryDimensionStyle.h"
 #include "Geometry/Constants.h"
 #include "Journal/JournalManager.h"
 #include "View/UiViewUtility.h"
@@ -10,6 +13,19 @@
 #include <algorithm>
 
 using namespace vesk;
+
+namespace
+{
+
+/// The number that a field shows for a value.
+std::wstring TextOf(InputState field, double value)
+{
+    const TemporaryDimensionStyle style;
+    return QuantityOf(field) == Quantity::Length ? style.FormatLength(style.ToShown(value))
+                                                 : style.FormatAngle(value);
+}
+
+}
 
 DrawingAction::DrawingAction(Workspace& workspace) : m_workspace(workspace) {}
 
@@ -47,8 +63,7 @@ void DrawingAction::OnViewInput(const ActionViewInput&, const TypedValue& typed)
     const InputState field = typed.field;
     if (!Expects(field))
         return;
-    // A field that was only confirmed keeps its exact value, not the rounded one shown.
-    m_values.Take({field, typed.text, typed.isUnchanged ? GetValue(field) : typed.value});
+    m_values.Take({field, typed.text, typed.isUnchanged ? Confirm(typed) : typed.value});
     if (!typed.isCommitted)
         m_values.Record();
     else if (!EndStep(GetEnd()) && !FindOther(field).has_value())
@@ -93,6 +108,15 @@ double DrawingAction::GetValue(InputState field) const
     return typed.has_value() ? *typed : ReadCursor(field);
 }
 
+/// A field that was only confirmed keeps its exact value, unless the cursor has moved on since the
+/// field showed it: the user has confirmed the number that is shown.
+double DrawingAction::Confirm(const TypedValue& typed) const
+{
+    const double exact = GetValue(typed.field);
+    const bool isShown = TextOf(typed.field, exact) == TextOf(typed.field, typed.value);
+    return isShown ? exact : typed.value;
+}
+
 bool DrawingAction::RestsOn(const Vector3d& point) const
 {
     return Vector3dUtils::IsEqual(m_cursor, point, Constants::DOUBLE_EPS);
@@ -113,6 +137,30 @@ double DrawingAction::GetPixel() const
 {
     const double pixel = UiViewUtility::ComputeWorldWidthFromPixel(m_pView, 1);
     return pixel > 0.0 ? pixel : 1.0;
+}
+
+Vector3d DrawingAction::GetStraightEnd() const
+{
+    const std::optional<Vector3d> start = GetStart();
+    const bool isCursor = !HasValues() && !RestsOnStart() && !m_workspace.isDirectionHeld;
+    if (!start.has_value() || isCursor)
+        return m_cursor;
+    return *start + GetValue(InputState::IS_Length) * DirectionOf(GetValue(InputState::IS_Angle));
+}
+
+double DrawingAction::ReadStraight(InputState field) const
+{
+    const Vector3d way = m_cursor - *GetStart();
+    if (field == InputState::IS_Length)
+        return std::max(way.dot(DirectionOf(GetValue(InputState::IS_Angle))), GetPixel());
+    const double angle = RestsOnStart() ? 0.0 : AngleOf(way);
+    return m_workspace.isDirectionHeld ? HeldAngle(angle) : angle;
+}
+
+OwnerPtr<ITemporaryDimensionContext> DrawingAction::MakeStraightContext() const
+{
+    return MakeOwner<LinearTemporaryDimensionContext>(Coordinate3d(), *GetStart(),
+                                                      GetStraightEnd());
 }
 
 /// The other value that the step expects; nothing if it expects only one.

@@ -71,7 +71,16 @@ protected:
     /// The size of a pixel in model units.
     double GetPixel() const;
 
+    /// For a step that goes straight from its start, by a length and an angle: its end, what the
+    /// cursor gives, and the dimensions to type. The length is the cursor's projection onto the
+    /// direction, at least a pixel; the angle is 0 while the cursor rests on the start, and a
+    /// multiple of 15 degrees while directions are held.
+    vesk::Vector3d GetStraightEnd() const;
+    double ReadStraight(vesk::InputState field) const;
+    vesk::OwnerPtr<vesk::ITemporaryDimensionContext> MakeStraightContext() const;
+
 private:
+    double Confirm(const vesk::TypedValue& typed) const;
     std::optional<vesk::InputState> FindOther(vesk::InputState field) const;
     bool EndStep(const vesk::Vector3d& end);
 

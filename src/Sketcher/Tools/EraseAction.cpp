@@ -41,8 +41,13 @@ OwnerPtr<IGraphicsNodeGroup> EraseAction::CreateRubberBand() const
 
 bool EraseAction::ReplayPoint(const Vector3d& world, const std::optional<int>& entity)
 {
-    if (!entity.has_value() || !m_sketch.Erase(*entity))
+    if (!entity.has_value() || !m_sketch.CanPick(*entity) || !m_sketch.Erase(*entity))
         return false;
     JournalManager::GetInstance().Add(PointRecord{world, entity});
     return true;
+}
+
+IPickingTool::Click EraseAction::GetClick() const
+{
+    return m_hovered != 0 ? Click::PicksEntity : Click::DoesNothing;
 }

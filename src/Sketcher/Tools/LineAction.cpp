@@ -1,10 +1,9 @@
 #include "Tools/LineAction.h"
 
-#include "Model/Polar.h"
 #include "Model/Workspace.h"
 #include "Tools/ShapeGraphics.h"
 
-#include "Dimension/LinearTemporaryDimensionContext.h"
+#include "Dimension/ITemporaryDimensionContext.h"
 #include "Graphics/IGraphicsNode.h"
 
 #include <algorithm>
@@ -21,9 +20,7 @@ std::wstring LineAction::GetViewText() const
 
 OwnerPtr<ITemporaryDimensionContext> LineAction::CreateDimensionContext() const
 {
-    if (!m_firstPoint.has_value())
-        return nullptr;
-    return MakeOwner<LinearTemporaryDimensionContext>(Coordinate3d(), *GetStart(), GetEnd());
+    return m_firstPoint.has_value() ? MakeStraightContext() : nullptr;
 }
 
 OwnerPtr<IGraphicsNodeGroup> LineAction::CreateRubberBand() const
@@ -46,10 +43,7 @@ std::optional<Vector3d> LineAction::GetStart() const
 
 Vector3d LineAction::GetEnd() const
 {
-    const std::optional<Vector3d> start = GetStart();
-    if (!start.has_value() || (!HasValues() && !RestsOnStart()))
-        return GetCursor();
-    return *start + GetValue(InputState::IS_Length) * DirectionOf(GetValue(InputState::IS_Angle));
+    return GetStraightEnd();
 }
 
 bool LineAction::Expects(InputState field) const
@@ -58,14 +52,9 @@ bool LineAction::Expects(InputState field) const
     return isOwn && m_firstPoint.has_value();
 }
 
-/// The length is the cursor's projection onto the direction, at least a pixel; the angle is 0 while
-/// the cursor rests on the start.
 double LineAction::ReadCursor(InputState field) const
 {
-    const Vector3d way = GetCursor() - *GetStart();
-    if (field == InputState::IS_Angle)
-        return RestsOnStart() ? 0.0 : AngleOf(way);
-    return std::max(way.dot(DirectionOf(GetValue(InputState::IS_Angle))), GetPixel());
+    return ReadStraight(field);
 }
 
 bool LineAction::CanFinish(const Vector3d& end) const

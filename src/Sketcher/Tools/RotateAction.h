@@ -1,33 +1,22 @@
 #pragma once
 
-#include "Tools/DrawingAction.h"
-
-#include "Model/Shape.h"
-
-#include <utility>
-#include <vector>
+#include "Tools/SelectionAction.h"
 
 /// Rotates the selected entities about a centre, from the direction of one point to that of
 /// another, or by a typed angle; then it ends. The rotation is one undo step.
-///
-/// With nothing selected it first selects entities: each clicked entity is added, until a click
-/// elsewhere sets the centre.
-class RotateAction final : public DrawingAction
+class RotateAction final : public SelectionAction
 {
 public:
     /// The workspace is not owned and outlives the action.
     explicit RotateAction(Workspace& workspace);
 
-    std::wstring GetViewText() const override;
-    void OnBegin(vesk::IUiView* pView) override;
-    void OnMouseMove(const vesk::Vector3d& world) override;
-    void OnClick(const vesk::Vector3d& world) override;
     bool IsFinished() const override;
-    bool ReplayPoint(const vesk::Vector3d& world, const std::optional<int>& entity) override;
     vesk::OwnerPtr<vesk::ITemporaryDimensionContext> CreateDimensionContext() const override;
-    vesk::OwnerPtr<vesk::IGraphicsNodeGroup> CreateRubberBand() const override;
 
 protected:
+    bool HasFirstPoint() const override;
+    std::wstring GetNextText() const override;
+    void AddPreview(vesk::IGraphicsNodeGroup& group) const override;
     std::optional<vesk::Vector3d> GetStart() const override;
     vesk::Vector3d GetEnd() const override;
     bool RestsOnStart() const override;
@@ -37,18 +26,10 @@ protected:
     bool Finish(const vesk::Vector3d& end) override;
 
 private:
-    bool IsNothingSelected() const;
-    bool TakesEntities() const;
-    int PickOther(const vesk::Vector3d& world) const;
-    bool Pick(const vesk::Vector3d& world, int entity);
     double GetAngleTo(const vesk::Vector3d& end) const;
-    std::vector<std::pair<int, Shape>> MakeTurned(double degrees) const;
+    Change TurnBy(double degrees) const;
 
     std::optional<vesk::Vector3d> m_centre;
     std::optional<vesk::Vector3d> m_from;
-    bool m_beganWithNothing = false;
     bool m_isFinished = false;
-
-    /// The entity under the cursor, which a click would select; 0 for none.
-    int m_hovered = 0;
 };

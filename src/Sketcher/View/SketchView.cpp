@@ -1,6 +1,8 @@
 #include "View/SketchView.h"
 
 #include "Model/Grid.h"
+#include "Model/Picking.h"
+#include "Model/PickingTool.h"
 #include "Model/SketchBounds.h"
 #include "Model/SnapPoints.h"
 #include "Model/Workspace.h"
@@ -8,13 +10,17 @@
 #include "View/ShapePainter.h"
 #include "View/SnapMarker.h"
 
+#include "Command/IAction.h"
 #include "Command/IActionManager.h"
 
+#include <QContextMenuEvent>
+#include <QCoreApplication>
 #include <QMouseEvent>
 #include <QPainter>
 
 #include <cmath>
 #include <optional>
+#include <utility>
 
 using vesk::IActionManager;
 using vesk::Vector3d;
@@ -36,14 +42,30 @@ SketchView::SketchView(Workspace& workspace, vesk::DimensionInputController& inp
     : DrawingView(1, input, pParent), m_workspace(workspace), m_mouse(workspace, *this)
 {
     setObjectName(QStringLiteral("SketchView"));
+    qApp->installEventFilter(this);
     connect(&workspace.sketch, &Sketch::changed, this, &SketchView::UpdateModel);
     connect(&workspace.selection, &Selection::changed, this, &SketchView::UpdateModel);
+    connect(&workspace.sketch, &Sketch::changed, this, &SketchView::TellCursor);
+    connect(this, &DrawingView::cursorMoved, this, &SketchView::OnCursorMoved);
+    connect(this, &DrawingView::cursorLeft, this, [this] { SetPointed(0); });
+    vesk::ActionManager::AddObserver(this);
+    UpdateCursor();
+}
+
+SketchView::~SketchView()
+{
+    vesk::ActionManager::RemoveObserver(this);
 }
 
 void SketchView::ZoomAll()
 {
     if (const std::optional<ShapeBounds> all = BoundsOf(m_workspace.sketch))
         Fit(all->low, all->high);
+}
+
+void SketchView::OnActionChanged()
+{
+    UpdateCursor();
 }
 
 void SketchView::PaintModel(QPainter& painter)
@@ -75,9 +97,57 @@ void SketchView::OnFreeEscape()
         m_workspace.selection.Select({});
 }
 
+QCursor SketchView::GetRestingCursor() const
+{
+    using Click = IPickingTool::Click;
+    const vesk::IAction* pAction = IActionManager::CurrentAction();
+    if (pAction == nullptr)
+        return m_pointed != 0 && !m_mouse.IsPressed() ? Qt::PointingHandCursor : Qt::ArrowCursor;
+    const auto* pTool = dynamic_cast<const IPickingTool*>(pAction);
+    switch (pTool != nullptr ? pTool->GetClick() : Click::SetsPoint)
+    {
+    case Click::PicksEntity:
+        return Qt::PointingHandCursor;
+    case Click::DoesNothing:
+        return Qt::ForbiddenCursor;
+    default:
+        return Qt::CrossCursor;
+    }
+}
+
+void SketchView::OnFreeConfirm()
+{
+    emit repeatRequested();
+}
+
+void SketchView::contextMenuEvent(QContextMenuEvent* pEvent)
+{
+    if (IActionManager::CurrentAction() != nullptr || m_mouse.IsPressed())
+    {
+        DrawingView::contextMenuEvent(pEvent);
+        return;
+    }
+    if (pEvent->reason() == QContextMenuEvent::Mouse)
+        SelectBelow(pEvent->pos());
+    emit menuRequested(pEvent->globalPos());
+}
+
+/// Shift may be released in the editor of a value.
+bool SketchView::eventFilter(QObject* pWatched, QEvent* pEvent)
+{
+    if (pEvent->type() != QEvent::KeyRelease)
+        return DrawingView::eventFilter(pWatched, pEvent);
+    const bool isShift = static_cast<const QKeyEvent*>(pEvent)->key() == Qt::Key_Shift;
+    if (isShift && std::exchange(m_workspace.isDirectionHeld, false))
+        PassCursor();
+    return false;
+}
+
 void SketchView::mouseMoveEvent(QMouseEvent* pEvent)
 {
+    m_workspace.isDirectionHeld = pEvent->modifiers().testFlag(Qt::ShiftModifier);
     DrawingView::mouseMoveEvent(pEvent);
+    UpdateCursor();
     if (!m_mouse.IsPressed())
         return;
     // The release may have gone elsewhere, or a command may have begun in the meantime.
@@ -90,6 +160,12 @@ void SketchView::mouseMoveEvent(QMouseEvent* pEvent)
     update();
 }
 
+void SketchView::mousePressEvent(QMouseEvent* pEvent)
+{
+    m_workspace.isDirectionHeld = pEvent->modifiers().testFlag(Qt::ShiftModifier);
+    DrawingView::mousePressEvent(pEvent);
+}
+
 void SketchView::mouseReleaseEvent(QMouseEvent* pEvent)
 {
     DrawingView::mouseReleaseEvent(pEvent);
@@ -100,10 +176,32 @@ void SketchView::mouseReleaseEvent(QMouseEvent* pEvent)
     DropPress();
 }
 
+void SketchView::OnCursorMoved(double x, double y)
+{
+    SetPointed(PickEntity(m_workspace.sketch, {x, y, 0.0}, this));
+}
+
+void SketchView::SetPointed(int entity)
+{
+    // The same entity may have other dimensions.
+    m_pointed = entity;
+    UpdateCursor();
+    emit pointedChanged();
+}
+
 void SketchView::DropPress()
 {
     m_mouse.Drop();
     update();
+}
+
+/// An entity that is not selected yet is selected, so that the menu is about it.
+void SketchView::SelectBelow(const QPoint& pixel)
+{
+    const int picked =
+        PickEntity(m_workspace.sketch, GetCamera().ScreenToWorld(pixel.x(), pixel.y()), this);
+    if (picked != 0 && !m_workspace.selection.Contains(picked))
+        m_workspace.selection.Select({picked});
 }
 
 void SketchView::PaintGrid(QPainter& painter) const

@@ -35,6 +35,44 @@ private slots:
         QVERIFY(!IsToldOfTheBlank(f));
     }
 
+    void blankIsABlankEverywhereIfItIsSetSo()
+    {
+        InputFixture f(Linear());
+        f.controller.SetSpaceCommitting(false);
+
+        f.Type("10").Press(Qt::Key_Space, " ");
+
+        QCOMPARE(f.script.taken.size(), std::size_t(0));
+        QCOMPARE(f.Editor()->text(), QString("10 "));
+        QVERIFY(!f.Note("InputKeys").contains("空格"));
+        f.Press(Qt::Key_Return);
+        QCOMPARE(f.script.taken.size(), std::size_t(1));
+        QVERIFY(f.script.taken[0].typed.modelValue == 10.0);
+    }
+
+    void unitAfterABlankBelongsToTheValueIfItIsSetSo()
+    {
+        InputFixture f(Linear());
+        f.controller.SetSpaceCommitting(false);
+
+        f.Type("10").Press(Qt::Key_Space, " ").Type("cm").Press(Qt::Key_Return);
+
+        QCOMPARE(f.script.taken.size(), std::size_t(1));
+        QVERIFY(f.script.taken[0].typed.modelValue == 100.0);
+        QVERIFY(!IsToldOfTheBlank(f));
+    }
+
+    void keyStripFollowsTheSettingAtOnce()
+    {
+        InputFixture f(Linear());
+        f.Type("10");
+        QVERIFY(f.Note("InputKeys").contains("空格"));
+
+        f.controller.SetSpaceCommitting(false);
+
+        QVERIFY(!f.Note("InputKeys").contains("空格"));
+    }
+
     void blankIsABlankAfterAnyOtherText_data()
     {
         QTest::addColumn<QString>("text");

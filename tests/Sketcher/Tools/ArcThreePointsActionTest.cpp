@@ -160,10 +160,11 @@ private slots:
             f.ClickAt(end.x(), end.y());
             f.MoveTo(i / 7.0 + 20, i / 3.0 - 9);
 
-            f.Type(ActionViewInput::RadiusCommitted, 1, true);
-
             const Vector3d cursor(i / 7.0 + 20, i / 3.0 - 9, 0);
-            QCOMPARE_EXACTLY(f.Drawn<ArcShape>().radius, ArcThrough(start, end, cursor)->radius);
+            const double radius = ArcThrough(start, end, cursor)->radius;
+            f.Type(ActionViewInput::RadiusCommitted, std::round(radius * 1000.0) / 1000.0, true);
+
+            QCOMPARE_EXACTLY(f.Drawn<ArcShape>().radius, radius);
         }
     }
 

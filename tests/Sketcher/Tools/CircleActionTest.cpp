@@ -108,6 +108,34 @@ private slots:
         QVERIFY(f.IsRepeated());
     }
 
+    void aRadiusConfirmedAfterTheMouseHasMovedIsTheOneThatWasShown()
+    {
+        Fixture f;
+        f.Begin();
+        f.ClickAt(0, 0);
+        f.MoveTo(100.0 / 3.0, 0);
+        f.MoveTo(50, 0);
+
+        f.Type(ActionViewInput::RadiusCommitted, 33.333, true);
+
+        QCOMPARE_EXACTLY(f.Drawn<CircleShape>().radius, 33.333);
+        QVERIFY(f.IsRepeated());
+    }
+
+    void aRadiusConfirmedInInchesIsNotRounded()
+    {
+        LengthUnit::SetCurrent(LengthUnit::Inch());
+        Fixture f;
+        f.Begin();
+        f.ClickAt(0, 0);
+        f.MoveTo(100.0 / 3.0, 0);
+
+        f.Type(ActionViewInput::RadiusCommitted, 1.312, true);
+
+        LengthUnit::SetCurrent(LengthUnit::Millimetre());
+        QCOMPARE_EXACTLY(f.Drawn<CircleShape>().radius, 100.0 / 3.0);
+    }
+
     void theStepIsRecordedWithValueAndPoint()
     {
         Fixture f;

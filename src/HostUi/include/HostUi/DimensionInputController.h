@@ -64,6 +64,11 @@ public:
     bool IsKeyStripShown() const { return m_isKeyStripShown; }
     void SetKeyStripShown(bool isShown);
 
+    /// Whether Space commits a plain number where the kind of dimension allows it; otherwise it is a
+    /// blank everywhere. Initially true.
+    bool IsSpaceCommitting() const { return m_isSpaceCommitting; }
+    void SetSpaceCommitting(bool isCommitting);
+
     void OnRecord(const JournalRecord&) override {}
     void OnUiObject(const IJournalUiObject& object, int kind) override;
 
@@ -82,6 +87,7 @@ private:
     void NoteOtherKey(const QEvent& event);
     bool FilterEditorEvent(QEvent& event);
     bool FilterEditorKey(QKeyEvent& event);
+    bool CommitsWithSpace(const QString& text, const InputField& field) const;
     void TakeValue(QLineEdit& editor, QKeyEvent& event, const InputField& field);
     QWidget* FindOtherField() const;
     bool PassOn(QEvent& event);
@@ -107,6 +113,7 @@ private:
     /// Why the current text was rejected.
     QString m_refusal;
     bool m_isKeyStripShown = true;
+    bool m_isSpaceCommitting = true;
 
     /// The position of the cursor in the current view; nothing while it is elsewhere.
     std::optional<QPoint> m_cursor;

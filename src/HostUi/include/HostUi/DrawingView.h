@@ -4,6 +4,7 @@
 #include "View/IUiView.h"
 #include "View/ModelView.h"
 
+#include <QCursor>
 #include <QPixmap>
 #include <QPointer>
 #include <QWidget>
@@ -69,14 +70,27 @@ protected:
     /// Paints over everything else.
     virtual void PaintOverlay(QPainter&) {}
 
+    /// The cursor while nothing is dragged; UpdateCursor shows another one.
+    virtual QCursor GetRestingCursor() const { return Qt::CrossCursor; }
+    void UpdateCursor();
+
     /// The user clicked, or pressed Escape, while no action was running.
     virtual void OnFreeClick(const Vector3d& /*world*/, Qt::KeyboardModifiers) {}
     virtual void OnFreeEscape() {}
+
+    /// The user pressed Return, Enter or Space while no action was running. A key held down counts
+    /// once.
+    virtual void OnFreeConfirm() {}
+
+    /// Passes the cursor, if it is in the view, to the running action again, because what it means
+    /// has changed.
+    void PassCursor();
 
     /// The pixel position of a world point.
     QPointF ToPixel(const Vector3d& world) const;
 
     void changeEvent(QEvent* pEvent) override;
+    bool event(QEvent* pEvent) override;
     bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
     bool focusNextPrevChild(bool isNext) override;
     void keyPressEvent(QKeyEvent* pEvent) override;

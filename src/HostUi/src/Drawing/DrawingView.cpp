@@ -9,13 +9,27 @@
 #include "HostUi/QtText.h"
 #include "HostUi/ViewPixel.h"
 
+#include <QCoreApplication>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QPainter>
 
 #include <cmath>
 
 namespace vesk
 {
+
+namespace
+{
+
+bool IsConfirmation(const QKeyEvent& event)
+{
+    const int key = event.key();
+    const bool isPlain = !(event.modifiers() & ~Qt::KeypadModifier) && !event.isAutoRepeat();
+    return isPlain && (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space);
+}
+
+}
 
 DrawingView::DrawingView(std::uint32_t id, DimensionInputController& input, QWidget* pParent)
     : QWidget(pParent), m_id(id), m_input(input)
@@ -93,6 +107,12 @@ void DrawingView::TellCursor()
     emit cursorMoved(world.x(), world.y());
 }
 
+void DrawingView::PassCursor()
+{
+    if (m_cursor.has_value())
+        ActionManager::ProcessMouseMove(this, m_camera.ScreenToWorld(m_cursor->x(), m_cursor->y()));
+}
+
 QPointF DrawingView::ToPixel(const Vector3d& world) const
 {
     return vesk::ToPixel(m_camera, world);
@@ -104,11 +124,30 @@ void DrawingView::UpdateModel()
     update();
 }
 
+void DrawingView::UpdateCursor()
+{
+    const QCursor shape = m_drag == Drag::Pan ? Qt::ClosedHandCursor : GetRestingCursor();
+    if (shape.shape() != cursor().shape())
+        setCursor(shape);
+}
+
 void DrawingView::changeEvent(QEvent* pEvent)
 {
     if (pEvent->type() == QEvent::PaletteChange)
         UpdateModel();
     QWidget::changeEvent(pEvent);
+}
+
+bool DrawingView::event(QEvent* pEvent)
+{
+    // While the window system has not moved the keyboard yet, the editor says which keys it needs.
+    QLineEdit* pEditor =
+        pEvent->type() == QEvent::ShortcutOverride ? m_input.GetActiveEditor() : nullptr;
+    if (pEditor == nullptr)
+        return QWidget::event(pEvent);
+    pEvent->ignore();
+    QCoreApplication::sendEvent(pEditor, pEvent);
+    return true;
 }
 
 bool DrawingView::eventFilter(QObject* pWatched, QEvent* pEvent)
@@ -131,6 +170,8 @@ void DrawingView::keyPressEvent(QKeyEvent* pEvent)
         return;
     if (pEvent->key() == Qt::Key_Escape)
         OnFreeEscape();
+    else if (IsConfirmation(*pEvent) && IActionManager::CurrentAction() == nullptr)
+        OnFreeConfirm();
     else
         QWidget::keyPressEvent(pEvent);
 }
@@ -154,8 +195,7 @@ void DrawingView::mouseMoveEvent(QMouseEvent* pEvent)
         return;
     }
     TellCursor();
-    ActionManager::ProcessMouseMove(
-        this, m_camera.ScreenToWorld(pEvent->localPos().x(), pEvent->localPos().y()));
+    PassCursor();
 }
 
 void DrawingView::mousePressEvent(QMouseEvent* pEvent)
@@ -164,7 +204,7 @@ void DrawingView::mousePressEvent(QMouseEvent* pEvent)
     {
         m_drag = Drag::Pan;
         m_dragPosition = pEvent->localPos();
-        setCursor(Qt::ClosedHandCursor);
+        UpdateCursor();
     }
     if (pEvent->button() == Qt::LeftButton)
         OnClick(*pEvent);
@@ -175,7 +215,7 @@ void DrawingView::mouseReleaseEvent(QMouseEvent* pEvent)
     if (pEvent->button() != Qt::MiddleButton)
         return;
     m_drag = Drag::None;
-    setCursor(Qt::CrossCursor);
+    UpdateCursor();
 }
 
 void DrawingView::paintEvent(QPaintEvent*)

@@ -169,6 +169,12 @@ void DimensionInputController::SetKeyStripShown(bool isShown)
     UpdateNotes();
 }
 
+void DimensionInputController::SetSpaceCommitting(bool isCommitting)
+{
+    m_isSpaceCommitting = isCommitting;
+    UpdateNotes();
+}
+
 void DimensionInputController::OnUiObject(const IJournalUiObject& object, int kind)
 {
     QObject* const* ppObject = std::any_cast<QObject*>(&object.GetUiObject());
@@ -325,13 +331,18 @@ bool DimensionInputController::FilterEditorKey(QKeyEvent& event)
     return true;
 }
 
+bool DimensionInputController::CommitsWithSpace(const QString& text, const InputField& field) const
+{
+    return m_isSpaceCommitting && IsTakenWithSpace(text, field, LengthUnit::GetCurrent());
+}
+
 /// Judges the text in the editor and, if it is accepted, lets the handler commit it.
 void DimensionInputController::TakeValue(QLineEdit& editor, QKeyEvent& event,
                                          const InputField& field)
 {
     const bool isJudged = !Manager().IsRawTextInput();
     const bool isSpace = event.key() == Qt::Key_Space;
-    if (isJudged && isSpace && !IsTakenWithSpace(editor.text(), field, LengthUnit::GetCurrent()))
+    if (isJudged && isSpace && !CommitsWithSpace(editor.text(), field))
     {
         editor.insert(QStringLiteral(" "));
         return;
@@ -488,8 +499,7 @@ void DimensionInputController::UpdateNotes()
     if (!Manager().IsRawTextInput())
         texts.value = DescribeValue(pEditor->text(), field.quantity, LengthUnit::GetCurrent());
     if (m_isKeyStripShown)
-        texts.keys =
-            DescribeKeys(field, IsTakenWithSpace(pEditor->text(), field, LengthUnit::GetCurrent()));
+        texts.keys = DescribeKeys(field, CommitsWithSpace(pEditor->text(), field));
     const QPoint corner = pView->mapFromGlobal(pEditor->mapToGlobal(QPoint(0, 0)));
     m_pNotes->Show(*pView,
                    {pView->size(), QRect(corner, pEditor->size()), m_cursor,

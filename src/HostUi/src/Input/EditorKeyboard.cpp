@@ -2,12 +2,24 @@
 
 #include "Platform/KeyboardFocus.h"
 
-#include <QEvent>
-#include <QWidget>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QWindow>
 
 namespace vesk
 {
+
+namespace
+{
+
+/// On some systems only one of the customary two is the standard key of redo.
+bool IsRedo(const QKeyEvent& event)
+{
+    const bool isControlY = event.key() == Qt::Key_Y && event.modifiers() == Qt::ControlModifier;
+    return isControlY || event.matches(QKeySequence::Redo);
+}
+
+}
 
 void EditorKeyboard::Watch(QWidget& editor)
 {
@@ -26,7 +38,31 @@ bool EditorKeyboard::eventFilter(QObject* pWatched, QEvent* pEvent)
     // It may be a different window from the last time.
     if (pEvent->type() == QEvent::Show)
         WatchWindow();
+    if (pEvent->type() == QEvent::ShortcutOverride)
+        return FilterOverride(static_cast<QKeyEvent&>(*pEvent));
+    if (pEvent->type() == QEvent::KeyPress)
+        return FilterKey(static_cast<const QKeyEvent&>(*pEvent));
     return QObject::eventFilter(pWatched, pEvent);
+}
+
+/// A line edit would claim both keys whether or not it has anything to undo.
+bool EditorKeyboard::FilterOverride(QKeyEvent& event) const
+{
+    const auto* pEdit = qobject_cast<const QLineEdit*>(&m_editor);
+    const bool isUndo = event.matches(QKeySequence::Undo);
+    if (pEdit == nullptr || (!isUndo && !IsRedo(event)))
+        return false;
+    event.setAccepted(isUndo ? pEdit->isUndoAvailable() : pEdit->isRedoAvailable());
+    return true;
+}
+
+bool EditorKeyboard::FilterKey(const QKeyEvent& event) const
+{
+    auto* pEdit = qobject_cast<QLineEdit*>(&m_editor);
+    if (pEdit == nullptr || !IsRedo(event))
+        return false;
+    pEdit->redo();
+    return true;
 }
 
 void EditorKeyboard::WatchWindow()

@@ -1,0 +1,38 @@
+#include "Help/AboutPage.h"
+
+#include <QCoreApplication>
+
+namespace
+{
+
+struct UsedLibrary
+{
+    const char* name;
+    const char* licence;
+    const char* address;
+};
+
+constexpr UsedLibrary UsedLibraries[] = {
+    {"Qt 5", "LGPL-3.0", "https://www.qt.io"},
+    {"Eigen 3", "MPL-2.0", "https://eigen.tuxfamily.org"},
+    {"JSON for Modern C++", "MIT", "https://github.com/nlohmann/json"},
+    {"UTF8-CPP", "BSL-1.0", "https://github.com/nemtrif/utfcpp"},
+    {"Boost.Multiprecision", "BSL-1.0", "https://www.boost.org"},
+    {"XCB", "MIT", "https://xcb.freedesktop.org"},
+};
+
+}
+
+QString MakeAboutPage()
+{
+    QString page = QStringLiteral("<h2>Sketcher %1</h2>"
+                                  "<p>绘制精确图形；每次绘图都可以重放。</p>"
+                                  "<p>许可证：Apache-2.0</p>"
+                                  "<p>使用的库：</p><table cellspacing='0' cellpadding='3'>")
+                       .arg(QCoreApplication::applicationVersion());
+    for (const UsedLibrary& library : UsedLibraries)
+        page += QStringLiteral("<tr><td><b>%1</b></td><td>%2</td><td><a href='%3'>%3</a></td></tr>")
+                    .arg(QString::fromLatin1(library.name), QString::fromLatin1(library.licence),
+                         QString::fromLatin1(library.address));
+    return page + QStringLiteral("</table><p>Qt %1</p>").arg(QString::fromLatin1(qVersion()));
+}

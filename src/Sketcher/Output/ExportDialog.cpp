@@ -1,0 +1,36 @@
+#include "Output/ExportDialog.h"
+
+#include "Output/DrawingExport.h"
+
+#include "HostUi/QtText.h"
+
+#include <QFileDialog>
+#include <QPointer>
+#include <QWidget>
+
+QString AskForExportPath(QWidget& window, const QString& drawingName)
+{
+    QStringList filters;
+    for (const ExportFormat& format : ExportFormats())
+        filters << QStringLiteral("%1 (*.%2)")
+                       .arg(vesk::ToQString(format.caption), vesk::ToQString(format.name));
+
+    // On the heap: the dialog is destroyed with the window if the program ends meanwhile.
+    const QPointer<QFileDialog> pDialog = new QFileDialog(&window, QStringLiteral("导出图纸"));
+    pDialog->setObjectName(QStringLiteral("ExportDialog"));
+    pDialog->setAcceptMode(QFileDialog::AcceptSave);
+    pDialog->setNameFilters(filters);
+    pDialog->selectFile(drawingName);
+    const auto useSuffix = [pDialog, filters](const QString& filter) {
+        const auto place = static_cast<std::size_t>(filters.indexOf(filter));
+        pDialog->setDefaultSuffix(vesk::ToQString(ExportFormats()[place].name));
+    };
+    QObject::connect(pDialog, &QFileDialog::filterSelected, pDialog, useSuffix);
+    useSuffix(filters.front());
+    const bool isAccepted = pDialog->exec() == QDialog::Accepted;
+    if (pDialog == nullptr)
+        return {};
+    const QStringList files = pDialog->selectedFiles();
+    delete pDialog;
+    return isAccepted && !files.isEmpty() ? files.front() : QString();
+}

@@ -1,0 +1,123 @@
+#include "Output/OutputCommands.h"
+
+#include "Model/Workspace.h"
+#include "Output/DrawingExport.h"
+#include "Output/ExportDialog.h"
+
+#include "Command/ActionManager.h"
+#include "HostUi/MainWindow.h"
+#include "HostUi/QtText.h"
+#include "Journal/CommandParameters.h"
+
+#include <QFileInfo>
+#include <QPointer>
+
+#include <utility>
+
+using namespace vesk;
+
+namespace
+{
+
+constexpr wchar_t FormatParameter[] = L"format";
+constexpr wchar_t DigestParameter[] = L"digest";
+
+/// The text of that name; empty if there is none.
+std::wstring TextOf(const CommandParameters& parameters, const wchar_t* name)
+{
+    const CommandParameterValue* pValue = parameters.Find(name);
+    const auto* pText = pValue != nullptr ? std::get_if<std::wstring>(&pValue->Get()) : nullptr;
+    return pText != nullptr ? *pText : std::wstring();
+}
+
+CommandParameterValue DigestOf(const Sketch& sketch)
+{
+    const std::string digest = sketch.GetDigest();
+    return CommandParameterValue(std::wstring(digest.begin(), digest.end()));
+}
+
+}
+
+OutputCommands::OutputCommands(const Workspace& workspace, MainWindow& window, OutputRunner runner)
+    : m_workspace(workspace), m_window(window), m_runner(std::move(runner))
+{
+}
+
+std::vector<CommandEntry> OutputCommands::MakeCommands()
+{
+    const auto hasEntities = [this] { return !m_workspace.sketch.GetEntities().empty(); };
+    return {
+        CommandEntry::Dialog(L"Sketcher.Export", L"导出", [this] { AskForExport(); })
+            .WithIcon(L"export")
+            .WithToolTip(L"导出：将图纸写成 SVG、PDF、PNG 或 DXF 文件")
+            .InGroup(L"输出")
+            .OnStartPage()
+            .EnabledWhile(hasEntities),
+        CommandEntry::WithParameters(ExportId, L"导出图纸",
+                                     [this](const CommandParameters&) { WriteTarget(); })
+            .PossibleWith([this](const CommandParameters& parameters) {
+                return IsExport(parameters);
+            }),
+    };
+}
+
+void OutputCommands::Export(const QString& path)
+{
+    const ExportFormat* pFormat = ExportFormatOf(path);
+    if (pFormat == nullptr)
+    {
+        m_window.ShowNotice(QStringLiteral("无法导出 %1：不支持此格式").arg(path));
+        return;
+    }
+    m_target = path;
+    CommandParameters parameters;
+    parameters.Add(FormatParameter, CommandParameterValue(pFormat->name));
+    parameters.Add(DigestParameter, DigestOf(m_workspace.sketch));
+    ActionManager::RunCommand(ExportId, parameters);
+}
+
+bool OutputCommands::IsDrawing(const CommandParameters& parameters) const
+{
+    const CommandParameterValue* pDigest = parameters.Find(DigestParameter);
+    return pDigest != nullptr && *pDigest == DigestOf(m_workspace.sketch);
+}
+
+bool OutputCommands::IsExport(const CommandParameters& parameters) const
+{
+    return IsDrawing(parameters) &&
+           FindExportFormat(TextOf(parameters, FormatParameter)) != nullptr;
+}
+
+void OutputCommands::AskForExport()
+{
+    const QPointer<MainWindow> pWindow = &m_window;
+    const QString path = AskForExportPath(m_window, ToQString(m_workspace.sketch.GetName()));
+    if (!path.isEmpty() && pWindow != nullptr && pWindow->isVisible())
+        Export(path);
+}
+
+/// Exports to the target; in a replay there is none.
+void OutputCommands::WriteTarget()
+{
+    const QString path = std::exchange(m_target, QString());
+    const ExportFormat* pFormat = ExportFormatOf(path);
+    if (pFormat == nullptr)
+        return;
+    const QPointer<MainWindow> pWindow = &m_window;
+    OutputFault fault = OutputFault::None;
+    m_runner([content = m_workspace.sketch.GetContent(), pFormat, path,
+              &fault](const OutputProgress& progress) {
+        fault = ExportDrawing(content, *pFormat, path, progress);
+    });
+    const QString name = QFileInfo(path).fileName();
+    if (pWindow != nullptr)
+        ShowResult(fault, QStringLiteral("已导出 %1").arg(name),
+                   QStringLiteral("未导出 %1").arg(name));
+}
+
+void OutputCommands::ShowResult(OutputFault fault, const QString& done, const QString& failed)
+{
+    m_window.ShowNotice(fault == OutputFault::None
+                            ? done
+                            : QStringLiteral("%1：%2").arg(failed, CaptionOf(fault)));
+}

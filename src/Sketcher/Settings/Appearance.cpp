@@ -1,0 +1,105 @@
+#include "Settings/Appearance.h"
+
+#include <QApplication>
+#include <QPalette>
+#include <QStyle>
+#include <QToolTip>
+
+namespace
+{
+
+/// The colours of which a palette is made.
+struct ColourScheme
+{
+    QColor window;
+    QColor base; ///< Of the drawing, too.
+    QColor alternateBase;
+    QColor text;
+    QColor faintText; ///< Of what is disabled.
+    QColor button;
+    QColor highlight;
+    QColor highlightedText;
+    QColor link;
+    QColor toolTip;
+    QColor light;
+    QColor dark;
+};
+
+const ColourScheme& LightScheme()
+{
+    static const ColourScheme s_scheme = {
+        QColor(0xf3, 0xf4, 0xf5), QColor(0xff, 0xff, 0xff), QColor(0xf4, 0xf6, 0xf8),
+        QColor(0x1f, 0x23, 0x28), QColor(0x9a, 0xa0, 0xa6), QColor(0xf0, 0xf1, 0xf2),
+        QColor(0x2f, 0x7d, 0xe1), QColor(0xff, 0xff, 0xff), QColor(0x1a, 0x5f, 0xb4),
+        QColor(0xff, 0xff, 0xe6), QColor(0xff, 0xff, 0xff), QColor(0xa8, 0xac, 0xb0),
+    };
+    return s_scheme;
+}
+
+const ColourScheme& DarkScheme()
+{
+    static const ColourScheme s_scheme = {
+        QColor(0x2b, 0x2d, 0x30), QColor(0x1e, 0x1f, 0x22), QColor(0x26, 0x28, 0x2b),
+        QColor(0xe3, 0xe5, 0xe8), QColor(0x7d, 0x82, 0x88), QColor(0x36, 0x39, 0x3d),
+        QColor(0x3d, 0x84, 0xdb), QColor(0xff, 0xff, 0xff), QColor(0x7a, 0xb3, 0xf5),
+        QColor(0x3a, 0x3d, 0x41), QColor(0x4a, 0x4e, 0x53), QColor(0x16, 0x17, 0x19),
+    };
+    return s_scheme;
+}
+
+QPalette ToPalette(const ColourScheme& scheme)
+{
+    QPalette palette(scheme.button, scheme.window);
+    palette.setColor(QPalette::Base, scheme.base);
+    palette.setColor(QPalette::AlternateBase, scheme.alternateBase);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
+                            QPalette::ToolTipText, QPalette::BrightText})
+        palette.setColor(role, scheme.text);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, scheme.faintText);
+    palette.setColor(QPalette::PlaceholderText, scheme.faintText);
+    palette.setColor(QPalette::Highlight, scheme.highlight);
+    palette.setColor(QPalette::HighlightedText, scheme.highlightedText);
+    palette.setColor(QPalette::Disabled, QPalette::Highlight, scheme.faintText);
+    palette.setColor(QPalette::Link, scheme.link);
+    palette.setColor(QPalette::LinkVisited, scheme.link);
+    palette.setColor(QPalette::ToolTipBase, scheme.toolTip);
+    palette.setColor(QPalette::Light, scheme.light);
+    palette.setColor(QPalette::Dark, scheme.dark);
+    return palette;
+}
+
+}
+
+Appearance::Appearance() : m_desktopStyle(QApplication::style()->objectName()) {}
+
+Appearance::~Appearance()
+{
+    Set(Settings::Colours::Desktop);
+}
+
+void Appearance::Set(Settings::Colours colours)
+{
+    if (colours == m_colours)
+        return;
+    m_colours = colours;
+    if (colours == Settings::Colours::Desktop)
+    {
+        SetStyle(m_desktopStyle);
+        // A palette that sets nothing gives way to the desktop's.
+        QApplication::setPalette(QPalette());
+        QToolTip::setPalette(QPalette());
+        return;
+    }
+    SetStyle(QStringLiteral("fusion"));
+    const QPalette palette =
+        ToPalette(colours == Settings::Colours::Dark ? DarkScheme() : LightScheme());
+    QApplication::setPalette(palette);
+    QToolTip::setPalette(palette);
+}
+
+void Appearance::SetStyle(const QString& name)
+{
+    if (QApplication::style()->objectName() != name)
+        QApplication::setStyle(name);
+}

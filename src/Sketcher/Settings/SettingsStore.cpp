@@ -1,0 +1,44 @@
+#include "Settings/SettingsStore.h"
+
+#include "Foundation/FileRewriting.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+#include <utility>
+
+namespace
+{
+
+/// The content of a file; empty if there is no path or it cannot be read.
+std::string ReadSettingsText(const QString& path)
+{
+    QFile file(path);
+    return !path.isEmpty() && file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : std::string();
+}
+
+}
+
+SettingsStore::SettingsStore(const QString& readPath, const QString& writtenPath)
+    : m_path(writtenPath), m_settings(SettingsFromText(ReadSettingsText(readPath)))
+{}
+
+bool SettingsStore::Set(const Settings& settings)
+{
+    if (settings == m_settings)
+        return true;
+    const Settings before = std::exchange(m_settings, settings);
+    QDir().mkpath(QFileInfo(m_path).path());
+    const bool isWritten =
+        vesk::RewriteFile(m_path.toStdString(), ToText(m_settings, ReadSettingsText(m_path)));
+    emit changed(before);
+    return isWritten;
+}
+
+QString SettingsPath()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) +
+           QStringLiteral("/settings.json");
+}
