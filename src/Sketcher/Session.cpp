@@ -2,11 +2,12 @@
 
 #include "BackgroundWork.h"
 #include "DataFile.h"
-#include "Help/HelpCommands.h"
 #include "Documents/DocumentCommands.h"
+#include "Help/HelpCommands.h"
 #include "Model/KeptContent.h"
 #include "Model/ModelFile.h"
 #include "Output/PictureExport.h"
+#include "Recovery/RecoverContent.h"
 #include "Ribbon/CommandTable.h"
 #include "VeskUiQtImpl/DockManagerImpl.h"
 #include "View/SketchView.h"
@@ -124,6 +125,7 @@ Session::Session(const Options& options)
     std::vector<CommandEntry> commands = MakeCommandTable(m_workspace, m_window.GetView(), m_input);
     for (CommandEntry& entry : m_pPanes->MakeCommands())
         commands.push_back(std::move(entry));
+    commands.push_back(MakeRecoverCommand(m_workspace.sketch));
     MakeDocuments();
     for (CommandEntry& entry : MakeDocumentCommands(*m_pDocuments))
         commands.push_back(std::move(entry));
@@ -138,6 +140,7 @@ Session::Session(const Options& options)
     RegisterCommands(commands);
     for (const CommandEntry& entry : commands)
     {
+        m_captions[entry.id] = entry.caption;
         if (entry.isPossible)
             m_possibilities[entry.id] = entry.isPossible;
     }
@@ -254,6 +257,10 @@ bool Session::OpenFiles()
     isDone = isDone && m_journal.Open(error);
     if (!isDone)
         Complain(error);
+    if (!m_journal.GetSecured().isEmpty())
+        m_window.ShowState(QStringLiteral("secured"),
+                           QStringLiteral("原日志未保存，已移入恢复文件夹"),
+                           m_journal.GetSecured());
     return isDone;
 }
 
@@ -331,6 +338,7 @@ int Session::Draw()
                            QStringLiteral("无法写入 %1").arg(LayoutPath()));
     m_pKeeping = std::make_unique<KeepingMonitor>(m_window);
     QObject::connect(&m_window, &MainWindow::closeAccepted, &m_window, [this] { SaveLayout(); });
+    BeginRecovery();
     m_window.showMaximized();
     m_window.GetView().Activate();
     if (!m_options.open.isEmpty())
@@ -357,6 +365,20 @@ void Session::Open()
         m_workspace.sketch.Clear();
     m_pKeeping->Update();
     m_window.GetView().Activate();
+}
+
+void Session::BeginRecovery()
+{
+    const auto replay = [this](const SessionRecovery::Records& records) {
+        m_records = records;
+        ObeyVersion();
+        const JournalReplayResult result = RepeatInWindow();
+        m_pKeeping->Update();
+        return result;
+    };
+    m_pRecovery =
+        std::make_unique<SessionRecovery>(m_workspace, m_window, m_journal, m_captions, replay);
+    m_pRecovery->Offer(m_options);
 }
 
 int Session::Replay()

@@ -8,6 +8,7 @@
 #include "Panes/Panes.h"
 #include "ReadingMonitor.h"
 #include "SessionJournal.h"
+#include "SessionRecovery.h"
 #include "Settings/SettingsStore.h"
 #include "SettingsApplier.h"
 #include "SketcherWindow.h"
@@ -63,6 +64,7 @@ private:
     int Draw();
     int Replay();
     void Open();
+    void BeginRecovery();
     vesk::JournalReplayResult Repeat();
     vesk::JournalReplayResult RepeatInWindow();
     QString GoOn(const vesk::JournalReplayResult& result);
@@ -76,6 +78,7 @@ private:
     SessionJournal m_journal;
     std::vector<vesk::JournalRecord> m_records;
     std::map<std::wstring, std::function<bool(const vesk::CommandParameters&)>> m_possibilities;
+    std::map<std::wstring, std::wstring> m_captions;
 
     /// Files not named by an option that could not be written at the end.
     QStringList m_unwritten;
@@ -97,5 +100,6 @@ private:
     std::unique_ptr<WarningRaiser> m_pWarningRaiser;
     ReadingMonitor* m_pReading = nullptr; ///< Set while a drawing is opened; not owned.
     std::unique_ptr<KeepingMonitor> m_pKeeping;
+    std::unique_ptr<SessionRecovery> m_pRecovery;
     std::unique_ptr<vesk::TerminationRequests> m_pTermination;
 };

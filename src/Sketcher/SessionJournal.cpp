@@ -3,9 +3,12 @@
 #include "DataFile.h"
 #include "Model/KeptContent.h"
 #include "Options.h"
+#include "Recovery/UnsavedWork.h"
 
 #include "Journal/JournalManager.h"
 #include "Replay/JournalReplayer.h"
+
+#include <QFileInfo>
 
 using namespace vesk;
 
@@ -45,10 +48,29 @@ bool SessionJournal::Open(std::string& error)
 {
     if (m_isContinued || m_path.isEmpty())
         return true;
+    if (m_isNamed && !SecureReplaced(error))
+        return false;
     const bool isOpen = Manager().Open(m_path.toStdString(), error);
     if (!isOpen)
         KeptContent::Get().SetJournal({});
     return isOpen || !m_isNamed;
+}
+
+/// The file is locked before it is moved: another program may still be writing it.
+bool SessionJournal::SecureReplaced(std::string& error)
+{
+    if (IsEnded(m_path) || !FindUnsavedWork(m_path).has_value())
+        return true;
+    if (!Manager().Reserve(m_path.toStdString(), error))
+        return false;
+    // A link stays a link.
+    const std::optional<QString> secured =
+        GetFolder().TakeIn(QFileInfo(m_path).canonicalFilePath());
+    if (!secured.has_value())
+        error = m_path.toStdString() + " holds unsaved work, which cannot be moved to " +
+                DataFile(QStringLiteral("journals")).toStdString();
+    m_secured = secured.value_or(QString());
+    return secured.has_value();
 }
 
 QString SessionJournal::GoOn(const JournalReplayResult& result, int lastNumber)
@@ -87,4 +109,17 @@ QString SessionJournal::StartAnew()
     std::string error;
     Manager().Open(m_path.toStdString(), error);
     return isContinued ? m_path : QString();
+}
+
+QString SessionJournal::StartAnother(int version)
+{
+    const QString left = m_path;
+    *this = SessionJournal(Options());
+    std::string error;
+    // Closed in any case: what follows must not be added to the file that was left.
+    Manager().Close();
+    Manager().SetVersion(version);
+    Manager().Open(m_path.toStdString(), error);
+    KeptContent::Get().SetJournal(m_path);
+    return left;
 }

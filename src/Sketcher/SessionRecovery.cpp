@@ -12,7 +12,6 @@
 #include "HostUi/QtText.h"
 #include "Journal/JournalFormat.h"
 #include "Journal/JournalManager.h"
-#include "Warnings/DebugMessageMgr.h"
 
 #include <QCoreApplication>
 #include <QProcess>
@@ -30,11 +29,12 @@ namespace
 std::vector<JournalRecord> RecordsAfter(const Snapshot& snapshot,
                                         const std::vector<JournalRecord>& records)
 {
-    const auto mark = std::find_if(records.begin(), records.end(), [&](const JournalRecord& record) {
-        const auto* pMark = std::get_if<MarkRecord>(&record.what);
-        return pMark != nullptr && record.number == snapshot.record &&
-               pMark->digest == snapshot.digest;
-    });
+    const auto mark =
+        std::find_if(records.begin(), records.end(), [&](const JournalRecord& record) {
+            const auto* pMark = std::get_if<MarkRecord>(&record.what);
+            return pMark != nullptr && record.number == snapshot.record &&
+                   pMark->digest == snapshot.digest;
+        });
     if (mark == records.end())
         return {};
     const std::optional<CommandParameters> parameters = RecoverContent::Keep(snapshot.bytes);
@@ -42,17 +42,28 @@ std::vector<JournalRecord> RecordsAfter(const Snapshot& snapshot,
         return {};
     // The mark has the greatest number so far and is no command's.
     const CommandRecord restore{RecoverContent::CommandId, *parameters};
-    std::vector<JournalRecord> rest = {{snapshot.record, restore},
+    std::vector<JournalRecord> rest = {{0, HeaderRecord()},
+                                       {snapshot.record, restore},
                                        {snapshot.record, EndRecord{snapshot.record, false}}};
     rest.insert(rest.end(), mark + 1, records.end());
     return rest;
 }
 
+/// Files of version 1 have no header.
+int VersionOf(const std::vector<JournalRecord>& records)
+{
+    const auto* pHeader =
+        records.empty() ? nullptr : std::get_if<HeaderRecord>(&records.front().what);
+    return pHeader != nullptr ? pHeader->version : 1;
+}
+
 }
 
 SessionRecovery::SessionRecovery(Workspace& workspace, SketcherWindow& window,
-                                 SessionJournal& journal, Replay replay)
-    : m_workspace(workspace), m_window(window), m_journal(journal), m_replay(std::move(replay)),
+                                 SessionJournal& journal,
+                                 std::map<std::wstring, std::wstring> captions, Replay replay)
+    : m_workspace(workspace), m_window(window), m_journal(journal), m_captions(std::move(captions)),
+      m_replay(std::move(replay)),
       m_autosave(workspace.sketch,
                  [this] { return m_journal.IsNamed() ? QString() : m_journal.GetPath(); }),
       m_offer(window, SessionJournal::GetFolder(),
@@ -64,21 +75,15 @@ SessionRecovery::SessionRecovery(Workspace& workspace, SketcherWindow& window,
                [this](const UnsavedWork& work) { Look(work); }})
 {}
 
-void SessionRecovery::SetCaption(const std::wstring& commandId, const std::wstring& caption)
-{
-    m_captions[commandId] = caption;
-}
-
 void SessionRecovery::Offer(const Options& options)
 {
-    const bool isToldWhatToDo = !options.journal.isEmpty() || !options.model.isEmpty() ||
-                                !options.GetSource().isEmpty();
+    const bool isToldWhatToDo =
+        !options.journal.isEmpty() || !options.model.isEmpty() || !options.GetSource().isEmpty();
     const bool isSomebodyThere = qEnvironmentVariable("VESK_UNATTENDED") != QLatin1String("1");
     if (!isToldWhatToDo && isSomebodyThere)
         m_offer.Search(m_journal.GetPath());
 }
 
-/// What is in the drawing stays in its journal, and is offered too if it is worth it.
 RecoveryOffer::Result SessionRecovery::GoOn(const UnsavedWork& work)
 {
     Records all;
@@ -87,33 +92,37 @@ RecoveryOffer::Result SessionRecovery::GoOn(const UnsavedWork& work)
     JournalFormat::ReadFile(work.journal.toStdString(), all, error);
     const Records records = CompletedOf(all);
     KeptContent::Get().SetSource(work.journal);
-    if (!LeaveJournal())
+    if (!LeaveDrawing(VersionOf(records)))
     {
-        m_window.ShowNotice(QStringLiteral("日志文件无法写入，现有的图纸会丢失，不能继续上次的操作"));
+        m_window.ShowNotice(
+            QStringLiteral("日志文件无法写入，现有的图纸会丢失，不能继续上次的操作"));
         return RecoveryOffer::Result::Cancelled;
     }
     std::optional<JournalReplayResult> result = ReplayFromSnapshot(work.journal, records);
     if (!result.has_value())
         result = m_replay(records);
     if (result->isStopped)
-        LeaveJournal();
+        BeginAnew();
     m_window.GetView().Activate();
     if (result->isStopped)
         return RecoveryOffer::Result::Cancelled;
-    const bool isWhole = result->failure.empty() && work.isReadInFull;
-    return isWhole ? RecoveryOffer::Result::Done : RecoveryOffer::Result::Partly;
+    if (result->failure.empty())
+        return RecoveryOffer::Result::Done;
+    m_window.ShowState(
+        QStringLiteral("reading"),
+        QStringLiteral("第 %1 条记录无法重做，其后的操作没有恢复").arg(result->failedNumber),
+        QString::fromStdString(result->failure));
+    return RecoveryOffer::Result::Partly;
 }
 
-/// Begins another journal and an empty drawing. The journal in use is removed if it holds no work,
-/// otherwise offered. Returns false and changes nothing if that would lose the drawing.
-bool SessionRecovery::LeaveJournal()
+/// What is in the drawing stays in its journal, which is offered if there is work in it. Returns
+/// false and changes nothing if the drawing would be lost.
+bool SessionRecovery::LeaveDrawing(int version)
 {
     const bool isEmpty = m_workspace.sketch.GetEntities().empty();
     if (!JournalManager::GetInstance().IsKept() && !isEmpty)
         return false;
-    const QString left = m_journal.GetPath();
-    m_journal.StartAnother();
-    m_workspace.selection.Clear();
+    const QString left = m_journal.StartAnother(version);
     m_workspace.sketch.Clear();
     if (const std::optional<UnsavedWork> work = FindUnsavedWork(left))
         m_offer.Add(*work);
@@ -122,8 +131,15 @@ bool SessionRecovery::LeaveJournal()
     return true;
 }
 
-/// Nothing if there is no snapshot from which the last mark is reached: a later undo, for example,
-/// may have gone back beyond it. The drawing and the journal are then as before.
+/// Drops what is in the drawing and its journal.
+void SessionRecovery::BeginAnew()
+{
+    JournalFolder::Remove(m_journal.StartAnother());
+    m_workspace.sketch.Clear();
+}
+
+/// Nothing if there is no snapshot from which the last mark can be reached: a later undo, for
+/// example, may have gone back beyond it. Drawing and journal are then as before.
 std::optional<JournalReplayResult> SessionRecovery::ReplayFromSnapshot(const QString& journal,
                                                                        const Records& records)
 {
@@ -136,11 +152,7 @@ std::optional<JournalReplayResult> SessionRecovery::ReplayFromSnapshot(const QSt
     JournalReplayResult result = m_replay(rest);
     if (result.failure.empty() || result.isStopped)
         return result;
-    const QString failed = m_journal.GetPath();
-    m_journal.StartAnother();
-    JournalFolder::Remove(failed);
-    m_workspace.selection.Clear();
-    m_workspace.sketch.Clear();
+    BeginAnew();
     return std::nullopt;
 }
 

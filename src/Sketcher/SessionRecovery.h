@@ -27,11 +27,9 @@ public:
     using Replay = std::function<vesk::JournalReplayResult(const Records& records)>;
 
     /// Workspace, window and journal are not owned and outlive this.
+    /// `captions` are those of the commands, by id.
     SessionRecovery(Workspace& workspace, SketcherWindow& window, SessionJournal& journal,
-                    Replay replay);
-
-    /// The captions of commands, for the offers.
-    void SetCaption(const std::wstring& commandId, const std::wstring& caption);
+                    std::map<std::wstring, std::wstring> captions, Replay replay);
 
     /// Shows what earlier sessions left, unless the options say what to do or nobody is there.
     void Offer(const Options& options);
@@ -41,7 +39,8 @@ public:
 
 private:
     RecoveryOffer::Result GoOn(const UnsavedWork& work);
-    bool LeaveJournal();
+    bool LeaveDrawing(int version);
+    void BeginAnew();
     std::optional<vesk::JournalReplayResult> ReplayFromSnapshot(const QString& journal,
                                                                 const Records& records);
     void Look(const UnsavedWork& work);
@@ -49,8 +48,8 @@ private:
     Workspace& m_workspace;
     SketcherWindow& m_window;
     SessionJournal& m_journal;
+    const std::map<std::wstring, std::wstring> m_captions;
     const Replay m_replay;
-    std::map<std::wstring, std::wstring> m_captions;
     Autosave m_autosave;
     RecoveryOffer m_offer;
 };

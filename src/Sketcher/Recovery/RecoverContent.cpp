@@ -54,3 +54,12 @@ void RecoverContent::Apply(Sketch& sketch, const CommandParameters& parameters)
     if (std::optional<SketchContent> content = FindSnapshot(parameters))
         sketch.Restore(std::move(*content));
 }
+
+CommandEntry MakeRecoverCommand(Sketch& sketch)
+{
+    return CommandEntry::WithParameters(RecoverContent::CommandId, L"恢复内容",
+                                        [&sketch](const CommandParameters& parameters) {
+                                            RecoverContent::Apply(sketch, parameters);
+                                        })
+        .PossibleWith(&RecoverContent::IsPossible);
+}

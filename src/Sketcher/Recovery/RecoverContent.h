@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Ribbon/CommandEntry.h"
+
 #include "Journal/CommandParameters.h"
 
 #include <QByteArray>
@@ -24,3 +26,6 @@ struct RecoverContent
     /// Replaces the drawing; nothing can be undone afterwards. Does nothing if it is impossible.
     static void Apply(Sketch& sketch, const vesk::CommandParameters& parameters);
 };
+
+/// The command, which has no button. The sketch must outlive every execution.
+CommandEntry MakeRecoverCommand(Sketch& sketch);
