@@ -9,9 +9,9 @@
 #include "ReadingMonitor.h"
 #include "ReplayPace.h"
 #include "SessionJournal.h"
+#include "SessionRecovery.h"
 #include "Settings/SettingsStore.h"
 #include "SettingsApplier.h"
-#include "SessionRecovery.h"
 #include "SketcherWindow.h"
 #include "WarningRaiser.h"
 
