@@ -1,5 +1,6 @@
 #include "Options.h"
 
+#include "Output/DrawingExport.h"
 #include "WarningRaiser.h"
 
 #include <QCommandLineParser>
@@ -8,6 +9,7 @@
 #include <filesystem>
 #include <iterator>
 #include <system_error>
+#include <utility>
 
 namespace
 {
@@ -32,6 +34,10 @@ constexpr FileOption FileOptions[] = {
     {"ui-tree", "FILE", "keep FILE describing what is on screen, as JSON", &Options::uiTree, false},
     {"log", "FILE", "log warnings to FILE", &Options::log, false},
     {"screenshot", "FILE.png", "save a picture of the window at exit", &Options::screenshot, false},
+    {"export", "FILE",
+     "write the drawing that was read to FILE (.svg, .pdf, .png or .dxf), without "
+     "a window, then exit",
+     &Options::exportFile, false},
 };
 
 bool CanBeWritten(const QString& path)
@@ -58,6 +64,28 @@ bool MayBeOne(const FileOption& first, const FileOption& second)
         return option.isRead || option.member == &Options::journal;
     };
     return isJournal(first) && isJournal(second);
+}
+
+/// An export needs a drawing, and a format.
+QString CheckExport(const Options& options)
+{
+    if (options.exportFile.isEmpty())
+        return {};
+    if (ExportFormatOf(options.exportFile) == nullptr)
+        return QStringLiteral("cannot export %1: the suffix is no known format")
+            .arg(options.exportFile);
+    return options.GetSource().isEmpty()
+               ? QStringLiteral("--export needs a drawing: use --replay or --open")
+               : QString();
+}
+
+/// An export needs no window, so what is to be opened is only read.
+void TurnIntoReplay(Options& options)
+{
+    if (!options.error.isEmpty() || options.exportFile.isEmpty() || options.open.isEmpty())
+        return;
+    options.replay = std::exchange(options.open, QString());
+    options.task = Options::Task::Replay;
 }
 
 QString CheckNames(const Options& options)
@@ -132,6 +160,8 @@ Options ParseOptions(const QStringList& arguments)
     }
     if (options.error.isEmpty())
         options.error = CheckNames(options);
+    if (options.error.isEmpty())
+        options.error = CheckExport(options);
     options.raiseWarnings = parser.value(raiseWarnings);
     if (options.error.isEmpty() && parser.isSet(raiseWarnings) &&
         !WarningRaiser::GetKinds().contains(options.raiseWarnings))
@@ -140,5 +170,6 @@ Options ParseOptions(const QStringList& arguments)
         options.task = Options::Task::Replay;
     if (options.error.isEmpty() && !options.replay.isEmpty() && !options.open.isEmpty())
         options.error = QStringLiteral("--replay and --open cannot be used together");
+    TurnIntoReplay(options);
     return options;
 }

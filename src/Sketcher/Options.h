@@ -24,6 +24,9 @@ struct Options
     QString log;
     QString screenshot;
 
+    /// A drawing that was read is written here, in the format of the suffix, without a window.
+    QString exportFile;
+
     /// Which debug warnings to raise once the window is open; empty for none.
     QString raiseWarnings;
 

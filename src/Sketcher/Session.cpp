@@ -1,8 +1,10 @@
 #include "Session.h"
 
+#include "BackgroundWork.h"
 #include "DataFile.h"
 #include "Help/HelpCommands.h"
 #include "Model/ModelFile.h"
+#include "Output/DrawingExport.h"
 #include "Ribbon/CommandTable.h"
 #include "VeskUiQtImpl/DockManagerImpl.h"
 #include "View/SketchView.h"
@@ -78,6 +80,25 @@ bool IsWritable(const QString& path)
     return QFileInfo(file.path()).isWritable() && (!file.exists() || file.isWritable());
 }
 
+/// Runs work in the background of the window, which shows the progress.
+OutputRunner RunnerIn(SketcherWindow& window)
+{
+    return [&window](const std::function<void(const OutputProgress&)>& work) {
+        RunInBackground(window, window.GetProgress(), [&work](WorkProgress& progress) {
+            work([&progress](double share) { return progress.Advance(share); });
+        });
+    };
+}
+
+bool WriteExport(const Sketch& sketch, const QString& path)
+{
+    const OutputFault fault = ExportDrawing(sketch.GetContent(), *ExportFormatOf(path), path,
+                                            [](double) { return true; });
+    if (fault != OutputFault::None)
+        Complain(path.toStdString() + ": " + DescribeOutputFault(fault));
+    return fault == OutputFault::None;
+}
+
 bool WritePicture(const QPixmap& picture, const QString& path)
 {
     QByteArray bytes;
@@ -94,6 +115,8 @@ Session::Session(const Options& options)
       m_translations(SharedFile(QStringLiteral("translations")), QStringLiteral("sketcher"),
                      LocaleOf(m_settings.Get())),
       m_window(m_workspace, m_input), m_pDocks(std::make_unique<DockManagerImpl>(&m_window)),
+      m_output(m_workspace, m_window, RunnerIn(m_window)),
+      m_import(m_workspace, m_window, RunnerIn(m_window)),
       m_settingsApplier(m_settings, m_window, m_input, SharedFile(QStringLiteral("translations")))
 {
     LoadPublishConfig(SharedFile(QStringLiteral("publish.ini")));
@@ -109,6 +132,10 @@ Session::Session(const Options& options)
                      &SketcherWindow::ShowContextMenu);
     std::vector<CommandEntry> commands = MakeCommandTable(m_workspace, m_window.GetView(), m_input);
     for (CommandEntry& entry : m_pPanes->MakeCommands())
+        commands.push_back(std::move(entry));
+    for (CommandEntry& entry : m_output.MakeCommands())
+        commands.push_back(std::move(entry));
+    for (CommandEntry& entry : m_import.MakeCommands())
         commands.push_back(std::move(entry));
     commands.push_back(m_settingsApplier.MakeCommand());
     for (CommandEntry& entry : MakeHelpCommands(commands, m_window))
@@ -391,6 +418,8 @@ bool Session::WriteResults()
     };
     if (!m_options.model.isEmpty())
         note(WriteModelFile(m_workspace.sketch, m_options.model), m_options.model, named);
+    if (!m_options.exportFile.isEmpty())
+        note(WriteExport(m_workspace.sketch, m_options.exportFile), m_options.exportFile, named);
     if (!m_options.screenshot.isEmpty())
         note(WritePicture(m_window.grab(), m_options.screenshot), m_options.screenshot, named);
     if (m_pUiTree != nullptr)

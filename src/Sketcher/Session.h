@@ -3,6 +3,7 @@
 #include "KeepingMonitor.h"
 #include "Model/Workspace.h"
 #include "Options.h"
+#include "Output/ImportCommands.h"
 #include "Panes/Panes.h"
 #include "ReadingMonitor.h"
 #include "SessionJournal.h"
@@ -86,6 +87,8 @@ private:
     SketcherWindow m_window;
     const std::unique_ptr<vesk::IDockManager> m_pDocks;
     vesk::ControlHost m_controls;
+    OutputCommands m_output;
+    ImportCommands m_import;
     SettingsApplier m_settingsApplier;
     std::unique_ptr<Panes> m_pPanes;
     std::unique_ptr<vesk::UiTreeWriter> m_pUiTree;
