@@ -1,6 +1,7 @@
 #include "Options.h"
 
 #include "Output/DrawingExport.h"
+#include "Output/DrawingSource.h"
 #include "WarningRaiser.h"
 
 #include <QCommandLineParser>
@@ -74,30 +75,46 @@ QString CheckExport(const Options& options)
     if (ExportFormatOf(options.exportFile) == nullptr)
         return QStringLiteral("cannot export %1: the suffix is no known format")
             .arg(options.exportFile);
-    return options.GetSource().isEmpty()
-               ? QStringLiteral("--export needs a drawing: use --replay or --open")
+    return options.GetSource().isEmpty() && options.document.isEmpty()
+               ? QStringLiteral("--export needs a drawing to read")
                : QString();
 }
 
 /// An export needs no window, so what is to be opened is only read.
 void TurnIntoReplay(Options& options)
 {
-    if (!options.error.isEmpty() || options.exportFile.isEmpty() || options.open.isEmpty())
+    if (!options.error.isEmpty() || options.exportFile.isEmpty() ||
+        options.task != Options::Task::Draw)
         return;
     options.replay = std::exchange(options.open, QString());
     options.task = Options::Task::Replay;
+}
+
+/// The argument that is no option; empty for none.
+QString TakeDocument(const QStringList& arguments, QString& error)
+{
+    if (arguments.size() > 1)
+        error = QStringLiteral("unexpected argument %1").arg(arguments[1]);
+    else if (arguments.size() == 1 &&
+             !(QFileInfo(arguments[0]).isFile() && QFileInfo(arguments[0]).isReadable()))
+        error = QStringLiteral("cannot read %1").arg(arguments[0]);
+    return arguments.value(0);
 }
 
 QString CheckNames(const Options& options)
 {
     for (const FileOption& first : FileOptions)
     {
+        const QString& named = options.*first.member;
+        if (IsSameFile(options.document, named))
+            return QStringLiteral("%1 cannot be used for both the drawing and --%2")
+                .arg(named, QString::fromLatin1(first.name));
         for (const FileOption* pSecond = &first + 1; pSecond != std::end(FileOptions); ++pSecond)
         {
-            const QString& path = options.*first.member;
-            if (!MayBeOne(first, *pSecond) && IsSameFile(path, options.*pSecond->member))
+            if (!MayBeOne(first, *pSecond) && IsSameFile(named, options.*pSecond->member))
                 return QStringLiteral("%1 cannot be used for both --%2 and --%3")
-                    .arg(path, QString::fromLatin1(first.name), QString::fromLatin1(pSecond->name));
+                    .arg(named, QString::fromLatin1(first.name),
+                         QString::fromLatin1(pSecond->name));
         }
     }
     return {};
@@ -138,18 +155,25 @@ Options ParseOptions(const QStringList& arguments)
             WarningRaiser::GetKinds().join(QStringLiteral(", ")),
         QStringLiteral("KIND"));
     parser.addOption(raiseWarnings);
+    const QCommandLineOption dxfUnit(
+        QStringLiteral("dxf-unit"),
+        QStringLiteral("the unit of a DXF file that does not name one: mm, cm, m, in or ft"),
+        QStringLiteral("UNIT"));
+    parser.addOption(dxfUnit);
+    parser.addPositionalArgument(QStringLiteral("FILE.vsk"),
+                                 QStringLiteral("the drawing file to open"),
+                                 QStringLiteral("[FILE.vsk]"));
 
     Options options;
     if (!parser.parse(arguments))
         options.error = parser.errorText();
-    else if (!parser.positionalArguments().isEmpty())
-        options.error =
-            QStringLiteral("unexpected argument %1").arg(parser.positionalArguments().front());
     else if (parser.isSet(help))
         options.task = Options::Task::ShowHelp;
     else if (parser.isSet(version))
         options.task = Options::Task::ShowVersion;
     options.help = parser.helpText();
+    if (options.error.isEmpty())
+        options.document = TakeDocument(parser.positionalArguments(), options.error);
 
     for (const FileOption& option : FileOptions)
     {
@@ -170,6 +194,11 @@ Options ParseOptions(const QStringList& arguments)
         options.task = Options::Task::Replay;
     if (options.error.isEmpty() && !options.replay.isEmpty() && !options.open.isEmpty())
         options.error = QStringLiteral("--replay and --open cannot be used together");
+    if (options.error.isEmpty() && !options.document.isEmpty() && !options.GetSource().isEmpty())
+        options.error = QStringLiteral("a drawing file cannot be opened besides a journal");
+    options.dxfUnit = parser.value(dxfUnit);
+    if (options.error.isEmpty() && parser.isSet(dxfUnit) && !IsDxfUnit(options.dxfUnit))
+        options.error = QStringLiteral("unknown unit %1").arg(options.dxfUnit);
     TurnIntoReplay(options);
     return options;
 }

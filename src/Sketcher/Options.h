@@ -16,6 +16,7 @@ struct Options
     };
 
     Task task = Task::Draw;
+    QString document; ///< The drawing file to open.
     QString journal;
     QString replay;
     QString open;
@@ -23,6 +24,9 @@ struct Options
     QString uiTree;
     QString log;
     QString screenshot;
+
+    /// The unit of a DXF file that names none; empty to ask.
+    QString dxfUnit;
 
     /// A drawing that was read is written here, in the format of the suffix, without a window.
     QString exportFile;

@@ -2,9 +2,13 @@
 
 #include "BackgroundWork.h"
 #include "DataFile.h"
+#include "Documents/DocumentCommands.h"
 #include "Help/HelpCommands.h"
+#include "Model/KeptContent.h"
 #include "Model/ModelFile.h"
 #include "Output/DrawingExport.h"
+#include "Output/DrawingSource.h"
+#include "Recovery/RecoverContent.h"
 #include "Ribbon/CommandTable.h"
 #include "VeskUiQtImpl/DockManagerImpl.h"
 #include "View/SketchView.h"
@@ -72,6 +76,15 @@ void Complain(const std::string& text)
     std::cerr << "sketcher: " << text << std::endl;
 }
 
+Documents::Manners MannersOf(const Options& options)
+{
+    using Manners = Documents::Manners;
+    if (options.task == Options::Task::Replay || qgetenv("VESK_UNATTENDED") == "1")
+        return Manners::Silent;
+    return options.journal.isEmpty() && options.model.isEmpty() ? Manners::Ask
+                                                                : Manners::AskAboutFiles;
+}
+
 /// True if, as far as can be known, the file or a new one of that name can be written.
 bool IsWritable(const QString& path)
 {
@@ -117,7 +130,8 @@ Session::Session(const Options& options)
       m_window(m_workspace, m_input), m_pDocks(std::make_unique<DockManagerImpl>(&m_window)),
       m_output(m_workspace, m_window, RunnerIn(m_window)),
       m_import(m_workspace, m_window, RunnerIn(m_window)),
-      m_settingsApplier(m_settings, m_window, m_input, SharedFile(QStringLiteral("translations")))
+      m_settingsApplier(m_settings, m_window, m_input, SharedFile(QStringLiteral("translations"))),
+      m_clipboard(m_workspace, [this](const QString& text) { m_window.ShowNotice(text); })
 {
     LoadPublishConfig(SharedFile(QStringLiteral("publish.ini")));
     m_host.GetViewManager().AddView(&m_window.GetView());
@@ -137,12 +151,22 @@ Session::Session(const Options& options)
         commands.push_back(std::move(entry));
     for (CommandEntry& entry : m_import.MakeCommands())
         commands.push_back(std::move(entry));
+    commands.push_back(MakeRecoverCommand(m_workspace.sketch));
+    MakeDocuments();
+    for (CommandEntry& entry : MakeDocumentCommands(*m_pDocuments))
+        commands.push_back(std::move(entry));
+    for (CommandEntry& entry : m_clipboard.MakeCommands())
+        commands.push_back(std::move(entry));
+    m_clipboard.SetPicture([](const SketchContent& content) {
+        return MakeSvg(content, [](double) { return true; }).bytes;
+    });
     commands.push_back(m_settingsApplier.MakeCommand());
     for (CommandEntry& entry : MakeHelpCommands(commands, m_window))
         commands.push_back(std::move(entry));
     RegisterCommands(commands);
     for (const CommandEntry& entry : commands)
     {
+        m_captions[entry.id] = entry.caption;
         if (entry.isPossible)
             m_possibilities[entry.id] = entry.isPossible;
     }
@@ -183,6 +207,8 @@ int Session::Run()
     if (isReplay)
         DebugMessageMgr::GetDebugMessageMgr()->SetAttended(false);
     const int code = isReplay ? Replay() : Draw();
+    if (code == ExitUnusableFile)
+        return code;
     return WriteResults() ? code : ExitUnusableFile;
 }
 
@@ -228,17 +254,41 @@ std::string Session::VerifyMark(const MarkRecord& record)
     return actual == record.digest ? std::string() : actual;
 }
 
+void Session::MakeDocuments()
+{
+    const auto run = [this](const Documents::Work& work) {
+        RunInBackground(m_window, m_window.GetProgress(), [&work](WorkProgress& progress) {
+            work([&progress](std::size_t done, std::size_t total) {
+                return progress.Advance(static_cast<double>(done) / static_cast<double>(total));
+            });
+        });
+    };
+    m_pDocuments =
+        std::make_unique<Documents>(m_workspace.sketch, m_window, MannersOf(m_options), run);
+    QObject::connect(m_pDocuments.get(), &Documents::changed, &m_window, [this] {
+        m_window.ShowDocument(m_pDocuments->GetDocument().GetName(), m_pDocuments->IsModified());
+    });
+    QObject::connect(m_pDocuments.get(), &Documents::opened, &m_window,
+                     [this] { m_window.GetView().ZoomAll(); });
+}
+
 /// The journal to replay is read before anything is replaced.
 bool Session::OpenFiles()
 {
     std::string error;
     const QString& source = m_options.GetSource();
+    KeptContent::Get().Forget();
+    KeptContent::Get().SetSource(source);
     bool isDone = m_journal.Reserve(error);
     if (isDone && ((!source.isEmpty() && !ReadJournal(source)) || !OpenLog()))
         return false;
     isDone = isDone && m_journal.Open(error);
     if (!isDone)
         Complain(error);
+    if (!m_journal.GetSecured().isEmpty())
+        m_window.ShowState(QStringLiteral("secured"),
+                           QStringLiteral("原日志未保存，已移入恢复文件夹"),
+                           m_journal.GetSecured());
     return isDone;
 }
 
@@ -301,6 +351,7 @@ void Session::ObeyTerminationRequests()
 {
     m_pTermination = std::make_unique<TerminationRequests>();
     QObject::connect(m_pTermination.get(), &TerminationRequests::requested, &m_window, [this] {
+        m_pDocuments->EndWithoutQuestions();
         m_window.close();
         QCoreApplication::quit();
     });
@@ -315,10 +366,13 @@ int Session::Draw()
                            QStringLiteral("无法写入 %1").arg(LayoutPath()));
     m_pKeeping = std::make_unique<KeepingMonitor>(m_window);
     QObject::connect(&m_window, &MainWindow::closeAccepted, &m_window, [this] { SaveLayout(); });
+    BeginRecovery();
     m_window.showMaximized();
     m_window.GetView().Activate();
     if (!m_options.open.isEmpty())
         QTimer::singleShot(0, &m_window, [this] { Open(); });
+    if (!m_options.document.isEmpty())
+        QTimer::singleShot(0, m_pDocuments.get(), [this] { OpenDocument(); });
     if (!m_options.raiseWarnings.isEmpty())
         m_pWarningRaiser =
             std::make_unique<WarningRaiser>(m_options.raiseWarnings, m_window.GetView());
@@ -340,8 +394,43 @@ void Session::Open()
     m_window.GetView().Activate();
 }
 
+void Session::BeginRecovery()
+{
+    const auto replay = [this](const SessionRecovery::Records& records) {
+        m_records = records;
+        ObeyVersion();
+        const JournalReplayResult result = RepeatInWindow();
+        m_pKeeping->Update();
+        return result;
+    };
+    m_pRecovery =
+        std::make_unique<SessionRecovery>(m_workspace, m_window, m_journal, m_captions, replay);
+    m_pRecovery->Offer(m_options);
+}
+
+/// A drawing file is opened; any other drawing is added to the empty one.
+void Session::OpenDocument()
+{
+    if (IsDxfFile(m_options.document))
+        m_import.Import(m_options.document, m_options.dxfUnit);
+    else
+        m_pDocuments->OpenFile(m_options.document);
+}
+
+/// Reads the document without the window.
+int Session::ReadDocument()
+{
+    DrawingSource source = ReadDrawing(m_options.document, m_options.dxfUnit);
+    if (source.error.empty() && m_workspace.sketch.Restore(std::move(source.content)))
+        return 0;
+    Complain(m_options.document.toStdString() + ": " + source.error);
+    return ExitUnusableFile;
+}
+
 int Session::Replay()
 {
+    if (!m_options.document.isEmpty())
+        return ReadDocument();
     const JournalReplayResult result = Repeat();
     if (!result.failure.empty())
         return ExitNotRepeated;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Clipboard/ClipboardCommands.h"
+#include "Documents/Documents.h"
 #include "KeepingMonitor.h"
 #include "Model/Workspace.h"
 #include "Options.h"
@@ -7,6 +9,7 @@
 #include "Panes/Panes.h"
 #include "ReadingMonitor.h"
 #include "SessionJournal.h"
+#include "SessionRecovery.h"
 #include "Settings/SettingsStore.h"
 #include "SettingsApplier.h"
 #include "SketcherWindow.h"
@@ -51,6 +54,7 @@ public:
     std::string VerifyMark(const vesk::MarkRecord& record) override;
 
 private:
+    void MakeDocuments();
     bool OpenFiles();
     bool OpenLog();
     bool ReadJournal(const QString& path);
@@ -59,8 +63,11 @@ private:
     void SaveLayout();
     void ObeyTerminationRequests();
     int Draw();
+    void OpenDocument();
+    int ReadDocument();
     int Replay();
     void Open();
+    void BeginRecovery();
     vesk::JournalReplayResult Repeat();
     vesk::JournalReplayResult RepeatInWindow();
     QString GoOn(const vesk::JournalReplayResult& result);
@@ -74,6 +81,7 @@ private:
     SessionJournal m_journal;
     std::vector<vesk::JournalRecord> m_records;
     std::map<std::wstring, std::function<bool(const vesk::CommandParameters&)>> m_possibilities;
+    std::map<std::wstring, std::wstring> m_captions;
 
     /// Files not named by an option that could not be written at the end.
     QStringList m_unwritten;
@@ -91,9 +99,12 @@ private:
     ImportCommands m_import;
     SettingsApplier m_settingsApplier;
     std::unique_ptr<Panes> m_pPanes;
+    std::unique_ptr<Documents> m_pDocuments;
+    ClipboardCommands m_clipboard;
     std::unique_ptr<vesk::UiTreeWriter> m_pUiTree;
     std::unique_ptr<WarningRaiser> m_pWarningRaiser;
     ReadingMonitor* m_pReading = nullptr; ///< Set while a drawing is opened; not owned.
     std::unique_ptr<KeepingMonitor> m_pKeeping;
+    std::unique_ptr<SessionRecovery> m_pRecovery;
     std::unique_ptr<vesk::TerminationRequests> m_pTermination;
 };

@@ -1,13 +1,13 @@
 #include "SessionJournal.h"
 
 #include "DataFile.h"
+#include "Model/KeptContent.h"
 #include "Options.h"
+#include "Recovery/UnsavedWork.h"
 
 #include "Journal/JournalManager.h"
 #include "Replay/JournalReplayer.h"
 
-#include <QCoreApplication>
-#include <QDateTime>
 #include <QFileInfo>
 
 using namespace vesk;
@@ -23,19 +23,6 @@ JournalManager& Manager()
     return JournalManager::GetInstance();
 }
 
-/// The path of a file in the user's data folder that does not exist yet.
-QString OwnPath()
-{
-    const QString name =
-        QStringLiteral("journal-%1-%2")
-            .arg(QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMdd-hhmmss")))
-            .arg(QCoreApplication::applicationPid());
-    QString path = DataFile(name + QStringLiteral(".jsonl"));
-    for (int i = 2; QFileInfo::exists(path); ++i)
-        path = DataFile(QStringLiteral("%1-%2.jsonl").arg(name).arg(i));
-    return path;
-}
-
 }
 
 SessionJournal::SessionJournal(const Options& options)
@@ -43,11 +30,17 @@ SessionJournal::SessionJournal(const Options& options)
       m_isContinued(m_isNamed && IsSameFile(m_path, options.GetSource()))
 {
     if (!m_isNamed && options.task != Options::Task::Replay)
-        m_path = OwnPath();
+        m_path = GetFolder().NewPath();
+}
+
+JournalFolder SessionJournal::GetFolder()
+{
+    return JournalFolder(DataFile(QStringLiteral("journals")));
 }
 
 bool SessionJournal::Reserve(std::string& error)
 {
+    KeptContent::Get().SetJournal(m_path);
     return !m_isContinued || Manager().Reserve(m_path.toStdString(), error);
 }
 
@@ -55,7 +48,29 @@ bool SessionJournal::Open(std::string& error)
 {
     if (m_isContinued || m_path.isEmpty())
         return true;
-    return Manager().Open(m_path.toStdString(), error) || !m_isNamed;
+    if (m_isNamed && !SecureReplaced(error))
+        return false;
+    const bool isOpen = Manager().Open(m_path.toStdString(), error);
+    if (!isOpen)
+        KeptContent::Get().SetJournal({});
+    return isOpen || !m_isNamed;
+}
+
+/// The file is locked before it is moved: another program may still be writing it.
+bool SessionJournal::SecureReplaced(std::string& error)
+{
+    if (IsEnded(m_path) || !FindUnsavedWork(m_path).has_value())
+        return true;
+    if (!Manager().Reserve(m_path.toStdString(), error))
+        return false;
+    // A link stays a link.
+    const std::optional<QString> secured =
+        GetFolder().TakeIn(QFileInfo(m_path).canonicalFilePath());
+    if (!secured.has_value())
+        error = m_path.toStdString() + " holds unsaved work, which cannot be moved to " +
+                DataFile(QStringLiteral("journals")).toStdString();
+    m_secured = secured.value_or(QString());
+    return secured.has_value();
 }
 
 QString SessionJournal::GoOn(const JournalReplayResult& result, int lastNumber)
@@ -75,6 +90,7 @@ QString SessionJournal::LeaveForAnother()
     if (!m_isContinued)
         return {};
     *this = SessionJournal(Options());
+    KeptContent::Get().SetJournal(m_path);
     std::string error;
     Manager().MoveTo(m_path.toStdString(), error);
     return m_path;
@@ -86,10 +102,24 @@ QString SessionJournal::StartAnew()
     if (isContinued)
     {
         *this = SessionJournal(Options());
+        KeptContent::Get().SetJournal(m_path);
         Manager().Close();
     }
     Manager().SetVersion(HeaderRecord::CurrentVersion);
     std::string error;
     Manager().Open(m_path.toStdString(), error);
     return isContinued ? m_path : QString();
+}
+
+QString SessionJournal::StartAnother(int version)
+{
+    const QString left = m_path;
+    *this = SessionJournal(Options());
+    std::string error;
+    // Closed in any case: what follows must not be added to the file that was left.
+    Manager().Close();
+    Manager().SetVersion(version);
+    Manager().Open(m_path.toStdString(), error);
+    KeptContent::Get().SetJournal(m_path);
+    return left;
 }

@@ -1,5 +1,9 @@
 #pragma once
 
+#include "Recovery/JournalFolder.h"
+
+#include "Journal/JournalRecord.h"
+
 #include <QString>
 
 #include <string>
@@ -20,13 +24,21 @@ class SessionJournal final
 public:
     explicit SessionJournal(const Options& options);
 
+    /// The folder of the journals that no option names.
+    static JournalFolder GetFolder();
+
     /// Reserves a file that is to be continued for this session before it is read. Returns false if
     /// that fails; `error` then says why in one sentence.
     bool Reserve(std::string& error);
 
     /// Opens any other file. Returns false if a file named by an option cannot be written; the
-    /// session can do without the one in the user's data folder.
+    /// session can do without the one in the user's data folder. Unsaved work in a file that is to
+    /// be replaced is moved to that folder first, or copied; if neither is possible, the file stays
+    /// as it is and this fails.
     bool Open(std::string& error);
+
+    /// Where unsaved work in the file that was replaced is now; empty if there was none.
+    const QString& GetSecured() const { return m_secured; }
 
     /// Call when the records that were read, up to this number, have been replayed. Returns the
     /// same as LeaveForAnother, because a file's numbers may be used up.
@@ -40,6 +52,10 @@ public:
     /// LeaveForAnother.
     QString StartAnew();
 
+    /// Leaves the file in use as it is and begins another, for records of that version. Returns the
+    /// path of the one that was left.
+    QString StartAnother(int version = vesk::HeaderRecord::CurrentVersion);
+
     /// Whether an option named the file.
     bool IsNamed() const { return m_isNamed; }
 
@@ -47,7 +63,10 @@ public:
     const QString& GetPath() const { return m_path; }
 
 private:
+    bool SecureReplaced(std::string& error);
+
     QString m_path; ///< Empty if a replay writes none.
     bool m_isNamed;
     bool m_isContinued; ///< Whether it is also the file that is read.
+    QString m_secured;
 };

@@ -9,6 +9,7 @@
 #include "Ribbon/SnapPanel.h"
 #include "Ribbon/StepTips.h"
 #include "Ribbon/UnitPanel.h"
+#include "View/EntityText.h"
 #include "View/SketchView.h"
 
 #include "Control/CommandButtonDefinition.h"
@@ -21,6 +22,7 @@
 #include "Qtitan/RibbonPage.h"
 
 #include <QIcon>
+#include <QLabel>
 #include <QShortcut>
 #include <QStatusBar>
 #include <QToolButton>
@@ -56,11 +58,12 @@ OwnerPtr<CommandButtonDefinition> MakeDefinition(const CommandEntry& entry)
 
 SketcherWindow::SketcherWindow(Workspace& workspace, DimensionInputController& input)
     : m_workspace(workspace), m_pView(new SketchView(workspace, input, this)),
-      m_ribbonFocus(*GetRibbon(), *m_pView, input)
+      m_ribbonFocus(*GetRibbon(), *m_pView, input), m_pPointed(new QLabel)
 {
     LoadIcons();
     setWindowIcon(QIcon(QStringLiteral(":/icons/sketcher.svg")));
     SetDrawingView(m_pView);
+    BuildPointedText();
     resize(1200, 800);
     connect(&workspace.sketch, &Sketch::changed, this, &SketcherWindow::OnSketchChanged);
     OnSketchChanged();
@@ -97,6 +100,13 @@ void SketcherWindow::ChooseUnit(const std::wstring& symbol)
 {
     if (m_pUnits != nullptr)
         m_pUnits->Choose(symbol);
+}
+
+void SketcherWindow::ShowDocument(const QString& name, bool isModified)
+{
+    m_documentName = name;
+    OnSketchChanged();
+    setWindowModified(isModified);
 }
 
 void SketcherWindow::ReleaseControls()
@@ -161,9 +171,9 @@ QToolButton* SketcherWindow::AddMenu(OwnerPtr<CommandButtonMenuDefinition> opDef
 
 void SketcherWindow::BuildPanels(Qtitan::RibbonPage& page, ControlHost& controls)
 {
-    m_panels.push_back(
-        std::make_unique<PenPanel>(m_workspace, *page.addGroup(QStringLiteral("线条")), controls));
+    Qtitan::RibbonGroup* pLines = page.addGroup(QStringLiteral("线条"));
     Qtitan::RibbonGroup* pDrafting = page.addGroup(QStringLiteral("绘图设置"));
+    m_panels.push_back(std::make_unique<PenPanel>(m_workspace, *pLines, *pDrafting, controls));
     auto pSnaps = std::make_unique<SnapPanel>(m_workspace.snapper, *pDrafting, controls);
     m_pSnaps = pSnaps.get();
     m_panels.push_back(std::move(pSnaps));
@@ -189,7 +199,27 @@ void SketcherWindow::BuildProgress(ControlHost& controls)
     m_pProgress = pProgress;
 }
 
+void SketcherWindow::BuildPointedText()
+{
+    m_pPointed->setObjectName(QStringLiteral("Pointed"));
+    // The window does not grow for it.
+    m_pPointed->setMinimumWidth(1);
+    statusBar()->insertPermanentWidget(1, m_pPointed);
+    connect(m_pView, &SketchView::pointedChanged, this, &SketcherWindow::ShowPointed);
+    connect(this, &SketcherWindow::unitChanged, this, &SketcherWindow::ShowPointed);
+}
+
+void SketcherWindow::ShowPointed()
+{
+    const Entity* pEntity = m_workspace.sketch.Find(m_pView->GetPointed());
+    m_pPointed->setText(pEntity != nullptr ? DescribeEntity(*pEntity) : QString());
+}
+
 void SketcherWindow::OnSketchChanged()
 {
-    setWindowTitle(QStringLiteral("%1 - Sketcher").arg(ToQString(m_workspace.sketch.GetName())));
+    QString name =
+        m_documentName.isEmpty() ? ToQString(m_workspace.sketch.GetName()) : m_documentName;
+    // A name that looks like the place of the mark is not one.
+    name.replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
+    setWindowTitle(name + QStringLiteral("[*] - Sketcher"));
 }

@@ -11,6 +11,7 @@
 #include <vector>
 
 class ContextMenu;
+class QLabel;
 class QToolButton;
 class SketchView;
 class SnapPanel;
@@ -61,6 +62,9 @@ public:
     void ChooseSnaps(const std::array<bool, Snapper::KindCount>& snaps);
     void ChooseUnit(const std::wstring& symbol);
 
+    /// Shows the name of the file that the drawing is in; without one, that of the drawing.
+    void ShowDocument(const QString& name, bool isModified);
+
     /// Drops all references to the controls before they are destroyed.
     void ReleaseControls();
 
@@ -83,11 +87,15 @@ private:
                          Qtitan::RibbonGroup& group, vesk::ControlHost& controls);
     void BuildPanels(Qtitan::RibbonPage& page, vesk::ControlHost& controls);
     void BuildProgress(vesk::ControlHost& controls);
+    void BuildPointedText();
+    void ShowPointed();
     void OnSketchChanged();
 
     Workspace& m_workspace;
     SketchView* m_pView;
     vesk::RibbonFocus m_ribbonFocus;
+    QString m_documentName;
+    QLabel* m_pPointed; ///< What is under the cursor, in the status bar.
     vesk::ProgressBarDefinition* m_pProgress = nullptr;
     QToolButton* m_pPaneButton = nullptr;
     std::unique_ptr<ContextMenu> m_pContextMenu;

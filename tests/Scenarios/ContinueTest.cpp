@@ -300,7 +300,7 @@ private:
     /// Journals in the user's data folder.
     QStringList OtherJournals() const
     {
-        const QDir folder(m_pFixture->File("data/sketcher"));
+        const QDir folder(m_pFixture->File("data/sketcher/journals"));
         QStringList paths;
         for (const QString& name : folder.entryList({"*.jsonl"}))
             paths << folder.filePath(name);

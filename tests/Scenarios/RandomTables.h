@@ -39,7 +39,7 @@ constexpr const char* Settings[] = {
     "Sketcher.Unit.inch",
 };
 
-constexpr const char* Pens[] = {"Sketcher.LineStyle", "Sketcher.LineColour"};
+constexpr const char* Pens[] = {"Sketcher.LineStyle", "Sketcher.LineColour", "Sketcher.LineWidth"};
 
 constexpr const char* PaneCommands[] = {"Sketcher.HideAllPanes", "Sketcher.DefaultLayout"};
 

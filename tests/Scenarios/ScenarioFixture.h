@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Options.h"
-#include "ScopedVariable.h"
+#include "Support/ScopedVariable.h"
 #include "Warnings/DebugMessageMgr.h"
 
 #include <QString>

@@ -21,6 +21,7 @@
 #include "Support/WarningRecorder.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QFile>
 #include <QLabel>
 #include <QMenu>
@@ -202,11 +203,11 @@ private slots:
     void theTitleIsTheDrawingsName()
     {
         Fixture f;
-        QCOMPARE(f.window.windowTitle(), QStringLiteral("未命名 - Sketcher"));
+        QCOMPARE(f.window.windowTitle(), QStringLiteral("未命名[*] - Sketcher"));
 
         f.workspace.sketch.SetName(L"plan");
 
-        QCOMPARE(f.window.windowTitle(), QStringLiteral("plan - Sketcher"));
+        QCOMPARE(f.window.windowTitle(), QStringLiteral("plan[*] - Sketcher"));
     }
 
     void theWindowHasItsSizeAndIcon()
@@ -357,6 +358,10 @@ private slots:
                                << "Sketcher.LineStyle";
         QTest::newRow("colour") << "线条"
                                 << "Sketcher.LineColour";
+        QTest::newRow("width") << "线条"
+                               << "Sketcher.LineWidth";
+        QTest::newRow("layer") << "绘图设置"
+                               << "Sketcher.Layer";
         QTest::newRow("snaps") << "绘图设置"
                                << "Sketcher.Snap.Grid";
         QTest::newRow("units") << "绘图设置"
@@ -398,6 +403,51 @@ private slots:
         QCOMPARE(units.count(), 1);
         QCOMPARE(cursors.count(), 1);
         QCOMPARE(&LengthUnit::GetCurrent(), &LengthUnit::Centimetre());
+    }
+
+    void unitAndSnapsCanBeChosenByTheProgram()
+    {
+        Fixture f;
+
+        f.window.ChooseUnit(L"inch");
+        f.window.ChooseSnaps({false, true, false, false, true});
+
+        QVERIFY(f.window.findChild<QRadioButton*>("Sketcher.Unit.inch")->isChecked());
+        QCOMPARE(&LengthUnit::GetCurrent(), &LengthUnit::Inch());
+        QVERIFY(!f.window.findChild<QCheckBox*>("Sketcher.Snap.End")->isChecked());
+        QVERIFY(f.window.findChild<QCheckBox*>("Sketcher.Snap.Grid")->isChecked());
+        QVERIFY(!f.workspace.snapper.IsOn(Snapper::End));
+        QVERIFY(f.workspace.snapper.IsOn(Snapper::Middle));
+        QVERIFY(f.workspace.snapper.IsOn(Snapper::Grid));
+    }
+
+    void anUnknownUnitIsNotChosen()
+    {
+        Fixture f;
+
+        f.window.ChooseUnit(L"mile");
+
+        QCOMPARE(&LengthUnit::GetCurrent(), &LengthUnit::Millimetre());
+    }
+
+    void whatIsUnderTheCursorIsDescribed()
+    {
+        Fixture f;
+        SketchView& view = f.window.GetView();
+        const auto* pText = f.window.statusBar()->findChild<QLabel*>("Pointed");
+        f.workspace.sketch.AddLine({-500, 0, 0}, {500, 0, 0});
+        QCOMPARE(pText->text(), QString());
+
+        QMouseEvent move(QEvent::MouseMove, QRectF(view.rect()).center(), Qt::NoButton,
+                         Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&view, &move);
+        QCOMPARE(pText->text(), QStringLiteral("直线 #1：长度 1000.000 mm，角度 0.00°"));
+
+        f.window.ChooseUnit(L"m");
+        QCOMPARE(pText->text(), QStringLiteral("直线 #1：长度 1.000 m，角度 0.00°"));
+
+        f.workspace.sketch.Erase(1);
+        QCOMPARE(pText->text(), QString());
     }
 
     void theProgressIsHiddenUntilSomethingIsRead()

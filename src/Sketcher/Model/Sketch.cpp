@@ -12,6 +12,7 @@
 #include <cstddef>
 #include <limits>
 #include <memory>
+#include <set>
 #include <utility>
 
 namespace
@@ -107,7 +108,7 @@ std::vector<int> Sketch::Insert(const SketchContent& content, const std::wstring
     if (!IsValid(content) || content.layers.size() > freeLayerIds)
         return {};
     SketchChange change;
-    const std::map<int, int> layerIds = MatchLayers(content.layers, change);
+    const std::map<int, int> layerIds = MatchLayers(content, change);
     std::vector<PenShape> shapes;
     for (const Entity& entity : content.entities)
     {
@@ -120,15 +121,18 @@ std::vector<int> Sketch::Insert(const SketchContent& content, const std::wstring
     return ids;
 }
 
-/// The layers of this drawing for those of another, by their ids there; notes in the change which
-/// are to be added.
-std::map<int, int> Sketch::MatchLayers(const std::vector<Layer>& layers, SketchChange& change) const
+/// The layers of this drawing for those with entities of another, by their ids there; notes in the
+/// change which are to be added.
+std::map<int, int> Sketch::MatchLayers(const SketchContent& content, SketchChange& change) const
 {
+    std::set<int> used;
+    for (const Entity& entity : content.entities)
+        used.insert(entity.pen.layer);
     std::map<int, int> ids;
     int lastId = m_content.lastLayerId;
-    for (Layer layer : layers)
+    for (const int otherId : used)
     {
-        const int otherId = layer.id;
+        Layer layer = *FindById(content.layers, otherId);
         const auto own = FindLayerNamed(layer.name);
         layer.id = own != nullptr ? own->id : ++lastId;
         if (own == nullptr)

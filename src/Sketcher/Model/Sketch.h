@@ -139,7 +139,7 @@ private:
 
     bool AreChangeable(const std::vector<int>& ids) const;
     const Layer* FindLayerNamed(const std::wstring& name) const;
-    std::map<int, int> MatchLayers(const std::vector<Layer>& layers, SketchChange& change) const;
+    std::map<int, int> MatchLayers(const SketchContent& content, SketchChange& change) const;
     std::vector<int> AddEntities(const std::vector<PenShape>& shapes, SketchChange change,
                                  const std::wstring& stepName);
     void Push(SketchChange change, int entityId, const std::wstring& stepName);

@@ -91,15 +91,18 @@ QString DescribeRecord(const JournalRecord& record)
             },
             [](const UndoRecord& undo) { return QStringLiteral("撤销 #%1").arg(undo.entity); },
             [](const RedoRecord& redo) { return QStringLiteral("重做 #%1").arg(redo.entity); },
+            [](const MarkRecord& mark) {
+                return QStringLiteral("图纸 %1").arg(
+                    Shortened(QString::fromStdString(mark.digest).left(8)));
+            },
+            [](const CloseRecord&) { return QStringLiteral("程序结束"); },
+            [](const HeaderRecord& header) {
+                return QStringLiteral("日志 %1  %2")
+                    .arg(Shortened(ToQString(header.program)), Shortened(ToQString(header.time)));
+            },
             [](const EndRecord& end) {
                 return end.isRefused ? QStringLiteral("未执行") : QStringLiteral("结束");
             },
-            [](const HeaderRecord&) { return QStringLiteral("日志开始"); },
-            [](const MarkRecord& mark) {
-                return QStringLiteral("完成 %1").arg(
-                    QString::fromStdString(mark.digest.substr(0, 8)));
-            },
-            [](const CloseRecord&) { return QStringLiteral("正常结束"); },
         },
         record.what);
     return QStringLiteral("%1  %2").arg(record.number, 5).arg(text);

@@ -58,12 +58,13 @@ struct CommandEntry
     std::wstring group; ///< The ribbon group that holds its button; empty for none.
     std::wstring menu;  ///< The menu or sub-menu that holds an entry for it; empty for none.
     std::wstring keys;  ///< Shortcut of the button, such as "Ctrl+Z".
-    std::wstring otherKeys;
 
     vesk::Command::Kind kind = vesk::Command::Kind::Plain;
     vesk::Command::Execution execute;
     vesk::Command::Condition isEnabled; ///< If empty, the command is always enabled.
-    std::function<bool(const vesk::CommandParameters&)> isPossible; ///< If empty, always.
+
+    std::wstring otherKeys = {}; ///< Another shortcut of the button.
+    std::function<bool(const vesk::CommandParameters&)> isPossible = {}; ///< If empty, always.
 
     bool isOnStartPage = false; ///< Whether its group is on the page 开始 instead of 草图.
 };

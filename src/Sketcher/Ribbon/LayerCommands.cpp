@@ -4,7 +4,6 @@
 #include "Model/Sketch.h"
 
 #include "Command/ActionManager.h"
-#include "Command/IAction.h"
 
 #include <optional>
 
@@ -17,16 +16,16 @@ namespace
 template <class Edit>
 CommandEntry MakeLayerCommand(const std::wstring& caption, Sketch& sketch)
 {
-    CommandEntry entry;
-    entry.id = Edit::CommandId;
-    entry.caption = caption;
-    entry.execute = [&sketch](IUiView*, const CommandParameters& parameters) -> OwnerPtr<IAction> {
-        const std::optional<Edit> edit = Edit::From(parameters);
-        if (edit.has_value() && edit->Apply(sketch))
-            ActionManager::StepDone();
-        return nullptr;
-    };
-    return entry;
+    return CommandEntry::WithParameters(Edit::CommandId, caption,
+                                        [&sketch](const CommandParameters& parameters) {
+                                            const std::optional<Edit> edit = Edit::From(parameters);
+                                            if (edit.has_value() && edit->Apply(sketch))
+                                                ActionManager::StepDone();
+                                        })
+        .PossibleWith([&sketch](const CommandParameters& parameters) {
+            const std::optional<Edit> edit = Edit::From(parameters);
+            return edit.has_value() && edit->IsPossible(sketch);
+        });
 }
 
 }

@@ -28,16 +28,17 @@ constexpr BoxText PartTexts[] = {{L"Sketcher.LineStyle", "线型"},
 
 }
 
-PenPanel::PenPanel(Workspace& workspace, Qtitan::RibbonGroup& group, ControlHost& controls)
+PenPanel::PenPanel(Workspace& workspace, Qtitan::RibbonGroup& penGroup,
+                   Qtitan::RibbonGroup& layerGroup, ControlHost& controls)
     : m_workspace(workspace)
 {
     for (std::size_t i = 0; i < PenParts().size(); ++i)
     {
         const PenPart& part = PenParts()[i];
         AddBox({part.name, part.member, ChoicesOf(part), nullptr}, PartTexts[i].id,
-               PartTexts[i].label, group, controls);
+               PartTexts[i].label, penGroup, controls);
     }
-    AddBox({L"layer", &Pen::layer, LayerChoices(), nullptr}, L"Sketcher.Layer", "图层", group,
+    AddBox({L"layer", &Pen::layer, LayerChoices(), nullptr}, L"Sketcher.Layer", "图层", layerGroup,
            controls);
     connect(&workspace.sketch, &Sketch::changed, this, &PenPanel::Show);
     connect(&workspace.selection, &Selection::changed, this, &PenPanel::Show);

@@ -31,8 +31,10 @@ class PenPanel final : public QObject, public vesk::IControlDefinitionChangeEven
     Q_OBJECT
 
 public:
-    /// The arguments are not owned; the control host outlives the panel.
-    PenPanel(Workspace& workspace, Qtitan::RibbonGroup& group, vesk::ControlHost& controls);
+    /// The layer is in a group of its own, or in the same. The arguments are not owned; the control
+    /// host outlives the panel.
+    PenPanel(Workspace& workspace, Qtitan::RibbonGroup& penGroup, Qtitan::RibbonGroup& layerGroup,
+             vesk::ControlHost& controls);
     ~PenPanel() override;
 
     void On(vesk::IControlDefinitionChangeEventArgs* pArgs) override;

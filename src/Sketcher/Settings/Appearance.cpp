@@ -1,7 +1,6 @@
 #include "Settings/Appearance.h"
 
 #include <QApplication>
-#include <QPalette>
 #include <QStyle>
 #include <QToolTip>
 
@@ -71,7 +70,9 @@ QPalette ToPalette(const ColourScheme& scheme)
 
 }
 
-Appearance::Appearance() : m_desktopStyle(QApplication::style()->objectName()) {}
+Appearance::Appearance()
+    : m_desktopStyle(QApplication::style()->objectName()), m_desktopToolTips(QToolTip::palette())
+{}
 
 Appearance::~Appearance()
 {
@@ -88,7 +89,7 @@ void Appearance::Set(Settings::Colours colours)
         SetStyle(m_desktopStyle);
         // A palette that sets nothing gives way to the desktop's.
         QApplication::setPalette(QPalette());
-        QToolTip::setPalette(QPalette());
+        QToolTip::setPalette(m_desktopToolTips);
         return;
     }
     SetStyle(QStringLiteral("fusion"));

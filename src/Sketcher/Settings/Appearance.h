@@ -2,6 +2,7 @@
 
 #include "Settings/Settings.h"
 
+#include <QPalette>
 #include <QString>
 
 /// The colours of all windows of the program. Restores those of the desktop when it is destroyed.
@@ -21,5 +22,6 @@ private:
     void SetStyle(const QString& name);
 
     const QString m_desktopStyle;
+    const QPalette m_desktopToolTips;
     Settings::Colours m_colours = Settings::Colours::Desktop;
 };

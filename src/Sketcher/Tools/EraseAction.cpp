@@ -46,3 +46,8 @@ bool EraseAction::ReplayPoint(const Vector3d& world, const std::optional<int>& e
     JournalManager::GetInstance().Add(PointRecord{world, entity});
     return true;
 }
+
+IPickingTool::Click EraseAction::GetClick() const
+{
+    return m_hovered != 0 ? Click::PicksEntity : Click::DoesNothing;
+}

@@ -1,12 +1,14 @@
 #pragma once
 
+#include "Model/PickingTool.h"
+
 #include "Command/IAction.h"
 
 class Sketch;
 struct Workspace;
 
 /// Erases each entity that is picked, until the user ends it.
-class EraseAction final : public vesk::IAction
+class EraseAction final : public vesk::IAction, public IPickingTool
 {
 public:
     /// The workspace is not owned and outlives the action.
@@ -18,6 +20,7 @@ public:
     void OnClick(const vesk::Vector3d& world) override;
     vesk::OwnerPtr<vesk::IGraphicsNodeGroup> CreateRubberBand() const override;
     bool ReplayPoint(const vesk::Vector3d& world, const std::optional<int>& entity) override;
+    Click GetClick() const override;
 
 private:
     Sketch& m_sketch;

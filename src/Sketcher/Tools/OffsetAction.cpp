@@ -97,6 +97,13 @@ OwnerPtr<IGraphicsNodeGroup> OffsetAction::CreateRubberBand() const
 }
 
 /// The point of the source that faces the cursor.
+IPickingTool::Click OffsetAction::GetClick() const
+{
+    if (GetSource() != nullptr)
+        return Click::SetsPoint;
+    return m_hovered != 0 ? Click::PicksEntity : Click::DoesNothing;
+}
+
 std::optional<Vector3d> OffsetAction::GetStart() const
 {
     const Entity* pSource = GetSource();

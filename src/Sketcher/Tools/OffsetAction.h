@@ -2,6 +2,7 @@
 
 #include "Tools/DrawingAction.h"
 
+#include "Model/PickingTool.h"
 #include "Model/Shape.h"
 
 struct Entity;
@@ -9,7 +10,7 @@ struct Entity;
 /// Draws parallels of entities, one after the other, until the user ends it: an entity is clicked,
 /// then a point through which its parallel goes, or its distance is typed and the cursor gives the
 /// side. Each parallel is one undo step and has the entity's pen.
-class OffsetAction final : public DrawingAction
+class OffsetAction final : public DrawingAction, public IPickingTool
 {
 public:
     /// The workspace is not owned and outlives the action.
@@ -23,6 +24,7 @@ public:
     bool ReplayPoint(const vesk::Vector3d& world, const std::optional<int>& entity) override;
     vesk::OwnerPtr<vesk::ITemporaryDimensionContext> CreateDimensionContext() const override;
     vesk::OwnerPtr<vesk::IGraphicsNodeGroup> CreateRubberBand() const override;
+    Click GetClick() const override;
 
 protected:
     std::optional<vesk::Vector3d> GetStart() const override;

@@ -79,6 +79,13 @@ OwnerPtr<IGraphicsNodeGroup> SelectionAction::CreateRubberBand() const
     return opGroup;
 }
 
+IPickingTool::Click SelectionAction::GetClick() const
+{
+    if (m_hovered != 0)
+        return Click::PicksEntity;
+    return IsNothingSelected() ? Click::DoesNothing : Click::SetsPoint;
+}
+
 bool SelectionAction::IsNothingSelected() const
 {
     return GetWorkspace().selection.IsEmpty();

@@ -2,6 +2,7 @@
 
 #include "Tools/DrawingAction.h"
 
+#include "Model/PickingTool.h"
 #include "Model/Shape.h"
 
 #include <functional>
@@ -18,7 +19,7 @@ class IGraphicsNodeGroup;
 ///
 /// With nothing selected it first selects entities: each clicked entity is added, until a click
 /// elsewhere is the first point.
-class SelectionAction : public DrawingAction
+class SelectionAction : public DrawingAction, public IPickingTool
 {
 public:
     std::wstring GetViewText() const override;
@@ -27,6 +28,7 @@ public:
     void OnClick(const vesk::Vector3d& world) override;
     bool ReplayPoint(const vesk::Vector3d& world, const std::optional<int>& entity) override;
     vesk::OwnerPtr<vesk::IGraphicsNodeGroup> CreateRubberBand() const override;
+    Click GetClick() const override;
 
 protected:
     /// The texts are shown to the user: the name of the action, and what its first point is. The

@@ -2,6 +2,7 @@
 
 #include "Model/Grid.h"
 #include "Model/Picking.h"
+#include "Model/PickingTool.h"
 #include "Model/SketchBounds.h"
 #include "Model/SnapPoints.h"
 #include "Model/Workspace.h"
@@ -9,6 +10,7 @@
 #include "View/ShapePainter.h"
 #include "View/SnapMarker.h"
 
+#include "Command/IAction.h"
 #include "Command/IActionManager.h"
 
 #include <QContextMenuEvent>
@@ -43,12 +45,27 @@ SketchView::SketchView(Workspace& workspace, vesk::DimensionInputController& inp
     qApp->installEventFilter(this);
     connect(&workspace.sketch, &Sketch::changed, this, &SketchView::UpdateModel);
     connect(&workspace.selection, &Selection::changed, this, &SketchView::UpdateModel);
+    connect(&workspace.sketch, &Sketch::changed, this, &SketchView::TellCursor);
+    connect(this, &DrawingView::cursorMoved, this, &SketchView::OnCursorMoved);
+    connect(this, &DrawingView::cursorLeft, this, [this] { SetPointed(0); });
+    vesk::ActionManager::AddObserver(this);
+    UpdateCursor();
+}
+
+SketchView::~SketchView()
+{
+    vesk::ActionManager::RemoveObserver(this);
 }
 
 void SketchView::ZoomAll()
 {
     if (const std::optional<ShapeBounds> all = BoundsOf(m_workspace.sketch))
         Fit(all->low, all->high);
+}
+
+void SketchView::OnActionChanged()
+{
+    UpdateCursor();
 }
 
 void SketchView::PaintModel(QPainter& painter)
@@ -78,6 +95,24 @@ void SketchView::OnFreeEscape()
         DropPress();
     else
         m_workspace.selection.Select({});
+}
+
+QCursor SketchView::GetRestingCursor() const
+{
+    using Click = IPickingTool::Click;
+    const vesk::IAction* pAction = IActionManager::CurrentAction();
+    if (pAction == nullptr)
+        return m_pointed != 0 && !m_mouse.IsPressed() ? Qt::PointingHandCursor : Qt::ArrowCursor;
+    const auto* pTool = dynamic_cast<const IPickingTool*>(pAction);
+    switch (pTool != nullptr ? pTool->GetClick() : Click::SetsPoint)
+    {
+    case Click::PicksEntity:
+        return Qt::PointingHandCursor;
+    case Click::DoesNothing:
+        return Qt::ForbiddenCursor;
+    default:
+        return Qt::CrossCursor;
+    }
 }
 
 void SketchView::OnFreeConfirm()
@@ -112,6 +147,7 @@ void SketchView::mouseMoveEvent(QMouseEvent* pEvent)
 {
     m_workspace.isDirectionHeld = pEvent->modifiers().testFlag(Qt::ShiftModifier);
     DrawingView::mouseMoveEvent(pEvent);
+    UpdateCursor();
     if (!m_mouse.IsPressed())
         return;
     // The release may have gone elsewhere, or a command may have begun in the meantime.
@@ -138,6 +174,19 @@ void SketchView::mouseReleaseEvent(QMouseEvent* pEvent)
     if (IActionManager::CurrentAction() == nullptr)
         m_mouse.Release(GetCamera().ScreenToWorld(pEvent->localPos().x(), pEvent->localPos().y()));
     DropPress();
+}
+
+void SketchView::OnCursorMoved(double x, double y)
+{
+    SetPointed(PickEntity(m_workspace.sketch, {x, y, 0.0}, this));
+}
+
+void SketchView::SetPointed(int entity)
+{
+    // The same entity may have other dimensions.
+    m_pointed = entity;
+    UpdateCursor();
+    emit pointedChanged();
 }
 
 void SketchView::DropPress()

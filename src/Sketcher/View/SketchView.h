@@ -2,6 +2,7 @@
 
 #include "View/MouseSelection.h"
 
+#include "Command/ActionManager.h"
 #include "HostUi/DrawingView.h"
 
 struct Entity;
@@ -10,18 +11,30 @@ struct Workspace;
 /// Shows the drawing over a grid. With no action running the mouse selects; Escape cancels a drag,
 /// else it clears the selection. While the mouse moves with Shift, directions are held to multiples
 /// of 15 degrees.
-class SketchView final : public vesk::DrawingView
+///
+/// The cursor says what a click does: a hand picks the entity below it, a cross sets a point, an
+/// arrow begins a box, and a forbidding sign does nothing.
+class SketchView final : public vesk::DrawingView, public vesk::IActionObserver
 {
     Q_OBJECT
 
 public:
     /// Workspace and controller are not owned and outlive the view.
     SketchView(Workspace& workspace, vesk::DimensionInputController& input, QWidget* pParent);
+    ~SketchView() override;
 
     /// Shows all that is visible of the drawing.
     void ZoomAll();
 
+    /// The entity under the cursor that could be picked; 0 if there is none.
+    int GetPointed() const { return m_pointed; }
+
+    void OnActionChanged() override;
+
 signals:
+    /// The cursor points at another entity, or that entity has changed.
+    void pointedChanged();
+
     /// With no action running: the user wants the last tool again, or the menu of what is selected,
     /// at a point of the screen.
     void repeatRequested();
@@ -33,6 +46,7 @@ protected:
     void OnFreeClick(const vesk::Vector3d& world, Qt::KeyboardModifiers modifiers) override;
     void OnFreeEscape() override;
     void OnFreeConfirm() override;
+    QCursor GetRestingCursor() const override;
 
     void contextMenuEvent(QContextMenuEvent* pEvent) override;
     bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
@@ -41,6 +55,8 @@ protected:
     void mouseReleaseEvent(QMouseEvent* pEvent) override;
 
 private:
+    void OnCursorMoved(double x, double y);
+    void SetPointed(int entity);
     void DropPress();
     void SelectBelow(const QPoint& pixel);
     void PaintGrid(QPainter& painter) const;
@@ -53,4 +69,5 @@ private:
     Workspace& m_workspace;
 
     MouseSelection m_mouse;
+    int m_pointed = 0;
 };

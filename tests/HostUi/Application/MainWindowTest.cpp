@@ -106,8 +106,28 @@ private slots:
         Fixture f;
         const PlainView* pView = f.AddView();
 
-        QCOMPARE(f.window.menuWidget(), static_cast<QWidget*>(f.window.GetRibbon()));
+        QCOMPARE(f.window.GetRibbon()->parentWidget(), f.window.menuWidget());
         QCOMPARE(f.window.centralWidget(), static_cast<const QWidget*>(pView));
+    }
+
+    void aBarStandsBetweenRibbonAndView()
+    {
+        Fixture f;
+        const PlainView* pView = f.AddView();
+        auto* pBar = new QLabel("bar");
+        f.window.resize(800, 600);
+        f.window.show();
+
+        f.window.AddBar(pBar);
+
+        QTRY_VERIFY(pBar->isVisible());
+        const auto top = [&f](const QWidget* pWidget) {
+            return pWidget->mapTo(&f.window, QPoint(0, 0)).y();
+        };
+        QTRY_VERIFY(top(f.window.GetRibbon()) + f.window.GetRibbon()->height() <= top(pBar));
+        QTRY_VERIFY(top(pBar) + pBar->height() <= top(pView));
+        delete pBar;
+        QTRY_VERIFY(top(f.window.GetRibbon()) + f.window.GetRibbon()->height() >= top(pView) - 1);
     }
 
     void theStatusBarIsInItsOrder()

@@ -5,7 +5,7 @@
 
 #include "Command/IAction.h"
 
-#include <QApplication>
+#include <QDialog>
 #include <QTextBrowser>
 
 using namespace vesk;

@@ -1,5 +1,6 @@
 #include "Model/Picking.h"
 
+#include "Model/AreaSelection.h"
 #include "Model/Sketch.h"
 #include "Support/TestValues.h"
 #include "Support/TestView.h"
@@ -9,6 +10,37 @@ class PickingTest final : public QObject
     Q_OBJECT
 
 private slots:
+    void whatLayersForbidIsNotPicked_data()
+    {
+        QTest::addColumn<bool>("isVisible");
+        QTest::addColumn<bool>("isLocked");
+
+        QTest::newRow("hidden") << false << false;
+        QTest::newRow("locked") << true << true;
+    }
+
+    void whatLayersForbidIsNotPicked()
+    {
+        QFETCH(bool, isVisible);
+        QFETCH(bool, isLocked);
+        Sketch sketch;
+        vesk::test::TestView view{1, nullptr};
+        const int far = sketch.AddLine({0, 5, 0}, {40, 5, 0});
+        const int layer = sketch.AddLayer(L"walls");
+        sketch.SetCurrentPen(&Pen::layer, layer);
+        sketch.AddLine({0, 0, 0}, {40, 0, 0});
+
+        Layer changed = *sketch.FindLayer(layer);
+        changed.isVisible = isVisible;
+        changed.isLocked = isLocked;
+        sketch.SetLayer(changed);
+
+        QCOMPARE(PickEntity(sketch, {20, 0, 0}, &view), far);
+        const Area area = Area::Between({-1, -1, 0}, {41, 9, 0});
+        QCOMPARE(FindInArea(sketch, area, AreaRule::Holds), std::vector<int>{far});
+        QCOMPARE(FindInArea(sketch, area, AreaRule::Touches), std::vector<int>{far});
+    }
+
     void theNearestWithinReachIsPicked()
     {
         Sketch sketch;

@@ -11,6 +11,25 @@ class PolarTest final : public QObject
     Q_OBJECT
 
 private slots:
+    void heldAnglesAreMultiplesOf15Degrees_data()
+    {
+        QTest::addColumn<double>("degrees");
+        QTest::addColumn<double>("held");
+
+        QTest::newRow("0") << 7.4 << 0.0;
+        QTest::newRow("15") << 7.6 << 15.0;
+        QTest::newRow("-75") << -70.0 << -75.0;
+        QTest::newRow("180") << 179.0 << 180.0;
+        QTest::newRow("180 from below") << -179.0 << 180.0;
+    }
+
+    void heldAnglesAreMultiplesOf15Degrees()
+    {
+        QFETCH(double, degrees);
+
+        QTEST(HeldAngle(degrees), "held");
+    }
+
     void quarterTurnsAreExact_data()
     {
         QTest::addColumn<double>("degrees");

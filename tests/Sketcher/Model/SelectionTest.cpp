@@ -34,6 +34,37 @@ class SelectionTest final : public QObject
     Q_OBJECT
 
 private slots:
+    void whatLayersForbidIsNotSelected_data()
+    {
+        QTest::addColumn<bool>("isVisible");
+        QTest::addColumn<bool>("isLocked");
+
+        QTest::newRow("hidden") << false << false;
+        QTest::newRow("locked") << true << true;
+    }
+
+    void whatLayersForbidIsNotSelected()
+    {
+        QFETCH(bool, isVisible);
+        QFETCH(bool, isLocked);
+        Sketch sketch;
+        const int free = sketch.AddLine({0, 0, 0}, {1, 0, 0});
+        const int layer = sketch.AddLayer(L"walls");
+        sketch.SetCurrentPen(&Pen::layer, layer);
+        const int wall = sketch.AddLine({0, 0, 0}, {2, 0, 0});
+        Selection selection(sketch);
+        selection.Select({wall, free});
+
+        Layer changed = *sketch.FindLayer(layer);
+        changed.isVisible = isVisible;
+        changed.isLocked = isLocked;
+        sketch.SetLayer(changed);
+
+        QCOMPARE(selection.GetIds(), std::vector<int>{free});
+        QVERIFY(!selection.Select({free, wall}));
+        QCOMPARE(selection.GetIds(), std::vector<int>{free});
+    }
+
     void nothingIsSelectedAtFirst()
     {
         const Fixture f;

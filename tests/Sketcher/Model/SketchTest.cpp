@@ -482,6 +482,23 @@ private slots:
         QCOMPARE(sketch.GetDigest(), digest);
     }
 
+    void layersWithoutEntitiesAreNotInserted()
+    {
+        Sketch other;
+        Layer base = other.GetLayers().front();
+        base.name = L"base of the other";
+        other.SetLayer(base);
+        other.SetCurrentPen(&Pen::layer, other.AddLayer(L"walls"));
+        other.AddLayer(L"axes");
+        other.AddLine({0, 0, 0}, {1, 0, 0});
+        Sketch sketch;
+
+        QCOMPARE(sketch.Insert(other.GetContent(), L"粘贴"), Ids{1});
+
+        QCOMPARE(sketch.GetLayers().size(), std::size_t{2});
+        QCOMPARE(sketch.GetLayers().back().name, std::wstring(L"walls"));
+    }
+
     void whatIsNoDrawingIsNotInserted()
     {
         Sketch sketch;

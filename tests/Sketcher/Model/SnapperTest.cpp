@@ -38,6 +38,37 @@ class SnapperTest final : public QObject
     Q_OBJECT
 
 private slots:
+    void hiddenEntitiesGiveNoPoints_data()
+    {
+        QTest::addColumn<bool>("isVisible");
+        QTest::addColumn<bool>("isLocked");
+        QTest::addColumn<bool>("isCaught");
+
+        QTest::newRow("visible") << true << false << true;
+        QTest::newRow("locked") << true << true << true;
+        QTest::newRow("hidden") << false << false << false;
+    }
+
+    void hiddenEntitiesGiveNoPoints()
+    {
+        QFETCH(bool, isVisible);
+        QFETCH(bool, isLocked);
+        Fixture f;
+        const int layer = f.sketch.AddLayer(L"walls");
+        f.sketch.SetCurrentPen(&Pen::layer, layer);
+        f.sketch.Add(CircleShape{{-100, 0, 0}, 30});
+        f.sketch.AddLine({-60, 60, 0}, {-60, 90, 0});
+        Layer changed = *f.sketch.FindLayer(layer);
+        changed.isVisible = isVisible;
+        changed.isLocked = isLocked;
+        f.sketch.SetLayer(changed);
+
+        f.snapper.SetOn(Snapper::Centre, true);
+        QTEST(f.Catch(-101, 0) == Vector3d(-100, 0, 0), "isCaught");
+        f.snapper.SetOn(Snapper::End, true);
+        QTEST(f.Catch(-61, 60) == Vector3d(-60, 60, 0), "isCaught");
+    }
+
     void onlyEndsAreOnAtFirst()
     {
         const Sketch sketch;

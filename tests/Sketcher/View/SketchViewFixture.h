@@ -8,7 +8,9 @@
 #include "Support/HostFixture.h"
 #include "Support/TestValues.h"
 
+#include <QContextMenuEvent>
 #include <QImage>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QSignalSpy>
 
@@ -90,16 +92,32 @@ struct SketchViewFixture
              modifiers);
     }
 
-    void DragTo(double x, double y, Qt::MouseButtons buttons = Qt::LeftButton)
+    void DragTo(double x, double y, Qt::MouseButtons buttons = Qt::LeftButton,
+                Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
-        Send(view, QEvent::MouseMove, PlaceOf(x, y), Qt::NoButton, buttons);
+        Send(view, QEvent::MouseMove, PlaceOf(x, y), Qt::NoButton, buttons, modifiers);
     }
 
-    void MoveTo(double x, double y) { DragTo(x, y, Qt::NoButton); }
+    void MoveTo(double x, double y, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        DragTo(x, y, Qt::NoButton, modifiers);
+    }
 
     void ReleaseAt(double x, double y, Qt::MouseButton button = Qt::LeftButton)
     {
         Send(view, QEvent::MouseButtonRelease, PlaceOf(x, y), button, Qt::NoButton);
+    }
+
+    void Press(Qt::Key key, bool isAutoRepeat = false)
+    {
+        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, QString(), isAutoRepeat);
+        QCoreApplication::sendEvent(&view, &event);
+    }
+
+    void OpenMenuAt(double x, double y)
+    {
+        QContextMenuEvent event(QContextMenuEvent::Mouse, PlaceOf(x, y).toPoint());
+        QCoreApplication::sendEvent(&view, &event);
     }
 
     QImage Picture() { return view.grab().toImage().convertToFormat(QImage::Format_RGB32); }

@@ -246,7 +246,110 @@ private slots:
         f.MoveTo(30, 20);
 
         QCOMPARE(f.view.GetCamera().GetCentre(), Vector3d(0, 0, 0));
-        QCOMPARE(f.view.cursor().shape(), Qt::CrossCursor);
+        QCOMPARE(f.view.cursor().shape(), Qt::ArrowCursor);
+    }
+
+    void theMenuIsAboutWhatIsBelowIt()
+    {
+        SketchViewFixture f;
+        const int first = f.workspace.sketch.AddLine({-40, 20, 0}, {40, 20, 0});
+        const int second = f.workspace.sketch.AddLine({-40, -50, 0}, {40, -50, 0});
+        f.workspace.selection.Select({first});
+        const QSignalSpy menus(&f.view, &SketchView::menuRequested);
+
+        f.OpenMenuAt(10, -48);
+
+        QCOMPARE(f.workspace.selection.GetIds(), Ids{second});
+        QCOMPARE(menus.count(), 1);
+    }
+
+    void theMenuKeepsASelection_data()
+    {
+        QTest::addColumn<double>("y");
+
+        QTest::newRow("on one of what is selected") << 20.0;
+        QTest::newRow("beside everything") << 90.0;
+    }
+
+    void theMenuKeepsASelection()
+    {
+        QFETCH(double, y);
+        SketchViewFixture f;
+        const int first = f.workspace.sketch.AddLine({-40, 20, 0}, {40, 20, 0});
+        const int second = f.workspace.sketch.AddLine({-40, -50, 0}, {40, -50, 0});
+        f.workspace.selection.Select({first, second});
+        const QSignalSpy menus(&f.view, &SketchView::menuRequested);
+
+        f.OpenMenuAt(10, y);
+
+        QCOMPARE(f.workspace.selection.GetIds(), (Ids{first, second}));
+        QCOMPARE(menus.count(), 1);
+    }
+
+    void noMenuOpensWhileTheMouseOrACommandIsBusy()
+    {
+        SketchViewFixture f;
+        f.workspace.sketch.AddLine({-40, 20, 0}, {40, 20, 0});
+        const QSignalSpy menus(&f.view, &SketchView::menuRequested);
+
+        f.PressAt(-60, 60);
+        f.OpenMenuAt(10, 20);
+        f.ReleaseAt(-60, 60);
+        f.host.BeginAction();
+        f.OpenMenuAt(10, 20);
+        ActionManager::Reset();
+
+        QCOMPARE(menus.count(), 0);
+        QVERIFY(f.workspace.selection.IsEmpty());
+    }
+
+    void returnAndSpaceAskForTheLastTool_data()
+    {
+        QTest::addColumn<Qt::Key>("key");
+
+        QTest::newRow("Return") << Qt::Key_Return;
+        QTest::newRow("Enter") << Qt::Key_Enter;
+        QTest::newRow("Space") << Qt::Key_Space;
+    }
+
+    void returnAndSpaceAskForTheLastTool()
+    {
+        QFETCH(Qt::Key, key);
+        SketchViewFixture f;
+        const QSignalSpy repetitions(&f.view, &SketchView::repeatRequested);
+
+        f.Press(key);
+        f.Press(key, true);
+        f.host.BeginAction();
+        f.Press(key);
+        ActionManager::Reset();
+
+        QCOMPARE(repetitions.count(), 1);
+    }
+
+    void shiftHoldsDirectionsFromTheNextMove()
+    {
+        SketchViewFixture f;
+
+        f.MoveTo(10, 20, Qt::ShiftModifier);
+
+        QVERIFY(f.workspace.isDirectionHeld);
+        f.MoveTo(10, 20);
+        QVERIFY(!f.workspace.isDirectionHeld);
+        f.PressAt(10, 20, Qt::ShiftModifier);
+        QVERIFY(f.workspace.isDirectionHeld);
+    }
+
+    void releasedShiftFreesDirectionsAtOnce()
+    {
+        SketchViewFixture f;
+        f.MoveTo(10, 20, Qt::ShiftModifier);
+        QWidget elsewhere;
+
+        QKeyEvent release(QEvent::KeyRelease, Qt::Key_Shift, Qt::NoModifier);
+        QCoreApplication::sendEvent(&elsewhere, &release);
+
+        QVERIFY(!f.workspace.isDirectionHeld);
     }
 
     void theCaughtPointIsMarked()

@@ -4,6 +4,7 @@
 #include "View/IUiView.h"
 #include "View/ModelView.h"
 
+#include <QCursor>
 #include <QPixmap>
 #include <QPointer>
 #include <QWidget>
@@ -68,6 +69,10 @@ protected:
 
     /// Paints over everything else.
     virtual void PaintOverlay(QPainter&) {}
+
+    /// The cursor while nothing is dragged; UpdateCursor shows another one.
+    virtual QCursor GetRestingCursor() const { return Qt::CrossCursor; }
+    void UpdateCursor();
 
     /// The user clicked, or pressed Escape, while no action was running.
     virtual void OnFreeClick(const Vector3d& /*world*/, Qt::KeyboardModifiers) {}

@@ -22,7 +22,7 @@ namespace vesk
 
 class DrawingView;
 
-/// The main frame: a ribbon at the top, a drawing view, and a status bar with the prompt, the
+/// The main frame: a ribbon at the top, bars below it as needed, a drawing view, and a status bar with the prompt, the
 /// cursor position, and the number of warnings that were not shown.
 ///
 /// Installed as the host's main window while it lives.
@@ -47,6 +47,10 @@ public:
 
     /// Shows a drawing view and its texts; the window becomes the view's Qt parent.
     void SetDrawingView(DrawingView* pView);
+
+    /// Adds a bar below the ribbon, for an offer that nobody has to answer. The window becomes its
+    /// Qt parent; hide or destroy the bar when it is no longer needed.
+    void AddBar(QWidget* pBar);
 
     /// Shows a text in the status bar for a few seconds.
     void ShowNotice(const QString& text);

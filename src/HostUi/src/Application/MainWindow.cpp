@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QLabel>
 #include <QStatusBar>
+#include <QVBoxLayout>
 
 namespace vesk
 {
@@ -32,7 +33,12 @@ MainWindow::MainWindow()
     : m_pRibbon(new Qtitan::RibbonBar(this)), m_pHint(new QLabel(this)),
       m_pCursor(new QLabel(this)), m_pStates(new QLabel(this)), m_pWarningCount(new QLabel(this))
 {
-    setMenuWidget(m_pRibbon);
+    auto* pTop = new QWidget(this);
+    auto* pTopLayout = new QVBoxLayout(pTop);
+    pTopLayout->setContentsMargins(0, 0, 0, 0);
+    pTopLayout->setSpacing(0);
+    pTopLayout->addWidget(m_pRibbon);
+    setMenuWidget(pTop);
     m_pHint->setObjectName(QStringLiteral("Hint"));
     m_pCursor->setObjectName(QStringLiteral("CursorPosition"));
     m_pCursor->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -95,6 +101,11 @@ void MainWindow::SetDrawingView(DrawingView* pView)
     connect(pView, &DrawingView::viewTextChanged, m_pHint, &QLabel::setToolTip);
     connect(pView, &DrawingView::cursorMoved, this, &MainWindow::OnCursorMoved);
     connect(pView, &DrawingView::cursorLeft, m_pCursor, &QLabel::clear);
+}
+
+void MainWindow::AddBar(QWidget* pBar)
+{
+    menuWidget()->layout()->addWidget(pBar);
 }
 
 void MainWindow::ShowNotice(const QString& text)

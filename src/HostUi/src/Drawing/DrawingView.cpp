@@ -124,6 +124,13 @@ void DrawingView::UpdateModel()
     update();
 }
 
+void DrawingView::UpdateCursor()
+{
+    const QCursor shape = m_drag == Drag::Pan ? Qt::ClosedHandCursor : GetRestingCursor();
+    if (shape.shape() != cursor().shape())
+        setCursor(shape);
+}
+
 void DrawingView::changeEvent(QEvent* pEvent)
 {
     if (pEvent->type() == QEvent::PaletteChange)
@@ -197,7 +204,7 @@ void DrawingView::mousePressEvent(QMouseEvent* pEvent)
     {
         m_drag = Drag::Pan;
         m_dragPosition = pEvent->localPos();
-        setCursor(Qt::ClosedHandCursor);
+        UpdateCursor();
     }
     if (pEvent->button() == Qt::LeftButton)
         OnClick(*pEvent);
@@ -208,7 +215,7 @@ void DrawingView::mouseReleaseEvent(QMouseEvent* pEvent)
     if (pEvent->button() != Qt::MiddleButton)
         return;
     m_drag = Drag::None;
-    setCursor(Qt::CrossCursor);
+    UpdateCursor();
 }
 
 void DrawingView::paintEvent(QPaintEvent*)

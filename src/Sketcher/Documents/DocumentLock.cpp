@@ -1,0 +1,35 @@
+#include "Documents/DocumentLock.h"
+
+#include <QFileInfo>
+#include <QLockFile>
+
+namespace
+{
+
+/// The same for all names of a file, also if it does not exist yet.
+QString LockPath(const QString& path)
+{
+    const QFileInfo named(path);
+    const QFileInfo file(named.exists() ? named.canonicalFilePath() : named.absoluteFilePath());
+    return QStringLiteral("%1/.%2.lock").arg(file.path(), file.fileName());
+}
+
+}
+
+DocumentLock::DocumentLock(const QString& path)
+    : m_pFile(std::make_unique<QLockFile>(LockPath(path)))
+{
+    // However old, a lock holds as long as its program runs.
+    m_pFile->setStaleLockTime(0);
+    if (m_pFile->tryLock(0))
+        m_state = State::Held;
+    else if (m_pFile->error() == QLockFile::LockFailedError)
+        m_state = State::InUse;
+    qint64 process = 0;
+    QString host;
+    QString program;
+    if (m_state == State::InUse && m_pFile->getLockInfo(&process, &host, &program))
+        m_holder = QStringLiteral("%1（%2，进程 %3）").arg(program, host).arg(process);
+}
+
+DocumentLock::~DocumentLock() = default;

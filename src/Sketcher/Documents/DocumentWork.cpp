@@ -1,0 +1,98 @@
+#include "Documents/DocumentWork.h"
+
+#include "Model/KeptContent.h"
+
+#include "Foundation/FileRewriting.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QStorageInfo>
+
+#include <cstddef>
+#include <optional>
+#include <string_view>
+#include <utility>
+
+namespace
+{
+
+/// More than a text in memory can hold.
+constexpr qint64 GreatestSize = 1 << 30;
+
+QString DamageOf(const DocumentReading& reading)
+{
+    if (reading.outcome == DocumentReading::Outcome::Newer)
+        return QStringLiteral("该文件由更新版本的程序保存，请用新版本打开。");
+    return QStringLiteral("文件第 %1 行有错误（%2）。文件保持原样。")
+        .arg(reading.line)
+        .arg(QString::fromStdString(reading.error));
+}
+
+/// The best guess at why a file could not be written.
+QString WhyNotWritten(const QString& path, qint64 size)
+{
+    const QFileInfo file(path);
+    const QFileInfo folder(file.absolutePath());
+    if (!folder.isDir())
+        return QStringLiteral("文件夹不存在。");
+    if (file.exists() && !file.isFile())
+        return QStringLiteral("这不是普通文件。");
+    if ((file.exists() && !file.isWritable()) || !folder.isWritable())
+        return QStringLiteral("没有写入权限。");
+    const qint64 available = QStorageInfo(folder.absoluteFilePath()).bytesAvailable();
+    return available >= 0 && available < size ? QStringLiteral("磁盘空间不足。")
+                                              : QStringLiteral("写入时出错，原文件保持不变。");
+}
+
+}
+
+DocumentWork::Read DocumentWork::ReadFile(const QString& path,
+                                          const DocumentFile::Progress& progress)
+{
+    Read result;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly) || file.size() > GreatestSize)
+    {
+        result.fault = QStringLiteral("无法读取文件。");
+        result.details = file.isOpen() ? QStringLiteral("文件太大。") : file.errorString();
+        return result;
+    }
+    // Older than what is read, so that a later change is noticed.
+    const QDateTime modified = QFileInfo(path).lastModified();
+    const QByteArray bytes = file.readAll();
+    result.stamp = FileStamp::Of(path, bytes);
+    result.stamp.modified = modified;
+    const std::string_view text(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    result.reading = DocumentFile::FromText(text, progress);
+    result.isCancelled = result.reading.outcome == DocumentReading::Outcome::Cancelled;
+    if (result.isCancelled)
+        return result;
+    if (result.reading.outcome != DocumentReading::Outcome::Whole)
+    {
+        result.fault = DamageOf(result.reading);
+        return result;
+    }
+    const std::optional<QString> digest = KeptContent::Get().Keep(bytes);
+    result.contentDigest = digest.value_or(QString());
+    if (!digest.has_value())
+        result.fault = QStringLiteral("日志旁无法保留该文件的副本，没有它就不能恢复所做的操作。");
+    return result;
+}
+
+DocumentWork::Written DocumentWork::WriteFile(const SketchContent& content, const QString& path,
+                                              const DocumentFile::Progress& progress)
+{
+    Written result;
+    const std::string text = DocumentFile::ToText(content, progress);
+    result.isCancelled = text.empty();
+    if (result.isCancelled)
+        return result;
+    if (!vesk::RewriteFile(path.toStdString(), text))
+    {
+        result.fault = WhyNotWritten(path, static_cast<qint64>(text.size()));
+        return result;
+    }
+    const auto size = static_cast<int>(text.size());
+    result.stamp = FileStamp::Of(path, QByteArray::fromRawData(text.data(), size));
+    return result;
+}

@@ -1,0 +1,81 @@
+#include "Recovery/RecoveryBar.h"
+
+#include "Recovery/UnsavedWork.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QStringList>
+
+namespace
+{
+
+/// The time alone if it was today.
+QString TimeText(const QDateTime& time)
+{
+    const bool isToday = time.date() == QDate::currentDate();
+    return time.toString(isToday ? QStringLiteral("HH:mm") : QStringLiteral("yyyy-MM-dd HH:mm"));
+}
+
+}
+
+RecoveryBar::RecoveryBar(QWidget* pParent) : QFrame(pParent), m_pText(new QLabel)
+{
+    setObjectName(QStringLiteral("RecoveryBar"));
+    setAutoFillBackground(true);
+    setBackgroundRole(QPalette::ToolTipBase);
+    setForegroundRole(QPalette::ToolTipText);
+    m_pText->setObjectName(QStringLiteral("RecoveryText"));
+    m_pText->setTextFormat(Qt::PlainText);
+    m_pText->setForegroundRole(QPalette::ToolTipText);
+    // The window does not grow for it; the tool tip shows what does not fit.
+    m_pText->setMinimumWidth(1);
+
+    auto* pLayout = new QHBoxLayout(this);
+    constexpr int Margin = 6;
+    pLayout->setContentsMargins(Margin, Margin / 2, Margin, Margin / 2);
+    pLayout->addWidget(m_pText, 1);
+
+    struct Choice
+    {
+        const char* name;
+        QString text;
+        QString toolTip;
+        void (RecoveryBar::*signal)();
+    };
+    const Choice choices[] = {
+        {"RecoveryGoOn", QStringLiteral("继续(&R)"), QStringLiteral("恢复这些操作并继续绘图"),
+         &RecoveryBar::goOn},
+        {"RecoveryLook", QStringLiteral("查看(&K)"), QStringLiteral("在另一窗口中查看，不作改动"),
+         &RecoveryBar::look},
+        {"RecoveryLeave", QStringLiteral("忽略(&I)"),
+         QStringLiteral("不再提示；日志仍保留一段时间"), &RecoveryBar::leave},
+        {"RecoveryPostpone", QStringLiteral("以后(&L)"), QStringLiteral("下次启动时再提示"),
+         &RecoveryBar::postpone},
+    };
+    for (const Choice& choice : choices)
+    {
+        auto* pButton = new QPushButton(choice.text);
+        pButton->setObjectName(QString::fromLatin1(choice.name));
+        pButton->setToolTip(choice.toolTip);
+        pButton->setFocusPolicy(Qt::TabFocus);
+        pButton->setAutoDefault(false);
+        connect(pButton, &QPushButton::clicked, this, choice.signal);
+        pLayout->addWidget(pButton);
+    }
+}
+
+void RecoveryBar::Offer(const UnsavedWork& work, const QString& caption, int others)
+{
+    QStringList parts;
+    if (!caption.isEmpty())
+        parts << caption;
+    parts << TimeText(work.time) << QStringLiteral("%1 步").arg(work.steps);
+    QString text = QStringLiteral("上次未正常结束：") + parts.join(QStringLiteral("，"));
+    if (!work.isReadInFull)
+        text += QStringLiteral("（日志有损坏，可恢复损坏之前的部分）");
+    if (others > 0)
+        text += QStringLiteral("；另有 %1 个").arg(others);
+    m_pText->setText(text);
+    m_pText->setToolTip(text);
+}

@@ -1,0 +1,171 @@
+#include "SessionRecovery.h"
+
+#include "Model/KeptContent.h"
+#include "Model/Workspace.h"
+#include "Options.h"
+#include "Recovery/RecoverContent.h"
+#include "Recovery/Snapshot.h"
+#include "SessionJournal.h"
+#include "SketcherWindow.h"
+#include "View/SketchView.h"
+
+#include "HostUi/QtText.h"
+#include "Journal/JournalFormat.h"
+#include "Journal/JournalManager.h"
+
+#include <QCoreApplication>
+#include <QProcess>
+
+#include <algorithm>
+#include <utility>
+
+using namespace vesk;
+
+namespace
+{
+
+/// The records with which a journal begins that restores a snapshot first; empty if the snapshot is
+/// not of these records or cannot be kept.
+std::vector<JournalRecord> RecordsAfter(const Snapshot& snapshot,
+                                        const std::vector<JournalRecord>& records)
+{
+    const auto mark =
+        std::find_if(records.begin(), records.end(), [&](const JournalRecord& record) {
+            const auto* pMark = std::get_if<MarkRecord>(&record.what);
+            return pMark != nullptr && record.number == snapshot.record &&
+                   pMark->digest == snapshot.digest;
+        });
+    if (mark == records.end())
+        return {};
+    const std::optional<CommandParameters> parameters = RecoverContent::Keep(snapshot.bytes);
+    if (!parameters.has_value())
+        return {};
+    // The mark has the greatest number so far and is no command's.
+    const CommandRecord restore{RecoverContent::CommandId, *parameters};
+    std::vector<JournalRecord> rest = {{0, HeaderRecord()},
+                                       {snapshot.record, restore},
+                                       {snapshot.record, EndRecord{snapshot.record, false}}};
+    rest.insert(rest.end(), mark + 1, records.end());
+    return rest;
+}
+
+/// Files of version 1 have no header.
+int VersionOf(const std::vector<JournalRecord>& records)
+{
+    const auto* pHeader =
+        records.empty() ? nullptr : std::get_if<HeaderRecord>(&records.front().what);
+    return pHeader != nullptr ? pHeader->version : 1;
+}
+
+}
+
+SessionRecovery::SessionRecovery(Workspace& workspace, SketcherWindow& window,
+                                 SessionJournal& journal,
+                                 std::map<std::wstring, std::wstring> captions, Replay replay)
+    : m_workspace(workspace), m_window(window), m_journal(journal), m_captions(std::move(captions)),
+      m_replay(std::move(replay)),
+      m_autosave(workspace.sketch,
+                 [this] { return m_journal.IsNamed() ? QString() : m_journal.GetPath(); }),
+      m_offer(window, SessionJournal::GetFolder(),
+              {[this](const std::wstring& id) {
+                   const auto found = m_captions.find(id);
+                   return found != m_captions.end() ? ToQString(found->second) : QString();
+               },
+               [this](const UnsavedWork& work) { return GoOn(work); },
+               [this](const UnsavedWork& work) { Look(work); }})
+{}
+
+void SessionRecovery::Offer(const Options& options)
+{
+    const bool isToldWhatToDo =
+        !options.journal.isEmpty() || !options.model.isEmpty() || !options.GetSource().isEmpty();
+    const bool isSomebodyThere = qEnvironmentVariable("VESK_UNATTENDED") != QLatin1String("1");
+    if (!isToldWhatToDo && isSomebodyThere)
+        m_offer.Search(m_journal.GetPath());
+}
+
+RecoveryOffer::Result SessionRecovery::GoOn(const UnsavedWork& work)
+{
+    Records all;
+    std::string error;
+    // Up to a damaged line it can be used.
+    JournalFormat::ReadFile(work.journal.toStdString(), all, error);
+    const Records records = CompletedOf(all);
+    KeptContent::Get().SetSource(work.journal);
+    if (!LeaveDrawing(VersionOf(records)))
+    {
+        m_window.ShowNotice(
+            QStringLiteral("日志文件无法写入，现有的图纸会丢失，不能继续上次的操作"));
+        return RecoveryOffer::Result::Cancelled;
+    }
+    std::optional<JournalReplayResult> result = ReplayFromSnapshot(work.journal, records);
+    if (!result.has_value())
+        result = m_replay(records);
+    if (result->isStopped)
+        BeginAnew();
+    m_window.GetView().Activate();
+    if (result->isStopped)
+        return RecoveryOffer::Result::Cancelled;
+    if (result->failure.empty())
+        return RecoveryOffer::Result::Done;
+    m_window.ShowState(
+        QStringLiteral("reading"),
+        QStringLiteral("第 %1 条记录无法重做，其后的操作没有恢复").arg(result->failedNumber),
+        QString::fromStdString(result->failure));
+    return RecoveryOffer::Result::Partly;
+}
+
+/// What is in the drawing stays in its journal, which is offered if there is work in it. Returns
+/// false and changes nothing if the drawing would be lost.
+bool SessionRecovery::LeaveDrawing(int version)
+{
+    const bool isEmpty = m_workspace.sketch.GetEntities().empty();
+    if (!JournalManager::GetInstance().IsKept() && !isEmpty)
+        return false;
+    const QString left = m_journal.StartAnother(version);
+    m_workspace.sketch.Clear();
+    if (const std::optional<UnsavedWork> work = FindUnsavedWork(left))
+        m_offer.Add(*work);
+    else
+        JournalFolder::Remove(left);
+    return true;
+}
+
+/// Drops what is in the drawing and its journal.
+void SessionRecovery::BeginAnew()
+{
+    JournalFolder::Remove(m_journal.StartAnother());
+    m_workspace.sketch.Clear();
+}
+
+/// Nothing if there is no snapshot from which the last mark can be reached: a later undo, for
+/// example, may have gone back beyond it. Drawing and journal are then as before.
+std::optional<JournalReplayResult> SessionRecovery::ReplayFromSnapshot(const QString& journal,
+                                                                       const Records& records)
+{
+    const std::optional<Snapshot> snapshot = Snapshot::FindNewest(journal);
+    if (!snapshot.has_value())
+        return std::nullopt;
+    const Records rest = RecordsAfter(*snapshot, records);
+    if (rest.empty())
+        return std::nullopt;
+    JournalReplayResult result = m_replay(rest);
+    if (result.failure.empty() || result.isStopped)
+        return result;
+    BeginAnew();
+    return std::nullopt;
+}
+
+/// In a program of its own, which writes nothing.
+void SessionRecovery::Look(const UnsavedWork& work)
+{
+    Records all;
+    std::string error;
+    JournalFormat::ReadFile(work.journal.toStdString(), all, error);
+    int last = 0;
+    for (const JournalRecord& record : CompletedOf(all))
+        last = std::max(last, record.number);
+    QProcess::startDetached(QCoreApplication::applicationFilePath(),
+                            {QStringLiteral("--replay"), work.journal, QStringLiteral("--stay"),
+                             QStringLiteral("--until"), QString::number(last)});
+}

@@ -1,0 +1,372 @@
+#include "ScenarioTest.h"
+#include "ScriptedUser.h"
+#include "SketcherWindow.h"
+#include "View/SketchView.h"
+
+#include "Model/Sketch.h"
+#include "Recovery/JournalFolder.h"
+#include "Recovery/Snapshot.h"
+#include "Recovery/UnsavedWork.h"
+#include "SessionJournal.h"
+
+#include "Journal/JournalFormat.h"
+#include "Support/TestValues.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDir>
+#include <QLabel>
+
+#include <algorithm>
+
+Q_DECLARE_METATYPE(QString Options::*)
+
+namespace
+{
+
+const QString s_line = QStringLiteral("Sketcher.Line");
+
+QLabel* FindOffer()
+{
+    auto* pText = ScriptedUser::FindWindow()->findChild<QLabel*>("RecoveryText");
+    return pText != nullptr && pText->isVisible() ? pText : nullptr;
+}
+
+bool IsOffered()
+{
+    return FindOffer() != nullptr;
+}
+
+bool IsNothingOffered()
+{
+    return !IsOffered();
+}
+
+}
+
+/// What an earlier session did not save, and the next one.
+class RecoveryTest final : public ScenarioTest
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QCoreApplication::setApplicationName(QStringLiteral("sketcher")); }
+
+    void unsavedWorkIsOfferedWithoutTakingTheKeyboard()
+    {
+        Crash(3);
+        QString text;
+        bool isViewFocused = false;
+        ScriptedUser user;
+        user.Until(&IsOffered).Do([&] {
+            text = FindOffer()->text();
+            isViewFocused = QApplication::focusWidget() == ScriptedUser::FindView();
+        });
+
+        QCOMPARE(user.Run(Options()), 0);
+
+        QVERIFY2(text.startsWith(QStringLiteral("上次未正常结束：直线，")), qPrintable(text));
+        QVERIFY2(text.endsWith(QStringLiteral("，3 步")), qPrintable(text));
+        QVERIFY(isViewFocused);
+    }
+
+    void goingOnRestoresItAndTheJournalIsWhole()
+    {
+        const QString crashed = Crash(3);
+        const QByteArray before = ReadBytes(crashed);
+        ScriptedUser user;
+        user.Until(&IsOffered).Click("RecoveryGoOn").Until(&IsNothingOffered);
+        user.DrawLine(-250, -250, -200, -250);
+
+        QCOMPARE(user.Run(Options()), 0);
+
+        QCOMPARE(ReadBytes(crashed), before);
+        QVERIFY(JournalFolder::IsSettled(crashed));
+        QCOMPARE(Journals().size(), 2);
+        QCOMPARE(LinesOf(NewestJournal()), 4);
+    }
+
+    void whatWasRecoveredIsOfferedAgainAfterTheNextCrash()
+    {
+        const QString crashed = Crash(3);
+        ScriptedUser user;
+        user.Until(&IsOffered).Click("RecoveryGoOn").Until(&IsNothingOffered);
+        QCOMPARE(user.Run(Options()), 0);
+        TakeEndAway(NewestJournal());
+        QString text;
+        ScriptedUser next;
+        next.Until(&IsOffered).Do([&text] { text = FindOffer()->text(); });
+
+        QCOMPARE(next.Run(Options()), 0);
+
+        QVERIFY2(text.endsWith(QStringLiteral("，3 步")), qPrintable(text));
+    }
+
+    void aRecordThatWasNotCompletedIsLeftOut()
+    {
+        const QString crashed =
+            Crash(3, "{\"n\":90,\"kind\":\"point\",\"point\":[7,7,0]}\n{\"n\":9");
+        ScriptedUser user;
+        user.Until(&IsOffered).Click("RecoveryGoOn").Until(&IsNothingOffered);
+
+        QCOMPARE(user.Run(Options()), 0);
+
+        QCOMPARE(LinesOf(NewestJournal()), 3);
+    }
+
+    void whatIsBeforeADamagedLineIsRestored()
+    {
+        Crash(3, "damage\n{\"n\":91,\"kind\":\"selection\",\"entities\":[1]}\n");
+        ScriptedUser user;
+        user.Until(&IsOffered).Click("RecoveryGoOn").Until(&IsNothingOffered);
+
+        QCOMPARE(user.Run(Options()), 0);
+
+        QCOMPARE(LinesOf(NewestJournal()), 3);
+    }
+
+    void aToolThatRunsIsEndedFirst()
+    {
+        Crash(3);
+        ScriptedUser user;
+        user.Until(&IsOffered).Click(s_line).ClickAt(-200, -200).UntilRunning(s_line);
+        user.Click("RecoveryGoOn").Until(&IsNothingOffered).UntilRunning({});
+
+        QCOMPARE(user.Run(Options()), 0);
+
+        QCOMPARE(LinesOf(NewestJournal()), 3);
+    }
+
+    void theDrawingThatIsLeftIsOfferedNext()
+    {
+        const QString crashed = Crash(3);
+        QString text;
+        ScriptedUser user;
+        user.Until(&IsOffered).DrawLine(0, 0, 50, 0).Click("RecoveryGoOn");
+        user.Until([&crashed] { return JournalFolder::IsSettled(crashed); }).Until(&IsOffered);
+        user.Do([&text] { text = FindOffer()->text(); });
+        user.Click("RecoveryGoOn").Until([&text] { return FindOffer()->text() != text; });
+
+        QCOMPARE(user.Run(Options()), 0);
+
+        QVERIFY2(text.endsWith(QStringLiteral("，1 步")), qPrintable(text));
+        QCOMPARE(LinesOf(NewestJournal()), 1);
+    }
+
+    void whatIsLeftAloneIsNeverOfferedAgain()
+    {
+        const QString crashed = Crash(3);
+        ScriptedUser user;
+        user.Until(&IsOffered).Click("RecoveryLeave").Until(&IsNothingOffered);
+
+        QCOMPARE(user.Run(Options()), 0);
+
+        QVERIFY(QFile::exists(crashed));
+        QCOMPARE(Undecided(), QStringList());
+    }
+
+    void whatIsPostponedIsOfferedAgain()
+    {
+        const QString crashed = Crash(3);
+        ScriptedUser user;
+        user.Until(&IsOffered).Click("RecoveryPostpone").Until(&IsNothingOffered);
+
+        QCOMPARE(user.Run(Options()), 0);
+
+        QCOMPARE(Undecided(), QStringList(crashed));
+    }
+
+    void theNewestComesFirst()
+    {
+        Crash(2);
+        Crash(5);
+        QString text;
+        ScriptedUser user;
+        user.Until(&IsOffered).Do([&text] { text = FindOffer()->text(); });
+
+        QCOMPARE(user.Run(Options()), 0);
+
+        QVERIFY2(text.endsWith(QStringLiteral("，5 步；另有 1 个")), qPrintable(text));
+    }
+
+    void nothingIsOfferedToWhoSaysWhatToDo_data()
+    {
+        QTest::addColumn<QString Options::*>("option");
+        QTest::addColumn<QString>("unattended");
+
+        QTest::newRow("--journal") << &Options::journal << "";
+        QTest::newRow("--model") << &Options::model << "";
+        QTest::newRow("--open") << &Options::open << "";
+        QTest::newRow("nobody there") << &Options::log << "1";
+    }
+
+    void nothingIsOfferedToWhoSaysWhatToDo()
+    {
+        QFETCH(QString Options::*, option);
+        QFETCH(QString, unattended);
+        Crash(3);
+        Options options;
+        options.*option = m_pFixture->File("named");
+        WriteFile(options.*option, "");
+        const ScopedVariable variable("VESK_UNATTENDED", unattended);
+        bool isOffered = false;
+        ScriptedUser user;
+        user.DrawLine(0, 0, 50, 0).Do([&isOffered] { isOffered = IsOffered(); });
+
+        QCOMPARE(user.Run(options), 0);
+
+        QVERIFY(!isOffered);
+        QCOMPARE(Undecided().size(), 1);
+    }
+
+    void aSnapshotSavesReplayingWhatWasBefore()
+    {
+        const QString crashed = Crash(5);
+        TakeSnapshot(crashed, 3);
+        ScriptedUser user;
+        user.Until(&IsOffered).Click("RecoveryGoOn").Until(&IsNothingOffered);
+
+        QCOMPARE(user.Run(Options()), 0);
+
+        QVERIFY(ReadBytes(NewestJournal()).contains("Sketcher.RecoverContent"));
+        QCOMPARE(ReadBytes(NewestJournal()).count("\"kind\":\"point\""), 4);
+        QCOMPARE(LinesOf(NewestJournal()), 5);
+    }
+
+    void aSnapshotThatIsNotOfTheJournalIsNotUsed()
+    {
+        const QString crashed = Crash(5);
+        Sketch other;
+        other.AddLine({0, 0, 0}, {1, 0, 0});
+        QVERIFY(Snapshot::Write(crashed, MarksOf(crashed).back().number, other.GetContent()));
+        ScriptedUser user;
+        user.Until(&IsOffered).Click("RecoveryGoOn").Until(&IsNothingOffered);
+
+        QCOMPARE(user.Run(Options()), 0);
+
+        QVERIFY(!ReadBytes(NewestJournal()).contains("Sketcher.RecoverContent"));
+        QCOMPARE(LinesOf(NewestJournal()), 5);
+    }
+
+    void anUndoBeyondTheSnapshotIsReplayedInFull()
+    {
+        const QString crashed = Crash(5, {}, 3);
+        TakeSnapshot(crashed, 4);
+        ScriptedUser user;
+        user.Until(&IsOffered).Click("RecoveryGoOn").Until(&IsNothingOffered);
+
+        QCOMPARE(user.Run(Options()), 0);
+
+        QCOMPARE(Journals().size(), 2);
+        QVERIFY(!ReadBytes(NewestJournal()).contains("Sketcher.RecoverContent"));
+        QCOMPARE(LinesOf(NewestJournal()), 2);
+    }
+
+private:
+    static QStringList Journals() { return SessionJournal::GetFolder().GetJournals(); }
+
+    /// The journal that was made last; its name has the greatest number.
+    QString NewestJournal() const
+    {
+        QStringList journals = Journals();
+        for (const QString& journal : m_crashed)
+            journals.removeAll(journal);
+        std::sort(journals.begin(), journals.end(), [](const QString& a, const QString& b) {
+            return a.size() != b.size() ? a.size() < b.size() : a < b;
+        });
+        return journals.isEmpty() ? QString() : journals.back();
+    }
+
+    static QStringList Undecided()
+    {
+        QStringList journals;
+        for (const QString& journal : Journals())
+        {
+            if (!IsEnded(journal) && !JournalFolder::IsSettled(journal))
+                journals << journal;
+        }
+        return journals;
+    }
+
+    /// Removes the closing record.
+    static void TakeEndAway(const QString& journal)
+    {
+        QByteArray bytes = ReadBytes(journal);
+        const int last = bytes.lastIndexOf('\n', bytes.size() - 2) + 1;
+        if (bytes.mid(last).contains("\"close\""))
+            bytes.truncate(last);
+        WriteFile(journal, bytes);
+    }
+
+    /// The journal of a session that drew lines, undid some, and crashed; `rest` is at its end.
+    QString Crash(int lines, const QByteArray& rest = {}, int undone = 0)
+    {
+        Options options;
+        options.journal = m_pFixture->File("crashing");
+        ScriptedUser user;
+        for (int i = 1; i <= lines; ++i)
+            user.DrawLine(0, 0, 20 * i, 30);
+        for (int i = 0; i < undone; ++i)
+            user.Click("Sketcher.Undo");
+        user.Run(options);
+        TakeEndAway(options.journal);
+        const QString name = QString("crashed-%1.jsonl").arg(m_crashed.size());
+        const QString path = m_pFixture->File("data/sketcher/journals/" + name);
+        QDir().mkpath(m_pFixture->File("data/sketcher/journals"));
+        WriteFile(path, ReadBytes(options.journal) + rest);
+        QFile::remove(options.journal);
+        m_crashed << path;
+        return path;
+    }
+
+    struct NumberedMark
+    {
+        int number;
+        std::string digest;
+    };
+
+    static std::vector<NumberedMark> MarksOf(const QString& journal)
+    {
+        std::vector<vesk::JournalRecord> records;
+        std::string error;
+        vesk::JournalFormat::ReadFile(journal.toStdString(), records, error);
+        std::vector<NumberedMark> marks;
+        for (const vesk::JournalRecord& record : records)
+        {
+            if (const auto* pMark = std::get_if<vesk::MarkRecord>(&record.what))
+                marks.push_back({record.number, pMark->digest});
+        }
+        return marks;
+    }
+
+    /// Of the drawing after that many lines.
+    void TakeSnapshot(const QString& journal, int lines) const
+    {
+        Sketch sketch;
+        for (int i = 1; i <= lines; ++i)
+            sketch.AddLine({0, 0, 0}, {20.0 * i, 30, 0});
+        for (const NumberedMark& mark : MarksOf(journal))
+        {
+            if (mark.digest != sketch.GetDigest())
+                continue;
+            QVERIFY(Snapshot::Write(journal, mark.number, sketch.GetContent()));
+            return;
+        }
+        QFAIL("the journal has no such drawing");
+    }
+
+    /// How many lines a replay of the journal draws.
+    int LinesOf(const QString& journal) const
+    {
+        const QString model = m_pFixture->File("recovered");
+        if (RunSketcher({"--replay", journal, "--model", model}).code != 0)
+            QTest::qFail("the journal cannot be replayed", __FILE__, __LINE__);
+        return ReadLines(model).size();
+    }
+
+    const ScopedVariable m_attended{"VESK_UNATTENDED", QString()};
+    QStringList m_crashed;
+};
+
+VESK_TESTS(RecoveryTest);
+#include "RecoveryTest.moc"

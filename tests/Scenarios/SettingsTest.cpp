@@ -1,0 +1,158 @@
+#include "Drawing.h"
+#include "ScenarioTest.h"
+#include "ScriptedUser.h"
+#include "Settings/SettingsDialog.h"
+#include "Settings/SettingsStore.h"
+#include "SketcherWindow.h"
+
+#include "Dimension/TemporaryDimensionMgr.h"
+#include "Support/TestValues.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QPushButton>
+
+namespace
+{
+
+const QString s_line = QStringLiteral("Sketcher.Line");
+
+bool IsInputting()
+{
+    return vesk::TemporaryDimensionMgr::GetInstance()->IsInputting();
+}
+
+bool IsChecked(const char* id)
+{
+    return ScriptedUser::FindButton(QLatin1String(id))->isChecked();
+}
+
+/// Keeps settings in the file of the next session.
+void Keep(const Settings& settings)
+{
+    QVERIFY(SettingsStore(QString(), SettingsPath()).Set(settings));
+}
+
+/// Settings of which none is the default.
+Settings Others()
+{
+    Settings settings;
+    settings.unit = QStringLiteral("inch");
+    settings.colours = Settings::Colours::Dark;
+    settings.snaps = {false, true, false, false, true};
+    settings.isSpaceCommitting = false;
+    return settings;
+}
+
+}
+
+/// What the settings do in a session, and that they do nothing to its replay.
+class SettingsTest final : public ScenarioTest
+{
+    Q_OBJECT
+
+private slots:
+    void settingsHoldFromTheStart()
+    {
+        const ScopedVariable attended("VESK_UNATTENDED", QStringLiteral("0"));
+        Keep(Others());
+        ScriptedUser user;
+
+        user.Do([] {
+            QVERIFY(IsChecked("Sketcher.Unit.inch"));
+            QVERIFY(!IsChecked("Sketcher.Snap.End"));
+            QVERIFY(IsChecked("Sketcher.Snap.Middle"));
+            QVERIFY(IsChecked("Sketcher.Snap.Grid"));
+            QVERIFY(QApplication::palette().color(QPalette::Base).lightness() < 64);
+        });
+        user.Click(s_line).ClickAt(0, 0).Type("10 ").Do([] { QVERIFY(IsInputting()); });
+        user.Press(Qt::Key_Return).Do([] { QVERIFY(!IsInputting()); });
+
+        QCOMPARE(user.Run(m_pFixture->Draw()), 0);
+    }
+
+    void programThatIsDrivenStartsWithTheDefaults()
+    {
+        Keep(Others());
+        ScriptedUser user;
+
+        user.Do([] {
+            QVERIFY(IsChecked("Sketcher.Unit.mm"));
+            QVERIFY(IsChecked("Sketcher.Snap.End"));
+            QVERIFY(!IsChecked("Sketcher.Snap.Grid"));
+        });
+
+        QCOMPARE(user.Run(m_pFixture->Draw()), 0);
+    }
+
+    void replayDoesNotDependOnTheSettings_data()
+    {
+        QTest::addColumn<bool>("areDrawnWithOthers");
+
+        QTest::newRow("drawn with others") << true;
+        QTest::newRow("replayed with others") << false;
+    }
+
+    void replayDoesNotDependOnTheSettings()
+    {
+        QFETCH(bool, areDrawnWithOthers);
+        const ScopedVariable attended("VESK_UNATTENDED", QStringLiteral("0"));
+        Keep(areDrawnWithOthers ? Others() : Settings());
+        ScriptedUser user;
+        user.Click(s_line).ClickAt(3, 4).Type("1.2 ").Press(Qt::Key_Return);
+        user.Type("2.5").Press(Qt::Key_Tab).Type("33.3").Press(Qt::Key_Return).ClickAt(61, 57);
+        QCOMPARE(user.Run(m_pFixture->Draw()), 0);
+
+        Keep(areDrawnWithOthers ? Settings() : Others());
+
+        QVERIFY(!Model().isEmpty());
+        VerifyReplay();
+    }
+
+    void whatIsChosenInTheDialogHoldsAtOnceAndIsKept()
+    {
+        ScriptedUser user;
+        user.Do([] { ScriptedUser::FindButton("Sketcher.Settings")->click(); })
+            .Until(
+                [] { return ScriptedUser::FindWindow()->findChild<SettingsDialog*>() != nullptr; })
+            .Do([] {
+                auto* pDialog = ScriptedUser::FindWindow()->findChild<SettingsDialog*>();
+                pDialog->findChild<QComboBox*>("Unit")->setCurrentIndex(1);
+                pDialog->findChild<QComboBox*>("Colours")->setCurrentIndex(2);
+                pDialog->findChild<QPushButton*>("Accept")->click();
+            })
+            .Do([] {
+                QVERIFY(IsChecked("Sketcher.Unit.cm"));
+                QVERIFY(QApplication::palette().color(QPalette::Base).lightness() < 64);
+            });
+
+        QCOMPARE(user.Run(m_pFixture->Draw()), 0);
+
+        const SettingsStore kept(SettingsPath(), SettingsPath());
+        QCOMPARE(kept.Get().unit, QString("cm"));
+        QVERIFY(kept.Get().colours == Settings::Colours::Dark);
+        QVERIFY(QApplication::palette().color(QPalette::Base).lightness() > 64);
+        VerifyReplay();
+    }
+
+    void whatIsChosenInTheRibbonStaysWhenAnotherSettingChanges()
+    {
+        ScriptedUser user;
+        user.Click("Sketcher.Unit.m");
+        user.Do([] { ScriptedUser::FindButton("Sketcher.Settings")->click(); })
+            .Until(
+                [] { return ScriptedUser::FindWindow()->findChild<SettingsDialog*>() != nullptr; })
+            .Do([] {
+                auto* pDialog = ScriptedUser::FindWindow()->findChild<SettingsDialog*>();
+                pDialog->findChild<QComboBox*>("Space")->setCurrentIndex(1);
+                pDialog->findChild<QPushButton*>("Accept")->click();
+            })
+            .Do([] { QVERIFY(IsChecked("Sketcher.Unit.m")); });
+
+        QCOMPARE(user.Run(m_pFixture->Draw()), 0);
+    }
+};
+
+VESK_TESTS(SettingsTest);
+#include "SettingsTest.moc"

@@ -1,0 +1,93 @@
+#include "Documents/DocumentLock.h"
+
+#include "Support/FileBytes.h"
+#include "Support/TestValues.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QSysInfo>
+#include <QTemporaryDir>
+
+using State = DocumentLock::State;
+
+class DocumentLockTest final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_pFolder = std::make_unique<QTemporaryDir>();
+        m_path = m_pFolder->filePath("a.vsk");
+        QVERIFY(vesk::WriteBytes(m_path, "abc"));
+    }
+
+    void aFileIsLockedAsLongAsTheLockLives()
+    {
+        {
+            const DocumentLock lock(m_path);
+
+            QCOMPARE(lock.GetState(), State::Held);
+            QCOMPARE(HiddenFiles(), QStringList{".a.vsk.lock"});
+        }
+        QCOMPARE(HiddenFiles(), QStringList());
+    }
+
+    void aSecondLockIsToldWhoHasTheFile()
+    {
+        const DocumentLock first(m_path);
+
+        const DocumentLock second(m_path);
+
+        QCOMPARE(second.GetState(), State::InUse);
+        QVERIFY(second.GetHolder().contains(QString::number(QCoreApplication::applicationPid())));
+    }
+
+    void aFileHasOneLockUnderAllItsNames()
+    {
+        const QString link = m_pFolder->filePath("link.vsk");
+        QVERIFY(QFile::link(m_path, link));
+        const DocumentLock first(m_path);
+
+        QCOMPARE(DocumentLock(link).GetState(), State::InUse);
+        QCOMPARE(DocumentLock(m_pFolder->filePath("./a.vsk")).GetState(), State::InUse);
+    }
+
+    void aNewFileCanBeLocked()
+    {
+        QCOMPARE(DocumentLock(m_pFolder->filePath("new.vsk")).GetState(), State::Held);
+    }
+
+    void theLockOfADeadProgramIsTakenOver()
+    {
+        QProcess dead;
+        dead.start("true", QStringList());
+        QVERIFY(dead.waitForStarted());
+        const QByteArray process = QByteArray::number(dead.processId());
+        QVERIFY(dead.waitForFinished());
+        QVERIFY(
+            vesk::WriteBytes(m_pFolder->filePath(".a.vsk.lock"),
+                             process + "\ntrue\n" + QSysInfo::machineHostName().toUtf8() + '\n'));
+
+        QCOMPARE(DocumentLock(m_path).GetState(), State::Held);
+    }
+
+    void aFolderWithoutLocksIsTold()
+    {
+        QCOMPARE(DocumentLock(m_pFolder->filePath("none/a.vsk")).GetState(), State::Impossible);
+    }
+
+private:
+    QStringList HiddenFiles() const
+    {
+        return QDir(m_pFolder->path()).entryList({".*"}, QDir::Files | QDir::Hidden);
+    }
+
+    std::unique_ptr<QTemporaryDir> m_pFolder;
+    QString m_path;
+};
+
+VESK_TESTS_WITHOUT_WINDOWS(DocumentLockTest);
+#include "DocumentLockTest.moc"

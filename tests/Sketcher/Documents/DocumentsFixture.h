@@ -1,0 +1,70 @@
+#pragma once
+
+#include "Documents/DocumentCommands.h"
+#include "Documents/Documents.h"
+#include "Model/DocumentFile.h"
+#include "Model/KeptContent.h"
+#include "Model/SampleContent.h"
+#include "Model/Sketch.h"
+#include "Ribbon/CommandTable.h"
+#include "Support/DialogUser.h"
+#include "Support/FileBytes.h"
+#include "Support/JournalRecorder.h"
+#include "Support/ScopedVariable.h"
+#include "Support/WarningRecorder.h"
+
+#include "Command/ActionManager.h"
+#include "HostCore.h"
+#include "HostUi/MainWindow.h"
+#include "HostUi/UiApplication.h"
+
+#include <QTemporaryDir>
+
+#include <memory>
+
+/// A window with a drawing and its document, and a user who answers the dialogs.
+struct DocumentsFixture
+{
+    explicit DocumentsFixture(Documents::Manners manners = Documents::Manners::Ask)
+    {
+        KeptContent::Get().Forget();
+        Make(manners);
+    }
+
+    void Make(Documents::Manners manners)
+    {
+        pDocuments = std::make_unique<Documents>(sketch, *pWindow, manners,
+                                                 [this](const Documents::Work& work) {
+                                                     ++workCount;
+                                                     work(progress);
+                                                 });
+        RegisterCommands(MakeDocumentCommands(*pDocuments));
+    }
+
+    static void Run(const wchar_t* commandId) { vesk::ActionManager::RunCommand(commandId, {}); }
+
+    QString File(const QString& name) const { return folder.filePath(name); }
+
+    /// A file with a drawing.
+    QString MakeFile(const QString& name, const SketchContent& content = MakeSampleContent()) const
+    {
+        const bool isWritten =
+            vesk::WriteBytes(File(name), QByteArray::fromStdString(DocumentFile::ToText(content)));
+        return isWritten ? File(name) : QString();
+    }
+
+    void Draw() { sketch.AddLine({0, 0, 0}, {10, 0, 0}); }
+
+    QTemporaryDir folder;
+    ScopedVariable config{"XDG_CONFIG_HOME", folder.filePath("config")};
+    vesk::test::WarningRecorder warnings;
+    vesk::HostCore core;
+    vesk::UiApplication application;
+    vesk::test::JournalRecorder journal;
+    Sketch sketch;
+    std::unique_ptr<vesk::MainWindow> pWindow = std::make_unique<vesk::MainWindow>();
+    std::unique_ptr<Documents> pDocuments;
+    vesk::test::DialogUser user;
+    DocumentFile::Progress progress;
+    int workCount = 0;
+};

@@ -1,0 +1,128 @@
+#include "Recovery/Autosave.h"
+
+#include "Model/Sketch.h"
+#include "Recovery/Snapshot.h"
+
+#include "Command/ActionManager.h"
+#include "Journal/JournalManager.h"
+#include "Support/HostFixture.h"
+#include "Support/TestValues.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+#include <limits>
+
+using vesk::JournalManager;
+using vesk::MarkRecord;
+
+namespace
+{
+
+struct Fixture
+{
+    QString Journal() const { return folder.filePath("journal.jsonl"); }
+
+    /// One step, with its mark; returns its number.
+    int Draw(double length)
+    {
+        sketch.AddLine({0, 0, 0}, {length, 0, 0});
+        return Mark();
+    }
+
+    int Mark() { return JournalManager::GetInstance().Add(MarkRecord{sketch.GetDigest(), {}}); }
+
+    /// True once the snapshot that was begun has been written.
+    bool IsSaved() { return saved.count() > 0 || saved.wait(vesk::test::PatienceMs); }
+
+    vesk::test::HostFixture host;
+    QTemporaryDir folder;
+    Sketch sketch;
+    Autosave autosave{sketch, [this] { return Journal(); }};
+    QSignalSpy saved{&autosave, &Autosave::saved};
+};
+
+}
+
+/// Snapshots that are taken while the user draws.
+class AutosaveTest final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aSnapshotIsTheDrawingAfterItsRecord()
+    {
+        Fixture f;
+        const int record = f.Draw(5);
+
+        QVERIFY(f.autosave.SaveNow());
+
+        QVERIFY(f.IsSaved());
+        QCOMPARE(f.saved.front().front().toInt(), record);
+        const std::optional<Snapshot> found = Snapshot::FindNewest(f.Journal());
+        QVERIFY(found.has_value());
+        QCOMPARE(found->record, record);
+        QCOMPARE(found->digest, f.sketch.GetDigest());
+    }
+
+    void anUnchangedDrawingIsNotSavedAgain()
+    {
+        Fixture f;
+        f.Mark();
+        QVERIFY(!f.autosave.SaveNow());
+        f.Draw(5);
+        QVERIFY(f.autosave.SaveNow());
+        QVERIFY(f.IsSaved());
+
+        f.Mark();
+
+        QVERIFY(!f.autosave.SaveNow());
+    }
+
+    void aDrawingWhoseStepHasNoMarkYetIsNotSaved()
+    {
+        Fixture f;
+        f.Draw(5);
+        f.sketch.AddLine({0, 0, 0}, {6, 0, 0});
+
+        QVERIFY(!f.autosave.SaveNow());
+    }
+
+    void noneIsTakenInTheMidstOfAnAction()
+    {
+        Fixture f;
+        f.host.BeginAction();
+        f.Draw(5);
+
+        QVERIFY(!f.autosave.SaveNow());
+
+        vesk::ActionManager::Reset();
+        QVERIFY(f.autosave.SaveNow());
+    }
+
+    void theEndWaitsForTheSnapshot()
+    {
+        Fixture f;
+        {
+            Autosave other(f.sketch, [&f] { return f.Journal(); });
+            f.Draw(5);
+            QVERIFY(other.SaveNow());
+        }
+
+        QVERIFY(Snapshot::FindNewest(f.Journal()).has_value());
+    }
+
+    void withoutAJournalNothingIsSaved()
+    {
+        Fixture f;
+        Autosave other(f.sketch, [] { return QString(); });
+        f.Draw(5);
+
+        QVERIFY(!other.SaveNow());
+    }
+};
+
+VESK_TESTS(AutosaveTest);
+#include "AutosaveTest.moc"

@@ -1,0 +1,97 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QObject>
+#include <QStringList>
+#include <QTimer>
+
+#include <deque>
+#include <functional>
+
+namespace vesk::test
+{
+
+/// Answers the dialogs that the program shows, one after the other, while it lives.
+///
+/// A dialog for which no answer is left is closed and reported as unexpected.
+class DialogUser final : public QObject
+{
+public:
+    DialogUser()
+    {
+        connect(&m_timer, &QTimer::timeout, this, &DialogUser::Look);
+        m_timer.start(1);
+    }
+
+    /// Clicks the button with that text.
+    DialogUser& Press(const QString& text)
+    {
+        return Do([text](QDialog& dialog) {
+            for (auto* pButton : dialog.findChildren<QAbstractButton*>())
+            {
+                if (pButton->text() == text)
+                    return pButton->click();
+            }
+            dialog.reject();
+        });
+    }
+
+    /// Types a file name in a file dialog and accepts it.
+    DialogUser& ChooseFile(const QString& path)
+    {
+        return Do([path](QDialog& dialog) {
+            if (auto* pField = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit")))
+                pField->setText(path);
+            dialog.accept();
+        });
+    }
+
+    DialogUser& Cancel()
+    {
+        return Do([](QDialog& dialog) { dialog.reject(); });
+    }
+
+    DialogUser& Do(std::function<void(QDialog&)> answer)
+    {
+        m_answers.push_back(std::move(answer));
+        return *this;
+    }
+
+    /// The texts of the dialogs shown so far: those of messages, the titles of others.
+    const QStringList& GetTexts() const { return m_texts; }
+    const QStringList& GetUnexpected() const { return m_unexpected; }
+    bool HasAnswersLeft() const { return !m_answers.empty(); }
+
+private:
+    void Look()
+    {
+        auto* pDialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (pDialog == nullptr || !pDialog->isVisible())
+            return;
+        const auto* pMessage = qobject_cast<QMessageBox*>(pDialog);
+        const QString text = pMessage != nullptr ? pMessage->text() + pMessage->informativeText()
+                                                 : pDialog->windowTitle();
+        m_texts << text;
+        if (m_answers.empty())
+        {
+            m_unexpected << text;
+            pDialog->reject();
+            return;
+        }
+        const std::function<void(QDialog&)> answer = std::move(m_answers.front());
+        m_answers.pop_front();
+        answer(*pDialog);
+    }
+
+    QTimer m_timer;
+    std::deque<std::function<void(QDialog&)>> m_answers;
+    QStringList m_texts;
+    QStringList m_unexpected;
+};
+
+}
