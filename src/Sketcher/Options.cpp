@@ -125,6 +125,7 @@ Options ParseOptions(const QStringList& arguments)
             WarningRaiser::GetKinds().join(QStringLiteral(", ")),
         QStringLiteral("KIND"));
     parser.addOption(raiseWarnings);
+    ReplayOptions::Declare(parser);
     parser.addPositionalArgument(QStringLiteral("FILE.vsk"),
                                  QStringLiteral("the drawing file to open"),
                                  QStringLiteral("[FILE.vsk]"));
@@ -149,6 +150,9 @@ Options ParseOptions(const QStringList& arguments)
     }
     if (options.error.isEmpty())
         options.error = CheckNames(options);
+    if (options.error.isEmpty())
+        options.repetition =
+            ReplayOptions::Read(parser, IsSameFile(options.journal, options.replay), options.error);
     options.raiseWarnings = parser.value(raiseWarnings);
     if (options.error.isEmpty() && parser.isSet(raiseWarnings) &&
         !WarningRaiser::GetKinds().contains(options.raiseWarnings))
