@@ -201,7 +201,9 @@ void SketcherWindow::BuildProgress(ControlHost& controls)
 
 void SketcherWindow::BuildPointedText()
 {
+    constexpr int Margin = 6;
     m_pPointed->setObjectName(QStringLiteral("Pointed"));
+    m_pPointed->setContentsMargins(Margin, 0, Margin, 0);
     // The window does not grow for it.
     m_pPointed->setMinimumWidth(1);
     statusBar()->insertPermanentWidget(1, m_pPointed);
