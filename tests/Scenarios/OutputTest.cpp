@@ -1,11 +1,11 @@
 #include "Drawing.h"
 #include "ScenarioTest.h"
-#include "ScopedVariable.h"
 #include "ScriptedUser.h"
 #include "SketcherProcess.h"
 #include "SketcherWindow.h"
 
 #include "Support/FileBytes.h"
+#include "Support/ScopedVariable.h"
 #include "Support/TestValues.h"
 
 #include <QAbstractButton>
