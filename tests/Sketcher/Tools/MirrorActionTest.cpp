@@ -8,6 +8,8 @@
 using namespace vesk;
 using Fixture = ActionFixture<MirrorAction>;
 
+Q_DECLARE_METATYPE(Vector3d)
+
 namespace
 {
 
