@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ReplayOptions.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -25,8 +27,16 @@ struct Options
     QString log;
     QString screenshot;
 
+    /// The unit of a DXF file that names none; empty to ask.
+    QString dxfUnit;
+
+    /// A drawing that was read is written here, in the format of the suffix, without a window.
+    QString exportFile;
+
     /// Which debug warnings to raise once the window is open; empty for none.
     QString raiseWarnings;
+
+    ReplayOptions repetition;
 
     /// One line; empty if the command line is valid and every named file is usable.
     QString error;

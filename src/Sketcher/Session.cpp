@@ -2,11 +2,12 @@
 
 #include "BackgroundWork.h"
 #include "DataFile.h"
-#include "Help/HelpCommands.h"
 #include "Documents/DocumentCommands.h"
+#include "Help/HelpCommands.h"
 #include "Model/KeptContent.h"
 #include "Model/ModelFile.h"
-#include "Output/PictureExport.h"
+#include "Output/DrawingExport.h"
+#include "Output/DrawingSource.h"
 #include "Recovery/RecoverContent.h"
 #include "Ribbon/CommandTable.h"
 #include "VeskUiQtImpl/DockManagerImpl.h"
@@ -17,6 +18,7 @@
 #include "Foundation/Text.h"
 #include "HostUi/LayoutFile.h"
 #include "HostUi/PublishConfigFile.h"
+#include "HostUi/QtText.h"
 #include "Journal/JournalFormat.h"
 #include "Journal/JournalManager.h"
 #include "Warnings/DebugMessageMgr.h"
@@ -70,6 +72,13 @@ QLocale LocaleOf(const Settings& settings)
     return settings.language.isEmpty() ? QLocale() : QLocale(settings.language);
 }
 
+/// Name and version, "sketcher 1.0".
+std::wstring ProgramName()
+{
+    const QString name = QCoreApplication::applicationName();
+    return ToWide((name + QLatin1Char(' ') + QCoreApplication::applicationVersion()).trimmed());
+}
+
 void Complain(const std::string& text)
 {
     std::cerr << "sketcher: " << text << std::endl;
@@ -92,6 +101,25 @@ bool IsWritable(const QString& path)
     return QFileInfo(file.path()).isWritable() && (!file.exists() || file.isWritable());
 }
 
+/// Runs work in the background of the window, which shows the progress.
+OutputRunner RunnerIn(SketcherWindow& window)
+{
+    return [&window](const std::function<void(const OutputProgress&)>& work) {
+        RunInBackground(window, window.GetProgress(), [&work](WorkProgress& progress) {
+            work([&progress](double share) { return progress.Advance(share); });
+        });
+    };
+}
+
+bool WriteExport(const Sketch& sketch, const QString& path)
+{
+    const OutputFault fault = ExportDrawing(sketch.GetContent(), *ExportFormatOf(path), path,
+                                            [](double) { return true; });
+    if (fault != OutputFault::None)
+        Complain(path.toStdString() + ": " + DescribeOutputFault(fault));
+    return fault == OutputFault::None;
+}
+
 bool WritePicture(const QPixmap& picture, const QString& path)
 {
     QByteArray bytes;
@@ -108,6 +136,8 @@ Session::Session(const Options& options)
       m_translations(SharedFile(QStringLiteral("translations")), QStringLiteral("sketcher"),
                      LocaleOf(m_settings.Get())),
       m_window(m_workspace, m_input), m_pDocks(std::make_unique<DockManagerImpl>(&m_window)),
+      m_output(m_workspace, m_window, RunnerIn(m_window)),
+      m_import(m_workspace, m_window, RunnerIn(m_window)),
       m_settingsApplier(m_settings, m_window, m_input, SharedFile(QStringLiteral("translations"))),
       m_clipboard(m_workspace, [this](const QString& text) { m_window.ShowNotice(text); })
 {
@@ -124,6 +154,10 @@ Session::Session(const Options& options)
                      &SketcherWindow::ShowContextMenu);
     std::vector<CommandEntry> commands = MakeCommandTable(m_workspace, m_window.GetView(), m_input);
     for (CommandEntry& entry : m_pPanes->MakeCommands())
+        commands.push_back(std::move(entry));
+    for (CommandEntry& entry : m_output.MakeCommands())
+        commands.push_back(std::move(entry));
+    for (CommandEntry& entry : m_import.MakeCommands())
         commands.push_back(std::move(entry));
     commands.push_back(MakeRecoverCommand(m_workspace.sketch));
     MakeDocuments();
@@ -144,6 +178,8 @@ Session::Session(const Options& options)
         if (entry.isPossible)
             m_possibilities[entry.id] = entry.isPossible;
     }
+    JournalManager::GetInstance().SetSynced(m_options.repetition.isSynced);
+    JournalManager::GetInstance().SetProgram(ProgramName());
     JournalManager::GetInstance().SetDigestSource(
         [this] { return m_workspace.sketch.GetDigest(); });
     m_window.BuildControls(commands, m_controls);
@@ -181,6 +217,8 @@ int Session::Run()
     if (isReplay)
         DebugMessageMgr::GetDebugMessageMgr()->SetAttended(false);
     const int code = isReplay ? Replay() : Draw();
+    if (code == ExitUnusableFile)
+        return code;
     return WriteResults() ? code : ExitUnusableFile;
 }
 
@@ -192,7 +230,8 @@ bool Session::CanRepeat(const CommandRecord& record)
 
 bool Session::OnProgress(std::size_t done, std::size_t total)
 {
-    return m_pReading == nullptr || m_pReading->Advance(done, total);
+    const auto advance = [&] { return m_pReading == nullptr || m_pReading->Advance(done, total); };
+    return m_pPace != nullptr ? m_pPace->WaitFor(done, advance) : advance();
 }
 
 bool Session::ReplaySelection(const SelectionRecord& record)
@@ -285,6 +324,7 @@ bool Session::ReadJournal(const QString& path)
     if (JournalFormat::ReadFile(path.toStdString(), m_records, error))
     {
         ObeyVersion();
+        m_options.repetition.Cut(m_records);
         return true;
     }
     Complain(path.toStdString() + ": " + error);
@@ -344,8 +384,7 @@ int Session::Draw()
     if (!m_options.open.isEmpty())
         QTimer::singleShot(0, &m_window, [this] { Open(); });
     if (!m_options.document.isEmpty())
-        QTimer::singleShot(0, m_pDocuments.get(),
-                           [this] { m_pDocuments->OpenFile(m_options.document); });
+        QTimer::singleShot(0, m_pDocuments.get(), [this] { OpenDocument(); });
     if (!m_options.raiseWarnings.isEmpty())
         m_pWarningRaiser =
             std::make_unique<WarningRaiser>(m_options.raiseWarnings, m_window.GetView());
@@ -381,13 +420,60 @@ void Session::BeginRecovery()
     m_pRecovery->Offer(m_options);
 }
 
+/// A drawing file is opened; any other drawing is added to the empty one.
+void Session::OpenDocument()
+{
+    if (IsDxfFile(m_options.document))
+        m_import.Import(m_options.document, m_options.dxfUnit);
+    else
+        m_pDocuments->OpenFile(m_options.document);
+}
+
+/// Reads the document without the window.
+int Session::ReadDocument()
+{
+    DrawingSource source = ReadDrawing(m_options.document, m_options.dxfUnit);
+    if (source.error.empty() && m_workspace.sketch.Restore(std::move(source.content)))
+        return 0;
+    Complain(m_options.document.toStdString() + ": " + source.error);
+    return ExitUnusableFile;
+}
+
 int Session::Replay()
 {
-    const JournalReplayResult result = Repeat();
-    if (!result.failure.empty())
-        return ExitNotRepeated;
-    m_journal.GoOn(result, GetLastNumber());
-    return 0;
+    if (!m_options.document.isEmpty())
+        return ReadDocument();
+    const bool isRealTime = m_options.repetition.isRealTime;
+    if (isRealTime)
+        ShowReplay();
+    const JournalReplayResult result = isRealTime ? RepeatInRealTime() : Repeat();
+    if (result.failure.empty() && !result.isStopped)
+        m_journal.GoOn(result, GetLastNumber());
+    const bool isClosed = isRealTime && !m_window.isVisible();
+    if (m_options.repetition.isStaying && !isClosed)
+    {
+        ShowReplay();
+        QApplication::exec();
+    }
+    return result.failure.empty() ? 0 : ExitNotRepeated;
+}
+
+/// Shows the window in its own size: a replay reads no layout.
+void Session::ShowReplay()
+{
+    if (m_window.isVisible())
+        return;
+    ObeyTerminationRequests();
+    m_pKeeping = std::make_unique<KeepingMonitor>(m_window);
+    m_window.show();
+}
+
+JournalReplayResult Session::RepeatInRealTime()
+{
+    m_pPace = std::make_unique<ReplayPace>(m_records);
+    const JournalReplayResult result = RepeatInWindow();
+    m_pPace.reset();
+    return result;
 }
 
 /// Replays it while the window shows the progress.
@@ -459,12 +545,13 @@ bool Session::WriteResults()
     };
     if (!m_options.model.isEmpty())
         note(WriteModelFile(m_workspace.sketch, m_options.model), m_options.model, named);
+    if (!m_options.exportFile.isEmpty())
+        note(WriteExport(m_workspace.sketch, m_options.exportFile), m_options.exportFile, named);
     if (!m_options.screenshot.isEmpty())
         note(WritePicture(m_window.grab(), m_options.screenshot), m_options.screenshot, named);
     if (m_pUiTree != nullptr)
         note(m_pUiTree->Write(), m_options.uiTree, named);
-    note(JournalManager::GetInstance().Close(), m_journal.GetPath(),
-         m_journal.IsNamed() ? named : m_unwritten);
+    note(m_journal.Close(), m_journal.GetPath(), m_journal.IsNamed() ? named : m_unwritten);
     const bool isLogNamed = !m_options.log.isEmpty();
     note(DebugMessageMgr::GetDebugMessageMgr()->CloseLog(),
          isLogNamed ? m_options.log : DataFile(QStringLiteral("warnings.log")),

@@ -5,12 +5,14 @@
 #include "KeepingMonitor.h"
 #include "Model/Workspace.h"
 #include "Options.h"
+#include "Output/ImportCommands.h"
 #include "Panes/Panes.h"
 #include "ReadingMonitor.h"
+#include "ReplayPace.h"
 #include "SessionJournal.h"
+#include "SessionRecovery.h"
 #include "Settings/SettingsStore.h"
 #include "SettingsApplier.h"
-#include "SessionRecovery.h"
 #include "SketcherWindow.h"
 #include "WarningRaiser.h"
 
@@ -62,11 +64,15 @@ private:
     void SaveLayout();
     void ObeyTerminationRequests();
     int Draw();
+    void OpenDocument();
+    int ReadDocument();
     int Replay();
     void Open();
     void BeginRecovery();
     vesk::JournalReplayResult Repeat();
     vesk::JournalReplayResult RepeatInWindow();
+    vesk::JournalReplayResult RepeatInRealTime();
+    void ShowReplay();
     QString GoOn(const vesk::JournalReplayResult& result);
     int GetLastNumber() const;
     void ShowFailure(const vesk::JournalReplayResult& result);
@@ -92,12 +98,15 @@ private:
     SketcherWindow m_window;
     const std::unique_ptr<vesk::IDockManager> m_pDocks;
     vesk::ControlHost m_controls;
+    OutputCommands m_output;
+    ImportCommands m_import;
     SettingsApplier m_settingsApplier;
     std::unique_ptr<Panes> m_pPanes;
     std::unique_ptr<Documents> m_pDocuments;
     ClipboardCommands m_clipboard;
     std::unique_ptr<vesk::UiTreeWriter> m_pUiTree;
     std::unique_ptr<WarningRaiser> m_pWarningRaiser;
+    std::unique_ptr<ReplayPace> m_pPace;  ///< Set during a replay in real time.
     ReadingMonitor* m_pReading = nullptr; ///< Set while a drawing is opened; not owned.
     std::unique_ptr<KeepingMonitor> m_pKeeping;
     std::unique_ptr<SessionRecovery> m_pRecovery;
