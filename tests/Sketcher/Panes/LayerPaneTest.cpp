@@ -83,7 +83,8 @@ struct Fixture
     void Rename(const QString& name) const
     {
         View().edit(Cell(1, LayerModel::NameColumn));
-        auto* pField = View().viewport()->findChild<QLineEdit*>();
+        // A former editor may still be there.
+        QLineEdit* pField = View().viewport()->findChildren<QLineEdit*>().last();
         pField->selectAll();
         QTest::keyClicks(pField, name);
         QTest::keyClick(pField, Qt::Key_Return);
