@@ -155,6 +155,7 @@ Options ParseOptions(const QStringList& arguments)
             WarningRaiser::GetKinds().join(QStringLiteral(", ")),
         QStringLiteral("KIND"));
     parser.addOption(raiseWarnings);
+    ReplayOptions::Declare(parser);
     const QCommandLineOption dxfUnit(
         QStringLiteral("dxf-unit"),
         QStringLiteral("the unit of a DXF file that does not name one: mm, cm, m, in or ft"),
@@ -184,6 +185,9 @@ Options ParseOptions(const QStringList& arguments)
     }
     if (options.error.isEmpty())
         options.error = CheckNames(options);
+    if (options.error.isEmpty())
+        options.repetition =
+            ReplayOptions::Read(parser, IsSameFile(options.journal, options.replay), options.error);
     if (options.error.isEmpty())
         options.error = CheckExport(options);
     options.raiseWarnings = parser.value(raiseWarnings);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ReplayOptions.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -33,6 +35,8 @@ struct Options
 
     /// Which debug warnings to raise once the window is open; empty for none.
     QString raiseWarnings;
+
+    ReplayOptions repetition;
 
     /// One line; empty if the command line is valid and every named file is usable.
     QString error;

@@ -18,6 +18,7 @@
 #include "Foundation/Text.h"
 #include "HostUi/LayoutFile.h"
 #include "HostUi/PublishConfigFile.h"
+#include "HostUi/QtText.h"
 #include "Journal/JournalFormat.h"
 #include "Journal/JournalManager.h"
 #include "Warnings/DebugMessageMgr.h"
@@ -69,6 +70,13 @@ QString SettingsToRead(const Options& options)
 QLocale LocaleOf(const Settings& settings)
 {
     return settings.language.isEmpty() ? QLocale() : QLocale(settings.language);
+}
+
+/// Name and version, "sketcher 1.0".
+std::wstring ProgramName()
+{
+    const QString name = QCoreApplication::applicationName();
+    return ToWide((name + QLatin1Char(' ') + QCoreApplication::applicationVersion()).trimmed());
 }
 
 void Complain(const std::string& text)
@@ -170,6 +178,8 @@ Session::Session(const Options& options)
         if (entry.isPossible)
             m_possibilities[entry.id] = entry.isPossible;
     }
+    JournalManager::GetInstance().SetSynced(m_options.repetition.isSynced);
+    JournalManager::GetInstance().SetProgram(ProgramName());
     JournalManager::GetInstance().SetDigestSource(
         [this] { return m_workspace.sketch.GetDigest(); });
     m_window.BuildControls(commands, m_controls);
@@ -220,7 +230,8 @@ bool Session::CanRepeat(const CommandRecord& record)
 
 bool Session::OnProgress(std::size_t done, std::size_t total)
 {
-    return m_pReading == nullptr || m_pReading->Advance(done, total);
+    const auto advance = [&] { return m_pReading == nullptr || m_pReading->Advance(done, total); };
+    return m_pPace != nullptr ? m_pPace->WaitFor(done, advance) : advance();
 }
 
 bool Session::ReplaySelection(const SelectionRecord& record)
@@ -313,6 +324,7 @@ bool Session::ReadJournal(const QString& path)
     if (JournalFormat::ReadFile(path.toStdString(), m_records, error))
     {
         ObeyVersion();
+        m_options.repetition.Cut(m_records);
         return true;
     }
     Complain(path.toStdString() + ": " + error);
@@ -431,11 +443,37 @@ int Session::Replay()
 {
     if (!m_options.document.isEmpty())
         return ReadDocument();
-    const JournalReplayResult result = Repeat();
-    if (!result.failure.empty())
-        return ExitNotRepeated;
-    m_journal.GoOn(result, GetLastNumber());
-    return 0;
+    const bool isRealTime = m_options.repetition.isRealTime;
+    if (isRealTime)
+        ShowReplay();
+    const JournalReplayResult result = isRealTime ? RepeatInRealTime() : Repeat();
+    if (result.failure.empty() && !result.isStopped)
+        m_journal.GoOn(result, GetLastNumber());
+    const bool isClosed = isRealTime && !m_window.isVisible();
+    if (m_options.repetition.isStaying && !isClosed)
+    {
+        ShowReplay();
+        QApplication::exec();
+    }
+    return result.failure.empty() ? 0 : ExitNotRepeated;
+}
+
+/// Shows the window in its own size: a replay reads no layout.
+void Session::ShowReplay()
+{
+    if (m_window.isVisible())
+        return;
+    ObeyTerminationRequests();
+    m_pKeeping = std::make_unique<KeepingMonitor>(m_window);
+    m_window.show();
+}
+
+JournalReplayResult Session::RepeatInRealTime()
+{
+    m_pPace = std::make_unique<ReplayPace>(m_records);
+    const JournalReplayResult result = RepeatInWindow();
+    m_pPace.reset();
+    return result;
 }
 
 /// Replays it while the window shows the progress.
@@ -513,8 +551,7 @@ bool Session::WriteResults()
         note(WritePicture(m_window.grab(), m_options.screenshot), m_options.screenshot, named);
     if (m_pUiTree != nullptr)
         note(m_pUiTree->Write(), m_options.uiTree, named);
-    note(JournalManager::GetInstance().Close(), m_journal.GetPath(),
-         m_journal.IsNamed() ? named : m_unwritten);
+    note(m_journal.Close(), m_journal.GetPath(), m_journal.IsNamed() ? named : m_unwritten);
     const bool isLogNamed = !m_options.log.isEmpty();
     note(DebugMessageMgr::GetDebugMessageMgr()->CloseLog(),
          isLogNamed ? m_options.log : DataFile(QStringLiteral("warnings.log")),

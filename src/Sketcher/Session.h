@@ -8,6 +8,7 @@
 #include "Output/ImportCommands.h"
 #include "Panes/Panes.h"
 #include "ReadingMonitor.h"
+#include "ReplayPace.h"
 #include "SessionJournal.h"
 #include "SessionRecovery.h"
 #include "Settings/SettingsStore.h"
@@ -70,6 +71,8 @@ private:
     void BeginRecovery();
     vesk::JournalReplayResult Repeat();
     vesk::JournalReplayResult RepeatInWindow();
+    vesk::JournalReplayResult RepeatInRealTime();
+    void ShowReplay();
     QString GoOn(const vesk::JournalReplayResult& result);
     int GetLastNumber() const;
     void ShowFailure(const vesk::JournalReplayResult& result);
@@ -103,6 +106,7 @@ private:
     ClipboardCommands m_clipboard;
     std::unique_ptr<vesk::UiTreeWriter> m_pUiTree;
     std::unique_ptr<WarningRaiser> m_pWarningRaiser;
+    std::unique_ptr<ReplayPace> m_pPace;  ///< Set during a replay in real time.
     ReadingMonitor* m_pReading = nullptr; ///< Set while a drawing is opened; not owned.
     std::unique_ptr<KeepingMonitor> m_pKeeping;
     std::unique_ptr<SessionRecovery> m_pRecovery;

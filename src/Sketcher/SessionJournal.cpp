@@ -96,6 +96,12 @@ QString SessionJournal::LeaveForAnother()
     return m_path;
 }
 
+bool SessionJournal::Close()
+{
+    Manager().Add(CloseRecord());
+    return Manager().Close();
+}
+
 QString SessionJournal::StartAnew()
 {
     const bool isContinued = m_isContinued;

@@ -52,6 +52,9 @@ public:
     /// LeaveForAnother.
     QString StartAnew();
 
+    /// Records the orderly end and closes the file. Returns false if records are missing from it.
+    bool Close();
+
     /// Leaves the file in use as it is and begins another, for records of that version. Returns the
     /// path of the one that was left.
     QString StartAnother(int version = vesk::HeaderRecord::CurrentVersion);

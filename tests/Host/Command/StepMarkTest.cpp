@@ -147,6 +147,9 @@ void StepMarkTest::aReplayMarksTheStepsThatItRepeats()
     QCOMPARE(QString::fromStdString(f.Replay().failure), QString());
 
     QCOMPARE(Kinds(), QString("command mark command mark end end"));
+    QVERIFY2(Journal().GetLastLines()[1].find("\"t\":") == std::string::npos, "its own time");
+    f.Choose("Change");
+    QVERIFY(Journal().GetLastLines()[7].find("\"t\":") != std::string::npos);
 }
 
 }

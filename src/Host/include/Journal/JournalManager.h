@@ -76,6 +76,10 @@ public:
     /// Sets what computes the digest of the document; empty for no marks.
     virtual void SetDigestSource(std::function<std::string()> source) = 0;
 
+    /// Sets whether marks have a time, and returns the former setting. A replay turns it off: its
+    /// times are not the user's.
+    virtual bool SetTimed(bool isTimed) = 0;
+
     /// Sets whether each record is on disk before what it records is done, rather than only with
     /// the operating system. It then survives a power failure.
     virtual void SetSynced(bool isSynced) = 0;

@@ -14,6 +14,7 @@
 #include <deque>
 #include <limits>
 #include <mutex>
+#include <optional>
 #include <utility>
 
 namespace vesk
@@ -81,6 +82,7 @@ public:
     void SetProgram(const std::wstring& program) override { m_program = program; }
     void SetVersion(int version) override { m_version = version; }
     void SetDigestSource(std::function<std::string()> source) override;
+    bool SetTimed(bool isTimed) override { return std::exchange(m_isTimed, isTimed); }
     void SetSynced(bool isSynced) override { m_file.SetSynced(isSynced); }
     bool IsKept() const override { return m_file.IsKept(); }
     bool Close() override;
@@ -128,6 +130,7 @@ private:
 
     /// True if a record of a finished step has no mark yet.
     bool m_isMarkDue = false;
+    bool m_isTimed = true;
     Announced m_announced;
     LastLines m_lastLines;
     std::vector<IJournalObserver*> m_observers;
@@ -222,7 +225,7 @@ void JournalManagerImpl::FinishStep()
         return;
     m_isMarkDue = false;
     m_lastDigest = digest;
-    Add(MarkRecord{digest, MillisecondsSince(m_begin)});
+    Add(MarkRecord{digest, m_isTimed ? std::optional(MillisecondsSince(m_begin)) : std::nullopt});
 }
 
 int JournalManagerImpl::TakeAnnounced(const std::wstring& commandId)

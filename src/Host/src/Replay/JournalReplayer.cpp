@@ -36,6 +36,19 @@ private:
     IActionEventLoop* m_pEventLoop;
 };
 
+/// Marks have no time while it exists.
+class TimesOffScope
+{
+public:
+    TimesOffScope() : m_wasTimed(JournalManager::GetInstance().SetTimed(false)) {}
+    ~TimesOffScope() { JournalManager::GetInstance().SetTimed(m_wasTimed); }
+    TimesOffScope(const TimesOffScope&) = delete;
+    TimesOffScope& operator=(const TimesOffScope&) = delete;
+
+private:
+    bool m_wasTimed;
+};
+
 /// Where each command ends in a journal.
 class EndMarks
 {
@@ -385,6 +398,7 @@ JournalReplayResult JournalReplayer::Replay(const std::vector<JournalRecord>& re
     }
     ActionManager::Reset();
     const EventLoopOffScope eventLoopOff;
+    const TimesOffScope timesOff;
     const ScopedValue<bool> replaying(s_isReplaying, true);
     JournalReplayResult result;
     FirstException exception;
