@@ -10,6 +10,7 @@
 #include <QStandardPaths>
 
 #include <cstddef>
+#include <string>
 
 namespace
 {

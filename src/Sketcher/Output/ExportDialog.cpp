@@ -6,7 +6,10 @@
 
 #include <QFileDialog>
 #include <QPointer>
+#include <QStringList>
 #include <QWidget>
+
+#include <cstddef>
 
 namespace
 {

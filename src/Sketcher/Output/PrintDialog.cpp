@@ -7,11 +7,14 @@
 #include <QElapsedTimer>
 #include <QFormLayout>
 #include <QHBoxLayout>
+#include <QImage>
 #include <QLabel>
 #include <QPainter>
+#include <QPixmap>
 #include <QPrinterInfo>
 #include <QPushButton>
 
+#include <algorithm>
 #include <utility>
 
 namespace
