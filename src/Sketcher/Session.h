@@ -9,9 +9,9 @@
 #include "ReadingMonitor.h"
 #include "ReplayPace.h"
 #include "SessionJournal.h"
+#include "SessionRecovery.h"
 #include "Settings/SettingsStore.h"
 #include "SettingsApplier.h"
-#include "SessionRecovery.h"
 #include "SketcherWindow.h"
 #include "WarningRaiser.h"
 
@@ -66,6 +66,7 @@ private:
     int Replay();
     void Open();
     void BeginRecovery();
+    SessionJournal::Work GetWork() const;
     vesk::JournalReplayResult Repeat();
     vesk::JournalReplayResult RepeatInWindow();
     vesk::JournalReplayResult RepeatInRealTime();
@@ -85,6 +86,9 @@ private:
 
     /// Files not named by an option that could not be written at the end.
     QStringList m_unwritten;
+
+    bool m_isEndRequested = false; ///< By the operating system.
+    bool m_isEndDecided = false;   ///< The user has closed the window.
 
     vesk::HostCore m_host;
     vesk::UiApplication m_application;
