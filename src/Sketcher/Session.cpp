@@ -6,7 +6,8 @@
 #include "Help/HelpCommands.h"
 #include "Model/KeptContent.h"
 #include "Model/ModelFile.h"
-#include "Output/PictureExport.h"
+#include "Output/DrawingExport.h"
+#include "Output/DrawingSource.h"
 #include "Recovery/RecoverContent.h"
 #include "Ribbon/CommandTable.h"
 #include "VeskUiQtImpl/DockManagerImpl.h"
@@ -100,6 +101,25 @@ bool IsWritable(const QString& path)
     return QFileInfo(file.path()).isWritable() && (!file.exists() || file.isWritable());
 }
 
+/// Runs work in the background of the window, which shows the progress.
+OutputRunner RunnerIn(SketcherWindow& window)
+{
+    return [&window](const std::function<void(const OutputProgress&)>& work) {
+        RunInBackground(window, window.GetProgress(), [&work](WorkProgress& progress) {
+            work([&progress](double share) { return progress.Advance(share); });
+        });
+    };
+}
+
+bool WriteExport(const Sketch& sketch, const QString& path)
+{
+    const OutputFault fault = ExportDrawing(sketch.GetContent(), *ExportFormatOf(path), path,
+                                            [](double) { return true; });
+    if (fault != OutputFault::None)
+        Complain(path.toStdString() + ": " + DescribeOutputFault(fault));
+    return fault == OutputFault::None;
+}
+
 bool WritePicture(const QPixmap& picture, const QString& path)
 {
     QByteArray bytes;
@@ -116,6 +136,8 @@ Session::Session(const Options& options)
       m_translations(SharedFile(QStringLiteral("translations")), QStringLiteral("sketcher"),
                      LocaleOf(m_settings.Get())),
       m_window(m_workspace, m_input), m_pDocks(std::make_unique<DockManagerImpl>(&m_window)),
+      m_output(m_workspace, m_window, RunnerIn(m_window)),
+      m_import(m_workspace, m_window, RunnerIn(m_window)),
       m_settingsApplier(m_settings, m_window, m_input, SharedFile(QStringLiteral("translations"))),
       m_clipboard(m_workspace, [this](const QString& text) { m_window.ShowNotice(text); })
 {
@@ -132,6 +154,10 @@ Session::Session(const Options& options)
                      &SketcherWindow::ShowContextMenu);
     std::vector<CommandEntry> commands = MakeCommandTable(m_workspace, m_window.GetView(), m_input);
     for (CommandEntry& entry : m_pPanes->MakeCommands())
+        commands.push_back(std::move(entry));
+    for (CommandEntry& entry : m_output.MakeCommands())
+        commands.push_back(std::move(entry));
+    for (CommandEntry& entry : m_import.MakeCommands())
         commands.push_back(std::move(entry));
     commands.push_back(MakeRecoverCommand(m_workspace.sketch));
     MakeDocuments();
@@ -191,6 +217,8 @@ int Session::Run()
     if (isReplay)
         DebugMessageMgr::GetDebugMessageMgr()->SetAttended(false);
     const int code = isReplay ? Replay() : Draw();
+    if (code == ExitUnusableFile)
+        return code;
     return WriteResults() ? code : ExitUnusableFile;
 }
 
@@ -362,8 +390,7 @@ int Session::Draw()
     if (!m_options.open.isEmpty())
         QTimer::singleShot(0, &m_window, [this] { Open(); });
     if (!m_options.document.isEmpty())
-        QTimer::singleShot(0, m_pDocuments.get(),
-                           [this] { m_pDocuments->OpenFile(m_options.document); });
+        QTimer::singleShot(0, m_pDocuments.get(), [this] { OpenDocument(); });
     if (!m_options.raiseWarnings.isEmpty())
         m_pWarningRaiser =
             std::make_unique<WarningRaiser>(m_options.raiseWarnings, m_window.GetView());
@@ -404,8 +431,29 @@ void Session::BeginRecovery()
     m_pRecovery->Offer(m_options);
 }
 
+/// A drawing file is opened; any other drawing is added to the empty one.
+void Session::OpenDocument()
+{
+    if (IsDxfFile(m_options.document))
+        m_import.Import(m_options.document, m_options.dxfUnit);
+    else
+        m_pDocuments->OpenFile(m_options.document);
+}
+
+/// Reads the document without the window.
+int Session::ReadDocument()
+{
+    DrawingSource source = ReadDrawing(m_options.document, m_options.dxfUnit);
+    if (source.error.empty() && m_workspace.sketch.Restore(std::move(source.content)))
+        return 0;
+    Complain(m_options.document.toStdString() + ": " + source.error);
+    return ExitUnusableFile;
+}
+
 int Session::Replay()
 {
+    if (!m_options.document.isEmpty())
+        return ReadDocument();
     const bool isRealTime = m_options.repetition.isRealTime;
     if (isRealTime)
         ShowReplay();
@@ -516,6 +564,8 @@ bool Session::WriteResults()
     };
     if (!m_options.model.isEmpty())
         note(WriteModelFile(m_workspace.sketch, m_options.model), m_options.model, named);
+    if (!m_options.exportFile.isEmpty())
+        note(WriteExport(m_workspace.sketch, m_options.exportFile), m_options.exportFile, named);
     if (!m_options.screenshot.isEmpty())
         note(WritePicture(m_window.grab(), m_options.screenshot), m_options.screenshot, named);
     if (m_pUiTree != nullptr)

@@ -5,6 +5,7 @@
 #include "KeepingMonitor.h"
 #include "Model/Workspace.h"
 #include "Options.h"
+#include "Output/ImportCommands.h"
 #include "Panes/Panes.h"
 #include "ReadingMonitor.h"
 #include "ReplayPace.h"
@@ -63,6 +64,8 @@ private:
     void SaveLayout();
     void ObeyTerminationRequests();
     int Draw();
+    void OpenDocument();
+    int ReadDocument();
     int Replay();
     void Open();
     void BeginRecovery();
@@ -99,6 +102,8 @@ private:
     SketcherWindow m_window;
     const std::unique_ptr<vesk::IDockManager> m_pDocks;
     vesk::ControlHost m_controls;
+    OutputCommands m_output;
+    ImportCommands m_import;
     SettingsApplier m_settingsApplier;
     std::unique_ptr<Panes> m_pPanes;
     std::unique_ptr<Documents> m_pDocuments;

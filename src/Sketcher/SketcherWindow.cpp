@@ -173,7 +173,8 @@ void SketcherWindow::BuildPanels(Qtitan::RibbonPage& page, ControlHost& controls
 {
     Qtitan::RibbonGroup* pLines = page.addGroup(QStringLiteral("线条"));
     Qtitan::RibbonGroup* pDrafting = page.addGroup(QStringLiteral("绘图设置"));
-    m_panels.push_back(std::make_unique<PenPanel>(m_workspace, *pLines, *pDrafting, controls));
+    Qtitan::RibbonGroup* pDrawing = page.addGroup(QStringLiteral("图纸"));
+    m_panels.push_back(std::make_unique<PenPanel>(m_workspace, *pLines, *pDrawing, controls));
     auto pSnaps = std::make_unique<SnapPanel>(m_workspace.snapper, *pDrafting, controls);
     m_pSnaps = pSnaps.get();
     m_panels.push_back(std::move(pSnaps));
@@ -182,8 +183,7 @@ void SketcherWindow::BuildPanels(Qtitan::RibbonPage& page, ControlHost& controls
     connect(pUnits.get(), &UnitPanel::unitChanged, m_pView, &vesk::DrawingView::TellCursor);
     m_pUnits = pUnits.get();
     m_panels.push_back(std::move(pUnits));
-    m_panels.push_back(std::make_unique<DrawingPanel>(
-        m_workspace, *page.addGroup(QStringLiteral("图纸")), controls));
+    m_panels.push_back(std::make_unique<DrawingPanel>(m_workspace, *pDrawing, controls));
 }
 
 void SketcherWindow::BuildProgress(ControlHost& controls)
@@ -201,7 +201,9 @@ void SketcherWindow::BuildProgress(ControlHost& controls)
 
 void SketcherWindow::BuildPointedText()
 {
+    constexpr int Margin = 6;
     m_pPointed->setObjectName(QStringLiteral("Pointed"));
+    m_pPointed->setContentsMargins(Margin, 0, Margin, 0);
     // The window does not grow for it.
     m_pPointed->setMinimumWidth(1);
     statusBar()->insertPermanentWidget(1, m_pPointed);

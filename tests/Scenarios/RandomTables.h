@@ -31,7 +31,7 @@ constexpr const char* ZoomEntries[] = {
     "Sketcher.Zoom.Scale.400", "Sketcher.Zoom.Scale.1000",
 };
 
-constexpr const char* Settings[] = {
+constexpr const char* SettingButtons[] = {
     "Sketcher.Snap.End",          "Sketcher.Snap.Middle",
     "Sketcher.Snap.Centre",       "Sketcher.Snap.Grid",
     "Sketcher.Snap.Intersection", "Sketcher.Unit.mm",

@@ -108,13 +108,48 @@ private slots:
         QVERIFY(!IsSameFile({}, {}));
     }
 
+    void exportReadsADrawingWithoutAWindow_data()
+    {
+        QTest::addColumn<QString>("option");
+        QTest::newRow("replay") << "--replay";
+        QTest::newRow("open") << "--open";
+    }
+
+    void exportReadsADrawingWithoutAWindow()
+    {
+        QFETCH(QString, option);
+        QTemporaryDir folder;
+        QFile file(folder.filePath("journal"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+
+        const Options options =
+            Parse({option, file.fileName(), "--export", folder.filePath("out.SVG")});
+
+        QCOMPARE(options.error, QString());
+        QCOMPARE(options.task, Options::Task::Replay);
+        QCOMPARE(options.replay, file.fileName());
+        QVERIFY(options.open.isEmpty());
+        QCOMPARE(options.exportFile, folder.filePath("out.SVG"));
+    }
+
+    void exportNeedsADrawingAndAFormat()
+    {
+        QTemporaryDir folder;
+        QFile file(folder.filePath("journal"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+
+        QVERIFY(!Parse({"--export", folder.filePath("out.svg")}).error.isEmpty());
+        QVERIFY(!Parse({"--replay", file.fileName(), "--export", folder.filePath("out.jpg")})
+                     .error.isEmpty());
+    }
+
     void helpListsEveryOption()
     {
         const Options options = Parse({"--help"});
 
         QCOMPARE(options.task, Options::Task::ShowHelp);
         for (const char* pName : {"--journal", "--replay", "--open", "--model", "--ui-tree",
-                                  "--log", "--screenshot", "--help", "--version"})
+                                  "--log", "--screenshot", "--export", "--help", "--version"})
             QVERIFY2(options.help.contains(QLatin1String(pName)), pName);
     }
 

@@ -360,7 +360,7 @@ private slots:
                                 << "Sketcher.LineColour";
         QTest::newRow("width") << "线条"
                                << "Sketcher.LineWidth";
-        QTest::newRow("layer") << "绘图设置"
+        QTest::newRow("layer") << "图纸"
                                << "Sketcher.Layer";
         QTest::newRow("snaps") << "绘图设置"
                                << "Sketcher.Snap.Grid";

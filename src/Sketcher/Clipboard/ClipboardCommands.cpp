@@ -116,7 +116,7 @@ std::vector<CommandEntry> ClipboardCommands::MakeCommands()
         MakeDuplicationCommand(m_workspace),
     };
     for (std::size_t i = 0; i < 4; ++i)
-        entries[i].InGroup(L"剪贴板");
+        entries[i].InGroup(L"剪贴板").OnStartPage();
     return entries;
 }
 

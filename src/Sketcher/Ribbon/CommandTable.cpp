@@ -66,10 +66,6 @@ std::vector<CommandEntry> MakeDrawingCommands(Workspace& workspace)
             .WithIcon(L"arc-centre")
             .WithToolTip(L"圆心圆弧：单击圆心、起点和端点，或键入圆心角")
             .WithKeys(L"Ctrl+4"),
-        Begin<EraseAction>(L"Sketcher.Erase", L"删除", workspace)
-            .WithIcon(L"erase")
-            .WithToolTip(L"删除：单击要删除的图元")
-            .WithKeys(L"Ctrl+E"),
     };
     for (CommandEntry& entry : entries)
         entry.InGroup(L"绘图");
@@ -93,6 +89,11 @@ std::vector<CommandEntry> MakeEditCommands(Workspace& workspace)
     return {
         MakeUndoCommand(sketch),
         MakeRedoCommand(sketch),
+        Begin<EraseAction>(L"Sketcher.Erase", L"删除", workspace)
+            .WithIcon(L"erase")
+            .WithToolTip(L"删除：单击要删除的图元")
+            .WithKeys(L"Ctrl+E")
+            .InGroup(L"编辑"),
         Begin<RotateAction>(L"Sketcher.Rotate", L"旋转", workspace)
             .WithIcon(L"rotate")
             .WithToolTip(L"旋转：将所选图元绕一点转到另一方向，或键入角度")

@@ -15,6 +15,14 @@
 
 using namespace vesk;
 
+namespace
+{
+
+/// In characters; the field scrolls.
+constexpr int NameWidth = 12;
+
+}
+
 DrawingPanel::DrawingPanel(Workspace& workspace, Qtitan::RibbonGroup& group, ControlHost& controls)
     : m_sketch(workspace.sketch), m_properties(workspace.properties),
       m_shownName(workspace.sketch.GetName())
@@ -28,7 +36,11 @@ DrawingPanel::DrawingPanel(Workspace& workspace, Qtitan::RibbonGroup& group, Con
     {
         m_pName->GetLineEditEvent()->Add(this);
         if (auto* pField = group.findChild<QLineEdit*>(ToQString(m_pName->GetId())))
+        {
+            // The whole page must fit on a usual screen.
+            pField->setMaximumWidth(NameWidth * pField->fontMetrics().averageCharWidth());
             new FieldKeys(*pField, *m_pName, [this] { return m_sketch.GetName(); });
+        }
     }
     connect(&workspace.sketch, &Sketch::changed, this, &DrawingPanel::OnSketchChanged);
     OnSketchChanged();

@@ -68,6 +68,12 @@ std::vector<CommandEntry> MakeModifyCommands(Workspace& workspace)
             .EnabledWhile([&workspace] { return !workspace.sketch.GetEntities().empty(); }),
     };
     for (CommandEntry& entry : entries)
-        entry.InGroup(L"编辑");
+    {
+        // The others are mostly used with their keys.
+        if (entry.kind == Command::Kind::Interactive)
+            entry.InGroup(L"编辑");
+        else
+            entry.InGroup(L"选择").OnStartPage();
+    }
     return entries;
 }

@@ -16,7 +16,8 @@ namespace
 std::string ReadSettingsText(const QString& path)
 {
     QFile file(path);
-    return !path.isEmpty() && file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : std::string();
+    return !path.isEmpty() && file.open(QIODevice::ReadOnly) ? file.readAll().toStdString()
+                                                             : std::string();
 }
 
 }

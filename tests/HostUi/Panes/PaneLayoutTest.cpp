@@ -54,9 +54,6 @@ private slots:
     void theFactoryLayoutComesBack();
     void theFactoryLayoutNamesANewPane();
     void aPaneThatTheLayoutDoesNotKnowGoesToItsFactoryPlace();
-    void aPaneThatTheLayoutDoesNotKnowIsTabbedAsByDefault();
-    void withoutItsFrontAPaneThatTheLayoutDoesNotKnowStandsAlone_data();
-    void withoutItsFrontAPaneThatTheLayoutDoesNotKnowStandsAlone();
     void aPaneThatIsNotThereKeepsItsPlaceForLater();
     void aRestoredPaneKeepsAUsableSizeInASmallWindow_data();
     void aRestoredPaneKeepsAUsableSizeInASmallWindow();
@@ -225,54 +222,6 @@ void PaneLayoutTest::aPaneThatTheLayoutDoesNotKnowGoesToItsFactoryPlace()
     QCOMPARE(next.window.dockWidgetArea(next.Pane("F")), Qt::BottomDockWidgetArea);
     QVERIFY(!next.Pane("F")->visibleRegion().isEmpty());
     QVERIFY(next.Pane("A")->isFloating());
-}
-
-void PaneLayoutTest::aPaneThatTheLayoutDoesNotKnowIsTabbedAsByDefault()
-{
-    QByteArray saved;
-    {
-        Run run({"A", "B", "D", "E", "F"});
-        saved = run.pLayout->Save();
-    }
-
-    Run next;
-    QVERIFY(next.pLayout->Restore(saved));
-    Run::Settle();
-
-    QCOMPARE(next.window.tabifiedDockWidgets(next.Pane("A")), QList<QDockWidget*>{next.Pane("C")});
-    QVERIFY(!next.Pane("A")->visibleRegion().isEmpty());
-    QVERIFY(next.Pane("C")->visibleRegion().isEmpty());
-    QVERIFY(!next.Pane("C")->isHidden());
-}
-
-void PaneLayoutTest::withoutItsFrontAPaneThatTheLayoutDoesNotKnowStandsAlone_data()
-{
-    QTest::addColumn<bool>("isFloating");
-
-    QTest::newRow("floating") << true;
-    QTest::newRow("hidden") << false;
-}
-
-void PaneLayoutTest::withoutItsFrontAPaneThatTheLayoutDoesNotKnowStandsAlone()
-{
-    QFETCH(bool, isFloating);
-    QByteArray saved;
-    {
-        Run run({"A", "B", "D", "E", "F"});
-        if (isFloating)
-            run.Pane("A")->setFloating(true);
-        else
-            run.Pane("A")->hide();
-        saved = run.pLayout->Save();
-    }
-
-    Run next;
-    QVERIFY(next.pLayout->Restore(saved));
-    Run::Settle();
-
-    QCOMPARE(next.window.dockWidgetArea(next.Pane("C")), Qt::LeftDockWidgetArea);
-    QVERIFY(next.window.tabifiedDockWidgets(next.Pane("C")).isEmpty());
-    QVERIFY(!next.Pane("C")->visibleRegion().isEmpty());
 }
 
 void PaneLayoutTest::aPaneThatIsNotThereKeepsItsPlaceForLater()

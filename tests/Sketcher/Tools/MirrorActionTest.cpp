@@ -6,7 +6,11 @@
 #include "ShapeValues.h"
 
 using namespace vesk;
+
+Q_DECLARE_METATYPE(Vector3d)
 using Fixture = ActionFixture<MirrorAction>;
+
+Q_DECLARE_METATYPE(Vector3d)
 
 namespace
 {

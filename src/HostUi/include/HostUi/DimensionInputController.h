@@ -62,12 +62,20 @@ public:
 
     /// Whether a strip beside the editor explains its keys. Initially true.
     bool IsKeyStripShown() const { return m_isKeyStripShown; }
-    void SetKeyStripShown(bool isShown);
+    void SetKeyStripShown(bool isShown)
+    {
+        m_isKeyStripShown = isShown;
+        UpdateNotes();
+    }
 
-    /// Whether Space commits a plain number where the kind of dimension allows it; otherwise it is a
-    /// blank everywhere. Initially true.
+    /// Whether Space commits a plain number where the kind of dimension allows it; otherwise it is
+    /// a blank everywhere. Initially true.
     bool IsSpaceCommitting() const { return m_isSpaceCommitting; }
-    void SetSpaceCommitting(bool isCommitting);
+    void SetSpaceCommitting(bool isCommitting)
+    {
+        m_isSpaceCommitting = isCommitting;
+        UpdateNotes();
+    }
 
     void OnRecord(const JournalRecord&) override {}
     void OnUiObject(const IJournalUiObject& object, int kind) override;

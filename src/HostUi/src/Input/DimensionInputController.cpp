@@ -163,18 +163,6 @@ std::optional<double> DimensionInputController::GetValue() const
                                                            : std::nullopt;
 }
 
-void DimensionInputController::SetKeyStripShown(bool isShown)
-{
-    m_isKeyStripShown = isShown;
-    UpdateNotes();
-}
-
-void DimensionInputController::SetSpaceCommitting(bool isCommitting)
-{
-    m_isSpaceCommitting = isCommitting;
-    UpdateNotes();
-}
-
 void DimensionInputController::OnUiObject(const IJournalUiObject& object, int kind)
 {
     QObject* const* ppObject = std::any_cast<QObject*>(&object.GetUiObject());

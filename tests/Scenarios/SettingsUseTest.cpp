@@ -48,7 +48,7 @@ Settings Others()
 }
 
 /// What the settings do in a session, and that they do nothing to its replay.
-class SettingsTest final : public ScenarioTest
+class SettingsUseTest final : public ScenarioTest
 {
     Q_OBJECT
 
@@ -154,5 +154,5 @@ private slots:
     }
 };
 
-VESK_TESTS(SettingsTest);
-#include "SettingsTest.moc"
+VESK_TESTS(SettingsUseTest);
+#include "SettingsUseTest.moc"
