@@ -1,5 +1,6 @@
 #include "Session.h"
 
+#include "AbruptEnd.h"
 #include "BackgroundWork.h"
 #include "DataFile.h"
 #include "Documents/DocumentCommands.h"
@@ -219,7 +220,7 @@ int Session::Run()
     const int code = isReplay ? Replay() : Draw();
     if (code == ExitUnusableFile)
         return code;
-    return WriteResults() ? code : ExitUnusableFile;
+    return WriteResults(Display::There) ? code : ExitUnusableFile;
 }
 
 bool Session::CanRepeat(const CommandRecord& record)
@@ -394,6 +395,7 @@ int Session::Draw()
     if (!m_options.raiseWarnings.isEmpty())
         m_pWarningRaiser =
             std::make_unique<WarningRaiser>(m_options.raiseWarnings, m_window.GetView());
+    const AbruptEnd abruptEnd([this] { WriteResults(Display::Lost); });
     return QApplication::exec();
 }
 
@@ -555,7 +557,7 @@ SessionJournal::Work Session::GetWork() const
 }
 
 /// Reports in one line what could not be written. Returns false if an option named any of it.
-bool Session::WriteResults()
+bool Session::WriteResults(Display display)
 {
     QStringList named;
     const auto note = [](bool isDone, const QString& path, QStringList& unwritten) {
@@ -564,11 +566,12 @@ bool Session::WriteResults()
     };
     if (!m_options.model.isEmpty())
         note(WriteModelFile(m_workspace.sketch, m_options.model), m_options.model, named);
-    if (!m_options.exportFile.isEmpty())
+    const bool hasDisplay = display == Display::There;
+    if (hasDisplay && !m_options.exportFile.isEmpty())
         note(WriteExport(m_workspace.sketch, m_options.exportFile), m_options.exportFile, named);
-    if (!m_options.screenshot.isEmpty())
+    if (hasDisplay && !m_options.screenshot.isEmpty())
         note(WritePicture(m_window.grab(), m_options.screenshot), m_options.screenshot, named);
-    if (m_pUiTree != nullptr)
+    if (hasDisplay && m_pUiTree != nullptr)
         note(m_pUiTree->Write(), m_options.uiTree, named);
     note(m_journal.Close(GetWork()), m_journal.GetPath(),
          m_journal.IsNamed() ? named : m_unwritten);

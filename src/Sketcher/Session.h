@@ -55,6 +55,12 @@ public:
     std::string VerifyMark(const vesk::MarkRecord& record) override;
 
 private:
+    enum class Display
+    {
+        There,
+        Lost,
+    };
+
     void MakeDocuments();
     bool OpenFiles();
     bool OpenLog();
@@ -78,7 +84,7 @@ private:
     int GetLastNumber() const;
     void ShowFailure(const vesk::JournalReplayResult& result);
     void ShowOtherJournal(const QString& path);
-    bool WriteResults();
+    bool WriteResults(Display display);
 
     const Options m_options;
     SettingsStore m_settings;
