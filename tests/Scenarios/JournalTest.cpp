@@ -161,7 +161,7 @@ private slots:
         RunningSketcher sketcher(
             {"--replay", Journal(), "--stay", "--model", m_pFixture->File("replayed")}, ui);
 
-        QVERIFY(QTest::qWaitFor([&ui] { return ReadBytes(ui).contains("\"entities\":2"); },
+        QVERIFY(QTest::qWaitFor([&ui] { return ReadBytes(ui).contains("\"entities\": 2"); },
                                 vesk::test::PatienceMs));
 
         QCOMPARE(sketcher.End(SIGTERM).code, 0);
