@@ -158,6 +158,7 @@ private slots:
     {
         Draw();
         const QString ui = m_pFixture->File("ui");
+        QVERIFY(QFile::remove(ScenarioFixture::LayoutFile()));
         RunningSketcher sketcher(
             {"--replay", Journal(), "--stay", "--model", m_pFixture->File("replayed")}, ui);
 
