@@ -158,10 +158,11 @@ private slots:
     {
         Draw();
         const QString ui = m_pFixture->File("ui");
+        QVERIFY(QFile::remove(ScenarioFixture::LayoutFile()));
         RunningSketcher sketcher(
             {"--replay", Journal(), "--stay", "--model", m_pFixture->File("replayed")}, ui);
 
-        QVERIFY(QTest::qWaitFor([&ui] { return ReadBytes(ui).contains("\"entities\":2"); },
+        QVERIFY(QTest::qWaitFor([&ui] { return ReadBytes(ui).contains("\"entities\": 2"); },
                                 vesk::test::PatienceMs));
 
         QCOMPARE(sketcher.End(SIGTERM).code, 0);
