@@ -93,7 +93,7 @@ void RandomUser::ChangeSetting()
     if (IsOneIn(4))
         return ClickButton("Sketcher.KeyStrip");
     if (!IsOneIn(4))
-        return ClickButton(Pick(Settings));
+        return ClickButton(Pick(RandomTables::Settings));
     const QString box = Pick(Pens);
     EndBurst();
     Do("box " + box, Act::Other, [] {});
