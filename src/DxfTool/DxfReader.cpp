@@ -9,6 +9,28 @@
 
 #include <sstream>
 
+namespace
+{
+
+/// The bytes without what the library cannot digest: at a line longer than its buffer it would read
+/// forever. Only texts, which are not imported, have such lines.
+std::string MakeDigestible(const std::string& bytes)
+{
+    constexpr std::size_t LongestLine = 1000;
+    std::string result;
+    result.reserve(bytes.size());
+    std::size_t length = 0;
+    for (const char byte : bytes)
+    {
+        length = byte == '\n' ? 0 : length + 1;
+        if (length <= LongestLine)
+            result += byte;
+    }
+    return result;
+}
+
+}
+
 DxfReading ReadDxf(const std::string& bytes, const DxfReadOptions& options)
 {
     DxfReading refused;
@@ -26,7 +48,7 @@ DxfReading ReadDxf(const std::string& bytes, const DxfReadOptions& options)
     refused.outcome = DxfReading::Outcome::TooMany;
     try
     {
-        std::istringstream stream(bytes);
+        std::istringstream stream(MakeDigestible(bytes));
         DL_Dxf().in(stream, &collector);
     }
     catch (const TooManyEntities&)

@@ -1,5 +1,7 @@
 #include "Options.h"
 
+#include "Output/DrawingExport.h"
+#include "Output/DrawingSource.h"
 #include "WarningRaiser.h"
 
 #include <QCommandLineParser>
@@ -8,6 +10,7 @@
 #include <filesystem>
 #include <iterator>
 #include <system_error>
+#include <utility>
 
 namespace
 {
@@ -32,6 +35,10 @@ constexpr FileOption FileOptions[] = {
     {"ui-tree", "FILE", "keep FILE describing what is on screen, as JSON", &Options::uiTree, false},
     {"log", "FILE", "log warnings to FILE", &Options::log, false},
     {"screenshot", "FILE.png", "save a picture of the window at exit", &Options::screenshot, false},
+    {"export", "FILE",
+     "write the drawing that was read to FILE (.svg, .pdf, .png or .dxf), without "
+     "a window, then exit",
+     &Options::exportFile, false},
 };
 
 bool CanBeWritten(const QString& path)
@@ -58,6 +65,29 @@ bool MayBeOne(const FileOption& first, const FileOption& second)
         return option.isRead || option.member == &Options::journal;
     };
     return isJournal(first) && isJournal(second);
+}
+
+/// An export needs a drawing, and a format.
+QString CheckExport(const Options& options)
+{
+    if (options.exportFile.isEmpty())
+        return {};
+    if (ExportFormatOf(options.exportFile) == nullptr)
+        return QStringLiteral("cannot export %1: the suffix is no known format")
+            .arg(options.exportFile);
+    return options.GetSource().isEmpty() && options.document.isEmpty()
+               ? QStringLiteral("--export needs a drawing to read")
+               : QString();
+}
+
+/// An export needs no window, so what is to be opened is only read.
+void TurnIntoReplay(Options& options)
+{
+    if (!options.error.isEmpty() || options.exportFile.isEmpty() ||
+        options.task != Options::Task::Draw)
+        return;
+    options.replay = std::exchange(options.open, QString());
+    options.task = Options::Task::Replay;
 }
 
 /// The argument that is no option; empty for none.
@@ -126,6 +156,11 @@ Options ParseOptions(const QStringList& arguments)
         QStringLiteral("KIND"));
     parser.addOption(raiseWarnings);
     ReplayOptions::Declare(parser);
+    const QCommandLineOption dxfUnit(
+        QStringLiteral("dxf-unit"),
+        QStringLiteral("the unit of a DXF file that does not name one: mm, cm, m, in or ft"),
+        QStringLiteral("UNIT"));
+    parser.addOption(dxfUnit);
     parser.addPositionalArgument(QStringLiteral("FILE.vsk"),
                                  QStringLiteral("the drawing file to open"),
                                  QStringLiteral("[FILE.vsk]"));
@@ -153,6 +188,8 @@ Options ParseOptions(const QStringList& arguments)
     if (options.error.isEmpty())
         options.repetition =
             ReplayOptions::Read(parser, IsSameFile(options.journal, options.replay), options.error);
+    if (options.error.isEmpty())
+        options.error = CheckExport(options);
     options.raiseWarnings = parser.value(raiseWarnings);
     if (options.error.isEmpty() && parser.isSet(raiseWarnings) &&
         !WarningRaiser::GetKinds().contains(options.raiseWarnings))
@@ -163,5 +200,9 @@ Options ParseOptions(const QStringList& arguments)
         options.error = QStringLiteral("--replay and --open cannot be used together");
     if (options.error.isEmpty() && !options.document.isEmpty() && !options.GetSource().isEmpty())
         options.error = QStringLiteral("a drawing file cannot be opened besides a journal");
+    options.dxfUnit = parser.value(dxfUnit);
+    if (options.error.isEmpty() && parser.isSet(dxfUnit) && !IsDxfUnit(options.dxfUnit))
+        options.error = QStringLiteral("unknown unit %1").arg(options.dxfUnit);
+    TurnIntoReplay(options);
     return options;
 }

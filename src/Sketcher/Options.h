@@ -27,6 +27,12 @@ struct Options
     QString log;
     QString screenshot;
 
+    /// The unit of a DXF file that names none; empty to ask.
+    QString dxfUnit;
+
+    /// A drawing that was read is written here, in the format of the suffix, without a window.
+    QString exportFile;
+
     /// Which debug warnings to raise once the window is open; empty for none.
     QString raiseWarnings;
 

@@ -1,12 +1,14 @@
 #include "Session.h"
 
+#include "AbruptEnd.h"
 #include "BackgroundWork.h"
 #include "DataFile.h"
 #include "Documents/DocumentCommands.h"
 #include "Help/HelpCommands.h"
 #include "Model/KeptContent.h"
 #include "Model/ModelFile.h"
-#include "Output/PictureExport.h"
+#include "Output/DrawingExport.h"
+#include "Output/DrawingSource.h"
 #include "Recovery/RecoverContent.h"
 #include "Ribbon/CommandTable.h"
 #include "VeskUiQtImpl/DockManagerImpl.h"
@@ -100,6 +102,25 @@ bool IsWritable(const QString& path)
     return QFileInfo(file.path()).isWritable() && (!file.exists() || file.isWritable());
 }
 
+/// Runs work in the background of the window, which shows the progress.
+OutputRunner RunnerIn(SketcherWindow& window)
+{
+    return [&window](const std::function<void(const OutputProgress&)>& work) {
+        RunInBackground(window, window.GetProgress(), [&work](WorkProgress& progress) {
+            work([&progress](double share) { return progress.Advance(share); });
+        });
+    };
+}
+
+bool WriteExport(const Sketch& sketch, const QString& path)
+{
+    const OutputFault fault = ExportDrawing(sketch.GetContent(), *ExportFormatOf(path), path,
+                                            [](double) { return true; });
+    if (fault != OutputFault::None)
+        Complain(path.toStdString() + ": " + DescribeOutputFault(fault));
+    return fault == OutputFault::None;
+}
+
 bool WritePicture(const QPixmap& picture, const QString& path)
 {
     QByteArray bytes;
@@ -116,6 +137,8 @@ Session::Session(const Options& options)
       m_translations(SharedFile(QStringLiteral("translations")), QStringLiteral("sketcher"),
                      LocaleOf(m_settings.Get())),
       m_window(m_workspace, m_input), m_pDocks(std::make_unique<DockManagerImpl>(&m_window)),
+      m_output(m_workspace, m_window, RunnerIn(m_window)),
+      m_import(m_workspace, m_window, RunnerIn(m_window)),
       m_settingsApplier(m_settings, m_window, m_input, SharedFile(QStringLiteral("translations"))),
       m_clipboard(m_workspace, [this](const QString& text) { m_window.ShowNotice(text); })
 {
@@ -132,6 +155,10 @@ Session::Session(const Options& options)
                      &SketcherWindow::ShowContextMenu);
     std::vector<CommandEntry> commands = MakeCommandTable(m_workspace, m_window.GetView(), m_input);
     for (CommandEntry& entry : m_pPanes->MakeCommands())
+        commands.push_back(std::move(entry));
+    for (CommandEntry& entry : m_output.MakeCommands())
+        commands.push_back(std::move(entry));
+    for (CommandEntry& entry : m_import.MakeCommands())
         commands.push_back(std::move(entry));
     commands.push_back(MakeRecoverCommand(m_workspace.sketch));
     MakeDocuments();
@@ -191,7 +218,9 @@ int Session::Run()
     if (isReplay)
         DebugMessageMgr::GetDebugMessageMgr()->SetAttended(false);
     const int code = isReplay ? Replay() : Draw();
-    return WriteResults() ? code : ExitUnusableFile;
+    if (code == ExitUnusableFile)
+        return code;
+    return WriteResults(Display::There) ? code : ExitUnusableFile;
 }
 
 bool Session::CanRepeat(const CommandRecord& record)
@@ -335,6 +364,7 @@ void Session::ObeyTerminationRequests()
 {
     m_pTermination = std::make_unique<TerminationRequests>();
     QObject::connect(m_pTermination.get(), &TerminationRequests::requested, &m_window, [this] {
+        m_isEndRequested = true;
         m_pDocuments->EndWithoutQuestions();
         m_window.close();
         QCoreApplication::quit();
@@ -349,18 +379,23 @@ int Session::Draw()
         m_window.ShowState(QStringLiteral("layout"), QStringLiteral("面板布局不会保存"),
                            QStringLiteral("无法写入 %1").arg(LayoutPath()));
     m_pKeeping = std::make_unique<KeepingMonitor>(m_window);
-    QObject::connect(&m_window, &MainWindow::closeAccepted, &m_window, [this] { SaveLayout(); });
+    QObject::connect(&m_window, &MainWindow::closeAccepted, &m_window, [this] {
+        SaveLayout();
+        m_isEndDecided = !m_isEndRequested;
+    });
+    // At the end of the desktop's session nobody is asked: what is not saved is offered afterwards.
+    QGuiApplication::setFallbackSessionManagementEnabled(false);
     BeginRecovery();
     m_window.showMaximized();
     m_window.GetView().Activate();
     if (!m_options.open.isEmpty())
         QTimer::singleShot(0, &m_window, [this] { Open(); });
     if (!m_options.document.isEmpty())
-        QTimer::singleShot(0, m_pDocuments.get(),
-                           [this] { m_pDocuments->OpenFile(m_options.document); });
+        QTimer::singleShot(0, m_pDocuments.get(), [this] { OpenDocument(); });
     if (!m_options.raiseWarnings.isEmpty())
         m_pWarningRaiser =
             std::make_unique<WarningRaiser>(m_options.raiseWarnings, m_window.GetView());
+    const AbruptEnd abruptEnd([this] { WriteResults(Display::Lost); });
     return QApplication::exec();
 }
 
@@ -388,13 +423,39 @@ void Session::BeginRecovery()
         m_pKeeping->Update();
         return result;
     };
-    m_pRecovery =
-        std::make_unique<SessionRecovery>(m_workspace, m_window, m_journal, m_captions, replay);
+    m_pRecovery = std::make_unique<SessionRecovery>(
+        m_workspace, m_window, m_journal, m_captions,
+        SessionRecovery::Program{replay, [this] { m_pDocuments->DoNew(); }});
+    m_pRecovery->GetAutosave().SetInterval(m_settings.Get().autosaveMinutes);
+    QObject::connect(&m_settings, &SettingsStore::changed, &m_pRecovery->GetAutosave(), [this] {
+        m_pRecovery->GetAutosave().SetInterval(m_settings.Get().autosaveMinutes);
+    });
     m_pRecovery->Offer(m_options);
+}
+
+/// A drawing file is opened; any other drawing is added to the empty one.
+void Session::OpenDocument()
+{
+    if (IsDxfFile(m_options.document))
+        m_import.Import(m_options.document, m_options.dxfUnit);
+    else
+        m_pDocuments->OpenFile(m_options.document);
+}
+
+/// Reads the document without the window.
+int Session::ReadDocument()
+{
+    DrawingSource source = ReadDrawing(m_options.document, m_options.dxfUnit);
+    if (source.error.empty() && m_workspace.sketch.Restore(std::move(source.content)))
+        return 0;
+    Complain(m_options.document.toStdString() + ": " + source.error);
+    return ExitUnusableFile;
 }
 
 int Session::Replay()
 {
+    if (!m_options.document.isEmpty())
+        return ReadDocument();
     const bool isRealTime = m_options.repetition.isRealTime;
     if (isRealTime)
         ShowReplay();
@@ -487,8 +548,16 @@ void Session::ShowOtherJournal(const QString& path)
     m_window.ShowState(QStringLiteral("other journal"), QStringLiteral("日志改存于另一文件"), path);
 }
 
+/// Only a user who closes the window decides about unsaved work.
+SessionJournal::Work Session::GetWork() const
+{
+    const bool isUndecided =
+        m_options.task == Options::Task::Draw && !m_isEndDecided && m_pDocuments->IsModified();
+    return isUndecided ? SessionJournal::Work::Undecided : SessionJournal::Work::Decided;
+}
+
 /// Reports in one line what could not be written. Returns false if an option named any of it.
-bool Session::WriteResults()
+bool Session::WriteResults(Display display)
 {
     QStringList named;
     const auto note = [](bool isDone, const QString& path, QStringList& unwritten) {
@@ -497,11 +566,15 @@ bool Session::WriteResults()
     };
     if (!m_options.model.isEmpty())
         note(WriteModelFile(m_workspace.sketch, m_options.model), m_options.model, named);
-    if (!m_options.screenshot.isEmpty())
+    const bool hasDisplay = display == Display::There;
+    if (hasDisplay && !m_options.exportFile.isEmpty())
+        note(WriteExport(m_workspace.sketch, m_options.exportFile), m_options.exportFile, named);
+    if (hasDisplay && !m_options.screenshot.isEmpty())
         note(WritePicture(m_window.grab(), m_options.screenshot), m_options.screenshot, named);
-    if (m_pUiTree != nullptr)
+    if (hasDisplay && m_pUiTree != nullptr)
         note(m_pUiTree->Write(), m_options.uiTree, named);
-    note(m_journal.Close(), m_journal.GetPath(), m_journal.IsNamed() ? named : m_unwritten);
+    note(m_journal.Close(GetWork()), m_journal.GetPath(),
+         m_journal.IsNamed() ? named : m_unwritten);
     const bool isLogNamed = !m_options.log.isEmpty();
     note(DebugMessageMgr::GetDebugMessageMgr()->CloseLog(),
          isLogNamed ? m_options.log : DataFile(QStringLiteral("warnings.log")),

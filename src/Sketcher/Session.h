@@ -5,6 +5,7 @@
 #include "KeepingMonitor.h"
 #include "Model/Workspace.h"
 #include "Options.h"
+#include "Output/ImportCommands.h"
 #include "Panes/Panes.h"
 #include "ReadingMonitor.h"
 #include "ReplayPace.h"
@@ -54,6 +55,12 @@ public:
     std::string VerifyMark(const vesk::MarkRecord& record) override;
 
 private:
+    enum class Display
+    {
+        There,
+        Lost,
+    };
+
     void MakeDocuments();
     bool OpenFiles();
     bool OpenLog();
@@ -63,9 +70,12 @@ private:
     void SaveLayout();
     void ObeyTerminationRequests();
     int Draw();
+    void OpenDocument();
+    int ReadDocument();
     int Replay();
     void Open();
     void BeginRecovery();
+    SessionJournal::Work GetWork() const;
     vesk::JournalReplayResult Repeat();
     vesk::JournalReplayResult RepeatInWindow();
     vesk::JournalReplayResult RepeatInRealTime();
@@ -74,7 +84,7 @@ private:
     int GetLastNumber() const;
     void ShowFailure(const vesk::JournalReplayResult& result);
     void ShowOtherJournal(const QString& path);
-    bool WriteResults();
+    bool WriteResults(Display display);
 
     const Options m_options;
     SettingsStore m_settings;
@@ -86,6 +96,9 @@ private:
     /// Files not named by an option that could not be written at the end.
     QStringList m_unwritten;
 
+    bool m_isEndRequested = false; ///< By the operating system.
+    bool m_isEndDecided = false;   ///< The user has closed the window.
+
     vesk::HostCore m_host;
     vesk::UiApplication m_application;
     vesk::TranslationCatalogue m_translations;
@@ -95,6 +108,8 @@ private:
     SketcherWindow m_window;
     const std::unique_ptr<vesk::IDockManager> m_pDocks;
     vesk::ControlHost m_controls;
+    OutputCommands m_output;
+    ImportCommands m_import;
     SettingsApplier m_settingsApplier;
     std::unique_ptr<Panes> m_pPanes;
     std::unique_ptr<Documents> m_pDocuments;

@@ -61,9 +61,9 @@ int VersionOf(const std::vector<JournalRecord>& records)
 
 SessionRecovery::SessionRecovery(Workspace& workspace, SketcherWindow& window,
                                  SessionJournal& journal,
-                                 std::map<std::wstring, std::wstring> captions, Replay replay)
+                                 std::map<std::wstring, std::wstring> captions, Program program)
     : m_workspace(workspace), m_window(window), m_journal(journal), m_captions(std::move(captions)),
-      m_replay(std::move(replay)),
+      m_program(std::move(program)),
       m_autosave(workspace.sketch,
                  [this] { return m_journal.IsNamed() ? QString() : m_journal.GetPath(); }),
       m_offer(window, SessionJournal::GetFolder(),
@@ -100,7 +100,7 @@ RecoveryOffer::Result SessionRecovery::GoOn(const UnsavedWork& work)
     }
     std::optional<JournalReplayResult> result = ReplayFromSnapshot(work.journal, records);
     if (!result.has_value())
-        result = m_replay(records);
+        result = m_program.replay(records);
     if (result->isStopped)
         BeginAnew();
     m_window.GetView().Activate();
@@ -123,7 +123,7 @@ bool SessionRecovery::LeaveDrawing(int version)
     if (!JournalManager::GetInstance().IsKept() && !isEmpty)
         return false;
     const QString left = m_journal.StartAnother(version);
-    m_workspace.sketch.Clear();
+    m_program.beginDrawing();
     if (const std::optional<UnsavedWork> work = FindUnsavedWork(left))
         m_offer.Add(*work);
     else
@@ -135,7 +135,7 @@ bool SessionRecovery::LeaveDrawing(int version)
 void SessionRecovery::BeginAnew()
 {
     JournalFolder::Remove(m_journal.StartAnother());
-    m_workspace.sketch.Clear();
+    m_program.beginDrawing();
 }
 
 /// Nothing if there is no snapshot from which the last mark can be reached: a later undo, for
@@ -149,7 +149,7 @@ std::optional<JournalReplayResult> SessionRecovery::ReplayFromSnapshot(const QSt
     const Records rest = RecordsAfter(*snapshot, records);
     if (rest.empty())
         return std::nullopt;
-    JournalReplayResult result = m_replay(rest);
+    JournalReplayResult result = m_program.replay(rest);
     if (result.failure.empty() || result.isStopped)
         return result;
     BeginAnew();

@@ -61,13 +61,24 @@ void PassMessage(QtMsgType type, const QMessageLogContext& context, const QStrin
         std::cerr << qFormatLogMessage(type, context, message).toStdString() << std::endl;
 }
 
+/// Lets an export do without a display if there is none; it shows no window.
+void DoWithoutDisplay(const Options& options)
+{
+    const auto isSet = [](const char* pName) { return !qEnvironmentVariableIsEmpty(pName); };
+    if (!options.exportFile.isEmpty() && !isSet("DISPLAY") && !isSet("WAYLAND_DISPLAY") &&
+        !isSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
 /// Answers before there is a display, if the arguments allow it.
 std::optional<int> AnswerEarly(int argc, char** argv)
 {
     if (HasToolkitArguments(argc, argv))
         return std::nullopt;
     const QCoreApplication application(argc, argv);
-    return Answer(ParseOptions(QCoreApplication::arguments()));
+    const Options options = ParseOptions(QCoreApplication::arguments());
+    DoWithoutDisplay(options);
+    return Answer(options);
 }
 
 }

@@ -285,6 +285,15 @@ private slots:
         QVERIFY(ReportOf(reading).find("truncated") != std::string::npos);
     }
 
+    void linesOfAnyLengthAreRead()
+    {
+        const std::string text = "0\nTEXT\n1\n" + std::string(5000, 'x') + "\n0\nLINE\n";
+
+        const DxfReading reading = ReadDxf(Replaced(s_line, "0\nLINE\n", text), {});
+
+        QCOMPARE(FirstLine(reading).end, Vector3d(3, 4, 0));
+    }
+
     void tooManyEntitiesAreRefused()
     {
         std::string lines;

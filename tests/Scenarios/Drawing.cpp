@@ -5,6 +5,8 @@
 
 #include <nlohmann/json.hpp>
 
+#include <map>
+
 namespace
 {
 
@@ -39,6 +41,23 @@ std::vector<vesk::JournalRecord> ReadJournal(const QString& path)
     if (!vesk::JournalFormat::ReadFile(path.toStdString(), records, error))
         QTest::qFail(error.c_str(), __FILE__, __LINE__);
     return records;
+}
+
+QByteArray ReadActs(const QString& path)
+{
+    QByteArray acts;
+    std::map<int, int> numbers;
+    for (vesk::JournalRecord record : ReadJournal(path))
+    {
+        if (std::holds_alternative<vesk::HeaderRecord>(record.what) ||
+            std::holds_alternative<vesk::MarkRecord>(record.what) ||
+            std::holds_alternative<vesk::CloseRecord>(record.what))
+            continue;
+        record.number =
+            numbers.emplace(record.number, static_cast<int>(numbers.size()) + 1).first->second;
+        acts += QByteArray::fromStdString(vesk::JournalFormat::ToLine(record)) + '\n';
+    }
+    return acts;
 }
 
 void WriteFile(const QString& path, const QByteArray& content)

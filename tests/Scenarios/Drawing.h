@@ -48,5 +48,9 @@ std::vector<Record> RecordsOf(const std::vector<vesk::JournalRecord>& records)
     return found;
 }
 
+/// The lines of a journal that tell what the user did: without header, marks and close, and
+/// numbered without gaps. The test fails if a line is malformed.
+QByteArray ReadActs(const QString& path);
+
 /// Replaces a file; the test fails if it cannot be written.
 void WriteFile(const QString& path, const QByteArray& content);

@@ -302,7 +302,8 @@ bool Documents::SaveAsWithQuestions()
     if (m_manners == Manners::Silent)
         return false;
     const QPointer<Documents> pThis(this);
-    const QString path = AskForFileToSave(&m_window, Suggest());
+    const QString path =
+        AskForFileToSave(&m_window, Suggest(), m_document.isReadOnly ? QString() : m_document.path);
     return pThis != nullptr && !path.isEmpty() && !m_isEnding && SaveTo(path);
 }
 

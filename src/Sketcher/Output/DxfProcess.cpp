@@ -10,6 +10,7 @@
 #include <QStandardPaths>
 
 #include <cstddef>
+#include <string>
 
 namespace
 {
@@ -30,8 +31,8 @@ double LastShare(const QByteArray& messages, double before)
     const int start = messages.lastIndexOf('\n', end - 1) + 1;
     if (end < 0)
         return before;
-    const nlohmann::json json = nlohmann::json::parse(messages.begin() + start,
-                                                      messages.begin() + end, nullptr, false);
+    const nlohmann::json json =
+        nlohmann::json::parse(messages.begin() + start, messages.begin() + end, nullptr, false);
     return json.is_object() && json.value("kind", "") == "progress" ? json.value("share", before)
                                                                     : before;
 }
@@ -88,7 +89,8 @@ DxfRun RunDxfProcess(const QStringList& arguments, const QByteArray& input,
 OutputBytes MakeDxf(const SketchContent& content, const OutputProgress& progress)
 {
     const auto convert = [&progress](std::size_t done, std::size_t total) {
-        return progress(total == 0 ? 0.0 : 0.5 * static_cast<double>(done) / static_cast<double>(total));
+        return progress(total == 0 ? 0.0
+                                   : 0.5 * static_cast<double>(done) / static_cast<double>(total));
     };
     const std::string document = DocumentFile::ToText(content, convert);
     if (document.empty())

@@ -6,7 +6,26 @@
 
 #include <QFileDialog>
 #include <QPointer>
+#include <QStringList>
 #include <QWidget>
+
+#include <cstddef>
+
+namespace
+{
+
+/// Runs the dialog and destroys it. Returns the chosen path; an empty one if there is none.
+QString PathFrom(const QPointer<QFileDialog>& pDialog)
+{
+    const bool isAccepted = pDialog->exec() == QDialog::Accepted;
+    if (pDialog == nullptr)
+        return {};
+    const QStringList files = pDialog->selectedFiles();
+    delete pDialog;
+    return isAccepted && !files.isEmpty() ? files.front() : QString();
+}
+
+}
 
 QString AskForExportPath(QWidget& window, const QString& drawingName)
 {
@@ -27,10 +46,16 @@ QString AskForExportPath(QWidget& window, const QString& drawingName)
     };
     QObject::connect(pDialog, &QFileDialog::filterSelected, pDialog, useSuffix);
     useSuffix(filters.front());
-    const bool isAccepted = pDialog->exec() == QDialog::Accepted;
-    if (pDialog == nullptr)
-        return {};
-    const QStringList files = pDialog->selectedFiles();
-    delete pDialog;
-    return isAccepted && !files.isEmpty() ? files.front() : QString();
+    return PathFrom(pDialog);
+}
+
+QString AskForPdfPath(QWidget& window, const QString& drawingName)
+{
+    const QPointer<QFileDialog> pDialog = new QFileDialog(&window, QStringLiteral("打印到文件"));
+    pDialog->setObjectName(QStringLiteral("PrintFileDialog"));
+    pDialog->setAcceptMode(QFileDialog::AcceptSave);
+    pDialog->setNameFilter(QStringLiteral("PDF 文档 (*.pdf)"));
+    pDialog->setDefaultSuffix(QStringLiteral("pdf"));
+    pDialog->selectFile(drawingName);
+    return PathFrom(pDialog);
 }

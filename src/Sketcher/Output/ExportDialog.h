@@ -4,6 +4,10 @@
 
 class QWidget;
 
-/// Asks where to export to, in one of the export formats. Returns an empty path if the user cancels
-/// or the program ends meanwhile.
+// Both return an empty path if the user cancels or the program ends meanwhile.
+
+/// Asks where to export to, in one of the export formats.
 QString AskForExportPath(QWidget& window, const QString& drawingName);
+
+/// Asks which PDF file to print to.
+QString AskForPdfPath(QWidget& window, const QString& drawingName);

@@ -3,6 +3,7 @@
 #include "Model/Workspace.h"
 #include "Output/DrawingExport.h"
 #include "Output/ExportDialog.h"
+#include "Output/Printing.h"
 
 #include "Command/ActionManager.h"
 #include "HostUi/MainWindow.h"
@@ -40,8 +41,7 @@ CommandParameterValue DigestOf(const Sketch& sketch)
 
 OutputCommands::OutputCommands(const Workspace& workspace, MainWindow& window, OutputRunner runner)
     : m_workspace(workspace), m_window(window), m_runner(std::move(runner))
-{
-}
+{}
 
 std::vector<CommandEntry> OutputCommands::MakeCommands()
 {
@@ -53,11 +53,21 @@ std::vector<CommandEntry> OutputCommands::MakeCommands()
             .InGroup(L"输出")
             .OnStartPage()
             .EnabledWhile(hasEntities),
+        CommandEntry::Dialog(L"Sketcher.Print", L"打印", [this] { AskForPrint(); })
+            .WithIcon(L"print")
+            .WithToolTip(L"打印：选择比例、纸张和打印机，并预览")
+            .WithKeys(L"Ctrl+P")
+            .InGroup(L"输出")
+            .OnStartPage()
+            .EnabledWhile(hasEntities),
+        CommandEntry::WithParameters(PrintId, L"打印图纸",
+                                     [this](const CommandParameters&) { PrintTarget(); })
+            .PossibleWith(
+                [this](const CommandParameters& parameters) { return IsDrawing(parameters); }),
         CommandEntry::WithParameters(ExportId, L"导出图纸",
                                      [this](const CommandParameters&) { WriteTarget(); })
-            .PossibleWith([this](const CommandParameters& parameters) {
-                return IsExport(parameters);
-            }),
+            .PossibleWith(
+                [this](const CommandParameters& parameters) { return IsExport(parameters); }),
     };
 }
 
@@ -90,9 +100,8 @@ bool OutputCommands::IsExport(const CommandParameters& parameters) const
 
 void OutputCommands::AskForExport()
 {
-    const QPointer<MainWindow> pWindow = &m_window;
     const QString path = AskForExportPath(m_window, ToQString(m_workspace.sketch.GetName()));
-    if (!path.isEmpty() && pWindow != nullptr && pWindow->isVisible())
+    if (!path.isEmpty() && m_window.isVisible())
         Export(path);
 }
 
@@ -103,21 +112,64 @@ void OutputCommands::WriteTarget()
     const ExportFormat* pFormat = ExportFormatOf(path);
     if (pFormat == nullptr)
         return;
-    const QPointer<MainWindow> pWindow = &m_window;
     OutputFault fault = OutputFault::None;
     m_runner([content = m_workspace.sketch.GetContent(), pFormat, path,
               &fault](const OutputProgress& progress) {
         fault = ExportDrawing(content, *pFormat, path, progress);
     });
     const QString name = QFileInfo(path).fileName();
-    if (pWindow != nullptr)
-        ShowResult(fault, QStringLiteral("已导出 %1").arg(name),
-                   QStringLiteral("未导出 %1").arg(name));
+    ShowResult(fault, QStringLiteral("已导出 %1").arg(name), QStringLiteral("未导出 %1").arg(name));
+}
+
+void OutputCommands::AskForPrint()
+{
+    const SketchContent& content = m_workspace.sketch.GetContent();
+    if (!VisibleBounds(content).has_value())
+    {
+        m_window.ShowNotice(CaptionOf(OutputFault::NothingVisible));
+        return;
+    }
+    // On the heap: the dialog is destroyed with the window if the program ends meanwhile.
+    const QPointer<PrintDialog> pDialog = new PrintDialog(content, &m_window);
+    const bool isAccepted = pDialog->exec() == QDialog::Accepted;
+    if (pDialog == nullptr)
+        return;
+    const std::optional<PrintJob> job = pDialog->GetJob();
+    delete pDialog;
+    if (isAccepted && job.has_value() && m_window.isVisible())
+        Print(*job);
+}
+
+void OutputCommands::Print(const PrintJob& job)
+{
+    m_target.clear();
+    if (job.printer.isEmpty())
+        m_target = AskForPdfPath(m_window, ToQString(m_workspace.sketch.GetName()));
+    if ((job.printer.isEmpty() && m_target.isEmpty()) || !m_window.isVisible())
+        return;
+    m_job = job;
+    CommandParameters parameters;
+    parameters.Add(DigestParameter, DigestOf(m_workspace.sketch));
+    ActionManager::RunCommand(PrintId, parameters);
+}
+
+/// Prints the job; in a replay there is none.
+void OutputCommands::PrintTarget()
+{
+    const std::optional<PrintJob> job = std::exchange(m_job, std::nullopt);
+    const QString path = std::exchange(m_target, QString());
+    if (!job.has_value())
+        return;
+    OutputFault fault = OutputFault::None;
+    m_runner([content = m_workspace.sketch.GetContent(), &job, path,
+              &fault](const OutputProgress& progress) {
+        fault = PrintDrawing(content, *job, path, progress);
+    });
+    ShowResult(fault, QStringLiteral("已打印"), QStringLiteral("未打印"));
 }
 
 void OutputCommands::ShowResult(OutputFault fault, const QString& done, const QString& failed)
 {
-    m_window.ShowNotice(fault == OutputFault::None
-                            ? done
-                            : QStringLiteral("%1：%2").arg(failed, CaptionOf(fault)));
+    m_window.ShowNotice(
+        fault == OutputFault::None ? done : QStringLiteral("%1：%2").arg(failed, CaptionOf(fault)));
 }

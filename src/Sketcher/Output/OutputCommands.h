@@ -2,11 +2,13 @@
 
 #include "Output/OutputFault.h"
 #include "Output/PaperPainter.h"
+#include "Output/PrintDialog.h"
 #include "Ribbon/CommandEntry.h"
 
 #include <QString>
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 struct Workspace;
@@ -36,8 +38,8 @@ public:
 
     std::vector<CommandEntry> MakeCommands();
 
-    /// Records that the drawing is exported to a file, whose suffix is the format, and does it. What
-    /// goes wrong is shown in the window.
+    /// Records that the drawing is exported to a file, whose suffix is the format, and does it.
+    /// What goes wrong is shown in the window.
     void Export(const QString& path);
 
 private:
@@ -46,7 +48,8 @@ private:
     void AskForExport();
     void AskForPrint();
     void WriteTarget();
-    void Print();
+    void Print(const PrintJob& job);
+    void PrintTarget();
     void ShowResult(OutputFault fault, const QString& done, const QString& failed);
 
     const Workspace& m_workspace;
@@ -56,6 +59,6 @@ private:
     /// Where to, while the command runs that was recorded for it. Empty in a replay.
     QString m_target;
 
-    /// Prints, likewise.
-    std::function<OutputFault(const OutputProgress&)> m_print;
+    /// What to print, likewise; a PDF file is written to the target.
+    std::optional<PrintJob> m_job;
 };

@@ -17,6 +17,7 @@ constexpr FaultTexts OutputFaultTexts[] = {
     {OutputFault::TooLarge, "图纸太大，此格式无法按 1:1 输出",
      "the drawing is too large for this format at true scale"},
     {OutputFault::OutOfMemory, "内存不足", "not enough memory"},
+    {OutputFault::CannotRead, "无法读取文件", "the file cannot be read"},
     {OutputFault::CannotWrite, "无法写入文件", "the file cannot be written"},
     {OutputFault::NoDxfTool, "找不到 vesk-dxf 程序", "the program vesk-dxf cannot be started"},
     {OutputFault::DxfToolFailed, "vesk-dxf 程序出错", "the program vesk-dxf failed"},

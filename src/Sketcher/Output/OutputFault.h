@@ -12,6 +12,7 @@ enum class OutputFault
     NothingVisible, ///< The drawing is empty, or all its entities are on hidden layers.
     TooLarge,       ///< At true scale the format has no sheet of that size.
     OutOfMemory,
+    CannotRead,
     CannotWrite,
     NoDxfTool,     ///< The program vesk-dxf cannot be started.
     DxfToolFailed, ///< It ended with an error or was too slow.

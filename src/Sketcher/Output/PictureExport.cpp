@@ -6,6 +6,7 @@
 
 #include <QBuffer>
 #include <QImage>
+#include <QPageLayout>
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
@@ -13,6 +14,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace
 {
@@ -70,7 +72,6 @@ OutputBytes MakePdf(const SketchContent& content, const OutputProgress& progress
     constexpr double PointsPerInch = 72.0;
     constexpr double MillimetresPerPoint = MillimetresPerInch / PointsPerInch;
     constexpr double Greatest = 14400.0 * MillimetresPerPoint;
-    constexpr int Resolution = 1200;
     const std::optional<ShapeBounds> bounds = VisibleBounds(content);
     if (!bounds.has_value())
         return {{}, OutputFault::NothingVisible};
@@ -79,17 +80,27 @@ OutputBytes MakePdf(const SketchContent& content, const OutputProgress& progress
     if (!IsWithin(placement.paper, Greatest))
         return {{}, OutputFault::TooLarge};
 
+    const auto points = [](double length) {
+        return static_cast<int>(std::lround(length / MillimetresPerPoint));
+    };
+    const QSize page(points(placement.paper.width()), points(placement.paper.height()));
+    return MakePdfPage(content, placement,
+                       QPageLayout(QPageSize(page, QString(), QPageSize::ExactMatch),
+                                   QPageLayout::Portrait, QMarginsF()),
+                       progress);
+}
+
+OutputBytes MakePdfPage(const SketchContent& content, const PaperPlacement& placement,
+                        const QPageLayout& layout, const OutputProgress& progress)
+{
+    constexpr int Resolution = 1200;
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     {
         QPdfWriter writer(&buffer);
         writer.setTitle(vesk::ToQString(content.name));
         writer.setResolution(Resolution);
-        const QSize points(
-            static_cast<int>(std::lround(placement.paper.width() / MillimetresPerPoint)),
-            static_cast<int>(std::lround(placement.paper.height() / MillimetresPerPoint)));
-        writer.setPageSize(QPageSize(points, QString(), QPageSize::ExactMatch));
-        writer.setPageMargins(QMarginsF());
+        writer.setPageLayout(layout);
         if (!PaintOnDevice(writer, Resolution / MillimetresPerInch, content, placement, progress))
             return {{}, OutputFault::Stopped};
     }

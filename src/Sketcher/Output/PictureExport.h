@@ -5,6 +5,8 @@
 
 #include <QByteArray>
 
+class QPageLayout;
+
 /// The content of a file that was made of a drawing.
 struct OutputBytes
 {
@@ -20,6 +22,10 @@ OutputBytes MakeSvg(const SketchContent& content, const OutputProgress& progress
 
 /// One page at true scale, at most 5080 mm large, which is the format's limit.
 OutputBytes MakePdf(const SketchContent& content, const OutputProgress& progress);
+
+/// One page with that layout, without margins.
+OutputBytes MakePdfPage(const SketchContent& content, const PaperPlacement& placement,
+                        const QPageLayout& layout, const OutputProgress& progress);
 
 /// At 300 pixels per inch of paper, on white. A drawing that would need more than 6000 pixels in
 /// one direction is reduced to that; its line widths stay as they are.

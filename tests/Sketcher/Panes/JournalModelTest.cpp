@@ -3,6 +3,7 @@
 #include "Panes/RecordText.h"
 
 #include "Journal/JournalFormat.h"
+#include "Support/JournalBytes.h"
 #include "Support/TestValues.h"
 
 #include <QAbstractItemModelTester>
@@ -157,9 +158,7 @@ private slots:
         QString lines;
         for (int row = 0; row < model.rowCount(); ++row)
             lines += model.GetLine(row) + '\n';
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QCOMPARE(lines, QString::fromUtf8(file.readAll()));
+        QCOMPARE(lines, QString::fromUtf8(vesk::ReadLinesAfterHeader(path)));
         QCOMPARE(model.data(model.index(1), Qt::ToolTipRole).toString(), model.GetLine(1));
         QVERIFY(!model.data(model.index(1), Qt::EditRole).isValid());
     }

@@ -1,6 +1,7 @@
 #include "Panes/JournalPane.h"
 
 #include "Journal/JournalManager.h"
+#include "Support/JournalBytes.h"
 #include "Support/TestValues.h"
 
 #include <QAction>
@@ -134,9 +135,8 @@ private slots:
         f.Click(2, Qt::ControlModifier);
         QTest::keyClick(f.pList, Qt::Key_C, Qt::ControlModifier);
 
-        QFile file(folder.filePath("journal"));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        const QList<QByteArray> lines = file.readAll().split('\n');
+        const QList<QByteArray> lines =
+            vesk::ReadLinesAfterHeader(folder.filePath("journal")).split('\n');
         QCOMPARE(QApplication::clipboard()->text(),
                  QString::fromUtf8(lines[0] + '\n' + lines[2] + '\n' + lines[4] + '\n'));
     }

@@ -1,0 +1,159 @@
+#include "Output/ImportCommands.h"
+
+#include "Model/KeptContent.h"
+#include "Model/Workspace.h"
+#include "Output/DxfImport.h"
+#include "Output/ImportDialogs.h"
+
+#include "Command/ActionManager.h"
+#include "HostUi/MainWindow.h"
+#include "HostUi/QtText.h"
+#include "Journal/CommandParameters.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <string_view>
+#include <utility>
+
+using namespace vesk;
+
+namespace
+{
+
+constexpr wchar_t ContentParameter[] = L"content";
+constexpr wchar_t ImportStep[] = L"导入";
+
+DocumentReading ReadDocument(const QByteArray& bytes)
+{
+    return DocumentFile::FromText(
+        std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
+}
+
+QString ContentDigestOf(const CommandParameters& parameters)
+{
+    const CommandParameterValue* pValue = parameters.Find(ContentParameter);
+    const auto* pText = pValue != nullptr ? std::get_if<std::wstring>(&pValue->Get()) : nullptr;
+    return pText != nullptr ? ToQString(*pText) : QString();
+}
+
+}
+
+ImportCommands::ImportCommands(Workspace& workspace, MainWindow& window, OutputRunner runner)
+    : m_workspace(workspace), m_window(window), m_runner(std::move(runner))
+{}
+
+std::vector<CommandEntry> ImportCommands::MakeCommands()
+{
+    return {
+        CommandEntry::Dialog(L"Sketcher.Import", L"导入", [this] { AskForImport(); })
+            .WithIcon(L"import")
+            .WithToolTip(L"导入：将 DXF 文件的图元加入图纸")
+            .InGroup(L"输出")
+            .OnStartPage(),
+        CommandEntry::WithParameters(
+            ContentId, L"导入图元",
+            [this](const CommandParameters& parameters) { Insert(parameters); })
+            .PossibleWith([this](const CommandParameters& parameters) {
+                return Find(parameters).has_value();
+            }),
+    };
+}
+
+void ImportCommands::Import(const QString& path, QString unit)
+{
+    const QString name = QFileInfo(path).fileName();
+    const std::optional<DxfImport> read = Read(path, std::move(unit));
+    if (!read.has_value() || IsGone())
+        return;
+    if (read->document.isEmpty())
+    {
+        m_window.ShowNotice(QStringLiteral("未导入 %1：%2").arg(name, CaptionOf(*read)));
+        return;
+    }
+    if (m_pending->content.entities.empty() || Keep(*read))
+        ShowReport(name, *read);
+    m_pending.reset();
+}
+
+void ImportCommands::AskForImport()
+{
+    const QString path = AskForImportPath(m_window);
+    if (!path.isEmpty() && !IsGone())
+        Import(path);
+}
+
+/// True once the window was closed while an event loop ran.
+bool ImportCommands::IsGone() const
+{
+    return !m_window.isVisible();
+}
+
+/// Reads the file while the window lives, and what was made of it. Returns nothing if the user does
+/// not say the unit, or the program ends meanwhile.
+std::optional<DxfImport> ImportCommands::Read(const QString& path, QString unit)
+{
+    DxfImport read;
+    const auto work = [&](const OutputProgress& progress) {
+        QFile file(path);
+        if (!file.open(QIODevice::ReadOnly))
+            read.fault = OutputFault::CannotRead;
+        else
+            read = ImportDxf(file.readAll(), unit, progress);
+        m_pending = Pending{QString(), ReadDocument(read.document).content};
+    };
+    m_runner(work);
+    if (read.fault != OutputFault::None || read.code != DxfToolCode::NoUnit || IsGone())
+        return read;
+    unit = AskForDxfUnit(m_window, QFileInfo(path).fileName());
+    if (unit.isEmpty() || IsGone())
+        return std::nullopt;
+    m_runner(work);
+    return read;
+}
+
+/// Records what was read and adds it. Returns false if the journal cannot keep it.
+bool ImportCommands::Keep(const DxfImport& read)
+{
+    const std::optional<QString> digest = KeptContent::Get().Keep(read.document);
+    if (!digest.has_value())
+    {
+        m_window.ShowNotice(QStringLiteral("未导入：日志旁无法保存导入的内容"));
+        return false;
+    }
+    m_pending->digest = *digest;
+    CommandParameters parameters;
+    parameters.Add(ContentParameter, CommandParameterValue(ToWide(*digest)));
+    ActionManager::RunCommand(ContentId, parameters);
+    return true;
+}
+
+void ImportCommands::Insert(const CommandParameters& parameters)
+{
+    const std::optional<SketchContent> content = Find(parameters);
+    if (content.has_value() && !m_workspace.sketch.Insert(*content, ImportStep).empty())
+        ActionManager::StepDone();
+}
+
+/// The drawing to which a record refers; nothing if it is not kept.
+std::optional<SketchContent> ImportCommands::Find(const CommandParameters& parameters) const
+{
+    const QString digest = ContentDigestOf(parameters);
+    if (m_pending.has_value() && m_pending->digest == digest)
+        return m_pending->content;
+    const std::optional<QByteArray> bytes = KeptContent::Get().Find(digest);
+    if (!bytes.has_value())
+        return std::nullopt;
+    DocumentReading document = ReadDocument(*bytes);
+    if (document.outcome != DocumentReading::Outcome::Whole || document.content.entities.empty())
+        return std::nullopt;
+    return std::move(document.content);
+}
+
+void ImportCommands::ShowReport(const QString& name, const DxfImport& read)
+{
+    m_window.ShowNotice(
+        QStringLiteral("%1：已导入 %2 个图元").arg(name).arg(read.report.importedCount));
+    if (!read.report.remarks.isEmpty())
+        ShowImportReport(m_window, name, read.report);
+}

@@ -1,0 +1,72 @@
+#include "Output/ImportDialogs.h"
+
+#include "Output/DxfImport.h"
+
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QPointer>
+
+namespace
+{
+
+struct DxfUnitText
+{
+    const char* name; ///< For vesk-dxf.
+    const char* caption;
+};
+
+constexpr DxfUnitText DxfUnitTexts[] = {
+    {"mm", "毫米"}, {"cm", "厘米"}, {"m", "米"}, {"in", "英寸"}, {"ft", "英尺"},
+};
+
+}
+
+QString AskForImportPath(QWidget& window)
+{
+    // On the heap: the dialog is destroyed with the window if the program ends meanwhile.
+    const QPointer<QFileDialog> pDialog = new QFileDialog(&window, QStringLiteral("导入"));
+    pDialog->setObjectName(QStringLiteral("ImportDialog"));
+    pDialog->setFileMode(QFileDialog::ExistingFile);
+    pDialog->setNameFilters(
+        {QStringLiteral("DXF 图形 (*.dxf *.DXF)"), QStringLiteral("所有文件 (*)")});
+    const bool isAccepted = pDialog->exec() == QDialog::Accepted;
+    if (pDialog == nullptr)
+        return {};
+    const QStringList files = pDialog->selectedFiles();
+    delete pDialog;
+    return isAccepted && !files.isEmpty() ? files.front() : QString();
+}
+
+QString AskForDxfUnit(QWidget& window, const QString& fileName)
+{
+    QStringList captions;
+    for (const DxfUnitText& unit : DxfUnitTexts)
+        captions << QString::fromUtf8(unit.caption);
+    const QPointer<QInputDialog> pDialog = new QInputDialog(&window);
+    pDialog->setObjectName(QStringLiteral("DxfUnitDialog"));
+    pDialog->setWindowTitle(QStringLiteral("导入"));
+    pDialog->setLabelText(QStringLiteral("%1 没有注明单位。长度单位是：").arg(fileName));
+    pDialog->setComboBoxItems(captions);
+    const bool isAccepted = pDialog->exec() == QDialog::Accepted;
+    if (pDialog == nullptr)
+        return {};
+    const int place = captions.indexOf(pDialog->textValue());
+    delete pDialog;
+    return isAccepted && place >= 0 ? QString::fromLatin1(DxfUnitTexts[place].name) : QString();
+}
+
+void ShowImportReport(QWidget& window, const QString& fileName, const DxfReportText& report)
+{
+    auto* pBox = new QMessageBox(QMessageBox::Information, QStringLiteral("导入"),
+                                 QStringLiteral("%1：已导入 %2 个图元，另有 %3 项说明。")
+                                     .arg(fileName)
+                                     .arg(report.importedCount)
+                                     .arg(report.remarks.size()),
+                                 QMessageBox::Ok, &window);
+    pBox->setObjectName(QStringLiteral("ImportReport"));
+    pBox->setAttribute(Qt::WA_DeleteOnClose);
+    pBox->setWindowModality(Qt::NonModal);
+    pBox->setInformativeText(report.remarks.join(QLatin1Char('\n')));
+    pBox->show();
+}

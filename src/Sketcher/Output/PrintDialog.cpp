@@ -1,0 +1,156 @@
+#include "Output/PrintDialog.h"
+
+#include "Output/PrintLayout.h"
+
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QElapsedTimer>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QImage>
+#include <QLabel>
+#include <QPainter>
+#include <QPixmap>
+#include <QPrinterInfo>
+#include <QPushButton>
+
+#include <algorithm>
+#include <utility>
+
+namespace
+{
+
+constexpr int PreviewSide = 420;
+
+constexpr QPageSize::PageSizeId PaperSizes[] = {QPageSize::A4, QPageSize::A3, QPageSize::A2,
+                                                QPageSize::A1, QPageSize::A0, QPageSize::Letter};
+
+QComboBox* MakeChoice(const QString& name, const QStringList& items)
+{
+    auto* pChoice = new QComboBox;
+    pChoice->setObjectName(name);
+    pChoice->addItems(items);
+    return pChoice;
+}
+
+QStringList PaperNames()
+{
+    QStringList names;
+    for (const QPageSize::PageSizeId id : PaperSizes)
+        names << QPageSize(id).name();
+    return names;
+}
+
+}
+
+PrintDialog::PrintDialog(SketchContent content, QWidget* pParent)
+    : QDialog(pParent), m_content(std::move(content)), m_bounds(*VisibleBounds(m_content)),
+      m_pPrinter(MakeChoice(QStringLiteral("PrintPrinter"), QPrinterInfo::availablePrinterNames())),
+      m_pPaper(MakeChoice(QStringLiteral("PrintPaper"), PaperNames())),
+      m_pOrientation(MakeChoice(QStringLiteral("PrintOrientation"),
+                                {QStringLiteral("纵向"), QStringLiteral("横向")})),
+      m_pScale(MakeChoice(QStringLiteral("PrintScale"),
+                          {QStringLiteral("布满"), QStringLiteral("1:1"), QStringLiteral("1:2"),
+                           QStringLiteral("1:5"), QStringLiteral("1:10"), QStringLiteral("1:20"),
+                           QStringLiteral("1:50"), QStringLiteral("1:100"), QStringLiteral("2:1"),
+                           QStringLiteral("5:1")})),
+      m_pPreview(new QLabel), m_pRemark(new QLabel)
+{
+    setObjectName(QStringLiteral("PrintDialog"));
+    setWindowTitle(QStringLiteral("打印"));
+    m_pPrinter->addItem(QStringLiteral("PDF 文件"));
+    m_pScale->setEditable(true);
+    m_pPreview->setObjectName(QStringLiteral("PrintPreview"));
+    m_pPreview->setAlignment(Qt::AlignCenter);
+    m_pPreview->setMinimumSize(PreviewSide, PreviewSide);
+    m_pRemark->setObjectName(QStringLiteral("PrintRemark"));
+    m_pRemark->setWordWrap(true);
+    AddRows();
+    const vesk::Vector3d size = m_bounds.high - m_bounds.low;
+    m_pOrientation->setCurrentIndex(size.x() > size.y() ? 1 : 0);
+    for (QComboBox* pChoice : {m_pPaper, m_pOrientation})
+        connect(pChoice, qOverload<int>(&QComboBox::currentIndexChanged), this,
+                &PrintDialog::OnChanged);
+    connect(m_pScale, &QComboBox::editTextChanged, this, &PrintDialog::OnChanged);
+    OnChanged();
+}
+
+std::optional<PrintJob> PrintDialog::GetJob() const
+{
+    PrintJob job;
+    const bool isFile = m_pPrinter->currentIndex() == m_pPrinter->count() - 1;
+    job.printer = isFile ? QString() : m_pPrinter->currentText();
+    job.page = QPageSize(PaperSizes[m_pPaper->currentIndex()]);
+    job.isLandscape = m_pOrientation->currentIndex() == 1;
+    const QSizeF upright = job.page.size(QPageSize::Millimeter);
+    const QSizeF paper = job.isLandscape ? upright.transposed() : upright;
+    const std::optional<double> scale = GetScale(paper);
+    if (!scale.has_value())
+        return std::nullopt;
+    job.placement = PaperPlacement::Centred(m_bounds, *scale, paper);
+    return job;
+}
+
+void PrintDialog::AddRows()
+{
+    auto* pRows = new QFormLayout;
+    pRows->addRow(QStringLiteral("打印机"), m_pPrinter);
+    pRows->addRow(QStringLiteral("纸张"), m_pPaper);
+    pRows->addRow(QStringLiteral("方向"), m_pOrientation);
+    pRows->addRow(QStringLiteral("比例"), m_pScale);
+    pRows->addRow(m_pRemark);
+    auto* pButtons = new QDialogButtonBox;
+    m_pPrint = pButtons->addButton(QStringLiteral("打印"), QDialogButtonBox::AcceptRole);
+    pButtons->addButton(QStringLiteral("取消"), QDialogButtonBox::RejectRole);
+    connect(pButtons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(pButtons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    pRows->addRow(pButtons);
+    auto* pLayout = new QHBoxLayout(this);
+    pLayout->addLayout(pRows);
+    pLayout->addWidget(m_pPreview, 1);
+}
+
+void PrintDialog::OnChanged()
+{
+    const std::optional<PrintJob> job = GetJob();
+    m_pPrint->setEnabled(job.has_value());
+    if (!job.has_value())
+    {
+        m_pRemark->setText(QStringLiteral("比例应写成 1:50 或 2:1"));
+        return;
+    }
+    const double scale = job->placement.scale;
+    m_pRemark->setText(FitsPaper(m_bounds, scale, job->placement.paper)
+                           ? QStringLiteral("比例 %1").arg(ScaleText(scale))
+                           : QStringLiteral("图形超出纸面，超出部分不会打印"));
+    ShowPreview(*job);
+}
+
+/// A large drawing is shown in part, so that the dialog answers at once.
+void PrintDialog::ShowPreview(const PrintJob& job)
+{
+    constexpr qint64 LongestMs = 100;
+    const QSizeF& paper = job.placement.paper;
+    const double pixels = PreviewSide / std::max(paper.width(), paper.height());
+    QImage image((paper * pixels).toSize(), QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(pixels, pixels);
+    QElapsedTimer time;
+    time.start();
+    const bool isWhole = PaintOnPaper(painter, m_content, job.placement,
+                                      [&time](double) { return time.elapsed() < LongestMs; });
+    painter.end();
+    m_pPreview->setPixmap(QPixmap::fromImage(image));
+    m_pPreview->setToolTip(isWhole ? QString()
+                                   : QStringLiteral("图纸很大，预览只画出一部分；打印是完整的"));
+}
+
+/// Nothing if the text is not a scale.
+std::optional<double> PrintDialog::GetScale(const QSizeF& paper) const
+{
+    const bool isFitted = m_pScale->currentText() == m_pScale->itemText(0);
+    return isFitted ? std::make_optional(FitScale(m_bounds, paper))
+                    : ReadScale(m_pScale->currentText());
+}

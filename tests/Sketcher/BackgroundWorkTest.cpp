@@ -1,0 +1,137 @@
+#include "BackgroundWork.h"
+
+#include "Control/ProgressBarDefinition.h"
+#include "Support/TestValues.h"
+
+#include <QCloseEvent>
+#include <QDockWidget>
+#include <QKeyEvent>
+#include <QMainWindow>
+#include <QPushButton>
+#include <QTimer>
+
+#include <atomic>
+#include <stdexcept>
+#include <thread>
+
+namespace
+{
+
+struct WindowFixture
+{
+    WindowFixture()
+    {
+        window.setMenuWidget(new QPushButton);
+        window.show();
+    }
+
+    QMainWindow window;
+    vesk::ProgressBarDefinition progress{L"progress"};
+};
+
+/// Waits in the other thread until the window's thread has done something, or cancels.
+void WaitFor(const std::atomic<bool>& isDone, WorkProgress& progress)
+{
+    while (!isDone && progress.Advance(0.25))
+        std::this_thread::yield();
+}
+
+}
+
+class BackgroundWorkTest final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void theWindowLivesMeanwhile()
+    {
+        WindowFixture f;
+        std::atomic<bool> isAnswered{false};
+        int shown = -1;
+        QTimer::singleShot(200, &f.window, [&] {
+            shown = f.progress.IsVisible() ? f.progress.GetValue() : -1;
+            isAnswered = true;
+        });
+
+        const bool isWhole =
+            RunInBackground(f.window, &f.progress, [&isAnswered](WorkProgress& progress) {
+                progress.Advance(0.25);
+                WaitFor(isAnswered, progress);
+            });
+
+        QVERIFY(isWhole);
+        QCOMPARE(shown, 25);
+        QVERIFY(!f.progress.IsVisible());
+        QVERIFY(f.window.menuWidget()->isEnabled());
+    }
+
+    void workIsDoneInAnotherThread()
+    {
+        WindowFixture f;
+        std::thread::id worker;
+
+        RunInBackground(f.window, nullptr,
+                        [&worker](WorkProgress&) { worker = std::this_thread::get_id(); });
+
+        QVERIFY(worker != std::thread::id());
+        QVERIFY(worker != std::this_thread::get_id());
+    }
+
+    void escapeCancels()
+    {
+        WindowFixture f;
+        const std::atomic<bool> never{false};
+        QTimer::singleShot(0, &f.window, [&f] {
+            QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+            QCoreApplication::sendEvent(&f.window, &escape);
+        });
+
+        QVERIFY(!RunInBackground(f.window, &f.progress,
+                                 [&never](WorkProgress& progress) { WaitFor(never, progress); }));
+        QVERIFY(f.window.isVisible());
+    }
+
+    void closingTheWindowCancels()
+    {
+        WindowFixture f;
+        const std::atomic<bool> never{false};
+        QTimer::singleShot(0, &f.window, [&f] { f.window.close(); });
+
+        QVERIFY(!RunInBackground(f.window, &f.progress,
+                                 [&never](WorkProgress& progress) { WaitFor(never, progress); }));
+        QVERIFY(!f.window.isVisible());
+    }
+
+    void otherKeysDoNothing()
+    {
+        WindowFixture f;
+        auto* pButton = new QPushButton;
+        f.window.setCentralWidget(pButton);
+        std::atomic<bool> isPressed{false};
+        int clicks = 0;
+        QObject::connect(pButton, &QPushButton::clicked, &f.window, [&clicks] { ++clicks; });
+        QTimer::singleShot(0, &f.window, [&] {
+            QTest::mouseClick(pButton, Qt::LeftButton);
+            isPressed = true;
+        });
+
+        RunInBackground(f.window, &f.progress,
+                        [&isPressed](WorkProgress& progress) { WaitFor(isPressed, progress); });
+
+        QCOMPARE(clicks, 0);
+    }
+
+    void whatTheWorkThrowsIsThrownHere()
+    {
+        WindowFixture f;
+
+        QVERIFY_EXCEPTION_THROWN(
+            RunInBackground(f.window, &f.progress,
+                            [](WorkProgress&) { throw std::runtime_error("full"); }),
+            std::runtime_error);
+        QVERIFY(f.window.menuWidget()->isEnabled());
+    }
+};
+
+VESK_TESTS(BackgroundWorkTest);
+#include "BackgroundWorkTest.moc"
