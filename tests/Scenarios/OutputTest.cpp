@@ -16,6 +16,9 @@
 #include <QLineEdit>
 #include <QMessageBox>
 
+#include <array>
+#include <memory>
+
 namespace
 {
 
@@ -139,7 +142,7 @@ private slots:
 
         const QVector<DrawnLine> lines = Model();
         QCOMPARE(lines.size(), 2);
-        QCOMPARE(lines[0].start, vesk::Vector3d(10, 20, 0));
+        QVERIFY((lines[0].start == std::array<double, 3>{10.0, 20.0, 0.0}));
         QVERIFY(QFile::remove(path));
         VerifyReplay();
         QCOMPARE(LinesWith(Journal(), "Sketcher.ImportContent").size(), 1);
