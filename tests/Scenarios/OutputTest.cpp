@@ -1,6 +1,6 @@
 #include "Drawing.h"
 #include "ScenarioTest.h"
-#include "ScopedVariable.h"
+#include "Support/ScopedVariable.h"
 #include "ScriptedUser.h"
 #include "SketcherProcess.h"
 #include "SketcherWindow.h"
