@@ -8,6 +8,8 @@
 #include "Support/FileBytes.h"
 #include "Support/TestValues.h"
 
+#include <array>
+
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
@@ -139,7 +141,7 @@ private slots:
 
         const QVector<DrawnLine> lines = Model();
         QCOMPARE(lines.size(), 2);
-        QCOMPARE(lines[0].start, vesk::Vector3d(10, 20, 0));
+        QCOMPARE(lines[0].start, (std::array<double, 3>{10, 20, 0}));
         QVERIFY(QFile::remove(path));
         VerifyReplay();
         QCOMPARE(LinesWith(Journal(), "Sketcher.ImportContent").size(), 1);
