@@ -1,5 +1,6 @@
 #include "SessionRecovery.h"
 
+#include "BackgroundWork.h"
 #include "Model/KeptContent.h"
 #include "Model/Workspace.h"
 #include "Options.h"
@@ -37,7 +38,7 @@ std::vector<JournalRecord> RecordsAfter(const Snapshot& snapshot,
         });
     if (mark == records.end())
         return {};
-    const std::optional<CommandParameters> parameters = RecoverContent::Keep(snapshot.bytes);
+    const std::optional<CommandParameters> parameters = RecoverContent::Keep(snapshot);
     if (!parameters.has_value())
         return {};
     // The mark has the greatest number so far and is no command's.
@@ -143,7 +144,16 @@ void SessionRecovery::BeginAnew()
 std::optional<JournalReplayResult> SessionRecovery::ReplayFromSnapshot(const QString& journal,
                                                                        const Records& records)
 {
-    const std::optional<Snapshot> snapshot = Snapshot::FindNewest(journal);
+    std::optional<Snapshot> snapshot;
+    const bool isRead = RunInBackground(m_window, m_window.GetProgress(), [&](WorkProgress&) {
+        snapshot = Snapshot::FindNewest(journal);
+    });
+    if (!isRead)
+    {
+        JournalReplayResult cancelled;
+        cancelled.isStopped = true;
+        return cancelled;
+    }
     if (!snapshot.has_value())
         return std::nullopt;
     const Records rest = RecordsAfter(*snapshot, records);

@@ -20,7 +20,7 @@
 #include <QProcess>
 #include <QThread>
 
-#include <csignal>
+#include <deque>
 #include <random>
 #include <set>
 #include <unistd.h>
@@ -80,6 +80,9 @@ private:
     double m_length = 0;
 };
 
+/// Enough that a session is hardly ever over before it is killed.
+constexpr unsigned SittingsPerSession = 12;
+
 /// The session that is killed: a user who does anything.
 [[noreturn]] void DrawUntilKilled(const QString& folder, unsigned seed)
 {
@@ -88,8 +91,9 @@ private:
     SittingTally tally;
     SittingWatch watch(tally);
     ScriptedUser user;
-    RandomUser random(seed, user, watch);
-    random.Plan();
+    std::deque<RandomUser> users;
+    for (unsigned i = 0; i < SittingsPerSession; ++i)
+        users.emplace_back(seed * SittingsPerSession + i, user, watch).Plan();
     Options options;
     options.journal = JournalIn(folder);
     options.log = folder + "/log";
@@ -215,7 +219,7 @@ private:
     static void KillAtRandom(const QString& folder, unsigned seed)
     {
         std::mt19937 random(seed);
-        const qint64 size = std::uniform_int_distribution<int>(1, 16000)(random);
+        const qint64 size = std::uniform_int_distribution<int>(1, 10000)(random);
         const auto delay = std::uniform_int_distribution<unsigned long>(0, 4000)(random);
         QProcess session;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -231,7 +235,7 @@ private:
                !session.waitForFinished(0))
             QThread::usleep(100);
         QThread::usleep(delay);
-        ::kill(static_cast<pid_t>(session.processId()), SIGKILL);
+        session.kill();
         session.waitForFinished();
     }
 
