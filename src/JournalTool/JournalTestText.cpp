@@ -21,7 +21,7 @@ class @NAME@Test final : public ScenarioTest
 private slots:
     void theSessionIsReplayed()
     {
-        const QString journal = QFINDTESTDATA("journals/@FILE@");
+        const QString journal = QStringLiteral(VESK_JOURNALS "/@FILE@");
         const QString again = m_pFixture->File("again");
 
         const Outcome outcome = RunSketcher({"--replay", journal, "--journal", again});

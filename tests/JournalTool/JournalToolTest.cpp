@@ -220,7 +220,7 @@ private slots:
 
         QCOMPARE(result.code, 0);
         QVERIFY(result.out.contains("class DayTest final"));
-        QVERIFY(result.out.contains("QFINDTESTDATA(\"journals/day.jsonl\")"));
+        QVERIFY(result.out.contains("VESK_JOURNALS \"/day.jsonl\""));
         QVERIFY(result.out.contains("contains(\"a1\")"));
         QVERIFY(!result.out.contains('@'));
     }
