@@ -286,6 +286,36 @@ private slots:
         QVERIFY(commands[4].parameters.IsEmpty());
     }
 
+    void aReplayChecksInsteadOfSaving()
+    {
+        DocumentsFixture& f = *m_pFixture;
+        OpenSample();
+        const QByteArray before = vesk::ReadBytes(f.File("sample.vsk"));
+        vesk::CommandParameters parameters;
+        parameters.Add(L"digest", vesk::CommandParameterValue(std::wstring(64, L'0')));
+        const bool isOtherPossible = f.pDocuments->CanSave(parameters);
+        f.Draw();
+        parameters.Add(L"digest", vesk::CommandParameterValue(
+                                      QString::fromStdString(f.sketch.GetDigest()).toStdWString()));
+
+        const bool isPossible = f.pDocuments->CanSave(parameters);
+        f.pDocuments->DoSave(parameters);
+
+        QVERIFY(isPossible);
+        QVERIFY(!isOtherPossible);
+        QCOMPARE(vesk::ReadBytes(f.File("sample.vsk")), before);
+        QVERIFY(!f.pDocuments->IsModified());
+    }
+
+    void contentThatWasNotKeptCannotBeOpened()
+    {
+        vesk::CommandParameters parameters;
+        parameters.Add(L"content", vesk::CommandParameterValue(std::wstring(64, L'0')));
+
+        QVERIFY(!m_pFixture->pDocuments->CanOpen(parameters));
+        QVERIFY(!m_pFixture->pDocuments->CanOpen({}));
+    }
+
     void everythingMayDieWhileAQuestionIsOpen_data()
     {
         QTest::addColumn<QString>("command");
