@@ -82,7 +82,7 @@ private slots:
 
         f.Run(L"Sketcher.Save");
 
-        QCOMPARE(f.user.GetTexts().last(), QString("“old.vsk”已经存在。替换会丢失它现在的内容。"));
+        QCOMPARE(f.user.GetLastText(), QString("“old.vsk”已经存在。替换会丢失它现在的内容。"));
         QTEST(vesk::ReadBytes(f.File("old.vsk")) != "old", "isReplaced");
         QTEST(!f.pDocuments->IsModified(), "isReplaced");
     }
@@ -171,7 +171,7 @@ private slots:
 
         f.Run(L"Sketcher.Save");
 
-        QVERIFY(f.user.GetTexts().last().startsWith("“sample.vsk”打开之后已被其他程序修改。"));
+        QVERIFY(f.user.GetLastText().startsWith("“sample.vsk”打开之后已被其他程序修改。"));
         QTEST(vesk::ReadBytes(f.File("sample.vsk")) != "changed", "isReplaced");
         QTEST(!f.pDocuments->IsModified(), "isReplaced");
     }
@@ -202,7 +202,7 @@ private slots:
             f.Run(L"Sketcher.Save");
         }
 
-        QCOMPARE(f.user.GetTexts().last(),
+        QCOMPARE(f.user.GetLastText(),
                  "无法保存“" + f.File("sample.vsk") + "”写入时出错，原文件保持不变。");
         QCOMPARE(vesk::ReadBytes(f.File("sample.vsk")), before);
         QVERIFY(f.pDocuments->IsModified());
@@ -218,7 +218,7 @@ private slots:
 
         f.Run(L"Sketcher.Save");
 
-        QVERIFY(f.user.GetTexts().last().endsWith("文件夹不存在。"));
+        QVERIFY(f.user.GetLastText().endsWith("文件夹不存在。"));
     }
 
     void cancelledSavingChangesNothing()

@@ -160,7 +160,7 @@ private slots:
 
         f.Run(L"Sketcher.Open");
 
-        QCOMPARE(f.user.GetTexts().last(), "无法打开“" + path + "”" + reason);
+        QCOMPARE(f.user.GetLastText(), "无法打开“" + path + "”" + reason);
         QCOMPARE(vesk::ReadBytes(path), bytes);
         QCOMPARE(f.pDocuments->GetDocument().GetName(), QString("sample"));
         QCOMPARE(f.sketch.GetEntities().size(), std::size_t(4));
@@ -179,7 +179,7 @@ private slots:
         f.Run(L"Sketcher.Save");
 
         QVERIFY(isReadOnly);
-        QVERIFY(f.user.GetTexts()[1].startsWith("“sample.vsk”已在另一个程序中打开。"));
+        QVERIFY(f.user.GetTexts().value(1).startsWith("“sample.vsk”已在另一个程序中打开。"));
         QCOMPARE(f.pDocuments->GetDocument().GetName(), QString("mine"));
         QVERIFY(!f.pDocuments->GetDocument().isReadOnly);
     }
