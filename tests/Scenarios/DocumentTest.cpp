@@ -37,7 +37,9 @@ private slots:
         user.Press(Qt::Key_S, Qt::ControlModifier).Until([] { return !IsModified(); });
         user.DrawLine(10, 10, 20, 20).Until(&IsModified);
         user.Press(Qt::Key_N, Qt::ControlModifier).Until([] { return !IsTitled("part"); });
-        user.Do(&Activate).Press(Qt::Key_O, Qt::ControlModifier).Until([] { return IsTitled("part"); });
+        user.Do(&Activate).Press(Qt::Key_O, Qt::ControlModifier).Until([] {
+            return IsTitled("part");
+        });
         user.DrawLine(-10, -10, -30, -40);
         user.Press(Qt::Key_S, Qt::ControlModifier).Until([] { return !IsModified(); });
 

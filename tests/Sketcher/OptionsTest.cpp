@@ -56,6 +56,23 @@ private slots:
         QVERIFY(!Parse({"--open", path, "--replay", path}).error.isEmpty());
     }
 
+    void theDrawingFileIsTaken()
+    {
+        QTemporaryDir folder;
+        const QString path = folder.filePath("a.vsk");
+        QVERIFY(!Parse({path}).error.isEmpty());
+
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+
+        QCOMPARE(Parse({path}).error, QString());
+        QCOMPARE(Parse({path}).document, path);
+        QCOMPARE(Parse({path, path}).error, QStringLiteral("unexpected argument %1").arg(path));
+        QVERIFY(!Parse({folder.path()}).error.isEmpty());
+        QVERIFY(!Parse({"--open", path, path}).error.isEmpty());
+        QVERIFY(!Parse({"--model", path, path}).error.isEmpty());
+    }
+
     void aFileIsOneThing_data()
     {
         QTest::addColumn<QString>("first");

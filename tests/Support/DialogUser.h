@@ -59,6 +59,7 @@ public:
 
     /// The texts of the dialogs shown so far: those of messages, the titles of others.
     const QStringList& GetTexts() const { return m_texts; }
+    QString GetLastText() const { return m_texts.isEmpty() ? QString() : m_texts.last(); }
     const QStringList& GetUnexpected() const { return m_unexpected; }
     bool HasAnswersLeft() const { return !m_answers.empty(); }
 

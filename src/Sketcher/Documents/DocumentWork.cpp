@@ -9,6 +9,7 @@
 #include <QStorageInfo>
 
 #include <cstddef>
+#include <new>
 #include <optional>
 #include <string_view>
 #include <utility>
@@ -44,12 +45,9 @@ QString WhyNotWritten(const QString& path, qint64 size)
                                               : QStringLiteral("写入时出错，原文件保持不变。");
 }
 
-}
-
-DocumentWork::Read DocumentWork::ReadFile(const QString& path,
-                                          const DocumentFile::Progress& progress)
+DocumentWork::Read ReadWhole(const QString& path, const DocumentFile::Progress& progress)
 {
-    Read result;
+    DocumentWork::Read result;
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly) || file.size() > GreatestSize)
     {
@@ -62,6 +60,7 @@ DocumentWork::Read DocumentWork::ReadFile(const QString& path,
     const QByteArray bytes = file.readAll();
     result.stamp = FileStamp::Of(path, bytes);
     result.stamp.modified = modified;
+    result.stamp.size = bytes.size();
     const std::string_view text(bytes.constData(), static_cast<std::size_t>(bytes.size()));
     result.reading = DocumentFile::FromText(text, progress);
     result.isCancelled = result.reading.outcome == DocumentReading::Outcome::Cancelled;
@@ -79,10 +78,10 @@ DocumentWork::Read DocumentWork::ReadFile(const QString& path,
     return result;
 }
 
-DocumentWork::Written DocumentWork::WriteFile(const SketchContent& content, const QString& path,
-                                              const DocumentFile::Progress& progress)
+DocumentWork::Written WriteWhole(const SketchContent& content, const QString& path,
+                                 const DocumentFile::Progress& progress)
 {
-    Written result;
+    DocumentWork::Written result;
     const std::string text = DocumentFile::ToText(content, progress);
     result.isCancelled = text.empty();
     if (result.isCancelled)
@@ -95,4 +94,34 @@ DocumentWork::Written DocumentWork::WriteFile(const SketchContent& content, cons
     const auto size = static_cast<int>(text.size());
     result.stamp = FileStamp::Of(path, QByteArray::fromRawData(text.data(), size));
     return result;
+}
+
+/// What the work results in, or the fault that there is not enough memory for it.
+template <class Result, class Function>
+Result UnlessOutOfMemory(const Function& work)
+{
+    try
+    {
+        return work();
+    }
+    catch (const std::bad_alloc&)
+    {
+        Result failed;
+        failed.fault = QStringLiteral("内存不足。");
+        return failed;
+    }
+}
+
+}
+
+DocumentWork::Read DocumentWork::ReadFile(const QString& path,
+                                          const DocumentFile::Progress& progress)
+{
+    return UnlessOutOfMemory<Read>([&] { return ReadWhole(path, progress); });
+}
+
+DocumentWork::Written DocumentWork::WriteFile(const SketchContent& content, const QString& path,
+                                              const DocumentFile::Progress& progress)
+{
+    return UnlessOutOfMemory<Written>([&] { return WriteWhole(content, path, progress); });
 }

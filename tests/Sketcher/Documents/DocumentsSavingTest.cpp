@@ -1,0 +1,250 @@
+#include "Documents/Documents.h"
+
+#include "Documents/DocumentsFixture.h"
+#include "Support/FileSizeLimit.h"
+#include "Support/TestValues.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+/// What is saved, and what is asked before.
+class DocumentsSavingTest final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { m_pFixture = std::make_unique<DocumentsFixture>(); }
+
+    void cleanup()
+    {
+        const QStringList unexpected = m_pFixture->user.GetUnexpected();
+        const bool isAnswerLeft = m_pFixture->user.HasAnswersLeft();
+        m_pFixture.reset();
+        QCOMPARE(unexpected.join(QLatin1Char('|')), QString());
+        QVERIFY(!isAnswerLeft);
+    }
+
+    void aDrawingIsSavedInTheChosenFile()
+    {
+        DocumentsFixture& f = *m_pFixture;
+        f.Draw();
+        f.user.ChooseFile(f.File("part.vsk"));
+
+        f.Run(L"Sketcher.Save");
+
+        QCOMPARE(vesk::ReadBytes(f.File("part.vsk")).toStdString(),
+                 DocumentFile::ToText(f.sketch.GetContent()));
+        QCOMPARE(f.pDocuments->GetDocument().GetName(), QString("part"));
+        QVERIFY(!f.pDocuments->IsModified());
+        QCOMPARE(RecentFiles().Get(), QStringList{f.File("part.vsk")});
+    }
+
+    void aNameWithoutEndingGetsIt()
+    {
+        DocumentsFixture& f = *m_pFixture;
+        f.user.ChooseFile(f.File("part"));
+
+        f.Run(L"Sketcher.SaveAs");
+
+        QVERIFY(QFileInfo(f.File("part.vsk")).isFile());
+    }
+
+    void savingAgainAsksNothing()
+    {
+        DocumentsFixture& f = *m_pFixture;
+        OpenSample();
+        f.Draw();
+
+        f.Run(L"Sketcher.Save");
+
+        QCOMPARE(f.user.GetTexts(), QStringList());
+        QVERIFY(!f.pDocuments->IsModified());
+        QCOMPARE(vesk::ReadBytes(f.File("sample.vsk")).toStdString(),
+                 DocumentFile::ToText(f.sketch.GetContent()));
+    }
+
+    void anExistingFileIsReplacedOnlyIfTheUserAgrees_data()
+    {
+        QTest::addColumn<QString>("answer");
+        QTest::addColumn<bool>("isReplaced");
+
+        QTest::newRow("replace") << "替换" << true;
+        QTest::newRow("cancel") << "取消" << false;
+    }
+
+    void anExistingFileIsReplacedOnlyIfTheUserAgrees()
+    {
+        QFETCH(QString, answer);
+        DocumentsFixture& f = *m_pFixture;
+        QVERIFY(vesk::WriteBytes(f.File("old.vsk"), "old"));
+        f.Draw();
+        f.user.ChooseFile(f.File("old.vsk")).Press(answer);
+
+        f.Run(L"Sketcher.Save");
+
+        QCOMPARE(f.user.GetLastText(), QString("“old.vsk”已经存在。替换会丢失它现在的内容。"));
+        QTEST(vesk::ReadBytes(f.File("old.vsk")) != "old", "isReplaced");
+        QTEST(!f.pDocuments->IsModified(), "isReplaced");
+    }
+
+    void aSuggestedFileThatExistsIsNotReplacedUnasked()
+    {
+        DocumentsFixture& f = *m_pFixture;
+        f.pDocuments->OpenFile(f.MakeFile("sample.vsk"));
+        f.Run(L"Sketcher.New");
+        QVERIFY(vesk::WriteBytes(f.File("未命名.vsk"), "old"));
+        f.user.Do([](QDialog& dialog) { dialog.accept(); }).Press("取消");
+
+        f.Run(L"Sketcher.Save");
+
+        QCOMPARE(vesk::ReadBytes(f.File("未命名.vsk")), QByteArray("old"));
+    }
+
+    void theOwnFileIsReplacedWithoutAQuestion()
+    {
+        DocumentsFixture& f = *m_pFixture;
+        OpenSample();
+        f.Draw();
+        f.user.ChooseFile(f.File("sample.vsk"));
+
+        f.Run(L"Sketcher.SaveAs");
+
+        QVERIFY(!f.pDocuments->IsModified());
+    }
+
+    void savingUnderAnotherNameLeavesTheFirstFile()
+    {
+        DocumentsFixture& f = *m_pFixture;
+        OpenSample();
+        const QByteArray before = vesk::ReadBytes(f.File("sample.vsk"));
+        f.Draw();
+        f.user.ChooseFile(f.File("other.vsk"));
+
+        f.Run(L"Sketcher.SaveAs");
+
+        QCOMPARE(vesk::ReadBytes(f.File("sample.vsk")), before);
+        QCOMPARE(f.pDocuments->GetDocument().GetName(), QString("other"));
+        QVERIFY(!QFileInfo::exists(f.File(".sample.vsk.lock")));
+    }
+
+    void whatIsUndoneToTheSavedStateIsNotModified()
+    {
+        OpenSample();
+        m_pFixture->Draw();
+        QVERIFY(m_pFixture->pDocuments->IsModified());
+
+        m_pFixture->sketch.Undo();
+
+        QVERIFY(!m_pFixture->pDocuments->IsModified());
+    }
+
+    void aFileThatIsOpenElsewhereIsNotReplaced()
+    {
+        DocumentsFixture& f = *m_pFixture;
+        const DocumentLock other(f.File("other.vsk"));
+        f.Draw();
+        f.user.ChooseFile(f.File("other.vsk")).Press("确定");
+
+        f.Run(L"Sketcher.Save");
+
+        QVERIFY(!QFileInfo::exists(f.File("other.vsk")));
+        QVERIFY(f.pDocuments->IsModified());
+    }
+
+    void aFileThatWasChangedElsewhereIsAskedAbout_data()
+    {
+        QTest::addColumn<QString>("answer");
+        QTest::addColumn<bool>("isReplaced");
+
+        QTest::newRow("replace") << "覆盖" << true;
+        QTest::newRow("cancel") << "取消" << false;
+    }
+
+    void aFileThatWasChangedElsewhereIsAskedAbout()
+    {
+        QFETCH(QString, answer);
+        DocumentsFixture& f = *m_pFixture;
+        OpenSample();
+        QVERIFY(vesk::WriteBytes(f.File("sample.vsk"), "changed"));
+        f.Draw();
+        f.user.Press(answer);
+
+        f.Run(L"Sketcher.Save");
+
+        QVERIFY(f.user.GetLastText().startsWith("“sample.vsk”打开之后已被其他程序修改。"));
+        QTEST(vesk::ReadBytes(f.File("sample.vsk")) != "changed", "isReplaced");
+        QTEST(!f.pDocuments->IsModified(), "isReplaced");
+    }
+
+    void unknownFieldsAreSavedAgain()
+    {
+        DocumentsFixture& f = *m_pFixture;
+        SketchContent content = MakeSampleContent();
+        content.unknown.document = "{\"plan\":7}";
+        f.pDocuments->OpenFile(f.MakeFile("sample.vsk", content));
+        f.Draw();
+
+        f.Run(L"Sketcher.Save");
+
+        QVERIFY(vesk::ReadBytes(f.File("sample.vsk")).contains("\"plan\":7"));
+    }
+
+    void aFullDiskLeavesTheOldFile()
+    {
+        DocumentsFixture& f = *m_pFixture;
+        OpenSample();
+        const QByteArray before = vesk::ReadBytes(f.File("sample.vsk"));
+        f.Draw();
+        f.user.Press("确定");
+
+        {
+            const vesk::FileSizeLimit limit(100);
+            f.Run(L"Sketcher.Save");
+        }
+
+        QCOMPARE(f.user.GetLastText(),
+                 "无法保存“" + f.File("sample.vsk") + "”写入时出错，原文件保持不变。");
+        QCOMPARE(vesk::ReadBytes(f.File("sample.vsk")), before);
+        QVERIFY(f.pDocuments->IsModified());
+        QCOMPARE(QDir(f.folder.path()).entryList(QDir::Files), QStringList{"sample.vsk"});
+    }
+
+    void aMissingFolderIsTold()
+    {
+        DocumentsFixture& f = *m_pFixture;
+        OpenSample("gone/sample.vsk");
+        QVERIFY(QDir(f.File("gone")).removeRecursively());
+        f.user.Press("确定");
+
+        f.Run(L"Sketcher.Save");
+
+        QVERIFY(f.user.GetLastText().endsWith("文件夹不存在。"));
+    }
+
+    void cancelledSavingChangesNothing()
+    {
+        DocumentsFixture& f = *m_pFixture;
+        const QString path = f.MakeFile("large.vsk", MakeRandomContent(1, 9000));
+        f.pDocuments->OpenFile(path);
+        const QByteArray before = vesk::ReadBytes(path);
+        f.Draw();
+        f.progress = [](std::size_t, std::size_t) { return false; };
+
+        f.Run(L"Sketcher.Save");
+
+        QCOMPARE(vesk::ReadBytes(path), before);
+        QVERIFY(f.pDocuments->IsModified());
+    }
+
+private:
+    void OpenSample(const QString& name = "sample.vsk")
+    {
+        QVERIFY(QDir().mkpath(QFileInfo(m_pFixture->File(name)).path()));
+        QVERIFY(m_pFixture->pDocuments->OpenFile(m_pFixture->MakeFile(name)));
+    }
+
+    std::unique_ptr<DocumentsFixture> m_pFixture;
+};
+
+VESK_TESTS(DocumentsSavingTest);
+#include "DocumentsSavingTest.moc"
