@@ -64,9 +64,9 @@ void DrawingAction::OnViewInput(const ActionViewInput&, const TypedValue& typed)
     if (!Expects(field))
         return;
     m_values.Take({field, typed.text, typed.isUnchanged ? Confirm(typed) : typed.value});
-    if (!typed.isCommitted)
+    if (!typed.isCommitted && !NeedsValues())
         m_values.Record();
-    else if (!EndStep(GetEnd()) && !FindOther(field).has_value())
+    else if (typed.isCommitted && !EndStep(GetEnd()) && !FindOther(field).has_value())
         m_values.Drop(field);
 }
 

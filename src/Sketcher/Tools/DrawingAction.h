@@ -50,6 +50,10 @@ protected:
     /// impossible.
     virtual bool Finish(const vesk::Vector3d& end) = 0;
 
+    /// Whether the result of a step depends on its values, not only on its end point. Such values
+    /// are recorded when the step ends, because they may be dropped before; others at once.
+    virtual bool NeedsValues() const { return false; }
+
     Workspace& GetWorkspace() const { return m_workspace; }
     vesk::IUiView* GetView() const { return m_pView; }
     bool HasValues() const { return !m_values.IsEmpty(); }

@@ -31,6 +31,7 @@ protected:
     double ReadCursor(vesk::InputState field) const override;
     bool CanFinish(const vesk::Vector3d& end) const override;
     bool Finish(const vesk::Vector3d& end) override;
+    bool NeedsValues() const override { return true; }
 
 private:
     vesk::Vector3d GetWayTo(const vesk::Vector3d& end) const;
