@@ -1,5 +1,6 @@
 #include "Session.h"
 
+#include "AbruptEnd.h"
 #include "BackgroundWork.h"
 #include "DataFile.h"
 #include "Documents/DocumentCommands.h"
@@ -219,7 +220,7 @@ int Session::Run()
     const int code = isReplay ? Replay() : Draw();
     if (code == ExitUnusableFile)
         return code;
-    return WriteResults() ? code : ExitUnusableFile;
+    return WriteResults(Display::There) ? code : ExitUnusableFile;
 }
 
 bool Session::CanRepeat(const CommandRecord& record)
@@ -363,6 +364,7 @@ void Session::ObeyTerminationRequests()
 {
     m_pTermination = std::make_unique<TerminationRequests>();
     QObject::connect(m_pTermination.get(), &TerminationRequests::requested, &m_window, [this] {
+        m_isEndRequested = true;
         m_pDocuments->EndWithoutQuestions();
         m_window.close();
         QCoreApplication::quit();
@@ -377,7 +379,12 @@ int Session::Draw()
         m_window.ShowState(QStringLiteral("layout"), QStringLiteral("面板布局不会保存"),
                            QStringLiteral("无法写入 %1").arg(LayoutPath()));
     m_pKeeping = std::make_unique<KeepingMonitor>(m_window);
-    QObject::connect(&m_window, &MainWindow::closeAccepted, &m_window, [this] { SaveLayout(); });
+    QObject::connect(&m_window, &MainWindow::closeAccepted, &m_window, [this] {
+        SaveLayout();
+        m_isEndDecided = !m_isEndRequested;
+    });
+    // At the end of the desktop's session nobody is asked: what is not saved is offered afterwards.
+    QGuiApplication::setFallbackSessionManagementEnabled(false);
     BeginRecovery();
     m_window.showMaximized();
     m_window.GetView().Activate();
@@ -388,6 +395,7 @@ int Session::Draw()
     if (!m_options.raiseWarnings.isEmpty())
         m_pWarningRaiser =
             std::make_unique<WarningRaiser>(m_options.raiseWarnings, m_window.GetView());
+    const AbruptEnd abruptEnd([this] { WriteResults(Display::Lost); });
     return QApplication::exec();
 }
 
@@ -415,8 +423,13 @@ void Session::BeginRecovery()
         m_pKeeping->Update();
         return result;
     };
-    m_pRecovery =
-        std::make_unique<SessionRecovery>(m_workspace, m_window, m_journal, m_captions, replay);
+    m_pRecovery = std::make_unique<SessionRecovery>(
+        m_workspace, m_window, m_journal, m_captions,
+        SessionRecovery::Program{replay, [this] { m_pDocuments->DoNew(); }});
+    m_pRecovery->GetAutosave().SetInterval(m_settings.Get().autosaveMinutes);
+    QObject::connect(&m_settings, &SettingsStore::changed, &m_pRecovery->GetAutosave(), [this] {
+        m_pRecovery->GetAutosave().SetInterval(m_settings.Get().autosaveMinutes);
+    });
     m_pRecovery->Offer(m_options);
 }
 
@@ -535,8 +548,16 @@ void Session::ShowOtherJournal(const QString& path)
     m_window.ShowState(QStringLiteral("other journal"), QStringLiteral("日志改存于另一文件"), path);
 }
 
+/// Only a user who closes the window decides about unsaved work.
+SessionJournal::Work Session::GetWork() const
+{
+    const bool isUndecided =
+        m_options.task == Options::Task::Draw && !m_isEndDecided && m_pDocuments->IsModified();
+    return isUndecided ? SessionJournal::Work::Undecided : SessionJournal::Work::Decided;
+}
+
 /// Reports in one line what could not be written. Returns false if an option named any of it.
-bool Session::WriteResults()
+bool Session::WriteResults(Display display)
 {
     QStringList named;
     const auto note = [](bool isDone, const QString& path, QStringList& unwritten) {
@@ -545,13 +566,15 @@ bool Session::WriteResults()
     };
     if (!m_options.model.isEmpty())
         note(WriteModelFile(m_workspace.sketch, m_options.model), m_options.model, named);
-    if (!m_options.exportFile.isEmpty())
+    const bool hasDisplay = display == Display::There;
+    if (hasDisplay && !m_options.exportFile.isEmpty())
         note(WriteExport(m_workspace.sketch, m_options.exportFile), m_options.exportFile, named);
-    if (!m_options.screenshot.isEmpty())
+    if (hasDisplay && !m_options.screenshot.isEmpty())
         note(WritePicture(m_window.grab(), m_options.screenshot), m_options.screenshot, named);
-    if (m_pUiTree != nullptr)
+    if (hasDisplay && m_pUiTree != nullptr)
         note(m_pUiTree->Write(), m_options.uiTree, named);
-    note(m_journal.Close(), m_journal.GetPath(), m_journal.IsNamed() ? named : m_unwritten);
+    note(m_journal.Close(GetWork()), m_journal.GetPath(),
+         m_journal.IsNamed() ? named : m_unwritten);
     const bool isLogNamed = !m_options.log.isEmpty();
     note(DebugMessageMgr::GetDebugMessageMgr()->CloseLog(),
          isLogNamed ? m_options.log : DataFile(QStringLiteral("warnings.log")),

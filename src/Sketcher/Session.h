@@ -55,6 +55,12 @@ public:
     std::string VerifyMark(const vesk::MarkRecord& record) override;
 
 private:
+    enum class Display
+    {
+        There,
+        Lost,
+    };
+
     void MakeDocuments();
     bool OpenFiles();
     bool OpenLog();
@@ -69,6 +75,7 @@ private:
     int Replay();
     void Open();
     void BeginRecovery();
+    SessionJournal::Work GetWork() const;
     vesk::JournalReplayResult Repeat();
     vesk::JournalReplayResult RepeatInWindow();
     vesk::JournalReplayResult RepeatInRealTime();
@@ -77,7 +84,7 @@ private:
     int GetLastNumber() const;
     void ShowFailure(const vesk::JournalReplayResult& result);
     void ShowOtherJournal(const QString& path);
-    bool WriteResults();
+    bool WriteResults(Display display);
 
     const Options m_options;
     SettingsStore m_settings;
@@ -88,6 +95,9 @@ private:
 
     /// Files not named by an option that could not be written at the end.
     QStringList m_unwritten;
+
+    bool m_isEndRequested = false; ///< By the operating system.
+    bool m_isEndDecided = false;   ///< The user has closed the window.
 
     vesk::HostCore m_host;
     vesk::UiApplication m_application;

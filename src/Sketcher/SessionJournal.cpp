@@ -96,9 +96,10 @@ QString SessionJournal::LeaveForAnother()
     return m_path;
 }
 
-bool SessionJournal::Close()
+bool SessionJournal::Close(Work work)
 {
-    Manager().Add(CloseRecord());
+    if (work == Work::Decided)
+        Manager().Add(CloseRecord());
     return Manager().Close();
 }
 

@@ -52,8 +52,16 @@ public:
     /// LeaveForAnother.
     QString StartAnew();
 
-    /// Records the orderly end and closes the file. Returns false if records are missing from it.
-    bool Close();
+    /// What the user has decided about the drawing when the session ends.
+    enum class Work
+    {
+        Decided,   ///< It was saved, or need not be.
+        Undecided, ///< Nobody was asked: it is to be offered at the next start.
+    };
+
+    /// Records the orderly end unless the work is undecided, and closes the file. Returns false if
+    /// records are missing from it.
+    bool Close(Work work);
 
     /// Leaves the file in use as it is and begins another, for records of that version. Returns the
     /// path of the one that was left.

@@ -1,5 +1,6 @@
 #include "SessionRecovery.h"
 
+#include "BackgroundWork.h"
 #include "Model/KeptContent.h"
 #include "Model/Workspace.h"
 #include "Options.h"
@@ -37,7 +38,7 @@ std::vector<JournalRecord> RecordsAfter(const Snapshot& snapshot,
         });
     if (mark == records.end())
         return {};
-    const std::optional<CommandParameters> parameters = RecoverContent::Keep(snapshot.bytes);
+    const std::optional<CommandParameters> parameters = RecoverContent::Keep(snapshot);
     if (!parameters.has_value())
         return {};
     // The mark has the greatest number so far and is no command's.
@@ -61,9 +62,9 @@ int VersionOf(const std::vector<JournalRecord>& records)
 
 SessionRecovery::SessionRecovery(Workspace& workspace, SketcherWindow& window,
                                  SessionJournal& journal,
-                                 std::map<std::wstring, std::wstring> captions, Replay replay)
+                                 std::map<std::wstring, std::wstring> captions, Program program)
     : m_workspace(workspace), m_window(window), m_journal(journal), m_captions(std::move(captions)),
-      m_replay(std::move(replay)),
+      m_program(std::move(program)),
       m_autosave(workspace.sketch,
                  [this] { return m_journal.IsNamed() ? QString() : m_journal.GetPath(); }),
       m_offer(window, SessionJournal::GetFolder(),
@@ -100,7 +101,7 @@ RecoveryOffer::Result SessionRecovery::GoOn(const UnsavedWork& work)
     }
     std::optional<JournalReplayResult> result = ReplayFromSnapshot(work.journal, records);
     if (!result.has_value())
-        result = m_replay(records);
+        result = m_program.replay(records);
     if (result->isStopped)
         BeginAnew();
     m_window.GetView().Activate();
@@ -123,7 +124,7 @@ bool SessionRecovery::LeaveDrawing(int version)
     if (!JournalManager::GetInstance().IsKept() && !isEmpty)
         return false;
     const QString left = m_journal.StartAnother(version);
-    m_workspace.sketch.Clear();
+    m_program.beginDrawing();
     if (const std::optional<UnsavedWork> work = FindUnsavedWork(left))
         m_offer.Add(*work);
     else
@@ -135,7 +136,7 @@ bool SessionRecovery::LeaveDrawing(int version)
 void SessionRecovery::BeginAnew()
 {
     JournalFolder::Remove(m_journal.StartAnother());
-    m_workspace.sketch.Clear();
+    m_program.beginDrawing();
 }
 
 /// Nothing if there is no snapshot from which the last mark can be reached: a later undo, for
@@ -143,13 +144,22 @@ void SessionRecovery::BeginAnew()
 std::optional<JournalReplayResult> SessionRecovery::ReplayFromSnapshot(const QString& journal,
                                                                        const Records& records)
 {
-    const std::optional<Snapshot> snapshot = Snapshot::FindNewest(journal);
+    std::optional<Snapshot> snapshot;
+    const bool isRead = RunInBackground(m_window, m_window.GetProgress(), [&](WorkProgress&) {
+        snapshot = Snapshot::FindNewest(journal);
+    });
+    if (!isRead)
+    {
+        JournalReplayResult cancelled;
+        cancelled.isStopped = true;
+        return cancelled;
+    }
     if (!snapshot.has_value())
         return std::nullopt;
     const Records rest = RecordsAfter(*snapshot, records);
     if (rest.empty())
         return std::nullopt;
-    JournalReplayResult result = m_replay(rest);
+    JournalReplayResult result = m_program.replay(rest);
     if (result.failure.empty() || result.isStopped)
         return result;
     BeginAnew();

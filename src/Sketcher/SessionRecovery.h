@@ -23,13 +23,20 @@ class SessionRecovery final
 public:
     using Records = std::vector<vesk::JournalRecord>;
 
-    /// Replays records in the window, with progress. May process events.
-    using Replay = std::function<vesk::JournalReplayResult(const Records& records)>;
+    /// What the session does for recovery.
+    struct Program
+    {
+        /// Replays records in the window, with progress. May process events.
+        std::function<vesk::JournalReplayResult(const Records& records)> replay;
+
+        /// Begins an empty drawing without a file.
+        std::function<void()> beginDrawing;
+    };
 
     /// Workspace, window and journal are not owned and outlive this.
     /// `captions` are those of the commands, by id.
     SessionRecovery(Workspace& workspace, SketcherWindow& window, SessionJournal& journal,
-                    std::map<std::wstring, std::wstring> captions, Replay replay);
+                    std::map<std::wstring, std::wstring> captions, Program program);
 
     /// Shows what earlier sessions left, unless the options say what to do or nobody is there.
     void Offer(const Options& options);
@@ -49,7 +56,7 @@ private:
     SketcherWindow& m_window;
     SessionJournal& m_journal;
     const std::map<std::wstring, std::wstring> m_captions;
-    const Replay m_replay;
+    const Program m_program;
     Autosave m_autosave;
     RecoveryOffer m_offer;
 };

@@ -27,6 +27,7 @@
 #include <QStatusBar>
 #include <QToolButton>
 
+#include <algorithm>
 #include <map>
 #include <utility>
 
@@ -43,6 +44,24 @@ namespace
 
 /// Drawing tools are used all day.
 constexpr wchar_t LargeGroup[] = L"绘图";
+
+using Groups = std::map<std::wstring, Qtitan::RibbonGroup*>;
+
+/// Adds the groups of the start page that the commands use, from left to right; others may follow.
+Groups AddStartGroups(const std::vector<CommandEntry>& commands, Qtitan::RibbonPage& page)
+{
+    Groups groups;
+    for (const wchar_t* caption : {L"文件", L"输出", L"剪贴板", L"选择", L"帮助"})
+    {
+        const bool isUsed =
+            std::any_of(commands.begin(), commands.end(), [caption](const CommandEntry& entry) {
+                return entry.isOnStartPage && entry.group == caption;
+            });
+        if (isUsed)
+            groups[caption] = page.addGroup(ToQString(caption));
+    }
+    return groups;
+}
 
 OwnerPtr<CommandButtonDefinition> MakeDefinition(const CommandEntry& entry)
 {
@@ -122,8 +141,8 @@ void SketcherWindow::ReleaseControls()
 void SketcherWindow::BuildButtons(const std::vector<CommandEntry>& commands, const Pages& pages,
                                   ControlHost& controls)
 {
-    std::map<std::wstring, Qtitan::RibbonGroup*> startGroups;
-    std::map<std::wstring, Qtitan::RibbonGroup*> groups;
+    Groups startGroups = AddStartGroups(commands, pages.start);
+    Groups groups;
     for (const CommandEntry& entry : commands)
     {
         if (entry.group.empty())

@@ -40,6 +40,9 @@ public:
     /// exit by itself.
     int Close();
 
+    /// Waits until the program exits by itself. Returns the exit code, or -1 if it does not.
+    int WaitForExit();
+
     /// Kills the program without warning, as `kill -9` does.
     void Kill();
 
@@ -116,7 +119,6 @@ private:
     bool Refresh();
     QProcessEnvironment MakeEnvironment(const Environment& additions) const;
     void RunProgram(const QStringList& arguments, const QProcessEnvironment& environment);
-    int WaitForExit();
 
     QString m_display;
     QTemporaryDir m_folder;

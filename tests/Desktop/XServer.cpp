@@ -37,6 +37,12 @@ bool XServer::Start()
     return StartServer() && StartWindowManager();
 }
 
+void XServer::Kill()
+{
+    m_server.kill();
+    m_server.waitForFinished();
+}
+
 void XServer::PauseWindowManager()
 {
     kill(static_cast<pid_t>(m_windowManager.processId()), SIGSTOP);

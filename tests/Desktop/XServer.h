@@ -20,6 +20,9 @@ public:
     /// cannot be started; `GetError` then says which.
     bool Start();
 
+    /// Ends the server under the programs that show something on it.
+    void Kill();
+
     /// For example ":7"; empty before the start.
     QString GetDisplay() const { return m_display; }
     QString GetError() const { return m_error; }

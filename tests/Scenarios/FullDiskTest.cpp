@@ -347,7 +347,9 @@ private slots:
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
 
         QCOMPARE(ReadLines(m_pFixture->File("model")).size(), 1);
-        QVERIFY(ReadBytes(m_pFixture->File("journal")).endsWith("\"result\":\"done\"}\n"));
+        const std::vector<vesk::JournalRecord> records = ReadJournal(Journal());
+        QVERIFY(std::holds_alternative<vesk::EndRecord>(records[records.size() - 2].what));
+        QVERIFY(std::holds_alternative<vesk::CloseRecord>(records.back().what));
     }
 };
 

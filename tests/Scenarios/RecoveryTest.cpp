@@ -16,8 +16,11 @@
 #include <QApplication>
 #include <QDir>
 #include <QLabel>
+#include <QMessageBox>
+#include <QTimer>
 
 #include <algorithm>
+#include <csignal>
 
 Q_DECLARE_METATYPE(QString Options::*)
 
@@ -42,6 +45,38 @@ bool IsNothingOffered()
     return !IsOffered();
 }
 
+QMessageBox* FindQuestion()
+{
+    return qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+}
+
+/// Answers with "do not save" whenever it is asked.
+class Discarder final : public QObject
+{
+public:
+    Discarder() { startTimer(10); }
+
+protected:
+    void timerEvent(QTimerEvent*) override
+    {
+        const QMessageBox* pQuestion = FindQuestion();
+        if (pQuestion == nullptr)
+            return;
+        for (QAbstractButton* pButton : pQuestion->buttons())
+        {
+            if (pQuestion->buttonRole(pButton) == QMessageBox::DestructiveRole)
+                return pButton->click();
+        }
+    }
+};
+
+/// Runs a session whose user discards what is not saved at the end.
+int RunAndDiscard(ScriptedUser& user, const Options& options)
+{
+    const Discarder discarder;
+    return user.Run(options);
+}
+
 }
 
 /// What an earlier session did not save, and the next one.
@@ -63,7 +98,7 @@ private slots:
             isViewFocused = QApplication::focusWidget() == ScriptedUser::FindView();
         });
 
-        QCOMPARE(user.Run(Options()), 0);
+        QCOMPARE(RunAndDiscard(user, Options()), 0);
 
         QVERIFY2(text.startsWith(QStringLiteral("上次未正常结束：直线，")), qPrintable(text));
         QVERIFY2(text.endsWith(QStringLiteral("，3 步")), qPrintable(text));
@@ -78,7 +113,7 @@ private slots:
         user.Until(&IsOffered).Click("RecoveryGoOn").Until(&IsNothingOffered);
         user.DrawLine(-250, -250, -200, -250);
 
-        QCOMPARE(user.Run(Options()), 0);
+        QCOMPARE(RunAndDiscard(user, Options()), 0);
 
         QCOMPARE(ReadBytes(crashed), before);
         QVERIFY(JournalFolder::IsSettled(crashed));
@@ -91,13 +126,13 @@ private slots:
         const QString crashed = Crash(3);
         ScriptedUser user;
         user.Until(&IsOffered).Click("RecoveryGoOn").Until(&IsNothingOffered);
-        QCOMPARE(user.Run(Options()), 0);
+        QCOMPARE(RunAndDiscard(user, Options()), 0);
         TakeEndAway(NewestJournal());
         QString text;
         ScriptedUser next;
         next.Until(&IsOffered).Do([&text] { text = FindOffer()->text(); });
 
-        QCOMPARE(next.Run(Options()), 0);
+        QCOMPARE(RunAndDiscard(next, Options()), 0);
 
         QVERIFY2(text.endsWith(QStringLiteral("，3 步")), qPrintable(text));
     }
@@ -109,7 +144,7 @@ private slots:
         ScriptedUser user;
         user.Until(&IsOffered).Click("RecoveryGoOn").Until(&IsNothingOffered);
 
-        QCOMPARE(user.Run(Options()), 0);
+        QCOMPARE(RunAndDiscard(user, Options()), 0);
 
         QCOMPARE(LinesOf(NewestJournal()), 3);
     }
@@ -120,7 +155,7 @@ private slots:
         ScriptedUser user;
         user.Until(&IsOffered).Click("RecoveryGoOn").Until(&IsNothingOffered);
 
-        QCOMPARE(user.Run(Options()), 0);
+        QCOMPARE(RunAndDiscard(user, Options()), 0);
 
         QCOMPARE(LinesOf(NewestJournal()), 3);
     }
@@ -132,7 +167,7 @@ private slots:
         user.Until(&IsOffered).Click(s_line).ClickAt(-200, -200).UntilRunning(s_line);
         user.Click("RecoveryGoOn").Until(&IsNothingOffered).UntilRunning({});
 
-        QCOMPARE(user.Run(Options()), 0);
+        QCOMPARE(RunAndDiscard(user, Options()), 0);
 
         QCOMPARE(LinesOf(NewestJournal()), 3);
     }
@@ -147,7 +182,7 @@ private slots:
         user.Do([&text] { text = FindOffer()->text(); });
         user.Click("RecoveryGoOn").Until([&text] { return FindOffer()->text() != text; });
 
-        QCOMPARE(user.Run(Options()), 0);
+        QCOMPARE(RunAndDiscard(user, Options()), 0);
 
         QVERIFY2(text.endsWith(QStringLiteral("，1 步")), qPrintable(text));
         QCOMPARE(LinesOf(NewestJournal()), 1);
@@ -159,7 +194,7 @@ private slots:
         ScriptedUser user;
         user.Until(&IsOffered).Click("RecoveryLeave").Until(&IsNothingOffered);
 
-        QCOMPARE(user.Run(Options()), 0);
+        QCOMPARE(RunAndDiscard(user, Options()), 0);
 
         QVERIFY(QFile::exists(crashed));
         QCOMPARE(Undecided(), QStringList());
@@ -171,7 +206,7 @@ private slots:
         ScriptedUser user;
         user.Until(&IsOffered).Click("RecoveryPostpone").Until(&IsNothingOffered);
 
-        QCOMPARE(user.Run(Options()), 0);
+        QCOMPARE(RunAndDiscard(user, Options()), 0);
 
         QCOMPARE(Undecided(), QStringList(crashed));
     }
@@ -184,7 +219,7 @@ private slots:
         ScriptedUser user;
         user.Until(&IsOffered).Do([&text] { text = FindOffer()->text(); });
 
-        QCOMPARE(user.Run(Options()), 0);
+        QCOMPARE(RunAndDiscard(user, Options()), 0);
 
         QVERIFY2(text.endsWith(QStringLiteral("，5 步；另有 1 个")), qPrintable(text));
     }
@@ -213,7 +248,7 @@ private slots:
         ScriptedUser user;
         user.DrawLine(0, 0, 50, 0).Do([&isOffered] { isOffered = IsOffered(); });
 
-        QCOMPARE(user.Run(options), 0);
+        QCOMPARE(RunAndDiscard(user, options), 0);
 
         QVERIFY(!isOffered);
         QCOMPARE(Undecided().size(), 1);
@@ -226,7 +261,7 @@ private slots:
         ScriptedUser user;
         user.Until(&IsOffered).Click("RecoveryGoOn").Until(&IsNothingOffered);
 
-        QCOMPARE(user.Run(Options()), 0);
+        QCOMPARE(RunAndDiscard(user, Options()), 0);
 
         QVERIFY(ReadBytes(NewestJournal()).contains("Sketcher.RecoverContent"));
         QCOMPARE(ReadBytes(NewestJournal()).count("\"kind\":\"point\""), 4);
@@ -242,7 +277,7 @@ private slots:
         ScriptedUser user;
         user.Until(&IsOffered).Click("RecoveryGoOn").Until(&IsNothingOffered);
 
-        QCOMPARE(user.Run(Options()), 0);
+        QCOMPARE(RunAndDiscard(user, Options()), 0);
 
         QVERIFY(!ReadBytes(NewestJournal()).contains("Sketcher.RecoverContent"));
         QCOMPARE(LinesOf(NewestJournal()), 5);
@@ -255,11 +290,130 @@ private slots:
         ScriptedUser user;
         user.Until(&IsOffered).Click("RecoveryGoOn").Until(&IsNothingOffered);
 
-        QCOMPARE(user.Run(Options()), 0);
+        QCOMPARE(RunAndDiscard(user, Options()), 0);
 
         QCOMPARE(Journals().size(), 2);
         QVERIFY(!ReadBytes(NewestJournal()).contains("Sketcher.RecoverContent"));
         QCOMPARE(LinesOf(NewestJournal()), 2);
+    }
+
+    void anEndWithoutADecisionIsOffered_data()
+    {
+        QTest::addColumn<QString>("during");
+
+        QTest::newRow("nothing") << "";
+        QTest::newRow("a tool") << "tool";
+        QTest::newRow("a dialog") << "dialog";
+        QTest::newRow("a menu") << "menu";
+    }
+
+    void anEndWithoutADecisionIsOffered()
+    {
+        QFETCH(QString, during);
+        ScriptedUser user;
+        user.DrawLine(0, 0, 50, 0);
+        if (during == "tool")
+            user.Click(s_line).ClickAt(0, 0).UntilRunning(s_line);
+        if (during == "menu")
+            user.OpenMenu("Sketcher.Zoom");
+        if (during == "dialog")
+            user.Do([] {
+                    QTimer::singleShot(0,
+                                       [] { ScriptedUser::FindButton("Sketcher.New")->click(); });
+                })
+                .Until([] { return FindQuestion() != nullptr; });
+        user.Do([] { ::raise(SIGTERM); });
+        user.Until([] { return !ScriptedUser::FindWindow()->isVisible(); });
+
+        QCOMPARE(user.Run(Options()), 0);
+
+        QCOMPARE(Undecided().size(), 1);
+        QCOMPARE(FindUnsavedWork(Undecided().front())->steps, 1);
+        QCOMPARE(LinesOf(Undecided().front()), 1);
+    }
+
+    void theEndOfTheDesktopSessionIsNoDecision()
+    {
+        ScriptedUser user;
+        user.DrawLine(0, 0, 50, 0).Do(&QCoreApplication::quit);
+
+        QCOMPARE(user.Run(Options()), 0);
+
+        QCOMPARE(Undecided().size(), 1);
+    }
+
+    void whatTheUserDiscardsIsNotOffered()
+    {
+        ScriptedUser user;
+        user.DrawLine(0, 0, 50, 0);
+
+        QCOMPARE(RunAndDiscard(user, Options()), 0);
+
+        QCOMPARE(Journals().size(), 1);
+        QCOMPARE(Undecided(), QStringList());
+    }
+
+    void nothingDrawnIsNothingToDecide()
+    {
+        ScriptedUser user;
+        user.Do([] { ::raise(SIGTERM); });
+        user.Until([] { return !ScriptedUser::FindWindow()->isVisible(); });
+
+        QCOMPARE(user.Run(Options()), 0);
+
+        QCOMPARE(Undecided(), QStringList());
+    }
+
+    void unsavedWorkInAFileThatIsReplacedIsSecured()
+    {
+        const QString crashed = Crash(3);
+        Options options;
+        options.journal = m_pFixture->File("mine");
+        QVERIFY(QFile::rename(crashed, options.journal));
+        const QByteArray before = ReadBytes(options.journal);
+        QString said;
+        ScriptedUser user;
+        user.Until([] { return ScriptedUser::FindWindow()->isVisible(); });
+        user.Do([&said] { said = ScriptedUser::States(); });
+
+        QCOMPARE(user.Run(options), 0);
+
+        QCOMPARE(said, QStringLiteral("原日志未保存，已移入恢复文件夹"));
+        QCOMPARE(Undecided().size(), 1);
+        QCOMPARE(ReadBytes(Undecided().front()), before);
+        QVERIFY(!ReadBytes(options.journal).contains("\"point\""));
+    }
+
+    void unsavedWorkThatCannotBeSecuredIsNotReplaced()
+    {
+        const QString crashed = Crash(3);
+        const QString mine = m_pFixture->File("mine");
+        QVERIFY(QFile::rename(crashed, mine));
+        const QByteArray before = ReadBytes(mine);
+        QVERIFY(QDir(m_pFixture->File("data")).removeRecursively());
+        WriteFile(m_pFixture->File("data"), "no folder");
+
+        const Outcome outcome = RunSketcher({"--journal", mine});
+
+        QCOMPARE(outcome.code, 2);
+        QVERIFY2(outcome.error.contains("holds unsaved work"), qPrintable(outcome.error));
+        QCOMPARE(outcome.error.count('\n'), 1);
+        QCOMPARE(ReadBytes(mine), before);
+    }
+
+    void aFinishedJournalIsReplaced()
+    {
+        Options options;
+        options.journal = m_pFixture->File("mine");
+        ScriptedUser user;
+        user.DrawLine(0, 0, 50, 0);
+        QCOMPARE(RunAndDiscard(user, options), 0);
+        ScriptedUser next;
+
+        QCOMPARE(next.Run(options), 0);
+
+        QCOMPARE(Journals(), QStringList());
+        QVERIFY(!ReadBytes(options.journal).contains("\"point\""));
     }
 
 private:
@@ -308,7 +462,7 @@ private:
             user.DrawLine(0, 0, 20 * i, 30);
         for (int i = 0; i < undone; ++i)
             user.Click("Sketcher.Undo");
-        user.Run(options);
+        RunAndDiscard(user, options);
         TakeEndAway(options.journal);
         const QString name = QString("crashed-%1.jsonl").arg(m_crashed.size());
         const QString path = m_pFixture->File("data/sketcher/journals/" + name);
@@ -343,8 +497,9 @@ private:
     void TakeSnapshot(const QString& journal, int lines) const
     {
         Sketch sketch;
-        for (int i = 1; i <= lines; ++i)
-            sketch.AddLine({0, 0, 0}, {20.0 * i, 30, 0});
+        const auto points = RecordsOf<vesk::PointRecord>(ReadJournal(journal));
+        for (std::size_t i = 0; i < 2 * static_cast<std::size_t>(lines); i += 2)
+            sketch.AddLine(points[i].point, points[i + 1].point);
         for (const NumberedMark& mark : MarksOf(journal))
         {
             if (mark.digest != sketch.GetDigest())

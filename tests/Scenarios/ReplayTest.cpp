@@ -25,11 +25,12 @@ void DrawSomething(ScriptedUser& user)
     user.Click(s_erase).ClickAt(-30, -20).Press(Qt::Key_Escape);
 }
 
-/// Without the times, which are those of the recording.
+/// Without the program and the times, which are those of the recording.
 QList<QByteArray> SortedLines(const QString& path)
 {
     QString journal = QString::fromUtf8(ReadBytes(path));
-    journal.remove(QRegularExpression(QStringLiteral(",\"time\":\"[^\"]*\"|,\"t\":\\d+")));
+    journal.remove(QRegularExpression(
+        QStringLiteral("(,\"program\":\"[^\"]*\")?,\"time\":\"[^\"]*\"|,\"t\":\\d+")));
     QList<QByteArray> lines = journal.toUtf8().split('\n');
     std::sort(lines.begin(), lines.end());
     return lines;

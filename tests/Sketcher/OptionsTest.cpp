@@ -143,13 +143,66 @@ private slots:
                      .error.isEmpty());
     }
 
+    void aReplayIsAskedForInDetail()
+    {
+        const QTemporaryDir folder;
+        const QString path = MakeFile(folder);
+
+        const Options plain = Parse({"--replay", path});
+        const Options detailed = Parse(
+            {"--replay", path, "--until", "12", "--speed", "real", "--stay", "--journal-sync"});
+
+        QVERIFY(!plain.repetition.until.has_value());
+        QVERIFY(!plain.repetition.isRealTime);
+        QVERIFY(!plain.repetition.isStaying);
+        QVERIFY(!plain.repetition.isSynced);
+        QCOMPARE(detailed.error, QString());
+        QCOMPARE(detailed.repetition.until.value_or(0), 12);
+        QVERIFY(detailed.repetition.isRealTime);
+        QVERIFY(detailed.repetition.isStaying);
+        QVERIFY(detailed.repetition.isSynced);
+        QVERIFY(!Parse({"--replay", path, "--speed", "max"}).repetition.isRealTime);
+    }
+
+    void aReplayAskedForWronglyIsAnError_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QString>("error");
+
+        const QString noNumber = "%1 is not the number of a record";
+        QTest::newRow("until a name")
+            << QStringList{"--replay", "FILE", "--until", "end"} << noNumber.arg("end");
+        QTest::newRow("until nothing")
+            << QStringList{"--replay", "FILE", "--until", "0"} << noNumber.arg("0");
+        QTest::newRow("another speed")
+            << QStringList{"--replay", "FILE", "--speed", "fast"} << "unknown speed fast";
+        QTest::newRow("until without replay")
+            << QStringList{"--until", "3"} << "--until needs --replay";
+        QTest::newRow("speed of opening")
+            << QStringList{"--open", "FILE", "--speed", "real"} << "--speed needs --replay";
+        QTest::newRow("stay without replay") << QStringList{"--stay"} << "--stay needs --replay";
+        QTest::newRow("until, and continued")
+            << QStringList{"--replay", "FILE", "--journal", "FILE", "--until", "3"}
+            << "--until cannot be used with a journal that is continued";
+    }
+
+    void aReplayAskedForWronglyIsAnError()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QString, error);
+        const QTemporaryDir folder;
+
+        QCOMPARE(Parse(arguments.replaceInStrings("FILE", MakeFile(folder))).error, error);
+    }
+
     void helpListsEveryOption()
     {
         const Options options = Parse({"--help"});
 
         QCOMPARE(options.task, Options::Task::ShowHelp);
-        for (const char* pName : {"--journal", "--replay", "--open", "--model", "--ui-tree",
-                                  "--log", "--screenshot", "--export", "--help", "--version"})
+        for (const char* pName :
+             {"--journal", "--replay", "--open", "--model", "--ui-tree", "--log", "--screenshot",
+              "--export", "--until", "--speed", "--stay", "--journal-sync", "--help", "--version"})
             QVERIFY2(options.help.contains(QLatin1String(pName)), pName);
     }
 
@@ -172,6 +225,13 @@ private slots:
     }
 
 private:
+    static QString MakeFile(const QTemporaryDir& folder)
+    {
+        QFile file(folder.filePath("journal"));
+        file.open(QIODevice::WriteOnly);
+        return file.fileName();
+    }
+
     static Options Parse(QStringList arguments)
     {
         arguments.prepend("sketcher");

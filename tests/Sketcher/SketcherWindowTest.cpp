@@ -96,8 +96,9 @@ struct Fixture
             MakeEntry(L"More", L"绘图", L"", L""),
             MakeEntry(L"Hidden", L"", L"", L"Ctrl+K"),
             MakeEntry(L"Pane", L"面板", PaneMenu::Id, L""),
-            MakeEntry(L"Start", L"文件", L"", L"Ctrl+N").OnStartPage(),
             MakeEntry(L"Start2", L"视图", L"", L"").OnStartPage(),
+            MakeEntry(L"Start3", L"帮助", L"", L"").OnStartPage(),
+            MakeEntry(L"Start", L"文件", L"", L"Ctrl+N").OnStartPage(),
         };
         RegisterCommands(commands);
         window.show();
@@ -252,7 +253,7 @@ private slots:
         for (const Qtitan::RibbonGroup* pGroup : f.GroupsOf(f.StartPage()))
             titles << pGroup->title();
         QCOMPARE(f.StartPage().title(), QStringLiteral("开始"));
-        QCOMPARE(titles, QStringList({"文件", "视图"}));
+        QCOMPARE(titles, QStringList({"文件", "帮助", "视图"}));
         QVERIFY(f.StartPage().isAncestorOf(f.Button("Start")));
         QVERIFY(f.StartPage().isAncestorOf(f.Button("Start2")));
         QVERIFY(f.Button("Start")->isVisible());

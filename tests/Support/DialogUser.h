@@ -3,8 +3,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDialog>
-#include <QLabel>
-#include <QLineEdit>
+#include <QFileDialog>
 #include <QMessageBox>
 #include <QObject>
 #include <QStringList>
@@ -22,11 +21,7 @@ namespace vesk::test
 class DialogUser final : public QObject
 {
 public:
-    DialogUser()
-    {
-        connect(&m_timer, &QTimer::timeout, this, &DialogUser::Look);
-        m_timer.start(1);
-    }
+    DialogUser() { Schedule(); }
 
     /// Clicks the button with that text.
     DialogUser& Press(const QString& text)
@@ -41,12 +36,12 @@ public:
         });
     }
 
-    /// Types a file name in a file dialog and accepts it.
+    /// Selects a file in a file dialog and accepts it.
     DialogUser& ChooseFile(const QString& path)
     {
         return Do([path](QDialog& dialog) {
-            if (auto* pField = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit")))
-                pField->setText(path);
+            if (auto* pFiles = qobject_cast<QFileDialog*>(&dialog))
+                pFiles->selectFile(path);
             dialog.accept();
         });
     }
@@ -68,8 +63,12 @@ public:
     bool HasAnswersLeft() const { return !m_answers.empty(); }
 
 private:
+    /// A timer of its own for each look, since an answer may open another dialog.
+    void Schedule() { QTimer::singleShot(1, this, &DialogUser::Look); }
+
     void Look()
     {
+        Schedule();
         auto* pDialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
         if (pDialog == nullptr || !pDialog->isVisible())
             return;
@@ -88,7 +87,6 @@ private:
         answer(*pDialog);
     }
 
-    QTimer m_timer;
     std::deque<std::function<void(QDialog&)>> m_answers;
     QStringList m_texts;
     QStringList m_unexpected;

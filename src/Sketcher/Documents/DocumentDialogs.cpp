@@ -32,6 +32,8 @@ QPointer<QFileDialog> MakeFileDialog(QWidget* pParent, const QString& title, con
 {
     auto* pDialog = new QFileDialog(pParent, title);
     pDialog->setNameFilters({QStringLiteral("图纸 (*.vsk)"), QStringLiteral("所有文件 (*)")});
+    // It would ask in another language.
+    pDialog->setOption(QFileDialog::DontConfirmOverwrite);
     pDialog->setDefaultSuffix(QStringLiteral("vsk"));
     pDialog->setLabelText(QFileDialog::LookIn, QStringLiteral("文件夹："));
     pDialog->setLabelText(QFileDialog::FileName, QStringLiteral("文件名："));
@@ -48,6 +50,19 @@ QString Execute(const QPointer<QFileDialog>& pDialog)
         return {};
     pDialog->deleteLater();
     return isAccepted ? pDialog->selectedFiles().value(0) : QString();
+}
+
+/// Whether to do something that loses what is in a file.
+bool AskToReplace(QWidget* pParent, const QString& text, const QString& details,
+                  const QString& button)
+{
+    const auto pBox = MakeBox(pParent, QMessageBox::Warning, text, details);
+    const auto* pReplace = pBox->addButton(button, QMessageBox::DestructiveRole);
+    QPushButton* pCancel = pBox->addButton(QStringLiteral("取消"), QMessageBox::RejectRole);
+    pBox->setDefaultButton(pCancel);
+    pBox->setEscapeButton(pCancel);
+    const QAbstractButton* pChosen = Execute(pBox);
+    return pChosen != nullptr && pChosen == pReplace;
 }
 
 }
@@ -70,15 +85,9 @@ DocumentDialogs::SaveAnswer DocumentDialogs::AskToSave(QWidget* pParent, const Q
 
 bool DocumentDialogs::AskToReplaceChanged(QWidget* pParent, const QString& name)
 {
-    const auto pBox = MakeBox(pParent, QMessageBox::Warning,
-                              QStringLiteral("“%1”打开之后已被其他程序修改。").arg(name),
-                              QStringLiteral("覆盖会丢失那些修改；也可以取消，再另存为其他文件。"));
-    const auto* pReplace = pBox->addButton(QStringLiteral("覆盖"), QMessageBox::DestructiveRole);
-    QPushButton* pCancel = pBox->addButton(QStringLiteral("取消"), QMessageBox::RejectRole);
-    pBox->setDefaultButton(pCancel);
-    pBox->setEscapeButton(pCancel);
-    const QAbstractButton* pChosen = Execute(pBox);
-    return pChosen != nullptr && pChosen == pReplace;
+    return AskToReplace(pParent, QStringLiteral("“%1”打开之后已被其他程序修改。").arg(name),
+                        QStringLiteral("覆盖会丢失那些修改；也可以取消，再另存为其他文件。"),
+                        QStringLiteral("覆盖"));
 }
 
 bool DocumentDialogs::AskToOpenReadOnly(QWidget* pParent, const QString& name,
@@ -102,15 +111,25 @@ QString DocumentDialogs::AskForFileToOpen(QWidget* pParent, const QString& folde
     return Execute(pDialog);
 }
 
-QString DocumentDialogs::AskForFileToSave(QWidget* pParent, const QString& suggestion)
+QString DocumentDialogs::AskForFileToSave(QWidget* pParent, const QString& suggestion,
+                                          const QString& own)
 {
     const auto pDialog =
         MakeFileDialog(pParent, QStringLiteral("图纸另存为"), QStringLiteral("保存"));
+    const QPointer<QWidget> pAsker(pParent);
     const QFileInfo file(suggestion);
     pDialog->setAcceptMode(QFileDialog::AcceptSave);
     pDialog->setDirectory(file.path());
     pDialog->selectFile(file.fileName());
-    return Execute(pDialog);
+    const QString path = Execute(pDialog);
+    if (path.isEmpty() || pAsker == nullptr)
+        return {};
+    if (path == own || !QFileInfo::exists(path))
+        return path;
+    const bool isReplaced =
+        AskToReplace(pParent, QStringLiteral("“%1”已经存在。").arg(QFileInfo(path).fileName()),
+                     QStringLiteral("替换会丢失它现在的内容。"), QStringLiteral("替换"));
+    return isReplaced ? path : QString();
 }
 
 void DocumentDialogs::Tell(QWidget* pParent, const QString& text, const QString& details)

@@ -29,8 +29,8 @@ bool AskToOpenReadOnly(QWidget* pParent, const QString& name, const QString& hol
 QString AskForFileToOpen(QWidget* pParent, const QString& folder);
 
 /// The path of a file, with the ending of drawings; empty for none. The user has agreed to replace
-/// an existing one.
-QString AskForFileToSave(QWidget* pParent, const QString& suggestion);
+/// an existing one other than the drawing's own.
+QString AskForFileToSave(QWidget* pParent, const QString& suggestion, const QString& own);
 
 /// Shows a message until the user closes it.
 void Tell(QWidget* pParent, const QString& text, const QString& details);

@@ -180,7 +180,7 @@ bool Documents::OpenLocked(const QString& path, const std::shared_ptr<DocumentLo
              read.fault + read.details);
         return false;
     }
-    m_prepared = Prepared{read.contentDigest, std::move(read.reading.content)};
+    m_prepared = Prepared{read.contentDigest, std::move(read.reading.content), read.reading.sum};
     ActionManager::RunCommand(OpenId, MakeParameters(ContentName, read.contentDigest));
     if (pThis == nullptr)
         return false;
@@ -210,7 +210,7 @@ void Documents::DoOpen(const CommandParameters& parameters)
         return;
     // So that nothing stays selected.
     m_sketch.Clear();
-    m_sketch.Restore(std::move(prepared->content));
+    m_sketch.Restore(std::move(prepared->content), prepared->digest);
     m_document = {};
     m_document.savedDigest = m_sketch.GetDigest();
     NoteLock();
@@ -302,7 +302,8 @@ bool Documents::SaveAsWithQuestions()
     if (m_manners == Manners::Silent)
         return false;
     const QPointer<Documents> pThis(this);
-    const QString path = AskForFileToSave(&m_window, Suggest());
+    const QString path =
+        AskForFileToSave(&m_window, Suggest(), m_document.isReadOnly ? QString() : m_document.path);
     return pThis != nullptr && !path.isEmpty() && !m_isEnding && SaveTo(path);
 }
 
@@ -427,5 +428,5 @@ std::optional<Documents::Prepared> Documents::TakePrepared(const QString& conten
         DocumentFile::FromText({bytes->constData(), static_cast<std::size_t>(bytes->size())});
     if (reading.outcome != DocumentReading::Outcome::Whole)
         return std::nullopt;
-    return Prepared{contentDigest, std::move(reading.content)};
+    return Prepared{contentDigest, std::move(reading.content), reading.sum};
 }

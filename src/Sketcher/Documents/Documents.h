@@ -114,6 +114,7 @@ private:
     {
         QString contentDigest;
         SketchContent content;
+        Digest digest;
     };
 
     std::optional<Prepared> TakePrepared(const QString& contentDigest);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Model/Digest.h"
 #include "Model/SketchContent.h"
 
 #include <cstddef>
@@ -21,6 +22,7 @@ struct DocumentReading
     Outcome outcome = Outcome::Damaged;
     SketchContent content; ///< Only of a whole file.
     std::string digest;    ///< Of the content.
+    Digest sum;            ///< The same, to restore the content with.
 
     /// What is wrong with the file, in one sentence, and in which line; empty and 0 otherwise.
     std::string error;

@@ -170,7 +170,8 @@ int DocumentReader::TakeLayer(DocumentFields& fields, const JsonPiece& owner) co
 
 void DocumentReader::CheckDigest(const JsonPiece& piece, DocumentReading& reading) const
 {
-    reading.digest = DigestOf(m_content).ToText();
+    reading.sum = DigestOf(m_content);
+    reading.digest = reading.sum.ToText();
     if (piece.text != '"' + reading.digest + '"')
         throw JsonFault(piece.offset, "the digest is not that of the drawing");
 }

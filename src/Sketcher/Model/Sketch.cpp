@@ -334,10 +334,16 @@ std::string Sketch::GetDigest() const
 
 bool Sketch::Restore(SketchContent content)
 {
+    const Digest digest = IsValid(content) ? DigestOf(content) : Digest();
+    return Restore(std::move(content), digest);
+}
+
+bool Sketch::Restore(SketchContent content, const Digest& digest)
+{
     if (!IsValid(content))
         return false;
     m_content = std::move(content);
-    m_digest = DigestOf(m_content);
+    m_digest = digest;
     m_lastUndone = 0;
     m_isNameStep = true;
     {

@@ -128,6 +128,10 @@ public:
     /// the content breaks a rule of SketchContent or an entity is not drawable.
     bool Restore(SketchContent content);
 
+    /// The same, with the digest of the content, which another thread may have computed: for a
+    /// large drawing that takes longer than anything else.
+    bool Restore(SketchContent content, const Digest& digest);
+
     /// Starts a new drawing in the initial state; nothing can be undone.
     void Clear();
 

@@ -14,5 +14,9 @@ QIcon MakeColourSwatch(const QColor& colour)
     painter.setPen(QPen(QColor(0x80, 0x80, 0x80), 2.0));
     painter.setBrush(colour);
     painter.drawRect(picture.rect().adjusted(Margin, Margin, -Margin, -Margin));
-    return QIcon(picture);
+    painter.end();
+    QIcon icon(picture);
+    // A selected row must not tint it.
+    icon.addPixmap(picture, QIcon::Selected);
+    return icon;
 }

@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <utility>
 
 using namespace vesk;
 
@@ -65,13 +66,24 @@ void LayerModel::Refresh()
     const bool isSameSet = std::equal(m_layers.begin(), m_layers.end(), next.begin(), next.end(),
                                       [](const Layer& a, const Layer& b) { return a.id == b.id; });
     if (!isSameSet)
+    {
         beginResetModel();
-    m_layers = next;
-    m_currentLayer = m_sketch.GetCurrentPen().layer;
-    if (!isSameSet)
+        m_layers = next;
+        m_currentLayer = m_sketch.GetCurrentPen().layer;
         endResetModel();
-    else
-        emit dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
+        return;
+    }
+    const std::vector<Layer> before = std::exchange(m_layers, next);
+    const int currentBefore = std::exchange(m_currentLayer, m_sketch.GetCurrentPen().layer);
+    // Only rows that differ: a name that is being typed in another stays.
+    for (int row = 0; row < rowCount(); ++row)
+    {
+        const Layer& former = before[static_cast<std::size_t>(row)];
+        const bool wasCurrent = former.id == currentBefore;
+        const bool isCurrent = former.id == m_currentLayer;
+        if (!(former == GetLayer(row)) || wasCurrent != isCurrent)
+            emit dataChanged(index(row, 0), index(row, ColumnCount - 1));
+    }
 }
 
 int LayerModel::GetRow(int layerId) const

@@ -30,7 +30,8 @@ public:
     /// The sketch is not owned and outlives the model.
     LayerModel(const Sketch& sketch, QObject* pParent);
 
-    /// Updates the rows from the drawing. While no layer is added or removed, rows are kept.
+    /// Updates the rows from the drawing. While no layer is added or removed, rows are kept, and
+    /// only those that differ are said to have changed.
     void Refresh();
 
     const Layer& GetLayer(int row) const { return m_layers[static_cast<std::size_t>(row)]; }

@@ -3,11 +3,13 @@
 #include "Model/DocumentFile.h"
 #include "Model/KeptContent.h"
 #include "Model/Sketch.h"
+#include "Recovery/Snapshot.h"
 
 #include "HostUi/QtText.h"
 
 #include <cstddef>
 #include <string>
+#include <utility>
 
 using namespace vesk;
 
@@ -16,43 +18,65 @@ namespace
 
 constexpr wchar_t SnapshotName[] = L"content";
 
-std::optional<SketchContent> FindSnapshot(const CommandParameters& parameters)
+/// The content that is applied next, under the digest of its bytes: a large one takes seconds to
+/// read.
+struct PreparedSnapshot
+{
+    QString key;
+    SketchContent content;
+};
+
+std::optional<PreparedSnapshot> s_prepared;
+
+/// The digest of the kept bytes; empty if the parameters have none.
+QString KeyOf(const CommandParameters& parameters)
 {
     const CommandParameterValue* pValue = parameters.Find(SnapshotName);
-    const auto* pDigest = pValue != nullptr ? std::get_if<std::wstring>(&pValue->Get()) : nullptr;
-    if (pDigest == nullptr)
-        return std::nullopt;
-    const std::optional<QByteArray> bytes = KeptContent::Get().Find(ToQString(*pDigest));
+    const auto* pKey = pValue != nullptr ? std::get_if<std::wstring>(&pValue->Get()) : nullptr;
+    return pKey != nullptr ? ToQString(*pKey) : QString();
+}
+
+/// Prepares the content that the parameters name. Returns false if it is not kept, or not whole.
+bool Prepare(const CommandParameters& parameters)
+{
+    const QString key = KeyOf(parameters);
+    if (s_prepared.has_value() && s_prepared->key == key)
+        return true;
+    s_prepared.reset();
+    const std::optional<QByteArray> bytes = KeptContent::Get().Find(key);
     if (!bytes.has_value())
-        return std::nullopt;
+        return false;
     DocumentReading reading =
         DocumentFile::FromText({bytes->constData(), static_cast<std::size_t>(bytes->size())});
-    if (reading.outcome != DocumentReading::Outcome::Whole)
-        return std::nullopt;
-    return std::move(reading.content);
+    if (reading.outcome == DocumentReading::Outcome::Whole)
+        s_prepared = PreparedSnapshot{key, std::move(reading.content)};
+    return s_prepared.has_value();
 }
 
 }
 
-std::optional<CommandParameters> RecoverContent::Keep(const QByteArray& bytes)
+std::optional<CommandParameters> RecoverContent::Keep(const Snapshot& snapshot)
 {
-    const std::optional<QString> digest = KeptContent::Get().Keep(bytes);
-    if (!digest.has_value())
+    const std::optional<QString> key = KeptContent::Get().Keep(snapshot.bytes);
+    if (!key.has_value())
         return std::nullopt;
+    s_prepared = PreparedSnapshot{*key, snapshot.content};
     CommandParameters parameters;
-    parameters.Add(SnapshotName, CommandParameterValue(ToWide(*digest)));
+    parameters.Add(SnapshotName, CommandParameterValue(ToWide(*key)));
     return parameters;
 }
 
 bool RecoverContent::IsPossible(const CommandParameters& parameters)
 {
-    return FindSnapshot(parameters).has_value();
+    return Prepare(parameters);
 }
 
 void RecoverContent::Apply(Sketch& sketch, const CommandParameters& parameters)
 {
-    if (std::optional<SketchContent> content = FindSnapshot(parameters))
-        sketch.Restore(std::move(*content));
+    if (!Prepare(parameters))
+        return;
+    sketch.Restore(std::move(s_prepared->content));
+    s_prepared.reset();
 }
 
 CommandEntry MakeRecoverCommand(Sketch& sketch)

@@ -4,11 +4,10 @@
 
 #include "Journal/CommandParameters.h"
 
-#include <QByteArray>
-
 #include <optional>
 
 class Sketch;
+struct Snapshot;
 
 /// Restores the drawing from a snapshot that is kept beside the journal: the effect of the command
 /// with which a journal begins that goes on with unsaved work.
@@ -16,9 +15,9 @@ struct RecoverContent
 {
     static constexpr wchar_t CommandId[] = L"Sketcher.RecoverContent";
 
-    /// Keeps the bytes of a drawing file and returns the parameters of the command; nothing if they
-    /// cannot be kept.
-    static std::optional<vesk::CommandParameters> Keep(const QByteArray& bytes);
+    /// Keeps a snapshot and returns the parameters of the command; nothing if it cannot be kept.
+    /// Applying them next does not read it again.
+    static std::optional<vesk::CommandParameters> Keep(const Snapshot& snapshot);
 
     /// True if what the parameters name is kept, and whole.
     static bool IsPossible(const vesk::CommandParameters& parameters);

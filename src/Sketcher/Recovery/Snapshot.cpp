@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <functional>
+#include <utility>
 #include <vector>
 
 namespace
@@ -65,10 +66,10 @@ std::optional<Snapshot> Snapshot::FindNewest(const QString& journal)
         if (!file.open(QIODevice::ReadOnly))
             continue;
         const QByteArray bytes = file.readAll();
-        const DocumentReading reading =
+        DocumentReading reading =
             DocumentFile::FromText({bytes.constData(), static_cast<std::size_t>(bytes.size())});
         if (reading.outcome == DocumentReading::Outcome::Whole)
-            return Snapshot{record, bytes, reading.digest};
+            return Snapshot{record, bytes, reading.digest, std::move(reading.content)};
     }
     return std::nullopt;
 }

@@ -15,6 +15,7 @@ struct Snapshot
     int record = 0; ///< The number of the mark whose digest the drawing has.
     QByteArray bytes;
     std::string digest;
+    SketchContent content;
 
     /// Writes the file, then removes older ones. Returns false if it cannot be written; the older
     /// ones then stay. May be called in any thread.

@@ -1,5 +1,6 @@
 #include "Recovery/UnsavedWork.h"
 
+#include "Documents/Documents.h"
 #include "Model/Sketch.h"
 
 #include "Journal/JournalFormat.h"
@@ -9,6 +10,7 @@
 
 #include <algorithm>
 #include <set>
+#include <utility>
 
 using namespace vesk;
 
@@ -27,7 +29,7 @@ public:
     void Add(const JournalRecord& record)
     {
         if (const auto* pCommand = std::get_if<CommandRecord>(&record.what))
-            m_command = pCommand->commandId;
+            AddCommand(pCommand->commandId);
         else if (const auto* pMark = std::get_if<MarkRecord>(&record.what))
             AddMark(*pMark);
         else if (IsStepWithoutMark(record))
@@ -45,9 +47,21 @@ public:
     }
 
 private:
+    void AddCommand(const std::wstring& id)
+    {
+        m_command = id;
+        // Whether what was there before is to be saved was asked then.
+        m_isOpening = id == Documents::NewId || id == Documents::OpenId;
+    }
+
     void AddMark(const MarkRecord& mark)
     {
         m_hasMarks = true;
+        if (std::exchange(m_isOpening, false))
+        {
+            m_steps = 0;
+            m_digest = m_savedDigest = mark.digest;
+        }
         m_steps += mark.digest == m_digest ? 0 : 1;
         m_digest = mark.digest;
     }
@@ -63,6 +77,7 @@ private:
     std::wstring m_command;
     std::string m_digest = Sketch().GetDigest();
     std::string m_savedDigest = m_digest;
+    bool m_isOpening = false; ///< The next mark is that of a drawing that was opened.
     bool m_hasMarks = false;
     int m_steps = 0;
     int m_unmarked = 0;

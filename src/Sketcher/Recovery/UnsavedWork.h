@@ -15,7 +15,7 @@ struct UnsavedWork
     QString journal;          ///< The path of its journal.
     std::wstring command;     ///< The id of the last command; empty for none.
     QDateTime time;           ///< When the journal was written last.
-    int steps = 0;            ///< The finished changes since the drawing was last opened or saved.
+    int steps = 0;            ///< The finished changes since the drawing was begun or opened.
     bool isReadInFull = true; ///< False if a line is damaged: only those before it count.
 };
 
@@ -23,8 +23,8 @@ struct UnsavedWork
 /// if it cannot be read.
 bool IsEnded(const QString& journal);
 
-/// The work in a journal. Nothing if no step was finished, or if the drawing is as it was opened or
-/// saved. Reads the whole file; may be called in any thread.
+/// The work in a journal. Nothing if no step was finished, or if the drawing is as it was when it
+/// was opened. Reads the whole file; may be called in any thread.
 std::optional<UnsavedWork> FindUnsavedWork(const QString& journal);
 
 /// The records that were completed, to be replayed after a crash: without those that began

@@ -192,7 +192,9 @@ QWidget* SettingsDialog::MakeFolder(const QString& defaultJournalFolder)
     connect(pBrowse, &QPushButton::clicked, this, &SettingsDialog::OnBrowse);
     pLayout->addWidget(m_pFolder);
     pLayout->addWidget(pBrowse);
+    // The key of its label goes only to what accepts the focus.
     pRow->setFocusProxy(m_pFolder);
+    pRow->setFocusPolicy(m_pFolder->focusPolicy());
     return pRow;
 }
 

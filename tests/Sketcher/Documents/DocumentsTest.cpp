@@ -27,9 +27,11 @@ private slots:
 
     void cleanup()
     {
-        QCOMPARE(m_pFixture->user.GetUnexpected(), QStringList());
-        QVERIFY(!m_pFixture->user.HasAnswersLeft());
+        const QStringList unexpected = m_pFixture->user.GetUnexpected();
+        const bool isAnswerLeft = m_pFixture->user.HasAnswersLeft();
         m_pFixture.reset();
+        QCOMPARE(unexpected.join(QLatin1Char('|')), QString());
+        QVERIFY(!isAnswerLeft);
     }
 
     void aNewDrawingHasNoFileAndIsNotModified()
@@ -75,6 +77,55 @@ private slots:
         QVERIFY(!f.pDocuments->IsModified());
         QCOMPARE(vesk::ReadBytes(f.File("sample.vsk")).toStdString(),
                  DocumentFile::ToText(f.sketch.GetContent()));
+    }
+
+    void anExistingFileIsReplacedOnlyIfTheUserAgrees_data()
+    {
+        QTest::addColumn<QString>("answer");
+        QTest::addColumn<bool>("isReplaced");
+
+        QTest::newRow("replace") << "替换" << true;
+        QTest::newRow("cancel") << "取消" << false;
+    }
+
+    void anExistingFileIsReplacedOnlyIfTheUserAgrees()
+    {
+        QFETCH(QString, answer);
+        DocumentsFixture& f = *m_pFixture;
+        QVERIFY(vesk::WriteBytes(f.File("old.vsk"), "old"));
+        f.Draw();
+        f.user.ChooseFile(f.File("old.vsk")).Press(answer);
+
+        f.Run(L"Sketcher.Save");
+
+        QCOMPARE(f.user.GetTexts().last(), QString("“old.vsk”已经存在。替换会丢失它现在的内容。"));
+        QTEST(vesk::ReadBytes(f.File("old.vsk")) != "old", "isReplaced");
+        QTEST(!f.pDocuments->IsModified(), "isReplaced");
+    }
+
+    void aSuggestedFileThatExistsIsNotReplacedUnasked()
+    {
+        DocumentsFixture& f = *m_pFixture;
+        f.pDocuments->OpenFile(f.MakeFile("sample.vsk"));
+        f.Run(L"Sketcher.New");
+        QVERIFY(vesk::WriteBytes(f.File("未命名.vsk"), "old"));
+        f.user.Do([](QDialog& dialog) { dialog.accept(); }).Press("取消");
+
+        f.Run(L"Sketcher.Save");
+
+        QCOMPARE(vesk::ReadBytes(f.File("未命名.vsk")), QByteArray("old"));
+    }
+
+    void theOwnFileIsReplacedWithoutAQuestion()
+    {
+        DocumentsFixture& f = *m_pFixture;
+        OpenSample();
+        f.Draw();
+        f.user.ChooseFile(f.File("sample.vsk"));
+
+        f.Run(L"Sketcher.SaveAs");
+
+        QVERIFY(!f.pDocuments->IsModified());
     }
 
     void savingUnderAnotherNameLeavesTheFirstFile()
@@ -154,6 +205,7 @@ private slots:
 
     void aDrawingWithoutFileMayBeWantedByItsJournalAlone()
     {
+        m_pFixture.reset();
         m_pFixture = std::make_unique<DocumentsFixture>(Manners::AskAboutFiles);
         m_pFixture->Draw();
 
@@ -162,6 +214,7 @@ private slots:
 
     void nobodyIsAskedWhoIsNotThere()
     {
+        m_pFixture.reset();
         m_pFixture = std::make_unique<DocumentsFixture>(Manners::Silent);
         OpenSample();
         m_pFixture->Draw();
@@ -481,10 +534,13 @@ private:
     {
         QMimeData data;
         data.setUrls({QUrl::fromLocalFile(path)});
+        QDragEnterEvent enter({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        enter.setAccepted(false);
+        QCoreApplication::sendEvent(m_pFixture->pWindow.get(), &enter);
         QDropEvent drop({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
         drop.setAccepted(false);
         QCoreApplication::sendEvent(m_pFixture->pWindow.get(), &drop);
-        return drop.isAccepted();
+        return enter.isAccepted() && drop.isAccepted();
     }
 
     static QString Parameter(const vesk::CommandRecord& record, const wchar_t* name)

@@ -52,6 +52,7 @@ private slots:
         QCOMPARE(reading.error, std::string());
         QCOMPARE(reading.outcome, Outcome::Whole);
         QCOMPARE(reading.digest, DigestOf(content).ToText());
+        QVERIFY(reading.sum == DigestOf(content));
         QCOMPARE(reading.content.name, content.name);
         QVERIFY(reading.content.layers == content.layers);
         QVERIFY(reading.content.entities == content.entities);

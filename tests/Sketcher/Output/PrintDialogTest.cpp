@@ -123,8 +123,8 @@ private slots:
 
         QCOMPARE(fault, OutputFault::None);
         const QRegularExpression box(R"(/MediaBox \[0 0 (\d+)\S* (\d+)\S*\])");
-        const QByteArray pdf = vesk::ReadBytes(path).replace('\0', ' ');
-        const auto match = box.match(QString::fromLatin1(pdf));
+        const QByteArray pdf = vesk::ReadBytes(path);
+        const auto match = box.match(QString(QLatin1String(pdf.constData(), pdf.size())));
         QCOMPARE(match.captured(1), QStringLiteral("842"));
         QCOMPARE(match.captured(2), QStringLiteral("595"));
     }

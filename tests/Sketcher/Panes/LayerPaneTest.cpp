@@ -83,7 +83,8 @@ struct Fixture
     void Rename(const QString& name) const
     {
         View().edit(Cell(1, LayerModel::NameColumn));
-        auto* pField = View().viewport()->findChild<QLineEdit*>();
+        // A former editor may still be there.
+        QLineEdit* pField = View().viewport()->findChildren<QLineEdit*>().last();
         pField->selectAll();
         QTest::keyClicks(pField, name);
         QTest::keyClick(pField, Qt::Key_Return);
@@ -153,7 +154,9 @@ private slots:
         QCOMPARE(LayerAddition::From(commands[0].parameters)->name, std::wstring(L"图层 2"));
         auto* pField = f.View().viewport()->findChild<QLineEdit*>();
         QVERIFY(pField != nullptr);
-        QCOMPARE(pField->text(), QStringLiteral("图层 2"));
+        QCOMPARE(pField->selectedText(), QStringLiteral("图层 2"));
+        f.pPane->UpdateStatus();
+        QCOMPARE(pField->selectedText(), QStringLiteral("图层 2"));
     }
 
     void aTypedNameIsACommand()
@@ -167,6 +170,20 @@ private slots:
         QCOMPARE(commands[0].commandId, std::wstring(LayerEdit::CommandId));
         QCOMPARE(f.Walls().name, std::wstring(L"doors"));
         QCOMPARE(f.Row(1), QString("doors visible"));
+    }
+
+    void aNameBeingTypedSurvivesARefresh()
+    {
+        Fixture f;
+        f.View().edit(f.Cell(1, LayerModel::NameColumn));
+        QLineEdit* pField = f.View().viewport()->findChild<QLineEdit*>();
+        QCOMPARE(pField->selectedText(), QString("walls"));
+        QTest::keyClicks(pField, "doo");
+
+        f.workspace.sketch.AddLine({0, 0, 0}, {5, 5, 0});
+        f.pPane->UpdateStatus();
+
+        QCOMPARE(pField->text(), QString("doo"));
     }
 
     void theSameNameIsNoCommand()

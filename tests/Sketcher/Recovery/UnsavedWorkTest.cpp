@@ -77,6 +77,16 @@ private slots:
         QTest::newRow("undone again") << begun().Mark(2, s_first).Mark(3, empty).ToText() << 0;
         QTest::newRow("undone and changed")
             << begun().Mark(2, s_first).Mark(3, empty).Mark(4, s_second).ToText() << 3;
+        const auto opened = [] {
+            return Records().Header().Command(1, L"Sketcher.OpenContent").Mark(2, s_first).End(1);
+        };
+        QTest::newRow("opened") << opened().ToText() << 0;
+        QTest::newRow("opened and changed") << opened().Mark(3, s_second).ToText() << 1;
+        QTest::newRow("opened, changed and undone")
+            << opened().Mark(3, s_second).Mark(4, s_first).ToText() << 0;
+        QTest::newRow("recovered")
+            << Records().Header().Command(1, L"Sketcher.RecoverContent").Mark(2, s_first).ToText()
+            << 1;
         QTest::newRow("without marks")
             << Records().Command(1, L"Sketcher.Line").Point(2).Point(3).ToText() << 2;
     }

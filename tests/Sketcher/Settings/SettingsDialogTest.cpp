@@ -170,6 +170,33 @@ private slots:
                  QDir::toNativeSeparators(QStringLiteral("/usual")));
     }
 
+    void labelsLeadToTheirFields_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<QString>("field");
+
+        QTest::newRow("language") << int(Qt::Key_L) << "Language";
+        QTest::newRow("colours") << int(Qt::Key_C) << "Colours";
+        QTest::newRow("unit") << int(Qt::Key_U) << "Unit";
+        QTest::newRow("Space") << int(Qt::Key_S) << "Space";
+        QTest::newRow("folder") << int(Qt::Key_J) << "JournalFolder";
+        QTest::newRow("autosave") << int(Qt::Key_A) << "Autosave";
+    }
+
+    void labelsLeadToTheirFields()
+    {
+        QFETCH(int, key);
+        QFETCH(QString, field);
+        Fixture f{Settings()};
+        f.dialog.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&f.dialog, vesk::test::PatienceMs));
+        f.Get<QPushButton>("Accept").setFocus();
+
+        QTest::keyClick(&f.dialog, static_cast<Qt::Key>(key), Qt::AltModifier);
+
+        QCOMPARE(f.dialog.focusWidget()->objectName(), field);
+    }
+
     void escapeChangesNothing()
     {
         Fixture f{Settings()};

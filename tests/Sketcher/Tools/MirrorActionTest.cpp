@@ -10,8 +10,6 @@ using namespace vesk;
 Q_DECLARE_METATYPE(Vector3d)
 using Fixture = ActionFixture<MirrorAction>;
 
-Q_DECLARE_METATYPE(Vector3d)
-
 namespace
 {
 
