@@ -221,7 +221,7 @@ private slots:
         QTest::newRow("svg") << "svg" << QByteArray("<?xml");
         QTest::newRow("pdf") << "pdf" << QByteArray("%PDF");
         QTest::newRow("png") << "png" << QByteArray("\x89PNG");
-        QTest::newRow("dxf") << "dxf" << QByteArray("  0\nSECTION");
+        QTest::newRow("dxf") << "dxf" << QByteArray("999\n");
     }
 
     void fileIsExportedWithoutADisplay()
@@ -239,6 +239,23 @@ private slots:
         QCOMPARE(outcome.error, QString());
         QCOMPARE(outcome.code, 0);
         QVERIFY(vesk::ReadBytes(path).startsWith(start));
+    }
+
+    void dxfFileIsReadInTheUnitThatIsNamed()
+    {
+        const QString in = m_pFixture->File("in.dxf");
+        const QString out = m_pFixture->File("out.svg");
+        QVERIFY(vesk::WriteBytes(in, s_dxf));
+
+        const Outcome unnamed = RunSketcher({in, "--export", out});
+        const Outcome named = RunSketcher({in, "--dxf-unit", "m", "--export", out});
+
+        QCOMPARE(unnamed.code, 2);
+        QVERIFY2(unnamed.error.contains("--dxf-unit"), qPrintable(unnamed.error));
+        QCOMPARE(named.error, QString());
+        QCOMPARE(named.code, 0);
+        // From (1, 2) to (7, 8) metres, and the margin.
+        QVERIFY(vesk::ReadBytes(out).contains("width=\"6010mm\" height=\"6010mm\""));
     }
 
     void emptyDrawingIsNotExported()

@@ -230,6 +230,7 @@ private slots:
         QTest::newRow("unknown") << QStringList{"--nonsense"};
         QTest::newRow("argument") << QStringList{"file"};
         QTest::newRow("no value") << QStringList{"--journal"};
+        QTest::newRow("unit") << QStringList{"--dxf-unit", "yd"};
         QTest::newRow("no such folder") << QStringList{"--journal", "/nonexistent/journal"};
     }
 

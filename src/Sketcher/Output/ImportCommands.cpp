@@ -54,9 +54,8 @@ std::vector<CommandEntry> ImportCommands::MakeCommands()
         CommandEntry::WithParameters(
             ContentId, L"导入图元",
             [this](const CommandParameters& parameters) { Insert(parameters); })
-            .PossibleWith([this](const CommandParameters& parameters) {
-                return Find(parameters).has_value();
-            }),
+            .PossibleWith(
+                [](const CommandParameters& parameters) { return Find(parameters).has_value(); }),
     };
 }
 
@@ -71,7 +70,7 @@ void ImportCommands::Import(const QString& path, QString unit)
         m_window.ShowNotice(QStringLiteral("未导入 %1：%2").arg(name, CaptionOf(*read)));
         return;
     }
-    if (m_pending->content.entities.empty() || Keep(*read))
+    if (m_pending->content.entities.empty() || RecordPending())
         ShowReport(name, *read);
     m_pending.reset();
 }
@@ -100,7 +99,9 @@ std::optional<DxfImport> ImportCommands::Read(const QString& path, QString unit)
             read.fault = OutputFault::CannotRead;
         else
             read = ImportDxf(file.readAll(), unit, progress);
-        m_pending = Pending{QString(), ReadDocument(read.document).content};
+        m_pending = Pending{std::nullopt, ReadDocument(read.document).content};
+        if (!m_pending->content.entities.empty())
+            m_pending->digest = KeptContent::Get().Keep(read.document);
     };
     m_runner(work);
     if (read.fault != OutputFault::None || read.code != DxfToolCode::NoUnit || IsGone())
@@ -113,35 +114,33 @@ std::optional<DxfImport> ImportCommands::Read(const QString& path, QString unit)
 }
 
 /// Records what was read and adds it. Returns false if the journal cannot keep it.
-bool ImportCommands::Keep(const DxfImport& read)
+bool ImportCommands::RecordPending()
 {
-    const std::optional<QString> digest = KeptContent::Get().Keep(read.document);
-    if (!digest.has_value())
+    if (!m_pending->digest.has_value())
     {
         m_window.ShowNotice(QStringLiteral("未导入：日志旁无法保存导入的内容"));
         return false;
     }
-    m_pending->digest = *digest;
     CommandParameters parameters;
-    parameters.Add(ContentParameter, CommandParameterValue(ToWide(*digest)));
+    parameters.Add(ContentParameter, CommandParameterValue(ToWide(*m_pending->digest)));
     ActionManager::RunCommand(ContentId, parameters);
     return true;
 }
 
 void ImportCommands::Insert(const CommandParameters& parameters)
 {
-    const std::optional<SketchContent> content = Find(parameters);
+    const bool isPending =
+        m_pending.has_value() && m_pending->digest == ContentDigestOf(parameters);
+    const std::optional<SketchContent> content =
+        isPending ? std::make_optional(std::move(m_pending->content)) : Find(parameters);
     if (content.has_value() && !m_workspace.sketch.Insert(*content, ImportStep).empty())
         ActionManager::StepDone();
 }
 
 /// The drawing to which a record refers; nothing if it is not kept.
-std::optional<SketchContent> ImportCommands::Find(const CommandParameters& parameters) const
+std::optional<SketchContent> ImportCommands::Find(const CommandParameters& parameters)
 {
-    const QString digest = ContentDigestOf(parameters);
-    if (m_pending.has_value() && m_pending->digest == digest)
-        return m_pending->content;
-    const std::optional<QByteArray> bytes = KeptContent::Get().Find(digest);
+    const std::optional<QByteArray> bytes = KeptContent::Get().Find(ContentDigestOf(parameters));
     if (!bytes.has_value())
         return std::nullopt;
     DocumentReading document = ReadDocument(*bytes);

@@ -29,19 +29,19 @@ public:
     void Import(const QString& path, QString unit = {});
 
 private:
-    /// A drawing that is to be added, under the digest of its file.
+    /// A drawing that is to be added, and the digest of its file.
     struct Pending
     {
-        QString digest;
+        std::optional<QString> digest; ///< Nothing if it could not be kept.
         SketchContent content;
     };
 
     void AskForImport();
     bool IsGone() const;
     std::optional<DxfImport> Read(const QString& path, QString unit);
-    bool Keep(const DxfImport& read);
+    bool RecordPending();
     void Insert(const vesk::CommandParameters& parameters);
-    std::optional<SketchContent> Find(const vesk::CommandParameters& parameters) const;
+    static std::optional<SketchContent> Find(const vesk::CommandParameters& parameters);
     void ShowReport(const QString& name, const DxfImport& read);
 
     Workspace& m_workspace;
