@@ -7,7 +7,8 @@
 class AbruptEnd final
 {
 public:
-    /// `function` is called before anything is destroyed. It must not use the display. The process
+    /// `function` is called before anything is destroyed. It must use neither the
+    /// display nor static tables, which may be gone already. The process
     /// then ends at once, with exit code 1.
     explicit AbruptEnd(std::function<void()> function);
     ~AbruptEnd();

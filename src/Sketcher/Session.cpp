@@ -564,17 +564,18 @@ bool Session::WriteResults(Display display)
         if (!isDone)
             unwritten << path;
     };
-    if (!m_options.model.isEmpty())
-        note(WriteModelFile(m_workspace.sketch, m_options.model), m_options.model, named);
+    // Without a display the process is exiting: tables that the others need may be gone already.
     const bool hasDisplay = display == Display::There;
+    if (hasDisplay && !m_options.model.isEmpty())
+        note(WriteModelFile(m_workspace.sketch, m_options.model), m_options.model, named);
     if (hasDisplay && !m_options.exportFile.isEmpty())
         note(WriteExport(m_workspace.sketch, m_options.exportFile), m_options.exportFile, named);
     if (hasDisplay && !m_options.screenshot.isEmpty())
         note(WritePicture(m_window.grab(), m_options.screenshot), m_options.screenshot, named);
     if (hasDisplay && m_pUiTree != nullptr)
         note(m_pUiTree->Write(), m_options.uiTree, named);
-    note(m_journal.Close(GetWork()), m_journal.GetPath(),
-         m_journal.IsNamed() ? named : m_unwritten);
+    note(m_journal.Close(hasDisplay ? GetWork() : SessionJournal::Work::Undecided),
+         m_journal.GetPath(), m_journal.IsNamed() ? named : m_unwritten);
     const bool isLogNamed = !m_options.log.isEmpty();
     note(DebugMessageMgr::GetDebugMessageMgr()->CloseLog(),
          isLogNamed ? m_options.log : DataFile(QStringLiteral("warnings.log")),
