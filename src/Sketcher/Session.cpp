@@ -2,6 +2,7 @@
 
 #include "AbruptEnd.h"
 #include "BackgroundWork.h"
+#include "Complaint.h"
 #include "DataFile.h"
 #include "Documents/DocumentCommands.h"
 #include "Help/HelpCommands.h"
@@ -20,7 +21,6 @@
 #include "HostUi/LayoutFile.h"
 #include "HostUi/PublishConfigFile.h"
 #include "HostUi/QtText.h"
-#include "Journal/JournalFormat.h"
 #include "Journal/JournalManager.h"
 #include "Warnings/DebugMessageMgr.h"
 
@@ -29,13 +29,12 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QPixmap>
-#include <QScopedValueRollback>
 #include <QStandardPaths>
 #include <QTimer>
 
 #include <algorithm>
 #include <cstddef>
-#include <iostream>
+#include <iterator>
 #include <optional>
 #include <utility>
 
@@ -43,9 +42,6 @@ using namespace vesk;
 
 namespace
 {
-
-constexpr int ExitUnusableFile = 2;
-constexpr int ExitNotRepeated = 3;
 
 /// The path of a file installed with the program, next to the program folder.
 QString SharedFile(const QString& name)
@@ -78,11 +74,6 @@ std::wstring ProgramName()
 {
     const QString name = QCoreApplication::applicationName();
     return ToWide((name + QLatin1Char(' ') + QCoreApplication::applicationVersion()).trimmed());
-}
-
-void Complain(const std::string& text)
-{
-    std::cerr << "sketcher: " << text << std::endl;
 }
 
 Documents::Manners MannersOf(const Options& options)
@@ -153,32 +144,8 @@ Session::Session(const Options& options)
     QObject::connect(&m_window, &SketcherWindow::unitChanged, m_pPanes.get(), &Panes::Refresh);
     QObject::connect(m_pPanes.get(), &Panes::menuRequested, &m_window,
                      &SketcherWindow::ShowContextMenu);
-    std::vector<CommandEntry> commands = MakeCommandTable(m_workspace, m_window.GetView(), m_input);
-    for (CommandEntry& entry : m_pPanes->MakeCommands())
-        commands.push_back(std::move(entry));
-    for (CommandEntry& entry : m_output.MakeCommands())
-        commands.push_back(std::move(entry));
-    for (CommandEntry& entry : m_import.MakeCommands())
-        commands.push_back(std::move(entry));
-    commands.push_back(MakeRecoverCommand(m_workspace.sketch));
-    MakeDocuments();
-    for (CommandEntry& entry : MakeDocumentCommands(*m_pDocuments))
-        commands.push_back(std::move(entry));
-    for (CommandEntry& entry : m_clipboard.MakeCommands())
-        commands.push_back(std::move(entry));
-    m_clipboard.SetPicture([](const SketchContent& content) {
-        return MakeSvg(content, [](double) { return true; }).bytes;
-    });
-    commands.push_back(m_settingsApplier.MakeCommand());
-    for (CommandEntry& entry : MakeHelpCommands(commands, m_window))
-        commands.push_back(std::move(entry));
+    const std::vector<CommandEntry> commands = MakeCommands();
     RegisterCommands(commands);
-    for (const CommandEntry& entry : commands)
-    {
-        m_captions[entry.id] = entry.caption;
-        if (entry.isPossible)
-            m_possibilities[entry.id] = entry.isPossible;
-    }
     JournalManager::GetInstance().SetSynced(m_options.repetition.isSynced);
     JournalManager::GetInstance().SetProgram(ProgramName());
     JournalManager::GetInstance().SetDigestSource(
@@ -191,6 +158,33 @@ Session::Session(const Options& options)
         m_pUiTree = std::make_unique<UiTreeWriter>(m_options.uiTree, m_input, [this] {
             return static_cast<int>(m_workspace.sketch.GetEntities().size());
         });
+}
+
+/// All commands of the program.
+std::vector<CommandEntry> Session::MakeCommands()
+{
+    MakeDocuments();
+    m_clipboard.SetPicture([](const SketchContent& content) {
+        return MakeSvg(content, [](double) { return true; }).bytes;
+    });
+    std::vector<CommandEntry> commands = MakeCommandTable(m_workspace, m_window.GetView(), m_input);
+    const auto add = [&commands](std::vector<CommandEntry> others) {
+        std::move(others.begin(), others.end(), std::back_inserter(commands));
+    };
+    add(m_pPanes->MakeCommands());
+    add(m_output.MakeCommands());
+    add(m_import.MakeCommands());
+    add(MakeDocumentCommands(*m_pDocuments));
+    add(m_clipboard.MakeCommands());
+    add({MakeRecoverCommand(m_workspace.sketch), m_settingsApplier.MakeCommand()});
+    add(MakeHelpCommands(commands, m_window));
+    for (const CommandEntry& entry : commands)
+    {
+        m_captions[entry.id] = entry.caption;
+        if (entry.isPossible)
+            m_possibilities[entry.id] = entry.isPossible;
+    }
+    return commands;
 }
 
 Session::~Session()
@@ -221,49 +215,6 @@ int Session::Run()
     if (code == ExitUnusableFile)
         return code;
     return WriteResults(Display::There) ? code : ExitUnusableFile;
-}
-
-bool Session::CanRepeat(const CommandRecord& record)
-{
-    const auto found = m_possibilities.find(record.commandId);
-    return found == m_possibilities.end() || found->second(record.parameters);
-}
-
-bool Session::OnProgress(std::size_t done, std::size_t total)
-{
-    const auto advance = [&] { return m_pReading == nullptr || m_pReading->Advance(done, total); };
-    return m_pPace != nullptr ? m_pPace->WaitFor(done, advance) : advance();
-}
-
-bool Session::ReplaySelection(const SelectionRecord& record)
-{
-    return m_workspace.selection.Select(record.entities);
-}
-
-bool Session::ReplayProperty(const PropertyRecord& record)
-{
-    return m_workspace.properties.Set(record);
-}
-
-bool Session::VerifyUndo(const UndoRecord& record)
-{
-    return m_workspace.sketch.GetLastUndone() == record.entity;
-}
-
-bool Session::VerifyRedo(const RedoRecord& record)
-{
-    return m_workspace.sketch.GetLastUndone() == record.entity;
-}
-
-std::optional<int> Session::GetLastUndone()
-{
-    return m_workspace.sketch.GetLastUndone();
-}
-
-std::string Session::VerifyMark(const MarkRecord& record)
-{
-    const std::string actual = m_workspace.sketch.GetDigest();
-    return actual == record.digest ? std::string() : actual;
 }
 
 void Session::MakeDocuments()
@@ -317,28 +268,6 @@ bool Session::OpenLog()
         m_window.ShowState(QStringLiteral("log"), QStringLiteral("警告未记录"),
                            QStringLiteral("无法写入警告日志 %1").arg(path));
     return !isNamed;
-}
-
-bool Session::ReadJournal(const QString& path)
-{
-    std::string error;
-    if (JournalFormat::ReadFile(path.toStdString(), m_records, error))
-    {
-        ObeyVersion();
-        m_options.repetition.Cut(m_records);
-        return true;
-    }
-    Complain(path.toStdString() + ": " + error);
-    return false;
-}
-
-/// Records of version 1 go on as such, into whatever file: in them a name is no step.
-void Session::ObeyVersion()
-{
-    if (!m_records.empty() && std::holds_alternative<HeaderRecord>(m_records.front().what))
-        return;
-    m_workspace.sketch.SetNamesWithoutSteps();
-    JournalManager::GetInstance().SetVersion(1);
 }
 
 void Session::RestoreLayout()
@@ -399,21 +328,6 @@ int Session::Draw()
     return QApplication::exec();
 }
 
-/// Replays a journal in the window. If cancelled, the drawing is as before.
-void Session::Open()
-{
-    const JournalReplayResult result = RepeatInWindow();
-    if (!result.failure.empty())
-        ShowFailure(result);
-    // If the window was closed in the meantime, no other journal is needed.
-    if (!result.isStopped || m_window.isVisible())
-        ShowOtherJournal(GoOn(result));
-    if (result.isStopped)
-        m_workspace.sketch.Clear();
-    m_pKeeping->Update();
-    m_window.GetView().Activate();
-}
-
 void Session::BeginRecovery()
 {
     const auto replay = [this](const SessionRecovery::Records& records) {
@@ -440,112 +354,6 @@ void Session::OpenDocument()
         m_import.Import(m_options.document, m_options.dxfUnit);
     else
         m_pDocuments->OpenFile(m_options.document);
-}
-
-/// Reads the document without the window.
-int Session::ReadDocument()
-{
-    DrawingSource source = ReadDrawing(m_options.document, m_options.dxfUnit);
-    if (source.error.empty() && m_workspace.sketch.Restore(std::move(source.content)))
-        return 0;
-    Complain(m_options.document.toStdString() + ": " + source.error);
-    return ExitUnusableFile;
-}
-
-int Session::Replay()
-{
-    if (!m_options.document.isEmpty())
-        return ReadDocument();
-    const bool isRealTime = m_options.repetition.isRealTime;
-    if (isRealTime)
-        ShowReplay();
-    const JournalReplayResult result = isRealTime ? RepeatInRealTime() : Repeat();
-    if (result.failure.empty() && !result.isStopped)
-        m_journal.GoOn(result, GetLastNumber());
-    const bool isClosed = isRealTime && !m_window.isVisible();
-    if (m_options.repetition.isStaying && !isClosed)
-    {
-        ShowReplay();
-        QApplication::exec();
-    }
-    return result.failure.empty() ? 0 : ExitNotRepeated;
-}
-
-/// Shows the window in its own size: a replay reads no layout.
-void Session::ShowReplay()
-{
-    if (m_window.isVisible())
-        return;
-    ObeyTerminationRequests();
-    m_pKeeping = std::make_unique<KeepingMonitor>(m_window);
-    m_window.show();
-}
-
-JournalReplayResult Session::RepeatInRealTime()
-{
-    m_pPace = std::make_unique<ReplayPace>(m_records);
-    const JournalReplayResult result = RepeatInWindow();
-    m_pPace.reset();
-    return result;
-}
-
-/// Replays it while the window shows the progress.
-JournalReplayResult Session::RepeatInWindow()
-{
-    ReadingMonitor monitor(m_window, m_window.GetProgress());
-    const QScopedValueRollback<ReadingMonitor*> reading(m_pReading, &monitor);
-    return Repeat();
-}
-
-/// Replays the journal that was read; reports the record that could not be replayed and unfinished
-/// commands.
-JournalReplayResult Session::Repeat()
-{
-    JournalReplayResult result = JournalReplayer::Replay(m_records, *this);
-    if (result.isStopped)
-        return result;
-    for (const std::wstring& commandId : result.unfinishedCommands)
-        Complain("unfinished in the journal: " + ToUtf8(commandId));
-    if (!result.failure.empty())
-        Complain(result.failure);
-    return result;
-}
-
-/// Continues the journal after the replay. Returns the path if it continues in another file.
-QString Session::GoOn(const JournalReplayResult& result)
-{
-    if (result.isStopped)
-        return m_journal.StartAnew();
-    return result.failure.empty() ? m_journal.GoOn(result, GetLastNumber())
-                                  : m_journal.LeaveForAnother();
-}
-
-/// The greatest record number that was read; an end record repeats its command's number.
-int Session::GetLastNumber() const
-{
-    int last = 0;
-    for (const JournalRecord& record : m_records)
-        last = std::max(last, record.number);
-    return last;
-}
-
-void Session::ShowFailure(const JournalReplayResult& result)
-{
-    const QString much = QStringLiteral("%1 / %2").arg(result.repeatedCount).arg(m_records.size());
-    const QString text =
-        QStringLiteral("第 %1 条记录无法重做，已恢复 %2 条").arg(result.failedNumber).arg(much);
-    const QString reason = QString::fromStdString(result.failure);
-    m_window.ShowState(QStringLiteral("reading"), text, reason);
-    m_window.ShowNotice(text + QStringLiteral("（%1）").arg(reason));
-}
-
-void Session::ShowOtherJournal(const QString& path)
-{
-    if (path.isEmpty())
-        return;
-    Complain(m_options.journal.toStdString() + " is left unchanged; the journal continues in " +
-             path.toStdString());
-    m_window.ShowState(QStringLiteral("other journal"), QStringLiteral("日志改存于另一文件"), path);
 }
 
 /// Only a user who closes the window decides about unsaved work.

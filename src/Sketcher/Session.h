@@ -61,6 +61,7 @@ private:
         Lost,
     };
 
+    std::vector<CommandEntry> MakeCommands();
     void MakeDocuments();
     bool OpenFiles();
     bool OpenLog();
