@@ -15,6 +15,8 @@
 #include "Control/CommandButtonDefinition.h"
 #include "Control/CommandButtonMenuDefinition.h"
 #include "Control/ProgressBarDefinition.h"
+#include "Foundation/IApplication.h"
+#include "Foundation/UpdateCtrlStatusEvent.h"
 #include "HostUi/ControlHost.h"
 #include "HostUi/QtText.h"
 #include "Qtitan/RibbonBar.h"
@@ -73,6 +75,12 @@ OwnerPtr<CommandButtonDefinition> MakeDefinition(const CommandEntry& entry)
     return opDefinition;
 }
 
+void PostStatusRefresh()
+{
+    if (IApplication* pApplication = IApplication::Get())
+        pApplication->PostEvent(MakeOwner<UpdateCtrlStatusEvent>());
+}
+
 }
 
 SketcherWindow::SketcherWindow(Workspace& workspace, DimensionInputController& input)
@@ -85,6 +93,8 @@ SketcherWindow::SketcherWindow(Workspace& workspace, DimensionInputController& i
     BuildPointedText();
     resize(1200, 800);
     connect(&workspace.sketch, &Sketch::changed, this, &SketcherWindow::OnSketchChanged);
+    connect(&workspace.sketch, &Sketch::changed, this, &PostStatusRefresh);
+    connect(&workspace.selection, &Selection::changed, this, &PostStatusRefresh);
     OnSketchChanged();
 }
 
@@ -159,19 +169,24 @@ void SketcherWindow::BuildButtons(const std::vector<CommandEntry>& commands, con
         else
             pGroup->addSmallButton(pButton);
         for (const std::wstring& keys : {entry.keys, entry.otherKeys})
-            AddShortcut(keys, *pButton);
+            AddShortcut(keys, *pButton, controls);
     }
     AddMenu(MakeZoomMenu(commands), *groups[L"视图"], controls);
     m_pPaneButton = AddMenu(MakePaneMenu(commands), *groups[L"面板"], controls);
 }
 
-void SketcherWindow::AddShortcut(const std::wstring& keys, QToolButton& button)
+void SketcherWindow::AddShortcut(const std::wstring& keys, QToolButton& button,
+                                 ControlHost& controls)
 {
     if (keys.empty())
         return;
     auto* pShortcut = new QShortcut(QKeySequence(ToQString(keys)), this);
     pShortcut->setContext(Qt::ApplicationShortcut);
-    connect(pShortcut, &QShortcut::activated, &button, &QToolButton::click);
+    connect(pShortcut, &QShortcut::activated, &button, [&button, &controls] {
+        // The key may come before the refresh that what it needs has posted.
+        controls.RefreshControls();
+        button.click();
+    });
 }
 
 /// Adds a button with a menu and returns it; null if it could not be created.

@@ -82,7 +82,7 @@ private:
 
     void BuildButtons(const std::vector<CommandEntry>& commands, const Pages& pages,
                       vesk::ControlHost& controls);
-    void AddShortcut(const std::wstring& keys, QToolButton& button);
+    void AddShortcut(const std::wstring& keys, QToolButton& button, vesk::ControlHost& controls);
     QToolButton* AddMenu(vesk::OwnerPtr<vesk::CommandButtonMenuDefinition> opDefinition,
                          Qtitan::RibbonGroup& group, vesk::ControlHost& controls);
     void BuildPanels(Qtitan::RibbonPage& page, vesk::ControlHost& controls);
