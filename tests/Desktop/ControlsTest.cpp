@@ -8,6 +8,7 @@ namespace
 
 const QString s_style = QStringLiteral("Sketcher.LineStyle");
 const QString s_colour = QStringLiteral("Sketcher.LineColour");
+const QString s_width = QStringLiteral("Sketcher.LineWidth");
 
 }
 
@@ -141,7 +142,7 @@ void ControlsTest::checkBoxIsUsedWithTheKeys()
 {
     QVERIFY(Session().WaitForChecked("Sketcher.Snap.End", true));
 
-    QVERIFY(Session().Type("", Session().KeysTo(s_colour) + QStringList{"Tab", "space"}));
+    QVERIFY(Session().Type("", Session().KeysTo(s_width) + QStringList{"Tab", "space"}));
     QVERIFY(Session().WaitForChecked("Sketcher.Snap.End", false));
     // Both Tab and the arrow keys move from one box to the next.
     QVERIFY(Session().Type("", {"Tab", "space", "Tab", "Right", "Right", "space"}));
@@ -172,7 +173,7 @@ void ControlsTest::radioButtonIsClicked()
 
 void ControlsTest::radioButtonIsUsedWithTheKeys()
 {
-    QVERIFY(Session().Type("", Session().KeysTo(s_colour) +
+    QVERIFY(Session().Type("", Session().KeysTo(s_width) +
                                    QStringList{"Tab", "Tab", "Tab", "Tab", "Tab", "Tab", "Right"}));
     QVERIFY(Session().WaitForChecked("Sketcher.Unit.cm", true));
     QVERIFY(Session().Type("", {"Right", "Right"}));

@@ -97,7 +97,7 @@ bool DesktopSession::Click(const QString& id)
 QStringList DesktopSession::KeysTo(const QString& id)
 {
     Refresh();
-    return {"F10", "1", m_tree.GetKeyTip(id)};
+    return {"F10", "2", m_tree.GetKeyTip(id)};
 }
 
 bool DesktopSession::OpenMenu(const QString& buttonId, const QString& commandId)
