@@ -274,9 +274,11 @@ void FocusTest::undoAfterANameIsTheDrawings()
     QVERIFY(WaitForName("A"));
 
     QVERIFY(Session().Type("", {"ctrl+z"}));
+    QVERIFY(WaitForName("未命名"));
+    QVERIFY(Session().WaitForEntities(1));
+    QVERIFY(Session().Type("", {"ctrl+z"}));
 
     QVERIFY(Session().WaitForEntities(0));
-    QVERIFY(WaitForName("A"));
 }
 
 }

@@ -1,3 +1,4 @@
+#include "RecoveryUser.h"
 #include "ScenarioTest.h"
 #include "ScriptedUser.h"
 #include "SketcherWindow.h"
@@ -12,7 +13,6 @@
 #include "Journal/JournalFormat.h"
 #include "Support/TestValues.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
 #include <QLabel>
@@ -28,54 +28,6 @@ namespace
 {
 
 const QString s_line = QStringLiteral("Sketcher.Line");
-
-QLabel* FindOffer()
-{
-    auto* pText = ScriptedUser::FindWindow()->findChild<QLabel*>("RecoveryText");
-    return pText != nullptr && pText->isVisible() ? pText : nullptr;
-}
-
-bool IsOffered()
-{
-    return FindOffer() != nullptr;
-}
-
-bool IsNothingOffered()
-{
-    return !IsOffered();
-}
-
-QMessageBox* FindQuestion()
-{
-    return qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-}
-
-/// Answers with "do not save" whenever it is asked.
-class Discarder final : public QObject
-{
-public:
-    Discarder() { startTimer(10); }
-
-protected:
-    void timerEvent(QTimerEvent*) override
-    {
-        const QMessageBox* pQuestion = FindQuestion();
-        if (pQuestion == nullptr)
-            return;
-        for (QAbstractButton* pButton : pQuestion->buttons())
-        {
-            if (pQuestion->buttonRole(pButton) == QMessageBox::DestructiveRole)
-                return pButton->click();
-        }
-    }
-};
-
-/// Runs a session whose user discards what is not saved at the end.
-int RunAndDiscard(ScriptedUser& user, const Options& options)
-{
-    const Discarder discarder;
-    return user.Run(options);
-}
 
 }
 

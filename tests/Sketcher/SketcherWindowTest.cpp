@@ -425,7 +425,6 @@ private slots:
     void anUnknownUnitIsNotChosen()
     {
         Fixture f;
-
         f.window.ChooseUnit(L"mile");
 
         QCOMPARE(&LengthUnit::GetCurrent(), &LengthUnit::Millimetre());
@@ -448,7 +447,7 @@ private slots:
         QCOMPARE(pText->text(), QStringLiteral("直线 #1：长度 1.000 m，角度 0.00°"));
 
         f.workspace.sketch.Erase(1);
-        QCOMPARE(pText->text(), QString());
+        QTRY_COMPARE(pText->text(), QString());
     }
 
     void theProgressIsHiddenUntilSomethingIsRead()

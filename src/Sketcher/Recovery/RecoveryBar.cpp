@@ -45,13 +45,13 @@ RecoveryBar::RecoveryBar(QWidget* pParent) : QFrame(pParent), m_pText(new QLabel
     };
     const Choice choices[] = {
         {"RecoveryGoOn", QStringLiteral("继续(&R)"), QStringLiteral("恢复这些操作并继续绘图"),
-         &RecoveryBar::goOn},
+         &RecoveryBar::goOnRequested},
         {"RecoveryLook", QStringLiteral("查看(&K)"), QStringLiteral("在另一窗口中查看，不作改动"),
-         &RecoveryBar::look},
+         &RecoveryBar::lookRequested},
         {"RecoveryLeave", QStringLiteral("忽略(&I)"),
-         QStringLiteral("不再提示；日志仍保留一段时间"), &RecoveryBar::leave},
+         QStringLiteral("不再提示；日志仍保留一段时间"), &RecoveryBar::leaveRequested},
         {"RecoveryPostpone", QStringLiteral("以后(&L)"), QStringLiteral("下次启动时再提示"),
-         &RecoveryBar::postpone},
+         &RecoveryBar::postponed},
     };
     for (const Choice& choice : choices)
     {

@@ -19,10 +19,10 @@ public:
     void Offer(const UnsavedWork& work, const QString& caption, int others);
 
 signals:
-    void goOn();     ///< Continue with it.
-    void look();     ///< Only look at it.
-    void leave();    ///< Never offer it again.
-    void postpone(); ///< Offer it again at the next start.
+    void goOnRequested();  ///< Continue with it.
+    void lookRequested();  ///< Only look at it.
+    void leaveRequested(); ///< Never offer it again.
+    void postponed();      ///< Offer it again at the next start.
 
 private:
     QLabel* m_pText;

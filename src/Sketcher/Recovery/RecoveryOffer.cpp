@@ -180,10 +180,10 @@ void RecoveryOffer::ShowFirst()
     if (m_pBar == nullptr)
     {
         m_pBar = new RecoveryBar;
-        connect(m_pBar, &RecoveryBar::goOn, this, &RecoveryOffer::OnGoOn);
-        connect(m_pBar, &RecoveryBar::look, this, &RecoveryOffer::Look);
-        connect(m_pBar, &RecoveryBar::leave, this, &RecoveryOffer::Leave);
-        connect(m_pBar, &RecoveryBar::postpone, this, &RecoveryOffer::TakeAway);
+        connect(m_pBar, &RecoveryBar::goOnRequested, this, &RecoveryOffer::OnGoOn);
+        connect(m_pBar, &RecoveryBar::lookRequested, this, &RecoveryOffer::Look);
+        connect(m_pBar, &RecoveryBar::leaveRequested, this, &RecoveryOffer::Leave);
+        connect(m_pBar, &RecoveryBar::postponed, this, &RecoveryOffer::TakeAway);
         m_window.AddBar(m_pBar);
     }
     const UnsavedWork& work = m_works.front();

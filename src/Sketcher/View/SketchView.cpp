@@ -45,7 +45,10 @@ SketchView::SketchView(Workspace& workspace, vesk::DimensionInputController& inp
     qApp->installEventFilter(this);
     connect(&workspace.sketch, &Sketch::changed, this, &SketchView::UpdateModel);
     connect(&workspace.selection, &Selection::changed, this, &SketchView::UpdateModel);
-    connect(&workspace.sketch, &Sketch::changed, this, &SketchView::TellCursor);
+    // Looking costs more, the larger the drawing: once for all changes before the event loop.
+    m_lookAgain.setSingleShot(true);
+    connect(&workspace.sketch, &Sketch::changed, &m_lookAgain, qOverload<>(&QTimer::start));
+    connect(&m_lookAgain, &QTimer::timeout, this, &SketchView::TellCursor);
     connect(this, &DrawingView::cursorMoved, this, &SketchView::OnCursorMoved);
     connect(this, &DrawingView::cursorLeft, this, [this] { SetPointed(0); });
     vesk::ActionManager::AddObserver(this);

@@ -5,6 +5,8 @@
 #include "Command/ActionManager.h"
 #include "HostUi/DrawingView.h"
 
+#include <QTimer>
+
 struct Entity;
 struct Workspace;
 
@@ -70,4 +72,5 @@ private:
 
     MouseSelection m_mouse;
     int m_pointed = 0;
+    QTimer m_lookAgain;
 };

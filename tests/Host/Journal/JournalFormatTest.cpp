@@ -76,8 +76,6 @@ private slots:
     void numbersMayBeWrittenInEveryWayOfJson_data();
     void numbersMayBeWrittenInEveryWayOfJson();
     void spacesAreAllowed();
-    void deepNestingIsTold_data();
-    void deepNestingIsTold();
     void keysOfDifferentObjectsMayBeTheSame();
     void aBadLineIsTold_data();
     void aBadLineIsTold();
@@ -463,45 +461,6 @@ void JournalFormatTest::aBadLineIsTold_data()
     QTest::addColumn<QString>("error");
     for (const auto& row : rows)
         QTest::newRow(row.name) << QByteArray(row.line) << QString(row.error);
-}
-
-void JournalFormatTest::deepNestingIsTold_data()
-{
-    QTest::addColumn<QByteArray>("line");
-    QTest::addColumn<QString>("error");
-    const QString tooDeep = "nested too deeply";
-    const QByteArray begin = R"({"n":1,"kind":"undo","entity":)";
-    constexpr int Deep = 20000;
-
-    QTest::newRow("lists") << begin + QByteArray(Deep, '[') + QByteArray(Deep, ']') + "}"
-                           << tooDeep;
-    QTest::newRow("lists without end") << begin + QByteArray(Deep, '[') << tooDeep;
-    QTest::newRow("objects") << begin + QByteArray("{\"a\":").repeated(Deep) << tooDeep;
-    QTest::newRow("a list too many") << begin + QByteArray(32, '[') << tooDeep;
-    QTest::newRow("the deepest") << begin + QByteArray(31, '[') + QByteArray(31, ']') + "}"
-                                 << R"("entity" is not an integer)";
-    QTest::newRow("lists in turn") << begin + "[" + QByteArray("[],").repeated(Deep) + "1]}"
-                                   << R"("entity" is not an integer)";
-    QTest::newRow("lists of texts in turn")
-        << begin + "[" + QByteArray("[\"a\"],").repeated(Deep) + "1]}"
-        << R"("entity" is not an integer)";
-    QTest::newRow("lists in order")
-        << begin + QByteArray("[[],[[]]],").repeated(Deep) << "not valid JSON";
-    QTest::newRow("lists behind a text with a quote")
-        << begin + "\"\\\"\\\\\"," + QByteArray(Deep, '[') << tooDeep;
-    QTest::newRow("brackets in a text with a quote")
-        << begin + "\"\\\"" + QByteArray(Deep, '[') + "\"}"
-        << R"("entity" is not an integer)";
-    QTest::newRow("brackets in a text") << begin + '"' + QByteArray(Deep, '[') + "\"}"
-                                        << R"("entity" is not an integer)";
-}
-
-void JournalFormatTest::deepNestingIsTold()
-{
-    QFETCH(QByteArray, line);
-    QFETCH(QString, error);
-
-    QCOMPARE(QString::fromStdString(ErrorOf(line.toStdString())), error);
 }
 
 void JournalFormatTest::keysOfDifferentObjectsMayBeTheSame()

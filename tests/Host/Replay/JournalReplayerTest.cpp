@@ -67,12 +67,6 @@ private slots:
     void aReplayEndsAnActionThatRunsWithoutALoop();
     void anActionIsRepeatedInTheCurrentView();
     void aReplayWritesTheJournalOfItsOwn();
-    void redosAndMarksGoToTheTarget();
-    void headerAndCloseDoNothing();
-    void anUnfinishedPlainCommandIsRepeatedIfItsMarkOrRedoStands_data();
-    void anUnfinishedPlainCommandIsRepeatedIfItsMarkOrRedoStands();
-    void commandsCanTellAReplay();
-    void aTargetNeedNotKnowMarksAndRedos();
 };
 
 void JournalReplayerTest::stepsGoToTheActionOfTheirCommand()
@@ -469,80 +463,6 @@ void JournalReplayerTest::aReplayWritesTheJournalOfItsOwn()
         (Log{R"({"n":1,"kind":"command","id":"Line"})", R"({"n":2,"kind":"command","id":"Zoom"})",
              R"({"n":2,"kind":"end","result":"done"})",
              R"({"n":1,"kind":"end","result":"done"})"}));
-}
-
-void JournalReplayerTest::redosAndMarksGoToTheTarget()
-{
-    Fixture f;
-    f.records = {{1, RedoRecord{5}}, {2, MarkRecord{"a1", 7}}};
-
-    QCOMPARE(FailureOf(f.Replay()), QString());
-
-    QCOMPARE(f.log, (Log{"redo 5", "mark a1"}));
-}
-
-void JournalReplayerTest::headerAndCloseDoNothing()
-{
-    Fixture f;
-    f.records = {{0, HeaderRecord{}}, {1, CloseRecord{}}};
-
-    const JournalReplayResult result = f.Replay();
-
-    QCOMPARE(FailureOf(result), QString());
-    QCOMPARE(result.repeatedCount, std::size_t(2));
-    QCOMPARE(f.log, Log());
-}
-
-void JournalReplayerTest::anUnfinishedPlainCommandIsRepeatedIfItsMarkOrRedoStands_data()
-{
-    QTest::addColumn<QByteArray>("line");
-    QTest::newRow("mark") << QByteArray(R"({"n":2,"kind":"mark","digest":"a1"})");
-    QTest::newRow("redo") << QByteArray(R"({"n":2,"kind":"redo","entity":5})");
-}
-
-void JournalReplayerTest::anUnfinishedPlainCommandIsRepeatedIfItsMarkOrRedoStands()
-{
-    QFETCH(QByteArray, line);
-    Fixture f;
-    JournalRecord record;
-    std::string error;
-    QVERIFY(JournalFormat::FromLine(line.toStdString(), record, error));
-    f.Command(L"Zoom");
-    f.records.push_back(record);
-
-    f.Replay();
-
-    QVERIFY(f.Has("Zoom"));
-}
-
-void JournalReplayerTest::commandsCanTellAReplay()
-{
-    Fixture f;
-    bool isReplaying = false;
-    f.AddPlain("Ask", [&] { isReplaying = JournalReplayer::IsReplaying(); });
-    f.Command(L"Ask").End(1);
-
-    f.Replay();
-    QVERIFY(isReplaying);
-    QVERIFY(!JournalReplayer::IsReplaying());
-
-    f.Choose("Ask");
-    QVERIFY(!isReplaying);
-}
-
-void JournalReplayerTest::aTargetNeedNotKnowMarksAndRedos()
-{
-    struct PlainTarget final : IJournalReplayTarget
-    {
-        bool ReplaySelection(const SelectionRecord&) override { return true; }
-        bool ReplayProperty(const PropertyRecord&) override { return true; }
-        bool VerifyUndo(const UndoRecord&) override { return false; }
-    } target;
-    const std::vector<JournalRecord> records = {
-        {1, RedoRecord{5}}, {2, MarkRecord{"0f", 7}}, {3, UndoRecord{6}}};
-
-    QCOMPARE(FailureOf(JournalReplayer::Replay(records, target)),
-             QString("record 3: the undo had a different result: expected entity 6"));
 }
 
 }

@@ -85,10 +85,10 @@ private slots:
         QTest::addColumn<QString>("button");
         QTest::addColumn<QByteArray>("choice");
 
-        QTest::newRow("go on") << "RecoveryGoOn" << QByteArray(SIGNAL(goOn()));
-        QTest::newRow("look") << "RecoveryLook" << QByteArray(SIGNAL(look()));
-        QTest::newRow("leave") << "RecoveryLeave" << QByteArray(SIGNAL(leave()));
-        QTest::newRow("postpone") << "RecoveryPostpone" << QByteArray(SIGNAL(postpone()));
+        QTest::newRow("go on") << "RecoveryGoOn" << QByteArray(SIGNAL(goOnRequested()));
+        QTest::newRow("look") << "RecoveryLook" << QByteArray(SIGNAL(lookRequested()));
+        QTest::newRow("leave") << "RecoveryLeave" << QByteArray(SIGNAL(leaveRequested()));
+        QTest::newRow("postpone") << "RecoveryPostpone" << QByteArray(SIGNAL(postponed()));
     }
 
     void eachButtonIsOneChoice()
@@ -96,10 +96,10 @@ private slots:
         QFETCH(QString, button);
         QFETCH(QByteArray, choice);
         RecoveryBar bar;
-        QSignalSpy goOn(&bar, SIGNAL(goOn()));
-        QSignalSpy look(&bar, SIGNAL(look()));
-        QSignalSpy leave(&bar, SIGNAL(leave()));
-        QSignalSpy postpone(&bar, SIGNAL(postpone()));
+        QSignalSpy goOn(&bar, SIGNAL(goOnRequested()));
+        QSignalSpy look(&bar, SIGNAL(lookRequested()));
+        QSignalSpy leave(&bar, SIGNAL(leaveRequested()));
+        QSignalSpy postpone(&bar, SIGNAL(postponed()));
         const QSignalSpy chosen(&bar, choice.constData());
 
         bar.findChild<QPushButton*>(button)->click();

@@ -91,7 +91,7 @@ private slots:
 
         f.workspace.sketch.SetLayer(layer);
 
-        QCOMPARE(f.view.GetPointed(), 0);
+        QTRY_COMPARE(f.view.GetPointed(), 0);
         QCOMPARE(f.Shape(), Qt::ArrowCursor);
     }
 
@@ -162,7 +162,7 @@ private slots:
 
         f.workspace.sketch.Erase(f.line);
 
-        QVERIFY(changes.count() > 0);
+        QTRY_VERIFY(changes.count() > 0);
         QCOMPARE(f.view.GetPointed(), 0);
     }
 

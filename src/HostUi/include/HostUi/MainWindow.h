@@ -22,8 +22,8 @@ namespace vesk
 
 class DrawingView;
 
-/// The main frame: a ribbon at the top, bars below it as needed, a drawing view, and a status bar with the prompt, the
-/// cursor position, and the number of warnings that were not shown.
+/// The main frame: a ribbon at the top, bars below it as needed, a drawing view, and a status bar
+/// with the prompt, the cursor position, and the number of warnings that were not shown.
 ///
 /// Installed as the host's main window while it lives.
 class VESK_HOST_UI_API MainWindow : public QMainWindow,

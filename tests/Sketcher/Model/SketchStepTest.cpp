@@ -1,0 +1,238 @@
+#include "Model/Sketch.h"
+
+#include "ShapeValues.h"
+#include "Support/TestValues.h"
+
+#include <QSignalSpy>
+
+#include <limits>
+#include <string>
+#include <utility>
+#include <vector>
+
+using vesk::Vector3d;
+using Ids = std::vector<int>;
+
+Q_DECLARE_METATYPE(Ids)
+
+/// Steps: what is undone and redone, what they are named, and what is one step.
+class SketchStepTest final : public QObject
+{
+    Q_OBJECT
+
+private:
+    static const LineShape& LineOf(const Sketch& sketch, int id)
+    {
+        return std::get<LineShape>(sketch.Find(id)->shape);
+    }
+
+    static Ids IdsOf(const Sketch& sketch)
+    {
+        Ids ids;
+        for (const Entity& entity : sketch.GetEntities())
+            ids.push_back(entity.id);
+        return ids;
+    }
+
+private slots:
+    void undoneStepsComeBackInTheirOrder()
+    {
+        Sketch sketch;
+        const int first = sketch.AddLine({0, 0, 0}, {1, 0, 0});
+        const int second = sketch.AddLine({0, 0, 0}, {2, 0, 0});
+        sketch.Erase(first);
+        const std::string digest = sketch.GetDigest();
+        while (sketch.CanUndo())
+            sketch.Undo();
+        QCOMPARE(sketch.GetDigest(), Sketch().GetDigest());
+
+        QCOMPARE(sketch.Redo(), first);
+        QCOMPARE(sketch.Redo(), second);
+        QCOMPARE(sketch.Redo(), first);
+        QCOMPARE(sketch.GetLastUndone(), first);
+        QVERIFY(!sketch.CanRedo());
+        QCOMPARE(sketch.Redo(), 0);
+
+        QCOMPARE(IdsOf(sketch), (Ids{second}));
+        QCOMPARE(sketch.GetDigest(), digest);
+    }
+
+    void aNewStepForgetsTheUndoneOnes()
+    {
+        Sketch sketch;
+        sketch.AddLine({0, 0, 0}, {1, 0, 0});
+        sketch.Undo();
+        QVERIFY(sketch.CanRedo());
+
+        sketch.AddLine({0, 0, 0}, {2, 0, 0});
+
+        QVERIFY(!sketch.CanRedo());
+        QVERIFY(sketch.GetRedoText().empty());
+    }
+
+    void stepsAreNamed()
+    {
+        Sketch sketch;
+        QVERIFY(sketch.GetUndoText().empty());
+        const int id = sketch.Add(CircleShape{{1, 2, 0}, 3.0, {0, 0, 1}});
+        QCOMPARE(sketch.GetUndoText(), std::wstring(L"圆"));
+        sketch.Erase({id}, L"剪切");
+        QCOMPARE(sketch.GetUndoText(), std::wstring(L"剪切"));
+
+        sketch.Undo();
+
+        QCOMPARE(sketch.GetUndoText(), std::wstring(L"圆"));
+        QCOMPARE(sketch.GetRedoText(), std::wstring(L"剪切"));
+    }
+
+    void aNameIsAStep()
+    {
+        Sketch sketch;
+        const std::wstring before = sketch.GetName();
+        sketch.SetName(L"plan");
+        QCOMPARE(sketch.GetUndoText(), std::wstring(L"图名"));
+
+        QCOMPARE(sketch.Undo(), 0);
+        QCOMPARE(sketch.GetName(), before);
+        sketch.Redo();
+
+        QCOMPARE(sketch.GetName(), std::wstring(L"plan"));
+    }
+
+    void aNameCanBeGivenWithoutAStep()
+    {
+        Sketch sketch;
+        sketch.SetNamesWithoutSteps();
+        const QSignalSpy changes(&sketch, &Sketch::changed);
+
+        sketch.SetName(L"plan");
+        sketch.SetName(L"plan");
+
+        QCOMPARE(sketch.GetName(), std::wstring(L"plan"));
+        QVERIFY(!sketch.CanUndo());
+        QCOMPARE(changes.count(), 1);
+        Sketch other;
+        other.SetName(L"plan");
+        QCOMPARE(sketch.GetDigest(), other.GetDigest());
+    }
+
+    void inANewDrawingANameIsAStepAgain()
+    {
+        Sketch sketch;
+        sketch.SetNamesWithoutSteps();
+
+        sketch.Clear();
+        sketch.SetName(L"plan");
+
+        QVERIFY(sketch.CanUndo());
+    }
+
+    void severalShapesAreOneStep()
+    {
+        Sketch sketch;
+        Pen red;
+        red.colour = 1;
+
+        const Ids ids = sketch.Add(
+            {{LineShape{{0, 0, 0}, {1, 0, 0}}, {}}, {CircleShape{{1, 2, 0}, 3.0, {0, 0, 1}}, red}},
+            L"粘贴");
+
+        QCOMPARE(ids, (Ids{1, 2}));
+        QCOMPARE(sketch.Find(2)->pen.colour, 1);
+        QCOMPARE(sketch.Undo(), 1);
+        QVERIFY(sketch.GetEntities().empty());
+    }
+
+    void ofSeveralShapesAllOrNoneAreDrawn()
+    {
+        Sketch sketch;
+        const LineShape line{{0, 0, 0}, {1, 0, 0}};
+        Pen nowhere;
+        nowhere.layer = 7;
+
+        QVERIFY(sketch.Add({{line, {}}, {LineShape(), {}}}, L"粘贴").empty());
+        QVERIFY(sketch.Add({{line, {}}, {line, nowhere}}, L"粘贴").empty());
+        QVERIFY(sketch.Add({}, L"粘贴").empty());
+
+        QVERIFY(sketch.GetEntities().empty());
+        QVERIFY(!sketch.CanUndo());
+        QCOMPARE(sketch.AddLine({0, 0, 0}, {1, 0, 0}), 1);
+    }
+
+    void severalAreErasedInOneStep()
+    {
+        Sketch sketch;
+        for (int length = 1; length <= 5; ++length)
+            sketch.AddLine({0, 0, 0}, {1.0 * length, 0, 0});
+        const std::string digest = sketch.GetDigest();
+
+        QVERIFY(!sketch.Erase({2, 99}));
+        QVERIFY(!sketch.Erase(Ids{}));
+        QCOMPARE(sketch.GetDigest(), digest);
+        QVERIFY(sketch.Erase({4, 2}));
+        QCOMPARE(IdsOf(sketch), (Ids{1, 3, 5}));
+
+        QCOMPARE(sketch.Undo(), 4);
+        QCOMPARE(IdsOf(sketch), (Ids{1, 2, 3, 4, 5}));
+        QCOMPARE(sketch.GetDigest(), digest);
+    }
+
+    void anotherDrawingIsInsertedInOneStep()
+    {
+        Sketch other;
+        const int walls = other.AddLayer(L"walls");
+        other.SetCurrentPen(&Pen::layer, walls);
+        other.AddLine({0, 0, 0}, {1, 0, 0});
+        other.SetCurrentPen(&Pen::layer, Layer::BaseId);
+        other.AddLine({0, 0, 0}, {2, 0, 0});
+        Sketch sketch;
+        sketch.AddLayer(L"axes");
+        sketch.AddLine({0, 0, 0}, {9, 0, 0});
+        const std::string digest = sketch.GetDigest();
+
+        QCOMPARE(sketch.Insert(other.GetContent(), L"粘贴"), (Ids{2, 3}));
+
+        QCOMPARE(sketch.LayerOf(*sketch.Find(2)).name, std::wstring(L"walls"));
+        QCOMPARE(sketch.Find(3)->pen.layer, int(Layer::BaseId));
+        QCOMPARE(sketch.Insert(other.GetContent(), L"粘贴"), (Ids{4, 5}));
+        QCOMPARE(sketch.Find(4)->pen.layer, sketch.Find(2)->pen.layer);
+        QCOMPARE(sketch.GetLayers().size(), std::size_t{3});
+        QVERIFY(sketch.AddLayer(L"doors") > sketch.Find(2)->pen.layer);
+        sketch.Undo();
+        sketch.Undo();
+        QCOMPARE(sketch.Undo(), 2);
+        QCOMPARE(sketch.GetDigest(), digest);
+    }
+
+    void layersWithoutEntitiesAreNotInserted()
+    {
+        Sketch other;
+        Layer base = other.GetLayers().front();
+        base.name = L"base of the other";
+        other.SetLayer(base);
+        other.SetCurrentPen(&Pen::layer, other.AddLayer(L"walls"));
+        other.AddLayer(L"axes");
+        other.AddLine({0, 0, 0}, {1, 0, 0});
+        Sketch sketch;
+
+        QCOMPARE(sketch.Insert(other.GetContent(), L"粘贴"), Ids{1});
+
+        QCOMPARE(sketch.GetLayers().size(), std::size_t{2});
+        QCOMPARE(sketch.GetLayers().back().name, std::wstring(L"walls"));
+    }
+
+    void whatIsNoDrawingIsNotInserted()
+    {
+        Sketch sketch;
+        SketchContent torn = sketch.GetContent();
+        torn.entities = {Entity{1, LineShape{{0, 0, 0}, {1, 0, 0}}, {}}}; // Greater than lastId.
+
+        QVERIFY(sketch.Insert(torn, L"粘贴").empty());
+        QVERIFY(sketch.Insert(Sketch().GetContent(), L"粘贴").empty());
+
+        QVERIFY(!sketch.CanUndo());
+    }
+};
+
+VESK_TESTS_WITHOUT_WINDOWS(SketchStepTest);
+#include "SketchStepTest.moc"
