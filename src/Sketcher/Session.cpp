@@ -69,6 +69,12 @@ QLocale LocaleOf(const Settings& settings)
     return settings.language.isEmpty() ? QLocale() : QLocale(settings.language);
 }
 
+SessionJournal JournalOf(const Options& options, const Settings& settings)
+{
+    SessionJournal::SetFolder(settings.journalFolder);
+    return SessionJournal(options);
+}
+
 /// Name and version, "sketcher 1.0".
 std::wstring ProgramName()
 {
@@ -124,7 +130,8 @@ bool WritePicture(const QPixmap& picture, const QString& path)
 }
 
 Session::Session(const Options& options)
-    : m_options(options), m_settings(SettingsToRead(options), SettingsPath()), m_journal(options),
+    : m_options(options), m_settings(SettingsToRead(options), SettingsPath()),
+      m_journal(JournalOf(options, m_settings.Get())),
       m_translations(SharedFile(QStringLiteral("translations")), QStringLiteral("sketcher"),
                      LocaleOf(m_settings.Get())),
       m_window(m_workspace, m_input), m_pDocks(std::make_unique<DockManagerImpl>(&m_window)),

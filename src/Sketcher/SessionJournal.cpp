@@ -18,6 +18,12 @@ namespace
 /// Far below the greatest integer, to leave numbers for the records of any session.
 constexpr int GreatestNumberToGoOnFrom = 1000000000;
 
+QString& ChosenFolder()
+{
+    static QString s_path;
+    return s_path;
+}
+
 JournalManager& Manager()
 {
     return JournalManager::GetInstance();
@@ -35,7 +41,13 @@ SessionJournal::SessionJournal(const Options& options)
 
 JournalFolder SessionJournal::GetFolder()
 {
-    return JournalFolder(DataFile(QStringLiteral("journals")));
+    const QString& chosen = ChosenFolder();
+    return JournalFolder(chosen.isEmpty() ? DataFile(QStringLiteral("journals")) : chosen);
+}
+
+void SessionJournal::SetFolder(const QString& path)
+{
+    ChosenFolder() = path;
 }
 
 bool SessionJournal::Reserve(std::string& error)
@@ -68,7 +80,7 @@ bool SessionJournal::SecureReplaced(std::string& error)
         GetFolder().TakeIn(QFileInfo(m_path).canonicalFilePath());
     if (!secured.has_value())
         error = m_path.toStdString() + " holds unsaved work, which cannot be moved to " +
-                DataFile(QStringLiteral("journals")).toStdString();
+                GetFolder().GetPath().toStdString();
     m_secured = secured.value_or(QString());
     return secured.has_value();
 }

@@ -24,8 +24,12 @@ class SessionJournal final
 public:
     explicit SessionJournal(const Options& options);
 
-    /// The folder of the journals that no option names.
+    /// The folder of the journals that no option names: "journals" in the user's data folder unless
+    /// another path is set.
     static JournalFolder GetFolder();
+
+    /// Sets that folder for the journals of this process; empty for the one in the data folder.
+    static void SetFolder(const QString& path);
 
     /// Reserves a file that is to be continued for this session before it is read. Returns false if
     /// that fails; `error` then says why in one sentence.

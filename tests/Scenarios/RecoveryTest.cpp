@@ -368,6 +368,17 @@ private slots:
         QVERIFY(!ReadBytes(options.journal).contains("\"point\""));
     }
 
+    void journalsGoToTheFolderThatIsChosen()
+    {
+        SessionJournal::SetFolder(m_pFixture->File("chosen"));
+
+        const QString path = SessionJournal(Options()).GetPath();
+
+        SessionJournal::SetFolder({});
+        QCOMPARE(QFileInfo(path).path(), m_pFixture->File("chosen"));
+        QVERIFY(SessionJournal(Options()).GetPath().contains("/journals/"));
+    }
+
 private:
     static QStringList Journals() { return SessionJournal::GetFolder().GetJournals(); }
 

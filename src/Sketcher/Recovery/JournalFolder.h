@@ -24,6 +24,8 @@ public:
     /// The folder is created when the first journal is put there.
     explicit JournalFolder(const QString& path) : m_path(path) {}
 
+    const QString& GetPath() const { return m_path; }
+
     /// The path of a journal that does not exist yet; creates the folder.
     QString NewPath() const;
 
