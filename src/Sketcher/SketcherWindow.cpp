@@ -135,7 +135,9 @@ void SketcherWindow::ShowDocument(const QString& name, bool isModified)
 {
     m_documentName = name;
     OnSketchChanged();
-    setWindowModified(isModified);
+    // Setting it again would send the title to the window manager again, after each step.
+    if (isModified != isWindowModified())
+        setWindowModified(isModified);
 }
 
 void SketcherWindow::ReleaseControls()
