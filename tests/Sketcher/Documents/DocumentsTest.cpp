@@ -206,6 +206,20 @@ private slots:
         QVERIFY(!m_pFixture->pDocuments->GetDocument().isReadOnly);
     }
 
+    void theOwnFileStaysLockedWhenItIsOpenedAgain()
+    {
+        DocumentsFixture& f = *m_pFixture;
+        QVERIFY(m_pFixture->OpenSample());
+
+        const bool isOpen = f.pDocuments->OpenFile(f.File("sample.vsk"));
+
+        QVERIFY(isOpen);
+        QVERIFY(QFileInfo::exists(f.File(".sample.vsk.lock")));
+        f.Draw();
+        f.Run(L"Sketcher.Save");
+        QVERIFY(!f.pDocuments->IsModified());
+    }
+
     void aLargeDrawingIsOpenedAndSavedWhileTheWindowLives()
     {
         DocumentsFixture& f = *m_pFixture;
