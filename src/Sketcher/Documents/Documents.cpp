@@ -177,8 +177,7 @@ bool Documents::OpenLocked(const QString& path, std::shared_ptr<DocumentLock> pL
         return false;
     if (!read.fault.isEmpty())
     {
-        Fail(QStringLiteral("无法打开“%1”").arg(QDir::toNativeSeparators(path)),
-             read.fault + read.details);
+        Fail(QStringLiteral("无法打开“%1”").arg(QDir::toNativeSeparators(path)), read.fault);
         return false;
     }
     m_prepared = Prepared{read.contentDigest, std::move(read.reading.content), read.reading.sum};

@@ -165,6 +165,29 @@ private slots:
         QVERIFY(!QFileInfo::exists(f.File(".bad.vsk.lock")));
     }
 
+    void aPathThatIsNoFileIsTold_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QString>("reason");
+
+        QTest::newRow("missing") << "none/a.vsk"
+                                 << "文件不存在。";
+        QTest::newRow("endless device") << "/dev/zero"
+                                        << "这不是普通文件。";
+    }
+
+    void aPathThatIsNoFileIsTold()
+    {
+        QFETCH(QString, path);
+        DocumentsFixture& f = *m_pFixture;
+        f.user.Press("确定");
+
+        const bool isOpen = f.pDocuments->OpenFile(QDir(f.folder.path()).absoluteFilePath(path));
+
+        QVERIFY(!isOpen);
+        QTEST(f.user.GetLastText().section("”", -1), "reason");
+    }
+
     void aFileThatIsOpenElsewhereIsToldAndOpenedReadOnly()
     {
         DocumentsFixture& f = *m_pFixture;
