@@ -1,5 +1,6 @@
 #include "Documents/Documents.h"
 
+#include "Documents/DocumentDialogs.h"
 #include "Documents/DocumentsFixture.h"
 #include "Model/Digest.h"
 #include "Model/Selection.h"
@@ -10,6 +11,7 @@
 #include <QDir>
 #include <QDropEvent>
 #include <QFileInfo>
+#include <QLabel>
 #include <QMenu>
 #include <QMimeData>
 #include <QSignalSpy>
@@ -163,6 +165,20 @@ private slots:
         QCOMPARE(f.pDocuments->GetDocument().GetName(), QString("sample"));
         QCOMPARE(f.sketch.GetEntities().size(), std::size_t(4));
         QVERIFY(!QFileInfo::exists(f.File(".bad.vsk.lock")));
+    }
+
+    void aMessageShowsWhatLooksLikeMarkupAsItIs()
+    {
+        bool isPlain = false;
+        m_pFixture->user.Do([&isPlain](QDialog& dialog) {
+            const auto* pDetails = dialog.findChild<QLabel*>("qt_msgbox_informativelabel");
+            isPlain = pDetails != nullptr && pDetails->textFormat() == Qt::PlainText;
+            dialog.reject();
+        });
+
+        DocumentDialogs::Tell(m_pFixture->pWindow.get(), "text", "<b>details</b>");
+
+        QVERIFY(isPlain);
     }
 
     void aPathThatIsNoFileIsTold_data()
