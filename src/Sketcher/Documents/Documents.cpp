@@ -17,7 +17,7 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QPointer>
-#include <QScopedValueRollback>
+#include <QScopeGuard>
 #include <QStandardPaths>
 #include <QUrl>
 
@@ -378,14 +378,15 @@ QString Documents::Suggest() const
 
 void Documents::RunWork(bool isLarge, const Work& work)
 {
-    const QPointer<Documents> pThis(this);
     m_isWorking = true;
+    const auto end = qScopeGuard([pThis = QPointer<Documents>(this)] {
+        if (pThis != nullptr)
+            pThis->m_isWorking = false;
+    });
     if (isLarge)
         m_runner(work);
     else
         work({});
-    if (pThis != nullptr)
-        m_isWorking = false;
 }
 
 /// Says once why something failed: to the user or, if there is none, on standard error.

@@ -17,6 +17,8 @@
 #include <QSignalSpy>
 #include <QUrl>
 
+#include <stdexcept>
+
 using Manners = Documents::Manners;
 
 class DocumentsTest final : public QObject
@@ -285,6 +287,17 @@ private slots:
         QVERIFY(!isOpen);
         QCOMPARE(f.pDocuments->GetDocument().GetName(), QString("sample"));
         QCOMPARE(f.sketch.GetEntities().size(), std::size_t(4));
+    }
+
+    void theWindowCanBeClosedAfterWorkThatFails()
+    {
+        DocumentsFixture& f = *m_pFixture;
+        f.progress = [](std::size_t, std::size_t) -> bool { throw std::runtime_error("failed"); };
+        const QString path = f.MakeFile("large.vsk", MakeRandomContent(1, 9000));
+
+        QVERIFY_EXCEPTION_THROWN(f.pDocuments->OpenFile(path), std::runtime_error);
+
+        QVERIFY(f.pWindow->close());
     }
 
     void aFileDroppedOnTheWindowIsOpened()
