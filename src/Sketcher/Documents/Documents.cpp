@@ -58,6 +58,25 @@ QString TextOf(const CommandParameters& parameters, const wchar_t* name)
     return pText != nullptr ? ToQString(*pText) : QString();
 }
 
+/// A name that files may have on any system, as similar to another as possible.
+QString ToFileName(const QString& name)
+{
+    // With three bytes a character well below what file systems allow.
+    constexpr int GreatestLength = 60;
+    const QString reserved = QStringLiteral("/\\:*?\"<>|");
+    QString result = name.simplified().left(GreatestLength);
+    if (!result.isEmpty() && result.at(result.size() - 1).isHighSurrogate())
+        result.chop(1);
+    for (QChar& c : result)
+    {
+        if (c.category() == QChar::Other_Control || reserved.contains(c))
+            c = QLatin1Char('_');
+    }
+    if (result.startsWith(QLatin1Char('.'))) // It would be hidden.
+        result.front() = QLatin1Char('_');
+    return result.isEmpty() ? QStringLiteral("图纸") : result;
+}
+
 /// The drawing file that is being dragged; empty if it is something else.
 QString DraggedFile(const QDropEvent& event)
 {
@@ -370,10 +389,7 @@ QString Documents::Suggest() const
     const QString folder = recent.isEmpty()
                                ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
                                : QFileInfo(recent.front()).path();
-    QString name = GetShownName();
-    for (const QChar c : QStringLiteral("/\\:*?\"<>|"))
-        name.replace(c, QLatin1Char('_'));
-    return folder + QLatin1Char('/') + name + EndingOfDrawings();
+    return folder + QLatin1Char('/') + ToFileName(GetShownName()) + EndingOfDrawings();
 }
 
 void Documents::RunWork(bool isLarge, const Work& work)

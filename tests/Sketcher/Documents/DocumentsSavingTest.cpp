@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QLineEdit>
 
 /// What is saved, and what is asked before.
 class DocumentsSavingTest final : public QObject
@@ -96,6 +97,45 @@ private slots:
         f.Run(L"Sketcher.Save");
 
         QCOMPARE(vesk::ReadBytes(f.File("未命名.vsk")), QByteArray("old"));
+    }
+
+    void theSuggestedNameSuitsAnyFileSystem_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("suggested");
+
+        QTest::newRow("plain") << "支架 2"
+                               << "支架 2.vsk";
+        QTest::newRow("none") << ""
+                              << "图纸.vsk";
+        QTest::newRow("blanks") << " \n "
+                                << "图纸.vsk";
+        QTest::newRow("reserved") << "a/b\\c:d*e"
+                                  << "a_b_c_d_e.vsk";
+        QTest::newRow("line break") << "a\nb"
+                                    << "a b.vsk";
+        QTest::newRow("control") << QString("a") + QChar(0) + "b"
+                                 << "a_b.vsk";
+        QTest::newRow("hidden") << "..a"
+                                << "_.a.vsk";
+        QTest::newRow("long") << QString(300, u'图') << QString(60, u'图') + ".vsk";
+        QTest::newRow("half a character") << QString(59, u'a') + "📐b" << QString(59, u'a') + ".vsk";
+    }
+
+    void theSuggestedNameSuitsAnyFileSystem()
+    {
+        QFETCH(QString, name);
+        DocumentsFixture& f = *m_pFixture;
+        f.sketch.SetName(name.toStdWString());
+        QString suggested;
+        f.user.Do([&suggested](QDialog& dialog) {
+            suggested = dialog.findChild<QLineEdit*>("fileNameEdit")->text();
+            dialog.reject();
+        });
+
+        f.Run(L"Sketcher.SaveAs");
+
+        QTEST(suggested, "suggested");
     }
 
     void theOwnFileIsReplacedWithoutAQuestion()
