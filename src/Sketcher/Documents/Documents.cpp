@@ -114,11 +114,9 @@ void Documents::New()
 
 void Documents::Open()
 {
-    if (JournalReplayer::IsReplaying())
-        return;
     const QPointer<Documents> pThis(this);
     QString path = std::exchange(m_nextPath, QString());
-    if (!MayReplace() || pThis == nullptr)
+    if (JournalReplayer::IsReplaying() || !MayReplace() || pThis == nullptr)
         return;
     if (path.isEmpty() && m_manners != Manners::Silent)
         path = AskForFileToOpen(&m_window, QFileInfo(Suggest()).path());
