@@ -38,6 +38,39 @@ private slots:
         QCOMPARE(RecentFiles().Get(), QStringList{f.File("part.vsk")});
     }
 
+    void aFileOfAnyNameIsSavedAndOpenedAgain()
+    {
+        DocumentsFixture& f = *m_pFixture;
+        const QString path = f.File("50 %1 “图”.vsk");
+        f.Draw();
+        f.user.ChooseFile(path);
+        f.Run(L"Sketcher.Save");
+        f.Run(L"Sketcher.New");
+
+        const bool isOpen = f.pDocuments->OpenFile(path);
+
+        QVERIFY(isOpen);
+        QCOMPARE(f.pDocuments->GetDocument().GetName(), QString("50 %1 “图”"));
+        QCOMPARE(f.sketch.GetEntities().size(), std::size_t(1));
+    }
+
+    void savingGoesThroughALinkAndKeepsThePermissions()
+    {
+        DocumentsFixture& f = *m_pFixture;
+        const QString file = f.MakeFile("sample.vsk");
+        const QString link = f.File("link.vsk");
+        const QFile::Permissions permissions = QFile::ReadOwner | QFile::WriteOwner;
+        QVERIFY(QFile::setPermissions(file, permissions) && QFile::link(file, link));
+        QVERIFY(f.pDocuments->OpenFile(link));
+        f.Draw();
+
+        f.Run(L"Sketcher.Save");
+
+        QCOMPARE(QFileInfo(link).symLinkTarget(), file);
+        QCOMPARE(vesk::ReadBytes(file).toStdString(), DocumentFile::ToText(f.sketch.GetContent()));
+        QVERIFY(!(QFile::permissions(file) & (QFile::ReadGroup | QFile::ReadOther)));
+    }
+
     void aNameWithoutEndingGetsIt()
     {
         DocumentsFixture& f = *m_pFixture;
