@@ -63,6 +63,12 @@ public:
     const QStringList& GetUnexpected() const { return m_unexpected; }
     bool HasAnswersLeft() const { return !m_answers.empty(); }
 
+    /// The unexpected dialogs, and a remark if answers are left that no dialog has asked for.
+    QStringList GetFaults() const
+    {
+        return m_unexpected + (HasAnswersLeft() ? QStringList("an answer is left") : QStringList());
+    }
+
 private:
     /// A timer of its own for each look, since an answer may open another dialog.
     void Schedule() { QTimer::singleShot(1, this, &DialogUser::Look); }

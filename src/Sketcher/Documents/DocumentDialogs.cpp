@@ -2,6 +2,7 @@
 
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
@@ -14,7 +15,9 @@ QPointer<QMessageBox> MakeBox(QWidget* pParent, QMessageBox::Icon icon, const QS
 {
     auto* pBox = new QMessageBox(icon, QStringLiteral("Sketcher"), text, {}, pParent);
     pBox->setInformativeText(details);
-    pBox->setTextFormat(Qt::PlainText);
+    // What comes from a file may look like markup; the box's own format is not for the details.
+    for (auto* pLabel : pBox->findChildren<QLabel*>())
+        pLabel->setTextFormat(Qt::PlainText);
     return pBox;
 }
 

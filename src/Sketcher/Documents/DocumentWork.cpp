@@ -1,10 +1,10 @@
 #include "Documents/DocumentWork.h"
 
+#include "Model/FileContent.h"
 #include "Model/KeptContent.h"
 
 #include "Foundation/FileRewriting.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <QStorageInfo>
 
@@ -16,9 +16,6 @@
 
 namespace
 {
-
-/// More than a text in memory can hold.
-constexpr qint64 GreatestSize = 1 << 30;
 
 QString DamageOf(const DocumentReading& reading)
 {
@@ -48,16 +45,12 @@ QString WhyNotWritten(const QString& path, qint64 size)
 DocumentWork::Read ReadWhole(const QString& path, const DocumentFile::Progress& progress)
 {
     DocumentWork::Read result;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly) || file.size() > GreatestSize)
-    {
-        result.fault = QStringLiteral("无法读取文件。");
-        result.details = file.isOpen() ? QStringLiteral("文件太大。") : file.errorString();
-        return result;
-    }
     // Older than what is read, so that a later change is noticed.
     const QDateTime modified = QFileInfo(path).lastModified();
-    const QByteArray bytes = file.readAll();
+    const auto [bytes, fault] = FileContent::Of(path);
+    result.fault = CaptionOf(fault);
+    if (fault != FileContent::Fault::None)
+        return result;
     result.stamp = FileStamp::Of(path, bytes);
     result.stamp.modified = modified;
     result.stamp.size = bytes.size();

@@ -15,9 +15,6 @@
 namespace
 {
 
-/// Leaves ids for what will be drawn.
-constexpr int GreatestId = 2000000000;
-
 const PenPart& ColourPart()
 {
     static const PenPart& s_colours =
@@ -82,8 +79,8 @@ DocumentReading DocumentReader::ReadContent(DocumentFields& fields)
 {
     const JsonPiece digest = fields.Take("digest");
     m_content.name = vesk::FromUtf8(fields.TakeText("name"));
-    m_content.lastId = fields.TakeInteger("lastId", 0, GreatestId);
-    m_content.lastLayerId = fields.TakeInteger("lastLayerId", 0, GreatestId);
+    m_content.lastId = fields.TakeInteger("lastId", 0, SketchContent::GreatestId);
+    m_content.lastLayerId = fields.TakeInteger("lastLayerId", 0, SketchContent::GreatestId);
     ReadLayers(fields.Take("layers"));
     ReadCurrentPen(fields.Take("pen"));
     DocumentReading reading;

@@ -4,13 +4,11 @@
 
 #include "HostUi/QtText.h"
 
-#include <QUndoCommand>
-
 #include <QSignalBlocker>
+#include <QUndoCommand>
 
 #include <algorithm>
 #include <cstddef>
-#include <limits>
 #include <memory>
 #include <set>
 #include <utility>
@@ -27,7 +25,7 @@ SketchContent NewContent()
     return content;
 }
 
-constexpr int GreatestId = std::numeric_limits<int>::max();
+constexpr int GreatestId = SketchContent::GreatestId;
 
 }
 
@@ -81,7 +79,7 @@ std::vector<int> Sketch::Add(const std::vector<PenShape>& shapes, const std::wst
     return arePossible ? AddEntities(shapes, {}, stepName) : std::vector<int>();
 }
 
-/// Draws the shapes in one step with other changes, of layers.
+/// Draws the shapes in one step with a change that adds layers.
 std::vector<int> Sketch::AddEntities(const std::vector<PenShape>& shapes, SketchChange change,
                                      const std::wstring& stepName)
 {
@@ -98,6 +96,8 @@ std::vector<int> Sketch::AddEntities(const std::vector<PenShape>& shapes, Sketch
         change.entities.emplace_hint(change.entities.end(), ids.back(),
                                      Entity{ids.back(), shape, pen});
     }
+    if (!change.layers.empty())
+        m_content.lastLayerId = change.layers.rbegin()->first;
     Push(std::move(change), ids.front(), stepName);
     return ids;
 }
@@ -115,10 +115,7 @@ std::vector<int> Sketch::Insert(const SketchContent& content, const std::wstring
         shapes.emplace_back(entity.shape, entity.pen);
         shapes.back().second.layer = layerIds.at(entity.pen.layer);
     }
-    const int layerCount = static_cast<int>(change.layers.size());
-    const std::vector<int> ids = AddEntities(shapes, std::move(change), stepName);
-    m_content.lastLayerId += ids.empty() ? 0 : layerCount;
-    return ids;
+    return AddEntities(shapes, std::move(change), stepName);
 }
 
 /// The layers of this drawing for those with entities of another, by their ids there; notes in the

@@ -1,5 +1,6 @@
 #include "Output/ImportCommands.h"
 
+#include "Model/FileContent.h"
 #include "Model/KeptContent.h"
 #include "Model/Workspace.h"
 #include "Output/DxfImport.h"
@@ -10,7 +11,6 @@
 #include "HostUi/QtText.h"
 #include "Journal/CommandParameters.h"
 
-#include <QFile>
 #include <QFileInfo>
 
 #include <string_view>
@@ -94,11 +94,11 @@ std::optional<DxfImport> ImportCommands::Read(const QString& path, QString unit)
 {
     DxfImport read;
     const auto work = [&](const OutputProgress& progress) {
-        QFile file(path);
-        if (!file.open(QIODevice::ReadOnly))
+        const FileContent file = FileContent::Of(path);
+        if (file.fault != FileContent::Fault::None)
             read.fault = OutputFault::CannotRead;
         else
-            read = ImportDxf(file.readAll(), unit, progress);
+            read = ImportDxf(file.bytes, unit, progress);
         m_pending = Pending{std::nullopt, ReadDocument(read.document).content};
         if (!m_pending->content.entities.empty())
             m_pending->digest = KeptContent::Get().Keep(read.document);

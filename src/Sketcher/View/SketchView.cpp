@@ -225,10 +225,14 @@ void SketchView::PaintGridLines(QPainter& painter, double step, const QColor& co
     const auto startOfPixel = [scale](double place) {
         return std::floor(place * scale + Nudge) / scale;
     };
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing, false);
     const Vector3d topLeft = GetCamera().ScreenToWorld(0, 0);
     const Vector3d bottomRight = GetCamera().ScreenToWorld(width(), height());
+    // So far away a line and the next one have the same number.
+    constexpr double GreatestNumber = 1e15;
+    if (topLeft.cwiseAbs().cwiseMax(bottomRight.cwiseAbs()).maxCoeff() > GreatestNumber * step)
+        return;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing, false);
     for (double i = std::ceil(topLeft.x() / step); i * step <= bottomRight.x(); ++i)
     {
         const double x = startOfPixel(ToPixel({i * step, 0.0, 0.0}).x());

@@ -1,5 +1,6 @@
 #include "Documents/Documents.h"
 
+#include "Documents/DocumentDialogs.h"
 #include "Documents/DocumentsFixture.h"
 #include "Model/Digest.h"
 #include "Model/Selection.h"
@@ -10,10 +11,13 @@
 #include <QDir>
 #include <QDropEvent>
 #include <QFileInfo>
+#include <QLabel>
 #include <QMenu>
 #include <QMimeData>
 #include <QSignalSpy>
 #include <QUrl>
+
+#include <stdexcept>
 
 using Manners = Documents::Manners;
 
@@ -26,11 +30,9 @@ private slots:
 
     void cleanup()
     {
-        const QStringList unexpected = m_pFixture->user.GetUnexpected();
-        const bool isAnswerLeft = m_pFixture->user.HasAnswersLeft();
+        const QStringList faults = m_pFixture->user.GetFaults();
         m_pFixture.reset();
-        QCOMPARE(unexpected.join(QLatin1Char('|')), QString());
-        QVERIFY(!isAnswerLeft);
+        QCOMPARE(faults, QStringList());
     }
 
     void aNewDrawingHasNoFileAndIsNotModified()
@@ -59,7 +61,7 @@ private slots:
         QFETCH(QString, act);
         QFETCH(QString, answer);
         DocumentsFixture& f = *m_pFixture;
-        OpenSample();
+        QVERIFY(m_pFixture->OpenSample());
         f.pWindow->show();
         const QByteArray before = vesk::ReadBytes(f.File("sample.vsk"));
         f.Draw();
@@ -101,7 +103,7 @@ private slots:
     {
         m_pFixture.reset();
         m_pFixture = std::make_unique<DocumentsFixture>(Manners::Silent);
-        OpenSample();
+        QVERIFY(m_pFixture->OpenSample());
         m_pFixture->Draw();
         m_pFixture->Run(L"Sketcher.SaveAs");
         m_pFixture->Run(L"Sketcher.Open");
@@ -155,7 +157,7 @@ private slots:
         DocumentsFixture& f = *m_pFixture;
         const QString path = f.File("bad.vsk");
         QVERIFY(vesk::WriteBytes(path, bytes));
-        OpenSample();
+        QVERIFY(m_pFixture->OpenSample());
         f.user.ChooseFile(path).Press("确定");
 
         f.Run(L"Sketcher.Open");
@@ -165,6 +167,43 @@ private slots:
         QCOMPARE(f.pDocuments->GetDocument().GetName(), QString("sample"));
         QCOMPARE(f.sketch.GetEntities().size(), std::size_t(4));
         QVERIFY(!QFileInfo::exists(f.File(".bad.vsk.lock")));
+    }
+
+    void aMessageShowsWhatLooksLikeMarkupAsItIs()
+    {
+        bool isPlain = false;
+        m_pFixture->user.Do([&isPlain](QDialog& dialog) {
+            const auto* pDetails = dialog.findChild<QLabel*>("qt_msgbox_informativelabel");
+            isPlain = pDetails != nullptr && pDetails->textFormat() == Qt::PlainText;
+            dialog.reject();
+        });
+
+        DocumentDialogs::Tell(m_pFixture->pWindow.get(), "text", "<b>details</b>");
+
+        QVERIFY(isPlain);
+    }
+
+    void aPathThatIsNoFileIsTold_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QString>("reason");
+
+        QTest::newRow("missing") << "none/a.vsk"
+                                 << "文件不存在。";
+        QTest::newRow("endless device") << "/dev/zero"
+                                        << "这不是普通文件。";
+    }
+
+    void aPathThatIsNoFileIsTold()
+    {
+        QFETCH(QString, path);
+        DocumentsFixture& f = *m_pFixture;
+        f.user.Press("确定");
+
+        const bool isOpen = f.pDocuments->OpenFile(QDir(f.folder.path()).absoluteFilePath(path));
+
+        QVERIFY(!isOpen);
+        QTEST(f.user.GetLastText().section("”", -1), "reason");
     }
 
     void aFileThatIsOpenElsewhereIsToldAndOpenedReadOnly()
@@ -198,7 +237,7 @@ private slots:
 
     void theOwnFileCanBeOpenedAgain()
     {
-        OpenSample();
+        QVERIFY(m_pFixture->OpenSample());
         m_pFixture->Draw();
         m_pFixture->user.Press("不保存").ChooseFile(m_pFixture->File("sample.vsk"));
 
@@ -206,6 +245,20 @@ private slots:
 
         QCOMPARE(m_pFixture->sketch.GetEntities().size(), std::size_t(4));
         QVERIFY(!m_pFixture->pDocuments->GetDocument().isReadOnly);
+    }
+
+    void theOwnFileStaysLockedWhenItIsOpenedAgain()
+    {
+        DocumentsFixture& f = *m_pFixture;
+        QVERIFY(m_pFixture->OpenSample());
+
+        const bool isOpen = f.pDocuments->OpenFile(f.File("sample.vsk"));
+
+        QVERIFY(isOpen);
+        QVERIFY(QFileInfo::exists(f.File(".sample.vsk.lock")));
+        f.Draw();
+        f.Run(L"Sketcher.Save");
+        QVERIFY(!f.pDocuments->IsModified());
     }
 
     void aLargeDrawingIsOpenedAndSavedWhileTheWindowLives()
@@ -225,7 +278,7 @@ private slots:
     void cancelledOpeningChangesNothing()
     {
         DocumentsFixture& f = *m_pFixture;
-        OpenSample();
+        QVERIFY(m_pFixture->OpenSample());
         f.progress = [](std::size_t done, std::size_t) { return done < 100; };
 
         const bool isOpen =
@@ -234,6 +287,17 @@ private slots:
         QVERIFY(!isOpen);
         QCOMPARE(f.pDocuments->GetDocument().GetName(), QString("sample"));
         QCOMPARE(f.sketch.GetEntities().size(), std::size_t(4));
+    }
+
+    void theWindowCanBeClosedAfterWorkThatFails()
+    {
+        DocumentsFixture& f = *m_pFixture;
+        f.progress = [](std::size_t, std::size_t) -> bool { throw std::runtime_error("failed"); };
+        const QString path = f.MakeFile("large.vsk", MakeRandomContent(1, 9000));
+
+        QVERIFY_EXCEPTION_THROWN(f.pDocuments->OpenFile(path), std::runtime_error);
+
+        QVERIFY(f.pWindow->close());
     }
 
     void aFileDroppedOnTheWindowIsOpened()
@@ -252,7 +316,7 @@ private slots:
     void aRecentFileIsOpenedFromTheMenu()
     {
         DocumentsFixture& f = *m_pFixture;
-        OpenSample();
+        QVERIFY(m_pFixture->OpenSample());
         f.Run(L"Sketcher.New");
         f.pWindow->show();
         f.Run(L"Sketcher.Recent");
@@ -269,7 +333,7 @@ private slots:
     {
         DocumentsFixture& f = *m_pFixture;
         const QByteArray bytes = vesk::ReadBytes(f.MakeFile("sample.vsk"));
-        OpenSample();
+        QVERIFY(m_pFixture->OpenSample());
         f.Run(L"Sketcher.Save");
         f.Run(L"Sketcher.New");
 
@@ -289,7 +353,7 @@ private slots:
     void aReplayChecksInsteadOfSaving()
     {
         DocumentsFixture& f = *m_pFixture;
-        OpenSample();
+        QVERIFY(m_pFixture->OpenSample());
         const QByteArray before = vesk::ReadBytes(f.File("sample.vsk"));
         vesk::CommandParameters parameters;
         parameters.Add(L"digest", vesk::CommandParameterValue(std::wstring(64, L'0')));
@@ -341,12 +405,6 @@ private slots:
     }
 
 private:
-    void OpenSample(const QString& name = "sample.vsk")
-    {
-        QVERIFY(QDir().mkpath(QFileInfo(m_pFixture->File(name)).path()));
-        QVERIFY(m_pFixture->pDocuments->OpenFile(m_pFixture->MakeFile(name)));
-    }
-
     bool Drop(const QString& path)
     {
         QMimeData data;
