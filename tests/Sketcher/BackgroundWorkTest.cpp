@@ -4,11 +4,15 @@
 #include "Support/TestValues.h"
 
 #include <QCloseEvent>
+#include <QDialog>
 #include <QDockWidget>
+#include <QDropEvent>
 #include <QKeyEvent>
 #include <QMainWindow>
+#include <QMimeData>
 #include <QPushButton>
 #include <QTimer>
+#include <QtTest/qtestspontaneevent.h>
 
 #include <atomic>
 #include <stdexcept>
@@ -27,6 +31,25 @@ struct WindowFixture
 
     QMainWindow window;
     vesk::ProgressBarDefinition progress{L"progress"};
+};
+
+/// Counts the drops that reach a window.
+class DropCounter final : public QObject
+{
+public:
+    explicit DropCounter(QObject& window) { window.installEventFilter(this); }
+
+    int GetCount() const { return m_count; }
+
+protected:
+    bool eventFilter(QObject*, QEvent* pEvent) override
+    {
+        m_count += pEvent->type() == QEvent::Drop ? 1 : 0;
+        return false;
+    }
+
+private:
+    int m_count = 0;
 };
 
 /// Waits in the other thread until the window's thread has done something, or cancels.
@@ -100,6 +123,58 @@ private slots:
         QVERIFY(!RunInBackground(f.window, &f.progress,
                                  [&never](WorkProgress& progress) { WaitFor(never, progress); }));
         QVERIFY(!f.window.isVisible());
+    }
+
+    void aUserWhoClosesTheWindowIsAskedOnceTheWorkHasEnded()
+    {
+        WindowFixture f;
+        const std::atomic<bool> never{false};
+        QTimer::singleShot(0, &f.window, [&f] {
+            QCloseEvent close;
+            QSpontaneKeyEvent::setSpontaneous(&close);
+            qApp->notify(&f.window, &close);
+        });
+
+        QVERIFY(!RunInBackground(f.window, &f.progress,
+                                 [&never](WorkProgress& progress) { WaitFor(never, progress); }));
+        QVERIFY(f.window.isVisible());
+        QTRY_VERIFY(!f.window.isVisible());
+    }
+
+    void aDialogThatIsShownMeanwhileCanBeAnswered()
+    {
+        WindowFixture f;
+        QDialog dialog(&f.window);
+        std::atomic<bool> isAnswered{false};
+        QObject::connect(&dialog, &QDialog::rejected, &f.window, [&] { isAnswered = true; });
+        QTimer::singleShot(0, &f.window, [&] {
+            dialog.open();
+            QTest::keyClick(&dialog, Qt::Key_Escape);
+        });
+
+        QVERIFY(RunInBackground(f.window, &f.progress, [&isAnswered](WorkProgress& progress) {
+            WaitFor(isAnswered, progress);
+        }));
+        QVERIFY(isAnswered);
+    }
+
+    void nothingCanBeDropped()
+    {
+        WindowFixture f;
+        f.window.setAcceptDrops(true);
+        QMimeData data;
+        std::atomic<bool> isDropped{false};
+        const DropCounter drops(f.window);
+        QTimer::singleShot(0, &f.window, [&] {
+            QDropEvent drop(QPointF(), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(&f.window, &drop);
+            isDropped = true;
+        });
+
+        RunInBackground(f.window, &f.progress,
+                        [&isDropped](WorkProgress& progress) { WaitFor(isDropped, progress); });
+
+        QCOMPARE(drops.GetCount(), 0);
     }
 
     void otherKeysDoNothing()
