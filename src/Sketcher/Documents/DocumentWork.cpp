@@ -45,14 +45,26 @@ QString WhyNotWritten(const QString& path, qint64 size)
                                               : QStringLiteral("写入时出错，原文件保持不变。");
 }
 
+/// Opens a file to be read. Returns why that is impossible; empty if it is open.
+QString WhyNotRead(QFile& file)
+{
+    // Opening a pipe would wait for somebody to write into it, and a device has no end.
+    const QFileInfo info(file.fileName());
+    if (info.exists() && !info.isFile())
+        return QStringLiteral("这不是普通文件。");
+    if (!file.open(QIODevice::ReadOnly))
+        return file.errorString();
+    return file.size() > GreatestSize ? QStringLiteral("文件太大。") : QString();
+}
+
 DocumentWork::Read ReadWhole(const QString& path, const DocumentFile::Progress& progress)
 {
     DocumentWork::Read result;
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly) || file.size() > GreatestSize)
+    result.details = WhyNotRead(file);
+    if (!result.details.isEmpty())
     {
         result.fault = QStringLiteral("无法读取文件。");
-        result.details = file.isOpen() ? QStringLiteral("文件太大。") : file.errorString();
         return result;
     }
     // Older than what is read, so that a later change is noticed.

@@ -12,6 +12,7 @@
 #include <QFileInfo>
 #include <QMenu>
 #include <QMimeData>
+#include <QProcess>
 #include <QSignalSpy>
 #include <QUrl>
 
@@ -165,6 +166,19 @@ private slots:
         QCOMPARE(f.pDocuments->GetDocument().GetName(), QString("sample"));
         QCOMPARE(f.sketch.GetEntities().size(), std::size_t(4));
         QVERIFY(!QFileInfo::exists(f.File(".bad.vsk.lock")));
+    }
+
+    void aPipeIsNotOpened()
+    {
+        DocumentsFixture& f = *m_pFixture;
+        const QString path = f.File("pipe.vsk");
+        if (QProcess::execute("mkfifo", {path}) != 0)
+            QSKIP("no pipes in folders");
+        f.user.ChooseFile(path).Press("确定");
+
+        f.Run(L"Sketcher.Open");
+
+        QCOMPARE(f.user.GetLastText(), "无法打开“" + path + "”无法读取文件。这不是普通文件。");
     }
 
     void aFileThatIsOpenElsewhereIsToldAndOpenedReadOnly()
