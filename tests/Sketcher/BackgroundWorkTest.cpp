@@ -4,6 +4,7 @@
 #include "Support/TestValues.h"
 
 #include <QCloseEvent>
+#include <QDialog>
 #include <QDockWidget>
 #include <QDropEvent>
 #include <QKeyEvent>
@@ -11,6 +12,7 @@
 #include <QMimeData>
 #include <QPushButton>
 #include <QTimer>
+#include <QtTest/qtestspontaneevent.h>
 
 #include <atomic>
 #include <stdexcept>
@@ -115,6 +117,39 @@ private slots:
         QVERIFY(!RunInBackground(f.window, &f.progress,
                                  [&never](WorkProgress& progress) { WaitFor(never, progress); }));
         QVERIFY(!f.window.isVisible());
+    }
+
+    void aUserWhoClosesTheWindowIsAskedOnceTheWorkHasEnded()
+    {
+        WindowFixture f;
+        const std::atomic<bool> never{false};
+        QTimer::singleShot(0, &f.window, [&f] {
+            QCloseEvent close;
+            QSpontaneKeyEvent::setSpontaneous(&close);
+            qApp->notify(&f.window, &close);
+        });
+
+        QVERIFY(!RunInBackground(f.window, &f.progress,
+                                 [&never](WorkProgress& progress) { WaitFor(never, progress); }));
+        QVERIFY(f.window.isVisible());
+        QTRY_VERIFY(!f.window.isVisible());
+    }
+
+    void aDialogThatIsShownMeanwhileCanBeAnswered()
+    {
+        WindowFixture f;
+        QDialog dialog(&f.window);
+        std::atomic<bool> isAnswered{false};
+        QObject::connect(&dialog, &QDialog::rejected, &f.window, [&] { isAnswered = true; });
+        QTimer::singleShot(0, &f.window, [&] {
+            dialog.open();
+            QTest::keyClick(&dialog, Qt::Key_Escape);
+        });
+
+        QVERIFY(RunInBackground(f.window, &f.progress, [&isAnswered](WorkProgress& progress) {
+            WaitFor(isAnswered, progress);
+        }));
+        QVERIFY(isAnswered);
     }
 
     void otherKeysDoNothing()
