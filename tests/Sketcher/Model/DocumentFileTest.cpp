@@ -312,6 +312,27 @@ private slots:
         QCOMPARE(reading.error, std::string("nested too deeply"));
     }
 
+    void bracketsMayBe32Deep_data()
+    {
+        QTest::addColumn<int>("depth");
+        QTest::addColumn<bool>("isWhole");
+
+        QTest::newRow("32") << 32 << true;
+        QTest::newRow("33") << 33 << false;
+    }
+
+    void bracketsMayBe32Deep()
+    {
+        QFETCH(int, depth);
+        // One of them is that of the drawing.
+        const auto inside = static_cast<std::size_t>(depth - 1);
+        const std::string field = std::string(inside, '[') + std::string(inside, ']');
+        const std::string text =
+            Replaced(DocumentFile::ToText({}), "\n]}", "\n],\"a\":" + field + '}');
+
+        QTEST(IsWhole(text), "isWhole");
+    }
+
     void noDamagedByteChangesTheDrawingUnnoticed()
     {
         const SketchContent content = WithUnknownFields();
