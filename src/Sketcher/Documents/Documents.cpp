@@ -164,7 +164,8 @@ bool Documents::OpenFile(const QString& path)
     return pThis != nullptr && !m_isEnding && OpenLocked(path, pLock, isInUse);
 }
 
-bool Documents::OpenLocked(const QString& path, const std::shared_ptr<DocumentLock>& pLock,
+/// Keeps the lock while the command leaves the file before.
+bool Documents::OpenLocked(const QString& path, std::shared_ptr<DocumentLock> pLock,
                            bool isReadOnly)
 {
     const QPointer<Documents> pThis(this);
@@ -185,7 +186,7 @@ bool Documents::OpenLocked(const QString& path, const std::shared_ptr<DocumentLo
     if (pThis == nullptr)
         return false;
     m_document = {QFileInfo(path).absoluteFilePath(), read.reading.digest, read.stamp, isReadOnly,
-                  pLock};
+                  std::move(pLock)};
     m_recent.Add(path);
     NoteLock();
     OnSketchChanged();

@@ -98,8 +98,7 @@ private:
     bool SaveAsWithQuestions();
     bool SaveTo(const QString& path);
     bool Write(const QString& path);
-    bool OpenLocked(const QString& path, const std::shared_ptr<DocumentLock>& pLock,
-                    bool isReadOnly);
+    bool OpenLocked(const QString& path, std::shared_ptr<DocumentLock> pLock, bool isReadOnly);
     bool IsCurrent(const QString& path) const;
     QString GetShownName() const;
     QString Suggest() const;

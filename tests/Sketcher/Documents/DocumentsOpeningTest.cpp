@@ -186,6 +186,8 @@ private slots:
 
         QCOMPARE(m_pFixture->sketch.GetEntities().size(), std::size_t(4));
         QVERIFY(!m_pFixture->pDocuments->GetDocument().isReadOnly);
+        QCOMPARE(DocumentLock(m_pFixture->File("sample.vsk")).GetState(),
+                 DocumentLock::State::InUse);
     }
 
     void aLargeDrawingIsOpenedAndSavedWhileTheWindowLives()
