@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLineEdit>
+#include <QStatusBar>
 
 /// What is saved, and what is asked before.
 class DocumentsSavingTest final : public QObject
@@ -36,6 +37,8 @@ private slots:
         QCOMPARE(f.pDocuments->GetDocument().GetName(), QString("part"));
         QVERIFY(!f.pDocuments->IsModified());
         QCOMPARE(RecentFiles().Get(), QStringList{f.File("part.vsk")});
+        QVERIFY(QFileInfo::exists(f.File(".part.vsk.lock")));
+        QCOMPARE(f.pWindow->statusBar()->currentMessage(), "已保存 " + f.File("part.vsk"));
     }
 
     void aFileOfAnyNameIsSavedAndOpenedAgain()
@@ -86,6 +89,8 @@ private slots:
         DocumentsFixture& f = *m_pFixture;
         QVERIFY(m_pFixture->OpenSample());
         f.Draw();
+        f.Run(L"Sketcher.Save");
+        f.Draw();
 
         f.Run(L"Sketcher.Save");
 
@@ -117,6 +122,46 @@ private slots:
         QCOMPARE(f.user.GetLastText(), QString("“old.vsk”已经存在。替换会丢失它现在的内容。"));
         QTEST(vesk::ReadBytes(f.File("old.vsk")) != "old", "isReplaced");
         QTEST(!f.pDocuments->IsModified(), "isReplaced");
+    }
+
+    void nothingIsSavedIfNoFileIsChosen()
+    {
+        DocumentsFixture& f = *m_pFixture;
+        QVERIFY(m_pFixture->OpenSample());
+        f.Run(L"Sketcher.New");
+        f.Draw();
+        f.user.Cancel();
+
+        f.Run(L"Sketcher.Save");
+
+        QCOMPARE(QDir(f.folder.path()).entryList({"*.vsk"}), QStringList{"sample.vsk"});
+        QVERIFY(f.pDocuments->IsModified());
+    }
+
+    void aNameThatNoFileCanHaveIsSuggestedWithoutWhatItCannotHave()
+    {
+        DocumentsFixture& f = *m_pFixture;
+        QVERIFY(m_pFixture->OpenSample());
+        f.Run(L"Sketcher.New");
+        f.sketch.SetName(L"a/b:c");
+        f.user.Do([](QDialog& dialog) { dialog.accept(); });
+
+        f.Run(L"Sketcher.Save");
+
+        QCOMPARE(f.pDocuments->GetDocument().path, f.File("a_b_c.vsk"));
+    }
+
+    void aWindowWhoseDrawingCannotBeSavedStays()
+    {
+        DocumentsFixture& f = *m_pFixture;
+        QVERIFY(m_pFixture->OpenSample("gone/sample.vsk"));
+        f.Draw();
+        QVERIFY(QDir(f.File("gone")).removeRecursively());
+        f.user.Press("保存").Press("确定");
+
+        QVERIFY(!f.pWindow->close());
+
+        QVERIFY(f.pDocuments->IsModified());
     }
 
     void aSuggestedFileThatExistsIsNotReplacedUnasked()
@@ -245,6 +290,33 @@ private slots:
         QVERIFY(f.user.GetLastText().startsWith("“sample.vsk”打开之后已被其他程序修改。"));
         QTEST(vesk::ReadBytes(f.File("sample.vsk")) != "changed", "isReplaced");
         QTEST(!f.pDocuments->IsModified(), "isReplaced");
+    }
+
+    void aFileThatWasChangedElsewhereIsNotReplacedIfNobodyIsThere()
+    {
+        m_pFixture.reset();
+        m_pFixture = std::make_unique<DocumentsFixture>(Documents::Manners::Silent);
+        DocumentsFixture& f = *m_pFixture;
+        QVERIFY(m_pFixture->OpenSample());
+        QVERIFY(vesk::WriteBytes(f.File("sample.vsk"), "changed"));
+        f.Draw();
+
+        f.Run(L"Sketcher.Save");
+
+        QCOMPARE(vesk::ReadBytes(f.File("sample.vsk")), QByteArray("changed"));
+    }
+
+    void whatIsNoFileIsTold()
+    {
+        DocumentsFixture& f = *m_pFixture;
+        QVERIFY(m_pFixture->OpenSample());
+        QVERIFY(QFile::remove(f.File("sample.vsk")));
+        QVERIFY(QDir().mkpath(f.File("sample.vsk/content")));
+        f.user.Press("覆盖").Press("确定");
+
+        f.Run(L"Sketcher.Save");
+
+        QVERIFY(f.user.GetLastText().endsWith("这不是普通文件。"));
     }
 
     void unknownFieldsAreSavedAgain()
