@@ -4,8 +4,13 @@
 #include "Support/FileSizeLimit.h"
 #include "Support/TestValues.h"
 
+#include "Journal/JournalFormat.h"
+#include "Journal/JournalManager.h"
+
 #include <QDir>
 #include <QFileInfo>
+
+#include <map>
 
 /// What is saved, and what is asked before.
 class DocumentsSavingTest final : public QObject
@@ -36,6 +41,7 @@ private slots:
                  DocumentFile::ToText(f.sketch.GetContent()));
         QCOMPARE(f.pDocuments->GetDocument().GetName(), QString("part"));
         QVERIFY(!f.pDocuments->IsModified());
+        QVERIFY(!EndOfSaving().isRefused);
         QCOMPARE(RecentFiles().Get(), QStringList{f.File("part.vsk")});
     }
 
@@ -207,6 +213,7 @@ private slots:
         QCOMPARE(vesk::ReadBytes(f.File("sample.vsk")), before);
         QVERIFY(f.pDocuments->IsModified());
         QCOMPARE(QDir(f.folder.path()).entryList(QDir::Files), QStringList{"sample.vsk"});
+        QVERIFY2(EndOfSaving().isRefused, "the journal tells that it was saved");
     }
 
     void aMissingFolderIsTold()
@@ -234,9 +241,31 @@ private slots:
 
         QCOMPARE(vesk::ReadBytes(path), before);
         QVERIFY(f.pDocuments->IsModified());
+        QVERIFY(EndOfSaving().isRefused);
     }
 
 private:
+    /// The end of the command that saved last, as it is in the journal.
+    static vesk::EndRecord EndOfSaving()
+    {
+        std::map<int, vesk::EndRecord> ends;
+        int saving = 0;
+        for (const std::string& line : vesk::JournalManager::GetInstance().GetLastLines())
+        {
+            vesk::JournalRecord record;
+            std::string error;
+            vesk::JournalFormat::FromLine(line, record, error);
+            const auto* pCommand = std::get_if<vesk::CommandRecord>(&record.what);
+            if (pCommand != nullptr && pCommand->commandId == Documents::SaveId)
+                saving = record.number;
+            if (const auto* pEnd = std::get_if<vesk::EndRecord>(&record.what))
+                ends[record.number] = *pEnd;
+        }
+        if (ends.count(saving) == 0)
+            QTest::qFail("the saving has no end", __FILE__, __LINE__);
+        return ends[saving];
+    }
+
     void OpenSample(const QString& name = "sample.vsk")
     {
         QVERIFY(QDir().mkpath(QFileInfo(m_pFixture->File(name)).path()));
