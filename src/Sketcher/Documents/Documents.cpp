@@ -237,10 +237,16 @@ void Documents::DoOpen(const CommandParameters& parameters)
 
 void Documents::DoSave(const CommandParameters& parameters)
 {
+    const QPointer<Documents> pThis(this);
     const QString path = std::exchange(m_savingPath, QString());
-    if (!path.isEmpty())
-        m_isSaved = Write(path);
-    else if (CanSave(parameters))
+    const bool isSaved = path.isEmpty() ? CanSave(parameters) : Write(path);
+    // The journal of a later crash must not tell that the work is in the file.
+    if (!isSaved)
+        ActionManager::FailCommand();
+    if (pThis == nullptr)
+        return;
+    m_isSaved = isSaved;
+    if (isSaved && path.isEmpty())
         m_document.savedDigest = m_sketch.GetDigest();
     OnSketchChanged();
 }
@@ -253,7 +259,12 @@ bool Documents::CanOpen(const CommandParameters& parameters)
 
 bool Documents::CanSave(const CommandParameters& parameters) const
 {
-    return TextOf(parameters, DigestName).toStdString() == m_sketch.GetDigest();
+    return GetSavedDigest(parameters) == m_sketch.GetDigest();
+}
+
+std::string Documents::GetSavedDigest(const CommandParameters& parameters)
+{
+    return TextOf(parameters, DigestName).toStdString();
 }
 
 bool Documents::eventFilter(QObject* pWatched, QEvent* pEvent)

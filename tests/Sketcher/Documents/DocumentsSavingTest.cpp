@@ -4,10 +4,15 @@
 #include "Support/FileSizeLimit.h"
 #include "Support/TestValues.h"
 
+#include "Journal/JournalFormat.h"
+#include "Journal/JournalManager.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QLineEdit>
 #include <QStatusBar>
+
+#include <map>
 
 /// What is saved, and what is asked before.
 class DocumentsSavingTest final : public QObject
@@ -36,6 +41,7 @@ private slots:
                  DocumentFile::ToText(f.sketch.GetContent()));
         QCOMPARE(f.pDocuments->GetDocument().GetName(), QString("part"));
         QVERIFY(!f.pDocuments->IsModified());
+        QVERIFY(!EndOfSaving().isRefused);
         QCOMPARE(RecentFiles().Get(), QStringList{f.File("part.vsk")});
         QVERIFY(QFileInfo::exists(f.File(".part.vsk.lock")));
         QCOMPARE(f.pWindow->statusBar()->currentMessage(), "已保存 " + f.File("part.vsk"));
@@ -350,6 +356,7 @@ private slots:
         QCOMPARE(vesk::ReadBytes(f.File("sample.vsk")), before);
         QVERIFY(f.pDocuments->IsModified());
         QCOMPARE(QDir(f.folder.path()).entryList(QDir::Files), QStringList{"sample.vsk"});
+        QVERIFY2(EndOfSaving().isRefused, "the journal tells that it was saved");
     }
 
     void aMissingFolderIsTold()
@@ -377,9 +384,31 @@ private slots:
 
         QCOMPARE(vesk::ReadBytes(path), before);
         QVERIFY(f.pDocuments->IsModified());
+        QVERIFY(EndOfSaving().isRefused);
     }
 
 private:
+    /// The end of the command that saved last, as it is in the journal.
+    static vesk::EndRecord EndOfSaving()
+    {
+        std::map<int, vesk::EndRecord> ends;
+        int saving = 0;
+        for (const std::string& line : vesk::JournalManager::GetInstance().GetLastLines())
+        {
+            vesk::JournalRecord record;
+            std::string error;
+            vesk::JournalFormat::FromLine(line, record, error);
+            const auto* pCommand = std::get_if<vesk::CommandRecord>(&record.what);
+            if (pCommand != nullptr && pCommand->commandId == Documents::SaveId)
+                saving = record.number;
+            if (const auto* pEnd = std::get_if<vesk::EndRecord>(&record.what))
+                ends[record.number] = *pEnd;
+        }
+        if (ends.count(saving) == 0)
+            QTest::qFail("the saving has no end", __FILE__, __LINE__);
+        return ends[saving];
+    }
+
     std::unique_ptr<DocumentsFixture> m_pFixture;
 };
 
