@@ -118,8 +118,10 @@ bool WriteExport(const Sketch& sketch, const QString& path)
     return fault == OutputFault::None;
 }
 
-bool WritePicture(const QPixmap& picture, const QString& path)
+bool WritePicture(SketcherWindow& window, const QString& path)
 {
+    window.GetView().PaintAtOnce();
+    const QPixmap picture = window.grab();
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
@@ -386,7 +388,7 @@ bool Session::WriteResults(Display display)
     if (hasDisplay && !m_options.exportFile.isEmpty())
         note(WriteExport(m_workspace.sketch, m_options.exportFile), m_options.exportFile, named);
     if (hasDisplay && !m_options.screenshot.isEmpty())
-        note(WritePicture(m_window.grab(), m_options.screenshot), m_options.screenshot, named);
+        note(WritePicture(m_window, m_options.screenshot), m_options.screenshot, named);
     if (hasDisplay && m_pUiTree != nullptr)
         note(m_pUiTree->Write(), m_options.uiTree, named);
     note(m_journal.Close(hasDisplay ? GetWork() : SessionJournal::Work::Undecided),
