@@ -237,7 +237,12 @@ void Session::MakeDocuments()
     m_pDocuments =
         std::make_unique<Documents>(m_workspace.sketch, m_window, MannersOf(m_options), run);
     QObject::connect(m_pDocuments.get(), &Documents::changed, &m_window, [this] {
-        m_window.ShowDocument(m_pDocuments->GetDocument().GetName(), m_pDocuments->IsModified());
+        if (m_options.task == Options::Task::Replay)
+            m_window.ShowDocument(
+                ToQString(m_workspace.sketch.GetName()) + QStringLiteral("（查看）"), false);
+        else
+            m_window.ShowDocument(m_pDocuments->GetDocument().GetName(),
+                                  m_pDocuments->IsModified());
     });
     m_output.SetNaming([this] {
         const QFileInfo file(m_pDocuments->GetDocument().path);
