@@ -77,6 +77,16 @@ QString ToFileName(const QString& name)
     return result.isEmpty() ? QStringLiteral("图纸") : result;
 }
 
+/// "1 plate.vsk - /home/me/drawings"; the digit is the entry's key.
+QString RecentCaption(const QString& path, int place)
+{
+    const QFileInfo file(path);
+    QString caption =
+        QStringLiteral("%1 - %2").arg(file.fileName(), QDir::toNativeSeparators(file.path()));
+    caption.replace('&', "&&");
+    return place < 10 ? QStringLiteral("&%1 %2").arg(place).arg(caption) : caption;
+}
+
 /// The drawing file that is being dragged; empty if it is something else.
 QString DraggedFile(const QDropEvent& event)
 {
@@ -146,7 +156,7 @@ void Documents::ShowRecent(const QString& controlId)
     pMenu->setToolTipsVisible(true);
     for (const QString& path : m_recent.Get())
     {
-        QAction* pAction = pMenu->addAction(QFileInfo(path).fileName().replace('&', "&&"));
+        QAction* pAction = pMenu->addAction(RecentCaption(path, pMenu->actions().size() + 1));
         pAction->setToolTip(QDir::toNativeSeparators(path));
         connect(pAction, &QAction::triggered, this, [this, path] { OpenLater(path); });
     }

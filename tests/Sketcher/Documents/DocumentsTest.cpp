@@ -229,6 +229,7 @@ private slots:
         auto* pMenu = f.pWindow->findChild<QMenu*>("Sketcher.RecentFiles");
         QVERIFY(pMenu != nullptr);
         QCOMPARE(pMenu->actions().size(), 1);
+        QVERIFY(pMenu->actions().front()->text().startsWith("&1 sample.vsk - "));
 
         pMenu->actions().front()->trigger();
 
