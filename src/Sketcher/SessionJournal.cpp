@@ -8,6 +8,7 @@
 #include "Journal/JournalManager.h"
 #include "Replay/JournalReplayer.h"
 
+#include <QDir>
 #include <QFileInfo>
 
 using namespace vesk;
@@ -47,7 +48,9 @@ JournalFolder SessionJournal::GetFolder()
 
 void SessionJournal::SetFolder(const QString& path)
 {
-    ChosenFolder() = path;
+    const bool isUsable =
+        QFileInfo(path).isAbsolute() && QDir().mkpath(path) && QFileInfo(path).isWritable();
+    ChosenFolder() = isUsable ? path : QString();
 }
 
 bool SessionJournal::Reserve(std::string& error)

@@ -28,7 +28,8 @@ public:
     /// another path is set.
     static JournalFolder GetFolder();
 
-    /// Sets that folder for the journals of this process; empty for the one in the data folder.
+    /// Sets that folder for the journals of this process, and creates it. Empty, or one that cannot
+    /// be used, for the one in the data folder.
     static void SetFolder(const QString& path);
 
     /// Reserves a file that is to be continued for this session before it is read. Returns false if
