@@ -126,6 +126,8 @@ DxfExit Import(DxfReadOptions options, std::istream& input, std::ostream& output
 DxfExit RunDxfTool(const std::vector<std::string>& arguments, std::istream& input,
                    std::ostream& output, std::ostream& messages)
 {
+    if (arguments == std::vector<std::string>{"--help"})
+        return WriteAll(std::string(ToolUsage) + '\n', output, messages);
     const std::optional<ToolArguments> read = ReadArguments(arguments);
     if (!read.has_value())
         return Fail(DxfExit::Usage, ToolUsage, messages);

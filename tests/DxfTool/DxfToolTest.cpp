@@ -65,6 +65,15 @@ private slots:
         QCOMPARE(again.output, document);
     }
 
+    void helpIsNoFailure()
+    {
+        const ToolRun run = RunTool({"--help"}, {});
+
+        QCOMPARE(run.code, DxfExit::Done);
+        QVERIFY(run.output.find("vesk-dxf import") != std::string::npos);
+        QCOMPARE(run.messages, std::string());
+    }
+
     void progressIsAShareOfTheWholeWhateverTheSection()
     {
         std::string file = DxfFile({});
