@@ -80,8 +80,7 @@ void SessionRecovery::Offer(const Options& options)
 {
     const bool isToldWhatToDo =
         !options.journal.isEmpty() || !options.model.isEmpty() || !options.GetSource().isEmpty();
-    const bool isSomebodyThere = qEnvironmentVariable("VESK_UNATTENDED") != QLatin1String("1");
-    if (!isToldWhatToDo && isSomebodyThere)
+    if (!isToldWhatToDo && IsAttended())
         m_offer.Search(m_journal.GetPath());
 }
 

@@ -6,7 +6,6 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QStringList>
 
 #include <cstddef>
 #include <utility>
@@ -50,9 +49,4 @@ DrawingSource ReadDrawing(const QString& path, const QString& dxfUnit)
 bool IsDxfFile(const QString& path)
 {
     return path.endsWith(QLatin1String(".dxf"), Qt::CaseInsensitive);
-}
-
-bool IsDxfUnit(const QString& name)
-{
-    return QStringList({"mm", "cm", "m", "in", "ft"}).contains(name);
 }
