@@ -61,9 +61,8 @@ void ShowImportReport(QWidget& window, const QString& fileName, const DxfReportT
 {
     auto* pBox = new QMessageBox(QMessageBox::Information, QStringLiteral("导入"),
                                  QStringLiteral("%1：已导入 %2 个图元，另有 %3 项说明。")
-                                     .arg(fileName)
-                                     .arg(report.importedCount)
-                                     .arg(report.remarks.size()),
+                                     .arg(fileName, QString::number(report.importedCount),
+                                          QString::number(report.remarks.size())),
                                  QMessageBox::Ok, &window);
     // Names come from elsewhere.
     pBox->setTextFormat(Qt::PlainText);
