@@ -43,9 +43,10 @@ DxfExit Fail(DxfExit code, const std::string& text, std::ostream& messages)
 
 bool ReadCount(const std::string& text, std::size_t& count)
 {
+    constexpr std::size_t GreatestCount = 1000000000;
     const char* const pEnd = text.data() + text.size();
     const auto result = std::from_chars(text.data(), pEnd, count);
-    return result.ec == std::errc() && result.ptr == pEnd && count > 0;
+    return result.ec == std::errc() && result.ptr == pEnd && count > 0 && count <= GreatestCount;
 }
 
 bool ReadOption(const std::string& name, const std::string& value, ToolArguments& arguments)

@@ -102,6 +102,8 @@ private slots:
         QTest::newRow("unit of export") << QByteArray("export --unit mm") << file << DxfExit::Usage;
         QTest::newRow("no count") << QByteArray("import --max-entities 0") << file
                                   << DxfExit::Usage;
+        QTest::newRow("huge") << QByteArray("import --max-entities 1000000001") << file
+                              << DxfExit::Usage;
         QTest::newRow("not dxf") << QByteArray("import") << QByteArray("{}") << DxfExit::Unusable;
         QTest::newRow("not a drawing") << QByteArray("export") << file << DxfExit::Unusable;
         QTest::newRow("nobody knows the unit")
