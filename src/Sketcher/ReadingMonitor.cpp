@@ -26,9 +26,6 @@ bool IsInput(QEvent::Type type)
     case QEvent::MouseMove:
     case QEvent::Wheel:
     case QEvent::ContextMenu:
-    case QEvent::DragEnter:
-    case QEvent::DragMove:
-    case QEvent::Drop:
         return true;
     default:
         return false;

@@ -14,9 +14,9 @@ class ProgressBarDefinition;
 
 /// Keeps the window responsive while a journal is replayed in it.
 ///
-/// Windows are painted, moved and resized as usual; keys, the mouse and what is dropped do nothing,
-/// except that Escape and closing the window cancel the reading. Controls are disabled, and the
-/// progress bar is shown.
+/// Windows are painted, moved and resized as usual; keys and the mouse do nothing, except that
+/// Escape and closing the window cancel the reading. Controls are disabled, and the progress bar is
+/// shown.
 class ReadingMonitor final : public QObject
 {
     Q_OBJECT

@@ -5,10 +5,8 @@
 
 #include <QCloseEvent>
 #include <QDockWidget>
-#include <QDropEvent>
 #include <QKeyEvent>
 #include <QMainWindow>
-#include <QMimeData>
 #include <QPushButton>
 #include <QTimer>
 
@@ -29,19 +27,6 @@ struct WindowFixture
 
     QMainWindow window;
     vesk::ProgressBarDefinition progress{L"progress"};
-};
-
-/// Counts what is dragged over it and dropped.
-class DropTarget final : public QWidget
-{
-public:
-    DropTarget() { setAcceptDrops(true); }
-
-    int eventCount = 0;
-
-protected:
-    void dragEnterEvent(QDragEnterEvent*) override { ++eventCount; }
-    void dropEvent(QDropEvent*) override { ++eventCount; }
 };
 
 /// Waits in the other thread until the window's thread has done something, or cancels.
@@ -134,28 +119,6 @@ private slots:
                         [&isPressed](WorkProgress& progress) { WaitFor(isPressed, progress); });
 
         QCOMPARE(clicks, 0);
-    }
-
-    void nothingCanBeDroppedMeanwhile()
-    {
-        WindowFixture f;
-        auto* pTarget = new DropTarget;
-        f.window.setCentralWidget(pTarget);
-        std::atomic<bool> isDropped{false};
-        QTimer::singleShot(0, &f.window, [&] {
-            const QMimeData data;
-            QDragEnterEvent enter({1, 1}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-            QCoreApplication::sendEvent(pTarget, &enter);
-            QDropEvent drop({1, 1}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-            QCoreApplication::sendEvent(pTarget, &drop);
-            isDropped = true;
-        });
-
-        RunInBackground(f.window, &f.progress,
-                        [&isDropped](WorkProgress& progress) { WaitFor(isDropped, progress); });
-
-        QVERIFY(isDropped);
-        QCOMPARE(pTarget->eventCount, 0);
     }
 
     void whatTheWorkThrowsIsThrownHere()

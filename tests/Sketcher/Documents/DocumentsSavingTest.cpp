@@ -84,7 +84,7 @@ private slots:
     void savingAgainAsksNothing()
     {
         DocumentsFixture& f = *m_pFixture;
-        QVERIFY(m_pFixture->OpenSample());
+        OpenSample();
         f.Draw();
 
         f.Run(L"Sketcher.Save");
@@ -174,7 +174,7 @@ private slots:
     void theOwnFileIsReplacedWithoutAQuestion()
     {
         DocumentsFixture& f = *m_pFixture;
-        QVERIFY(m_pFixture->OpenSample());
+        OpenSample();
         f.Draw();
         f.user.ChooseFile(f.File("sample.vsk"));
 
@@ -186,7 +186,7 @@ private slots:
     void savingUnderAnotherNameLeavesTheFirstFile()
     {
         DocumentsFixture& f = *m_pFixture;
-        QVERIFY(m_pFixture->OpenSample());
+        OpenSample();
         const QByteArray before = vesk::ReadBytes(f.File("sample.vsk"));
         f.Draw();
         f.user.ChooseFile(f.File("other.vsk"));
@@ -200,7 +200,7 @@ private slots:
 
     void whatIsUndoneToTheSavedStateIsNotModified()
     {
-        QVERIFY(m_pFixture->OpenSample());
+        OpenSample();
         m_pFixture->Draw();
         QVERIFY(m_pFixture->pDocuments->IsModified());
 
@@ -235,7 +235,7 @@ private slots:
     {
         QFETCH(QString, answer);
         DocumentsFixture& f = *m_pFixture;
-        QVERIFY(m_pFixture->OpenSample());
+        OpenSample();
         QVERIFY(vesk::WriteBytes(f.File("sample.vsk"), "changed"));
         f.Draw();
         f.user.Press(answer);
@@ -263,7 +263,7 @@ private slots:
     void aFullDiskLeavesTheOldFile()
     {
         DocumentsFixture& f = *m_pFixture;
-        QVERIFY(m_pFixture->OpenSample());
+        OpenSample();
         const QByteArray before = vesk::ReadBytes(f.File("sample.vsk"));
         f.Draw();
         f.user.Press("确定");
@@ -283,7 +283,7 @@ private slots:
     void aMissingFolderIsTold()
     {
         DocumentsFixture& f = *m_pFixture;
-        QVERIFY(m_pFixture->OpenSample("gone/sample.vsk"));
+        OpenSample("gone/sample.vsk");
         QVERIFY(QDir(f.File("gone")).removeRecursively());
         f.user.Press("确定");
 
@@ -308,6 +308,8 @@ private slots:
     }
 
 private:
+    void OpenSample(const QString& name = "sample.vsk") { QVERIFY(m_pFixture->OpenSample(name)); }
+
     std::unique_ptr<DocumentsFixture> m_pFixture;
 };
 

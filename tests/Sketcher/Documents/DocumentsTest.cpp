@@ -61,7 +61,7 @@ private slots:
         QFETCH(QString, act);
         QFETCH(QString, answer);
         DocumentsFixture& f = *m_pFixture;
-        QVERIFY(m_pFixture->OpenSample());
+        OpenSample();
         f.pWindow->show();
         const QByteArray before = vesk::ReadBytes(f.File("sample.vsk"));
         f.Draw();
@@ -103,7 +103,7 @@ private slots:
     {
         m_pFixture.reset();
         m_pFixture = std::make_unique<DocumentsFixture>(Manners::Silent);
-        QVERIFY(m_pFixture->OpenSample());
+        OpenSample();
         m_pFixture->Draw();
         m_pFixture->Run(L"Sketcher.SaveAs");
         m_pFixture->Run(L"Sketcher.Open");
@@ -157,7 +157,7 @@ private slots:
         DocumentsFixture& f = *m_pFixture;
         const QString path = f.File("bad.vsk");
         QVERIFY(vesk::WriteBytes(path, bytes));
-        QVERIFY(m_pFixture->OpenSample());
+        OpenSample();
         f.user.ChooseFile(path).Press("确定");
 
         f.Run(L"Sketcher.Open");
@@ -237,7 +237,7 @@ private slots:
 
     void theOwnFileCanBeOpenedAgain()
     {
-        QVERIFY(m_pFixture->OpenSample());
+        OpenSample();
         m_pFixture->Draw();
         m_pFixture->user.Press("不保存").ChooseFile(m_pFixture->File("sample.vsk"));
 
@@ -250,7 +250,7 @@ private slots:
     void theOwnFileStaysLockedWhenItIsOpenedAgain()
     {
         DocumentsFixture& f = *m_pFixture;
-        QVERIFY(m_pFixture->OpenSample());
+        OpenSample();
 
         const bool isOpen = f.pDocuments->OpenFile(f.File("sample.vsk"));
 
@@ -278,7 +278,7 @@ private slots:
     void cancelledOpeningChangesNothing()
     {
         DocumentsFixture& f = *m_pFixture;
-        QVERIFY(m_pFixture->OpenSample());
+        OpenSample();
         f.progress = [](std::size_t done, std::size_t) { return done < 100; };
 
         const bool isOpen =
@@ -316,7 +316,7 @@ private slots:
     void aRecentFileIsOpenedFromTheMenu()
     {
         DocumentsFixture& f = *m_pFixture;
-        QVERIFY(m_pFixture->OpenSample());
+        OpenSample();
         f.Run(L"Sketcher.New");
         f.pWindow->show();
         f.Run(L"Sketcher.Recent");
@@ -333,7 +333,7 @@ private slots:
     {
         DocumentsFixture& f = *m_pFixture;
         const QByteArray bytes = vesk::ReadBytes(f.MakeFile("sample.vsk"));
-        QVERIFY(m_pFixture->OpenSample());
+        OpenSample();
         f.Run(L"Sketcher.Save");
         f.Run(L"Sketcher.New");
 
@@ -353,7 +353,7 @@ private slots:
     void aReplayChecksInsteadOfSaving()
     {
         DocumentsFixture& f = *m_pFixture;
-        QVERIFY(m_pFixture->OpenSample());
+        OpenSample();
         const QByteArray before = vesk::ReadBytes(f.File("sample.vsk"));
         vesk::CommandParameters parameters;
         parameters.Add(L"digest", vesk::CommandParameterValue(std::wstring(64, L'0')));
@@ -405,6 +405,8 @@ private slots:
     }
 
 private:
+    void OpenSample(const QString& name = "sample.vsk") { QVERIFY(m_pFixture->OpenSample(name)); }
+
     bool Drop(const QString& path)
     {
         QMimeData data;
