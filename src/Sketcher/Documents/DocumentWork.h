@@ -15,6 +15,7 @@ namespace DocumentWork
 struct Read
 {
     QString fault; ///< On screen: why the file cannot be opened; empty if it can.
+    QString details;
     bool isCancelled = false;
     QString contentDigest; ///< Under which its bytes are kept.
     DocumentReading reading;

@@ -58,6 +58,14 @@ QString TextOf(const CommandParameters& parameters, const wchar_t* name)
     return pText != nullptr ? ToQString(*pText) : QString();
 }
 
+/// The drawing file that is being dragged; empty if it is something else.
+QString DraggedFile(const QDropEvent& event)
+{
+    const QList<QUrl> urls = event.mimeData()->urls();
+    const QString path = urls.size() == 1 ? urls.front().toLocalFile() : QString();
+    return path.endsWith(EndingOfDrawings(), Qt::CaseInsensitive) ? path : QString();
+}
+
 /// A name that files may have on any system, as similar to another as possible.
 QString ToFileName(const QString& name)
 {
@@ -75,14 +83,6 @@ QString ToFileName(const QString& name)
     if (result.startsWith(QLatin1Char('.'))) // It would be hidden.
         result.front() = QLatin1Char('_');
     return result.isEmpty() ? QStringLiteral("图纸") : result;
-}
-
-/// The drawing file that is being dragged; empty if it is something else.
-QString DraggedFile(const QDropEvent& event)
-{
-    const QList<QUrl> urls = event.mimeData()->urls();
-    const QString path = urls.size() == 1 ? urls.front().toLocalFile() : QString();
-    return path.endsWith(EndingOfDrawings(), Qt::CaseInsensitive) ? path : QString();
 }
 
 }
@@ -181,7 +181,7 @@ bool Documents::OpenFile(const QString& path)
     return pThis != nullptr && !m_isEnding && OpenLocked(path, pLock, isInUse);
 }
 
-/// Takes a share in the lock: the command that opens the content drops that of the document.
+/// Keeps the lock while the command leaves the file before.
 bool Documents::OpenLocked(const QString& path, std::shared_ptr<DocumentLock> pLock,
                            bool isReadOnly)
 {
@@ -194,7 +194,8 @@ bool Documents::OpenLocked(const QString& path, std::shared_ptr<DocumentLock> pL
         return false;
     if (!read.fault.isEmpty())
     {
-        Fail(QStringLiteral("无法打开“%1”").arg(QDir::toNativeSeparators(path)), read.fault);
+        Fail(QStringLiteral("无法打开“%1”").arg(QDir::toNativeSeparators(path)),
+             read.fault + read.details);
         return false;
     }
     m_prepared = Prepared{read.contentDigest, std::move(read.reading.content), read.reading.sum};

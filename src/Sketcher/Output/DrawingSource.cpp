@@ -3,8 +3,8 @@
 #include "Output/DxfImport.h"
 
 #include "Model/DocumentFile.h"
-#include "Model/FileContent.h"
 
+#include <QFile>
 #include <QStringList>
 
 #include <cstddef>
@@ -34,9 +34,10 @@ std::string DescribeFailure(const DxfImport& failed)
 
 DrawingSource ReadDrawing(const QString& path, const QString& dxfUnit)
 {
-    auto [bytes, fault] = FileContent::Of(path);
-    if (fault != FileContent::Fault::None)
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
         return {{}, DescribeOutputFault(OutputFault::CannotRead)};
+    QByteArray bytes = file.readAll();
     if (IsDxfFile(path))
     {
         const DxfImport read = ImportDxf(bytes, dxfUnit, [](double) { return true; });

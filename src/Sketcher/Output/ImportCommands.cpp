@@ -1,6 +1,5 @@
 #include "Output/ImportCommands.h"
 
-#include "Model/FileContent.h"
 #include "Model/KeptContent.h"
 #include "Model/Workspace.h"
 #include "Output/DxfImport.h"
@@ -11,6 +10,7 @@
 #include "HostUi/QtText.h"
 #include "Journal/CommandParameters.h"
 
+#include <QFile>
 #include <QFileInfo>
 
 #include <string_view>
@@ -94,11 +94,11 @@ std::optional<DxfImport> ImportCommands::Read(const QString& path, QString unit)
 {
     DxfImport read;
     const auto work = [&](const OutputProgress& progress) {
-        const FileContent file = FileContent::Of(path);
-        if (file.fault != FileContent::Fault::None)
+        QFile file(path);
+        if (!file.open(QIODevice::ReadOnly))
             read.fault = OutputFault::CannotRead;
         else
-            read = ImportDxf(file.bytes, unit, progress);
+            read = ImportDxf(file.readAll(), unit, progress);
         m_pending = Pending{std::nullopt, ReadDocument(read.document).content};
         if (!m_pending->content.entities.empty())
             m_pending->digest = KeptContent::Get().Keep(read.document);

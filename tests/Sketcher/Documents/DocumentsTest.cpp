@@ -169,43 +169,6 @@ private slots:
         QVERIFY(!QFileInfo::exists(f.File(".bad.vsk.lock")));
     }
 
-    void aMessageShowsWhatLooksLikeMarkupAsItIs()
-    {
-        bool isPlain = false;
-        m_pFixture->user.Do([&isPlain](QDialog& dialog) {
-            const auto* pDetails = dialog.findChild<QLabel*>("qt_msgbox_informativelabel");
-            isPlain = pDetails != nullptr && pDetails->textFormat() == Qt::PlainText;
-            dialog.reject();
-        });
-
-        DocumentDialogs::Tell(m_pFixture->pWindow.get(), "text", "<b>details</b>");
-
-        QVERIFY(isPlain);
-    }
-
-    void aPathThatIsNoFileIsTold_data()
-    {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<QString>("reason");
-
-        QTest::newRow("missing") << "none/a.vsk"
-                                 << "文件不存在。";
-        QTest::newRow("endless device") << "/dev/zero"
-                                        << "这不是普通文件。";
-    }
-
-    void aPathThatIsNoFileIsTold()
-    {
-        QFETCH(QString, path);
-        DocumentsFixture& f = *m_pFixture;
-        f.user.Press("确定");
-
-        const bool isOpen = f.pDocuments->OpenFile(QDir(f.folder.path()).absoluteFilePath(path));
-
-        QVERIFY(!isOpen);
-        QTEST(f.user.GetLastText().section("”", -1), "reason");
-    }
-
     void aFileThatIsOpenElsewhereIsToldAndOpenedReadOnly()
     {
         DocumentsFixture& f = *m_pFixture;
@@ -378,6 +341,43 @@ private slots:
 
         QVERIFY(!m_pFixture->pDocuments->CanOpen(parameters));
         QVERIFY(!m_pFixture->pDocuments->CanOpen({}));
+    }
+
+    void aMessageShowsWhatLooksLikeMarkupAsItIs()
+    {
+        bool isPlain = false;
+        m_pFixture->user.Do([&isPlain](QDialog& dialog) {
+            const auto* pDetails = dialog.findChild<QLabel*>("qt_msgbox_informativelabel");
+            isPlain = pDetails != nullptr && pDetails->textFormat() == Qt::PlainText;
+            dialog.reject();
+        });
+
+        DocumentDialogs::Tell(m_pFixture->pWindow.get(), "text", "<b>details</b>");
+
+        QVERIFY(isPlain);
+    }
+
+    void aPathThatIsNoFileIsTold_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QString>("reason");
+
+        QTest::newRow("missing") << "none/a.vsk"
+                                 << "无法读取文件。文件不存在。";
+        QTest::newRow("endless device") << "/dev/zero"
+                                        << "无法读取文件。这不是普通文件。";
+    }
+
+    void aPathThatIsNoFileIsTold()
+    {
+        QFETCH(QString, path);
+        DocumentsFixture& f = *m_pFixture;
+        f.user.Press("确定");
+
+        const bool isOpen = f.pDocuments->OpenFile(QDir(f.folder.path()).absoluteFilePath(path));
+
+        QVERIFY(!isOpen);
+        QTEST(f.user.GetLastText().section("”", -1), "reason");
     }
 
     void everythingMayDieWhileAQuestionIsOpen_data()
