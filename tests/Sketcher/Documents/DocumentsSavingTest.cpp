@@ -6,7 +6,6 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QLineEdit>
 
 /// What is saved, and what is asked before.
 class DocumentsSavingTest final : public QObject
@@ -162,7 +161,8 @@ private slots:
         f.sketch.SetName(name.toStdWString());
         QString suggested;
         f.user.Do([&suggested](QDialog& dialog) {
-            suggested = dialog.findChild<QLineEdit*>("fileNameEdit")->text();
+            const QStringList files = qobject_cast<QFileDialog*>(&dialog)->selectedFiles();
+            suggested = QFileInfo(files.value(0)).fileName();
             dialog.reject();
         });
 
@@ -308,7 +308,11 @@ private slots:
     }
 
 private:
-    void OpenSample(const QString& name = "sample.vsk") { QVERIFY(m_pFixture->OpenSample(name)); }
+    void OpenSample(const QString& name = "sample.vsk")
+    {
+        QVERIFY(QDir().mkpath(QFileInfo(m_pFixture->File(name)).path()));
+        QVERIFY(m_pFixture->pDocuments->OpenFile(m_pFixture->MakeFile(name)));
+    }
 
     std::unique_ptr<DocumentsFixture> m_pFixture;
 };

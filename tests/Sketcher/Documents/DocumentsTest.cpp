@@ -210,20 +210,6 @@ private slots:
         QVERIFY(!m_pFixture->pDocuments->GetDocument().isReadOnly);
     }
 
-    void theOwnFileStaysLockedWhenItIsOpenedAgain()
-    {
-        DocumentsFixture& f = *m_pFixture;
-        OpenSample();
-
-        const bool isOpen = f.pDocuments->OpenFile(f.File("sample.vsk"));
-
-        QVERIFY(isOpen);
-        QVERIFY(QFileInfo::exists(f.File(".sample.vsk.lock")));
-        f.Draw();
-        f.Run(L"Sketcher.Save");
-        QVERIFY(!f.pDocuments->IsModified());
-    }
-
     void aLargeDrawingIsOpenedAndSavedWhileTheWindowLives()
     {
         DocumentsFixture& f = *m_pFixture;
@@ -250,17 +236,6 @@ private slots:
         QVERIFY(!isOpen);
         QCOMPARE(f.pDocuments->GetDocument().GetName(), QString("sample"));
         QCOMPARE(f.sketch.GetEntities().size(), std::size_t(4));
-    }
-
-    void theWindowCanBeClosedAfterWorkThatFails()
-    {
-        DocumentsFixture& f = *m_pFixture;
-        f.progress = [](std::size_t, std::size_t) -> bool { throw std::runtime_error("failed"); };
-        const QString path = f.MakeFile("large.vsk", MakeRandomContent(1, 9000));
-
-        QVERIFY_EXCEPTION_THROWN(f.pDocuments->OpenFile(path), std::runtime_error);
-
-        QVERIFY(f.pWindow->close());
     }
 
     void aFileDroppedOnTheWindowIsOpened()
@@ -380,6 +355,31 @@ private slots:
         QTEST(f.user.GetLastText().section("”", -1), "reason");
     }
 
+    void theOwnFileStaysLockedWhenItIsOpenedAgain()
+    {
+        DocumentsFixture& f = *m_pFixture;
+        OpenSample();
+
+        const bool isOpen = f.pDocuments->OpenFile(f.File("sample.vsk"));
+
+        QVERIFY(isOpen);
+        QVERIFY(QFileInfo::exists(f.File(".sample.vsk.lock")));
+        f.Draw();
+        f.Run(L"Sketcher.Save");
+        QVERIFY(!f.pDocuments->IsModified());
+    }
+
+    void theWindowCanBeClosedAfterWorkThatFails()
+    {
+        DocumentsFixture& f = *m_pFixture;
+        f.progress = [](std::size_t, std::size_t) -> bool { throw std::runtime_error("failed"); };
+        const QString path = f.MakeFile("large.vsk", MakeRandomContent(1, 9000));
+
+        QVERIFY_EXCEPTION_THROWN(f.pDocuments->OpenFile(path), std::runtime_error);
+
+        QVERIFY(f.pWindow->close());
+    }
+
     void everythingMayDieWhileAQuestionIsOpen_data()
     {
         QTest::addColumn<QString>("command");
@@ -405,7 +405,11 @@ private slots:
     }
 
 private:
-    void OpenSample(const QString& name = "sample.vsk") { QVERIFY(m_pFixture->OpenSample(name)); }
+    void OpenSample(const QString& name = "sample.vsk")
+    {
+        QVERIFY(QDir().mkpath(QFileInfo(m_pFixture->File(name)).path()));
+        QVERIFY(m_pFixture->pDocuments->OpenFile(m_pFixture->MakeFile(name)));
+    }
 
     bool Drop(const QString& path)
     {
