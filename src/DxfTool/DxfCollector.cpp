@@ -51,9 +51,10 @@ void DxfCollector::addLayer(const DL_LayerData& data)
     constexpr int Locked = 4;
     // The library reports this one, or less, for a layer without a line weight.
     constexpr int NoWeight = 1;
+    constexpr int GreatestColour = 255;
     DxfLayer& known = m_tables.GetLayer(data.name);
     const DL_Attributes& own = attributes;
-    const int colour = std::abs(own.getColor());
+    const int colour = std::abs(std::max(own.getColor(), -GreatestColour));
     known.layer.colour = NearestColour(colour, own.getColor24());
     // The number of a layer that is off is negative.
     known.layer.isVisible = own.getColor() >= 0 && !data.off && (data.flags & Frozen) == 0;
@@ -164,8 +165,10 @@ bool DxfCollector::IsWanted(const std::string& type)
     constexpr std::size_t EntitiesPerReport = 2000;
     if (m_isInBlock)
         return false;
+    // Only those in the section of entities were counted before.
     if (++m_done % EntitiesPerReport == 0 && m_options.progress)
-        m_options.progress(static_cast<double>(m_done) / static_cast<double>(m_total));
+        m_options.progress(
+            m_done < m_total ? static_cast<double>(m_done) / static_cast<double>(m_total) : 1.0);
     if (attributes.isInPaperSpace())
         m_reading.report.AddSkipped(type, "paper space");
     return !attributes.isInPaperSpace();

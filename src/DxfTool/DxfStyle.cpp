@@ -88,6 +88,16 @@ QString Unescaped(const QString& text)
     return result;
 }
 
+/// The text with underscores for control characters; halves of pairs are replaced, too.
+QString Readable(const QString& text)
+{
+    QString result;
+    for (const uint code : text.toUcs4())
+        result += QChar::category(code) == QChar::Other_Control ? QStringLiteral("_")
+                                                                : QString::fromUcs4(&code, 1);
+    return result;
+}
+
 QString FromBytes(const std::string& bytes, const std::string& codePage)
 {
     const QByteArray raw = QByteArray::fromStdString(bytes);
@@ -200,5 +210,5 @@ std::string EncodeName(const std::wstring& name)
 
 std::wstring DecodeName(const std::string& bytes, const std::string& codePage)
 {
-    return Unescaped(FromBytes(bytes, codePage)).toStdWString();
+    return Readable(Unescaped(FromBytes(bytes, codePage))).toStdWString();
 }

@@ -59,9 +59,12 @@ void Replace(std::string& text, const std::string& placeholder, const std::strin
 std::string MakeTestText(const std::string& name, const std::string& path,
                          const JournalText& journal)
 {
+    const std::string digest = LastDigest(journal);
+    if (digest.empty())
+        return {};
     std::string text = Template;
     Replace(text, "@NAME@", name);
     Replace(text, "@FILE@", std::filesystem::u8path(path).filename().u8string());
-    Replace(text, "@DIGEST@", LastDigest(journal));
+    Replace(text, "@DIGEST@", digest);
     return text;
 }

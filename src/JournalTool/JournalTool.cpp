@@ -9,6 +9,7 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <cctype>
 #include <optional>
 #include <ostream>
 
@@ -101,8 +102,20 @@ int MakeTest(const Request& request, std::ostream& out, std::ostream& err)
     const std::optional<JournalText> journal = Read(request.path, err);
     if (!journal.has_value())
         return JournalExit::Unusable;
-    out << MakeTestText(request.testName, request.path, *journal);
-    return JournalExit::Fine;
+    const std::string text = MakeTestText(request.testName, request.path, *journal);
+    if (text.empty())
+        err << "vesk-journal: " << request.path << ": no mark to compare with\n";
+    out << text;
+    return text.empty() ? JournalExit::Unusable : JournalExit::Fine;
+}
+
+/// Why a text cannot be the name of a class; empty if it can.
+std::string WhyNoName(const std::string& text)
+{
+    const auto isPart = [](unsigned char c) { return std::isalnum(c) != 0 || c == '_'; };
+    const bool isName = !text.empty() && std::all_of(text.begin(), text.end(), isPart) &&
+                        std::isdigit(static_cast<unsigned char>(text.front())) == 0;
+    return isName ? std::string() : text + " is not the name of a class";
 }
 
 using Operation = int (*)(const Request&, std::ostream&, std::ostream&);
@@ -125,7 +138,8 @@ void Declare(CLI::App& app, Request& request, Operation& operation)
     CLI::App* pDiff = add("diff", "print the first record at which two sessions part", &Diff);
     pDiff->add_option("other", request.otherPath, "the journal to compare with")->required();
     CLI::App* pTest = add("to-test", "print a scenario test that replays the journal", &MakeTest);
-    pTest->add_option("--name", request.testName, "the test class is called <name>Test");
+    pTest->add_option("--name", request.testName, "the test class is called <name>Test")
+        ->check(CLI::Validator(&WhyNoName, "NAME"));
 }
 
 }

@@ -32,9 +32,8 @@ private:
 
 /// Runs work in a thread of its own and returns once it has ended.
 ///
-/// Meanwhile the window lives and shows the progress; nothing else can be done in it, except that
-/// Escape and closing the window cancel the work. The work must not touch what belongs to the
-/// window's thread. The definition may be null. Returns false if the work was cancelled; rethrows
-/// what it throws. The window may have been closed meanwhile.
+/// Meanwhile the window lives as ReadingMonitor says, and shows the progress. The work must not
+/// touch what belongs to the window's thread. The definition may be null. Returns false if the work
+/// was cancelled; rethrows what it throws. The window may have been closed meanwhile.
 bool RunInBackground(QMainWindow& window, vesk::ProgressBarDefinition* pProgress,
                      const std::function<void(WorkProgress&)>& work);

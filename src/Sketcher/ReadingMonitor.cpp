@@ -26,6 +26,9 @@ bool IsInput(QEvent::Type type)
     case QEvent::MouseMove:
     case QEvent::Wheel:
     case QEvent::ContextMenu:
+    case QEvent::DragEnter:
+    case QEvent::DragMove:
+    case QEvent::Drop:
         return true;
     default:
         return false;
@@ -47,10 +50,13 @@ ReadingMonitor::ReadingMonitor(QMainWindow& window, vesk::ProgressBarDefinition*
 ReadingMonitor::~ReadingMonitor()
 {
     SetEnabled(true);
-    if (m_pProgress == nullptr)
-        return;
-    m_pProgress->SetVisible(false);
-    m_pProgress->SetValue(0);
+    if (m_pProgress != nullptr)
+    {
+        m_pProgress->SetVisible(false);
+        m_pProgress->SetValue(0);
+    }
+    if (m_isClosePostponed)
+        QMetaObject::invokeMethod(&m_window, &QWidget::close, Qt::QueuedConnection);
 }
 
 bool ReadingMonitor::Advance(std::size_t done, std::size_t total)
@@ -72,11 +78,18 @@ bool ReadingMonitor::Advance(std::size_t done, std::size_t total)
 bool ReadingMonitor::eventFilter(QObject* pWatched, QEvent* pEvent)
 {
     const QEvent::Type type = pEvent->type();
-    const bool isEscape =
-        type == QEvent::KeyPress && static_cast<QKeyEvent*>(pEvent)->key() == Qt::Key_Escape;
+    // A warning may be shown meanwhile, and must be answered.
+    const bool isInput = IsInput(type) && QApplication::activeModalWidget() == nullptr;
+    const bool isEscape = isInput && type == QEvent::KeyPress &&
+                          static_cast<QKeyEvent*>(pEvent)->key() == Qt::Key_Escape;
     const bool isClosing = type == QEvent::Close && pWatched == &m_window;
     m_isCancelled = m_isCancelled || isEscape || isClosing;
-    return IsInput(type) || QObject::eventFilter(pWatched, pEvent);
+    if (!isClosing || !pEvent->spontaneous())
+        return isInput || QObject::eventFilter(pWatched, pEvent);
+    // A question about the drawing could not be answered now.
+    m_isClosePostponed = true;
+    pEvent->ignore();
+    return true;
 }
 
 void ReadingMonitor::SetEnabled(bool isEnabled)

@@ -12,11 +12,13 @@ namespace vesk
 class ProgressBarDefinition;
 }
 
-/// Keeps the window responsive while a journal is replayed in it.
+/// Keeps the window responsive while a journal is replayed in it, or work is done in the
+/// background.
 ///
-/// Windows are painted, moved and resized as usual; keys and the mouse do nothing, except that
-/// Escape and closing the window cancel the reading. Controls are disabled, and the progress bar is
-/// shown.
+/// Windows are painted, moved and resized as usual; keys, the mouse and what is dropped do nothing,
+/// except that Escape and closing the window cancel the work. A user who closes the window is asked
+/// about the drawing as usual, as soon as the work has ended; the program closes it at once.
+/// Controls are disabled, and the progress bar is shown. A modal dialog gets its input.
 class ReadingMonitor final : public QObject
 {
     Q_OBJECT
@@ -41,4 +43,5 @@ private:
     QElapsedTimer m_sincePause;
     qint64 m_pauseMs = 0;
     bool m_isCancelled = false;
+    bool m_isClosePostponed = false; ///< Until the monitor is gone.
 };

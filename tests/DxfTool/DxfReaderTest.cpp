@@ -4,6 +4,7 @@
 
 #include "DxfText.h"
 
+#include "Model/DocumentFile.h"
 #include "Support/TestValues.h"
 
 #include <sstream>
@@ -263,6 +264,26 @@ private slots:
         const DxfReading reading = ReadDxf(file, {});
 
         QVERIFY(reading.content.layers.at(1).name == L"轴线");
+    }
+
+    void everyNameOfALayerCanBeKept()
+    {
+        const DxfReading reading = ReadDxf(DxfFile({}, {{0, "TABLE"},
+                                                        {2, "LAYER"},
+                                                        {0, "LAYER"},
+                                                        {2, "a\\U+000Ab\\U+0000"},
+                                                        {0, "LAYER"},
+                                                        {2, "\\U+D800"},
+                                                        {0, "LAYER"},
+                                                        {2, "\\U+DFFF"},
+                                                        {0, "ENDTAB"}}),
+                                           {});
+
+        const DocumentReading kept = DocumentFile::FromText(DocumentFile::ToText(reading.content));
+        QCOMPARE(kept.error, std::string());
+        QCOMPARE(kept.content.layers.size(), std::size_t(3));
+        QVERIFY(kept.content.layers[1].name == L"a_b_");
+        QVERIFY(kept.content.layers[2].name == L"\uFFFD");
     }
 
     void heightsAreReported()

@@ -65,6 +65,20 @@ private slots:
         QCOMPARE(again.output, document);
     }
 
+    void progressIsAShareOfTheWholeWhateverTheSection()
+    {
+        std::string file = DxfFile({});
+        std::string lines = "0\nSECTION\n2\nBLOCKS\n";
+        for (int i = 0; i < 5000; ++i)
+            lines += "0\nLINE\n10\n1\n20\n2\n11\n3\n21\n4\n";
+        file.insert(file.find("0\nSECTION\n2\nENTITIES"), lines + "0\nENDSEC\n");
+
+        const ToolRun run = RunTool({"import"}, file);
+
+        QVERIFY(run.messages.find("{\"kind\":\"progress\",\"share\":1.0}\n") == 0);
+        QVERIFY(run.messages.find("null") == std::string::npos);
+    }
+
     void whatGoesWrongHasItsOwnCode_data()
     {
         QTest::addColumn<QByteArray>("arguments");

@@ -225,6 +225,17 @@ private slots:
         QVERIFY(!result.out.contains('@'));
     }
 
+    void aTestNeedsAMark()
+    {
+        const QString path = Write("day.jsonl", s_header + s_command + s_end);
+
+        const Result result = Run({"to-test", path});
+
+        QCOMPARE(result.code, 2);
+        QCOMPARE(result.out, QString());
+        QCOMPARE(result.err, "vesk-journal: " + path + ": no mark to compare with\n");
+    }
+
     void nonsenseIsTold_data()
     {
         QTest::addColumn<QStringList>("arguments");
@@ -233,6 +244,8 @@ private slots:
         QTest::newRow("unknown") << QStringList{"burn", "file"};
         QTest::newRow("no file") << QStringList{"show"};
         QTest::newRow("no number") << QStringList{"cut", "file", "end"};
+        QTest::newRow("no name of a class") << QStringList{"to-test", "file", "--name", "a b"};
+        QTest::newRow("begins with a digit") << QStringList{"to-test", "file", "--name", "1a"};
     }
 
     void nonsenseIsTold()

@@ -1,6 +1,8 @@
 #include "Drawing.h"
+#include "Model/DocumentFile.h"
 #include "ScenarioTest.h"
 #include "SketcherProcess.h"
+#include "Support/FileBytes.h"
 #include "Support/TestValues.h"
 
 #include <QDir>
@@ -22,6 +24,20 @@ QList<QByteArray> SortedActs(const QString& path)
     QList<QByteArray> lines = ReadActs(path).split('\n');
     std::sort(lines.begin(), lines.end());
     return lines;
+}
+
+/// The journal with which the page on the format begins.
+QByteArray ExampleOfThePage()
+{
+    QByteArray example;
+    for (const QByteArray& line : vesk::ReadBytes(QStringLiteral(VESK_JOURNAL_PAGE)).split('\n'))
+    {
+        if (line.startsWith('{'))
+            example += line + '\n';
+        if (line.contains("\"kind\":\"close\""))
+            break;
+    }
+    return example;
 }
 
 }
@@ -55,6 +71,40 @@ private slots:
         QCOMPARE(outcome.code, 0);
         // Where one command ended another, only the order of record and end may differ.
         QCOMPARE(SortedActs(again), SortedActs(path));
+    }
+
+    void theExampleOfThePageIsReplayed()
+    {
+        const QString path = m_pFixture->File("example");
+        QVERIFY(vesk::WriteBytes(path, ExampleOfThePage()));
+
+        const Outcome outcome = RunSketcher({"--replay", path});
+
+        QCOMPARE(outcome.error, QString());
+        QCOMPARE(outcome.code, 0);
+        QCOMPARE(ReadJournal(path).size(), std::size_t(10));
+    }
+
+    void aDrawingOfAnotherProgramIsRead_data()
+    {
+        QTest::addColumn<QString>("path");
+        const QDir folder(QStringLiteral(VESK_DRAWINGS));
+        for (const QString& name : folder.entryList({"*.vsk"}))
+        {
+            if (name != "cut.vsk" && name != "newer.vsk")
+                QTest::newRow(qPrintable(name)) << folder.filePath(name);
+        }
+    }
+
+    void aDrawingOfAnotherProgramIsRead()
+    {
+        QFETCH(QString, path);
+        const std::string text = vesk::ReadBytes(path).toStdString();
+
+        const DocumentReading reading = DocumentFile::FromText(text);
+
+        QCOMPARE(reading.error, std::string());
+        QCOMPARE(reading.outcome, DocumentReading::Outcome::Whole);
     }
 
     void theCorpusHoldsEveryKindOfRecord()

@@ -4,11 +4,15 @@
 #include "Support/TestValues.h"
 
 #include <QCloseEvent>
+#include <QDialog>
 #include <QDockWidget>
+#include <QDropEvent>
 #include <QKeyEvent>
 #include <QMainWindow>
+#include <QMimeData>
 #include <QPushButton>
 #include <QTimer>
+#include <QtTest/qtestspontaneevent.h>
 
 #include <atomic>
 #include <stdexcept>
@@ -27,6 +31,19 @@ struct WindowFixture
 
     QMainWindow window;
     vesk::ProgressBarDefinition progress{L"progress"};
+};
+
+/// Counts what is dragged over it and dropped.
+class DropTarget final : public QWidget
+{
+public:
+    DropTarget() { setAcceptDrops(true); }
+
+    int eventCount = 0;
+
+protected:
+    void dragEnterEvent(QDragEnterEvent*) override { ++eventCount; }
+    void dropEvent(QDropEvent*) override { ++eventCount; }
 };
 
 /// Waits in the other thread until the window's thread has done something, or cancels.
@@ -102,6 +119,39 @@ private slots:
         QVERIFY(!f.window.isVisible());
     }
 
+    void aUserWhoClosesTheWindowIsAskedOnceTheWorkHasEnded()
+    {
+        WindowFixture f;
+        const std::atomic<bool> never{false};
+        QTimer::singleShot(0, &f.window, [&f] {
+            QCloseEvent close;
+            QSpontaneKeyEvent::setSpontaneous(&close);
+            qApp->notify(&f.window, &close);
+        });
+
+        QVERIFY(!RunInBackground(f.window, &f.progress,
+                                 [&never](WorkProgress& progress) { WaitFor(never, progress); }));
+        QVERIFY(f.window.isVisible());
+        QTRY_VERIFY(!f.window.isVisible());
+    }
+
+    void aDialogThatIsShownMeanwhileCanBeAnswered()
+    {
+        WindowFixture f;
+        QDialog dialog(&f.window);
+        std::atomic<bool> isAnswered{false};
+        QObject::connect(&dialog, &QDialog::rejected, &f.window, [&] { isAnswered = true; });
+        QTimer::singleShot(0, &f.window, [&] {
+            dialog.open();
+            QTest::keyClick(&dialog, Qt::Key_Escape);
+        });
+
+        QVERIFY(RunInBackground(f.window, &f.progress, [&isAnswered](WorkProgress& progress) {
+            WaitFor(isAnswered, progress);
+        }));
+        QVERIFY(isAnswered);
+    }
+
     void otherKeysDoNothing()
     {
         WindowFixture f;
@@ -119,6 +169,28 @@ private slots:
                         [&isPressed](WorkProgress& progress) { WaitFor(isPressed, progress); });
 
         QCOMPARE(clicks, 0);
+    }
+
+    void nothingCanBeDroppedMeanwhile()
+    {
+        WindowFixture f;
+        auto* pTarget = new DropTarget;
+        f.window.setCentralWidget(pTarget);
+        std::atomic<bool> isDropped{false};
+        QTimer::singleShot(0, &f.window, [&] {
+            const QMimeData data;
+            QDragEnterEvent enter({1, 1}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(pTarget, &enter);
+            QDropEvent drop({1, 1}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(pTarget, &drop);
+            isDropped = true;
+        });
+
+        RunInBackground(f.window, &f.progress,
+                        [&isDropped](WorkProgress& progress) { WaitFor(isDropped, progress); });
+
+        QVERIFY(isDropped);
+        QCOMPARE(pTarget->eventCount, 0);
     }
 
     void whatTheWorkThrowsIsThrownHere()

@@ -6,6 +6,7 @@
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QObject>
+#include <QRegularExpression>
 #include <QStringList>
 #include <QTimer>
 
@@ -23,13 +24,14 @@ class DialogUser final : public QObject
 public:
     DialogUser() { Schedule(); }
 
-    /// Clicks the button with that text.
+    /// Clicks the button with that text; "(&S)" at its end does not count.
     DialogUser& Press(const QString& text)
     {
+        static const QRegularExpression s_key(QStringLiteral("\\(&.\\)$"));
         return Do([text](QDialog& dialog) {
             for (auto* pButton : dialog.findChildren<QAbstractButton*>())
             {
-                if (pButton->text() == text)
+                if (pButton->text().remove(s_key) == text)
                     return pButton->click();
             }
             dialog.reject();

@@ -48,12 +48,9 @@ DocumentWork::Read ReadWhole(const QString& path, const DocumentFile::Progress& 
     // Older than what is read, so that a later change is noticed.
     const QDateTime modified = QFileInfo(path).lastModified();
     const auto [bytes, fault] = FileContent::Of(path);
+    result.fault = CaptionOf(fault);
     if (fault != FileContent::Fault::None)
-    {
-        result.fault = QStringLiteral("无法读取文件。");
-        result.details = CaptionOf(fault);
         return result;
-    }
     result.stamp = FileStamp::Of(path, bytes);
     result.stamp.modified = modified;
     result.stamp.size = bytes.size();

@@ -58,14 +58,6 @@ QString TextOf(const CommandParameters& parameters, const wchar_t* name)
     return pText != nullptr ? ToQString(*pText) : QString();
 }
 
-/// The drawing file that is being dragged; empty if it is something else.
-QString DraggedFile(const QDropEvent& event)
-{
-    const QList<QUrl> urls = event.mimeData()->urls();
-    const QString path = urls.size() == 1 ? urls.front().toLocalFile() : QString();
-    return path.endsWith(EndingOfDrawings(), Qt::CaseInsensitive) ? path : QString();
-}
-
 /// A name that files may have on any system, as similar to another as possible.
 QString ToFileName(const QString& name)
 {
@@ -83,6 +75,24 @@ QString ToFileName(const QString& name)
     if (result.startsWith(QLatin1Char('.'))) // It would be hidden.
         result.front() = QLatin1Char('_');
     return result.isEmpty() ? QStringLiteral("图纸") : result;
+}
+
+/// "1 plate.vsk - /home/me/drawings"; the digit is the entry's key.
+QString RecentCaption(const QString& path, int place)
+{
+    const QFileInfo file(path);
+    QString caption =
+        QStringLiteral("%1 - %2").arg(file.fileName(), QDir::toNativeSeparators(file.path()));
+    caption.replace('&', "&&");
+    return place < 10 ? QStringLiteral("&%1 %2").arg(place).arg(caption) : caption;
+}
+
+/// The drawing file that is being dragged; empty if it is something else.
+QString DraggedFile(const QDropEvent& event)
+{
+    const QList<QUrl> urls = event.mimeData()->urls();
+    const QString path = urls.size() == 1 ? urls.front().toLocalFile() : QString();
+    return path.endsWith(EndingOfDrawings(), Qt::CaseInsensitive) ? path : QString();
 }
 
 }
@@ -146,7 +156,7 @@ void Documents::ShowRecent(const QString& controlId)
     pMenu->setToolTipsVisible(true);
     for (const QString& path : m_recent.Get())
     {
-        QAction* pAction = pMenu->addAction(QFileInfo(path).fileName().replace('&', "&&"));
+        QAction* pAction = pMenu->addAction(RecentCaption(path, pMenu->actions().size() + 1));
         pAction->setToolTip(QDir::toNativeSeparators(path));
         connect(pAction, &QAction::triggered, this, [this, path] { OpenLater(path); });
     }
@@ -181,7 +191,7 @@ bool Documents::OpenFile(const QString& path)
     return pThis != nullptr && !m_isEnding && OpenLocked(path, pLock, isInUse);
 }
 
-/// Keeps the lock while the command leaves the file before.
+/// Takes a share in the lock: the command that opens the content drops that of the document.
 bool Documents::OpenLocked(const QString& path, std::shared_ptr<DocumentLock> pLock,
                            bool isReadOnly)
 {
@@ -194,8 +204,7 @@ bool Documents::OpenLocked(const QString& path, std::shared_ptr<DocumentLock> pL
         return false;
     if (!read.fault.isEmpty())
     {
-        Fail(QStringLiteral("无法打开“%1”").arg(QDir::toNativeSeparators(path)),
-             read.fault + read.details);
+        Fail(QStringLiteral("无法打开“%1”").arg(QDir::toNativeSeparators(path)), read.fault);
         return false;
     }
     m_prepared = Prepared{read.contentDigest, std::move(read.reading.content), read.reading.sum};
@@ -238,10 +247,16 @@ void Documents::DoOpen(const CommandParameters& parameters)
 
 void Documents::DoSave(const CommandParameters& parameters)
 {
+    const QPointer<Documents> pThis(this);
     const QString path = std::exchange(m_savingPath, QString());
-    if (!path.isEmpty())
-        m_isSaved = Write(path);
-    else if (CanSave(parameters))
+    const bool isSaved = path.isEmpty() ? CanSave(parameters) : Write(path);
+    // The journal of a later crash must not tell that the work is in the file.
+    if (!isSaved)
+        ActionManager::FailCommand();
+    if (pThis == nullptr)
+        return;
+    m_isSaved = isSaved;
+    if (isSaved && path.isEmpty())
         m_document.savedDigest = m_sketch.GetDigest();
     OnSketchChanged();
 }
@@ -254,7 +269,12 @@ bool Documents::CanOpen(const CommandParameters& parameters)
 
 bool Documents::CanSave(const CommandParameters& parameters) const
 {
-    return TextOf(parameters, DigestName).toStdString() == m_sketch.GetDigest();
+    return GetSavedDigest(parameters) == m_sketch.GetDigest();
+}
+
+std::string Documents::GetSavedDigest(const CommandParameters& parameters)
+{
+    return TextOf(parameters, DigestName).toStdString();
 }
 
 bool Documents::eventFilter(QObject* pWatched, QEvent* pEvent)

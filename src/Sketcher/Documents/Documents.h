@@ -82,6 +82,9 @@ public:
     bool CanOpen(const vesk::CommandParameters& parameters);
     bool CanSave(const vesk::CommandParameters& parameters) const;
 
+    /// The digest of the drawing that a command with the id SaveId saves.
+    static std::string GetSavedDigest(const vesk::CommandParameters& parameters);
+
 signals:
     /// Another file, or another state of it.
     void changed();

@@ -34,7 +34,7 @@ QString CaptionOf(FileContent::Fault fault)
     case FileContent::Fault::TooLarge:
         return QStringLiteral("文件太大。");
     case FileContent::Fault::Unreadable:
-        return QStringLiteral("没有读取权限，或读取时出错。");
+        return QStringLiteral("无法读取文件。");
     default:
         return {};
     }

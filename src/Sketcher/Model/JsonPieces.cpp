@@ -62,7 +62,8 @@ public:
         for (int depth = 0; !IsEndOfValue(depth); end = m_place)
         {
             depth += SkipPart();
-            if (depth > GreatestDepth)
+            // The brackets of the object or list that holds the value count, too.
+            if (depth >= GreatestDepth)
                 Fail("nested too deeply");
         }
         return {m_piece.text.substr(begin, end - begin), m_piece.offset + begin};

@@ -350,6 +350,7 @@ bool Sketch::Restore(SketchContent content, const Digest& digest)
         return false;
     m_content = std::move(content);
     m_digest = digest;
+    ++m_revision;
     m_lastUndone = 0;
     m_isNameStep = true;
     {
@@ -374,6 +375,7 @@ void Sketch::Push(SketchChange change, int entityId, const std::wstring& stepNam
 
 void Sketch::Exchange(SketchChange& change)
 {
+    m_revision += IsAddition(m_content, change) ? 0 : 1;
     ::Exchange(m_content, m_digest, change);
     if (FindLayer(m_content.currentPen.layer) == nullptr)
         m_content.currentPen.layer = Layer::BaseId;

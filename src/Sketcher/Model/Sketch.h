@@ -125,6 +125,10 @@ public:
     /// whatever their history. Costs the same for any size.
     std::string GetDigest() const;
 
+    /// Another number as soon as an entity or a layer that was there is changed or gone: while it
+    /// stays the same, entities have at most been added after the others.
+    unsigned GetRevision() const { return m_revision; }
+
     const SketchContent& GetContent() const { return m_content; }
 
     /// Replaces the drawing; nothing can be undone afterwards. Returns false and changes nothing if
@@ -154,6 +158,7 @@ private:
 
     SketchContent m_content;
     Digest m_digest; ///< Of m_content.
+    unsigned m_revision = 0;
     QUndoStack m_steps;
     int m_lastUndone = 0;
     bool m_isNameStep = true;

@@ -2,29 +2,22 @@
 
 #include "Output/DxfProcess.h"
 
-#include "Foundation/FileRewriting.h"
 #include "HostUi/QtText.h"
 
 #include <QFileInfo>
 
 #include <algorithm>
-#include <cstddef>
-#include <new>
 
 namespace
 {
 
-OutputBytes MakeBytes(const SketchContent& content, const ExportFormat& format,
-                      const OutputProgress& progress)
+OutputFault Export(const SketchContent& content, const ExportFormat& format, const QString& path,
+                   const OutputProgress& progress)
 {
-    try
-    {
-        return format.make(content, progress);
-    }
-    catch (const std::bad_alloc&)
-    {
-        return {{}, OutputFault::OutOfMemory};
-    }
+    const OutputBytes made = format.make(content, progress);
+    // Painting is over; the file must not be replaced after the user has stopped the work.
+    const bool isStopped = made.fault == OutputFault::None && !progress(1.0);
+    return isStopped ? OutputFault::Stopped : WriteOutput(made, path);
 }
 
 }
@@ -57,13 +50,5 @@ const ExportFormat* ExportFormatOf(const QString& path)
 OutputFault ExportDrawing(const SketchContent& content, const ExportFormat& format,
                           const QString& path, const OutputProgress& progress)
 {
-    const OutputBytes made = MakeBytes(content, format, progress);
-    if (made.fault != OutputFault::None)
-        return made.fault;
-    // Painting is over; the file must not be replaced after the user has stopped the work.
-    if (!progress(1.0))
-        return OutputFault::Stopped;
-    const bool isWritten = vesk::RewriteFile(
-        path.toStdString(), {made.bytes.constData(), static_cast<std::size_t>(made.bytes.size())});
-    return isWritten ? OutputFault::None : OutputFault::CannotWrite;
+    return UnlessOutOfMemory([&] { return Export(content, format, path, progress); });
 }

@@ -3,53 +3,46 @@
 #include "Output/DxfImport.h"
 
 #include "Model/DocumentFile.h"
+#include "Model/FileContent.h"
 
-#include <QFile>
 #include <QStringList>
 
 #include <cstddef>
-#include <string_view>
 #include <utility>
 
 namespace
 {
 
-/// Why a DXF file was not read.
-std::string DescribeFailure(const DxfImport& failed)
+OutputFault ReadDrawingFile(const QString& path, DrawingSource& source)
 {
-    if (failed.fault != OutputFault::None)
-        return DescribeOutputFault(failed.fault);
-    switch (failed.code)
-    {
-    case DxfToolCode::NoUnit:
-        return "the file names no unit; use --dxf-unit";
-    case DxfToolCode::TooLarge:
-        return "too many entities, or not enough memory";
-    default:
-        return "not a text DXF file, or damaged";
-    }
+    const auto [bytes, fault] = FileContent::Of(path);
+    if (fault != FileContent::Fault::None)
+        return OutputFault::CannotRead;
+    DocumentReading reading =
+        DocumentFile::FromText({bytes.constData(), static_cast<std::size_t>(bytes.size())});
+    source.error = std::move(reading.error);
+    source.content = std::move(reading.content);
+    return OutputFault::None;
+}
+
+OutputFault ReadDxfFile(const QString& path, const QString& dxfUnit, DrawingSource& source)
+{
+    DxfImport read = ImportDxf(path, dxfUnit, [](double) { return true; });
+    source.content = std::move(read.content);
+    return read.fault;
 }
 
 }
 
 DrawingSource ReadDrawing(const QString& path, const QString& dxfUnit)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return {{}, DescribeOutputFault(OutputFault::CannotRead)};
-    QByteArray bytes = file.readAll();
-    if (IsDxfFile(path))
-    {
-        const DxfImport read = ImportDxf(bytes, dxfUnit, [](double) { return true; });
-        if (read.document.isEmpty())
-            return {{}, DescribeFailure(read)};
-        bytes = read.document;
-    }
-    DocumentReading reading = DocumentFile::FromText(
-        std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
-    if (reading.outcome != DocumentReading::Outcome::Whole)
-        return {{}, reading.error};
-    return {std::move(reading.content), {}};
+    DrawingSource source;
+    const OutputFault fault = UnlessOutOfMemory([&] {
+        return IsDxfFile(path) ? ReadDxfFile(path, dxfUnit, source) : ReadDrawingFile(path, source);
+    });
+    if (fault != OutputFault::None)
+        source.error = DescribeOutputFault(fault);
+    return source;
 }
 
 bool IsDxfFile(const QString& path)

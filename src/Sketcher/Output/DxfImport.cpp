@@ -1,8 +1,13 @@
 #include "Output/DxfImport.h"
 
+#include "Model/DocumentFile.h"
+#include "Model/FileContent.h"
+
 #include <nlohmann/json.hpp>
 
+#include <cstddef>
 #include <string>
+#include <utility>
 
 namespace
 {
@@ -37,23 +42,70 @@ QString RemarkCaption(const std::string& key)
     return QString::fromStdString(key);
 }
 
+/// The text of that name; empty if there is none.
+std::string TextIn(const nlohmann::json& message, const char* name)
+{
+    const auto found = message.find(name);
+    return found != message.end() && found->is_string() ? found->get<std::string>() : std::string();
+}
+
+int CountIn(const nlohmann::json& message)
+{
+    const auto found = message.find("count");
+    return found != message.end() && found->is_number_integer() ? found->get<int>() : 0;
+}
+
+/// The type of an entity, which comes from the file.
+QString ShownType(const std::string& type)
+{
+    constexpr int Longest = 40;
+    const QString text = QString::fromStdString(type);
+    return text.size() > Longest ? text.left(Longest) + QStringLiteral("…") : text;
+}
+
 void ReadMessage(const nlohmann::json& message, DxfReportText& report)
 {
-    const std::string kind = message.value("kind", "");
-    const int count = message.value("count", 0);
+    const std::string kind = TextIn(message, "kind");
+    const int count = CountIn(message);
     if (kind == "imported")
         report.importedCount += count;
     else if (kind == "skipped")
         report.remarks << QStringLiteral("未导入 %1 个 %2：%3")
                               .arg(count)
-                              .arg(QString::fromStdString(message.value("type", "")),
-                                   RemarkCaption(message.value("reason", "")));
+                              .arg(ShownType(TextIn(message, "type")),
+                                   RemarkCaption(TextIn(message, "reason")));
     else if (kind == "approximated")
         report.remarks << QStringLiteral("%1 处%2取最接近的值")
                               .arg(count)
-                              .arg(RemarkCaption(message.value("what", "")));
+                              .arg(RemarkCaption(TextIn(message, "what")));
     else if (kind == "truncated")
         report.remarks << QStringLiteral("文件不完整，只读到中断处");
+}
+
+/// Reads what vesk-dxf has written, whatever that is.
+OutputFault TakeDocument(const QByteArray& bytes, DxfImport& result)
+{
+    DocumentReading reading =
+        DocumentFile::FromText({bytes.constData(), static_cast<std::size_t>(bytes.size())});
+    if (reading.outcome != DocumentReading::Outcome::Whole)
+        return OutputFault::DxfToolFailed;
+    result.content = std::move(reading.content);
+    result.document = bytes;
+    return OutputFault::None;
+}
+
+OutputFault Import(const QString& path, const QString& unit, const OutputProgress& progress,
+                   DxfImport& result)
+{
+    const auto [bytes, fault] = FileContent::Of(path);
+    if (fault != FileContent::Fault::None)
+        return OutputFault::CannotRead;
+    QStringList arguments = {QStringLiteral("import")};
+    if (!unit.isEmpty())
+        arguments << QStringLiteral("--unit") << unit;
+    const DxfRun run = RunDxfProcess(arguments, bytes, progress);
+    result.report = ReadDxfReport(run.messages);
+    return run.fault == OutputFault::None ? TakeDocument(run.output, result) : run.fault;
 }
 
 }
@@ -71,29 +123,9 @@ DxfReportText ReadDxfReport(const QByteArray& messages)
     return report;
 }
 
-DxfImport ImportDxf(const QByteArray& bytes, const QString& unit, const OutputProgress& progress)
+DxfImport ImportDxf(const QString& path, const QString& unit, const OutputProgress& progress)
 {
-    QStringList arguments = {QStringLiteral("import")};
-    if (!unit.isEmpty())
-        arguments << QStringLiteral("--unit") << unit;
-    const DxfRun run = RunDxfProcess(arguments, bytes, progress);
-    return {run.fault, run.code, run.code == DxfToolCode::Done ? run.output : QByteArray(),
-            ReadDxfReport(run.messages)};
-}
-
-QString CaptionOf(const DxfImport& failed)
-{
-    if (failed.fault != OutputFault::None)
-        return CaptionOf(failed.fault);
-    switch (failed.code)
-    {
-    case DxfToolCode::Unusable:
-        return QStringLiteral("不是文本格式的 DXF 文件，或已损坏");
-    case DxfToolCode::TooLarge:
-        return QStringLiteral("图元过多或内存不足");
-    case DxfToolCode::NoUnit:
-        return QStringLiteral("文件没有单位");
-    default:
-        return CaptionOf(OutputFault::DxfToolFailed);
-    }
+    DxfImport result;
+    result.fault = UnlessOutOfMemory([&] { return Import(path, unit, progress, result); });
+    return result;
 }

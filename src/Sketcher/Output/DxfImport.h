@@ -2,6 +2,8 @@
 
 #include "Output/DxfProcess.h"
 
+#include "Model/SketchContent.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -18,15 +20,13 @@ DxfReportText ReadDxfReport(const QByteArray& messages);
 /// What came of reading a DXF file.
 struct DxfImport
 {
-    OutputFault fault = OutputFault::None; ///< None as soon as vesk-dxf has ended by itself.
-    DxfToolCode code = DxfToolCode::Done;
-    QByteArray document; ///< A drawing file; empty unless the code is Done.
+    OutputFault fault = OutputFault::None;
+    QByteArray document;   ///< A drawing file; empty if there is a fault.
+    SketchContent content; ///< What is in that file.
     DxfReportText report;
 };
 
 /// Reads a DXF file with vesk-dxf. The unit ("mm", "cm", "m", "in", "ft") counts for files that do
-/// not name one; with an empty unit such files give the code NoUnit. May be called in any thread.
-DxfImport ImportDxf(const QByteArray& bytes, const QString& unit, const OutputProgress& progress);
-
-/// Why there is no document.
-QString CaptionOf(const DxfImport& failed);
+/// not name one; with an empty unit such files give the fault NoDxfUnit. May be called in any
+/// thread.
+DxfImport ImportDxf(const QString& path, const QString& unit, const OutputProgress& progress);

@@ -9,6 +9,7 @@
 #include <QProcess>
 #include <QStandardPaths>
 
+#include <algorithm>
 #include <cstddef>
 #include <string>
 
@@ -24,6 +25,24 @@ QString FindDxfTool()
     return beside.isEmpty() ? QStandardPaths::findExecutable(name) : beside;
 }
 
+/// What the exit code of the program means.
+OutputFault FaultOfExit(int code)
+{
+    switch (code)
+    {
+    case 0:
+        return OutputFault::None;
+    case 2:
+        return OutputFault::NotDxf;
+    case 3:
+        return OutputFault::DxfTooLarge;
+    case 4:
+        return OutputFault::NoDxfUnit;
+    default:
+        return OutputFault::DxfToolFailed;
+    }
+}
+
 /// The last share of the work that the messages tell; `before` if they tell none.
 double LastShare(const QByteArray& messages, double before)
 {
@@ -33,8 +52,19 @@ double LastShare(const QByteArray& messages, double before)
         return before;
     const nlohmann::json json =
         nlohmann::json::parse(messages.begin() + start, messages.begin() + end, nullptr, false);
-    return json.is_object() && json.value("kind", "") == "progress" ? json.value("share", before)
-                                                                    : before;
+    const auto share = json.find("share");
+    return share != json.end() && share->is_number() ? std::clamp(share->get<double>(), 0.0, 1.0)
+                                                     : before;
+}
+
+/// Takes what the program has written so far. Returns false if it is more than it can have to say.
+bool TakeWritten(QProcess& process, DxfRun& run)
+{
+    constexpr int MostBytes = 1 << 30;
+    constexpr int MostMessages = 1 << 24;
+    run.output += process.readAllStandardOutput();
+    run.messages += process.readAllStandardError();
+    return run.output.size() <= MostBytes && run.messages.size() <= MostMessages;
 }
 
 /// Follows the program until it ends. Returns false if it had to be killed.
@@ -47,10 +77,10 @@ bool WaitFor(QProcess& process, DxfRun& run, const OutputProgress& progress)
     double share = 0.0;
     while (!process.waitForFinished(PauseMs) && process.state() != QProcess::NotRunning)
     {
-        run.messages += process.readAllStandardError();
+        const bool isSane = TakeWritten(process, run) && time.elapsed() < LongestMs;
         share = LastShare(run.messages, share);
         const bool isStopped = !progress(share);
-        if (!isStopped && time.elapsed() < LongestMs)
+        if (!isStopped && isSane)
             continue;
         run.fault = isStopped ? OutputFault::Stopped : OutputFault::DxfToolFailed;
         process.kill();
@@ -78,11 +108,9 @@ DxfRun RunDxfProcess(const QStringList& arguments, const QByteArray& input,
     process.closeWriteChannel();
     if (!WaitFor(process, run, progress))
         return run;
-    run.output = process.readAllStandardOutput();
-    run.messages += process.readAllStandardError();
-    run.code = static_cast<DxfToolCode>(process.exitCode());
-    if (process.exitStatus() != QProcess::NormalExit)
-        run.fault = OutputFault::DxfToolFailed;
+    const bool isSane = TakeWritten(process, run);
+    const bool isEnded = process.exitStatus() == QProcess::NormalExit && isSane;
+    run.fault = isEnded ? FaultOfExit(process.exitCode()) : OutputFault::DxfToolFailed;
     return run;
 }
 
@@ -97,7 +125,5 @@ OutputBytes MakeDxf(const SketchContent& content, const OutputProgress& progress
         return {{}, OutputFault::Stopped};
     DxfRun run = RunDxfProcess({QStringLiteral("export")}, QByteArray::fromStdString(document),
                                [&progress](double) { return progress(0.5); });
-    if (run.fault == OutputFault::None && run.code != DxfToolCode::Done)
-        run.fault = OutputFault::DxfToolFailed;
     return run.fault == OutputFault::None ? OutputBytes{run.output} : OutputBytes{{}, run.fault};
 }

@@ -5,29 +5,17 @@
 #include <QByteArray>
 #include <QStringList>
 
-/// What the program vesk-dxf returns.
-enum class DxfToolCode
-{
-    Done = 0,
-    Usage = 1,
-    Unusable = 2,
-    TooLarge = 3,
-    NoUnit = 4,
-    Unwritten = 5,
-};
-
 /// The result of a run of vesk-dxf.
 struct DxfRun
 {
-    OutputFault fault = OutputFault::None; ///< None as soon as the program has ended by itself.
-    DxfToolCode code = DxfToolCode::Done;
+    OutputFault fault = OutputFault::None;
     QByteArray output;
-    QByteArray messages; ///< One JSON object per line.
+    QByteArray messages; ///< One JSON object per line, if the program is what it should be.
 };
 
 /// Runs the program vesk-dxf, which is beside this program or on the path, with these arguments and
-/// this input. It gets 4 GB of memory and 5 minutes; one that is stopped or too slow is killed. May
-/// be called in any thread.
+/// this input. It gets 4 GB of memory and 5 minutes; one that is stopped, is too slow or writes
+/// without end is killed. May be called in any thread.
 DxfRun RunDxfProcess(const QStringList& arguments, const QByteArray& input,
                      const OutputProgress& progress);
 

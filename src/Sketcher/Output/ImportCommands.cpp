@@ -10,7 +10,6 @@
 #include "HostUi/QtText.h"
 #include "Journal/CommandParameters.h"
 
-#include <QFile>
 #include <QFileInfo>
 
 #include <string_view>
@@ -67,7 +66,7 @@ void ImportCommands::Import(const QString& path, QString unit)
         return;
     if (read->document.isEmpty())
     {
-        m_window.ShowNotice(QStringLiteral("未导入 %1：%2").arg(name, CaptionOf(*read)));
+        m_window.ShowNotice(QStringLiteral("未导入 %1：%2").arg(name, CaptionOf(read->fault)));
         return;
     }
     if (m_pending->content.entities.empty() || RecordPending())
@@ -94,17 +93,13 @@ std::optional<DxfImport> ImportCommands::Read(const QString& path, QString unit)
 {
     DxfImport read;
     const auto work = [&](const OutputProgress& progress) {
-        QFile file(path);
-        if (!file.open(QIODevice::ReadOnly))
-            read.fault = OutputFault::CannotRead;
-        else
-            read = ImportDxf(file.readAll(), unit, progress);
-        m_pending = Pending{std::nullopt, ReadDocument(read.document).content};
+        read = ImportDxf(path, unit, progress);
+        m_pending = Pending{std::nullopt, std::move(read.content)};
         if (!m_pending->content.entities.empty())
             m_pending->digest = KeptContent::Get().Keep(read.document);
     };
     m_runner(work);
-    if (read.fault != OutputFault::None || read.code != DxfToolCode::NoUnit || IsGone())
+    if (read.fault != OutputFault::NoDxfUnit || IsGone())
         return read;
     unit = AskForDxfUnit(m_window, QFileInfo(path).fileName());
     if (unit.isEmpty() || IsGone())

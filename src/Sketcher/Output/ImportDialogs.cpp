@@ -20,6 +20,16 @@ constexpr DxfUnitText DxfUnitTexts[] = {
     {"mm", "毫米"}, {"cm", "厘米"}, {"m", "米"}, {"in", "英寸"}, {"ft", "英尺"},
 };
 
+/// As many as fit on the screen; the last line counts the others.
+QStringList FirstOf(const QStringList& remarks)
+{
+    constexpr int Most = 20;
+    QStringList first = remarks.mid(0, Most);
+    if (remarks.size() > Most)
+        first << QStringLiteral("另有 %1 项").arg(remarks.size() - Most);
+    return first;
+}
+
 }
 
 QString AskForImportPath(QWidget& window)
@@ -64,9 +74,11 @@ void ShowImportReport(QWidget& window, const QString& fileName, const DxfReportT
                                      .arg(report.importedCount)
                                      .arg(report.remarks.size()),
                                  QMessageBox::Ok, &window);
+    // Names come from elsewhere.
+    pBox->setTextFormat(Qt::PlainText);
     pBox->setObjectName(QStringLiteral("ImportReport"));
     pBox->setAttribute(Qt::WA_DeleteOnClose);
     pBox->setWindowModality(Qt::NonModal);
-    pBox->setInformativeText(report.remarks.join(QLatin1Char('\n')));
+    pBox->setInformativeText(FirstOf(report.remarks).join(QLatin1Char('\n')));
     pBox->show();
 }

@@ -21,6 +21,9 @@ constexpr FaultTexts OutputFaultTexts[] = {
     {OutputFault::CannotWrite, "无法写入文件", "the file cannot be written"},
     {OutputFault::NoDxfTool, "找不到 vesk-dxf 程序", "the program vesk-dxf cannot be started"},
     {OutputFault::DxfToolFailed, "vesk-dxf 程序出错", "the program vesk-dxf failed"},
+    {OutputFault::DxfTooLarge, "图元过多或内存不足", "too many entities, or not enough memory"},
+    {OutputFault::NotDxf, "不是文本格式的 DXF 文件，或已损坏", "not a text DXF file, or damaged"},
+    {OutputFault::NoDxfUnit, "文件没有单位", "the file names no unit; use --dxf-unit"},
 };
 
 const FaultTexts& TextsOf(OutputFault fault)

@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <new>
 #include <string>
 
 /// Why a drawing could not be put out.
@@ -15,8 +16,25 @@ enum class OutputFault
     CannotRead,
     CannotWrite,
     NoDxfTool,     ///< The program vesk-dxf cannot be started.
-    DxfToolFailed, ///< It ended with an error or was too slow.
+    DxfToolFailed, ///< It ended in a way that it should not, or was too slow.
+    DxfTooLarge,   ///< More entities than it handles, or not enough memory for them.
+    NotDxf,
+    NoDxfUnit, ///< The file names no unit, and nobody else does.
 };
+
+/// The fault of the work, which may be that there is not enough memory for it.
+template <class Work>
+OutputFault UnlessOutOfMemory(const Work& work)
+{
+    try
+    {
+        return work();
+    }
+    catch (const std::bad_alloc&)
+    {
+        return OutputFault::OutOfMemory;
+    }
+}
 
 /// On screen.
 QString CaptionOf(OutputFault fault);

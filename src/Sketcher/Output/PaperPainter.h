@@ -14,6 +14,9 @@ struct SketchContent;
 /// the work.
 using OutputProgress = std::function<bool(double)>;
 
+/// Resolutions of devices are in inches.
+constexpr double MillimetresPerInch = 25.4;
+
 /// How a drawing lies on a sheet of paper.
 struct PaperPlacement
 {

@@ -2,6 +2,7 @@
 
 #include "Model/SketchContent.h"
 
+#include "Foundation/FileRewriting.h"
 #include "HostUi/QtText.h"
 
 #include <QBuffer>
@@ -14,12 +15,11 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 #include <optional>
 
 namespace
 {
-
-constexpr double MillimetresPerInch = 25.4;
 
 /// In millimetres.
 constexpr double PictureMargin = 5.0;
@@ -40,6 +40,16 @@ bool IsWithin(const QSizeF& size, double greatest)
     return size.width() <= greatest && size.height() <= greatest;
 }
 
+}
+
+OutputFault WriteOutput(const OutputBytes& made, const QString& path)
+{
+    if (made.fault != OutputFault::None)
+        return made.fault;
+    const auto size = static_cast<std::size_t>(made.bytes.size());
+    return vesk::RewriteFile(path.toStdString(), {made.bytes.constData(), size})
+               ? OutputFault::None
+               : OutputFault::CannotWrite;
 }
 
 OutputBytes MakeSvg(const SketchContent& content, const OutputProgress& progress)

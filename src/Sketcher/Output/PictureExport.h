@@ -4,6 +4,7 @@
 #include "Output/PaperPainter.h"
 
 #include <QByteArray>
+#include <QString>
 
 class QPageLayout;
 
@@ -13,6 +14,10 @@ struct OutputBytes
     QByteArray bytes; ///< Empty unless there is no fault.
     OutputFault fault = OutputFault::None;
 };
+
+/// Replaces a file by what was made, or leaves it unchanged if there is a fault. May run in any
+/// thread.
+OutputFault WriteOutput(const OutputBytes& made, const QString& path);
 
 /// These make a picture of what is visible of a drawing, with a margin of 5 mm. They may run in any
 /// thread.

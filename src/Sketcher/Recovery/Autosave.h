@@ -22,8 +22,6 @@ class Autosave final : public QObject, public vesk::IJournalObserver
     Q_OBJECT
 
 public:
-    static constexpr int DefaultMinutes = 3;
-
     /// `journal` returns the path of the journal in use; empty for none, and then nothing is
     /// written. The sketch is not owned and outlives this.
     Autosave(const Sketch& sketch, std::function<QString()> journal);
@@ -31,7 +29,7 @@ public:
     /// Waits for the snapshot that is being written.
     ~Autosave() override;
 
-    /// Sets the time between two snapshots; 0 turns them off.
+    /// Sets the time between two snapshots; 0, as at first, turns them off.
     void SetInterval(int minutes) { m_minutes = minutes; }
 
     /// Begins a snapshot of a drawing that has changed since the last one. Returns false if there
@@ -51,7 +49,7 @@ protected:
 private:
     const Sketch& m_sketch;
     const std::function<QString()> m_journal;
-    int m_minutes = DefaultMinutes;
+    int m_minutes = 0;
     QElapsedTimer m_sinceLast;
     std::unique_ptr<QThread> m_pWriting; ///< Writes, or wrote, the last snapshot.
 

@@ -5,12 +5,14 @@
 #include "Command/ActionManager.h"
 #include "Command/IActionManager.h"
 #include "HostUi/MainWindow.h"
+#include "Journal/JournalFormat.h"
 #include "Journal/JournalManager.h"
 
 #include <QFileInfo>
 #include <QTimer>
 
 #include <algorithm>
+#include <new>
 #include <utility>
 
 using namespace vesk;
@@ -45,6 +47,29 @@ void Prune(const JournalFolder& folder, const QString& ownJournal)
     });
 }
 
+/// False if the journal is damaged or cannot be read now: there may be work in it all the same.
+bool IsReadable(const QString& journal)
+{
+    std::vector<JournalRecord> records;
+    std::string error;
+    return JournalFormat::ReadFile(journal.toStdString(), records, error);
+}
+
+void FindOrSettle(const QString& journal, std::vector<UnsavedWork>& works)
+{
+    try
+    {
+        if (const std::optional<UnsavedWork> work = FindUnsavedWork(journal))
+            works.push_back(*work);
+        else if (IsReadable(journal))
+            JournalFolder::Settle(journal);
+    }
+    catch (const std::bad_alloc&)
+    {
+        // It is offered when there is more memory.
+    }
+}
+
 }
 
 QStringList FindUndecided(const JournalFolder& folder, const QString& ownJournal)
@@ -69,7 +94,7 @@ RecoveryOffer::~RecoveryOffer()
         m_pSearch->wait();
 }
 
-/// Journals in which no work is found are settled, so that they are not read at every start.
+/// Journals without work are settled, so that they are not read at every start.
 void RecoveryOffer::Search(const QString& ownJournal)
 {
     Prune(m_folder, ownJournal);
@@ -77,12 +102,7 @@ void RecoveryOffer::Search(const QString& ownJournal)
     auto pWorks = std::make_shared<std::vector<UnsavedWork>>();
     m_pSearch.reset(QThread::create([journals, pWorks] {
         for (const QString& journal : journals)
-        {
-            if (const std::optional<UnsavedWork> work = FindUnsavedWork(journal))
-                pWorks->push_back(*work);
-            else
-                JournalFolder::Settle(journal);
-        }
+            FindOrSettle(journal, *pWorks);
     }));
     connect(m_pSearch.get(), &QThread::finished, this, [this, pWorks] { OnFound(*pWorks); });
     m_pSearch->start();

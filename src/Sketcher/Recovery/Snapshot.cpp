@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <functional>
+#include <new>
 #include <utility>
 #include <vector>
 
@@ -43,12 +44,45 @@ std::vector<int> FindAll(const QString& journal)
     return records;
 }
 
+/// Returns false if it cannot be written or there is not enough memory.
+bool WriteSnapshot(const QString& path, const SketchContent& content)
+{
+    try
+    {
+        return vesk::RewriteFile(path.toStdString(), DocumentFile::ToText(content));
+    }
+    catch (const std::bad_alloc&)
+    {
+        return false;
+    }
+}
+
+/// Returns false if it is not whole or there is not enough memory.
+bool ReadSnapshot(const QString& path, Snapshot& snapshot)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    try
+    {
+        snapshot.bytes = file.readAll();
+        DocumentReading reading = DocumentFile::FromText(
+            {snapshot.bytes.constData(), static_cast<std::size_t>(snapshot.bytes.size())});
+        snapshot.digest = std::move(reading.digest);
+        snapshot.content = std::move(reading.content);
+        return reading.outcome == DocumentReading::Outcome::Whole;
+    }
+    catch (const std::bad_alloc&)
+    {
+        return false;
+    }
+}
+
 }
 
 bool Snapshot::Write(const QString& journal, int record, const SketchContent& content)
 {
-    const std::string text = DocumentFile::ToText(content);
-    if (!vesk::RewriteFile(PathOf(journal, record).toStdString(), text))
+    if (!WriteSnapshot(PathOf(journal, record), content))
         return false;
     for (const int other : FindAll(journal))
     {
@@ -62,14 +96,9 @@ std::optional<Snapshot> Snapshot::FindNewest(const QString& journal)
 {
     for (const int record : FindAll(journal))
     {
-        QFile file(PathOf(journal, record));
-        if (!file.open(QIODevice::ReadOnly))
-            continue;
-        const QByteArray bytes = file.readAll();
-        DocumentReading reading =
-            DocumentFile::FromText({bytes.constData(), static_cast<std::size_t>(bytes.size())});
-        if (reading.outcome == DocumentReading::Outcome::Whole)
-            return Snapshot{record, bytes, reading.digest, std::move(reading.content)};
+        Snapshot snapshot{record, {}, {}, {}};
+        if (ReadSnapshot(PathOf(journal, record), snapshot))
+            return snapshot;
     }
     return std::nullopt;
 }

@@ -4,8 +4,15 @@
 #include "Support/FileSizeLimit.h"
 #include "Support/TestValues.h"
 
+#include "Journal/JournalFormat.h"
+#include "Journal/JournalManager.h"
+
 #include <QDir>
 #include <QFileInfo>
+#include <QLineEdit>
+#include <QStatusBar>
+
+#include <map>
 
 /// What is saved, and what is asked before.
 class DocumentsSavingTest final : public QObject
@@ -34,7 +41,10 @@ private slots:
                  DocumentFile::ToText(f.sketch.GetContent()));
         QCOMPARE(f.pDocuments->GetDocument().GetName(), QString("part"));
         QVERIFY(!f.pDocuments->IsModified());
+        QVERIFY(!EndOfSaving().isRefused);
         QCOMPARE(RecentFiles().Get(), QStringList{f.File("part.vsk")});
+        QVERIFY(QFileInfo::exists(f.File(".part.vsk.lock")));
+        QCOMPARE(f.pWindow->statusBar()->currentMessage(), "已保存 " + f.File("part.vsk"));
     }
 
     void aFileOfAnyNameIsSavedAndOpenedAgain()
@@ -83,7 +93,9 @@ private slots:
     void savingAgainAsksNothing()
     {
         DocumentsFixture& f = *m_pFixture;
-        OpenSample();
+        QVERIFY(m_pFixture->OpenSample());
+        f.Draw();
+        f.Run(L"Sketcher.Save");
         f.Draw();
 
         f.Run(L"Sketcher.Save");
@@ -116,6 +128,46 @@ private slots:
         QCOMPARE(f.user.GetLastText(), QString("“old.vsk”已经存在。替换会丢失它现在的内容。"));
         QTEST(vesk::ReadBytes(f.File("old.vsk")) != "old", "isReplaced");
         QTEST(!f.pDocuments->IsModified(), "isReplaced");
+    }
+
+    void nothingIsSavedIfNoFileIsChosen()
+    {
+        DocumentsFixture& f = *m_pFixture;
+        QVERIFY(m_pFixture->OpenSample());
+        f.Run(L"Sketcher.New");
+        f.Draw();
+        f.user.Cancel();
+
+        f.Run(L"Sketcher.Save");
+
+        QCOMPARE(QDir(f.folder.path()).entryList({"*.vsk"}), QStringList{"sample.vsk"});
+        QVERIFY(f.pDocuments->IsModified());
+    }
+
+    void aNameThatNoFileCanHaveIsSuggestedWithoutWhatItCannotHave()
+    {
+        DocumentsFixture& f = *m_pFixture;
+        QVERIFY(m_pFixture->OpenSample());
+        f.Run(L"Sketcher.New");
+        f.sketch.SetName(L"a/b:c");
+        f.user.Do([](QDialog& dialog) { dialog.accept(); });
+
+        f.Run(L"Sketcher.Save");
+
+        QCOMPARE(f.pDocuments->GetDocument().path, f.File("a_b_c.vsk"));
+    }
+
+    void aWindowWhoseDrawingCannotBeSavedStays()
+    {
+        DocumentsFixture& f = *m_pFixture;
+        QVERIFY(m_pFixture->OpenSample("gone/sample.vsk"));
+        f.Draw();
+        QVERIFY(QDir(f.File("gone")).removeRecursively());
+        f.user.Press("保存").Press("确定");
+
+        QVERIFY(!f.pWindow->close());
+
+        QVERIFY(f.pDocuments->IsModified());
     }
 
     void aSuggestedFileThatExistsIsNotReplacedUnasked()
@@ -161,8 +213,7 @@ private slots:
         f.sketch.SetName(name.toStdWString());
         QString suggested;
         f.user.Do([&suggested](QDialog& dialog) {
-            const QStringList files = qobject_cast<QFileDialog*>(&dialog)->selectedFiles();
-            suggested = QFileInfo(files.value(0)).fileName();
+            suggested = dialog.findChild<QLineEdit*>("fileNameEdit")->text();
             dialog.reject();
         });
 
@@ -174,7 +225,7 @@ private slots:
     void theOwnFileIsReplacedWithoutAQuestion()
     {
         DocumentsFixture& f = *m_pFixture;
-        OpenSample();
+        QVERIFY(m_pFixture->OpenSample());
         f.Draw();
         f.user.ChooseFile(f.File("sample.vsk"));
 
@@ -186,7 +237,7 @@ private slots:
     void savingUnderAnotherNameLeavesTheFirstFile()
     {
         DocumentsFixture& f = *m_pFixture;
-        OpenSample();
+        QVERIFY(m_pFixture->OpenSample());
         const QByteArray before = vesk::ReadBytes(f.File("sample.vsk"));
         f.Draw();
         f.user.ChooseFile(f.File("other.vsk"));
@@ -200,7 +251,7 @@ private slots:
 
     void whatIsUndoneToTheSavedStateIsNotModified()
     {
-        OpenSample();
+        QVERIFY(m_pFixture->OpenSample());
         m_pFixture->Draw();
         QVERIFY(m_pFixture->pDocuments->IsModified());
 
@@ -235,7 +286,7 @@ private slots:
     {
         QFETCH(QString, answer);
         DocumentsFixture& f = *m_pFixture;
-        OpenSample();
+        QVERIFY(m_pFixture->OpenSample());
         QVERIFY(vesk::WriteBytes(f.File("sample.vsk"), "changed"));
         f.Draw();
         f.user.Press(answer);
@@ -245,6 +296,33 @@ private slots:
         QVERIFY(f.user.GetLastText().startsWith("“sample.vsk”打开之后已被其他程序修改。"));
         QTEST(vesk::ReadBytes(f.File("sample.vsk")) != "changed", "isReplaced");
         QTEST(!f.pDocuments->IsModified(), "isReplaced");
+    }
+
+    void aFileThatWasChangedElsewhereIsNotReplacedIfNobodyIsThere()
+    {
+        m_pFixture.reset();
+        m_pFixture = std::make_unique<DocumentsFixture>(Documents::Manners::Silent);
+        DocumentsFixture& f = *m_pFixture;
+        QVERIFY(m_pFixture->OpenSample());
+        QVERIFY(vesk::WriteBytes(f.File("sample.vsk"), "changed"));
+        f.Draw();
+
+        f.Run(L"Sketcher.Save");
+
+        QCOMPARE(vesk::ReadBytes(f.File("sample.vsk")), QByteArray("changed"));
+    }
+
+    void whatIsNoFileIsTold()
+    {
+        DocumentsFixture& f = *m_pFixture;
+        QVERIFY(m_pFixture->OpenSample());
+        QVERIFY(QFile::remove(f.File("sample.vsk")));
+        QVERIFY(QDir().mkpath(f.File("sample.vsk/content")));
+        f.user.Press("覆盖").Press("确定");
+
+        f.Run(L"Sketcher.Save");
+
+        QVERIFY(f.user.GetLastText().endsWith("这不是普通文件。"));
     }
 
     void unknownFieldsAreSavedAgain()
@@ -263,7 +341,7 @@ private slots:
     void aFullDiskLeavesTheOldFile()
     {
         DocumentsFixture& f = *m_pFixture;
-        OpenSample();
+        QVERIFY(m_pFixture->OpenSample());
         const QByteArray before = vesk::ReadBytes(f.File("sample.vsk"));
         f.Draw();
         f.user.Press("确定");
@@ -278,12 +356,13 @@ private slots:
         QCOMPARE(vesk::ReadBytes(f.File("sample.vsk")), before);
         QVERIFY(f.pDocuments->IsModified());
         QCOMPARE(QDir(f.folder.path()).entryList(QDir::Files), QStringList{"sample.vsk"});
+        QVERIFY2(EndOfSaving().isRefused, "the journal tells that it was saved");
     }
 
     void aMissingFolderIsTold()
     {
         DocumentsFixture& f = *m_pFixture;
-        OpenSample("gone/sample.vsk");
+        QVERIFY(m_pFixture->OpenSample("gone/sample.vsk"));
         QVERIFY(QDir(f.File("gone")).removeRecursively());
         f.user.Press("确定");
 
@@ -305,13 +384,29 @@ private slots:
 
         QCOMPARE(vesk::ReadBytes(path), before);
         QVERIFY(f.pDocuments->IsModified());
+        QVERIFY(EndOfSaving().isRefused);
     }
 
 private:
-    void OpenSample(const QString& name = "sample.vsk")
+    /// The end of the command that saved last, as it is in the journal.
+    static vesk::EndRecord EndOfSaving()
     {
-        QVERIFY(QDir().mkpath(QFileInfo(m_pFixture->File(name)).path()));
-        QVERIFY(m_pFixture->pDocuments->OpenFile(m_pFixture->MakeFile(name)));
+        std::map<int, vesk::EndRecord> ends;
+        int saving = 0;
+        for (const std::string& line : vesk::JournalManager::GetInstance().GetLastLines())
+        {
+            vesk::JournalRecord record;
+            std::string error;
+            vesk::JournalFormat::FromLine(line, record, error);
+            const auto* pCommand = std::get_if<vesk::CommandRecord>(&record.what);
+            if (pCommand != nullptr && pCommand->commandId == Documents::SaveId)
+                saving = record.number;
+            if (const auto* pEnd = std::get_if<vesk::EndRecord>(&record.what))
+                ends[record.number] = *pEnd;
+        }
+        if (ends.count(saving) == 0)
+            QTest::qFail("the saving has no end", __FILE__, __LINE__);
+        return ends[saving];
     }
 
     std::unique_ptr<DocumentsFixture> m_pFixture;

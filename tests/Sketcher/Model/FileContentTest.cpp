@@ -83,7 +83,7 @@ private slots:
         // The memory of this process has nothing at its first address.
         const FileContent content = FileContent::Of("/proc/self/mem");
 
-        QCOMPARE(CaptionOf(content.fault), QString("没有读取权限，或读取时出错。"));
+        QCOMPARE(CaptionOf(content.fault), QString("无法读取文件。"));
     }
 
 private:

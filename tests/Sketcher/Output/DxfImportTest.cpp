@@ -1,6 +1,50 @@
 #include "Output/DxfImport.h"
 
+#include "Support/FileBytes.h"
+#include "Support/ScopedVariable.h"
 #include "Support/TestValues.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+namespace
+{
+
+/// A script in the place of vesk-dxf.
+class ToolFixture
+{
+public:
+    explicit ToolFixture(const QByteArray& script)
+        : m_path("PATH", m_folder.path() + ":/usr/bin:/bin")
+    {
+        const QString tool = m_folder.filePath("vesk-dxf");
+        m_isReady = QFileInfo("/bin/sh").isExecutable() &&
+                    vesk::WriteBytes(tool, "#!/bin/sh\n" + script + '\n');
+        QFile::setPermissions(tool, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
+
+    bool CanRun() const { return m_isReady; }
+
+    QString MakeFile() const { return MakeFile(m_folder); }
+
+    /// Larger than what a pipe holds.
+    static QString MakeFile(const QTemporaryDir& folder)
+    {
+        const QString path = folder.filePath("a.dxf");
+        return vesk::WriteBytes(path, QByteArray(1000000, '\n')) ? path : QString();
+    }
+
+private:
+    QTemporaryDir m_folder;
+    ScopedVariable m_path;
+    bool m_isReady = false;
+};
+
+}
+
+Q_DECLARE_METATYPE(OutputFault)
 
 class DxfImportTest final : public QObject
 {
@@ -31,22 +75,94 @@ private slots:
         QVERIFY(report.remarks.isEmpty());
     }
 
-    void everyFailureIsNamed_data()
+    void messagesOfAnotherShapeAreIgnored()
     {
-        QTest::addColumn<int>("code");
-        for (const int code : {1, 2, 3, 4, 5, 17})
-            QTest::addRow("%d", code) << code;
+        const DxfReportText report =
+            ReadDxfReport("{\"kind\":1}\n{\"kind\":\"imported\",\"count\":\"x\"}\n"
+                          "{\"kind\":\"skipped\",\"type\":[],\"reason\":null,\"count\":2}\n");
+
+        QCOMPARE(report.importedCount, 0);
+        QCOMPARE(report.remarks, QStringList{QStringLiteral("未导入 2 个 ：")});
     }
 
-    void everyFailureIsNamed()
+    void longTypesAreShortened()
     {
-        QFETCH(int, code);
-        DxfImport failed;
-        failed.code = static_cast<DxfToolCode>(code);
+        const QByteArray type(1000, 'X');
 
-        QVERIFY(!CaptionOf(failed).isEmpty());
+        const DxfReportText report = ReadDxfReport("{\"kind\":\"skipped\",\"type\":\"" + type +
+                                                   "\",\"reason\":\"\",\"count\":1}\n");
+
+        QVERIFY(report.remarks.value(0).size() < 60);
+    }
+
+    void aToolThatMisbehavesIsAFault_data()
+    {
+        QTest::addColumn<QByteArray>("script");
+        QTest::addColumn<OutputFault>("fault");
+
+        QTest::newRow("killed") << QByteArray("kill -9 $$") << OutputFault::DxfToolFailed;
+        QTest::newRow("rubbish") << QByteArray("echo rubbish") << OutputFault::DxfToolFailed;
+        QTest::newRow("nothing") << QByteArray("exit 0") << OutputFault::DxfToolFailed;
+        QTest::newRow("unknown code") << QByteArray("exit 99") << OutputFault::DxfToolFailed;
+        QTest::newRow("wrong arguments") << QByteArray("exit 1") << OutputFault::DxfToolFailed;
+        QTest::newRow("not dxf") << QByteArray("exit 2") << OutputFault::NotDxf;
+        QTest::newRow("too large") << QByteArray("exit 3") << OutputFault::DxfTooLarge;
+        QTest::newRow("no unit") << QByteArray("exit 4") << OutputFault::NoDxfUnit;
+        QTest::newRow("messages without end")
+            << QByteArray("exec yes '{\"kind\":\"progress\",\"share\":null}' >&2")
+            << OutputFault::DxfToolFailed;
+        QTest::newRow("reads nothing") << QByteArray("exec <&-; exit 2") << OutputFault::NotDxf;
+    }
+
+    void aToolThatMisbehavesIsAFault()
+    {
+        QFETCH(QByteArray, script);
+        QFETCH(OutputFault, fault);
+        const ToolFixture f(script);
+        if (!f.CanRun())
+            QSKIP("no shell");
+
+        const DxfImport result = ImportDxf(f.MakeFile(), QString(), [](double) { return true; });
+
+        QCOMPARE(result.fault, fault);
+        QVERIFY(result.document.isEmpty());
+    }
+
+    void aToolThatHangsIsStopped()
+    {
+        const ToolFixture f("exec sleep 600");
+        if (!f.CanRun())
+            QSKIP("no shell");
+
+        const DxfImport result = ImportDxf(f.MakeFile(), QString(), [](double) { return false; });
+
+        QCOMPARE(result.fault, OutputFault::Stopped);
+    }
+
+    void aMissingToolIsAFault()
+    {
+        const QTemporaryDir empty;
+        const ScopedVariable path("PATH", empty.path());
+
+        QCOMPARE(ImportDxf(ToolFixture::MakeFile(empty), {}, [](double) { return true; }).fault,
+                 OutputFault::NoDxfTool);
+    }
+
+    void whatIsNotARegularFileIsNotRead_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::newRow("missing") << "/nonexistent/a.dxf";
+        QTest::newRow("folder") << QDir::tempPath();
+        QTest::newRow("device") << "/dev/zero";
+    }
+
+    void whatIsNotARegularFileIsNotRead()
+    {
+        QFETCH(QString, path);
+
+        QCOMPARE(ImportDxf(path, {}, [](double) { return true; }).fault, OutputFault::CannotRead);
     }
 };
 
-VESK_TESTS_WITHOUT_APPLICATION(DxfImportTest);
+VESK_TESTS(DxfImportTest);
 #include "DxfImportTest.moc"
