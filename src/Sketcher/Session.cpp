@@ -8,6 +8,7 @@
 #include "Help/HelpCommands.h"
 #include "Model/KeptContent.h"
 #include "Model/ModelFile.h"
+#include "OpeningFit.h"
 #include "Output/DrawingExport.h"
 #include "Output/DrawingSource.h"
 #include "Recovery/RecoverContent.h"
@@ -117,8 +118,10 @@ bool WriteExport(const Sketch& sketch, const QString& path)
     return fault == OutputFault::None;
 }
 
-bool WritePicture(const QPixmap& picture, const QString& path)
+bool WritePicture(SketcherWindow& window, const QString& path)
 {
+    window.GetView().PaintAtOnce();
+    const QPixmap picture = window.grab();
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
@@ -235,7 +238,17 @@ void Session::MakeDocuments()
     m_pDocuments =
         std::make_unique<Documents>(m_workspace.sketch, m_window, MannersOf(m_options), run);
     QObject::connect(m_pDocuments.get(), &Documents::changed, &m_window, [this] {
-        m_window.ShowDocument(m_pDocuments->GetDocument().GetName(), m_pDocuments->IsModified());
+        if (m_options.task == Options::Task::Replay)
+            m_window.ShowDocument(
+                ToQString(m_workspace.sketch.GetName()) + QStringLiteral("（查看）"), false);
+        else
+            m_window.ShowDocument(m_pDocuments->GetDocument().GetName(),
+                                  m_pDocuments->IsModified());
+    });
+    m_output.SetNaming([this] {
+        const QFileInfo file(m_pDocuments->GetDocument().path);
+        return m_pDocuments->GetDocument().HasFile() ? file.dir().filePath(file.completeBaseName())
+                                                     : QString();
     });
     QObject::connect(m_pDocuments.get(), &Documents::opened, &m_window,
                      [this] { m_window.GetView().ZoomAll(); });
@@ -360,6 +373,11 @@ void Session::OpenDocument()
         m_import.Import(m_options.document, m_options.dxfUnit);
     else
         m_pDocuments->OpenFile(m_options.document);
+    // The user may have closed the window in the meantime.
+    if (!m_window.isVisible())
+        return;
+    m_window.GetView().ZoomAll();
+    new OpeningFit(m_window.GetView());
 }
 
 /// Only a user who closes the window decides about unsaved work.
@@ -385,7 +403,7 @@ bool Session::WriteResults(Display display)
     if (hasDisplay && !m_options.exportFile.isEmpty())
         note(WriteExport(m_workspace.sketch, m_options.exportFile), m_options.exportFile, named);
     if (hasDisplay && !m_options.screenshot.isEmpty())
-        note(WritePicture(m_window.grab(), m_options.screenshot), m_options.screenshot, named);
+        note(WritePicture(m_window, m_options.screenshot), m_options.screenshot, named);
     if (hasDisplay && m_pUiTree != nullptr)
         note(m_pUiTree->Write(), m_options.uiTree, named);
     note(m_journal.Close(hasDisplay ? GetWork() : SessionJournal::Work::Undecided),

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Clipboard/ClipboardCommands.h"
+#include "DialogSizes.h"
 #include "Documents/Documents.h"
 #include "KeepingMonitor.h"
 #include "Model/Workspace.h"
@@ -14,6 +15,7 @@
 #include "Settings/SettingsStore.h"
 #include "SettingsApplier.h"
 #include "SketcherWindow.h"
+#include "ToolkitTexts.h"
 #include "WarningRaiser.h"
 
 #include "Dock/IDockManager.h"
@@ -103,6 +105,8 @@ private:
     vesk::HostCore m_host;
     vesk::UiApplication m_application;
     vesk::TranslationCatalogue m_translations;
+    ToolkitTexts m_toolkitTexts;
+    DialogSizes m_dialogSizes;
     vesk::ControlLibrary m_library;
     vesk::DimensionInputController m_input;
     Workspace m_workspace;

@@ -3,6 +3,7 @@
 #include "Session.h"
 
 #include "Complaint.h"
+#include "OpeningFit.h"
 #include "Output/DrawingSource.h"
 #include "View/SketchView.h"
 
@@ -122,6 +123,8 @@ int Session::Replay()
     if (m_options.repetition.isStaying && !isClosed)
     {
         ShowReplay();
+        m_window.GetView().ZoomAll();
+        new OpeningFit(m_window.GetView());
         QApplication::exec();
     }
     return result.failure.empty() ? 0 : ExitNotRepeated;
@@ -133,7 +136,12 @@ void Session::ShowReplay()
     if (m_window.isVisible())
         return;
     ObeyTerminationRequests();
-    m_pKeeping = std::make_unique<KeepingMonitor>(m_window);
+    // Without a journal there is nothing that could fail to be kept.
+    if (m_options.journal.isEmpty())
+        m_window.ShowState(QStringLiteral("replay"), QStringLiteral("仅供查看"),
+                           QStringLiteral("在此窗口中所做的操作不会保存"));
+    else
+        m_pKeeping = std::make_unique<KeepingMonitor>(m_window);
     m_window.show();
 }
 

@@ -18,13 +18,16 @@
 #include "Foundation/IApplication.h"
 #include "Foundation/UpdateCtrlStatusEvent.h"
 #include "HostUi/ControlHost.h"
+#include "HostUi/DimensionInputController.h"
 #include "HostUi/QtText.h"
 #include "Qtitan/RibbonBar.h"
 #include "Qtitan/RibbonGroup.h"
 #include "Qtitan/RibbonPage.h"
 
+#include <QApplication>
 #include <QIcon>
 #include <QLabel>
+#include <QLineEdit>
 #include <QShortcut>
 #include <QStatusBar>
 #include <QToolButton>
@@ -84,7 +87,7 @@ void PostStatusRefresh()
 }
 
 SketcherWindow::SketcherWindow(Workspace& workspace, DimensionInputController& input)
-    : m_workspace(workspace), m_pView(new SketchView(workspace, input, this)),
+    : m_workspace(workspace), m_input(input), m_pView(new SketchView(workspace, input, this)),
       m_ribbonFocus(*GetRibbon(), *m_pView, input), m_pPointed(new QLabel)
 {
     LoadIcons();
@@ -171,24 +174,36 @@ void SketcherWindow::BuildButtons(const std::vector<CommandEntry>& commands, con
         else
             pGroup->addSmallButton(pButton);
         for (const std::wstring& keys : {entry.keys, entry.otherKeys})
-            AddShortcut(keys, *pButton, controls);
+            AddShortcut(entry, keys, *pButton, controls);
     }
     AddMenu(MakeZoomMenu(commands), *groups[L"视图"], controls);
     m_pPaneButton = AddMenu(MakePaneMenu(commands), *groups[L"面板"], controls);
 }
 
-void SketcherWindow::AddShortcut(const std::wstring& keys, QToolButton& button,
-                                 ControlHost& controls)
+void SketcherWindow::AddShortcut(const CommandEntry& entry, const std::wstring& keys,
+                                 QToolButton& button, ControlHost& controls)
 {
     if (keys.empty())
         return;
     auto* pShortcut = new QShortcut(QKeySequence(ToQString(keys)), this);
     pShortcut->setContext(Qt::ApplicationShortcut);
-    connect(pShortcut, &QShortcut::activated, &button, [&button, &controls] {
-        // The key may come before the refresh that what it needs has posted.
-        controls.RefreshControls();
-        button.click();
-    });
+    const bool isNotWhileTyping = entry.isNotWhileTyping;
+    connect(pShortcut, &QShortcut::activated, &button,
+            [this, isNotWhileTyping, &button, &controls] {
+                if (isNotWhileTyping && IsTyping())
+                    return;
+                // The key may come before the refresh that what it needs has posted.
+                controls.RefreshControls();
+                button.click();
+            });
+}
+
+/// True in a text field, and while the text of a dimension is typed, whose editor need not have the
+/// keyboard yet.
+bool SketcherWindow::IsTyping() const
+{
+    const auto* pField = qobject_cast<const QLineEdit*>(QApplication::focusWidget());
+    return (pField != nullptr && !pField->isReadOnly()) || m_input.GetActiveEditor() != nullptr;
 }
 
 /// Adds a button with a menu and returns it; null if it could not be created.
@@ -226,7 +241,7 @@ void SketcherWindow::BuildProgress(ControlHost& controls)
 {
     auto opProgress = MakeOwner<ProgressBarDefinition>(L"Sketcher.Progress");
     ProgressBarDefinition* pProgress = opProgress.Get();
-    pProgress->SetTooltip(L"打开图纸的进度；Esc 取消");
+    pProgress->SetTooltip(L"正在进行的操作的进度；Esc 取消");
     pProgress->SetVisible(false);
     QWidget* pWidget = controls.Create(OwnerPtr<IProgressBarDefinition>(std::move(opProgress)));
     if (pWidget == nullptr)

@@ -82,7 +82,9 @@ private:
 
     void BuildButtons(const std::vector<CommandEntry>& commands, const Pages& pages,
                       vesk::ControlHost& controls);
-    void AddShortcut(const std::wstring& keys, QToolButton& button, vesk::ControlHost& controls);
+    void AddShortcut(const CommandEntry& entry, const std::wstring& keys, QToolButton& button,
+                     vesk::ControlHost& controls);
+    bool IsTyping() const;
     QToolButton* AddMenu(vesk::OwnerPtr<vesk::CommandButtonMenuDefinition> opDefinition,
                          Qtitan::RibbonGroup& group, vesk::ControlHost& controls);
     void BuildPanels(Qtitan::RibbonPage& page, vesk::ControlHost& controls);
@@ -92,6 +94,7 @@ private:
     void OnSketchChanged();
 
     Workspace& m_workspace;
+    const vesk::DimensionInputController& m_input;
     SketchView* m_pView;
     vesk::RibbonFocus m_ribbonFocus;
     QString m_documentName;

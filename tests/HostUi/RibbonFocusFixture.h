@@ -22,7 +22,7 @@ public:
     using DrawingView::DrawingView;
 
 protected:
-    void PaintModel(QPainter&) override {}
+    std::size_t PaintModel(QPainter&, std::size_t begin) override { return begin; }
 };
 
 /// A window with a ribbon, a view and a check box.

@@ -265,7 +265,7 @@ private slots:
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
 
         QCOMPARE(said.value(0), QStringLiteral("||"));
-        QCOMPARE(said.value(1), QStringLiteral("日志未保存|日志文件无法写入，操作没有保存|"
+        QCOMPARE(said.value(1), QStringLiteral("日志未保存|操作没有存入日志文件|"
                                                "日志文件无法写入，从现在起所做的操作没有保存"));
         QCOMPARE(said.value(2), QStringLiteral("||日志文件又可写入，缺少的记录已补上"));
         QVERIFY(ReadLines(m_pFixture->File("model")).size() == 4);

@@ -456,7 +456,7 @@ private slots:
         const auto* pBar = f.window.statusBar()->findChild<QProgressBar*>();
         QVERIFY(pBar != nullptr);
         QVERIFY(!pBar->isVisible());
-        QCOMPARE(pBar->toolTip(), QStringLiteral("打开图纸的进度；Esc 取消"));
+        QCOMPARE(pBar->toolTip(), QStringLiteral("正在进行的操作的进度；Esc 取消"));
 
         f.window.ShowState("test", "state", {});
         f.window.GetProgress()->SetVisible(true);

@@ -6,6 +6,7 @@
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QObject>
+#include <QRegularExpression>
 #include <QStringList>
 #include <QTimer>
 
@@ -23,13 +24,14 @@ class DialogUser final : public QObject
 public:
     DialogUser() { Schedule(); }
 
-    /// Clicks the button with that text.
+    /// Clicks the button with that text; "(&S)" at its end does not count.
     DialogUser& Press(const QString& text)
     {
+        static const QRegularExpression s_key(QStringLiteral("\\(&.\\)$"));
         return Do([text](QDialog& dialog) {
             for (auto* pButton : dialog.findChildren<QAbstractButton*>())
             {
-                if (pButton->text() == text)
+                if (pButton->text().remove(s_key) == text)
                     return pButton->click();
             }
             dialog.reject();
@@ -62,6 +64,12 @@ public:
     QString GetLastText() const { return m_texts.isEmpty() ? QString() : m_texts.last(); }
     const QStringList& GetUnexpected() const { return m_unexpected; }
     bool HasAnswersLeft() const { return !m_answers.empty(); }
+
+    /// The unexpected dialogs, and a remark if answers are left that no dialog has asked for.
+    QStringList GetFaults() const
+    {
+        return m_unexpected + (HasAnswersLeft() ? QStringList("an answer is left") : QStringList());
+    }
 
 private:
     /// A timer of its own for each look, since an answer may open another dialog.

@@ -111,6 +111,7 @@ std::vector<CommandEntry> ClipboardCommands::MakeCommands()
             .WithIcon(L"duplicate")
             .WithToolTip(L"在旁边再画一份所选图元")
             .WithKeys(L"Ctrl+D")
+            .NotWhileTyping()
             .EnabledWhile(isAnySelected),
         MakePastingCommand(m_workspace),
         MakeDuplicationCommand(m_workspace),

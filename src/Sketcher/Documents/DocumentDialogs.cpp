@@ -2,6 +2,7 @@
 
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
@@ -14,7 +15,9 @@ QPointer<QMessageBox> MakeBox(QWidget* pParent, QMessageBox::Icon icon, const QS
 {
     auto* pBox = new QMessageBox(icon, QStringLiteral("Sketcher"), text, {}, pParent);
     pBox->setInformativeText(details);
-    pBox->setTextFormat(Qt::PlainText);
+    // What comes from a file may look like markup; the box's own format is not for the details.
+    for (auto* pLabel : pBox->findChildren<QLabel*>())
+        pLabel->setTextFormat(Qt::PlainText);
     return pBox;
 }
 
@@ -28,18 +31,12 @@ const QAbstractButton* Execute(const QPointer<QMessageBox>& pBox)
     return pBox->clickedButton();
 }
 
-QPointer<QFileDialog> MakeFileDialog(QWidget* pParent, const QString& title, const QString& accept)
+QPointer<QFileDialog> MakeFileDialog(QWidget* pParent, const QString& title)
 {
     auto* pDialog = new QFileDialog(pParent, title);
     pDialog->setNameFilters({QStringLiteral("图纸 (*.vsk)"), QStringLiteral("所有文件 (*)")});
-    // It would ask in another language.
-    pDialog->setOption(QFileDialog::DontConfirmOverwrite);
+    pDialog->setObjectName(QStringLiteral("DrawingFileDialog"));
     pDialog->setDefaultSuffix(QStringLiteral("vsk"));
-    pDialog->setLabelText(QFileDialog::LookIn, QStringLiteral("文件夹："));
-    pDialog->setLabelText(QFileDialog::FileName, QStringLiteral("文件名："));
-    pDialog->setLabelText(QFileDialog::FileType, QStringLiteral("类型："));
-    pDialog->setLabelText(QFileDialog::Accept, accept);
-    pDialog->setLabelText(QFileDialog::Reject, QStringLiteral("取消"));
     return pDialog;
 }
 
@@ -72,8 +69,9 @@ DocumentDialogs::SaveAnswer DocumentDialogs::AskToSave(QWidget* pParent, const Q
     const auto pBox =
         MakeBox(pParent, QMessageBox::Question, QStringLiteral("要保存对“%1”的更改吗？").arg(name),
                 QStringLiteral("如果不保存，更改将丢失。"));
-    const auto* pSave = pBox->addButton(QStringLiteral("保存"), QMessageBox::AcceptRole);
-    const auto* pDiscard = pBox->addButton(QStringLiteral("不保存"), QMessageBox::DestructiveRole);
+    const auto* pSave = pBox->addButton(QStringLiteral("保存(&S)"), QMessageBox::AcceptRole);
+    const auto* pDiscard =
+        pBox->addButton(QStringLiteral("不保存(&N)"), QMessageBox::DestructiveRole);
     pBox->setEscapeButton(pBox->addButton(QStringLiteral("取消"), QMessageBox::RejectRole));
     const QAbstractButton* pChosen = Execute(pBox);
     if (pChosen == nullptr)
@@ -104,8 +102,7 @@ bool DocumentDialogs::AskToOpenReadOnly(QWidget* pParent, const QString& name,
 
 QString DocumentDialogs::AskForFileToOpen(QWidget* pParent, const QString& folder)
 {
-    const auto pDialog =
-        MakeFileDialog(pParent, QStringLiteral("打开图纸"), QStringLiteral("打开"));
+    const auto pDialog = MakeFileDialog(pParent, QStringLiteral("打开图纸"));
     pDialog->setFileMode(QFileDialog::ExistingFile);
     pDialog->setDirectory(folder);
     return Execute(pDialog);
@@ -114,8 +111,9 @@ QString DocumentDialogs::AskForFileToOpen(QWidget* pParent, const QString& folde
 QString DocumentDialogs::AskForFileToSave(QWidget* pParent, const QString& suggestion,
                                           const QString& own)
 {
-    const auto pDialog =
-        MakeFileDialog(pParent, QStringLiteral("图纸另存为"), QStringLiteral("保存"));
+    const auto pDialog = MakeFileDialog(pParent, QStringLiteral("图纸另存为"));
+    // It would also ask about the drawing's own file.
+    pDialog->setOption(QFileDialog::DontConfirmOverwrite);
     const QPointer<QWidget> pAsker(pParent);
     const QFileInfo file(suggestion);
     pDialog->setAcceptMode(QFileDialog::AcceptSave);

@@ -6,12 +6,14 @@
 namespace
 {
 
-/// The same for all names of a file, also if it does not exist yet.
+/// The same file for all names of a file, also if it does not exist yet.
 QString LockPath(const QString& path)
 {
-    const QFileInfo named(path);
-    const QFileInfo file(named.exists() ? named.canonicalFilePath() : named.absoluteFilePath());
-    return QStringLiteral("%1/.%2.lock").arg(file.path(), file.fileName());
+    constexpr int MostLinks = 40;
+    QFileInfo file(path);
+    for (int i = 0; i < MostLinks && file.isSymLink(); ++i)
+        file.setFile(file.symLinkTarget());
+    return QStringLiteral("%1/.%2.lock").arg(file.absolutePath(), file.fileName());
 }
 
 }

@@ -1,10 +1,10 @@
 #include "Documents/DocumentWork.h"
 
+#include "Model/FileContent.h"
 #include "Model/KeptContent.h"
 
 #include "Foundation/FileRewriting.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <QStorageInfo>
 
@@ -16,9 +16,6 @@
 
 namespace
 {
-
-/// More than a text in memory can hold.
-constexpr qint64 GreatestSize = 1 << 30;
 
 QString DamageOf(const DocumentReading& reading)
 {
@@ -45,31 +42,15 @@ QString WhyNotWritten(const QString& path, qint64 size)
                                               : QStringLiteral("写入时出错，原文件保持不变。");
 }
 
-/// Opens a file to be read. Returns why that is impossible; empty if it is open.
-QString WhyNotRead(QFile& file)
-{
-    // Opening a pipe would wait for somebody to write into it, and a device has no end.
-    const QFileInfo info(file.fileName());
-    if (info.exists() && !info.isFile())
-        return QStringLiteral("这不是普通文件。");
-    if (!file.open(QIODevice::ReadOnly))
-        return file.errorString();
-    return file.size() > GreatestSize ? QStringLiteral("文件太大。") : QString();
-}
-
 DocumentWork::Read ReadWhole(const QString& path, const DocumentFile::Progress& progress)
 {
     DocumentWork::Read result;
-    QFile file(path);
-    result.details = WhyNotRead(file);
-    if (!result.details.isEmpty())
-    {
-        result.fault = QStringLiteral("无法读取文件。");
-        return result;
-    }
     // Older than what is read, so that a later change is noticed.
     const QDateTime modified = QFileInfo(path).lastModified();
-    const QByteArray bytes = file.readAll();
+    const auto [bytes, fault] = FileContent::Of(path);
+    result.fault = CaptionOf(fault);
+    if (fault != FileContent::Fault::None)
+        return result;
     result.stamp = FileStamp::Of(path, bytes);
     result.stamp.modified = modified;
     result.stamp.size = bytes.size();

@@ -15,7 +15,6 @@ namespace DocumentWork
 struct Read
 {
     QString fault; ///< On screen: why the file cannot be opened; empty if it can.
-    QString details;
     bool isCancelled = false;
     QString contentDigest; ///< Under which its bytes are kept.
     DocumentReading reading;

@@ -17,7 +17,7 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QPointer>
-#include <QScopedValueRollback>
+#include <QScopeGuard>
 #include <QStandardPaths>
 #include <QUrl>
 
@@ -58,6 +58,35 @@ QString TextOf(const CommandParameters& parameters, const wchar_t* name)
     return pText != nullptr ? ToQString(*pText) : QString();
 }
 
+/// A name that files may have on any system, as similar to another as possible.
+QString ToFileName(const QString& name)
+{
+    // With three bytes a character well below what file systems allow.
+    constexpr int GreatestLength = 60;
+    const QString reserved = QStringLiteral("/\\:*?\"<>|");
+    QString result = name.simplified().left(GreatestLength);
+    if (!result.isEmpty() && result.at(result.size() - 1).isHighSurrogate())
+        result.chop(1);
+    for (QChar& c : result)
+    {
+        if (c.category() == QChar::Other_Control || reserved.contains(c))
+            c = QLatin1Char('_');
+    }
+    if (result.startsWith(QLatin1Char('.'))) // It would be hidden.
+        result.front() = QLatin1Char('_');
+    return result.isEmpty() ? QStringLiteral("图纸") : result;
+}
+
+/// "1 plate.vsk - /home/me/drawings"; the digit is the entry's key.
+QString RecentCaption(const QString& path, int place)
+{
+    const QFileInfo file(path);
+    QString caption =
+        QStringLiteral("%1 - %2").arg(file.fileName(), QDir::toNativeSeparators(file.path()));
+    caption.replace('&', "&&");
+    return place < 10 ? QStringLiteral("&%1 %2").arg(place).arg(caption) : caption;
+}
+
 /// The drawing file that is being dragged; empty if it is something else.
 QString DraggedFile(const QDropEvent& event)
 {
@@ -95,11 +124,9 @@ void Documents::New()
 
 void Documents::Open()
 {
-    if (JournalReplayer::IsReplaying())
-        return;
     const QPointer<Documents> pThis(this);
     QString path = std::exchange(m_nextPath, QString());
-    if (!MayReplace() || pThis == nullptr)
+    if (JournalReplayer::IsReplaying() || !MayReplace() || pThis == nullptr)
         return;
     if (path.isEmpty() && m_manners != Manners::Silent)
         path = AskForFileToOpen(&m_window, QFileInfo(Suggest()).path());
@@ -129,7 +156,7 @@ void Documents::ShowRecent(const QString& controlId)
     pMenu->setToolTipsVisible(true);
     for (const QString& path : m_recent.Get())
     {
-        QAction* pAction = pMenu->addAction(QFileInfo(path).fileName().replace('&', "&&"));
+        QAction* pAction = pMenu->addAction(RecentCaption(path, pMenu->actions().size() + 1));
         pAction->setToolTip(QDir::toNativeSeparators(path));
         connect(pAction, &QAction::triggered, this, [this, path] { OpenLater(path); });
     }
@@ -164,7 +191,8 @@ bool Documents::OpenFile(const QString& path)
     return pThis != nullptr && !m_isEnding && OpenLocked(path, pLock, isInUse);
 }
 
-bool Documents::OpenLocked(const QString& path, const std::shared_ptr<DocumentLock>& pLock,
+/// Takes a share in the lock: the command that opens the content drops that of the document.
+bool Documents::OpenLocked(const QString& path, std::shared_ptr<DocumentLock> pLock,
                            bool isReadOnly)
 {
     const QPointer<Documents> pThis(this);
@@ -176,8 +204,7 @@ bool Documents::OpenLocked(const QString& path, const std::shared_ptr<DocumentLo
         return false;
     if (!read.fault.isEmpty())
     {
-        Fail(QStringLiteral("无法打开“%1”").arg(QDir::toNativeSeparators(path)),
-             read.fault + read.details);
+        Fail(QStringLiteral("无法打开“%1”").arg(QDir::toNativeSeparators(path)), read.fault);
         return false;
     }
     m_prepared = Prepared{read.contentDigest, std::move(read.reading.content), read.reading.sum};
@@ -185,7 +212,7 @@ bool Documents::OpenLocked(const QString& path, const std::shared_ptr<DocumentLo
     if (pThis == nullptr)
         return false;
     m_document = {QFileInfo(path).absoluteFilePath(), read.reading.digest, read.stamp, isReadOnly,
-                  pLock};
+                  std::move(pLock)};
     m_recent.Add(path);
     NoteLock();
     OnSketchChanged();
@@ -220,10 +247,16 @@ void Documents::DoOpen(const CommandParameters& parameters)
 
 void Documents::DoSave(const CommandParameters& parameters)
 {
+    const QPointer<Documents> pThis(this);
     const QString path = std::exchange(m_savingPath, QString());
-    if (!path.isEmpty())
-        m_isSaved = Write(path);
-    else if (CanSave(parameters))
+    const bool isSaved = path.isEmpty() ? CanSave(parameters) : Write(path);
+    // The journal of a later crash must not tell that the work is in the file.
+    if (!isSaved)
+        ActionManager::FailCommand();
+    if (pThis == nullptr)
+        return;
+    m_isSaved = isSaved;
+    if (isSaved && path.isEmpty())
         m_document.savedDigest = m_sketch.GetDigest();
     OnSketchChanged();
 }
@@ -236,7 +269,12 @@ bool Documents::CanOpen(const CommandParameters& parameters)
 
 bool Documents::CanSave(const CommandParameters& parameters) const
 {
-    return TextOf(parameters, DigestName).toStdString() == m_sketch.GetDigest();
+    return GetSavedDigest(parameters) == m_sketch.GetDigest();
+}
+
+std::string Documents::GetSavedDigest(const CommandParameters& parameters)
+{
+    return TextOf(parameters, DigestName).toStdString();
 }
 
 bool Documents::eventFilter(QObject* pWatched, QEvent* pEvent)
@@ -370,22 +408,20 @@ QString Documents::Suggest() const
     const QString folder = recent.isEmpty()
                                ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
                                : QFileInfo(recent.front()).path();
-    QString name = GetShownName();
-    for (const QChar c : QStringLiteral("/\\:*?\"<>|"))
-        name.replace(c, QLatin1Char('_'));
-    return folder + QLatin1Char('/') + name + EndingOfDrawings();
+    return folder + QLatin1Char('/') + ToFileName(GetShownName()) + EndingOfDrawings();
 }
 
 void Documents::RunWork(bool isLarge, const Work& work)
 {
-    const QPointer<Documents> pThis(this);
     m_isWorking = true;
+    const auto end = qScopeGuard([pThis = QPointer<Documents>(this)] {
+        if (pThis != nullptr)
+            pThis->m_isWorking = false;
+    });
     if (isLarge)
         m_runner(work);
     else
         work({});
-    if (pThis != nullptr)
-        m_isWorking = false;
 }
 
 /// Says once why something failed: to the user or, if there is none, on standard error.

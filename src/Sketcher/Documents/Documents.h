@@ -82,6 +82,9 @@ public:
     bool CanOpen(const vesk::CommandParameters& parameters);
     bool CanSave(const vesk::CommandParameters& parameters) const;
 
+    /// The digest of the drawing that a command with the id SaveId saves.
+    static std::string GetSavedDigest(const vesk::CommandParameters& parameters);
+
 signals:
     /// Another file, or another state of it.
     void changed();
@@ -98,8 +101,7 @@ private:
     bool SaveAsWithQuestions();
     bool SaveTo(const QString& path);
     bool Write(const QString& path);
-    bool OpenLocked(const QString& path, const std::shared_ptr<DocumentLock>& pLock,
-                    bool isReadOnly);
+    bool OpenLocked(const QString& path, std::shared_ptr<DocumentLock> pLock, bool isReadOnly);
     bool IsCurrent(const QString& path) const;
     QString GetShownName() const;
     QString Suggest() const;

@@ -34,5 +34,8 @@ QString MakeAboutPage()
         page += QStringLiteral("<tr><td><b>%1</b></td><td>%2</td><td><a href='%3'>%3</a></td></tr>")
                     .arg(QString::fromLatin1(library.name), QString::fromLatin1(library.licence),
                          QString::fromLatin1(library.address));
-    return page + QStringLiteral("</table><p>Qt %1</p>").arg(QString::fromLatin1(qVersion()));
+    return page + QStringLiteral("</table><p>Qt 版本：%1</p>"
+                                 "<p>DXF 文件由单独的程序 vesk-dxf 读写，它使用 dxflib，"
+                                 "许可证：GPL-3.0-or-later</p>")
+                      .arg(QString::fromLatin1(qVersion()));
 }

@@ -7,24 +7,12 @@
 
 #include "Foundation/Text.h"
 
-#include <algorithm>
 #include <limits>
 #include <optional>
 #include <utility>
 
 namespace
 {
-
-/// Leaves ids for what will be drawn.
-constexpr int GreatestId = 2000000000;
-
-const PenPart& ColourPart()
-{
-    static const PenPart& s_colours =
-        *std::find_if(PenParts().begin(), PenParts().end(),
-                      [](const PenPart& part) { return part.member == &Pen::colour; });
-    return s_colours;
-}
 
 /// A shape of the kind with that name; nothing if there is none.
 std::optional<Shape> MakeShape(const std::wstring& kind)
@@ -82,8 +70,8 @@ DocumentReading DocumentReader::ReadContent(DocumentFields& fields)
 {
     const JsonPiece digest = fields.Take("digest");
     m_content.name = vesk::FromUtf8(fields.TakeText("name"));
-    m_content.lastId = fields.TakeInteger("lastId", 0, GreatestId);
-    m_content.lastLayerId = fields.TakeInteger("lastLayerId", 0, GreatestId);
+    m_content.lastId = fields.TakeInteger("lastId", 0, SketchContent::GreatestId);
+    m_content.lastLayerId = fields.TakeInteger("lastLayerId", 0, SketchContent::GreatestId);
     ReadLayers(fields.Take("layers"));
     ReadCurrentPen(fields.Take("pen"));
     DocumentReading reading;

@@ -59,10 +59,11 @@ public:
         constexpr int GreatestDepth = 32;
         const std::size_t begin = m_place;
         std::size_t end = m_place;
-        for (int depth = 0; !IsAtEnd() && !IsEndOfValue(depth); end = m_place)
+        for (int depth = 0; !IsEndOfValue(depth); end = m_place)
         {
             depth += SkipPart();
-            if (depth > GreatestDepth)
+            // The brackets of the object or list that holds the value count, too.
+            if (depth >= GreatestDepth)
                 Fail("nested too deeply");
         }
         return {m_piece.text.substr(begin, end - begin), m_piece.offset + begin};
@@ -83,7 +84,9 @@ private:
     bool IsEndOfValue(int depth)
     {
         SkipBlanks();
-        const char c = IsAtEnd() ? ',' : m_piece.text[m_place];
+        if (IsAtEnd())
+            return true;
+        const char c = m_piece.text[m_place];
         return depth == 0 && (c == ',' || c == '}' || c == ']');
     }
 

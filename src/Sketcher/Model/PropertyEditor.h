@@ -15,10 +15,9 @@ struct PropertyRecord;
 
 /// Sets the properties of the drawing, for the user or for a replay.
 ///
-/// "name" of "drawing" is its name. "style",
-/// "colour", "width" and "layer" of "pen" apply to the next entities; those of "selection" change
-/// the selected entities in one undo step and leave the pen unchanged. A layer is given by its id,
-/// which does not change when it is renamed.
+/// "name" of "drawing" is its name. "style", "colour", "width" and "layer" of "pen" apply to the
+/// next entities; those of "selection" change the selected entities in one undo step and leave the
+/// pen unchanged. A layer is given by its id, which does not change when it is renamed.
 class PropertyEditor final
 {
 public:

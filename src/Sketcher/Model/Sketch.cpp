@@ -4,13 +4,11 @@
 
 #include "HostUi/QtText.h"
 
-#include <QUndoCommand>
-
 #include <QSignalBlocker>
+#include <QUndoCommand>
 
 #include <algorithm>
 #include <cstddef>
-#include <limits>
 #include <memory>
 #include <set>
 #include <utility>
@@ -27,7 +25,7 @@ SketchContent NewContent()
     return content;
 }
 
-constexpr int GreatestId = std::numeric_limits<int>::max();
+constexpr int GreatestId = SketchContent::GreatestId;
 
 }
 
@@ -81,7 +79,7 @@ std::vector<int> Sketch::Add(const std::vector<PenShape>& shapes, const std::wst
     return arePossible ? AddEntities(shapes, {}, stepName) : std::vector<int>();
 }
 
-/// Draws the shapes in one step with other changes, of layers.
+/// Draws the shapes in one step with a change that adds layers.
 std::vector<int> Sketch::AddEntities(const std::vector<PenShape>& shapes, SketchChange change,
                                      const std::wstring& stepName)
 {
@@ -98,6 +96,8 @@ std::vector<int> Sketch::AddEntities(const std::vector<PenShape>& shapes, Sketch
         change.entities.emplace_hint(change.entities.end(), ids.back(),
                                      Entity{ids.back(), shape, pen});
     }
+    if (!change.layers.empty())
+        m_content.lastLayerId = change.layers.rbegin()->first;
     Push(std::move(change), ids.front(), stepName);
     return ids;
 }
@@ -115,10 +115,7 @@ std::vector<int> Sketch::Insert(const SketchContent& content, const std::wstring
         shapes.emplace_back(entity.shape, entity.pen);
         shapes.back().second.layer = layerIds.at(entity.pen.layer);
     }
-    const int layerCount = static_cast<int>(change.layers.size());
-    const std::vector<int> ids = AddEntities(shapes, std::move(change), stepName);
-    m_content.lastLayerId += ids.empty() ? 0 : layerCount;
-    return ids;
+    return AddEntities(shapes, std::move(change), stepName);
 }
 
 /// The layers of this drawing for those with entities of another, by their ids there; notes in the
@@ -133,9 +130,9 @@ std::map<int, int> Sketch::MatchLayers(const SketchContent& content, SketchChang
     for (const int otherId : used)
     {
         Layer layer = *FindById(content.layers, otherId);
-        const auto own = FindLayerNamed(layer.name);
-        layer.id = own != nullptr ? own->id : ++lastId;
-        if (own == nullptr)
+        const Layer* pOwn = FindLayer(layer.name);
+        layer.id = pOwn != nullptr ? pOwn->id : ++lastId;
+        if (pOwn == nullptr)
             change.layers[layer.id] = layer;
         ids[otherId] = layer.id;
     }
@@ -227,7 +224,7 @@ const Layer* Sketch::FindLayer(int id) const
     return FindById(m_content.layers, id);
 }
 
-const Layer* Sketch::FindLayerNamed(const std::wstring& name) const
+const Layer* Sketch::FindLayer(const std::wstring& name) const
 {
     const auto found = std::find_if(m_content.layers.begin(), m_content.layers.end(),
                                     [&name](const Layer& layer) { return layer.name == name; });
@@ -239,9 +236,14 @@ const Layer& Sketch::LayerOf(const Entity& entity) const
     return *FindLayer(entity.pen.layer);
 }
 
+bool Sketch::CanAddLayer(const std::wstring& name) const
+{
+    return !name.empty() && FindLayer(name) == nullptr && m_content.lastLayerId < GreatestId;
+}
+
 int Sketch::AddLayer(const std::wstring& name)
 {
-    if (name.empty() || FindLayerNamed(name) != nullptr || m_content.lastLayerId == GreatestId)
+    if (!CanAddLayer(name))
         return 0;
     Layer layer;
     layer.id = ++m_content.lastLayerId;
@@ -252,13 +254,17 @@ int Sketch::AddLayer(const std::wstring& name)
     return layer.id;
 }
 
-bool Sketch::SetLayer(const Layer& layer)
+bool Sketch::CanSetLayer(const Layer& layer) const
 {
-    const Layer* pLayer = FindLayer(layer.id);
-    const Layer* pNamesake = FindLayerNamed(layer.name);
+    const Layer* pNamesake = FindLayer(layer.name);
     const bool isNameFree =
         !layer.name.empty() && (pNamesake == nullptr || pNamesake->id == layer.id);
-    if (pLayer == nullptr || *pLayer == layer || !isNameFree)
+    return isNameFree && FindLayer(layer.id) != nullptr;
+}
+
+bool Sketch::SetLayer(const Layer& layer)
+{
+    if (!CanSetLayer(layer) || *FindLayer(layer.id) == layer)
         return false;
     SketchChange change;
     change.layers[layer.id] = layer;
@@ -344,6 +350,7 @@ bool Sketch::Restore(SketchContent content, const Digest& digest)
         return false;
     m_content = std::move(content);
     m_digest = digest;
+    ++m_revision;
     m_lastUndone = 0;
     m_isNameStep = true;
     {
@@ -368,6 +375,7 @@ void Sketch::Push(SketchChange change, int entityId, const std::wstring& stepNam
 
 void Sketch::Exchange(SketchChange& change)
 {
+    m_revision += IsAddition(m_content, change) ? 0 : 1;
     ::Exchange(m_content, m_digest, change);
     if (FindLayer(m_content.currentPen.layer) == nullptr)
         m_content.currentPen.layer = Layer::BaseId;

@@ -75,6 +75,16 @@ void ExchangeThings(std::vector<Thing>& things, Digest& digest,
 
 }
 
+bool IsAddition(const SketchContent& content, const SketchChange& change)
+{
+    const auto isNewLayer = [&content](const auto& layer) {
+        return FindById(content.layers, layer.first) == nullptr;
+    };
+    const bool areEntitiesNew = change.entities.empty() || content.entities.empty() ||
+                                change.entities.begin()->first > content.entities.back().id;
+    return areEntitiesNew && std::all_of(change.layers.begin(), change.layers.end(), isNewLayer);
+}
+
 void Exchange(SketchContent& content, Digest& digest, SketchChange& change)
 {
     ExchangeThings(content.layers, digest, change.layers);

@@ -16,6 +16,9 @@ struct SketchChange
     std::optional<std::wstring> name;
 };
 
+/// True if all that is in the drawing stays as it is, its name apart, and new entities come last.
+bool IsAddition(const SketchContent& content, const SketchChange& change);
+
 /// Applies a change to a drawing and its digest, and turns it into the change that takes it back.
 /// The cost is that of the entities named; entities that appear or disappear before others cost a
 /// move of these.

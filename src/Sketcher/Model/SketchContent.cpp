@@ -30,7 +30,8 @@ bool AreLayersValid(const SketchContent& content)
             return false;
     }
     return !content.layers.empty() && content.layers.front().id == Layer::BaseId &&
-           AreIdsAscending(content.layers) && content.layers.back().id <= content.lastLayerId;
+           AreIdsAscending(content.layers) && content.layers.back().id <= content.lastLayerId &&
+           content.lastLayerId <= SketchContent::GreatestId;
 }
 
 bool IsPenValid(const Pen& pen, const SketchContent& content)
@@ -55,6 +56,7 @@ bool IsValid(const SketchContent& content)
     return AreLayersValid(content) && AreIdsAscending(content.entities) &&
            (isEmpty ||
             (content.entities.front().id > 0 && content.entities.back().id <= content.lastId)) &&
-           content.lastId >= 0 && IsPenValid(content.currentPen, content) &&
+           content.lastId >= 0 && content.lastId <= SketchContent::GreatestId &&
+           IsPenValid(content.currentPen, content) &&
            std::all_of(content.entities.begin(), content.entities.end(), isValid);
 }

@@ -32,6 +32,9 @@ struct UnknownFields
 /// Everything that a drawing file keeps.
 struct SketchContent
 {
+    /// No id of an entity or a layer is greater: neither a drawing nor a file may have it.
+    static constexpr int GreatestId = 2000000000;
+
     std::wstring name;
     std::vector<Layer> layers = {Layer()}; ///< By ascending id; the base layer comes first.
     std::vector<Entity> entities;          ///< By ascending id, the order in which they are drawn.

@@ -3,9 +3,7 @@
 #include "Output/DxfImport.h"
 
 #include "Model/DocumentFile.h"
-
-#include <QFile>
-#include <QFileInfo>
+#include "Model/FileContent.h"
 
 #include <cstddef>
 #include <utility>
@@ -15,10 +13,9 @@ namespace
 
 OutputFault ReadDrawingFile(const QString& path, DrawingSource& source)
 {
-    QFile file(path);
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+    const auto [bytes, fault] = FileContent::Of(path);
+    if (fault != FileContent::Fault::None)
         return OutputFault::CannotRead;
-    const QByteArray bytes = file.readAll();
     DocumentReading reading =
         DocumentFile::FromText({bytes.constData(), static_cast<std::size_t>(bytes.size())});
     source.error = std::move(reading.error);

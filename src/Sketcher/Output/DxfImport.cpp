@@ -1,11 +1,9 @@
 #include "Output/DxfImport.h"
 
 #include "Model/DocumentFile.h"
+#include "Model/FileContent.h"
 
 #include <nlohmann/json.hpp>
-
-#include <QFile>
-#include <QFileInfo>
 
 #include <cstddef>
 #include <string>
@@ -99,14 +97,13 @@ OutputFault TakeDocument(const QByteArray& bytes, DxfImport& result)
 OutputFault Import(const QString& path, const QString& unit, const OutputProgress& progress,
                    DxfImport& result)
 {
-    QFile file(path);
-    // Anything else might be without an end.
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+    const auto [bytes, fault] = FileContent::Of(path);
+    if (fault != FileContent::Fault::None)
         return OutputFault::CannotRead;
     QStringList arguments = {QStringLiteral("import")};
     if (!unit.isEmpty())
         arguments << QStringLiteral("--unit") << unit;
-    const DxfRun run = RunDxfProcess(arguments, file.readAll(), progress);
+    const DxfRun run = RunDxfProcess(arguments, bytes, progress);
     result.report = ReadDxfReport(run.messages);
     return run.fault == OutputFault::None ? TakeDocument(run.output, result) : run.fault;
 }

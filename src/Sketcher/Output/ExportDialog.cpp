@@ -27,7 +27,7 @@ QString PathFrom(const QPointer<QFileDialog>& pDialog)
 
 }
 
-QString AskForExportPath(QWidget& window, const QString& drawingName)
+QString AskForExportPath(QWidget& window, const QString& suggestion)
 {
     QStringList filters;
     for (const ExportFormat& format : ExportFormats())
@@ -39,7 +39,7 @@ QString AskForExportPath(QWidget& window, const QString& drawingName)
     pDialog->setObjectName(QStringLiteral("ExportDialog"));
     pDialog->setAcceptMode(QFileDialog::AcceptSave);
     pDialog->setNameFilters(filters);
-    pDialog->selectFile(drawingName);
+    pDialog->selectFile(suggestion);
     const auto useSuffix = [pDialog, filters](const QString& filter) {
         const auto place = static_cast<std::size_t>(filters.indexOf(filter));
         pDialog->setDefaultSuffix(vesk::ToQString(ExportFormats()[place].name));
@@ -49,13 +49,13 @@ QString AskForExportPath(QWidget& window, const QString& drawingName)
     return PathFrom(pDialog);
 }
 
-QString AskForPdfPath(QWidget& window, const QString& drawingName)
+QString AskForPdfPath(QWidget& window, const QString& suggestion)
 {
     const QPointer<QFileDialog> pDialog = new QFileDialog(&window, QStringLiteral("打印到文件"));
     pDialog->setObjectName(QStringLiteral("PrintFileDialog"));
     pDialog->setAcceptMode(QFileDialog::AcceptSave);
     pDialog->setNameFilter(QStringLiteral("PDF 文档 (*.pdf)"));
     pDialog->setDefaultSuffix(QStringLiteral("pdf"));
-    pDialog->selectFile(drawingName);
+    pDialog->selectFile(suggestion);
     return PathFrom(pDialog);
 }

@@ -98,9 +98,16 @@ bool OutputCommands::IsExport(const CommandParameters& parameters) const
            FindExportFormat(TextOf(parameters, FormatParameter)) != nullptr;
 }
 
+/// A name without an ending: beside the drawing's file or, if it has none, the drawing's own name.
+QString OutputCommands::Suggest() const
+{
+    const QString fileName = m_fileName ? m_fileName() : QString();
+    return fileName.isEmpty() ? ToQString(m_workspace.sketch.GetName()) : fileName;
+}
+
 void OutputCommands::AskForExport()
 {
-    const QString path = AskForExportPath(m_window, ToQString(m_workspace.sketch.GetName()));
+    const QString path = AskForExportPath(m_window, Suggest());
     if (!path.isEmpty() && m_window.isVisible())
         Export(path);
 }
@@ -144,7 +151,7 @@ void OutputCommands::Print(const PrintJob& job)
 {
     m_target.clear();
     if (job.printer.isEmpty())
-        m_target = AskForPdfPath(m_window, ToQString(m_workspace.sketch.GetName()));
+        m_target = AskForPdfPath(m_window, Suggest());
     if ((job.printer.isEmpty() && m_target.isEmpty()) || !m_window.isVisible())
         return;
     m_job = job;

@@ -9,6 +9,7 @@
 
 #include <functional>
 #include <optional>
+#include <utility>
 #include <vector>
 
 struct Workspace;
@@ -38,6 +39,10 @@ public:
 
     std::vector<CommandEntry> MakeCommands();
 
+    /// Sets what names the drawing's file, with its folder but without an ending; empty while there
+    /// is none. Exported and printed files are suggested beside it.
+    void SetNaming(std::function<QString()> fileName) { m_fileName = std::move(fileName); }
+
     /// Records that the drawing is exported to a file, whose suffix is the format, and does it.
     /// What goes wrong is shown in the window.
     void Export(const QString& path);
@@ -45,6 +50,7 @@ public:
 private:
     bool IsDrawing(const vesk::CommandParameters& parameters) const;
     bool IsExport(const vesk::CommandParameters& parameters) const;
+    QString Suggest() const;
     void AskForExport();
     void AskForPrint();
     void WriteTarget();
@@ -55,6 +61,7 @@ private:
     const Workspace& m_workspace;
     vesk::MainWindow& m_window;
     const OutputRunner m_runner;
+    std::function<QString()> m_fileName;
 
     /// Where to, while the command runs that was recorded for it. Empty in a replay.
     QString m_target;

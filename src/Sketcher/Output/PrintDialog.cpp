@@ -1,26 +1,22 @@
 #include "Output/PrintDialog.h"
 
+#include "Output/PaperPreview.h"
 #include "Output/PrintLayout.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
-#include <QElapsedTimer>
 #include <QFormLayout>
 #include <QHBoxLayout>
-#include <QImage>
 #include <QLabel>
-#include <QPainter>
-#include <QPixmap>
 #include <QPrinterInfo>
 #include <QPushButton>
+#include <QVBoxLayout>
 
 #include <algorithm>
 #include <utility>
 
 namespace
 {
-
-constexpr int PreviewSide = 420;
 
 constexpr QPageSize::PageSizeId PaperSizes[] = {QPageSize::A4, QPageSize::A3, QPageSize::A2,
                                                 QPageSize::A1, QPageSize::A0, QPageSize::Letter};
@@ -54,15 +50,13 @@ PrintDialog::PrintDialog(SketchContent content, QWidget* pParent)
                            QStringLiteral("1:5"), QStringLiteral("1:10"), QStringLiteral("1:20"),
                            QStringLiteral("1:50"), QStringLiteral("1:100"), QStringLiteral("2:1"),
                            QStringLiteral("5:1")})),
-      m_pPreview(new QLabel), m_pRemark(new QLabel)
+      m_pPreview(new PaperPreview(m_content)), m_pRemark(new QLabel)
 {
     setObjectName(QStringLiteral("PrintDialog"));
     setWindowTitle(QStringLiteral("打印"));
     m_pPrinter->addItem(QStringLiteral("PDF 文件"));
     m_pScale->setEditable(true);
     m_pPreview->setObjectName(QStringLiteral("PrintPreview"));
-    m_pPreview->setAlignment(Qt::AlignCenter);
-    m_pPreview->setMinimumSize(PreviewSide, PreviewSide);
     m_pRemark->setObjectName(QStringLiteral("PrintRemark"));
     m_pRemark->setWordWrap(true);
     AddRows();
@@ -94,19 +88,22 @@ std::optional<PrintJob> PrintDialog::GetJob() const
 void PrintDialog::AddRows()
 {
     auto* pRows = new QFormLayout;
-    pRows->addRow(QStringLiteral("打印机"), m_pPrinter);
-    pRows->addRow(QStringLiteral("纸张"), m_pPaper);
-    pRows->addRow(QStringLiteral("方向"), m_pOrientation);
-    pRows->addRow(QStringLiteral("比例"), m_pScale);
+    pRows->addRow(QStringLiteral("打印机(&P)"), m_pPrinter);
+    pRows->addRow(QStringLiteral("纸张(&S)"), m_pPaper);
+    pRows->addRow(QStringLiteral("方向(&O)"), m_pOrientation);
+    pRows->addRow(QStringLiteral("比例(&C)"), m_pScale);
     pRows->addRow(m_pRemark);
     auto* pButtons = new QDialogButtonBox;
     m_pPrint = pButtons->addButton(QStringLiteral("打印"), QDialogButtonBox::AcceptRole);
     pButtons->addButton(QStringLiteral("取消"), QDialogButtonBox::RejectRole);
     connect(pButtons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(pButtons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    pRows->addRow(pButtons);
+    auto* pSide = new QVBoxLayout;
+    pSide->addLayout(pRows);
+    pSide->addStretch();
+    pSide->addWidget(pButtons);
     auto* pLayout = new QHBoxLayout(this);
-    pLayout->addLayout(pRows);
+    pLayout->addLayout(pSide);
     pLayout->addWidget(m_pPreview, 1);
 }
 
@@ -123,28 +120,7 @@ void PrintDialog::OnChanged()
     m_pRemark->setText(FitsPaper(m_bounds, scale, job->placement.paper)
                            ? QStringLiteral("比例 %1").arg(ScaleText(scale))
                            : QStringLiteral("图形超出纸面，超出部分不会打印"));
-    ShowPreview(*job);
-}
-
-/// A large drawing is shown in part, so that the dialog answers at once.
-void PrintDialog::ShowPreview(const PrintJob& job)
-{
-    constexpr qint64 LongestMs = 100;
-    const QSizeF& paper = job.placement.paper;
-    const double pixels = PreviewSide / std::max(paper.width(), paper.height());
-    QImage image((paper * pixels).toSize(), QImage::Format_RGB32);
-    image.fill(Qt::white);
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.scale(pixels, pixels);
-    QElapsedTimer time;
-    time.start();
-    const bool isWhole = PaintOnPaper(painter, m_content, job.placement,
-                                      [&time](double) { return time.elapsed() < LongestMs; });
-    painter.end();
-    m_pPreview->setPixmap(QPixmap::fromImage(image));
-    m_pPreview->setToolTip(isWhole ? QString()
-                                   : QStringLiteral("图纸很大，预览只画出一部分；打印是完整的"));
+    m_pPreview->Show(job->placement);
 }
 
 /// Nothing if the text is not a scale.

@@ -8,6 +8,7 @@
 
 #include <optional>
 
+class PaperPreview;
 class QComboBox;
 class QLabel;
 class QPushButton;
@@ -36,7 +37,6 @@ public:
 private:
     void AddRows();
     void OnChanged();
-    void ShowPreview(const PrintJob& job);
     std::optional<double> GetScale(const QSizeF& paper) const;
 
     const SketchContent m_content;
@@ -45,7 +45,7 @@ private:
     QComboBox* m_pPaper;
     QComboBox* m_pOrientation;
     QComboBox* m_pScale;
-    QLabel* m_pPreview;
+    PaperPreview* m_pPreview;
     QLabel* m_pRemark;
     QPushButton* m_pPrint = nullptr;
 };

@@ -19,7 +19,7 @@ using vesk::JournalManager;
 
 JournalPane::JournalPane()
     : m_pModel(new JournalModel(this)),
-      m_pState(new QLabel(QStringLiteral("日志文件无法写入，操作没有保存"))), m_pView(new QListView)
+      m_pState(new QLabel(QStringLiteral("操作没有存入日志文件"))), m_pView(new QListView)
 {
     m_pState->setObjectName(QStringLiteral("JournalState"));
     m_pState->setWordWrap(true);

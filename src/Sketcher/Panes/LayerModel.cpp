@@ -9,6 +9,7 @@
 
 #include <QGuiApplication>
 #include <QPalette>
+#include <QPointer>
 
 #include <algorithm>
 #include <array>
@@ -98,12 +99,14 @@ void LayerModel::Change(int row, const std::wstring& property,
 {
     const LayerEdit edit{GetLayer(row).id, property, value};
     const auto* pName = std::get_if<std::wstring>(&value);
+    const QPointer<LayerModel> pThis(this);
     QString refusal;
     if (edit.IsPossible(m_sketch))
         ActionManager::RunCommand(LayerEdit::CommandId, edit.ToParameters());
     else if (pName != nullptr)
         refusal = DescribeNameRefusal(*pName);
-    emit answered(refusal);
+    if (pThis != nullptr)
+        emit answered(refusal);
 }
 
 int LayerModel::rowCount(const QModelIndex& parent) const

@@ -4,6 +4,7 @@
 #include "Model/Workspace.h"
 #include "Panes/ColourSwatch.h"
 #include "Panes/LayerModel.h"
+#include "Panes/RefusalMessage.h"
 
 #include "Command/ActionManager.h"
 #include "HostUi/QtText.h"
@@ -13,6 +14,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QMenu>
+#include <QPointer>
 #include <QToolButton>
 #include <QTreeView>
 #include <QVBoxLayout>
@@ -30,23 +32,11 @@ constexpr int NoLayer = -1;
 std::wstring FreeLayerName(const Sketch& sketch)
 {
     int number = 1;
-    LayerAddition addition;
+    std::wstring name;
     do
-        addition.name = L"图层 " + std::to_wstring(number++);
-    while (!addition.IsPossible(sketch));
-    return addition.name;
-}
-
-QLabel* MakeLayerMessage()
-{
-    auto* pMessage = new QLabel;
-    pMessage->setObjectName(QStringLiteral("LayerMessage"));
-    pMessage->setWordWrap(true);
-    pMessage->setMargin(4);
-    pMessage->setStyleSheet(
-        QStringLiteral("background: #b03a37; color: white; border-radius: 4px"));
-    pMessage->hide();
-    return pMessage;
+        name = L"图层 " + std::to_wstring(number++);
+    while (sketch.FindLayer(name) != nullptr);
+    return name;
 }
 
 void ArrangeColumns(QTreeView& view)
@@ -70,7 +60,7 @@ void ArrangeColumns(QTreeView& view)
 
 LayerPane::LayerPane(Workspace& workspace)
     : m_workspace(workspace), m_pModel(new LayerModel(workspace.sketch, this)),
-      m_pView(new QTreeView), m_pMessage(MakeLayerMessage())
+      m_pView(new QTreeView), m_pMessage(MakeRefusalMessage(QStringLiteral("LayerMessage")))
 {
     m_pView->setObjectName(QStringLiteral("Layers"));
     m_pView->setModel(m_pModel);
@@ -164,8 +154,12 @@ void LayerPane::ChooseColour(const QModelIndex& index)
 /// The name of the new layer can be typed at once.
 void LayerPane::OnNew()
 {
+    const QPointer<LayerPane> pThis(this);
     const LayerAddition addition{FreeLayerName(m_workspace.sketch)};
-    ActionManager::RunCommand(LayerAddition::CommandId, addition.ToParameters());
+    if (addition.IsPossible(m_workspace.sketch))
+        ActionManager::RunCommand(LayerAddition::CommandId, addition.ToParameters());
+    if (pThis == nullptr)
+        return;
     OnAnswered(QString());
     const Layer& added = m_workspace.sketch.GetLayers().back();
     if (added.name != addition.name)
@@ -176,10 +170,12 @@ void LayerPane::OnNew()
 
 void LayerPane::OnRemove()
 {
+    const QPointer<LayerPane> pThis(this);
     const LayerRemoval removal{GetSelected()};
     if (removal.IsPossible(m_workspace.sketch))
         ActionManager::RunCommand(LayerRemoval::CommandId, removal.ToParameters());
-    OnAnswered(QString());
+    if (pThis != nullptr)
+        OnAnswered(QString());
 }
 
 void LayerPane::OnMakeCurrent()

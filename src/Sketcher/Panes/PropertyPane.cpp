@@ -3,6 +3,7 @@
 #include "Model/EntityEdit.h"
 #include "Model/ShapeKind.h"
 #include "Model/Workspace.h"
+#include "Panes/RefusalMessage.h"
 #include "Ribbon/FieldKeys.h"
 
 #include "Command/ActionManager.h"
@@ -25,25 +26,9 @@
 
 using namespace vesk;
 
-namespace
-{
-
-QLabel* MakeMessage()
-{
-    auto* pMessage = new QLabel;
-    pMessage->setObjectName(QStringLiteral("PropertyMessage"));
-    pMessage->setWordWrap(true);
-    pMessage->setMargin(4);
-    pMessage->setStyleSheet(
-        QStringLiteral("background: #b03a37; color: white; border-radius: 4px"));
-    pMessage->hide();
-    return pMessage;
-}
-
-}
-
 PropertyPane::PropertyPane(Workspace& workspace, ControlHost& controls)
-    : m_workspace(workspace), m_pTitle(new QLabel), m_pMessage(MakeMessage())
+    : m_workspace(workspace), m_pTitle(new QLabel),
+      m_pMessage(MakeRefusalMessage(QStringLiteral("PropertyMessage")))
 {
     m_pTitle->setObjectName(QStringLiteral("PropertyTitle"));
     auto* pForm = new QWidget;

@@ -22,23 +22,25 @@ bool IsMark(const JournalRecord& record)
     return std::holds_alternative<MarkRecord>(record.what);
 }
 
-/// Counts the steps of a journal, record by record.
+/// Counts the steps of a journal that are in no drawing file, record by record.
 class StepCounter
 {
 public:
     void Add(const JournalRecord& record)
     {
         if (const auto* pCommand = std::get_if<CommandRecord>(&record.what))
-            AddCommand(pCommand->commandId);
+            AddCommand(record.number, *pCommand);
         else if (const auto* pMark = std::get_if<MarkRecord>(&record.what))
             AddMark(*pMark);
+        else if (const auto* pEnd = std::get_if<EndRecord>(&record.what))
+            AddEnd(*pEnd);
         else if (IsStepWithoutMark(record))
             ++m_unmarked;
     }
 
     const std::wstring& GetCommand() const { return m_command; }
 
-    /// 0 if the drawing is as it was in the beginning.
+    /// 0 if the drawing is as it was in the beginning, or as it was saved last.
     int Get() const
     {
         if (!m_hasMarks)
@@ -47,23 +49,39 @@ public:
     }
 
 private:
-    void AddCommand(const std::wstring& id)
+    void AddCommand(int number, const CommandRecord& record)
     {
-        m_command = id;
+        m_command = record.commandId;
+        if (m_command == Documents::SaveId)
+            m_saving = {number, Documents::GetSavedDigest(record.parameters)};
         // Whether what was there before is to be saved was asked then.
-        m_isOpening = id == Documents::NewId || id == Documents::OpenId;
+        if (m_command == Documents::NewId || m_command == Documents::OpenId)
+            m_opening = number;
     }
 
     void AddMark(const MarkRecord& mark)
     {
         m_hasMarks = true;
-        if (std::exchange(m_isOpening, false))
+        if (std::exchange(m_opening, 0) != 0)
         {
             m_steps = 0;
             m_digest = m_savedDigest = mark.digest;
         }
         m_steps += mark.digest == m_digest ? 0 : 1;
         m_digest = mark.digest;
+    }
+
+    void AddEnd(const EndRecord& end)
+    {
+        if (end.command == m_opening)
+            m_opening = 0;
+        if (end.command != m_saving.command)
+            return;
+        const Saving saving = std::exchange(m_saving, {});
+        if (end.isRefused)
+            return;
+        m_savedDigest = saving.digest;
+        m_steps = m_digest == m_savedDigest ? 0 : m_steps;
     }
 
     /// In a file of version 1, which has no marks.
@@ -74,10 +92,18 @@ private:
                std::holds_alternative<UndoRecord>(record.what);
     }
 
+    /// A command that saves the drawing with that digest.
+    struct Saving
+    {
+        int command = 0;
+        std::string digest;
+    };
+
     std::wstring m_command;
     std::string m_digest = Sketch().GetDigest();
     std::string m_savedDigest = m_digest;
-    bool m_isOpening = false; ///< The next mark is that of a drawing that was opened.
+    Saving m_saving;   ///< Has no end yet; number 0 if there is none.
+    int m_opening = 0; ///< The same; the next mark is that of the drawing that was opened.
     bool m_hasMarks = false;
     int m_steps = 0;
     int m_unmarked = 0;

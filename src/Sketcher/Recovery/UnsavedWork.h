@@ -12,10 +12,10 @@
 /// What a session did that ended without a decision about it: it crashed, or the system ended it.
 struct UnsavedWork
 {
-    QString journal;          ///< The path of its journal.
-    std::wstring command;     ///< The id of the last command; empty for none.
-    QDateTime time;           ///< When the journal was written last.
-    int steps = 0;            ///< The finished changes since the drawing was begun or opened.
+    QString journal;      ///< The path of its journal.
+    std::wstring command; ///< The id of the last command; empty for none.
+    QDateTime time;       ///< When the journal was written last.
+    int steps = 0;        ///< The finished changes since the drawing was begun, opened or saved.
     bool isReadInFull = true; ///< False if a line is damaged: only those before it count.
 };
 
@@ -24,7 +24,7 @@ struct UnsavedWork
 bool IsEnded(const QString& journal);
 
 /// The work in a journal. Nothing if no step was finished, or if the drawing is as it was when it
-/// was opened. Reads the whole file; may be called in any thread.
+/// was opened or saved. Reads the whole file; may be called in any thread.
 std::optional<UnsavedWork> FindUnsavedWork(const QString& journal);
 
 /// The records that were completed, to be replayed after a crash: without those that began

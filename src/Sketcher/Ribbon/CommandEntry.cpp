@@ -84,6 +84,12 @@ CommandEntry& CommandEntry::WithOtherKeys(const std::wstring& sequence)
     return *this;
 }
 
+CommandEntry& CommandEntry::NotWhileTyping()
+{
+    isNotWhileTyping = true;
+    return *this;
+}
+
 CommandEntry& CommandEntry::InGroup(const std::wstring& groupCaption)
 {
     group = groupCaption;

@@ -42,6 +42,10 @@ struct CommandEntry
     CommandEntry& WithToolTip(const std::wstring& text);
     CommandEntry& WithKeys(const std::wstring& sequence);
     CommandEntry& WithOtherKeys(const std::wstring& sequence); ///< Not in the tool tip.
+
+    /// Its keys do nothing while a text is being typed, as they would change what nobody looks at.
+    CommandEntry& NotWhileTyping();
+
     CommandEntry& InGroup(const std::wstring& caption);
     CommandEntry& OnStartPage();
     CommandEntry& InMenu(const std::wstring& menuId);
@@ -66,5 +70,6 @@ struct CommandEntry
     std::wstring otherKeys = {}; ///< Another shortcut of the button.
     std::function<bool(const vesk::CommandParameters&)> isPossible = {}; ///< If empty, always.
 
+    bool isNotWhileTyping = false;
     bool isOnStartPage = false; ///< Whether its group is on the page 开始 instead of 草图.
 };

@@ -125,9 +125,9 @@ std::vector<CommandEntry> MakeZoomCommands(const Sketch& sketch, SketchView& vie
 {
     constexpr double ZoomStep = 2.0;
     std::vector<CommandEntry> entries = {
-        CommandEntry::Plain(L"Sketcher.ZoomAll", L"全部", [&view] { view.ZoomAll(); })
+        CommandEntry::Plain(L"Sketcher.ZoomAll", L"全图", [&view] { view.ZoomAll(); })
             .WithIcon(L"zoom-all")
-            .WithToolTip(L"缩放到全部图元")
+            .WithToolTip(L"全图：缩放到全部图元")
             .WithKeys(L"Ctrl+0")
             .InGroup(L"视图")
             .InMenu(ZoomMenu::Id)

@@ -1,5 +1,7 @@
 #include "Settings/Appearance.h"
 
+#include "Settings/DarkStyle.h"
+
 #include <QApplication>
 #include <QStyle>
 #include <QToolTip>
@@ -92,15 +94,20 @@ void Appearance::Set(Settings::Colours colours)
         QToolTip::setPalette(m_desktopToolTips);
         return;
     }
-    SetStyle(QStringLiteral("fusion"));
-    const QPalette palette =
-        ToPalette(colours == Settings::Colours::Dark ? DarkScheme() : LightScheme());
+    const bool isDark = colours == Settings::Colours::Dark;
+    const QPalette palette = ToPalette(isDark ? DarkScheme() : LightScheme());
+    // Panes ask the style for their icons only once, when it is set.
     QApplication::setPalette(palette);
+    SetStyle(isDark ? QString::fromLatin1(DarkStyle::Name) : QStringLiteral("fusion"));
     QToolTip::setPalette(palette);
 }
 
 void Appearance::SetStyle(const QString& name)
 {
-    if (QApplication::style()->objectName() != name)
+    if (QApplication::style()->objectName() == name)
+        return;
+    if (name == QLatin1String(DarkStyle::Name))
+        QApplication::setStyle(new DarkStyle);
+    else
         QApplication::setStyle(name);
 }

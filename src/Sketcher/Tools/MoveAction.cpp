@@ -5,7 +5,6 @@
 #include "Model/Workspace.h"
 #include "Tools/ShapeGraphics.h"
 
-#include "Dimension/ITemporaryDimensionContext.h"
 #include "Graphics/IGraphicsNode.h"
 
 using namespace vesk;
@@ -18,28 +17,11 @@ constexpr wchar_t CopyName[] = L"复制";
 
 }
 
-MoveAction::MoveAction(Workspace& workspace) : MoveAction(workspace, Mode::Move) {}
+MoveAction::MoveAction(Workspace& workspace) : MoveAction(workspace, MoveName) {}
 
-MoveAction::MoveAction(Workspace& workspace, Mode mode)
-    : SelectionAction(workspace, mode == Mode::Move ? MoveName : CopyName, L"基点"), m_mode(mode)
+MoveAction::MoveAction(Workspace& workspace, const std::wstring& name)
+    : TwoPointAction(workspace, name, L"基点")
 {}
-
-bool MoveAction::IsFinished() const
-{
-    return m_isFinished;
-}
-
-OwnerPtr<ITemporaryDimensionContext> MoveAction::CreateDimensionContext() const
-{
-    if (IsNothingSelected() || !m_base.has_value())
-        return nullptr;
-    return MakeStraightContext();
-}
-
-bool MoveAction::HasFirstPoint() const
-{
-    return m_base.has_value();
-}
 
 std::wstring MoveAction::GetNextText() const
 {
@@ -48,52 +30,24 @@ std::wstring MoveAction::GetNextText() const
 
 void MoveAction::AddPreview(IGraphicsNodeGroup& group) const
 {
-    AddRubberBand(group, LineShape{*m_base, GetEnd()});
+    AddRubberBand(group, LineShape{GetFirstPoint(), GetEnd()});
     AddChanged(group, MoveTo(GetEnd()));
 }
 
-std::optional<Vector3d> MoveAction::GetStart() const
-{
-    return m_base;
-}
-
-Vector3d MoveAction::GetEnd() const
-{
-    return GetStraightEnd();
-}
-
-bool MoveAction::Expects(InputState field) const
-{
-    const bool isOwn = field == InputState::IS_Length || field == InputState::IS_Angle;
-    return isOwn && m_base.has_value() && !IsNothingSelected();
-}
-
-double MoveAction::ReadCursor(InputState field) const
-{
-    return ReadStraight(field);
-}
-
+/// A copy must be drawable, and apart from its original, too.
 bool MoveAction::CanFinish(const Vector3d& end) const
 {
-    const Shapes moved = MakeChanged(MoveTo(end));
-    // A copy must be drawable, and apart from its original.
-    return GetWorkspace().sketch.CanReplace(moved);
+    return GetWorkspace().sketch.CanReplace(MakeChanged(MoveTo(end)));
 }
 
-/// Sets the base point, then moves or copies.
-bool MoveAction::Finish(const Vector3d& end)
+bool MoveAction::Apply(const Vector3d& end)
 {
-    if (!m_base.has_value())
-    {
-        m_base = end;
-        return true;
-    }
-    if (!CanFinish(end))
-        return false;
-    if (m_mode == Mode::Copy)
-        return AddCopies(MoveTo(end), CopyName);
-    m_isFinished = GetWorkspace().sketch.Replace(MakeChanged(MoveTo(end)), MoveName);
-    return m_isFinished;
+    return GetWorkspace().sketch.Replace(MakeChanged(MoveTo(end)), MoveName);
+}
+
+MoveAction::Change MoveAction::MoveTo(const Vector3d& end) const
+{
+    return [way = GetWayTo(end)](const Shape& shape) { return Translated(shape, way); };
 }
 
 /// Values are exact; the end point is rounded.
@@ -103,10 +57,12 @@ Vector3d MoveAction::GetWayTo(const Vector3d& end) const
     const std::optional<double> angle = GetTyped(InputState::IS_Angle);
     if (length.has_value() && angle.has_value())
         return *length * DirectionOf(*angle);
-    return end - *m_base;
+    return end - GetFirstPoint();
 }
 
-MoveAction::Change MoveAction::MoveTo(const Vector3d& end) const
+CopyAction::CopyAction(Workspace& workspace) : MoveAction(workspace, CopyName) {}
+
+bool CopyAction::Apply(const Vector3d& end)
 {
-    return [way = GetWayTo(end)](const Shape& shape) { return Translated(shape, way); };
+    return AddCopies(MoveTo(end), CopyName);
 }

@@ -96,7 +96,6 @@ OwnerPtr<IGraphicsNodeGroup> OffsetAction::CreateRubberBand() const
     return opGroup;
 }
 
-/// The point of the source that faces the cursor.
 IPickingTool::Click OffsetAction::GetClick() const
 {
     if (GetSource() != nullptr)
@@ -104,6 +103,7 @@ IPickingTool::Click OffsetAction::GetClick() const
     return m_hovered != 0 ? Click::PicksEntity : Click::DoesNothing;
 }
 
+/// The point of the source that faces the cursor.
 std::optional<Vector3d> OffsetAction::GetStart() const
 {
     const Entity* pSource = GetSource();

@@ -18,6 +18,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include <algorithm>
 #include <cmath>
 #include <optional>
 #include <utility>
@@ -27,6 +28,10 @@ using vesk::Vector3d;
 
 namespace
 {
+
+/// So many entities in a part of the picture: even of those that are slow to paint, dashed circles
+/// for example, they take only milliseconds.
+constexpr std::size_t MostPainted = 250;
 
 QColor Mix(const QColor& a, const QColor& b, double share)
 {
@@ -43,7 +48,7 @@ SketchView::SketchView(Workspace& workspace, vesk::DimensionInputController& inp
 {
     setObjectName(QStringLiteral("SketchView"));
     qApp->installEventFilter(this);
-    connect(&workspace.sketch, &Sketch::changed, this, &SketchView::UpdateModel);
+    connect(&workspace.sketch, &Sketch::changed, this, &SketchView::OnSketchChanged);
     connect(&workspace.selection, &Selection::changed, this, &SketchView::UpdateModel);
     // Looking costs more, the larger the drawing: once for all changes before the event loop.
     m_lookAgain.setSingleShot(true);
@@ -71,13 +76,19 @@ void SketchView::OnActionChanged()
     UpdateCursor();
 }
 
-void SketchView::PaintModel(QPainter& painter)
+/// The ground, then what lies below the selected entities, then all entities.
+std::size_t SketchView::PaintModel(QPainter& painter, std::size_t begin)
 {
-    PaintGrid(painter);
-    PaintAxes(painter);
-    for (const int id : m_workspace.selection.GetIds())
-        PaintSelected(painter, *m_workspace.sketch.Find(id));
-    PaintEntities(painter);
+    constexpr std::size_t FirstSelected = 1;
+    const std::size_t firstEntity = FirstSelected + m_workspace.selection.GetIds().size();
+    if (begin == 0)
+    {
+        PaintGrid(painter);
+        PaintAxes(painter);
+        return FirstSelected;
+    }
+    return begin < firstEntity ? FirstSelected + PaintSelection(painter, begin - FirstSelected)
+                               : firstEntity + PaintEntities(painter, begin - firstEntity);
 }
 
 void SketchView::PaintOverlay(QPainter& painter)
@@ -179,6 +190,16 @@ void SketchView::mouseReleaseEvent(QMouseEvent* pEvent)
     DropPress();
 }
 
+/// What is drawn lies above all else: it is added to the picture.
+void SketchView::OnSketchChanged()
+{
+    const unsigned revision = m_workspace.sketch.GetRevision();
+    if (std::exchange(m_shownRevision, revision) == revision)
+        ExtendModel();
+    else
+        UpdateModel();
+}
+
 void SketchView::OnCursorMoved(double x, double y)
 {
     SetPointed(PickEntity(m_workspace.sketch, {x, y, 0.0}, this));
@@ -225,10 +246,14 @@ void SketchView::PaintGridLines(QPainter& painter, double step, const QColor& co
     const auto startOfPixel = [scale](double place) {
         return std::floor(place * scale + Nudge) / scale;
     };
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing, false);
     const Vector3d topLeft = GetCamera().ScreenToWorld(0, 0);
     const Vector3d bottomRight = GetCamera().ScreenToWorld(width(), height());
+    // So far away a line and the next one have the same number.
+    constexpr double GreatestNumber = 1e15;
+    if (topLeft.cwiseAbs().cwiseMax(bottomRight.cwiseAbs()).maxCoeff() > GreatestNumber * step)
+        return;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing, false);
     for (double i = std::ceil(topLeft.x() / step); i * step <= bottomRight.x(); ++i)
     {
         const double x = startOfPixel(ToPixel({i * step, 0.0, 0.0}).x());
@@ -251,15 +276,29 @@ void SketchView::PaintAxes(QPainter& painter) const
     painter.drawLine(QPointF(origin.x(), 0), QPointF(origin.x(), height()));
 }
 
-void SketchView::PaintEntities(QPainter& painter) const
+/// Paints some of the entities and returns the index of the next.
+std::size_t SketchView::PaintEntities(QPainter& painter, std::size_t begin) const
 {
+    const std::vector<Entity>& entities = m_workspace.sketch.GetEntities();
+    const std::size_t end = std::max(begin, std::min(begin + MostPainted, entities.size()));
     const QRectF visible = GetPaintedRect();
     ScreenPens pens(m_workspace.sketch, palette().color(QPalette::Text));
-    for (const Entity& entity : m_workspace.sketch.GetEntities())
+    for (std::size_t i = begin; i < end; ++i)
     {
-        if (const QPen* pPen = pens.Find(entity.pen))
-            PaintShape(painter, *pPen, entity.shape, GetCamera(), visible);
+        if (const QPen* pPen = pens.Find(entities[i].pen))
+            PaintShape(painter, *pPen, entities[i].shape, GetCamera(), visible);
     }
+    return end;
+}
+
+/// The same for what lies below selected entities.
+std::size_t SketchView::PaintSelection(QPainter& painter, std::size_t begin) const
+{
+    const std::vector<int>& ids = m_workspace.selection.GetIds();
+    const std::size_t end = std::min(begin + MostPainted, ids.size());
+    for (std::size_t i = begin; i < end; ++i)
+        PaintSelected(painter, *m_workspace.sketch.Find(ids[i]));
+    return end;
 }
 
 /// Paints a band below the outline, and grips at its ends and centre.

@@ -7,6 +7,8 @@
 
 #include <QTimer>
 
+#include <cstddef>
+
 struct Entity;
 struct Workspace;
 
@@ -43,7 +45,7 @@ signals:
     void menuRequested(const QPoint& position);
 
 protected:
-    void PaintModel(QPainter& painter) override;
+    std::size_t PaintModel(QPainter& painter, std::size_t begin) override;
     void PaintOverlay(QPainter& painter) override;
     void OnFreeClick(const vesk::Vector3d& world, Qt::KeyboardModifiers modifiers) override;
     void OnFreeEscape() override;
@@ -57,6 +59,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent* pEvent) override;
 
 private:
+    void OnSketchChanged();
     void OnCursorMoved(double x, double y);
     void SetPointed(int entity);
     void DropPress();
@@ -64,7 +67,8 @@ private:
     void PaintGrid(QPainter& painter) const;
     void PaintGridLines(QPainter& painter, double step, const QColor& color) const;
     void PaintAxes(QPainter& painter) const;
-    void PaintEntities(QPainter& painter) const;
+    std::size_t PaintSelection(QPainter& painter, std::size_t begin) const;
+    std::size_t PaintEntities(QPainter& painter, std::size_t begin) const;
     void PaintSelected(QPainter& painter, const Entity& entity) const;
     QRectF GetPaintedRect() const;
 
@@ -72,5 +76,6 @@ private:
 
     MouseSelection m_mouse;
     int m_pointed = 0;
+    unsigned m_shownRevision = 0; ///< Of the sketch.
     QTimer m_lookAgain;
 };

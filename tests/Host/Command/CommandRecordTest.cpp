@@ -61,6 +61,9 @@ private slots:
     void aCommandThatHasRunIsDone();
     void aDisabledCommandIsRefused_data() { AddChoiceRows(); }
     void aDisabledCommandIsRefused();
+    void aPlainCommandThatFailsIsRefused();
+    void onlyTheCommandThatFailsIsRefused();
+    void aFailureBetweenCommandsIsForgotten();
     void aCommandDisabledWhenItsTurnComesIsRefused();
     void aPlainCommandDisabledBesideAnActionIsRefused();
     void aCommandRemovedWhileItWaitsIsRefused();
@@ -97,6 +100,39 @@ void CommandRecordTest::aDisabledCommandIsRefused()
 
     QVERIFY(f.log.empty());
     QVERIFY(f.HasRecord(Refused));
+}
+
+void CommandRecordTest::aPlainCommandThatFailsIsRefused()
+{
+    ActionFixture f;
+    f.AddPlain("Save", &ActionManager::FailCommand);
+
+    f.Choose("Save");
+
+    QVERIFY(f.HasRecord(Refused));
+}
+
+void CommandRecordTest::onlyTheCommandThatFailsIsRefused()
+{
+    ActionFixture f;
+    f.AddPlain("Write", &ActionManager::FailCommand);
+    f.AddPlain("Save", [] { ActionManager::RunCommand(L"Write", {}); });
+
+    f.Choose("Save");
+
+    QVERIFY(f.HasRecord(Done));
+    QVERIFY(f.HasRecord(R"({"n":2,"kind":"end","result":"refused"})"));
+}
+
+void CommandRecordTest::aFailureBetweenCommandsIsForgotten()
+{
+    ActionFixture f;
+    f.AddPlain("Save");
+    ActionManager::FailCommand();
+
+    f.Choose("Save");
+
+    QVERIFY(f.HasRecord(Done));
 }
 
 void CommandRecordTest::aCommandDisabledWhenItsTurnComesIsRefused()

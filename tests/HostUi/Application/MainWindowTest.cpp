@@ -35,7 +35,7 @@ public:
     using DrawingView::DrawingView;
 
 protected:
-    void PaintModel(QPainter&) override {}
+    std::size_t PaintModel(QPainter&, std::size_t begin) override { return begin; }
 };
 
 /// Counts how often it ends.

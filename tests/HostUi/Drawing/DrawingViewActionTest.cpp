@@ -33,10 +33,11 @@ public:
     bool isSmooth = false;
 
 protected:
-    void PaintModel(QPainter& painter) override
+    std::size_t PaintModel(QPainter& painter, std::size_t) override
     {
         isSmooth = painter.testRenderHint(QPainter::Antialiasing);
         painter.fillRect(0, 140, 20, 20, Qt::red);
+        return 1;
     }
     void PaintOverlay(QPainter& painter) override { painter.fillRect(20, 140, 20, 20, Qt::green); }
     void OnFreeClick(const Vector3d& world, Qt::KeyboardModifiers modifiers) override

@@ -23,10 +23,11 @@ public:
     int paintCount = 0;
 
 protected:
-    void PaintModel(QPainter& painter) override
+    std::size_t PaintModel(QPainter& painter, std::size_t begin) override
     {
-        ++paintCount;
+        paintCount += begin == 0 ? 1 : 0;
         painter.fillRect(10, 10, 20, 20, Qt::red);
+        return 1;
     }
 };
 

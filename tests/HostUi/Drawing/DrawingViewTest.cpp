@@ -35,10 +35,11 @@ protected:
         DrawingView::paintEvent(pEvent);
     }
 
-    void PaintModel(QPainter& painter) override
+    std::size_t PaintModel(QPainter& painter, std::size_t begin) override
     {
-        ++m_paintCount;
+        m_paintCount += begin == 0 ? 1 : 0;
         painter.fillRect(10, 10, 20, 20, Qt::red);
+        return 1;
     }
 
 private:

@@ -7,14 +7,17 @@
 #include "RecordedLines.h"
 #include "Ribbon/CommandTable.h"
 #include "ShapeValues.h"
+#include "WhileReplaying.h"
 
 #include "Command/ActionManager.h"
 #include "Command/ICommand.h"
 #include "Command/ICommandManager.h"
+#include "Support/FileBytes.h"
 #include "Support/HostFixture.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QTemporaryDir>
 
 using namespace vesk;
 
@@ -165,31 +168,95 @@ private slots:
     void whatCannotBePastedIsToldInOneNotice_data()
     {
         QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("notice");
 
+        const QString damaged = "剪贴板中的图元已损坏，未粘贴";
         const QByteArray whole =
             QByteArray::fromStdString(DocumentFile::ToText(Sketch().GetContent()));
-        QTest::newRow("nothing") << QByteArray();
-        QTest::newRow("no text") << QByteArray("\xff\xfe\0\x01", 4);
-        QTest::newRow("no drawing") << QByteArray("{\"format\":\"other\"}");
-        QTest::newRow("cut short") << whole.left(whole.size() / 2);
-        QTest::newRow("newer") << QByteArray(whole).replace("\"version\":1", "\"version\":99");
-        QTest::newRow("empty drawing") << whole;
-        QTest::newRow("deep") << QByteArray(1000000, '[');
-        QTest::newRow("huge") << QByteArray(64 * 1024 * 1024 + 1, ' ');
+        QTest::newRow("nothing") << QByteArray() << damaged;
+        QTest::newRow("no text") << QByteArray("\xff\xfe\0\x01", 4) << damaged;
+        QTest::newRow("no drawing") << QByteArray("{\"format\":\"other\"}") << damaged;
+        QTest::newRow("cut short") << whole.left(whole.size() / 2) << damaged;
+        QTest::newRow("newer") << QByteArray(whole).replace("\"version\":1", "\"version\":99")
+                               << "剪贴板中的图元来自更新的版本，未粘贴";
+        QTest::newRow("empty drawing") << whole << "剪贴板中没有图元";
+        QTest::newRow("deep") << QByteArray(1000000, '[') << damaged;
+        QTest::newRow("huge") << QByteArray(64 * 1024 * 1024 + 1, ' ')
+                              << "剪贴板中的图元太多，未粘贴";
     }
 
     void whatCannotBePastedIsToldInOneNotice()
     {
         QFETCH(QByteArray, bytes);
+        QFETCH(QString, notice);
         Fixture f;
         f.Offer(bytes);
         const std::string digest = f.workspace.sketch.GetDigest();
 
         f.Run(L"Sketcher.Paste");
 
-        QCOMPARE(f.notices.size(), 1);
+        QCOMPARE(f.notices, QStringList{notice});
         QCOMPARE(f.workspace.sketch.GetDigest(), digest);
         QCOMPARE(f.workspace.selection.GetIds(), (std::vector<int>{2, 1}));
+    }
+
+    void whatCannotBeKeptBesideTheJournalIsNotPasted()
+    {
+        Fixture f;
+        const QTemporaryDir folder;
+        QVERIFY(WriteBytes(folder.filePath("journal.kept"), "no folder"));
+        KeptContent::Get().SetJournal(folder.filePath("journal"));
+        f.Run(L"Sketcher.Copy");
+
+        f.Run(L"Sketcher.Paste");
+
+        QCOMPARE(f.notices, QStringList{"剪贴板中的图元无法存于日志旁，未粘贴"});
+        QCOMPARE(f.Count(), std::size_t{3});
+    }
+
+    void aReplayLeavesTheClipboardAlone()
+    {
+        Fixture f;
+        SystemClipboard().setText("12.5");
+
+        const WhileReplaying replay([&f] { f.Run(L"Sketcher.Cut"); });
+
+        QCOMPARE(SystemClipboard().text(), QString("12.5"));
+        QCOMPARE(f.Count(), std::size_t{1});
+    }
+
+    void aReplayPastesAndDuplicatesWhatItsJournalSays_data()
+    {
+        QTest::addColumn<QString>("command");
+
+        QTest::newRow("paste") << "Sketcher.Paste";
+        QTest::newRow("duplicate") << "Sketcher.Duplicate";
+    }
+
+    void aReplayPastesAndDuplicatesWhatItsJournalSays()
+    {
+        QFETCH(QString, command);
+        Fixture f;
+        f.Run(L"Sketcher.Copy");
+
+        const WhileReplaying replay([&] { f.Run(command.toStdWString().c_str()); });
+
+        QCOMPARE(f.Count(), std::size_t{3});
+    }
+
+    void whatIsPastedOnALockedLayerIsNotSelected()
+    {
+        Fixture f;
+        const int walls = f.workspace.sketch.AddLayer(L"walls");
+        f.workspace.sketch.SetPen({1}, &Pen::layer, walls);
+        f.Run(L"Sketcher.Copy");
+        Layer locked = *f.workspace.sketch.FindLayer(walls);
+        locked.isLocked = true;
+        f.workspace.sketch.SetLayer(locked);
+
+        f.Run(L"Sketcher.Paste");
+
+        QCOMPARE(f.workspace.selection.GetIds(), (std::vector<int>{5}));
     }
 
     void aTextOnTheClipboardIsNoDrawing()

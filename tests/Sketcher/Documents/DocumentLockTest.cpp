@@ -55,6 +55,24 @@ private slots:
         QCOMPARE(DocumentLock(m_pFolder->filePath("./a.vsk")).GetState(), State::InUse);
     }
 
+    void aFileThatALinkLeadsToIsLockedBeforeItExists()
+    {
+        const QString link = m_pFolder->filePath("link.vsk");
+        QVERIFY(QFile::link(m_pFolder->filePath("new.vsk"), link));
+        const DocumentLock first(link);
+
+        QCOMPARE(first.GetState(), State::Held);
+        QCOMPARE(DocumentLock(m_pFolder->filePath("new.vsk")).GetState(), State::InUse);
+    }
+
+    void aLinkToItselfCanBeAsked()
+    {
+        const QString link = m_pFolder->filePath("loop.vsk");
+        QVERIFY(QFile::link(link, link));
+
+        QCOMPARE(DocumentLock(link).GetState(), State::Held);
+    }
+
     void aNewFileCanBeLocked()
     {
         QCOMPARE(DocumentLock(m_pFolder->filePath("new.vsk")).GetState(), State::Held);
@@ -72,6 +90,16 @@ private slots:
                              process + "\ntrue\n" + QSysInfo::machineHostName().toUtf8() + '\n'));
 
         QCOMPARE(DocumentLock(m_path).GetState(), State::Held);
+    }
+
+    void theLockOfAnotherMachineHoldsAndIsToldAsItIs()
+    {
+        QVERIFY(vesk::WriteBytes(m_pFolder->filePath(".a.vsk.lock"), "17\na%1b\nelsewhere\n"));
+
+        const DocumentLock lock(m_path);
+
+        QCOMPARE(lock.GetState(), State::InUse);
+        QCOMPARE(lock.GetHolder(), QString("a%1b（elsewhere，进程 17）"));
     }
 
     void aFolderWithoutLocksIsTold()

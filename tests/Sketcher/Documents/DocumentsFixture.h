@@ -18,6 +18,8 @@
 #include "HostUi/MainWindow.h"
 #include "HostUi/UiApplication.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QTemporaryDir>
 
 #include <memory>
@@ -51,6 +53,12 @@ struct DocumentsFixture
         const bool isWritten =
             vesk::WriteBytes(File(name), QByteArray::fromStdString(DocumentFile::ToText(content)));
         return isWritten ? File(name) : QString();
+    }
+
+    /// Opens a file of that name, in this folder or one within it, with the sample drawing.
+    bool OpenSample(const QString& name = "sample.vsk") const
+    {
+        return QDir().mkpath(QFileInfo(File(name)).path()) && pDocuments->OpenFile(MakeFile(name));
     }
 
     void Draw() { sketch.AddLine({0, 0, 0}, {10, 0, 0}); }

@@ -4,8 +4,15 @@
 #include "Support/FileSizeLimit.h"
 #include "Support/TestValues.h"
 
+#include "Journal/JournalFormat.h"
+#include "Journal/JournalManager.h"
+
 #include <QDir>
 #include <QFileInfo>
+#include <QLineEdit>
+#include <QStatusBar>
+
+#include <map>
 
 /// What is saved, and what is asked before.
 class DocumentsSavingTest final : public QObject
@@ -17,11 +24,9 @@ private slots:
 
     void cleanup()
     {
-        const QStringList unexpected = m_pFixture->user.GetUnexpected();
-        const bool isAnswerLeft = m_pFixture->user.HasAnswersLeft();
+        const QStringList faults = m_pFixture->user.GetFaults();
         m_pFixture.reset();
-        QCOMPARE(unexpected.join(QLatin1Char('|')), QString());
-        QVERIFY(!isAnswerLeft);
+        QCOMPARE(faults, QStringList());
     }
 
     void aDrawingIsSavedInTheChosenFile()
@@ -36,7 +41,43 @@ private slots:
                  DocumentFile::ToText(f.sketch.GetContent()));
         QCOMPARE(f.pDocuments->GetDocument().GetName(), QString("part"));
         QVERIFY(!f.pDocuments->IsModified());
+        QVERIFY(!EndOfSaving().isRefused);
         QCOMPARE(RecentFiles().Get(), QStringList{f.File("part.vsk")});
+        QVERIFY(QFileInfo::exists(f.File(".part.vsk.lock")));
+        QCOMPARE(f.pWindow->statusBar()->currentMessage(), "已保存 " + f.File("part.vsk"));
+    }
+
+    void aFileOfAnyNameIsSavedAndOpenedAgain()
+    {
+        DocumentsFixture& f = *m_pFixture;
+        const QString path = f.File("50 %1 “图”.vsk");
+        f.Draw();
+        f.user.ChooseFile(path);
+        f.Run(L"Sketcher.Save");
+        f.Run(L"Sketcher.New");
+
+        const bool isOpen = f.pDocuments->OpenFile(path);
+
+        QVERIFY(isOpen);
+        QCOMPARE(f.pDocuments->GetDocument().GetName(), QString("50 %1 “图”"));
+        QCOMPARE(f.sketch.GetEntities().size(), std::size_t(1));
+    }
+
+    void savingGoesThroughALinkAndKeepsThePermissions()
+    {
+        DocumentsFixture& f = *m_pFixture;
+        const QString file = f.MakeFile("sample.vsk");
+        const QString link = f.File("link.vsk");
+        const QFile::Permissions permissions = QFile::ReadOwner | QFile::WriteOwner;
+        QVERIFY(QFile::setPermissions(file, permissions) && QFile::link(file, link));
+        QVERIFY(f.pDocuments->OpenFile(link));
+        f.Draw();
+
+        f.Run(L"Sketcher.Save");
+
+        QCOMPARE(QFileInfo(link).symLinkTarget(), file);
+        QCOMPARE(vesk::ReadBytes(file).toStdString(), DocumentFile::ToText(f.sketch.GetContent()));
+        QVERIFY(!(QFile::permissions(file) & (QFile::ReadGroup | QFile::ReadOther)));
     }
 
     void aNameWithoutEndingGetsIt()
@@ -52,7 +93,9 @@ private slots:
     void savingAgainAsksNothing()
     {
         DocumentsFixture& f = *m_pFixture;
-        OpenSample();
+        QVERIFY(m_pFixture->OpenSample());
+        f.Draw();
+        f.Run(L"Sketcher.Save");
         f.Draw();
 
         f.Run(L"Sketcher.Save");
@@ -87,6 +130,46 @@ private slots:
         QTEST(!f.pDocuments->IsModified(), "isReplaced");
     }
 
+    void nothingIsSavedIfNoFileIsChosen()
+    {
+        DocumentsFixture& f = *m_pFixture;
+        QVERIFY(m_pFixture->OpenSample());
+        f.Run(L"Sketcher.New");
+        f.Draw();
+        f.user.Cancel();
+
+        f.Run(L"Sketcher.Save");
+
+        QCOMPARE(QDir(f.folder.path()).entryList({"*.vsk"}), QStringList{"sample.vsk"});
+        QVERIFY(f.pDocuments->IsModified());
+    }
+
+    void aNameThatNoFileCanHaveIsSuggestedWithoutWhatItCannotHave()
+    {
+        DocumentsFixture& f = *m_pFixture;
+        QVERIFY(m_pFixture->OpenSample());
+        f.Run(L"Sketcher.New");
+        f.sketch.SetName(L"a/b:c");
+        f.user.Do([](QDialog& dialog) { dialog.accept(); });
+
+        f.Run(L"Sketcher.Save");
+
+        QCOMPARE(f.pDocuments->GetDocument().path, f.File("a_b_c.vsk"));
+    }
+
+    void aWindowWhoseDrawingCannotBeSavedStays()
+    {
+        DocumentsFixture& f = *m_pFixture;
+        QVERIFY(m_pFixture->OpenSample("gone/sample.vsk"));
+        f.Draw();
+        QVERIFY(QDir(f.File("gone")).removeRecursively());
+        f.user.Press("保存").Press("确定");
+
+        QVERIFY(!f.pWindow->close());
+
+        QVERIFY(f.pDocuments->IsModified());
+    }
+
     void aSuggestedFileThatExistsIsNotReplacedUnasked()
     {
         DocumentsFixture& f = *m_pFixture;
@@ -100,10 +183,49 @@ private slots:
         QCOMPARE(vesk::ReadBytes(f.File("未命名.vsk")), QByteArray("old"));
     }
 
+    void theSuggestedNameSuitsAnyFileSystem_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("suggested");
+
+        QTest::newRow("plain") << "支架 2"
+                               << "支架 2.vsk";
+        QTest::newRow("none") << ""
+                              << "图纸.vsk";
+        QTest::newRow("blanks") << " \n "
+                                << "图纸.vsk";
+        QTest::newRow("reserved") << "a/b\\c:d*e"
+                                  << "a_b_c_d_e.vsk";
+        QTest::newRow("line break") << "a\nb"
+                                    << "a b.vsk";
+        QTest::newRow("control") << QString("a") + QChar(0) + "b"
+                                 << "a_b.vsk";
+        QTest::newRow("hidden") << "..a"
+                                << "_.a.vsk";
+        QTest::newRow("long") << QString(300, u'图') << QString(60, u'图') + ".vsk";
+        QTest::newRow("half a character") << QString(59, u'a') + "📐b" << QString(59, u'a') + ".vsk";
+    }
+
+    void theSuggestedNameSuitsAnyFileSystem()
+    {
+        QFETCH(QString, name);
+        DocumentsFixture& f = *m_pFixture;
+        f.sketch.SetName(name.toStdWString());
+        QString suggested;
+        f.user.Do([&suggested](QDialog& dialog) {
+            suggested = dialog.findChild<QLineEdit*>("fileNameEdit")->text();
+            dialog.reject();
+        });
+
+        f.Run(L"Sketcher.SaveAs");
+
+        QTEST(suggested, "suggested");
+    }
+
     void theOwnFileIsReplacedWithoutAQuestion()
     {
         DocumentsFixture& f = *m_pFixture;
-        OpenSample();
+        QVERIFY(m_pFixture->OpenSample());
         f.Draw();
         f.user.ChooseFile(f.File("sample.vsk"));
 
@@ -115,7 +237,7 @@ private slots:
     void savingUnderAnotherNameLeavesTheFirstFile()
     {
         DocumentsFixture& f = *m_pFixture;
-        OpenSample();
+        QVERIFY(m_pFixture->OpenSample());
         const QByteArray before = vesk::ReadBytes(f.File("sample.vsk"));
         f.Draw();
         f.user.ChooseFile(f.File("other.vsk"));
@@ -129,7 +251,7 @@ private slots:
 
     void whatIsUndoneToTheSavedStateIsNotModified()
     {
-        OpenSample();
+        QVERIFY(m_pFixture->OpenSample());
         m_pFixture->Draw();
         QVERIFY(m_pFixture->pDocuments->IsModified());
 
@@ -164,7 +286,7 @@ private slots:
     {
         QFETCH(QString, answer);
         DocumentsFixture& f = *m_pFixture;
-        OpenSample();
+        QVERIFY(m_pFixture->OpenSample());
         QVERIFY(vesk::WriteBytes(f.File("sample.vsk"), "changed"));
         f.Draw();
         f.user.Press(answer);
@@ -174,6 +296,33 @@ private slots:
         QVERIFY(f.user.GetLastText().startsWith("“sample.vsk”打开之后已被其他程序修改。"));
         QTEST(vesk::ReadBytes(f.File("sample.vsk")) != "changed", "isReplaced");
         QTEST(!f.pDocuments->IsModified(), "isReplaced");
+    }
+
+    void aFileThatWasChangedElsewhereIsNotReplacedIfNobodyIsThere()
+    {
+        m_pFixture.reset();
+        m_pFixture = std::make_unique<DocumentsFixture>(Documents::Manners::Silent);
+        DocumentsFixture& f = *m_pFixture;
+        QVERIFY(m_pFixture->OpenSample());
+        QVERIFY(vesk::WriteBytes(f.File("sample.vsk"), "changed"));
+        f.Draw();
+
+        f.Run(L"Sketcher.Save");
+
+        QCOMPARE(vesk::ReadBytes(f.File("sample.vsk")), QByteArray("changed"));
+    }
+
+    void whatIsNoFileIsTold()
+    {
+        DocumentsFixture& f = *m_pFixture;
+        QVERIFY(m_pFixture->OpenSample());
+        QVERIFY(QFile::remove(f.File("sample.vsk")));
+        QVERIFY(QDir().mkpath(f.File("sample.vsk/content")));
+        f.user.Press("覆盖").Press("确定");
+
+        f.Run(L"Sketcher.Save");
+
+        QVERIFY(f.user.GetLastText().endsWith("这不是普通文件。"));
     }
 
     void unknownFieldsAreSavedAgain()
@@ -192,7 +341,7 @@ private slots:
     void aFullDiskLeavesTheOldFile()
     {
         DocumentsFixture& f = *m_pFixture;
-        OpenSample();
+        QVERIFY(m_pFixture->OpenSample());
         const QByteArray before = vesk::ReadBytes(f.File("sample.vsk"));
         f.Draw();
         f.user.Press("确定");
@@ -207,12 +356,13 @@ private slots:
         QCOMPARE(vesk::ReadBytes(f.File("sample.vsk")), before);
         QVERIFY(f.pDocuments->IsModified());
         QCOMPARE(QDir(f.folder.path()).entryList(QDir::Files), QStringList{"sample.vsk"});
+        QVERIFY2(EndOfSaving().isRefused, "the journal tells that it was saved");
     }
 
     void aMissingFolderIsTold()
     {
         DocumentsFixture& f = *m_pFixture;
-        OpenSample("gone/sample.vsk");
+        QVERIFY(m_pFixture->OpenSample("gone/sample.vsk"));
         QVERIFY(QDir(f.File("gone")).removeRecursively());
         f.user.Press("确定");
 
@@ -234,13 +384,29 @@ private slots:
 
         QCOMPARE(vesk::ReadBytes(path), before);
         QVERIFY(f.pDocuments->IsModified());
+        QVERIFY(EndOfSaving().isRefused);
     }
 
 private:
-    void OpenSample(const QString& name = "sample.vsk")
+    /// The end of the command that saved last, as it is in the journal.
+    static vesk::EndRecord EndOfSaving()
     {
-        QVERIFY(QDir().mkpath(QFileInfo(m_pFixture->File(name)).path()));
-        QVERIFY(m_pFixture->pDocuments->OpenFile(m_pFixture->MakeFile(name)));
+        std::map<int, vesk::EndRecord> ends;
+        int saving = 0;
+        for (const std::string& line : vesk::JournalManager::GetInstance().GetLastLines())
+        {
+            vesk::JournalRecord record;
+            std::string error;
+            vesk::JournalFormat::FromLine(line, record, error);
+            const auto* pCommand = std::get_if<vesk::CommandRecord>(&record.what);
+            if (pCommand != nullptr && pCommand->commandId == Documents::SaveId)
+                saving = record.number;
+            if (const auto* pEnd = std::get_if<vesk::EndRecord>(&record.what))
+                ends[record.number] = *pEnd;
+        }
+        if (ends.count(saving) == 0)
+            QTest::qFail("the saving has no end", __FILE__, __LINE__);
+        return ends[saving];
     }
 
     std::unique_ptr<DocumentsFixture> m_pFixture;

@@ -2,19 +2,15 @@
 
 #include "Documents/DocumentsFixture.h"
 #include "Model/Digest.h"
-#include "Model/Selection.h"
 #include "Support/TestValues.h"
 
-#include <QApplication>
 #include <QCryptographicHash>
 #include <QDir>
-#include <QDropEvent>
 #include <QFileInfo>
 #include <QMenu>
-#include <QMimeData>
-#include <QProcess>
-#include <QSignalSpy>
-#include <QUrl>
+#include <QPointer>
+
+#include <stdexcept>
 
 using Manners = Documents::Manners;
 
@@ -27,11 +23,9 @@ private slots:
 
     void cleanup()
     {
-        const QStringList unexpected = m_pFixture->user.GetUnexpected();
-        const bool isAnswerLeft = m_pFixture->user.HasAnswersLeft();
+        const QStringList faults = m_pFixture->user.GetFaults();
         m_pFixture.reset();
-        QCOMPARE(unexpected.join(QLatin1Char('|')), QString());
-        QVERIFY(!isAnswerLeft);
+        QCOMPARE(faults, QStringList());
     }
 
     void aNewDrawingHasNoFileAndIsNotModified()
@@ -60,7 +54,7 @@ private slots:
         QFETCH(QString, act);
         QFETCH(QString, answer);
         DocumentsFixture& f = *m_pFixture;
-        OpenSample();
+        QVERIFY(m_pFixture->OpenSample());
         f.pWindow->show();
         const QByteArray before = vesk::ReadBytes(f.File("sample.vsk"));
         f.Draw();
@@ -77,6 +71,52 @@ private slots:
         isReplaced = isReplaced || f.sketch.GetEntities().empty();
         QTEST(isReplaced, "isReplaced");
         QTEST(vesk::ReadBytes(f.File("sample.vsk")) != before, "isSaved");
+    }
+
+    void aDrawingWithoutFileIsAskedAboutByItsName()
+    {
+        m_pFixture->Draw();
+        m_pFixture->user.Press("取消");
+
+        m_pFixture->Run(L"Sketcher.New");
+
+        QVERIFY(m_pFixture->user.GetLastText().startsWith("要保存对“未命名”的更改吗？"));
+        QVERIFY(!m_pFixture->sketch.GetEntities().empty());
+    }
+
+    void aDrawingIsNotReplacedByAFileUnlessTheUserAgrees()
+    {
+        m_pFixture->Draw();
+        m_pFixture->user.Press("取消");
+
+        m_pFixture->Run(L"Sketcher.Open");
+
+        QCOMPARE(m_pFixture->user.GetTexts().size(), 1);
+        QVERIFY(!m_pFixture->sketch.GetEntities().empty());
+    }
+
+    void aNewDrawingLeavesTheFile()
+    {
+        QVERIFY(m_pFixture->OpenSample());
+
+        m_pFixture->Run(L"Sketcher.New");
+
+        QVERIFY(m_pFixture->sketch.GetEntities().empty());
+        QVERIFY(!m_pFixture->pDocuments->GetDocument().HasFile());
+        QVERIFY(!m_pFixture->pDocuments->IsModified());
+        QVERIFY(!QFileInfo::exists(m_pFixture->File(".sample.vsk.lock")));
+    }
+
+    void anEmptiedDrawingThatHasAFileIsModified()
+    {
+        DocumentsFixture& f = *m_pFixture;
+        f.Draw();
+        const QString path = f.MakeFile("line.vsk", f.sketch.GetContent());
+        QVERIFY(f.pDocuments->OpenFile(path));
+
+        f.sketch.Erase({1}, L"");
+
+        QVERIFY(f.pDocuments->IsModified());
     }
 
     void anEmptyUntouchedDrawingIsNotAskedAbout()
@@ -98,14 +138,50 @@ private slots:
         QVERIFY(m_pFixture->pWindow->close());
     }
 
+    void aDrawingWithFileIsAskedAboutThoughItsJournalIsKept()
+    {
+        m_pFixture.reset();
+        m_pFixture = std::make_unique<DocumentsFixture>(Manners::AskAboutFiles);
+        QVERIFY(m_pFixture->OpenSample());
+        m_pFixture->Draw();
+        m_pFixture->user.Press("取消");
+
+        QVERIFY(!m_pFixture->pWindow->close());
+    }
+
+    void nobodyIsAskedAboutAFileInUseWhoIsNotThere()
+    {
+        m_pFixture.reset();
+        m_pFixture = std::make_unique<DocumentsFixture>(Manners::Silent);
+        const QString path = m_pFixture->MakeFile("sample.vsk");
+        const DocumentLock other(path);
+
+        QVERIFY(m_pFixture->pDocuments->OpenFile(path));
+
+        QVERIFY(m_pFixture->pDocuments->GetDocument().isReadOnly);
+    }
+
     void nobodyIsAskedWhoIsNotThere()
     {
         m_pFixture.reset();
         m_pFixture = std::make_unique<DocumentsFixture>(Manners::Silent);
-        OpenSample();
+        QVERIFY(m_pFixture->OpenSample());
         m_pFixture->Draw();
         m_pFixture->Run(L"Sketcher.SaveAs");
         m_pFixture->Run(L"Sketcher.Open");
+        m_pFixture->Run(L"Sketcher.Recent");
+
+        QVERIFY(m_pFixture->pWindow->findChild<QMenu*>("Sketcher.RecentFiles") == nullptr);
+        QVERIFY(m_pFixture->pWindow->close());
+    }
+
+    void aProgramToldToEndWhileItAsksEnds()
+    {
+        m_pFixture->Draw();
+        m_pFixture->user.Do([this](QDialog& dialog) {
+            m_pFixture->pDocuments->EndWithoutQuestions();
+            dialog.reject();
+        });
 
         QVERIFY(m_pFixture->pWindow->close());
     }
@@ -119,160 +195,41 @@ private slots:
         QVERIFY(m_pFixture->pWindow->close());
     }
 
-    void anOpenedFileReplacesTheDrawing()
+    void withoutRecentFilesTheMenuSaysSoAndGoes()
     {
         DocumentsFixture& f = *m_pFixture;
-        Selection selection(f.sketch);
-        f.Draw();
-        selection.Select({1});
-        f.user.Press("不保存").ChooseFile(f.MakeFile("sample.vsk"));
-        const QSignalSpy opened(f.pDocuments.get(), &Documents::opened);
+        f.Run(L"Sketcher.Recent");
+        QPointer<QMenu> pMenu = f.pWindow->findChild<QMenu*>("Sketcher.RecentFiles");
+        QVERIFY(pMenu != nullptr);
+        QCOMPARE(pMenu->actions().size(), 1);
+        QVERIFY(!pMenu->actions().front()->isEnabled());
 
-        f.Run(L"Sketcher.Open");
+        pMenu->close();
 
-        QVERIFY(f.sketch.GetEntities() == MakeSampleContent().entities);
-        QVERIFY(!f.sketch.CanUndo());
-        QVERIFY(selection.IsEmpty());
-        QVERIFY(!f.pDocuments->IsModified());
-        QCOMPARE(opened.count(), 1);
-        QVERIFY(QFileInfo::exists(f.File(".sample.vsk.lock")));
+        QTRY_VERIFY(pMenu == nullptr);
     }
 
-    void aFileThatCannotBeOpenedIsToldAndLeftAlone_data()
+    void aRecentFileHasItsNameInTheMenu()
     {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QString>("reason");
+        QVERIFY(m_pFixture->OpenSample("a&b.vsk"));
 
-        QTest::newRow("damaged") << QByteArray("{\n\"format\":}")
-                                 << "文件第 2 行有错误（\"format\" is not a text）。文件保持原样。";
-        QTest::newRow("newer") << QByteArray("{\"format\":\"vesk-drawing\",\"version\":2}")
-                               << "该文件由更新版本的程序保存，请用新版本打开。";
+        m_pFixture->Run(L"Sketcher.Recent");
+
+        auto* pMenu = m_pFixture->pWindow->findChild<QMenu*>("Sketcher.RecentFiles");
+        QCOMPARE(pMenu->actions().front()->text(), QString("a&&b.vsk"));
     }
-
-    void aFileThatCannotBeOpenedIsToldAndLeftAlone()
-    {
-        QFETCH(QByteArray, bytes);
-        QFETCH(QString, reason);
-        DocumentsFixture& f = *m_pFixture;
-        const QString path = f.File("bad.vsk");
-        QVERIFY(vesk::WriteBytes(path, bytes));
-        OpenSample();
-        f.user.ChooseFile(path).Press("确定");
-
-        f.Run(L"Sketcher.Open");
-
-        QCOMPARE(f.user.GetLastText(), "无法打开“" + path + "”" + reason);
-        QCOMPARE(vesk::ReadBytes(path), bytes);
-        QCOMPARE(f.pDocuments->GetDocument().GetName(), QString("sample"));
-        QCOMPARE(f.sketch.GetEntities().size(), std::size_t(4));
-        QVERIFY(!QFileInfo::exists(f.File(".bad.vsk.lock")));
-    }
-
-    void aPipeIsNotOpened()
-    {
-        DocumentsFixture& f = *m_pFixture;
-        const QString path = f.File("pipe.vsk");
-        if (QProcess::execute("mkfifo", {path}) != 0)
-            QSKIP("no pipes in folders");
-        f.user.ChooseFile(path).Press("确定");
-
-        f.Run(L"Sketcher.Open");
-
-        QCOMPARE(f.user.GetLastText(), "无法打开“" + path + "”无法读取文件。这不是普通文件。");
-    }
-
-    void aFileThatIsOpenElsewhereIsToldAndOpenedReadOnly()
-    {
-        DocumentsFixture& f = *m_pFixture;
-        const QString path = f.MakeFile("sample.vsk");
-        const DocumentLock other(path);
-        f.user.ChooseFile(path).Press("以只读方式打开").ChooseFile(f.File("mine.vsk"));
-
-        f.Run(L"Sketcher.Open");
-        const bool isReadOnly = f.pDocuments->GetDocument().isReadOnly;
-        f.Run(L"Sketcher.Save");
-
-        QVERIFY(isReadOnly);
-        QVERIFY(f.user.GetTexts().value(1).startsWith("“sample.vsk”已在另一个程序中打开。"));
-        QCOMPARE(f.pDocuments->GetDocument().GetName(), QString("mine"));
-        QVERIFY(!f.pDocuments->GetDocument().isReadOnly);
-    }
-
-    void aFileThatIsOpenElsewhereNeedNotBeOpened()
-    {
-        DocumentsFixture& f = *m_pFixture;
-        const QString path = f.MakeFile("sample.vsk");
-        const DocumentLock other(path);
-        f.user.ChooseFile(path).Press("取消");
-
-        f.Run(L"Sketcher.Open");
-
-        QVERIFY(f.sketch.GetEntities().empty());
-    }
-
-    void theOwnFileCanBeOpenedAgain()
-    {
-        OpenSample();
-        m_pFixture->Draw();
-        m_pFixture->user.Press("不保存").ChooseFile(m_pFixture->File("sample.vsk"));
-
-        m_pFixture->Run(L"Sketcher.Open");
-
-        QCOMPARE(m_pFixture->sketch.GetEntities().size(), std::size_t(4));
-        QVERIFY(!m_pFixture->pDocuments->GetDocument().isReadOnly);
-    }
-
-    void aLargeDrawingIsOpenedAndSavedWhileTheWindowLives()
-    {
-        DocumentsFixture& f = *m_pFixture;
-        const QString path = f.MakeFile("large.vsk", MakeRandomContent(1, 9000));
-        f.pDocuments->OpenFile(path);
-        QCOMPARE(f.workCount, 1);
-        f.Draw();
-
-        f.Run(L"Sketcher.Save");
-
-        QCOMPARE(f.workCount, 2);
-        QVERIFY(!f.pDocuments->IsModified());
-    }
-
-    void cancelledOpeningChangesNothing()
-    {
-        DocumentsFixture& f = *m_pFixture;
-        OpenSample();
-        f.progress = [](std::size_t done, std::size_t) { return done < 100; };
-
-        const bool isOpen =
-            f.pDocuments->OpenFile(f.MakeFile("large.vsk", MakeRandomContent(1, 9000)));
-
-        QVERIFY(!isOpen);
-        QCOMPARE(f.pDocuments->GetDocument().GetName(), QString("sample"));
-        QCOMPARE(f.sketch.GetEntities().size(), std::size_t(4));
-    }
-
-    void aFileDroppedOnTheWindowIsOpened()
-    {
-        DocumentsFixture& f = *m_pFixture;
-        const QString path = f.MakeFile("sample.vsk");
-
-        const bool isTaken = Drop(path);
-
-        QVERIFY(isTaken);
-        QTRY_COMPARE(f.sketch.GetEntities().size(), std::size_t(4));
-    }
-
-    void onlyDrawingsCanBeDropped() { QVERIFY(!Drop(m_pFixture->File("picture.png"))); }
 
     void aRecentFileIsOpenedFromTheMenu()
     {
         DocumentsFixture& f = *m_pFixture;
-        OpenSample();
+        QVERIFY(m_pFixture->OpenSample());
         f.Run(L"Sketcher.New");
         f.pWindow->show();
         f.Run(L"Sketcher.Recent");
         auto* pMenu = f.pWindow->findChild<QMenu*>("Sketcher.RecentFiles");
         QVERIFY(pMenu != nullptr);
         QCOMPARE(pMenu->actions().size(), 1);
+        QVERIFY(pMenu->actions().front()->text().startsWith("&1 sample.vsk - "));
 
         pMenu->actions().front()->trigger();
 
@@ -283,7 +240,7 @@ private slots:
     {
         DocumentsFixture& f = *m_pFixture;
         const QByteArray bytes = vesk::ReadBytes(f.MakeFile("sample.vsk"));
-        OpenSample();
+        QVERIFY(m_pFixture->OpenSample());
         f.Run(L"Sketcher.Save");
         f.Run(L"Sketcher.New");
 
@@ -303,7 +260,7 @@ private slots:
     void aReplayChecksInsteadOfSaving()
     {
         DocumentsFixture& f = *m_pFixture;
-        OpenSample();
+        QVERIFY(m_pFixture->OpenSample());
         const QByteArray before = vesk::ReadBytes(f.File("sample.vsk"));
         vesk::CommandParameters parameters;
         parameters.Add(L"digest", vesk::CommandParameterValue(std::wstring(64, L'0')));
@@ -354,26 +311,18 @@ private slots:
         QVERIFY(f.pWindow == nullptr);
     }
 
+    void theWindowCanBeClosedAfterWorkThatFails()
+    {
+        DocumentsFixture& f = *m_pFixture;
+        f.progress = [](std::size_t, std::size_t) -> bool { throw std::runtime_error("failed"); };
+        const QString path = f.MakeFile("large.vsk", MakeRandomContent(1, 9000));
+
+        QVERIFY_EXCEPTION_THROWN(f.pDocuments->OpenFile(path), std::runtime_error);
+
+        QVERIFY(f.pWindow->close());
+    }
+
 private:
-    void OpenSample(const QString& name = "sample.vsk")
-    {
-        QVERIFY(QDir().mkpath(QFileInfo(m_pFixture->File(name)).path()));
-        QVERIFY(m_pFixture->pDocuments->OpenFile(m_pFixture->MakeFile(name)));
-    }
-
-    bool Drop(const QString& path)
-    {
-        QMimeData data;
-        data.setUrls({QUrl::fromLocalFile(path)});
-        QDragEnterEvent enter({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        enter.setAccepted(false);
-        QCoreApplication::sendEvent(m_pFixture->pWindow.get(), &enter);
-        QDropEvent drop({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        drop.setAccepted(false);
-        QCoreApplication::sendEvent(m_pFixture->pWindow.get(), &drop);
-        return enter.isAccepted() && drop.isAccepted();
-    }
-
     static QString Parameter(const vesk::CommandRecord& record, const wchar_t* name)
     {
         const vesk::CommandParameterValue* pValue = record.parameters.Find(name);

@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 
 class RecentFilesTest final : public QObject
@@ -23,6 +24,18 @@ private slots:
         recent.Add(MakeFile("a"));
 
         QCOMPARE(recent.Get(), (QStringList{MakeFile("a"), MakeFile("b")}));
+    }
+
+    void aFileIsKnownByItsWholePath()
+    {
+        const QString before = QDir::currentPath();
+        const QString path = MakeFile("a");
+        QVERIFY(QDir::setCurrent(m_pFolder->path()));
+
+        RecentFiles(List()).Add(QFileInfo(path).fileName());
+
+        QVERIFY(QDir::setCurrent(before));
+        QCOMPARE(RecentFiles(List()).Get(), QStringList{path});
     }
 
     void theListOutlivesTheProgram()

@@ -126,6 +126,8 @@ private slots:
                                     << R"(,"taper":1.50)";
         QTest::newRow("of a layer") << "}\n],\n\"pen\""
                                     << R"(,"tags":[[],{}])";
+        QTest::newRow("of any name") << "\n]}\n"
+                                     << ",\"\\\\p \\\"q\\\" \\n\":1,\"汉\":2";
         QTest::newRow("of an entity") << "},\n{\"id\":4"
                                       << R"(,"group":null,"note":"\u6c49")";
     }
@@ -161,6 +163,36 @@ private slots:
         const DocumentReading reading = DocumentFile::FromText(text);
 
         QCOMPARE(reading.content.unknown.document, std::string("{\"a\":[1,\"b  \\\" c\"]}"));
+    }
+
+    void whatFollowsABackslashInAnUnknownFieldIsKept()
+    {
+        const std::string text =
+            Replaced(DocumentFile::ToText({}), "\n]}", "\n],\"a\": [ \"c:\\\\\" , \"b  d\" ]}");
+
+        const DocumentReading reading = DocumentFile::FromText(text);
+
+        QCOMPARE(reading.content.unknown.document, std::string("{\"a\":[\"c:\\\\\",\"b  d\"]}"));
+    }
+
+    void anyNameIsReadBack()
+    {
+        SketchContent content;
+        content.name = L"\"A\" \\ \n\t{[,";
+
+        const DocumentReading reading = DocumentFile::FromText(DocumentFile::ToText(content));
+
+        QCOMPARE(reading.error, std::string());
+        QCOMPARE(reading.content.name, content.name);
+    }
+
+    void aDrawingWithoutLayersIsRefused()
+    {
+        std::string text = DocumentFile::ToText({});
+        const std::size_t begin = text.find("\"layers\":[") + 10;
+        text.erase(begin, text.find(']', begin) - begin);
+
+        QCOMPARE(DocumentFile::FromText(text).error, std::string("there is no layer"));
     }
 
     void aFileOfANewerVersionIsTold()
@@ -199,6 +231,12 @@ private slots:
         QTest::newRow("ids all used")
             << QByteArray("\"lastId\":12") << QByteArray("\"lastId\":2000000001")
             << QByteArray("\"lastId\" is not between 0 and 2000000000") << 1;
+        QTest::newRow("layer ids all used")
+            << QByteArray("\"lastLayerId\":3") << QByteArray("\"lastLayerId\":2000000001")
+            << QByteArray("\"lastLayerId\" is not between 0 and 2000000000") << 1;
+        QTest::newRow("negative layer id")
+            << QByteArray("\"lastLayerId\":3") << QByteArray("\"lastLayerId\":-1")
+            << QByteArray("\"lastLayerId\" is not between 0 and 2000000000") << 1;
         QTest::newRow("fraction") << QByteArray("\"lastId\":12") << QByteArray("\"lastId\":12.0")
                                   << QByteArray("\"lastId\" is not an integer") << 1;
         QTest::newRow("id not used yet")
@@ -211,6 +249,14 @@ private slots:
         QTest::newRow("huge id") << QByteArray("{\"id\":1,")
                                  << QByteArray("{\"id\":18446744073709551615,")
                                  << QByteArray("\"id\" is not between 1 and 12") << 8;
+        QTest::newRow("id beyond the integers")
+            << QByteArray("{\"id\":1,") << QByteArray("{\"id\":4294967297,")
+            << QByteArray("\"id\" is not between 1 and 12") << 8;
+        QTest::newRow("layer id not used yet")
+            << QByteArray("\"lastLayerId\":3") << QByteArray("\"lastLayerId\":1")
+            << QByteArray("\"id\" is not between 1 and 1") << 4;
+        QTest::newRow("layer id twice") << QByteArray("{\"id\":2,") << QByteArray("{\"id\":0,")
+                                        << QByteArray("\"id\" is not between 1 and 3") << 4;
         QTest::newRow("no base layer") << QByteArray("{\"id\":0,") << QByteArray("{\"id\":1,")
                                        << QByteArray("\"id\" is not between 0 and 0") << 3;
         QTest::newRow("layer of the same name")
@@ -242,6 +288,9 @@ private slots:
                                         << QByteArray("\"radius\" is missing") << 10;
         QTest::newRow("flat point") << QByteArray("[0.1,0.0,0.0]") << QByteArray("[0.1,0.0]")
                                     << QByteArray("\"start\" is not a point") << 8;
+        QTest::newRow("point in four dimensions")
+            << QByteArray("[0.1,0.0,0.0]") << QByteArray("[0.1,0.0,0.0,0.0]")
+            << QByteArray("\"start\" is not a point") << 8;
         QTest::newRow("point of text") << QByteArray("[0.1,0.0,0.0]") << QByteArray("[0.1,0,\"0\"]")
                                        << QByteArray("\"start\" is not a point") << 8;
         QTest::newRow("infinite") << QByteArray("[0.1,0.0,0.0]") << QByteArray("[1e999,0.0,0.0]")
@@ -252,12 +301,21 @@ private slots:
         QTest::newRow("three corners")
             << QByteArray(",[0.0,6.0,0.0]]") << QByteArray("]")
             << QByteArray("\"corners\" is not a list of four points") << 11;
+        QTest::newRow("five corners")
+            << QByteArray(",[0.0,6.0,0.0]]") << QByteArray(",[0.0,6.0,0.0],[0.0,0.0,0.0]]")
+            << QByteArray("\"corners\" is not a list of four points") << 11;
+        QTest::newRow("flat corner")
+            << QByteArray(",[0.0,6.0,0.0]]") << QByteArray(",[0.0,6.0]]")
+            << QByteArray("\"corners\" is not a list of four points") << 11;
         QTest::newRow("not drawable")
             << QByteArray("\"radius\":5.0") << QByteArray("\"radius\":6.0")
             << QByteArray("the shape cannot be drawn") << 10;
         QTest::newRow("duplicate key")
             << QByteArray("\"radius\":5.0") << QByteArray("\"radius\":5.0,\"radius\":5.0")
             << QByteArray("duplicate key") << 10;
+        QTest::newRow("duplicate key in another line")
+            << QByteArray("\"lastLayerId\":3,") << QByteArray("\"lastLayerId\":3,\n\"name\":\"\",")
+            << QByteArray("duplicate key") << 2;
         QTest::newRow("bad unknown field")
             << QByteArray("\"radius\":5.0") << QByteArray("\"radius\":5.0,\"x\":[1,]")
             << QByteArray("\"x\" is not valid JSON") << 10;
@@ -265,6 +323,13 @@ private slots:
                                      << QByteArray("\"radius\" is not a number") << 10;
         QTest::newRow("more text") << QByteArray("\n]}\n") << QByteArray("\n]}\n{}")
                                    << QByteArray("more text after the end") << 13;
+        QTest::newRow("more text after a list") << QByteArray("\n]}\n") << QByteArray("\n] 1}\n")
+                                                << QByteArray("more text after the end") << 12;
+        QTest::newRow("no colon") << QByteArray("\"lastId\":12") << QByteArray("\"lastId\" 12")
+                                  << QByteArray("expected ':'") << 1;
+        QTest::newRow("key that is no text")
+            << QByteArray("\"lastId\"") << QByteArray("\"\\lastId\"")
+            << QByteArray("not valid JSON") << 1;
         QTest::newRow("zero byte")
             << QByteArray("\"radius\":5.0") << QByteArray("\"radius\":5\0 0", 12)
             << QByteArray("not valid JSON") << 10;
@@ -310,6 +375,27 @@ private slots:
         const DocumentReading reading = DocumentFile::FromText(text);
 
         QCOMPARE(reading.error, std::string("nested too deeply"));
+    }
+
+    void bracketsMayBe32Deep_data()
+    {
+        QTest::addColumn<int>("depth");
+        QTest::addColumn<bool>("isWhole");
+
+        QTest::newRow("32") << 32 << true;
+        QTest::newRow("33") << 33 << false;
+    }
+
+    void bracketsMayBe32Deep()
+    {
+        QFETCH(int, depth);
+        // One of them is that of the drawing.
+        const auto inside = static_cast<std::size_t>(depth - 1);
+        const std::string field = std::string(inside, '[') + std::string(inside, ']');
+        const std::string text =
+            Replaced(DocumentFile::ToText({}), "\n]}", "\n],\"a\":" + field + '}');
+
+        QTEST(IsWhole(text), "isWhole");
     }
 
     void noDamagedByteChangesTheDrawingUnnoticed()

@@ -1,12 +1,12 @@
 #include "Model/SketchContent.h"
 
+#include "Model/DocumentFile.h"
 #include "Model/Sketch.h"
 #include "Support/TestValues.h"
 
 #include <QSignalSpy>
 
 #include <functional>
-#include <limits>
 #include <string>
 #include <vector>
 
@@ -62,6 +62,8 @@ private slots:
         row("unknown style", [](SketchContent& c) { c.entities[0].pen.style = -1; });
         row("unknown colour", [](SketchContent& c) { c.entities[0].pen.colour = 7; });
         row("unknown width", [](SketchContent& c) { c.entities[0].pen.width = 9; });
+        row("entity ids", [](SketchContent& c) { c.lastId = SketchContent::GreatestId + 1; });
+        row("layer ids", [](SketchContent& c) { c.lastLayerId = SketchContent::GreatestId + 1; });
         row("current layer", [](SketchContent& c) { c.currentPen.layer = 7; });
     }
 
@@ -83,7 +85,7 @@ private slots:
 
     void whenIdsRunOutNothingIsAdded()
     {
-        constexpr int Greatest = std::numeric_limits<int>::max();
+        constexpr int Greatest = SketchContent::GreatestId;
         SketchContent content = SomeContent();
         content.lastId = Greatest - 1;
         content.lastLayerId = Greatest;
@@ -92,6 +94,7 @@ private slots:
         SketchContent other = SomeContent();
         other.layers[1].name = L"doors";
 
+        QVERIFY(!sketch.CanAddLayer(L"doors"));
         QCOMPARE(sketch.AddLayer(L"doors"), 0);
         QVERIFY(sketch.Insert(other, L"粘贴").empty());
         const Sketch::PenShape line(content.entities[0].shape, Pen());
@@ -100,6 +103,19 @@ private slots:
         QCOMPARE(sketch.GetDigest(), DigestOf(content).ToText());
         QCOMPARE(sketch.AddLine({0, 0, 0}, {1, 0, 0}), Greatest);
         QCOMPARE(sketch.AddLine({0, 0, 0}, {1, 0, 0}), 0);
+        QVERIFY(DocumentFile::FromText(DocumentFile::ToText(sketch.GetContent())).outcome ==
+                DocumentReading::Outcome::Whole);
+    }
+
+    void whoeverIsToldOfInsertedContentFindsTheDrawingValid()
+    {
+        Sketch sketch;
+        bool isValid = false;
+        connect(&sketch, &Sketch::changed, this, [&] { isValid = IsValid(sketch.GetContent()); });
+
+        QVERIFY(!sketch.Insert(SomeContent(), L"粘贴").empty());
+
+        QVERIFY(isValid);
     }
 
     void restoredContentIsTheDrawing()

@@ -1,38 +1,25 @@
 #include "Model/Sketch.h"
 
+#include "Model/SketchEntities.h"
 #include "ShapeValues.h"
 #include "Support/TestValues.h"
 
 #include <QSignalSpy>
 
+#include <functional>
 #include <limits>
 #include <string>
 #include <utility>
 #include <vector>
 
 using vesk::Vector3d;
-using Ids = std::vector<int>;
 
-Q_DECLARE_METATYPE(Ids)
+Q_DECLARE_METATYPE(std::function<void(Sketch&)>)
 
 /// Steps: what is undone and redone, what they are named, and what is one step.
 class SketchStepTest final : public QObject
 {
     Q_OBJECT
-
-private:
-    static const LineShape& LineOf(const Sketch& sketch, int id)
-    {
-        return std::get<LineShape>(sketch.Find(id)->shape);
-    }
-
-    static Ids IdsOf(const Sketch& sketch)
-    {
-        Ids ids;
-        for (const Entity& entity : sketch.GetEntities())
-            ids.push_back(entity.id);
-        return ids;
-    }
 
 private slots:
     void undoneStepsComeBackInTheirOrder()
@@ -55,6 +42,60 @@ private slots:
 
         QCOMPARE(IdsOf(sketch), (Ids{second}));
         QCOMPARE(sketch.GetDigest(), digest);
+    }
+
+    void addingAtTheEndKeepsTheRevision()
+    {
+        Sketch sketch;
+        sketch.AddLine({0, 0, 0}, {1, 0, 0});
+        const unsigned revision = sketch.GetRevision();
+
+        sketch.AddLine({0, 0, 0}, {2, 0, 0});
+        sketch.AddLayer(L"Holes");
+        sketch.SetName(L"Plate");
+        sketch.SetCurrentPen(&Pen::colour, 1);
+
+        QCOMPARE(sketch.GetRevision(), revision);
+    }
+
+    void anyOtherChangeIsAnotherRevision_data()
+    {
+        QTest::addColumn<std::function<void(Sketch&)>>("change");
+
+        const auto add = [](const char* name, std::function<void(Sketch&)> change) {
+            QTest::newRow(name) << std::move(change);
+        };
+        add("shape", [](Sketch& sketch) {
+            sketch.Replace({{1, LineShape{{0, 0, 0}, {5, 0, 0}}}});
+        });
+        add("pen", [](Sketch& sketch) { sketch.SetPen({2}, &Pen::colour, 1); });
+        add("the last erased", [](Sketch& sketch) { sketch.Erase(2); });
+        add("undo", [](Sketch& sketch) { sketch.Undo(); });
+        add("erased one comes back", [](Sketch& sketch) {
+            sketch.Erase(1);
+            sketch.Undo();
+        });
+        add("layer hidden", [](Sketch& sketch) {
+            Layer layer = sketch.GetLayers().front();
+            layer.isVisible = false;
+            sketch.SetLayer(layer);
+        });
+        add("new drawing", [](Sketch& sketch) { sketch.Clear(); });
+        add("the same drawing opened again",
+            [](Sketch& sketch) { sketch.Restore(sketch.GetContent()); });
+    }
+
+    void anyOtherChangeIsAnotherRevision()
+    {
+        QFETCH(std::function<void(Sketch&)>, change);
+        Sketch sketch;
+        sketch.AddLine({0, 0, 0}, {1, 0, 0});
+        sketch.AddLine({0, 0, 0}, {2, 0, 0});
+        const unsigned revision = sketch.GetRevision();
+
+        change(sketch);
+
+        QVERIFY(sketch.GetRevision() != revision);
     }
 
     void aNewStepForgetsTheUndoneOnes()

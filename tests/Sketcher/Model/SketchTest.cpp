@@ -1,5 +1,6 @@
 #include "Model/Sketch.h"
 
+#include "Model/SketchEntities.h"
 #include "ShapeValues.h"
 #include "Support/TestValues.h"
 
@@ -11,27 +12,10 @@
 #include <vector>
 
 using vesk::Vector3d;
-using Ids = std::vector<int>;
-
-Q_DECLARE_METATYPE(Ids)
 
 class SketchTest final : public QObject
 {
     Q_OBJECT
-
-private:
-    static const LineShape& LineOf(const Sketch& sketch, int id)
-    {
-        return std::get<LineShape>(sketch.Find(id)->shape);
-    }
-
-    static Ids IdsOf(const Sketch& sketch)
-    {
-        Ids ids;
-        for (const Entity& entity : sketch.GetEntities())
-            ids.push_back(entity.id);
-        return ids;
-    }
 
 private slots:
     void newSketchIsEmpty()

@@ -109,6 +109,21 @@ private slots:
         QVERIFY(f.Preview() != before);
     }
 
+    void thePreviewGrowsAndShrinksWithTheDialog()
+    {
+        PrintFixture f;
+        f.dialog.show();
+        f.dialog.resize(700, 300);
+        const QSize small = f.Preview().size();
+
+        f.dialog.resize(900, 700);
+
+        QTRY_VERIFY(f.Preview().height() > small.height());
+        QVERIFY(small.height() <= 300);
+        f.dialog.resize(700, 300);
+        QTRY_COMPARE(f.Preview().size(), small);
+    }
+
     void withoutAPrinterAPdfFileIsWritten()
     {
         const PrintFixture f;

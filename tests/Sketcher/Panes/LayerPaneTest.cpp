@@ -106,6 +106,46 @@ class LayerPaneTest final : public QObject
     Q_OBJECT
 
 private slots:
+    void thePaneMayGoWhileALayerChanges_data()
+    {
+        QTest::addColumn<QString>("button");
+
+        QTest::newRow("added") << "NewLayer";
+        QTest::newRow("removed") << "RemoveLayer";
+        QTest::newRow("changed") << "";
+    }
+
+    void thePaneMayGoWhileALayerChanges()
+    {
+        QFETCH(QString, button);
+        Fixture f;
+        f.workspace.sketch.Undo(); // The line.
+        f.pPane->UpdateStatus();
+        f.View().setCurrentIndex(f.Cell(1, LayerModel::NameColumn));
+        connect(&f.workspace.sketch, &Sketch::changed, this, [&f] { f.pPane.reset(); });
+
+        if (button.isEmpty())
+            f.pPane->findChild<LayerModel*>()->Change(1, L"visible", false);
+        else
+            f.Button(button).click();
+
+        QVERIFY(f.pPane == nullptr);
+    }
+
+    void whenIdsOfLayersHaveRunOutNoneIsAdded()
+    {
+        Fixture f;
+        SketchContent content = f.workspace.sketch.GetContent();
+        content.lastLayerId = SketchContent::GreatestId;
+        QVERIFY(f.workspace.sketch.Restore(content));
+        f.pPane->UpdateStatus();
+
+        f.Button("NewLayer").click();
+
+        QCOMPARE(f.View().model()->rowCount(), 2);
+        QVERIFY(!f.workspace.sketch.CanUndo());
+    }
+
     void theLayersAreListed()
     {
         Fixture f;

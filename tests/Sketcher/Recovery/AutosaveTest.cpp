@@ -5,6 +5,7 @@
 
 #include "Command/ActionManager.h"
 #include "Journal/JournalManager.h"
+#include "Sketcher/WhileReplaying.h"
 #include "Support/HostFixture.h"
 #include "Support/TestValues.h"
 
@@ -12,8 +13,9 @@
 #include <QElapsedTimer>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QTimerEvent>
 
-#include <limits>
+#include <memory>
 
 using vesk::JournalManager;
 using vesk::MarkRecord;
@@ -100,6 +102,65 @@ private slots:
 
         vesk::ActionManager::Reset();
         QVERIFY(f.autosave.SaveNow());
+    }
+
+    void noneIsTakenInAReplay()
+    {
+        Fixture f;
+        f.Draw(5);
+        bool isTaken = false;
+
+        const WhileReplaying replay([&] { isTaken = f.autosave.SaveNow(); });
+
+        QVERIFY(!isTaken);
+    }
+
+    void theNextOneWaitsForTheOneBeingWritten()
+    {
+        Fixture f;
+        for (int i = 0; i < 5000; ++i)
+            f.sketch.AddLine({0, 0, 0}, {1.0 + i, 0, 0});
+        f.Mark();
+        QVERIFY(f.autosave.SaveNow());
+
+        const int record = f.Draw(5);
+        bool isBegun = false;
+        QTRY_VERIFY(isBegun = isBegun || f.autosave.SaveNow());
+
+        QTRY_COMPARE(f.saved.count(), 2);
+        QCOMPARE(f.saved.back().front().toInt(), record);
+    }
+
+    void noneIsTakenBeforeItsTime_data()
+    {
+        QTest::addColumn<int>("minutes");
+
+        QTest::newRow("off") << 0;
+        QTest::newRow("not yet") << 1000;
+    }
+
+    void noneIsTakenBeforeItsTime()
+    {
+        QFETCH(int, minutes);
+        Fixture f;
+        f.autosave.SetInterval(minutes);
+        f.Draw(5);
+
+        QTimerEvent check(0);
+        QCoreApplication::sendEvent(&f.autosave, &check);
+
+        // The timer took none.
+        QVERIFY(f.autosave.SaveNow());
+    }
+
+    void whatHasEndedHearsOfNoRecord()
+    {
+        Fixture f;
+        auto pOther = std::make_unique<Autosave>(f.sketch, [] { return QString(); });
+
+        pOther.reset();
+
+        QVERIFY(f.Draw(5) > 0);
     }
 
     void theEndWaitsForTheSnapshot()

@@ -46,6 +46,7 @@ private slots:
         Add("a.jsonl", 1);
         Add("c.jsonl", 2);
         Add("c.jsonl.7.vsk", 0);
+        QVERIFY(QDir(Path()).mkdir("folder.jsonl"));
 
         QCOMPARE(Names(), (QStringList{"a.jsonl", "c.jsonl", "b.jsonl"}));
     }
@@ -69,6 +70,17 @@ private slots:
         Add("old.jsonl", 3, 1);
 
         Folder().Prune({10, 1000}, [](const QString&) { return false; });
+
+        QCOMPARE(Names(), QStringList{"new.jsonl"});
+    }
+
+    void theSizeOfAFolderIsThatOfItsFiles()
+    {
+        Add("new.jsonl", 1, 400);
+        QVERIFY(QDir(Path()).mkdir("new.jsonl.kept"));
+        Add("new.jsonl.kept/content", 1, 100);
+
+        Folder().Prune({10, 500}, [](const QString&) { return false; });
 
         QCOMPARE(Names(), QStringList{"new.jsonl"});
     }
@@ -110,9 +122,18 @@ private slots:
         QVERIFY(!JournalFolder::IsSettled(File("b.jsonl")));
     }
 
+    void aJournalElsewhereIsTakenInWithWhatBelongsToIt_data()
+    {
+        QTest::addColumn<QString>("name");
+
+        QTest::newRow("plain") << "mine";
+        QTest::newRow("hidden") << ".mine";
+    }
+
     void aJournalElsewhereIsTakenInWithWhatBelongsToIt()
     {
-        const QString mine = m_pDisk->filePath("mine");
+        QFETCH(QString, name);
+        const QString mine = m_pDisk->filePath(name);
         QVERIFY(QDir().mkpath(mine + ".kept"));
         QVERIFY(WriteBytes(mine, "records") && WriteBytes(mine + ".kept/content", "kept"));
 
@@ -134,13 +155,35 @@ private slots:
         const QString mine = disk.File("mine");
         QVERIFY(QDir().mkpath(mine + ".kept"));
         QVERIFY(WriteBytes(mine, "records") && WriteBytes(mine + ".kept/content", "kept"));
+        const QDateTime written = QDateTime::currentDateTime().addDays(-3);
+        SetTime(mine, written);
 
         const std::optional<QString> taken = Folder().TakeIn(mine);
 
         QVERIFY(taken.has_value());
         QCOMPARE(ReadBytes(*taken), QByteArray("records"));
         QCOMPARE(ReadBytes(*taken + ".kept/content"), QByteArray("kept"));
+        QVERIFY(qAbs(QFileInfo(*taken).lastModified().secsTo(written)) < 60);
         QVERIFY(!QFileInfo::exists(mine));
+    }
+
+    void aJournalThatDoesNotFitIsLeftAsItIs()
+    {
+        const SmallDisk disk(16);
+        if (!disk.IsMounted())
+            QSKIP("cannot mount a disk here");
+        const QString mine = m_pDisk->filePath("mine");
+        const QByteArray records(20 * SmallDisk::PageSize, '.');
+        QVERIFY(QDir().mkpath(mine + ".kept"));
+        QVERIFY(WriteBytes(mine, records) && WriteBytes(mine + ".kept/content", "kept"));
+        const JournalFolder folder(QFileInfo(disk.File("mine")).path());
+
+        const std::optional<QString> taken = folder.TakeIn(mine);
+
+        QVERIFY(!taken.has_value());
+        QCOMPARE(ReadBytes(mine), records);
+        QCOMPARE(ReadBytes(mine + ".kept/content"), QByteArray("kept"));
+        QCOMPARE(folder.GetJournals(), QStringList());
     }
 
     void aJournalThatCannotBeMovedIsCopied()
@@ -194,9 +237,15 @@ private:
         QFile file(File(name));
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write(QByteArray(size, '.'));
-        file.flush();
-        QVERIFY(file.setFileTime(QDateTime::currentDateTime().addDays(-days),
-                                 QFileDevice::FileModificationTime));
+        file.close();
+        SetTime(File(name), QDateTime::currentDateTime().addDays(-days));
+    }
+
+    static void SetTime(const QString& path, const QDateTime& time)
+    {
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        QVERIFY(file.setFileTime(time, QFileDevice::FileModificationTime));
     }
 
     std::unique_ptr<QTemporaryDir> m_pDisk;

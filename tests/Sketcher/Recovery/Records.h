@@ -18,6 +18,14 @@ public:
     {
         return Add(number, vesk::CommandRecord{id, {}});
     }
+    /// The command that saves the drawing with that digest.
+    Records& Save(int number, const std::string& digest)
+    {
+        vesk::CommandParameters parameters;
+        const std::wstring text(digest.begin(), digest.end());
+        parameters.Add(L"digest", vesk::CommandParameterValue(text));
+        return Add(number, vesk::CommandRecord{L"Sketcher.SaveDrawing", parameters});
+    }
     Records& Point(int number) { return Add(number, vesk::PointRecord()); }
     Records& Undo(int number) { return Add(number, vesk::UndoRecord()); }
     Records& Select(int number) { return Add(number, vesk::SelectionRecord()); }
@@ -26,6 +34,7 @@ public:
         return Add(number, vesk::MarkRecord{digest, {}});
     }
     Records& End(int command) { return Add(command, vesk::EndRecord{command, false}); }
+    Records& Refuse(int command) { return Add(command, vesk::EndRecord{command, true}); }
     Records& Close(int number) { return Add(number, vesk::CloseRecord()); }
 
     const std::vector<vesk::JournalRecord>& Get() const { return m_records; }

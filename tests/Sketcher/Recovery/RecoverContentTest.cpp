@@ -5,6 +5,7 @@
 #include "Model/Sketch.h"
 #include "Recovery/Snapshot.h"
 
+#include "Support/FileBytes.h"
 #include "Support/TestValues.h"
 
 #include <QTemporaryDir>
@@ -77,6 +78,25 @@ private slots:
         RecoverContent::Apply(m_drawn, parameters);
 
         QCOMPARE(m_drawn.GetDigest(), before);
+    }
+
+    void whatWasPreparedIsNotTakenForAnother()
+    {
+        const std::optional<CommandParameters> prepared = RecoverContent::Keep(MakeSnapshot());
+        CommandParameters other;
+        other.Add(L"content", CommandParameterValue(std::wstring(64, L'1')));
+
+        QVERIFY(!RecoverContent::IsPossible(other));
+        QVERIFY(RecoverContent::IsPossible(*prepared));
+    }
+
+    void whatCannotBeKeptIsNotRecovered()
+    {
+        const QTemporaryDir folder;
+        QVERIFY(vesk::WriteBytes(folder.filePath("journal.kept"), "no folder"));
+        KeptContent::Get().SetJournal(folder.filePath("journal"));
+
+        QVERIFY(!RecoverContent::Keep(MakeSnapshot()).has_value());
     }
 
     void whatIsNotADrawingChangesNothing()

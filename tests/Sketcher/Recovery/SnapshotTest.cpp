@@ -38,6 +38,15 @@ private slots:
         QCOMPARE(found->bytes, ReadBytes(m_pFolder->filePath("journal.jsonl.10.vsk")));
     }
 
+    void aLateOneLeavesThoseOfLaterRecords()
+    {
+        QVERIFY(Snapshot::Write(Journal(), 10, m_sketch.GetContent()));
+
+        QVERIFY(Snapshot::Write(Journal(), 9, m_sketch.GetContent()));
+
+        QCOMPARE(Snapshot::FindNewest(Journal())->record, 10);
+    }
+
     void anOlderOneStandsInForADamagedOne()
     {
         QVERIFY(Snapshot::Write(Journal(), 9, m_sketch.GetContent()));
@@ -94,6 +103,7 @@ private slots:
 
     void allAreRemovedTogether()
     {
+        QVERIFY(Snapshot::Write(Journal(), 10, m_sketch.GetContent()));
         QVERIFY(Snapshot::Write(Journal(), 9, m_sketch.GetContent()));
 
         Snapshot::RemoveAll(Journal());

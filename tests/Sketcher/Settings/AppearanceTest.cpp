@@ -1,5 +1,7 @@
 #include "Settings/Appearance.h"
 
+#include "Settings/DarkStyle.h"
+
 #include "Support/TestValues.h"
 
 #include <QApplication>
@@ -93,7 +95,7 @@ private slots:
         const QPalette before = QApplication::palette();
         auto pAppearance = std::make_unique<Appearance>();
         pAppearance->Set(Settings::Colours::Dark);
-        QCOMPARE(QApplication::style()->objectName(), QString("fusion"));
+        QCOMPARE(QApplication::style()->objectName(), QString(DarkStyle::Name));
 
         if (isByDestruction)
             pAppearance.reset();

@@ -52,6 +52,20 @@ class SketchViewGridTest final : public QObject
     Q_OBJECT
 
 private slots:
+    void farAwayWhereLinesCannotBeToldApartThereIsNoGrid()
+    {
+        SketchViewFixture f;
+        f.SetColours(s_paper, s_ink);
+        f.view.Fit({1e12, -1e12, 0}, {1e12, -1e12, 0});
+        f.view.SetPixelsPerUnit(1e9);
+
+        const QImage picture = f.view.grab().toImage();
+
+        QImage paper(picture.size(), picture.format());
+        paper.fill(s_paper);
+        QCOMPARE(picture, paper);
+    }
+
     void theGridStandsOnWholePixels_data()
     {
         QTest::addColumn<QSize>("size");

@@ -104,6 +104,11 @@ public:
     /// action whose state was changed from outside (by an undo).
     static void StepDone();
 
+    /// Call while a plain command is executed that has changed nothing because it could not be
+    /// done: its record is completed as refused, and a replay leaves it out. Does nothing at any
+    /// other time.
+    static void FailCommand();
+
     /// The id of the running action's command; empty if none is running.
     static std::wstring GetRunningCommandId();
 

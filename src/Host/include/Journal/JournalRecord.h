@@ -85,7 +85,7 @@ struct CloseRecord
 struct EndRecord
 {
     int command = 0;        ///< The number of the command's record.
-    bool isRefused = false; ///< It was disabled when its turn came.
+    bool isRefused = false; ///< It was disabled when its turn came, or could not be done.
 };
 
 /// The content of a journal line; `number` counts the records from 1, an end record repeats its

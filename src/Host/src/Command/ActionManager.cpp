@@ -152,6 +152,11 @@ void ActionManager::StepDone()
     Runner().OperateStep([](IAction&) {});
 }
 
+void ActionManager::FailCommand()
+{
+    Runner().Fail();
+}
+
 std::wstring ActionManager::GetRunningCommandId()
 {
     return Runner().GetCommandId();

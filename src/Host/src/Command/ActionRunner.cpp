@@ -227,9 +227,11 @@ void ActionRunner::Run(IUiView* pView, ICommand& command, const Waiting& waiting
 
 void ActionRunner::RunPlain(IUiView* pView, ICommand& command, const Waiting& waiting)
 {
+    // One command may run another.
+    const ScopedValue<bool> failed(m_isFailed, false);
     command.Execute(pView, waiting.parameters);
     JournalManager::GetInstance().FinishStep();
-    Complete(waiting.record, false);
+    Complete(waiting.record, m_isFailed);
 }
 
 void ActionRunner::RunInteractive(IUiView* pView, ICommand& command, const Waiting& waiting)

@@ -67,6 +67,9 @@ public:
     /// True while the running action is in its event loop.
     bool IsInEventLoop() const { return m_pRunningLoop != nullptr; }
 
+    /// The plain command that is being executed could not be done.
+    void Fail() { m_isFailed = true; }
+
     /// Sets the event loop and returns the previous one.
     IActionEventLoop* SetEventLoop(IActionEventLoop* pEventLoop);
 
@@ -114,6 +117,9 @@ private:
     std::vector<IActionObserver*> m_observers;
     IActionEventLoop* m_pEventLoop = nullptr;
     IActionEventLoop* m_pRunningLoop = nullptr;
+
+    /// True once the plain command that is being executed has failed.
+    bool m_isFailed = false;
 
     /// True while an operation of the running action is on the stack.
     bool m_isOperating = false;

@@ -5,16 +5,19 @@
 #include "View/ModelView.h"
 
 #include <QCursor>
-#include <QPixmap>
 #include <QPointer>
+#include <QTimer>
 #include <QWidget>
 
+#include <cstddef>
+#include <memory>
 #include <optional>
 
 namespace vesk
 {
 
 class DimensionInputController;
+class ModelPicture;
 
 /// Base of drawing views: camera, keys and clicks of the running action, provisional graphics.
 ///
@@ -48,6 +51,10 @@ public:
     /// Shows one model unit as that many device pixels; the centre of the view stays.
     void SetPixelsPerUnit(double devicePixels);
 
+    /// From now on each painting shows the whole model, however long that takes: for a picture of
+    /// the view.
+    void PaintAtOnce() { m_isPaintedAtOnce = true; }
+
     /// Emits cursorMoved again if the cursor is in the view, because what it points at has changed.
     void TellCursor();
 
@@ -59,13 +66,21 @@ signals:
     void cursorLeft();
 
 protected:
-    /// Paints everything below the provisional graphics, in pixels. The result is cached, so that
-    /// moving the cursor or the provisional graphics does not repaint it, until UpdateModel is
-    /// called or the camera, the size or the palette changes.
-    virtual void PaintModel(QPainter& painter) = 0;
+    /// Paints a part of what is below the provisional graphics, in pixels, from a position on, and
+    /// returns the position after it; the same one if nothing is left. Positions begin with 0. A
+    /// part takes a few milliseconds at most: many are painted at once, and between these events
+    /// are handled.
+    ///
+    /// The result is cached, so that moving the cursor or the provisional graphics does not repaint
+    /// it, until UpdateModel is called or the camera, the size or the palette changes.
+    virtual std::size_t PaintModel(QPainter& painter, std::size_t begin) = 0;
 
-    /// Repaints the model after its appearance changed.
+    /// Repaints the model after its appearance changed. What it looked like before is shown until
+    /// all is painted.
     void UpdateModel();
+
+    /// Paints what was added to the model after the last position.
+    void ExtendModel();
 
     /// Paints over everything else.
     virtual void PaintOverlay(QPainter&) {}
@@ -113,7 +128,10 @@ private:
 
     void OnCameraChanged();
     void OnClick(const QMouseEvent& event);
-    const QPixmap& GetModelPicture();
+    void DropPicture();
+    QPixmap MakeGround() const;
+    void PaintSlice();
+    void OnSliceDue();
 
     std::uint32_t m_id;
     DimensionInputController& m_input;
@@ -124,9 +142,9 @@ private:
     QPointF m_dragPosition;
     QPointer<QWidget> m_pWatchedWindow;
     bool m_hasScale = false;
-
-    /// The painted model; null if it must be repainted.
-    QPixmap m_modelPicture;
+    bool m_isPaintedAtOnce = false;
+    const std::unique_ptr<ModelPicture> m_pPicture;
+    QTimer m_nextSlice;
 };
 
 }

@@ -4,6 +4,7 @@
 #include "Command/IAction.h"
 #include "Command/IActionManager.h"
 #include "Dimension/TemporaryDimensionMgr.h"
+#include "Drawing/ModelPicture.h"
 #include "Drawing/ProvisionalPainter.h"
 #include "HostUi/DimensionInputController.h"
 #include "HostUi/QtText.h"
@@ -32,8 +33,10 @@ bool IsConfirmation(const QKeyEvent& event)
 }
 
 DrawingView::DrawingView(std::uint32_t id, DimensionInputController& input, QWidget* pParent)
-    : QWidget(pParent), m_id(id), m_input(input)
+    : QWidget(pParent), m_id(id), m_input(input), m_pPicture(std::make_unique<ModelPicture>())
 {
+    m_nextSlice.setSingleShot(true);
+    connect(&m_nextSlice, &QTimer::timeout, this, &DrawingView::OnSliceDue);
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     setCursor(Qt::CrossCursor);
@@ -120,7 +123,13 @@ QPointF DrawingView::ToPixel(const Vector3d& world) const
 
 void DrawingView::UpdateModel()
 {
-    m_modelPicture = {};
+    m_pPicture->Renew();
+    update();
+}
+
+void DrawingView::ExtendModel()
+{
+    m_pPicture->Extend();
     update();
 }
 
@@ -134,7 +143,7 @@ void DrawingView::UpdateCursor()
 void DrawingView::changeEvent(QEvent* pEvent)
 {
     if (pEvent->type() == QEvent::PaletteChange)
-        UpdateModel();
+        DropPicture();
     QWidget::changeEvent(pEvent);
 }
 
@@ -220,9 +229,14 @@ void DrawingView::mouseReleaseEvent(QMouseEvent* pEvent)
 
 void DrawingView::paintEvent(QPaintEvent*)
 {
+    if (m_pPicture->GetShown().devicePixelRatioF() != devicePixelRatioF())
+        m_pPicture->Drop();
+    // What one slice can show is never seen half painted; further slices leave time for events.
+    if (!m_nextSlice.isActive() || !m_pPicture->IsBegun() || m_isPaintedAtOnce)
+        PaintSlice();
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.drawPixmap(0, 0, GetModelPicture());
+    painter.drawPixmap(0, 0, m_pPicture->GetShown());
 
     ProvisionalPainter provisional(painter, m_camera, palette());
     if (const IAction* pAction = IActionManager::CurrentAction())
@@ -270,22 +284,46 @@ void DrawingView::wheelEvent(QWheelEvent* pEvent)
 void DrawingView::OnCameraChanged()
 {
     ActionManager::RenewViewInput(this);
-    UpdateModel();
+    DropPicture();
     TellCursor();
 }
 
-const QPixmap& DrawingView::GetModelPicture()
+void DrawingView::DropPicture()
+{
+    m_pPicture->Drop();
+    m_nextSlice.stop();
+    update();
+}
+
+QPixmap DrawingView::MakeGround() const
 {
     const double ratio = devicePixelRatioF();
-    if (!m_modelPicture.isNull() && m_modelPicture.devicePixelRatioF() == ratio)
-        return m_modelPicture;
-    m_modelPicture = QPixmap(size() * ratio);
-    m_modelPicture.setDevicePixelRatio(ratio);
-    m_modelPicture.fill(palette().color(QPalette::Base));
-    QPainter painter(&m_modelPicture);
-    painter.setRenderHint(QPainter::Antialiasing);
-    PaintModel(painter);
-    return m_modelPicture;
+    QPixmap ground(size() * ratio);
+    ground.setDevicePixelRatio(ratio);
+    ground.fill(palette().color(QPalette::Base));
+    return ground;
+}
+
+/// Paints what comes next of the model, if anything does, and sees to the rest.
+void DrawingView::PaintSlice()
+{
+    const auto paintPart = [this](QPainter& painter, std::size_t begin) {
+        return PaintModel(painter, begin);
+    };
+    while (!m_pPicture->IsFinished())
+    {
+        if (!m_pPicture->IsBegun())
+            m_pPicture->Begin(MakeGround());
+        m_pPicture->PaintSlice(paintPart);
+        if (!m_isPaintedAtOnce && !m_pPicture->IsFinished())
+            return m_nextSlice.start();
+    }
+}
+
+void DrawingView::OnSliceDue()
+{
+    PaintSlice();
+    update();
 }
 
 /// A click commits the value being typed, in the direction of the click; a rejected value stays in

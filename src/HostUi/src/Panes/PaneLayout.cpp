@@ -67,6 +67,16 @@ void KeepUsable(const QDockWidget& pane)
                              LeastExtent(own.height(), hint.height(), LeastUsable.height()));
 }
 
+/// True if a state of the toolkit says something about a pane: it holds the pane's name as a stream
+/// writes it.
+bool Names(const QByteArray& state, const QDockWidget& pane)
+{
+    QByteArray name;
+    QDataStream stream(&name, QIODevice::WriteOnly);
+    stream << pane.objectName();
+    return state.contains(name);
+}
+
 /// Qt bypasses the window manager while it drags a pane.
 bool IsDragged(const QDockWidget& pane)
 {
@@ -294,7 +304,16 @@ bool PaneLayout::Apply(const QByteArray& layout)
     QDataStream stream(layout);
     stream.setVersion(StreamVersion);
     stream >> state >> places;
-    if (stream.status() != QDataStream::Ok || !m_window.restoreState(state, StateVersion))
+    if (stream.status() != QDataStream::Ok)
+        return false;
+    // The toolkit would leave them where they are, beside those that it moves.
+    for (const PanePlace& place : m_places)
+    {
+        QDockWidget* pWidget = FindWidget(place.name);
+        if (pWidget != nullptr && !Names(state, *pWidget))
+            m_window.removeDockWidget(pWidget);
+    }
+    if (!m_window.restoreState(state, StateVersion))
         return false;
     PlaceLost();
     PlaceFloating(places);
@@ -343,6 +362,7 @@ void PaneLayout::PlaceLost()
             continue;
         pWidget->setFloating(false);
         m_window.addDockWidget(ToQt(place.area), pWidget);
+        pWidget->show();
         PutBehind(FindWidget(place.tabWith), *pWidget);
     }
 }

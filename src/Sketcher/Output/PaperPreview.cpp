@@ -1,0 +1,58 @@
+#include "Output/PaperPreview.h"
+
+#include <QElapsedTimer>
+#include <QImage>
+#include <QPainter>
+#include <QPixmap>
+#include <QResizeEvent>
+
+#include <algorithm>
+
+PaperPreview::PaperPreview(const SketchContent& content) : m_content(content)
+{
+    constexpr int LeastSide = 160;
+    setAlignment(Qt::AlignCenter);
+    setMinimumSize(LeastSide, LeastSide);
+}
+
+void PaperPreview::Show(const PaperPlacement& placement)
+{
+    m_placement = placement;
+    Draw();
+}
+
+/// Does not follow the picture, which follows the size.
+QSize PaperPreview::sizeHint() const
+{
+    constexpr int Side = 420;
+    return {Side, Side};
+}
+
+void PaperPreview::resizeEvent(QResizeEvent* pEvent)
+{
+    QLabel::resizeEvent(pEvent);
+    Draw();
+}
+
+/// A large drawing is shown in part, so that the dialog answers at once.
+void PaperPreview::Draw()
+{
+    constexpr qint64 LongestMs = 100;
+    const QSizeF& paper = m_placement.paper;
+    if (paper.isEmpty())
+        return;
+    const double pixels = std::min(width() / paper.width(), height() / paper.height());
+    QImage image((paper * pixels * devicePixelRatioF()).toSize(), QImage::Format_RGB32);
+    image.setDevicePixelRatio(devicePixelRatioF());
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(pixels, pixels);
+    QElapsedTimer time;
+    time.start();
+    const bool isWhole = PaintOnPaper(painter, m_content, m_placement,
+                                      [&time](double) { return time.elapsed() < LongestMs; });
+    painter.end();
+    setPixmap(QPixmap::fromImage(image));
+    setToolTip(isWhole ? QString() : QStringLiteral("图纸很大，预览只画出一部分；打印是完整的"));
+}

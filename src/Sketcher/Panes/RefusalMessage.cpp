@@ -1,0 +1,16 @@
+#include "Panes/RefusalMessage.h"
+
+#include <QLabel>
+
+QLabel* MakeRefusalMessage(const QString& name)
+{
+    auto* pMessage = new QLabel;
+    pMessage->setObjectName(name);
+    pMessage->setTextFormat(Qt::PlainText);
+    pMessage->setWordWrap(true);
+    pMessage->setMargin(4);
+    pMessage->setStyleSheet(
+        QStringLiteral("background: #b03a37; color: white; border-radius: 4px"));
+    pMessage->hide();
+    return pMessage;
+}
