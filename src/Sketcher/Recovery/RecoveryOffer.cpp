@@ -45,6 +45,11 @@ void Prune(const JournalFolder& folder, const QString& ownJournal)
     });
 }
 
+bool IsNewer(const UnsavedWork& a, const UnsavedWork& b)
+{
+    return a.time > b.time;
+}
+
 }
 
 QStringList FindUndecided(const JournalFolder& folder, const QString& ownJournal)
@@ -59,8 +64,9 @@ QStringList FindUndecided(const JournalFolder& folder, const QString& ownJournal
     return undecided;
 }
 
-RecoveryOffer::RecoveryOffer(MainWindow& window, const JournalFolder& folder, Program program)
-    : m_window(window), m_folder(folder), m_program(std::move(program))
+RecoveryOffer::RecoveryOffer(MainWindow& window, std::vector<JournalFolder> folders,
+                             Program program)
+    : m_window(window), m_folders(std::move(folders)), m_program(std::move(program))
 {}
 
 RecoveryOffer::~RecoveryOffer()
@@ -72,8 +78,12 @@ RecoveryOffer::~RecoveryOffer()
 /// Journals in which no work is found are settled, so that they are not read at every start.
 void RecoveryOffer::Search(const QString& ownJournal)
 {
-    Prune(m_folder, ownJournal);
-    const QStringList journals = FindUndecided(m_folder, ownJournal);
+    QStringList journals;
+    for (const JournalFolder& folder : m_folders)
+    {
+        Prune(folder, ownJournal);
+        journals << FindUndecided(folder, ownJournal);
+    }
     auto pWorks = std::make_shared<std::vector<UnsavedWork>>();
     m_pSearch.reset(QThread::create([journals, pWorks] {
         for (const QString& journal : journals)
@@ -83,6 +93,7 @@ void RecoveryOffer::Search(const QString& ownJournal)
             else
                 JournalFolder::Settle(journal);
         }
+        std::stable_sort(pWorks->begin(), pWorks->end(), &IsNewer);
     }));
     connect(m_pSearch.get(), &QThread::finished, this, [this, pWorks] { OnFound(*pWorks); });
     m_pSearch->start();
