@@ -71,7 +71,7 @@ QLocale LocaleOf(const Settings& settings)
 
 SessionJournal JournalOf(const Options& options, const Settings& settings)
 {
-    SessionJournal::SetFolder(settings.journalFolder);
+    SessionJournal::SetFolder(settings.journalFolder, settings.formerJournalFolders);
     return SessionJournal(options);
 }
 

@@ -67,7 +67,7 @@ SessionRecovery::SessionRecovery(Workspace& workspace, SketcherWindow& window,
       m_program(std::move(program)),
       m_autosave(workspace.sketch,
                  [this] { return m_journal.IsNamed() ? QString() : m_journal.GetPath(); }),
-      m_offer(window, SessionJournal::GetFolder(),
+      m_offer(window, SessionJournal::GetFolders(),
               {[this](const std::wstring& id) {
                    const auto found = m_captions.find(id);
                    return found != m_captions.end() ? ToQString(found->second) : QString();
