@@ -43,9 +43,10 @@ DxfExit Fail(DxfExit code, const std::string& text, std::ostream& messages)
 
 bool ReadCount(const std::string& text, std::size_t& count)
 {
+    constexpr std::size_t GreatestCount = 1000000000;
     const char* const pEnd = text.data() + text.size();
     const auto result = std::from_chars(text.data(), pEnd, count);
-    return result.ec == std::errc() && result.ptr == pEnd && count > 0;
+    return result.ec == std::errc() && result.ptr == pEnd && count > 0 && count <= GreatestCount;
 }
 
 bool ReadOption(const std::string& name, const std::string& value, ToolArguments& arguments)
@@ -126,6 +127,8 @@ DxfExit Import(DxfReadOptions options, std::istream& input, std::ostream& output
 DxfExit RunDxfTool(const std::vector<std::string>& arguments, std::istream& input,
                    std::ostream& output, std::ostream& messages)
 {
+    if (arguments == std::vector<std::string>{"--help"})
+        return WriteAll(std::string(ToolUsage) + '\n', output, messages);
     const std::optional<ToolArguments> read = ReadArguments(arguments);
     if (!read.has_value())
         return Fail(DxfExit::Usage, ToolUsage, messages);

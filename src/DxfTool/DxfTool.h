@@ -20,6 +20,8 @@ enum class DxfExit
 /// The program `vesk-dxf`: `export` turns a drawing file into DXF,
 /// `import` a DXF file into a drawing file.
 ///
+/// `--help` alone tells on `output` how to use it.
+///
 /// The report of an import is one JSON object per line of `messages`; `{"kind":"progress",
 /// "share":0.5}` tells how far it is, and an error is `{"kind":"error","text":"..."}`. Nothing is
 /// written to `output` unless everything went well.

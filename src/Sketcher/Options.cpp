@@ -1,7 +1,7 @@
 #include "Options.h"
 
 #include "Output/DrawingExport.h"
-#include "Output/DrawingSource.h"
+#include "Output/NamedDxfUnit.h"
 #include "WarningRaiser.h"
 
 #include <QCommandLineParser>
@@ -137,12 +137,20 @@ bool IsSameFile(const QString& first, const QString& second)
     return !firstFull.empty() && firstFull == secondFull;
 }
 
+bool IsAttended()
+{
+    return qgetenv("VESK_UNATTENDED") != "1";
+}
+
 Options ParseOptions(const QStringList& arguments)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(
-        QStringLiteral("Draws lines of exact length and angle; every session can be replayed."));
-    const QCommandLineOption help = parser.addHelpOption();
+        QStringLiteral("Draws exact shapes; every session can be replayed."));
+    // That of the parser would come with one for the options of the toolkit.
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
+                                  QStringLiteral("show this help"));
+    parser.addOption(help);
     const QCommandLineOption version = parser.addVersionOption();
     for (const FileOption& option : FileOptions)
         parser.addOption(QCommandLineOption(QString::fromLatin1(option.name),
@@ -161,9 +169,9 @@ Options ParseOptions(const QStringList& arguments)
         QStringLiteral("the unit of a DXF file that does not name one: mm, cm, m, in or ft"),
         QStringLiteral("UNIT"));
     parser.addOption(dxfUnit);
-    parser.addPositionalArgument(QStringLiteral("FILE.vsk"),
-                                 QStringLiteral("the drawing file to open"),
-                                 QStringLiteral("[FILE.vsk]"));
+    parser.addPositionalArgument(
+        QStringLiteral("FILE"), QStringLiteral("the drawing (.vsk) to open, or DXF file to import"),
+        QStringLiteral("[FILE]"));
 
     Options options;
     if (!parser.parse(arguments))

@@ -51,5 +51,8 @@ struct Options
 /// True if both names refer to the same file, directly or through links, or will once it exists.
 bool IsSameFile(const QString& first, const QString& second);
 
+/// True unless the environment says that nobody is there, with VESK_UNATTENDED=1.
+bool IsAttended();
+
 /// Reads the arguments (the program's name first).
 Options ParseOptions(const QStringList& arguments);

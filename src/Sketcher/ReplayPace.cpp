@@ -6,6 +6,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <limits>
 
 using namespace vesk;
 
@@ -34,7 +35,8 @@ ReplayPace::ReplayPace(const std::vector<JournalRecord>& records)
             continue;
         // Each sitting counts from its own begin.
         const int time = std::max(*pMark->time, 0);
-        elapsed += time < lastTime ? time : time - lastTime;
+        const int passed = time < lastTime ? time : time - lastTime;
+        elapsed += std::min(passed, std::numeric_limits<int>::max() - elapsed);
         lastTime = time;
         m_due.resize(i + 1, elapsed);
     }

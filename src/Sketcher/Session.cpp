@@ -61,8 +61,7 @@ QString LayoutPath()
 /// driven, do the same for everyone.
 QString SettingsToRead(const Options& options)
 {
-    const bool isAttended = qEnvironmentVariable("VESK_UNATTENDED") != QLatin1String("1");
-    return options.task == Options::Task::Replay || !isAttended ? QString() : SettingsPath();
+    return options.task == Options::Task::Replay || !IsAttended() ? QString() : SettingsPath();
 }
 
 QLocale LocaleOf(const Settings& settings)
@@ -72,7 +71,7 @@ QLocale LocaleOf(const Settings& settings)
 
 SessionJournal JournalOf(const Options& options, const Settings& settings)
 {
-    SessionJournal::SetFolder(settings.journalFolder);
+    SessionJournal::SetFolder(settings.journalFolder, settings.formerJournalFolders);
     return SessionJournal(options);
 }
 
@@ -86,7 +85,7 @@ std::wstring ProgramName()
 Documents::Manners MannersOf(const Options& options)
 {
     using Manners = Documents::Manners;
-    if (options.task == Options::Task::Replay || qgetenv("VESK_UNATTENDED") == "1")
+    if (options.task == Options::Task::Replay || !IsAttended())
         return Manners::Silent;
     return options.journal.isEmpty() && options.model.isEmpty() ? Manners::Ask
                                                                 : Manners::AskAboutFiles;

@@ -8,6 +8,7 @@
 #include "Journal/JournalManager.h"
 #include "Replay/JournalReplayer.h"
 
+#include <QDir>
 #include <QFileInfo>
 
 using namespace vesk;
@@ -18,10 +19,16 @@ namespace
 /// Far below the greatest integer, to leave numbers for the records of any session.
 constexpr int GreatestNumberToGoOnFrom = 1000000000;
 
-QString& ChosenFolder()
+/// The chosen folder, then former ones. An empty path is that of the data folder.
+QStringList& FolderPaths()
 {
-    static QString s_path;
-    return s_path;
+    static QStringList s_paths = {QString()};
+    return s_paths;
+}
+
+JournalFolder FolderOf(const QString& path)
+{
+    return JournalFolder(path.isEmpty() ? DataFile(QStringLiteral("journals")) : path);
 }
 
 JournalManager& Manager()
@@ -41,13 +48,26 @@ SessionJournal::SessionJournal(const Options& options)
 
 JournalFolder SessionJournal::GetFolder()
 {
-    const QString& chosen = ChosenFolder();
-    return JournalFolder(chosen.isEmpty() ? DataFile(QStringLiteral("journals")) : chosen);
+    return FolderOf(FolderPaths().front());
 }
 
-void SessionJournal::SetFolder(const QString& path)
+void SessionJournal::SetFolder(const QString& path, const QStringList& former)
 {
-    ChosenFolder() = path;
+    const bool isUsable =
+        QFileInfo(path).isAbsolute() && QDir().mkpath(path) && QFileInfo(path).isWritable();
+    FolderPaths() = QStringList(path) + former + QStringList(QString());
+    // Work that is in it is offered all the same.
+    if (!isUsable)
+        FolderPaths().prepend(QString());
+    FolderPaths().removeDuplicates();
+}
+
+std::vector<JournalFolder> SessionJournal::GetFolders()
+{
+    std::vector<JournalFolder> folders;
+    for (const QString& path : FolderPaths())
+        folders.push_back(FolderOf(path));
+    return folders;
 }
 
 bool SessionJournal::Reserve(std::string& error)

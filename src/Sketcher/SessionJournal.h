@@ -5,8 +5,10 @@
 #include "Journal/JournalRecord.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <string>
+#include <vector>
 
 struct Options;
 
@@ -28,8 +30,13 @@ public:
     /// another path is set.
     static JournalFolder GetFolder();
 
-    /// Sets that folder for the journals of this process; empty for the one in the data folder.
-    static void SetFolder(const QString& path);
+    /// Sets that folder for the journals of this process, and creates it. Empty, or one that cannot
+    /// be used, for the one in the data folder. `former` are folders in which journals of earlier
+    /// sessions may be.
+    static void SetFolder(const QString& path, const QStringList& former = {});
+
+    /// All folders with journals of this program: the one in use first, the others after it.
+    static std::vector<JournalFolder> GetFolders();
 
     /// Reserves a file that is to be continued for this session before it is read. Returns false if
     /// that fails; `error` then says why in one sentence.

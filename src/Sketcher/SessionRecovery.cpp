@@ -67,7 +67,7 @@ SessionRecovery::SessionRecovery(Workspace& workspace, SketcherWindow& window,
       m_program(std::move(program)),
       m_autosave(workspace.sketch,
                  [this] { return m_journal.IsNamed() ? QString() : m_journal.GetPath(); }),
-      m_offer(window, SessionJournal::GetFolder(),
+      m_offer(window, SessionJournal::GetFolders(),
               {[this](const std::wstring& id) {
                    const auto found = m_captions.find(id);
                    return found != m_captions.end() ? ToQString(found->second) : QString();
@@ -80,8 +80,7 @@ void SessionRecovery::Offer(const Options& options)
 {
     const bool isToldWhatToDo =
         !options.journal.isEmpty() || !options.model.isEmpty() || !options.GetSource().isEmpty();
-    const bool isSomebodyThere = qEnvironmentVariable("VESK_UNATTENDED") != QLatin1String("1");
-    if (!isToldWhatToDo && isSomebodyThere)
+    if (!isToldWhatToDo && IsAttended())
         m_offer.Search(m_journal.GetPath());
 }
 

@@ -65,6 +65,15 @@ private slots:
         QCOMPARE(again.output, document);
     }
 
+    void helpIsNoFailure()
+    {
+        const ToolRun run = RunTool({"--help"}, {});
+
+        QCOMPARE(run.code, DxfExit::Done);
+        QVERIFY(run.output.find("vesk-dxf import") != std::string::npos);
+        QCOMPARE(run.messages, std::string());
+    }
+
     void progressIsAShareOfTheWholeWhateverTheSection()
     {
         std::string file = DxfFile({});
@@ -93,6 +102,8 @@ private slots:
         QTest::newRow("unit of export") << QByteArray("export --unit mm") << file << DxfExit::Usage;
         QTest::newRow("no count") << QByteArray("import --max-entities 0") << file
                                   << DxfExit::Usage;
+        QTest::newRow("huge") << QByteArray("import --max-entities 1000000001") << file
+                              << DxfExit::Usage;
         QTest::newRow("not dxf") << QByteArray("import") << QByteArray("{}") << DxfExit::Unusable;
         QTest::newRow("not a drawing") << QByteArray("export") << file << DxfExit::Unusable;
         QTest::newRow("nobody knows the unit")

@@ -3,6 +3,7 @@
 #include "DxfReader.h"
 #include "DxfWriter.h"
 
+#include "Model/DocumentFile.h"
 #include "Model/SketchContent.h"
 
 #include <cstddef>
@@ -25,7 +26,8 @@ DxfReading ReadFuzzedDxf(const std::string& bytes)
 
 }
 
-/// Reads a DXF file. What is read must be a valid drawing, and have as many entities once written.
+/// Reads a DXF file. What is read must be a valid drawing, which can be kept as a drawing file, and
+/// have as many entities once written.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* pData, std::size_t size)
 {
     DxfReading first;
@@ -40,6 +42,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* pData, std::size_t siz
     if (first.outcome != DxfReading::Outcome::Done)
         return 0;
     if (!IsValid(first.content))
+        std::abort();
+    const DocumentReading kept = DocumentFile::FromText(DocumentFile::ToText(first.content));
+    if (kept.outcome != DocumentReading::Outcome::Whole)
         std::abort();
     std::ostringstream written;
     WriteDxf(first.content, written);

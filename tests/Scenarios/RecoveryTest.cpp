@@ -9,6 +9,7 @@
 #include "Recovery/Snapshot.h"
 #include "Recovery/UnsavedWork.h"
 #include "SessionJournal.h"
+#include "Settings/SettingsStore.h"
 
 #include "Journal/JournalFormat.h"
 #include "Support/TestValues.h"
@@ -16,11 +17,8 @@
 #include <QApplication>
 #include <QDir>
 #include <QLabel>
-#include <QMessageBox>
-#include <QTimer>
 
 #include <algorithm>
-#include <csignal>
 
 Q_DECLARE_METATYPE(QString Options::*)
 
@@ -249,73 +247,6 @@ private slots:
         QCOMPARE(LinesOf(NewestJournal()), 2);
     }
 
-    void anEndWithoutADecisionIsOffered_data()
-    {
-        QTest::addColumn<QString>("during");
-
-        QTest::newRow("nothing") << "";
-        QTest::newRow("a tool") << "tool";
-        QTest::newRow("a dialog") << "dialog";
-        QTest::newRow("a menu") << "menu";
-    }
-
-    void anEndWithoutADecisionIsOffered()
-    {
-        QFETCH(QString, during);
-        ScriptedUser user;
-        user.DrawLine(0, 0, 50, 0);
-        if (during == "tool")
-            user.Click(s_line).ClickAt(0, 0).UntilRunning(s_line);
-        if (during == "menu")
-            user.OpenMenu("Sketcher.Zoom");
-        if (during == "dialog")
-            user.Do([] {
-                    QTimer::singleShot(0,
-                                       [] { ScriptedUser::FindButton("Sketcher.New")->click(); });
-                })
-                .Until([] { return FindQuestion() != nullptr; });
-        user.Do([] { ::raise(SIGTERM); });
-        user.Until([] { return !ScriptedUser::FindWindow()->isVisible(); });
-
-        QCOMPARE(user.Run(Options()), 0);
-
-        QCOMPARE(Undecided().size(), 1);
-        QCOMPARE(FindUnsavedWork(Undecided().front())->steps, 1);
-        QCOMPARE(LinesOf(Undecided().front()), 1);
-    }
-
-    void theEndOfTheDesktopSessionIsNoDecision()
-    {
-        ScriptedUser user;
-        user.DrawLine(0, 0, 50, 0).Do(&QCoreApplication::quit);
-
-        QCOMPARE(user.Run(Options()), 0);
-
-        QCOMPARE(Undecided().size(), 1);
-    }
-
-    void whatTheUserDiscardsIsNotOffered()
-    {
-        ScriptedUser user;
-        user.DrawLine(0, 0, 50, 0);
-
-        QCOMPARE(RunAndDiscard(user, Options()), 0);
-
-        QCOMPARE(Journals().size(), 1);
-        QCOMPARE(Undecided(), QStringList());
-    }
-
-    void nothingDrawnIsNothingToDecide()
-    {
-        ScriptedUser user;
-        user.Do([] { ::raise(SIGTERM); });
-        user.Until([] { return !ScriptedUser::FindWindow()->isVisible(); });
-
-        QCOMPARE(user.Run(Options()), 0);
-
-        QCOMPARE(Undecided(), QStringList());
-    }
-
     void unsavedWorkInAFileThatIsReplacedIsSecured()
     {
         const QString crashed = Crash(3);
@@ -379,9 +310,33 @@ private slots:
         QVERIFY(SessionJournal(Options()).GetPath().contains("/journals/"));
     }
 
-private:
-    static QStringList Journals() { return SessionJournal::GetFolder().GetJournals(); }
+    void workInAFormerFolderIsOffered()
+    {
+        const QString former = m_pFixture->File("former");
+        QVERIFY(QDir().mkpath(former));
+        Crash(2);
+        const QString crashed = Crash(3);
+        QVERIFY(QFile::rename(crashed, former + "/crashed.jsonl"));
+        SettingsStore settings(SettingsPath(), SettingsPath());
+        Settings chosen;
+        for (const QString& folder : {former, m_pFixture->File("chosen")})
+        {
+            chosen.journalFolder = folder;
+            QVERIFY(settings.Set(chosen));
+        }
+        QString text;
+        ScriptedUser user;
+        user.Until(&IsOffered).Do([&text] { text = FindOffer()->text(); });
 
+        const int code = RunAndDiscard(user, Options());
+
+        SessionJournal::SetFolder({});
+        QCOMPARE(code, 0);
+        QVERIFY2(text.endsWith(QStringLiteral("，3 步；另有 1 个")), qPrintable(text));
+        QCOMPARE(QDir(m_pFixture->File("chosen")).entryList({"*.jsonl"}).size(), 1);
+    }
+
+private:
     /// The journal that was made last; its name has the greatest number.
     QString NewestJournal() const
     {
@@ -392,17 +347,6 @@ private:
             return a.size() != b.size() ? a.size() < b.size() : a < b;
         });
         return journals.isEmpty() ? QString() : journals.back();
-    }
-
-    static QStringList Undecided()
-    {
-        QStringList journals;
-        for (const QString& journal : Journals())
-        {
-            if (!IsEnded(journal) && !JournalFolder::IsSettled(journal))
-                journals << journal;
-        }
-        return journals;
     }
 
     /// Removes the closing record.

@@ -1,11 +1,13 @@
 #include "Drawing.h"
 #include "ScenarioTest.h"
 #include "ScriptedUser.h"
+#include "SessionJournal.h"
 #include "Settings/SettingsDialog.h"
 #include "Settings/SettingsStore.h"
 #include "SketcherWindow.h"
 
 #include "Dimension/TemporaryDimensionMgr.h"
+#include "Support/FileBytes.h"
 #include "Support/TestValues.h"
 
 #include <QAbstractButton>
@@ -151,6 +153,26 @@ private slots:
             .Do([] { QVERIFY(IsChecked("Sketcher.Unit.m")); });
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
+    }
+
+    void aJournalFolderThatCannotBeUsedIsReplacedByTheDefault_data()
+    {
+        QTest::addColumn<QString>("folder");
+        QTest::newRow("relative") << "journals-elsewhere";
+        QTest::newRow("below a file") << "FILE/journals";
+    }
+
+    void aJournalFolderThatCannotBeUsedIsReplacedByTheDefault()
+    {
+        QFETCH(QString, folder);
+        QVERIFY(vesk::WriteBytes(m_pFixture->File("file"), {}));
+        const QString byDefault = SessionJournal::GetFolder().GetPath();
+
+        SessionJournal::SetFolder(folder.replace("FILE", m_pFixture->File("file")));
+        const QString used = SessionJournal::GetFolder().GetPath();
+
+        SessionJournal::SetFolder({});
+        QCOMPARE(used, byDefault);
     }
 };
 

@@ -228,6 +228,7 @@ private slots:
         QTest::addColumn<QStringList>("arguments");
 
         QTest::newRow("unknown") << QStringList{"--nonsense"};
+        QTest::newRow("help of the toolkit") << QStringList{"--help-all"};
         QTest::newRow("argument") << QStringList{"file"};
         QTest::newRow("no value") << QStringList{"--journal"};
         QTest::newRow("unit") << QStringList{"--dxf-unit", "yd"};

@@ -5,6 +5,8 @@
 
 #include <QElapsedTimer>
 
+#include <limits>
+
 using namespace vesk;
 
 namespace
@@ -53,6 +55,14 @@ private slots:
     void anotherSittingCountsFromItsOwnBegin()
     {
         QCOMPARE(DuesOf({MarkAt(200), MarkAt(30), MarkAt(90)}), (std::vector<int>{200, 230, 290}));
+    }
+
+    void timesBeyondTheGreatestCountAsThat()
+    {
+        constexpr int Greatest = std::numeric_limits<int>::max();
+
+        QCOMPARE(DuesOf({MarkAt(Greatest), MarkAt(5), MarkAt(Greatest)}),
+                 (std::vector<int>{Greatest, Greatest, Greatest}));
     }
 
     void waitingTakesAtLeastThatLong()

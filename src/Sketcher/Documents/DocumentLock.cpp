@@ -31,7 +31,7 @@ DocumentLock::DocumentLock(const QString& path)
     QString host;
     QString program;
     if (m_state == State::InUse && m_pFile->getLockInfo(&process, &host, &program))
-        m_holder = QStringLiteral("%1（%2，进程 %3）").arg(program, host).arg(process);
+        m_holder = QStringLiteral("%1（%2，进程 %3）").arg(program, host, QString::number(process));
 }
 
 DocumentLock::~DocumentLock() = default;

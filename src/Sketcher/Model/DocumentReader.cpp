@@ -7,21 +7,12 @@
 
 #include "Foundation/Text.h"
 
-#include <algorithm>
 #include <limits>
 #include <optional>
 #include <utility>
 
 namespace
 {
-
-const PenPart& ColourPart()
-{
-    static const PenPart& s_colours =
-        *std::find_if(PenParts().begin(), PenParts().end(),
-                      [](const PenPart& part) { return part.member == &Pen::colour; });
-    return s_colours;
-}
 
 /// A shape of the kind with that name; nothing if there is none.
 std::optional<Shape> MakeShape(const std::wstring& kind)

@@ -3,8 +3,6 @@
 #include "Model/ParameterValue.h"
 #include "Model/Sketch.h"
 
-#include <algorithm>
-
 using namespace vesk;
 
 namespace
@@ -24,13 +22,9 @@ bool SetName(Layer& layer, const std::wstring& name)
 /// False if there is no colour of that name.
 bool SetColour(Layer& layer, const std::wstring& name)
 {
-    const auto found =
-        std::find_if(LineColours().begin(), LineColours().end(),
-                     [&name](const LineColour& colour) { return colour.name == name; });
-    if (found == LineColours().end())
-        return false;
-    layer.colour = static_cast<int>(found - LineColours().begin());
-    return true;
+    const std::optional<int> colour = ColourPart().Find(name);
+    layer.colour = colour.value_or(layer.colour);
+    return colour.has_value();
 }
 
 struct TextProperty
@@ -72,15 +66,6 @@ bool Set(Layer& layer, const std::wstring& property, bool value)
     return false;
 }
 
-/// The layer of that name; null if there is none.
-const Layer* FindNamed(const Sketch& sketch, const std::wstring& name)
-{
-    const std::vector<Layer>& layers = sketch.GetLayers();
-    const auto found = std::find_if(layers.begin(), layers.end(),
-                                    [&name](const Layer& layer) { return layer.name == name; });
-    return found != layers.end() ? &*found : nullptr;
-}
-
 }
 
 CommandParameters LayerAddition::ToParameters() const
@@ -98,7 +83,7 @@ std::optional<LayerAddition> LayerAddition::From(const CommandParameters& parame
 
 bool LayerAddition::IsPossible(const Sketch& sketch) const
 {
-    return !name.empty() && FindNamed(sketch, name) == nullptr;
+    return sketch.CanAddLayer(name);
 }
 
 bool LayerAddition::Apply(Sketch& sketch) const
@@ -158,10 +143,7 @@ std::optional<LayerEdit> LayerEdit::From(const CommandParameters& parameters)
 bool LayerEdit::IsPossible(const Sketch& sketch) const
 {
     const std::optional<Layer> changed = Changed(sketch);
-    if (!changed.has_value() || changed->name.empty())
-        return false;
-    const Layer* pNamesake = FindNamed(sketch, changed->name);
-    return pNamesake == nullptr || pNamesake->id == layer;
+    return changed.has_value() && sketch.CanSetLayer(*changed);
 }
 
 bool LayerEdit::Apply(Sketch& sketch) const

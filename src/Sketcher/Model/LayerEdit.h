@@ -21,7 +21,7 @@ struct LayerAddition
     /// Nothing if the parameters do not describe an addition.
     static std::optional<LayerAddition> From(const vesk::CommandParameters& parameters);
 
-    /// False if the name is empty or taken.
+    /// False if the name is empty or taken, or ids of layers have run out.
     bool IsPossible(const Sketch& sketch) const;
 
     /// Adds the layer in one undo step. Returns false and changes nothing if that is impossible.

@@ -76,3 +76,11 @@ const std::vector<PenPart>& PenParts()
     };
     return s_parts;
 }
+
+const PenPart& ColourPart()
+{
+    static const PenPart& s_colour =
+        *std::find_if(PenParts().begin(), PenParts().end(),
+                      [](const PenPart& part) { return part.member == &Pen::colour; });
+    return s_colour;
+}

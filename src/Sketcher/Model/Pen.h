@@ -57,3 +57,6 @@ struct PenPart
 
 /// "style", "colour" and "width".
 const std::vector<PenPart>& PenParts();
+
+/// The one of these that layers have, too.
+const PenPart& ColourPart();

@@ -130,9 +130,9 @@ std::map<int, int> Sketch::MatchLayers(const SketchContent& content, SketchChang
     for (const int otherId : used)
     {
         Layer layer = *FindById(content.layers, otherId);
-        const auto own = FindLayerNamed(layer.name);
-        layer.id = own != nullptr ? own->id : ++lastId;
-        if (own == nullptr)
+        const Layer* pOwn = FindLayer(layer.name);
+        layer.id = pOwn != nullptr ? pOwn->id : ++lastId;
+        if (pOwn == nullptr)
             change.layers[layer.id] = layer;
         ids[otherId] = layer.id;
     }
@@ -224,7 +224,7 @@ const Layer* Sketch::FindLayer(int id) const
     return FindById(m_content.layers, id);
 }
 
-const Layer* Sketch::FindLayerNamed(const std::wstring& name) const
+const Layer* Sketch::FindLayer(const std::wstring& name) const
 {
     const auto found = std::find_if(m_content.layers.begin(), m_content.layers.end(),
                                     [&name](const Layer& layer) { return layer.name == name; });
@@ -236,9 +236,14 @@ const Layer& Sketch::LayerOf(const Entity& entity) const
     return *FindLayer(entity.pen.layer);
 }
 
+bool Sketch::CanAddLayer(const std::wstring& name) const
+{
+    return !name.empty() && FindLayer(name) == nullptr && m_content.lastLayerId < GreatestId;
+}
+
 int Sketch::AddLayer(const std::wstring& name)
 {
-    if (name.empty() || FindLayerNamed(name) != nullptr || m_content.lastLayerId == GreatestId)
+    if (!CanAddLayer(name))
         return 0;
     Layer layer;
     layer.id = ++m_content.lastLayerId;
@@ -249,13 +254,17 @@ int Sketch::AddLayer(const std::wstring& name)
     return layer.id;
 }
 
-bool Sketch::SetLayer(const Layer& layer)
+bool Sketch::CanSetLayer(const Layer& layer) const
 {
-    const Layer* pLayer = FindLayer(layer.id);
-    const Layer* pNamesake = FindLayerNamed(layer.name);
+    const Layer* pNamesake = FindLayer(layer.name);
     const bool isNameFree =
         !layer.name.empty() && (pNamesake == nullptr || pNamesake->id == layer.id);
-    if (pLayer == nullptr || *pLayer == layer || !isNameFree)
+    return isNameFree && FindLayer(layer.id) != nullptr;
+}
+
+bool Sketch::SetLayer(const Layer& layer)
+{
+    if (!CanSetLayer(layer) || *FindLayer(layer.id) == layer)
         return false;
     SketchChange change;
     change.layers[layer.id] = layer;

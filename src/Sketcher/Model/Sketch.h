@@ -76,19 +76,22 @@ public:
     /// By ascending id; the base layer comes first.
     const std::vector<Layer>& GetLayers() const { return m_content.layers; }
 
-    /// The layer with that id; null if there is none. Valid until the next change.
+    /// The layer with that id or name; null if there is none. Valid until the next change.
     const Layer* FindLayer(int id) const;
+    const Layer* FindLayer(const std::wstring& name) const;
 
     /// The layer of an entity of this drawing.
     const Layer& LayerOf(const Entity& entity) const;
 
     /// Adds a layer of that name and returns its id, which is never reused. Returns 0 and adds
-    /// nothing if the name is empty or taken.
+    /// nothing if the name is empty or taken, or ids have run out.
     int AddLayer(const std::wstring& name);
+    bool CanAddLayer(const std::wstring& name) const;
 
-    /// Gives the layer with that id the other values. Returns false and makes no step if it does
-    /// not exist, nothing differs, or its name is empty or another layer's.
+    /// Gives the layer with that id the other values. Returns false and makes no step if nothing
+    /// differs or that is impossible: it does not exist, or its name is empty or another layer's.
     bool SetLayer(const Layer& layer);
+    bool CanSetLayer(const Layer& layer) const;
 
     /// Removes a layer. Returns false and removes nothing if it is the base layer, does not exist
     /// or has entities. If it is the current pen's, the base layer becomes that.
@@ -146,7 +149,6 @@ private:
     class Step;
 
     bool AreChangeable(const std::vector<int>& ids) const;
-    const Layer* FindLayerNamed(const std::wstring& name) const;
     std::map<int, int> MatchLayers(const SketchContent& content, SketchChange& change) const;
     std::vector<int> AddEntities(const std::vector<PenShape>& shapes, SketchChange change,
                                  const std::wstring& stepName);

@@ -5,8 +5,6 @@
 #include "Model/DocumentFile.h"
 #include "Model/FileContent.h"
 
-#include <QStringList>
-
 #include <cstddef>
 #include <utility>
 
@@ -48,9 +46,4 @@ DrawingSource ReadDrawing(const QString& path, const QString& dxfUnit)
 bool IsDxfFile(const QString& path)
 {
     return path.endsWith(QLatin1String(".dxf"), Qt::CaseInsensitive);
-}
-
-bool IsDxfUnit(const QString& name)
-{
-    return QStringList({"mm", "cm", "m", "in", "ft"}).contains(name);
 }

@@ -18,6 +18,3 @@ DrawingSource ReadDrawing(const QString& path, const QString& dxfUnit);
 
 /// Whether the name of a file is that of a DXF file.
 bool IsDxfFile(const QString& path);
-
-/// Whether vesk-dxf knows a unit of that name.
-bool IsDxfUnit(const QString& name);

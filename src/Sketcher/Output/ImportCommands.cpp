@@ -146,8 +146,8 @@ std::optional<SketchContent> ImportCommands::Find(const CommandParameters& param
 
 void ImportCommands::ShowReport(const QString& name, const DxfImport& read)
 {
-    m_window.ShowNotice(
-        QStringLiteral("%1：已导入 %2 个图元").arg(name).arg(read.report.importedCount));
+    m_window.ShowNotice(QStringLiteral("%1：已导入 %2 个图元")
+                            .arg(name, QString::number(read.report.importedCount)));
     if (!read.report.remarks.isEmpty())
         ShowImportReport(m_window, name, read.report);
 }

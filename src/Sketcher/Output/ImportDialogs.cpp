@@ -1,6 +1,7 @@
 #include "Output/ImportDialogs.h"
 
 #include "Output/DxfImport.h"
+#include "Output/NamedDxfUnit.h"
 
 #include <QFileDialog>
 #include <QInputDialog>
@@ -9,16 +10,6 @@
 
 namespace
 {
-
-struct DxfUnitText
-{
-    const char* name; ///< For vesk-dxf.
-    const char* caption;
-};
-
-constexpr DxfUnitText DxfUnitTexts[] = {
-    {"mm", "毫米"}, {"cm", "厘米"}, {"m", "米"}, {"in", "英寸"}, {"ft", "英尺"},
-};
 
 /// As many as fit on the screen; the last line counts the others.
 QStringList FirstOf(const QStringList& remarks)
@@ -51,8 +42,8 @@ QString AskForImportPath(QWidget& window)
 QString AskForDxfUnit(QWidget& window, const QString& fileName)
 {
     QStringList captions;
-    for (const DxfUnitText& unit : DxfUnitTexts)
-        captions << QString::fromUtf8(unit.caption);
+    for (const NamedDxfUnit& unit : NamedDxfUnits())
+        captions << unit.caption;
     const QPointer<QInputDialog> pDialog = new QInputDialog(&window);
     pDialog->setObjectName(QStringLiteral("DxfUnitDialog"));
     pDialog->setWindowTitle(QStringLiteral("导入"));
@@ -63,16 +54,15 @@ QString AskForDxfUnit(QWidget& window, const QString& fileName)
         return {};
     const int place = captions.indexOf(pDialog->textValue());
     delete pDialog;
-    return isAccepted && place >= 0 ? QString::fromLatin1(DxfUnitTexts[place].name) : QString();
+    return isAccepted && place >= 0 ? NamedDxfUnits()[place].name : QString();
 }
 
 void ShowImportReport(QWidget& window, const QString& fileName, const DxfReportText& report)
 {
     auto* pBox = new QMessageBox(QMessageBox::Information, QStringLiteral("导入"),
                                  QStringLiteral("%1：已导入 %2 个图元，另有 %3 项说明。")
-                                     .arg(fileName)
-                                     .arg(report.importedCount)
-                                     .arg(report.remarks.size()),
+                                     .arg(fileName, QString::number(report.importedCount),
+                                          QString::number(report.remarks.size())),
                                  QMessageBox::Ok, &window);
     // Names come from elsewhere.
     pBox->setTextFormat(Qt::PlainText);

@@ -1,6 +1,5 @@
 #include "Output/PrintLayout.h"
 
-#include <QLocale>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -9,6 +8,20 @@ namespace
 {
 
 constexpr double GreatestScale = 1e6;
+
+/// A number from 1 on, with four digits or all of those before the point, and without an exponent.
+QString NumberText(double value)
+{
+    constexpr int Digits = 4;
+    int decimals = Digits - 1;
+    for (double power = 10.0; decimals > 0 && value >= power; power *= 10.0)
+        --decimals;
+    QString text = QString::number(value, 'f', decimals);
+    while (text.contains(QLatin1Char('.')) &&
+           (text.endsWith(QLatin1Char('0')) || text.endsWith(QLatin1Char('.'))))
+        text.chop(1);
+    return text;
+}
 
 }
 
@@ -42,8 +55,6 @@ bool FitsPaper(const ShapeBounds& bounds, double scale, const QSizeF& paper)
 
 QString ScaleText(double scale)
 {
-    constexpr int Digits = 4;
-    const auto number = [](double value) { return QLocale::c().toString(value, 'g', Digits); };
-    return scale >= 1.0 ? number(scale) + QStringLiteral(":1")
-                        : QStringLiteral("1:") + number(1.0 / scale);
+    return scale >= 1.0 ? NumberText(scale) + QStringLiteral(":1")
+                        : QStringLiteral("1:") + NumberText(1.0 / scale);
 }

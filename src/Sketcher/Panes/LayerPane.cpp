@@ -32,11 +32,11 @@ constexpr int NoLayer = -1;
 std::wstring FreeLayerName(const Sketch& sketch)
 {
     int number = 1;
-    LayerAddition addition;
+    std::wstring name;
     do
-        addition.name = L"图层 " + std::to_wstring(number++);
-    while (!addition.IsPossible(sketch));
-    return addition.name;
+        name = L"图层 " + std::to_wstring(number++);
+    while (sketch.FindLayer(name) != nullptr);
+    return name;
 }
 
 void ArrangeColumns(QTreeView& view)
@@ -156,7 +156,8 @@ void LayerPane::OnNew()
 {
     const QPointer<LayerPane> pThis(this);
     const LayerAddition addition{FreeLayerName(m_workspace.sketch)};
-    ActionManager::RunCommand(LayerAddition::CommandId, addition.ToParameters());
+    if (addition.IsPossible(m_workspace.sketch))
+        ActionManager::RunCommand(LayerAddition::CommandId, addition.ToParameters());
     if (pThis == nullptr)
         return;
     OnAnswered(QString());

@@ -70,6 +70,11 @@ void FindOrSettle(const QString& journal, std::vector<UnsavedWork>& works)
     }
 }
 
+bool IsNewer(const UnsavedWork& a, const UnsavedWork& b)
+{
+    return a.time > b.time;
+}
+
 }
 
 QStringList FindUndecided(const JournalFolder& folder, const QString& ownJournal)
@@ -84,8 +89,9 @@ QStringList FindUndecided(const JournalFolder& folder, const QString& ownJournal
     return undecided;
 }
 
-RecoveryOffer::RecoveryOffer(MainWindow& window, const JournalFolder& folder, Program program)
-    : m_window(window), m_folder(folder), m_program(std::move(program))
+RecoveryOffer::RecoveryOffer(MainWindow& window, std::vector<JournalFolder> folders,
+                             Program program)
+    : m_window(window), m_folders(std::move(folders)), m_program(std::move(program))
 {}
 
 RecoveryOffer::~RecoveryOffer()
@@ -97,12 +103,17 @@ RecoveryOffer::~RecoveryOffer()
 /// Journals without work are settled, so that they are not read at every start.
 void RecoveryOffer::Search(const QString& ownJournal)
 {
-    Prune(m_folder, ownJournal);
-    const QStringList journals = FindUndecided(m_folder, ownJournal);
+    QStringList journals;
+    for (const JournalFolder& folder : m_folders)
+    {
+        Prune(folder, ownJournal);
+        journals << FindUndecided(folder, ownJournal);
+    }
     auto pWorks = std::make_shared<std::vector<UnsavedWork>>();
     m_pSearch.reset(QThread::create([journals, pWorks] {
         for (const QString& journal : journals)
             FindOrSettle(journal, *pWorks);
+        std::stable_sort(pWorks->begin(), pWorks->end(), &IsNewer);
     }));
     connect(m_pSearch.get(), &QThread::finished, this, [this, pWorks] { OnFound(*pWorks); });
     m_pSearch->start();

@@ -46,13 +46,13 @@ public:
     };
 
     /// The window is not owned and outlives this.
-    RecoveryOffer(vesk::MainWindow& window, const JournalFolder& folder, Program program);
+    RecoveryOffer(vesk::MainWindow& window, std::vector<JournalFolder> folders, Program program);
 
     /// Waits until the search has ended.
     ~RecoveryOffer() override;
 
-    /// Searches the folder in another thread, except for this session's own journal, and then shows
-    /// what was found.
+    /// Searches the folders in another thread, except for this session's own journal, and then
+    /// shows what was found.
     void Search(const QString& ownJournal);
 
     /// Also offers that; it comes first.
@@ -76,7 +76,7 @@ private:
     void ShowFirst();
 
     vesk::MainWindow& m_window;
-    const JournalFolder m_folder;
+    const std::vector<JournalFolder> m_folders;
     const Program m_program;
     std::vector<UnsavedWork> m_works; ///< The first one is shown.
     QPointer<RecoveryBar> m_pBar;

@@ -20,7 +20,7 @@ namespace
 
 QString PathOf(const QString& journal, int record)
 {
-    return QStringLiteral("%1.%2.vsk").arg(journal).arg(record);
+    return QStringLiteral("%1.%2.vsk").arg(journal, QString::number(record));
 }
 
 /// The record numbers of all snapshots, the newest first.

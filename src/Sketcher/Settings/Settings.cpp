@@ -39,6 +39,20 @@ bool TruthOf(const json& object, const char* name, bool byDefault)
     return found != object.end() && found->is_boolean() ? found->get<bool>() : byDefault;
 }
 
+QStringList ListOf(const json& object, const char* name)
+{
+    QStringList texts;
+    const auto found = object.find(name);
+    if (found == object.end() || !found->is_array())
+        return texts;
+    for (const json& text : *found)
+    {
+        if (text.is_string())
+            texts << QString::fromStdString(text.get<std::string>());
+    }
+    return texts;
+}
+
 /// A whole number from 0 to a greatest one.
 int NumberOf(const json& object, const char* name, int greatest, int byDefault)
 {
@@ -84,6 +98,7 @@ Settings SettingsFromText(const std::string& text)
                                     SnapNames[i], settings.snaps[i]);
     settings.isSpaceCommitting = TruthOf(object, "spaceCommits", settings.isSpaceCommitting);
     settings.journalFolder = TextOf(object, "journalFolder", settings.journalFolder);
+    settings.formerJournalFolders = ListOf(object, "formerJournalFolders");
     settings.autosaveMinutes = NumberOf(
         object, "autosaveMinutes", Settings::GreatestAutosaveMinutes, settings.autosaveMinutes);
     return settings;
@@ -102,6 +117,9 @@ std::string ToText(const Settings& settings, const std::string& formerText)
         snaps[SnapNames[i]] = settings.snaps[i];
     object["spaceCommits"] = settings.isSpaceCommitting;
     object["journalFolder"] = settings.journalFolder.toStdString();
+    json& former = object["formerJournalFolders"] = json::array();
+    for (const QString& folder : settings.formerJournalFolders)
+        former.push_back(folder.toStdString());
     object["autosaveMinutes"] = settings.autosaveMinutes;
     constexpr int Indent = 4;
     return object.dump(Indent, ' ', false, json::error_handler_t::replace) + '\n';

@@ -3,6 +3,7 @@
 #include "Model/Snapper.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <array>
 #include <string>
@@ -36,10 +37,15 @@ struct Settings
     /// The folder for journals that no option names; empty for the user's data folder.
     QString journalFolder;
 
+    /// Folders that were chosen before, the last one first: unsaved work in them is still offered.
+    /// No choice of the user: SettingsStore keeps them.
+    QStringList formerJournalFolders;
+
     /// The time between automatic saves; 0 for none.
     int autosaveMinutes = 5;
 };
 
+/// Compares what the user has chosen.
 bool operator==(const Settings& a, const Settings& b);
 
 /// Reads settings from the text of a settings file. Whatever is missing or not usable has its

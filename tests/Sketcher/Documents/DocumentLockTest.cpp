@@ -92,6 +92,16 @@ private slots:
         QCOMPARE(DocumentLock(m_path).GetState(), State::Held);
     }
 
+    void theLockOfAnotherMachineHoldsAndIsToldAsItIs()
+    {
+        QVERIFY(vesk::WriteBytes(m_pFolder->filePath(".a.vsk.lock"), "17\na%1b\nelsewhere\n"));
+
+        const DocumentLock lock(m_path);
+
+        QCOMPARE(lock.GetState(), State::InUse);
+        QCOMPARE(lock.GetHolder(), QString("a%1b（elsewhere，进程 17）"));
+    }
+
     void aFolderWithoutLocksIsTold()
     {
         QCOMPARE(DocumentLock(m_pFolder->filePath("none/a.vsk")).GetState(), State::Impossible);

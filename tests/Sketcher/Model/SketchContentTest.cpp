@@ -94,6 +94,7 @@ private slots:
         SketchContent other = SomeContent();
         other.layers[1].name = L"doors";
 
+        QVERIFY(!sketch.CanAddLayer(L"doors"));
         QCOMPARE(sketch.AddLayer(L"doors"), 0);
         QVERIFY(sketch.Insert(other, L"粘贴").empty());
         const Sketch::PenShape line(content.entities[0].shape, Pen());

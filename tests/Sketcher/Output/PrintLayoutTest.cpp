@@ -75,11 +75,27 @@ private slots:
         QVERIFY(!FitsPaper(bounds, 1.01, {110, 50}));
     }
 
+    void scaleIsShownAsDrawingsStateIt_data()
+    {
+        QTest::addColumn<double>("scale");
+        QTest::addColumn<QString>("text");
+
+        QTest::newRow("reduced") << 0.02 << "1:50";
+        QTest::newRow("enlarged") << 2.5 << "2.5:1";
+        QTest::newRow("true") << 1.0 << "1:1";
+        QTest::newRow("four digits") << 1.0 / 3.14159 << "1:3.142";
+        QTest::newRow("more digits") << 1.0 / 12345.6 << "1:12346";
+        QTest::newRow("least") << 1e-6 << "1:1000000";
+        QTest::newRow("greatest") << 1e6 << "1000000:1";
+    }
+
     void scaleIsShownAsDrawingsStateIt()
     {
-        QCOMPARE(ScaleText(0.02), QStringLiteral("1:50"));
-        QCOMPARE(ScaleText(2.5), QStringLiteral("2.5:1"));
-        QCOMPARE(ScaleText(1.0), QStringLiteral("1:1"));
+        QFETCH(double, scale);
+        QFETCH(QString, text);
+
+        QCOMPARE(ScaleText(scale), text);
+        QVERIFY(ReadScale(text).has_value());
     }
 };
 

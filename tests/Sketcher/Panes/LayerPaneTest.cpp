@@ -132,6 +132,20 @@ private slots:
         QVERIFY(f.pPane == nullptr);
     }
 
+    void whenIdsOfLayersHaveRunOutNoneIsAdded()
+    {
+        Fixture f;
+        SketchContent content = f.workspace.sketch.GetContent();
+        content.lastLayerId = SketchContent::GreatestId;
+        QVERIFY(f.workspace.sketch.Restore(content));
+        f.pPane->UpdateStatus();
+
+        f.Button("NewLayer").click();
+
+        QCOMPARE(f.View().model()->rowCount(), 2);
+        QVERIFY(!f.workspace.sketch.CanUndo());
+    }
+
     void theLayersAreListed()
     {
         Fixture f;

@@ -32,7 +32,7 @@ struct OfferFixture
     vesk::HostCore core;
     vesk::UiApplication application;
     vesk::MainWindow window;
-    RecoveryOffer offer{window, JournalFolder(folder.path()), {}};
+    RecoveryOffer offer{window, {JournalFolder(folder.path())}, {}};
 };
 
 const QByteArray s_header = "{\"n\":0,\"kind\":\"journal\",\"version\":2,\"program\":\"sketcher\","

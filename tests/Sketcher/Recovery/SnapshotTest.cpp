@@ -7,6 +7,7 @@
 #include "Support/TestValues.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QTemporaryDir>
 
 using vesk::FileSizeLimit;
@@ -55,6 +56,17 @@ private slots:
 
         QVERIFY(found.has_value());
         QCOMPARE(found->record, 9);
+    }
+
+    void theFolderMayHaveAnyName()
+    {
+        const QString journal = m_pFolder->filePath("100%2 %1/journal.jsonl");
+        QVERIFY(QDir().mkpath(QFileInfo(journal).path()));
+
+        QVERIFY(Snapshot::Write(journal, 9, m_sketch.GetContent()));
+
+        QVERIFY(QFileInfo::exists(journal + ".9.vsk"));
+        QVERIFY(Snapshot::FindNewest(journal).has_value());
     }
 
     void othersAreNotTaken_data()

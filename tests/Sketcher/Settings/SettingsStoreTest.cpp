@@ -29,6 +29,41 @@ private slots:
         QVERIFY(next.Get() == settings);
     }
 
+    void formerJournalFoldersAreRemembered()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath("settings.json");
+        SettingsStore store(path, path);
+        for (const char* chosen : {"/a", "", "/b", "/a", "/c", "/d", "/e", "/f", "/g", "/h"})
+        {
+            Settings settings;
+            settings.journalFolder = chosen;
+            QVERIFY(store.Set(settings));
+        }
+
+        const SettingsStore next(path, path);
+
+        QCOMPARE(next.Get().formerJournalFolders, QStringList({"/g", "/f", "/e", "/d", "/c"}));
+    }
+
+    void aFolderThatIsChosenAgainIsNoFormerOne()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath("settings.json");
+        SettingsStore store(path, path);
+        Settings settings;
+        for (const char* chosen : {"/a", "/b", "/a"})
+        {
+            settings.journalFolder = chosen;
+            QVERIFY(store.Set(settings));
+        }
+        settings.autosaveMinutes = 1;
+
+        QVERIFY(store.Set(settings));
+
+        QCOMPARE(store.Get().formerJournalFolders, QStringList("/b"));
+    }
+
     void withoutAPathToReadTheDefaultsHold()
     {
         const QTemporaryDir folder;

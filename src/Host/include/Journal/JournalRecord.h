@@ -53,8 +53,8 @@ struct SelectionRecord
 /// A property was set by the user.
 struct PropertyRecord
 {
-    std::wstring object;   ///< The object: "drawing", "selection".
-    std::wstring property; ///< The property: "name".
+    std::wstring object;   ///< The object: "drawing", "pen", "selection".
+    std::wstring property; ///< The property: "name", "style", "colour", "width", "layer".
     std::wstring value;
 };
 

@@ -70,7 +70,9 @@ class VESK_HOST_API JournalReplayer
 {
 public:
     /// Replays the records in order and stops at the first that fails or gives a different result.
-    /// What was finished before that remains done. Runs no action event loop meanwhile.
+    /// What was finished before that remains done. Runs no action event loop meanwhile; while one
+    /// runs already, it fails and does nothing. What a command or the target throws is passed on,
+    /// after the running action was ended.
     static JournalReplayResult Replay(const std::vector<JournalRecord>& records,
                                       IJournalReplayTarget& target);
 
