@@ -129,6 +129,47 @@ private slots:
         QCOMPARE(vesk::ReadBytes(file), s_bytes);
     }
 
+    void whatCannotGoAlongStaysInMemory()
+    {
+        const QTemporaryDir folder;
+        QVERIFY(vesk::WriteBytes(folder.filePath("b.jsonl.kept"), "a file"));
+        KeptContent content;
+        content.Keep(s_bytes);
+
+        content.SetJournal(folder.filePath("b.jsonl"));
+
+        QCOMPARE(content.Find(s_digest).value_or(QByteArray()), s_bytes);
+    }
+
+    void nothingIsFoundOnceForgotten_data()
+    {
+        QTest::addColumn<QString>("journal");
+        QTest::addColumn<QString>("source");
+
+        QTest::newRow("in memory") << QString() << QString();
+        QTest::newRow("beside the journal") << "a.jsonl" << QString();
+        QTest::newRow("beside the source") << QString() << "a.jsonl";
+    }
+
+    void nothingIsFoundOnceForgotten()
+    {
+        QFETCH(QString, journal);
+        QFETCH(QString, source);
+        const QTemporaryDir folder;
+        KeptContent writer;
+        writer.SetJournal(folder.filePath("a.jsonl"));
+        writer.Keep(s_bytes);
+        KeptContent content;
+        content.SetJournal(journal.isEmpty() ? journal : folder.filePath(journal));
+        content.SetSource(source.isEmpty() ? source : folder.filePath(source));
+        if (journal.isEmpty() && source.isEmpty())
+            content.Keep(s_bytes);
+
+        content.Forget();
+
+        QVERIFY(!content.Find(s_digest).has_value());
+    }
+
     void whatCannotBeWrittenIsRefused()
     {
         const QTemporaryDir folder;

@@ -1,6 +1,7 @@
 #include "Tools/MirrorAction.h"
 
 #include "Tools/ActionFixture.h"
+#include "Tools/ShownGraphics.h"
 
 #include "Dimension/LinearTemporaryDimensionContext.h"
 #include "ShapeValues.h"
@@ -112,6 +113,51 @@ private slots:
 
         QVERIFY(f.action.IsFinished());
         QVERIFY(f.IsRepeated(&SelectOne));
+    }
+
+    void theAxisAndTheImageAreShown()
+    {
+        Fixture f;
+        BeginOnAxis(f);
+        const std::size_t atRest = ShownGraphics(*f.action.CreateRubberBand()).lines.size();
+
+        f.MoveTo(60, 99);
+
+        const ShownGraphics shown(*f.action.CreateRubberBand());
+        QVERIFY(atRest <= std::size_t{1});
+        QCOMPARE(shown.lines.size(), std::size_t{2});
+        QCOMPARE(shown.lines[0].end, Vector3d(60, 99, 0));
+        QCOMPARE(shown.lines[1].start, Vector3d(120, 0, 0));
+        QCOMPARE(shown.lines[1].end, Vector3d(80, 10, 0));
+    }
+
+    void anImageTooFarAwayIsRefused()
+    {
+        Fixture f;
+        SelectOne(f.workspace);
+        f.records.clear();
+        f.Begin();
+        // Twice as far away its distance is no longer a number.
+        f.ClickAt(1.2e154, 0);
+
+        f.ClickAt(1.2e154, 50);
+
+        QVERIFY(!f.action.IsFinished());
+        QVERIFY(!f.action.ReplayPoint({1.2e154, 50, 0}, std::nullopt));
+        QCOMPARE(f.Count(), std::size_t{2});
+    }
+
+    void beforeTheAxisNothingIsTyped()
+    {
+        Fixture f;
+        SelectOne(f.workspace);
+        f.records.clear();
+        f.Begin();
+
+        f.Type(ActionViewInput::AngleEntered, 45);
+
+        QVERIFY(!f.action.ReplayValue(InputState::IS_Angle, L"45", 45));
+        QVERIFY(f.records.empty());
     }
 
     void theAxisIsOffered()

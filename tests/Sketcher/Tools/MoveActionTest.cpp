@@ -2,6 +2,7 @@
 
 #include "Model/Polar.h"
 #include "Tools/ActionFixture.h"
+#include "Tools/ShownGraphics.h"
 
 #include "Dimension/LinearTemporaryDimensionContext.h"
 #include "ShapeValues.h"
@@ -253,6 +254,113 @@ private slots:
         QCOMPARE(hints, (QStringList{"复制：单击要复制的图元；Esc 结束",
                                      "复制：单击基点，或再单击一并复制的图元；Esc 结束",
                                      "复制：单击目标点，或键入距离（Tab 切换到角度）；Esc 结束"}));
+    }
+
+    void theWayAndWhatMovesAreShown()
+    {
+        Moving f;
+        BeginAtBase(f);
+
+        f.MoveTo(13, 18);
+
+        const ShownGraphics shown(*f.action.CreateRubberBand());
+        QCOMPARE(shown.lines.size(), std::size_t{2});
+        QCOMPARE(shown.lines[0].start, Vector3d(10, 20, 0));
+        QCOMPARE(shown.lines[0].end, Vector3d(13, 18, 0));
+        QCOMPARE(shown.lines[1].start, Vector3d(3, -2, 0));
+        QCOMPARE(shown.arcs.size(), std::size_t{1});
+        QCOMPARE(shown.arcs[0].centre, Vector3d(103, 98, 0));
+    }
+
+    void ofManyEntitiesSomeAreShown()
+    {
+        Moving f;
+        std::vector<int> ids;
+        for (int i = 1; i <= 600; ++i)
+        {
+            f.workspace.sketch.AddLine({0, double(i), 0}, {1, double(i), 0});
+            ids.push_back(i);
+        }
+        f.workspace.selection.Select(ids);
+        f.Begin();
+        f.ClickAt(-50, -50);
+
+        f.MoveTo(-60, -60);
+
+        QCOMPARE(ShownGraphics(*f.action.CreateRubberBand()).lines.size(), std::size_t{501});
+    }
+
+    void beforeTheBaseNothingIsOfferedOrTyped()
+    {
+        Moving f;
+        SelectTwo(f.workspace);
+        f.workspace.snapper.SetOn(Snapper::End, false);
+        f.records.clear();
+        f.Begin();
+        f.MoveTo(10, 20);
+
+        QVERIFY(f.action.CreateDimensionContext() == nullptr);
+        f.Type(ActionViewInput::LengthEntered, 7);
+        QVERIFY(f.action.GetRefusal(InputState::IS_Length, 7).empty());
+        QVERIFY(!f.action.ReplayValue(InputState::IS_Length, L"7", 7));
+        QVERIFY(f.records.empty());
+    }
+
+    void whatIsNoLongerSelectedIsAskedForAgain()
+    {
+        Moving f;
+        BeginAtBase(f);
+        f.workspace.selection.Select({});
+
+        f.ClickAt(300, 300);
+
+        QVERIFY(f.action.CreateDimensionContext() == nullptr);
+        QVERIFY(!f.action.ReplayPoint({300, 300, 0}, std::nullopt));
+        QVERIFY(!f.action.IsFinished());
+        QCOMPARE(f.records.size(), std::size_t{2});
+    }
+
+    void aClickPicksOrSetsAPointOrDoesNothing()
+    {
+        using Click = IPickingTool::Click;
+        Moving f;
+        SelectTwo(f.workspace);
+        f.workspace.selection.Select({});
+        f.Begin();
+
+        f.MoveTo(300, 300);
+        QCOMPARE(f.action.GetClick(), Click::DoesNothing);
+        f.MoveTo(20, 3);
+        QCOMPARE(f.action.GetClick(), Click::PicksEntity);
+        QVERIFY(!f.workspace.snapper.GetCaught().has_value());
+        f.ClickAt(20, 3);
+        f.MoveTo(300, 300);
+        QCOMPARE(f.action.GetClick(), Click::SetsPoint);
+    }
+
+    void whatIsSelectedIsNotPickedAgain()
+    {
+        Moving f;
+        SelectTwo(f.workspace);
+        f.workspace.selection.Select({});
+        f.Begin();
+        f.ClickAt(20, 3);
+
+        QVERIFY(!f.action.ReplayPoint({20, 3, 0}, 1));
+
+        QCOMPARE(f.workspace.selection.GetIds(), (std::vector<int>{1}));
+    }
+
+    void aTargetOutOfReachIsRefused()
+    {
+        Moving f;
+        BeginAtBase(f);
+
+        f.ClickAt(1e300, 0);
+
+        QVERIFY(!f.action.IsFinished());
+        QVERIFY(!f.action.ReplayPoint({1e300, 0, 0}, std::nullopt));
+        QCOMPARE(ShapeOf(f, 1), Shape(LineShape{{0, 0, 0}, {40, 0, 0}}));
     }
 
     void aLockedEntityIsNotPicked()

@@ -1,6 +1,7 @@
 #include "Tools/OffsetAction.h"
 
 #include "Tools/ActionFixture.h"
+#include "Tools/ShownGraphics.h"
 
 #include "Dimension/LinearTemporaryDimensionContext.h"
 #include "ShapeValues.h"
@@ -170,6 +171,69 @@ private slots:
         QVERIFY(opContext != nullptr);
         QCOMPARE(opContext->GetStartPoint(), Vector3d(200, 30, 0));
         QCOMPARE(opContext->GetEndPoint(), Vector3d(200, 50, 0));
+    }
+
+    void theEntityThenItsParallelAreShown()
+    {
+        Fixture f;
+        DrawTwo(f.workspace);
+        f.workspace.snapper.SetOn(Snapper::End, true);
+        f.Begin();
+        f.MoveTo(2, 1);
+        const ShownGraphics hovered(*f.action.CreateRubberBand());
+        const bool isCaught = f.workspace.snapper.GetCaught().has_value();
+        f.ClickAt(20, 2);
+
+        f.MoveTo(5, -12);
+
+        const ShownGraphics shown(*f.action.CreateRubberBand());
+        QVERIFY(!isCaught);
+        QCOMPARE(hovered.lines.size(), std::size_t{1});
+        QCOMPARE(shown.lines.size(), std::size_t{2});
+        QCOMPARE(shown.lines[0].start, Vector3d(5, 0, 0));
+        QCOMPARE(shown.lines[0].end, Vector3d(5, -12, 0));
+        QCOMPARE(shown.lines[1].start, Vector3d(0, -12, 0));
+    }
+
+    void overTheOtherEntityAPointIsSet()
+    {
+        using Click = IPickingTool::Click;
+        Fixture f;
+        DrawTwo(f.workspace);
+        f.Begin();
+        f.MoveTo(20, 60);
+        QCOMPARE(f.action.GetClick(), Click::DoesNothing);
+        f.MoveTo(20, 2);
+        QCOMPARE(f.action.GetClick(), Click::PicksEntity);
+        f.ClickAt(20, 2);
+
+        f.MoveTo(231, 0);
+
+        QCOMPARE(f.action.GetClick(), Click::SetsPoint);
+        QVERIFY(!f.action.ReplayPoint({231, 0, 0}, 2));
+        // Neither of them is below the cursor: line from the source, and the parallel.
+        QCOMPARE(ShownGraphics(*f.action.CreateRubberBand()).arcs.size(), std::size_t{0});
+    }
+
+    void onlyTheDistanceIsAValue()
+    {
+        Fixture f;
+        BeginWith(f, 20, 2);
+
+        QVERIFY(f.action.ReplayValue(InputState::IS_Length, L"7", 7));
+        QVERIFY(!f.action.ReplayValue(InputState::IS_Angle, L"7", 7));
+    }
+
+    void aLockedEntityHasNoParallel()
+    {
+        Fixture f;
+        DrawTwo(f.workspace);
+        Layer locked = f.workspace.sketch.GetLayers().front();
+        locked.isLocked = true;
+        f.workspace.sketch.SetLayer(locked);
+        f.Begin();
+
+        QVERIFY(!f.action.ReplayPoint({20, 2, 0}, 1));
     }
 
     void anEntityThatIsUndoneIsAskedForAgain()
