@@ -2,7 +2,7 @@
 // came out. usage: desktop_demo FOLDER (for the pictures)
 
 #include "Desktop/DesktopSession.h"
-#include "Desktop/XServer.h"
+#include "Support/XServer.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "Desktop/ChildProcess.h"
 #include "Desktop/InputDriver.h"
-#include "Desktop/Polling.h"
 #include "Desktop/UiTree.h"
+#include "Support/ChildProcess.h"
 #include "Support/DrawnLine.h"
 #include "Support/FileBytes.h"
+#include "Support/Polling.h"
 
 #include <QMap>
 #include <QTemporaryDir>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "Desktop/DesktopSession.h"
-#include "Desktop/XServer.h"
 #include "Support/TestValues.h"
+#include "Support/XServer.h"
 
 #include <QObject>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Desktop/ChildProcess.h"
+#include "Support/ChildProcess.h"
 
 #include <QString>
 #include <QStringList>

@@ -1,6 +1,6 @@
 #include "Desktop/InputDriver.h"
 
-#include "Desktop/Polling.h"
+#include "Support/Polling.h"
 
 #include <QHash>
 #include <QProcess>

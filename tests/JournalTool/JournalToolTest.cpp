@@ -266,6 +266,36 @@ private slots:
         QVERIFY(result.out.contains("to-test"));
     }
 
+    void aDamagedByteIsReadOrToldWithItsLine_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+
+        QTest::newRow("show") << QStringList({"show", "FILE"});
+        QTest::newRow("check") << QStringList({"check", "FILE"});
+        QTest::newRow("cut") << QStringList({"cut", "FILE", "3"});
+        QTest::newRow("diff") << QStringList({"diff", "FILE", "WHOLE"});
+        QTest::newRow("to-test") << QStringList({"to-test", "FILE"});
+    }
+
+    void aDamagedByteIsReadOrToldWithItsLine()
+    {
+        QFETCH(QStringList, arguments);
+        const QString path = Write("whole", s_whole);
+        arguments.replaceInStrings("WHOLE", path);
+        arguments.replaceInStrings("FILE", path + "-damaged");
+
+        for (int i = 0; i < s_whole.size(); ++i)
+        {
+            QByteArray damaged = s_whole;
+            damaged[i] = static_cast<char>(damaged[i] ^ (1 << i % 8));
+            Write("whole-damaged", damaged);
+            const Result result = Run(arguments);
+            const bool isRead =
+                result.code == JournalExit::Fine || result.code == JournalExit::Different;
+            QVERIFY2(isRead || result.err.contains(": line "), qPrintable(result.err));
+        }
+    }
+
 private:
     QString Write(const QString& name, const QByteArray& content)
     {

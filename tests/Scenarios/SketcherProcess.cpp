@@ -28,7 +28,7 @@ void Start(QProcess& process, const QStringList& arguments, std::optional<int> f
 
 Outcome Finish(QProcess& process)
 {
-    if (process.state() != QProcess::NotRunning && !process.waitForFinished())
+    if (process.state() != QProcess::NotRunning && !process.waitForFinished(vesk::test::PatienceMs))
         return {};
     const bool isEnded = process.exitStatus() == QProcess::NormalExit;
     return {isEnded ? process.exitCode() : -1, QString::fromUtf8(process.readAllStandardError())};

@@ -1,4 +1,4 @@
-#include "Desktop/ChildProcess.h"
+#include "Support/ChildProcess.h"
 
 #include <sys/prctl.h>
 

@@ -1,6 +1,6 @@
-#include "Desktop/XServer.h"
+#include "Support/XServer.h"
 
-#include "Desktop/Polling.h"
+#include "Support/Polling.h"
 
 #include <QProcessEnvironment>
 
