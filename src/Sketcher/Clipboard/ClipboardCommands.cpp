@@ -1,5 +1,6 @@
 #include "Clipboard/ClipboardCommands.h"
 
+#include "Clipboard/BusyCursor.h"
 #include "Clipboard/ClipboardContent.h"
 #include "Clipboard/ContentEdit.h"
 #include "Model/DocumentFile.h"
@@ -27,6 +28,10 @@ namespace
 
 /// More would keep the program busy for minutes.
 constexpr int MostBytes = 64 * 1024 * 1024;
+
+/// From these on it takes long enough to notice.
+constexpr int ManyBytes = 512 * 1024;
+constexpr std::size_t ManyEntities = 5000;
 
 /// How far what would cover its like is moved aside: well visible at the current scale.
 double FindStep()
@@ -153,6 +158,7 @@ void ClipboardCommands::PasteBytes(const QByteArray& bytes) const
 {
     if (bytes.size() > MostBytes)
         return m_notice(QStringLiteral("剪贴板中的图元太多，未粘贴"));
+    const BusyCursor busy(bytes.size() > ManyBytes);
     const DocumentReading reading =
         DocumentFile::FromText({bytes.constData(), static_cast<std::size_t>(bytes.size())});
     if (reading.outcome != DocumentReading::Outcome::Whole)
@@ -172,6 +178,7 @@ void ClipboardCommands::Duplicate() const
     if (JournalReplayer::IsReplaying())
         return;
     const SketchContent selected = ContentOf(m_workspace.sketch, m_workspace.selection.GetIds());
+    const BusyCursor busy(selected.entities.size() > ManyEntities);
     const Vector3d way = FindFreeWay(m_workspace.sketch, selected, FindStep(), 1);
     ActionManager::RunCommand(SelectionDuplication::CommandId,
                               SelectionDuplication{way}.ToParameters());

@@ -172,7 +172,10 @@ void OutputCommands::PrintTarget()
               &fault](const OutputProgress& progress) {
         fault = PrintDrawing(content, *job, path, progress);
     });
-    ShowResult(fault, QStringLiteral("已打印"), QStringLiteral("未打印"));
+    const QString done = path.isEmpty()
+                             ? QStringLiteral("已打印")
+                             : QStringLiteral("已打印到 %1").arg(QFileInfo(path).fileName());
+    ShowResult(fault, done, QStringLiteral("未打印"));
 }
 
 void OutputCommands::ShowResult(OutputFault fault, const QString& done, const QString& failed)

@@ -122,6 +122,35 @@ private slots:
         QCOMPARE(f.workspace.sketch.GetDigest(), digest);
     }
 
+    void theCursorIsBusyWhileMuchIsPasted_data()
+    {
+        QTest::addColumn<int>("count");
+        QTest::addColumn<bool>("isBusy");
+
+        QTest::newRow("much") << 6000 << true;
+        QTest::newRow("little") << 6 << false;
+    }
+
+    void theCursorIsBusyWhileMuchIsPasted()
+    {
+        QFETCH(int, count);
+        QFETCH(bool, isBusy);
+        Fixture f;
+        std::vector<int> ids;
+        for (int i = 0; i < count; ++i)
+            ids.push_back(f.workspace.sketch.AddLine({0.1 * i, 200, 0}, {0.1 * i, 300, 0}));
+        f.workspace.selection.Select(ids);
+        f.Run(L"Sketcher.Copy");
+        bool wasBusy = false;
+        QObject::connect(&f.workspace.sketch, &Sketch::changed,
+                         [&wasBusy] { wasBusy = QGuiApplication::overrideCursor() != nullptr; });
+
+        f.Run(L"Sketcher.Paste");
+
+        QCOMPARE(wasBusy, isBusy);
+        QVERIFY(QGuiApplication::overrideCursor() == nullptr);
+    }
+
     void thePasteIsRecordedByTheDigestOfItsBytes()
     {
         Fixture f;
