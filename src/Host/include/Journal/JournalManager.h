@@ -68,8 +68,8 @@ public:
     /// Sets the name and version of this program for the headers of files that it begins.
     virtual void SetProgram(const std::wstring& program) = 0;
 
-    /// Sets the version of the records to come: the present one, or 1 if they continue records of
-    /// version 1, which a file begun for them must be known by. It then gets no header. Close
+    /// Sets the version of the records to come: the present one, or 1 while they continue records
+    /// of version 1. A file begun with version 1 gets no header, so that it is read as such. Close
     /// restores the present version.
     virtual void SetVersion(int version) = 0;
 
