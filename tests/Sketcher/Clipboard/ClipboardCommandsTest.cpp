@@ -323,6 +323,7 @@ private slots:
 
         f.Run(L"Sketcher.Copy");
 
+        QVERIFY(SystemClipboard().mimeData()->hasFormat(QStringLiteral("image/svg+xml")));
         QCOMPARE(SystemClipboard().mimeData()->data(QStringLiteral("image/svg+xml")),
                  QByteArray("picture of 2"));
     }
@@ -369,6 +370,11 @@ private slots:
         QCOMPARE(SelectionDuplication::From(duplication.ToParameters())->way, duplication.way);
         QVERIFY(!ContentPasting::From(duplication.ToParameters()).has_value());
         QVERIFY(!SelectionDuplication::From({}).has_value());
+        CommandParameters parameters;
+        parameters.Add(L"x", CommandParameterValue(1.5));
+        QVERIFY(!SelectionDuplication::From(parameters).has_value());
+        parameters.Add(L"digest", CommandParameterValue(std::wstring(L"ab12")));
+        QVERIFY(!ContentPasting::From(parameters).has_value());
     }
 };
 

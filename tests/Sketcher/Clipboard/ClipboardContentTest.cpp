@@ -39,6 +39,7 @@ private slots:
         const SketchContent content = ContentOf(f.sketch, {3, 2});
 
         QVERIFY(IsValid(content));
+        QCOMPARE(content.name, f.sketch.GetName());
         QCOMPARE(content.entities.size(), std::size_t{2});
         QVERIFY(content.entities[0] == *f.sketch.Find(2));
         QVERIFY(content.entities[1] == *f.sketch.Find(3));

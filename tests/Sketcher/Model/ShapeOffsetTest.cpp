@@ -94,6 +94,7 @@ private slots:
         QFETCH(double, least);
 
         QVERIFY(!Offset(shape, inside, least).has_value());
+        QVERIFY(!Offset(shape, inside, 1.5 * least).has_value());
         QVERIFY(!Offset(shape, inside, 3 * least).has_value());
         QVERIFY(Offset(shape, inside, 0.999 * least).has_value());
     }
@@ -113,6 +114,9 @@ private slots:
                                 << Vector3d(0, 1, 0) << 3.0 << false;
         QTest::newRow("in a circle") << Shape(s_circle) << Vector3d(10, 3, 0) << Vector3d(10, 5, 0)
                                      << Vector3d(0, -1, 0) << 2.0 << true;
+        QTest::newRow("the centre of a circle")
+            << Shape(s_circle) << Vector3d(10, 0, 0) << Vector3d(15, 0, 0) << Vector3d(-1, 0, 0)
+            << 5.0 << true;
         QTest::newRow("beyond an arc") << Shape(s_arc) << Vector3d(-12, 0, 0) << Vector3d(-10, 0, 0)
                                        << Vector3d(-1, 0, 0) << 2.0 << false;
         QTest::newRow("rectangle") << Shape(s_rectangle) << Vector3d(44, 5, 0) << Vector3d(40, 5, 0)

@@ -28,6 +28,13 @@ class ShapeTransformTest final : public QObject
     Q_OBJECT
 
 private slots:
+    void anImageIsAsHighAsItsOriginal()
+    {
+        const Shape image = Mirrored(LineShape{{1, 2, 5}, {3, 4, -6}}, {0, 0, 1}, {0, 1, 0});
+
+        QCOMPARE(image, Shape(LineShape{{-1, 2, 5}, {-3, 4, -6}}));
+    }
+
     void everyPointOfAShapeMoves_data()
     {
         QTest::addColumn<Shape>("shape");

@@ -58,6 +58,7 @@ private slots:
     {
         Fixture f;
         const int record = f.Draw(5);
+        JournalManager::GetInstance().Add(vesk::SelectionRecord());
 
         QVERIFY(f.autosave.SaveNow());
 

@@ -28,6 +28,7 @@ public:
     }
     Records& Point(int number) { return Add(number, vesk::PointRecord()); }
     Records& Undo(int number) { return Add(number, vesk::UndoRecord()); }
+    Records& Property(int number) { return Add(number, vesk::PropertyRecord()); }
     Records& Select(int number) { return Add(number, vesk::SelectionRecord()); }
     Records& Mark(int number, const std::string& digest)
     {

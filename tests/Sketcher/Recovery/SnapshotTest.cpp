@@ -34,6 +34,7 @@ private slots:
         QVERIFY(found.has_value());
         QCOMPARE(found->record, 10);
         QCOMPARE(found->digest, m_sketch.GetDigest());
+        QVERIFY(found->content.entities == m_sketch.GetEntities());
         QCOMPARE(Names(), QStringList("journal.jsonl.10.vsk"));
         QCOMPARE(found->bytes, ReadBytes(m_pFolder->filePath("journal.jsonl.10.vsk")));
     }

@@ -105,11 +105,28 @@ private slots:
         QTest::newRow("saving that failed, and more")
             << saved().Refuse(3).Mark(4, s_second).ToText() << 2;
         QTest::newRow("changed while it saved") << saved().Mark(4, s_second).End(3).ToText() << 2;
+        QTest::newRow("opened after changes") << begun()
+                                                     .Mark(2, s_second)
+                                                     .Command(3, L"Sketcher.OpenContent")
+                                                     .Mark(4, s_first)
+                                                     .Mark(5, s_second)
+                                                     .ToText()
+                                              << 1;
+        QTest::newRow("begun anew after changes") << begun()
+                                                         .Mark(2, s_second)
+                                                         .Command(3, L"Sketcher.NewDrawing")
+                                                         .Mark(4, empty)
+                                                         .Mark(5, s_first)
+                                                         .ToText()
+                                                  << 1;
         QTest::newRow("recovered")
             << Records().Header().Command(1, L"Sketcher.RecoverContent").Mark(2, s_first).ToText()
             << 1;
         QTest::newRow("without marks")
             << Records().Command(1, L"Sketcher.Line").Point(2).Point(3).ToText() << 2;
+        QTest::newRow("undone without marks")
+            << Records().Command(1, L"Sketcher.Undo").Undo(2).ToText() << 1;
+        QTest::newRow("renamed without marks") << Records().Property(1).ToText() << 1;
     }
 
     void stepsAreChangesOfTheDrawing()

@@ -89,6 +89,7 @@ private slots:
         f.ClickAt(60, 20);
 
         QVERIFY(!f.action.IsFinished());
+        QVERIFY(!f.action.ReplayPoint({60 + 1e-8, 20, 0}, std::nullopt));
         QCOMPARE(f.Count(), std::size_t{2});
     }
 

@@ -94,6 +94,17 @@ private slots:
         QVERIFY(f.IsRepeated(&SelectTwo));
     }
 
+    void aTypedDistanceMovesInAnyDirectionOfTheCursor()
+    {
+        Moving f;
+        BeginAtBase(f);
+        f.MoveTo(16, 28);
+
+        f.Type(ActionViewInput::LengthCommitted, 5);
+
+        QCOMPARE(ShapeOf(f, 1), Shape(LineShape{{3, 4, 0}, {43, 4, 0}}));
+    }
+
     void aClickOnTheBaseMovesNothing()
     {
         Moving f;
@@ -338,6 +349,20 @@ private slots:
         QCOMPARE(f.action.GetClick(), Click::SetsPoint);
     }
 
+    void withNothingSelectedAClickBesideEverythingDoesNothing()
+    {
+        Moving f;
+        SelectTwo(f.workspace);
+        f.workspace.selection.Select({});
+        f.records.clear();
+        f.Begin();
+
+        f.ClickAt(300, 300);
+
+        QVERIFY(!f.action.ReplayPoint({300, 300, 0}, std::nullopt));
+        QVERIFY(f.records.empty());
+    }
+
     void whatIsSelectedIsNotPickedAgain()
     {
         Moving f;
@@ -371,12 +396,14 @@ private slots:
         Layer locked = f.workspace.sketch.GetLayers().front();
         locked.isLocked = true;
         f.workspace.sketch.SetLayer(locked);
+        f.records.clear();
         f.Begin();
 
         f.ClickAt(20, 3);
 
         QVERIFY(f.workspace.selection.IsEmpty());
         QVERIFY(!f.action.ReplayPoint({20, 3, 0}, 1));
+        QVERIFY(f.records.empty());
     }
 };
 

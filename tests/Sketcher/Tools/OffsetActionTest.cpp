@@ -148,6 +148,7 @@ private slots:
 
         f.ClickAt(30, 0);
 
+        QVERIFY(!f.action.ReplayPoint({30, 0, 0}, std::nullopt));
         QCOMPARE(f.Count(), std::size_t{2});
     }
 
