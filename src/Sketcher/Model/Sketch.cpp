@@ -12,7 +12,6 @@
 #include <cstddef>
 #include <limits>
 #include <memory>
-#include <set>
 #include <utility>
 
 namespace
@@ -75,22 +74,13 @@ int Sketch::AddLine(const vesk::Vector3d& start, const vesk::Vector3d& end)
 std::vector<int> Sketch::Add(const std::vector<PenShape>& shapes, const std::wstring& stepName)
 {
     const bool arePossible =
-        std::all_of(shapes.begin(), shapes.end(), [this](const PenShape& shape) {
-            return FindLayer(shape.second.layer) != nullptr;
-        });
-    return arePossible ? AddEntities(shapes, {}, stepName) : std::vector<int>();
-}
-
-/// Draws the shapes in one step with other changes, of layers.
-std::vector<int> Sketch::AddEntities(const std::vector<PenShape>& shapes, SketchChange change,
-                                     const std::wstring& stepName)
-{
-    const bool arePossible =
         shapes.size() <= static_cast<std::size_t>(GreatestId - m_content.lastId) &&
-        std::all_of(shapes.begin(), shapes.end(),
-                    [](const PenShape& shape) { return IsDrawable(shape.first); });
+        std::all_of(shapes.begin(), shapes.end(), [this](const PenShape& shape) {
+            return IsDrawable(shape.first) && FindLayer(shape.second.layer) != nullptr;
+        });
     if (shapes.empty() || !arePossible)
         return {};
+    SketchChange change;
     std::vector<int> ids;
     for (const auto& [shape, pen] : shapes)
     {
@@ -104,42 +94,26 @@ std::vector<int> Sketch::AddEntities(const std::vector<PenShape>& shapes, Sketch
 
 std::vector<int> Sketch::Insert(const SketchContent& content, const std::wstring& stepName)
 {
-    const auto freeLayerIds = static_cast<std::size_t>(GreatestId - m_content.lastLayerId);
-    if (!IsValid(content) || content.layers.size() > freeLayerIds)
+    return Insert(MakeInsertion(content, GetInsertionPlace()), stepName);
+}
+
+std::vector<int> Sketch::Insert(SketchInsertion insertion, const std::wstring& stepName)
+{
+    SketchChange& change = insertion.change;
+    if (change.entities.empty() || !(insertion.place == GetInsertionPlace()))
         return {};
-    SketchChange change;
-    const std::map<int, int> layerIds = MatchLayers(content, change);
-    std::vector<PenShape> shapes;
-    for (const Entity& entity : content.entities)
-    {
-        shapes.emplace_back(entity.shape, entity.pen);
-        shapes.back().second.layer = layerIds.at(entity.pen.layer);
-    }
-    const int layerCount = static_cast<int>(change.layers.size());
-    const std::vector<int> ids = AddEntities(shapes, std::move(change), stepName);
-    m_content.lastLayerId += ids.empty() ? 0 : layerCount;
+    std::vector<int> ids;
+    for (const auto& entity : change.entities)
+        ids.push_back(entity.first);
+    m_content.lastId = ids.back();
+    m_content.lastLayerId += static_cast<int>(change.layers.size());
+    Push(std::move(change), ids.front(), stepName);
     return ids;
 }
 
-/// The layers of this drawing for those with entities of another, by their ids there; notes in the
-/// change which are to be added.
-std::map<int, int> Sketch::MatchLayers(const SketchContent& content, SketchChange& change) const
+InsertionPlace Sketch::GetInsertionPlace() const
 {
-    std::set<int> used;
-    for (const Entity& entity : content.entities)
-        used.insert(entity.pen.layer);
-    std::map<int, int> ids;
-    int lastId = m_content.lastLayerId;
-    for (const int otherId : used)
-    {
-        Layer layer = *FindById(content.layers, otherId);
-        const auto own = FindLayerNamed(layer.name);
-        layer.id = own != nullptr ? own->id : ++lastId;
-        if (own == nullptr)
-            change.layers[layer.id] = layer;
-        ids[otherId] = layer.id;
-    }
-    return ids;
+    return {m_content.layers, m_content.lastId, m_content.lastLayerId};
 }
 
 bool Sketch::CanReplace(const std::vector<std::pair<int, Shape>>& shapes) const
@@ -342,9 +316,9 @@ bool Sketch::Restore(SketchContent content, const Digest& digest)
 {
     if (!IsValid(content))
         return false;
+    ++m_revision;
     m_content = std::move(content);
     m_digest = digest;
-    ++m_revision;
     m_lastUndone = 0;
     m_isNameStep = true;
     {

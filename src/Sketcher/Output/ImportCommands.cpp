@@ -55,7 +55,7 @@ std::vector<CommandEntry> ImportCommands::MakeCommands()
             ContentId, L"导入图元",
             [this](const CommandParameters& parameters) { Insert(parameters); })
             .PossibleWith(
-                [](const CommandParameters& parameters) { return Find(parameters).has_value(); }),
+                [this](const CommandParameters& parameters) { return CanInsert(parameters); }),
     };
 }
 
@@ -93,15 +93,18 @@ bool ImportCommands::IsGone() const
 std::optional<DxfImport> ImportCommands::Read(const QString& path, QString unit)
 {
     DxfImport read;
+    const InsertionPlace place = m_workspace.sketch.GetInsertionPlace();
     const auto work = [&](const OutputProgress& progress) {
         QFile file(path);
         if (!file.open(QIODevice::ReadOnly))
             read.fault = OutputFault::CannotRead;
         else
             read = ImportDxf(file.readAll(), unit, progress);
-        m_pending = Pending{std::nullopt, ReadDocument(read.document).content};
-        if (!m_pending->content.entities.empty())
-            m_pending->digest = KeptContent::Get().Keep(read.document);
+        m_pending = Pending{std::nullopt, ReadDocument(read.document).content, {}};
+        if (m_pending->content.entities.empty())
+            return;
+        m_pending->digest = KeptContent::Get().Keep(read.document);
+        m_pending->insertion = MakeInsertion(m_pending->content, place);
     };
     m_runner(work);
     if (read.fault != OutputFault::None || read.code != DxfToolCode::NoUnit || IsGone())
@@ -127,13 +130,33 @@ bool ImportCommands::RecordPending()
     return true;
 }
 
+/// Reads what the parameters name, for the command. Returns false if it is not kept.
+bool ImportCommands::CanInsert(const CommandParameters& parameters)
+{
+    const InsertionPlace place = m_workspace.sketch.GetInsertionPlace();
+    m_pending.reset();
+    m_runner([&](const OutputProgress&) {
+        std::optional<SketchContent> content = Find(parameters);
+        if (!content.has_value())
+            return;
+        m_pending = Pending{ContentDigestOf(parameters), std::move(*content), {}};
+        m_pending->insertion = MakeInsertion(m_pending->content, place);
+    });
+    return m_pending.has_value();
+}
+
 void ImportCommands::Insert(const CommandParameters& parameters)
 {
     const bool isPending =
         m_pending.has_value() && m_pending->digest == ContentDigestOf(parameters);
-    const std::optional<SketchContent> content =
-        isPending ? std::make_optional(std::move(m_pending->content)) : Find(parameters);
-    if (content.has_value() && !m_workspace.sketch.Insert(*content, ImportStep).empty())
+    if (!isPending && !CanInsert(parameters))
+        return;
+    Sketch& sketch = m_workspace.sketch;
+    Pending pending = std::move(*m_pending);
+    m_pending.reset();
+    // Worked out anew if the drawing has changed since.
+    if (!sketch.Insert(std::move(pending.insertion), ImportStep).empty() ||
+        !sketch.Insert(pending.content, ImportStep).empty())
         ActionManager::StepDone();
 }
 
