@@ -8,26 +8,46 @@
 #include <cstddef>
 #include <future>
 
-bool RunInBackground(QMainWindow& window, vesk::ProgressBarDefinition* pProgress,
-                     const std::function<void(WorkProgress&)>& work)
+namespace
+{
+
+/// Runs work in a thread of its own, and `onCancelled` again and again from when the user cancels
+/// until the work has ended.
+void RunUnder(ReadingMonitor& monitor, WorkProgress& progress,
+              const std::function<void(WorkProgress&)>& work,
+              const std::function<void()>& onCancelled)
 {
     constexpr std::chrono::milliseconds PauseBetweenLooks(10);
     constexpr std::size_t Whole = 1000;
-    WorkProgress progress;
-    bool isCancelled = false;
     std::future<void> result = std::async(std::launch::async, [&] { work(progress); });
+    while (result.wait_for(PauseBetweenLooks) != std::future_status::ready)
     {
-        ReadingMonitor monitor(window, pProgress);
-        while (result.wait_for(PauseBetweenLooks) != std::future_status::ready)
-        {
-            const auto done = static_cast<std::size_t>(progress.GetShare() * Whole);
-            isCancelled = !monitor.Advance(done, Whole);
-            if (!isCancelled)
-                continue;
-            progress.Cancel();
-            QApplication::processEvents();
-        }
+        const auto done = static_cast<std::size_t>(progress.GetShare() * Whole);
+        if (monitor.Advance(done, Whole))
+            continue;
+        onCancelled();
+        QApplication::processEvents();
     }
     result.get();
+}
+
+}
+
+bool RunInBackground(QMainWindow& window, vesk::ProgressBarDefinition* pProgress,
+                     const std::function<void(WorkProgress&)>& work)
+{
+    WorkProgress progress;
+    bool isCancelled = false;
+    ReadingMonitor monitor(window, pProgress);
+    RunUnder(monitor, progress, work, [&] {
+        isCancelled = true;
+        progress.Cancel();
+    });
     return !isCancelled;
+}
+
+void RunInBackground(ReadingMonitor& monitor, const std::function<void(WorkProgress&)>& work)
+{
+    WorkProgress progress;
+    RunUnder(monitor, progress, work, [] {});
 }

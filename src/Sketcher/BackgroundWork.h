@@ -4,6 +4,7 @@
 #include <functional>
 
 class QMainWindow;
+class ReadingMonitor;
 
 namespace vesk
 {
@@ -37,3 +38,7 @@ private:
 /// was cancelled; rethrows what it throws. The window may have been closed meanwhile.
 bool RunInBackground(QMainWindow& window, vesk::ProgressBarDefinition* pProgress,
                      const std::function<void(WorkProgress&)>& work);
+
+/// The same under a monitor that is there already. The work is not cancelled: whoever has the
+/// monitor sees afterwards that all is to end.
+void RunInBackground(ReadingMonitor& monitor, const std::function<void(WorkProgress&)>& work);

@@ -99,16 +99,6 @@ bool IsWritable(const QString& path)
     return QFileInfo(file.path()).isWritable() && (!file.exists() || file.isWritable());
 }
 
-/// Runs work in the background of the window, which shows the progress.
-OutputRunner RunnerIn(SketcherWindow& window)
-{
-    return [&window](const std::function<void(const OutputProgress&)>& work) {
-        RunInBackground(window, window.GetProgress(), [&work](WorkProgress& progress) {
-            work([&progress](double share) { return progress.Advance(share); });
-        });
-    };
-}
-
 bool WriteExport(const Sketch& sketch, const QString& path)
 {
     const OutputFault fault = ExportDrawing(sketch.GetContent(), *ExportFormatOf(path), path,
@@ -137,8 +127,8 @@ Session::Session(const Options& options)
       m_translations(SharedFile(QStringLiteral("translations")), QStringLiteral("sketcher"),
                      LocaleOf(m_settings.Get())),
       m_window(m_workspace, m_input), m_pDocks(std::make_unique<DockManagerImpl>(&m_window)),
-      m_output(m_workspace, m_window, RunnerIn(m_window)),
-      m_import(m_workspace, m_window, RunnerIn(m_window)),
+      m_output(m_workspace, m_window, MakeOutputRunner()),
+      m_import(m_workspace, m_window, MakeOutputRunner()),
       m_settingsApplier(m_settings, m_window, m_input, SharedFile(QStringLiteral("translations"))),
       m_clipboard(m_workspace, [this](const QString& text) { m_window.ShowNotice(text); })
 {
@@ -226,10 +216,33 @@ int Session::Run()
     return WriteResults(Display::There) ? code : ExitUnusableFile;
 }
 
+OutputRunner Session::MakeOutputRunner()
+{
+    return [this](const std::function<void(const OutputProgress&)>& work) {
+        RunWork([&work](WorkProgress& progress) {
+            work([&progress](double share) { return progress.Advance(share); });
+        });
+    };
+}
+
+/// Runs work while the window lives, if it is shown.
+void Session::RunWork(const std::function<void(WorkProgress&)>& work)
+{
+    if (m_pReading != nullptr)
+        return RunInBackground(*m_pReading, work);
+    if (m_window.isVisible())
+    {
+        RunInBackground(m_window, m_window.GetProgress(), work);
+        return;
+    }
+    WorkProgress progress;
+    work(progress);
+}
+
 void Session::MakeDocuments()
 {
     const auto run = [this](const Documents::Work& work) {
-        RunInBackground(m_window, m_window.GetProgress(), [&work](WorkProgress& progress) {
+        RunWork([&work](WorkProgress& progress) {
             work([&progress](std::size_t done, std::size_t total) {
                 return progress.Advance(static_cast<double>(done) / static_cast<double>(total));
             });

@@ -29,11 +29,14 @@
 #include "HostUi/UiTreeWriter.h"
 #include "Replay/JournalReplayer.h"
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
 #include <string>
 #include <vector>
+
+class WorkProgress;
 
 /// One run of the program: the host, the library, the drawing and the window, in order of
 /// construction.
@@ -64,6 +67,8 @@ private:
     };
 
     std::vector<CommandEntry> MakeCommands();
+    OutputRunner MakeOutputRunner();
+    void RunWork(const std::function<void(WorkProgress&)>& work);
     void MakeDocuments();
     bool OpenFiles();
     bool OpenLog();

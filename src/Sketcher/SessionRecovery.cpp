@@ -25,6 +25,15 @@ using namespace vesk;
 namespace
 {
 
+/// The records of a journal, up to a damaged line.
+std::vector<JournalRecord> ReadAll(const QString& journal)
+{
+    std::vector<JournalRecord> records;
+    std::string error;
+    JournalFormat::ReadFile(journal.toStdString(), records, error);
+    return records;
+}
+
 /// The records with which a journal begins that restores a snapshot first; empty if the snapshot is
 /// not of these records or cannot be kept.
 std::vector<JournalRecord> RecordsAfter(const Snapshot& snapshot,
@@ -86,11 +95,12 @@ void SessionRecovery::Offer(const Options& options)
 
 RecoveryOffer::Result SessionRecovery::GoOn(const UnsavedWork& work)
 {
-    Records all;
-    std::string error;
-    // Up to a damaged line it can be used.
-    JournalFormat::ReadFile(work.journal.toStdString(), all, error);
-    const Records records = CompletedOf(all);
+    Records records;
+    const bool isRead = RunInBackground(m_window, m_window.GetProgress(), [&](WorkProgress&) {
+        records = CompletedOf(ReadAll(work.journal));
+    });
+    if (!isRead)
+        return RecoveryOffer::Result::Cancelled;
     KeptContent::Get().SetSource(work.journal);
     if (!LeaveDrawing(VersionOf(records)))
     {
@@ -143,9 +153,10 @@ void SessionRecovery::BeginAnew()
 std::optional<JournalReplayResult> SessionRecovery::ReplayFromSnapshot(const QString& journal,
                                                                        const Records& records)
 {
-    std::optional<Snapshot> snapshot;
+    Records rest;
     const bool isRead = RunInBackground(m_window, m_window.GetProgress(), [&](WorkProgress&) {
-        snapshot = Snapshot::FindNewest(journal);
+        if (const std::optional<Snapshot> snapshot = Snapshot::FindNewest(journal))
+            rest = RecordsAfter(*snapshot, records);
     });
     if (!isRead)
     {
@@ -153,9 +164,6 @@ std::optional<JournalReplayResult> SessionRecovery::ReplayFromSnapshot(const QSt
         cancelled.isStopped = true;
         return cancelled;
     }
-    if (!snapshot.has_value())
-        return std::nullopt;
-    const Records rest = RecordsAfter(*snapshot, records);
     if (rest.empty())
         return std::nullopt;
     JournalReplayResult result = m_program.replay(rest);
@@ -168,11 +176,8 @@ std::optional<JournalReplayResult> SessionRecovery::ReplayFromSnapshot(const QSt
 /// In a program of its own, which writes nothing.
 void SessionRecovery::Look(const UnsavedWork& work)
 {
-    Records all;
-    std::string error;
-    JournalFormat::ReadFile(work.journal.toStdString(), all, error);
     int last = 0;
-    for (const JournalRecord& record : CompletedOf(all))
+    for (const JournalRecord& record : CompletedOf(ReadAll(work.journal)))
         last = std::max(last, record.number);
     QProcess::startDetached(QCoreApplication::applicationFilePath(),
                             {QStringLiteral("--replay"), work.journal, QStringLiteral("--stay"),

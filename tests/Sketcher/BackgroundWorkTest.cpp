@@ -1,5 +1,7 @@
 #include "BackgroundWork.h"
 
+#include "ReadingMonitor.h"
+
 #include "Control/ProgressBarDefinition.h"
 #include "Support/TestValues.h"
 
@@ -106,6 +108,30 @@ private slots:
         QVERIFY(!RunInBackground(f.window, &f.progress,
                                  [&never](WorkProgress& progress) { WaitFor(never, progress); }));
         QVERIFY(f.window.isVisible());
+    }
+
+    void workUnderAMonitorLeavesEscapeToIt()
+    {
+        WindowFixture f;
+        ReadingMonitor monitor(f.window, &f.progress);
+        std::atomic<bool> isPressed{false};
+        std::atomic<bool> isCancelled{false};
+        QTimer::singleShot(0, &f.window, [&] {
+            QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+            QCoreApplication::sendEvent(&f.window, &escape);
+        });
+        // While the work goes on the window lives as before.
+        QTimer::singleShot(100, &f.window, [&isPressed] { isPressed = true; });
+
+        RunInBackground(monitor, [&](WorkProgress& progress) {
+            while (!isPressed)
+                std::this_thread::yield();
+            isCancelled = !progress.Advance(1.0);
+        });
+
+        QVERIFY(!isCancelled);
+        QVERIFY(!monitor.Advance(1, 2));
+        QVERIFY(!f.window.menuWidget()->isEnabled());
     }
 
     void closingTheWindowCancels()

@@ -460,8 +460,11 @@ std::optional<Documents::Prepared> Documents::TakePrepared(const QString& conten
     const std::optional<QByteArray> bytes = KeptContent::Get().Find(contentDigest);
     if (!bytes.has_value())
         return std::nullopt;
-    DocumentReading reading =
-        DocumentFile::FromText({bytes->constData(), static_cast<std::size_t>(bytes->size())});
+    DocumentReading reading;
+    RunWork(bytes->size() > LargeFile, [&](const DocumentFile::Progress& progress) {
+        reading = DocumentFile::FromText(
+            {bytes->constData(), static_cast<std::size_t>(bytes->size())}, progress);
+    });
     if (reading.outcome != DocumentReading::Outcome::Whole)
         return std::nullopt;
     return Prepared{contentDigest, std::move(reading.content), reading.sum};

@@ -14,13 +14,11 @@
 namespace
 {
 
-using Words = std::array<std::uint64_t, 4>;
-
-Words HashOf(const std::string& bytes)
+Digest::Words HashOf(const std::string& bytes)
 {
     const QByteArray hash = QCryptographicHash::hash(
         QByteArray::fromRawData(bytes.data(), int(bytes.size())), QCryptographicHash::Sha256);
-    Words words{};
+    Digest::Words words{};
     for (std::size_t i = 0; i < words.size(); ++i)
         words[words.size() - 1 - i] = qFromBigEndian<quint64>(hash.constData() + 8 * i);
     return words;
@@ -104,28 +102,38 @@ void AddShape(Bytes& bytes, const Shape& shape)
 
 void Digest::Add(const std::string& bytes)
 {
-    const Words words = HashOf(bytes);
-    std::uint64_t carry = 0;
-    for (std::size_t i = 0; i < m_words.size(); ++i)
-    {
-        const std::uint64_t sum = m_words[i] + words[i];
-        const std::uint64_t total = sum + carry;
-        carry = (sum < words[i] || total < sum) ? 1 : 0;
-        m_words[i] = total;
-    }
+    *this += Digest(HashOf(bytes));
 }
 
 void Digest::Remove(const std::string& bytes)
 {
-    const Words words = HashOf(bytes);
+    *this -= Digest(HashOf(bytes));
+}
+
+Digest& Digest::operator+=(const Digest& other)
+{
+    std::uint64_t carry = 0;
+    for (std::size_t i = 0; i < m_words.size(); ++i)
+    {
+        const std::uint64_t sum = m_words[i] + other.m_words[i];
+        const std::uint64_t total = sum + carry;
+        carry = (sum < m_words[i] || total < sum) ? 1 : 0;
+        m_words[i] = total;
+    }
+    return *this;
+}
+
+Digest& Digest::operator-=(const Digest& other)
+{
     std::uint64_t borrow = 0;
     for (std::size_t i = 0; i < m_words.size(); ++i)
     {
-        const std::uint64_t difference = m_words[i] - words[i];
+        const std::uint64_t difference = m_words[i] - other.m_words[i];
         const std::uint64_t total = difference - borrow;
-        borrow = (m_words[i] < words[i] || difference < borrow) ? 1 : 0;
+        borrow = (m_words[i] < other.m_words[i] || difference < borrow) ? 1 : 0;
         m_words[i] = total;
     }
+    return *this;
 }
 
 std::string Digest::ToText() const

@@ -13,10 +13,22 @@
 class Digest final
 {
 public:
+    /// Least significant first.
+    using Words = std::array<std::uint64_t, 4>;
+
+    /// Of nothing.
+    Digest() = default;
+
+    explicit Digest(const Words& words) : m_words(words) {}
+
     void Add(const std::string& bytes);
 
     /// Takes back an Add of the same bytes.
     void Remove(const std::string& bytes);
+
+    /// The sum of both sets, and what is left without the other set.
+    Digest& operator+=(const Digest& other);
+    Digest& operator-=(const Digest& other);
 
     /// 64 hexadecimal digits in lower case, most significant first.
     std::string ToText() const;
@@ -25,8 +37,7 @@ public:
     bool operator!=(const Digest& other) const { return !(*this == other); }
 
 private:
-    /// Least significant first.
-    std::array<std::uint64_t, 4> m_words{};
+    Words m_words{};
 };
 
 /// The bytes that stand for a part of a drawing in its digest; equal parts have equal bytes on any

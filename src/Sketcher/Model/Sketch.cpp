@@ -10,7 +10,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <memory>
-#include <set>
 #include <utility>
 
 namespace
@@ -73,22 +72,13 @@ int Sketch::AddLine(const vesk::Vector3d& start, const vesk::Vector3d& end)
 std::vector<int> Sketch::Add(const std::vector<PenShape>& shapes, const std::wstring& stepName)
 {
     const bool arePossible =
-        std::all_of(shapes.begin(), shapes.end(), [this](const PenShape& shape) {
-            return FindLayer(shape.second.layer) != nullptr;
-        });
-    return arePossible ? AddEntities(shapes, {}, stepName) : std::vector<int>();
-}
-
-/// Draws the shapes in one step with a change that adds layers.
-std::vector<int> Sketch::AddEntities(const std::vector<PenShape>& shapes, SketchChange change,
-                                     const std::wstring& stepName)
-{
-    const bool arePossible =
         shapes.size() <= static_cast<std::size_t>(GreatestId - m_content.lastId) &&
-        std::all_of(shapes.begin(), shapes.end(),
-                    [](const PenShape& shape) { return IsDrawable(shape.first); });
+        std::all_of(shapes.begin(), shapes.end(), [this](const PenShape& shape) {
+            return IsDrawable(shape.first) && FindLayer(shape.second.layer) != nullptr;
+        });
     if (shapes.empty() || !arePossible)
         return {};
+    SketchChange change;
     std::vector<int> ids;
     for (const auto& [shape, pen] : shapes)
     {
@@ -104,39 +94,26 @@ std::vector<int> Sketch::AddEntities(const std::vector<PenShape>& shapes, Sketch
 
 std::vector<int> Sketch::Insert(const SketchContent& content, const std::wstring& stepName)
 {
-    const auto freeLayerIds = static_cast<std::size_t>(GreatestId - m_content.lastLayerId);
-    if (!IsValid(content) || content.layers.size() > freeLayerIds)
-        return {};
-    SketchChange change;
-    const std::map<int, int> layerIds = MatchLayers(content, change);
-    std::vector<PenShape> shapes;
-    for (const Entity& entity : content.entities)
-    {
-        shapes.emplace_back(entity.shape, entity.pen);
-        shapes.back().second.layer = layerIds.at(entity.pen.layer);
-    }
-    return AddEntities(shapes, std::move(change), stepName);
+    return Insert(MakeInsertion(content, GetInsertionPlace()), stepName);
 }
 
-/// The layers of this drawing for those with entities of another, by their ids there; notes in the
-/// change which are to be added.
-std::map<int, int> Sketch::MatchLayers(const SketchContent& content, SketchChange& change) const
+std::vector<int> Sketch::Insert(SketchInsertion insertion, const std::wstring& stepName)
 {
-    std::set<int> used;
-    for (const Entity& entity : content.entities)
-        used.insert(entity.pen.layer);
-    std::map<int, int> ids;
-    int lastId = m_content.lastLayerId;
-    for (const int otherId : used)
-    {
-        Layer layer = *FindById(content.layers, otherId);
-        const Layer* pOwn = FindLayer(layer.name);
-        layer.id = pOwn != nullptr ? pOwn->id : ++lastId;
-        if (pOwn == nullptr)
-            change.layers[layer.id] = layer;
-        ids[otherId] = layer.id;
-    }
+    SketchChange& change = insertion.change;
+    if (change.entities.empty() || !(insertion.place == GetInsertionPlace()))
+        return {};
+    std::vector<int> ids;
+    for (const auto& entity : change.entities)
+        ids.push_back(entity.first);
+    m_content.lastId = ids.back();
+    m_content.lastLayerId += static_cast<int>(change.layers.size());
+    Push(std::move(change), ids.front(), stepName);
     return ids;
+}
+
+InsertionPlace Sketch::GetInsertionPlace() const
+{
+    return {m_content.layers, m_content.lastId, m_content.lastLayerId};
 }
 
 bool Sketch::CanReplace(const std::vector<std::pair<int, Shape>>& shapes) const
@@ -348,9 +325,9 @@ bool Sketch::Restore(SketchContent content, const Digest& digest)
 {
     if (!IsValid(content))
         return false;
+    ++m_revision;
     m_content = std::move(content);
     m_digest = digest;
-    ++m_revision;
     m_lastUndone = 0;
     m_isNameStep = true;
     {

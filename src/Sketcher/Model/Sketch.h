@@ -3,11 +3,11 @@
 #include "Model/Digest.h"
 #include "Model/SketchChange.h"
 #include "Model/SketchContent.h"
+#include "Model/SketchInsertion.h"
 
 #include <QObject>
 #include <QUndoStack>
 
-#include <map>
 #include <string>
 #include <utility>
 #include <vector>
@@ -46,6 +46,12 @@ public:
     /// order. Their layers are those of the same names; missing ones are added in the same step.
     /// Returns none and changes nothing if there are no entities or the content is not valid.
     std::vector<int> Insert(const SketchContent& content, const std::wstring& stepName);
+
+    /// The same with what MakeInsertion has worked out for the place that GetInsertionPlace
+    /// returned, possibly in another thread. Returns none and changes nothing if the place is
+    /// another one by now.
+    std::vector<int> Insert(SketchInsertion insertion, const std::wstring& stepName);
+    InsertionPlace GetInsertionPlace() const;
 
     /// Gives entities other shapes; their ids, order and pens stay. Returns false and makes no step
     /// if one of them cannot be changed, a shape is not drawable, or no shape differs.
@@ -149,9 +155,6 @@ private:
     class Step;
 
     bool AreChangeable(const std::vector<int>& ids) const;
-    std::map<int, int> MatchLayers(const SketchContent& content, SketchChange& change) const;
-    std::vector<int> AddEntities(const std::vector<PenShape>& shapes, SketchChange change,
-                                 const std::wstring& stepName);
     void Push(SketchChange change, int entityId, const std::wstring& stepName);
     void Exchange(SketchChange& change);
     int Turn(int index, void (QUndoStack::*turn)());

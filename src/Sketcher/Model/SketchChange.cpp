@@ -48,8 +48,20 @@ void Merge(std::vector<Thing>& things, const std::vector<Thing>& others)
 }
 
 template <class Thing>
-void ExchangeThings(std::vector<Thing>& things, Digest& digest,
-                    std::map<int, std::optional<Thing>>& others)
+void AddDifference(const std::vector<Thing>& things,
+                   const std::map<int, std::optional<Thing>>& others, Digest& difference)
+{
+    for (const auto& [id, other] : others)
+    {
+        if (const Thing* pThing = FindById(things, id))
+            difference.Remove(CanonicalBytes(*pThing));
+        if (other.has_value())
+            difference.Add(CanonicalBytes(*other));
+    }
+}
+
+template <class Thing>
+void ExchangeThings(std::vector<Thing>& things, std::map<int, std::optional<Thing>>& others)
 {
     std::vector<int> gone;
     std::vector<Thing> come;
@@ -57,11 +69,6 @@ void ExchangeThings(std::vector<Thing>& things, Digest& digest,
     {
         const auto place = PlaceOf(things, id);
         const bool isThere = place != things.end() && place->id == id;
-        if (isThere)
-            digest.Remove(CanonicalBytes(*place));
-        if (other.has_value())
-            digest.Add(CanonicalBytes(*other));
-
         if (isThere && other.has_value())
             std::swap(*place, *other);
         else if (isThere)
@@ -85,13 +92,27 @@ bool IsAddition(const SketchContent& content, const SketchChange& change)
     return areEntitiesNew && std::all_of(change.layers.begin(), change.layers.end(), isNewLayer);
 }
 
+Digest DifferenceOf(const SketchContent& content, const SketchChange& change)
+{
+    Digest difference;
+    AddDifference(content.layers, change.layers, difference);
+    AddDifference(content.entities, change.entities, difference);
+    if (!change.name.has_value())
+        return difference;
+    difference.Remove(CanonicalBytesOfName(content.name));
+    difference.Add(CanonicalBytesOfName(*change.name));
+    return difference;
+}
+
 void Exchange(SketchContent& content, Digest& digest, SketchChange& change)
 {
-    ExchangeThings(content.layers, digest, change.layers);
-    ExchangeThings(content.entities, digest, change.entities);
-    if (!change.name.has_value())
-        return;
-    digest.Remove(CanonicalBytesOfName(content.name));
-    std::swap(content.name, *change.name);
-    digest.Add(CanonicalBytesOfName(content.name));
+    const Digest difference =
+        change.difference.has_value() ? *change.difference : DifferenceOf(content, change);
+    digest += difference;
+    change.difference = Digest();
+    *change.difference -= difference;
+    ExchangeThings(content.layers, change.layers);
+    ExchangeThings(content.entities, change.entities);
+    if (change.name.has_value())
+        std::swap(content.name, *change.name);
 }

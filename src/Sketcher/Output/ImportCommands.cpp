@@ -54,7 +54,7 @@ std::vector<CommandEntry> ImportCommands::MakeCommands()
             ContentId, L"导入图元",
             [this](const CommandParameters& parameters) { Insert(parameters); })
             .PossibleWith(
-                [](const CommandParameters& parameters) { return Find(parameters).has_value(); }),
+                [this](const CommandParameters& parameters) { return CanInsert(parameters); }),
     };
 }
 
@@ -92,11 +92,14 @@ bool ImportCommands::IsGone() const
 std::optional<DxfImport> ImportCommands::Read(const QString& path, QString unit)
 {
     DxfImport read;
+    const InsertionPlace place = m_workspace.sketch.GetInsertionPlace();
     const auto work = [&](const OutputProgress& progress) {
         read = ImportDxf(path, unit, progress);
-        m_pending = Pending{std::nullopt, std::move(read.content)};
-        if (!m_pending->content.entities.empty())
-            m_pending->digest = KeptContent::Get().Keep(read.document);
+        m_pending = Pending{std::nullopt, std::move(read.content), {}};
+        if (m_pending->content.entities.empty())
+            return;
+        m_pending->digest = KeptContent::Get().Keep(read.document);
+        m_pending->insertion = MakeInsertion(m_pending->content, place);
     };
     m_runner(work);
     if (read.fault != OutputFault::NoDxfUnit || IsGone())
@@ -122,13 +125,33 @@ bool ImportCommands::RecordPending()
     return true;
 }
 
+/// Reads what the parameters name, for the command. Returns false if it is not kept.
+bool ImportCommands::CanInsert(const CommandParameters& parameters)
+{
+    const InsertionPlace place = m_workspace.sketch.GetInsertionPlace();
+    m_pending.reset();
+    m_runner([&](const OutputProgress&) {
+        std::optional<SketchContent> content = Find(parameters);
+        if (!content.has_value())
+            return;
+        m_pending = Pending{ContentDigestOf(parameters), std::move(*content), {}};
+        m_pending->insertion = MakeInsertion(m_pending->content, place);
+    });
+    return m_pending.has_value();
+}
+
 void ImportCommands::Insert(const CommandParameters& parameters)
 {
     const bool isPending =
         m_pending.has_value() && m_pending->digest == ContentDigestOf(parameters);
-    const std::optional<SketchContent> content =
-        isPending ? std::make_optional(std::move(m_pending->content)) : Find(parameters);
-    if (content.has_value() && !m_workspace.sketch.Insert(*content, ImportStep).empty())
+    if (!isPending && !CanInsert(parameters))
+        return;
+    Sketch& sketch = m_workspace.sketch;
+    Pending pending = std::move(*m_pending);
+    m_pending.reset();
+    // Worked out anew if the drawing has changed since.
+    if (!sketch.Insert(std::move(pending.insertion), ImportStep).empty() ||
+        !sketch.Insert(pending.content, ImportStep).empty())
         ActionManager::StepDone();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Model/DocumentFile.h"
+#include "Model/SketchInsertion.h"
 #include "Output/OutputCommands.h"
 
 #include <QString>
@@ -34,12 +35,14 @@ private:
     {
         std::optional<QString> digest; ///< Nothing if it could not be kept.
         SketchContent content;
+        SketchInsertion insertion; ///< Of the content, worked out while it was read.
     };
 
     void AskForImport();
     bool IsGone() const;
     std::optional<DxfImport> Read(const QString& path, QString unit);
     bool RecordPending();
+    bool CanInsert(const vesk::CommandParameters& parameters);
     void Insert(const vesk::CommandParameters& parameters);
     static std::optional<SketchContent> Find(const vesk::CommandParameters& parameters);
     void ShowReport(const QString& name, const DxfImport& read);

@@ -1,5 +1,6 @@
 #include "Recovery/RecoverContent.h"
 
+#include "Model/Digest.h"
 #include "Model/DocumentFile.h"
 #include "Model/KeptContent.h"
 #include "Model/Sketch.h"
@@ -24,6 +25,7 @@ struct PreparedSnapshot
 {
     QString key;
     SketchContent content;
+    Digest digest;
 };
 
 std::optional<PreparedSnapshot> s_prepared;
@@ -49,7 +51,7 @@ bool Prepare(const CommandParameters& parameters)
     DocumentReading reading =
         DocumentFile::FromText({bytes->constData(), static_cast<std::size_t>(bytes->size())});
     if (reading.outcome == DocumentReading::Outcome::Whole)
-        s_prepared = PreparedSnapshot{key, std::move(reading.content)};
+        s_prepared = PreparedSnapshot{key, std::move(reading.content), reading.sum};
     return s_prepared.has_value();
 }
 
@@ -60,7 +62,7 @@ std::optional<CommandParameters> RecoverContent::Keep(const Snapshot& snapshot)
     const std::optional<QString> key = KeptContent::Get().Keep(snapshot.bytes);
     if (!key.has_value())
         return std::nullopt;
-    s_prepared = PreparedSnapshot{*key, snapshot.content};
+    s_prepared = PreparedSnapshot{*key, snapshot.content, DigestOf(snapshot.content)};
     CommandParameters parameters;
     parameters.Add(SnapshotName, CommandParameterValue(ToWide(*key)));
     return parameters;
@@ -75,7 +77,7 @@ void RecoverContent::Apply(Sketch& sketch, const CommandParameters& parameters)
 {
     if (!Prepare(parameters))
         return;
-    sketch.Restore(std::move(s_prepared->content));
+    sketch.Restore(std::move(s_prepared->content), s_prepared->digest);
     s_prepared.reset();
 }
 

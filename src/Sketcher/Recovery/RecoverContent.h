@@ -16,7 +16,7 @@ struct RecoverContent
     static constexpr wchar_t CommandId[] = L"Sketcher.RecoverContent";
 
     /// Keeps a snapshot and returns the parameters of the command; nothing if it cannot be kept.
-    /// Applying them next does not read it again.
+    /// Applying them next does not read it again. May be called in another thread.
     static std::optional<vesk::CommandParameters> Keep(const Snapshot& snapshot);
 
     /// True if what the parameters name is kept, and whole.

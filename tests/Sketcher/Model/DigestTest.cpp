@@ -56,6 +56,25 @@ private slots:
         QVERIFY(digest == other);
     }
 
+    void setsAreAddedAndTakenBackAsAWhole()
+    {
+        Digest first;
+        Digest second;
+        Digest both;
+        for (int i = 0; i < 100; ++i)
+        {
+            (i % 2 == 0 ? first : second).Add(std::to_string(i));
+            both.Add(std::to_string(i));
+        }
+        const Digest alone = first;
+
+        first += second;
+        QCOMPARE(first.ToText(), both.ToText());
+
+        first -= second;
+        QCOMPARE(first.ToText(), alone.ToText());
+    }
+
     void orderDoesNotMatter()
     {
         Digest one;

@@ -262,6 +262,83 @@ private slots:
         QCOMPARE(sketch.GetLayers().back().name, std::wstring(L"walls"));
     }
 
+    void anInsertionCanBeWorkedOutBefore()
+    {
+        Sketch other;
+        other.SetCurrentPen(&Pen::layer, other.AddLayer(L"walls"));
+        other.AddLine({0, 0, 0}, {1, 0, 0});
+        Sketch sketch;
+        sketch.AddLine({0, 0, 0}, {9, 0, 0});
+        Sketch same;
+        same.AddLine({0, 0, 0}, {9, 0, 0});
+        same.Insert(other.GetContent(), L"粘贴");
+
+        SketchInsertion insertion = MakeInsertion(other.GetContent(), sketch.GetInsertionPlace());
+        QCOMPARE(sketch.Insert(std::move(insertion), L"粘贴"), Ids{2});
+
+        QCOMPARE(sketch.GetDigest(), same.GetDigest());
+        QCOMPARE(sketch.GetDigest(), DigestOf(sketch.GetContent()).ToText());
+        QCOMPARE(sketch.GetInsertionPlace() == same.GetInsertionPlace(), true);
+        sketch.Undo();
+        sketch.Redo();
+        QCOMPARE(sketch.GetDigest(), same.GetDigest());
+    }
+
+    void anInsertionForAnotherPlaceIsRefused_data()
+    {
+        QTest::addColumn<std::function<void(Sketch&)>>("change");
+
+        const auto add = [](const char* name, std::function<void(Sketch&)> change) {
+            QTest::newRow(name) << std::move(change);
+        };
+        add("entity", [](Sketch& sketch) { sketch.AddLine({0, 0, 0}, {9, 0, 0}); });
+        add("layer", [](Sketch& sketch) { sketch.AddLayer(L"walls"); });
+        add("name of a layer", [](Sketch& sketch) {
+            Layer layer = sketch.GetLayers().front();
+            layer.name = L"walls";
+            sketch.SetLayer(layer);
+        });
+        add("layer undone", [](Sketch& sketch) {
+            sketch.AddLayer(L"walls");
+            sketch.Undo();
+        });
+    }
+
+    void anInsertionForAnotherPlaceIsRefused()
+    {
+        QFETCH(std::function<void(Sketch&)>, change);
+        Sketch other;
+        other.AddLine({0, 0, 0}, {1, 0, 0});
+        Sketch sketch;
+        SketchInsertion insertion = MakeInsertion(other.GetContent(), sketch.GetInsertionPlace());
+
+        change(sketch);
+        const std::string digest = sketch.GetDigest();
+
+        QVERIFY(sketch.Insert(std::move(insertion), L"粘贴").empty());
+        QCOMPARE(sketch.GetDigest(), digest);
+    }
+
+    /// However many entities a step has, undoing it computes nothing anew.
+    void theDigestOfAStepIsComputedOnce()
+    {
+        SketchContent content;
+        Digest digest = DigestOf(content);
+        SketchChange change;
+        change.layers[1] = Layer();
+        change.difference = Digest();
+        change.difference->Add("known");
+        const Digest before = digest;
+        Digest after = digest;
+        after += *change.difference;
+
+        Exchange(content, digest, change);
+        QCOMPARE(digest.ToText(), after.ToText());
+
+        Exchange(content, digest, change);
+        QCOMPARE(digest.ToText(), before.ToText());
+    }
+
     void whatIsNoDrawingIsNotInserted()
     {
         Sketch sketch;
