@@ -56,6 +56,7 @@ QString AskForDxfUnit(QWidget& window, const QString& fileName)
     return isAccepted && place >= 0 ? QString::fromLatin1(DxfUnitTexts[place].name) : QString();
 }
 
+/// A report with many remarks would be higher than the screen: the rest is among the details.
 void ShowImportReport(QWidget& window, const QString& fileName, const DxfReportText& report)
 {
     auto* pBox = new QMessageBox(QMessageBox::Information, QStringLiteral("导入"),
@@ -67,6 +68,13 @@ void ShowImportReport(QWidget& window, const QString& fileName, const DxfReportT
     pBox->setObjectName(QStringLiteral("ImportReport"));
     pBox->setAttribute(Qt::WA_DeleteOnClose);
     pBox->setWindowModality(Qt::NonModal);
-    pBox->setInformativeText(report.remarks.join(QLatin1Char('\n')));
+    constexpr int MostLines = 10;
+    QStringList lines = report.remarks.mid(0, MostLines);
+    if (report.remarks.size() > MostLines)
+    {
+        lines << QStringLiteral("……");
+        pBox->setDetailedText(report.remarks.join(QLatin1Char('\n')));
+    }
+    pBox->setInformativeText(lines.join(QLatin1Char('\n')));
     pBox->show();
 }
