@@ -3,6 +3,7 @@
 #include "Support/TestValues.h"
 
 #include <QDialog>
+#include <QFileDialog>
 #include <QScreen>
 
 /// The sizes of dialogs.
@@ -33,6 +34,18 @@ private slots:
         dialog.show();
 
         QCOMPARE(dialog.size(), QSize(321, 234));
+    }
+
+    void fileDialogHasRoomForItsColumns()
+    {
+        const DialogSizes sizes;
+        QFileDialog dialog;
+        dialog.setOption(QFileDialog::DontUseNativeDialog);
+
+        dialog.show();
+
+        QCOMPARE(dialog.size(),
+                 QSize(760, 460).boundedTo(dialog.screen()->availableSize() * 9 / 10));
     }
 
     void anotherDialogOfThatNameHasTheSizeOfTheFormer()

@@ -67,6 +67,9 @@ void ImportCommands::Import(const QString& path, QString unit)
     if (read->document.isEmpty())
     {
         m_window.ShowNotice(QStringLiteral("未导入 %1：%2").arg(name, CaptionOf(read->fault)));
+        if (read->fault != OutputFault::Stopped)
+            ShowOutputFault(m_window, QStringLiteral("未导入 %1").arg(name),
+                            CaptionOf(read->fault));
         return;
     }
     if (m_pending->content.entities.empty() || RecordPending())

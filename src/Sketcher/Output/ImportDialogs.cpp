@@ -8,21 +8,6 @@
 #include <QMessageBox>
 #include <QPointer>
 
-namespace
-{
-
-/// As many as fit on the screen; the last line counts the others.
-QStringList FirstOf(const QStringList& remarks)
-{
-    constexpr int Most = 20;
-    QStringList first = remarks.mid(0, Most);
-    if (remarks.size() > Most)
-        first << QStringLiteral("另有 %1 项").arg(remarks.size() - Most);
-    return first;
-}
-
-}
-
 QString AskForImportPath(QWidget& window)
 {
     // On the heap: the dialog is destroyed with the window if the program ends meanwhile.
@@ -57,6 +42,7 @@ QString AskForDxfUnit(QWidget& window, const QString& fileName)
     return isAccepted && place >= 0 ? NamedDxfUnits()[place].name : QString();
 }
 
+/// A report with many remarks would be higher than the screen: the rest is among the details.
 void ShowImportReport(QWidget& window, const QString& fileName, const DxfReportText& report)
 {
     auto* pBox = new QMessageBox(QMessageBox::Information, QStringLiteral("导入"),
@@ -69,6 +55,13 @@ void ShowImportReport(QWidget& window, const QString& fileName, const DxfReportT
     pBox->setObjectName(QStringLiteral("ImportReport"));
     pBox->setAttribute(Qt::WA_DeleteOnClose);
     pBox->setWindowModality(Qt::NonModal);
-    pBox->setInformativeText(FirstOf(report.remarks).join(QLatin1Char('\n')));
+    constexpr int MostLines = 10;
+    QStringList lines = report.remarks.mid(0, MostLines);
+    if (report.remarks.size() > MostLines)
+    {
+        lines << QStringLiteral("……");
+        pBox->setDetailedText(report.remarks.join(QLatin1Char('\n')));
+    }
+    pBox->setInformativeText(lines.join(QLatin1Char('\n')));
     pBox->show();
 }

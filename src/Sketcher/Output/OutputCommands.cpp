@@ -182,4 +182,6 @@ void OutputCommands::ShowResult(OutputFault fault, const QString& done, const QS
 {
     m_window.ShowNotice(
         fault == OutputFault::None ? done : QStringLiteral("%1：%2").arg(failed, CaptionOf(fault)));
+    if (fault != OutputFault::None && fault != OutputFault::Stopped)
+        ShowOutputFault(m_window, failed, CaptionOf(fault));
 }

@@ -1,5 +1,7 @@
 #include "Output/OutputFault.h"
 
+#include <QMessageBox>
+
 namespace
 {
 
@@ -41,4 +43,18 @@ QString CaptionOf(OutputFault fault)
 std::string DescribeOutputFault(OutputFault fault)
 {
     return TextsOf(fault).description;
+}
+
+void ShowOutputFault(QWidget& window, const QString& text, const QString& reason)
+{
+    if (qEnvironmentVariable("VESK_UNATTENDED") == QLatin1String("1"))
+        return;
+    auto* pBox = new QMessageBox(QMessageBox::Warning, QStringLiteral("Sketcher"), text,
+                                 QMessageBox::Ok, &window);
+    pBox->setObjectName(QStringLiteral("OutputFault"));
+    pBox->setAttribute(Qt::WA_DeleteOnClose);
+    pBox->setWindowModality(Qt::NonModal);
+    pBox->setTextFormat(Qt::PlainText);
+    pBox->setInformativeText(reason);
+    pBox->show();
 }

@@ -5,6 +5,8 @@
 #include <new>
 #include <string>
 
+class QWidget;
+
 /// Why a drawing could not be put out.
 enum class OutputFault
 {
@@ -38,6 +40,10 @@ OutputFault UnlessOutOfMemory(const Work& work)
 
 /// On screen.
 QString CaptionOf(OutputFault fault);
+
+/// Shows that something was not put out or read, and why, in a window that blocks nothing; only
+/// when somebody is there (VESK_UNATTENDED). It is destroyed with its parent.
+void ShowOutputFault(QWidget& window, const QString& text, const QString& reason);
 
 /// On standard error.
 std::string DescribeOutputFault(OutputFault fault);

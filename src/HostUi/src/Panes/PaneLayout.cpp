@@ -361,8 +361,8 @@ void PaneLayout::PlaceLost()
         if (pWidget == nullptr || m_window.dockWidgetArea(pWidget) != Qt::NoDockWidgetArea)
             continue;
         pWidget->setFloating(false);
-        m_window.addDockWidget(ToQt(place.area), pWidget);
         pWidget->show();
+        m_window.addDockWidget(ToQt(place.area), pWidget);
         PutBehind(FindWidget(place.tabWith), *pWidget);
     }
 }
