@@ -1,4 +1,5 @@
 #include "Drawing.h"
+#include "PaneDriver.h"
 #include "ScenarioTest.h"
 #include "ScriptedUser.h"
 #include "SketcherWindow.h"
@@ -12,6 +13,7 @@
 #include <QContextMenuEvent>
 #include <QGuiApplication>
 #include <QLineEdit>
+#include <QListView>
 #include <QMenu>
 #include <QStatusBar>
 
@@ -64,6 +66,25 @@ class EditTest final : public ScenarioTest
     Q_OBJECT
 
 private slots:
+    void recordsOfTheJournalAreCopiedWhileEntitiesAreSelected()
+    {
+        ScriptedUser user;
+        DrawTwoLines(user);
+        user.Press(Qt::Key_A, Qt::ControlModifier).Do([] {
+            PaneDriver::Dock("Journal").Raise();
+            auto* pList = PaneDriver::Widget("Journal").findChild<QListView*>("JournalRecords");
+            pList->setCurrentIndex(pList->model()->index(0, 0));
+            pList->setFocus();
+        });
+        user.Press(Qt::Key_C, Qt::ControlModifier);
+
+        QCOMPARE(user.Run(m_pFixture->Draw()), 0);
+
+        const QString copied = QGuiApplication::clipboard()->text();
+        QVERIFY2(copied.startsWith("{\"n\":"), qPrintable(copied));
+        QCOMPARE(CountCommands(Journal(), L"Sketcher.Copy"), std::size_t(0));
+    }
+
     void cleanupTestCase() { QGuiApplication::clipboard()->clear(); }
 
     void whatIsSelectedMovesByTypedDistanceAndAngle()

@@ -4,11 +4,12 @@
 #include "Session.h"
 #include "SittingWatch.h"
 
+#include "Documents/Documents.h"
 #include "Model/DocumentFile.h"
 #include "Model/Sketch.h"
 #include "Recovery/UnsavedWork.h"
+#include "SketcherWindow.h"
 
-#include "Foundation/FileRewriting.h"
 #include "Foundation/Text.h"
 #include "Journal/JournalFormat.h"
 #include "Journal/JournalManager.h"
@@ -24,6 +25,7 @@
 #include <random>
 #include <set>
 #include <unistd.h>
+#include <utility>
 
 using namespace vesk;
 
@@ -36,6 +38,17 @@ constexpr char SeedVariable[] = "VESK_KILLED_SEED";
 QString JournalIn(const QString& folder)
 {
     return folder + "/journal";
+}
+
+QString DrawingIn(const QString& folder)
+{
+    return folder + "/drawing.vsk";
+}
+
+/// True while a program writes the drawing, and after one was killed meanwhile.
+bool IsHalfWritten(const QString& folder)
+{
+    return !QDir(folder).entryList({"drawing.vsk.*"}, QDir::Files).isEmpty();
 }
 
 /// Tells in another file what the journal was given, after it was.
@@ -60,25 +73,29 @@ private:
     QFile m_file;
 };
 
-/// Saves a growing drawing again and again.
+/// Saves what has changed, again and again, also while a tool runs.
 class Saver final : public QObject
 {
 public:
-    explicit Saver(const QString& path) : m_path(path) { startTimer(5); }
+    Saver() { startTimer(20); }
 
 protected:
     void timerEvent(QTimerEvent*) override
     {
-        for (int i = 0; i < 20; ++i)
-            m_sketch.AddLine({0, 0, 0}, {++m_length, 1, 0});
-        RewriteFile(m_path.toStdString(), DocumentFile::ToText(m_sketch.GetContent()));
+        if (ScriptedUser::FindWindow()->isWindowModified())
+            ScriptedUser::FindButton("Sketcher.Save")->click();
     }
-
-private:
-    const QString m_path;
-    Sketch m_sketch;
-    double m_length = 0;
 };
+
+/// A drawing that takes a while to write.
+QByteArray MakeDrawing()
+{
+    Sketch sketch;
+    for (int i = 0; i < 1000; ++i)
+        sketch.AddLine({i % 40 * 15.0 - 300, i / 40 * 20.0 - 250, 0},
+                       {i % 7 * 50.0 - 150, i % 11 * 40.0 - 200, 0});
+    return QByteArray::fromStdString(DocumentFile::ToText(sketch.GetContent()));
+}
 
 /// Enough that a session is hardly ever over before it is killed.
 constexpr unsigned SittingsPerSession = 12;
@@ -87,7 +104,7 @@ constexpr unsigned SittingsPerSession = 12;
 [[noreturn]] void DrawUntilKilled(const QString& folder, unsigned seed)
 {
     Witness witness(folder + "/witness");
-    Saver saver(folder + "/drawing.vsk");
+    const Saver saver;
     SittingTally tally;
     SittingWatch watch(tally);
     ScriptedUser user;
@@ -96,6 +113,7 @@ constexpr unsigned SittingsPerSession = 12;
         users.emplace_back(seed * SittingsPerSession + i, user, watch).Plan();
     Options options;
     options.journal = JournalIn(folder);
+    options.document = DrawingIn(folder);
     options.log = folder + "/log";
     user.Run(options);
     ::_exit(0);
@@ -106,6 +124,39 @@ unsigned CountKills()
 {
     const int count = qEnvironmentVariableIntValue("VESK_KILLS");
     return count > 0 ? static_cast<unsigned>(count) : 30;
+}
+
+/// The digest of the drawing in a file; empty if the file is not whole.
+std::string DigestOf(const QString& path)
+{
+    const DocumentReading reading = DocumentFile::FromText(ReadBytes(path).toStdString());
+    return reading.outcome == DocumentReading::Outcome::Whole ? reading.digest : std::string();
+}
+
+/// What a journal says about the drawing file.
+struct Savings
+{
+    std::string last;  ///< The digest of the drawing that was saved last; empty for none.
+    std::string begun; ///< Of one of which nothing says that it was saved; empty for none.
+};
+
+Savings SavingsIn(const std::vector<JournalRecord>& records)
+{
+    Savings savings;
+    int begun = 0;
+    for (const JournalRecord& record : records)
+    {
+        const auto* pCommand = std::get_if<CommandRecord>(&record.what);
+        if (pCommand != nullptr && pCommand->commandId == Documents::SaveId)
+        {
+            begun = record.number;
+            savings.begun = Documents::GetSavedDigest(pCommand->parameters);
+        }
+        const auto* pEnd = std::get_if<EndRecord>(&record.what);
+        if (pEnd != nullptr && pEnd->command == begun)
+            savings.last = std::exchange(savings.begun, {});
+    }
+    return savings;
 }
 
 QByteArray WholeLines(const QByteArray& text)
@@ -159,6 +210,8 @@ private slots:
         QFETCH(unsigned, seed);
         const QString folder = m_pFixture->File("killed");
         QVERIFY(QDir().mkpath(folder));
+        WriteFile(DrawingIn(folder), MakeDrawing());
+        const std::string before = DigestOf(DrawingIn(folder));
 
         KillAtRandom(folder, seed);
 
@@ -172,10 +225,8 @@ private slots:
         const Outcome outcome = RunSketcher({"--replay", journal});
         QVERIFY2(outcome.code == 0, qPrintable(outcome.error));
         QCOMPARE(outcome.error, UnfinishedIn(records));
-        const QByteArray drawing = ReadBytes(folder + "/drawing.vsk");
-        QVERIFY(drawing.isEmpty() || DocumentFile::FromText(drawing.toStdString()).outcome ==
-                                         DocumentReading::Outcome::Whole);
-        Note(bytes, records, !drawing.isEmpty());
+        VerifyDrawing(folder, before, records);
+        Note(bytes, records, IsHalfWritten(folder));
     }
 
     void everyCutOfAJournalIsWhatWasCompletedBefore()
@@ -210,17 +261,30 @@ private slots:
     {
         qInfo() << m_kills << "sessions killed," << m_ended << "after they had ended;" << m_records
                 << "records read," << m_inCommands << "killed within a command," << m_unmarked
-                << "between a record and its mark," << m_torn << "with a torn line;" << m_drawings
-                << "drawing files read";
+                << "between a record and its mark," << m_torn << "with a torn line," << m_inSavings
+                << "while it saved," << m_halfWritten << "of them while the file was written;"
+                << m_savings << "had saved before";
     }
 
 private:
-    /// Starts a session, and kills it soon after its journal has reached a random size.
+    /// Starts a session, and kills it soon after its journal has reached a random size, or while it
+    /// saves for the first, second or third time.
     static void KillAtRandom(const QString& folder, unsigned seed)
     {
         std::mt19937 random(seed);
         const qint64 size = std::uniform_int_distribution<int>(1, 10000)(random);
         const auto delay = std::uniform_int_distribution<unsigned long>(0, 4000)(random);
+        const bool isSaving = seed % 2 == 0;
+        int savings = std::uniform_int_distribution<int>(1, 3)(random);
+        bool wasWriting = false;
+        const auto isDue = [&] {
+            if (!isSaving)
+                return QFileInfo(JournalIn(folder)).size() >= size;
+            const bool isWriting = IsHalfWritten(folder);
+            savings -= isWriting && !wasWriting ? 1 : 0;
+            wasWriting = isWriting;
+            return savings == 0;
+        };
         QProcess session;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(FolderVariable, folder);
@@ -231,12 +295,28 @@ private:
         QVERIFY(session.waitForStarted());
         QElapsedTimer waiting;
         waiting.start();
-        while (QFileInfo(JournalIn(folder)).size() < size && waiting.elapsed() < test::PatienceMs &&
-               !session.waitForFinished(0))
-            QThread::usleep(100);
-        QThread::usleep(delay);
+        while (!isDue() && waiting.elapsed() < test::PatienceMs && !session.waitForFinished(0))
+            QThread::usleep(isSaving ? 20 : 100);
+        QThread::usleep(isSaving ? delay / 4 : delay);
         session.kill();
         session.waitForFinished();
+    }
+
+    /// The file has what it had before or what the session saved, and what is in no file is
+    /// offered.
+    static void VerifyDrawing(const QString& folder, const std::string& before,
+                              const std::vector<JournalRecord>& records)
+    {
+        const std::string saved = DigestOf(DrawingIn(folder));
+        const Savings savings = SavingsIn(records);
+        const std::string last = savings.last.empty() ? before : savings.last;
+        QVERIFY(!saved.empty());
+        QVERIFY(saved == last || saved == savings.begun);
+        const auto marks = RecordsOf<MarkRecord>(records);
+        const bool isWorkLost = !marks.empty() && marks.back().digest != saved;
+        const bool isOffered = FindUnsavedWork(JournalIn(folder)).has_value();
+        QVERIFY(isOffered || !isWorkLost);
+        QVERIFY(!isOffered || isWorkLost || !savings.begun.empty());
     }
 
     /// A replay of the cut journal gives the drawing of its last mark, and what is completed in it
@@ -250,11 +330,14 @@ private:
         QCOMPARE(Session(m_pFixture->Replay(cut, m_pFixture->File("cut-model"))).Run(), 0);
     }
 
-    void Note(const QByteArray& bytes, const std::vector<JournalRecord>& records, bool hasDrawing)
+    void Note(const QByteArray& bytes, const std::vector<JournalRecord>& records,
+              bool isHalfWritten)
     {
         ++m_kills;
         m_records += static_cast<int>(records.size());
-        m_drawings += hasDrawing ? 1 : 0;
+        m_inSavings += isHalfWritten || !SavingsIn(records).begun.empty() ? 1 : 0;
+        m_halfWritten += isHalfWritten ? 1 : 0;
+        m_savings += SavingsIn(records).last.empty() ? 0 : 1;
         m_torn += bytes.isEmpty() || bytes.endsWith('\n') ? 0 : 1;
         m_inCommands += UnfinishedIn(records).isEmpty() ? 0 : 1;
         if (records.empty())
@@ -270,7 +353,9 @@ private:
     int m_inCommands = 0;
     int m_unmarked = 0;
     int m_torn = 0;
-    int m_drawings = 0;
+    int m_inSavings = 0;
+    int m_halfWritten = 0;
+    int m_savings = 0;
 };
 
 VESK_TESTS(KillTest);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Panes/LayerModel.h"
+
 #include <Qt>
 
 /// What the user of a random sitting chooses from. Entries listed twice are chosen twice as often.
@@ -9,20 +11,30 @@ namespace RandomTables
 struct Tool
 {
     const char* id;
-    Qt::Key key; ///< With Ctrl.
+    Qt::Key key; ///< With Ctrl; Key_unknown for none.
     int points;  ///< Number of clicks before a value can be typed.
 };
 
 /// Drawing tools come first.
 constexpr Tool Tools[] = {
-    {"Sketcher.Line", Qt::Key_L, 1},      {"Sketcher.Rectangle", Qt::Key_R, 1},
-    {"Sketcher.Circle", Qt::Key_I, 1},    {"Sketcher.Arc3Points", Qt::Key_3, 2},
-    {"Sketcher.ArcCentre", Qt::Key_4, 2}, {"Sketcher.Rotate", Qt::Key_T, 2},
+    {"Sketcher.Line", Qt::Key_L, 1},         {"Sketcher.Rectangle", Qt::Key_R, 1},
+    {"Sketcher.Circle", Qt::Key_I, 1},       {"Sketcher.Arc3Points", Qt::Key_3, 2},
+    {"Sketcher.ArcCentre", Qt::Key_4, 2},    {"Sketcher.Rotate", Qt::Key_T, 2},
+    {"Sketcher.Move", Qt::Key_M, 1},         {"Sketcher.CopyTo", Qt::Key_unknown, 1},
+    {"Sketcher.Mirror", Qt::Key_unknown, 1}, {"Sketcher.Offset", Qt::Key_unknown, 1},
     {"Sketcher.Erase", Qt::Key_E, 0},
 };
 constexpr int DrawingTools = 5;
+constexpr int EraseTool = 10;
+
+/// Rotate and move change what is selected; the others add to it.
 constexpr int RotateTool = 5;
-constexpr int EraseTool = 6;
+constexpr int MoveTool = 6;
+constexpr int CopyTool = 7;
+constexpr int MirrorTool = 8;
+constexpr int OffsetTool = 9;
+constexpr int ModifyingTools[] = {RotateTool, RotateTool, RotateTool, RotateTool, RotateTool,
+                                  MoveTool,   CopyTool,   MirrorTool, OffsetTool};
 
 constexpr const char* ZoomEntries[] = {
     "Sketcher.ZoomAll",        "Sketcher.Zoom.In",         "Sketcher.Zoom.Out",
@@ -42,6 +54,10 @@ constexpr const char* SettingButtons[] = {
 constexpr const char* Pens[] = {"Sketcher.LineStyle", "Sketcher.LineColour", "Sketcher.LineWidth"};
 
 constexpr const char* PaneCommands[] = {"Sketcher.HideAllPanes", "Sketcher.DefaultLayout"};
+
+constexpr int LayerBoxes[] = {LayerModel::VisibleColumn, LayerModel::LockedColumn};
+
+constexpr const char* LayerButtons[] = {"MakeLayerCurrent", "RemoveLayer", "RemoveLayer"};
 
 constexpr const char* Values[] = {
     "50",    "12.5", ".7",   "90",    "-90",     "45",     "180",         "360",
@@ -88,6 +104,15 @@ constexpr KeyChoice OtherKeys[] = {
     {"keypad -", Qt::Key_Minus, Qt::KeypadModifier},
     {"Ctrl+A", Qt::Key_A, Qt::ControlModifier},
     {"Ctrl+Z", Qt::Key_Z, Qt::ControlModifier},
+    {"Ctrl+Y", Qt::Key_Y, Qt::ControlModifier},
+};
+
+/// What a selection is put into the clipboard or copied with.
+constexpr KeyChoice CopyingKeys[] = {
+    {"Ctrl+C", Qt::Key_C, Qt::ControlModifier},
+    {"Ctrl+X", Qt::Key_X, Qt::ControlModifier},
+    {"Ctrl+D", Qt::Key_D, Qt::ControlModifier},
+    {"Delete", Qt::Key_Delete, Qt::NoModifier},
 };
 
 }

@@ -30,7 +30,11 @@ RandomUser::RandomUser(unsigned seed, ScriptedUser& user, SittingWatch& watch)
 
 void RandomUser::Plan()
 {
-    const int count = 30 + Choose(31);
+    Plan(30 + Choose(31));
+}
+
+void RandomUser::Plan(int count)
+{
     ResizeWindow({1400, 1000});
     while (m_noted < count)
     {
@@ -39,13 +43,19 @@ void RandomUser::Plan()
         DoSomething();
         FidgetSometimes();
         EndBurst();
+        if (IsOneIn(10))
+            ClearIfCrowded();
         m_user.Until(&AreButtonsRight);
     }
 }
 
 QStringList RandomUser::AllCommands()
 {
-    QStringList ids = {"Sketcher.Undo", "Sketcher.KeyStrip", "Sketcher.SetProperty"};
+    QStringList ids = {"Sketcher.Undo",         "Sketcher.Redo",      "Sketcher.KeyStrip",
+                       "Sketcher.SetProperty",  "Sketcher.Delete",    "Sketcher.SelectAll",
+                       "Sketcher.Copy",         "Sketcher.Cut",       "Sketcher.Paste",
+                       "Sketcher.PasteContent", "Sketcher.Duplicate", "Sketcher.DuplicateBy",
+                       "Sketcher.AddLayer",     "Sketcher.SetLayer",  "Sketcher.RemoveLayer"};
     for (const Tool& tool : Tools)
         ids << tool.id;
     for (const char* id : ZoomEntries)
@@ -60,23 +70,30 @@ QStringList RandomUser::AllCommands()
 
 void RandomUser::DoSomething()
 {
-    switch (Choose(16))
+    switch (Choose(22))
     {
     case 0:
     case 1:
     case 2:
-        return Turn();
     case 3:
-        return Erase();
     case 4:
-        return IsOneIn(2) ? Select() : SelectAll();
+        return Modify();
     case 5:
+        return Erase();
     case 6:
-        return EditProperty();
+        return IsOneIn(2) ? Select() : SelectAll();
     case 7:
-        return Arrange();
     case 8:
-        return ClickButton("Sketcher.Undo");
+        return EditProperty();
+    case 9:
+        return Arrange();
+    case 10:
+    case 11:
+        return UndoAndRedo();
+    case 12:
+        return UseClipboard();
+    case 13:
+        return IsOneIn(4) ? NameDrawing() : UseLayers();
     default:
         return Draw();
     }
@@ -99,13 +116,36 @@ void RandomUser::Draw()
     }
 }
 
-void RandomUser::Turn()
+/// What adds to the drawing gets one entity: otherwise the drawing would double each time.
+void RandomUser::Modify()
 {
-    SelectAll();
-    BeginTool(RotateTool);
-    ClickPoints(Tools[RotateTool].points);
+    const int tool = Pick(ModifyingTools);
+    tool == RotateTool || tool == MoveTool ? SelectAll() : ClickRow();
+    BeginTool(tool);
+    ClickPoints(Tools[tool].points);
     MoveMouse();
     EnterValues();
+    if (tool != RotateTool)
+        Press("Escape", Qt::Key_Escape);
+}
+
+void RandomUser::UndoAndRedo()
+{
+    Press("Escape", Qt::Key_Escape);
+    for (int i = 1 + Choose(4); i > 0; --i)
+        ClickButton("Sketcher.Undo");
+    for (int i = Choose(4); i > 0; --i)
+        IsOneIn(2) ? ClickButton("Sketcher.Redo") : Press("Ctrl+Y", Qt::Key_Y, Qt::ControlModifier);
+}
+
+void RandomUser::UseClipboard()
+{
+    Press("Escape", Qt::Key_Escape);
+    ClickRow();
+    const KeyChoice choice = Pick(CopyingKeys);
+    Press(choice.name, choice.key, choice.modifier);
+    for (int i = Choose(3); i > 0; --i)
+        Press("Ctrl+V", Qt::Key_V, Qt::ControlModifier);
 }
 
 void RandomUser::Erase()

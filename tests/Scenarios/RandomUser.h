@@ -24,6 +24,9 @@ public:
     /// Plans the acts of a sitting: 30 to 60, or a few more.
     void Plan();
 
+    /// Plans that many acts, or a few more.
+    void Plan(int count);
+
     /// The commands that are started in at least some sittings.
     static QStringList AllCommands();
 
@@ -33,7 +36,13 @@ private:
     /// Complete tasks in the program, carried out more or less well.
     void DoSomething();
     void Draw();
-    void Turn();
+    void Modify();
+    void UndoAndRedo();
+    void UseClipboard();
+    void UseLayers();
+    void ClickLayer(const char* button);
+    void NameDrawing();
+    void ClearIfCrowded();
     void Erase();
     void Select();
     void SelectAll();

@@ -7,6 +7,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QListView>
 #include <QPersistentModelIndex>
@@ -31,9 +32,10 @@ JournalPane::JournalPane()
     m_pView->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_pView->setFrameShape(QFrame::NoFrame);
 
-    auto* pCopy = new QAction(QStringLiteral("复制记录"), m_pView);
-    pCopy->setShortcut(QKeySequence::Copy);
-    pCopy->setShortcutContext(Qt::WidgetShortcut);
+    // No shortcut: it would be ambiguous with that of the command that copies entities.
+    const QString keys = QKeySequence(QKeySequence::Copy).toString(QKeySequence::NativeText);
+    auto* pCopy = new QAction(QStringLiteral("复制记录\t") + keys, m_pView);
+    m_pView->installEventFilter(this);
     connect(pCopy, &QAction::triggered, this, &JournalPane::Copy);
     m_pView->addAction(pCopy);
     m_pView->setContextMenuPolicy(Qt::ActionsContextMenu);
@@ -58,6 +60,20 @@ void JournalPane::UpdateStatus()
         m_pView->scrollToBottom();
     else if (top.isValid())
         m_pView->scrollTo(top, QAbstractItemView::PositionAtTop);
+}
+
+/// Takes the keys that copy while records are selected.
+bool JournalPane::eventFilter(QObject* pWatched, QEvent* pEvent)
+{
+    const bool isKey =
+        pEvent->type() == QEvent::ShortcutOverride || pEvent->type() == QEvent::KeyPress;
+    const bool isCopy = isKey && static_cast<QKeyEvent*>(pEvent)->matches(QKeySequence::Copy);
+    if (!isCopy || !m_pView->selectionModel()->hasSelection())
+        return QWidget::eventFilter(pWatched, pEvent);
+    if (pEvent->type() == QEvent::KeyPress)
+        Copy();
+    pEvent->accept();
+    return true;
 }
 
 void JournalPane::Copy() const

@@ -19,6 +19,9 @@ public:
 
     void UpdateStatus() override;
 
+protected:
+    bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
+
 private:
     void Copy() const;
 
