@@ -83,6 +83,32 @@ private slots:
         QVERIFY(sketch.CanUndo());
     }
 
+    void whenIdsOfLayersRunOutNothingIsInserted()
+    {
+        SketchContent content = SomeContent();
+        content.lastLayerId = std::numeric_limits<int>::max();
+        Sketch sketch;
+        QVERIFY(sketch.Restore(content));
+        SketchContent other = SomeContent();
+        other.layers[1].name = L"doors";
+
+        QVERIFY(sketch.Insert(other, L"粘贴").empty());
+
+        QCOMPARE(sketch.GetDigest(), DigestOf(content).ToText());
+    }
+
+    void aNewDrawingHasUndoneNothing()
+    {
+        Sketch sketch;
+        sketch.AddLine({0, 0, 0}, {1, 0, 0});
+        sketch.Undo();
+        QCOMPARE(sketch.GetLastUndone(), 1);
+
+        sketch.Clear();
+
+        QCOMPARE(sketch.GetLastUndone(), 0);
+    }
+
     void whenIdsRunOutNothingIsAdded()
     {
         constexpr int Greatest = SketchContent::GreatestId;
