@@ -128,7 +128,7 @@ private slots:
         QVERIFY(!RecordsOf<vesk::SelectionRecord>(m_records).empty());
         QVERIFY(DigestsIn(m_records).size() >= static_cast<std::size_t>(CountActs() / 100));
         // A short session has no time for everything.
-        if (CountActs() < 10 * ActsByDefault)
+        if (CountActs() < 20 * ActsByDefault)
             return;
         QVERIFY(!RecordsOf<vesk::PropertyRecord>(m_records).empty());
         QCOMPARE(missing.join(QLatin1Char(' ')), QString());
