@@ -242,6 +242,89 @@ private slots:
         QVERIFY((content.entities.at(1).pen == Pen{2, 3, 8, 1}));
     }
 
+    void radiiAreInTheFilesUnit()
+    {
+        const std::string file = Replaced(DxfFile({{0, "CIRCLE"},
+                                                   {10, "1"},
+                                                   {20, "0"},
+                                                   {40, "2"},
+                                                   {0, "ARC"},
+                                                   {10, "1"},
+                                                   {20, "0"},
+                                                   {40, "2"},
+                                                   {50, "0"},
+                                                   {51, "360"}}),
+                                          "70\n4\n", "70\n1\n");
+
+        const DxfReading reading = ReadDxf(file, {});
+
+        QCOMPARE(std::get<CircleShape>(reading.content.entities.at(0).shape).radius, 50.8);
+        const auto& arc = std::get<ArcShape>(reading.content.entities.at(1).shape);
+        QCOMPARE(arc.radius, 50.8);
+        QVERIFY(arc.start == arc.end);
+    }
+
+    void frozenLayersAreHidden()
+    {
+        const DxfReading reading = ReadDxf(DxfFile({}, {{0, "TABLE"},
+                                                        {2, "LAYER"},
+                                                        {0, "LAYER"},
+                                                        {2, "axes"},
+                                                        {70, "1"},
+                                                        {62, "1"},
+                                                        {6, "CONTINUOUS"},
+                                                        {0, "ENDTAB"}}),
+                                           {});
+
+        QVERIFY(!reading.content.layers.at(1).isVisible);
+        QVERIFY(!reading.content.layers.at(1).isLocked);
+    }
+
+    void whatIsReplacedByTheNearestIsTold_data()
+    {
+        QTest::addColumn<QByteArray>("field");
+        QTest::addColumn<int>("colour");
+        QTest::addColumn<QByteArray>("what");
+
+        QTest::newRow("colour number") << QByteArray("62\n150\n") << 4 << QByteArray("colour");
+        QTest::newRow("true colour")
+            << QByteArray("62\n1\n420\n255\n") << 4 << QByteArray("colour");
+        QTest::newRow("line weight") << QByteArray("370\n22\n") << 0 << QByteArray("line weight");
+    }
+
+    void whatIsReplacedByTheNearestIsTold()
+    {
+        QFETCH(QByteArray, field);
+        QFETCH(int, colour);
+        QFETCH(QByteArray, what);
+        const std::string file =
+            Replaced(s_line, "LINE\n8\n0\n", "LINE\n8\n0\n" + field.toStdString());
+
+        const DxfReading reading = ReadDxf(file, {});
+
+        QCOMPARE(reading.content.entities.at(0).pen.colour, colour);
+        const std::string report = ReportOf(reading);
+        const std::string told = "\"what\":\"" + what.toStdString() + '"';
+        QVERIFY2(report.find(told) != std::string::npos, report.c_str());
+    }
+
+    void splinesAreLeftOut()
+    {
+        const DxfReading reading = ReadDxf(DxfFile({{0, "POLYLINE"},
+                                                    {66, "1"},
+                                                    {70, "4"},
+                                                    {0, "VERTEX"},
+                                                    {10, "0"},
+                                                    {20, "0"},
+                                                    {0, "VERTEX"},
+                                                    {10, "4"},
+                                                    {20, "0"},
+                                                    {0, "SEQEND"}}),
+                                           {});
+
+        QVERIFY(reading.content.entities.empty());
+    }
+
     void namesAreReadInTheFilesCodePage_data()
     {
         QTest::addColumn<QByteArray>("name");

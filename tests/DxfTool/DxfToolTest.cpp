@@ -86,6 +86,28 @@ private slots:
 
         QVERIFY(run.messages.find("{\"kind\":\"progress\",\"share\":1.0}\n") == 0);
         QVERIFY(run.messages.find("null") == std::string::npos);
+}
+
+    void tooManyEntitiesAreNotExported()
+    {
+        SketchContent content;
+        content.entities = {{1, LineShape{{0, 0, 0}, {1, 0, 0}}, {}},
+                            {2, LineShape{{0, 0, 0}, {2, 0, 0}}, {}}};
+        content.lastId = 2;
+        const std::string document = DocumentFile::ToText(content);
+
+        QCOMPARE(RunTool({"export", "--max-entities", "1"}, document).code, DxfExit::TooLarge);
+        QCOMPARE(RunTool({"export", "--max-entities", "2"}, document).code, DxfExit::Done);
+    }
+
+    void outputThatCannotBeWrittenIsTold()
+    {
+        std::istringstream input(s_file);
+        std::ostringstream output;
+        std::ostringstream messages;
+        output.setstate(std::ios::badbit);
+
+        QCOMPARE(RunDxfTool({"import"}, input, output, messages), DxfExit::Unwritten);
     }
 
     void whatGoesWrongHasItsOwnCode_data()
@@ -104,6 +126,8 @@ private slots:
                                   << DxfExit::Usage;
         QTest::newRow("huge") << QByteArray("import --max-entities 1000000001") << file
                               << DxfExit::Usage;
+        QTest::newRow("half a count")
+            << QByteArray("import --max-entities 5x") << file << DxfExit::Usage;
         QTest::newRow("not dxf") << QByteArray("import") << QByteArray("{}") << DxfExit::Unusable;
         QTest::newRow("not a drawing") << QByteArray("export") << file << DxfExit::Unusable;
         QTest::newRow("nobody knows the unit")

@@ -129,6 +129,14 @@ private slots:
         QCOMPARE_EXACTLY(found.end.y(), -1e-5);
     }
 
+    void wholeNumbersHaveAPointAndTheFileAnEnd()
+    {
+        const std::string text = ToText(ContentWith({LineShape{{1, 2, 0}, {3, 4, 0}}}));
+
+        QVERIFY(text.find("\n 10\n1.0\n") != std::string::npos);
+        QVERIFY(QByteArray::fromStdString(text).endsWith("\nEOF\n"));
+    }
+
     void clockwiseArcsAreTurnedRound()
     {
         const ArcShape clockwise{{1, 2, 0}, 5, {6, 2, 0}, {1, 7, 0}, -Vector3d::UnitZ()};
@@ -216,6 +224,7 @@ private slots:
     {
         SketchContent content;
         content.layers.push_back({1, L"轴线", 0, true, false});
+        content.layers.push_back({2, L"\u00e9", 0, true, false});
 
         const std::string text = ToText(content);
 

@@ -38,6 +38,10 @@ private slots:
         Corners slanted = s_square;
         slanted[2].point.x() = 5;
 
+        Corners bulged = s_square;
+        bulged[1].bulge = 0.5;
+
+        QCOMPARE(ShapesOfPolyline(bulged, true).size(), std::size_t(4));
         QCOMPARE(ShapesOfPolyline(s_square, false).size(), std::size_t(3));
         QCOMPARE(ShapesOfPolyline(slanted, true).size(), std::size_t(4));
         QVERIFY(ShapesOfPolyline(slanted, true).at(3) == Shape(LineShape{{0, 4, 0}, {0, 0, 0}}));
@@ -89,6 +93,13 @@ private slots:
         const auto shapes = ShapesOfPolyline({{{0, 0, 0}, bulge}, {{4, 0, 0}}}, false);
 
         QVERIFY(shapes.at(0) == Shape(LineShape{{0, 0, 0}, {4, 0, 0}}));
+    }
+
+    void shortFlatBulgeIsALine()
+    {
+        const auto shapes = ShapesOfPolyline({{{0, 0, 0}, 1e-9}, {{0.001, 0, 0}}}, false);
+
+        QVERIFY(shapes.at(0) == Shape(LineShape{{0, 0, 0}, {0.001, 0, 0}}));
     }
 
     void pointsMakeNoShape()

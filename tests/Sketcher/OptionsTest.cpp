@@ -179,6 +179,8 @@ private slots:
         QVERIFY(detailed.repetition.isStaying);
         QVERIFY(detailed.repetition.isSynced);
         QVERIFY(!Parse({"--replay", path, "--speed", "max"}).repetition.isRealTime);
+        QVERIFY(!Parse({"--replay", path, "--stay"}).repetition.isSynced);
+        QVERIFY(!Parse({"--replay", path, "--journal-sync"}).repetition.isStaying);
     }
 
     void aReplayAskedForWronglyIsAnError_data()
