@@ -86,7 +86,7 @@ private slots:
 
         QVERIFY(run.messages.find("{\"kind\":\"progress\",\"share\":1.0}\n") == 0);
         QVERIFY(run.messages.find("null") == std::string::npos);
-}
+    }
 
     void tooManyEntitiesAreNotExported()
     {

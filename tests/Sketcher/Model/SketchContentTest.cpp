@@ -86,7 +86,7 @@ private slots:
     void whenIdsOfLayersRunOutNothingIsInserted()
     {
         SketchContent content = SomeContent();
-        content.lastLayerId = std::numeric_limits<int>::max();
+        content.lastLayerId = SketchContent::GreatestId;
         Sketch sketch;
         QVERIFY(sketch.Restore(content));
         SketchContent other = SomeContent();

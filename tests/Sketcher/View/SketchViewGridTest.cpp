@@ -62,6 +62,7 @@ private slots:
         const QImage picture = f.view.grab().toImage();
 
         QImage paper(picture.size(), picture.format());
+        paper.setDevicePixelRatio(picture.devicePixelRatio());
         paper.fill(s_paper);
         QCOMPARE(picture, paper);
     }
