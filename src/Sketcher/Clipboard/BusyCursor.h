@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCursor>
 #include <QGuiApplication>
 
 /// While it lives the cursor says everywhere that the program is busy; if it need not, nothing
