@@ -54,7 +54,11 @@ void DesktopTest::init()
     m_isErrorOutputAccepted = false;
     m_areWarningsAccepted = false;
     m_pSession = std::make_unique<DesktopSession>(m_server.GetDisplay());
-    QVERIFY2(m_pSession->Start(), "the program did not start");
+    if (m_pSession->Start())
+        return;
+    // Qt calls no cleanup after this.
+    SaveEvidence();
+    QFAIL("the program did not start");
 }
 
 void DesktopTest::cleanup()
@@ -62,9 +66,14 @@ void DesktopTest::cleanup()
     if (!QTest::currentTestFailed())
         CheckHealth();
     if (QTest::currentTestFailed())
-        Session().SaveEvidence(QCoreApplication::applicationDirPath() + "/../desktop-failures/" +
-                               metaObject()->className() + "." + QTest::currentTestFunction());
+        SaveEvidence();
     m_pSession.reset();
+}
+
+void DesktopTest::SaveEvidence()
+{
+    Session().SaveEvidence(QCoreApplication::applicationDirPath() + "/../desktop-failures/" +
+                           metaObject()->className() + "." + QTest::currentTestFunction());
 }
 
 void DesktopTest::CheckHealth()

@@ -53,6 +53,7 @@ private slots:
     void cleanup();
 
 private:
+    void SaveEvidence();
     void CheckHealth();
 
     XServer m_server;
