@@ -52,6 +52,11 @@ void PaperPreview::Draw()
     time.start();
     const bool isWhole = PaintOnPaper(painter, m_content, m_placement,
                                       [&time](double) { return time.elapsed() < LongestMs; });
+    // White paper must be seen in a light window, too.
+    painter.resetTransform();
+    painter.setPen(QPen(Qt::gray, 0));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(QRectF(QPointF(), paper * pixels).adjusted(0.5, 0.5, -0.5, -0.5));
     painter.end();
     setPixmap(QPixmap::fromImage(image));
     setToolTip(isWhole ? QString() : QStringLiteral("图纸很大，预览只画出一部分；打印是完整的"));

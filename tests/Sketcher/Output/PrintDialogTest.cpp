@@ -109,6 +109,16 @@ private slots:
         QVERIFY(f.Preview() != before);
     }
 
+    void thePaperHasAnEdge()
+    {
+        const PrintFixture f;
+
+        const QImage paper = f.Preview();
+
+        QVERIFY(paper.pixelColor(0, paper.height() / 2) != QColor(Qt::white));
+        QVERIFY(paper.pixelColor(paper.width() / 2, 0) != QColor(Qt::white));
+    }
+
     void thePreviewGrowsAndShrinksWithTheDialog()
     {
         PrintFixture f;
