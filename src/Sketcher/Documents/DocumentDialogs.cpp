@@ -1,8 +1,9 @@
 #include "Documents/DocumentDialogs.h"
 
+#include "HostUi/PlainMessageBox.h"
+
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QLabel>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
@@ -13,12 +14,7 @@ namespace
 QPointer<QMessageBox> MakeBox(QWidget* pParent, QMessageBox::Icon icon, const QString& text,
                               const QString& details)
 {
-    auto* pBox = new QMessageBox(icon, QStringLiteral("Sketcher"), text, {}, pParent);
-    pBox->setInformativeText(details);
-    // What comes from a file may look like markup; the box's own format is not for the details.
-    for (auto* pLabel : pBox->findChildren<QLabel*>())
-        pLabel->setTextFormat(Qt::PlainText);
-    return pBox;
+    return vesk::MakePlainMessageBox(pParent, icon, QStringLiteral("Sketcher"), text, details);
 }
 
 /// The button that was chosen; null if there is none any more.

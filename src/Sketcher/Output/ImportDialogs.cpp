@@ -3,9 +3,10 @@
 #include "Output/DxfImport.h"
 #include "Output/NamedDxfUnit.h"
 
+#include "HostUi/PlainMessageBox.h"
+
 #include <QFileDialog>
 #include <QInputDialog>
-#include <QMessageBox>
 #include <QPointer>
 
 QString AskForImportPath(QWidget& window)
@@ -45,23 +46,21 @@ QString AskForDxfUnit(QWidget& window, const QString& fileName)
 /// A report with many remarks would be higher than the screen: the rest is among the details.
 void ShowImportReport(QWidget& window, const QString& fileName, const DxfReportText& report)
 {
-    auto* pBox = new QMessageBox(QMessageBox::Information, QStringLiteral("导入"),
-                                 QStringLiteral("%1：已导入 %2 个图元，另有 %3 项说明。")
-                                     .arg(fileName, QString::number(report.importedCount),
-                                          QString::number(report.remarks.size())),
-                                 QMessageBox::Ok, &window);
-    // Names come from elsewhere.
-    pBox->setTextFormat(Qt::PlainText);
-    pBox->setObjectName(QStringLiteral("ImportReport"));
-    pBox->setAttribute(Qt::WA_DeleteOnClose);
-    pBox->setWindowModality(Qt::NonModal);
     constexpr int MostLines = 10;
     QStringList lines = report.remarks.mid(0, MostLines);
     if (report.remarks.size() > MostLines)
-    {
         lines << QStringLiteral("……");
+    const QString text = QStringLiteral("%1：已导入 %2 个图元，另有 %3 项说明。")
+                             .arg(fileName, QString::number(report.importedCount),
+                                  QString::number(report.remarks.size()));
+    auto* pBox =
+        vesk::MakePlainMessageBox(&window, QMessageBox::Information, QStringLiteral("导入"), text,
+                                  lines.join(QLatin1Char('\n')));
+    pBox->setStandardButtons(QMessageBox::Ok);
+    if (report.remarks.size() > MostLines)
         pBox->setDetailedText(report.remarks.join(QLatin1Char('\n')));
-    }
-    pBox->setInformativeText(lines.join(QLatin1Char('\n')));
+    pBox->setObjectName(QStringLiteral("ImportReport"));
+    pBox->setAttribute(Qt::WA_DeleteOnClose);
+    pBox->setWindowModality(Qt::NonModal);
     pBox->show();
 }

@@ -1,6 +1,6 @@
 #include "Output/OutputFault.h"
 
-#include <QMessageBox>
+#include "HostUi/PlainMessageBox.h"
 
 namespace
 {
@@ -49,12 +49,11 @@ void ShowOutputFault(QWidget& window, const QString& text, const QString& reason
 {
     if (qEnvironmentVariable("VESK_UNATTENDED") == QLatin1String("1"))
         return;
-    auto* pBox = new QMessageBox(QMessageBox::Warning, QStringLiteral("Sketcher"), text,
-                                 QMessageBox::Ok, &window);
+    auto* pBox = vesk::MakePlainMessageBox(&window, QMessageBox::Warning,
+                                           QStringLiteral("Sketcher"), text, reason);
+    pBox->setStandardButtons(QMessageBox::Ok);
     pBox->setObjectName(QStringLiteral("OutputFault"));
     pBox->setAttribute(Qt::WA_DeleteOnClose);
     pBox->setWindowModality(Qt::NonModal);
-    pBox->setTextFormat(Qt::PlainText);
-    pBox->setInformativeText(reason);
     pBox->show();
 }
