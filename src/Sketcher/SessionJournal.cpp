@@ -91,7 +91,8 @@ bool SessionJournal::Open(std::string& error)
 /// The file is locked before it is moved: another program may still be writing it.
 bool SessionJournal::SecureReplaced(std::string& error)
 {
-    if (IsEnded(m_path) || !FindUnsavedWork(m_path).has_value())
+    if (!QFileInfo::exists(m_path) || IsEnded(m_path) ||
+        (IsReadable(m_path) && !FindUnsavedWork(m_path).has_value()))
         return true;
     if (!Manager().Reserve(m_path.toStdString(), error))
         return false;
@@ -99,7 +100,7 @@ bool SessionJournal::SecureReplaced(std::string& error)
     const std::optional<QString> secured =
         GetFolder().TakeIn(QFileInfo(m_path).canonicalFilePath());
     if (!secured.has_value())
-        error = m_path.toStdString() + " holds unsaved work, which cannot be moved to " +
+        error = m_path.toStdString() + " may hold unsaved work, which cannot be moved to " +
                 GetFolder().GetPath().toStdString();
     m_secured = secured.value_or(QString());
     return secured.has_value();

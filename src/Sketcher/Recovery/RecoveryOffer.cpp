@@ -5,7 +5,6 @@
 #include "Command/ActionManager.h"
 #include "Command/IActionManager.h"
 #include "HostUi/MainWindow.h"
-#include "Journal/JournalFormat.h"
 #include "Journal/JournalManager.h"
 
 #include <QFileInfo>
@@ -45,14 +44,6 @@ void Prune(const JournalFolder& folder, const QString& ownJournal)
         const bool isUndecided = !JournalFolder::IsSettled(journal) && !IsEnded(journal);
         return isUndecided && !IsTooOld(journal, undecidedCount++);
     });
-}
-
-/// False if the journal is damaged or cannot be read now: there may be work in it all the same.
-bool IsReadable(const QString& journal)
-{
-    std::vector<JournalRecord> records;
-    std::string error;
-    return JournalFormat::ReadFile(journal.toStdString(), records, error);
 }
 
 void FindOrSettle(const QString& journal, std::vector<UnsavedWork>& works)

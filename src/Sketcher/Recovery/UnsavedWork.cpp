@@ -129,6 +129,13 @@ bool IsEnded(const QString& journal)
            std::holds_alternative<CloseRecord>(record.what);
 }
 
+bool IsReadable(const QString& journal)
+{
+    std::vector<JournalRecord> records;
+    std::string error;
+    return JournalFormat::ReadFile(journal.toStdString(), records, error);
+}
+
 std::optional<UnsavedWork> FindUnsavedWork(const QString& journal)
 {
     UnsavedWork work;

@@ -23,6 +23,9 @@ struct UnsavedWork
 /// if it cannot be read.
 bool IsEnded(const QString& journal);
 
+/// False if the journal is damaged or cannot be read now: there may be work in it all the same.
+bool IsReadable(const QString& journal);
+
 /// The work in a journal. Nothing if no step was finished, or if the drawing is as it was when it
 /// was opened or saved. Reads the whole file; may be called in any thread.
 std::optional<UnsavedWork> FindUnsavedWork(const QString& journal);
