@@ -32,6 +32,19 @@ SketchContent MakePlate()
                       CircleShape{corner + Vector3d(50, 25, 0), 10, Vector3d::UnitZ()}});
 }
 
+/// The text of the first title; empty if there is none.
+QString TitleOf(const QByteArray& xml)
+{
+    QXmlStreamReader reader(xml);
+    while (!reader.atEnd())
+    {
+        if (reader.readNext() == QXmlStreamReader::StartElement &&
+            reader.name() == QLatin1String("title"))
+            return reader.readElementText();
+    }
+    return {};
+}
+
 /// The attributes of the outermost element.
 QXmlStreamAttributes RootOf(const QByteArray& xml)
 {
@@ -79,6 +92,31 @@ private slots:
         QCOMPARE(root.value("width").toString(), QStringLiteral("110mm"));
         QCOMPARE(root.value("height").toString(), QStringLiteral("60mm"));
         QCOMPARE(root.value("viewBox").toString(), QStringLiteral("0 0 110 60"));
+    }
+
+    void svgHasTheTitleOfTheDrawing_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("title");
+
+        QTest::newRow("plain") << "支架 📐"
+                               << "支架 📐";
+        QTest::newRow("like markup") << "<a> & \"b\""
+                                     << "<a> & \"b\"";
+        QTest::newRow("control") << QString("a") + QChar(1) + 'b' << "a b";
+        QTest::newRow("no character") << QString("a") + QChar(0xffff) + 'b' << "a b";
+    }
+
+    void svgHasTheTitleOfTheDrawing()
+    {
+        QFETCH(QString, name);
+        SketchContent content = MakePlate();
+        content.name = name.toStdWString();
+
+        const QByteArray bytes = MakeSvg(content, &GoOn).bytes;
+
+        QTEST(TitleOf(bytes), "title");
+        QVERIFY(QSvgRenderer(bytes).isValid());
     }
 
     void svgShowsTheDrawing()
