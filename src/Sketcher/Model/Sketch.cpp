@@ -86,8 +86,6 @@ std::vector<int> Sketch::Add(const std::vector<PenShape>& shapes, const std::wst
         change.entities.emplace_hint(change.entities.end(), ids.back(),
                                      Entity{ids.back(), shape, pen});
     }
-    if (!change.layers.empty())
-        m_content.lastLayerId = change.layers.rbegin()->first;
     Push(std::move(change), ids.front(), stepName);
     return ids;
 }

@@ -125,8 +125,6 @@ void PaintWhole(QPainter& painter, const QPen& pen, const Shape& shape,
                                AddArc(path, mapped, {0.0, std::abs(mapped.sweep)});
                            },
                        });
-    if (std::holds_alternative<RectangleShape>(shape))
-        path.closeSubpath();
     painter.setPen(pen);
     painter.drawPath(path);
 }

@@ -17,6 +17,7 @@
 #include <cmath>
 #include <cstddef>
 #include <optional>
+#include <string>
 
 namespace
 {
@@ -33,6 +34,18 @@ bool PaintOnDevice(QPaintDevice& device, double unitsPerMillimetre, const Sketch
         painter.scale(unitsPerMillimetre, unitsPerMillimetre);
     painter.setRenderHint(QPainter::Antialiasing);
     return PaintOnPaper(painter, content, placement, progress);
+}
+
+/// The title in XML: QSvgGenerator writes it as it is.
+QString TitleInXml(const std::wstring& name)
+{
+    QString title = vesk::ToQString(name);
+    for (QChar& c : title)
+    {
+        if (c.category() == QChar::Other_Control || c.isNonCharacter()) // XML has no such ones.
+            c = QLatin1Char(' ');
+    }
+    return title.toHtmlEscaped();
 }
 
 bool IsWithin(const QSizeF& size, double greatest)
@@ -67,7 +80,7 @@ OutputBytes MakeSvg(const SketchContent& content, const OutputProgress& progress
     buffer.open(QIODevice::WriteOnly);
     QSvgGenerator generator;
     generator.setOutputDevice(&buffer);
-    generator.setTitle(vesk::ToQString(content.name));
+    generator.setTitle(TitleInXml(content.name));
     // The size in the file is the number of units divided by the resolution.
     generator.setResolution(UnitsPerInch);
     generator.setSize((placement.paper * (UnitsPerInch / MillimetresPerInch)).toSize());

@@ -7,6 +7,8 @@
 
 #include <QTemporaryDir>
 
+#include <new>
+
 namespace
 {
 
@@ -104,10 +106,25 @@ private slots:
                  OutputFault::CannotWrite);
     }
 
+    void tooLittleMemoryIsToldAndLeavesTheFile()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath("old.svg");
+        QVERIFY(vesk::WriteBytes(path, "old"));
+        ExportFormat greedy = *ExportFormatOf(path);
+        greedy.make = [](const SketchContent&, const OutputProgress&) -> OutputBytes {
+            throw std::bad_alloc();
+        };
+
+        QCOMPARE(ExportDrawing(MakeLine(), greedy, path, &GoOn), OutputFault::OutOfMemory);
+
+        QCOMPARE(vesk::ReadBytes(path), QByteArray("old"));
+    }
+
     void everyFaultHasTexts_data()
     {
         QTest::addColumn<OutputFault>("fault");
-        for (int i = 1; i <= static_cast<int>(OutputFault::DxfToolFailed); ++i)
+        for (int i = 1; i <= static_cast<int>(OutputFault::NoDxfUnit); ++i)
             QTest::addRow("%d", i) << static_cast<OutputFault>(i);
     }
 

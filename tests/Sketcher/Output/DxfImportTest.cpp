@@ -67,6 +67,14 @@ private slots:
                                               QStringLiteral("文件不完整，只读到中断处")}));
     }
 
+    void aReasonWithoutWordsIsToldAsItIs()
+    {
+        const DxfReportText report = ReadDxfReport(
+            "{\"kind\":\"skipped\",\"type\":\"TEXT\",\"reason\":\"upside down\",\"count\":4}\n");
+
+        QCOMPARE(report.remarks, QStringList{QStringLiteral("未导入 4 个 TEXT：upside down")});
+    }
+
     void otherMessagesAreIgnored()
     {
         const DxfReportText report = ReadDxfReport("abc\n[1]\n\n{\"kind\":\"other\"}\n{");

@@ -5,9 +5,14 @@
 #include "Support/TestValues.h"
 
 #include <QImage>
+#include <QPaintDevice>
+#include <QPaintEngine>
 #include <QPainter>
+#include <QPainterPath>
 
+#include <algorithm>
 #include <cmath>
+#include <optional>
 
 using vesk::Vector3d;
 
@@ -16,16 +21,68 @@ namespace
 
 constexpr double PixelsPerMillimetre = 20.0;
 
-/// A sheet of 10 x 10 mm whose lower left corner is (0, 0), painted with 20 pixels per millimetre.
+/// A sheet of 10 x 10 mm whose lower left corner is (0, 0).
+void PaintSheet(QPainter& painter, const SketchContent& content, double scale)
+{
+    const PaperPlacement placement{scale, {0.0, 10.0 / scale, 0.0}, {10.0, 10.0}};
+    PaintOnPaper(painter, content, placement, [](double) { return true; });
+}
+
+/// The sheet, painted with 20 pixels per millimetre.
 QImage Paint(const SketchContent& content, double scale = 1.0)
 {
     QImage image(200, 200, QImage::Format_RGB32);
     image.fill(Qt::white);
     QPainter painter(&image);
     painter.scale(PixelsPerMillimetre, PixelsPerMillimetre);
-    const PaperPlacement placement{scale, {0.0, 10.0 / scale, 0.0}, {10.0, 10.0}};
-    PaintOnPaper(painter, content, placement, [](double) { return true; });
+    PaintSheet(painter, content, scale);
     return image;
+}
+
+/// Takes the paths that are painted as they are.
+class PathEngine final : public QPaintEngine
+{
+public:
+    PathEngine() : QPaintEngine(AllFeatures) {}
+
+    bool begin(QPaintDevice*) override { return true; }
+    bool end() override { return true; }
+    void updateState(const QPaintEngineState&) override {}
+    void drawPath(const QPainterPath& drawn) override { path.addPath(drawn); }
+    void drawPixmap(const QRectF&, const QPixmap&, const QRectF&) override {}
+    Type type() const override { return User; }
+
+    QPainterPath path;
+};
+
+class PathRecorder final : public QPaintDevice
+{
+public:
+    QPaintEngine* paintEngine() const override { return &m_engine; }
+    const QPainterPath& GetPath() const { return m_engine.path; }
+
+private:
+    int metric(PaintDeviceMetric) const override { return 1000; }
+
+    mutable PathEngine m_engine;
+};
+
+/// The greatest share of the radius that a path of curves is off a circle.
+double ErrorOf(const QPainterPath& path, const QPointF& centre, double radius)
+{
+    constexpr int StepsPerCurve = 40;
+    double error = 0.0;
+    for (int i = 1; i + 2 < path.elementCount(); i += 3)
+    {
+        QPainterPath curve(path.elementAt(i - 1));
+        curve.cubicTo(path.elementAt(i), path.elementAt(i + 1), path.elementAt(i + 2));
+        for (int step = 0; step <= StepsPerCurve; ++step)
+        {
+            const QPointF spoke = curve.pointAtPercent(double(step) / StepsPerCurve) - centre;
+            error = std::max(error, std::abs(std::hypot(spoke.x(), spoke.y()) / radius - 1.0));
+        }
+    }
+    return error;
 }
 
 QColor At(const QImage& image, double x, double y)
@@ -124,6 +181,48 @@ private slots:
         QCOMPARE(At(image, without.x(), without.y()), QColor(Qt::white));
     }
 
+    void curvesStayWithinAMillionthOfTheRadius()
+    {
+        PathRecorder recorder;
+        QPainter painter(&recorder);
+
+        PaintSheet(painter, ContentOf({CircleShape{{5, 5, 0}, 4, Vector3d::UnitZ()}}), 1.0);
+        painter.end();
+
+        QVERIFY(recorder.GetPath().elementCount() > 3);
+        QVERIFY(ErrorOf(recorder.GetPath(), {5, 5}, 4) < 1e-6);
+    }
+
+    void roundShapesAreReducedWithTheDrawing()
+    {
+        const SketchContent large = ContentOf({CircleShape{{10, 10, 0}, 8, Vector3d::UnitZ()}});
+        const SketchContent small = ContentOf({CircleShape{{5, 5, 0}, 4, Vector3d::UnitZ()}});
+
+        QCOMPARE(Paint(large, 0.5), Paint(small));
+    }
+
+    void anArcStaysOpen()
+    {
+        const ArcShape arc{{5, 5, 0}, 4, {9, 5, 0}, {5, 9, 0}, Vector3d::UnitZ()};
+
+        QCOMPARE(At(Paint(ContentOf({arc})), 7, 7), QColor(Qt::white));
+    }
+
+    void theSidesOfARectangleMeetInSharpCorners()
+    {
+        SketchContent content =
+            ContentOf({RectangleShape{{Vector3d(2, 2, 0), {8, 2, 0}, {8, 8, 0}, {2, 8, 0}}}});
+        content.entities.front().pen.width = WidthIndex(1.0);
+
+        const QImage image = Paint(content);
+
+        for (const double x : {1.6, 8.4})
+        {
+            QCOMPARE(At(image, x, 1.6), QColor(Qt::black));
+            QCOMPARE(At(image, x, 8.4), QColor(Qt::black));
+        }
+    }
+
     void theDefaultColourIsTheLayersAndItsDefaultBlack()
     {
         SketchContent content =
@@ -174,6 +273,55 @@ private slots:
         QCOMPARE(At(image, 2.1, 5), QColor(Qt::white));
         QCOMPARE(At(image, 2.9, 5), QColor(Qt::white));
         QCOMPARE(At(image, 3.1, 5), QColor(Qt::black));
+    }
+
+    void theDashesOfAPartAreInThePlacesOfTheWhole_data()
+    {
+        QTest::addColumn<double>("length");
+        QTest::addColumn<QColor>("colour");
+
+        // Two millimetres of ink and one of paper, counted from (7, 5) against the clock.
+        QTest::newRow("first dash") << 1.0 << QColor(Qt::black);
+        QTest::newRow("first gap") << 2.5 << QColor(Qt::white);
+        QTest::newRow("late dash") << 73.0 << QColor(Qt::black);
+        QTest::newRow("late gap") << 71.5 << QColor(Qt::white);
+    }
+
+    void theDashesOfAPartAreInThePlacesOfTheWhole()
+    {
+        QFETCH(double, length);
+        // It leaves the sheet and comes back.
+        SketchContent content = ContentOf({CircleShape{{-5, 5, 0}, 12, Vector3d::UnitZ()}});
+        content.entities.front().pen.style = 1;
+        content.entities.front().pen.width = WidthIndex(0.5);
+
+        const QImage image = Paint(content);
+
+        const double angle = length / 12.0;
+        QTEST(At(image, -5 + 12 * std::cos(angle), 5 + 12 * std::sin(angle)), "colour");
+    }
+
+    void theBoundsAreThoseOfAllShapes()
+    {
+        const SketchContent content =
+            ContentOf({LineShape{{10, 30, 0}, {40, 50, 0}}, LineShape{{0, 40, 0}, {60, 45, 0}},
+                       LineShape{{20, 20, 0}, {30, 70, 0}}});
+
+        const std::optional<ShapeBounds> bounds = VisibleBounds(content);
+
+        QVERIFY(bounds.has_value());
+        QCOMPARE(bounds->low, Vector3d(0, 20, 0));
+        QCOMPARE(bounds->high, Vector3d(60, 70, 0));
+    }
+
+    void theMarginIsThatOfThePaper()
+    {
+        const ShapeBounds bounds{{10, 20, 0}, {110, 70, 0}};
+
+        const auto placement = PaperPlacement::Around(bounds, 0.5, 5.0, 1.0);
+
+        QCOMPARE(placement.paper, QSizeF(60, 35));
+        QCOMPARE(placement.topLeft, Vector3d(0, 80, 0));
     }
 
     void sheetAroundADrawingHasAMarginAndWholeUnits()

@@ -32,6 +32,19 @@ SketchContent MakePlate()
                       CircleShape{corner + Vector3d(50, 25, 0), 10, Vector3d::UnitZ()}});
 }
 
+/// The text of the first title; empty if there is none.
+QString TitleOf(const QByteArray& xml)
+{
+    QXmlStreamReader reader(xml);
+    while (!reader.atEnd())
+    {
+        if (reader.readNext() == QXmlStreamReader::StartElement &&
+            reader.name() == QLatin1String("title"))
+            return reader.readElementText();
+    }
+    return {};
+}
+
 /// The attributes of the outermost element.
 QXmlStreamAttributes RootOf(const QByteArray& xml)
 {
@@ -64,6 +77,7 @@ bool HasInk(const QImage& image, double x, double y)
 
 Q_DECLARE_METATYPE(Maker)
 Q_DECLARE_METATYPE(OutputFault)
+Q_DECLARE_METATYPE(Vector3d)
 
 class PictureExportTest final : public QObject
 {
@@ -79,6 +93,31 @@ private slots:
         QCOMPARE(root.value("width").toString(), QStringLiteral("110mm"));
         QCOMPARE(root.value("height").toString(), QStringLiteral("60mm"));
         QCOMPARE(root.value("viewBox").toString(), QStringLiteral("0 0 110 60"));
+    }
+
+    void svgHasTheTitleOfTheDrawing_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("title");
+
+        QTest::newRow("plain") << "支架 📐"
+                               << "支架 📐";
+        QTest::newRow("like markup") << "<a> & \"b\""
+                                     << "<a> & \"b\"";
+        QTest::newRow("control") << QString("a") + QChar(1) + 'b' << "a b";
+        QTest::newRow("no character") << QString("a") + QChar(0xffff) + 'b' << "a b";
+    }
+
+    void svgHasTheTitleOfTheDrawing()
+    {
+        QFETCH(QString, name);
+        SketchContent content = MakePlate();
+        content.name = name.toStdWString();
+
+        const QByteArray bytes = MakeSvg(content, &GoOn).bytes;
+
+        QTEST(TitleOf(bytes), "title");
+        QVERIFY(QSvgRenderer(bytes).isValid());
     }
 
     void svgShowsTheDrawing()
@@ -147,13 +186,25 @@ private slots:
         QCOMPARE(image.pixelColor(0, 0), QColor(Qt::white));
     }
 
+    void pngOfALargeDrawingIsReduced_data()
+    {
+        QTest::addColumn<Vector3d>("end");
+        QTest::addColumn<QSize>("size");
+
+        QTest::newRow("huge") << Vector3d(1e9, 0, 0) << QSize(6000, 119);
+        QTest::newRow("somewhat too wide") << Vector3d(600, 0, 0) << QSize(6000, 119);
+        QTest::newRow("somewhat too high") << Vector3d(0, 600, 0) << QSize(119, 6000);
+    }
+
     void pngOfALargeDrawingIsReduced()
     {
-        const OutputBytes made = MakePng(ContentOf({LineShape{{0, 0, 0}, {1e9, 0, 0}}}), &GoOn);
+        QFETCH(Vector3d, end);
+
+        const OutputBytes made = MakePng(ContentOf({LineShape{{0, 0, 0}, end}}), &GoOn);
 
         const QImage image = QImage::fromData(made.bytes, "PNG");
-        QCOMPARE(image.width(), 6000);
-        QVERIFY(HasInk(image, 3000, 59));
+        QTEST(image.size(), "size");
+        QVERIFY(HasInk(image, image.width() / 2, image.height() / 2));
     }
 
     void drawingWithoutVisibleEntitiesIsRefused_data() { AddMakers(); }
@@ -183,22 +234,27 @@ private slots:
     void sizeThatTheFormatDoesNotHaveIsRefused_data()
     {
         QTest::addColumn<Maker>("make");
-        QTest::addColumn<double>("length");
+        QTest::addColumn<Vector3d>("end");
         QTest::addColumn<OutputFault>("fault");
 
-        QTest::newRow("svg") << Maker(&MakeSvg) << 1e7 - 10.0 << OutputFault::None;
-        QTest::newRow("svg too large") << Maker(&MakeSvg) << 1e7 << OutputFault::TooLarge;
-        QTest::newRow("pdf") << Maker(&MakePdf) << 5070.0 << OutputFault::None;
-        QTest::newRow("pdf too large") << Maker(&MakePdf) << 5071.0 << OutputFault::TooLarge;
+        const auto add = [](const char* name, Maker make, const Vector3d& end, OutputFault fault) {
+            QTest::newRow(name) << make << end << fault;
+        };
+        add("svg", &MakeSvg, {1e7 - 10.0, 1e7 - 10.0, 0}, OutputFault::None);
+        add("svg too wide", &MakeSvg, {1e7, 0, 0}, OutputFault::TooLarge);
+        add("svg too high", &MakeSvg, {0, 1e7, 0}, OutputFault::TooLarge);
+        add("pdf", &MakePdf, {5070, 5070, 0}, OutputFault::None);
+        add("pdf too wide", &MakePdf, {5071, 0, 0}, OutputFault::TooLarge);
+        add("pdf too high", &MakePdf, {0, 5071, 0}, OutputFault::TooLarge);
     }
 
     void sizeThatTheFormatDoesNotHaveIsRefused()
     {
         QFETCH(Maker, make);
-        QFETCH(double, length);
+        QFETCH(Vector3d, end);
         QFETCH(OutputFault, fault);
 
-        const OutputBytes made = make(ContentOf({LineShape{{0, 0, 0}, {0, length, 0}}}), &GoOn);
+        const OutputBytes made = make(ContentOf({LineShape{{0, 0, 0}, end}}), &GoOn);
 
         QCOMPARE(made.fault, fault);
         QCOMPARE(made.bytes.isEmpty(), fault != OutputFault::None);

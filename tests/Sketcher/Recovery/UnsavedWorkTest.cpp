@@ -101,6 +101,7 @@ private slots:
         QTest::newRow("saved and undone to the beginning")
             << saved().End(3).Mark(4, empty).ToText() << 1;
         QTest::newRow("killed while it saved") << saved().ToText() << 1;
+        QTest::newRow("killed while it saved, the tool had ended") << saved().End(1).ToText() << 1;
         QTest::newRow("saving that failed") << saved().Refuse(3).ToText() << 1;
         QTest::newRow("saving that failed, and more")
             << saved().Refuse(3).Mark(4, s_second).ToText() << 2;
