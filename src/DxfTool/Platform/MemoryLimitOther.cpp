@@ -3,6 +3,22 @@
 #include "Platform/MemoryLimit.h"
 
 #include <sys/resource.h>
+#include <unistd.h>
+
+#include <fstream>
+
+namespace
+{
+
+/// What is reserved by now, used or not; 0 if the system does not tell.
+rlim_t ReservedBytes()
+{
+    std::ifstream usage("/proc/self/statm");
+    rlim_t pages = 0;
+    return usage >> pages ? pages * static_cast<rlim_t>(sysconf(_SC_PAGESIZE)) : 0;
+}
+
+}
 
 bool LimitMemory(std::size_t megabytes)
 {
@@ -10,6 +26,7 @@ bool LimitMemory(std::size_t megabytes)
     rlimit limit{};
     if (getrlimit(RLIMIT_AS, &limit) != 0)
         return false;
-    limit.rlim_cur = megabytes * BytesPerMegabyte;
+    // Under a sanitizer far more is reserved from the start than any limit.
+    limit.rlim_cur = ReservedBytes() + megabytes * BytesPerMegabyte;
     return limit.rlim_cur <= limit.rlim_max && setrlimit(RLIMIT_AS, &limit) == 0;
 }
