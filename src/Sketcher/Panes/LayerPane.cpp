@@ -82,6 +82,12 @@ LayerPane::LayerPane(Workspace& workspace)
     UpdateStatus();
 }
 
+/// A name that is being typed is taken when the pane disappears, and the pane hears of that.
+LayerPane::~LayerPane()
+{
+    hide();
+}
+
 void LayerPane::UpdateStatus()
 {
     const int selected = GetSelected();

@@ -21,6 +21,7 @@ class LayerPane final : public QWidget, public vesk::IWidget
 public:
     /// The workspace is not owned and must outlive all use of the pane.
     explicit LayerPane(Workspace& workspace);
+    ~LayerPane() override;
 
     void UpdateStatus() override;
 
