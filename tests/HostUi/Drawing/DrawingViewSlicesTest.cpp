@@ -145,7 +145,7 @@ private slots:
 
         f.pView->ExtendModel();
 
-        QCOMPARE(f.pView->CountShown(Qt::red), 305);
+        QTRY_COMPARE(f.pView->CountShown(Qt::red), 305);
         QCOMPARE(f.pView->paintedCount, std::size_t(5));
     }
 
