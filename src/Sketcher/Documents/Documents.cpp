@@ -77,7 +77,7 @@ QString ToFileName(const QString& name)
     return result.isEmpty() ? QStringLiteral("图纸") : result;
 }
 
-/// "1 plate.vsk - /home/me/drawings"; the digit is the entry's key.
+/// The name of the file, then its folder; before them a digit, which is the key of the entry.
 QString RecentCaption(const QString& path, int place)
 {
     const QFileInfo file(path);
