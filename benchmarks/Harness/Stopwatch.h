@@ -1,0 +1,33 @@
+#pragma once
+
+/// What a stretch of work took.
+struct Measurement
+{
+    double milliseconds = 0; ///< Of this thread's CPU time.
+    long allocations = 0;    ///< How often heap memory was asked for, also to grow a block.
+    long bytes = 0;          ///< Heap memory that was kept: taken less given back.
+};
+
+/// Measures a stretch of work in this thread; under callgrind, also counts its instructions.
+class Stopwatch
+{
+public:
+    /// Calls `work` and adds what it took. What stands outside, preparation and clean-up, is not
+    /// measured.
+    template <typename Work>
+    void Time(Work&& work)
+    {
+        Start();
+        work();
+        Stop();
+    }
+
+    const Measurement& Get() const { return m_sum; }
+
+private:
+    void Start();
+    void Stop();
+
+    Measurement m_sum;
+    Measurement m_start;
+};
