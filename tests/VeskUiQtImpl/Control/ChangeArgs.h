@@ -18,7 +18,7 @@ public:
 
     int GetType() const override { return m_type; }
     int GetIndex() const override { return m_index; }
-    std::wstring GetItemCaption() const override { return L"item"; }
+    const std::wstring& GetItemCaption() const override { return m_caption; }
     const IControlDefinition* GetItemDefinition() const override { return m_pItem; }
     bool IsChangeByUser() const override { return false; }
 
@@ -26,6 +26,7 @@ private:
     int m_type;
     int m_index;
     const IControlDefinition* m_pItem;
+    std::wstring m_caption = L"item";
 };
 
 }

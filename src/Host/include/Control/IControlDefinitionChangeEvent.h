@@ -36,7 +36,7 @@ public:
     virtual int GetIndex() const = 0;
 
     /// The caption of the item concerned; empty if there is none.
-    virtual std::wstring GetItemCaption() const = 0;
+    virtual const std::wstring& GetItemCaption() const = 0;
 
     /// The definition of the item concerned, not owned; null if the items are plain texts.
     virtual const IControlDefinition* GetItemDefinition() const = 0;

@@ -16,7 +16,11 @@ public:
 
     /// `pInnermost` belongs to the event; it points to this scope until the scope ends.
     explicit EmissionScope(EmissionScope*& pInnermost);
-    ~EmissionScope();
+    ~EmissionScope()
+    {
+        if (IsEventAlive())
+            *m_ppInnermost = m_pOuter;
+    }
     EmissionScope(const EmissionScope&) = delete;
     EmissionScope& operator=(const EmissionScope&) = delete;
 

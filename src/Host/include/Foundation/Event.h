@@ -2,10 +2,9 @@
 
 #include "Foundation/EmissionScope.h"
 #include "Foundation/FirstException.h"
+#include "Foundation/HandlerSlots.h"
 
-#include <algorithm>
 #include <cstddef>
-#include <vector>
 
 namespace vesk
 {
@@ -33,35 +32,22 @@ public:
     ~Event() override { EmissionScope::EndAll(m_pInnermost); }
 
     /// Subscribes a handler; null and a handler that is already subscribed are ignored.
-    void Add(THandler* pHandler) override
-    {
-        if (pHandler == nullptr || Contains(pHandler))
-            return;
-        m_handlers.push_back(pHandler);
-    }
+    void Add(THandler* pHandler) override { m_slots.Add(pHandler); }
 
     /// Unsubscribes a handler; an unknown one is ignored.
     void Delete(THandler* pHandler) override
     {
-        const auto found = std::find(m_handlers.begin(), m_handlers.end(), pHandler);
-        if (pHandler == nullptr || found == m_handlers.end())
-            return;
-        // Slots must not move while emitting: the slot is cleared now and dropped afterwards.
-        if (m_pInnermost != nullptr)
-            *found = nullptr;
-        else
-            m_handlers.erase(found);
+        m_slots.Remove(pHandler);
+        // Slots must not move while emitting: those that are empty are dropped afterwards.
+        if (m_pInnermost == nullptr)
+            m_slots.DropEmpty();
     }
 
     /// Calls `On(pArgs)` of each handler in the order of subscription. `pArgs` is not owned.
-    void Emit(TArgs* pArgs) { EmitTo(m_handlers.size(), pArgs); }
+    void Emit(TArgs* pArgs) { EmitTo(m_slots.GetCount(), pArgs); }
 
     /// True when there are no handlers.
-    bool IsEmpty() const
-    {
-        return std::all_of(m_handlers.begin(), m_handlers.end(),
-                           [](const THandler* pHandler) { return pHandler == nullptr; });
-    }
+    bool IsEmpty() const { return m_slots.IsEmpty(); }
 
 protected:
     /// While one exists, no handler changes its slot.
@@ -73,7 +59,7 @@ protected:
         ~Emission()
         {
             if (IsEventAlive() && IsOutermost())
-                m_event.DropEmptyPlaces();
+                m_event.m_slots.DropEmpty();
         }
 
     private:
@@ -81,7 +67,7 @@ protected:
     };
 
     /// The number of handler slots: handlers that subscribe from now on come after them.
-    std::size_t GetPlaceCount() const { return m_handlers.size(); }
+    std::size_t GetPlaceCount() const { return m_slots.GetCount(); }
 
     /// Calls the handlers in the first `placeCount` slots.
     void EmitTo(std::size_t placeCount, TArgs* pArgs)
@@ -91,7 +77,7 @@ protected:
         for (std::size_t place = 0; emission.IsEventAlive() && place < placeCount; ++place)
         {
             emission.SetPlace(place);
-            if (THandler* pHandler = m_handlers[place])
+            if (THandler* pHandler = GetHandler(place))
                 exception.Catch([&] { pHandler->On(pArgs); });
         }
         exception.Throw();
@@ -102,22 +88,16 @@ protected:
     {
         const std::size_t place =
             m_pInnermost != nullptr ? m_pInnermost->GetPlace() : EmissionScope::NoPlace;
-        return place < m_handlers.size() ? m_handlers[place] : nullptr;
+        return place < m_slots.GetCount() ? GetHandler(place) : nullptr;
     }
 
 private:
-    bool Contains(const THandler* pHandler) const
+    THandler* GetHandler(std::size_t place) const
     {
-        return std::find(m_handlers.begin(), m_handlers.end(), pHandler) != m_handlers.end();
+        return static_cast<THandler*>(m_slots.Get(place));
     }
 
-    void DropEmptyPlaces()
-    {
-        m_handlers.erase(std::remove(m_handlers.begin(), m_handlers.end(), nullptr),
-                         m_handlers.end());
-    }
-
-    std::vector<THandler*> m_handlers;
+    HandlerSlots m_slots;
     EmissionScope* m_pInnermost = nullptr;
 };
 

@@ -25,7 +25,7 @@ public:
 
     int GetType() const override { return m_type; }
     int GetIndex() const override { return m_index; }
-    std::wstring GetItemCaption() const override { return m_caption; }
+    const std::wstring& GetItemCaption() const override { return m_caption; }
     const IControlDefinition* GetItemDefinition() const override { return m_pItem; }
     bool IsChangeByUser() const override { return m_isByUser; }
 

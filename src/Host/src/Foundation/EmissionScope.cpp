@@ -9,12 +9,6 @@ EmissionScope::EmissionScope(EmissionScope*& pInnermost)
     pInnermost = this;
 }
 
-EmissionScope::~EmissionScope()
-{
-    if (IsEventAlive())
-        *m_ppInnermost = m_pOuter;
-}
-
 void EmissionScope::EndAll(EmissionScope* pInnermost)
 {
     for (EmissionScope* pScope = pInnermost; pScope != nullptr; pScope = pScope->m_pOuter)
