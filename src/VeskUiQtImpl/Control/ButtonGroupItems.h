@@ -14,6 +14,7 @@
 #include <QVariant>
 #include <QWidget>
 
+#include <algorithm>
 #include <cstddef>
 #include <vector>
 
@@ -87,7 +88,7 @@ public:
             return;
 
         // For a null widget, a layout would return the position of a spacer.
-        const int lastPlace = m_buttons.empty() ? -1 : pLayout->indexOf(m_buttons.back());
+        const int lastPlace = m_buttons.empty() ? -1 : FindPlace(*pLayout, m_buttons.back());
         const auto* pItem = dynamic_cast<const Item*>(pArgs->GetItemDefinition());
         if (!Check(pItem != nullptr, VESK_SITE(function, L"pCheckBoxDefine为空")))
             return;
@@ -155,28 +156,32 @@ public:
             m_buttons.clear();
     }
 
-    /// Calls `apply(button, item, isAlive)` for each button and its item, in order; `noPair` is
-    /// reported where either is missing. Handlers of a change may do anything: `isAlive()` tells
-    /// whether the group still exists and the button is still at its position in it; the loop ends
-    /// at the first button for which it is not.
-    template <class Item, class Apply>
-    void ForEach(const std::vector<const Item*>& items, Apply apply, const wchar_t* noPair,
+    /// Calls `apply(button, item, isAlive)` for each button and its item, in order, except for
+    /// those where `isEqual(button, item)` tells that it would change nothing; `noPair` is reported
+    /// where either is missing. `getItems()` returns the list of the items.
+    ///
+    /// Handlers of a change may do anything: `isAlive()` tells whether the group still exists and
+    /// the button is still at its position in it; the loop ends at the first button for which it is
+    /// not. Comparing runs no handler, so that nothing has to be copied or looked after meanwhile.
+    template <class GetItems, class IsEqual, class Apply>
+    void ForEach(GetItems getItems, IsEqual isEqual, Apply apply, const wchar_t* noPair,
                  const char* function)
     {
-        if (!Check(m_buttons.size() == items.size(), VESK_SITE(function, L"数据有误")))
+        if (!Check(m_buttons.size() == getItems().size(), VESK_SITE(function, L"数据有误")))
             return;
 
         const QPointer<QButtonGroup> pGroup(&m_group);
-        const std::vector<Button*> buttons = m_buttons;
-        for (std::size_t i = 0; i < buttons.size(); ++i)
+        for (std::size_t i = 0; SkipEqual(i, getItems(), isEqual); ++i)
         {
+            Button* pButton = m_buttons[i];
+            const auto* pItem = getItems()[i];
             const auto isAlive = [&] {
-                return pGroup != nullptr && i < m_buttons.size() && m_buttons[i] == buttons[i];
+                return pGroup != nullptr && i < m_buttons.size() && m_buttons[i] == pButton;
             };
+            if (Check(pButton != nullptr && pItem != nullptr, VESK_SITE(function, noPair)))
+                apply(*pButton, *pItem, isAlive);
             if (!isAlive())
                 return;
-            if (Check(buttons[i] != nullptr && items[i] != nullptr, VESK_SITE(function, noPair)))
-                apply(*buttons[i], *items[i], isAlive);
         }
     }
 
@@ -189,6 +194,27 @@ private:
     bool Has(int index) const
     {
         return index >= 0 && static_cast<std::size_t>(index) < m_buttons.size();
+    }
+
+    /// Advances `i` to the next pair that is incomplete or not equal; false if there is none.
+    template <class Items, class IsEqual>
+    bool SkipEqual(std::size_t& i, const Items& items, IsEqual isEqual) const
+    {
+        const std::size_t count = std::min(m_buttons.size(), items.size());
+        while (i < count && m_buttons[i] != nullptr && items[i] != nullptr &&
+               isEqual(*m_buttons[i], *items[i]))
+            ++i;
+        return i < count;
+    }
+
+    /// The position of a button in the layout, -1 if it is not there. It is searched from the end:
+    /// a widget is in a layout at most once, and those of a group mostly come last.
+    static int FindPlace(const QLayout& layout, const Button* pButton)
+    {
+        int place = layout.count() - 1;
+        while (place >= 0 && layout.itemAt(place)->widget() != pButton)
+            --place;
+        return place;
     }
 
     void Ungroup(const char* function)

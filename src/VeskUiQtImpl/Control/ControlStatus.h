@@ -25,6 +25,13 @@ bool ApplyStatus(QWidget& widget, const IControlDefinition& definition, IsAlive 
 /// The same for a widget that owns its definition.
 bool ApplyStatus(QWidget& widget, const IControlDefinition& definition);
 
+/// True when a widget shows the visibility and enabled state of a definition.
+inline bool HasStatus(const QWidget& widget, const IControlDefinition& definition)
+{
+    return widget.isVisible() == definition.IsVisible() &&
+           widget.isEnabled() == definition.IsEnabled();
+}
+
 /// Each sets one state of a widget if the widget differs from it.
 ///
 /// Under a hidden or disabled parent a widget reports that state whatever its own setting is, and

@@ -13,6 +13,8 @@
 #include <QPointer>
 #include <QVariant>
 
+#include <vector>
+
 namespace vesk
 {
 namespace
@@ -44,10 +46,13 @@ QtCheckBoxGroup::QtCheckBoxGroup(OwnerPtr<ICheckBoxGroupDefinition> pControlDefi
     setProperty(PropertyName::IsDefinition, true);
     setExclusive(false);
     const QPointer<QtCheckBoxGroup> pSelf(this);
-    for (const ICheckBoxDefinition* pDefinition : m_pControlDefinition->GetCheckBoxDefinitions())
+    // A copy: a report may run an event loop, in which boxes may be added or removed.
+    const std::vector<const ICheckBoxDefinition*> definitions =
+        m_pControlDefinition->GetCheckBoxDefinitions();
+    for (const ICheckBoxDefinition* pDefinition : definitions)
     {
         AddCheckBox(pDefinition);
-        // A report may have run an event loop, and a destroyed parent destroys its group.
+        // A destroyed parent destroys its group.
         if (pSelf == nullptr)
             return;
     }
@@ -77,11 +82,15 @@ void QtCheckBoxGroup::UpdateStatus()
     if (!Check(m_pControlDefinition != nullptr, VESK_SITE(Function, L"pDefinition为空")))
         return;
 
+    const auto never = [](const QCheckBox&, const ICheckBoxDefinition&) { return false; };
     const auto apply = [](QCheckBox& checkBox, const ICheckBoxDefinition& definition,
                           auto isAlive) { ApplyStatus(checkBox, definition, isAlive); };
+    const auto items = [this]() -> const auto&
+    {
+        return m_pControlDefinition->GetCheckBoxDefinitions();
+    };
     ButtonGroupItems(*this, m_pParent, m_checkBoxes)
-        .ForEach(m_pControlDefinition->GetCheckBoxDefinitions(), apply,
-                 L"checkBoxDefines[i] && checkBoxControls[i]为空", Function);
+        .ForEach(items, never, apply, L"checkBoxDefines[i] && checkBoxControls[i]为空", Function);
 }
 
 void QtCheckBoxGroup::On(IControlDefinitionChangeEventArgs* pArgs)
@@ -124,6 +133,10 @@ void QtCheckBoxGroup::ApplyStates()
     if (!Check(m_pControlDefinition != nullptr, VESK_SITE(Function, L"pControlDefinition为空")))
         return;
 
+    const auto isShown = [](const QCheckBox& checkBox, const ICheckBoxDefinition& definition) {
+        return checkBox.checkState() == ToQtCheckState(definition.GetCheckState()) &&
+               HasStatus(checkBox, definition);
+    };
     const auto apply = [](QCheckBox& checkBox, const ICheckBoxDefinition& definition,
                           auto isAlive) {
         const Qt::CheckState state = ToQtCheckState(definition.GetCheckState());
@@ -134,9 +147,12 @@ void QtCheckBoxGroup::ApplyStates()
         if (isAlive())
             UpdateEnabled(checkBox, definition.IsEnabled());
     };
+    const auto items = [this]() -> const auto&
+    {
+        return m_pControlDefinition->GetCheckBoxDefinitions();
+    };
     ButtonGroupItems(*this, m_pParent, m_checkBoxes)
-        .ForEach(m_pControlDefinition->GetCheckBoxDefinitions(), apply,
-                 L"checkBoxDefines[i] && checkBoxControls[i]为空", Function);
+        .ForEach(items, isShown, apply, L"checkBoxDefines[i] && checkBoxControls[i]为空", Function);
 }
 
 QCheckBox* QtCheckBoxGroup::AddCheckBox(const ICheckBoxDefinition* pDefinition)
@@ -160,7 +176,9 @@ QCheckBox* QtCheckBoxGroup::CreateControl(const ICheckBoxDefinition* pDefinition
     if (pCheckBox == nullptr)
         return nullptr;
 
-    pCheckBox->setCheckState(ToQtCheckState(pDefinition->GetCheckState()));
+    const Qt::CheckState state = ToQtCheckState(pDefinition->GetCheckState());
+    if (pCheckBox->checkState() != state)
+        pCheckBox->setCheckState(state);
     ApplyStatus(*pCheckBox, *pDefinition, [&] { return pSelf != nullptr && pCheckBox != nullptr; });
     return pCheckBox;
 }

@@ -13,6 +13,8 @@
 #include <QRadioButton>
 #include <QVariant>
 
+#include <vector>
+
 namespace vesk
 {
 
@@ -28,11 +30,13 @@ QtRadioButtonGroup::QtRadioButtonGroup(OwnerPtr<IRadioButtonGroupDefinition> pCo
     setProperty(PropertyName::IsDefinition, true);
     setExclusive(true);
     const QPointer<QtRadioButtonGroup> pSelf(this);
-    for (const IRadioButtonDefinition* pDefinition :
-         m_pControlDefinition->GetRadioButtonDefinitions())
+    // A copy: a report may run an event loop, in which buttons may be added or removed.
+    const std::vector<const IRadioButtonDefinition*> definitions =
+        m_pControlDefinition->GetRadioButtonDefinitions();
+    for (const IRadioButtonDefinition* pDefinition : definitions)
     {
         AddRadioButton(pDefinition);
-        // A report may have run an event loop, and a destroyed parent destroys its group.
+        // A destroyed parent destroys its group.
         if (pSelf == nullptr)
             return;
     }
@@ -62,11 +66,16 @@ void QtRadioButtonGroup::UpdateStatus()
     if (!Check(m_pControlDefinition != nullptr, VESK_SITE(Function, L"pDefinition为空")))
         return;
 
+    const auto never = [](const QRadioButton&, const IRadioButtonDefinition&) { return false; };
     const auto apply = [](QRadioButton& radioButton, const IRadioButtonDefinition& definition,
                           auto isAlive) { ApplyStatus(radioButton, definition, isAlive); };
+    const auto items = [this]() -> const auto&
+    {
+        return m_pControlDefinition->GetRadioButtonDefinitions();
+    };
     ButtonGroupItems(*this, m_pParent, m_radioButtons)
-        .ForEach(m_pControlDefinition->GetRadioButtonDefinitions(), apply,
-                 L"radioButtonDefines[i] && radioButtonControls[i]为空", Function);
+        .ForEach(items, never, apply, L"radioButtonDefines[i] && radioButtonControls[i]为空",
+                 Function);
 }
 
 void QtRadioButtonGroup::On(IControlDefinitionChangeEventArgs* pArgs)
@@ -109,8 +118,14 @@ void QtRadioButtonGroup::ApplyStates()
     if (!Check(m_pControlDefinition != nullptr, VESK_SITE(Function, L"pControlDefinition为空")))
         return;
 
-    const auto apply = [this](QRadioButton& radioButton, const IRadioButtonDefinition& definition,
-                              auto isAlive) {
+    QString current = ToQString(m_pControlDefinition->GetCurrentRadioButtonId());
+    const auto isShown = [&current](const QRadioButton& radioButton,
+                                    const IRadioButtonDefinition& definition) {
+        return (radioButton.isChecked() || radioButton.objectName() != current) &&
+               HasStatus(radioButton, definition);
+    };
+    const auto apply = [this, &current](QRadioButton& radioButton,
+                                        const IRadioButtonDefinition& definition, auto isAlive) {
         // No button is unchecked here: the group ensures that at most one is checked.
         const std::wstring currentId = m_pControlDefinition->GetCurrentRadioButtonId();
         if (ToWide(radioButton.objectName()) == currentId && !radioButton.isChecked())
@@ -119,9 +134,16 @@ void QtRadioButtonGroup::ApplyStates()
             UpdateVisible(radioButton, definition.IsVisible());
         if (isAlive())
             UpdateEnabled(radioButton, definition.IsEnabled());
+        // A handler may have made another button current.
+        if (isAlive())
+            current = ToQString(m_pControlDefinition->GetCurrentRadioButtonId());
+    };
+    const auto items = [this]() -> const auto&
+    {
+        return m_pControlDefinition->GetRadioButtonDefinitions();
     };
     ButtonGroupItems(*this, m_pParent, m_radioButtons)
-        .ForEach(m_pControlDefinition->GetRadioButtonDefinitions(), apply,
+        .ForEach(items, isShown, apply,
                  L"radioButtonGroupDefinition[i] && radioButtonControls[i]为空", Function);
 }
 

@@ -20,8 +20,13 @@ class CheckBoxGroup final : public ControlDefinition<ICheckBoxGroupDefinition>
 {
 public:
     CheckBoxGroup() : ControlDefinition(L"id") {}
-    std::vector<const ICheckBoxDefinition*> GetCheckBoxDefinitions() const override { return {}; }
+    const std::vector<const ICheckBoxDefinition*>& GetCheckBoxDefinitions() const override
+    {
+        return items;
+    }
     void SetCheckState(const std::wstring& /*checkBoxId*/, int /*checkState*/) override {}
+
+    std::vector<const ICheckBoxDefinition*> items;
 };
 
 class ComboBox final : public ControlDefinition<IComboBoxDefinition>
@@ -55,12 +60,14 @@ class RadioButtonGroup final : public ControlDefinition<IRadioButtonGroupDefinit
 {
 public:
     RadioButtonGroup() : ControlDefinition(L"id") {}
-    std::vector<const IRadioButtonDefinition*> GetRadioButtonDefinitions() const override
+    const std::vector<const IRadioButtonDefinition*>& GetRadioButtonDefinitions() const override
     {
-        return {};
+        return items;
     }
     std::wstring GetCurrentRadioButtonId() const override { return {}; }
     void SetCurrentRadioButtonId(const std::wstring& /*radioButtonId*/) override {}
+
+    std::vector<const IRadioButtonDefinition*> items;
 };
 
 /// A label without a change event.

@@ -57,7 +57,7 @@ struct ItemListFixture
     std::wstring GetIds() const
     {
         std::wstring ids;
-        for (const IControlDefinition* pItem : pList->GetAll<IControlDefinition>())
+        for (const IControlDefinition* pItem : pList->GetAll())
             ids += pItem->GetId();
         return ids;
     }
@@ -129,6 +129,9 @@ private slots:
     void missingItemIsReportedAndChangesNothing();
     void itemIsFoundByIndexAndById();
     void firstOfTwoItemsWithOneIdIsFound();
+    void anItemIsFoundInTheListAsItIsNow_data();
+    void anItemIsFoundInTheListAsItIsNow();
+    void theItemsAreTheListItself();
     void theListIsRightWhenTheEventIsRaised_data();
     void theListIsRightWhenTheEventIsRaised();
     void aChangeOfAnItemIsAPropertyChange();
@@ -311,6 +314,44 @@ void ItemDefinitionListTest::firstOfTwoItemsWithOneIdIsFound()
     f.Insert(3, L"b");
 
     QCOMPARE(f.pList->Find(L"b"), f.pList->Get(1));
+}
+
+void ItemDefinitionListTest::anItemIsFoundInTheListAsItIsNow_data()
+{
+    QTest::addColumn<Act>("act");
+    QTest::addColumn<int>("index");
+    QTest::newRow("another is appended") << Act{[](Fixture& f) { f.Insert(3, L"b"); }} << 1;
+    QTest::newRow("another is inserted before") << Act{[](Fixture& f) { f.Insert(0, L"b"); }} << 0;
+    QTest::newRow("it is deleted")
+        << Act{[](Fixture& f) { f.pList->Delete(1, DeleteFunction); }} << -1;
+    QTest::newRow("one is deleted, and another appended") << Act{[](Fixture& f) {
+        f.pList->Delete(1, DeleteFunction);
+        f.Insert(2, L"b");
+    }} << 2;
+    QTest::newRow("all are removed") << Act{[](Fixture& f) { f.pList->Clear(); }} << -1;
+}
+
+void ItemDefinitionListTest::anItemIsFoundInTheListAsItIsNow()
+{
+    QFETCH(Act, act);
+    QFETCH(int, index);
+    Fixture f;
+    QCOMPARE(f.pList->Find(L"b"), f.pList->Get(1));
+
+    act(f);
+
+    QCOMPARE(f.pList->Find(L"b"), f.pList->Get(index));
+}
+
+void ItemDefinitionListTest::theItemsAreTheListItself()
+{
+    Fixture f;
+    const auto& items = f.pList->GetAll();
+
+    f.Insert(3, L"d");
+
+    QCOMPARE(items.size(), std::size_t{4});
+    QCOMPARE(&f.pList->GetAll(), &items);
 }
 
 void ItemDefinitionListTest::theListIsRightWhenTheEventIsRaised_data()

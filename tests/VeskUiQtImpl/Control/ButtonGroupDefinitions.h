@@ -81,7 +81,7 @@ struct LooseCheckBoxGroupDefinition final : ControlDefinition<ICheckBoxGroupDefi
 {
     LooseCheckBoxGroupDefinition() : ControlDefinition(L"Group.Id") {}
 
-    std::vector<const ICheckBoxDefinition*> GetCheckBoxDefinitions() const override
+    const std::vector<const ICheckBoxDefinition*>& GetCheckBoxDefinitions() const override
     {
         return items;
     }
@@ -95,7 +95,7 @@ struct LooseRadioButtonGroupDefinition final : ControlDefinition<IRadioButtonGro
 {
     LooseRadioButtonGroupDefinition() : ControlDefinition(L"Group.Id") {}
 
-    std::vector<const IRadioButtonDefinition*> GetRadioButtonDefinitions() const override
+    const std::vector<const IRadioButtonDefinition*>& GetRadioButtonDefinitions() const override
     {
         return items;
     }

@@ -74,19 +74,26 @@ struct ProgressBar final : FreedDefinition<IProgressBarDefinition>
 struct RadioButtons final : FreedDefinition<IRadioButtonGroupDefinition>
 {
     using FreedDefinition::FreedDefinition;
-    std::vector<const IRadioButtonDefinition*> GetRadioButtonDefinitions() const override
+    const std::vector<const IRadioButtonDefinition*>& GetRadioButtonDefinitions() const override
     {
-        return {};
+        return items;
     }
     std::wstring GetCurrentRadioButtonId() const override { return {}; }
     void SetCurrentRadioButtonId(const std::wstring&) override {}
+
+    std::vector<const IRadioButtonDefinition*> items;
 };
 
 struct CheckBoxes final : FreedDefinition<ICheckBoxGroupDefinition>
 {
     using FreedDefinition::FreedDefinition;
-    std::vector<const ICheckBoxDefinition*> GetCheckBoxDefinitions() const override { return {}; }
+    const std::vector<const ICheckBoxDefinition*>& GetCheckBoxDefinitions() const override
+    {
+        return items;
+    }
     void SetCheckState(const std::wstring&, int) override {}
+
+    std::vector<const ICheckBoxDefinition*> items;
 };
 
 VeskIControlFactory& Factory()

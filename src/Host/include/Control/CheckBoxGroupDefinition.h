@@ -30,7 +30,7 @@ class VESK_HOST_API CheckBoxGroupDefinition : public ControlDefinition<ICheckBox
 public:
     explicit CheckBoxGroupDefinition(std::wstring id);
 
-    std::vector<const ICheckBoxDefinition*> GetCheckBoxDefinitions() const override;
+    const std::vector<const ICheckBoxDefinition*>& GetCheckBoxDefinitions() const override;
     void SetCheckState(const std::wstring& checkBoxId, int checkState) override;
 
     /// The box with that id, owned by the group; null if there is none.
@@ -44,7 +44,7 @@ public:
     void ClearCheckBoxes();
 
 private:
-    ItemDefinitionList<CheckBoxDefinition> m_checkBoxes{GetEvent()};
+    ItemDefinitionList<CheckBoxDefinition, ICheckBoxDefinition> m_checkBoxes{GetEvent()};
 };
 
 }

@@ -3,6 +3,10 @@
 #include "Control/ControlDefinition.h"
 #include "Control/IComboBoxDefinition.h"
 
+#include <deque>
+#include <string>
+#include <vector>
+
 namespace vesk
 {
 
@@ -34,7 +38,8 @@ public:
 private:
     int GetCount() const { return static_cast<int>(m_items.size()); }
 
-    std::vector<std::wstring> m_items;
+    /// Both ends are near: many programs add the newest item first.
+    std::deque<std::wstring> m_items;
     int m_currentIndex = -1;
 };
 

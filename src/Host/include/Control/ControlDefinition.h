@@ -49,11 +49,13 @@ protected:
     ControlDefinitionChangeEvent& GetEvent() { return m_event; }
 
 private:
+    // The states come first, next to the table of virtual functions: those of all items of a group
+    // are read for each change.
+    bool m_isVisible = true;
+    bool m_isEnabled = true;
     std::wstring m_id;
     std::wstring m_caption;
     std::wstring m_tooltip;
-    bool m_isVisible = true;
-    bool m_isEnabled = true;
     mutable ControlDefinitionChangeEvent m_event;
 };
 

@@ -20,8 +20,9 @@ public:
 class VESK_HOST_API ICheckBoxGroupDefinition : public IControlDefinition
 {
 public:
-    /// The boxes in display order, owned by the group.
-    virtual std::vector<const ICheckBoxDefinition*> GetCheckBoxDefinitions() const = 0;
+    /// The boxes in display order, owned by the group. The list itself is not copied: it changes
+    /// with the boxes, and lives as long as the group.
+    virtual const std::vector<const ICheckBoxDefinition*>& GetCheckBoxDefinitions() const = 0;
 
     /// Sets the state of the box with that id; an unknown id changes nothing.
     virtual void SetCheckState(const std::wstring& checkBoxId, int checkState) = 0;

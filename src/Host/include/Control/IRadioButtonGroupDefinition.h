@@ -16,8 +16,9 @@ class VESK_HOST_API IRadioButtonDefinition : public IControlDefinition
 class VESK_HOST_API IRadioButtonGroupDefinition : public IControlDefinition
 {
 public:
-    /// The buttons in display order, owned by the group.
-    virtual std::vector<const IRadioButtonDefinition*> GetRadioButtonDefinitions() const = 0;
+    /// The buttons in display order, owned by the group. The list itself is not copied: it changes
+    /// with the buttons, and lives as long as the group.
+    virtual const std::vector<const IRadioButtonDefinition*>& GetRadioButtonDefinitions() const = 0;
 
     /// The id of the checked button.
     virtual std::wstring GetCurrentRadioButtonId() const = 0;

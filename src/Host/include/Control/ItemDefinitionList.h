@@ -6,7 +6,6 @@
 #include "Foundation/HostExport.h"
 #include "Foundation/OwnerPtr.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <memory>
 #include <string>
@@ -26,12 +25,13 @@ VESK_HOST_API bool CheckItem(const IControlDefinition* pItem, const char* functi
 /// The items that a definition owns. Each change to the list raises one event of the definition;
 /// each change to an item raises the definition's PropertyChanged.
 ///
-/// `TItem` is the class or interface of the items. `function` is the qualified name under which an
+/// `TItem` is the class or interface of the items, `TShown` what the definition's interface exposes
+/// of them; it is a base of `TItem`. `function` is the qualified name under which an
 /// invalid argument is reported: such a call changes nothing. A handler may destroy the definition,
 /// so raising an event comes last. It may also remove the item it is notified of: a removed item
 /// lives until the outermost change to its list has been delivered, for the handlers that have yet
 /// to be notified.
-template <class TItem>
+template <class TItem, class TShown = TItem>
 class ItemDefinitionList final : private IControlDefinitionChangeEventHandler
 {
 public:
@@ -44,23 +44,23 @@ public:
     TItem* Get(int index) const
     {
         const bool isInside = index >= 0 && index < GetCount();
-        return isInside ? m_items[static_cast<std::size_t>(index)] : nullptr;
+        return isInside ? GetOwned(m_items[static_cast<std::size_t>(index)]) : nullptr;
     }
 
     /// The first item with that id, null if there is none.
     TItem* Find(const std::wstring& id) const
     {
-        const auto found = std::find_if(m_items.begin(), m_items.end(),
-                                        [&id](const TItem* pItem) { return pItem->GetId() == id; });
-        return found != m_items.end() ? *found : nullptr;
+        if (m_byId.empty())
+        {
+            for (const TShown* pItem : m_items)
+                m_byId.emplace(pItem->GetId(), GetOwned(pItem));
+        }
+        const auto found = m_byId.find(id);
+        return found != m_byId.end() ? found->second : nullptr;
     }
 
-    /// The items, as the type that the definition's interface exposes.
-    template <class TShown>
-    std::vector<const TShown*> GetAll() const
-    {
-        return {m_items.begin(), m_items.end()};
-    }
+    /// The items in order; the list itself, which changes with the items.
+    const std::vector<const TShown*>& GetAll() const { return m_items; }
 
     /// Inserts an item before the one at `index`; at the end it is appended.
     void Insert(int index, OwnerPtr<TItem> opItem, const char* function)
@@ -75,6 +75,10 @@ public:
             pItemEvent->Add(this);
         m_items.insert(m_items.begin() + index, pItem);
         m_owned.emplace(pItem, std::move(opItem));
+        if (!isAppended)
+            m_byId.clear();
+        else if (!m_byId.empty())
+            m_byId.emplace(pItem->GetId(), pItem);
         m_event.RaiseItemsChanged(isAppended ? ControlDefinitionChangeEventType::Add
                                              : ControlDefinitionChangeEventType::Insert,
                                   index, caption, pItem, pRemoved);
@@ -85,9 +89,10 @@ public:
         if (!CheckItemIndex(index, GetCount() - 1, function))
             return;
         const auto place = m_items.begin() + index;
-        TItem* pItem = *place;
+        TItem* pItem = GetOwned(*place);
         const std::wstring caption = pItem->GetCaption();
         const std::shared_ptr<Removed> pRemoved = GetRemoved();
+        m_byId.clear();
         m_items.erase(place);
         Remove(pItem, *pRemoved);
         m_event.RaiseItemsChanged(ControlDefinitionChangeEventType::Delete, index, caption, pItem,
@@ -100,8 +105,9 @@ public:
         if (m_items.empty())
             return;
         const std::shared_ptr<Removed> pRemoved = GetRemoved();
-        for (TItem* pItem : std::exchange(m_items, {}))
-            Remove(pItem, *pRemoved);
+        m_byId.clear();
+        for (const TShown* pItem : std::exchange(m_items, {}))
+            Remove(GetOwned(pItem), *pRemoved);
         m_event.RaiseItemsChanged(ControlDefinitionChangeEventType::Clear, -1, std::wstring(),
                                   nullptr, pRemoved);
     }
@@ -118,6 +124,8 @@ private:
             m_pRemoved = pRemoved = std::make_shared<Removed>();
         return pRemoved;
     }
+
+    TItem* GetOwned(const TShown* pItem) const { return m_owned.find(pItem)->second.Get(); }
 
     void Remove(TItem* pItem, Removed& removed)
     {
@@ -140,8 +148,11 @@ private:
 
     // The order is kept apart from the owners, because shifting plain pointers in a long list is
     // cheap.
-    std::vector<TItem*> m_items;
-    std::unordered_map<TItem*, OwnerPtr<TItem>> m_owned;
+    std::vector<const TShown*> m_items;
+    std::unordered_map<const TShown*, OwnerPtr<TItem>> m_owned;
+
+    /// The first item with each id, since the list was searched last; empty when it has changed.
+    mutable std::unordered_map<std::wstring, TItem*> m_byId;
     std::weak_ptr<Removed> m_pRemoved;
 };
 

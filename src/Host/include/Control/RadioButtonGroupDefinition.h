@@ -24,7 +24,7 @@ class VESK_HOST_API RadioButtonGroupDefinition
 public:
     explicit RadioButtonGroupDefinition(std::wstring id);
 
-    std::vector<const IRadioButtonDefinition*> GetRadioButtonDefinitions() const override;
+    const std::vector<const IRadioButtonDefinition*>& GetRadioButtonDefinitions() const override;
     std::wstring GetCurrentRadioButtonId() const override;
     void SetCurrentRadioButtonId(const std::wstring& radioButtonId) override;
 
@@ -40,7 +40,7 @@ public:
 
 private:
     std::wstring m_currentRadioButtonId;
-    ItemDefinitionList<RadioButtonDefinition> m_radioButtons{GetEvent()};
+    ItemDefinitionList<RadioButtonDefinition, IRadioButtonDefinition> m_radioButtons{GetEvent()};
 };
 
 }

@@ -24,9 +24,10 @@ void CheckBoxDefinition::SetCheckState(int checkState)
 CheckBoxGroupDefinition::CheckBoxGroupDefinition(std::wstring id) : ControlDefinition(std::move(id))
 {}
 
-std::vector<const ICheckBoxDefinition*> CheckBoxGroupDefinition::GetCheckBoxDefinitions() const
+const std::vector<const ICheckBoxDefinition*>&
+CheckBoxGroupDefinition::GetCheckBoxDefinitions() const
 {
-    return m_checkBoxes.GetAll<ICheckBoxDefinition>();
+    return m_checkBoxes.GetAll();
 }
 
 void CheckBoxGroupDefinition::SetCheckState(const std::wstring& checkBoxId, int checkState)

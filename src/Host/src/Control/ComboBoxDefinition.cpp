@@ -13,7 +13,7 @@ ComboBoxDefinition::ComboBoxDefinition(std::wstring id) : ControlDefinition(std:
 
 std::vector<std::wstring> ComboBoxDefinition::GetItems() const
 {
-    return m_items;
+    return {m_items.begin(), m_items.end()};
 }
 
 void ComboBoxDefinition::SetCurrentIndex(int index)

@@ -41,7 +41,7 @@ std::wstring MenuItemContainerDefinition::GetIconPath() const
 
 std::vector<const IMenuItemDefinition*> MenuItemContainerDefinition::GetMenuItemDefinitions() const
 {
-    return m_menuItems.GetAll<IMenuItemDefinition>();
+    return m_menuItems.GetAll();
 }
 
 void MenuItemContainerDefinition::SetIconPath(const std::wstring& iconPath)
@@ -71,7 +71,7 @@ std::wstring CommandButtonMenuDefinition::GetIconPath() const
 
 std::vector<const IMenuItemDefinition*> CommandButtonMenuDefinition::GetMenuItemDefinitions() const
 {
-    return m_menuItems.GetAll<IMenuItemDefinition>();
+    return m_menuItems.GetAll();
 }
 
 void CommandButtonMenuDefinition::SetIconPath(const std::wstring& iconPath)

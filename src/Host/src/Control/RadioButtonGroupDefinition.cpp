@@ -15,10 +15,10 @@ RadioButtonGroupDefinition::RadioButtonGroupDefinition(std::wstring id)
     : ControlDefinition(std::move(id))
 {}
 
-std::vector<const IRadioButtonDefinition*>
+const std::vector<const IRadioButtonDefinition*>&
 RadioButtonGroupDefinition::GetRadioButtonDefinitions() const
 {
-    return m_radioButtons.GetAll<IRadioButtonDefinition>();
+    return m_radioButtons.GetAll();
 }
 
 std::wstring RadioButtonGroupDefinition::GetCurrentRadioButtonId() const
