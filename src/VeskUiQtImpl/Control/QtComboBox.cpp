@@ -10,6 +10,7 @@
 
 #include <QPointer>
 #include <QScopedValueRollback>
+#include <QStringList>
 #include <QVariant>
 
 namespace vesk
@@ -24,8 +25,11 @@ QtComboBox::QtComboBox(OwnerPtr<IComboBoxDefinition> pControlDefinition, QWidget
                VESK_SITE("vesk::QtComboBox::QtComboBox", L"m_pControlDefinition为空")))
         return;
 
+    QStringList texts;
     for (const std::wstring& text : m_pControlDefinition->GetItems())
-        insertItem(count(), ToQString(text));
+        texts.append(ToQString(text));
+    // All at once: nobody knows the box yet, so nobody is notified of each.
+    addItems(texts);
     setCurrentIndex(m_pControlDefinition->GetCurrentIndex());
     setProperty(PropertyName::IsDefinition, true);
     setObjectName(ToQString(m_pControlDefinition->GetId()));

@@ -179,9 +179,11 @@ void QtCommandButtonMenu::AddMenuItem(QMenu* pMenu, const IMenuItemDefinition* p
     const auto* pCommandItem = dynamic_cast<const ICommandMenuItemDefinition*>(pMenuItemDefinition);
     if (pCommandItem != nullptr)
     {
-        QAction* pAction = pMenu->addAction(icon, caption);
+        // The menu gets it complete, so that it does not hear of each property.
+        auto* pAction = new QAction(icon, caption, pMenu);
         pAction->setProperty(PropertyName::IsDefinition, true);
         SetUpItem(*pAction, *pCommandItem);
+        pMenu->addAction(pAction);
         return;
     }
 

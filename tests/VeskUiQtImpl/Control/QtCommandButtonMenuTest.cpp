@@ -3,6 +3,8 @@
 #include "Control/OtherEventTypes.h"
 #include "Support/TestValues.h"
 
+#include <QActionEvent>
+
 namespace vesk::test
 {
 
@@ -24,6 +26,7 @@ private slots:
     void isBuiltNeitherShownNorHiddenNorDisabled();
     void entriesOfTheDefinitionAreInTheMenu();
     void addedEntryIsACheckableActionWithItsCommand();
+    void addedEntryIsCompleteWhenTheMenuGetsIt();
     void addedContainerIsASubMenu();
     void containersGoToAnyDepth();
     void emptyContainerAddsNothing();
@@ -155,6 +158,31 @@ void QtCommandButtonMenuTest::addedEntryIsACheckableActionWithItsCommand()
     QCOMPARE(pAction->property("CommandId"), QVariant(QString("B")));
     QCOMPARE(pAction->property("IsDefinition"), QVariant(true));
     QCOMPARE(pAction->parent(), f.pButton->menu());
+}
+
+void QtCommandButtonMenuTest::addedEntryIsCompleteWhenTheMenuGetsIt()
+{
+    class Watch final : public QObject
+    {
+    public:
+        bool eventFilter(QObject*, QEvent* pEvent) override
+        {
+            if (pEvent->type() == QEvent::ActionAdded)
+                notes += static_cast<QActionEvent*>(pEvent)->action()->toolTip();
+            if (pEvent->type() == QEvent::ActionChanged)
+                notes += "changed";
+            return false;
+        }
+
+        QStringList notes;
+    };
+    MenuFixture f;
+    Watch watch;
+    f.pButton->menu()->installEventFilter(&watch);
+
+    f.pDefinition->AddMenuItem(MakeItem(L"A", L"a"));
+
+    QCOMPARE(watch.notes, QStringList("Tip of a"));
 }
 
 void QtCommandButtonMenuTest::addedContainerIsASubMenu()
