@@ -2,15 +2,18 @@
 
 #include "Harness/Question.h"
 
+#include "Control/ControlDefinitionChangeByUser.h"
 #include "Control/ControlDefinitionChangeEvent.h"
 
 #include <QAction>
 #include <QObject>
 
 #include <algorithm>
+#include <exception>
 #include <memory>
 #include <numeric>
 #include <random>
+#include <string>
 #include <vector>
 
 using namespace vesk;
@@ -38,18 +41,22 @@ private:
 class PropertyChange final : public IControlDefinitionChangeEventArgs
 {
 public:
+    explicit PropertyChange(bool isByUser) : m_isByUser(isByUser) {}
+
     int GetType() const override { return Type::PropertyChanged; }
     int GetIndex() const override { return -1; }
     const std::wstring& GetItemCaption() const override { return m_caption; }
     const IControlDefinition* GetItemDefinition() const override { return nullptr; }
-    bool IsChangeByUser() const override { return false; }
+    bool IsChangeByUser() const override { return m_isByUser; }
 
 private:
+    bool m_isByUser;
     std::wstring m_caption;
 };
 
-/// The same written by hand, as far as it cannot be left out: handlers may change again what they
-/// are told of, leave and destroy the list, so that each walk along it knows those around it.
+/// The same written by hand, as far as it cannot be left out: handlers are told whether the user
+/// made the change; they may make another, leave, destroy the list, so that each walk along it
+/// knows those around it, and throw, which keeps none from being called.
 class PlainEvent
 {
 public:
@@ -59,17 +66,16 @@ public:
     {
         Walk walk{this, m_pInnermost};
         m_pInnermost = &walk;
-        PropertyChange change;
+        PropertyChange change(ControlDefinitionChangeByUser::IsChangeByUser(m_id));
+        std::exception_ptr pFirst;
         for (std::size_t i = 0; walk.pEvent != nullptr && i < m_handlers.size(); ++i)
-        {
-            if (m_handlers[i] != nullptr)
-                m_handlers[i]->On(&change);
-        }
-        if (walk.pEvent == nullptr)
-            return;
-        m_pInnermost = walk.pOuter;
-        if (m_pInnermost == nullptr && m_hasHoles)
+            Call(m_handlers[i], change, pFirst);
+        if (walk.pEvent != nullptr)
+            m_pInnermost = walk.pOuter;
+        if (walk.pEvent != nullptr && m_pInnermost == nullptr && m_hasHoles)
             CloseHoles();
+        if (pFirst != nullptr)
+            std::rethrow_exception(pFirst);
     }
 
     void Delete(const IControlDefinitionChangeEventHandler* pHandler)
@@ -86,6 +92,21 @@ private:
         Walk* pOuter;
     };
 
+    static void Call(IControlDefinitionChangeEventHandler* pHandler, PropertyChange& change,
+                     std::exception_ptr& pFirst)
+    {
+        try
+        {
+            if (pHandler != nullptr)
+                pHandler->On(&change);
+        }
+        catch (...)
+        {
+            if (pFirst == nullptr)
+                pFirst = std::current_exception();
+        }
+    }
+
     void CloseHoles()
     {
         m_handlers.erase(std::remove(m_handlers.begin(), m_handlers.end(), nullptr),
@@ -93,6 +114,7 @@ private:
         m_hasHoles = false;
     }
 
+    std::wstring m_id = L"Definition";
     std::vector<IControlDefinitionChangeEventHandler*> m_handlers;
     Walk* m_pInnermost = nullptr;
     bool m_hasHoles = false;

@@ -25,7 +25,10 @@ namespace
 constexpr int BoxCount = 10000;
 
 /// Added to a group that has all of the boxes.
-constexpr int AddedCount = 100;
+constexpr int AddedCount = 1000;
+
+/// In one measurement, because one is short.
+constexpr int ChangeCount = 100;
 
 template <class Item>
 OwnerPtr<Item> MakeItem(int number)
@@ -256,7 +259,7 @@ void AskAboutInsertion()
 
 void AskAboutPlacing()
 {
-    Ask("P11 100 boxes added to 10,000 placed ones")
+    Ask("P11 1,000 boxes added to 10,000 placed ones")
         .Ours([](Stopwatch& stopwatch) {
             OurGroup group(BoxCount);
             group.Create();
@@ -293,7 +296,7 @@ void AskAboutOneBox()
             CheckBoxDefinition& item =
                 *group.pDefinition->Find(L"Box." + std::to_wstring(BoxCount / 2));
             stopwatch.Time([&] {
-                for (int i = 0; i < AddedCount; ++i)
+                for (int i = 0; i < ChangeCount; ++i)
                     item.SetCheckState(2 - item.GetCheckState());
             });
         })
@@ -303,7 +306,7 @@ void AskAboutOneBox()
             group.panel.show();
             PlainItem& item = group.items[BoxCount / 2];
             stopwatch.Time([&] {
-                for (int i = 0; i < AddedCount; ++i)
+                for (int i = 0; i < ChangeCount; ++i)
                 {
                     item.state = item.state == Qt::Unchecked ? Qt::Checked : Qt::Unchecked;
                     group.ApplyStates();
@@ -321,7 +324,7 @@ void AskAboutOneBox()
             QCheckBox* pBox = group.opGroup->GetAllControls()[BoxCount / 2];
             pBox->click();
             stopwatch.Time([&] {
-                for (int i = 0; i < AddedCount; ++i)
+                for (int i = 0; i < ChangeCount; ++i)
                     pBox->click();
             });
         })
@@ -332,7 +335,7 @@ void AskAboutOneBox()
             QCheckBox* pBox = group.boxes[BoxCount / 2];
             pBox->click();
             stopwatch.Time([&] {
-                for (int i = 0; i < AddedCount; ++i)
+                for (int i = 0; i < ChangeCount; ++i)
                 {
                     pBox->click();
                     group.items[BoxCount / 2].state = pBox->checkState();
@@ -403,14 +406,14 @@ void AskAboutOneRadioButton()
         .Ours([](Stopwatch& stopwatch) {
             OurRadioButtons buttons;
             stopwatch.Time([&] {
-                for (int i = 0; i < AddedCount; ++i)
+                for (int i = 0; i < ChangeCount; ++i)
                     buttons.pDefinition->SetCurrentRadioButtonId(L"Box." + std::to_wstring(77 * i));
             });
         })
         .Limit([](Stopwatch& stopwatch) {
             PlainRadioButtons buttons;
             stopwatch.Time([&] {
-                for (int i = 0; i < AddedCount; ++i)
+                for (int i = 0; i < ChangeCount; ++i)
                     buttons.ApplyStates("Box." + QString::number(77 * i));
             });
         })

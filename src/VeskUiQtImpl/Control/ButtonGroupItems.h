@@ -197,13 +197,17 @@ private:
     }
 
     /// Advances `i` to the next pair that is incomplete or not equal; false if there is none.
-    template <class Items, class IsEqual>
-    bool SkipEqual(std::size_t& i, const Items& items, IsEqual isEqual) const
+    template <class Item, class IsEqual>
+    bool SkipEqual(std::size_t& i, const std::vector<const Item*>& items, IsEqual isEqual) const
     {
         const std::size_t count = std::min(m_buttons.size(), items.size());
-        while (i < count && m_buttons[i] != nullptr && items[i] != nullptr &&
-               isEqual(*m_buttons[i], *items[i]))
-            ++i;
+        Button* const* pButtons = m_buttons.data();
+        const Item* const* pItems = items.data();
+        std::size_t next = i;
+        while (next < count && pButtons[next] != nullptr && pItems[next] != nullptr &&
+               isEqual(*pButtons[next], *pItems[next]))
+            ++next;
+        i = next;
         return i < count;
     }
 
