@@ -7,7 +7,6 @@
 #include "HostUi/QtText.h"
 
 #include <QAction>
-#include <QIcon>
 #include <QToolButton>
 #include <QVariant>
 
@@ -15,10 +14,11 @@ namespace vesk
 {
 
 /// Creates the checkable action that carries the appearance of a button, as a child of that button:
-/// caption, tool tip and icon come from the definition. Returns null, with a warning in the name of
+/// caption and tool tip come from the definition. Returns null, with a warning in the name of
 /// `function`, if it cannot be created.
 template <class Definition>
-QAction* CreateAction(const Definition& definition, QToolButton* pButton, const char* function)
+QAction* CreateAction(const Definition& definition, const QIcon& icon, QToolButton* pButton,
+                      const char* function)
 {
     auto* pAction = CreateChild<QAction>(pButton, function);
     if (pAction == nullptr)
@@ -27,7 +27,7 @@ QAction* CreateAction(const Definition& definition, QToolButton* pButton, const 
     pAction->setText(ToQString(definition.GetCaption()));
     pAction->setCheckable(true);
     pAction->setToolTip(ToQString(definition.GetTooltip()));
-    pAction->setIcon(QIcon(ToQString(definition.GetIconPath())));
+    pAction->setIcon(icon);
     return pAction;
 }
 

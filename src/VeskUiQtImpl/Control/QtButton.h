@@ -40,11 +40,24 @@ protected:
     void actionEvent(QActionEvent* pEvent) override;
 
 private:
+    enum class Part
+    {
+        Icon,
+        Caption,
+        CheckedState
+    };
+    struct Writing;
+
     void OnButtonClicked(bool checked);
 
-    void ApplyAction();
+    bool IsIconApplied(const QAction& action) const;
+    bool IsEnabledStateAdopted(const QAction& action) const;
+    bool AdoptOnly(Part part);
+    void ApplyAction(QAction& action);
 
     OwnerPtr<ICommandButtonDefinition> m_pControlDefinition;
+
+    static Writing s_writing;
 };
 
 }

@@ -6,6 +6,7 @@
 #include "VeskUiQtImpl/CheckSite.h"
 #include "VeskUiQtImpl/Control/ButtonAction.h"
 #include "VeskUiQtImpl/Control/ControlSubscription.h"
+#include "VeskUiQtImpl/Control/FileIcons.h"
 #include "VeskUiQtImpl/Control/PropertyName.h"
 #include "VeskUiQtImpl/CreateChild.h"
 #include "VeskUiQtImpl/ProcessCommandUtil.h"
@@ -96,7 +97,8 @@ QtCommandButtonMenu::QtCommandButtonMenu(OwnerPtr<ICommandButtonMenuDefinition> 
 
     // A report may run an event loop.
     const QPointer<QtCommandButtonMenu> pSelf(this);
-    QAction* pAction = CreateAction(*m_pControlDefinition, this, Function);
+    const QIcon icon = FileIcons::Get(m_pControlDefinition->GetIconPath());
+    QAction* pAction = CreateAction(*m_pControlDefinition, icon, this, Function);
     if (pSelf == nullptr)
         return;
     if (pAction != nullptr)
@@ -175,7 +177,7 @@ void QtCommandButtonMenu::AddMenuItem(QMenu* pMenu, const IMenuItemDefinition* p
         return;
 
     const QString caption = ToQString(pMenuItemDefinition->GetCaption());
-    const QIcon icon(ToQString(pMenuItemDefinition->GetIconPath()));
+    const QIcon icon = FileIcons::Get(pMenuItemDefinition->GetIconPath());
     const auto* pCommandItem = dynamic_cast<const ICommandMenuItemDefinition*>(pMenuItemDefinition);
     if (pCommandItem != nullptr)
     {
@@ -240,7 +242,7 @@ void QtCommandButtonMenu::InsertMenuItem(int index, const IControlDefinition* pI
     const auto* pCommandItem = dynamic_cast<const ICommandMenuItemDefinition*>(pItemDefinition);
     if (pCommandItem == nullptr)
         return;
-    const QIcon icon(ToQString(pCommandItem->GetIconPath()));
+    const QIcon icon = FileIcons::Get(pCommandItem->GetIconPath());
     auto* pAction = new QAction(icon, ToQString(pCommandItem->GetCaption()), this);
     SetUpItem(*pAction, *pCommandItem);
     menu()->insertAction(actions[index], pAction);

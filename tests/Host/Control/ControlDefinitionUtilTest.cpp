@@ -8,6 +8,7 @@
 #include "Control/IRadioButtonGroupDefinition.h"
 #include "Control/LabelDefinition.h"
 #include "Control/LineEditDefinition.h"
+#include "Support/KeptText.h"
 #include "Support/TestValues.h"
 
 namespace vesk
@@ -42,8 +43,8 @@ class ButtonMenu final : public ControlDefinition<ICommandButtonMenuDefinition>
 {
 public:
     ButtonMenu() : ControlDefinition(L"id") {}
-    std::wstring GetCommandId() const override { return {}; }
-    std::wstring GetIconPath() const override { return {}; }
+    const std::wstring& GetCommandId() const override { return test::Kept({}); }
+    const std::wstring& GetIconPath() const override { return test::Kept({}); }
     std::vector<const IMenuItemDefinition*> GetMenuItemDefinitions() const override { return {}; }
 };
 
@@ -74,9 +75,9 @@ public:
 class SilentLabel final : public ILabelDefinition
 {
 public:
-    std::wstring GetId() const override { return L"id"; }
-    std::wstring GetCaption() const override { return {}; }
-    std::wstring GetTooltip() const override { return {}; }
+    const std::wstring& GetId() const override { return test::Kept(L"id"); }
+    const std::wstring& GetCaption() const override { return test::Kept({}); }
+    const std::wstring& GetTooltip() const override { return test::Kept({}); }
     bool IsVisible() const override { return true; }
     bool IsEnabled() const override { return true; }
 };

@@ -6,6 +6,7 @@
 #include "Control/IControl.h"
 #include "Control/VeskIControlFactory.h"
 #include "Support/HostFixture.h"
+#include "Support/KeptText.h"
 #include "Support/TestValues.h"
 
 #include <QAction>
@@ -47,8 +48,8 @@ struct LooseMenuDefinition final : ControlDefinition<ICommandButtonMenuDefinitio
 {
     LooseMenuDefinition() : ControlDefinition(L"Menu.Id") {}
 
-    std::wstring GetCommandId() const override { return L"Main"; }
-    std::wstring GetIconPath() const override { return IconPath; }
+    const std::wstring& GetCommandId() const override { return Kept(L"Main"); }
+    const std::wstring& GetIconPath() const override { return Kept(IconPath); }
     std::vector<const IMenuItemDefinition*> GetMenuItemDefinitions() const override
     {
         return items;

@@ -2,6 +2,7 @@
 #include "Control/LabelDefinition.h"
 #include "Control/LineEditDefinitions.h"
 #include "Support/HostFixture.h"
+#include "Support/KeptText.h"
 #include "Support/TestValues.h"
 #include "VeskUiQtImpl/Control/QtButton.h"
 #include "VeskUiQtImpl/Control/QtLabel.h"
@@ -27,9 +28,9 @@ public:
     {}
     ~WatchedLabelDefinition() override { m_isHeardAtTheEnd = !m_event.IsEmpty(); }
 
-    std::wstring GetId() const override { return L"id"; }
-    std::wstring GetCaption() const override { return L"caption"; }
-    std::wstring GetTooltip() const override { return {}; }
+    const std::wstring& GetId() const override { return Kept(L"id"); }
+    const std::wstring& GetCaption() const override { return Kept(L"caption"); }
+    const std::wstring& GetTooltip() const override { return Kept({}); }
     bool IsVisible() const override { return false; }
     bool IsEnabled() const override { return true; }
     IControlDefinitionChangeEvent* GetControlDefinitionChangeEvent() const override
@@ -46,9 +47,9 @@ private:
 class MuteLabelDefinition final : public ILabelDefinition
 {
 public:
-    std::wstring GetId() const override { return L"id"; }
-    std::wstring GetCaption() const override { return L"caption"; }
-    std::wstring GetTooltip() const override { return {}; }
+    const std::wstring& GetId() const override { return Kept(L"id"); }
+    const std::wstring& GetCaption() const override { return Kept(L"caption"); }
+    const std::wstring& GetTooltip() const override { return Kept({}); }
     bool IsVisible() const override { return false; }
     bool IsEnabled() const override { return true; }
 };

@@ -2,6 +2,7 @@
 
 #include "Control/ControlDefinitionChangeByUser.h"
 #include "Control/LineEditDefinition.h"
+#include "Support/KeptText.h"
 #include "Support/TestValues.h"
 #include "Validation/ValidatorBase.h"
 
@@ -66,9 +67,9 @@ class ForeignLineEditDefinition final : public ILineEditDefinition,
 public:
     explicit ForeignLineEditDefinition(int inputType) : m_inputType(inputType) {}
 
-    std::wstring GetId() const override { return L"Foreign"; }
-    std::wstring GetCaption() const override { return {}; }
-    std::wstring GetTooltip() const override { return {}; }
+    const std::wstring& GetId() const override { return Kept(L"Foreign"); }
+    const std::wstring& GetCaption() const override { return Kept({}); }
+    const std::wstring& GetTooltip() const override { return Kept({}); }
     bool IsVisible() const override { return true; }
     bool IsEnabled() const override { return true; }
     int GetInputType() const override { return m_inputType; }

@@ -1,6 +1,7 @@
 #include "Control/CommandButtonMenuFixture.h"
 #include "Control/LabelDefinition.h"
 #include "Control/ReportingControls.h"
+#include "Support/KeptText.h"
 #include "Support/TestValues.h"
 
 namespace vesk::test
@@ -16,13 +17,13 @@ namespace
 class DoubleItem final : public ICommandMenuItemDefinition, public IMenuItemContainerDefinition
 {
 public:
-    std::wstring GetId() const override { return L"double"; }
-    std::wstring GetCaption() const override { return L"double"; }
-    std::wstring GetTooltip() const override { return L"tip"; }
+    const std::wstring& GetId() const override { return Kept(L"double"); }
+    const std::wstring& GetCaption() const override { return Kept(L"double"); }
+    const std::wstring& GetTooltip() const override { return Kept(L"tip"); }
     bool IsVisible() const override { return true; }
     bool IsEnabled() const override { return true; }
-    std::wstring GetIconPath() const override { return IconPath; }
-    std::wstring GetCommandId() const override { return L"A"; }
+    const std::wstring& GetIconPath() const override { return Kept(IconPath); }
+    const std::wstring& GetCommandId() const override { return Kept(L"A"); }
     std::vector<const IMenuItemDefinition*> GetMenuItemDefinitions() const override
     {
         return children;

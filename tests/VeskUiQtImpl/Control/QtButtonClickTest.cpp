@@ -6,6 +6,7 @@
 #include "Control/EchoModes.h"
 #include "Support/HostFixture.h"
 #include "Support/HostValues.h"
+#include "Support/KeptText.h"
 #include "Support/TestValues.h"
 #include "VeskUiQtImpl/ProcessCommandUtil.h"
 
@@ -180,10 +181,10 @@ class TwoCommandsDefinition final : public CommandButtonDefinition
 public:
     using CommandButtonDefinition::CommandButtonDefinition;
 
-    std::wstring GetCommandId() const override
+    const std::wstring& GetCommandId() const override
     {
         isReadAsTheUsers = ControlDefinitionChangeByUser::IsChangeByUser(GetId());
-        return IsChecked() ? L"On" : L"Off";
+        return Kept(IsChecked() ? L"On" : L"Off");
     }
 
     mutable bool isReadAsTheUsers = true;

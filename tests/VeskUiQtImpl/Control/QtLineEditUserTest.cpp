@@ -54,7 +54,7 @@ class TimedDefinition final : public LineEditDefinition
 public:
     using LineEditDefinition::LineEditDefinition;
 
-    std::wstring GetId() const override
+    const std::wstring& GetId() const override
     {
         wereFlagged.push_back(LineEditTextChangeFlag::m_textChangeByUser);
         return LineEditDefinition::GetId();

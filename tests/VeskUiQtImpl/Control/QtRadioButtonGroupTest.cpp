@@ -5,6 +5,7 @@
 #include "Control/ChangeNotes.h"
 #include "Control/EchoModes.h"
 #include "Support/HostFixture.h"
+#include "Support/KeptText.h"
 #include "Support/TestValues.h"
 
 #include <QPushButton>
@@ -71,7 +72,7 @@ class AskedDefinition final : public RadioButtonGroupDefinition
 public:
     using RadioButtonGroupDefinition::RadioButtonGroupDefinition;
 
-    std::wstring GetId() const override
+    const std::wstring& GetId() const override
     {
         wereFlagged.push_back(RadioButtonGroupStateChangeFlag::m_stateChangeByUser);
         return RadioButtonGroupDefinition::GetId();

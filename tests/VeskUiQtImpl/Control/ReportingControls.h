@@ -10,6 +10,7 @@
 #include "Control/ProgressBarDefinition.h"
 #include "Control/VeskIControlFactory.h"
 #include "Support/HostFixture.h"
+#include "Support/KeptText.h"
 #include "Support/MemberAccess.h"
 #include "Support/TestValues.h"
 #include "VeskUiQtImpl/Control/QtButton.h"
@@ -118,7 +119,7 @@ struct LooseContainerDefinition final : ControlDefinition<IMenuItemContainerDefi
 {
     LooseContainerDefinition() : ControlDefinition(L"Container") {}
 
-    std::wstring GetIconPath() const override { return IconPath; }
+    const std::wstring& GetIconPath() const override { return Kept(IconPath); }
     std::vector<const IMenuItemDefinition*> GetMenuItemDefinitions() const override
     {
         return items;

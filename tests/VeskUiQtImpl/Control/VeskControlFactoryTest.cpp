@@ -10,6 +10,7 @@
 #include "Control/LabelDefinition.h"
 #include "Control/LineEditDefinition.h"
 #include "Support/HostFixture.h"
+#include "Support/KeptText.h"
 #include "Support/TestValues.h"
 #include "VeskUiQtImpl/Control/QtButton.h"
 #include "VeskUiQtImpl/Control/QtCheckBoxGroup.h"
@@ -37,9 +38,9 @@ public:
     explicit FreedDefinition(int& freedCount) : m_freedCount(freedCount) {}
     ~FreedDefinition() override { ++m_freedCount; }
 
-    std::wstring GetId() const override { return L"id"; }
-    std::wstring GetCaption() const override { return {}; }
-    std::wstring GetTooltip() const override { return {}; }
+    const std::wstring& GetId() const override { return Kept(L"id"); }
+    const std::wstring& GetCaption() const override { return Kept({}); }
+    const std::wstring& GetTooltip() const override { return Kept({}); }
     bool IsVisible() const override { return true; }
     bool IsEnabled() const override { return true; }
 
@@ -50,8 +51,8 @@ private:
 struct Menu final : FreedDefinition<ICommandButtonMenuDefinition>
 {
     using FreedDefinition::FreedDefinition;
-    std::wstring GetCommandId() const override { return {}; }
-    std::wstring GetIconPath() const override { return {}; }
+    const std::wstring& GetCommandId() const override { return Kept({}); }
+    const std::wstring& GetIconPath() const override { return Kept({}); }
     std::vector<const IMenuItemDefinition*> GetMenuItemDefinitions() const override { return {}; }
 };
 

@@ -12,8 +12,8 @@ class VESK_HOST_API CommandButtonDefinition : public ControlDefinition<ICommandB
 public:
     CommandButtonDefinition(std::wstring id, std::wstring commandId);
 
-    std::wstring GetCommandId() const override;
-    std::wstring GetIconPath() const override;
+    const std::wstring& GetCommandId() const override;
+    const std::wstring& GetIconPath() const override;
     int GetButtonStyle() const override;
     void SetChecked(bool isChecked) override;
     bool IsChecked() const override;

@@ -13,8 +13,8 @@ class VESK_HOST_API CommandMenuItemDefinition : public ControlDefinition<IComman
 public:
     CommandMenuItemDefinition(std::wstring id, std::wstring commandId, const std::wstring& caption);
 
-    std::wstring GetCommandId() const override;
-    std::wstring GetIconPath() const override;
+    const std::wstring& GetCommandId() const override;
+    const std::wstring& GetIconPath() const override;
     void SetIconPath(const std::wstring& iconPath);
 
 private:
@@ -30,7 +30,7 @@ class VESK_HOST_API MenuItemContainerDefinition
 public:
     MenuItemContainerDefinition(std::wstring id, const std::wstring& caption);
 
-    std::wstring GetIconPath() const override;
+    const std::wstring& GetIconPath() const override;
     std::vector<const IMenuItemDefinition*> GetMenuItemDefinitions() const override;
     void SetIconPath(const std::wstring& iconPath);
 
@@ -53,8 +53,8 @@ public:
     /// `commandId` is the command of the main part; empty if it has none.
     CommandButtonMenuDefinition(std::wstring id, std::wstring commandId);
 
-    std::wstring GetCommandId() const override;
-    std::wstring GetIconPath() const override;
+    const std::wstring& GetCommandId() const override;
+    const std::wstring& GetIconPath() const override;
     std::vector<const IMenuItemDefinition*> GetMenuItemDefinitions() const override;
     void SetIconPath(const std::wstring& iconPath);
 

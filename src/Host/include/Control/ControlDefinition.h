@@ -17,9 +17,9 @@ template <class TInterface>
 class ControlDefinition : public TInterface, public IControlDefinitionChangeEventSource
 {
 public:
-    std::wstring GetId() const override { return m_id; }
-    std::wstring GetCaption() const override { return m_caption; }
-    std::wstring GetTooltip() const override { return m_tooltip; }
+    const std::wstring& GetId() const override { return m_id; }
+    const std::wstring& GetCaption() const override { return m_caption; }
+    const std::wstring& GetTooltip() const override { return m_tooltip; }
     bool IsVisible() const override { return m_isVisible; }
     bool IsEnabled() const override { return m_isEnabled; }
 

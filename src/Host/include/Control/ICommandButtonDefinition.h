@@ -10,10 +10,10 @@ class VESK_HOST_API ICommandButtonDefinition : public IControlDefinition
 {
 public:
     /// The command sent by a click.
-    virtual std::wstring GetCommandId() const = 0;
+    virtual const std::wstring& GetCommandId() const = 0;
 
     /// A path or resource name of the icon.
-    virtual std::wstring GetIconPath() const = 0;
+    virtual const std::wstring& GetIconPath() const = 0;
 
     /// 0 icon only, 1 text only, 2 text beside icon, 3 text under icon, 4 as set by the style.
     virtual int GetButtonStyle() const = 0;

@@ -13,7 +13,7 @@ class VESK_HOST_API IMenuItemDefinition : public IControlDefinition
 {
 public:
     /// A path or resource name of the icon; may be empty.
-    virtual std::wstring GetIconPath() const = 0;
+    virtual const std::wstring& GetIconPath() const = 0;
 };
 
 /// A menu entry that holds a sub-menu.
@@ -28,7 +28,7 @@ public:
 class VESK_HOST_API ICommandMenuItemDefinition : public IMenuItemDefinition
 {
 public:
-    virtual std::wstring GetCommandId() const = 0;
+    virtual const std::wstring& GetCommandId() const = 0;
 };
 
 /// A button with a command of its own and a menu of further ones.
@@ -36,8 +36,8 @@ class VESK_HOST_API ICommandButtonMenuDefinition : public IControlDefinition
 {
 public:
     /// The command of the main part; empty if it has none.
-    virtual std::wstring GetCommandId() const = 0;
-    virtual std::wstring GetIconPath() const = 0;
+    virtual const std::wstring& GetCommandId() const = 0;
+    virtual const std::wstring& GetIconPath() const = 0;
 
     /// The entries of the menu, owned by the definition.
     virtual std::vector<const IMenuItemDefinition*> GetMenuItemDefinitions() const = 0;

@@ -8,15 +8,19 @@ namespace vesk
 {
 
 /// Describes one control of the user interface, independently of its widget.
+///
+/// A text returned by reference, here and by the kinds of definition, is the definition's own: it
+/// stays valid until the definition changes or is destroyed. Who calls something in between that
+/// may change it takes a copy.
 class VESK_HOST_API IControlDefinition
 {
 public:
     virtual ~IControlDefinition() = default;
 
     /// Identifies the definition; never changes.
-    virtual std::wstring GetId() const = 0;
-    virtual std::wstring GetCaption() const = 0;
-    virtual std::wstring GetTooltip() const = 0;
+    virtual const std::wstring& GetId() const = 0;
+    virtual const std::wstring& GetCaption() const = 0;
+    virtual const std::wstring& GetTooltip() const = 0;
     virtual bool IsVisible() const = 0;
     virtual bool IsEnabled() const = 0;
 };

@@ -59,9 +59,9 @@ public:
     /// then empty and ignores what is set.
     LineEditDefinitionReference(std::wstring id, LineEditDefinition* pDefinition);
 
-    std::wstring GetId() const override;
-    std::wstring GetCaption() const override;
-    std::wstring GetTooltip() const override;
+    const std::wstring& GetId() const override;
+    const std::wstring& GetCaption() const override;
+    const std::wstring& GetTooltip() const override;
     bool IsVisible() const override;
     bool IsEnabled() const override;
     int GetInputType() const override;

@@ -9,12 +9,12 @@ CommandButtonDefinition::CommandButtonDefinition(std::wstring id, std::wstring c
     : ControlDefinition(std::move(id)), m_commandId(std::move(commandId))
 {}
 
-std::wstring CommandButtonDefinition::GetCommandId() const
+const std::wstring& CommandButtonDefinition::GetCommandId() const
 {
     return m_commandId;
 }
 
-std::wstring CommandButtonDefinition::GetIconPath() const
+const std::wstring& CommandButtonDefinition::GetIconPath() const
 {
     return m_iconPath;
 }

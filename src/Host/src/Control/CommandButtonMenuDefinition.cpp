@@ -12,12 +12,12 @@ CommandMenuItemDefinition::CommandMenuItemDefinition(std::wstring id, std::wstri
     SetCaption(caption);
 }
 
-std::wstring CommandMenuItemDefinition::GetCommandId() const
+const std::wstring& CommandMenuItemDefinition::GetCommandId() const
 {
     return m_commandId;
 }
 
-std::wstring CommandMenuItemDefinition::GetIconPath() const
+const std::wstring& CommandMenuItemDefinition::GetIconPath() const
 {
     return m_iconPath;
 }
@@ -34,7 +34,7 @@ MenuItemContainerDefinition::MenuItemContainerDefinition(std::wstring id,
     SetCaption(caption);
 }
 
-std::wstring MenuItemContainerDefinition::GetIconPath() const
+const std::wstring& MenuItemContainerDefinition::GetIconPath() const
 {
     return m_iconPath;
 }
@@ -59,12 +59,12 @@ CommandButtonMenuDefinition::CommandButtonMenuDefinition(std::wstring id, std::w
     : ControlDefinition(std::move(id)), m_commandId(std::move(commandId))
 {}
 
-std::wstring CommandButtonMenuDefinition::GetCommandId() const
+const std::wstring& CommandButtonMenuDefinition::GetCommandId() const
 {
     return m_commandId;
 }
 
-std::wstring CommandButtonMenuDefinition::GetIconPath() const
+const std::wstring& CommandButtonMenuDefinition::GetIconPath() const
 {
     return m_iconPath;
 }

@@ -11,6 +11,8 @@ namespace vesk
 namespace
 {
 
+const std::wstring s_noText;
+
 /// Passes the user's mark on from one id to another while it exists.
 class ForwardedUserChange
 {
@@ -32,19 +34,19 @@ LineEditDefinitionReference::LineEditDefinitionReference(std::wstring id,
     : m_id(std::move(id)), m_pDefinition(pDefinition)
 {}
 
-std::wstring LineEditDefinitionReference::GetId() const
+const std::wstring& LineEditDefinitionReference::GetId() const
 {
     return m_id;
 }
 
-std::wstring LineEditDefinitionReference::GetCaption() const
+const std::wstring& LineEditDefinitionReference::GetCaption() const
 {
-    return m_pDefinition != nullptr ? m_pDefinition->GetCaption() : std::wstring();
+    return m_pDefinition != nullptr ? m_pDefinition->GetCaption() : s_noText;
 }
 
-std::wstring LineEditDefinitionReference::GetTooltip() const
+const std::wstring& LineEditDefinitionReference::GetTooltip() const
 {
-    return m_pDefinition != nullptr ? m_pDefinition->GetTooltip() : std::wstring();
+    return m_pDefinition != nullptr ? m_pDefinition->GetTooltip() : s_noText;
 }
 
 bool LineEditDefinitionReference::IsVisible() const
