@@ -7,6 +7,8 @@
 #include "Foundation/OwnerPtr.h"
 
 #include <cstddef>
+#include <iterator>
+#include <list>
 #include <memory>
 #include <string>
 #include <unordered_map>
@@ -44,7 +46,7 @@ public:
     TItem* Get(int index) const
     {
         const bool isInside = index >= 0 && index < GetCount();
-        return isInside ? GetOwned(m_items[static_cast<std::size_t>(index)]) : nullptr;
+        return isInside ? m_owners[static_cast<std::size_t>(index)]->Get() : nullptr;
     }
 
     /// The first item with that id, null if there is none.
@@ -52,8 +54,8 @@ public:
     {
         if (m_byId.empty())
         {
-            for (const TShown* pItem : m_items)
-                m_byId.emplace(pItem->GetId(), GetOwned(pItem));
+            for (const Owner owner : m_owners)
+                m_byId.emplace((*owner)->GetId(), owner->Get());
         }
         const auto found = m_byId.find(id);
         return found != m_byId.end() ? found->second : nullptr;
@@ -73,8 +75,9 @@ public:
         const std::shared_ptr<Removed> pRemoved = GetRemoved();
         if (IControlDefinitionChangeEvent* pItemEvent = FindEvent(*pItem))
             pItemEvent->Add(this);
+        m_owned.push_back(std::move(opItem));
+        m_owners.insert(m_owners.begin() + index, std::prev(m_owned.end()));
         m_items.insert(m_items.begin() + index, pItem);
-        m_owned.emplace(pItem, std::move(opItem));
         if (!isAppended)
             m_byId.clear();
         else if (!m_byId.empty())
@@ -88,13 +91,14 @@ public:
     {
         if (!CheckItemIndex(index, GetCount() - 1, function))
             return;
-        const auto place = m_items.begin() + index;
-        TItem* pItem = GetOwned(*place);
+        TItem* pItem = Get(index);
         const std::wstring caption = pItem->GetCaption();
         const std::shared_ptr<Removed> pRemoved = GetRemoved();
         m_byId.clear();
-        m_items.erase(place);
-        Remove(pItem, *pRemoved);
+        Unsubscribe(*pItem);
+        pRemoved->splice(pRemoved->end(), m_owned, m_owners[static_cast<std::size_t>(index)]);
+        m_owners.erase(m_owners.begin() + index);
+        m_items.erase(m_items.begin() + index);
         m_event.RaiseItemsChanged(ControlDefinitionChangeEventType::Delete, index, caption, pItem,
                                   pRemoved);
     }
@@ -106,14 +110,18 @@ public:
             return;
         const std::shared_ptr<Removed> pRemoved = GetRemoved();
         m_byId.clear();
-        for (const TShown* pItem : std::exchange(m_items, {}))
-            Remove(GetOwned(pItem), *pRemoved);
+        for (const OwnerPtr<TItem>& opItem : m_owned)
+            Unsubscribe(*opItem);
+        pRemoved->splice(pRemoved->end(), m_owned);
+        m_owners.clear();
+        m_items.clear();
         m_event.RaiseItemsChanged(ControlDefinitionChangeEventType::Clear, -1, std::wstring(),
                                   nullptr, pRemoved);
     }
 
 private:
-    using Removed = std::vector<OwnerPtr<TItem>>;
+    using Removed = std::list<OwnerPtr<TItem>>;
+    using Owner = typename Removed::iterator;
 
     /// The removed items that handlers may still be notified of; freed when the last call that
     /// holds them returns.
@@ -125,15 +133,10 @@ private:
         return pRemoved;
     }
 
-    TItem* GetOwned(const TShown* pItem) const { return m_owned.find(pItem)->second.Get(); }
-
-    void Remove(TItem* pItem, Removed& removed)
+    void Unsubscribe(TItem& item)
     {
-        if (IControlDefinitionChangeEvent* pItemEvent = FindEvent(*pItem))
+        if (IControlDefinitionChangeEvent* pItemEvent = FindEvent(item))
             pItemEvent->Delete(this);
-        const auto owned = m_owned.find(pItem);
-        removed.push_back(std::move(owned->second));
-        m_owned.erase(owned);
     }
 
     static IControlDefinitionChangeEvent* FindEvent(TItem& item)
@@ -146,10 +149,12 @@ private:
 
     ControlDefinitionChangeEvent& m_event;
 
-    // The order is kept apart from the owners, because shifting plain pointers in a long list is
+    std::list<OwnerPtr<TItem>> m_owned;
+
+    // The order is kept apart from the owners, because shifting what is plain in a long list is
     // cheap.
     std::vector<const TShown*> m_items;
-    std::unordered_map<const TShown*, OwnerPtr<TItem>> m_owned;
+    std::vector<Owner> m_owners; ///< Of the items, in the same order.
 
     /// The first item with each id, since the list was searched last; empty when it has changed.
     mutable std::unordered_map<std::wstring, TItem*> m_byId;
