@@ -116,11 +116,11 @@ struct PlainGroup
     }
 
     /// The group lists its buttons in the order in which they came, so all leave and come again.
-    /// From the end: what leaves is then searched, but nothing has to move up.
+    /// The first one leaves first: then none has to be searched.
     void InsertFirst(const PlainItem& item)
     {
-        for (auto box = boxes.rbegin(); box != boxes.rend(); ++box)
-            group.removeButton(*box);
+        for (QCheckBox* pBox : boxes)
+            group.removeButton(pBox);
         auto* pInserted = MakeButton<QCheckBox>(item, panel);
         pLayout->insertWidget(0, pInserted);
         boxes.insert(boxes.begin(), pInserted);
