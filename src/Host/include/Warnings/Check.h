@@ -16,10 +16,18 @@ struct CheckSite
     const wchar_t* date;    ///< The day the check was written, "2026-11-21".
 };
 
+/// Reports `site` as a debug warning.
+VESK_HOST_API void ReportFailure(const CheckSite& site);
+
 /// Reports `site` as a debug warning when `condition` is false, and returns `condition`.
 ///
 /// The caller itself returns from the function, so that every exit is visible in the code: `if
 /// (!Check(pArgs != nullptr, VESK_SITE("vesk::QtButton::On", L"pArgs为空"))) return;`
-VESK_HOST_API bool Check(bool condition, const CheckSite& site);
+inline bool Check(bool condition, const CheckSite& site)
+{
+    if (!condition)
+        ReportFailure(site);
+    return condition;
+}
 
 }

@@ -5,12 +5,10 @@
 namespace vesk
 {
 
-bool Check(bool condition, const CheckSite& site)
+void ReportFailure(const CheckSite& site)
 {
-    if (!condition)
-        DebugMessageMgr::GetDebugMessageMgr()->ShowDebugWarn(site.file, site.line, site.function,
-                                                             site.message, site.person, site.date);
-    return condition;
+    DebugMessageMgr::GetDebugMessageMgr()->ShowDebugWarn(site.file, site.line, site.function,
+                                                         site.message, site.person, site.date);
 }
 
 }
