@@ -55,7 +55,10 @@ void QtLabel::On(IControlDefinitionChangeEventArgs* pArgs)
     if (pArgs->GetType() != ControlDefinitionChangeEventType::PropertyChanged)
         return;
 
-    setText(ToQString(m_pControlDefinition->GetCaption()));
+    // A label drops a text that it has already; this saves the conversion.
+    const std::wstring& caption = m_pControlDefinition->GetCaption();
+    if (!IsSameText(text(), caption))
+        setText(ToQString(caption));
     ApplyStatus(*this, *m_pControlDefinition);
 }
 

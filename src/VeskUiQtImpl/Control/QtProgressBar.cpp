@@ -7,6 +7,9 @@
 
 #include "HostUi/QtText.h"
 
+#include <QPointer>
+#include <QString>
+#include <QStyle>
 #include <QVariant>
 
 namespace vesk
@@ -29,6 +32,22 @@ constexpr char StyleSheet[] = "QProgressBar \n"
                               "margin - bottom: 2px;\n"
                               "}\n";
 
+/// Sets the sheet. A widget given its first one makes a style that reads sheets, and parses it at
+/// once; a widget that has such a style parses it when it is first shown. So all bars share one.
+void SetStyleSheet(QProgressBar& bar)
+{
+    static const QString s_sheet = StyleSheet;
+    static QPointer<QStyle> s_pStyle;
+    if (s_pStyle != nullptr)
+    {
+        bar.setStyle(s_pStyle);
+        // The style is not the bar's own: it follows its parent and the application.
+        bar.setAttribute(Qt::WA_SetStyle, false);
+    }
+    bar.setStyleSheet(s_sheet);
+    s_pStyle = bar.style();
+}
+
 }
 
 QtProgressBar::QtProgressBar(OwnerPtr<IProgressBarDefinition> pControlDefinition, QWidget*)
@@ -43,7 +62,7 @@ QtProgressBar::QtProgressBar(OwnerPtr<IProgressBarDefinition> pControlDefinition
     setToolTip(ToQString(m_pControlDefinition->GetTooltip()));
     ApplyProgress();
     setFixedHeight(Height);
-    setStyleSheet(StyleSheet);
+    SetStyleSheet(*this);
     Subscribe(m_pControlDefinition.Get(), this);
 }
 

@@ -47,6 +47,9 @@ private slots:
     void keepsItsToolTipWhenTheDefinitionChanges();
     void followsVisibilityAndEnabledState();
     void writesStateWithoutComparing();
+    void echoSendsNoEvent();
+    void restoresItsCaption_data();
+    void restoresItsCaption();
     void ignoresOtherEvents_data();
     void ignoresOtherEvents();
     void reportsMissingArguments();
@@ -150,6 +153,52 @@ void QtLabelTest::writesStateWithoutComparing()
 
     QVERIFY(f.opLabel->isHidden());
     QVERIFY(f.opLabel->testAttribute(Qt::WA_ForceDisabled));
+}
+
+/// Counts the events that any object gets.
+class LabelEventCount final : public QObject
+{
+public:
+    LabelEventCount() { QCoreApplication::instance()->installEventFilter(this); }
+
+    bool eventFilter(QObject*, QEvent*) override
+    {
+        ++count;
+        return false;
+    }
+
+    int count = 0;
+};
+
+void QtLabelTest::echoSendsNoEvent()
+{
+    LabelFixture f;
+    f.pDefinition->SetEnabled(false);
+    const LabelEventCount events;
+
+    f.pDefinition->SetTooltip(L"changes nothing that is shown");
+
+    QCOMPARE(events.count, 0);
+}
+
+void QtLabelTest::restoresItsCaption_data()
+{
+    QTest::addColumn<bool>("isPixmap");
+    QTest::newRow("after a text") << false;
+    QTest::newRow("after a pixmap") << true;
+}
+
+void QtLabelTest::restoresItsCaption()
+{
+    QFETCH(bool, isPixmap);
+    LabelFixture f;
+    f.opLabel->setText("by hand");
+    if (isPixmap)
+        f.opLabel->setPixmap(QPixmap(16, 16));
+
+    f.pDefinition->SetTooltip(L"changes nothing that is shown");
+
+    QCOMPARE(f.opLabel->text(), QString("caption"));
 }
 
 void QtLabelTest::ignoresOtherEvents_data()

@@ -5,6 +5,8 @@
 #include "Support/HostFixture.h"
 #include "Support/TestValues.h"
 
+#include <vector>
+
 namespace vesk::test
 {
 
@@ -50,6 +52,9 @@ private slots:
     void showsValueTextAndWidthUnderTheIdOfItsDefinition();
     void isEighteenPixelsHigh();
     void hasItsOwnStyleSheetToTheLetter();
+    void looksAsAnyBarWithThatSheet_data();
+    void looksAsAnyBarWithThatSheet();
+    void followsTheSheetOfItsParent();
     void hasNoParent();
     void answersItsDefinition();
     void hasTheMetaObjectOfAPlainBar();
@@ -102,6 +107,60 @@ void QtProgressBarTest::hasItsOwnStyleSheetToTheLetter()
              QString("QProgressBar \n{\nborder: 1px solid #adcdf2;   \ntext-align: center;\n}\n"
                      "QProgressBar::chunk \n{\nbackground-color: #6babf5;   \n"
                      "margin - top: 2px;\nmargin - bottom: 2px;\n}\n"));
+}
+
+void QtProgressBarTest::looksAsAnyBarWithThatSheet_data()
+{
+    QTest::addColumn<int>("olderBars");
+    QTest::addColumn<bool>("areTheyGone");
+    QTest::newRow("the first bar") << 0 << false;
+    QTest::newRow("one of several") << 2 << false;
+    QTest::newRow("the only one that is left") << 2 << true;
+}
+
+void QtProgressBarTest::looksAsAnyBarWithThatSheet()
+{
+    QFETCH(int, olderBars);
+    QFETCH(bool, areTheyGone);
+    const HostFixture host;
+    const auto makeBar = [] {
+        auto opDefinition = MakeOwner<ProgressBarDefinition>(L"id");
+        opDefinition->SetValue(42);
+        opDefinition->SetWidth(123);
+        return MakeOwner<QtProgressBar>(std::move(opDefinition), nullptr);
+    };
+    std::vector<OwnerPtr<QtProgressBar>> older;
+    for (int i = 0; i < olderBars; ++i)
+        older.push_back(makeBar());
+    const OwnerPtr<QtProgressBar> opBar = makeBar();
+    if (areTheyGone)
+        older.clear();
+    QProgressBar plain;
+    plain.setValue(42);
+    plain.setFixedSize(123, 18);
+    plain.setStyleSheet(opBar->styleSheet());
+
+    QCOMPARE(opBar->grab().toImage(), plain.grab().toImage());
+    QCOMPARE(opBar->sizeHint(), plain.sizeHint());
+    QCOMPARE(opBar->testAttribute(Qt::WA_SetStyle), plain.testAttribute(Qt::WA_SetStyle));
+}
+
+void QtProgressBarTest::followsTheSheetOfItsParent()
+{
+    const ProgressBarFixture older;
+    ProgressBarFixture f;
+    QWidget otherParent;
+    QProgressBar plain(&otherParent);
+    plain.setValue(42);
+    plain.setTextVisible(false);
+    plain.setFixedSize(123, 18);
+    plain.setStyleSheet(f.opBar->styleSheet());
+
+    f.parent.setStyleSheet("QProgressBar::chunk { background-color: red; margin: 4px; }");
+    otherParent.setStyleSheet(f.parent.styleSheet());
+    f.Show();
+
+    QCOMPARE(f.opBar->grab().toImage(), plain.grab().toImage());
 }
 
 void QtProgressBarTest::hasNoParent()

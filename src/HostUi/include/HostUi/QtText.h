@@ -2,7 +2,6 @@
 
 #include <QString>
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -28,6 +27,24 @@ inline bool Narrow(const std::wstring& wide, QChar* pUnits)
         pUnits[i] = QChar(static_cast<ushort>(character));
     }
     return all <= LargestUnit;
+}
+
+/// Compares all characters, without a branch for each.
+inline bool HasUnits(const std::wstring& wide, const QChar* pUnits)
+{
+    std::uint32_t difference = 0;
+    for (std::size_t i = 0; i < wide.size(); ++i)
+        difference |= static_cast<std::uint32_t>(wide[i]) ^ pUnits[i].unicode();
+    return difference == 0;
+}
+
+/// How many characters need two units.
+inline std::size_t CountPairs(const std::wstring& wide)
+{
+    std::size_t count = 0;
+    for (const wchar_t character : wide)
+        count += static_cast<std::uint32_t>(character) > LargestUnit ? 1 : 0;
+    return count;
 }
 
 /// The conversion of a text that has characters of two units.
@@ -65,14 +82,14 @@ inline std::wstring ToWide(const QString& text)
     return text.toStdWString();
 }
 
-/// Whether ToQString(wide) equals `text`; converts nothing unless `wide` may contain characters of
-/// two units.
+/// Whether ToQString(wide) equals `text`; converts nothing unless `wide` has characters of two
+/// units.
 inline bool IsSameText(const QString& text, const std::wstring& wide)
 {
     const auto size = static_cast<std::size_t>(text.size());
     if (size > wide.size())
-        return size <= wide.size() * 2 && text == ToQString(wide);
-    return size == wide.size() && std::equal(wide.begin(), wide.end(), text.utf16());
+        return size == wide.size() + QtText::CountPairs(wide) && text == ToQString(wide);
+    return size == wide.size() && QtText::HasUnits(wide, text.constData());
 }
 
 }
