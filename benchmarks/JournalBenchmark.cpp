@@ -4,14 +4,17 @@
 #include "Harness/Question.h"
 #include "PlainLines.h"
 
+#include "Journal/JournalFormat.h"
 #include "Journal/JournalManager.h"
 
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTextStream>
 
+#include <cstdlib>
 #include <optional>
 #include <string>
+#include <vector>
 
 using namespace vesk;
 
@@ -86,9 +89,46 @@ void AskAboutPoints()
         .AllocationsAtMost(0);
 }
 
+/// A journal of points, each with its mark.
+std::string WriteJournal(int points)
+{
+    const std::string path = Path() + ".read";
+    PlainLines lines(path);
+    lines << "{\"n\":1,\"kind\":\"command\",\"id\":\"Sketcher.Line\"}\n";
+    for (int i = 0; i < points; ++i)
+    {
+        const Vector3d point = PointAt(i);
+        lines << "{\"n\":" << 2 * i + 2 << ",\"kind\":\"point\",\"point\":[" << point.x() << ","
+              << point.y() << "," << point.z() << "]}\n";
+        lines << "{\"n\":" << 2 * i + 3 << ",\"kind\":\"mark\",\"digest\":\""
+              << std::string(64, 'a') << "\",\"t\":" << i << "}\n";
+        lines.Write();
+    }
+    return path;
+}
+
+void AskAboutReading()
+{
+    constexpr int Points = 50000;
+    Ask("S8 read a journal of 100,000 records")
+        .Ours([](Stopwatch& stopwatch) {
+            static const std::string s_path = WriteJournal(Points);
+            std::vector<JournalRecord> records;
+            std::string error;
+            stopwatch.Time([&] {
+                if (!JournalFormat::ReadFile(s_path, records, error))
+                    std::abort();
+            });
+        })
+        .MillisecondsAtMost(500)
+        .PeakBytesAtMost(300L * 2 * Points)
+        .WithoutInstructions();
+}
+
 }
 
 void AskQuestions()
 {
+    AskAboutReading();
     AskAboutPoints();
 }

@@ -176,7 +176,7 @@ bool JournalFormat::FromLine(const std::string& line, JournalRecord& record, std
         error = reader.GetError();
         return false;
     }
-    record = reader.GetRecord();
+    record = std::move(reader.GetRecord());
     return true;
 }
 
