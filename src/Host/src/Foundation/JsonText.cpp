@@ -10,6 +10,7 @@
 #include <cstddef>
 #include <iterator>
 #include <limits>
+#include <type_traits>
 
 namespace vesk
 {
@@ -22,11 +23,15 @@ namespace
 template <class Character>
 bool IsPlain(std::basic_string_view<Character> text)
 {
-    bool isPlain = true;
+    using Unit = std::make_unsigned_t<Character>;
+    Unit special = 0;
     for (const Character character : text)
-        isPlain &=
-            (character >= 0x20) & (character < 0x80) & (character != '"') & (character != '\\');
-    return isPlain;
+    {
+        const auto unit = static_cast<Unit>(character);
+        special |=
+            static_cast<Unit>((unit < 0x20) | (unit >= 0x80) | (unit == '"') | (unit == '\\'));
+    }
+    return special == 0;
 }
 
 /// Both have the same size.
