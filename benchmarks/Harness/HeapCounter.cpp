@@ -19,6 +19,7 @@ namespace
 
 thread_local long s_allocations = 0;
 thread_local long s_bytes = 0;
+thread_local long s_peak = 0;
 
 long SizeOf(void* pBlock)
 {
@@ -29,6 +30,8 @@ void* Counted(void* pBlock)
 {
     ++s_allocations;
     s_bytes += SizeOf(pBlock);
+    if (s_bytes > s_peak)
+        s_peak = s_bytes;
     return pBlock;
 }
 
@@ -42,6 +45,16 @@ long HeapCounter::Allocations()
 long HeapCounter::Bytes()
 {
     return s_bytes;
+}
+
+long HeapCounter::PeakBytes()
+{
+    return s_peak;
+}
+
+void HeapCounter::ResetPeak()
+{
+    s_peak = s_bytes;
 }
 
 extern "C" {

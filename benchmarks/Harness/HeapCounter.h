@@ -12,4 +12,8 @@ long Allocations();
 /// Negative if it gave back what another thread took.
 long Bytes();
 
+/// The most that Bytes has been since ResetPeak.
+long PeakBytes();
+void ResetPeak();
+
 }

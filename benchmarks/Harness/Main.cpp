@@ -48,7 +48,8 @@ public:
                 m_error = run.error_message;
             m_last = {run.real_accumulated_time * 1e3,
                       std::lround(run.counters.at("allocations").value),
-                      std::lround(run.counters.at("bytes").value)};
+                      std::lround(run.counters.at("bytes").value),
+                      std::lround(run.counters.at("peak").value)};
         }
     }
 
@@ -84,6 +85,7 @@ void Register(const Question& question)
                     state.counters["allocations"] =
                         static_cast<double>(stopwatch.Get().allocations);
                     state.counters["bytes"] = static_cast<double>(stopwatch.Get().bytes);
+                    state.counters["peak"] = static_cast<double>(stopwatch.Get().peak);
                 }
             })
             ->Iterations(1)
@@ -110,7 +112,8 @@ nlohmann::ordered_json RunRound(const Question& question, int number)
         const Measurement measured = Run(PathOf(question, side));
         round[side] = {{"milliseconds", measured.milliseconds},
                        {"allocations", measured.allocations},
-                       {"bytes", measured.bytes}};
+                       {"bytes", measured.bytes},
+                       {"peak", measured.peak}};
     }
     return round;
 }

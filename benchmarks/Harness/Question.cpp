@@ -49,6 +49,12 @@ Question& Question::AllocationsAtMost(long count)
     return *this;
 }
 
+Question& Question::PeakBytesAtMost(long bytes)
+{
+    m_bars["peak bytes"] = static_cast<double>(bytes);
+    return *this;
+}
+
 Question& Question::MillisecondsAtMost(double milliseconds)
 {
     m_bars["milliseconds"] = milliseconds;

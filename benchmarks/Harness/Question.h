@@ -41,6 +41,9 @@ public:
 
     Question& AllocationsAtMost(long count);
 
+    /// The most heap memory that may be in use at any moment of the work, beyond what was before.
+    Question& PeakBytesAtMost(long bytes);
+
     /// For work that has no limit written by hand: a goal in milliseconds of CPU time.
     Question& MillisecondsAtMost(double milliseconds);
 

@@ -4,6 +4,7 @@
 
 #include <valgrind/callgrind.h>
 
+#include <algorithm>
 #include <ctime>
 
 namespace
@@ -20,6 +21,7 @@ double ThreadMilliseconds()
 
 void Stopwatch::Start()
 {
+    HeapCounter::ResetPeak();
     m_start = {0, HeapCounter::Allocations(), HeapCounter::Bytes()};
     CALLGRIND_START_INSTRUMENTATION;
     m_start.milliseconds = ThreadMilliseconds();
@@ -32,4 +34,5 @@ void Stopwatch::Stop()
     m_sum.milliseconds += end - m_start.milliseconds;
     m_sum.allocations += HeapCounter::Allocations() - m_start.allocations;
     m_sum.bytes += HeapCounter::Bytes() - m_start.bytes;
+    m_sum.peak = std::max(m_sum.peak, HeapCounter::PeakBytes() - m_start.bytes);
 }

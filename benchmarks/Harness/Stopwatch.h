@@ -6,6 +6,7 @@ struct Measurement
     double milliseconds = 0; ///< Of this thread's CPU time.
     long allocations = 0;    ///< How often heap memory was asked for, also to grow a block.
     long bytes = 0;          ///< Heap memory that was kept: taken less given back.
+    long peak = 0;           ///< The most that was kept at any moment, in one stretch.
 };
 
 /// Measures a stretch of work in this thread; under callgrind, also counts its instructions.

@@ -33,14 +33,13 @@ namespace vesk
 namespace
 {
 
-constexpr wchar_t JournalCommandDataClass[] = L"JournalCommandData";
-
 OwnerPtr<IJournalCommandData> CreateJournalCommandData()
 {
+    static const std::wstring s_className = L"JournalCommandData";
     NqIJournalFactory* pFactory = NqIJournalFactory::GetImpl();
     if (pFactory == nullptr)
         return nullptr;
-    return OwnerPtrCast<IJournalCommandData>(pFactory->CreateJournalData(JournalCommandDataClass));
+    return OwnerPtrCast<IJournalCommandData>(pFactory->CreateJournalData(s_className));
 }
 
 /// The command with that id; null, with a warning in the name of `function`, if there is none.
@@ -49,8 +48,11 @@ ICommand* FindCommand(const std::wstring& commandId, const char* function)
 {
     const ICommandManager* pManager = ICommandManager::Get();
     ICommand* pCommand = pManager != nullptr ? pManager->GetCommand(commandId) : nullptr;
-    const std::wstring message = L"无法找到字符串对应的注册命令：" + commandId;
-    Check(pCommand != nullptr, VESK_SITE(function, message.c_str()));
+    if (pCommand == nullptr)
+    {
+        const std::wstring message = L"无法找到字符串对应的注册命令：" + commandId;
+        Check(false, VESK_SITE(function, message.c_str()));
+    }
     return pCommand;
 }
 

@@ -71,11 +71,11 @@ DocumentWork::Read ReadWhole(const QString& path, const DocumentFile::Progress& 
     return result;
 }
 
-DocumentWork::Written WriteWhole(const SketchContent& content, const QString& path,
-                                 const DocumentFile::Progress& progress)
+DocumentWork::Written WriteWhole(const SketchContent& content, const std::string& digest,
+                                 const QString& path, const DocumentFile::Progress& progress)
 {
     DocumentWork::Written result;
-    const std::string text = DocumentFile::ToText(content, progress);
+    const std::string text = DocumentFile::ToText(content, digest, progress);
     result.isCancelled = text.empty();
     if (result.isCancelled)
         return result;
@@ -113,8 +113,9 @@ DocumentWork::Read DocumentWork::ReadFile(const QString& path,
     return UnlessOutOfMemory<Read>([&] { return ReadWhole(path, progress); });
 }
 
-DocumentWork::Written DocumentWork::WriteFile(const SketchContent& content, const QString& path,
+DocumentWork::Written DocumentWork::WriteFile(const SketchContent& content,
+                                              const std::string& digest, const QString& path,
                                               const DocumentFile::Progress& progress)
 {
-    return UnlessOutOfMemory<Written>([&] { return WriteWhole(content, path, progress); });
+    return UnlessOutOfMemory<Written>([&] { return WriteWhole(content, digest, path, progress); });
 }

@@ -32,8 +32,9 @@ struct Written
     FileStamp stamp;
 };
 
-/// Replaces a file by one that holds the content; otherwise it stays as it was.
-Written WriteFile(const SketchContent& content, const QString& path,
+/// Replaces a file by one that holds the content, which has that digest; otherwise it stays as it
+/// was.
+Written WriteFile(const SketchContent& content, const std::string& digest, const QString& path,
                   const DocumentFile::Progress& progress);
 
 }

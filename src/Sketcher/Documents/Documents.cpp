@@ -370,7 +370,7 @@ bool Documents::Write(const QString& path)
     const std::string digest = m_sketch.GetDigest();
     DocumentWork::Written written;
     RunWork(content.entities.size() > LargeDrawing, [&](const DocumentFile::Progress& progress) {
-        written = DocumentWork::WriteFile(content, path, progress);
+        written = DocumentWork::WriteFile(content, digest, path, progress);
     });
     if (pThis == nullptr || written.isCancelled)
         return false;

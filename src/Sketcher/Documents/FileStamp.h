@@ -9,7 +9,7 @@ struct FileStamp
 {
     qint64 size = -1;
     QDateTime modified;
-    QByteArray hash; ///< SHA-256 of the bytes.
+    QByteArray hash; ///< SHA-1 of the bytes: it tells changes by accident, and is fast.
 
     /// Of a file that has just been read or written with these bytes.
     static FileStamp Of(const QString& path, const QByteArray& bytes);

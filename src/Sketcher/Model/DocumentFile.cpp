@@ -5,59 +5,74 @@
 #include "Model/EntityJson.h"
 #include "Model/JsonPieces.h"
 
+#include "Foundation/JsonText.h"
 #include "Foundation/LocaleFreeNumbers.h"
-#include "Foundation/Text.h"
 
 #include <algorithm>
+
+using vesk::JsonText;
 
 namespace
 {
 
-/// An object with the members of another, which may be empty, after its own.
-std::string Join(std::string object, const std::string& others)
+/// Ends an object, after the members of another one, which may be empty.
+void Close(std::string& text, const std::string& others)
 {
     if (others.empty())
-        return object;
-    object.back() = ',';
-    return object.append(others, 1);
+        text += '}';
+    else
+        text.append(",").append(others, 1);
 }
 
-std::string UnknownOf(const std::map<int, std::string>& unknown, int id)
+const std::string& UnknownOf(const std::map<int, std::string>& unknown, int id)
 {
+    static const std::string s_none;
     const auto found = unknown.find(id);
-    return found != unknown.end() ? found->second : std::string();
+    return found != unknown.end() ? found->second : s_none;
 }
 
-std::string ToLine(const Entity& entity, const UnknownFields& unknown)
+void AppendLine(std::string& text, const Entity& entity, const UnknownFields& unknown)
 {
-    const std::string id = "{\"id\":" + std::to_string(entity.id) + '}';
-    return Join(Join(id, ToJson(entity).dump()), UnknownOf(unknown.entities, entity.id));
+    text += "{\"id\":";
+    JsonText::AppendNumber(text, entity.id);
+    text += ',';
+    AppendFields(text, entity);
+    Close(text, UnknownOf(unknown.entities, entity.id));
 }
 
-std::string LayersOf(const SketchContent& content)
+void AppendLayers(std::string& text, const SketchContent& content)
 {
-    std::string text;
+    char separator = '[';
     for (const Layer& layer : content.layers)
     {
-        text += text.empty() ? "[\n" : ",\n";
-        text += Join(ToJson(layer).dump(), UnknownOf(content.unknown.layers, layer.id));
+        text += separator;
+        text += "\n{";
+        AppendFields(text, layer);
+        Close(text, UnknownOf(content.unknown.layers, layer.id));
+        separator = ',';
     }
-    return text + "\n]";
+    text += "\n]";
 }
 
 /// Everything but the entities and the end.
-std::string HeadOf(const SketchContent& content)
+std::string HeadOf(const SketchContent& content, const std::string& digest)
 {
-    const auto quoted = [](const std::string& text) { return nlohmann::json(text).dump(); };
     std::string text = "{\"format\":\"vesk-drawing\",\"version\":";
-    text += std::to_string(DocumentFile::Version);
-    text += ",\"digest\":" + quoted(DigestOf(content).ToText());
-    text += ",\"name\":" + quoted(vesk::ToUtf8(content.name));
-    text += ",\"lastId\":" + std::to_string(content.lastId);
-    text += ",\"lastLayerId\":" + std::to_string(content.lastLayerId);
-    text += ",\n\"layers\":" + LayersOf(content);
-    return text +
-           ",\n\"pen\":" + Join(ToJson(content.currentPen).dump(), content.unknown.currentPen);
+    JsonText::AppendNumber(text, DocumentFile::Version);
+    text += ",\"digest\":";
+    JsonText::AppendString(text, std::string_view(digest));
+    text += ",\"name\":";
+    JsonText::AppendString(text, content.name);
+    text += ",\"lastId\":";
+    JsonText::AppendNumber(text, content.lastId);
+    text += ",\"lastLayerId\":";
+    JsonText::AppendNumber(text, content.lastLayerId);
+    text += ",\n\"layers\":";
+    AppendLayers(text, content);
+    text += ",\n\"pen\":{";
+    AppendFields(text, content.currentPen);
+    Close(text, content.unknown.currentPen);
+    return text;
 }
 
 DocumentReading Failed(DocumentReading::Outcome outcome, const std::string& error, int line)
@@ -79,16 +94,25 @@ int LineAt(std::string_view text, std::size_t offset)
 
 std::string DocumentFile::ToText(const SketchContent& content, const Progress& progress)
 {
-    std::string text = HeadOf(content) + ",\n\"entities\":[";
+    return ToText(content, DigestOf(content).ToText(), progress);
+}
+
+std::string DocumentFile::ToText(const SketchContent& content, const std::string& digest,
+                                 const Progress& progress)
+{
+    std::string text = HeadOf(content, digest) + ",\n\"entities\":[";
     const std::size_t count = content.entities.size();
     for (std::size_t i = 0; i < count; ++i)
     {
         if (progress != nullptr && !progress(i, count))
             return {};
         text += i == 0 ? "\n" : ",\n";
-        text += ToLine(content.entities[i], content.unknown);
+        AppendLine(text, content.entities[i], content.unknown);
     }
-    return Join(text + "\n]}", content.unknown.document) + '\n';
+    text += "\n]";
+    Close(text, content.unknown.document);
+    text += '\n';
+    return text;
 }
 
 DocumentReading DocumentFile::FromText(std::string_view text, const Progress& progress)

@@ -44,6 +44,10 @@ public:
     /// with equal unknown fields have equal texts.
     static std::string ToText(const SketchContent& content, const Progress& progress = {});
 
+    /// The same with the digest of the content, which a Sketch knows already.
+    static std::string ToText(const SketchContent& content, const std::string& digest,
+                              const Progress& progress);
+
     /// Reads the text of a file. The content of a whole file is valid, has the digest that the file
     /// names, and keeps the fields that this version does not know.
     static DocumentReading FromText(std::string_view text, const Progress& progress = {});

@@ -3,67 +3,86 @@
 #include "Model/ShapeFields.h"
 #include "Model/ShapeKind.h"
 
-#include "Foundation/Text.h"
+#include "Foundation/JsonText.h"
 
 #include <cstddef>
+#include <string_view>
 
-using Json = nlohmann::ordered_json;
+using vesk::JsonText;
 
 namespace
 {
 
-Json NumbersOf(double number)
+void AppendNumbers(std::string& text, double number)
 {
-    return number;
+    JsonText::AppendNumber(text, number);
 }
 
-Json NumbersOf(const vesk::Vector3d& point)
+void AppendNumbers(std::string& text, const vesk::Vector3d& point)
 {
-    return {point.x(), point.y(), point.z()};
+    text += '[';
+    JsonText::AppendNumber(text, point.x());
+    text += ',';
+    JsonText::AppendNumber(text, point.y());
+    text += ',';
+    JsonText::AppendNumber(text, point.z());
+    text += ']';
 }
 
-Json NumbersOf(const std::array<vesk::Vector3d, 4>& points)
+void AppendNumbers(std::string& text, const std::array<vesk::Vector3d, 4>& points)
 {
-    Json list = Json::array();
+    char separator = '[';
     for (const vesk::Vector3d& point : points)
-        list.push_back(NumbersOf(point));
-    return list;
+    {
+        text += separator;
+        AppendNumbers(text, point);
+        separator = ',';
+    }
+    text += ']';
 }
 
-void AddPen(Json& json, const Pen& pen)
+std::string_view TextOf(bool is)
 {
-    for (const PenPart& part : PenParts())
-        json[vesk::ToUtf8(part.name)] =
-            vesk::ToUtf8(part.valueNames[static_cast<std::size_t>(pen.*part.member)]);
-    json["layer"] = pen.layer;
+    return is ? "true" : "false";
 }
 
 }
 
-Json ToJson(const Entity& entity)
+void AppendFields(std::string& text, const Entity& entity)
 {
-    Json json = {{"type", vesk::ToUtf8(KindOf(entity.shape).name)}};
-    const auto add = [&json](const char* name, const auto& numbers) {
-        json[name] = NumbersOf(numbers);
+    text += "\"type\":";
+    JsonText::AppendString(text, KindOf(entity.shape).name);
+    const auto append = [&text](std::string_view name, const auto& numbers) {
+        text.append(",\"").append(name).append("\":");
+        AppendNumbers(text, numbers);
     };
     Shape copy = entity.shape;
-    std::visit([&add](auto& shape) { VisitFields(shape, add); }, copy);
-    AddPen(json, entity.pen);
-    return json;
+    std::visit([&append](auto& shape) { VisitFields(shape, append); }, copy);
+    text += ',';
+    AppendFields(text, entity.pen);
 }
 
-Json ToJson(const Pen& pen)
+void AppendFields(std::string& text, const Pen& pen)
 {
-    Json json = Json::object();
-    AddPen(json, pen);
-    return json;
+    for (const PenPart& part : PenParts())
+    {
+        JsonText::AppendString(text, part.name);
+        text += ':';
+        JsonText::AppendString(text, part.valueNames[static_cast<std::size_t>(pen.*part.member)]);
+        text += ',';
+    }
+    text += "\"layer\":";
+    JsonText::AppendNumber(text, pen.layer);
 }
 
-Json ToJson(const Layer& layer)
+void AppendFields(std::string& text, const Layer& layer)
 {
-    return {{"id", layer.id},
-            {"name", vesk::ToUtf8(layer.name)},
-            {"colour", vesk::ToUtf8(LineColours()[static_cast<std::size_t>(layer.colour)].name)},
-            {"visible", layer.isVisible},
-            {"locked", layer.isLocked}};
+    text += "\"id\":";
+    JsonText::AppendNumber(text, layer.id);
+    text += ",\"name\":";
+    JsonText::AppendString(text, layer.name);
+    text += ",\"colour\":";
+    JsonText::AppendString(text, LineColours()[static_cast<std::size_t>(layer.colour)].name);
+    text.append(",\"visible\":").append(TextOf(layer.isVisible));
+    text.append(",\"locked\":").append(TextOf(layer.isLocked));
 }

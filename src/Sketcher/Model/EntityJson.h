@@ -2,14 +2,16 @@
 
 #include "Model/SketchContent.h"
 
-#include <nlohmann/json.hpp>
+#include <string>
 
-/// The fields of an entity in files, except for its id: "type", the numbers of the shape, and those
-/// of its pen. Numbers read back to exactly the drawing's doubles.
-nlohmann::ordered_json ToJson(const Entity& entity);
+/// Each appends the fields of a thing in files to a text, as the members of a JSON object without
+/// its braces. Numbers read back to exactly the drawing's doubles.
+
+/// All but the id: "type", the numbers of the shape, and the fields of its pen.
+void AppendFields(std::string& text, const Entity& entity);
 
 /// "style", "colour", "width" and "layer".
-nlohmann::ordered_json ToJson(const Pen& pen);
+void AppendFields(std::string& text, const Pen& pen);
 
 /// "id", "name", "colour", "visible" and "locked".
-nlohmann::ordered_json ToJson(const Layer& layer);
+void AppendFields(std::string& text, const Layer& layer);

@@ -15,7 +15,11 @@ std::string ListOf(const std::vector<Thing>& things)
 {
     std::string list;
     for (const Thing& thing : things)
-        list += (list.empty() ? "" : ",") + ToJson(thing).dump();
+    {
+        list += list.empty() ? "{" : ",{";
+        AppendFields(list, thing);
+        list += '}';
+    }
     return '[' + list + ']';
 }
 

@@ -62,7 +62,29 @@ private slots:
     void aBadLineIsNamed();
     void aFileThatCannotBeReadIsTold();
     void whatWasReadBeforeIsForgotten();
+    void recordsTakeNoMoreMemoryThanTheyNeed();
+    void blankLinesTakeNoMemoryForRecords();
 };
+
+void JournalFileTest::recordsTakeNoMoreMemoryThanTheyNeed()
+{
+    QByteArray content;
+    for (int i = 1; i <= 1000; ++i)
+        content += R"({"n":)" + QByteArray::number(i) + R"(,"kind":"close"})" + '\n';
+
+    const Reading reading = ReadContent(content);
+
+    QCOMPARE(reading.records.size(), std::size_t(1000));
+    QCOMPARE(reading.records.capacity(), std::size_t(1000));
+}
+
+void JournalFileTest::blankLinesTakeNoMemoryForRecords()
+{
+    const Reading reading = ReadContent(QByteArray(23000, '\n'));
+
+    QVERIFY(!reading.isRead);
+    QVERIFY(reading.records.capacity() <= 1000);
+}
 
 void JournalFileTest::recordsAreReadInOrder()
 {

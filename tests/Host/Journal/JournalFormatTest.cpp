@@ -61,6 +61,8 @@ private slots:
     void eachKindHasItsLine();
     void eachLineReadsBack_data() { eachKindHasItsLine_data(); }
     void eachLineReadsBack();
+    void lineIsAppendedToWhatIsThere();
+    void parametersWhoseNamesBecomeTheSameAreOne();
     void doublesReadBackToTheLastBit_data();
     void doublesReadBackToTheLastBit();
     void whatIsNoFiniteNumberReadsBackAsNaN_data();
@@ -148,6 +150,29 @@ void JournalFormatTest::eachLineReadsBack()
     const JournalRecord record = Read(line.toStdString());
 
     QCOMPARE(QString::fromStdString(JournalFormat::ToLine(record)), line);
+}
+
+void JournalFormatTest::lineIsAppendedToWhatIsThere()
+{
+    std::string text = "kept\n";
+
+    JournalFormat::AppendLine({5, UndoRecord{7}}, text);
+
+    QCOMPARE(text, std::string("kept\n{\"n\":5,\"kind\":\"undo\",\"entity\":7}"));
+}
+
+void JournalFormatTest::parametersWhoseNamesBecomeTheSameAreOne()
+{
+    CommandRecord command{L"A", {}};
+    command.parameters.Add(L"B", CommandParameterValue(0));
+    command.parameters.Add({wchar_t(0xDC00)}, CommandParameterValue(1));
+    command.parameters.Add({wchar_t(0xDC01)}, CommandParameterValue(2));
+
+    const JournalRecord record = Read(JournalFormat::ToLine({1, command}));
+
+    const CommandParameters& parameters = std::get<CommandRecord>(record.what).parameters;
+    QCOMPARE(parameters.GetAll().size(), std::size_t{2});
+    QVERIFY(*parameters.Find(L"\uFFFD") == CommandParameterValue(2));
 }
 
 void JournalFormatTest::doublesReadBackToTheLastBit_data()

@@ -1,5 +1,6 @@
 #include "Journal/JournalManager.h"
 
+#include "Host/AllocationCounter.h"
 #include "HostCore.h"
 #include "Journal/IJournalData.h"
 #include "Journal/IJournalUiObject.h"
@@ -103,6 +104,8 @@ private slots:
     void recordsInBetweenDoNotTakeTheNumber();
     void aCommandThatNobodyAnnouncedHasNoNumberToTake();
     void theLastTwentyLinesAreKept();
+    void lastLinesAreForgottenWhenTheFileIsClosed();
+    void recordOfAPointAllocatesNothing();
     void theLastLinesMayBeAskedForFromAnyThread();
     void observersHearEveryRecord();
     void anObserverAddedTwiceHearsOnce();
@@ -219,6 +222,34 @@ void JournalManagerTest::theLastTwentyLinesAreKept()
     QCOMPARE(lines.size(), std::size_t(20));
     QCOMPARE(lines.front(), JournalFormat::ToLine({6, UndoRecord{6}}));
     QCOMPARE(lines.back(), JournalFormat::ToLine({25, UndoRecord{25}}));
+}
+
+void JournalManagerTest::lastLinesAreForgottenWhenTheFileIsClosed()
+{
+    for (int i = 1; i <= 25; ++i)
+        Journal().Add(UndoRecord{i});
+
+    Journal().Close();
+    Journal().Add(UndoRecord{30});
+
+    QCOMPARE(Journal().GetLastLines(),
+             std::vector<std::string>{JournalFormat::ToLine({1, UndoRecord{30}})});
+}
+
+void JournalManagerTest::recordOfAPointAllocatesNothing()
+{
+    const QTemporaryDir folder;
+    std::string error;
+    QVERIFY(Journal().Open(folder.filePath("j").toStdString(), error));
+    const PointRecord record{{1.0 / 3.0, -2.0 / 3.0, 1e-300}, 2000000000};
+    for (int i = 0; i < 60; ++i)
+        Journal().Add(record);
+
+    const std::size_t before = AllocationCounter::s_count;
+    Journal().Add(record);
+    const std::size_t after = AllocationCounter::s_count;
+
+    QCOMPARE(after - before, std::size_t{0});
 }
 
 void JournalManagerTest::theLastLinesMayBeAskedForFromAnyThread()

@@ -5,10 +5,28 @@
 #include "Model/SampleContent.h"
 #include "Support/TestValues.h"
 
+#include <nlohmann/json.hpp>
+
 #include <algorithm>
 #include <string>
 
 using Outcome = DocumentReading::Outcome;
+
+/// Those lines of a file with a whole object that the JSON library would write in another way.
+static QStringList OtherLines(const std::string& file)
+{
+    QStringList others;
+    for (QString line : QString::fromStdString(file).split('\n'))
+    {
+        if (line.endsWith(','))
+            line.chop(1);
+        const std::string text = line.toStdString();
+        const auto json = nlohmann::ordered_json::parse(text, nullptr, false);
+        if (json.is_object() && json.dump() != text)
+            others << line;
+    }
+    return others;
+}
 
 class DocumentFileTest final : public QObject
 {
@@ -101,6 +119,24 @@ private slots:
         QCOMPARE(DigestOf(reading.content).ToText(), DigestOf(content).ToText());
         QVERIFY(reading.content.entities == content.entities);
         QCOMPARE(DocumentFile::ToText(reading.content), text);
+    }
+
+    void everyLineIsWrittenAsTheJsonLibraryWritesIt()
+    {
+        SketchContent content = MakeRandomContent(1, 300);
+        content.layers[1].name = L"a\"\\\t\x01\x7f层\U0001F4D0";
+
+        QCOMPARE(OtherLines(DocumentFile::ToText(content)), QStringList());
+        QCOMPARE(OtherLines(DocumentFile::ToText(MakeSampleContent())), QStringList());
+    }
+
+    void givenDigestIsWritten()
+    {
+        const SketchContent content = MakeSampleContent();
+
+        const std::string text = DocumentFile::ToText(content, DigestOf(content).ToText(), {});
+
+        QCOMPARE(text, DocumentFile::ToText(content));
     }
 
     void aFileMayBeLaidOutInAnotherWay()

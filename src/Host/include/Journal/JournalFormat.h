@@ -26,6 +26,10 @@ public:
     /// The line of a record, without the line terminator.
     static std::string ToLine(const JournalRecord& record);
 
+    /// Appends that line to a text, which need not be empty. Allocates nothing for a record without
+    /// parameters whose texts are ASCII, once the text has the capacity.
+    static void AppendLine(const JournalRecord& record, std::string& text);
+
     /// Reads a line. False if it is not a record; `error` then says why, in one sentence.
     static bool FromLine(const std::string& line, JournalRecord& record, std::string& error);
 

@@ -107,11 +107,11 @@ ActionRunner& ActionRunner::GetInstance()
 void ActionRunner::Process(IUiView* pView, ICommand& command, const CommandParameters& parameters,
                            int record)
 {
-    const Waiting waiting{command.GetCommandId(), parameters, IdOf(pView), record};
+    // Copies of the parameters: the caller may be gone while the command runs.
     if (command.IsInteractive())
-        Take(pView, command, waiting);
+        Take(pView, command, {command.GetCommandId(), parameters, IdOf(pView), record});
     else
-        Run(pView, command, waiting);
+        Run(pView, command, {{}, parameters, std::nullopt, record});
 }
 
 void ActionRunner::Send(const std::wstring& commandId, const CommandParameters& parameters,

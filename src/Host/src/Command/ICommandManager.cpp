@@ -2,7 +2,8 @@
 
 #include "Command/ICommand.h"
 
-#include <map>
+#include <string>
+#include <unordered_map>
 #include <utility>
 
 namespace vesk
@@ -32,7 +33,7 @@ public:
     void RemoveAllCommands() override { m_commands.clear(); }
 
 private:
-    std::map<std::wstring, OwnerPtr<ICommand>> m_commands;
+    std::unordered_map<std::wstring, OwnerPtr<ICommand>> m_commands;
 };
 
 }

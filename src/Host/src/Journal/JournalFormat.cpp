@@ -1,13 +1,13 @@
 #include "Journal/JournalFormat.h"
 
 #include "Dimension/InputField.h"
+#include "Foundation/JsonText.h"
 #include "Foundation/Text.h"
 #include "Journal/JournalReader.h"
 
-#include <nlohmann/json.hpp>
-
-#include <array>
-#include <cmath>
+#include <algorithm>
+#include <string_view>
+#include <utility>
 
 namespace vesk
 {
@@ -15,119 +15,157 @@ namespace vesk
 namespace
 {
 
-using Json = nlohmann::ordered_json;
-
-/// A number that is not finite becomes null.
-Json ToJson(double value)
-{
-    return std::isfinite(value) ? Json(value) : Json();
-}
-
-Json ToJson(const CommandParameterValue& value)
-{
-    struct Visitor
-    {
-        Json operator()(bool is) const { return is; }
-        Json operator()(int integer) const { return integer; }
-        Json operator()(double real) const { return ToJson(real); }
-        Json operator()(const std::wstring& text) const { return ToUtf8(text); }
-    };
-    return std::visit(Visitor(), value.Get());
-}
-
-/// Adds the content of a record to a line.
+/// Appends the content of a record to a line, after its number. The keys are in the texts as they
+/// are in the file.
 class Writer
 {
 public:
-    explicit Writer(Json& line) : m_line(line) {}
+    explicit Writer(std::string& line) : m_line(line) {}
 
     void operator()(const CommandRecord& record) const
     {
-        m_line["kind"] = "command";
-        m_line["id"] = ToUtf8(record.commandId);
-        for (const auto& [name, value] : record.parameters.GetAll())
-            m_line["parameters"][ToUtf8(name)] = ToJson(value);
+        Append(R"(,"kind":"command","id":)", record.commandId);
+        if (!record.parameters.IsEmpty())
+            Append(R"(,"parameters":)", record.parameters);
     }
 
     void operator()(const PointRecord& record) const
     {
-        m_line["kind"] = "point";
-        m_line["point"] = {ToJson(record.point.x()), ToJson(record.point.y()),
-                           ToJson(record.point.z())};
+        Append(R"(,"kind":"point","point":)", record.point);
         if (record.entity.has_value())
-            m_line["entity"] = *record.entity;
+            Append(R"(,"entity":)", *record.entity);
     }
 
     void operator()(const ValueRecord& record) const
     {
-        m_line["kind"] = "value";
-        m_line["field"] = JournalNameOf(record.field);
-        m_line["text"] = ToUtf8(record.text);
-        m_line["value"] = ToJson(record.value);
+        Append(R"(,"kind":"value","field":)", std::string_view(JournalNameOf(record.field)));
+        Append(R"(,"text":)", record.text);
+        Append(R"(,"value":)", record.value);
     }
 
     void operator()(const SelectionRecord& record) const
     {
-        m_line["kind"] = "selection";
-        m_line["entities"] = record.entities;
+        Append(R"(,"kind":"selection","entities":)", record.entities);
     }
 
     void operator()(const PropertyRecord& record) const
     {
-        m_line["kind"] = "property";
-        m_line["object"] = ToUtf8(record.object);
-        m_line["property"] = ToUtf8(record.property);
-        m_line["value"] = ToUtf8(record.value);
+        Append(R"(,"kind":"property","object":)", record.object);
+        Append(R"(,"property":)", record.property);
+        Append(R"(,"value":)", record.value);
     }
 
     void operator()(const UndoRecord& record) const
     {
-        m_line["kind"] = "undo";
-        m_line["entity"] = record.entity;
+        Append(R"(,"kind":"undo","entity":)", record.entity);
     }
 
     void operator()(const RedoRecord& record) const
     {
-        m_line["kind"] = "redo";
-        m_line["entity"] = record.entity;
+        Append(R"(,"kind":"redo","entity":)", record.entity);
     }
 
     void operator()(const MarkRecord& record) const
     {
-        m_line["kind"] = "mark";
-        m_line["digest"] = record.digest;
+        Append(R"(,"kind":"mark","digest":)", std::string_view(record.digest));
         if (record.time.has_value())
-            m_line["t"] = *record.time;
+            Append(R"(,"t":)", *record.time);
     }
 
-    void operator()(const CloseRecord&) const { m_line["kind"] = "close"; }
+    void operator()(const CloseRecord&) const { m_line += R"(,"kind":"close")"; }
 
     void operator()(const HeaderRecord& record) const
     {
-        m_line["kind"] = "journal";
-        m_line["version"] = record.version;
-        m_line["program"] = ToUtf8(record.program);
-        m_line["time"] = ToUtf8(record.time);
+        Append(R"(,"kind":"journal","version":)", record.version);
+        Append(R"(,"program":)", record.program);
+        Append(R"(,"time":)", record.time);
     }
 
     void operator()(const EndRecord& record) const
     {
-        m_line["kind"] = "end";
-        m_line["result"] = record.isRefused ? "refused" : "done";
+        m_line += R"(,"kind":"end","result":)";
+        m_line += record.isRefused ? R"("refused")" : R"("done")";
     }
 
 private:
-    Json& m_line;
+    template <class Value>
+    void Append(std::string_view key, const Value& value) const
+    {
+        m_line += key;
+        Append(value);
+    }
+
+    void Append(bool is) const { m_line += is ? "true" : "false"; }
+    void Append(int number) const { JsonText::AppendNumber(m_line, number); }
+    void Append(double number) const { JsonText::AppendNumber(m_line, number); }
+    void Append(std::string_view text) const { JsonText::AppendString(m_line, text); }
+    void Append(const std::wstring& text) const { JsonText::AppendString(m_line, text); }
+
+    void Append(const Vector3d& point) const
+    {
+        const double coordinates[] = {point.x(), point.y(), point.z()};
+        AppendList(coordinates);
+    }
+
+    void Append(const std::vector<int>& numbers) const { AppendList(numbers); }
+
+    template <class List>
+    void AppendList(const List& list) const
+    {
+        m_line += '[';
+        for (const auto& value : list)
+        {
+            if (m_line.back() != '[')
+                m_line += ',';
+            Append(value);
+        }
+        m_line += ']';
+    }
+
+    /// Names with invalid characters may become the same; the last of them counts.
+    void Append(const CommandParameters& parameters) const
+    {
+        std::vector<std::pair<std::string, const CommandParameterValue*>> members;
+        for (const auto& [name, value] : parameters.GetAll())
+        {
+            const std::string key = ToUtf8(name);
+            const auto found = std::find_if(members.begin(), members.end(),
+                                            [&](const auto& other) { return other.first == key; });
+            if (found != members.end())
+                found->second = &value;
+            else
+                members.emplace_back(key, &value);
+        }
+        m_line += '{';
+        for (const auto& [key, pValue] : members)
+        {
+            if (m_line.back() != '{')
+                m_line += ',';
+            Append(std::string_view(key));
+            m_line += ':';
+            std::visit([this](const auto& value) { Append(value); }, pValue->Get());
+        }
+        m_line += '}';
+    }
+
+    std::string& m_line;
 };
 
 }
 
 std::string JournalFormat::ToLine(const JournalRecord& record)
 {
-    Json line;
-    line["n"] = record.number;
-    std::visit(Writer(line), record.what);
-    return line.dump();
+    std::string line;
+    AppendLine(record, line);
+    return line;
+}
+
+void JournalFormat::AppendLine(const JournalRecord& record, std::string& text)
+{
+    text += "{\"n\":";
+    JsonText::AppendNumber(text, record.number);
+    std::visit(Writer(text), record.what);
+    text += '}';
 }
 
 bool JournalFormat::FromLine(const std::string& line, JournalRecord& record, std::string& error)
@@ -138,7 +176,7 @@ bool JournalFormat::FromLine(const std::string& line, JournalRecord& record, std
         error = reader.GetError();
         return false;
     }
-    record = reader.GetRecord();
+    record = std::move(reader.GetRecord());
     return true;
 }
 

@@ -119,6 +119,7 @@ void JournalLines::Take(OutputFile file, const std::string& path, std::uint64_t 
     m_file = std::move(file);
     m_path = std::filesystem::u8path(path);
     m_size = size;
+    m_endsWithLine = false;
     m_isOnDisk = true;
 }
 
@@ -134,15 +135,17 @@ bool JournalLines::Finish()
 /// the complete lines are kept.
 void JournalLines::WriteWaiting()
 {
-    if (m_waiting.empty() || !m_file.CutTo(m_size))
+    if (m_waiting.empty())
+        return;
+    m_endsWithLine = m_endsWithLine || m_file.CutTo(m_size);
+    if (!m_endsWithLine)
         return;
     const std::size_t written = m_file.Write(m_waiting);
     const std::size_t lastEnd = std::string_view(m_waiting).substr(0, written).rfind('\n');
     const std::size_t whole = lastEnd == std::string_view::npos ? 0 : lastEnd + 1;
     m_size += whole;
     m_waiting.erase(0, whole);
-    if (!m_waiting.empty())
-        m_file.CutTo(m_size);
+    m_endsWithLine = m_waiting.empty() || m_file.CutTo(m_size);
     if (m_isSynced)
         m_isOnDisk = m_file.SyncData();
 }

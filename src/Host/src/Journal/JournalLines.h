@@ -63,6 +63,10 @@ private:
     /// Where the file's last complete line ends.
     std::uint64_t m_size = 0;
 
+    /// True if the file is known to end there. Nobody else writes to it, so it need not be asked
+    /// before each line.
+    bool m_endsWithLine = false;
+
     /// The queued lines, which are not in the file yet.
     std::string m_waiting;
     bool m_isReserved = false;

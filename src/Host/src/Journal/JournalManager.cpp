@@ -8,13 +8,14 @@
 #include "Journal/JournalLines.h"
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
-#include <deque>
 #include <limits>
 #include <mutex>
 #include <optional>
+#include <string_view>
 #include <utility>
 
 namespace vesk
@@ -29,29 +30,34 @@ constexpr std::size_t KeptLines = 20;
 class LastLines
 {
 public:
-    void Add(const std::string& line)
+    /// Reuses the memory of the line that it replaces.
+    void Add(std::string_view line)
     {
         const std::lock_guard lock(m_mutex);
-        m_lines.push_back(line);
-        if (m_lines.size() > KeptLines)
-            m_lines.pop_front();
+        m_lines[m_count++ % KeptLines].assign(line);
     }
 
     void Clear()
     {
         const std::lock_guard lock(m_mutex);
-        m_lines.clear();
+        m_count = 0;
     }
 
     std::vector<std::string> Get() const
     {
         const std::lock_guard lock(m_mutex);
-        return {m_lines.begin(), m_lines.end()};
+        std::vector<std::string> lines;
+        for (std::size_t i = m_count - std::min(m_count, KeptLines); i < m_count; ++i)
+            lines.push_back(m_lines[i % KeptLines]);
+        return lines;
     }
 
 private:
     mutable std::mutex m_mutex;
-    std::deque<std::string> m_lines;
+    std::array<std::string, KeptLines> m_lines;
+
+    /// How many were added since the last Clear.
+    std::size_t m_count = 0;
 };
 
 /// True if a step is finished by what the record says.
@@ -107,7 +113,8 @@ private:
 
     void StartAnew();
     std::string HeaderLine() const;
-    void Announce(const CommandRecord& record);
+    void Write(JournalRecord& record);
+    void Announce(std::wstring commandId, const CommandParameters& parameters);
 
     template <class Tell>
     void TellObservers(const Tell& tell)
@@ -133,6 +140,9 @@ private:
     bool m_isTimed = true;
     Announced m_announced;
     LastLines m_lastLines;
+
+    /// The line of a record while it is written; keeps its memory for the next one.
+    std::string m_line;
     std::vector<IJournalObserver*> m_observers;
 };
 
@@ -203,17 +213,25 @@ void JournalManagerImpl::SetDigestSource(std::function<std::string()> source)
 int JournalManagerImpl::Add(decltype(JournalRecord::what) what)
 {
     JournalRecord record{0, std::move(what)};
+    Write(record);
+    return record.number;
+}
+
+/// Gives the record its number and writes it.
+void JournalManagerImpl::Write(JournalRecord& record)
+{
     const auto* pEnd = std::get_if<EndRecord>(&record.what);
     record.number = pEnd != nullptr ? pEnd->command : m_lastNumber + 1;
-    const std::string line = JournalFormat::ToLine(record);
+    m_line.clear();
+    JournalFormat::AppendLine(record, m_line);
     if (pEnd == nullptr)
         m_lastNumber = record.number;
     m_isMarkDue = m_isMarkDue || EndsStep(record);
 
-    m_lastLines.Add(line);
-    m_file.Add(line + '\n');
+    m_lastLines.Add(m_line);
+    m_line += '\n';
+    m_file.Add(m_line);
     TellObservers([&record](IJournalObserver& observer) { observer.OnRecord(record); });
-    return record.number;
 }
 
 void JournalManagerImpl::FinishStep()
@@ -234,9 +252,11 @@ int JournalManagerImpl::TakeAnnounced(const std::wstring& commandId)
     return isAnnounced ? std::exchange(m_announced.number, 0) : 0;
 }
 
-void JournalManagerImpl::Announce(const CommandRecord& record)
+void JournalManagerImpl::Announce(std::wstring commandId, const CommandParameters& parameters)
 {
-    m_announced = {record.commandId, Add(record)};
+    JournalRecord record{0, CommandRecord{std::move(commandId), parameters}};
+    Write(record);
+    m_announced = {std::move(std::get<CommandRecord>(record.what).commandId), record.number};
 }
 
 void JournalManagerImpl::AddObserver(IJournalObserver* pObserver)
@@ -255,13 +275,13 @@ void JournalManagerImpl::RemoveObserver(IJournalObserver* pObserver)
 void JournalManagerImpl::AddCommandData(OwnerPtr<IJournalCommandData> opData)
 {
     if (opData != nullptr)
-        Announce({opData->GetCommandId(), {}});
+        Announce(opData->GetCommandId(), {});
 }
 
 void JournalManagerImpl::AddCommandDataWithParameters(OwnerPtr<IJournalCommandData> opData)
 {
     if (opData != nullptr)
-        Announce({opData->GetCommandId(), opData->GetCommandParameters()});
+        Announce(opData->GetCommandId(), opData->GetCommandParameters());
 }
 
 void JournalManagerImpl::AddUiObject(OwnerPtr<IJournalUiObject> opObject, int kind,

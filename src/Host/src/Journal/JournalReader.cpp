@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <iterator>
 #include <limits>
+#include <utility>
 
 namespace vesk
 {
@@ -119,7 +120,7 @@ bool JournalReader::ReadCommand()
         return false;
     if (Has("parameters") && !TakeParameters("parameters", record.parameters))
         return false;
-    m_record.what = record;
+    m_record.what = std::move(record);
     return true;
 }
 
@@ -130,7 +131,7 @@ bool JournalReader::ReadPoint()
         return false;
     if (Has("entity") && !TakeInteger("entity", record.entity.emplace()))
         return false;
-    m_record.what = record;
+    m_record.what = std::move(record);
     return true;
 }
 
@@ -140,7 +141,7 @@ bool JournalReader::ReadValue()
     if (!TakeField("field", record.field) || !TakeText("text", record.text) ||
         !TakeReal("value", record.value))
         return false;
-    m_record.what = record;
+    m_record.what = std::move(record);
     return true;
 }
 
@@ -149,7 +150,7 @@ bool JournalReader::ReadSelection()
     SelectionRecord record;
     if (!TakeIntegers("entities", record.entities))
         return false;
-    m_record.what = record;
+    m_record.what = std::move(record);
     return true;
 }
 
@@ -159,7 +160,7 @@ bool JournalReader::ReadProperty()
     if (!TakeText("object", record.object) || !TakeText("property", record.property) ||
         !TakeText("value", record.value))
         return false;
-    m_record.what = record;
+    m_record.what = std::move(record);
     return true;
 }
 
@@ -168,7 +169,7 @@ bool JournalReader::ReadUndo()
     UndoRecord record;
     if (!TakeInteger("entity", record.entity))
         return false;
-    m_record.what = record;
+    m_record.what = std::move(record);
     return true;
 }
 
@@ -177,7 +178,7 @@ bool JournalReader::ReadRedo()
     RedoRecord record;
     if (!TakeInteger("entity", record.entity))
         return false;
-    m_record.what = record;
+    m_record.what = std::move(record);
     return true;
 }
 
@@ -188,7 +189,7 @@ bool JournalReader::ReadMark()
         return false;
     if (Has("t") && !TakeInteger("t", record.time.emplace()))
         return false;
-    m_record.what = record;
+    m_record.what = std::move(record);
     return true;
 }
 
@@ -212,7 +213,7 @@ bool JournalReader::ReadHeader()
         return Fail("no header has version " + std::to_string(record.version));
     if (!TakeText("program", record.program) || !TakeText("time", record.time))
         return false;
-    m_record.what = record;
+    m_record.what = std::move(record);
     return true;
 }
 

@@ -14,12 +14,14 @@ namespace vesk
 class JournalReader
 {
 public:
+    /// `line` must live as long as this.
     explicit JournalReader(const std::string& line) : m_text(line) {}
 
     /// Reads the line. False if it is not a record.
     bool Read();
 
-    const JournalRecord& GetRecord() const { return m_record; }
+    /// Valid after Read; may be moved from.
+    JournalRecord& GetRecord() { return m_record; }
 
     /// Why the line is not a record, in one sentence.
     const std::string& GetError() const { return m_error; }
@@ -56,7 +58,7 @@ private:
     bool Has(const char* key) const { return m_line.contains(key); }
     bool Fail(const std::string& error);
 
-    std::string m_text;
+    const std::string& m_text;
     Json m_line;
     Json m_taken;
     JournalRecord m_record;
