@@ -336,6 +336,7 @@ bool Sketch::Restore(SketchContent content, const Digest& digest)
         return false;
     ++m_revision;
     m_index.Forget();
+    m_recent.Forget();
     m_content = std::move(content);
     m_digest = digest;
     m_lastUndone = 0;
@@ -364,6 +365,7 @@ void Sketch::Exchange(SketchChange& change)
 {
     m_revision += IsAddition(m_content, change) ? 0 : 1;
     m_index.Follow(m_content.entities, change);
+    m_recent.Add(change);
     ::Exchange(m_content, m_digest, change);
     if (FindLayer(m_content.currentPen.layer) == nullptr)
         m_content.currentPen.layer = Layer::BaseId;

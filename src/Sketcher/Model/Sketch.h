@@ -2,6 +2,7 @@
 
 #include "Model/Digest.h"
 #include "Model/EntityIndex.h"
+#include "Model/RecentChanges.h"
 #include "Model/SketchChange.h"
 #include "Model/SketchContent.h"
 #include "Model/SketchInsertion.h"
@@ -144,6 +145,9 @@ public:
     /// stays the same, entities have at most been added after the others.
     unsigned GetRevision() const { return m_revision; }
 
+    /// Which entities were concerned by the last changes.
+    const RecentChanges& GetRecentChanges() const { return m_recent; }
+
     const SketchContent& GetContent() const { return m_content; }
 
     /// Replaces the drawing; nothing can be undone afterwards. Returns false and changes nothing if
@@ -171,6 +175,7 @@ private:
     SketchContent m_content;
     Digest m_digest;             ///< Of m_content.
     mutable EntityIndex m_index; ///< The same.
+    RecentChanges m_recent;      ///< The same.
     unsigned m_revision = 0;
     QUndoStack m_steps;
     int m_lastUndone = 0;
