@@ -5,10 +5,13 @@
 #include "SampleDrawing.h"
 #include "SketcherDesk.h"
 
+#include "Panes/EntityPane.h"
+
 #include "Journal/JournalRecord.h"
 
 #include <QTreeView>
 
+#include <map>
 #include <numeric>
 #include <string>
 #include <utility>
@@ -134,6 +137,47 @@ Side ColourOf(long count)
     };
 }
 
+/// A drawing of that many entities and its list.
+struct ListedDrawing
+{
+    explicit ListedDrawing(long count)
+    {
+        workspace.sketch.Restore(MakeSampleDrawing(count));
+        list.resize(240, 700);
+        list.show();
+        Show();
+    }
+
+    void Show()
+    {
+        list.UpdateStatus();
+        QCoreApplication::processEvents();
+    }
+
+    Workspace workspace;
+    EntityPane list{workspace};
+};
+
+/// Lines are added and undone, each shown in the list; without the rest of the window.
+void AddAndUndo(Stopwatch& stopwatch, long count)
+{
+    constexpr int Repetitions = 5;
+    static std::map<long, ListedDrawing*> s_drawings;
+    ListedDrawing*& pDrawing = s_drawings[count];
+    if (pDrawing == nullptr)
+        pDrawing = new ListedDrawing(count);
+    TheDesk().Settle();
+    stopwatch.Time([&] {
+        for (int i = 0; i < Repetitions; ++i)
+        {
+            pDrawing->workspace.sketch.AddLine({0, 0, 0}, {1, 1, 0});
+            pDrawing->Show();
+            pDrawing->workspace.sketch.Undo();
+            pDrawing->Show();
+        }
+    });
+}
+
 void AskAboutSize(long count)
 {
     const std::string entities = std::to_string(count) + " entities";
@@ -158,4 +202,8 @@ void AskQuestions()
 {
     AskAboutSize(10000);
     AskAboutSize(100000);
+    Ask("S5 a line is added and undone, listed, 1,000 to 1,000,000 entities")
+        .GrowsAtMost(0.1, {1000, 10000, 100000, 1000000}, &AddAndUndo)
+        .Rounds(11)
+        .WithoutInstructions();
 }
