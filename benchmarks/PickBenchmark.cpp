@@ -116,6 +116,17 @@ void Search(Stopwatch& stopwatch, long count)
     });
 }
 
+/// The first search, which packs the index, after another drawing was opened.
+Side FirstSearchOf(long count)
+{
+    return [count](Stopwatch& stopwatch) {
+        static const SketchContent s_content = MakeSampleDrawing(count);
+        Sketch sketch;
+        sketch.Restore(s_content, Digest());
+        stopwatch.Time([&] { sketch.FindIn(Area::Around({800, 500, 0}, 10)); });
+    };
+}
+
 }
 
 void AskQuestions()
@@ -142,6 +153,10 @@ void AskQuestions()
         .WithoutInstructions();
     Ask("S6 snap and pick, 1,000 visible of 1,000 to 1,000,000")
         .GrowsAtMost(0.1, {1000, 10000, 100000, 1000000}, &Search)
+        .Rounds(11)
+        .WithoutInstructions();
+    Ask("S9 first search, 1,000,000 entities")
+        .Ours(FirstSearchOf(1000000))
         .Rounds(11)
         .WithoutInstructions();
 }
