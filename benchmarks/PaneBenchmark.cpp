@@ -1,5 +1,6 @@
-// Whether a step in a large drawing costs what it changes, not what the drawing holds: view, panes
-// and ribbon together.
+// Whether a step in a large drawing costs what it changes, not what the drawing holds: drawing,
+// journal, panes and ribbon together. The picture of the drawing is asked about elsewhere; only the
+// question about colours contains it.
 
 #include "Harness/Question.h"
 #include "SampleDrawing.h"
@@ -56,7 +57,7 @@ Side LineOf(long count)
         desk.Settle();
         stopwatch.Time([&] {
             desk.Click({800, 500});
-            desk.Respond();
+            desk.RespondWithoutPicture();
         });
         ActionManager::Reset();
         desk.workspace.sketch.Undo();
@@ -72,7 +73,7 @@ Side UndoOf(long count)
         desk.Settle();
         stopwatch.Time([&] {
             SketcherDesk::Run(L"Sketcher.Undo");
-            desk.Respond();
+            desk.RespondWithoutPicture();
         });
         desk.Settle();
     };
@@ -84,7 +85,7 @@ Side SelectAllOf(long count)
         SketcherDesk& desk = DeskWith(count);
         stopwatch.Time([&] {
             SketcherDesk::Run(L"Sketcher.SelectAll");
-            desk.Respond();
+            desk.RespondWithoutPicture();
         });
         desk.workspace.selection.Select({});
         desk.Settle();
@@ -98,7 +99,7 @@ Side SelectAllInListOf(long count)
         auto* pList = desk.window.findChild<QAbstractItemView*>("Entities");
         stopwatch.Time([&] {
             pList->selectAll();
-            desk.Respond();
+            desk.RespondWithoutPicture();
         });
         desk.workspace.selection.Select({});
         desk.Settle();
@@ -113,7 +114,7 @@ Side SelectNoneOf(long count)
         desk.Settle();
         stopwatch.Time([&] {
             desk.workspace.selection.Select({});
-            desk.Respond();
+            desk.RespondWithoutPicture();
         });
         desk.Settle();
     };

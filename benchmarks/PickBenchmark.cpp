@@ -64,7 +64,7 @@ Side MovesOf(long count, bool withPainting)
     };
 }
 
-/// Clicks that select what is there.
+/// Clicks that select what is there, apart from the picture in which it is shown selected.
 Side PicksOf(long count)
 {
     return [=](Stopwatch& stopwatch) {
@@ -76,7 +76,7 @@ Side PicksOf(long count)
         desk.Settle();
         stopwatch.Time([&] {
             desk.Click(place);
-            desk.Respond();
+            desk.RespondWithoutPicture();
         });
         desk.workspace.selection.Select({});
         desk.Settle();

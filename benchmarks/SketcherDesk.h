@@ -67,17 +67,24 @@ public:
         host.GetViewManager().RemoveView(&window.GetView());
     }
 
-    /// Does what the last event has caused: what was posted, what that has posted, and painting,
-    /// of which a large part comes later.
+    /// Does what the last event has caused: what was posted, what that has posted, and painting.
     void Respond()
     {
         for (int i = 0; i < 3; ++i)
             QCoreApplication::processEvents();
     }
 
+    /// The same apart from the picture of the drawing, which the view paints in slices later.
+    void RespondWithoutPicture()
+    {
+        window.GetView().setUpdatesEnabled(false);
+        Respond();
+    }
+
     /// Lets the picture be finished, too.
     void Settle()
     {
+        window.GetView().setUpdatesEnabled(true);
         window.GetView().PaintAtOnce();
         Respond();
     }
