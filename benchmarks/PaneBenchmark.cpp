@@ -1,202 +1,210 @@
-// Whether a drawing of ten thousand entities is selected and shown in the panes without noticeable
-// delay, and the cursor moves smoothly over it.
+// Whether a step in a large drawing costs what it changes, not what the drawing holds: drawing,
+// journal, panes and ribbon together. The picture of the drawing is asked about elsewhere; only the
+// question about colours contains it.
 
-#include "Model/Workspace.h"
+#include "Harness/Question.h"
+#include "SampleDrawing.h"
+#include "SketcherDesk.h"
+
 #include "Panes/EntityPane.h"
-#include "Panes/JournalPane.h"
-#include "Panes/PropertyPane.h"
-#include "View/SketchView.h"
 
-#include "HostCore.h"
-#include "HostUi/ControlHost.h"
-#include "HostUi/ControlLibrary.h"
-#include "HostUi/DimensionInputController.h"
-#include "HostUi/UiApplication.h"
+#include "Journal/JournalRecord.h"
 
-#include <nlohmann/json.hpp>
-
-#include <QApplication>
-#include <QElapsedTimer>
 #include <QTreeView>
 
-#include <algorithm>
-#include <cstdio>
-#include <fstream>
-#include <functional>
-#include <memory>
-#include <optional>
+#include <map>
+#include <numeric>
 #include <string>
-#include <vector>
+#include <utility>
 
 using namespace vesk;
 
 namespace
 {
 
-constexpr int EntityCount = 10000;
-constexpr int Rounds = 7;
-
-/// A delay that users do not notice.
-constexpr double LimitMs = 50.0;
-
-struct Step
+SketcherDesk& TheDesk()
 {
-    std::string name;
-    std::function<void()> act;
-    std::vector<double> times;
-
-    double Best() const { return *std::min_element(times.begin(), times.end()); }
-    double Worst() const { return *std::max_element(times.begin(), times.end()); }
-};
-
-double Milliseconds(const std::function<void()>& act)
-{
-    QElapsedTimer timer;
-    timer.start();
-    act();
-    return static_cast<double>(timer.nsecsElapsed()) / 1e6;
+    // Not destroyed: main destroys the application first.
+    static auto* s_pDesk = new SketcherDesk;
+    return *s_pDesk;
 }
 
-/// The view, and the three panes that show the entities, the selection and the journal.
-struct Bench
+/// Shows a drawing of that many entities, which fills the view, with nothing selected.
+SketcherDesk& DeskWith(long count)
 {
-    Bench()
-    {
-        for (int i = 0; i < EntityCount; ++i)
-        {
-            const double angle = 0.001 * i;
-            all.push_back(workspace.sketch.AddLine({0, 0, 0}, {10 + angle, 1.0 * i, 0}));
-        }
-        for (QWidget* pPane : {static_cast<QWidget*>(&entities), static_cast<QWidget*>(&journal),
-                               static_cast<QWidget*>(pProperties.get())})
-        {
-            pPane->resize(240, 700);
-            pPane->show();
-        }
-        view.resize(1000, 700);
-        view.show();
-        view.ZoomAll();
-        PaintView();
-        pList = entities.findChild<QTreeView*>(QStringLiteral("Entities"));
-        Refresh();
-    }
+    static long s_shown = 0;
+    SketcherDesk& desk = TheDesk();
+    if (std::exchange(s_shown, count) != count)
+        desk.Show(MakeSampleDrawing(count));
+    return desk;
+}
 
-    ~Bench() { controls.reset(); }
-
-    void Refresh()
-    {
-        entities.UpdateStatus();
-        journal.UpdateStatus();
-        pProperties->UpdateStatus();
-        for (QWidget* pWidget :
-             {static_cast<QWidget*>(pList->viewport()), static_cast<QWidget*>(&journal),
-              static_cast<QWidget*>(pProperties.get())})
-            pWidget->repaint();
-    }
-
-    void Select(const std::vector<int>& ids)
-    {
-        workspace.selection.Select(ids);
-        Refresh();
-    }
-
-    void SelectAllInList()
-    {
-        pList->selectAll();
-        Refresh();
-    }
-
-    void Scroll()
-    {
-        pList->scrollToBottom();
-        pList->viewport()->repaint();
-        pList->scrollToTop();
-        pList->viewport()->repaint();
-    }
-
-    void PaintView()
-    {
-        view.Redraw();
-        view.grab();
-    }
-
-    HostCore host;
-    UiApplication application;
-    ControlLibrary library;
-    Workspace workspace;
-    DimensionInputController input;
-    SketchView view{workspace, input, nullptr};
-    EntityPane entities{workspace};
-    JournalPane journal;
-    std::optional<ControlHost> controls{std::in_place};
-    std::unique_ptr<PropertyPane> pProperties =
-        std::make_unique<PropertyPane>(workspace, *controls);
-    QTreeView* pList = nullptr;
-    std::vector<int> all;
-};
-
-std::vector<Step> MakeSteps(Bench& bench)
+std::vector<int> AllIds(long count)
 {
-    return {
-        {"move over the drawing", [&bench] { bench.PaintView(); }, {}},
-        {"select all in the list", [&bench] { bench.SelectAllInList(); }, {}},
-        {"scroll down and up", [&bench] { bench.Scroll(); }, {}},
-        {"select nothing", [&bench] { bench.Select({}); }, {}},
-        {"select all in the drawing", [&bench] { bench.Select(bench.all); }, {}},
-        {"one more entity",
-         [&bench] {
-             bench.workspace.sketch.AddLine({0, 0, 0}, {1, 0, 0});
-             bench.Refresh();
-         },
-         {}},
-        {"undo",
-         [&bench] {
-             bench.workspace.sketch.Undo();
-             bench.Refresh();
-         },
-         {}},
+    std::vector<int> ids(static_cast<std::size_t>(count));
+    std::iota(ids.begin(), ids.end(), 1);
+    return ids;
+}
+
+/// The second click of a line, and what follows from it.
+Side LineOf(long count)
+{
+    return [count](Stopwatch& stopwatch) {
+        SketcherDesk& desk = DeskWith(count);
+        SketcherDesk::Run(L"Sketcher.Line");
+        desk.Click({700, 400});
+        desk.Move({800, 500});
+        desk.Settle();
+        stopwatch.Time([&] {
+            desk.Click({800, 500});
+            desk.RespondWithoutPicture();
+        });
+        ActionManager::Reset();
+        desk.workspace.sketch.Undo();
+        desk.Settle();
     };
 }
 
-int Report(const std::vector<Step>& steps, const std::string& path)
+Side UndoOf(long count)
 {
-    nlohmann::ordered_json table;
-    table["entities"] = EntityCount;
-    table["rounds"] = Rounds;
-    table["limitMs"] = LimitMs;
-    bool isGood = true;
-    std::printf("a drawing of %d entities, %d rounds\n%-28s %10s %10s\n", EntityCount, Rounds,
-                "step", "best/ms", "worst/ms");
-    for (const Step& step : steps)
+    return [count](Stopwatch& stopwatch) {
+        SketcherDesk& desk = DeskWith(count);
+        desk.workspace.sketch.AddLine({700, 400, 0}, {800, 500, 0});
+        desk.Settle();
+        stopwatch.Time([&] {
+            SketcherDesk::Run(L"Sketcher.Undo");
+            desk.RespondWithoutPicture();
+        });
+        desk.Settle();
+    };
+}
+
+Side SelectAllOf(long count)
+{
+    return [count](Stopwatch& stopwatch) {
+        SketcherDesk& desk = DeskWith(count);
+        stopwatch.Time([&] {
+            SketcherDesk::Run(L"Sketcher.SelectAll");
+            desk.RespondWithoutPicture();
+        });
+        desk.workspace.selection.Select({});
+        desk.Settle();
+    };
+}
+
+Side SelectAllInListOf(long count)
+{
+    return [count](Stopwatch& stopwatch) {
+        SketcherDesk& desk = DeskWith(count);
+        auto* pList = desk.window.findChild<QAbstractItemView*>("Entities");
+        stopwatch.Time([&] {
+            pList->selectAll();
+            desk.RespondWithoutPicture();
+        });
+        desk.workspace.selection.Select({});
+        desk.Settle();
+    };
+}
+
+Side SelectNoneOf(long count)
+{
+    return [count](Stopwatch& stopwatch) {
+        SketcherDesk& desk = DeskWith(count);
+        desk.workspace.selection.Select(AllIds(count));
+        desk.Settle();
+        stopwatch.Time([&] {
+            desk.workspace.selection.Select({});
+            desk.RespondWithoutPicture();
+        });
+        desk.Settle();
+    };
+}
+
+Side ColourOf(long count)
+{
+    return [count](Stopwatch& stopwatch) {
+        SketcherDesk& desk = DeskWith(count);
+        desk.workspace.selection.Select(AllIds(count));
+        desk.Settle();
+        static int s_colour = 0;
+        s_colour = 1 + s_colour % 2;
+        const std::wstring& name = LineColours()[static_cast<std::size_t>(s_colour)].name;
+        stopwatch.Time([&] {
+            desk.workspace.properties.Set(PropertyRecord{L"selection", L"colour", name});
+            desk.Respond();
+        });
+        desk.workspace.selection.Select({});
+        desk.Settle();
+    };
+}
+
+/// A drawing of that many entities and its list.
+struct ListedDrawing
+{
+    explicit ListedDrawing(long count)
     {
-        std::printf("%-28s %10.3f %10.3f\n", step.name.c_str(), step.Best(), step.Worst());
-        table["steps"].push_back(
-            {{"step", step.name}, {"bestMs", step.Best()}, {"worstMs", step.Worst()}});
-        isGood = isGood && step.Best() <= LimitMs;
+        workspace.sketch.Restore(MakeSampleDrawing(count));
+        list.resize(240, 700);
+        list.show();
+        Show();
     }
-    std::printf("%s: the limit is %.0f ms\n", isGood ? "good" : "TOO SLOW", LimitMs);
-    std::ofstream file(path);
-    file << table.dump(1) << '\n';
-    if (!file.flush())
-        return 2;
-    return isGood ? 0 : 1;
+
+    void Show()
+    {
+        list.UpdateStatus();
+        QCoreApplication::processEvents();
+    }
+
+    Workspace workspace;
+    EntityPane list{workspace};
+};
+
+/// Lines are added and undone, each shown in the list; without the rest of the window.
+void AddAndUndo(Stopwatch& stopwatch, long count)
+{
+    constexpr int Repetitions = 5;
+    static std::map<long, ListedDrawing*> s_drawings;
+    ListedDrawing*& pDrawing = s_drawings[count];
+    if (pDrawing == nullptr)
+        pDrawing = new ListedDrawing(count);
+    TheDesk().Settle();
+    stopwatch.Time([&] {
+        for (int i = 0; i < Repetitions; ++i)
+        {
+            pDrawing->workspace.sketch.AddLine({0, 0, 0}, {1, 1, 0});
+            pDrawing->Show();
+            pDrawing->workspace.sketch.Undo();
+            pDrawing->Show();
+        }
+    });
+}
+
+void AskAboutSize(long count)
+{
+    const std::string entities = std::to_string(count) + " entities";
+    const auto ask = [&entities](const std::string& name, Side side, double bar) {
+        Ask(name + ", " + entities)
+            .Ours(std::move(side))
+            .MillisecondsAtMost(bar)
+            .Rounds(15)
+            .WithoutInstructions();
+    };
+    ask("S5 a line is added by a click", LineOf(count), 5);
+    ask("S5 it is undone", UndoOf(count), 5);
+    ask("S7 all are selected by the command", SelectAllOf(count), 30);
+    ask("S7 all are selected in the list", SelectAllInListOf(count), 30);
+    ask("S7 none are selected", SelectNoneOf(count), 30);
+    ask("S4 all selected get another colour", ColourOf(count), 250);
 }
 
 }
 
-int main(int argc, char** argv)
+void AskQuestions()
 {
-    QApplication application(argc, argv);
-    if (argc != 2)
-        return 2;
-    Bench bench;
-    std::vector<Step> steps = MakeSteps(bench);
-    for (int round = 0; round < Rounds; ++round)
-    {
-        for (Step& step : steps)
-            step.times.push_back(Milliseconds(step.act));
-        bench.Select({});
-        bench.PaintView();
-    }
-    return Report(steps, argv[1]);
+    AskAboutSize(10000);
+    AskAboutSize(100000);
+    Ask("S5 a line is added and undone, listed, 1,000 to 1,000,000 entities")
+        .GrowsAtMost(0.1, {1000, 10000, 100000, 1000000}, &AddAndUndo)
+        .Rounds(11)
+        .WithoutInstructions();
 }

@@ -61,10 +61,11 @@ ReadingMonitor::~ReadingMonitor()
 
 bool ReadingMonitor::Advance(std::size_t done, std::size_t total)
 {
-    constexpr qint64 LeastWorkMs = 30;
-    constexpr qint64 MostWorkMs = 100;
-    // The window gets as much time as the reading, but never waits long.
-    const qint64 workMs = std::clamp(m_pauseMs, LeastWorkMs, MostWorkMs);
+    constexpr qint64 LeastWorkMs = 50;
+    constexpr qint64 MostWorkMs = 200;
+    constexpr qint64 WorkByPause = 5;
+    // The window gets a small part of the time, but never waits long.
+    const qint64 workMs = std::clamp(WorkByPause * m_pauseMs, LeastWorkMs, MostWorkMs);
     if (m_isCancelled || m_sincePause.elapsed() < workMs)
         return !m_isCancelled;
     if (m_pProgress != nullptr)

@@ -8,8 +8,8 @@
 #include "Support/TestValues.h"
 #include "Support/XServer.h"
 
+#include <QAbstractItemView>
 #include <QProcess>
-#include <QTreeView>
 
 #include <unistd.h>
 
@@ -72,7 +72,7 @@ private slots:
         ScriptedUser user;
         user.Until(&IsOffered).Click("RecoveryGoOn").Until(&IsNothingOffered);
         user.Do([&entities] {
-            auto* pList = ScriptedUser::FindWindow()->findChild<QTreeView*>("Entities");
+            auto* pList = ScriptedUser::FindWindow()->findChild<QAbstractItemView*>("Entities");
             entities = pList->model()->rowCount();
         });
         QCOMPARE(RunAndDiscard(user, Options()), 0);

@@ -5,9 +5,9 @@
 #include "SketcherProcess.h"
 #include "Support/TestValues.h"
 
+#include <QAbstractItemView>
 #include <QLabel>
 #include <QLineEdit>
-#include <QTreeView>
 
 #include <vector>
 
@@ -21,9 +21,9 @@ QLineEdit* Field(const QString& name)
     return ScriptedUser::FindWindow()->findChild<QLineEdit*>("Sketcher.Property." + name);
 }
 
-QTreeView* List()
+QAbstractItemView* List()
 {
-    return PaneDriver::Widget("Entities").findChild<QTreeView*>("Entities");
+    return PaneDriver::Widget("Entities").findChild<QAbstractItemView*>("Entities");
 }
 
 QString Cell(int row, int column)

@@ -8,9 +8,9 @@
 #include "View/SketchView.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QLineEdit>
-#include <QTreeView>
 
 #include <cstddef>
 #include <vector>
@@ -47,18 +47,18 @@ std::vector<QLineEdit*> ShownProperties()
 }
 
 /// The list of a pane, in front of other panes; null while the pane is hidden.
-QTreeView* RaiseList(const QString& name)
+QAbstractItemView* RaiseList(const QString& name)
 {
     if (PaneDriver::Dock(name).IsHidden())
         return nullptr;
     PaneDriver::Dock(name).Raise();
-    return PaneDriver::Widget(name).findChild<QTreeView*>(name);
+    return PaneDriver::Widget(name).findChild<QAbstractItemView*>(name);
 }
 
 /// In the list of entities.
 void ClickListed(int number)
 {
-    QTreeView* pList = RaiseList("Entities");
+    QAbstractItemView* pList = RaiseList("Entities");
     const int count = pList != nullptr ? pList->model()->rowCount() : 0;
     if (count == 0)
         return;
@@ -81,7 +81,7 @@ void TypeProperty(std::size_t number, const QString& text)
 /// Toggles a box of a layer with the keyboard.
 void ToggleLayer(int number, int column)
 {
-    QTreeView* pList = RaiseList("Layers");
+    QAbstractItemView* pList = RaiseList("Layers");
     if (pList == nullptr)
         return;
     const int row = number % pList->model()->rowCount();
@@ -92,7 +92,7 @@ void ToggleLayer(int number, int column)
 /// Clicks a button of the pane with a layer selected; the name of a new one is typed at once.
 void ClickLayerButton(const char* name, int number)
 {
-    QTreeView* pList = RaiseList("Layers");
+    QAbstractItemView* pList = RaiseList("Layers");
     if (pList == nullptr)
         return;
     // Often the newest, which can mostly be removed.
@@ -113,7 +113,7 @@ void ClickLayerButton(const char* name, int number)
 void DeleteAllIfCrowded()
 {
     constexpr int Crowded = 300;
-    auto* pList = PaneDriver::Widget("Entities").findChild<QTreeView*>("Entities");
+    auto* pList = PaneDriver::Widget("Entities").findChild<QAbstractItemView*>("Entities");
     if (pList->model()->rowCount() < Crowded)
         return;
     ScriptedUser::FindView()->setFocus();

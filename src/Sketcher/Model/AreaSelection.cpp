@@ -64,11 +64,6 @@ bool Touches(const Area& area, const Shape& shape)
 
 }
 
-Area Area::Between(const Vector3d& corner, const Vector3d& opposite)
-{
-    return {corner.cwiseMin(opposite), corner.cwiseMax(opposite)};
-}
-
 bool Applies(AreaRule rule, const Area& area, const Shape& shape)
 {
     if (rule == AreaRule::Touches)
@@ -80,10 +75,10 @@ bool Applies(AreaRule rule, const Area& area, const Shape& shape)
 std::vector<int> FindInArea(const Sketch& sketch, const Area& area, AreaRule rule)
 {
     std::vector<int> ids;
-    for (const Entity& entity : sketch.GetEntities())
+    for (const Entity* pEntity : sketch.FindIn(area))
     {
-        if (sketch.CanPick(entity.id) && Applies(rule, area, entity.shape))
-            ids.push_back(entity.id);
+        if (sketch.CanPick(*pEntity) && Applies(rule, area, pEntity->shape))
+            ids.push_back(pEntity->id);
     }
     return ids;
 }

@@ -1,20 +1,11 @@
 #pragma once
 
+#include "Model/Area.h"
 #include "Model/Shape.h"
 
 #include <vector>
 
 class Sketch;
-
-/// An axis-aligned rectangle in the drawing plane.
-struct Area
-{
-    vesk::Vector3d low;
-    vesk::Vector3d high;
-
-    /// The area between any two opposite corners.
-    static Area Between(const vesk::Vector3d& corner, const vesk::Vector3d& opposite);
-};
 
 /// How an area selects an entity.
 enum class AreaRule

@@ -5,30 +5,60 @@
 #include "Foundation/Text.h"
 
 #include <QByteArray>
-#include <QCryptographicHash>
 #include <QtEndian>
 
+#include <openssl/evp.h>
+
+#include <array>
 #include <cstddef>
 #include <cstring>
+#include <memory>
 
 namespace
 {
 
+/// Computes SHA-256 of short texts. Preparing that takes longer than computing it, so one is kept
+/// for all texts of a thread.
+class Hasher
+{
+public:
+    Digest::Words Hash(const std::string& bytes)
+    {
+        std::array<unsigned char, 32> hash{};
+        const bool isDone = EVP_DigestInit_ex2(m_pContext.get(), m_pMethod.get(), nullptr) == 1 &&
+                            EVP_DigestUpdate(m_pContext.get(), bytes.data(), bytes.size()) == 1 &&
+                            EVP_DigestFinal_ex(m_pContext.get(), hash.data(), nullptr) == 1;
+        if (!isDone)
+            qFatal("SHA-256 is not available");
+        Digest::Words words{};
+        for (std::size_t i = 0; i < words.size(); ++i)
+            words[words.size() - 1 - i] = qFromBigEndian<quint64>(hash.data() + 8 * i);
+        return words;
+    }
+
+private:
+    std::unique_ptr<EVP_MD, decltype(&EVP_MD_free)> m_pMethod{
+        EVP_MD_fetch(nullptr, "SHA256", nullptr), &EVP_MD_free};
+    std::unique_ptr<EVP_MD_CTX, decltype(&EVP_MD_CTX_free)> m_pContext{EVP_MD_CTX_new(),
+                                                                       &EVP_MD_CTX_free};
+};
+
 Digest::Words HashOf(const std::string& bytes)
 {
-    const QByteArray hash = QCryptographicHash::hash(
-        QByteArray::fromRawData(bytes.data(), int(bytes.size())), QCryptographicHash::Sha256);
-    Digest::Words words{};
-    for (std::size_t i = 0; i < words.size(); ++i)
-        words[words.size() - 1 - i] = qFromBigEndian<quint64>(hash.constData() + 8 * i);
-    return words;
+    thread_local Hasher s_hasher;
+    return s_hasher.Hash(bytes);
 }
 
 /// Collects little-endian values.
 class Bytes
 {
 public:
-    explicit Bytes(char tag) : m_bytes(1, tag) {}
+    explicit Bytes(char tag)
+    {
+        constexpr std::size_t Usual = 200; // So many bytes at most stand for an entity.
+        m_bytes.reserve(Usual);
+        m_bytes += tag;
+    }
 
     Bytes& Add(int value) { return AddRaw(static_cast<std::uint32_t>(value)); }
 

@@ -17,13 +17,13 @@ int PickEntity(const Sketch& sketch, const Vector3d& world, const IUiView* pView
 {
     double nearest = CursorReach(pView);
     int picked = 0;
-    for (const Entity& entity : sketch.GetEntities())
+    for (const Entity* pEntity : sketch.FindIn(Area::Around(world, nearest)))
     {
-        const double distance = DistanceTo(entity.shape, world);
-        if (distance > nearest || !sketch.CanPick(entity.id))
+        const double distance = DistanceTo(pEntity->shape, world);
+        if (distance > nearest || !sketch.CanPick(*pEntity))
             continue;
         nearest = distance;
-        picked = entity.id;
+        picked = pEntity->id;
     }
     return picked;
 }

@@ -44,6 +44,8 @@ void Selection::Set(std::vector<int> ids)
 {
     m_ids = std::move(ids);
     m_ascending = m_ids;
-    std::sort(m_ascending.begin(), m_ascending.end());
+    // Mostly they are in order, which is found out much sooner.
+    if (!std::is_sorted(m_ascending.begin(), m_ascending.end()))
+        std::sort(m_ascending.begin(), m_ascending.end());
     emit changed();
 }

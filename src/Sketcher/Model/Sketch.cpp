@@ -58,6 +58,11 @@ const Entity* Sketch::Find(int id) const
     return FindById(m_content.entities, id);
 }
 
+std::vector<const Entity*> Sketch::FindIn(const Area& area) const
+{
+    return m_index.Find(m_content.entities, area);
+}
+
 int Sketch::Add(const Shape& shape)
 {
     const std::vector<int> ids = Add({{shape, m_content.currentPen}}, KindOf(shape).caption);
@@ -177,7 +182,13 @@ bool Sketch::CanChange(int id) const
 bool Sketch::CanPick(int id) const
 {
     const Entity* pEntity = Find(id);
-    return pEntity != nullptr && !LayerOf(*pEntity).isLocked && LayerOf(*pEntity).isVisible;
+    return pEntity != nullptr && CanPick(*pEntity);
+}
+
+bool Sketch::CanPick(const Entity& entity) const
+{
+    const Layer& layer = LayerOf(entity);
+    return !layer.isLocked && layer.isVisible;
 }
 
 bool Sketch::AreChangeable(const std::vector<int>& ids) const
@@ -324,6 +335,8 @@ bool Sketch::Restore(SketchContent content, const Digest& digest)
     if (!IsValid(content))
         return false;
     ++m_revision;
+    m_index.Forget();
+    m_recent.Forget();
     m_content = std::move(content);
     m_digest = digest;
     m_lastUndone = 0;
@@ -351,6 +364,8 @@ void Sketch::Push(SketchChange change, int entityId, const std::wstring& stepNam
 void Sketch::Exchange(SketchChange& change)
 {
     m_revision += IsAddition(m_content, change) ? 0 : 1;
+    m_index.Follow(m_content.entities, change);
+    m_recent.Add(change);
     ::Exchange(m_content, m_digest, change);
     if (FindLayer(m_content.currentPen.layer) == nullptr)
         m_content.currentPen.layer = Layer::BaseId;

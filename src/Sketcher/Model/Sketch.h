@@ -1,6 +1,8 @@
 #pragma once
 
 #include "Model/Digest.h"
+#include "Model/EntityIndex.h"
+#include "Model/RecentChanges.h"
 #include "Model/SketchChange.h"
 #include "Model/SketchContent.h"
 #include "Model/SketchInsertion.h"
@@ -30,6 +32,11 @@ public:
 
     /// The entity with that id; null if there is none. Valid until the next change.
     const Entity* Find(int id) const;
+
+    /// The entities whose outline or centre may be in an area or on its edge, in drawing order,
+    /// whatever their layers: all that are, and few others. Does not look at the entities far from
+    /// it. Valid until the next change.
+    std::vector<const Entity*> FindIn(const Area& area) const;
 
     /// Draws a shape with the current pen and returns its id. Returns 0 and draws nothing if the
     /// shape is not drawable.
@@ -73,6 +80,9 @@ public:
     /// True if the entity exists and can be picked and selected: its layer is visible and not
     /// locked.
     bool CanPick(int id) const;
+
+    /// The same for an entity of this drawing.
+    bool CanPick(const Entity& entity) const;
 
     /// How the next entities are drawn. Setting it is not an undo step; a layer that does not exist
     /// is ignored.
@@ -135,6 +145,9 @@ public:
     /// stays the same, entities have at most been added after the others.
     unsigned GetRevision() const { return m_revision; }
 
+    /// Which entities were concerned by the last changes.
+    const RecentChanges& GetRecentChanges() const { return m_recent; }
+
     const SketchContent& GetContent() const { return m_content; }
 
     /// Replaces the drawing; nothing can be undone afterwards. Returns false and changes nothing if
@@ -160,7 +173,9 @@ private:
     int Turn(int index, void (QUndoStack::*turn)());
 
     SketchContent m_content;
-    Digest m_digest; ///< Of m_content.
+    Digest m_digest;             ///< Of m_content.
+    mutable EntityIndex m_index; ///< The same.
+    RecentChanges m_recent;      ///< The same.
     unsigned m_revision = 0;
     QUndoStack m_steps;
     int m_lastUndone = 0;

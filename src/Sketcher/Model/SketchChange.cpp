@@ -15,13 +15,6 @@ bool IsBefore(const Thing& a, const Thing& b)
     return a.id < b.id;
 }
 
-template <class Thing>
-auto PlaceOf(std::vector<Thing>& things, int id)
-{
-    return std::lower_bound(things.begin(), things.end(), id,
-                            [](const Thing& thing, int sought) { return thing.id < sought; });
-}
-
 /// Removes the things with those ascending ids.
 template <class Thing>
 void Remove(std::vector<Thing>& things, const std::vector<int>& ids)

@@ -5,6 +5,7 @@
 #include "Model/Shape.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <map>
 #include <string>
 #include <vector>
@@ -44,13 +45,31 @@ struct SketchContent
     UnknownFields unknown;
 };
 
+/// The first of things by ascending id whose id is not less; the end if there is none. Takes longer
+/// only as more ids before it are missing.
+template <class Things>
+auto PlaceOf(Things& things, int id)
+{
+    if (things.empty() || id <= things.front().id)
+        return things.begin();
+    // As ids ascend, it is at most so far from the first as its id is greater.
+    const std::ptrdiff_t farthest = std::ptrdiff_t(id) - things.front().id;
+    auto high = things.begin() + std::min(farthest, std::ptrdiff_t(things.size()));
+    auto low = high - 1;
+    for (std::ptrdiff_t step = 2; low->id >= id; step *= 2)
+    {
+        high = low;
+        low -= std::min(step, low - things.begin());
+    }
+    return std::lower_bound(low, high, id,
+                            [](const auto& thing, int sought) { return thing.id < sought; });
+}
+
 /// The thing with that id among things by ascending id; null if there is none.
 template <class Thing>
 const Thing* FindById(const std::vector<Thing>& things, int id)
 {
-    const auto found =
-        std::lower_bound(things.begin(), things.end(), id,
-                         [](const Thing& thing, int sought) { return thing.id < sought; });
+    const auto found = PlaceOf(things, id);
     return found != things.end() && found->id == id ? &*found : nullptr;
 }
 

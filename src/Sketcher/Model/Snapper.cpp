@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 using namespace vesk;
 
@@ -43,6 +44,17 @@ private:
     double m_distance;
     std::optional<Snapper::Caught> m_found;
 };
+
+/// Those of some entities whose outlines are within reach of the cursor.
+std::vector<const Entity*> Within(double reach, const Vector3d& cursor,
+                                  const std::vector<const Entity*>& entities)
+{
+    std::vector<const Entity*> near;
+    std::copy_if(
+        entities.begin(), entities.end(), std::back_inserter(near),
+        [&](const Entity* pEntity) { return DistanceTo(pEntity->shape, cursor) <= reach; });
+    return near;
+}
 
 /// A piece of the outline of an entity.
 struct NearPiece
@@ -95,12 +107,11 @@ void OfferAll(Snapper::Kind kind, const std::vector<Vector3d>& points, Nearest& 
 }
 
 /// A centre may be far from its outline.
-void OfferCentres(const Sketch& sketch, Nearest& nearest)
+void OfferCentres(const std::vector<const Entity*>& entities, Nearest& nearest)
 {
-    for (const Entity& entity : sketch.GetEntities())
+    for (const Entity* pEntity : entities)
     {
-        const std::optional<Vector3d> centre = CentreOf(entity.shape);
-        if (centre.has_value() && sketch.LayerOf(entity).isVisible)
+        if (const std::optional<Vector3d> centre = CentreOf(pEntity->shape))
             nearest.Offer(Snapper::Centre, *centre);
     }
 }
@@ -129,10 +140,11 @@ Vector3d Snapper::Catch(const Vector3d& cursor, const IUiView* pView)
 std::optional<Snapper::Caught> Snapper::Find(const Vector3d& cursor, double reach,
                                              double gridStep) const
 {
-    const std::vector<const Entity*> entities = GetNear(cursor, reach);
+    const std::vector<const Entity*> around = GetAround(cursor, reach);
+    const std::vector<const Entity*> near = Within(reach, cursor, around);
     Nearest ends(cursor, reach);
     Nearest others(cursor, reach);
-    for (const Entity* pEntity : entities)
+    for (const Entity* pEntity : near)
     {
         OfferAll(End, EndsOf(pEntity->shape), ends);
         if (IsOn(Middle))
@@ -141,9 +153,9 @@ std::optional<Snapper::Caught> Snapper::Find(const Vector3d& cursor, double reac
     if (IsOn(End) && ends.Get().has_value())
         return ends.Get();
     if (IsOn(Centre))
-        OfferCentres(m_sketch, others);
+        OfferCentres(around, others);
     if (IsOn(Intersection))
-        OfferIntersections(PiecesNear(entities, cursor, reach), others);
+        OfferIntersections(PiecesNear(near, cursor, reach), others);
     if (others.Get().has_value() || !IsOn(Grid))
         return others.Get();
     Nearest grid(cursor, reach);
@@ -151,13 +163,13 @@ std::optional<Snapper::Caught> Snapper::Find(const Vector3d& cursor, double reac
     return grid.Get();
 }
 
-std::vector<const Entity*> Snapper::GetNear(const Vector3d& cursor, double reach) const
+/// The visible entities whose outlines or centres may be within reach of the cursor.
+std::vector<const Entity*> Snapper::GetAround(const Vector3d& cursor, double reach) const
 {
-    std::vector<const Entity*> entities;
-    for (const Entity& entity : m_sketch.GetEntities())
-    {
-        if (DistanceTo(entity.shape, cursor) <= reach && m_sketch.LayerOf(entity).isVisible)
-            entities.push_back(&entity);
-    }
+    std::vector<const Entity*> entities = m_sketch.FindIn(Area::Around(cursor, reach));
+    const auto isHidden = [this](const Entity* pEntity) {
+        return !m_sketch.LayerOf(*pEntity).isVisible;
+    };
+    entities.erase(std::remove_if(entities.begin(), entities.end(), isHidden), entities.end());
     return entities;
 }

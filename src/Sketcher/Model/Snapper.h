@@ -54,7 +54,7 @@ public:
 
 private:
     std::optional<Caught> Find(const vesk::Vector3d& cursor, double reach, double gridStep) const;
-    std::vector<const Entity*> GetNear(const vesk::Vector3d& cursor, double reach) const;
+    std::vector<const Entity*> GetAround(const vesk::Vector3d& cursor, double reach) const;
 
     const Sketch& m_sketch;
     std::array<bool, KindCount> m_isOn{};

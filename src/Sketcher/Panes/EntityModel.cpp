@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <array>
 #include <iterator>
+#include <utility>
 
 using namespace vesk;
 
@@ -46,6 +47,29 @@ EntityModel::EntityModel(const Sketch& sketch, QObject* pParent)
 
 void EntityModel::Refresh()
 {
+    const RecentChanges& recent = m_sketch.GetRecentChanges();
+    const std::optional<std::vector<int>> changed =
+        m_version.has_value() ? recent.GetSince(*m_version) : std::nullopt;
+    m_version = recent.GetVersion();
+    const std::wstring& unit = LengthUnit::GetCurrent().GetSymbol();
+    const bool isOtherUnit = std::exchange(m_unit, unit) != unit;
+    if (changed.has_value())
+        Refresh(*changed);
+    else
+        RefreshAll();
+    if (isOtherUnit || !changed.has_value())
+        TellChanged(0, rowCount() - 1);
+}
+
+int EntityModel::GetRow(int id) const
+{
+    const int place = PlaceOf(id);
+    return place < rowCount() && GetId(place) == id ? place : -1;
+}
+
+/// Looks for what is different: the rows between those that are the same at both ends.
+void EntityModel::RefreshAll()
+{
     std::vector<int> next;
     next.reserve(m_sketch.GetEntities().size());
     for (const Entity& entity : m_sketch.GetEntities())
@@ -57,26 +81,89 @@ void EntityModel::Refresh()
                                        next.rbegin(), std::make_reverse_iterator(same.second));
     const int oldEnd = static_cast<int>(sameEnd.first.base() - m_ids.begin());
     const int newEnd = static_cast<int>(sameEnd.second.base() - next.begin());
-    if (oldEnd > front)
-    {
-        beginRemoveRows(QModelIndex(), front, oldEnd - 1);
-        m_ids.erase(m_ids.begin() + front, m_ids.begin() + oldEnd);
-        endRemoveRows();
-    }
-    if (newEnd > front)
-    {
-        beginInsertRows(QModelIndex(), front, newEnd - 1);
-        m_ids.insert(m_ids.begin() + front, next.begin() + front, next.begin() + newEnd);
-        endInsertRows();
-    }
-    if (!m_ids.empty())
-        emit dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
+    Remove(front, oldEnd);
+    Insert(front, next.begin() + front, next.begin() + newEnd);
 }
 
-int EntityModel::GetRow(int id) const
+/// Only these entities, by ascending id, may have changed.
+void EntityModel::Refresh(const std::vector<int>& changed)
 {
-    const auto found = std::lower_bound(m_ids.begin(), m_ids.end(), id);
-    return found != m_ids.end() && *found == id ? static_cast<int>(found - m_ids.begin()) : -1;
+    RemoveGone(changed);
+    std::vector<int> rows;
+    for (const int id : changed)
+    {
+        if (GetRow(id) >= 0)
+            rows.push_back(GetRow(id));
+    }
+    if (!rows.empty())
+        TellChanged(rows.front(), rows.back());
+    InsertNew(changed);
+}
+
+/// From the end, so that the rows before it stay.
+void EntityModel::RemoveGone(const std::vector<int>& changed)
+{
+    int begin = rowCount();
+    int end = begin;
+    for (auto id = changed.rbegin(); id != changed.rend(); ++id)
+    {
+        const int row = GetRow(*id);
+        if (row < 0 || m_sketch.Find(*id) != nullptr)
+            continue;
+        if (row + 1 != begin)
+        {
+            Remove(begin, end);
+            end = row + 1;
+        }
+        begin = row;
+    }
+    Remove(begin, end);
+}
+
+void EntityModel::InsertNew(const std::vector<int>& changed)
+{
+    std::vector<int> come;
+    std::copy_if(changed.begin(), changed.end(), std::back_inserter(come),
+                 [this](int id) { return GetRow(id) < 0 && m_sketch.Find(id) != nullptr; });
+    for (auto begin = come.cbegin(); begin != come.cend();)
+    {
+        const int row = PlaceOf(*begin);
+        const auto end =
+            std::find_if(begin, come.cend(), [this, row](int id) { return PlaceOf(id) != row; });
+        Insert(row, begin, end);
+        begin = end;
+    }
+}
+
+void EntityModel::Remove(int begin, int end)
+{
+    if (begin == end)
+        return;
+    beginRemoveRows(QModelIndex(), begin, end - 1);
+    m_ids.erase(m_ids.begin() + begin, m_ids.begin() + end);
+    endRemoveRows();
+}
+
+void EntityModel::Insert(int row, std::vector<int>::const_iterator begin,
+                         std::vector<int>::const_iterator end)
+{
+    if (begin == end)
+        return;
+    beginInsertRows(QModelIndex(), row, row + static_cast<int>(end - begin) - 1);
+    m_ids.insert(m_ids.begin() + row, begin, end);
+    endInsertRows();
+}
+
+void EntityModel::TellChanged(int first, int last)
+{
+    if (first <= last)
+        emit dataChanged(index(first, 0), index(last, ColumnCount - 1));
+}
+
+/// The first row whose id is not less.
+int EntityModel::PlaceOf(int id) const
+{
+    return static_cast<int>(std::lower_bound(m_ids.begin(), m_ids.end(), id) - m_ids.begin());
 }
 
 int EntityModel::rowCount(const QModelIndex& parent) const

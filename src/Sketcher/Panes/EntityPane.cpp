@@ -1,31 +1,39 @@
 #include "Panes/EntityPane.h"
 
 #include "Model/Workspace.h"
+#include "Panes/EntityList.h"
 #include "Panes/EntityModel.h"
 
 #include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QScopedValueRollback>
-#include <QTreeView>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
+
+namespace
+{
+
+/// Mostly they are in order, which is found out much sooner than it is established.
+std::vector<int> Ascending(std::vector<int> rows)
+{
+    if (!std::is_sorted(rows.begin(), rows.end()))
+        std::sort(rows.begin(), rows.end());
+    return rows;
+}
+
+}
 
 EntityPane::EntityPane(Workspace& workspace)
     : m_workspace(workspace), m_pModel(new EntityModel(workspace.sketch, this)),
-      m_pView(new QTreeView)
+      m_pView(new EntityList)
 {
     m_pView->setObjectName(QStringLiteral("Entities"));
     m_pView->setModel(m_pModel);
-    m_pView->setRootIsDecorated(false);
-    m_pView->setUniformRowHeights(true);
-    m_pView->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    m_pView->setFrameShape(QFrame::NoFrame);
-    // Fitting widths to the contents would measure every row.
-    m_pView->header()->setSectionResizeMode(QHeaderView::Interactive);
     const int digit = fontMetrics().horizontalAdvance(QLatin1Char('0'));
     for (const int column : {EntityModel::NumberColumn, EntityModel::KindColumn})
-        m_pView->header()->resizeSection(column, 7 * digit);
+        m_pView->horizontalHeader()->resizeSection(column, 7 * digit);
 
     auto* pLayout = new QVBoxLayout(this);
     pLayout->setContentsMargins(0, 0, 0, 0);
@@ -33,7 +41,7 @@ EntityPane::EntityPane(Workspace& workspace)
     connect(m_pView->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &EntityPane::OnSelected);
     m_pView->setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(m_pView, &QTreeView::customContextMenuRequested, this, [this](const QPoint& position) {
+    connect(m_pView, &QWidget::customContextMenuRequested, this, [this](const QPoint& position) {
         emit menuRequested(m_pView->viewport()->mapToGlobal(position));
     });
     UpdateStatus();
@@ -45,9 +53,7 @@ void EntityPane::UpdateStatus()
     m_pModel->Refresh();
     const std::vector<int>& ids = m_workspace.selection.GetIds();
     const std::vector<int> rows = ToRows(ids);
-    std::vector<int> rowsBefore = GetSelectedRows();
-    std::sort(rowsBefore.begin(), rowsBefore.end());
-    if (rows == rowsBefore)
+    if (rows == Ascending(GetSelectedRows()))
         return;
     // In two steps, because in one the toolkit compares each range with every earlier one.
     m_pView->selectionModel()->clearSelection();
@@ -88,7 +94,7 @@ std::vector<int> EntityPane::ToRows(const std::vector<int>& ids) const
     std::vector<int> rows;
     for (const int id : ids)
         rows.push_back(m_pModel->GetRow(id));
-    std::sort(rows.begin(), rows.end());
+    rows = Ascending(std::move(rows));
     rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
     return rows;
 }

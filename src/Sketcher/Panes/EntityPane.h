@@ -4,9 +4,9 @@
 
 #include <QWidget>
 
+class EntityList;
 class EntityModel;
 class QItemSelection;
-class QTreeView;
 struct Workspace;
 
 /// The entities of the drawing as a list. Its selection and the drawing's follow each other.
@@ -32,6 +32,6 @@ private:
 
     Workspace& m_workspace;
     EntityModel* m_pModel;
-    QTreeView* m_pView;
+    EntityList* m_pView;
     bool m_isShowing = false;
 };

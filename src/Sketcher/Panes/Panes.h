@@ -40,7 +40,11 @@ public:
     vesk::PaneLayout& GetLayout() { return m_layout; }
 
     /// Refreshes the panes as soon as the event loop is idle.
-    void Refresh() { m_refresh.start(0); }
+    void Refresh()
+    {
+        if (!m_refresh.isActive())
+            m_refresh.start(0);
+    }
 
     std::vector<CommandEntry> MakeCommands();
 

@@ -30,7 +30,7 @@ void SelectAll(Workspace& workspace)
     std::vector<int> ids;
     for (const Entity& entity : workspace.sketch.GetEntities())
     {
-        if (workspace.sketch.CanPick(entity.id))
+        if (workspace.sketch.CanPick(entity))
             ids.push_back(entity.id);
     }
     workspace.selection.Select(ids);

@@ -24,10 +24,12 @@ void StepTips::Show(const Tip& tip, const std::wstring& step)
     if (tip.pButton == nullptr)
         return;
     const int keys = tip.plain.lastIndexOf(QStringLiteral(" ("));
-    const QString named = QStringLiteral("%1：%2%3")
-                              .arg(tip.pButton->text(), vesk::ToQString(step),
-                                   keys < 0 ? QString() : tip.plain.mid(keys));
-    tip.pButton->setToolTip(step.empty() ? tip.plain : named);
+    const QString named = tip.pButton->text() + QStringLiteral("：") + vesk::ToQString(step) +
+                          (keys < 0 ? QString() : tip.plain.mid(keys));
+    const QString& text = step.empty() ? tip.plain : named;
+    // Telling the button the same again would only cost an event, after each of many equal steps.
+    if (text != tip.pButton->toolTip())
+        tip.pButton->setToolTip(text);
 }
 
 void StepTips::Update()

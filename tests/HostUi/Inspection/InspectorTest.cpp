@@ -14,6 +14,7 @@
 #include "Support/HostFixture.h"
 #include "Support/TestValues.h"
 
+#include <QDateTime>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -213,6 +214,22 @@ private slots:
 
         const QRegularExpression time("^\\d\\d:\\d\\d:\\d\\d\\.\\d{3}  Edit  ");
         QVERIFY(time.match(f.EventList()->item(0)->text()).hasMatch());
+    }
+
+    void theTimeIsWhenAnEventCame()
+    {
+        Fixture f;
+        const qint64 begin = QDateTime::currentMSecsSinceEpoch();
+        f.pEdit->SetText(L"a");
+        const qint64 end = QDateTime::currentMSecsSinceEpoch();
+        QTRY_VERIFY(QDateTime::currentMSecsSinceEpoch() > end);
+
+        const QString shown = f.EventList()->item(0)->text().section("  ", 0, 0);
+
+        QStringList possible;
+        for (qint64 time = begin; time <= end; ++time)
+            possible << QDateTime::fromMSecsSinceEpoch(time).toString("HH:mm:ss.zzz");
+        QVERIFY(possible.contains(shown));
     }
 
     void eventsAreHeardWhileTheInspectorIsHidden()

@@ -29,6 +29,34 @@ private:
     }
 
 private slots:
+    void aThingIsFoundByItsIdWhateverIdsAreMissing()
+    {
+        struct Thing
+        {
+            int id;
+        };
+        for (int missing = 0; missing < 1024; ++missing)
+        {
+            std::vector<Thing> things;
+            for (int id = -2; id < 8; ++id)
+            {
+                if ((missing >> (id + 2)) % 2 == 0)
+                    things.push_back({id});
+            }
+            for (int id = -4; id < 12; ++id)
+            {
+                const auto isNotLess = [id](const Thing& thing) { return thing.id >= id; };
+                const auto expected = std::find_if(things.begin(), things.end(), isNotLess);
+                QCOMPARE(PlaceOf(things, id) - things.begin(), expected - things.begin());
+                const bool isThere = expected != things.end() && expected->id == id;
+                QCOMPARE(FindById(things, id), isThere ? &*expected : nullptr);
+            }
+        }
+        const std::vector<Thing> far = {{-2000000000}, {0}, {2000000000}};
+        QCOMPARE(FindById(far, 2000000000), &far[2]);
+        QCOMPARE(FindById(far, 1), nullptr);
+    }
+
     void contentOfADrawingIsValid()
     {
         QVERIFY(IsValid(SomeContent()));

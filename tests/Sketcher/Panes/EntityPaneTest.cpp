@@ -4,8 +4,8 @@
 #include "RecordedLines.h"
 #include "Support/TestValues.h"
 
+#include <QAbstractItemView>
 #include <QSignalSpy>
-#include <QTreeView>
 
 #include <algorithm>
 #include <functional>
@@ -27,7 +27,7 @@ struct Fixture
         for (const int id : {1, 2, 3})
             workspace.sketch.Erase(id);
         pPane = std::make_unique<EntityPane>(workspace);
-        pList = pPane->findChild<QTreeView*>("Entities");
+        pList = pPane->findChild<QAbstractItemView*>("Entities");
         pPane->resize(240, 300);
         pPane->show();
         pPane->UpdateStatus();
@@ -73,12 +73,12 @@ struct Fixture
 
     Workspace workspace;
     std::unique_ptr<EntityPane> pPane;
-    QTreeView* pList = nullptr;
+    QAbstractItemView* pList = nullptr;
     std::unique_ptr<RecordedLines> pLines;
 };
 
 /// How often the list's selection changes during a step.
-int CountChanges(const QTreeView& list, const std::function<void()>& step)
+int CountChanges(const QAbstractItemView& list, const std::function<void()>& step)
 {
     const QSignalSpy changes(list.selectionModel(), &QItemSelectionModel::selectionChanged);
     step();

@@ -30,6 +30,19 @@ struct Fixture
     QToolButton* pRedo = new QToolButton(&window);
 };
 
+/// Counts how often an object is told another tool tip.
+class ToolTipChanges final : public QObject
+{
+public:
+    bool eventFilter(QObject* pWatched, QEvent* pEvent) override
+    {
+        count += pEvent->type() == QEvent::ToolTipChange ? 1 : 0;
+        return QObject::eventFilter(pWatched, pEvent);
+    }
+
+    int count = 0;
+};
+
 }
 
 /// The tool tips of undo and redo.
@@ -60,6 +73,23 @@ private slots:
 
         const StepTips tips(f.sketch, f.window);
 
+        QVERIFY(f.pUndo->toolTip().startsWith(QStringLiteral("撤销：")));
+    }
+
+    void anEqualTipIsNotToldAgain()
+    {
+        Fixture f;
+        const StepTips tips(f.sketch, f.window);
+        f.sketch.AddLine({0, 0, 0}, {1, 0, 0});
+        ToolTipChanges changes;
+        f.pUndo->installEventFilter(&changes);
+
+        f.sketch.AddLine({0, 0, 0}, {1, 0, 0});
+        QCOMPARE(changes.count, 0);
+        f.pUndo->setToolTip(QStringLiteral("another"));
+        f.sketch.AddLine({0, 0, 0}, {1, 0, 0});
+
+        QCOMPARE(changes.count, 2);
         QVERIFY(f.pUndo->toolTip().startsWith(QStringLiteral("撤销：")));
     }
 

@@ -4,10 +4,11 @@
 #include "HostUi/ControlHost.h"
 #include "HostUi/HostUiExport.h"
 
-#include <QStringList>
+#include <QString>
 #include <QTimer>
 #include <QWidget>
 
+#include <deque>
 #include <map>
 #include <memory>
 #include <string>
@@ -66,7 +67,20 @@ private:
     QListWidget* m_pEvents;
 
     /// Events not in the list yet; there may be thousands at a time.
-    QStringList m_newEvents;
+    struct Event
+    {
+        qint64 time; ///< In milliseconds since 1970.
+        std::wstring id;
+        int type;
+        int index;
+        bool isByUser;
+    };
+
+    static QString Describe(const Event& event);
+
+    /// Not shown yet. They come far more often than they are looked at, and are put into words only
+    /// then.
+    std::deque<Event> m_newEvents;
     QTimer m_refresh;
 
     /// One for each definition listened to.

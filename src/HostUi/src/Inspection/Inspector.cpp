@@ -11,18 +11,20 @@
 #include "HostUi/QtText.h"
 #include "Inspection/DefinitionText.h"
 
+#include <QDateTime>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QScrollBar>
 #include <QSplitter>
-#include <QTime>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
 #include <algorithm>
 #include <chrono>
+#include <cstddef>
+#include <utility>
 
 namespace vesk
 {
@@ -194,27 +196,34 @@ void Inspector::Listen()
 
 void Inspector::AddEvent(const std::wstring& id, const IControlDefinitionChangeEventArgs& args)
 {
-    QString text = QTime::currentTime().toString(QStringLiteral("HH:mm:ss.zzz  ")) + ToQString(id) +
-                   QLatin1String("  ") + TypeText(args.GetType());
-    if (args.GetIndex() >= 0)
-        text += QStringLiteral(" [%1]").arg(args.GetIndex());
-    text += args.IsChangeByUser() ? QStringLiteral("  用户") : QStringLiteral("  程序");
-    m_newEvents.append(text);
-    if (m_newEvents.size() > MostEvents)
-        m_newEvents.removeFirst();
+    m_newEvents.push_back({QDateTime::currentMSecsSinceEpoch(), id, args.GetType(), args.GetIndex(),
+                           args.IsChangeByUser()});
+    if (m_newEvents.size() > std::size_t(MostEvents))
+        m_newEvents.pop_front();
+}
+
+QString Inspector::Describe(const Event& event)
+{
+    const QTime time = QDateTime::fromMSecsSinceEpoch(event.time).time();
+    QString text = time.toString(QStringLiteral("HH:mm:ss.zzz  ")) + ToQString(event.id) +
+                   QLatin1String("  ") + TypeText(event.type);
+    if (event.index >= 0)
+        text += QStringLiteral(" [%1]").arg(event.index);
+    return text + (event.isByUser ? QStringLiteral("  用户") : QStringLiteral("  程序"));
 }
 
 /// Scrolls to the newest event unless the user has scrolled back.
 void Inspector::ShowEvents()
 {
-    if (m_newEvents.isEmpty())
+    if (m_newEvents.empty())
         return;
     const QScrollBar* pBar = m_pEvents->verticalScrollBar();
     const bool isAtEnd = pBar->value() == pBar->maximum();
-    for (int surplus = m_pEvents->count() + m_newEvents.size() - MostEvents; surplus > 0; --surplus)
+    const int count = m_pEvents->count() + static_cast<int>(m_newEvents.size());
+    for (int surplus = count - MostEvents; surplus > 0; --surplus)
         delete m_pEvents->takeItem(0);
-    m_pEvents->addItems(m_newEvents);
-    m_newEvents.clear();
+    for (const Event& event : std::exchange(m_newEvents, {}))
+        m_pEvents->addItem(Describe(event));
     if (isAtEnd)
         m_pEvents->scrollToBottom();
 }
