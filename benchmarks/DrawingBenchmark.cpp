@@ -88,10 +88,9 @@ public:
     /// Lets the hand rest until all is painted.
     void Finish()
     {
-        view.repaint();
         while (!view.IsWhole())
             QCoreApplication::processEvents();
-        view.repaint();
+        QCoreApplication::processEvents();
     }
 
     /// One step of the hand, and what it makes the view do.
@@ -103,8 +102,10 @@ public:
         PaintFrame();
     }
 
+    /// In and out by turns, so that about as much stays visible.
     void Zoom()
     {
+        TurnBack();
         QWheelEvent event({700, 400}, {700, 400}, {}, {0, m_isBack ? -120 : 120}, Qt::NoButton,
                           Qt::NoModifier, Qt::NoScrollPhase, false);
         QCoreApplication::sendEvent(&view, &event);
@@ -149,6 +150,8 @@ struct Scene
     long count;
     long visible;
     bool areSelected = false;
+
+    int GetRounds() const { return count > 100000 ? 5 : 11; }
 };
 
 /// The last of some frames in a row, each before the former is refined.
@@ -186,7 +189,7 @@ void AskAboutFrames(const std::string& name, const Scene& scene, double millisec
             .Ours(FrameOf(scene, pStep))
             .MillisecondsAtMost(milliseconds)
             .WithoutInstructions()
-            .Rounds(11);
+            .Rounds(scene.GetRounds());
 }
 
 void AskAboutRest(const std::string& name, const Scene& scene, double milliseconds)
@@ -196,7 +199,7 @@ void AskAboutRest(const std::string& name, const Scene& scene, double millisecon
             .Ours(RestOf(scene, pStep))
             .MillisecondsAtMost(milliseconds)
             .WithoutInstructions()
-            .Rounds(11);
+            .Rounds(scene.GetRounds());
 }
 
 }
