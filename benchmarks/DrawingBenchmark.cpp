@@ -27,13 +27,14 @@ namespace
 constexpr int Width = 1600;
 constexpr int Height = 1000;
 
-Shape ShapeOf(int index, std::mt19937& random)
+/// On a sheet that many times as wide and as high as the view.
+Shape ShapeOf(int index, double sheet, std::mt19937& random)
 {
     const auto between = [&random](double low, double high) {
         return low + (high - low) * (static_cast<double>(random()) / 4294967296.0);
     };
-    const Vector3d place(between(-Width / 2.0, Width / 2.0), between(-Height / 2.0, Height / 2.0),
-                         0.0);
+    const Vector3d place(sheet * between(-Width / 2.0, Width / 2.0),
+                         sheet * between(-Height / 2.0, Height / 2.0), 0.0);
     const double size = between(4.0, 100.0);
     const double angle = between(0.0, 6.28);
     const Vector3d way = size * Vector3d(std::cos(angle), std::sin(angle), 0.0);
@@ -47,14 +48,18 @@ Shape ShapeOf(int index, std::mt19937& random)
     return ArcShape{place, size, place + way, place + 2.0 * across};
 }
 
-/// Six tenths lines, two rectangles, one circles, one arcs, strewn over a sheet of the view's size.
-SketchContent MakeDrawing(long count)
+/// Six tenths lines, two rectangles, one circles, one arcs, strewn over a sheet. On the screen they
+/// are of the same sizes, whatever part of the sheet the view shows.
+SketchContent MakeDrawing(long count, double sheet)
 {
     std::mt19937 random(7);
     SketchContent content;
     content.name = L"drawing";
     for (int id = 1; id <= count; ++id)
-        content.entities.push_back({id, ShapeOf(static_cast<int>(random() % 10), random), Pen()});
+    {
+        const auto index = static_cast<int>(random() % 10);
+        content.entities.push_back({id, ShapeOf(index, sheet, random), Pen()});
+    }
     content.lastId = static_cast<int>(count);
     return content;
 }
@@ -73,11 +78,13 @@ public:
     /// Shows a drawing of that many entities, about that many of which are visible.
     void Show(long count, long visible, bool areSelected)
     {
-        if (m_count != count)
-            workspace.sketch.Restore(MakeDrawing(m_count = count));
-        const double part = std::sqrt(static_cast<double>(visible) / static_cast<double>(count));
-        const Vector3d corner(0.4 * Width * part, 0.4 * Height * part, 0.0);
-        view.Fit(-corner, corner);
+        if (m_count != count || m_visible != visible)
+            workspace.sketch.Restore(MakeDrawing(
+                count, std::sqrt(static_cast<double>(count) / static_cast<double>(visible))));
+        m_count = count;
+        m_visible = visible;
+        view.Fit({0, 0, 0}, {0, 0, 0});
+        view.SetPixelsPerUnit(1.0);
         std::vector<int> ids;
         for (int id = 1; areSelected && id <= count; ++id)
             ids.push_back(id);
@@ -134,6 +141,7 @@ private:
     }
 
     long m_count = 0;
+    long m_visible = 0;
     bool m_isBack = false;
 };
 
