@@ -22,7 +22,7 @@ public:
     using DrawingView::DrawingView;
 
 protected:
-    std::size_t PaintModel(QPainter&, std::size_t begin) override { return begin; }
+    std::size_t PaintModel(QPainter&, const QRectF&, std::size_t begin) override { return begin; }
 };
 
 /// A window with a ribbon, a view and a check box.

@@ -20,6 +20,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <optional>
 #include <utility>
 
@@ -31,7 +32,7 @@ namespace
 
 /// So many entities in a part of the picture: even of those that are slow to paint, dashed circles
 /// for example, they take only milliseconds.
-constexpr std::size_t MostPainted = 250;
+constexpr std::ptrdiff_t MostPainted = 250;
 
 QColor Mix(const QColor& a, const QColor& b, double share)
 {
@@ -44,12 +45,13 @@ QColor Mix(const QColor& a, const QColor& b, double share)
 
 SketchView::SketchView(Workspace& workspace, vesk::DimensionInputController& input,
                        QWidget* pParent)
-    : DrawingView(1, input, pParent), m_workspace(workspace), m_mouse(workspace, *this)
+    : DrawingView(1, input, pParent), m_workspace(workspace),
+      m_visible(workspace.sketch, workspace.selection), m_mouse(workspace, *this)
 {
     setObjectName(QStringLiteral("SketchView"));
     qApp->installEventFilter(this);
     connect(&workspace.sketch, &Sketch::changed, this, &SketchView::OnSketchChanged);
-    connect(&workspace.selection, &Selection::changed, this, &SketchView::UpdateModel);
+    connect(&workspace.selection, &Selection::changed, this, &SketchView::OnSelectionChanged);
     // Looking costs more, the larger the drawing: once for all changes before the event loop.
     m_lookAgain.setSingleShot(true);
     connect(&workspace.sketch, &Sketch::changed, &m_lookAgain, qOverload<>(&QTimer::start));
@@ -77,18 +79,24 @@ void SketchView::OnActionChanged()
 }
 
 /// The ground, then what lies below the selected entities, then all entities.
-std::size_t SketchView::PaintModel(QPainter& painter, std::size_t begin)
+///
+/// Position 0 is the ground, an odd one a number of a selected entity, an even one the id of an
+/// entity: what was added has a greater one, whatever is selected or visible.
+std::size_t SketchView::PaintModel(QPainter& painter, const QRectF& area, std::size_t begin)
 {
-    constexpr std::size_t FirstSelected = 1;
-    const std::size_t firstEntity = FirstSelected + m_workspace.selection.GetIds().size();
+    // Wide enough to hide the caps and joins of clipped outlines.
+    constexpr int Margin = 8;
+    const QRectF visible = area.adjusted(-Margin, -Margin, Margin, Margin);
     if (begin == 0)
     {
         PaintGrid(painter);
         PaintAxes(painter);
-        return FirstSelected;
+        return 1;
     }
-    return begin < firstEntity ? FirstSelected + PaintSelection(painter, begin - FirstSelected)
-                               : firstEntity + PaintEntities(painter, begin - firstEntity);
+    if (begin % 2 == 1)
+        return PaintSelection(painter, visible, begin / 2);
+    return 2 *
+           static_cast<std::size_t>(PaintEntities(painter, visible, static_cast<int>(begin / 2)));
 }
 
 void SketchView::PaintOverlay(QPainter& painter)
@@ -193,11 +201,18 @@ void SketchView::mouseReleaseEvent(QMouseEvent* pEvent)
 /// What is drawn lies above all else: it is added to the picture.
 void SketchView::OnSketchChanged()
 {
+    m_visible.Forget();
     const unsigned revision = m_workspace.sketch.GetRevision();
     if (std::exchange(m_shownRevision, revision) == revision)
         ExtendModel();
     else
         UpdateModel();
+}
+
+void SketchView::OnSelectionChanged()
+{
+    m_visible.Forget();
+    UpdateModel();
 }
 
 void SketchView::OnCursorMoved(double x, double y)
@@ -276,40 +291,47 @@ void SketchView::PaintAxes(QPainter& painter) const
     painter.drawLine(QPointF(origin.x(), 0), QPointF(origin.x(), height()));
 }
 
-/// Paints some of the entities and returns the index of the next.
-std::size_t SketchView::PaintEntities(QPainter& painter, std::size_t begin) const
+Area SketchView::ToWorld(const QRectF& pixels) const
 {
-    const std::vector<Entity>& entities = m_workspace.sketch.GetEntities();
-    const std::size_t end = std::max(begin, std::min(begin + MostPainted, entities.size()));
-    const QRectF visible = GetPaintedRect();
-    ScreenPens pens(m_workspace.sketch, palette().color(QPalette::Text));
-    for (std::size_t i = begin; i < end; ++i)
-    {
-        if (const QPen* pPen = pens.Find(entities[i].pen))
-            PaintShape(painter, *pPen, entities[i].shape, GetCamera(), visible);
-    }
-    return end;
+    const vesk::ModelView& camera = GetCamera();
+    return Area::Between(camera.ScreenToWorld(pixels.left(), pixels.top()),
+                         camera.ScreenToWorld(pixels.right(), pixels.bottom()));
 }
 
-/// The same for what lies below selected entities.
-std::size_t SketchView::PaintSelection(QPainter& painter, std::size_t begin) const
+/// Paints some of the entities, from an id on, and returns the id after them.
+int SketchView::PaintEntities(QPainter& painter, const QRectF& visible, int first)
 {
-    const std::vector<int>& ids = m_workspace.selection.GetIds();
-    const std::size_t end = std::min(begin + MostPainted, ids.size());
+    ScreenPens pens(m_workspace.sketch, palette().color(QPalette::Text));
+    const auto begin = m_visible.From(first, ToWorld(visible));
+    const auto end = begin + std::min(m_visible.End() - begin, MostPainted);
+    for (auto entity = begin; entity != end; ++entity)
+    {
+        if (const QPen* pPen = pens.Find((*entity)->pen))
+            PaintShape(painter, *pPen, (*entity)->shape, GetCamera(), visible);
+    }
+    return begin == end ? first : (*std::prev(end))->id + 1;
+}
+
+/// The same for what lies below selected entities. Returns the position after them.
+std::size_t SketchView::PaintSelection(QPainter& painter, const QRectF& visible, std::size_t begin)
+{
+    constexpr std::size_t FirstEntity = 2;
+    const std::vector<const Entity*>& selected = m_visible.GetSelected(ToWorld(visible));
+    const std::size_t end = std::min<std::size_t>(begin + MostPainted, selected.size());
     for (std::size_t i = begin; i < end; ++i)
-        PaintSelected(painter, *m_workspace.sketch.Find(ids[i]));
-    return end;
+        PaintSelected(painter, visible, *selected[i]);
+    return end < selected.size() ? 2 * end + 1 : FirstEntity;
 }
 
 /// Paints a band below the outline, and grips at its ends and centre.
-void SketchView::PaintSelected(QPainter& painter, const Entity& entity) const
+void SketchView::PaintSelected(QPainter& painter, const QRectF& visible, const Entity& entity) const
 {
     constexpr double BandWidth = 7.0;
     constexpr double GripSize = 7.0;
     QColor band = palette().color(QPalette::Highlight);
     band.setAlpha(110);
     PaintShape(painter, QPen(band, BandWidth, Qt::SolidLine, Qt::RoundCap), entity.shape,
-               GetCamera(), GetPaintedRect());
+               GetCamera(), visible);
     std::vector<Vector3d> grips = EndsOf(entity.shape);
     if (const std::optional<Vector3d> centre = CentreOf(entity.shape))
         grips.push_back(*centre);
@@ -319,11 +341,4 @@ void SketchView::PaintSelected(QPainter& painter, const Entity& entity) const
         box.moveCenter(ToPixel(grip));
         painter.fillRect(box, palette().color(QPalette::Highlight));
     }
-}
-
-/// The view, with a margin wide enough to hide the caps and joins of clipped outlines.
-QRectF SketchView::GetPaintedRect() const
-{
-    constexpr int Margin = 8;
-    return QRectF(rect()).adjusted(-Margin, -Margin, Margin, Margin);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "View/MouseSelection.h"
+#include "View/VisibleEntities.h"
 
 #include "Command/ActionManager.h"
 #include "HostUi/DrawingView.h"
@@ -45,7 +46,7 @@ signals:
     void menuRequested(const QPoint& position);
 
 protected:
-    std::size_t PaintModel(QPainter& painter, std::size_t begin) override;
+    std::size_t PaintModel(QPainter& painter, const QRectF& area, std::size_t begin) override;
     void PaintOverlay(QPainter& painter) override;
     void OnFreeClick(const vesk::Vector3d& world, Qt::KeyboardModifiers modifiers) override;
     void OnFreeEscape() override;
@@ -60,6 +61,7 @@ protected:
 
 private:
     void OnSketchChanged();
+    void OnSelectionChanged();
     void OnCursorMoved(double x, double y);
     void SetPointed(int entity);
     void DropPress();
@@ -67,12 +69,13 @@ private:
     void PaintGrid(QPainter& painter) const;
     void PaintGridLines(QPainter& painter, double step, const QColor& color) const;
     void PaintAxes(QPainter& painter) const;
-    std::size_t PaintSelection(QPainter& painter, std::size_t begin) const;
-    std::size_t PaintEntities(QPainter& painter, std::size_t begin) const;
-    void PaintSelected(QPainter& painter, const Entity& entity) const;
-    QRectF GetPaintedRect() const;
+    Area ToWorld(const QRectF& pixels) const;
+    std::size_t PaintSelection(QPainter& painter, const QRectF& visible, std::size_t begin);
+    int PaintEntities(QPainter& painter, const QRectF& visible, int first);
+    void PaintSelected(QPainter& painter, const QRectF& visible, const Entity& entity) const;
 
     Workspace& m_workspace;
+    VisibleEntities m_visible;
 
     MouseSelection m_mouse;
     int m_pointed = 0;

@@ -35,7 +35,7 @@ public:
     using DrawingView::DrawingView;
 
 protected:
-    std::size_t PaintModel(QPainter&, std::size_t begin) override { return begin; }
+    std::size_t PaintModel(QPainter&, const QRectF&, std::size_t begin) override { return begin; }
 };
 
 /// Counts how often it ends.

@@ -33,7 +33,7 @@ public:
     bool isSmooth = false;
 
 protected:
-    std::size_t PaintModel(QPainter& painter, std::size_t) override
+    std::size_t PaintModel(QPainter& painter, const QRectF&, std::size_t) override
     {
         isSmooth = painter.testRenderHint(QPainter::Antialiasing);
         painter.fillRect(0, 140, 20, 20, Qt::red);

@@ -23,7 +23,7 @@ public:
     int paintCount = 0;
 
 protected:
-    std::size_t PaintModel(QPainter& painter, std::size_t begin) override
+    std::size_t PaintModel(QPainter& painter, const QRectF&, std::size_t begin) override
     {
         paintCount += begin == 0 ? 1 : 0;
         painter.fillRect(10, 10, 20, 20, Qt::red);

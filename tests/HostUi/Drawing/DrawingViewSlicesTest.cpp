@@ -7,6 +7,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
 
 using namespace vesk;
@@ -38,7 +39,7 @@ public:
     }
 
 protected:
-    std::size_t PaintModel(QPainter& painter, std::size_t begin) override
+    std::size_t PaintModel(QPainter& painter, const QRectF&, std::size_t begin) override
     {
         if (begin >= columnCount)
             return begin;
@@ -124,16 +125,87 @@ private slots:
         QTRY_COMPARE(f.pView->CountShown(Qt::blue), 300);
     }
 
-    void nothingIsKeptOfAnotherPlace()
+    void whatWasPaintedIsShownElsewhereUntilAllIsPaintedAgain()
+    {
+        ColumnsFixture f;
+        QTRY_COMPARE(f.pView->CountShown(Qt::red), 300);
+        f.pView->colour = Qt::blue;
+        const Vector3d aside(f.pView->GetCamera().GetWorldPerPixel() * 150, 0, 0);
+
+        f.pView->Fit(aside, aside);
+        QVERIFY(!f.pView->IsWhole());
+        QCOMPARE(f.pView->CountShown(Qt::red), 150);
+        QVERIFY(!f.pView->IsWhole());
+
+        QTRY_VERIFY(f.pView->IsWhole());
+        QCOMPARE(f.pView->CountShown(Qt::blue), 300);
+    }
+
+    void itIsShownInAnotherSizeToo()
     {
         ColumnsFixture f;
         QTRY_COMPARE(f.pView->CountShown(Qt::red), 300);
         f.pView->colour = Qt::blue;
 
+        // Columns 0 to 299 of 400, about the middle.
         f.pView->Magnify(2.0);
+
+        QVERIFY(std::abs(f.pView->CountShown(Qt::red) - 399) <= 1);
+        QTRY_COMPARE(f.pView->CountShown(Qt::blue), 300);
+    }
+
+    void nothingIsKeptOfAFarPlace_data()
+    {
+        QTest::addColumn<double>("magnification");
+        QTest::addColumn<double>("way");
+
+        QTest::newRow("beside") << 1.0 << 401.0;
+        QTest::newRow("far nearer") << 40.0 << 0.0;
+        QTest::newRow("far farther") << 1.0 / 40.0 << 0.0;
+    }
+
+    void nothingIsKeptOfAFarPlace()
+    {
+        QFETCH(double, magnification);
+        QFETCH(double, way);
+        ColumnsFixture f;
+        QTRY_COMPARE(f.pView->CountShown(Qt::red), 300);
+        f.pView->colour = Qt::blue;
+        const Vector3d aside(f.pView->GetCamera().GetWorldPerPixel() * way, 0, 0);
+
+        f.pView->Fit(aside, aside);
+        f.pView->Magnify(magnification);
 
         QCOMPARE(f.pView->CountShown(Qt::red), 0);
         QTRY_COMPARE(f.pView->CountShown(Qt::blue), 300);
+    }
+
+    void aSmallModelIsPaintedRatherThanMoved()
+    {
+        ColumnsFixture f;
+        f.pView->columnCount = 3;
+        f.pView->Magnify(1.5);
+        QTRY_COMPARE(f.pView->CountShown(Qt::red), 3);
+        f.pView->colour = Qt::blue;
+
+        f.pView->Magnify(2.0);
+
+        QCOMPARE(f.pView->CountShown(Qt::blue), 3);
+        QCOMPARE(f.pView->CountShown(Qt::red), 0);
+    }
+
+    void aPictureOfTheViewIsWholeAfterAMoveToo()
+    {
+        ColumnsFixture f;
+        QTRY_COMPARE(f.pView->CountShown(Qt::red), 300);
+        f.pView->Magnify(2.0);
+        f.pView->repaint();
+        f.pView->colour = Qt::blue;
+
+        f.pView->PaintAtOnce();
+
+        QCOMPARE(f.pView->CountShown(Qt::blue), 300);
+        QVERIFY(f.pView->IsWhole());
     }
 
     void onlyWhatWasAddedIsPainted()

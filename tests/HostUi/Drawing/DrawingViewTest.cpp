@@ -35,7 +35,7 @@ protected:
         DrawingView::paintEvent(pEvent);
     }
 
-    std::size_t PaintModel(QPainter& painter, std::size_t begin) override
+    std::size_t PaintModel(QPainter& painter, const QRectF&, std::size_t begin) override
     {
         m_paintCount += begin == 0 ? 1 : 0;
         painter.fillRect(10, 10, 20, 20, Qt::red);

@@ -4,8 +4,11 @@
 
 #include <QImage>
 #include <QPainter>
+#include <QTransform>
 
+#include <cmath>
 #include <cstddef>
+#include <vector>
 
 using namespace vesk;
 
@@ -18,21 +21,50 @@ struct RowsFixture
     /// Many more than one slice has.
     static constexpr std::size_t Many = 300;
 
+    static QPixmap Ground()
+    {
+        QPixmap ground(1, static_cast<int>(Many));
+        ground.fill(Qt::white);
+        return ground;
+    }
+
+    std::size_t PaintPart(QPainter& painter, const QRectF& area, std::size_t begin)
+    {
+        if (begin >= rowCount)
+            return begin;
+        areas.push_back(area);
+        painter.fillRect(0, static_cast<int>(begin) + shift, 1, 1, colour);
+        ++paintedCount;
+        return begin + 1;
+    }
+
     void PaintSlice()
     {
         if (!picture.IsBegun())
-        {
-            QPixmap ground(1, static_cast<int>(Many));
-            ground.fill(Qt::white);
-            picture.Begin(ground);
-        }
-        picture.PaintSlice([this](QPainter& painter, std::size_t begin) {
-            if (begin >= rowCount)
-                return begin;
-            painter.fillRect(0, static_cast<int>(begin), 1, 1, colour);
-            ++paintedCount;
-            return begin + 1;
+            picture.Begin(Ground());
+        picture.PaintSlice([this](QPainter& painter, const QRectF& area, std::size_t begin) {
+            return PaintPart(painter, area, begin);
         });
+    }
+
+    void FillGaps()
+    {
+        picture.FillGaps([this](QPainter& painter, const QRectF& area, std::size_t begin) {
+            return PaintPart(painter, area, begin);
+        });
+    }
+
+    void FillAllGaps()
+    {
+        while (picture.HasGaps())
+            FillGaps();
+    }
+
+    /// The model is seen so many rows higher.
+    void MoveDown(int rows)
+    {
+        shift += rows;
+        picture.Move(QTransform::fromTranslate(0, rows), Ground());
     }
 
     void PaintAll()
@@ -53,7 +85,9 @@ struct RowsFixture
 
     std::size_t rowCount = Many;
     QColor colour = Qt::red;
+    int shift = 0;
     std::size_t paintedCount = 0;
+    std::vector<QRectF> areas; ///< Of the painted parts.
     ModelPicture picture;
 };
 
@@ -170,6 +204,137 @@ private slots:
 
         f.PaintAll();
         QCOMPARE(f.CountShown(Qt::blue), Many);
+    }
+
+    void aPictureMovesWithTheModel()
+    {
+        RowsFixture f;
+        f.PaintAll();
+        f.colour = Qt::blue;
+
+        f.MoveDown(100);
+
+        QCOMPARE(f.CountShown(Qt::red), Many - 100);
+        QCOMPARE(f.CountShown(Qt::white), 100);
+    }
+
+    void itGrowsWithTheModel()
+    {
+        RowsFixture f;
+        f.rowCount = 100;
+        f.PaintAll();
+
+        f.picture.Move(QTransform::fromScale(2, 2), RowsFixture::Ground());
+
+        QVERIFY2(std::abs(f.CountShown(Qt::red) - 200) <= 1,
+                 qPrintable(QString::number(f.CountShown(Qt::red))));
+        QVERIFY(!f.picture.HasGaps());
+    }
+
+    void whatItLacksIsPainted()
+    {
+        RowsFixture f;
+        f.PaintAll();
+        f.colour = Qt::blue;
+        f.MoveDown(-100);
+        f.areas.clear();
+
+        f.FillAllGaps();
+
+        QCOMPARE(f.CountShown(Qt::red), Many - 100);
+        QCOMPARE(f.areas.front(), QRectF(0, Many - 100, 1, 100));
+        QCOMPARE(f.areas.back(), f.areas.front());
+    }
+
+    void theRestOfAMovedPictureIsLeftAsItWas()
+    {
+        RowsFixture f;
+        f.PaintAll();
+        f.colour = Qt::blue;
+        f.MoveDown(100);
+
+        f.FillAllGaps();
+
+        QCOMPARE(f.CountShown(Qt::blue), 0);
+        QCOMPARE(f.CountShown(Qt::red), Many - 100);
+    }
+
+    void gapsAreFilledWhileThePictureMovesOnAndOn()
+    {
+        RowsFixture f;
+        f.PaintAll();
+        f.MoveDown(40);
+        f.shift = 0;
+        f.colour = Qt::blue;
+
+        // A slice has fewer parts than the model, and a gap keeps what was painted into it.
+        for (int i = 0; i <= Many / 20; ++i)
+        {
+            f.FillGaps();
+            f.picture.Move(QTransform::fromTranslate(0, i % 2 == 0 ? 1 : -1),
+                           RowsFixture::Ground());
+        }
+
+        QVERIFY2(f.CountShown(Qt::blue) >= 38, qPrintable(QString::number(f.CountShown(Qt::blue))));
+    }
+
+    void aPictureThatIsNotWholeIsCompletedWhileItMoves()
+    {
+        RowsFixture f;
+        f.PaintSlice();
+        const auto redCount = static_cast<int>(f.paintedCount);
+        f.colour = Qt::blue;
+
+        f.MoveDown(0);
+        f.FillAllGaps();
+
+        QCOMPARE(f.CountShown(Qt::red), redCount);
+        QCOMPARE(f.CountShown(Qt::blue), Many - redCount);
+    }
+
+    void theNextPictureIsPaintedWholeAfterAMove()
+    {
+        RowsFixture f;
+        f.PaintAll();
+        f.colour = Qt::blue;
+        f.MoveDown(0);
+        QVERIFY(!f.picture.IsFinished());
+        QVERIFY(f.picture.IsBehind());
+
+        f.PaintAll();
+
+        QCOMPARE(f.CountShown(Qt::blue), Many);
+        QVERIFY(!f.picture.HasGaps());
+    }
+
+    void aPictureThatWasUnderWayIsGivenUpByAMove()
+    {
+        RowsFixture f;
+        f.PaintAll();
+        f.picture.Renew();
+        f.colour = Qt::blue;
+        f.PaintSlice();
+        f.colour = Qt::green;
+
+        f.MoveDown(0);
+        QCOMPARE(f.CountShown(Qt::red), Many);
+        f.PaintAll();
+
+        QCOMPARE(f.CountShown(Qt::green), Many);
+    }
+
+    void aModelOfOneSliceIsSmall()
+    {
+        RowsFixture f;
+        f.PaintAll();
+        QVERIFY(!f.picture.IsSmall());
+        f.rowCount = 3;
+
+        f.picture.Drop();
+        QVERIFY(!f.picture.IsSmall());
+        f.PaintAll();
+
+        QVERIFY(f.picture.IsSmall());
     }
 
     void aModelThatChangesAllTheTimeIsShownNevertheless()

@@ -55,6 +55,9 @@ public:
     /// the view.
     void PaintAtOnce() { m_isPaintedAtOnce = true; }
 
+    /// True if the view was painted since its last change and shows the whole model as it is.
+    bool IsWhole() const;
+
     /// Emits cursorMoved again if the cursor is in the view, because what it points at has changed.
     void TellCursor();
 
@@ -66,14 +69,17 @@ signals:
     void cursorLeft();
 
 protected:
-    /// Paints a part of what is below the provisional graphics, in pixels, from a position on, and
-    /// returns the position after it; the same one if nothing is left. Positions begin with 0. A
-    /// part takes a few milliseconds at most: many are painted at once, and between these events
-    /// are handled.
+    /// Paints a part of what is below the provisional graphics in an area, in pixels, from a
+    /// position on, and returns the position after it; the same one if nothing is left. Positions
+    /// begin with 0, and mean the same for all areas and cameras. A part takes a few milliseconds
+    /// at most: many are painted at once, and between these events are handled. What lies outside
+    /// the area is not seen and need not be painted.
     ///
     /// The result is cached, so that moving the cursor or the provisional graphics does not repaint
-    /// it, until UpdateModel is called or the camera, the size or the palette changes.
-    virtual std::size_t PaintModel(QPainter& painter, std::size_t begin) = 0;
+    /// it, until UpdateModel is called or the size or the palette changes. When the camera changes
+    /// and painting takes long, the cached picture is moved and scaled, what it lacks at its edges
+    /// is painted, and the whole is painted again as soon as there is time.
+    virtual std::size_t PaintModel(QPainter& painter, const QRectF& area, std::size_t begin) = 0;
 
     /// Repaints the model after its appearance changed. What it looked like before is shown until
     /// all is painted.
@@ -127,10 +133,13 @@ private:
     };
 
     void OnCameraChanged();
+    QTransform TakePictureMove();
+    void FollowCamera();
     void OnClick(const QMouseEvent& event);
     void DropPicture();
     QPixmap MakeGround() const;
     void PaintSlice();
+    void PaintSlices();
     void OnSliceDue();
 
     std::uint32_t m_id;
@@ -144,6 +153,8 @@ private:
     bool m_hasScale = false;
     bool m_isPaintedAtOnce = false;
     const std::unique_ptr<ModelPicture> m_pPicture;
+    ModelView m_pictureCamera;    ///< From where the picture shows the model.
+    bool m_isCameraMoved = false; ///< Since then.
     QTimer m_nextSlice;
 };
 

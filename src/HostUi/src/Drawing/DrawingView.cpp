@@ -14,8 +14,10 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPainter>
+#include <QTransform>
 
 #include <cmath>
+#include <utility>
 
 namespace vesk
 {
@@ -102,6 +104,11 @@ void DrawingView::SetPixelsPerUnit(double devicePixels)
     OnCameraChanged();
 }
 
+bool DrawingView::IsWhole() const
+{
+    return m_pPicture->IsFinished() && !m_isCameraMoved;
+}
+
 void DrawingView::TellCursor()
 {
     if (!m_cursor.has_value())
@@ -143,7 +150,10 @@ void DrawingView::UpdateCursor()
 void DrawingView::changeEvent(QEvent* pEvent)
 {
     if (pEvent->type() == QEvent::PaletteChange)
+    {
         DropPicture();
+        update();
+    }
     QWidget::changeEvent(pEvent);
 }
 
@@ -230,10 +240,12 @@ void DrawingView::mouseReleaseEvent(QMouseEvent* pEvent)
 void DrawingView::paintEvent(QPaintEvent*)
 {
     if (m_pPicture->GetShown().devicePixelRatioF() != devicePixelRatioF())
-        m_pPicture->Drop();
+        DropPicture();
+    if (std::exchange(m_isCameraMoved, false))
+        FollowCamera();
     // What one slice can show is never seen half painted; further slices leave time for events.
-    if (!m_nextSlice.isActive() || !m_pPicture->IsBegun() || m_isPaintedAtOnce)
-        PaintSlice();
+    if (!m_nextSlice.isActive() || m_isPaintedAtOnce)
+        PaintSlices();
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.drawPixmap(0, 0, m_pPicture->GetShown());
@@ -284,7 +296,9 @@ void DrawingView::wheelEvent(QWheelEvent* pEvent)
 void DrawingView::OnCameraChanged()
 {
     ActionManager::RenewViewInput(this);
-    DropPicture();
+    m_isCameraMoved = true;
+    m_nextSlice.stop();
+    update();
     TellCursor();
 }
 
@@ -292,7 +306,6 @@ void DrawingView::DropPicture()
 {
     m_pPicture->Drop();
     m_nextSlice.stop();
-    update();
 }
 
 QPixmap DrawingView::MakeGround() const
@@ -304,17 +317,59 @@ QPixmap DrawingView::MakeGround() const
     return ground;
 }
 
-/// Paints what comes next of the model, if anything does, and sees to the rest.
+/// How what the picture shows has moved since it was painted or moved last. Moves it by whole
+/// pixels of the screen, which leaves them as they are, and remembers what that lacks.
+QTransform DrawingView::TakePictureMove()
+{
+    const double scale = m_pictureCamera.GetWorldPerPixel() / m_camera.GetWorldPerPixel();
+    const QPointF origin = ToPixel(m_pictureCamera.ScreenToWorld(0.0, 0.0));
+    m_pictureCamera = m_camera;
+    if (scale != 1.0)
+        return {scale, 0.0, 0.0, scale, origin.x(), origin.y()};
+    const double ratio = devicePixelRatioF();
+    const QPointF shift(std::round(origin.x() * ratio) / ratio,
+                        std::round(origin.y() * ratio) / ratio);
+    m_pictureCamera.Pan(shift.x() - origin.x(), shift.y() - origin.y());
+    return QTransform::fromTranslate(shift.x(), shift.y());
+}
+
+/// Moves a picture that would take long to paint again.
+void DrawingView::FollowCamera()
+{
+    // What is moved so far has nothing to show.
+    constexpr double MostScale = 30.0;
+    const QTransform move = TakePictureMove();
+    const bool isNear = move.m11() < MostScale && move.m11() > 1.0 / MostScale &&
+                        move.mapRect(QRectF(rect())).intersects(rect());
+    if (m_pPicture->IsSmall() || m_isPaintedAtOnce || m_pPicture->GetShown().isNull() || !isNear)
+        return m_pPicture->Drop();
+    m_pPicture->Move(move, MakeGround());
+    if (m_pPicture->HasGaps())
+        PaintSlice();
+    m_nextSlice.start();
+}
+
+/// Paints what comes next: what is missing beside a picture that was moved, then the whole model.
 void DrawingView::PaintSlice()
 {
-    const auto paintPart = [this](QPainter& painter, std::size_t begin) {
-        return PaintModel(painter, begin);
+    const auto paintPart = [this](QPainter& painter, const QRectF& area, std::size_t begin) {
+        return PaintModel(painter, area, begin);
     };
+    if (m_pPicture->HasGaps() && !m_isPaintedAtOnce)
+        return m_pPicture->FillGaps(paintPart);
+    if (!m_pPicture->IsBegun())
+        m_pPicture->Begin(MakeGround());
+    m_pPicture->PaintSlice(paintPart);
+    if (m_pPicture->IsFinished())
+        m_pictureCamera = m_camera;
+}
+
+/// Paints a slice, if the model is not painted yet, and sees to the rest.
+void DrawingView::PaintSlices()
+{
     while (!m_pPicture->IsFinished())
     {
-        if (!m_pPicture->IsBegun())
-            m_pPicture->Begin(MakeGround());
-        m_pPicture->PaintSlice(paintPart);
+        PaintSlice();
         if (!m_isPaintedAtOnce && !m_pPicture->IsFinished())
             return m_nextSlice.start();
     }
@@ -322,8 +377,10 @@ void DrawingView::PaintSlice()
 
 void DrawingView::OnSliceDue()
 {
-    PaintSlice();
-    update();
+    const bool isBehind = m_pPicture->IsBehind();
+    PaintSlices();
+    if (!isBehind || m_pPicture->IsFinished())
+        update();
 }
 
 /// A click commits the value being typed, in the direction of the click; a rejected value stays in

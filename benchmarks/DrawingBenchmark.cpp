@@ -1,0 +1,227 @@
+// Whether a large drawing follows the hand: what a frame of a pan or a zoom costs, and when the
+// whole picture is there again.
+
+#include "Harness/Question.h"
+
+#include "Model/Workspace.h"
+#include "View/SketchView.h"
+
+#include "HostCore.h"
+#include "HostUi/DimensionInputController.h"
+#include "HostUi/UiApplication.h"
+
+#include <QCoreApplication>
+#include <QMouseEvent>
+#include <QWheelEvent>
+
+#include <cmath>
+#include <random>
+#include <string>
+#include <vector>
+
+using namespace vesk;
+
+namespace
+{
+
+constexpr int Width = 1600;
+constexpr int Height = 1000;
+
+/// On a sheet that many times as wide and as high as the view.
+Shape ShapeOf(int index, double sheet, std::mt19937& random)
+{
+    const auto between = [&random](double low, double high) {
+        return low + (high - low) * (static_cast<double>(random()) / 4294967296.0);
+    };
+    const Vector3d place(sheet * between(-Width / 2.0, Width / 2.0),
+                         sheet * between(-Height / 2.0, Height / 2.0), 0.0);
+    const double size = between(4.0, 100.0);
+    const double angle = between(0.0, 6.28);
+    const Vector3d way = size * Vector3d(std::cos(angle), std::sin(angle), 0.0);
+    const Vector3d across = Vector3d(-way.y(), way.x(), 0.0) / 2.0;
+    if (index < 6)
+        return LineShape{place, place + way};
+    if (index < 8)
+        return RectangleShape{{place, place + way, place + way + across, place + across}};
+    if (index < 9)
+        return CircleShape{place, size / 2.0};
+    return ArcShape{place, size, place + way, place + 2.0 * across};
+}
+
+/// Six tenths lines, two rectangles, one circles, one arcs, strewn over a sheet. On the screen they
+/// are of the same sizes, whatever part of the sheet the view shows.
+SketchContent MakeDrawing(long count, double sheet)
+{
+    std::mt19937 random(7);
+    SketchContent content;
+    content.name = L"drawing";
+    for (int id = 1; id <= count; ++id)
+    {
+        const auto index = static_cast<int>(random() % 10);
+        content.entities.push_back({id, ShapeOf(index, sheet, random), Pen()});
+    }
+    content.lastId = static_cast<int>(count);
+    return content;
+}
+
+/// A view of a drawing, and the hand that moves it.
+class Bench
+{
+public:
+    Bench()
+    {
+        view.resize(Width, Height);
+        view.show();
+        QCoreApplication::processEvents();
+    }
+
+    /// Shows a drawing of that many entities, about that many of which are visible.
+    void Show(long count, long visible, bool areSelected)
+    {
+        if (m_count != count || m_visible != visible)
+            workspace.sketch.Restore(MakeDrawing(
+                count, std::sqrt(static_cast<double>(count) / static_cast<double>(visible))));
+        m_count = count;
+        m_visible = visible;
+        view.Fit({0, 0, 0}, {0, 0, 0});
+        view.SetPixelsPerUnit(1.0);
+        std::vector<int> ids;
+        for (int id = 1; areSelected && id <= count; ++id)
+            ids.push_back(id);
+        workspace.selection.Select(ids);
+        Finish();
+    }
+
+    /// Lets the hand rest until all is painted.
+    void Finish()
+    {
+        while (!view.IsWhole())
+            QCoreApplication::processEvents();
+        QCoreApplication::processEvents();
+    }
+
+    /// One step of the hand, and what it makes the view do.
+    void Pan()
+    {
+        SendMouse(QEvent::MouseButtonPress, {800, 500});
+        SendMouse(QEvent::MouseMove, {m_isBack ? 780.0 : 820.0, m_isBack ? 490.0 : 510.0});
+        SendMouse(QEvent::MouseButtonRelease, {800, 500});
+        PaintFrame();
+    }
+
+    /// In and out by turns, so that about as much stays visible.
+    void Zoom()
+    {
+        TurnBack();
+        QWheelEvent event({700, 400}, {700, 400}, {}, {0, m_isBack ? -120 : 120}, Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&view, &event);
+        PaintFrame();
+    }
+
+    void TurnBack() { m_isBack = !m_isBack; }
+
+    HostCore host;
+    UiApplication application;
+    Workspace workspace;
+    DimensionInputController input;
+    SketchView view{workspace, input, nullptr};
+
+private:
+    void SendMouse(QEvent::Type type, const QPointF& place)
+    {
+        QMouseEvent event(type, place, Qt::MiddleButton, Qt::MiddleButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&view, &event);
+    }
+
+    void PaintFrame()
+    {
+        view.repaint();
+        QCoreApplication::processEvents();
+    }
+
+    long m_count = 0;
+    long m_visible = 0;
+    bool m_isBack = false;
+};
+
+/// Never destroyed: the application is gone before objects of static life are.
+Bench& TheBench()
+{
+    static Bench& s_bench = *new Bench;
+    return s_bench;
+}
+
+/// What the view shows.
+struct Scene
+{
+    long count;
+    long visible;
+    bool areSelected = false;
+
+    int GetRounds() const { return count > 100000 ? 5 : 11; }
+};
+
+/// The last of some frames in a row, each before the former is refined.
+Side FrameOf(const Scene& scene, void (Bench::*step)())
+{
+    return [scene, step](Stopwatch& stopwatch) {
+        constexpr int Before = 4;
+        Bench& bench = TheBench();
+        bench.Show(scene.count, scene.visible, scene.areSelected);
+        for (int i = 0; i < Before; ++i)
+            (bench.*step)();
+        stopwatch.Time([&] { (bench.*step)(); });
+        bench.TurnBack();
+    };
+}
+
+/// From the last step of the hand to the whole picture.
+Side RestOf(const Scene& scene, void (Bench::*step)())
+{
+    return [scene, step](Stopwatch& stopwatch) {
+        Bench& bench = TheBench();
+        bench.Show(scene.count, scene.visible, scene.areSelected);
+        stopwatch.Time([&] {
+            (bench.*step)();
+            bench.Finish();
+        });
+        bench.TurnBack();
+    };
+}
+
+void AskAboutFrames(const std::string& name, const Scene& scene, double milliseconds)
+{
+    for (const auto& [step, pStep] : {std::pair("pan", &Bench::Pan), {"zoom", &Bench::Zoom}})
+        Ask(name + ", frame of a " + step)
+            .Ours(FrameOf(scene, pStep))
+            .MillisecondsAtMost(milliseconds)
+            .WithoutInstructions()
+            .Rounds(scene.GetRounds());
+}
+
+void AskAboutRest(const std::string& name, const Scene& scene, double milliseconds)
+{
+    for (const auto& [step, pStep] : {std::pair("pan", &Bench::Pan), {"zoom", &Bench::Zoom}})
+        Ask(name + ", whole picture after a " + step)
+            .Ours(RestOf(scene, pStep))
+            .MillisecondsAtMost(milliseconds)
+            .WithoutInstructions()
+            .Rounds(scene.GetRounds());
+}
+
+}
+
+void AskQuestions()
+{
+    AskAboutFrames("S1 10,000 entities", {10000, 10000}, 16);
+    AskAboutFrames("S1 100,000 entities", {100000, 100000}, 16);
+    AskAboutRest("S1 10,000 entities", {10000, 10000}, 30);
+    AskAboutRest("S1 100,000 entities", {100000, 100000}, 230);
+    AskAboutFrames("S3 1,000 of 100,000 visible", {100000, 1000}, 6);
+    AskAboutFrames("S3 50 of 100,000 visible", {100000, 50}, 3);
+    AskAboutFrames("S4 100,000 entities, all selected", {100000, 100000, true}, 32);
+    AskAboutFrames("S9 1,000,000 entities", {1000000, 1000000}, 33);
+    AskAboutFrames("S9 50 of 1,000,000 visible", {1000000, 50}, 3);
+    AskAboutRest("S9 1,000,000 entities", {1000000, 1000000}, 2500);
+}
