@@ -71,8 +71,15 @@ bool EditorWindow::Activate(QWidget& view, QObject& filter, const QSize& size)
 
 void EditorWindow::ApplyStyle()
 {
-    m_pEditor->setStyleSheet(QString::fromLatin1(EditorStyleSheet));
-    m_pEditor->setStyle(FindOrCreateStyle(*m_pEditor));
+    // Setting the sheet and the style that are there would only compute the same look again, which
+    // takes longer than all the rest of opening. A style of the editor's own cannot be compared:
+    // the sheet stands before it.
+    const QString styleSheet = QString::fromLatin1(EditorStyleSheet);
+    if (m_pEditor->styleSheet() != styleSheet)
+        m_pEditor->setStyleSheet(styleSheet);
+    QStyle* pStyle = FindOrCreateStyle(*m_pEditor);
+    if (pStyle != nullptr || m_pEditor->testAttribute(Qt::WA_SetStyle))
+        m_pEditor->setStyle(pStyle);
     QPalette palette = m_pEditor->palette();
     palette.setBrush(QPalette::Base, Qt::white);
     m_pEditor->setPalette(palette);

@@ -6,7 +6,11 @@
 #include "Support/TestValues.h"
 
 #include <QInputMethod>
+#include <QRegularExpression>
+#include <QScopedPointer>
 #include <QStringList>
+#include <QStyle>
+#include <QStyleFactory>
 
 #include <dlfcn.h>
 
@@ -276,6 +280,8 @@ class EditorCallsTest : public QObject
 private slots:
     void newEditorIsMadeStyledAndShown();
     void editorThatIsThereKeepsNameAndFlags();
+    void onlyTheLookThatDiffersIsSetAgain_data();
+    void onlyTheLookThatDiffersIsSetAgain();
     void openEditorIsFilledShownAndPlaced();
     void inputEndsWithoutFocusAndHidden();
     void returnJudgesEndsAndDelivers();
@@ -306,7 +312,6 @@ void EditorCallsTest::newEditorIsMadeStyledAndShown()
                                "focus for reason 7",
                                "the editor filters view 1",
                                "style sheet",
-                               "style",
                                "palette",
                                "journal 3 0",
                                "text 5",
@@ -331,9 +336,44 @@ void EditorCallsTest::editorThatIsThereKeepsNameAndFlags()
                           Numbers("size", TemporaryDimensionStyle().GetEditorWidth(),
                                   TemporaryDimensionStyle().GetEditorHeight()),
                           "show", "activate", "focus for reason 7", "the editor filters view 1"}));
-    QCOMPARE(s_notes.mid(6),
-             QStringList({"style sheet", "style", "palette", "journal 3 0", "text 6", "show",
-                          "focus for reason 7", "move", "refresh view 1"}));
+    QCOMPARE(s_notes.mid(6), QStringList({"palette", "journal 3 0", "text 6", "show",
+                                          "focus for reason 7", "move", "refresh view 1"}));
+}
+
+void EditorCallsTest::onlyTheLookThatDiffersIsSetAgain_data()
+{
+    QTest::addColumn<QString>("styleSheet");
+    QTest::addColumn<QString>("style");
+    QTest::addColumn<QStringList>("expected");
+    const QString original;
+    QTest::newRow("nothing") << original << original << QStringList();
+    QTest::newRow("sheet") << "QLineEdit{ color:red; }" << original << QStringList("style sheet");
+    QTest::newRow("style") << original << "Windows" << QStringList("style");
+    QTest::newRow("both") << "QLineEdit{ color:red; }"
+                          << "Windows" << QStringList({"style sheet", "style"});
+}
+
+void EditorCallsTest::onlyTheLookThatDiffersIsSetAgain()
+{
+    QFETCH(QString, styleSheet);
+    QFETCH(QString, style);
+    QFETCH(QStringList, expected);
+    CallsFixture f;
+    const QScopedPointer<QStyle> opStyle(QStyleFactory::create("Windows"));
+    f.TypeLength("5");
+    const QImage firstPicture = f.Editor()->grab().toImage();
+    if (!styleSheet.isEmpty())
+        f.Editor()->setStyleSheet(styleSheet);
+    if (!style.isEmpty())
+        f.Editor()->setStyle(opStyle.get());
+    f.opHandler = f.CreateHandler();
+    const Noting noting;
+
+    f.SendToHandler('5');
+
+    QCOMPARE(s_notes.filter(QRegularExpression("^style")), expected);
+    QVERIFY(!f.Editor()->testAttribute(Qt::WA_SetStyle));
+    QCOMPARE(f.Editor()->grab().toImage(), firstPicture);
 }
 
 void EditorCallsTest::openEditorIsFilledShownAndPlaced()
