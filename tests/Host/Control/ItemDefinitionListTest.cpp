@@ -1,83 +1,15 @@
 #include "Control/ItemDefinitionList.h"
 
 #include "Control/ControlDefinitionChangeByUser.h"
-#include "Control/LabelDefinition.h"
-#include "Host/Control/ChangeRecorder.h"
+#include "Host/Control/ItemListFixture.h"
 #include "Support/TestValues.h"
-#include "Support/WarningRecorder.h"
-
-#include <memory>
 
 namespace vesk
 {
 
-namespace
-{
-
-constexpr char InsertFunction[] = "vesk::Some::Insert";
-constexpr char DeleteFunction[] = "vesk::Some::Delete";
-
-using Type = ControlDefinitionChangeEventType;
-
-/// Reports its destruction.
-class Item final : public LabelDefinition
-{
-public:
-    Item(const std::wstring& id, int& aliveCount) : LabelDefinition(id), m_aliveCount(aliveCount)
-    {
-        SetCaption(L"caption of " + id);
-        ++m_aliveCount;
-    }
-    ~Item() override { --m_aliveCount; }
-
-private:
-    int& m_aliveCount;
-};
-
-}
-
-/// A list of the items "a", "b" and "c", and a record of its changes.
-struct ItemListFixture
-{
-    ItemListFixture()
-    {
-        for (const wchar_t* id : {L"a", L"b", L"c"})
-            Insert(pList->GetCount(), id);
-        pRecorder = std::make_unique<ChangeRecorder>(*pEvent);
-    }
-
-    Item* Insert(int index, const std::wstring& id)
-    {
-        auto opItem = MakeOwner<Item>(id, aliveCount);
-        Item* pItem = opItem.Get();
-        pList->Insert(index, std::move(opItem), InsertFunction);
-        return pItem;
-    }
-
-    std::wstring GetIds() const
-    {
-        std::wstring ids;
-        for (const IControlDefinition* pItem : pList->GetAll())
-            ids += pItem->GetId();
-        return ids;
-    }
-
-    void Destroy()
-    {
-        pList.reset();
-        pEvent.reset();
-    }
-
-    int aliveCount = 0;
-    std::unique_ptr<ControlDefinitionChangeEvent> pEvent =
-        std::make_unique<ControlDefinitionChangeEvent>(L"owner");
-    std::unique_ptr<ItemDefinitionList<LabelDefinition>> pList =
-        std::make_unique<ItemDefinitionList<LabelDefinition>>(*pEvent);
-    std::unique_ptr<ChangeRecorder> pRecorder;
-    test::WarningRecorder warnings;
-};
-
 using Fixture = ItemListFixture;
+using Item = ListedItem;
+using Type = ControlDefinitionChangeEventType;
 
 namespace
 {

@@ -102,6 +102,7 @@ void EditorReuseTest::validationBeginsBetweenTheLookAndTheJournal()
     HandlerFixture f;
     f.TypeLength("5");
     f.opHandler = f.CreateHandler();
+    f.Editor()->setStyleSheet("QLineEdit{ color:red; }");
     const ValidationNotes notes(f);
 
     f.TypeLength("6");
