@@ -57,7 +57,7 @@ inline Data DataOf(int i, const QString& icon)
 class PlainButton final : public QToolButton
 {
 public:
-    PlainButton(Data data, QWidget* pParent) : QToolButton(pParent), m_data(std::move(data))
+    PlainButton(Data known, QWidget* pParent) : QToolButton(pParent), m_data(std::move(known))
     {
         setObjectName(m_data.id);
         setAutoRaise(true);
