@@ -38,8 +38,8 @@ void AskAboutConstruction(const Icons& pIcons)
         .TimeAtMost(1.01);
 }
 
-/// Of buttons that have been shown, with no event waiting for them: to drop one takes a search in all
-/// that wait.
+/// Of buttons that have been shown, with no event waiting for them: to drop one takes a search in
+/// all that wait.
 void AskAboutDestruction(const Icons& pIcons, bool isShared)
 {
     Ask(isShared ? "P3 destroy 1,000 buttons, 64 icon files"

@@ -2,6 +2,7 @@
 // notices.
 
 #include "Harness/Question.h"
+#include "SampleDrawing.h"
 
 #include "Documents/DocumentWork.h"
 #include "Model/DocumentFile.h"
@@ -27,35 +28,9 @@ namespace
 
 constexpr int Entities = 100000;
 
-/// Of ten entities, six lines, two rectangles, a circle and an arc.
-Shape ShapeAt(int i, std::mt19937& random)
-{
-    std::uniform_real_distribution<> anywhere(0, 100000);
-    std::uniform_real_distribution<> size(1, 500);
-    const Vector3d at(anywhere(random), anywhere(random), 0);
-    const Vector3d up(0, 0, 1);
-    const double width = size(random);
-    const double height = size(random);
-    if (i % 10 < 6)
-        return LineShape{at, at + Vector3d(width, height, 0)};
-    if (i % 10 < 8)
-        return RectangleShape{{at, at + Vector3d(width, 0, 0), at + Vector3d(width, height, 0),
-                               at + Vector3d(0, height, 0)}};
-    if (i % 10 == 8)
-        return CircleShape{at, width, up};
-    return ArcShape{at, width, at + Vector3d(width, 0, 0), at + Vector3d(0, width, 0), up};
-}
-
 const SketchContent& Drawing()
 {
-    static const SketchContent s_content = [] {
-        std::mt19937 random(1);
-        SketchContent content;
-        for (int id = 1; id <= Entities; ++id)
-            content.entities.push_back({id, ShapeAt(id, random), Pen()});
-        content.lastId = Entities;
-        return content;
-    }();
+    static const SketchContent s_content = MakeSampleDrawing(Entities);
     return s_content;
 }
 

@@ -6,6 +6,7 @@
 #include "SampleDrawing.h"
 #include "SketcherDesk.h"
 
+#include "Model/DocumentFile.h"
 #include "Panes/EntityPane.h"
 
 #include "Journal/JournalRecord.h"
@@ -179,6 +180,27 @@ void AddAndUndo(Stopwatch& stopwatch, long count)
     });
 }
 
+/// In the window, as it is when it was read from a file and something was picked.
+void AskAboutMemory()
+{
+    constexpr long Count = 100000;
+    constexpr long BytesPerEntity = 250;
+    Ask("S8 memory of 100,000 entities in the window")
+        .Ours([](Stopwatch& stopwatch) {
+            static const std::string s_file = DocumentFile::ToText(MakeSampleDrawing(Count));
+            SketcherDesk& desk = DeskWith(0);
+            stopwatch.Time([&desk] {
+                desk.Show(DocumentFile::FromText(s_file).content);
+                desk.Click({800, 500});
+                desk.Settle();
+            });
+            desk.Show({});
+        })
+        .KeptBytesAtMost(Count * BytesPerEntity)
+        .Rounds(3)
+        .WithoutInstructions();
+}
+
 void AskAboutSize(long count)
 {
     const std::string entities = std::to_string(count) + " entities";
@@ -201,6 +223,7 @@ void AskAboutSize(long count)
 
 void AskQuestions()
 {
+    AskAboutMemory();
     AskAboutSize(10000);
     AskAboutSize(100000);
     Ask("S5 a line is added and undone, listed, 1,000 to 1,000,000 entities")

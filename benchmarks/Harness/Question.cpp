@@ -49,6 +49,12 @@ Question& Question::AllocationsAtMost(long count)
     return *this;
 }
 
+Question& Question::KeptBytesAtMost(long bytes)
+{
+    m_bars["kept bytes"] = static_cast<double>(bytes);
+    return *this;
+}
+
 Question& Question::PeakBytesAtMost(long bytes)
 {
     m_bars["peak bytes"] = static_cast<double>(bytes);

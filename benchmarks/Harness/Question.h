@@ -41,6 +41,9 @@ public:
 
     Question& AllocationsAtMost(long count);
 
+    /// The heap memory that may be kept by the work, where it has no limit written by hand.
+    Question& KeptBytesAtMost(long bytes);
+
     /// The most heap memory that may be in use at any moment of the work, beyond what was before.
     Question& PeakBytesAtMost(long bytes);
 
