@@ -48,11 +48,13 @@ private slots:
     void removingLeavesTheOthersInTheirSlots();
     void removingAnUnknownHandlerChangesNothing_data() { AddCounts(); }
     void removingAnUnknownHandlerChangesNothing();
+    void removingNullBesideAnEmptySlotChangesNothing();
     void aRemovedHandlerThatComesAgainGetsTheLastSlot_data() { AddCounts(); }
     void aRemovedHandlerThatComesAgainGetsTheLastSlot();
     void emptySlotsAreDroppedWhenTheyAreMoreThanHalf();
     void droppingKeepsTheOrder();
     void handlersAreFoundAfterSlotsWereDropped();
+    void theLastFewAreFoundWhereTheyAreNow();
     void isEmptyWhenAllHandlersLeft_data() { AddCounts(); }
     void isEmptyWhenAllHandlersLeft();
     void removingAndDroppingAllocateNothing();
@@ -138,6 +140,16 @@ void HandlerSlotsTest::removingAnUnknownHandlerChangesNothing()
     QVERIFY(!f.list.IsEmpty());
 }
 
+void HandlerSlotsTest::removingNullBesideAnEmptySlotChangesNothing()
+{
+    Fixture f(2);
+    f.list.Remove(f.Handler(0));
+
+    f.list.Remove(nullptr);
+
+    QVERIFY(!f.list.IsEmpty());
+}
+
 void HandlerSlotsTest::aRemovedHandlerThatComesAgainGetsTheLastSlot()
 {
     QFETCH(std::size_t, count);
@@ -195,6 +207,20 @@ void HandlerSlotsTest::handlersAreFoundAfterSlotsWereDropped()
     QCOMPARE(f.list.GetCount(), std::size_t{100});
     QVERIFY(f.list.Get(0) == nullptr);
     QVERIFY(f.list.Get(99) == f.Handler(Many - 1));
+}
+
+void HandlerSlotsTest::theLastFewAreFoundWhereTheyAreNow()
+{
+    Fixture f(Many);
+    for (std::size_t i = 0; i < Many - 3; ++i)
+        f.list.Remove(f.Handler(i));
+    f.list.DropEmpty();
+
+    f.list.Add(f.Handler(Many - 2));
+    f.list.Remove(f.Handler(Many - 2));
+
+    QCOMPARE(f.list.GetCount(), std::size_t{3});
+    QVERIFY(f.list.Get(1) == nullptr);
 }
 
 void HandlerSlotsTest::isEmptyWhenAllHandlersLeft()
