@@ -10,7 +10,6 @@
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
-#include <filesystem>
 #include <unordered_map>
 
 namespace vesk
@@ -45,8 +44,7 @@ class KeptIcon
 public:
     /// The stamp is older than the icon, so that no change is missed.
     explicit KeptIcon(const QString& path)
-        : m_file(IsResource(path) ? std::filesystem::path()
-                                  : std::filesystem::u8path(path.toStdString())),
+        : m_file(IsResource(path) ? NativePath() : ToNativePath(path)),
           m_resource(IsResource(path) ? path : QString()), m_stamp(ReadStamp()), m_icon(path)
     {}
 
@@ -70,7 +68,7 @@ private:
         return m_file.empty() ? ReadResourceStamp(m_resource) : ReadFileStamp(m_file);
     }
 
-    std::filesystem::path m_file;
+    NativePath m_file;
     QString m_resource; ///< In place of a file.
     FileStamp m_stamp;
     QIcon m_icon;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 #include <cstdint>
 #include <filesystem>
 
@@ -19,7 +21,13 @@ struct FileStamp
     }
 };
 
+/// The name of a file as the operating system takes it.
+using NativePath = std::filesystem::path::string_type;
+
+/// The name by which Qt opens that file.
+NativePath ToNativePath(const QString& path);
+
 /// Looks at a file once and allocates nothing. What cannot be looked at does not exist.
-FileStamp ReadFileStamp(const std::filesystem::path& file);
+FileStamp ReadFileStamp(const NativePath& file);
 
 }

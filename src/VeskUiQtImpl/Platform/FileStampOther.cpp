@@ -1,11 +1,18 @@
 #include "VeskUiQtImpl/Platform/FileStamp.h"
 
+#include <QFile>
+
 #include <sys/stat.h>
 
 namespace vesk
 {
 
-FileStamp ReadFileStamp(const std::filesystem::path& file)
+NativePath ToNativePath(const QString& path)
+{
+    return QFile::encodeName(path).toStdString();
+}
+
+FileStamp ReadFileStamp(const NativePath& file)
 {
     struct stat state = {};
     if (stat(file.c_str(), &state) != 0)

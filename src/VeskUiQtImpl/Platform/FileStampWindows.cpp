@@ -14,7 +14,12 @@ std::uint64_t Joined(DWORD high, DWORD low)
 
 }
 
-FileStamp ReadFileStamp(const std::filesystem::path& file)
+NativePath ToNativePath(const QString& path)
+{
+    return path.toStdWString();
+}
+
+FileStamp ReadFileStamp(const NativePath& file)
 {
     WIN32_FILE_ATTRIBUTE_DATA data = {};
     if (!GetFileAttributesExW(file.c_str(), GetFileExInfoStandard, &data))
