@@ -179,14 +179,16 @@ private slots:
     {
         Sketch sketch;
         sketch.AddLine({0, 0, 0}, {1, 0, 0});
+        sketch.AddLine({90, 0, 0}, {91, 0, 0});
         QCOMPARE(IdsOf(sketch.FindIn(Area::Around({0, 0, 0}, 2))), Ids{1});
 
         SketchContent content;
-        content.entities = {{5, LineShape{{0, 1, 0}, {1, 1, 0}}, {}}};
-        content.lastId = 5;
+        content.entities = {{1, LineShape{{90, 1, 0}, {91, 1, 0}}, {}},
+                            {2, LineShape{{0, 1, 0}, {1, 1, 0}}, {}}};
+        content.lastId = 2;
         sketch.Restore(content);
 
-        QCOMPARE(IdsOf(sketch.FindIn(Area::Around({0, 0, 0}, 2))), Ids{5});
+        QCOMPARE(IdsOf(sketch.FindIn(Area::Around({0, 0, 0}, 2))), Ids{2});
     }
 
     /// The end of an arc may be beside its circle, if only by rounding. In single precision, too,
