@@ -2,6 +2,7 @@
 // whole picture is there again.
 
 #include "Harness/Question.h"
+#include "SampleDrawing.h"
 
 #include "Model/Workspace.h"
 #include "View/SketchView.h"
@@ -15,7 +16,6 @@
 #include <QWheelEvent>
 
 #include <cmath>
-#include <random>
 #include <string>
 #include <vector>
 
@@ -26,43 +26,6 @@ namespace
 
 constexpr int Width = 1600;
 constexpr int Height = 1000;
-
-/// On a sheet that many times as wide and as high as the view.
-Shape ShapeOf(int index, double sheet, std::mt19937& random)
-{
-    const auto between = [&random](double low, double high) {
-        return low + (high - low) * (static_cast<double>(random()) / 4294967296.0);
-    };
-    const Vector3d place(sheet * between(-Width / 2.0, Width / 2.0),
-                         sheet * between(-Height / 2.0, Height / 2.0), 0.0);
-    const double size = between(4.0, 100.0);
-    const double angle = between(0.0, 6.28);
-    const Vector3d way = size * Vector3d(std::cos(angle), std::sin(angle), 0.0);
-    const Vector3d across = Vector3d(-way.y(), way.x(), 0.0) / 2.0;
-    if (index < 6)
-        return LineShape{place, place + way};
-    if (index < 8)
-        return RectangleShape{{place, place + way, place + way + across, place + across}};
-    if (index < 9)
-        return CircleShape{place, size / 2.0};
-    return ArcShape{place, size, place + way, place + 2.0 * across};
-}
-
-/// Six tenths lines, two rectangles, one circles, one arcs, strewn over a sheet. On the screen they
-/// are of the same sizes, whatever part of the sheet the view shows.
-SketchContent MakeDrawing(long count, double sheet)
-{
-    std::mt19937 random(7);
-    SketchContent content;
-    content.name = L"drawing";
-    for (int id = 1; id <= count; ++id)
-    {
-        const auto index = static_cast<int>(random() % 10);
-        content.entities.push_back({id, ShapeOf(index, sheet, random), Pen()});
-    }
-    content.lastId = static_cast<int>(count);
-    return content;
-}
 
 /// A view of a drawing, and the hand that moves it.
 class Bench
@@ -78,12 +41,14 @@ public:
     /// Shows a drawing of that many entities, about that many of which are visible.
     void Show(long count, long visible, bool areSelected)
     {
+        constexpr double GreatestSize = 100.0;
+        const double sheet = std::sqrt(static_cast<double>(count) / static_cast<double>(visible));
         if (m_count != count || m_visible != visible)
-            workspace.sketch.Restore(MakeDrawing(
-                count, std::sqrt(static_cast<double>(count) / static_cast<double>(visible))));
+            workspace.sketch.Restore(MakeSampleDrawing(count, sheet * Width, GreatestSize));
         m_count = count;
         m_visible = visible;
-        view.Fit({0, 0, 0}, {0, 0, 0});
+        const Vector3d middle(sheet * Width / 2.0, sheet * Height / 2.0, 0.0);
+        view.Fit(middle, middle);
         view.SetPixelsPerUnit(1.0);
         std::vector<int> ids;
         for (int id = 1; areSelected && id <= count; ++id)

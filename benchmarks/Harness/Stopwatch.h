@@ -23,6 +23,9 @@ public:
         Stop();
     }
 
+    /// Adds CPU time that was measured otherwise: that of another process.
+    void Add(double milliseconds) { m_sum.milliseconds += milliseconds; }
+
     const Measurement& Get() const { return m_sum; }
 
 private:

@@ -90,6 +90,8 @@ int main(int argc, char** argv)
     QCoreApplication::setApplicationVersion(QStringLiteral(SKETCHER_VERSION));
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    // Otherwise the first window loads OpenGL, in case it will show some: a third of the start.
+    QCoreApplication::setAttribute(Qt::AA_ForceRasterWidgets);
     qInstallMessageHandler(&PassMessage);
     if (const std::optional<int> code = AnswerEarly(argc, argv))
         return *code;

@@ -10,6 +10,7 @@
 #include "Support/TestValues.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFileInfo>
 
 /// Automatic saves of a session, at the interval of the settings.
@@ -20,16 +21,28 @@ class AutosaveUseTest final : public ScenarioTest
 private slots:
     void initTestCase() { QCoreApplication::setApplicationName(QStringLiteral("sketcher")); }
 
+    void theDrawingIsSavedBesideTheJournalAfterAMinute_data()
+    {
+        QTest::addColumn<bool>("isAtWork");
+
+        QTest::newRow("at rest") << false;
+        QTest::newRow("once the tool that runs has ended") << true;
+    }
+
     /// Takes a minute: the shortest interval that can be chosen.
     void theDrawingIsSavedBesideTheJournalAfterAMinute()
     {
+        QFETCH(bool, isAtWork);
         Settings settings;
         settings.autosaveMinutes = 1;
         QDir().mkpath(QFileInfo(SettingsPath()).path());
         WriteFile(SettingsPath(), QByteArray::fromStdString(ToText(settings, {})));
         std::optional<Snapshot> snapshot;
         ScriptedUser user;
-        user.DrawLine(0, 0, 50, 0).Until([&snapshot] {
+        user.DrawLine(0, 0, 50, 0);
+        if (isAtWork)
+            WorkForMoreThanAMinute(user);
+        user.Until([&snapshot] {
             const QStringList journals = SessionJournal::GetFolder().GetJournals();
             if (!journals.isEmpty())
                 snapshot = Snapshot::FindNewest(journals.front());
@@ -43,6 +56,18 @@ private slots:
     }
 
 private:
+    static void WorkForMoreThanAMinute(ScriptedUser& user)
+    {
+        constexpr qint64 LongMs = 63000;
+        user.Click("Sketcher.Circle").ClickAt(0, 0);
+        user.Until([timer = QElapsedTimer()]() mutable {
+            if (!timer.isValid())
+                timer.start();
+            return timer.hasExpired(LongMs);
+        });
+        user.Press(Qt::Key_Escape).UntilRunning(QString());
+    }
+
     /// No option names the journal, so that it is the program's own; the end asks nothing because
     /// of the model.
     Options UnaskedOptions() const

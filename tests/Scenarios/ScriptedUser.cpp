@@ -15,7 +15,6 @@
 #include <QMouseEvent>
 #include <QStatusBar>
 #include <QStyleOptionToolButton>
-#include <QTimer>
 #include <QToolButton>
 
 #include <algorithm>
@@ -71,6 +70,12 @@ QWidget* KeyboardTarget()
     return pFocus != nullptr ? pFocus : ScriptedUser::FindView();
 }
 
+}
+
+ScriptedUser::ScriptedUser()
+{
+    m_next.setSingleShot(true);
+    connect(&m_next, &QTimer::timeout, this, &ScriptedUser::DoNext);
 }
 
 ScriptedUser& ScriptedUser::Click(const QString& controlId)
@@ -296,7 +301,7 @@ QAction* ScriptedUser::FindEntry(const QString& commandId)
 
 void ScriptedUser::Schedule()
 {
-    QTimer::singleShot(0, this, &ScriptedUser::DoNext);
+    m_next.start(0);
 }
 
 void ScriptedUser::DoNext()

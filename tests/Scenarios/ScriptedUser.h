@@ -7,6 +7,7 @@
 #include <QPoint>
 #include <QPointF>
 #include <QString>
+#include <QTimer>
 
 #include <deque>
 #include <functional>
@@ -28,6 +29,8 @@ class ScriptedUser final : public QObject
     Q_OBJECT
 
 public:
+    ScriptedUser();
+
     /// Clicks the button (of any kind) with that id, once it is enabled.
     ScriptedUser& Click(const QString& controlId);
 
@@ -110,4 +113,5 @@ private:
 
     std::deque<Step> m_steps;
     QElapsedTimer m_waiting;
+    QTimer m_next{this};
 };

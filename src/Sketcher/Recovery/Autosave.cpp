@@ -6,15 +6,15 @@
 #include "Command/IActionManager.h"
 #include "Replay/JournalReplayer.h"
 
+#include <algorithm>
 #include <utility>
 
 using namespace vesk;
 
 Autosave::Autosave(const Sketch& sketch, std::function<QString()> journal)
-    : m_sketch(sketch), m_journal(std::move(journal)), m_savedDigest(sketch.GetDigest())
+    : m_sketch(sketch), m_journal(std::move(journal)), m_digest(sketch.GetDigest()),
+      m_savedDigest(m_digest)
 {
-    constexpr int CheckMs = 5000;
-    startTimer(CheckMs);
     m_sinceLast.start();
     JournalManager::GetInstance().AddObserver(this);
 }
@@ -24,6 +24,13 @@ Autosave::~Autosave()
     JournalManager::GetInstance().RemoveObserver(this);
     if (m_pWriting != nullptr)
         m_pWriting->wait();
+}
+
+void Autosave::SetInterval(int minutes)
+{
+    m_minutes = minutes;
+    m_due.stop();
+    Await();
 }
 
 bool Autosave::SaveNow()
@@ -44,22 +51,42 @@ bool Autosave::SaveNow()
         if (Snapshot::Write(journal, record, content))
             emit saved(record);
     }));
+    connect(m_pWriting.get(), &QThread::finished, this, &Autosave::Await);
     m_pWriting->start(QThread::LowPriority);
     return true;
 }
 
 void Autosave::OnRecord(const JournalRecord& record)
 {
-    const auto* pMark = std::get_if<MarkRecord>(&record.what);
-    if (pMark == nullptr)
-        return;
-    m_record = record.number;
-    m_digest = pMark->digest;
+    if (const auto* pMark = std::get_if<MarkRecord>(&record.what))
+    {
+        m_record = record.number;
+        m_digest = pMark->digest;
+    }
+    Await();
 }
 
 void Autosave::timerEvent(QTimerEvent*)
 {
-    constexpr qint64 MsPerMinute = 60000;
-    if (m_minutes > 0 && m_sinceLast.elapsed() >= m_minutes * MsPerMinute)
+    m_due.stop();
+    if (m_minutes > 0 && GetWaitMs() <= 0)
         SaveNow();
+    else
+        Await();
+}
+
+/// How long it takes until the next snapshot is due.
+qint64 Autosave::GetWaitMs() const
+{
+    constexpr qint64 MsPerMinute = 60000;
+    return m_minutes * MsPerMinute - m_sinceLast.elapsed();
+}
+
+/// Waits for the time of the next snapshot, if there is something to write. If it is impossible
+/// then, it is tried again after the next record: what makes it possible, writes one.
+void Autosave::Await()
+{
+    constexpr qint64 LeastMs = 1000;
+    if (m_minutes > 0 && m_digest != m_savedDigest && !m_due.isActive())
+        m_due.start(static_cast<int>(std::max(GetWaitMs(), LeastMs)), this);
 }

@@ -2,6 +2,7 @@
 
 #include "Journal/JournalManager.h"
 
+#include <QBasicTimer>
 #include <QElapsedTimer>
 #include <QObject>
 #include <QString>
@@ -16,7 +17,8 @@ class Sketch;
 /// Writes a snapshot of the drawing beside the journal every few minutes, so that recovery does not
 /// have to replay a long session. Never touches the user's own file.
 ///
-/// A snapshot is taken after a step, while no action runs, and written in another thread.
+/// A snapshot is taken after a step, while no action runs, and written in another thread. While
+/// there is nothing to write, no timer runs.
 class Autosave final : public QObject, public vesk::IJournalObserver
 {
     Q_OBJECT
@@ -30,7 +32,7 @@ public:
     ~Autosave() override;
 
     /// Sets the time between two snapshots; 0, as at first, turns them off.
-    void SetInterval(int minutes) { m_minutes = minutes; }
+    void SetInterval(int minutes);
 
     /// Begins a snapshot of a drawing that has changed since the last one. Returns false if there
     /// is nothing to write, or while that is impossible.
@@ -47,10 +49,14 @@ protected:
     void timerEvent(QTimerEvent* pEvent) override;
 
 private:
+    qint64 GetWaitMs() const;
+    void Await();
+
     const Sketch& m_sketch;
     const std::function<QString()> m_journal;
     int m_minutes = 0;
     QElapsedTimer m_sinceLast;
+    QBasicTimer m_due;
     std::unique_ptr<QThread> m_pWriting; ///< Writes, or wrote, the last snapshot.
 
     /// The last mark of the journal.

@@ -7,6 +7,7 @@
 #include <QFileInfo>
 
 #include <filesystem>
+#include <map>
 #include <system_error>
 
 namespace
@@ -35,12 +36,20 @@ qint64 SizeOf(const QString& path)
     return size;
 }
 
-qint64 SizeWithCompanions(const QString& journal)
+constexpr QDir::Filters Everything = QDir::Files | QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot;
+
+/// The size of each journal with what belongs to it, by its path. The folder is read once, because
+/// there are hundreds of files.
+std::map<QString, qint64> SizesIn(const QDir& folder)
 {
-    qint64 size = SizeOf(journal);
-    for (const QString& companion : JournalFolder::GetCompanions(journal))
-        size += SizeOf(companion);
-    return size;
+    static const QString s_ending = QStringLiteral(".jsonl");
+    std::map<QString, qint64> sizes;
+    for (const QString& name : folder.entryList(Everything, QDir::Unsorted))
+    {
+        const QString journal = name.left(name.indexOf(s_ending) + s_ending.size());
+        sizes[folder.filePath(journal)] += SizeOf(folder.filePath(name));
+    }
+    return sizes;
 }
 
 /// Moves a file or folder, also to another disk. If it can only be copied, the original stays.
@@ -109,6 +118,7 @@ std::optional<QString> JournalFolder::TakeIn(const QString& journal) const
 void JournalFolder::Prune(const Bounds& bounds,
                           const std::function<bool(const QString&)>& isNeeded) const
 {
+    std::map<QString, qint64> sizes = SizesIn(QDir(m_path));
     int count = 0;
     qint64 bytes = 0;
     for (const QString& journal : GetJournals())
@@ -116,7 +126,7 @@ void JournalFolder::Prune(const Bounds& bounds,
         if (isNeeded(journal))
             continue;
         ++count;
-        bytes += SizeWithCompanions(journal);
+        bytes += sizes[journal];
         if (count > bounds.journals || bytes > bounds.bytes)
             Remove(journal);
     }
@@ -151,8 +161,7 @@ QStringList JournalFolder::GetCompanions(const QString& journal)
     const QFileInfo info(journal);
     const QString start = info.fileName() + QLatin1Char('.');
     QStringList paths;
-    for (const QFileInfo& entry :
-         info.dir().entryInfoList(QDir::Files | QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot))
+    for (const QFileInfo& entry : info.dir().entryInfoList(Everything))
     {
         if (entry.fileName().startsWith(start))
             paths << entry.filePath();

@@ -307,6 +307,18 @@ private slots:
         QVERIFY(!f.picture.HasGaps());
     }
 
+    void aFinishedPictureHasNoGaps()
+    {
+        RowsFixture f;
+        f.PaintAll();
+        f.MoveDown(100);
+        QVERIFY(f.picture.HasGaps());
+
+        f.PaintAll();
+
+        QVERIFY(!f.picture.HasGaps());
+    }
+
     void aPictureThatWasUnderWayIsGivenUpByAMove()
     {
         RowsFixture f;

@@ -9,11 +9,13 @@
 #include "Support/HostFixture.h"
 #include "Support/TestValues.h"
 
+#include <QAbstractEventDispatcher>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTimerEvent>
+#include <QVector>
 
 #include <memory>
 
@@ -22,6 +24,8 @@ using vesk::MarkRecord;
 
 namespace
 {
+
+constexpr int MsPerMinute = 60000;
 
 struct Fixture
 {
@@ -35,6 +39,22 @@ struct Fixture
     }
 
     int Mark() { return JournalManager::GetInstance().Add(MarkRecord{sketch.GetDigest(), {}}); }
+
+    /// The intervals of the timers that run.
+    QVector<int> Waits()
+    {
+        QVector<int> waits;
+        const auto* pDispatcher = QAbstractEventDispatcher::instance();
+        for (const auto& timer : pDispatcher->registeredTimers(&autosave))
+            waits << timer.interval;
+        return waits;
+    }
+
+    void Fire()
+    {
+        QTimerEvent event(0);
+        QCoreApplication::sendEvent(&autosave, &event);
+    }
 
     /// True once the snapshot that was begun has been written.
     bool IsSaved() { return saved.count() > 0 || saved.wait(vesk::test::PatienceMs); }
@@ -132,6 +152,58 @@ private slots:
         QCOMPARE(f.saved.back().front().toInt(), record);
     }
 
+    void withNothingToSaveNoTimerRuns()
+    {
+        Fixture f;
+        f.autosave.SetInterval(5);
+        QCOMPARE(f.Waits(), QVector<int>());
+        f.Draw(5);
+        QVERIFY(f.autosave.SaveNow());
+        QVERIFY(f.IsSaved());
+
+        f.Fire();
+
+        QCOMPARE(f.Waits(), QVector<int>());
+    }
+
+    void theTimerWaitsForTheTimeOfTheNextOne()
+    {
+        Fixture f;
+        f.autosave.SetInterval(5);
+
+        f.Draw(5);
+
+        QCOMPARE(f.Waits().size(), 1);
+        QVERIFY(f.Waits().front() <= 5 * MsPerMinute);
+        QVERIFY(f.Waits().front() > 4 * MsPerMinute);
+    }
+
+    void anotherIntervalHoldsAtOnce()
+    {
+        Fixture f;
+        f.autosave.SetInterval(5);
+        f.Draw(5);
+
+        f.autosave.SetInterval(3);
+        QCOMPARE(f.Waits().size(), 1);
+        QVERIFY(f.Waits().front() <= 3 * MsPerMinute);
+
+        f.autosave.SetInterval(0);
+        QCOMPARE(f.Waits(), QVector<int>());
+    }
+
+    void theTimerThatFiresTooSoonIsStartedAgain()
+    {
+        Fixture f;
+        f.autosave.SetInterval(5);
+        f.Draw(5);
+
+        f.Fire();
+
+        QCOMPARE(f.Waits().size(), 1);
+        QVERIFY(f.autosave.SaveNow());
+    }
+
     void noneIsTakenBeforeItsTime_data()
     {
         QTest::addColumn<int>("minutes");
@@ -147,8 +219,7 @@ private slots:
         f.autosave.SetInterval(minutes);
         f.Draw(5);
 
-        QTimerEvent check(0);
-        QCoreApplication::sendEvent(&f.autosave, &check);
+        f.Fire();
 
         // The timer took none.
         QVERIFY(f.autosave.SaveNow());

@@ -27,7 +27,8 @@ class IControlDefinitionChangeEventArgs;
 /// Shows what passes between a host and the library: all live definitions with their values, the
 /// change events and who caused them, the running action, and the dimension input.
 ///
-/// Refreshes itself while visible. Keeps the newest 1,000 events.
+/// While it can be seen, it refreshes itself within 200 ms after something happened in the program,
+/// and rests while nothing does. Keeps the newest 1,000 events.
 class VESK_HOST_UI_API Inspector final : public QWidget,
                                          public IWidget,
                                          public IControlRemovalObserver
@@ -48,12 +49,16 @@ public:
     void Stop();
 
 protected:
+    bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
     void showEvent(QShowEvent* pEvent) override;
     void hideEvent(QHideEvent* pEvent) override;
 
 private:
     class Watch;
 
+    void RefreshSoon();
+    void OnRefreshDue();
+    void Rest();
     void Listen();
     void AddEvent(const std::wstring& id, const IControlDefinitionChangeEventArgs& args);
     void ShowState();

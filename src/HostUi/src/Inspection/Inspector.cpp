@@ -11,6 +11,7 @@
 #include "HostUi/QtText.h"
 #include "Inspection/DefinitionText.h"
 
+#include <QApplication>
 #include <QDateTime>
 #include <QHeaderView>
 #include <QLabel>
@@ -131,7 +132,8 @@ Inspector::Inspector(ControlHost& controls, const DimensionInputController& inpu
     pLayout->addWidget(pSplitter, 1);
 
     m_refresh.setInterval(RefreshInterval);
-    connect(&m_refresh, &QTimer::timeout, this, &Inspector::UpdateStatus);
+    m_refresh.setSingleShot(true);
+    connect(&m_refresh, &QTimer::timeout, this, &Inspector::OnRefreshDue);
     controls.SetRemovalObserver(this);
     Listen();
 }
@@ -159,7 +161,7 @@ void Inspector::OnControlRemoved(const IControlDefinition& definition)
 
 void Inspector::Stop()
 {
-    m_refresh.stop();
+    Rest();
     m_watches.clear();
     if (m_pControls != nullptr)
         m_pControls->SetRemovalObserver(nullptr);
@@ -171,13 +173,41 @@ void Inspector::showEvent(QShowEvent* pEvent)
     QWidget::showEvent(pEvent);
     UpdateStatus();
     if (m_pControls != nullptr)
-        m_refresh.start();
+        qApp->installEventFilter(this);
 }
 
 void Inspector::hideEvent(QHideEvent* pEvent)
 {
-    m_refresh.stop();
+    Rest();
     QWidget::hideEvent(pEvent);
+}
+
+/// Every change follows some event, or is a change event. Timers do not count: what they change
+/// causes other events, and two watchers with timers would wake each other for ever.
+bool Inspector::eventFilter(QObject* pWatched, QEvent* pEvent)
+{
+    if (pEvent->type() != QEvent::Timer)
+        RefreshSoon();
+    return QWidget::eventFilter(pWatched, pEvent);
+}
+
+void Inspector::RefreshSoon()
+{
+    if (!m_refresh.isActive())
+        m_refresh.start();
+}
+
+/// Behind another tab it counts as shown, but cannot be seen.
+void Inspector::OnRefreshDue()
+{
+    if (!visibleRegion().isEmpty())
+        UpdateStatus();
+}
+
+void Inspector::Rest()
+{
+    qApp->removeEventFilter(this);
+    m_refresh.stop();
 }
 
 /// Listens to new definitions.
@@ -200,6 +230,8 @@ void Inspector::AddEvent(const std::wstring& id, const IControlDefinitionChangeE
                            args.IsChangeByUser()});
     if (m_newEvents.size() > std::size_t(MostEvents))
         m_newEvents.pop_front();
+    if (isVisible())
+        RefreshSoon();
 }
 
 QString Inspector::Describe(const Event& event)
