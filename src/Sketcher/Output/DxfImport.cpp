@@ -115,10 +115,7 @@ DxfReportText ReadDxfReport(const QByteArray& messages)
     DxfReportText report;
     for (const QByteArray& line : messages.split('\n'))
     {
-        const nlohmann::json message =
-            nlohmann::json::parse(line.begin(), line.end(), nullptr, false);
-        if (message.is_object())
-            ReadMessage(message, report);
+        ReadMessage(nlohmann::json::parse(line.begin(), line.end(), nullptr, false), report);
     }
     return report;
 }

@@ -39,6 +39,7 @@ private slots:
         RecoverContent::Apply(sketch, *parameters);
 
         QCOMPARE(sketch.GetDigest(), m_drawn.GetDigest());
+        QVERIFY(sketch.GetEntities() == m_drawn.GetEntities());
         QVERIFY(!sketch.CanUndo());
     }
 
