@@ -12,7 +12,9 @@
 #include "HostUi/UiApplication.h"
 
 #include <QCoreApplication>
+#include <QImage>
 #include <QMouseEvent>
+#include <QPixmap>
 #include <QWheelEvent>
 
 #include <cmath>
@@ -86,6 +88,13 @@ public:
 
     void TurnBack() { m_isBack = !m_isBack; }
 
+    /// Whether a red line across the sheet is seen at a pixel.
+    bool IsRedAt(const QPoint& pixel)
+    {
+        const QColor colour = view.grab(QRect(pixel, QSize(1, 1))).toImage().pixelColor(0, 0);
+        return colour.red() > 2 * colour.green();
+    }
+
     HostCore host;
     UiApplication application;
     Workspace workspace;
@@ -155,6 +164,30 @@ Side RestOf(const Scene& scene, void (Bench::*step)())
     };
 }
 
+/// From when a pan uncovers a strip of the drawing, to when that is painted while the pan goes on:
+/// up to the entity that comes last, a line through the middle of the sheet.
+Side UncoveringOf(const Scene& scene)
+{
+    return [scene](Stopwatch& stopwatch) {
+        constexpr int Steps = 200;
+        Bench& bench = TheBench();
+        bench.Show(scene.count, scene.visible, scene.areSelected);
+        bench.workspace.sketch.SetCurrentPen(&Pen::colour, 1);
+        bench.workspace.sketch.AddLine({-Width, Height / 2.0, 0}, {2 * Width, Height / 2.0, 0});
+        bench.Finish();
+        QPoint strip(1, Height / 2);
+        int count = 0;
+        do
+        {
+            stopwatch.Time([&] { bench.Pan(); });
+            strip += count == 0 ? QPoint(0, 10) : QPoint(20, 10);
+        } while (!bench.IsRedAt(strip) && ++count < Steps);
+        if (count == Steps)
+            qFatal("what a pan uncovers is not painted");
+        bench.workspace.sketch.Undo();
+    };
+}
+
 void AskAboutFrames(const std::string& name, const Scene& scene, double milliseconds)
 {
     for (const auto& [step, pStep] : {std::pair("pan", &Bench::Pan), {"zoom", &Bench::Zoom}})
@@ -183,6 +216,11 @@ void AskQuestions()
     AskAboutFrames("S1 100,000 entities", {100000, 100000}, 16);
     AskAboutRest("S1 10,000 entities", {10000, 10000}, 30);
     AskAboutRest("S1 100,000 entities", {100000, 100000}, 230);
+    Ask("S1 100,000 entities, a strip that a pan uncovers is filled")
+        .Ours(UncoveringOf({100000, 100000}))
+        .MillisecondsAtMost(100)
+        .WithoutInstructions()
+        .Rounds(11);
     AskAboutFrames("S3 1,000 of 100,000 visible", {100000, 1000}, 6);
     AskAboutFrames("S3 50 of 100,000 visible", {100000, 50}, 3);
     AskAboutFrames("S4 100,000 entities, all selected", {100000, 100000, true}, 32);

@@ -335,6 +335,7 @@ bool Sketch::Restore(SketchContent content, const Digest& digest)
     if (!IsValid(content))
         return false;
     ++m_revision;
+    ++m_shapeRevision;
     m_index.Forget();
     m_recent.Forget();
     m_content = std::move(content);
@@ -364,6 +365,7 @@ void Sketch::Push(SketchChange change, int entityId, const std::wstring& stepNam
 void Sketch::Exchange(SketchChange& change)
 {
     m_revision += IsAddition(m_content, change) ? 0 : 1;
+    m_shapeRevision += KeepsShapes(m_content, change) ? 0 : 1;
     m_index.Follow(m_content.entities, change);
     m_recent.Add(change);
     ::Exchange(m_content, m_digest, change);

@@ -145,6 +145,9 @@ public:
     /// stays the same, entities have at most been added after the others.
     unsigned GetRevision() const { return m_revision; }
 
+    /// Another number as soon as an entity that was there has another shape or is gone.
+    unsigned GetShapeRevision() const { return m_shapeRevision; }
+
     /// Which entities were concerned by the last changes.
     const RecentChanges& GetRecentChanges() const { return m_recent; }
 
@@ -177,6 +180,7 @@ private:
     mutable EntityIndex m_index; ///< The same.
     RecentChanges m_recent;      ///< The same.
     unsigned m_revision = 0;
+    unsigned m_shapeRevision = 0;
     QUndoStack m_steps;
     int m_lastUndone = 0;
     bool m_isNameStep = true;

@@ -85,6 +85,16 @@ bool IsAddition(const SketchContent& content, const SketchChange& change)
     return areEntitiesNew && std::all_of(change.layers.begin(), change.layers.end(), isNewLayer);
 }
 
+bool KeepsShapes(const SketchContent& content, const SketchChange& change)
+{
+    return std::all_of(
+        change.entities.begin(), change.entities.end(), [&content](const auto& changed) {
+            const Entity* pEntity = FindById(content.entities, changed.first);
+            return pEntity == nullptr ||
+                   (changed.second.has_value() && changed.second->shape == pEntity->shape);
+        });
+}
+
 Digest DifferenceOf(const SketchContent& content, const SketchChange& change)
 {
     Digest difference;

@@ -26,6 +26,9 @@ Digest DifferenceOf(const SketchContent& content, const SketchChange& change);
 /// True if all that is in the drawing stays as it is, its name apart, and new entities come last.
 bool IsAddition(const SketchContent& content, const SketchChange& change);
 
+/// True if no entity that is in the drawing disappears or gets another shape.
+bool KeepsShapes(const SketchContent& content, const SketchChange& change);
+
 /// Applies a change to a drawing and its digest, and turns it into the change that takes it back.
 /// Computes the difference of the digests if that is not known. The cost is that of the entities
 /// named; entities that appear or disappear before others cost a move of these.

@@ -34,6 +34,9 @@ namespace
 /// for example, they take only milliseconds.
 constexpr std::ptrdiff_t MostPainted = 250;
 
+/// The position of the first entity in the picture: see PaintModel.
+constexpr std::size_t FirstEntity = 2;
+
 QColor Mix(const QColor& a, const QColor& b, double share)
 {
     return QColor::fromRgbF(a.redF() + (b.redF() - a.redF()) * share,
@@ -49,6 +52,7 @@ SketchView::SketchView(Workspace& workspace, vesk::DimensionInputController& inp
       m_visible(workspace.sketch, workspace.selection), m_mouse(workspace, *this)
 {
     setObjectName(QStringLiteral("SketchView"));
+    SetTop(FirstEntity);
     qApp->installEventFilter(this);
     connect(&workspace.sketch, &Sketch::changed, this, &SketchView::OnSketchChanged);
     connect(&workspace.selection, &Selection::changed, this, &SketchView::OnSelectionChanged);
@@ -198,13 +202,19 @@ void SketchView::mouseReleaseEvent(QMouseEvent* pEvent)
     DropPress();
 }
 
-/// What is drawn lies above all else: it is added to the picture.
+/// What is drawn lies above all else: it is added to the picture. Where shapes stay, so does what
+/// lies below the selected ones.
 void SketchView::OnSketchChanged()
 {
     m_visible.Forget();
     const unsigned revision = m_workspace.sketch.GetRevision();
-    if (std::exchange(m_shownRevision, revision) == revision)
+    const unsigned shapes = m_workspace.sketch.GetShapeRevision();
+    const bool isAddition = std::exchange(m_shownRevision, revision) == revision;
+    const bool areShapesKept = std::exchange(m_shownShapes, shapes) == shapes;
+    if (isAddition)
         ExtendModel();
+    else if (areShapesKept)
+        UpdateTop();
     else
         UpdateModel();
 }
@@ -315,7 +325,6 @@ int SketchView::PaintEntities(QPainter& painter, const QRectF& visible, int firs
 /// The same for what lies below selected entities. Returns the position after them.
 std::size_t SketchView::PaintSelection(QPainter& painter, const QRectF& visible, std::size_t begin)
 {
-    constexpr std::size_t FirstEntity = 2;
     const std::vector<const Entity*>& selected = m_visible.GetSelected(ToWorld(visible));
     const std::size_t end = std::min<std::size_t>(begin + MostPainted, selected.size());
     for (std::size_t i = begin; i < end; ++i)

@@ -80,5 +80,6 @@ private:
     MouseSelection m_mouse;
     int m_pointed = 0;
     unsigned m_shownRevision = 0; ///< Of the sketch.
+    unsigned m_shownShapes = 0;   ///< The revision of its shapes.
     QTimer m_lookAgain;
 };

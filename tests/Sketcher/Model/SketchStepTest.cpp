@@ -58,6 +58,54 @@ private slots:
         QCOMPARE(sketch.GetRevision(), revision);
     }
 
+    void whatLeavesShapesKeepsTheirRevision()
+    {
+        Sketch sketch;
+        sketch.AddLine({0, 0, 0}, {1, 0, 0});
+        sketch.AddLine({0, 0, 0}, {2, 0, 0});
+        sketch.Erase(1);
+        const unsigned revision = sketch.GetShapeRevision();
+        Layer layer = sketch.GetLayers().front();
+        layer.isVisible = false;
+
+        sketch.SetPen({2}, &Pen::colour, 1);
+        sketch.Undo();
+        sketch.Undo();
+        sketch.AddLine({0, 0, 0}, {3, 0, 0});
+        sketch.SetLayer(layer);
+
+        QCOMPARE(sketch.GetShapeRevision(), revision);
+    }
+
+    void anotherShapeIsAnotherRevisionOfTheShapes_data()
+    {
+        QTest::addColumn<std::function<void(Sketch&)>>("change");
+
+        const auto add = [](const char* name, std::function<void(Sketch&)> change) {
+            QTest::newRow(name) << std::move(change);
+        };
+        add("shape", [](Sketch& sketch) {
+            sketch.Replace({{1, LineShape{{0, 0, 0}, {5, 0, 0}}}});
+        });
+        add("erased", [](Sketch& sketch) { sketch.Erase(1); });
+        add("undo", [](Sketch& sketch) { sketch.Undo(); });
+        add("the same drawing opened again",
+            [](Sketch& sketch) { sketch.Restore(sketch.GetContent()); });
+    }
+
+    void anotherShapeIsAnotherRevisionOfTheShapes()
+    {
+        QFETCH(std::function<void(Sketch&)>, change);
+        Sketch sketch;
+        sketch.AddLine({0, 0, 0}, {1, 0, 0});
+        sketch.AddLine({0, 0, 0}, {2, 0, 0});
+        const unsigned revision = sketch.GetShapeRevision();
+
+        change(sketch);
+
+        QVERIFY(sketch.GetShapeRevision() != revision);
+    }
+
     void anyOtherChangeIsAnotherRevision_data()
     {
         QTest::addColumn<std::function<void(Sketch&)>>("change");

@@ -2,10 +2,14 @@
 
 #include "Support/TestValues.h"
 
+#include <functional>
 #include <vector>
 
 using namespace vesk;
 using vesk::test::SketchViewFixture;
+
+using Change = std::function<void(Sketch& sketch, const std::vector<int>& ids)>;
+Q_DECLARE_METATYPE(Change)
 
 namespace
 {
@@ -85,6 +89,45 @@ private slots:
         f.workspace.selection.Select(ids);
 
         QVERIFY(f.Picture() != whole);
+        QTRY_COMPARE(f.Picture(), whole);
+    }
+
+    void soDoesWhatIsSelectedAfterAChange_data()
+    {
+        QTest::addColumn<Change>("change");
+
+        QTest::newRow("colour") << Change([](Sketch& sketch, const std::vector<int>& ids) {
+            sketch.SetPen(ids, &Pen::colour, 1);
+        });
+        QTest::newRow("shape") << Change([](Sketch& sketch, const std::vector<int>& ids) {
+            sketch.Replace({{ids.back(), LineShape{{-63, 0, 0}, {63, 0, 0}}}});
+        });
+        QTest::newRow("shape, then colour")
+            << Change([](Sketch& sketch, const std::vector<int>& ids) {
+                   sketch.Replace({{ids.back(), LineShape{{-63, 0, 0}, {63, 0, 0}}}});
+                   sketch.SetPen(ids, &Pen::colour, 1);
+               });
+        QTest::newRow("hidden layer") << Change([](Sketch& sketch, const std::vector<int>&) {
+            Layer layer = sketch.GetLayers().front();
+            layer.isVisible = false;
+            sketch.SetLayer(layer);
+        });
+    }
+
+    void soDoesWhatIsSelectedAfterAChange()
+    {
+        QFETCH(Change, change);
+        ManyFixture atOnce;
+        atOnce.workspace.selection.Select(atOnce.ids);
+        change(atOnce.workspace.sketch, atOnce.ids);
+        const QImage whole = atOnce.Picture();
+        SketchViewFixture f;
+        const std::vector<int> ids = f.workspace.sketch.Add(ManyShapes(), L"many");
+        f.workspace.selection.Select(ids);
+        QTRY_VERIFY(f.view.IsWhole());
+
+        change(f.workspace.sketch, ids);
+
         QTRY_COMPARE(f.Picture(), whole);
     }
 

@@ -85,6 +85,12 @@ protected:
     /// all is painted.
     void UpdateModel();
 
+    /// Declares that the model has a top, from a position on, that changes more often than what
+    /// lies before it; UpdateTop repaints the top alone. The rest is kept, if painting it takes
+    /// long.
+    void SetTop(std::size_t position);
+    void UpdateTop();
+
     /// Paints what was added to the model after the last position.
     void ExtendModel();
 

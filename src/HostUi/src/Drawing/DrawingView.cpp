@@ -134,6 +134,17 @@ void DrawingView::UpdateModel()
     update();
 }
 
+void DrawingView::SetTop(std::size_t position)
+{
+    m_pPicture->SetTop(position);
+}
+
+void DrawingView::UpdateTop()
+{
+    m_pPicture->RenewTop();
+    update();
+}
+
 void DrawingView::ExtendModel()
 {
     m_pPicture->Extend();

@@ -63,11 +63,20 @@ QRect PixelsWithin(const QRectF& area)
 void ModelPicture::Drop()
 {
     const bool isSmall = m_isSmall;
+    const std::size_t top = m_top;
     *this = ModelPicture();
     m_isSmall = isSmall;
+    m_top = top;
 }
 
 void ModelPicture::Renew()
+{
+    m_below = QPixmap();
+    m_isBelowOutdated = true;
+    RenewTop();
+}
+
+void ModelPicture::RenewTop()
 {
     if (!IsBegun())
         return;
@@ -93,15 +102,19 @@ void ModelPicture::Move(const QTransform& move, const QPixmap& ground)
     MoveGaps(move, AreaOf(ground));
     m_former = moved;
     m_next = QPixmap();
+    m_below = QPixmap();
     m_isFinished = false;
     m_isOutdated = false;
 }
 
 void ModelPicture::Begin(const QPixmap& ground)
 {
-    m_next = ground;
-    m_position = 0;
-    m_sliceCount = 0;
+    const bool isBelowKept = !m_below.isNull();
+    m_next = isBelowKept ? m_below : ground;
+    m_position = isBelowKept ? m_top : 0;
+    // What is kept took a slice at least.
+    m_sliceCount = isBelowKept ? 1 : 0;
+    m_isBelowOutdated = false;
 }
 
 void ModelPicture::PaintSlice(const PaintPart& paintPart)
@@ -116,6 +129,8 @@ void ModelPicture::PaintSlice(const PaintPart& paintPart)
             const std::size_t begin =
                 std::exchange(m_position, paintPart(painter, AreaOf(m_next), m_position));
             m_isFinished = m_position == begin;
+            if (m_position == m_top && !m_isFinished)
+                KeepBelow();
         }
     }
     if (!m_isFinished)
@@ -124,7 +139,14 @@ void ModelPicture::PaintSlice(const PaintPart& paintPart)
     m_gaps.clear();
     m_isSmall = m_sliceCount == 1;
     if (std::exchange(m_isOutdated, false))
-        Renew();
+        RenewTop();
+}
+
+/// A copy costs less than a slice.
+void ModelPicture::KeepBelow()
+{
+    if (m_sliceCount > 1 && !m_isBelowOutdated)
+        m_below = m_next.copy();
 }
 
 void ModelPicture::FillGaps(const PaintPart& paintPart)

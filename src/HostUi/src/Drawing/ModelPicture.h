@@ -22,6 +22,9 @@ namespace vesk
 /// When the model is seen from elsewhere, what is shown is moved there, and the gaps at its edges
 /// are filled before the next picture is begun. That one is the first to be exact again: one that
 /// was under way when the model moved is given up.
+///
+/// What the model has before its top is kept apart, if painting it takes long: when only the top
+/// changes, the next picture begins with it.
 class ModelPicture final
 {
 public:
@@ -33,8 +36,14 @@ public:
     /// Nothing of it is of use any more: the model appears in other colours.
     void Drop();
 
+    /// The position at which the top of the model begins; 0, as at first, if all belongs to it.
+    void SetTop(std::size_t position) { m_top = position; }
+
     /// The model is another one.
     void Renew();
+
+    /// The same, but all before its top is unchanged.
+    void RenewTop();
 
     /// The model has more after the last position; all before is unchanged.
     void Extend() { m_isFinished = false; }
@@ -79,14 +88,18 @@ private:
     };
 
     void MoveGaps(const QTransform& move, const QRectF& view);
+    void KeepBelow();
 
     QPixmap m_former; ///< Shown instead of m_next; null if there is none for what that is to show.
     std::deque<Gap> m_gaps; ///< The oldest first.
     QPixmap m_next;
     std::size_t m_position = 0; ///< Of what is painted next into m_next.
     int m_sliceCount = 0;       ///< Of m_next.
-    bool m_isFinished = false;  ///< m_next shows everything.
-    bool m_isOutdated = false;  ///< The model changed after m_next was begun.
+    std::size_t m_top = 0;
+    QPixmap m_below; ///< The model before its top; null if that is not known or not worth it.
+    bool m_isBelowOutdated = false; ///< Since m_next was begun.
+    bool m_isFinished = false;      ///< m_next shows everything.
+    bool m_isOutdated = false;      ///< The model changed after m_next was begun.
     bool m_isSmall = true;
 };
 
