@@ -3,6 +3,7 @@
 #include "Dock/IPropertyWidget.h"
 #include "VeskUiQtImpl/CheckSite.h"
 #include "VeskUiQtImpl/DockImpl.h"
+#include "VeskUiQtImpl/LayoutPause.h"
 #include "View/IUiManager.h"
 
 #include <QDockWidget>
@@ -219,7 +220,11 @@ void DockManagerImpl::ShowAllDockPane()
 {
     if (!CheckHostManager("vesk::DockManagerImpl::ShowAllDockPane"))
         return;
+    // Laid out once, all panes get back the sizes with which they were hidden. Laid out one by one,
+    // the first would fill their area, and the others would have to take from it.
+    LayoutPause pause(GetQMainWindow());
     ForEachDock([](IDock& dock) { dock.Show(); });
+    pause.LayOut();
 }
 
 void DockManagerImpl::HideAllDockPane()
