@@ -16,10 +16,23 @@ namespace
 /// Moves the editor of an embedded view far off screen: it keeps the focus but is not visible.
 constexpr int EmbeddedViewOffset = 10000;
 
-constexpr char EditorStyleSheet[] =
-    "QLineEdit{ color:rgba(199, 199, 120, 100%); border:2px solid rgba(199, 199, 120, 100%); "
-    "font:10pt; border-radius:4px}QLineEdit:!enabled{ color:rgba(100, 100, 100, "
-    "100%);}QLineEdit:focus{ color:rgba(0, 0, 0, 100%); background:rgba(255, 255, 255, 100%);}";
+const QString& EditorStyleSheet()
+{
+    static const QString s_styleSheet = QStringLiteral(
+        "QLineEdit{ color:rgba(199, 199, 120, 100%); border:2px solid rgba(199, 199, 120, 100%); "
+        "font:10pt; border-radius:4px}QLineEdit:!enabled{ color:rgba(100, 100, 100, "
+        "100%);}QLineEdit:focus{ color:rgba(0, 0, 0, 100%); background:rgba(255, 255, 255, "
+        "100%);}");
+    return s_styleSheet;
+}
+
+/// The style of its system, null if there is none. Which styles there are never changes.
+QStyle* CreateStyle()
+{
+    static const QString s_name = QStringLiteral("WindowsVista");
+    static const bool s_exists = QStyleFactory::keys().contains(s_name, Qt::CaseInsensitive);
+    return s_exists ? QStyleFactory::create(s_name) : nullptr;
+}
 
 /// The editor's style is its child, created once, since the widget itself never owns a style. Null
 /// if the platform has no such style; the editor then keeps the application's.
@@ -28,10 +41,21 @@ QStyle* FindOrCreateStyle(QWidget& editor)
     auto* pStyle = editor.findChild<QStyle*>(QString(), Qt::FindDirectChildrenOnly);
     if (pStyle != nullptr)
         return pStyle;
-    pStyle = QStyleFactory::create(QStringLiteral("WindowsVista"));
+    pStyle = CreateStyle();
     if (pStyle != nullptr)
         pStyle->setParent(&editor);
     return pStyle;
+}
+
+/// Whether the background is white in every state, as chosen for the editor itself.
+bool IsWhite(const QPalette& palette)
+{
+    const QBrush white(Qt::white);
+    const auto isWhite = [&](QPalette::ColorGroup group) {
+        return palette.isBrushSet(group, QPalette::Base) &&
+               palette.brush(group, QPalette::Base) == white;
+    };
+    return isWhite(QPalette::Active) && isWhite(QPalette::Inactive) && isWhite(QPalette::Disabled);
 }
 
 }
@@ -71,16 +95,17 @@ bool EditorWindow::Activate(QWidget& view, QObject& filter, const QSize& size)
 
 void EditorWindow::ApplyStyle()
 {
-    // Setting the sheet and the style that are there would only compute the same look again, which
-    // takes longer than all the rest of opening. A style of the editor's own cannot be compared:
-    // the sheet stands before it.
-    const QString styleSheet = QString::fromLatin1(EditorStyleSheet);
-    if (m_pEditor->styleSheet() != styleSheet)
-        m_pEditor->setStyleSheet(styleSheet);
+    // Setting the sheet, style and palette that are there would only compute the same look again,
+    // which takes longer than all the rest of opening. A style of the editor's own cannot be
+    // compared: the sheet stands before it.
+    if (m_pEditor->styleSheet() != EditorStyleSheet())
+        m_pEditor->setStyleSheet(EditorStyleSheet());
     QStyle* pStyle = FindOrCreateStyle(*m_pEditor);
     if (pStyle != nullptr || m_pEditor->testAttribute(Qt::WA_SetStyle))
         m_pEditor->setStyle(pStyle);
     QPalette palette = m_pEditor->palette();
+    if (IsWhite(palette))
+        return;
     palette.setBrush(QPalette::Base, Qt::white);
     m_pEditor->setPalette(palette);
 }

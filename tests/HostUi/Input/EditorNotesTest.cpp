@@ -222,6 +222,66 @@ private slots:
         QVERIFY(!pStrip->geometry().contains(120, 100));
     }
 
+    void notesKeepOffATextThatWasDrawnElsewhereMeanwhile()
+    {
+        TypingScript script = Linear();
+        script.dimensionText = L"12.500";
+        InputFixture f(script);
+        f.host.view.resize(600, 400);
+        f.host.view.GetCamera().SetSize(600, 400);
+        f.Type("5");
+        f.Editor()->move(f.host.view.mapToGlobal(QPoint(100, 50)));
+        const auto* pStrip = f.host.view.findChild<QLabel*>("InputKeys");
+        QTRY_COMPARE(pStrip->pos(), QPoint(100, 80));
+        const QPoint text = pStrip->geometry().center();
+
+        f.host.view.GetCamera().Pan(text.x() - 300, text.y() - 200);
+        TemporaryDimensionMgr::GetInstance()->Regenerate();
+        f.Editor()->move(f.host.view.mapToGlobal(QPoint(100, 50)));
+        f.Type("6");
+
+        QVERIFY(!pStrip->geometry().contains(text));
+    }
+
+    void notesAreAsLargeAsTheirTexts_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::newRow("number") << "10";
+        QTest::newRow("formula") << "10+2";
+        QTest::newRow("formula that is a number again") << "10+2\b\b";
+        QTest::newRow("formula once more") << "10+2\b\b+3";
+    }
+
+    void notesAreAsLargeAsTheirTexts()
+    {
+        QFETCH(QString, typed);
+        InputFixture f(Linear());
+        f.host.view.resize(600, 400);
+
+        for (const QChar character : typed)
+            f.Press(Qt::Key_Backspace, character == '\b' ? QString() : QString(character));
+
+        for (const QLabel* pNote : f.host.view.findChildren<QLabel*>())
+            QVERIFY(!pNote->isVisible() || pNote->size() == pNote->sizeHint());
+    }
+
+    void notesGrowWithTheirFont()
+    {
+        InputFixture f(Linear());
+        f.host.view.resize(600, 400);
+        f.Type("10+2");
+        auto* pStrip = f.host.view.findChild<QLabel*>("InputKeys");
+        const QSize before = pStrip->size();
+
+        QFont font = pStrip->font();
+        font.setPointSize(2 * font.pointSize());
+        pStrip->setFont(font);
+        f.Type("3");
+
+        QVERIFY(pStrip->height() > before.height());
+        QCOMPARE(pStrip->size(), pStrip->sizeHint());
+    }
+
     void eachNoteHasItsLook_data()
     {
         QTest::addColumn<QByteArray>("note");

@@ -21,6 +21,16 @@ InputVerdict Judge(const QString& text)
     return JudgeInput(text, MakeField(Quantity::Length), LengthUnit::Millimetre());
 }
 
+TypedReading Read(const QString& text)
+{
+    return ReadTypedText(text, Quantity::Length, LengthUnit::Millimetre());
+}
+
+QString Describe(const QString& text, Quantity quantity, const LengthUnit& unit)
+{
+    return DescribeValue(ReadTypedText(text, quantity, unit), quantity, unit);
+}
+
 }
 
 /// What happens to a text that is to be committed.
@@ -207,12 +217,12 @@ private slots:
         QFETCH(QString, description);
         const Quantity quantity = isAngle ? Quantity::Angle : Quantity::Length;
 
-        QCOMPARE(DescribeValue(text, quantity, LengthUnit::Millimetre()), description);
+        QCOMPARE(Describe(text, quantity, LengthUnit::Millimetre()), description);
     }
 
     void valueIsDescribedInTheUnitShown()
     {
-        QCOMPARE(DescribeValue("10cm", Quantity::Length, LengthUnit::Inch()),
+        QCOMPARE(Describe("10cm", Quantity::Length, LengthUnit::Inch()),
                  QStringLiteral("= 3.937 in"));
     }
 
@@ -263,12 +273,12 @@ private slots:
         InputField field = MakeField(Quantity::Length);
         field.takesWithSpace = true;
 
-        QCOMPARE(IsTakenWithSpace(text, field, LengthUnit::Millimetre()), isTaken);
+        QCOMPARE(IsTakenWithSpace(Read(text), field), isTaken);
     }
 
     void spaceTakesNothingWhereItIsABlank()
     {
-        QVERIFY(!IsTakenWithSpace("10", MakeField(Quantity::Length), LengthUnit::Millimetre()));
+        QVERIFY(!IsTakenWithSpace(Read("10"), MakeField(Quantity::Length)));
     }
 
     void lateUnitIsToldByItsName()

@@ -4,7 +4,9 @@
 
 #include "Support/TestValues.h"
 
+#include <QApplication>
 #include <QRegularExpression>
+#include <QScopeGuard>
 #include <QScopedPointer>
 #include <QStringList>
 #include <QStyle>
@@ -42,6 +44,7 @@ private slots:
     void editorThatIsThereKeepsNameAndFlags();
     void onlyTheLookThatDiffersIsSetAgain_data();
     void onlyTheLookThatDiffersIsSetAgain();
+    void aBackgroundWhichIsWhiteByChanceBecomesTheEditorsOwn();
     void openEditorIsFilledShownAndPlaced();
     void inputEndsWithoutFocusAndHidden();
     void returnJudgesEndsAndDelivers();
@@ -97,44 +100,81 @@ void EditorCallsTest::editorThatIsThereKeepsNameAndFlags()
                           EditorCalls::Numbers("size", TemporaryDimensionStyle().GetEditorWidth(),
                                                TemporaryDimensionStyle().GetEditorHeight()),
                           "show", "activate", "focus for reason 7", "the editor filters view 1"}));
-    QCOMPARE(calls.Get().mid(6), QStringList({"palette", "journal 3 0", "text 6", "show",
-                                              "focus for reason 7", "move", "refresh view 1"}));
+    QCOMPARE(calls.Get().mid(6), QStringList({"journal 3 0", "text 6", "show", "focus for reason 7",
+                                              "move", "refresh view 1"}));
 }
 
 void EditorCallsTest::onlyTheLookThatDiffersIsSetAgain_data()
 {
     QTest::addColumn<QString>("styleSheet");
     QTest::addColumn<QString>("style");
+    QTest::addColumn<int>("group");
     QTest::addColumn<QStringList>("expected");
     const QString original;
-    QTest::newRow("nothing") << original << original << QStringList();
-    QTest::newRow("sheet") << "QLineEdit{ color:red; }" << original << QStringList("style sheet");
-    QTest::newRow("style") << original << "Windows" << QStringList("style");
-    QTest::newRow("both") << "QLineEdit{ color:red; }"
-                          << "Windows" << QStringList({"style sheet", "style"});
+    const QString red = "QLineEdit{ color:red; }";
+    const int none = QPalette::NColorGroups;
+    QTest::newRow("nothing") << original << original << none << QStringList();
+    // A new sheet or style computes the palette anew.
+    QTest::newRow("sheet") << red << original << none << QStringList({"style sheet", "palette"});
+    QTest::newRow("style") << original << "Windows" << none << QStringList({"style", "palette"});
+    QTest::newRow("sheet and style")
+        << red << "Windows" << none << QStringList({"style sheet", "style", "palette"});
+    QTest::newRow("active background")
+        << original << original << int(QPalette::Active) << QStringList("palette");
+    QTest::newRow("inactive background")
+        << original << original << int(QPalette::Inactive) << QStringList("palette");
+    QTest::newRow("disabled background")
+        << original << original << int(QPalette::Disabled) << QStringList("palette");
 }
 
 void EditorCallsTest::onlyTheLookThatDiffersIsSetAgain()
 {
     QFETCH(QString, styleSheet);
     QFETCH(QString, style);
+    QFETCH(int, group);
     QFETCH(QStringList, expected);
     CallsFixture f;
     const QScopedPointer<QStyle> opStyle(QStyleFactory::create("Windows"));
     f.TypeLength("5");
     const QImage firstPicture = f.Editor()->grab().toImage();
+    const QPalette firstPalette = f.Editor()->palette();
     if (!styleSheet.isEmpty())
         f.Editor()->setStyleSheet(styleSheet);
     if (!style.isEmpty())
         f.Editor()->setStyle(opStyle.get());
+    if (group != QPalette::NColorGroups)
+    {
+        QPalette palette = firstPalette;
+        palette.setColor(QPalette::ColorGroup(group), QPalette::Base, Qt::red);
+        f.Editor()->setPalette(palette);
+    }
     f.opHandler = f.CreateHandler();
     const EditorCalls calls;
 
     f.SendToHandler('5');
 
-    QCOMPARE(calls.Get().filter(QRegularExpression("^style")), expected);
+    QCOMPARE(calls.Get().filter(QRegularExpression("^(style|palette)")), expected);
     QVERIFY(!f.Editor()->testAttribute(Qt::WA_SetStyle));
+    QVERIFY(f.Editor()->palette() == firstPalette);
     QCOMPARE(f.Editor()->grab().toImage(), firstPicture);
+}
+
+void EditorCallsTest::aBackgroundWhichIsWhiteByChanceBecomesTheEditorsOwn()
+{
+    CallsFixture f;
+    const QPalette before = QApplication::palette();
+    const auto restored = qScopeGuard([&before] { QApplication::setPalette(before); });
+    QPalette white = before;
+    white.setColor(QPalette::Base, Qt::white);
+    QApplication::setPalette(white);
+    f.TypeLength("5");
+    f.Editor()->setPalette(QPalette());
+    f.opHandler = f.CreateHandler();
+
+    f.SendToHandler('5');
+
+    QVERIFY(f.Editor()->palette().isBrushSet(QPalette::Active, QPalette::Base));
+    QVERIFY(f.Editor()->testAttribute(Qt::WA_SetPalette));
 }
 
 void EditorCallsTest::openEditorIsFilledShownAndPlaced()

@@ -7,9 +7,11 @@
 #include <QObject>
 #include <QPoint>
 #include <QPointer>
+#include <QRect>
 
 #include <memory>
 #include <optional>
+#include <vector>
 
 class QKeyEvent;
 class QLineEdit;
@@ -21,6 +23,7 @@ class EditorNotes;
 class EscapeKey;
 class LateUnit;
 struct InputField;
+struct TypedReading;
 
 /// Delivers every key of a dimension input in order and to the right widget.
 ///
@@ -95,7 +98,7 @@ private:
     void NoteOtherKey(const QEvent& event);
     bool FilterEditorEvent(QEvent& event);
     bool FilterEditorKey(QKeyEvent& event);
-    bool CommitsWithSpace(const QString& text, const InputField& field) const;
+    bool CommitsWithSpace(const TypedReading& reading, const InputField& field) const;
     void TakeValue(QLineEdit& editor, QKeyEvent& event, const InputField& field);
     QWidget* FindOtherField() const;
     bool PassOn(QEvent& event);
@@ -108,6 +111,7 @@ private:
     void OnTextEdited();
     void FitEditor();
     void UpdateNotes();
+    const std::vector<QRect>& FindTexts(const QWidget& view);
 
     /// A plain QWidget because it is also used while the editor is being destroyed.
     QPointer<QWidget> m_pEditor;
@@ -125,6 +129,10 @@ private:
 
     /// The position of the cursor in the current view; nothing while it is elsewhere.
     std::optional<QPoint> m_cursor;
+
+    /// Where the dimensions have their texts in the current view; nothing if they have been drawn
+    /// anew since that was found.
+    std::optional<std::vector<QRect>> m_texts;
 
     /// The key being delivered to the handler; not owned, null if there is none.
     const QEvent* m_pDelivered = nullptr;

@@ -55,6 +55,11 @@ void TakeEscape()
         ActionManager::ProcessEscape(UiDocumentViewManager::FindCurrentView());
 }
 
+TypedReading Read(const QLineEdit& editor, const InputField& field)
+{
+    return ReadTypedText(editor.text(), field.quantity, LengthUnit::GetCurrent());
+}
+
 /// Why the action cannot use a value of a field; empty if it can.
 QString AskAction(InputState field, double modelValue)
 {
@@ -156,8 +161,7 @@ std::optional<double> DimensionInputController::GetValue() const
     const QLineEdit* pEditor = GetActiveEditor();
     if (pEditor == nullptr)
         return std::nullopt;
-    const TypedReading reading = ReadTypedText(pEditor->text(), Manager().GetInputField().quantity,
-                                               LengthUnit::GetCurrent());
+    const TypedReading reading = Read(*pEditor, Manager().GetInputField());
     const bool isRead = reading.isPlain || !Manager().IsRawTextInput();
     return reading.fault == TypedTextFault::None && isRead ? std::optional(reading.value)
                                                            : std::nullopt;
@@ -183,8 +187,10 @@ void DimensionInputController::OnUiObject(const IJournalUiObject& object, int ki
             Qt::UniqueConnection);
 }
 
+/// Called whenever the dimensions have been drawn anew.
 void DimensionInputController::ResetEditorPosition(ITemporaryDimensionHandler& handler)
 {
+    m_texts.reset();
     if (auto* pObject = dynamic_cast<QObject*>(&handler))
         QMetaObject::invokeMethod(pObject, "ResetEditorPosition");
     FitEditor();
@@ -275,6 +281,7 @@ bool DimensionInputController::FilterEditorEvent(QEvent& event)
 void DimensionInputController::OnEditorHidden()
 {
     m_refusal.clear();
+    m_texts.reset();
     m_pNotes->Hide();
     if (!Manager().IsInputting())
         Manager().SetEditorWidth(0);
@@ -319,9 +326,10 @@ bool DimensionInputController::FilterEditorKey(QKeyEvent& event)
     return true;
 }
 
-bool DimensionInputController::CommitsWithSpace(const QString& text, const InputField& field) const
+bool DimensionInputController::CommitsWithSpace(const TypedReading& reading,
+                                                const InputField& field) const
 {
-    return m_isSpaceCommitting && IsTakenWithSpace(text, field, LengthUnit::GetCurrent());
+    return m_isSpaceCommitting && IsTakenWithSpace(reading, field);
 }
 
 /// Judges the text in the editor and, if it is accepted, lets the handler commit it.
@@ -330,7 +338,7 @@ void DimensionInputController::TakeValue(QLineEdit& editor, QKeyEvent& event,
 {
     const bool isJudged = !Manager().IsRawTextInput();
     const bool isSpace = event.key() == Qt::Key_Space;
-    if (isJudged && isSpace && !CommitsWithSpace(editor.text(), field))
+    if (isJudged && isSpace && !CommitsWithSpace(Read(editor, field), field))
     {
         editor.insert(QStringLiteral(" "));
         return;
@@ -454,7 +462,7 @@ void DimensionInputController::OnTextEdited()
     const InputState field = Manager().GetInputState();
     if (pEditor != nullptr && pEditor->text().isEmpty() && Manager().IsLocked(field))
         ActionManager::FreeValue(UiDocumentViewManager::FindCurrentView(), field);
-    UpdateNotes();
+    // The notes follow the text: an edit also changes it, which Qt tells next.
 }
 
 /// Makes the editor as wide as its text needs; the generators, which position it, must know.
@@ -484,15 +492,22 @@ void DimensionInputController::UpdateNotes()
     const InputField field = Manager().GetInputField();
     NoteTexts texts;
     texts.refusal = m_refusal;
+    const TypedReading reading = Read(*pEditor, field);
     if (!Manager().IsRawTextInput())
-        texts.value = DescribeValue(pEditor->text(), field.quantity, LengthUnit::GetCurrent());
+        texts.value = DescribeValue(reading, field.quantity, LengthUnit::GetCurrent());
     if (m_isKeyStripShown)
-        texts.keys = DescribeKeys(field, CommitsWithSpace(pEditor->text(), field));
+        texts.keys = DescribeKeys(field, CommitsWithSpace(reading, field));
     const QPoint corner = pView->mapFromGlobal(pEditor->mapToGlobal(QPoint(0, 0)));
     m_pNotes->Show(*pView,
-                   {pView->size(), QRect(corner, pEditor->size()), m_cursor,
-                    FindDimensionTexts(*UiDocumentViewManager::FindCurrentView(), *pView)},
+                   {pView->size(), QRect(corner, pEditor->size()), m_cursor, FindTexts(*pView)},
                    texts);
+}
+
+const std::vector<QRect>& DimensionInputController::FindTexts(const QWidget& view)
+{
+    if (!m_texts.has_value())
+        m_texts = FindDimensionTexts(*UiDocumentViewManager::FindCurrentView(), view);
+    return *m_texts;
 }
 
 }

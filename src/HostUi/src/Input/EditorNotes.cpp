@@ -1,9 +1,5 @@
 #include "Input/EditorNotes.h"
 
-#include "Input/NoteLayout.h"
-
-#include <QLabel>
-
 namespace vesk
 {
 namespace
@@ -16,11 +12,17 @@ struct NoteKind
     const char* colours;
 };
 
-constexpr NoteKind Refusal{"InputRefusal", "background: #b03a37; color: white"};
-constexpr NoteKind Value{"InputValue", "background: palette(base); color: palette(text); "
-                                       "border: 1px solid palette(highlight)"};
-constexpr NoteKind Keys{"InputKeys", "background: palette(window); color: palette(window-text); "
-                                     "border: 1px solid palette(mid)"};
+/// In the order in which they are placed.
+constexpr NoteKind Kinds[] = {
+    {"InputValue", "background: palette(base); color: palette(text); "
+                   "border: 1px solid palette(highlight)"},
+    {"InputRefusal", "background: #b03a37; color: white"},
+    {"InputKeys", "background: palette(window); color: palette(window-text); "
+                  "border: 1px solid palette(mid)"},
+};
+
+/// The first is placed beside the editor, the others below it.
+constexpr std::size_t Beside = 0;
 
 QLabel* MakeNote(const NoteKind& kind, QWidget& view)
 {
@@ -31,24 +33,6 @@ QLabel* MakeNote(const NoteKind& kind, QWidget& view)
     pNote->setStyleSheet(
         QStringLiteral("QLabel { %1; border-radius: 4px; padding: 2px 6px }").arg(kind.colours));
     return pNote;
-}
-
-/// Returns true if the note must be shown.
-bool Prepare(QPointer<QLabel>& pNote, const NoteKind& kind, const QString& text, QWidget& view)
-{
-    if (pNote != nullptr && pNote->parentWidget() != &view)
-        delete pNote;
-    if (text.isEmpty())
-    {
-        if (pNote != nullptr)
-            pNote->hide();
-        return false;
-    }
-    if (pNote == nullptr)
-        pNote = MakeNote(kind, view);
-    if (pNote->text() != text)
-        pNote->setText(text);
-    return true;
 }
 
 void ShowAt(QLabel& note, const QRect& place)
@@ -62,29 +46,80 @@ void ShowAt(QLabel& note, const QRect& place)
 
 EditorNotes::~EditorNotes()
 {
-    delete m_pRefusal;
-    delete m_pValue;
-    delete m_pKeys;
+    for (const Note& note : m_notes)
+        delete note.pLabel;
 }
 
 void EditorNotes::Show(QWidget& view, const EditorScene& scene, const NoteTexts& texts)
 {
-    NoteLayout layout(scene);
-    if (Prepare(m_pValue, Value, texts.value, view))
-        ShowAt(*m_pValue, layout.PlaceBeside(m_pValue->sizeHint()));
-    if (Prepare(m_pRefusal, Refusal, texts.refusal, view))
-        ShowAt(*m_pRefusal, layout.PlaceBelow(m_pRefusal->sizeHint()));
-    if (Prepare(m_pKeys, Keys, texts.keys, view))
-        ShowAt(*m_pKeys, layout.PlaceBelow(m_pKeys->sizeHint()));
+    const std::array<const QString*, Count> shown{&texts.value, &texts.refusal, &texts.keys};
+    std::array<QSize, Count> sizes;
+    for (std::size_t i = 0; i < Count; ++i)
+    {
+        if (Prepare(m_notes[i], i, *shown[i], view))
+            sizes[i] = SizeOf(m_notes[i]);
+    }
+    if (!(sizes == m_sizes && scene == m_scene))
+        Place(scene, sizes);
+    for (std::size_t i = 0; i < Count; ++i)
+    {
+        if (sizes[i].isValid() && m_notes[i].pLabel != nullptr)
+            ShowAt(*m_notes[i].pLabel, m_places[i]);
+    }
 }
 
 void EditorNotes::Hide()
 {
-    for (QLabel* pNote : {m_pRefusal.data(), m_pValue.data(), m_pKeys.data()})
+    for (const Note& note : m_notes)
     {
-        if (pNote != nullptr)
-            pNote->hide();
+        if (note.pLabel != nullptr)
+            note.pLabel->hide();
     }
+}
+
+/// Returns true if the note must be shown.
+bool EditorNotes::Prepare(Note& note, std::size_t kind, const QString& text, QWidget& view)
+{
+    if (note.pLabel != nullptr && note.pLabel->parentWidget() != &view)
+        delete note.pLabel;
+    if (text.isEmpty())
+    {
+        if (note.pLabel != nullptr)
+            note.pLabel->hide();
+        return false;
+    }
+    if (note.pLabel == nullptr)
+    {
+        note.pLabel = MakeNote(Kinds[kind], view);
+        note.sizes.clear();
+    }
+    if (note.pLabel->text() != text)
+        note.pLabel->setText(text);
+    return true;
+}
+
+QSize EditorNotes::SizeOf(Note& note)
+{
+    constexpr int Most = 100;
+    if (note.sizes.size() == Most || note.font != note.pLabel->font())
+        note.sizes.clear();
+    note.font = note.pLabel->font();
+    QSize& size = note.sizes[note.pLabel->text()];
+    if (!size.isValid())
+        size = note.pLabel->sizeHint();
+    return size;
+}
+
+void EditorNotes::Place(const EditorScene& scene, const std::array<QSize, Count>& sizes)
+{
+    NoteLayout layout(scene);
+    for (std::size_t i = 0; i < Count; ++i)
+    {
+        if (sizes[i].isValid())
+            m_places[i] = i == Beside ? layout.PlaceBeside(sizes[i]) : layout.PlaceBelow(sizes[i]);
+    }
+    m_sizes = sizes;
+    m_scene = scene;
 }
 
 }

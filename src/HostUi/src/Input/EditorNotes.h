@@ -1,15 +1,15 @@
 #pragma once
 
-#include <QPointer>
-#include <QString>
+#include "Input/NoteLayout.h"
 
-class QLabel;
-class QWidget;
+#include <QHash>
+#include <QLabel>
+#include <QPointer>
+
+#include <array>
 
 namespace vesk
 {
-
-struct EditorScene;
 
 /// The notes beside the editor: why its text was rejected, the value of the text, and what the keys
 /// do. An empty note is not shown.
@@ -31,10 +31,30 @@ public:
     void Hide();
 
 private:
-    /// Children of the view on which they were last shown.
-    QPointer<QLabel> m_pRefusal;
-    QPointer<QLabel> m_pValue;
-    QPointer<QLabel> m_pKeys;
+    static constexpr std::size_t Count = 3;
+
+    struct Note
+    {
+        /// A child of the view on which it was last shown.
+        QPointer<QLabel> pLabel;
+
+        /// What its texts need in that font, as far as that is known: a text with keys in bold is
+        /// laid out in a document of its own, and two such texts alternate while a value is typed.
+        QHash<QString, QSize> sizes;
+        QFont font;
+    };
+
+    static bool Prepare(Note& note, std::size_t kind, const QString& text, QWidget& view);
+    static QSize SizeOf(Note& note);
+    void Place(const EditorScene& scene, const std::array<QSize, Count>& sizes);
+
+    /// The value, the refusal and the keys.
+    std::array<Note, Count> m_notes;
+
+    /// Where the notes belong, and what that was found for; a note that is not shown has no size.
+    std::array<QRect, Count> m_places;
+    std::array<QSize, Count> m_sizes;
+    EditorScene m_scene;
 };
 
 }

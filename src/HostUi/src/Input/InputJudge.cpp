@@ -5,7 +5,6 @@
 #include "HostUi/QtText.h"
 
 #include <QRegularExpression>
-#include <QStringList>
 
 namespace vesk
 {
@@ -46,9 +45,8 @@ InputVerdict JudgeInput(const QString& text, const InputField& field, const Leng
     return {{}, ShortestNumber(reading.value), reading.modelValue};
 }
 
-QString DescribeValue(const QString& text, Quantity quantity, const LengthUnit& unit)
+QString DescribeValue(const TypedReading& reading, Quantity quantity, const LengthUnit& unit)
 {
-    const TypedReading reading = ReadTypedText(text, quantity, unit);
     if (reading.fault != TypedTextFault::None || reading.isPlain)
         return {};
     const QString symbol = quantity == Quantity::Length
@@ -57,9 +55,9 @@ QString DescribeValue(const QString& text, Quantity quantity, const LengthUnit& 
     return QStringLiteral("= ") + Round(reading.value, quantity) + symbol;
 }
 
-bool IsTakenWithSpace(const QString& text, const InputField& field, const LengthUnit& unit)
+bool IsTakenWithSpace(const TypedReading& reading, const InputField& field)
 {
-    return field.takesWithSpace && ReadTypedText(text, field.quantity, unit).isPlain;
+    return field.takesWithSpace && reading.isPlain;
 }
 
 QString DescribeLateUnit(const QString& unit)
@@ -70,15 +68,13 @@ QString DescribeLateUnit(const QString& unit)
 
 QString DescribeKeys(const InputField& field, bool isTakenWithSpace)
 {
-    const QString pattern = QStringLiteral("<b>%1</b>&nbsp;%2");
-    QStringList keys;
+    QString keys;
     if (field.next != InputState::IS_None)
-        keys << pattern.arg(QStringLiteral("Tab"), ToQString(CaptionOf(field.next)));
-    const QString taking =
-        isTakenWithSpace ? QStringLiteral("Enter</b>/<b>空格") : QStringLiteral("Enter");
-    keys << pattern.arg(taking, QStringLiteral("确定"))
-         << pattern.arg(QStringLiteral("Esc"), QStringLiteral("取消"));
-    return keys.join(QStringLiteral(" · "));
+        keys = QStringLiteral("<b>Tab</b>&nbsp;") + ToQString(CaptionOf(field.next)) +
+               QStringLiteral(" · ");
+    keys += isTakenWithSpace ? QStringLiteral("<b>Enter</b>/<b>空格</b>&nbsp;确定")
+                             : QStringLiteral("<b>Enter</b>&nbsp;确定");
+    return keys + QStringLiteral(" · <b>Esc</b>&nbsp;取消");
 }
 
 }

@@ -28,13 +28,13 @@ struct InputVerdict
 /// Judges a text. Only numbers in the field's range are ever accepted.
 InputVerdict JudgeInput(const QString& text, const InputField& field, const LengthUnit& unit);
 
-/// The value of a text, shown beside it: "= 70.711 mm". Empty for a plain number and for a text
-/// without a value.
-QString DescribeValue(const QString& text, Quantity quantity, const LengthUnit& unit);
+/// The value that was read from a text, shown beside it: "= 70.711 mm". Empty for a plain number
+/// and for a text without a value.
+QString DescribeValue(const TypedReading& reading, Quantity quantity, const LengthUnit& unit);
 
-/// True if Space commits a text: a plain number, in a field where Space commits. In any other text
-/// a blank is a blank.
-bool IsTakenWithSpace(const QString& text, const InputField& field, const LengthUnit& unit);
+/// True if Space commits what was read from a text: a plain number, in a field where Space commits.
+/// In any other text a blank is a blank.
+bool IsTakenWithSpace(const TypedReading& reading, const InputField& field);
 
 /// The message about a unit that was typed after a Space that had committed the value.
 QString DescribeLateUnit(const QString& unit);

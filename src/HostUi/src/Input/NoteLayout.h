@@ -17,6 +17,12 @@ struct EditorScene
     QRect editor;
     std::optional<QPoint> cursor; ///< Nothing while it is elsewhere.
     std::vector<QRect> texts;     ///< Of the dimensions.
+
+    friend bool operator==(const EditorScene& left, const EditorScene& right)
+    {
+        return left.view == right.view && left.editor == right.editor &&
+               left.cursor == right.cursor && left.texts == right.texts;
+    }
 };
 
 /// Positions notes that belong to the editor: as near as possible to the preferred position, inside
