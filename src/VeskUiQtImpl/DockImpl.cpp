@@ -7,11 +7,26 @@
 
 namespace vesk
 {
+namespace
+{
+
+/// The style sheet of the application, converted again only when it has changed: all panes with the
+/// same sheet share one text.
+QString CurrentStyleSheet()
+{
+    static QString s_sheet = QLatin1String("");
+    const std::wstring& current = NqStyleSheetHelper::Instance()->GetCurrentStyleData();
+    if (!IsSameText(s_sheet, current))
+        s_sheet = ToQString(current);
+    return s_sheet;
+}
+
+}
 
 DockImpl::DockImpl(const std::wstring& name, const std::wstring& title, QWidget* pParent)
     : QDockWidget(ToQString(title), pParent), m_name(name)
 {
-    setStyleSheet(ToQString(NqStyleSheetHelper::Instance()->GetCurrentStyleData()));
+    setStyleSheet(CurrentStyleSheet());
 }
 
 DockImpl::~DockImpl() = default;

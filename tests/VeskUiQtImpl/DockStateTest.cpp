@@ -19,6 +19,8 @@ private slots:
     void itsWindowIsNotActivated();
     void contentIsGivenNoTitleAndShowsNothing();
     void laterStyleSheetsAreNotFollowed();
+    void panesOfOneStyleSheetShareItsText();
+    void aStyleSheetOfTheSameLengthIsAnotherOne();
 };
 
 /// A pane that floats beside its window.
@@ -114,6 +116,29 @@ void DockStateTest::laterStyleSheetsAreNotFollowed()
     pDock->SetFloating(true);
 
     QCOMPARE(WidgetOf(pDock)->styleSheet(), QString("QDockWidget { color: red; }"));
+}
+
+void DockStateTest::panesOfOneStyleSheetShareItsText()
+{
+    DockFixture f;
+    NqStyleSheetHelper::Instance()->SetCurrentStyleData(L"QDockWidget { color: red; }");
+
+    const QString first = WidgetOf(f.Add(L"first"))->styleSheet();
+    const QString second = WidgetOf(f.Add(L"second"))->styleSheet();
+
+    QCOMPARE(second.constData(), first.constData());
+}
+
+void DockStateTest::aStyleSheetOfTheSameLengthIsAnotherOne()
+{
+    DockFixture f;
+    NqStyleSheetHelper::Instance()->SetCurrentStyleData(L"QDockWidget { color: red; }");
+    f.Add(L"first");
+    NqStyleSheetHelper::Instance()->SetCurrentStyleData(L"QDockWidget { color: tan; }");
+
+    IDock* pSecond = f.Add(L"second");
+
+    QCOMPARE(WidgetOf(pSecond)->styleSheet(), QString("QDockWidget { color: tan; }"));
 }
 
 }

@@ -79,6 +79,13 @@ private:
 class IconStore
 {
 public:
+    /// The only one. It is not created with the library, which is loaded before there are buttons.
+    static IconStore& Instance()
+    {
+        static IconStore s_store;
+        return s_store;
+    }
+
     /// Must not be called once the application or the library is gone.
     ~IconStore() { qRemovePostRoutine(&Clear); }
 
@@ -99,8 +106,6 @@ private:
     std::unordered_map<qint64, Icons::value_type*> m_byKey;
     bool m_isClearedInTime = false;
 };
-
-IconStore s_icons;
 
 QIcon IconStore::Get(const std::wstring& path)
 {
@@ -151,20 +156,20 @@ void IconStore::DropAll()
 
 void IconStore::Clear()
 {
-    s_icons.DropAll();
-    s_icons.m_isClearedInTime = false;
+    Instance().DropAll();
+    Instance().m_isClearedInTime = false;
 }
 
 }
 
 QIcon FileIcons::Get(const std::wstring& path)
 {
-    return s_icons.Get(path);
+    return IconStore::Instance().Get(path);
 }
 
 bool FileIcons::IsCurrent(const QIcon& icon, const std::wstring& path)
 {
-    return s_icons.IsCurrent(icon, path);
+    return IconStore::Instance().IsCurrent(icon, path);
 }
 
 }
