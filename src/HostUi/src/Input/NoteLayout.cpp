@@ -76,6 +76,9 @@ QRect NoteLayout::Place(const QRect& wanted)
 std::optional<QRect> NoteLayout::FindNearest(const QRect& wanted, const Rects& taken) const
 {
     const QPoint clamped = Clamp(wanted);
+    const QRect first(clamped, wanted.size());
+    if (m_view.contains(first) && IsFree(first, taken))
+        return first;
     const std::vector<int> lefts = FindStops(clamped.x(), wanted.width(), taken, Side::Left);
     const std::vector<int> tops = FindStops(clamped.y(), wanted.height(), taken, Side::Top);
     std::optional<QRect> nearest;
