@@ -90,8 +90,9 @@ std::optional<QRect> NoteLayout::FindNearest(const QRect& wanted, const Rects& t
         for (const int top : tops)
         {
             const QRect rect(QPoint(left, top), wanted.size());
-            const bool isFree = m_view.contains(rect) && IsFree(rect, taken);
-            if (isFree && (!nearest || distance(rect) < distance(*nearest)))
+            // Whether it is free takes longest to find out.
+            const bool isNearer = !nearest || distance(rect) < distance(*nearest);
+            if (isNearer && m_view.contains(rect) && IsFree(rect, taken))
                 nearest = rect;
         }
     }
