@@ -4,6 +4,9 @@
 
 #include "Support/TestValues.h"
 
+#include <QRegularExpression>
+#include <QStringList>
+
 using namespace vesk;
 
 Q_DECLARE_METATYPE(const LengthUnit*)
@@ -27,6 +30,31 @@ class TypedTextExactTest final : public QObject
     Q_OBJECT
 
 private slots:
+    /// All texts of up to five of the characters that a number is made of.
+    void aNumberIsPlainAsThePatternSays()
+    {
+        static const QRegularExpression s_pattern(
+            R"(\A *[+-]?([0-9]+\.?[0-9]*|\.[0-9]+)([eE][+-]?[0-9]+)? *\z)");
+        const QString characters = "05.,eE+- ";
+        int plainCount = 0;
+        QStringList texts{QString()};
+        for (int i = 0; i < texts.size(); ++i)
+        {
+            const QString text = texts[i];
+            const TypedReading reading =
+                ReadTypedText(text, Quantity::Length, LengthUnit::Millimetre());
+            const bool isTooLarge = reading.fault == TypedTextFault::NoValue;
+            const bool isPlain = s_pattern.match(text).hasMatch() && !isTooLarge;
+            QVERIFY2(reading.isPlain == isPlain, qPrintable(text));
+            if (isPlain)
+                QCOMPARE(reading.value, text.toDouble());
+            plainCount += isPlain ? 1 : 0;
+            for (int k = 0; text.size() < 5 && k < characters.size(); ++k)
+                texts << text + characters[k];
+        }
+        QVERIFY(plainCount > 1000);
+    }
+
     void modelValueIsRoundedOnce_data()
     {
         QTest::addColumn<QString>("text");

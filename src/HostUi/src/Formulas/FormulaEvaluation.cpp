@@ -7,10 +7,13 @@
 #include <boost/multiprecision/cpp_int.hpp>
 
 #include <algorithm>
+#include <charconv>
 #include <cmath>
 #include <cstddef>
 #include <cstdlib>
 #include <limits>
+#include <string>
+#include <system_error>
 #include <utility>
 
 namespace vesk
@@ -149,10 +152,28 @@ Result Compute(const std::vector<FormulaStep>& steps)
     return stack.back();
 }
 
+/// A number that is its own model value. Its digits are rounded once, as a fraction would be.
+std::optional<FormulaValue> ReadNumberAlone(const CheckedFormula& formula, Quantity quantity,
+                                            const LengthUnit& unit)
+{
+    const bool isScaled = quantity == Quantity::Length && unit.ToModel(1.0) != 1.0;
+    if (formula.steps.size() != 1 || formula.steps[0].kind != FormulaStep::Kind::Number || isScaled)
+        return std::nullopt;
+    const DecimalNumber& number = formula.steps[0].number;
+    const std::string text = number.digits + 'e' + std::to_string(number.exponent);
+    double value = 0.0;
+    if (std::from_chars(text.data(), text.data() + text.size(), value).ec != std::errc())
+        return std::nullopt;
+    return FormulaValue{value, value};
 }
+
+}
+
 std::optional<FormulaValue> Evaluate(const CheckedFormula& formula, Quantity quantity,
                                      const LengthUnit& unit)
 {
+    if (const std::optional<FormulaValue> alone = ReadNumberAlone(formula, quantity, unit))
+        return alone;
     const Result value = Compute(formula.steps);
     if (!value.has_value())
         return std::nullopt;

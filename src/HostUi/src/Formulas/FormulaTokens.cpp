@@ -1,7 +1,5 @@
 #include "Formulas/FormulaTokens.h"
 
-#include <QRegularExpression>
-
 #include <charconv>
 #include <string>
 #include <system_error>
@@ -14,12 +12,51 @@ namespace
 /// Nobody types a text of several screens.
 constexpr int LongestText = 300;
 
-const QRegularExpression& NumberPattern()
+/// Where the parts of a number end in a text; they follow one another.
+struct NumberParts
 {
-    static const QRegularExpression s_pattern(
-        QStringLiteral(R"((?:([0-9]+)(?:\.([0-9]*)|,([0-9]+))?|\.([0-9]+)|,([0-9]+)))"
-                       R"((?:[eE]([+-]?[0-9]+))?)"));
-    return s_pattern;
+    int whole;
+    int mark; ///< A point or a comma, or nothing.
+    int fraction;
+    int exponentMark;
+    int exponent;
+};
+
+bool IsAt(const QString& text, int position, QLatin1String characters)
+{
+    return position < text.size() && characters.contains(text[position]);
+}
+
+int SkipDigits(const QString& text, int position)
+{
+    while (position < text.size() && text[position] >= QLatin1Char('0') &&
+           text[position] <= QLatin1Char('9'))
+        ++position;
+    return position;
+}
+
+/// "5", "5.", "5.2", "5,2", ".2" or ",2", and perhaps an exponent; without a digit, no part is
+/// longer than nothing. A mark or an "e" that no digits follow is not part of the number, except
+/// the point of "5.".
+NumberParts FindNumber(const QString& text, int position)
+{
+    NumberParts parts;
+    parts.whole = SkipDigits(text, position);
+    parts.mark = parts.whole + (IsAt(text, parts.whole, QLatin1String(".,")) ? 1 : 0);
+    parts.fraction = SkipDigits(text, parts.mark);
+    const bool isWhole = parts.whole > position && IsAt(text, parts.whole, QLatin1String("."));
+    if (parts.fraction == parts.mark && !isWhole)
+        parts.mark = parts.fraction = parts.whole;
+    const bool isNumber = parts.fraction > position;
+    const int mark =
+        parts.fraction + (isNumber && IsAt(text, parts.fraction, QLatin1String("eE")) ? 1 : 0);
+    const int sign = mark + (IsAt(text, mark, QLatin1String("+-")) ? 1 : 0);
+    parts.exponent = SkipDigits(text, sign);
+    const bool hasExponent = mark > parts.fraction && parts.exponent > sign;
+    parts.exponentMark = hasExponent ? mark : parts.fraction;
+    if (!hasExponent)
+        parts.exponent = parts.fraction;
+    return parts;
 }
 
 bool IsAsciiLetter(QChar character)
@@ -58,15 +95,15 @@ std::optional<DecimalNumber> MakeNumber(QString text, const QString& digits, int
 /// The number at a position of a text.
 std::optional<FormulaToken> TakeNumber(const QString& text, int position, TypedTextFault& fault)
 {
-    const QRegularExpressionMatch match = NumberPattern().match(
-        text, position, QRegularExpression::NormalMatch, QRegularExpression::AnchoredMatchOption);
+    const NumberParts parts = FindNumber(text, position);
     fault = TypedTextFault::NotANumber;
-    if (!match.hasMatch())
+    if (parts.exponent == position)
         return std::nullopt;
-    const QString whole = match.captured(1);
-    const QString fraction =
-        match.captured(2) + match.captured(3) + match.captured(4) + match.captured(5);
-    FormulaToken token{FormulaToken::Kind::Number, match.captured(), {}};
+    const auto between = [&text](int begin, int end) { return text.mid(begin, end - begin); };
+    const QString whole = between(position, parts.whole);
+    const QString fraction = between(parts.mark, parts.fraction);
+    const int exponent = between(parts.exponentMark, parts.exponent).toInt();
+    FormulaToken token{FormulaToken::Kind::Number, between(position, parts.exponent), {}};
     const bool hasComma = token.text.contains(QLatin1Char(','));
     if (hasComma && CanBeThousands(whole, fraction))
     {
@@ -74,7 +111,7 @@ std::optional<FormulaToken> TakeNumber(const QString& text, int position, TypedT
         return std::nullopt;
     }
     const std::optional<DecimalNumber> number =
-        MakeNumber(token.text, whole + fraction, match.captured(6).toInt() - fraction.size());
+        MakeNumber(token.text, whole + fraction, exponent - fraction.size());
     fault = TypedTextFault::NoValue;
     if (!number.has_value())
         return std::nullopt;

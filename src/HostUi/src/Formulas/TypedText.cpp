@@ -3,8 +3,6 @@
 #include "Formulas/FormulaEvaluation.h"
 #include "Formulas/FormulaReader.h"
 
-#include <QRegularExpression>
-
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -15,12 +13,15 @@ namespace vesk
 namespace
 {
 
-/// The numbers that the handlers read themselves.
-bool IsPlain(const QString& text)
+/// The numbers that the handlers read themselves: with a sign directly before them at most, and
+/// without a comma.
+bool IsPlain(const QString& text, const std::vector<FormulaToken>& tokens)
 {
-    static const QRegularExpression s_pattern(
-        QStringLiteral(R"(\A *[+-]?([0-9]+\.?[0-9]*|\.[0-9]+)([eE][+-]?[0-9]+)? *\z)"));
-    return s_pattern.match(text).hasMatch();
+    const int signs = tokens.front().Is('+') || tokens.front().Is('-') ? 1 : 0;
+    const FormulaToken& number = tokens[static_cast<std::size_t>(signs)];
+    const bool isLast = static_cast<int>(tokens.size()) == signs + 2;
+    return isLast && number.kind == FormulaToken::Kind::Number && !number.number.hasComma &&
+           text.trimmed().size() == signs + number.text.size();
 }
 
 }
@@ -28,17 +29,18 @@ bool IsPlain(const QString& text)
 TypedReading ReadTypedText(const QString& text, Quantity quantity, const LengthUnit& unit)
 {
     TypedTextFault fault = TypedTextFault::None;
-    const std::optional<std::vector<FormulaToken>> tokens = SplitFormula(text, fault);
+    std::optional<std::vector<FormulaToken>> tokens = SplitFormula(text, fault);
     if (!tokens.has_value())
         return {fault};
-    FormulaReader reader(*tokens, quantity);
+    const bool isPlain = IsPlain(text, *tokens);
+    FormulaReader reader(*std::move(tokens), quantity);
     const std::optional<CheckedFormula> formula = reader.Read();
     if (!formula.has_value())
         return {reader.GetFault()};
     const std::optional<FormulaValue> value = Evaluate(*formula, quantity, unit);
     if (!value.has_value())
         return {TypedTextFault::NoValue};
-    return {TypedTextFault::None, value->shown, IsPlain(text), value->model};
+    return {TypedTextFault::None, value->shown, isPlain, value->model};
 }
 
 QString ShortestNumber(double value)

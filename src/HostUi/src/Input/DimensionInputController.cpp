@@ -454,15 +454,17 @@ bool DimensionInputController::OpenInput(const QKeyEvent& event)
     return true;
 }
 
+/// The notes follow the text, whose change Qt tells next.
 void DimensionInputController::OnTextEdited()
 {
     m_isTextTyped = true;
     m_refusal.clear();
     const QLineEdit* pEditor = GetActiveEditor();
+    if (pEditor == nullptr || !pEditor->text().isEmpty())
+        return;
     const InputState field = Manager().GetInputState();
-    if (pEditor != nullptr && pEditor->text().isEmpty() && Manager().IsLocked(field))
+    if (Manager().IsLocked(field))
         ActionManager::FreeValue(UiDocumentViewManager::FindCurrentView(), field);
-    // The notes follow the text: an edit also changes it, which Qt tells next.
 }
 
 /// Makes the editor as wide as its text needs; the generators, which position it, must know.

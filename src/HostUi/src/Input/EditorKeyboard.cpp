@@ -12,6 +12,14 @@ namespace vesk
 namespace
 {
 
+/// Whether a key types its text; asking whether it is a standard key takes long.
+bool IsTyped(const QKeyEvent& event)
+{
+    const Qt::KeyboardModifiers others =
+        event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
+    return !others && !event.text().isEmpty() && event.text().front().isPrint();
+}
+
 /// On some systems only one of the customary two is the standard key of redo.
 bool IsRedo(const QKeyEvent& event)
 {
@@ -48,6 +56,8 @@ bool EditorKeyboard::eventFilter(QObject* pWatched, QEvent* pEvent)
 /// A line edit would claim both keys whether or not it has anything to undo.
 bool EditorKeyboard::FilterOverride(QKeyEvent& event) const
 {
+    if (IsTyped(event))
+        return false;
     const auto* pEdit = qobject_cast<const QLineEdit*>(&m_editor);
     const bool isUndo = event.matches(QKeySequence::Undo);
     if (pEdit == nullptr || (!isUndo && !IsRedo(event)))
@@ -59,7 +69,7 @@ bool EditorKeyboard::FilterOverride(QKeyEvent& event) const
 bool EditorKeyboard::FilterKey(const QKeyEvent& event) const
 {
     auto* pEdit = qobject_cast<QLineEdit*>(&m_editor);
-    if (pEdit == nullptr || !IsRedo(event))
+    if (pEdit == nullptr || IsTyped(event) || !IsRedo(event))
         return false;
     pEdit->redo();
     return true;

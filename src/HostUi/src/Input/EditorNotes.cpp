@@ -1,5 +1,8 @@
 #include "Input/EditorNotes.h"
 
+#include <algorithm>
+#include <vector>
+
 namespace vesk
 {
 namespace
@@ -35,11 +38,13 @@ QLabel* MakeNote(const NoteKind& kind, QWidget& view)
     return pNote;
 }
 
-void ShowAt(QLabel& note, const QRect& place)
+/// Whether nothing of the view is above these notes. Raising one of several moves it above the
+/// others, each time.
+bool AreOnTop(const std::vector<QLabel*>& notes, const QWidget& view)
 {
-    note.setGeometry(place);
-    note.show();
-    note.raise();
+    const QObjectList& children = view.children();
+    return children.size() >= static_cast<int>(notes.size()) &&
+           std::equal(notes.rbegin(), notes.rend(), children.rbegin());
 }
 
 }
@@ -61,11 +66,19 @@ void EditorNotes::Show(QWidget& view, const EditorScene& scene, const NoteTexts&
     }
     if (!(sizes == m_sizes && scene == m_scene))
         Place(scene, sizes);
+    std::vector<QLabel*> notes;
     for (std::size_t i = 0; i < Count; ++i)
     {
-        if (sizes[i].isValid() && m_notes[i].pLabel != nullptr)
-            ShowAt(*m_notes[i].pLabel, m_places[i]);
+        if (!sizes[i].isValid())
+            continue;
+        m_notes[i].pLabel->setGeometry(m_places[i]);
+        m_notes[i].pLabel->show();
+        notes.push_back(m_notes[i].pLabel);
     }
+    if (AreOnTop(notes, view))
+        return;
+    for (QLabel* pNote : notes)
+        pNote->raise();
 }
 
 void EditorNotes::Hide()

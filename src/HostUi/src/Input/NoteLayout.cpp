@@ -76,6 +76,9 @@ QRect NoteLayout::Place(const QRect& wanted)
 std::optional<QRect> NoteLayout::FindNearest(const QRect& wanted, const Rects& taken) const
 {
     const QPoint clamped = Clamp(wanted);
+    const QRect first(clamped, wanted.size());
+    if (m_view.contains(first) && IsFree(first, taken))
+        return first;
     const std::vector<int> lefts = FindStops(clamped.x(), wanted.width(), taken, Side::Left);
     const std::vector<int> tops = FindStops(clamped.y(), wanted.height(), taken, Side::Top);
     std::optional<QRect> nearest;
@@ -87,8 +90,9 @@ std::optional<QRect> NoteLayout::FindNearest(const QRect& wanted, const Rects& t
         for (const int top : tops)
         {
             const QRect rect(QPoint(left, top), wanted.size());
-            const bool isFree = m_view.contains(rect) && IsFree(rect, taken);
-            if (isFree && (!nearest || distance(rect) < distance(*nearest)))
+            // Whether it is free takes longest to find out.
+            const bool isNearer = !nearest || distance(rect) < distance(*nearest);
+            if (isNearer && m_view.contains(rect) && IsFree(rect, taken))
                 nearest = rect;
         }
     }
