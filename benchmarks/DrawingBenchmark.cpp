@@ -101,17 +101,17 @@ public:
     DimensionInputController input;
     SketchView view{workspace, input, nullptr};
 
+    void PaintFrame()
+    {
+        view.repaint();
+        QCoreApplication::processEvents();
+    }
+
 private:
     void SendMouse(QEvent::Type type, const QPointF& place)
     {
         QMouseEvent event(type, place, Qt::MiddleButton, Qt::MiddleButton, Qt::NoModifier);
         QCoreApplication::sendEvent(&view, &event);
-    }
-
-    void PaintFrame()
-    {
-        view.repaint();
-        QCoreApplication::processEvents();
     }
 
     long m_count = 0;
@@ -188,6 +188,24 @@ Side UncoveringOf(const Scene& scene)
     };
 }
 
+/// All get another colour, up to the next frame: the picture is painted afterwards, in slices.
+Side ColouringOf(const Scene& scene)
+{
+    return [scene](Stopwatch& stopwatch) {
+        Bench& bench = TheBench();
+        bench.Show(scene.count, scene.visible, scene.areSelected);
+        static int s_colour = 0;
+        s_colour = 1 + s_colour % 2;
+        stopwatch.Time([&] {
+            bench.workspace.sketch.SetPen(bench.workspace.selection.GetIds(), &Pen::colour,
+                                          s_colour);
+            bench.workspace.sketch.GetDigest();
+            bench.PaintFrame();
+        });
+        bench.Finish();
+    };
+}
+
 void AskAboutFrames(const std::string& name, const Scene& scene, double milliseconds)
 {
     for (const auto& [step, pStep] : {std::pair("pan", &Bench::Pan), {"zoom", &Bench::Zoom}})
@@ -224,6 +242,11 @@ void AskQuestions()
     AskAboutFrames("S3 1,000 of 100,000 visible", {100000, 1000}, 6);
     AskAboutFrames("S3 50 of 100,000 visible", {100000, 50}, 3);
     AskAboutFrames("S4 100,000 entities, all selected", {100000, 100000, true}, 32);
+    Ask("S4 100,000 entities, all selected, get another colour, up to the next frame")
+        .Ours(ColouringOf({100000, 100000, true}))
+        .MillisecondsAtMost(250)
+        .WithoutInstructions()
+        .Rounds(11);
     AskAboutFrames("S9 1,000,000 entities", {1000000, 1000000}, 33);
     AskAboutFrames("S9 50 of 1,000,000 visible", {1000000, 50}, 3);
     AskAboutRest("S9 1,000,000 entities", {1000000, 1000000}, 2500);

@@ -216,7 +216,7 @@ void AskAboutSize(long count)
     ask("S7 all are selected by the command", SelectAllOf(count), 30);
     ask("S7 all are selected in the list", SelectAllInListOf(count), 30);
     ask("S7 none are selected", SelectNoneOf(count), 30);
-    ask("S4 all selected get another colour", ColourOf(count), 250);
+    ask("S4 all selected get another colour, up to the whole picture", ColourOf(count), 250);
 }
 
 }

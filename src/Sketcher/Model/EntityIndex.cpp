@@ -32,6 +32,12 @@ constexpr std::size_t FollowedShare = 4;
 using BoxCorner = boost::geometry::model::point<float, 2, boost::geometry::cs::cartesian>;
 using Box = boost::geometry::model::box<BoxCorner>;
 
+/// True if an entity comes, goes or gets another shape.
+bool IsMoved(const Entity* pEntity, const std::optional<Entity>& next)
+{
+    return pEntity == nullptr || !next.has_value() || !(pEntity->shape == next->shape);
+}
+
 float ToFloat(double value)
 {
     // Far beyond any drawing, and small enough for the areas of boxes to be numbers.
@@ -180,7 +186,11 @@ void EntityIndex::Follow(const std::vector<Entity>& entities, const SketchChange
 {
     if (m_pTree == nullptr)
         return;
-    if (change.entities.size() > entities.size() / FollowedShare + 1)
+    const auto movedCount = std::count_if(
+        change.entities.begin(), change.entities.end(), [&entities](const auto& changed) {
+            return IsMoved(FindById(entities, changed.first), changed.second);
+        });
+    if (static_cast<std::size_t>(movedCount) > entities.size() / FollowedShare + 1)
     {
         Forget();
         return;
@@ -188,7 +198,7 @@ void EntityIndex::Follow(const std::vector<Entity>& entities, const SketchChange
     for (const auto& [id, next] : change.entities)
     {
         const Entity* pEntity = FindById(entities, id);
-        if (pEntity != nullptr && next.has_value() && pEntity->shape == next->shape)
+        if (!IsMoved(pEntity, next))
             continue;
         if (pEntity != nullptr)
             m_pTree->Remove(*pEntity);

@@ -10,8 +10,8 @@
 /// others: an R-tree of their bounds.
 ///
 /// Costs nothing until something is sought for the first time. Then it packs all entities, and
-/// follows each change from there; a change of many makes it pack again. Takes about 30 to 45 bytes
-/// for each entity. May be used in one thread at a time.
+/// follows each change from there; one that moves many makes it pack again. Takes about 30 to 45
+/// bytes for each entity. May be used in one thread at a time.
 class EntityIndex final
 {
 public:
