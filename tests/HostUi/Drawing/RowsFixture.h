@@ -2,8 +2,11 @@
 
 #include "Drawing/ModelPicture.h"
 
+#include <QColor>
 #include <QImage>
 #include <QPainter>
+#include <QPixmap>
+#include <QRectF>
 #include <QTransform>
 
 #include <cstddef>

@@ -12,24 +12,17 @@
 #include "HostUi/DimensionInputController.h"
 #include "HostUi/InputFixture.h"
 #include "HostUi/Inspection/InspectorFixture.h"
-#include "Support/EventWatch.h"
 #include "Support/HostFixture.h"
 #include "Support/TestValues.h"
 
-#include <QApplication>
 #include <QDateTime>
-#include <QDockWidget>
-#include <QElapsedTimer>
-#include <QEventLoop>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QMainWindow>
 #include <QRegularExpression>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QSplitter>
-#include <QTimer>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -41,56 +34,8 @@ namespace
 {
 
 constexpr int MostEvents = 1000;
-constexpr int RefreshMs = 200;
 
 using Fixture = test::InspectorFixture;
-
-/// Counts how often a timer with the inspector's interval fires.
-struct Ticks final : QObject
-{
-    Ticks() { qApp->installEventFilter(this); }
-    bool eventFilter(QObject* pWatched, QEvent* pEvent) override
-    {
-        const auto* pTimer = qobject_cast<QTimer*>(pWatched);
-        const bool isTick = pEvent->type() == QEvent::Timer && pTimer != nullptr;
-        count += isTick && pTimer->interval() == RefreshMs ? 1 : 0;
-        return false;
-    }
-    int count = 0;
-};
-
-/// Lets so much time pass that the inspector's clock would tick, and something happen meanwhile.
-void LetTimePass()
-{
-    QTimer later;
-    later.start(2 * RefreshMs);
-    QVERIFY(QSignalSpy(&later, &QTimer::timeout).wait());
-}
-
-/// True if there comes a time in which the program sleeps, longer than the inspector ever does.
-bool ComesToRest()
-{
-    // A text cursor would blink.
-    if (QWidget* pFocus = QApplication::focusWidget())
-        pFocus->clearFocus();
-    QObject driver;
-    auto* pAsking = new QTimer(&driver);
-    test::EventWatch watch(&driver);
-    QEventLoop loop;
-    QElapsedTimer patience;
-    patience.start();
-    bool isQuiet = false;
-    QObject::connect(pAsking, &QTimer::timeout, &loop, [&] {
-        isQuiet = watch.IsQuietFor(5 * RefreshMs);
-        if (isQuiet || patience.hasExpired(test::PatienceMs))
-            loop.quit();
-    });
-    pAsking->start(10);
-    loop.exec();
-    if (!isQuiet)
-        qWarning("%s", qPrintable(watch.GetLast().join('\n')));
-    return isQuiet;
-}
 
 }
 
@@ -118,76 +63,6 @@ private slots:
         f.pInspector->resize(600, 600);
 
         QVERIFY(f.pInspector->findChild<QSplitter*>()->height() > 450);
-    }
-
-    void aShownInspectorKeepsItselfInStep()
-    {
-        Fixture f;
-
-        f.pEdit->SetVisible(false);
-
-        QTRY_COMPARE(f.Rows(), QStringList("Edit|输入框||否|是"));
-    }
-
-    void aHiddenInspectorRestsAndIsInStepWhenItIsShown()
-    {
-        Fixture f;
-        f.pInspector->hide();
-        f.pEdit->SetText(L"abc");
-        const Ticks ticks;
-        LetTimePass();
-        QCOMPARE(ticks.count, 0);
-        QCOMPARE(f.Rows(), QStringList("Edit|输入框||是|是"));
-
-        f.pInspector->show();
-
-        QCOMPARE(f.Rows(), QStringList("Edit|输入框|abc|是|是"));
-    }
-
-    void aShownInspectorRestsWhileNothingHappens()
-    {
-        Fixture f;
-        f.pEdit->SetText(L"abc");
-        QTRY_COMPARE(f.Rows(), QStringList("Edit|输入框|abc|是|是"));
-
-        QVERIFY(ComesToRest());
-    }
-
-    void aChangeThatNothingElseShowsIsShown()
-    {
-        Fixture f;
-        f.panel.hide();
-        QVERIFY(ComesToRest());
-
-        f.pEdit->SetText(L"abc");
-
-        QTRY_COMPARE(f.Rows(), QStringList("Edit|输入框|abc|是|是"));
-    }
-
-    void behindAnotherTabItDoesNotUpdate()
-    {
-        Fixture f;
-        QMainWindow window;
-        auto* pFront = new QDockWidget;
-        auto* pBehind = new QDockWidget;
-        pBehind->setWidget(f.pInspector.get());
-        window.addDockWidget(Qt::BottomDockWidgetArea, pBehind);
-        window.addDockWidget(Qt::BottomDockWidgetArea, pFront);
-        window.tabifyDockWidget(pBehind, pFront);
-        window.show();
-        pFront->raise();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
-        QTRY_VERIFY(f.pInspector->visibleRegion().isEmpty());
-        QVERIFY(f.pInspector->isVisible());
-        f.pEdit->SetText(L"abc");
-        QVERIFY(ComesToRest());
-        QCOMPARE(f.Rows(), QStringList("Edit|输入框||是|是"));
-
-        pBehind->raise();
-
-        QTRY_COMPARE(f.Rows(), QStringList("Edit|输入框|abc|是|是"));
-        pBehind->setWidget(nullptr);
-        f.pInspector->setParent(nullptr);
     }
 
     void eventsTellWhoMadeThem()
@@ -366,20 +241,6 @@ private slots:
 
         QCOMPARE(f.Events(), QStringList());
         QCOMPARE(f.Rows(), QStringList("Edit|输入框||是|是"));
-    }
-
-    void afterStopItsClockRests()
-    {
-        Fixture f;
-        const Ticks ticks;
-        QTRY_VERIFY(ticks.count > 0);
-
-        f.pInspector->Stop();
-        const int before = ticks.count;
-        f.pEdit->SetText(L"a");
-        LetTimePass();
-
-        QCOMPARE(ticks.count, before);
     }
 
     void definitionsMayGoAfterStop()
