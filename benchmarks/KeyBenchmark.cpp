@@ -98,9 +98,9 @@ private:
 Side ByHand(const QString& text)
 {
     return [text](Stopwatch& stopwatch) {
-        const EditorDesk desk;
+        EditorDesk desk;
         PlainKeys keys;
-        PlainEditor editor(const_cast<EmptyView&>(desk.view), keys);
+        PlainEditor editor(desk.view, keys);
         editor.Open(QStringLiteral("x"), {96, 28}, {400, 300});
         const PlainMark mark(editor);
         EditorDesk::Settle();

@@ -25,7 +25,7 @@ using namespace vesk;
 namespace
 {
 
-constexpr int Clicks = 200;
+constexpr int Clicks = 50;
 
 /// A host with a command, and an action in a ribbon and one in a menu.
 struct ReplayDesk

@@ -38,8 +38,8 @@ QLabel* MakeNote(const NoteKind& kind, QWidget& view)
     return pNote;
 }
 
-/// Whether nothing of the view is above these notes. Raising one of several moves it above the
-/// others, each time.
+/// Whether nothing of the view is above these notes. Notes that are there already are not raised:
+/// each of several would be moved above the others, one after the other.
 bool AreOnTop(const std::vector<QLabel*>& notes, const QWidget& view)
 {
     const QObjectList& children = view.children();

@@ -2,11 +2,15 @@
 
 #include "Input/NoteLayout.h"
 
+#include <QFont>
 #include <QHash>
 #include <QLabel>
 #include <QPointer>
+#include <QRect>
+#include <QString>
 
 #include <array>
+#include <cstddef>
 
 namespace vesk
 {
