@@ -10,6 +10,7 @@
 #include <QRandomGenerator>
 #include <QSignalSpy>
 
+#include <numeric>
 #include <vector>
 
 using vesk::LengthUnit;
@@ -285,6 +286,24 @@ private slots:
                 QVERIFY2(held[i].row() == f.model.GetRow(before[i]), text);
         }
         QCOMPARE(f.reset.count(), 0);
+    }
+
+    void aLargeChangeMovesOnlyTheRowsBetween()
+    {
+        Fixture f(300);
+        std::vector<int> between(200);
+        std::iota(between.begin(), between.end(), 51);
+
+        f.sketch.Erase(between);
+        f.model.Refresh();
+        f.sketch.Undo();
+        f.model.Refresh();
+
+        const QVariantList rows{QModelIndex(), 50, 249};
+        QCOMPARE(f.removed.count(), 1);
+        QCOMPARE(f.removed.first(), rows);
+        QCOMPARE(f.inserted.count(), 1);
+        QCOMPARE(f.inserted.first(), rows);
     }
 
     void manyChangesAtOnceAreFollowedToo()

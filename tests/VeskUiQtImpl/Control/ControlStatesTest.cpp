@@ -174,6 +174,7 @@ private slots:
     void focusedEditThatIsHiddenAndThenDisabledStaysDisabled();
     void refreshDoesNotCompare_data();
     void refreshDoesNotCompare();
+    void refreshShowsWhatWasNeverShown();
     void refreshShowsBeforeItEnables_data();
     void refreshShowsBeforeItEnables();
     void itemThatGoesWhileItsButtonIsShownIsAskedNothingMore();
@@ -325,6 +326,7 @@ void ControlStatesTest::refreshDoesNotCompare()
     f.parent.setEnabled(false);
     f.states.setEnabled(false);
     f.states.opControl->UpdateStatus();
+    QVERIFY(f.states.pWidget->testAttribute(Qt::WA_ForceDisabled));
     f.parent.hide();
     f.states.setVisible(false);
     f.states.opControl->UpdateStatus();
@@ -334,6 +336,19 @@ void ControlStatesTest::refreshDoesNotCompare()
 
     QVERIFY(!f.states.pWidget->isEnabled());
     QVERIFY(!f.states.pWidget->isVisible());
+}
+
+void ControlStatesTest::refreshShowsWhatWasNeverShown()
+{
+    QWidget parent;
+    const OwnerPtr<IControl> opControl = Factory().CreateQtLabel(MakeOwner<LabelDefinition>(L"id"));
+    auto* pWidget = dynamic_cast<QWidget*>(opControl.Get());
+    pWidget->setParent(&parent);
+    QVERIFY(!pWidget->isHidden());
+
+    opControl->UpdateStatus();
+
+    QVERIFY(pWidget->testAttribute(Qt::WA_WState_ExplicitShowHide));
 }
 
 void ControlStatesTest::refreshShowsBeforeItEnables_data()

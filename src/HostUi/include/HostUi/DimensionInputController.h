@@ -111,7 +111,6 @@ private:
     void OnTextEdited();
     void FitEditor();
     void UpdateNotes();
-    const std::vector<QRect>& FindTexts(const QWidget& view);
 
     /// A plain QWidget because it is also used while the editor is being destroyed.
     QPointer<QWidget> m_pEditor;

@@ -1,7 +1,6 @@
 #include "HostUi/DimensionInputController.h"
 
 #include "Command/ActionManager.h"
-#include "Command/IAction.h"
 #include "Command/IActionManager.h"
 #include "Command/TypedValue.h"
 #include "Dimension/ITemporaryDimensionHandler.h"
@@ -58,13 +57,6 @@ void TakeEscape()
 TypedReading Read(const QLineEdit& editor, const InputField& field)
 {
     return ReadTypedText(editor.text(), field.quantity, LengthUnit::GetCurrent());
-}
-
-/// Why the action cannot use a value of a field; empty if it can.
-QString AskAction(InputState field, double modelValue)
-{
-    IAction* pAction = IActionManager::CurrentAction();
-    return pAction != nullptr ? ToQString(pAction->GetRefusal(field, modelValue)) : QString();
 }
 
 }
@@ -500,16 +492,10 @@ void DimensionInputController::UpdateNotes()
     if (m_isKeyStripShown)
         texts.keys = DescribeKeys(field, CommitsWithSpace(reading, field));
     const QPoint corner = pView->mapFromGlobal(pEditor->mapToGlobal(QPoint(0, 0)));
-    m_pNotes->Show(*pView,
-                   {pView->size(), QRect(corner, pEditor->size()), m_cursor, FindTexts(*pView)},
-                   texts);
-}
-
-const std::vector<QRect>& DimensionInputController::FindTexts(const QWidget& view)
-{
     if (!m_texts.has_value())
-        m_texts = FindDimensionTexts(*UiDocumentViewManager::FindCurrentView(), view);
-    return *m_texts;
+        m_texts = FindDimensionTexts(*UiDocumentViewManager::FindCurrentView(), *pView);
+    m_pNotes->Show(*pView, {pView->size(), QRect(corner, pEditor->size()), m_cursor, *m_texts},
+                   texts);
 }
 
 }

@@ -1,5 +1,7 @@
 #include "Input/InputJudge.h"
 
+#include "Command/IAction.h"
+#include "Command/IActionManager.h"
 #include "Dimension/LengthUnit.h"
 #include "Dimension/TemporaryDimensionStyle.h"
 #include "HostUi/QtText.h"
@@ -43,6 +45,12 @@ InputVerdict JudgeInput(const QString& text, const InputField& field, const Leng
     if (reading.isPlain)
         return {{}, std::nullopt, reading.modelValue};
     return {{}, ShortestNumber(reading.value), reading.modelValue};
+}
+
+QString AskAction(InputState field, double modelValue)
+{
+    IAction* pAction = IActionManager::CurrentAction();
+    return pAction != nullptr ? ToQString(pAction->GetRefusal(field, modelValue)) : QString();
 }
 
 QString DescribeValue(const TypedReading& reading, Quantity quantity, const LengthUnit& unit)

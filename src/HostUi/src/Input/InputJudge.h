@@ -28,6 +28,9 @@ struct InputVerdict
 /// Judges a text. Only numbers in the field's range are ever accepted.
 InputVerdict JudgeInput(const QString& text, const InputField& field, const LengthUnit& unit);
 
+/// Why the running action cannot use a value of a field; empty if it can, and without an action.
+QString AskAction(InputState field, double modelValue);
+
 /// The value that was read from a text, shown beside it: "= 70.711 mm". Empty for a plain number
 /// and for a text without a value.
 QString DescribeValue(const TypedReading& reading, Quantity quantity, const LengthUnit& unit);
