@@ -1,5 +1,7 @@
 #include "Input/InputJudge.h"
 
+#include "Texts/HostUiText.h"
+
 #include "Dimension/LengthUnit.h"
 #include "Dimension/TemporaryDimensionStyle.h"
 #include "HostUi/QtText.h"
@@ -14,8 +16,8 @@ namespace
 
 QString DescribeRange(const Intervald& range)
 {
-    return QStringLiteral("请输入 %1 到 %2 之间的数")
-        .arg(QString::number(range.GetMin(), 'g', 12), QString::number(range.GetMax(), 'g', 12));
+    return "请输入 %1 到 %2 之间的数"_tr.arg(QString::number(range.GetMin(), 'g', 12),
+                                             QString::number(range.GetMax(), 'g', 12));
 }
 
 /// As dimensions show it, without trailing zeros; with a few significant digits if it would round
@@ -64,8 +66,7 @@ bool IsTakenWithSpace(const QString& text, const InputField& field, const Length
 
 QString DescribeLateUnit(const QString& unit)
 {
-    return QStringLiteral("空格已经确定了数值，其后的“%1”没有采用；撤销（Ctrl+Z）一次即可取回")
-        .arg(unit);
+    return "空格已经确定了数值，其后的“%1”没有采用；撤销（Ctrl+Z）一次即可取回"_tr.arg(unit);
 }
 
 QString DescribeKeys(const InputField& field, bool isTakenWithSpace)
@@ -74,10 +75,9 @@ QString DescribeKeys(const InputField& field, bool isTakenWithSpace)
     QStringList keys;
     if (field.next != InputState::IS_None)
         keys << pattern.arg(QStringLiteral("Tab"), ToQString(CaptionOf(field.next)));
-    const QString taking =
-        isTakenWithSpace ? QStringLiteral("Enter</b>/<b>空格") : QStringLiteral("Enter");
-    keys << pattern.arg(taking, QStringLiteral("确定"))
-         << pattern.arg(QStringLiteral("Esc"), QStringLiteral("取消"));
+    const QString taking = isTakenWithSpace ? QStringLiteral("Enter</b>/<b>%1").arg("空格"_tr)
+                                            : QStringLiteral("Enter");
+    keys << pattern.arg(taking, "确定"_tr) << pattern.arg(QStringLiteral("Esc"), "取消"_tr);
     return keys.join(QStringLiteral(" · "));
 }
 
