@@ -8,6 +8,7 @@
 #include "Help/HelpCommands.h"
 #include "Model/KeptContent.h"
 #include "Model/ModelFile.h"
+#include "Model/UiText.h"
 #include "OpeningFit.h"
 #include "Output/DrawingExport.h"
 #include "Output/DrawingSource.h"
@@ -252,8 +253,8 @@ void Session::MakeDocuments()
         std::make_unique<Documents>(m_workspace.sketch, m_window, MannersOf(m_options), run);
     QObject::connect(m_pDocuments.get(), &Documents::changed, &m_window, [this] {
         if (m_options.task == Options::Task::Replay)
-            m_window.ShowDocument(
-                ToQString(m_workspace.sketch.GetName()) + QStringLiteral("（查看）"), false);
+            m_window.ShowDocument("%1（查看）"_tr.arg(ToQString(m_workspace.sketch.GetShownName())),
+                                  false);
         else
             m_window.ShowDocument(m_pDocuments->GetDocument().GetName(),
                                   m_pDocuments->IsModified());
@@ -281,8 +282,7 @@ bool Session::OpenFiles()
     if (!isDone)
         Complain(error);
     if (!m_journal.GetSecured().isEmpty())
-        m_window.ShowState(QStringLiteral("secured"),
-                           QStringLiteral("原日志未保存，已移入恢复文件夹"),
+        m_window.ShowState(QStringLiteral("secured"), "原日志未保存，已移入恢复文件夹"_tr,
                            m_journal.GetSecured());
     return isDone;
 }
@@ -297,8 +297,8 @@ bool Session::OpenLog()
     if (isNamed)
         Complain("cannot write " + path.toStdString());
     else
-        m_window.ShowState(QStringLiteral("log"), QStringLiteral("警告未记录"),
-                           QStringLiteral("无法写入警告日志 %1").arg(path));
+        m_window.ShowState(QStringLiteral("log"), "警告未记录"_tr,
+                           "无法写入警告日志 %1"_tr.arg(path));
     return !isNamed;
 }
 
@@ -310,8 +310,8 @@ void Session::RestoreLayout()
     const bool isRestored = m_pPanes->GetLayout().Restore(reading.layout);
     const bool isNewer = reading.content == LayoutFile::Content::Newer;
     if (!isRestored)
-        m_window.ShowNotice(isNewer ? QStringLiteral("面板布局来自更新的版本，已用默认布局")
-                                    : QStringLiteral("面板布局文件已损坏，已用默认布局"));
+        m_window.ShowNotice(isNewer ? "面板布局来自更新的版本，已用默认布局"_tr
+                                    : "面板布局文件已损坏，已用默认布局"_tr);
 }
 
 void Session::SaveLayout()
@@ -337,8 +337,8 @@ int Session::Draw()
     ObeyTerminationRequests();
     RestoreLayout();
     if (!IsWritable(LayoutPath()))
-        m_window.ShowState(QStringLiteral("layout"), QStringLiteral("面板布局不会保存"),
-                           QStringLiteral("无法写入 %1").arg(LayoutPath()));
+        m_window.ShowState(QStringLiteral("layout"), "面板布局不会保存"_tr,
+                           "无法写入 %1"_tr.arg(LayoutPath()));
     m_pKeeping = std::make_unique<KeepingMonitor>(m_window);
     QObject::connect(&m_window, &MainWindow::closeAccepted, &m_window, [this] {
         SaveLayout();

@@ -1,5 +1,6 @@
 #include "Panes/JournalPane.h"
 
+#include "Model/UiText.h"
 #include "Panes/JournalModel.h"
 
 #include "Journal/JournalManager.h"
@@ -19,8 +20,8 @@
 using vesk::JournalManager;
 
 JournalPane::JournalPane()
-    : m_pModel(new JournalModel(this)),
-      m_pState(new QLabel(QStringLiteral("操作没有存入日志文件"))), m_pView(new QListView)
+    : m_pModel(new JournalModel(this)), m_pState(new QLabel("操作没有存入日志文件"_tr)),
+      m_pView(new QListView)
 {
     m_pState->setObjectName(QStringLiteral("JournalState"));
     m_pState->setWordWrap(true);
@@ -34,7 +35,7 @@ JournalPane::JournalPane()
 
     // No shortcut: it would be ambiguous with that of the command that copies entities.
     const QString keys = QKeySequence(QKeySequence::Copy).toString(QKeySequence::NativeText);
-    auto* pCopy = new QAction(QStringLiteral("复制记录\t") + keys, m_pView);
+    auto* pCopy = new QAction("复制记录"_tr + QLatin1Char('\t') + keys, m_pView);
     m_pView->installEventFilter(this);
     connect(pCopy, &QAction::triggered, this, &JournalPane::Copy);
     m_pView->addAction(pCopy);

@@ -1,5 +1,6 @@
 #include "Panes/Panes.h"
 
+#include "Model/UiText.h"
 #include "Model/Workspace.h"
 #include "Panes/EntityPane.h"
 #include "Panes/JournalPane.h"
@@ -55,13 +56,14 @@ Panes::Panes(Workspace& workspace, MainWindow& window, IDockManager& docks, Cont
 {
     auto opInspector = MakeOwner<Inspector>(controls, input);
     m_pInspector = opInspector.Get();
-    Add(IPropertyWidget::GetTypeName(), L"特性", MakeOwner<PropertyPane>(workspace, controls));
+    Add(IPropertyWidget::GetTypeName(), L"特性"_source,
+        MakeOwner<PropertyPane>(workspace, controls));
     auto opEntities = MakeOwner<EntityPane>(workspace);
     connect(opEntities.Get(), &EntityPane::menuRequested, this, &Panes::menuRequested);
-    Add(EntitiesName, L"图元", std::move(opEntities));
-    Add(LayersName, L"图层", MakeOwner<LayerPane>(workspace));
-    Add(JournalName, L"日志", MakeOwner<JournalPane>());
-    Add(InspectorName, L"检查器", std::move(opInspector));
+    Add(EntitiesName, L"图元"_source, std::move(opEntities));
+    Add(LayersName, L"图层"_source, MakeOwner<LayerPane>(workspace));
+    Add(JournalName, L"日志"_source, MakeOwner<JournalPane>());
+    Add(InspectorName, L"检查器"_source, std::move(opInspector));
     m_layout.RestoreDefault();
 
     // Any number of changes at once refresh the panes once.
@@ -82,25 +84,26 @@ Panes::~Panes()
 std::vector<CommandEntry> Panes::MakeCommands()
 {
     std::vector<CommandEntry> entries = {
-        CommandEntry::Plain(L"Sketcher.HideAllPanes", L"隐藏全部面板",
+        CommandEntry::Plain(L"Sketcher.HideAllPanes", L"隐藏全部面板"_source,
                             [this] { m_layout.ToggleAllHidden(); })
             .WithIcon(L"panes-hide")
-            .WithToolTip(L"隐藏全部面板；再按一次恢复原样")
+            .WithToolTip(L"隐藏全部面板；再按一次恢复原样"_source)
             .WithKeys(L"Ctrl+H")
-            .InGroup(L"面板"),
-        CommandEntry::Plain(L"Sketcher.DefaultLayout", L"恢复默认布局",
+            .InGroup(L"面板"_source),
+        CommandEntry::Plain(L"Sketcher.DefaultLayout", L"恢复默认布局"_source,
                             [this] { m_layout.RestoreDefault(); })
             .WithIcon(L"panes-default")
-            .WithToolTip(L"恢复面板的默认布局")
-            .InGroup(L"面板"),
-        CommandEntry::Plain(ShowAllId, L"显示全部面板", [this] { m_docks.ShowAllDockPane(); })
-            .WithToolTip(L"显示全部面板"),
+            .WithToolTip(L"恢复面板的默认布局"_source)
+            .InGroup(L"面板"_source),
+        CommandEntry::Plain(ShowAllId, L"显示全部面板"_source,
+                            [this] { m_docks.ShowAllDockPane(); })
+            .WithToolTip(L"显示全部面板"_source),
     };
     for (const PanePlace& place : FactoryPlaces())
         entries.push_back(CommandEntry::Plain(CommandPrefix + place.name,
                                               m_docks.GetDock(place.name)->GetTitle(),
                                               [this, name = place.name] { Toggle(name); })
-                              .WithToolTip(L"显示或隐藏此面板")
+                              .WithToolTip(L"显示或隐藏此面板"_source)
                               .InMenu(PaneMenu::Id));
     return entries;
 }
@@ -122,7 +125,7 @@ void Panes::OnUiObject(const IJournalUiObject&, int) {}
 
 void Panes::Add(const std::wstring& name, const wchar_t* title, OwnerPtr<IWidget> opContent)
 {
-    OwnerPtr<IDock> opDock = m_docks.CreateDock(name, title);
+    OwnerPtr<IDock> opDock = m_docks.CreateDock(name, Tr(title));
     opDock->SetWidget(std::move(opContent));
     m_docks.AddDock(std::move(opDock), DockArea::Bottom, DockOrientation::Horizontal);
 }
