@@ -71,9 +71,12 @@ QStringList PlacesIn(const QString& text)
     return places;
 }
 
-/// What a text ends with, as English and German write it; empty for an ordinary character.
+/// What a text ends with, as English and German write it; empty for an ordinary character. The full
+/// stop of an abbreviation is none.
 QString EndOf(const QString& text)
 {
+    if (text.endsWith('.') && !text.contains(' '))
+        return {};
     static const QHash<QChar, QString> s_ends = {
         {QChar(0x2026), "…"}, {QChar(0xff1a), ":"}, {':', ":"}, {QChar(0x3002), "."},
         {'.', "."},           {QChar(0xff1f), "?"}, {'?', "?"}, {'\t', "\t"}};

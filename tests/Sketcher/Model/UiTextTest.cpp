@@ -20,11 +20,13 @@ QString Catalogues()
 }
 
 /// The program's texts in a language as long as it lives.
-struct Speaking : TranslationCatalogue
+struct Speaking
 {
     explicit Speaking(QLocale::Language language)
-        : TranslationCatalogue(Catalogues(), "sketcher", QLocale(language))
+        : catalogue(Catalogues(), "sketcher", QLocale(language))
     {}
+
+    TranslationCatalogue catalogue;
 };
 
 }
@@ -92,9 +94,9 @@ private slots:
     {
         Speaking speaking(QLocale::German);
 
-        speaking.SetLocale(QLocale(QLocale::English));
+        speaking.catalogue.SetLocale(QLocale(QLocale::English));
         const QString english = "未选图元"_tr;
-        speaking.SetLocale(QLocale::c());
+        speaking.catalogue.SetLocale(QLocale::c());
 
         QCOMPARE(english, QString("Nothing selected"));
         QCOMPARE("未选图元"_tr, QString("未选图元"));
