@@ -1323,10 +1323,6 @@ Maßeingabe: %2</translation>
             <translation>Neue Objekte auf den ausgewählten Layer zeichnen</translation>
         </message>
         <message>
-            <source>特性</source>
-            <translation>Eigenschaften</translation>
-        </message>
-        <message>
             <source>图元</source>
             <translation>Objekte</translation>
         </message>
@@ -1341,6 +1337,10 @@ Maßeingabe: %2</translation>
         <message>
             <source>检查器</source>
             <translation>Inspektor</translation>
+        </message>
+        <message>
+            <source>特性</source>
+            <translation>Eigenschaften</translation>
         </message>
         <message>
             <source>隐藏全部面板</source>
@@ -1811,10 +1811,6 @@ Maßeingabe: %2</translation>
         <message>
             <source>语言(&amp;L)</source>
             <translation>&amp;Sprache</translation>
-        </message>
-        <message>
-            <source>下次启动时生效</source>
-            <translation>Ab dem nächsten Start</translation>
         </message>
         <message>
             <source>颜色(&amp;C)</source>

@@ -1323,10 +1323,6 @@ Dimension input: %2</translation>
             <translation>New entities go on the selected layer</translation>
         </message>
         <message>
-            <source>特性</source>
-            <translation>Properties</translation>
-        </message>
-        <message>
             <source>图元</source>
             <translation>Entities</translation>
         </message>
@@ -1341,6 +1337,10 @@ Dimension input: %2</translation>
         <message>
             <source>检查器</source>
             <translation>Inspector</translation>
+        </message>
+        <message>
+            <source>特性</source>
+            <translation>Properties</translation>
         </message>
         <message>
             <source>隐藏全部面板</source>
@@ -1811,10 +1811,6 @@ Dimension input: %2</translation>
         <message>
             <source>语言(&amp;L)</source>
             <translation>&amp;Language</translation>
-        </message>
-        <message>
-            <source>下次启动时生效</source>
-            <translation>From the next start</translation>
         </message>
         <message>
             <source>颜色(&amp;C)</source>

@@ -18,12 +18,14 @@
 #include "View/SketchView.h"
 
 #include "Command/ActionManager.h"
+#include "Dimension/LengthUnit.h"
 #include "Foundation/FileRewriting.h"
 #include "Foundation/Text.h"
 #include "HostUi/LayoutFile.h"
 #include "HostUi/PublishConfigFile.h"
 #include "HostUi/QtText.h"
 #include "Journal/JournalManager.h"
+#include "Qtitan/RibbonBar.h"
 #include "Warnings/DebugMessageMgr.h"
 
 #include <QApplication>
@@ -131,6 +133,7 @@ Session::Session(const Options& options)
       m_output(m_workspace, m_window, MakeOutputRunner()),
       m_import(m_workspace, m_window, MakeOutputRunner()),
       m_settingsApplier(m_settings, m_window, m_input, SharedFile(QStringLiteral("translations"))),
+      m_languageSwitch(m_translations, [this] { Rebuild(); }),
       m_clipboard(m_workspace, [this](const QString& text) { m_window.ShowNotice(text); })
 {
     LoadPublishConfig(SharedFile(QStringLiteral("publish.ini")));
@@ -144,20 +147,46 @@ Session::Session(const Options& options)
     QObject::connect(&m_window, &SketcherWindow::unitChanged, m_pPanes.get(), &Panes::Refresh);
     QObject::connect(m_pPanes.get(), &Panes::menuRequested, &m_window,
                      &SketcherWindow::ShowContextMenu);
-    const std::vector<CommandEntry> commands = MakeCommands();
-    RegisterCommands(commands);
+    m_commands = MakeCommands();
+    RegisterCommands(m_commands);
     JournalManager::GetInstance().SetSynced(m_options.repetition.isSynced);
     JournalManager::GetInstance().SetProgram(ProgramName());
     JournalManager::GetInstance().SetDigestSource(
         [this] { return m_workspace.sketch.GetDigest(); });
-    m_window.BuildControls(commands, m_controls);
+    BuildControls();
     m_settingsApplier.Apply(Settings());
-    if (QToolButton* pButton = m_window.GetPaneButton())
-        m_pPanes->Attend(*pButton);
+    QObject::connect(&m_settings, &SettingsStore::changed, &m_languageSwitch,
+                     [this](const Settings& before) {
+                         if (m_settings.Get().language != before.language)
+                             m_languageSwitch.Set(LocaleOf(m_settings.Get()));
+                     });
     if (!m_options.uiTree.isEmpty())
         m_pUiTree = std::make_unique<UiTreeWriter>(m_options.uiTree, m_input, [this] {
             return static_cast<int>(m_workspace.sketch.GetEntities().size());
         });
+}
+
+void Session::BuildControls()
+{
+    m_window.BuildControls(m_commands, m_controls);
+    if (QToolButton* pButton = m_window.GetPaneButton())
+        m_pPanes->Attend(*pButton);
+}
+
+/// Builds what is on screen anew, in the user's language: a tool tip of the library's controls
+/// cannot be changed.
+void Session::Rebuild()
+{
+    const int page = m_window.GetRibbon()->currentPageIndex();
+    const std::wstring unit = LengthUnit::GetCurrent().GetSymbol();
+    m_window.ReleaseControls();
+    m_controls.RemoveAll();
+    m_window.ClearRibbon();
+    m_pPanes->Empty();
+    m_pPanes->Fill();
+    BuildControls();
+    m_window.ChooseUnit(unit);
+    m_window.GetRibbon()->setCurrentPageIndex(page);
 }
 
 /// All commands of the program.

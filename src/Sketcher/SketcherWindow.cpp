@@ -112,9 +112,20 @@ void SketcherWindow::BuildControls(const std::vector<CommandEntry>& commands, Co
     BuildButtons(commands, pages, controls);
     BuildPanels(pages.drawing, controls);
     BuildProgress(controls);
-    m_pContextMenu = std::make_unique<ContextMenu>(commands, *m_pView);
+    // It translates its entries when it opens, and knows which tool was the last.
+    if (m_pContextMenu == nullptr)
+        m_pContextMenu = std::make_unique<ContextMenu>(commands, *m_pView);
     m_panels.push_back(std::make_unique<StepTips>(m_workspace.sketch, *this));
     controls.RefreshControls();
+    OnSketchChanged();
+    ShowPointed();
+}
+
+void SketcherWindow::ClearRibbon()
+{
+    qDeleteAll(std::exchange(m_shortcuts, {}));
+    while (GetRibbon()->pageCount() > 0)
+        delete GetRibbon()->page(0);
 }
 
 void SketcherWindow::ShowContextMenu(const QPoint& position)
@@ -146,7 +157,6 @@ void SketcherWindow::ShowDocument(const QString& name, bool isModified)
 
 void SketcherWindow::ReleaseControls()
 {
-    m_pContextMenu.reset();
     m_pProgress = nullptr;
     m_pPaneButton = nullptr;
     m_pSnaps = nullptr;
@@ -187,6 +197,7 @@ void SketcherWindow::AddShortcut(const CommandEntry& entry, const std::wstring& 
     if (keys.empty())
         return;
     auto* pShortcut = new QShortcut(QKeySequence(ToQString(keys)), this);
+    m_shortcuts.append(pShortcut);
     pShortcut->setContext(Qt::ApplicationShortcut);
     const bool isNotWhileTyping = entry.isNotWhileTyping;
     connect(pShortcut, &QShortcut::activated, &button,

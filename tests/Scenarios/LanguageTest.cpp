@@ -1,5 +1,6 @@
 #include "ScenarioTest.h"
 #include "ScriptedUser.h"
+#include "Settings/SettingsDialog.h"
 #include "SketcherWindow.h"
 
 #include "Qtitan/RibbonGroup.h"
@@ -17,6 +18,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
+#include <QPushButton>
 #include <QRegularExpression>
 #include <QSpinBox>
 #include <QTextBrowser>
@@ -118,6 +120,17 @@ void CloseDialogs()
     }
 }
 
+/// Opens the settings, chooses a language and closes them.
+void ChooseLanguage(const QString& locale)
+{
+    ScriptedUser::FindButton("Sketcher.Settings")->click();
+    QTRY_VERIFY(ScriptedUser::FindWindow()->findChild<SettingsDialog*>() != nullptr);
+    auto* pDialog = ScriptedUser::FindWindow()->findChild<SettingsDialog*>();
+    auto* pBox = pDialog->findChild<QComboBox*>("Language");
+    pBox->setCurrentIndex(pBox->findData(locale));
+    pDialog->findChild<QPushButton*>("Accept")->click();
+}
+
 QString Prompt()
 {
     const auto labels = ScriptedUser::FindWindow()->findChildren<QLabel*>();
@@ -198,6 +211,52 @@ private slots:
         user.Do([prompt] { QTRY_COMPARE(Prompt(), prompt); }).Press(Qt::Key_Escape);
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
+    }
+
+    void languageChosenInTheSettingsHoldsAtOnce_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("title");
+
+        QTest::newRow("English") << "en"
+                                 << "Untitled[*] - Sketcher";
+        QTest::newRow("German") << "de"
+                                << "Unbenannt[*] - Sketcher";
+    }
+
+    void languageChosenInTheSettingsHoldsAtOnce()
+    {
+        QFETCH(QString, language);
+        QFETCH(QString, title);
+        ScriptedUser user;
+        user.DrawLine(0, 0, 50, 20).Click("Sketcher.Unit.cm").Click("Sketcher.Snap.Grid");
+
+        user.Do([language] { ChooseLanguage(language); })
+            .Until([title] { return ScriptedUser::FindWindow()->windowTitle() == title; })
+            .Do([] { QCOMPARE(ChineseTexts(), QStringList()); })
+            .Do([] { QVERIFY(ScriptedUser::FindButton("Sketcher.Unit.cm")->isChecked()); })
+            .Do([] { QVERIFY(ScriptedUser::FindButton("Sketcher.Snap.Grid")->isChecked()); });
+        user.Click("Sketcher.Snap.Grid")
+            .DrawLine(0, 10, 50, 30)
+            .Press(Qt::Key_Z, Qt::ControlModifier);
+
+        QCOMPARE(user.Run(m_pFixture->Draw()), 0);
+        QCOMPARE(Model().size(), 1);
+        VerifyReplay();
+    }
+
+    void languageCanBeChangedAgainAndAgain()
+    {
+        ScriptedUser user;
+
+        for (const char* language : {"de", "en", "zh"})
+            user.Do([language] { ChooseLanguage(language); }).Until([] { return !IsDialogOpen(); });
+        user.Until(
+            [] { return ScriptedUser::FindWindow()->windowTitle() == "未命名[*] - Sketcher"; });
+        user.DrawLine(0, 10, 50, 30);
+
+        QCOMPARE(user.Run(m_pFixture->Draw()), 0);
+        QCOMPARE(Model().size(), 1);
     }
 
     void whatWasDrawnIsReplayedInAnyLanguage_data() { AddLanguages(); }

@@ -73,13 +73,6 @@ void Select(QComboBox& box, const QVariant& value)
     box.setCurrentIndex(std::max(0, box.findData(value)));
 }
 
-QLabel* MakeNote(const QString& text)
-{
-    auto* pNote = new QLabel(text);
-    pNote->setEnabled(false);
-    return pNote;
-}
-
 QSpinBox* MakeAutosave()
 {
     auto* pMinutes = new QSpinBox;
@@ -116,7 +109,6 @@ SettingsDialog::SettingsDialog(const Settings& settings, const QVector<Language>
     auto* pForm = new QFormLayout;
     pForm->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     pForm->addRow("语言(&L)"_tr, m_pLanguage);
-    pForm->addRow(QString(), MakeNote("下次启动时生效"_tr));
     pForm->addRow("颜色(&C)"_tr, m_pColours);
     pForm->addRow("长度单位(&U)"_tr, m_pUnit);
     pForm->addRow("捕捉"_tr, MakeSnaps());
