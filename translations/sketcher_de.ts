@@ -1418,7 +1418,7 @@ Maßeingabe: %2</translation>
         </message>
         <message>
             <source>重做 #%1</source>
-            <translation>Wiederherstellen #%1</translation>
+            <translation>Wiederholen #%1</translation>
         </message>
         <message>
             <source>图纸 %1</source>
@@ -1705,11 +1705,11 @@ Maßeingabe: %2</translation>
         </message>
         <message>
             <source>重做</source>
-            <translation>Wiederherstellen</translation>
+            <translation>Wiederholen</translation>
         </message>
         <message>
             <source>重做上一步</source>
-            <translation>Letzten Schritt wiederherstellen</translation>
+            <translation>Letzten Schritt wiederholen</translation>
         </message>
         <message>
             <source>长度以此单位显示和键入；图形不变</source>
@@ -1922,7 +1922,7 @@ Maßeingabe: %2</translation>
         </message>
         <message>
             <source>重做(&amp;R)</source>
-            <translation>&amp;Wiederherstellen</translation>
+            <translation>&amp;Wiederholen</translation>
         </message>
         <message>
             <source>剪切(&amp;T)</source>
@@ -2290,7 +2290,7 @@ Trotzdem löschen?</translation>
         </message>
         <message>
             <source>交点</source>
-            <translation>Schnittpunkt</translation>
+            <translation>Schnitt</translation>
         </message>
         <message>
             <source>栅格</source>

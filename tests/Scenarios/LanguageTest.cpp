@@ -131,6 +131,14 @@ void ChooseLanguage(const QString& locale)
     pDialog->findChild<QPushButton*>("Accept")->click();
 }
 
+int CountRecords()
+{
+    return ScriptedUser::FindWindow()
+        ->findChild<QAbstractItemView*>("JournalRecords")
+        ->model()
+        ->rowCount();
+}
+
 QString Prompt()
 {
     const auto labels = ScriptedUser::FindWindow()->findChildren<QLabel*>();
@@ -243,6 +251,21 @@ private slots:
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
         QCOMPARE(Model().size(), 1);
         VerifyReplay();
+    }
+
+    void journalPaneKeepsItsRecords()
+    {
+        ScriptedUser user;
+        int before = 0;
+
+        user.DrawLine(0, 0, 50, 20).Do([&before] { before = CountRecords(); });
+        user.Do([] { ChooseLanguage("de"); }).Until([] {
+            return ScriptedUser::FindWindow()->windowTitle() == "Unbenannt[*] - Sketcher";
+        });
+
+        user.Do([&before] { QTRY_VERIFY(CountRecords() >= before); });
+        QCOMPARE(user.Run(m_pFixture->Draw()), 0);
+        QVERIFY(before > 0);
     }
 
     void languageCanBeChangedAgainAndAgain()

@@ -90,6 +90,7 @@ Panes::Panes(Workspace& workspace, MainWindow& window, IDockManager& docks, Cont
     for (const PanePlace& place : FactoryPlaces())
         m_docks.AddDock(m_docks.CreateDock(place.name, Tr(TitleOf(place.name))), DockArea::Bottom,
                         DockOrientation::Horizontal);
+    m_docks.GetDock(JournalName)->SetWidget(MakeOwner<JournalPane>());
     Fill();
     m_layout.RestoreDefault();
 
@@ -154,7 +155,10 @@ void Panes::Empty()
     m_refresh.stop();
     m_pInspector->Stop();
     for (const PanePlace& place : FactoryPlaces())
-        delete dynamic_cast<QWidget*>(m_docks.GetDock(place.name)->GetWidget());
+    {
+        if (place.name != JournalName)
+            delete dynamic_cast<QWidget*>(m_docks.GetDock(place.name)->GetWidget());
+    }
     m_pInspector = nullptr;
 }
 
@@ -164,20 +168,15 @@ void Panes::Fill()
     m_pInspector = opInspector.Get();
     auto opEntities = MakeOwner<EntityPane>(m_workspace);
     connect(opEntities.Get(), &EntityPane::menuRequested, this, &Panes::menuRequested);
-    Show(IPropertyWidget::GetTypeName(), MakeOwner<PropertyPane>(m_workspace, m_controls));
-    Show(EntitiesName, std::move(opEntities));
-    Show(LayersName, MakeOwner<LayerPane>(m_workspace));
-    Show(JournalName, MakeOwner<JournalPane>());
-    Show(InspectorName, std::move(opInspector));
+    m_docks.GetDock(IPropertyWidget::GetTypeName())
+        ->SetWidget(MakeOwner<PropertyPane>(m_workspace, m_controls));
+    m_docks.GetDock(EntitiesName)->SetWidget(std::move(opEntities));
+    m_docks.GetDock(LayersName)->SetWidget(MakeOwner<LayerPane>(m_workspace));
+    m_docks.GetDock(InspectorName)->SetWidget(std::move(opInspector));
+    for (const PanePlace& place : FactoryPlaces())
+        m_docks.GetDock(place.name)->SetTitle(Tr(TitleOf(place.name)));
     NameDockButtons(m_window);
     Refresh();
-}
-
-void Panes::Show(const std::wstring& name, OwnerPtr<IWidget> opContent)
-{
-    IDock& dock = *m_docks.GetDock(name);
-    dock.SetTitle(Tr(TitleOf(name)));
-    dock.SetWidget(std::move(opContent));
 }
 
 void Panes::Mark(QMenu& menu)

@@ -37,10 +37,11 @@ public:
           vesk::ControlHost& controls, const vesk::DimensionInputController& input);
     ~Panes() override;
 
-    /// Destroys the contents of all panes; the controls in them are destroyed already.
+    /// Destroys the contents of the panes; the controls in them are destroyed already. That of the
+    /// journal stays: it has the records so far, and follows the language by itself.
     void Empty();
 
-    /// Creates the contents of all panes and shows their titles, in the user's language.
+    /// Creates these contents, and shows the titles of all panes in the user's language.
     void Fill();
 
     vesk::PaneLayout& GetLayout() { return m_layout; }
@@ -67,7 +68,6 @@ signals:
     void menuRequested(const QPoint& position);
 
 private:
-    void Show(const std::wstring& name, vesk::OwnerPtr<vesk::IWidget> opContent);
     void Mark(QMenu& menu);
     void Toggle(const std::wstring& name);
     void OnAllChosen();
