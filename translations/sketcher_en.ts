@@ -1284,7 +1284,7 @@ Dimension input: %2</translation>
         </message>
         <message>
             <source>可见</source>
-            <translation>Visible</translation>
+            <translation>On</translation>
         </message>
         <message>
             <source>不可见的图层不显示，也不能选取和捕捉</source>
@@ -1292,7 +1292,7 @@ Dimension input: %2</translation>
         </message>
         <message>
             <source>锁定</source>
-            <translation>Locked</translation>
+            <translation>Lock</translation>
         </message>
         <message>
             <source>锁定的图层可以捕捉，但不能选取和修改</source>
