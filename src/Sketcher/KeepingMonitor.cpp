@@ -1,5 +1,7 @@
 #include "KeepingMonitor.h"
 
+#include "Model/UiText.h"
+
 #include "HostUi/MainWindow.h"
 
 using namespace vesk;
@@ -28,8 +30,8 @@ void KeepingMonitor::Update()
     if (isKept == m_isKept)
         return;
     m_isKept = isKept;
-    m_window.ShowState(QStringLiteral("journal"), isKept ? QString() : QStringLiteral("日志未保存"),
-                       QStringLiteral("日志文件无法写入，所做的操作没有保存"));
-    m_window.ShowNotice(isKept ? QStringLiteral("日志文件又可写入，缺少的记录已补上")
-                               : QStringLiteral("日志文件无法写入，从现在起所做的操作没有保存"));
+    m_window.ShowState(QStringLiteral("journal"), isKept ? QString() : "日志未保存"_tr,
+                       "日志文件无法写入，所做的操作没有保存"_tr);
+    m_window.ShowNotice(isKept ? "日志文件又可写入，缺少的记录已补上"_tr
+                               : "日志文件无法写入，从现在起所做的操作没有保存"_tr);
 }

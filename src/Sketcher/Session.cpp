@@ -8,6 +8,7 @@
 #include "Help/HelpCommands.h"
 #include "Model/KeptContent.h"
 #include "Model/ModelFile.h"
+#include "Model/UiText.h"
 #include "OpeningFit.h"
 #include "Output/DrawingExport.h"
 #include "Output/DrawingSource.h"
@@ -17,12 +18,14 @@
 #include "View/SketchView.h"
 
 #include "Command/ActionManager.h"
+#include "Dimension/LengthUnit.h"
 #include "Foundation/FileRewriting.h"
 #include "Foundation/Text.h"
 #include "HostUi/LayoutFile.h"
 #include "HostUi/PublishConfigFile.h"
 #include "HostUi/QtText.h"
 #include "Journal/JournalManager.h"
+#include "Qtitan/RibbonBar.h"
 #include "Warnings/DebugMessageMgr.h"
 
 #include <QApplication>
@@ -130,6 +133,7 @@ Session::Session(const Options& options)
       m_output(m_workspace, m_window, MakeOutputRunner()),
       m_import(m_workspace, m_window, MakeOutputRunner()),
       m_settingsApplier(m_settings, m_window, m_input, SharedFile(QStringLiteral("translations"))),
+      m_languageSwitch(m_translations, [this] { Rebuild(); }),
       m_clipboard(m_workspace, [this](const QString& text) { m_window.ShowNotice(text); })
 {
     LoadPublishConfig(SharedFile(QStringLiteral("publish.ini")));
@@ -143,20 +147,46 @@ Session::Session(const Options& options)
     QObject::connect(&m_window, &SketcherWindow::unitChanged, m_pPanes.get(), &Panes::Refresh);
     QObject::connect(m_pPanes.get(), &Panes::menuRequested, &m_window,
                      &SketcherWindow::ShowContextMenu);
-    const std::vector<CommandEntry> commands = MakeCommands();
-    RegisterCommands(commands);
+    m_commands = MakeCommands();
+    RegisterCommands(m_commands);
     JournalManager::GetInstance().SetSynced(m_options.repetition.isSynced);
     JournalManager::GetInstance().SetProgram(ProgramName());
     JournalManager::GetInstance().SetDigestSource(
         [this] { return m_workspace.sketch.GetDigest(); });
-    m_window.BuildControls(commands, m_controls);
+    BuildControls();
     m_settingsApplier.Apply(Settings());
-    if (QToolButton* pButton = m_window.GetPaneButton())
-        m_pPanes->Attend(*pButton);
+    QObject::connect(&m_settings, &SettingsStore::changed, &m_languageSwitch,
+                     [this](const Settings& before) {
+                         if (m_settings.Get().language != before.language)
+                             m_languageSwitch.Set(LocaleOf(m_settings.Get()));
+                     });
     if (!m_options.uiTree.isEmpty())
         m_pUiTree = std::make_unique<UiTreeWriter>(m_options.uiTree, m_input, [this] {
             return static_cast<int>(m_workspace.sketch.GetEntities().size());
         });
+}
+
+void Session::BuildControls()
+{
+    m_window.BuildControls(m_commands, m_controls);
+    if (QToolButton* pButton = m_window.GetPaneButton())
+        m_pPanes->Attend(*pButton);
+}
+
+/// Builds what is on screen anew, in the user's language: a tool tip of the library's controls
+/// cannot be changed.
+void Session::Rebuild()
+{
+    const int page = m_window.GetRibbon()->currentPageIndex();
+    const std::wstring unit = LengthUnit::GetCurrent().GetSymbol();
+    m_window.ReleaseControls();
+    m_controls.RemoveAll();
+    m_window.ClearRibbon();
+    m_pPanes->Empty();
+    m_pPanes->Fill();
+    BuildControls();
+    m_window.ChooseUnit(unit);
+    m_window.GetRibbon()->setCurrentPageIndex(page);
 }
 
 /// All commands of the program.
@@ -252,8 +282,8 @@ void Session::MakeDocuments()
         std::make_unique<Documents>(m_workspace.sketch, m_window, MannersOf(m_options), run);
     QObject::connect(m_pDocuments.get(), &Documents::changed, &m_window, [this] {
         if (m_options.task == Options::Task::Replay)
-            m_window.ShowDocument(
-                ToQString(m_workspace.sketch.GetName()) + QStringLiteral("（查看）"), false);
+            m_window.ShowDocument("%1（查看）"_tr.arg(ToQString(m_workspace.sketch.GetShownName())),
+                                  false);
         else
             m_window.ShowDocument(m_pDocuments->GetDocument().GetName(),
                                   m_pDocuments->IsModified());
@@ -281,8 +311,7 @@ bool Session::OpenFiles()
     if (!isDone)
         Complain(error);
     if (!m_journal.GetSecured().isEmpty())
-        m_window.ShowState(QStringLiteral("secured"),
-                           QStringLiteral("原日志未保存，已移入恢复文件夹"),
+        m_window.ShowState(QStringLiteral("secured"), "原日志未保存，已移入恢复文件夹"_tr,
                            m_journal.GetSecured());
     return isDone;
 }
@@ -297,8 +326,8 @@ bool Session::OpenLog()
     if (isNamed)
         Complain("cannot write " + path.toStdString());
     else
-        m_window.ShowState(QStringLiteral("log"), QStringLiteral("警告未记录"),
-                           QStringLiteral("无法写入警告日志 %1").arg(path));
+        m_window.ShowState(QStringLiteral("log"), "警告未记录"_tr,
+                           "无法写入警告日志 %1"_tr.arg(path));
     return !isNamed;
 }
 
@@ -310,8 +339,8 @@ void Session::RestoreLayout()
     const bool isRestored = m_pPanes->GetLayout().Restore(reading.layout);
     const bool isNewer = reading.content == LayoutFile::Content::Newer;
     if (!isRestored)
-        m_window.ShowNotice(isNewer ? QStringLiteral("面板布局来自更新的版本，已用默认布局")
-                                    : QStringLiteral("面板布局文件已损坏，已用默认布局"));
+        m_window.ShowNotice(isNewer ? "面板布局来自更新的版本，已用默认布局"_tr
+                                    : "面板布局文件已损坏，已用默认布局"_tr);
 }
 
 void Session::SaveLayout()
@@ -337,8 +366,8 @@ int Session::Draw()
     ObeyTerminationRequests();
     RestoreLayout();
     if (!IsWritable(LayoutPath()))
-        m_window.ShowState(QStringLiteral("layout"), QStringLiteral("面板布局不会保存"),
-                           QStringLiteral("无法写入 %1").arg(LayoutPath()));
+        m_window.ShowState(QStringLiteral("layout"), "面板布局不会保存"_tr,
+                           "无法写入 %1"_tr.arg(LayoutPath()));
     m_pKeeping = std::make_unique<KeepingMonitor>(m_window);
     QObject::connect(&m_window, &MainWindow::closeAccepted, &m_window, [this] {
         SaveLayout();

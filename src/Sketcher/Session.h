@@ -4,6 +4,7 @@
 #include "DialogSizes.h"
 #include "Documents/Documents.h"
 #include "KeepingMonitor.h"
+#include "LanguageSwitch.h"
 #include "Model/Workspace.h"
 #include "Options.h"
 #include "Output/ImportCommands.h"
@@ -68,6 +69,8 @@ private:
 
     std::vector<CommandEntry> MakeCommands();
     OutputRunner MakeOutputRunner();
+    void BuildControls();
+    void Rebuild();
     void RunWork(const std::function<void(WorkProgress&)>& work);
     void MakeDocuments();
     bool OpenFiles();
@@ -100,6 +103,7 @@ private:
     std::vector<vesk::JournalRecord> m_records;
     std::map<std::wstring, std::function<bool(const vesk::CommandParameters&)>> m_possibilities;
     std::map<std::wstring, std::wstring> m_captions;
+    std::vector<CommandEntry> m_commands;
 
     /// Files not named by an option that could not be written at the end.
     QStringList m_unwritten;
@@ -121,6 +125,7 @@ private:
     OutputCommands m_output;
     ImportCommands m_import;
     SettingsApplier m_settingsApplier;
+    LanguageSwitch m_languageSwitch;
     std::unique_ptr<Panes> m_pPanes;
     std::unique_ptr<Documents> m_pDocuments;
     ClipboardCommands m_clipboard;

@@ -2,6 +2,7 @@
 
 #include "BackgroundWork.h"
 #include "Model/KeptContent.h"
+#include "Model/UiText.h"
 #include "Model/Workspace.h"
 #include "Options.h"
 #include "Recovery/RecoverContent.h"
@@ -79,7 +80,7 @@ SessionRecovery::SessionRecovery(Workspace& workspace, SketcherWindow& window,
       m_offer(window, SessionJournal::GetFolders(),
               {[this](const std::wstring& id) {
                    const auto found = m_captions.find(id);
-                   return found != m_captions.end() ? ToQString(found->second) : QString();
+                   return found != m_captions.end() ? ToQString(Tr(found->second)) : QString();
                },
                [this](const UnsavedWork& work) { return GoOn(work); },
                [this](const UnsavedWork& work) { Look(work); }})
@@ -104,8 +105,7 @@ RecoveryOffer::Result SessionRecovery::GoOn(const UnsavedWork& work)
     KeptContent::Get().SetSource(work.journal);
     if (!LeaveDrawing(VersionOf(records)))
     {
-        m_window.ShowNotice(
-            QStringLiteral("日志文件无法写入，现有的图纸会丢失，不能继续上次的操作"));
+        m_window.ShowNotice("日志文件无法写入，现有的图纸会丢失，不能继续上次的操作"_tr);
         return RecoveryOffer::Result::Cancelled;
     }
     std::optional<JournalReplayResult> result = ReplayFromSnapshot(work.journal, records);
@@ -118,10 +118,9 @@ RecoveryOffer::Result SessionRecovery::GoOn(const UnsavedWork& work)
         return RecoveryOffer::Result::Cancelled;
     if (result->failure.empty())
         return RecoveryOffer::Result::Done;
-    m_window.ShowState(
-        QStringLiteral("reading"),
-        QStringLiteral("第 %1 条记录无法重做，其后的操作没有恢复").arg(result->failedNumber),
-        QString::fromStdString(result->failure));
+    m_window.ShowState(QStringLiteral("reading"),
+                       "第 %1 条记录无法重做，其后的操作没有恢复"_tr.arg(result->failedNumber),
+                       QString::fromStdString(result->failure));
     return RecoveryOffer::Result::Partly;
 }
 

@@ -3,6 +3,7 @@
 #include "Session.h"
 
 #include "Complaint.h"
+#include "Model/UiText.h"
 #include "OpeningFit.h"
 #include "Output/DrawingSource.h"
 #include "View/SketchView.h"
@@ -138,8 +139,8 @@ void Session::ShowReplay()
     ObeyTerminationRequests();
     // Without a journal there is nothing that could fail to be kept.
     if (m_options.journal.isEmpty())
-        m_window.ShowState(QStringLiteral("replay"), QStringLiteral("仅供查看"),
-                           QStringLiteral("在此窗口中所做的操作不会保存"));
+        m_window.ShowState(QStringLiteral("replay"), "仅供查看"_tr,
+                           "在此窗口中所做的操作不会保存"_tr);
     else
         m_pKeeping = std::make_unique<KeepingMonitor>(m_window);
     m_window.show();
@@ -196,11 +197,10 @@ int Session::GetLastNumber() const
 void Session::ShowFailure(const JournalReplayResult& result)
 {
     const QString much = QStringLiteral("%1 / %2").arg(result.repeatedCount).arg(m_records.size());
-    const QString text =
-        QStringLiteral("第 %1 条记录无法重做，已恢复 %2 条").arg(result.failedNumber).arg(much);
+    const QString text = "第 %1 条记录无法重做，已恢复 %2 条"_tr.arg(result.failedNumber).arg(much);
     const QString reason = QString::fromStdString(result.failure);
     m_window.ShowState(QStringLiteral("reading"), text, reason);
-    m_window.ShowNotice(text + QStringLiteral("（%1）").arg(reason));
+    m_window.ShowNotice(text + "（%1）"_tr.arg(reason));
 }
 
 void Session::ShowOtherJournal(const QString& path)
@@ -209,5 +209,5 @@ void Session::ShowOtherJournal(const QString& path)
         return;
     Complain(m_options.journal.toStdString() + " is left unchanged; the journal continues in " +
              path.toStdString());
-    m_window.ShowState(QStringLiteral("other journal"), QStringLiteral("日志改存于另一文件"), path);
+    m_window.ShowState(QStringLiteral("other journal"), "日志改存于另一文件"_tr, path);
 }

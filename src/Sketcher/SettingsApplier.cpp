@@ -1,6 +1,7 @@
 #include "SettingsApplier.h"
 
 #include "DataFile.h"
+#include "Model/UiText.h"
 #include "Ribbon/CommandEntry.h"
 #include "Settings/Languages.h"
 #include "Settings/SettingsDialog.h"
@@ -40,17 +41,17 @@ void SettingsApplier::ShowDialog()
     pDialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(pDialog, &SettingsDialog::accepted, this, [this, pDialog] {
         if (!m_store.Set(pDialog->Get()))
-            m_window.ShowNotice(QStringLiteral("无法保存设置：%1").arg(m_store.GetPath()));
+            m_window.ShowNotice("无法保存设置：%1"_tr.arg(m_store.GetPath()));
     });
     pDialog->open();
 }
 
 CommandEntry SettingsApplier::MakeCommand()
 {
-    return CommandEntry::Dialog(L"Sketcher.Settings", L"设置", [this] { ShowDialog(); })
+    return CommandEntry::Dialog(L"Sketcher.Settings", L"设置"_source, [this] { ShowDialog(); })
         .WithIcon(L"settings")
-        .WithToolTip(L"语言、颜色、单位、捕捉、按键和日志")
+        .WithToolTip(L"语言、颜色、单位、捕捉、按键和日志"_source)
         .WithKeys(L"Ctrl+,")
-        .InGroup(L"帮助")
+        .InGroup(L"帮助"_source)
         .OnStartPage();
 }

@@ -1,5 +1,6 @@
 #include "SketcherWindow.h"
 
+#include "Model/UiText.h"
 #include "Model/Workspace.h"
 #include "Ribbon/CommandMenus.h"
 #include "Ribbon/CommandTable.h"
@@ -48,7 +49,7 @@ namespace
 {
 
 /// Drawing tools are used all day.
-constexpr wchar_t LargeGroup[] = L"绘图";
+constexpr const wchar_t* LargeGroup = L"绘图"_source;
 
 using Groups = std::map<std::wstring, Qtitan::RibbonGroup*>;
 
@@ -56,14 +57,15 @@ using Groups = std::map<std::wstring, Qtitan::RibbonGroup*>;
 Groups AddStartGroups(const std::vector<CommandEntry>& commands, Qtitan::RibbonPage& page)
 {
     Groups groups;
-    for (const wchar_t* caption : {L"文件", L"输出", L"剪贴板", L"选择", L"帮助"})
+    for (const wchar_t* caption :
+         {L"文件"_source, L"输出"_source, L"剪贴板"_source, L"选择"_source, L"帮助"_source})
     {
         const bool isUsed =
             std::any_of(commands.begin(), commands.end(), [caption](const CommandEntry& entry) {
                 return entry.isOnStartPage && entry.group == caption;
             });
         if (isUsed)
-            groups[caption] = page.addGroup(ToQString(caption));
+            groups[caption] = page.addGroup(ToQString(Tr(caption)));
     }
     return groups;
 }
@@ -71,7 +73,7 @@ Groups AddStartGroups(const std::vector<CommandEntry>& commands, Qtitan::RibbonP
 OwnerPtr<CommandButtonDefinition> MakeDefinition(const CommandEntry& entry)
 {
     auto opDefinition = MakeOwner<CommandButtonDefinition>(entry.id, entry.id);
-    opDefinition->SetCaption(entry.caption);
+    opDefinition->SetCaption(entry.GetCaption());
     opDefinition->SetTooltip(entry.GetToolTip());
     opDefinition->SetIconPath(entry.iconPath);
     opDefinition->SetVisible(false);
@@ -105,15 +107,25 @@ SketcherWindow::~SketcherWindow() = default;
 
 void SketcherWindow::BuildControls(const std::vector<CommandEntry>& commands, ControlHost& controls)
 {
-    const Pages pages{*GetRibbon()->addPage(QStringLiteral("开始")),
-                      *GetRibbon()->addPage(QStringLiteral("草图"))};
+    const Pages pages{*GetRibbon()->addPage("开始"_tr), *GetRibbon()->addPage("草图"_tr)};
     GetRibbon()->setCurrentPageIndex(1);
     BuildButtons(commands, pages, controls);
     BuildPanels(pages.drawing, controls);
     BuildProgress(controls);
-    m_pContextMenu = std::make_unique<ContextMenu>(commands, *m_pView);
+    // It translates its entries when it opens, and knows which tool was the last.
+    if (m_pContextMenu == nullptr)
+        m_pContextMenu = std::make_unique<ContextMenu>(commands, *m_pView);
     m_panels.push_back(std::make_unique<StepTips>(m_workspace.sketch, *this));
     controls.RefreshControls();
+    OnSketchChanged();
+    ShowPointed();
+}
+
+void SketcherWindow::ClearRibbon()
+{
+    qDeleteAll(std::exchange(m_shortcuts, {}));
+    while (GetRibbon()->pageCount() > 0)
+        delete GetRibbon()->page(0);
 }
 
 void SketcherWindow::ShowContextMenu(const QPoint& position)
@@ -145,7 +157,6 @@ void SketcherWindow::ShowDocument(const QString& name, bool isModified)
 
 void SketcherWindow::ReleaseControls()
 {
-    m_pContextMenu.reset();
     m_pProgress = nullptr;
     m_pPaneButton = nullptr;
     m_pSnaps = nullptr;
@@ -165,7 +176,7 @@ void SketcherWindow::BuildButtons(const std::vector<CommandEntry>& commands, con
         Qtitan::RibbonPage& page = entry.isOnStartPage ? pages.start : pages.drawing;
         Qtitan::RibbonGroup*& pGroup = (entry.isOnStartPage ? startGroups : groups)[entry.group];
         if (pGroup == nullptr)
-            pGroup = page.addGroup(ToQString(entry.group));
+            pGroup = page.addGroup(ToQString(Tr(entry.group)));
         auto* pButton = qobject_cast<QToolButton*>(controls.Create(MakeDefinition(entry)));
         if (pButton == nullptr)
             continue;
@@ -176,8 +187,8 @@ void SketcherWindow::BuildButtons(const std::vector<CommandEntry>& commands, con
         for (const std::wstring& keys : {entry.keys, entry.otherKeys})
             AddShortcut(entry, keys, *pButton, controls);
     }
-    AddMenu(MakeZoomMenu(commands), *groups[L"视图"], controls);
-    m_pPaneButton = AddMenu(MakePaneMenu(commands), *groups[L"面板"], controls);
+    AddMenu(MakeZoomMenu(commands), *groups[L"视图"_source], controls);
+    m_pPaneButton = AddMenu(MakePaneMenu(commands), *groups[L"面板"_source], controls);
 }
 
 void SketcherWindow::AddShortcut(const CommandEntry& entry, const std::wstring& keys,
@@ -186,6 +197,7 @@ void SketcherWindow::AddShortcut(const CommandEntry& entry, const std::wstring& 
     if (keys.empty())
         return;
     auto* pShortcut = new QShortcut(QKeySequence(ToQString(keys)), this);
+    m_shortcuts.append(pShortcut);
     pShortcut->setContext(Qt::ApplicationShortcut);
     const bool isNotWhileTyping = entry.isNotWhileTyping;
     connect(pShortcut, &QShortcut::activated, &button,
@@ -222,9 +234,9 @@ QToolButton* SketcherWindow::AddMenu(OwnerPtr<CommandButtonMenuDefinition> opDef
 
 void SketcherWindow::BuildPanels(Qtitan::RibbonPage& page, ControlHost& controls)
 {
-    Qtitan::RibbonGroup* pLines = page.addGroup(QStringLiteral("线条"));
-    Qtitan::RibbonGroup* pDrafting = page.addGroup(QStringLiteral("绘图设置"));
-    Qtitan::RibbonGroup* pDrawing = page.addGroup(QStringLiteral("图纸"));
+    Qtitan::RibbonGroup* pLines = page.addGroup("线条"_tr);
+    Qtitan::RibbonGroup* pDrafting = page.addGroup("绘图设置"_tr);
+    Qtitan::RibbonGroup* pDrawing = page.addGroup("图纸"_tr);
     m_panels.push_back(std::make_unique<PenPanel>(m_workspace, *pLines, *pDrawing, controls));
     auto pSnaps = std::make_unique<SnapPanel>(m_workspace.snapper, *pDrafting, controls);
     m_pSnaps = pSnaps.get();
@@ -241,7 +253,7 @@ void SketcherWindow::BuildProgress(ControlHost& controls)
 {
     auto opProgress = MakeOwner<ProgressBarDefinition>(L"Sketcher.Progress");
     ProgressBarDefinition* pProgress = opProgress.Get();
-    pProgress->SetTooltip(L"正在进行的操作的进度；Esc 取消");
+    pProgress->SetTooltip(L"正在进行的操作的进度；Esc 取消"_tr);
     pProgress->SetVisible(false);
     QWidget* pWidget = controls.Create(OwnerPtr<IProgressBarDefinition>(std::move(opProgress)));
     if (pWidget == nullptr)
@@ -271,7 +283,7 @@ void SketcherWindow::ShowPointed()
 void SketcherWindow::OnSketchChanged()
 {
     QString name =
-        m_documentName.isEmpty() ? ToQString(m_workspace.sketch.GetName()) : m_documentName;
+        m_documentName.isEmpty() ? ToQString(m_workspace.sketch.GetShownName()) : m_documentName;
     // A name that looks like the place of the mark is not one.
     name.replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
     setWindowTitle(name + QStringLiteral("[*] - Sketcher"));

@@ -12,6 +12,7 @@
 
 class ContextMenu;
 class QLabel;
+class QShortcut;
 class QToolButton;
 class SketchView;
 class SnapPanel;
@@ -48,6 +49,10 @@ public:
 
     /// Creates all controls: a button or a menu entry for each command, and the panels.
     void BuildControls(const std::vector<CommandEntry>& commands, vesk::ControlHost& controls);
+
+    /// Removes all pages of the ribbon and the keys of its buttons, so that BuildControls can be
+    /// called again. The controls are destroyed already.
+    void ClearRibbon();
 
     /// The progress of opening a drawing; null if there is no such control. Not owned.
     vesk::ProgressBarDefinition* GetProgress() const { return m_pProgress; }
@@ -101,6 +106,7 @@ private:
     QLabel* m_pPointed; ///< What is under the cursor, in the status bar.
     vesk::ProgressBarDefinition* m_pProgress = nullptr;
     QToolButton* m_pPaneButton = nullptr;
+    QVector<QShortcut*> m_shortcuts;
     std::unique_ptr<ContextMenu> m_pContextMenu;
     std::vector<std::unique_ptr<QObject>> m_panels;
     SnapPanel* m_pSnaps = nullptr; ///< These two are among the panels.

@@ -1,6 +1,7 @@
 #include "VeskUiQtImpl/DebugWarnDialog.h"
 
 #include "Foundation/IPublishConfig.h"
+#include "Foundation/SourceText.h"
 #include "VeskUiQtImpl/DebugWarnText.h"
 
 #include "HostUi/QtText.h"
@@ -85,7 +86,7 @@ void DebugWarnDialog::Publish()
     const QString hidden = QStringLiteral("******");
     m_form.pIgnore->hide();
     m_form.pDebug->hide();
-    m_form.pIgnoreAll->setText(DebugWarnText(L"确定"));
+    m_form.pIgnoreAll->setText(DebugWarnText(L"确定"_source));
     m_form.pIgnoreAll->setDefault(true);
     Show(*m_form.pPerson, hidden);
     Show(*m_form.pDate, hidden);

@@ -2,6 +2,8 @@
 
 #include "VeskUiQtImpl/DebugWarnText.h"
 
+#include "Foundation/SourceText.h"
+
 #include <QDialog>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -9,6 +11,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTextEdit>
+
+using vesk::operator""_source;
 
 namespace
 {
@@ -62,7 +66,7 @@ QPushButton* AddButton(const wchar_t* text, QWidget* pRow)
 
 void DebugWarnForm::Build(QDialog* pDialog)
 {
-    pDialog->setWindowTitle(DebugWarnText(L"调试警告"));
+    pDialog->setWindowTitle(DebugWarnText(L"调试警告"_source));
     // The contents do not move on resize, so a smaller window would gain nothing.
     pDialog->setMinimumSize(485, 393);
     pDialog->resize(485, 393);
@@ -80,11 +84,11 @@ void DebugWarnForm::BuildReport(QWidget* pDialog)
     auto* pGroup = new QGroupBox(pDialog);
     pGroup->setGeometry(10, 370, 181, 16);
     const QFont font(QStringLiteral("宋体"), 12);
-    MakeLabel(L"用户名：", {10, 30, 54, 16}, pGroup)->setFont(font);
-    MakeLabel(L"密码：", {190, 30, 41, 16}, pGroup)->setFont(font);
+    MakeLabel(L"用户名："_source, {10, 30, 54, 16}, pGroup)->setFont(font);
+    MakeLabel(L"密码："_source, {190, 30, 41, 16}, pGroup)->setFont(font);
     pUserName = MakeDisabledEdit({70, 30, 81, 20}, pGroup);
     pPassword = MakeDisabledEdit({250, 30, 91, 20}, pGroup);
-    pReportBug = new QPushButton(DebugWarnText(L"报告"), pGroup);
+    pReportBug = new QPushButton(DebugWarnText(L"报告"_source), pGroup);
     pReportBug->setGeometry(380, 30, 91, 23);
     pReportBug->setEnabled(false);
 }
@@ -95,29 +99,29 @@ void DebugWarnForm::BuildButtons(QWidget* pDialog)
     pRow->setGeometry(200, 360, 281, 31);
     auto* pLayout = new QHBoxLayout(pRow);
     pLayout->setContentsMargins(0, 0, 0, 0);
-    pIgnore = AddButton(L"忽略一次", pRow);
+    pIgnore = AddButton(L"忽略一次"_source, pRow);
     pIgnore->setDefault(true);
-    pIgnoreAll = AddButton(L"忽略所有", pRow);
-    pDebug = AddButton(L"调试", pRow);
+    pIgnoreAll = AddButton(L"忽略所有"_source, pRow);
+    pDebug = AddButton(L"调试"_source, pRow);
 }
 
 void DebugWarnForm::BuildInformation(QWidget* pDialog)
 {
-    auto* pGroup = new QGroupBox(DebugWarnText(L"信息"), pDialog);
+    auto* pGroup = new QGroupBox(DebugWarnText(L"信息"_source), pDialog);
     pGroup->setGeometry(9, 193, 471, 161);
     pMessage = MakeBox({10, 20, 451, 131}, pGroup);
 }
 
 void DebugWarnForm::BuildFields(QWidget* pDialog)
 {
-    MakeLabel(L"文件：", {10, 10, 48, 23}, pDialog);
+    MakeLabel(L"文件："_source, {10, 10, 48, 23}, pDialog);
     pFile = MakeBox({60, 10, 420, 41}, pDialog);
-    MakeLabel(L"行号：", {10, 60, 48, 23}, pDialog);
+    MakeLabel(L"行号："_source, {10, 60, 48, 23}, pDialog);
     pLine = MakeField<QLineEdit>({60, 60, 200, 22}, pDialog);
-    MakeLabel(L"函数：", {10, 90, 48, 23}, pDialog);
+    MakeLabel(L"函数："_source, {10, 90, 48, 23}, pDialog);
     pFunction = MakeBox({60, 90, 420, 31}, pDialog);
-    MakeLabel(L"负责人：", {10, 130, 48, 23}, pDialog);
+    MakeLabel(L"负责人："_source, {10, 130, 48, 23}, pDialog);
     pPerson = MakeField<QLineEdit>({60, 130, 200, 22}, pDialog);
-    MakeLabel(L"日期：", {10, 160, 48, 23}, pDialog);
+    MakeLabel(L"日期："_source, {10, 160, 48, 23}, pDialog);
     pDate = MakeField<QLineEdit>({60, 160, 200, 22}, pDialog);
 }

@@ -6,6 +6,7 @@
 #include "Model/DocumentFile.h"
 #include "Model/Grid.h"
 #include "Model/KeptContent.h"
+#include "Model/UiText.h"
 #include "Model/Workspace.h"
 
 #include "Command/ActionManager.h"
@@ -44,9 +45,8 @@ double FindStep()
 
 QString DescribeFault(DocumentReading::Outcome outcome)
 {
-    return outcome == DocumentReading::Outcome::Newer
-               ? QStringLiteral("剪贴板中的图元来自更新的版本，未粘贴")
-               : QStringLiteral("剪贴板中的图元已损坏，未粘贴");
+    return outcome == DocumentReading::Outcome::Newer ? "剪贴板中的图元来自更新的版本，未粘贴"_tr
+                                                      : "剪贴板中的图元已损坏，未粘贴"_tr;
 }
 
 void RunPasting(const ContentPasting& pasting)
@@ -56,7 +56,7 @@ void RunPasting(const ContentPasting& pasting)
 
 CommandEntry MakePastingCommand(Workspace& workspace)
 {
-    return CommandEntry::WithParameters(ContentPasting::CommandId, L"粘贴内容",
+    return CommandEntry::WithParameters(ContentPasting::CommandId, L"粘贴内容"_source,
                                         [&workspace](const CommandParameters& parameters) {
                                             const auto pasting = ContentPasting::From(parameters);
                                             if (pasting.has_value() && pasting->Apply(workspace))
@@ -71,7 +71,7 @@ CommandEntry MakePastingCommand(Workspace& workspace)
 CommandEntry MakeDuplicationCommand(Workspace& workspace)
 {
     return CommandEntry::WithParameters(
-               SelectionDuplication::CommandId, L"按距离再制",
+               SelectionDuplication::CommandId, L"按距离再制"_source,
                [&workspace](const CommandParameters& parameters) {
                    const auto duplication = SelectionDuplication::From(parameters);
                    if (duplication.has_value() && duplication->Apply(workspace))
@@ -98,23 +98,23 @@ std::vector<CommandEntry> ClipboardCommands::MakeCommands()
 {
     const auto isAnySelected = [this] { return !m_workspace.selection.IsEmpty(); };
     std::vector<CommandEntry> entries = {
-        CommandEntry::Plain(L"Sketcher.Cut", L"剪切", [this] { Cut(); })
+        CommandEntry::Plain(L"Sketcher.Cut", L"剪切"_source, [this] { Cut(); })
             .WithIcon(L"cut")
-            .WithToolTip(L"将所选图元移到剪贴板")
+            .WithToolTip(L"将所选图元移到剪贴板"_source)
             .WithKeys(L"Ctrl+X")
             .EnabledWhile(isAnySelected),
-        CommandEntry::Plain(L"Sketcher.Copy", L"复制", [this] { Copy(); })
+        CommandEntry::Plain(L"Sketcher.Copy", L"复制"_source, [this] { Copy(); })
             .WithIcon(L"copy")
-            .WithToolTip(L"将所选图元复制到剪贴板")
+            .WithToolTip(L"将所选图元复制到剪贴板"_source)
             .WithKeys(L"Ctrl+C")
             .EnabledWhile(isAnySelected),
-        CommandEntry::Plain(L"Sketcher.Paste", L"粘贴", [this] { Paste(); })
+        CommandEntry::Plain(L"Sketcher.Paste", L"粘贴"_source, [this] { Paste(); })
             .WithIcon(L"paste")
-            .WithToolTip(L"粘贴剪贴板中的图元")
+            .WithToolTip(L"粘贴剪贴板中的图元"_source)
             .WithKeys(L"Ctrl+V"),
-        CommandEntry::Plain(L"Sketcher.Duplicate", L"再制", [this] { Duplicate(); })
+        CommandEntry::Plain(L"Sketcher.Duplicate", L"再制"_source, [this] { Duplicate(); })
             .WithIcon(L"duplicate")
-            .WithToolTip(L"在旁边再画一份所选图元")
+            .WithToolTip(L"在旁边再画一份所选图元"_source)
             .WithKeys(L"Ctrl+D")
             .NotWhileTyping()
             .EnabledWhile(isAnySelected),
@@ -122,7 +122,7 @@ std::vector<CommandEntry> ClipboardCommands::MakeCommands()
         MakeDuplicationCommand(m_workspace),
     };
     for (std::size_t i = 0; i < 4; ++i)
-        entries[i].InGroup(L"剪贴板").OnStartPage();
+        entries[i].InGroup(L"剪贴板"_source).OnStartPage();
     return entries;
 }
 
@@ -138,7 +138,7 @@ void ClipboardCommands::Copy() const
 void ClipboardCommands::Cut()
 {
     Copy();
-    if (m_workspace.sketch.Erase(m_workspace.selection.GetIds(), L"剪切"))
+    if (m_workspace.sketch.Erase(m_workspace.selection.GetIds(), L"剪切"_source))
         ActionManager::StepDone();
 }
 
@@ -151,23 +151,23 @@ void ClipboardCommands::Paste() const
     if (pData != nullptr && pData->hasFormat(type))
         PasteBytes(pData->data(type));
     else
-        m_notice(QStringLiteral("剪贴板中没有图元"));
+        m_notice("剪贴板中没有图元"_tr);
 }
 
 void ClipboardCommands::PasteBytes(const QByteArray& bytes) const
 {
     if (bytes.size() > MostBytes)
-        return m_notice(QStringLiteral("剪贴板中的图元太多，未粘贴"));
+        return m_notice("剪贴板中的图元太多，未粘贴"_tr);
     const BusyCursor busy(bytes.size() > ManyBytes);
     const DocumentReading reading =
         DocumentFile::FromText({bytes.constData(), static_cast<std::size_t>(bytes.size())});
     if (reading.outcome != DocumentReading::Outcome::Whole)
         return m_notice(DescribeFault(reading.outcome));
     if (reading.content.entities.empty())
-        return m_notice(QStringLiteral("剪贴板中没有图元"));
+        return m_notice("剪贴板中没有图元"_tr);
     const std::optional<QString> digest = KeptContent::Get().Keep(bytes);
     if (!digest.has_value())
-        return m_notice(QStringLiteral("剪贴板中的图元无法存于日志旁，未粘贴"));
+        return m_notice("剪贴板中的图元无法存于日志旁，未粘贴"_tr);
     const Vector3d way = FindFreeWay(m_workspace.sketch, reading.content, FindStep(), 0);
     RunPasting({ToWide(*digest), way});
 }

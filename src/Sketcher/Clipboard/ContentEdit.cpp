@@ -4,6 +4,7 @@
 #include "Model/DocumentFile.h"
 #include "Model/KeptContent.h"
 #include "Model/ParameterValue.h"
+#include "Model/UiText.h"
 #include "Model/Workspace.h"
 
 #include "HostUi/QtText.h"
@@ -84,7 +85,7 @@ bool ContentPasting::IsPossible() const
 
 bool ContentPasting::Apply(Workspace& workspace) const
 {
-    return Insert(workspace, Read(), L"粘贴");
+    return Insert(workspace, Read(), L"粘贴"_source);
 }
 
 /// Without entities if it cannot be read.
@@ -119,5 +120,5 @@ bool SelectionDuplication::IsPossible(const Workspace& workspace) const
 
 bool SelectionDuplication::Apply(Workspace& workspace) const
 {
-    return Insert(workspace, CopiesOf(workspace, way), L"再制");
+    return Insert(workspace, CopiesOf(workspace, way), L"再制"_source);
 }

@@ -1,5 +1,7 @@
 #include "Documents/DocumentDialogs.h"
 
+#include "Model/UiText.h"
+
 #include "HostUi/PlainMessageBox.h"
 
 #include <QFileDialog>
@@ -30,7 +32,7 @@ const QAbstractButton* Execute(const QPointer<QMessageBox>& pBox)
 QPointer<QFileDialog> MakeFileDialog(QWidget* pParent, const QString& title)
 {
     auto* pDialog = new QFileDialog(pParent, title);
-    pDialog->setNameFilters({QStringLiteral("图纸 (*.vsk)"), QStringLiteral("所有文件 (*)")});
+    pDialog->setNameFilters({"图纸 (*.vsk)"_tr, "所有文件 (*)"_tr});
     pDialog->setObjectName(QStringLiteral("DrawingFileDialog"));
     pDialog->setDefaultSuffix(QStringLiteral("vsk"));
     return pDialog;
@@ -51,7 +53,7 @@ bool AskToReplace(QWidget* pParent, const QString& text, const QString& details,
 {
     const auto pBox = MakeBox(pParent, QMessageBox::Warning, text, details);
     const auto* pReplace = pBox->addButton(button, QMessageBox::DestructiveRole);
-    QPushButton* pCancel = pBox->addButton(QStringLiteral("取消"), QMessageBox::RejectRole);
+    QPushButton* pCancel = pBox->addButton("取消"_tr, QMessageBox::RejectRole);
     pBox->setDefaultButton(pCancel);
     pBox->setEscapeButton(pCancel);
     const QAbstractButton* pChosen = Execute(pBox);
@@ -62,13 +64,11 @@ bool AskToReplace(QWidget* pParent, const QString& text, const QString& details,
 
 DocumentDialogs::SaveAnswer DocumentDialogs::AskToSave(QWidget* pParent, const QString& name)
 {
-    const auto pBox =
-        MakeBox(pParent, QMessageBox::Question, QStringLiteral("要保存对“%1”的更改吗？").arg(name),
-                QStringLiteral("如果不保存，更改将丢失。"));
-    const auto* pSave = pBox->addButton(QStringLiteral("保存(&S)"), QMessageBox::AcceptRole);
-    const auto* pDiscard =
-        pBox->addButton(QStringLiteral("不保存(&N)"), QMessageBox::DestructiveRole);
-    pBox->setEscapeButton(pBox->addButton(QStringLiteral("取消"), QMessageBox::RejectRole));
+    const auto pBox = MakeBox(pParent, QMessageBox::Question, "要保存对“%1”的更改吗？"_tr.arg(name),
+                              "如果不保存，更改将丢失。"_tr);
+    const auto* pSave = pBox->addButton("保存(&S)"_tr, QMessageBox::AcceptRole);
+    const auto* pDiscard = pBox->addButton("不保存(&N)"_tr, QMessageBox::DestructiveRole);
+    pBox->setEscapeButton(pBox->addButton("取消"_tr, QMessageBox::RejectRole));
     const QAbstractButton* pChosen = Execute(pBox);
     if (pChosen == nullptr)
         return SaveAnswer::Cancel;
@@ -79,26 +79,25 @@ DocumentDialogs::SaveAnswer DocumentDialogs::AskToSave(QWidget* pParent, const Q
 
 bool DocumentDialogs::AskToReplaceChanged(QWidget* pParent, const QString& name)
 {
-    return AskToReplace(pParent, QStringLiteral("“%1”打开之后已被其他程序修改。").arg(name),
-                        QStringLiteral("覆盖会丢失那些修改；也可以取消，再另存为其他文件。"),
-                        QStringLiteral("覆盖"));
+    return AskToReplace(pParent, "“%1”打开之后已被其他程序修改。"_tr.arg(name),
+                        "覆盖会丢失那些修改；也可以取消，再另存为其他文件。"_tr, "覆盖"_tr);
 }
 
 bool DocumentDialogs::AskToOpenReadOnly(QWidget* pParent, const QString& name,
                                         const QString& holder)
 {
-    const auto pBox = MakeBox(
-        pParent, QMessageBox::Information, QStringLiteral("“%1”已在另一个程序中打开。").arg(name),
-        holder.isEmpty() ? QString() : QStringLiteral("打开它的程序：%1").arg(holder));
-    const auto* pOpen = pBox->addButton(QStringLiteral("以只读方式打开"), QMessageBox::AcceptRole);
-    pBox->setEscapeButton(pBox->addButton(QStringLiteral("取消"), QMessageBox::RejectRole));
+    const auto pBox =
+        MakeBox(pParent, QMessageBox::Information, "“%1”已在另一个程序中打开。"_tr.arg(name),
+                holder.isEmpty() ? QString() : "打开它的程序：%1"_tr.arg(holder));
+    const auto* pOpen = pBox->addButton("以只读方式打开"_tr, QMessageBox::AcceptRole);
+    pBox->setEscapeButton(pBox->addButton("取消"_tr, QMessageBox::RejectRole));
     const QAbstractButton* pChosen = Execute(pBox);
     return pChosen != nullptr && pChosen == pOpen;
 }
 
 QString DocumentDialogs::AskForFileToOpen(QWidget* pParent, const QString& folder)
 {
-    const auto pDialog = MakeFileDialog(pParent, QStringLiteral("打开图纸"));
+    const auto pDialog = MakeFileDialog(pParent, "打开图纸"_tr);
     pDialog->setFileMode(QFileDialog::ExistingFile);
     pDialog->setDirectory(folder);
     return Execute(pDialog);
@@ -107,7 +106,7 @@ QString DocumentDialogs::AskForFileToOpen(QWidget* pParent, const QString& folde
 QString DocumentDialogs::AskForFileToSave(QWidget* pParent, const QString& suggestion,
                                           const QString& own)
 {
-    const auto pDialog = MakeFileDialog(pParent, QStringLiteral("图纸另存为"));
+    const auto pDialog = MakeFileDialog(pParent, "图纸另存为"_tr);
     // It would also ask about the drawing's own file.
     pDialog->setOption(QFileDialog::DontConfirmOverwrite);
     const QPointer<QWidget> pAsker(pParent);
@@ -121,14 +120,14 @@ QString DocumentDialogs::AskForFileToSave(QWidget* pParent, const QString& sugge
     if (path == own || !QFileInfo::exists(path))
         return path;
     const bool isReplaced =
-        AskToReplace(pParent, QStringLiteral("“%1”已经存在。").arg(QFileInfo(path).fileName()),
-                     QStringLiteral("替换会丢失它现在的内容。"), QStringLiteral("替换"));
+        AskToReplace(pParent, "“%1”已经存在。"_tr.arg(QFileInfo(path).fileName()),
+                     "替换会丢失它现在的内容。"_tr, "替换"_tr);
     return isReplaced ? path : QString();
 }
 
 void DocumentDialogs::Tell(QWidget* pParent, const QString& text, const QString& details)
 {
     const auto pBox = MakeBox(pParent, QMessageBox::Warning, text, details);
-    pBox->addButton(QStringLiteral("确定"), QMessageBox::AcceptRole);
+    pBox->addButton("确定"_tr, QMessageBox::AcceptRole);
     Execute(pBox);
 }

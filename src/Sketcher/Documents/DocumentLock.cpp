@@ -1,5 +1,7 @@
 #include "Documents/DocumentLock.h"
 
+#include "Model/UiText.h"
+
 #include <QFileInfo>
 #include <QLockFile>
 
@@ -31,7 +33,7 @@ DocumentLock::DocumentLock(const QString& path)
     QString host;
     QString program;
     if (m_state == State::InUse && m_pFile->getLockInfo(&process, &host, &program))
-        m_holder = QStringLiteral("%1（%2，进程 %3）").arg(program, host, QString::number(process));
+        m_holder = "%1（%2，进程 %3）"_tr.arg(program, host, QString::number(process));
 }
 
 DocumentLock::~DocumentLock() = default;

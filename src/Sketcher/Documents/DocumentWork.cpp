@@ -2,6 +2,7 @@
 
 #include "Model/FileContent.h"
 #include "Model/KeptContent.h"
+#include "Model/UiText.h"
 
 #include "Foundation/FileRewriting.h"
 
@@ -20,9 +21,8 @@ namespace
 QString DamageOf(const DocumentReading& reading)
 {
     if (reading.outcome == DocumentReading::Outcome::Newer)
-        return QStringLiteral("该文件由更新版本的程序保存，请用新版本打开。");
-    return QStringLiteral("文件第 %1 行有错误（%2）。文件保持原样。")
-        .arg(reading.line)
+        return "该文件由更新版本的程序保存，请用新版本打开。"_tr;
+    return "文件第 %1 行有错误（%2）。文件保持原样。"_tr.arg(reading.line)
         .arg(QString::fromStdString(reading.error));
 }
 
@@ -32,14 +32,14 @@ QString WhyNotWritten(const QString& path, qint64 size)
     const QFileInfo file(path);
     const QFileInfo folder(file.absolutePath());
     if (!folder.isDir())
-        return QStringLiteral("文件夹不存在。");
+        return "文件夹不存在。"_tr;
     if (file.exists() && !file.isFile())
-        return QStringLiteral("这不是普通文件。");
+        return "这不是普通文件。"_tr;
     if ((file.exists() && !file.isWritable()) || !folder.isWritable())
-        return QStringLiteral("没有写入权限。");
+        return "没有写入权限。"_tr;
     const qint64 available = QStorageInfo(folder.absoluteFilePath()).bytesAvailable();
-    return available >= 0 && available < size ? QStringLiteral("磁盘空间不足。")
-                                              : QStringLiteral("写入时出错，原文件保持不变。");
+    return available >= 0 && available < size ? "磁盘空间不足。"_tr
+                                              : "写入时出错，原文件保持不变。"_tr;
 }
 
 DocumentWork::Read ReadWhole(const QString& path, const DocumentFile::Progress& progress)
@@ -67,7 +67,7 @@ DocumentWork::Read ReadWhole(const QString& path, const DocumentFile::Progress& 
     const std::optional<QString> digest = KeptContent::Get().Keep(bytes);
     result.contentDigest = digest.value_or(QString());
     if (!digest.has_value())
-        result.fault = QStringLiteral("日志旁无法保留该文件的副本，没有它就不能恢复所做的操作。");
+        result.fault = "日志旁无法保留该文件的副本，没有它就不能恢复所做的操作。"_tr;
     return result;
 }
 
@@ -100,7 +100,7 @@ Result UnlessOutOfMemory(const Function& work)
     catch (const std::bad_alloc&)
     {
         Result failed;
-        failed.fault = QStringLiteral("内存不足。");
+        failed.fault = "内存不足。"_tr;
         return failed;
     }
 }

@@ -5,6 +5,7 @@
 #include "Model/KeptContent.h"
 #include "Model/ParameterValue.h"
 #include "Model/Sketch.h"
+#include "Model/UiText.h"
 
 #include "Command/ActionManager.h"
 #include "HostUi/MainWindow.h"
@@ -74,7 +75,7 @@ QString ToFileName(const QString& name)
     }
     if (result.startsWith(QLatin1Char('.'))) // It would be hidden.
         result.front() = QLatin1Char('_');
-    return result.isEmpty() ? QStringLiteral("图纸") : result;
+    return result.isEmpty() ? "图纸"_tr : result;
 }
 
 /// The name of the file, then its folder; before them a digit, which is the key of the entry.
@@ -161,7 +162,7 @@ void Documents::ShowRecent(const QString& controlId)
         connect(pAction, &QAction::triggered, this, [this, path] { OpenLater(path); });
     }
     if (pMenu->isEmpty())
-        pMenu->addAction(QStringLiteral("没有最近的文件"))->setEnabled(false);
+        pMenu->addAction("没有最近的文件"_tr)->setEnabled(false);
     const auto* pControl = m_window.findChild<QWidget*>(controlId);
     const bool isOnScreen = pControl != nullptr && pControl->isVisible();
     pMenu->popup(isOnScreen ? pControl->mapToGlobal(pControl->rect().bottomLeft())
@@ -204,7 +205,7 @@ bool Documents::OpenLocked(const QString& path, std::shared_ptr<DocumentLock> pL
         return false;
     if (!read.fault.isEmpty())
     {
-        Fail(QStringLiteral("无法打开“%1”").arg(QDir::toNativeSeparators(path)), read.fault);
+        Fail("无法打开“%1”"_tr.arg(QDir::toNativeSeparators(path)), read.fault);
         return false;
     }
     m_prepared = Prepared{read.contentDigest, std::move(read.reading.content), read.reading.sum};
@@ -359,11 +360,11 @@ bool Documents::SaveTo(const QString& path)
 bool Documents::Write(const QString& path)
 {
     const QPointer<Documents> pThis(this);
-    const QString failure = QStringLiteral("无法保存“%1”").arg(QDir::toNativeSeparators(path));
+    const QString failure = "无法保存“%1”"_tr.arg(QDir::toNativeSeparators(path));
     const auto pLock = IsCurrent(path) ? m_document.pLock : std::make_shared<DocumentLock>(path);
     if (pLock->GetState() == DocumentLock::State::InUse)
     {
-        Fail(failure, QStringLiteral("该文件已在另一个程序中打开：%1").arg(pLock->GetHolder()));
+        Fail(failure, "该文件已在另一个程序中打开：%1"_tr.arg(pLock->GetHolder()));
         return false;
     }
     const SketchContent content = m_sketch.GetContent();
@@ -382,7 +383,7 @@ bool Documents::Write(const QString& path)
     m_document = {QFileInfo(path).absoluteFilePath(), digest, written.stamp, false, pLock};
     m_recent.Add(path);
     NoteLock();
-    m_window.ShowNotice(QStringLiteral("已保存 %1").arg(QDir::toNativeSeparators(path)));
+    m_window.ShowNotice("已保存 %1"_tr.arg(QDir::toNativeSeparators(path)));
     return true;
 }
 
@@ -396,7 +397,7 @@ bool Documents::IsCurrent(const QString& path) const
 
 QString Documents::GetShownName() const
 {
-    return m_document.HasFile() ? m_document.GetName() : ToQString(m_sketch.GetName());
+    return m_document.HasFile() ? m_document.GetName() : ToQString(m_sketch.GetShownName());
 }
 
 /// The file that the drawing would be saved in.
@@ -428,7 +429,7 @@ void Documents::RunWork(bool isLarge, const Work& work)
 void Documents::Fail(const QString& text, const QString& details)
 {
     if (m_manners == Manners::Silent)
-        std::cerr << "sketcher: " << (text + QStringLiteral("：") + details).toStdString() << '\n';
+        std::cerr << "sketcher: " << (text + "："_tr + details).toStdString() << '\n';
     else
         Tell(&m_window, text, details);
 }
@@ -437,12 +438,10 @@ void Documents::NoteLock()
 {
     const bool isUnlocked = m_document.pLock != nullptr && !m_document.isReadOnly &&
                             m_document.pLock->GetState() == DocumentLock::State::Impossible;
-    m_window.ShowState(QStringLiteral("document lock"),
-                       isUnlocked ? QStringLiteral("文件未加锁") : QString(),
-                       QStringLiteral("文件夹中无法建立锁文件，其他程序不会知道该文件已打开"));
-    m_window.ShowState(QStringLiteral("read-only"),
-                       m_document.isReadOnly ? QStringLiteral("只读") : QString(),
-                       QStringLiteral("该文件已在另一个程序中打开，更改只能另存为其他文件"));
+    m_window.ShowState(QStringLiteral("document lock"), isUnlocked ? "文件未加锁"_tr : QString(),
+                       "文件夹中无法建立锁文件，其他程序不会知道该文件已打开"_tr);
+    m_window.ShowState(QStringLiteral("read-only"), m_document.isReadOnly ? "只读"_tr : QString(),
+                       "该文件已在另一个程序中打开，更改只能另存为其他文件"_tr);
 }
 
 void Documents::OnSketchChanged()

@@ -1,5 +1,7 @@
 #include "Help/AboutPage.h"
 
+#include "Model/UiText.h"
+
 #include <QCoreApplication>
 
 namespace
@@ -21,21 +23,26 @@ constexpr UsedLibrary UsedLibraries[] = {
     {"XCB", "MIT", "https://xcb.freedesktop.org"},
 };
 
+QString Paragraph(const QString& text)
+{
+    return QStringLiteral("<p>%1</p>").arg(text);
+}
+
 }
 
 QString MakeAboutPage()
 {
-    QString page = QStringLiteral("<h2>Sketcher %1</h2>"
-                                  "<p>绘制精确图形；每次绘图都可以重放。</p>"
-                                  "<p>许可证：Apache-2.0</p>"
-                                  "<p>使用的库：</p><table cellspacing='0' cellpadding='3'>")
-                       .arg(QCoreApplication::applicationVersion());
+    QString page =
+        QStringLiteral("<h2>Sketcher %1</h2>").arg(QCoreApplication::applicationVersion()) +
+        Paragraph("绘制精确图形；每次绘图都可以重放。"_tr) +
+        Paragraph("许可证：%1"_tr.arg(QStringLiteral("Apache-2.0"))) + Paragraph("使用的库："_tr) +
+        QStringLiteral("<table cellspacing='0' cellpadding='3'>");
     for (const UsedLibrary& library : UsedLibraries)
         page += QStringLiteral("<tr><td><b>%1</b></td><td>%2</td><td><a href='%3'>%3</a></td></tr>")
                     .arg(QString::fromLatin1(library.name), QString::fromLatin1(library.licence),
                          QString::fromLatin1(library.address));
-    return page + QStringLiteral("</table><p>Qt 版本：%1</p>"
-                                 "<p>DXF 文件由单独的程序 vesk-dxf 读写，它使用 dxflib，"
-                                 "许可证：GPL-3.0-or-later</p>")
-                      .arg(QString::fromLatin1(qVersion()));
+    return page + QStringLiteral("</table>") +
+           Paragraph("Qt 版本：%1"_tr.arg(QString::fromLatin1(qVersion()))) +
+           Paragraph("DXF 文件由单独的程序 vesk-dxf 读写，它使用 dxflib，许可证：%1"_tr.arg(
+               QStringLiteral("GPL-3.0-or-later")));
 }

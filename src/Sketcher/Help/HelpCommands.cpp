@@ -3,6 +3,7 @@
 #include "Help/AboutPage.h"
 #include "Help/HelpPage.h"
 #include "Help/TextWindow.h"
+#include "Model/UiText.h"
 
 #include <QString>
 
@@ -28,20 +29,20 @@ void ShowText(const QString& name, const QString& title, const QString& html, co
 
 CommandEntry MakeHelpCommand(const std::function<void()>& open)
 {
-    return CommandEntry::Dialog(L"Sketcher.Help", L"帮助", open)
+    return CommandEntry::Dialog(L"Sketcher.Help", L"帮助"_source, open)
         .WithIcon(L"help")
-        .WithToolTip(L"按键，和可以键入的数值")
+        .WithToolTip(L"按键，和可以键入的数值"_source)
         .WithKeys(L"F1")
-        .InGroup(L"帮助")
+        .InGroup(L"帮助"_source)
         .OnStartPage();
 }
 
 CommandEntry MakeAboutCommand(const std::function<void()>& open)
 {
-    return CommandEntry::Dialog(L"Sketcher.About", L"关于", open)
+    return CommandEntry::Dialog(L"Sketcher.About", L"关于"_source, open)
         .WithIcon(L"about")
-        .WithToolTip(L"版本和许可证")
-        .InGroup(L"帮助")
+        .WithToolTip(L"版本和许可证"_source)
+        .InGroup(L"帮助"_source)
         .OnStartPage();
 }
 
@@ -52,13 +53,12 @@ std::vector<CommandEntry> MakeHelpCommands(const std::vector<CommandEntry>& comm
 {
     std::vector<CommandEntry> listed = commands;
     listed.push_back(MakeHelpCommand({}));
-    const QString page = MakeHelpPage(listed);
-    const auto help = [&window, page] {
-        ShowText(QStringLiteral("Help"), QStringLiteral("帮助"), page, QSize(620, 640), window);
+    const auto help = [&window, listed] {
+        ShowText(QStringLiteral("Help"), "帮助"_tr, MakeHelpPage(listed), QSize(620, 640), window);
     };
     const auto about = [&window] {
-        ShowText(QStringLiteral("About"), QStringLiteral("关于 Sketcher"), MakeAboutPage(),
-                 QSize(560, 400), window);
+        ShowText(QStringLiteral("About"), "关于 Sketcher"_tr, MakeAboutPage(), QSize(560, 400),
+                 window);
     };
     return {MakeHelpCommand(help), MakeAboutCommand(about)};
 }

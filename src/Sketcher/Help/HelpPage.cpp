@@ -1,6 +1,7 @@
 #include "Help/HelpPage.h"
 
 #include "Help/TypedExamples.h"
+#include "Model/UiText.h"
 #include "Ribbon/CommandEntry.h"
 
 #include "HostUi/QtText.h"
@@ -16,28 +17,26 @@ namespace
 using HelpRow = std::pair<QString, QString>;
 
 /// What is not a command.
-const QVector<HelpRow>& MouseRows()
+QVector<HelpRow> MouseRows()
 {
-    static const QVector<HelpRow> s_rows = {
-        {QStringLiteral("左键"), QStringLiteral("画点；没有工具时选取图元，按 Ctrl 增减")},
-        {QStringLiteral("左键拖动"), QStringLiteral("向右框选全部在框内的图元，向左也选碰到框的")},
-        {QStringLiteral("滚轮"), QStringLiteral("以光标为中心缩放")},
-        {QStringLiteral("中键拖动"), QStringLiteral("平移")},
+    return {
+        {"左键"_tr, "画点；没有工具时选取图元，按 Ctrl 增减"_tr},
+        {"左键拖动"_tr, "向右框选全部在框内的图元，向左也选碰到框的"_tr},
+        {"滚轮"_tr, "以光标为中心缩放"_tr},
+        {"中键拖动"_tr, "平移"_tr},
     };
-    return s_rows;
 }
 
-const QVector<HelpRow>& TypingRows()
+QVector<HelpRow> TypingRows()
 {
-    static const QVector<HelpRow> s_rows = {
-        {QStringLiteral("数字"), QStringLiteral("工具运行时键入长度、半径或角度")},
-        {QStringLiteral("Tab"), QStringLiteral("锁定此值，转到另一个值")},
-        {QStringLiteral("Enter"), QStringLiteral("确定数值")},
-        {QStringLiteral("空格"), QStringLiteral("键入的是数时确定（可在设置中改为键入空格）")},
-        {QStringLiteral("Esc"), QStringLiteral("依次取消键入、解除锁定、结束工具、取消选取")},
-        {QStringLiteral("Alt 或 F10"), QStringLiteral("显示功能区的按键")},
+    return {
+        {"数字"_tr, "工具运行时键入长度、半径或角度"_tr},
+        {QStringLiteral("Tab"), "锁定此值，转到另一个值"_tr},
+        {QStringLiteral("Enter"), "确定数值"_tr},
+        {"空格"_tr, "键入的是数时确定（可在设置中改为键入空格）"_tr},
+        {QStringLiteral("Esc"), "依次取消键入、解除锁定、结束工具、取消选取"_tr},
+        {"Alt 或 F10"_tr, "显示功能区的按键"_tr},
     };
-    return s_rows;
 }
 
 QString ToHtmlRow(const HelpRow& row)
@@ -62,7 +61,8 @@ QVector<HelpRow> CommandRows(const std::vector<CommandEntry>& commands)
     {
         const QKeySequence keys(vesk::ToQString(entry.keys));
         if (!entry.keys.empty() && !entry.group.empty())
-            rows.append({keys.toString(QKeySequence::NativeText), vesk::ToQString(entry.toolTip)});
+            rows.append(
+                {keys.toString(QKeySequence::NativeText), vesk::ToQString(Tr(entry.toolTip))});
     }
     return rows;
 }
@@ -79,9 +79,8 @@ QVector<HelpRow> ToRows(const QVector<TypedExample>& examples)
 
 QString MakeHelpPage(const std::vector<CommandEntry>& commands)
 {
-    return ToTable(QStringLiteral("鼠标"), MouseRows()) +
-           ToTable(QStringLiteral("键入数值"), TypingRows()) +
-           ToTable(QStringLiteral("可以键入"), ToRows(AcceptedExamples())) +
-           ToTable(QStringLiteral("不会猜测，因此不接受"), ToRows(RejectedExamples())) +
-           ToTable(QStringLiteral("命令"), CommandRows(commands));
+    return ToTable("鼠标"_tr, MouseRows()) + ToTable("键入数值"_tr, TypingRows()) +
+           ToTable("可以键入"_tr, ToRows(AcceptedExamples())) +
+           ToTable("不会猜测，因此不接受"_tr, ToRows(RejectedExamples())) +
+           ToTable("命令"_tr, CommandRows(commands));
 }

@@ -1,5 +1,7 @@
 #include "Help/TextWindow.h"
 
+#include "Model/UiText.h"
+
 #include <QDialogButtonBox>
 #include <QPushButton>
 #include <QScreen>
@@ -16,7 +18,7 @@ TextWindow::TextWindow(const QString& title, const QString& html, const QSize& s
     pText->setOpenExternalLinks(true);
     pText->setHtml(html);
     auto* pButtons = new QDialogButtonBox;
-    QPushButton* pClose = pButtons->addButton(QStringLiteral("关闭"), QDialogButtonBox::RejectRole);
+    QPushButton* pClose = pButtons->addButton("关闭"_tr, QDialogButtonBox::RejectRole);
     pClose->setDefault(true);
     connect(pButtons, &QDialogButtonBox::rejected, this, &TextWindow::close);
     auto* pLayout = new QVBoxLayout(this);

@@ -14,5 +14,5 @@ struct TypedExample
 };
 
 /// Texts that are accepted, and texts that are rejected because people read them differently.
-const QVector<TypedExample>& AcceptedExamples();
-const QVector<TypedExample>& RejectedExamples();
+QVector<TypedExample> AcceptedExamples();
+QVector<TypedExample> RejectedExamples();

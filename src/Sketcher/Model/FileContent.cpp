@@ -1,5 +1,7 @@
 #include "Model/FileContent.h"
 
+#include "Model/UiText.h"
+
 #include <QFile>
 #include <QFileInfo>
 
@@ -28,13 +30,13 @@ QString CaptionOf(FileContent::Fault fault)
     switch (fault)
     {
     case FileContent::Fault::Missing:
-        return QStringLiteral("文件不存在。");
+        return "文件不存在。"_tr;
     case FileContent::Fault::NotRegular:
-        return QStringLiteral("这不是普通文件。");
+        return "这不是普通文件。"_tr;
     case FileContent::Fault::TooLarge:
-        return QStringLiteral("文件太大。");
+        return "文件太大。"_tr;
     case FileContent::Fault::Unreadable:
-        return QStringLiteral("无法读取文件。");
+        return "无法读取文件。"_tr;
     default:
         return {};
     }

@@ -1,5 +1,7 @@
 #include "Model/Pen.h"
 
+#include "Model/UiText.h"
+
 #include <algorithm>
 
 namespace
@@ -22,10 +24,10 @@ PenPart MakePart(const std::wstring& name, int Pen::*member, const std::vector<V
 const std::vector<LineStyle>& LineStyles()
 {
     static const std::vector<LineStyle> s_styles = {
-        {L"solid", L"实线", Qt::SolidLine},
-        {L"dashed", L"虚线", Qt::DashLine},
-        {L"dotted", L"点线", Qt::DotLine},
-        {L"dashdot", L"点画线", Qt::DashDotLine},
+        {L"solid", L"实线"_source, Qt::SolidLine},
+        {L"dashed", L"虚线"_source, Qt::DashLine},
+        {L"dotted", L"点线"_source, Qt::DotLine},
+        {L"dashdot", L"点画线"_source, Qt::DashDotLine},
     };
     return s_styles;
 }
@@ -33,13 +35,13 @@ const std::vector<LineStyle>& LineStyles()
 const std::vector<LineColour>& LineColours()
 {
     static const std::vector<LineColour> s_colours = {
-        {L"default", L"默认", QColor()},
-        {L"red", L"红色", QColor(0xd3, 0x2f, 0x2f)},
-        {L"orange", L"橙色", QColor(0xe0, 0x7b, 0x12)},
-        {L"green", L"绿色", QColor(0x2e, 0x8b, 0x3d)},
-        {L"blue", L"蓝色", QColor(0x2f, 0x7d, 0xe1)},
-        {L"magenta", L"洋红", QColor(0xb0, 0x3a, 0xb0)},
-        {L"grey", L"灰色", QColor(0x80, 0x86, 0x8b)},
+        {L"default", L"默认"_source, QColor()},
+        {L"red", L"红色"_source, QColor(0xd3, 0x2f, 0x2f)},
+        {L"orange", L"橙色"_source, QColor(0xe0, 0x7b, 0x12)},
+        {L"green", L"绿色"_source, QColor(0x2e, 0x8b, 0x3d)},
+        {L"blue", L"蓝色"_source, QColor(0x2f, 0x7d, 0xe1)},
+        {L"magenta", L"洋红"_source, QColor(0xb0, 0x3a, 0xb0)},
+        {L"grey", L"灰色"_source, QColor(0x80, 0x86, 0x8b)},
     };
     return s_colours;
 }

@@ -20,21 +20,21 @@ bool operator==(const Pen& a, const Pen& b);
 struct LineStyle
 {
     std::wstring name;    ///< In journals and files.
-    std::wstring caption; ///< On screen.
+    std::wstring caption; ///< On screen; a source text.
     Qt::PenStyle style;
 };
 
 struct LineColour
 {
     std::wstring name;
-    std::wstring caption;
-    QColor colour; ///< Invalid for the palette's text colour.
+    std::wstring caption; ///< On screen; a source text.
+    QColor colour;        ///< Invalid for the palette's text colour.
 };
 
 struct LineWidth
 {
     std::wstring name;    ///< In journals and files: the width in millimetres, such as "0.25".
-    std::wstring caption; ///< On screen.
+    std::wstring caption; ///< On screen; a source text.
     double millimetres;   ///< On paper.
 };
 

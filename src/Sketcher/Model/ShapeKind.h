@@ -8,7 +8,7 @@
 struct ShapeKind
 {
     std::wstring name;    ///< In files.
-    std::wstring caption; ///< On screen.
+    std::wstring caption; ///< On screen; a source text.
 };
 
 const ShapeKind& KindOf(const Shape& shape);

@@ -2,6 +2,7 @@
 
 #include "Model/Polar.h"
 #include "Model/ShapeRotation.h"
+#include "Model/UiText.h"
 
 #include <algorithm>
 #include <array>
@@ -38,7 +39,7 @@ const LineShape& LineOf(const Shape& shape)
 
 ShapeProperty LineLength()
 {
-    return {L"length", L"长度", false,
+    return {L"length", L"长度"_source, false,
             [](const Shape& shape) { return (LineOf(shape).end - LineOf(shape).start).norm(); },
             [](const Shape& shape, double value) -> Shape {
                 LineShape line = LineOf(shape);
@@ -49,7 +50,7 @@ ShapeProperty LineLength()
 
 ShapeProperty LineAngle()
 {
-    return {L"angle", L"角度", true,
+    return {L"angle", L"角度"_source, true,
             [](const Shape& shape) { return AngleOf(LineOf(shape).end - LineOf(shape).start); },
             [](const Shape& shape, double value) -> Shape {
                 LineShape line = LineOf(shape);
@@ -77,7 +78,7 @@ ShapeProperty ArcCentre(const wchar_t* name, const wchar_t* caption)
 /// Changes the radius of an arc; centre and angles stay.
 ShapeProperty ArcRadius()
 {
-    return {L"radius", L"半径", false,
+    return {L"radius", L"半径"_source, false,
             [](const Shape& shape) { return std::get<ArcShape>(shape).radius; },
             [](const Shape& shape, double value) -> Shape {
                 ArcShape arc = std::get<ArcShape>(shape);
@@ -90,7 +91,7 @@ ShapeProperty ArcRadius()
 
 ShapeProperty CircleRadius()
 {
-    return {L"radius", L"半径", false,
+    return {L"radius", L"半径"_source, false,
             [](const Shape& shape) { return std::get<CircleShape>(shape).radius; },
             [](const Shape& shape, double value) -> Shape {
                 CircleShape circle = std::get<CircleShape>(shape);
@@ -138,10 +139,10 @@ ShapeProperty RectangleSide(const wchar_t* name, const wchar_t* caption)
 const Properties& LineProperties()
 {
     static const Properties s_properties = {
-        Coordinate<LineShape, &LineShape::start, 0>(L"start.x", L"起点 X"),
-        Coordinate<LineShape, &LineShape::start, 1>(L"start.y", L"起点 Y"),
-        Coordinate<LineShape, &LineShape::end, 0>(L"end.x", L"端点 X"),
-        Coordinate<LineShape, &LineShape::end, 1>(L"end.y", L"端点 Y"),
+        Coordinate<LineShape, &LineShape::start, 0>(L"start.x", L"起点 X"_source),
+        Coordinate<LineShape, &LineShape::start, 1>(L"start.y", L"起点 Y"_source),
+        Coordinate<LineShape, &LineShape::end, 0>(L"end.x", L"端点 X"_source),
+        Coordinate<LineShape, &LineShape::end, 1>(L"end.y", L"端点 Y"_source),
         LineLength(),
         LineAngle(),
     };
@@ -151,8 +152,8 @@ const Properties& LineProperties()
 const Properties& CircleProperties()
 {
     static const Properties s_properties = {
-        Coordinate<CircleShape, &CircleShape::centre, 0>(L"centre.x", L"圆心 X"),
-        Coordinate<CircleShape, &CircleShape::centre, 1>(L"centre.y", L"圆心 Y"),
+        Coordinate<CircleShape, &CircleShape::centre, 0>(L"centre.x", L"圆心 X"_source),
+        Coordinate<CircleShape, &CircleShape::centre, 1>(L"centre.y", L"圆心 Y"_source),
         CircleRadius(),
     };
     return s_properties;
@@ -161,8 +162,8 @@ const Properties& CircleProperties()
 const Properties& ArcProperties()
 {
     static const Properties s_properties = {
-        ArcCentre<0>(L"centre.x", L"圆心 X"),
-        ArcCentre<1>(L"centre.y", L"圆心 Y"),
+        ArcCentre<0>(L"centre.x", L"圆心 X"_source),
+        ArcCentre<1>(L"centre.y", L"圆心 Y"_source),
         ArcRadius(),
     };
     return s_properties;
@@ -171,10 +172,10 @@ const Properties& ArcProperties()
 const Properties& RectangleProperties()
 {
     static const Properties s_properties = {
-        RectangleCorner<0>(L"corner.x", L"角点 X"),
-        RectangleCorner<1>(L"corner.y", L"角点 Y"),
-        RectangleSide<1>(L"width", L"宽度"),
-        RectangleSide<3>(L"height", L"高度"),
+        RectangleCorner<0>(L"corner.x", L"角点 X"_source),
+        RectangleCorner<1>(L"corner.y", L"角点 Y"_source),
+        RectangleSide<1>(L"width", L"宽度"_source),
+        RectangleSide<3>(L"height", L"高度"_source),
     };
     return s_properties;
 }

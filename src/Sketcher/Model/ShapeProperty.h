@@ -9,7 +9,7 @@
 struct ShapeProperty
 {
     std::wstring name;    ///< In the journal, such as "start.x".
-    std::wstring caption; ///< On screen.
+    std::wstring caption; ///< On screen; a source text.
     bool isAngle;         ///< In degrees; otherwise a length or coordinate in millimetres.
 
     double (*get)(const Shape& shape);

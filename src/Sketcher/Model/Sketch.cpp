@@ -1,6 +1,7 @@
 #include "Model/Sketch.h"
 
 #include "Model/ShapeKind.h"
+#include "Model/UiText.h"
 
 #include "HostUi/QtText.h"
 
@@ -15,7 +16,7 @@
 namespace
 {
 
-constexpr wchar_t NewName[] = L"未命名";
+constexpr const wchar_t* NewName = L"未命名"_source;
 
 SketchContent NewContent()
 {
@@ -169,7 +170,7 @@ bool Sketch::SetPen(const std::vector<int>& ids, int Pen::*part, int value)
         entity.pen.*part = value;
         change.entities[id] = entity;
     }
-    Push(std::move(change), ids.front(), L"线条特性");
+    Push(std::move(change), ids.front(), L"线条特性"_source);
     return true;
 }
 
@@ -236,7 +237,7 @@ int Sketch::AddLayer(const std::wstring& name)
     layer.name = name;
     SketchChange change;
     change.layers[layer.id] = layer;
-    Push(std::move(change), 0, L"新建图层");
+    Push(std::move(change), 0, L"新建图层"_source);
     return layer.id;
 }
 
@@ -254,7 +255,7 @@ bool Sketch::SetLayer(const Layer& layer)
         return false;
     SketchChange change;
     change.layers[layer.id] = layer;
-    Push(std::move(change), 0, L"修改图层");
+    Push(std::move(change), 0, L"修改图层"_source);
     return true;
 }
 
@@ -271,7 +272,7 @@ bool Sketch::RemoveLayer(int id)
         return false;
     SketchChange change;
     change.layers[id] = std::nullopt;
-    Push(std::move(change), 0, L"删除图层");
+    Push(std::move(change), 0, L"删除图层"_source);
     return true;
 }
 
@@ -304,6 +305,11 @@ std::wstring Sketch::GetRedoText() const
     return vesk::ToWide(m_steps.redoText());
 }
 
+std::wstring Sketch::GetShownName() const
+{
+    return m_content.name == NewName ? Tr(m_content.name) : m_content.name;
+}
+
 void Sketch::SetName(const std::wstring& name)
 {
     if (name == m_content.name)
@@ -312,7 +318,7 @@ void Sketch::SetName(const std::wstring& name)
     change.name = name;
     if (m_isNameStep)
     {
-        Push(std::move(change), 0, L"图名");
+        Push(std::move(change), 0, L"图名"_source);
         return;
     }
     Exchange(change);

@@ -6,6 +6,7 @@
 #include "Model/SketchChange.h"
 #include "Model/SketchContent.h"
 #include "Model/SketchInsertion.h"
+#include "Model/UiText.h"
 
 #include <QObject>
 #include <QUndoStack>
@@ -63,11 +64,11 @@ public:
     /// Gives entities other shapes; their ids, order and pens stay. Returns false and makes no step
     /// if one of them cannot be changed, a shape is not drawable, or no shape differs.
     bool Replace(const std::vector<std::pair<int, Shape>>& shapes,
-                 const std::wstring& stepName = L"修改");
+                 const std::wstring& stepName = L"修改"_source);
     bool CanReplace(const std::vector<std::pair<int, Shape>>& shapes) const;
 
     /// Returns false and erases nothing if there are none or one of them cannot be changed.
-    bool Erase(const std::vector<int>& ids, const std::wstring& stepName = L"删除");
+    bool Erase(const std::vector<int>& ids, const std::wstring& stepName = L"删除"_source);
     bool Erase(int id) { return Erase(std::vector<int>{id}); }
 
     /// Gives entities another style, colour, width or layer. Returns false and makes no step if
@@ -129,6 +130,9 @@ public:
     int GetLastUndone() const { return m_lastUndone; }
 
     const std::wstring& GetName() const { return m_content.name; }
+
+    /// The name as people see it: that of a new drawing is in their language.
+    std::wstring GetShownName() const;
 
     /// One undo step, unless that is the name already.
     void SetName(const std::wstring& name);

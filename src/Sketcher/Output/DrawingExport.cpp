@@ -1,5 +1,6 @@
 #include "Output/DrawingExport.h"
 
+#include "Model/UiText.h"
 #include "Output/DxfProcess.h"
 
 #include "HostUi/QtText.h"
@@ -25,10 +26,10 @@ OutputFault Export(const SketchContent& content, const ExportFormat& format, con
 const std::vector<ExportFormat>& ExportFormats()
 {
     static const std::vector<ExportFormat> s_formats = {
-        {L"svg", L"SVG 矢量图", &MakeSvg},
-        {L"pdf", L"PDF 文档", &MakePdf},
-        {L"png", L"PNG 图片", &MakePng},
-        {L"dxf", L"DXF 图形", &MakeDxf},
+        {L"svg", L"SVG 矢量图"_source, &MakeSvg},
+        {L"pdf", L"PDF 文档"_source, &MakePdf},
+        {L"png", L"PNG 图片"_source, &MakePng},
+        {L"dxf", L"DXF 图形"_source, &MakeDxf},
     };
     return s_formats;
 }

@@ -9,7 +9,7 @@
 struct ExportFormat
 {
     std::wstring name;    ///< In the journal; also the suffix of its files.
-    std::wstring caption; ///< On screen.
+    std::wstring caption; ///< On screen; a source text.
 
     OutputBytes (*make)(const SketchContent& content, const OutputProgress& progress);
 };

@@ -2,6 +2,7 @@
 
 #include "Model/DocumentFile.h"
 #include "Model/FileContent.h"
+#include "Model/UiText.h"
 
 #include <nlohmann/json.hpp>
 
@@ -20,16 +21,16 @@ struct RemarkText
 
 /// The reasons for leaving an entity out, and what may have been replaced by the nearest.
 constexpr RemarkText RemarkTexts[] = {
-    {"unsupported", "不支持"},
-    {"paper space", "在图纸空间"},
-    {"not in the drawing plane", "不在绘图平面内"},
-    {"too small or too large", "过小或过大"},
-    {"mesh or spline", "网格或样条"},
-    {"colour", "颜色"},
-    {"layer colour", "图层颜色"},
-    {"line type", "线型"},
-    {"line weight", "线宽"},
-    {"height", "高度（已投影到绘图平面）"},
+    {"unsupported", "不支持"_source},
+    {"paper space", "在图纸空间"_source},
+    {"not in the drawing plane", "不在绘图平面内"_source},
+    {"too small or too large", "过小或过大"_source},
+    {"mesh or spline", "网格或样条"_source},
+    {"colour", "颜色"_source},
+    {"layer colour", "图层颜色"_source},
+    {"line type", "线型"_source},
+    {"line weight", "线宽"_source},
+    {"height", "高度（已投影到绘图平面）"_source},
 };
 
 QString RemarkCaption(const std::string& key)
@@ -37,7 +38,7 @@ QString RemarkCaption(const std::string& key)
     for (const RemarkText& text : RemarkTexts)
     {
         if (key == text.key)
-            return QString::fromUtf8(text.caption);
+            return Tr(text.caption);
     }
     return QString::fromStdString(key);
 }
@@ -70,16 +71,14 @@ void ReadMessage(const nlohmann::json& message, DxfReportText& report)
     if (kind == "imported")
         report.importedCount += count;
     else if (kind == "skipped")
-        report.remarks << QStringLiteral("未导入 %1 个 %2：%3")
-                              .arg(count)
+        report.remarks << Tr("未导入 %n 个 %1：%2"_source, count)
                               .arg(ShownType(TextIn(message, "type")),
                                    RemarkCaption(TextIn(message, "reason")));
     else if (kind == "approximated")
-        report.remarks << QStringLiteral("%1 处%2取最接近的值")
-                              .arg(count)
-                              .arg(RemarkCaption(TextIn(message, "what")));
+        report.remarks
+            << Tr("%n 处%1取最接近的值"_source, count).arg(RemarkCaption(TextIn(message, "what")));
     else if (kind == "truncated")
-        report.remarks << QStringLiteral("文件不完整，只读到中断处");
+        report.remarks << "文件不完整，只读到中断处"_tr;
 }
 
 /// Reads what vesk-dxf has written, whatever that is.

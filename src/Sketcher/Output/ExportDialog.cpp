@@ -1,5 +1,6 @@
 #include "Output/ExportDialog.h"
 
+#include "Model/UiText.h"
 #include "Output/DrawingExport.h"
 
 #include "HostUi/QtText.h"
@@ -32,10 +33,10 @@ QString AskForExportPath(QWidget& window, const QString& suggestion)
     QStringList filters;
     for (const ExportFormat& format : ExportFormats())
         filters << QStringLiteral("%1 (*.%2)")
-                       .arg(vesk::ToQString(format.caption), vesk::ToQString(format.name));
+                       .arg(vesk::ToQString(Tr(format.caption)), vesk::ToQString(format.name));
 
     // On the heap: the dialog is destroyed with the window if the program ends meanwhile.
-    const QPointer<QFileDialog> pDialog = new QFileDialog(&window, QStringLiteral("导出图纸"));
+    const QPointer<QFileDialog> pDialog = new QFileDialog(&window, "导出图纸"_tr);
     pDialog->setObjectName(QStringLiteral("ExportDialog"));
     pDialog->setAcceptMode(QFileDialog::AcceptSave);
     pDialog->setNameFilters(filters);
@@ -51,10 +52,10 @@ QString AskForExportPath(QWidget& window, const QString& suggestion)
 
 QString AskForPdfPath(QWidget& window, const QString& suggestion)
 {
-    const QPointer<QFileDialog> pDialog = new QFileDialog(&window, QStringLiteral("打印到文件"));
+    const QPointer<QFileDialog> pDialog = new QFileDialog(&window, "打印到文件"_tr);
     pDialog->setObjectName(QStringLiteral("PrintFileDialog"));
     pDialog->setAcceptMode(QFileDialog::AcceptSave);
-    pDialog->setNameFilter(QStringLiteral("PDF 文档 (*.pdf)"));
+    pDialog->setNameFilter("PDF 文档 (*.pdf)"_tr);
     pDialog->setDefaultSuffix(QStringLiteral("pdf"));
     pDialog->selectFile(suggestion);
     return PathFrom(pDialog);

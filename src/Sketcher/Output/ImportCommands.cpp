@@ -1,6 +1,7 @@
 #include "Output/ImportCommands.h"
 
 #include "Model/KeptContent.h"
+#include "Model/UiText.h"
 #include "Model/Workspace.h"
 #include "Output/DxfImport.h"
 #include "Output/ImportDialogs.h"
@@ -21,7 +22,7 @@ namespace
 {
 
 constexpr wchar_t ContentParameter[] = L"content";
-constexpr wchar_t ImportStep[] = L"导入";
+constexpr const wchar_t* ImportStep = L"导入"_source;
 
 DocumentReading ReadDocument(const QByteArray& bytes)
 {
@@ -45,13 +46,13 @@ ImportCommands::ImportCommands(Workspace& workspace, MainWindow& window, OutputR
 std::vector<CommandEntry> ImportCommands::MakeCommands()
 {
     return {
-        CommandEntry::Dialog(L"Sketcher.Import", L"导入", [this] { AskForImport(); })
+        CommandEntry::Dialog(L"Sketcher.Import", L"导入"_source, [this] { AskForImport(); })
             .WithIcon(L"import")
-            .WithToolTip(L"导入：将 DXF 文件的图元加入图纸")
-            .InGroup(L"输出")
+            .WithToolTip(L"导入：将 DXF 文件的图元加入图纸"_source)
+            .InGroup(L"输出"_source)
             .OnStartPage(),
         CommandEntry::WithParameters(
-            ContentId, L"导入图元",
+            ContentId, L"导入图元"_source,
             [this](const CommandParameters& parameters) { Insert(parameters); })
             .PossibleWith(
                 [this](const CommandParameters& parameters) { return CanInsert(parameters); }),
@@ -66,10 +67,9 @@ void ImportCommands::Import(const QString& path, QString unit)
         return;
     if (read->document.isEmpty())
     {
-        m_window.ShowNotice(QStringLiteral("未导入 %1：%2").arg(name, CaptionOf(read->fault)));
+        m_window.ShowNotice("未导入 %1：%2"_tr.arg(name, CaptionOf(read->fault)));
         if (read->fault != OutputFault::Stopped)
-            ShowOutputFault(m_window, QStringLiteral("未导入 %1").arg(name),
-                            CaptionOf(read->fault));
+            ShowOutputFault(m_window, "未导入 %1"_tr.arg(name), CaptionOf(read->fault));
         return;
     }
     if (m_pending->content.entities.empty() || RecordPending())
@@ -119,7 +119,7 @@ bool ImportCommands::RecordPending()
 {
     if (!m_pending->digest.has_value())
     {
-        m_window.ShowNotice(QStringLiteral("未导入：日志旁无法保存导入的内容"));
+        m_window.ShowNotice("未导入：日志旁无法保存导入的内容"_tr);
         return false;
     }
     CommandParameters parameters;
@@ -172,8 +172,8 @@ std::optional<SketchContent> ImportCommands::Find(const CommandParameters& param
 
 void ImportCommands::ShowReport(const QString& name, const DxfImport& read)
 {
-    m_window.ShowNotice(QStringLiteral("%1：已导入 %2 个图元")
-                            .arg(name, QString::number(read.report.importedCount)));
+    m_window.ShowNotice(
+        "%1：%2"_tr.arg(name, Tr("已导入 %n 个图元"_source, read.report.importedCount)));
     if (!read.report.remarks.isEmpty())
         ShowImportReport(m_window, name, read.report);
 }

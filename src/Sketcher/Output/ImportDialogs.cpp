@@ -1,5 +1,6 @@
 #include "Output/ImportDialogs.h"
 
+#include "Model/UiText.h"
 #include "Output/DxfImport.h"
 #include "Output/NamedDxfUnit.h"
 
@@ -12,11 +13,10 @@
 QString AskForImportPath(QWidget& window)
 {
     // On the heap: the dialog is destroyed with the window if the program ends meanwhile.
-    const QPointer<QFileDialog> pDialog = new QFileDialog(&window, QStringLiteral("导入"));
+    const QPointer<QFileDialog> pDialog = new QFileDialog(&window, "导入"_tr);
     pDialog->setObjectName(QStringLiteral("ImportDialog"));
     pDialog->setFileMode(QFileDialog::ExistingFile);
-    pDialog->setNameFilters(
-        {QStringLiteral("DXF 图形 (*.dxf *.DXF)"), QStringLiteral("所有文件 (*)")});
+    pDialog->setNameFilters({"DXF 图形 (*.dxf *.DXF)"_tr, "所有文件 (*)"_tr});
     const bool isAccepted = pDialog->exec() == QDialog::Accepted;
     if (pDialog == nullptr)
         return {};
@@ -29,11 +29,11 @@ QString AskForDxfUnit(QWidget& window, const QString& fileName)
 {
     QStringList captions;
     for (const NamedDxfUnit& unit : NamedDxfUnits())
-        captions << unit.caption;
+        captions << Tr(unit.caption);
     const QPointer<QInputDialog> pDialog = new QInputDialog(&window);
     pDialog->setObjectName(QStringLiteral("DxfUnitDialog"));
-    pDialog->setWindowTitle(QStringLiteral("导入"));
-    pDialog->setLabelText(QStringLiteral("%1 没有注明单位。长度单位是：").arg(fileName));
+    pDialog->setWindowTitle("导入"_tr);
+    pDialog->setLabelText("%1 没有注明单位。长度单位是："_tr.arg(fileName));
     pDialog->setComboBoxItems(captions);
     const bool isAccepted = pDialog->exec() == QDialog::Accepted;
     if (pDialog == nullptr)
@@ -50,12 +50,11 @@ void ShowImportReport(QWidget& window, const QString& fileName, const DxfReportT
     QStringList lines = report.remarks.mid(0, MostLines);
     if (report.remarks.size() > MostLines)
         lines << QStringLiteral("……");
-    const QString text = QStringLiteral("%1：已导入 %2 个图元，另有 %3 项说明。")
-                             .arg(fileName, QString::number(report.importedCount),
-                                  QString::number(report.remarks.size()));
-    auto* pBox =
-        vesk::MakePlainMessageBox(&window, QMessageBox::Information, QStringLiteral("导入"), text,
-                                  lines.join(QLatin1Char('\n')));
+    const QString text =
+        "%1：%2，%3。"_tr.arg(fileName, Tr("已导入 %n 个图元"_source, report.importedCount),
+                              Tr("另有 %n 项说明"_source, report.remarks.size()));
+    auto* pBox = vesk::MakePlainMessageBox(&window, QMessageBox::Information, "导入"_tr, text,
+                                           lines.join(QLatin1Char('\n')));
     pBox->setStandardButtons(QMessageBox::Ok);
     if (report.remarks.size() > MostLines)
         pBox->setDetailedText(report.remarks.join(QLatin1Char('\n')));

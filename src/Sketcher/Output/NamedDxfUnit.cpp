@@ -1,15 +1,15 @@
 #include "Output/NamedDxfUnit.h"
 
+#include "Model/UiText.h"
+
 #include <algorithm>
 
 const QVector<NamedDxfUnit>& NamedDxfUnits()
 {
     static const QVector<NamedDxfUnit> s_units = {
-        {QStringLiteral("mm"), QStringLiteral("毫米")},
-        {QStringLiteral("cm"), QStringLiteral("厘米")},
-        {QStringLiteral("m"), QStringLiteral("米")},
-        {QStringLiteral("in"), QStringLiteral("英寸")},
-        {QStringLiteral("ft"), QStringLiteral("英尺")},
+        {QStringLiteral("mm"), "毫米"_source}, {QStringLiteral("cm"), "厘米"_source},
+        {QStringLiteral("m"), "米"_source},    {QStringLiteral("in"), "英寸"_source},
+        {QStringLiteral("ft"), "英尺"_source},
     };
     return s_units;
 }

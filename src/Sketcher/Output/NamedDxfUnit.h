@@ -6,8 +6,8 @@
 /// A unit that can be chosen for a DXF file that names none.
 struct NamedDxfUnit
 {
-    QString name; ///< On the command lines of this program and of vesk-dxf.
-    QString caption;
+    QString name;        ///< On the command lines of this program and of vesk-dxf.
+    const char* caption; ///< On screen; a source text.
 };
 
 const QVector<NamedDxfUnit>& NamedDxfUnits();

@@ -1,5 +1,6 @@
 #include "Output/OutputCommands.h"
 
+#include "Model/UiText.h"
 #include "Model/Workspace.h"
 #include "Output/DrawingExport.h"
 #include "Output/ExportDialog.h"
@@ -47,24 +48,24 @@ std::vector<CommandEntry> OutputCommands::MakeCommands()
 {
     const auto hasEntities = [this] { return !m_workspace.sketch.GetEntities().empty(); };
     return {
-        CommandEntry::Dialog(L"Sketcher.Export", L"导出", [this] { AskForExport(); })
+        CommandEntry::Dialog(L"Sketcher.Export", L"导出"_source, [this] { AskForExport(); })
             .WithIcon(L"export")
-            .WithToolTip(L"导出：将图纸写成 SVG、PDF、PNG 或 DXF 文件")
-            .InGroup(L"输出")
+            .WithToolTip(L"导出：将图纸写成 SVG、PDF、PNG 或 DXF 文件"_source)
+            .InGroup(L"输出"_source)
             .OnStartPage()
             .EnabledWhile(hasEntities),
-        CommandEntry::Dialog(L"Sketcher.Print", L"打印", [this] { AskForPrint(); })
+        CommandEntry::Dialog(L"Sketcher.Print", L"打印"_source, [this] { AskForPrint(); })
             .WithIcon(L"print")
-            .WithToolTip(L"打印：选择比例、纸张和打印机，并预览")
+            .WithToolTip(L"打印：选择比例、纸张和打印机，并预览"_source)
             .WithKeys(L"Ctrl+P")
-            .InGroup(L"输出")
+            .InGroup(L"输出"_source)
             .OnStartPage()
             .EnabledWhile(hasEntities),
-        CommandEntry::WithParameters(PrintId, L"打印图纸",
+        CommandEntry::WithParameters(PrintId, L"打印图纸"_source,
                                      [this](const CommandParameters&) { PrintTarget(); })
             .PossibleWith(
                 [this](const CommandParameters& parameters) { return IsDrawing(parameters); }),
-        CommandEntry::WithParameters(ExportId, L"导出图纸",
+        CommandEntry::WithParameters(ExportId, L"导出图纸"_source,
                                      [this](const CommandParameters&) { WriteTarget(); })
             .PossibleWith(
                 [this](const CommandParameters& parameters) { return IsExport(parameters); }),
@@ -76,7 +77,7 @@ void OutputCommands::Export(const QString& path)
     const ExportFormat* pFormat = ExportFormatOf(path);
     if (pFormat == nullptr)
     {
-        m_window.ShowNotice(QStringLiteral("无法导出 %1：不支持此格式").arg(path));
+        m_window.ShowNotice("无法导出 %1：不支持此格式"_tr.arg(path));
         return;
     }
     m_target = path;
@@ -102,7 +103,7 @@ bool OutputCommands::IsExport(const CommandParameters& parameters) const
 QString OutputCommands::Suggest() const
 {
     const QString fileName = m_fileName ? m_fileName() : QString();
-    return fileName.isEmpty() ? ToQString(m_workspace.sketch.GetName()) : fileName;
+    return fileName.isEmpty() ? ToQString(m_workspace.sketch.GetShownName()) : fileName;
 }
 
 void OutputCommands::AskForExport()
@@ -125,7 +126,7 @@ void OutputCommands::WriteTarget()
         fault = ExportDrawing(content, *pFormat, path, progress);
     });
     const QString name = QFileInfo(path).fileName();
-    ShowResult(fault, QStringLiteral("已导出 %1").arg(name), QStringLiteral("未导出 %1").arg(name));
+    ShowResult(fault, "已导出 %1"_tr.arg(name), "未导出 %1"_tr.arg(name));
 }
 
 void OutputCommands::AskForPrint()
@@ -172,16 +173,15 @@ void OutputCommands::PrintTarget()
               &fault](const OutputProgress& progress) {
         fault = PrintDrawing(content, *job, path, progress);
     });
-    const QString done = path.isEmpty()
-                             ? QStringLiteral("已打印")
-                             : QStringLiteral("已打印到 %1").arg(QFileInfo(path).fileName());
-    ShowResult(fault, done, QStringLiteral("未打印"));
+    const QString done =
+        path.isEmpty() ? "已打印"_tr : "已打印到 %1"_tr.arg(QFileInfo(path).fileName());
+    ShowResult(fault, done, "未打印"_tr);
 }
 
 void OutputCommands::ShowResult(OutputFault fault, const QString& done, const QString& failed)
 {
-    m_window.ShowNotice(
-        fault == OutputFault::None ? done : QStringLiteral("%1：%2").arg(failed, CaptionOf(fault)));
+    m_window.ShowNotice(fault == OutputFault::None ? done
+                                                   : "%1：%2"_tr.arg(failed, CaptionOf(fault)));
     if (fault != OutputFault::None && fault != OutputFault::Stopped)
         ShowOutputFault(m_window, failed, CaptionOf(fault));
 }

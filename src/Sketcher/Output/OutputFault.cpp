@@ -1,5 +1,7 @@
 #include "Output/OutputFault.h"
 
+#include "Model/UiText.h"
+
 #include "HostUi/PlainMessageBox.h"
 
 namespace
@@ -14,18 +16,22 @@ struct FaultTexts
 
 constexpr FaultTexts OutputFaultTexts[] = {
     {OutputFault::None, "", ""},
-    {OutputFault::Stopped, "已取消", "stopped"},
-    {OutputFault::NothingVisible, "图纸中没有可见的图元", "the drawing has no visible entities"},
-    {OutputFault::TooLarge, "图纸太大，此格式无法按 1:1 输出",
+    {OutputFault::Stopped, "已取消"_source, "stopped"},
+    {OutputFault::NothingVisible, "图纸中没有可见的图元"_source,
+     "the drawing has no visible entities"},
+    {OutputFault::TooLarge, "图纸太大，此格式无法按 1:1 输出"_source,
      "the drawing is too large for this format at true scale"},
-    {OutputFault::OutOfMemory, "内存不足", "not enough memory"},
-    {OutputFault::CannotRead, "无法读取文件", "the file cannot be read"},
-    {OutputFault::CannotWrite, "无法写入文件", "the file cannot be written"},
-    {OutputFault::NoDxfTool, "找不到 vesk-dxf 程序", "the program vesk-dxf cannot be started"},
-    {OutputFault::DxfToolFailed, "vesk-dxf 程序出错", "the program vesk-dxf failed"},
-    {OutputFault::DxfTooLarge, "图元过多或内存不足", "too many entities, or not enough memory"},
-    {OutputFault::NotDxf, "不是文本格式的 DXF 文件，或已损坏", "not a text DXF file, or damaged"},
-    {OutputFault::NoDxfUnit, "文件没有单位", "the file names no unit; use --dxf-unit"},
+    {OutputFault::OutOfMemory, "内存不足"_source, "not enough memory"},
+    {OutputFault::CannotRead, "无法读取文件"_source, "the file cannot be read"},
+    {OutputFault::CannotWrite, "无法写入文件"_source, "the file cannot be written"},
+    {OutputFault::NoDxfTool, "找不到 vesk-dxf 程序"_source,
+     "the program vesk-dxf cannot be started"},
+    {OutputFault::DxfToolFailed, "vesk-dxf 程序出错"_source, "the program vesk-dxf failed"},
+    {OutputFault::DxfTooLarge, "图元过多或内存不足"_source,
+     "too many entities, or not enough memory"},
+    {OutputFault::NotDxf, "不是文本格式的 DXF 文件，或已损坏"_source,
+     "not a text DXF file, or damaged"},
+    {OutputFault::NoDxfUnit, "文件没有单位"_source, "the file names no unit; use --dxf-unit"},
 };
 
 const FaultTexts& TextsOf(OutputFault fault)
@@ -37,7 +43,7 @@ const FaultTexts& TextsOf(OutputFault fault)
 
 QString CaptionOf(OutputFault fault)
 {
-    return QString::fromUtf8(TextsOf(fault).caption);
+    return *TextsOf(fault).caption == 0 ? QString() : Tr(TextsOf(fault).caption);
 }
 
 std::string DescribeOutputFault(OutputFault fault)

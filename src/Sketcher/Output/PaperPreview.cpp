@@ -1,5 +1,7 @@
 #include "Output/PaperPreview.h"
 
+#include "Model/UiText.h"
+
 #include <QElapsedTimer>
 #include <QImage>
 #include <QPainter>
@@ -59,5 +61,5 @@ void PaperPreview::Draw()
     painter.drawRect(QRectF(QPointF(), paper * pixels).adjusted(0.5, 0.5, -0.5, -0.5));
     painter.end();
     setPixmap(QPixmap::fromImage(image));
-    setToolTip(isWhole ? QString() : QStringLiteral("图纸很大，预览只画出一部分；打印是完整的"));
+    setToolTip(isWhole ? QString() : "图纸很大，预览只画出一部分；打印是完整的"_tr);
 }

@@ -1,5 +1,6 @@
 #include "Output/PrintDialog.h"
 
+#include "Model/UiText.h"
 #include "Output/PaperPreview.h"
 #include "Output/PrintLayout.h"
 
@@ -43,18 +44,17 @@ PrintDialog::PrintDialog(SketchContent content, QWidget* pParent)
     : QDialog(pParent), m_content(std::move(content)), m_bounds(*VisibleBounds(m_content)),
       m_pPrinter(MakeChoice(QStringLiteral("PrintPrinter"), QPrinterInfo::availablePrinterNames())),
       m_pPaper(MakeChoice(QStringLiteral("PrintPaper"), PaperNames())),
-      m_pOrientation(MakeChoice(QStringLiteral("PrintOrientation"),
-                                {QStringLiteral("纵向"), QStringLiteral("横向")})),
+      m_pOrientation(MakeChoice(QStringLiteral("PrintOrientation"), {"纵向"_tr, "横向"_tr})),
       m_pScale(MakeChoice(QStringLiteral("PrintScale"),
-                          {QStringLiteral("布满"), QStringLiteral("1:1"), QStringLiteral("1:2"),
+                          {"布满"_tr, QStringLiteral("1:1"), QStringLiteral("1:2"),
                            QStringLiteral("1:5"), QStringLiteral("1:10"), QStringLiteral("1:20"),
                            QStringLiteral("1:50"), QStringLiteral("1:100"), QStringLiteral("2:1"),
                            QStringLiteral("5:1")})),
       m_pPreview(new PaperPreview(m_content)), m_pRemark(new QLabel)
 {
     setObjectName(QStringLiteral("PrintDialog"));
-    setWindowTitle(QStringLiteral("打印"));
-    m_pPrinter->addItem(QStringLiteral("PDF 文件"));
+    setWindowTitle("打印"_tr);
+    m_pPrinter->addItem("PDF 文件"_tr);
     m_pScale->setEditable(true);
     m_pPreview->setObjectName(QStringLiteral("PrintPreview"));
     m_pRemark->setObjectName(QStringLiteral("PrintRemark"));
@@ -88,14 +88,14 @@ std::optional<PrintJob> PrintDialog::GetJob() const
 void PrintDialog::AddRows()
 {
     auto* pRows = new QFormLayout;
-    pRows->addRow(QStringLiteral("打印机(&P)"), m_pPrinter);
-    pRows->addRow(QStringLiteral("纸张(&S)"), m_pPaper);
-    pRows->addRow(QStringLiteral("方向(&O)"), m_pOrientation);
-    pRows->addRow(QStringLiteral("比例(&C)"), m_pScale);
+    pRows->addRow("打印机(&P)"_tr, m_pPrinter);
+    pRows->addRow("纸张(&S)"_tr, m_pPaper);
+    pRows->addRow("方向(&O)"_tr, m_pOrientation);
+    pRows->addRow("比例(&C)"_tr, m_pScale);
     pRows->addRow(m_pRemark);
     auto* pButtons = new QDialogButtonBox;
-    m_pPrint = pButtons->addButton(QStringLiteral("打印"), QDialogButtonBox::AcceptRole);
-    pButtons->addButton(QStringLiteral("取消"), QDialogButtonBox::RejectRole);
+    m_pPrint = pButtons->addButton("打印"_tr, QDialogButtonBox::AcceptRole);
+    pButtons->addButton("取消"_tr, QDialogButtonBox::RejectRole);
     connect(pButtons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(pButtons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto* pSide = new QVBoxLayout;
@@ -113,13 +113,13 @@ void PrintDialog::OnChanged()
     m_pPrint->setEnabled(job.has_value());
     if (!job.has_value())
     {
-        m_pRemark->setText(QStringLiteral("比例应写成 1:50 或 2:1"));
+        m_pRemark->setText("比例应写成 1:50 或 2:1"_tr);
         return;
     }
     const double scale = job->placement.scale;
     m_pRemark->setText(FitsPaper(m_bounds, scale, job->placement.paper)
-                           ? QStringLiteral("比例 %1").arg(ScaleText(scale))
-                           : QStringLiteral("图形超出纸面，超出部分不会打印"));
+                           ? "比例 %1"_tr.arg(ScaleText(scale))
+                           : "图形超出纸面，超出部分不会打印"_tr);
     m_pPreview->Show(job->placement);
 }
 

@@ -3,6 +3,7 @@
 #include "Model/ShapeKind.h"
 #include "Model/ShapeProperty.h"
 #include "Model/Sketch.h"
+#include "Model/UiText.h"
 
 #include "Dimension/LengthUnit.h"
 #include "HostUi/QtText.h"
@@ -17,12 +18,8 @@ using namespace vesk;
 namespace
 {
 
-const std::array<QString, EntityModel::ColumnCount>& Headers()
-{
-    static const std::array<QString, EntityModel::ColumnCount> s_headers = {
-        QStringLiteral("编号"), QStringLiteral("类型"), QStringLiteral("尺寸")};
-    return s_headers;
-}
+constexpr std::array<const char*, EntityModel::ColumnCount> Headers = {"编号"_source, "类型"_source,
+                                                                       "尺寸"_source};
 
 /// The lengths of a shape that do not depend on its position.
 QString SizeOf(const Shape& shape)
@@ -33,10 +30,10 @@ QString SizeOf(const Shape& shape)
     {
         if (const ShapeProperty* pProperty = FindProperty(shape, name))
             sizes << QStringLiteral("%1 %2").arg(
-                ToQString(pProperty->caption),
+                ToQString(Tr(pProperty->caption)),
                 QString::number(unit.ToShown(pProperty->get(shape)), 'f', 3));
     }
-    return sizes.join(QStringLiteral("，"));
+    return sizes.join("，"_tr);
 }
 
 }
@@ -189,7 +186,7 @@ QVariant EntityModel::data(const QModelIndex& index, int role) const
     case NumberColumn:
         return pEntity->id;
     case KindColumn:
-        return ToQString(KindOf(pEntity->shape).caption);
+        return ToQString(Tr(KindOf(pEntity->shape).caption));
     default:
         return SizeOf(pEntity->shape);
     }
@@ -199,5 +196,5 @@ QVariant EntityModel::headerData(int section, Qt::Orientation orientation, int r
 {
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
         return {};
-    return Headers()[static_cast<std::size_t>(section)];
+    return Tr(Headers[static_cast<std::size_t>(section)]);
 }

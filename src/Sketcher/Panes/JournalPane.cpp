@@ -1,5 +1,6 @@
 #include "Panes/JournalPane.h"
 
+#include "Model/UiText.h"
 #include "Panes/JournalModel.h"
 
 #include "Journal/JournalManager.h"
@@ -19,8 +20,8 @@
 using vesk::JournalManager;
 
 JournalPane::JournalPane()
-    : m_pModel(new JournalModel(this)),
-      m_pState(new QLabel(QStringLiteral("操作没有存入日志文件"))), m_pView(new QListView)
+    : m_pModel(new JournalModel(this)), m_pState(new QLabel), m_pView(new QListView),
+      m_pCopy(new QAction(m_pView))
 {
     m_pState->setObjectName(QStringLiteral("JournalState"));
     m_pState->setWordWrap(true);
@@ -32,18 +33,16 @@ JournalPane::JournalPane()
     m_pView->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_pView->setFrameShape(QFrame::NoFrame);
 
-    // No shortcut: it would be ambiguous with that of the command that copies entities.
-    const QString keys = QKeySequence(QKeySequence::Copy).toString(QKeySequence::NativeText);
-    auto* pCopy = new QAction(QStringLiteral("复制记录\t") + keys, m_pView);
     m_pView->installEventFilter(this);
-    connect(pCopy, &QAction::triggered, this, &JournalPane::Copy);
-    m_pView->addAction(pCopy);
+    connect(m_pCopy, &QAction::triggered, this, &JournalPane::Copy);
+    m_pView->addAction(m_pCopy);
     m_pView->setContextMenuPolicy(Qt::ActionsContextMenu);
 
     auto* pLayout = new QVBoxLayout(this);
     pLayout->setContentsMargins(0, 0, 0, 0);
     pLayout->addWidget(m_pState);
     pLayout->addWidget(m_pView);
+    ShowTexts();
 }
 
 /// Scrolls to the newest record unless the user has scrolled back.
@@ -60,6 +59,22 @@ void JournalPane::UpdateStatus()
         m_pView->scrollToBottom();
     else if (top.isValid())
         m_pView->scrollTo(top, QAbstractItemView::PositionAtTop);
+}
+
+void JournalPane::ShowTexts()
+{
+    m_pState->setText("操作没有存入日志文件"_tr);
+    // No shortcut: it would be ambiguous with that of the command that copies entities.
+    const QString keys = QKeySequence(QKeySequence::Copy).toString(QKeySequence::NativeText);
+    m_pCopy->setText("复制记录"_tr + QLatin1Char('\t') + keys);
+    m_pView->viewport()->update();
+}
+
+void JournalPane::changeEvent(QEvent* pEvent)
+{
+    QWidget::changeEvent(pEvent);
+    if (pEvent->type() == QEvent::LanguageChange)
+        ShowTexts();
 }
 
 /// Takes the keys that copy while records are selected.

@@ -5,6 +5,7 @@
 #include <QWidget>
 
 class JournalModel;
+class QAction;
 class QLabel;
 class QListView;
 
@@ -20,12 +21,15 @@ public:
     void UpdateStatus() override;
 
 protected:
+    void changeEvent(QEvent* pEvent) override;
     bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
 
 private:
+    void ShowTexts();
     void Copy() const;
 
     JournalModel* m_pModel;
     QLabel* m_pState; ///< Shown while records do not reach the file.
     QListView* m_pView;
+    QAction* m_pCopy;
 };

@@ -2,6 +2,7 @@
 
 #include "Model/LayerEdit.h"
 #include "Model/Sketch.h"
+#include "Model/UiText.h"
 #include "Panes/ColourSwatch.h"
 
 #include "Command/ActionManager.h"
@@ -23,18 +24,18 @@ namespace
 
 struct LayerColumn
 {
-    QString header;
-    QString toolTip;
+    const char* header;
+    const char* toolTip;
 };
 
 const LayerColumn& ColumnAt(int column)
 {
     static const std::array<LayerColumn, LayerModel::ColumnCount> s_columns = {{
-        {QString(), QStringLiteral("新图元画在当前图层上；单击设为当前")},
-        {QStringLiteral("名称"), QStringLiteral("双击改名")},
-        {QStringLiteral("颜色"), QStringLiteral("颜色为默认的图元所用的颜色；单击选择")},
-        {QStringLiteral("可见"), QStringLiteral("不可见的图层不显示，也不能选取和捕捉")},
-        {QStringLiteral("锁定"), QStringLiteral("锁定的图层可以捕捉，但不能选取和修改")},
+        {"", "新图元画在当前图层上；单击设为当前"_source},
+        {"名称"_source, "双击改名"_source},
+        {"颜色"_source, "颜色为默认的图元所用的颜色；单击选择"_source},
+        {"可见"_source, "不可见的图层不显示，也不能选取和捕捉"_source},
+        {"锁定"_source, "锁定的图层可以捕捉，但不能选取和修改"_source},
     }};
     return s_columns[static_cast<std::size_t>(column)];
 }
@@ -51,8 +52,7 @@ QVariant ToCheckState(bool isOn)
 
 QString DescribeNameRefusal(const std::wstring& name)
 {
-    return name.empty() ? QStringLiteral("图层名不能为空")
-                        : QStringLiteral("已有名为“%1”的图层").arg(ToQString(name));
+    return name.empty() ? "图层名不能为空"_tr : "已有名为“%1”的图层"_tr.arg(ToQString(name));
 }
 
 }
@@ -139,8 +139,8 @@ QVariant LayerModel::data(const QModelIndex& index, int role) const
                                         : QGuiApplication::palette().color(QPalette::Text));
         return {};
     case Qt::ToolTipRole:
-        return column == ColourColumn ? ToQString(ColourOf(layer).caption)
-                                      : ColumnAt(column).toolTip;
+        return column == ColourColumn ? ToQString(Tr(ColourOf(layer).caption))
+                                      : Tr(ColumnAt(column).toolTip);
     case Qt::TextAlignmentRole:
         return column == CurrentColumn ? QVariant(Qt::AlignCenter) : QVariant();
     default:
@@ -184,8 +184,8 @@ QVariant LayerModel::headerData(int section, Qt::Orientation orientation, int ro
     if (orientation != Qt::Horizontal)
         return {};
     if (role == Qt::ToolTipRole)
-        return ColumnAt(section).toolTip;
-    return role == Qt::DisplayRole ? ColumnAt(section).header : QVariant();
+        return Tr(ColumnAt(section).toolTip);
+    return role == Qt::DisplayRole ? Tr(ColumnAt(section).header) : QVariant();
 }
 
 QVariant LayerModel::GetText(const Layer& layer, int column) const

@@ -1,6 +1,7 @@
 #include "Panes/LayerPane.h"
 
 #include "Model/LayerEdit.h"
+#include "Model/UiText.h"
 #include "Model/Workspace.h"
 #include "Panes/ColourSwatch.h"
 #include "Panes/LayerModel.h"
@@ -34,7 +35,7 @@ std::wstring FreeLayerName(const Sketch& sketch)
     int number = 1;
     std::wstring name;
     do
-        name = L"图层 " + std::to_wstring(number++);
+        name = ToWide("图层 %1"_tr.arg(number++));
     while (sketch.FindLayer(name) != nullptr);
     return name;
 }
@@ -49,11 +50,13 @@ void ArrangeColumns(QTreeView& view)
     header.setSectionResizeMode(LayerModel::NameColumn, QHeaderView::Stretch);
     constexpr int Padding = 12;
     const int mark = view.fontMetrics().horizontalAdvance(QStringLiteral("●")) + Padding;
-    const int word = view.fontMetrics().horizontalAdvance(QStringLiteral("可见")) + Padding;
     header.resizeSection(LayerModel::CurrentColumn, mark);
     for (const int column :
          {LayerModel::ColourColumn, LayerModel::VisibleColumn, LayerModel::LockedColumn})
-        header.resizeSection(column, word);
+    {
+        const QString caption = view.model()->headerData(column, Qt::Horizontal).toString();
+        header.resizeSection(column, view.fontMetrics().horizontalAdvance(caption) + Padding);
+    }
 }
 
 }
@@ -103,13 +106,12 @@ QWidget* LayerPane::MakeButtons()
     auto* pRow = new QHBoxLayout(pButtons);
     pRow->setContentsMargins(2, 2, 2, 2);
     pRow->setSpacing(2);
-    pRow->addWidget(MakeButton(QStringLiteral("NewLayer"), QStringLiteral("新建"),
-                               QStringLiteral("新建图层"), &LayerPane::OnNew));
-    m_pRemove = MakeButton(QStringLiteral("RemoveLayer"), QStringLiteral("删除"),
-                           QStringLiteral("删除所选图层；基础图层和有图元的图层不能删除"),
-                           &LayerPane::OnRemove);
-    m_pMakeCurrent = MakeButton(QStringLiteral("MakeLayerCurrent"), QStringLiteral("设为当前"),
-                                QStringLiteral("新图元画在所选图层上"), &LayerPane::OnMakeCurrent);
+    pRow->addWidget(
+        MakeButton(QStringLiteral("NewLayer"), "新建"_tr, "新建图层"_tr, &LayerPane::OnNew));
+    m_pRemove = MakeButton(QStringLiteral("RemoveLayer"), "删除"_tr,
+                           "删除所选图层；基础图层和有图元的图层不能删除"_tr, &LayerPane::OnRemove);
+    m_pMakeCurrent = MakeButton(QStringLiteral("MakeLayerCurrent"), "设为当前"_tr,
+                                "新图元画在所选图层上"_tr, &LayerPane::OnMakeCurrent);
     pRow->addWidget(m_pRemove);
     pRow->addWidget(m_pMakeCurrent);
     pRow->addStretch();
@@ -147,7 +149,7 @@ void LayerPane::ChooseColour(const QModelIndex& index)
     {
         const QColor& shown =
             colour.colour.isValid() ? colour.colour : palette().color(QPalette::Text);
-        QAction* pAction = pMenu->addAction(MakeColourSwatch(shown), ToQString(colour.caption));
+        QAction* pAction = pMenu->addAction(MakeColourSwatch(shown), ToQString(Tr(colour.caption)));
         connect(pAction, &QAction::triggered, this, [this, layerId, name = colour.name] {
             const int row = m_pModel->GetRow(layerId);
             if (row >= 0)

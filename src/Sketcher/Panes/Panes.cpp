@@ -1,5 +1,6 @@
 #include "Panes/Panes.h"
 
+#include "Model/UiText.h"
 #include "Model/Workspace.h"
 #include "Panes/EntityPane.h"
 #include "Panes/JournalPane.h"
@@ -13,7 +14,9 @@
 #include "HostUi/MainWindow.h"
 #include "HostUi/QtText.h"
 
+#include <QAbstractButton>
 #include <QAction>
+#include <QDockWidget>
 #include <QMenu>
 #include <QPointer>
 #include <QToolButton>
@@ -33,6 +36,36 @@ constexpr wchar_t InspectorName[] = L"Inspector";
 constexpr wchar_t CommandPrefix[] = L"Sketcher.Pane.";
 constexpr wchar_t ShowAllId[] = L"Sketcher.ShowAllPanes";
 
+/// The title of a pane: a source text.
+const wchar_t* TitleOf(const std::wstring& name)
+{
+    if (name == EntitiesName)
+        return L"图元"_source;
+    if (name == LayersName)
+        return L"图层"_source;
+    if (name == JournalName)
+        return L"日志"_source;
+    return name == InspectorName ? L"检查器"_source : L"特性"_source;
+}
+
+void Name(QWidget& window, const char* button, const QString& name, const QString& description)
+{
+    for (auto* pButton : window.findChildren<QAbstractButton*>(QLatin1String(button)))
+    {
+        pButton->setAccessibleName(name);
+        pButton->setAccessibleDescription(description);
+    }
+}
+
+/// The toolkit names them once, when a dock is created.
+void NameDockButtons(QWidget& window)
+{
+    Name(window, "qt_dockwidget_floatbutton", QDockWidget::tr("Float"),
+         QDockWidget::tr("Undocks and re-attaches the dock widget"));
+    Name(window, "qt_dockwidget_closebutton", QDockWidget::tr("Close"),
+         QDockWidget::tr("Closes the dock widget"));
+}
+
 /// In the order of the menu.
 std::vector<PanePlace> FactoryPlaces()
 {
@@ -51,17 +84,14 @@ std::vector<PanePlace> FactoryPlaces()
 
 Panes::Panes(Workspace& workspace, MainWindow& window, IDockManager& docks, ControlHost& controls,
              const DimensionInputController& input)
-    : m_docks(docks), m_layout(window, docks, FactoryPlaces())
+    : m_workspace(workspace), m_window(window), m_controls(controls), m_input(input),
+      m_docks(docks), m_layout(window, docks, FactoryPlaces())
 {
-    auto opInspector = MakeOwner<Inspector>(controls, input);
-    m_pInspector = opInspector.Get();
-    Add(IPropertyWidget::GetTypeName(), L"特性", MakeOwner<PropertyPane>(workspace, controls));
-    auto opEntities = MakeOwner<EntityPane>(workspace);
-    connect(opEntities.Get(), &EntityPane::menuRequested, this, &Panes::menuRequested);
-    Add(EntitiesName, L"图元", std::move(opEntities));
-    Add(LayersName, L"图层", MakeOwner<LayerPane>(workspace));
-    Add(JournalName, L"日志", MakeOwner<JournalPane>());
-    Add(InspectorName, L"检查器", std::move(opInspector));
+    for (const PanePlace& place : FactoryPlaces())
+        m_docks.AddDock(m_docks.CreateDock(place.name, Tr(TitleOf(place.name))), DockArea::Bottom,
+                        DockOrientation::Horizontal);
+    m_docks.GetDock(JournalName)->SetWidget(MakeOwner<JournalPane>());
+    Fill();
     m_layout.RestoreDefault();
 
     // Any number of changes at once refresh the panes once.
@@ -82,25 +112,25 @@ Panes::~Panes()
 std::vector<CommandEntry> Panes::MakeCommands()
 {
     std::vector<CommandEntry> entries = {
-        CommandEntry::Plain(L"Sketcher.HideAllPanes", L"隐藏全部面板",
+        CommandEntry::Plain(L"Sketcher.HideAllPanes", L"隐藏全部面板"_source,
                             [this] { m_layout.ToggleAllHidden(); })
             .WithIcon(L"panes-hide")
-            .WithToolTip(L"隐藏全部面板；再按一次恢复原样")
+            .WithToolTip(L"隐藏全部面板；再按一次恢复原样"_source)
             .WithKeys(L"Ctrl+H")
-            .InGroup(L"面板"),
-        CommandEntry::Plain(L"Sketcher.DefaultLayout", L"恢复默认布局",
+            .InGroup(L"面板"_source),
+        CommandEntry::Plain(L"Sketcher.DefaultLayout", L"恢复默认布局"_source,
                             [this] { m_layout.RestoreDefault(); })
             .WithIcon(L"panes-default")
-            .WithToolTip(L"恢复面板的默认布局")
-            .InGroup(L"面板"),
-        CommandEntry::Plain(ShowAllId, L"显示全部面板", [this] { m_docks.ShowAllDockPane(); })
-            .WithToolTip(L"显示全部面板"),
+            .WithToolTip(L"恢复面板的默认布局"_source)
+            .InGroup(L"面板"_source),
+        CommandEntry::Plain(ShowAllId, L"显示全部面板"_source,
+                            [this] { m_docks.ShowAllDockPane(); })
+            .WithToolTip(L"显示全部面板"_source),
     };
     for (const PanePlace& place : FactoryPlaces())
-        entries.push_back(CommandEntry::Plain(CommandPrefix + place.name,
-                                              m_docks.GetDock(place.name)->GetTitle(),
+        entries.push_back(CommandEntry::Plain(CommandPrefix + place.name, TitleOf(place.name),
                                               [this, name = place.name] { Toggle(name); })
-                              .WithToolTip(L"显示或隐藏此面板")
+                              .WithToolTip(L"显示或隐藏此面板"_source)
                               .InMenu(PaneMenu::Id));
     return entries;
 }
@@ -120,11 +150,33 @@ void Panes::OnRecord(const JournalRecord&)
 
 void Panes::OnUiObject(const IJournalUiObject&, int) {}
 
-void Panes::Add(const std::wstring& name, const wchar_t* title, OwnerPtr<IWidget> opContent)
+void Panes::Empty()
 {
-    OwnerPtr<IDock> opDock = m_docks.CreateDock(name, title);
-    opDock->SetWidget(std::move(opContent));
-    m_docks.AddDock(std::move(opDock), DockArea::Bottom, DockOrientation::Horizontal);
+    m_refresh.stop();
+    m_pInspector->Stop();
+    for (const PanePlace& place : FactoryPlaces())
+    {
+        if (place.name != JournalName)
+            delete dynamic_cast<QWidget*>(m_docks.GetDock(place.name)->GetWidget());
+    }
+    m_pInspector = nullptr;
+}
+
+void Panes::Fill()
+{
+    auto opInspector = MakeOwner<Inspector>(m_controls, m_input);
+    m_pInspector = opInspector.Get();
+    auto opEntities = MakeOwner<EntityPane>(m_workspace);
+    connect(opEntities.Get(), &EntityPane::menuRequested, this, &Panes::menuRequested);
+    m_docks.GetDock(IPropertyWidget::GetTypeName())
+        ->SetWidget(MakeOwner<PropertyPane>(m_workspace, m_controls));
+    m_docks.GetDock(EntitiesName)->SetWidget(std::move(opEntities));
+    m_docks.GetDock(LayersName)->SetWidget(MakeOwner<LayerPane>(m_workspace));
+    m_docks.GetDock(InspectorName)->SetWidget(std::move(opInspector));
+    for (const PanePlace& place : FactoryPlaces())
+        m_docks.GetDock(place.name)->SetTitle(Tr(TitleOf(place.name)));
+    NameDockButtons(m_window);
+    Refresh();
 }
 
 void Panes::Mark(QMenu& menu)

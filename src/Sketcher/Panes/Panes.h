@@ -37,6 +37,13 @@ public:
           vesk::ControlHost& controls, const vesk::DimensionInputController& input);
     ~Panes() override;
 
+    /// Destroys the contents of the panes; the controls in them are destroyed already. That of the
+    /// journal stays: it has the records so far, and follows the language by itself.
+    void Empty();
+
+    /// Creates these contents, and shows the titles of all panes in the user's language.
+    void Fill();
+
     vesk::PaneLayout& GetLayout() { return m_layout; }
 
     /// Refreshes the panes as soon as the event loop is idle.
@@ -61,14 +68,16 @@ signals:
     void menuRequested(const QPoint& position);
 
 private:
-    void Add(const std::wstring& name, const wchar_t* title,
-             vesk::OwnerPtr<vesk::IWidget> opContent);
     void Mark(QMenu& menu);
     void Toggle(const std::wstring& name);
     void OnAllChosen();
 
+    Workspace& m_workspace;
+    vesk::MainWindow& m_window;
+    vesk::ControlHost& m_controls;
+    const vesk::DimensionInputController& m_input;
     vesk::IDockManager& m_docks;
-    vesk::Inspector* m_pInspector; ///< Owned by its pane.
+    vesk::Inspector* m_pInspector = nullptr; ///< Owned by its pane.
     vesk::PaneLayout m_layout;
 
     /// Fires when the panes must be refreshed.

@@ -2,6 +2,7 @@
 
 #include "Model/EntityEdit.h"
 #include "Model/ShapeKind.h"
+#include "Model/UiText.h"
 #include "Model/Workspace.h"
 #include "Panes/RefusalMessage.h"
 #include "Ribbon/FieldKeys.h"
@@ -85,7 +86,7 @@ void PropertyPane::AddRow(const ShapeProperty& property, ControlHost& controls, 
     QWidget* pWidget = controls.Create(OwnerPtr<ILineEditDefinition>(std::move(opDefinition)));
     if (pWidget == nullptr)
         return;
-    auto* pCaption = new QLabel(ToQString(property.caption));
+    auto* pCaption = new QLabel(ToQString(Tr(property.caption)));
     pCaption->setBuddy(pWidget);
     layout.addRow(pCaption, pWidget);
     pDefinition->GetLineEditEvent()->Add(this);
@@ -116,13 +117,14 @@ void PropertyPane::FindKinds()
 void PropertyPane::ShowTitle()
 {
     if (m_shownIds.empty())
-        m_pTitle->setText(QStringLiteral("未选图元"));
+        m_pTitle->setText("未选图元"_tr);
     else if (m_shownIds.size() > 1)
-        m_pTitle->setText(QStringLiteral("已选 %1 个图元").arg(m_shownIds.size()));
+        m_pTitle->setText(Tr("已选 %n 个图元"_source, static_cast<int>(m_shownIds.size())));
     else
         m_pTitle->setText(
             QStringLiteral("%1 #%2")
-                .arg(ToQString(KindOf(m_workspace.sketch.Find(m_shownIds.front())->shape).caption))
+                .arg(ToQString(
+                    Tr(KindOf(m_workspace.sketch.Find(m_shownIds.front())->shape).caption)))
                 .arg(m_shownIds.front()));
 }
 
@@ -186,7 +188,7 @@ void PropertyPane::Commit(Row& row, const std::wstring& text)
     const EntityEdit edit{m_shownIds, row.property.name, value};
     if (!edit.IsPossible(m_workspace.sketch))
     {
-        Refuse(row, QStringLiteral("以此值无法绘制图元"));
+        Refuse(row, "以此值无法绘制图元"_tr);
         return;
     }
     Accept(row);
@@ -204,7 +206,7 @@ void PropertyPane::Commit(Row& row, const std::wstring& text)
 void PropertyPane::Refuse(const Row& row, const QString& reason)
 {
     m_refusedId = row.pDefinition->GetId();
-    m_pMessage->setText(QStringLiteral("%1：%2").arg(ToQString(row.property.caption), reason));
+    m_pMessage->setText("%1：%2"_tr.arg(ToQString(Tr(row.property.caption)), reason));
     m_pMessage->show();
 }
 

@@ -1,6 +1,7 @@
 #include "Panes/RecordText.h"
 
 #include "Model/Overloaded.h"
+#include "Model/UiText.h"
 
 #include "Dimension/InputField.h"
 #include "HostUi/QtText.h"
@@ -43,7 +44,7 @@ QString ValueText(const CommandParameterValue& value)
 
 QString CommandText(const CommandRecord& record)
 {
-    QStringList parts = {QStringLiteral("命令 ") + ToQString(record.commandId)};
+    QStringList parts = {"命令 %1"_tr.arg(ToQString(record.commandId))};
     for (const auto& [name, value] : record.parameters.GetAll())
         parts << QStringLiteral("%1=%2").arg(ToQString(name), ValueText(value));
     return parts.join(QStringLiteral("  "));
@@ -52,22 +53,23 @@ QString CommandText(const CommandRecord& record)
 QString PointText(const PointRecord& record)
 {
     const QString text =
-        QStringLiteral("点 %1, %2").arg(NumberText(record.point.x()), NumberText(record.point.y()));
-    return record.entity.has_value() ? text + QStringLiteral("  图元 #%1").arg(*record.entity)
-                                     : text;
+        "点 %1, %2"_tr.arg(NumberText(record.point.x()), NumberText(record.point.y()));
+    return record.entity.has_value()
+               ? text + QStringLiteral("  ") + "图元 #%1"_tr.arg(*record.entity)
+               : text;
 }
 
 QString SelectionText(const SelectionRecord& record)
 {
     constexpr std::size_t MostNamed = 8;
     if (record.entities.empty())
-        return QStringLiteral("取消选择");
+        return "取消选择"_tr;
     if (record.entities.size() > MostNamed)
-        return QStringLiteral("选择 %1 个图元").arg(record.entities.size());
+        return Tr("选择 %n 个图元"_source, static_cast<int>(record.entities.size()));
     QStringList ids;
     for (const int id : record.entities)
         ids << QStringLiteral("#%1").arg(id);
-    return QStringLiteral("选择 ") + ids.join(QLatin1Char(' '));
+    return "选择 %1"_tr.arg(ids.join(QLatin1Char(' ')));
 }
 
 }
@@ -89,20 +91,17 @@ QString DescribeRecord(const JournalRecord& record)
                     .arg(ToQString(property.object), ToQString(property.property),
                          Shortened(ToQString(property.value)));
             },
-            [](const UndoRecord& undo) { return QStringLiteral("撤销 #%1").arg(undo.entity); },
-            [](const RedoRecord& redo) { return QStringLiteral("重做 #%1").arg(redo.entity); },
+            [](const UndoRecord& undo) { return "撤销 #%1"_tr.arg(undo.entity); },
+            [](const RedoRecord& redo) { return "重做 #%1"_tr.arg(redo.entity); },
             [](const MarkRecord& mark) {
-                return QStringLiteral("图纸 %1").arg(
-                    Shortened(QString::fromStdString(mark.digest).left(8)));
+                return "图纸 %1"_tr.arg(Shortened(QString::fromStdString(mark.digest).left(8)));
             },
-            [](const CloseRecord&) { return QStringLiteral("程序结束"); },
+            [](const CloseRecord&) { return "程序结束"_tr; },
             [](const HeaderRecord& header) {
-                return QStringLiteral("日志 %1  %2")
-                    .arg(Shortened(ToQString(header.program)), Shortened(ToQString(header.time)));
+                return "日志 %1  %2"_tr.arg(Shortened(ToQString(header.program)),
+                                            Shortened(ToQString(header.time)));
             },
-            [](const EndRecord& end) {
-                return end.isRefused ? QStringLiteral("未执行") : QStringLiteral("结束");
-            },
+            [](const EndRecord& end) { return end.isRefused ? "未执行"_tr : "结束"_tr; },
         },
         record.what);
     return QStringLiteral("%1  %2").arg(record.number, 5).arg(text);

@@ -4,6 +4,7 @@
 #include "Model/DocumentFile.h"
 #include "Model/KeptContent.h"
 #include "Model/Sketch.h"
+#include "Model/UiText.h"
 #include "Recovery/Snapshot.h"
 
 #include "HostUi/QtText.h"
@@ -83,7 +84,7 @@ void RecoverContent::Apply(Sketch& sketch, const CommandParameters& parameters)
 
 CommandEntry MakeRecoverCommand(Sketch& sketch)
 {
-    return CommandEntry::WithParameters(RecoverContent::CommandId, L"恢复内容",
+    return CommandEntry::WithParameters(RecoverContent::CommandId, L"恢复内容"_source,
                                         [&sketch](const CommandParameters& parameters) {
                                             RecoverContent::Apply(sketch, parameters);
                                         })

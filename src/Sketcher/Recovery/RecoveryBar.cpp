@@ -1,5 +1,6 @@
 #include "Recovery/RecoveryBar.h"
 
+#include "Model/UiText.h"
 #include "Recovery/UnsavedWork.h"
 
 #include <QHBoxLayout>
@@ -44,14 +45,12 @@ RecoveryBar::RecoveryBar(QWidget* pParent) : QFrame(pParent), m_pText(new QLabel
         void (RecoveryBar::*signal)();
     };
     const Choice choices[] = {
-        {"RecoveryGoOn", QStringLiteral("继续(&R)"), QStringLiteral("恢复这些操作并继续绘图"),
-         &RecoveryBar::goOnRequested},
-        {"RecoveryLook", QStringLiteral("查看(&K)"), QStringLiteral("在另一窗口中查看，不作改动"),
+        {"RecoveryGoOn", "继续(&R)"_tr, "恢复这些操作并继续绘图"_tr, &RecoveryBar::goOnRequested},
+        {"RecoveryLook", "查看(&K)"_tr, "在另一窗口中查看，不作改动"_tr,
          &RecoveryBar::lookRequested},
-        {"RecoveryLeave", QStringLiteral("忽略(&I)"),
-         QStringLiteral("不再提示；日志仍保留一段时间"), &RecoveryBar::leaveRequested},
-        {"RecoveryPostpone", QStringLiteral("以后(&L)"), QStringLiteral("下次启动时再提示"),
-         &RecoveryBar::postponed},
+        {"RecoveryLeave", "忽略(&I)"_tr, "不再提示；日志仍保留一段时间"_tr,
+         &RecoveryBar::leaveRequested},
+        {"RecoveryPostpone", "以后(&L)"_tr, "下次启动时再提示"_tr, &RecoveryBar::postponed},
     };
     for (const Choice& choice : choices)
     {
@@ -70,12 +69,12 @@ void RecoveryBar::Offer(const UnsavedWork& work, const QString& caption, int oth
     QStringList parts;
     if (!caption.isEmpty())
         parts << caption;
-    parts << TimeText(work.time) << QStringLiteral("%1 步").arg(work.steps);
-    QString text = QStringLiteral("上次未正常结束：") + parts.join(QStringLiteral("，"));
+    parts << TimeText(work.time) << Tr("%n 步"_source, work.steps);
+    QString text = "上次未正常结束：%1"_tr.arg(parts.join("，"_tr));
     if (!work.isReadInFull)
-        text += QStringLiteral("（日志有损坏，可恢复损坏之前的部分）");
+        text += "（日志有损坏，可恢复损坏之前的部分）"_tr;
     if (others > 0)
-        text += QStringLiteral("；另有 %1 个").arg(others);
+        text += Tr("；另有 %n 个"_source, others);
     m_pText->setText(text);
     m_pText->setToolTip(text);
 }

@@ -1,5 +1,6 @@
 #include "Recovery/RecoveryOffer.h"
 
+#include "Model/UiText.h"
 #include "Recovery/RecoveryBar.h"
 
 #include "Command/ActionManager.h"
@@ -160,7 +161,7 @@ void RecoveryOffer::GoOnWith(const UnsavedWork& work)
     // Another window may have gone on with it in the meantime.
     if (JournalFolder::IsSettled(work.journal) || !QFileInfo::exists(work.journal))
     {
-        m_window.ShowNotice(QStringLiteral("上次的操作已在另一窗口中恢复"));
+        m_window.ShowNotice("上次的操作已在另一窗口中恢复"_tr);
         return;
     }
     const QPointer<RecoveryOffer> pThis(this);

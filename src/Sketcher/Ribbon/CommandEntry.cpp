@@ -1,6 +1,9 @@
 #include "Ribbon/CommandEntry.h"
 
+#include "Model/UiText.h"
+
 #include "Command/IAction.h"
+#include "HostUi/QtText.h"
 #include "Journal/CommandParameters.h"
 #include "Replay/JournalReplayer.h"
 
@@ -66,9 +69,10 @@ CommandEntry& CommandEntry::WithIcon(const std::wstring& name)
     return *this;
 }
 
-CommandEntry& CommandEntry::WithToolTip(const std::wstring& text)
+CommandEntry& CommandEntry::WithToolTip(const std::wstring& text, const std::wstring& argument)
 {
     toolTip = text;
+    toolTipArgument = argument;
     return *this;
 }
 
@@ -114,7 +118,15 @@ CommandEntry& CommandEntry::EnabledWhile(const Command::Condition& condition)
     return *this;
 }
 
+std::wstring CommandEntry::GetCaption() const
+{
+    return Tr(caption);
+}
+
 std::wstring CommandEntry::GetToolTip() const
 {
-    return keys.empty() ? toolTip : toolTip + L" (" + keys + L")";
+    QString tip = ToQString(Tr(toolTip));
+    if (!toolTipArgument.empty())
+        tip = tip.arg(ToQString(toolTipArgument));
+    return ToWide(tip) + (keys.empty() ? std::wstring() : L" (" + keys + L")");
 }

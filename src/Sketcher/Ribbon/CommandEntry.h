@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Model/UiText.h"
+
 #include "Command/Command.h"
 
 #include <functional>
@@ -12,7 +14,8 @@ class CommandParameters;
 
 /// A command of the program: what it does and where it is shown.
 ///
-/// Built by chaining: `CommandEntry::Plain(id, caption, undo).InGroup(L"编辑")`.
+/// Built by chaining: `CommandEntry::Plain(id, caption, undo).InGroup(L"编辑"_source)`. Captions,
+/// tool tips and groups are source texts.
 struct CommandEntry
 {
     /// A command that completes at once.
@@ -39,7 +42,9 @@ struct CommandEntry
     PossibleWith(const std::function<bool(const vesk::CommandParameters&)>& predicate);
 
     CommandEntry& WithIcon(const std::wstring& name); ///< "line" for ":/icons/line.svg".
-    CommandEntry& WithToolTip(const std::wstring& text);
+
+    /// The argument replaces `%1` in the translated text.
+    CommandEntry& WithToolTip(const std::wstring& text, const std::wstring& argument = {});
     CommandEntry& WithKeys(const std::wstring& sequence);
     CommandEntry& WithOtherKeys(const std::wstring& sequence); ///< Not in the tool tip.
 
@@ -51,7 +56,10 @@ struct CommandEntry
     CommandEntry& InMenu(const std::wstring& menuId);
     CommandEntry& EnabledWhile(const vesk::Command::Condition& condition);
 
-    /// The tool tip, with the keys if there are any: "撤销上一步 (Ctrl+Z)".
+    /// The caption in the user's language.
+    std::wstring GetCaption() const;
+
+    /// The tool tip in the user's language, with the keys if there are any: "撤销上一步 (Ctrl+Z)".
     std::wstring GetToolTip() const;
 
     std::wstring id;
@@ -67,7 +75,8 @@ struct CommandEntry
     vesk::Command::Execution execute;
     vesk::Command::Condition isEnabled; ///< If empty, the command is always enabled.
 
-    std::wstring otherKeys = {}; ///< Another shortcut of the button.
+    std::wstring otherKeys = {};       ///< Another shortcut of the button.
+    std::wstring toolTipArgument = {}; ///< Replaces `%1` in the tool tip.
     std::function<bool(const vesk::CommandParameters&)> isPossible = {}; ///< If empty, always.
 
     bool isNotWhileTyping = false;

@@ -1,5 +1,6 @@
 #include "Ribbon/CommandMenus.h"
 
+#include "Model/UiText.h"
 #include "Ribbon/CommandTable.h"
 
 #include "Control/CommandButtonMenuDefinition.h"
@@ -13,7 +14,7 @@ namespace
 
 OwnerPtr<IMenuItemDefinition> MakeItem(const CommandEntry& entry)
 {
-    auto opItem = MakeOwner<CommandMenuItemDefinition>(entry.id, entry.id, entry.caption);
+    auto opItem = MakeOwner<CommandMenuItemDefinition>(entry.id, entry.id, entry.GetCaption());
     opItem->SetTooltip(entry.GetToolTip());
     opItem->SetIconPath(entry.iconPath);
     return opItem;
@@ -24,7 +25,7 @@ OwnerPtr<IMenuItemDefinition> MakeItem(const CommandEntry& entry)
 OwnerPtr<CommandButtonMenuDefinition> MakeZoomMenu(const std::vector<CommandEntry>& commands)
 {
     auto opMenu = MakeOwner<CommandButtonMenuDefinition>(ZoomMenu::Id, L"Sketcher.ZoomAll");
-    auto opScales = MakeOwner<MenuItemContainerDefinition>(ZoomMenu::ScaleId, L"比例");
+    auto opScales = MakeOwner<MenuItemContainerDefinition>(ZoomMenu::ScaleId, L"比例"_tr);
     opScales->SetIconPath(L":/icons/zoom-scale.svg");
     for (const CommandEntry& entry : commands)
     {
@@ -34,8 +35,8 @@ OwnerPtr<CommandButtonMenuDefinition> MakeZoomMenu(const std::vector<CommandEntr
             opScales->AddMenuItem(MakeItem(entry));
     }
     opMenu->AddMenuItem(std::move(opScales));
-    opMenu->SetCaption(L"缩放");
-    opMenu->SetTooltip(L"缩放到全部图元；箭头打开更多缩放命令");
+    opMenu->SetCaption(L"缩放"_tr);
+    opMenu->SetTooltip(L"缩放到全部图元；箭头打开更多缩放命令"_tr);
     opMenu->SetIconPath(L":/icons/zoom.svg");
     opMenu->SetVisible(false);
     return opMenu;
@@ -49,8 +50,8 @@ OwnerPtr<CommandButtonMenuDefinition> MakePaneMenu(const std::vector<CommandEntr
         if (entry.menu == PaneMenu::Id)
             opMenu->AddMenuItem(MakeItem(entry));
     }
-    opMenu->SetCaption(L"面板");
-    opMenu->SetTooltip(L"显示全部面板；箭头逐个显示或隐藏");
+    opMenu->SetCaption(L"面板"_tr);
+    opMenu->SetTooltip(L"显示全部面板；箭头逐个显示或隐藏"_tr);
     opMenu->SetIconPath(L":/icons/panes.svg");
     opMenu->SetVisible(false);
     return opMenu;

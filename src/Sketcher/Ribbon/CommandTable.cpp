@@ -1,6 +1,7 @@
 #include "Ribbon/CommandTable.h"
 
 #include "Model/EntityEdit.h"
+#include "Model/UiText.h"
 #include "Model/Workspace.h"
 #include "Ribbon/EditCommands.h"
 #include "Ribbon/LayerCommands.h"
@@ -46,36 +47,36 @@ void SetProperty(Sketch& sketch, const CommandParameters& parameters)
 std::vector<CommandEntry> MakeDrawingCommands(Workspace& workspace)
 {
     std::vector<CommandEntry> entries = {
-        Begin<LineAction>(L"Sketcher.Line", L"直线", workspace)
+        Begin<LineAction>(L"Sketcher.Line", L"直线"_source, workspace)
             .WithIcon(L"line")
-            .WithToolTip(L"直线：单击或键入长度和角度，逐段绘制")
+            .WithToolTip(L"直线：单击或键入长度和角度，逐段绘制"_source)
             .WithKeys(L"Ctrl+L"),
-        Begin<RectangleAction>(L"Sketcher.Rectangle", L"矩形", workspace)
+        Begin<RectangleAction>(L"Sketcher.Rectangle", L"矩形"_source, workspace)
             .WithIcon(L"rectangle")
-            .WithToolTip(L"矩形：单击两个对角点，或键入宽度和高度")
+            .WithToolTip(L"矩形：单击两个对角点，或键入宽度和高度"_source)
             .WithKeys(L"Ctrl+R"),
-        Begin<CircleAction>(L"Sketcher.Circle", L"圆", workspace)
+        Begin<CircleAction>(L"Sketcher.Circle", L"圆"_source, workspace)
             .WithIcon(L"circle")
-            .WithToolTip(L"圆：单击圆心和圆上一点，或键入半径")
+            .WithToolTip(L"圆：单击圆心和圆上一点，或键入半径"_source)
             .WithKeys(L"Ctrl+I"),
-        Begin<ArcThreePointsAction>(L"Sketcher.Arc3Points", L"三点圆弧", workspace)
+        Begin<ArcThreePointsAction>(L"Sketcher.Arc3Points", L"三点圆弧"_source, workspace)
             .WithIcon(L"arc-three-points")
-            .WithToolTip(L"三点圆弧：单击起点、端点和弧上一点，或键入半径")
+            .WithToolTip(L"三点圆弧：单击起点、端点和弧上一点，或键入半径"_source)
             .WithKeys(L"Ctrl+3"),
-        Begin<ArcCentreAction>(L"Sketcher.ArcCentre", L"圆心圆弧", workspace)
+        Begin<ArcCentreAction>(L"Sketcher.ArcCentre", L"圆心圆弧"_source, workspace)
             .WithIcon(L"arc-centre")
-            .WithToolTip(L"圆心圆弧：单击圆心、起点和端点，或键入圆心角")
+            .WithToolTip(L"圆心圆弧：单击圆心、起点和端点，或键入圆心角"_source)
             .WithKeys(L"Ctrl+4"),
     };
     for (CommandEntry& entry : entries)
-        entry.InGroup(L"绘图");
+        entry.InGroup(L"绘图"_source);
     return entries;
 }
 
 CommandEntry MakePropertyCommand(Sketch& sketch)
 {
     return CommandEntry::WithParameters(
-               EntityEdit::CommandId, L"设置特性",
+               EntityEdit::CommandId, L"设置特性"_source,
                [&sketch](const CommandParameters& parameters) { SetProperty(sketch, parameters); })
         .PossibleWith([&sketch](const CommandParameters& parameters) {
             const std::optional<EntityEdit> edit = EntityEdit::From(parameters);
@@ -89,27 +90,27 @@ std::vector<CommandEntry> MakeEditCommands(Workspace& workspace)
     return {
         MakeUndoCommand(sketch),
         MakeRedoCommand(sketch),
-        Begin<EraseAction>(L"Sketcher.Erase", L"删除", workspace)
+        Begin<EraseAction>(L"Sketcher.Erase", L"删除"_source, workspace)
             .WithIcon(L"erase")
-            .WithToolTip(L"删除：单击要删除的图元")
+            .WithToolTip(L"删除：单击要删除的图元"_source)
             .WithKeys(L"Ctrl+E")
-            .InGroup(L"编辑"),
-        Begin<RotateAction>(L"Sketcher.Rotate", L"旋转", workspace)
+            .InGroup(L"编辑"_source),
+        Begin<RotateAction>(L"Sketcher.Rotate", L"旋转"_source, workspace)
             .WithIcon(L"rotate")
-            .WithToolTip(L"旋转：将所选图元绕一点转到另一方向，或键入角度")
+            .WithToolTip(L"旋转：将所选图元绕一点转到另一方向，或键入角度"_source)
             .WithKeys(L"Ctrl+T")
-            .InGroup(L"编辑"),
+            .InGroup(L"编辑"_source),
         MakePropertyCommand(sketch),
     };
 }
 
 CommandEntry MakeKeyStripCommand(DimensionInputController& input)
 {
-    return CommandEntry::Plain(L"Sketcher.KeyStrip", L"按键提示",
+    return CommandEntry::Plain(L"Sketcher.KeyStrip", L"按键提示"_source,
                                [&input] { input.SetKeyStripShown(!input.IsKeyStripShown()); })
         .WithIcon(L"key-strip")
-        .WithToolTip(L"键入数值时显示或隐藏按键提示")
-        .InGroup(L"视图");
+        .WithToolTip(L"键入数值时显示或隐藏按键提示"_source)
+        .InGroup(L"视图"_source);
 }
 
 CommandEntry MakeScaleCommand(int percent, SketchView& view)
@@ -117,7 +118,7 @@ CommandEntry MakeScaleCommand(int percent, SketchView& view)
     const std::wstring number = std::to_wstring(percent);
     return CommandEntry::Plain(ZoomMenu::ScaleId + (L"." + number), number + L"%",
                                [&view, percent] { view.SetPixelsPerUnit(percent / 100.0); })
-        .WithToolTip(L"按 " + number + L"% 显示")
+        .WithToolTip(L"按 %1 显示"_source, number + L"%")
         .InMenu(ZoomMenu::ScaleId);
 }
 
@@ -125,25 +126,26 @@ std::vector<CommandEntry> MakeZoomCommands(const Sketch& sketch, SketchView& vie
 {
     constexpr double ZoomStep = 2.0;
     std::vector<CommandEntry> entries = {
-        CommandEntry::Plain(L"Sketcher.ZoomAll", L"全图", [&view] { view.ZoomAll(); })
+        CommandEntry::Plain(L"Sketcher.ZoomAll", L"全图"_source, [&view] { view.ZoomAll(); })
             .WithIcon(L"zoom-all")
-            .WithToolTip(L"全图：缩放到全部图元")
+            .WithToolTip(L"全图：缩放到全部图元"_source)
             .WithKeys(L"Ctrl+0")
-            .InGroup(L"视图")
+            .InGroup(L"视图"_source)
             .InMenu(ZoomMenu::Id)
             .EnabledWhile([&sketch] { return !sketch.GetEntities().empty(); }),
-        Begin<ZoomWindowAction>(L"Sketcher.Zoom.Window", L"窗口", view)
+        Begin<ZoomWindowAction>(L"Sketcher.Zoom.Window", L"窗口"_source, view)
             .WithIcon(L"zoom-window")
-            .WithToolTip(L"缩放到两个角点之间")
+            .WithToolTip(L"缩放到两个角点之间"_source)
             .InMenu(ZoomMenu::Id),
-        CommandEntry::Plain(L"Sketcher.Zoom.In", L"放大", [&view] { view.Magnify(ZoomStep); })
+        CommandEntry::Plain(L"Sketcher.Zoom.In", L"放大"_source,
+                            [&view] { view.Magnify(ZoomStep); })
             .WithIcon(L"zoom-in")
-            .WithToolTip(L"放大一倍")
+            .WithToolTip(L"放大一倍"_source)
             .InMenu(ZoomMenu::Id),
-        CommandEntry::Plain(L"Sketcher.Zoom.Out", L"缩小",
+        CommandEntry::Plain(L"Sketcher.Zoom.Out", L"缩小"_source,
                             [&view] { view.Magnify(1.0 / ZoomStep); })
             .WithIcon(L"zoom-out")
-            .WithToolTip(L"缩小一半")
+            .WithToolTip(L"缩小一半"_source)
             .InMenu(ZoomMenu::Id),
     };
     for (const int percent : {25, 50, 100, 200, 400, 1000})

@@ -1,5 +1,6 @@
 #include "Ribbon/ContextMenu.h"
 
+#include "Model/UiText.h"
 #include "View/SketchView.h"
 
 #include "Command/ActionManager.h"
@@ -59,7 +60,7 @@ void ContextMenu::Show(const QPoint& position)
         if (commandId == nullptr)
             pMenu->addSeparator();
         else if (pEntry != nullptr)
-            AddEntry(*pMenu, *pEntry, ToQString(pEntry->caption));
+            AddEntry(*pMenu, *pEntry, ToQString(pEntry->GetCaption()));
     }
     pMenu->popup(position);
 }
@@ -84,7 +85,7 @@ void ContextMenu::AddRepetition(QMenu& menu) const
     const CommandEntry* pLast = Find(m_lastTool.GetCommandId());
     if (pLast == nullptr)
         return;
-    AddEntry(menu, *pLast, QStringLiteral("重复“%1”").arg(ToQString(pLast->caption)));
+    AddEntry(menu, *pLast, "重复“%1”"_tr.arg(ToQString(pLast->GetCaption())));
     menu.addSeparator();
 }
 

@@ -1,5 +1,6 @@
 #include "Ribbon/DrawingPanel.h"
 
+#include "Model/UiText.h"
 #include "Model/Workspace.h"
 #include "Ribbon/FieldKeys.h"
 #include "Ribbon/PlaceControl.h"
@@ -25,11 +26,11 @@ constexpr int NameWidth = 12;
 
 DrawingPanel::DrawingPanel(Workspace& workspace, Qtitan::RibbonGroup& group, ControlHost& controls)
     : m_sketch(workspace.sketch), m_properties(workspace.properties),
-      m_shownName(workspace.sketch.GetName())
+      m_shownName(workspace.sketch.GetShownName())
 {
     auto opName = MakeOwner<LineEditDefinition>(L"Sketcher.DrawingName");
     opName->SetText(m_shownName);
-    m_pName = PlaceControl(std::move(opName), QStringLiteral("图名"), group, controls);
+    m_pName = PlaceControl(std::move(opName), "图名"_tr, group, controls);
     m_pCount = PlaceControl(MakeOwner<LabelDefinition>(L"Sketcher.EntityCount"), QString(), group,
                             controls);
     if (m_pName != nullptr)
@@ -39,7 +40,7 @@ DrawingPanel::DrawingPanel(Workspace& workspace, Qtitan::RibbonGroup& group, Con
         {
             // The whole page must fit on a usual screen.
             pField->setMaximumWidth(NameWidth * pField->fontMetrics().averageCharWidth());
-            new FieldKeys(*pField, *m_pName, [this] { return m_sketch.GetName(); });
+            new FieldKeys(*pField, *m_pName, [this] { return m_sketch.GetShownName(); });
         }
     }
     connect(&workspace.sketch, &Sketch::changed, this, &DrawingPanel::OnSketchChanged);
@@ -54,7 +55,7 @@ DrawingPanel::~DrawingPanel()
 
 void DrawingPanel::On(LineEditEventArgs* pArgs)
 {
-    if (pArgs->GetText() == m_sketch.GetName())
+    if (pArgs->GetText() == m_sketch.GetShownName())
         return;
     m_properties.Set(PropertyRecord{L"drawing", L"name", pArgs->GetText()});
 }
@@ -62,11 +63,11 @@ void DrawingPanel::On(LineEditEventArgs* pArgs)
 void DrawingPanel::OnSketchChanged()
 {
     // Only a changed name may replace text being typed.
-    if (m_pName != nullptr && m_sketch.GetName() != m_shownName)
+    if (m_pName != nullptr && m_sketch.GetShownName() != m_shownName)
     {
-        m_shownName = m_sketch.GetName();
+        m_shownName = m_sketch.GetShownName();
         m_pName->SetText(m_shownName);
     }
     if (m_pCount != nullptr)
-        m_pCount->SetCaption(L"图元：" + std::to_wstring(m_sketch.GetEntities().size()));
+        m_pCount->SetCaption(ToWide("图元：%1"_tr.arg(m_sketch.GetEntities().size())));
 }

@@ -2,6 +2,7 @@
 
 #include "Model/LayerEdit.h"
 #include "Model/Sketch.h"
+#include "Model/UiText.h"
 
 #include "Command/ActionManager.h"
 
@@ -33,8 +34,8 @@ CommandEntry MakeLayerCommand(const std::wstring& caption, Sketch& sketch)
 std::vector<CommandEntry> MakeLayerCommands(Sketch& sketch)
 {
     return {
-        MakeLayerCommand<LayerAddition>(L"新建图层", sketch),
-        MakeLayerCommand<LayerEdit>(L"设置图层", sketch),
-        MakeLayerCommand<LayerRemoval>(L"删除图层", sketch),
+        MakeLayerCommand<LayerAddition>(L"新建图层"_source, sketch),
+        MakeLayerCommand<LayerEdit>(L"设置图层"_source, sketch),
+        MakeLayerCommand<LayerRemoval>(L"删除图层"_source, sketch),
     };
 }

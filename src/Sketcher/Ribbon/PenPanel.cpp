@@ -1,5 +1,6 @@
 #include "Ribbon/PenPanel.h"
 
+#include "Model/UiText.h"
 #include "Model/Workspace.h"
 #include "Ribbon/PlaceControl.h"
 
@@ -22,9 +23,9 @@ struct BoxText
 };
 
 /// In the order of the parts.
-constexpr BoxText PartTexts[] = {{L"Sketcher.LineStyle", "线型"},
-                                 {L"Sketcher.LineColour", "颜色"},
-                                 {L"Sketcher.LineWidth", "线宽"}};
+constexpr BoxText PartTexts[] = {{L"Sketcher.LineStyle", "线型"_source},
+                                 {L"Sketcher.LineColour", "颜色"_source},
+                                 {L"Sketcher.LineWidth", "线宽"_source}};
 
 }
 
@@ -36,10 +37,10 @@ PenPanel::PenPanel(Workspace& workspace, Qtitan::RibbonGroup& penGroup,
     {
         const PenPart& part = PenParts()[i];
         AddBox({part.name, part.member, ChoicesOf(part), nullptr}, PartTexts[i].id,
-               PartTexts[i].label, penGroup, controls);
+               Tr(PartTexts[i].label), penGroup, controls);
     }
-    AddBox({L"layer", &Pen::layer, LayerChoices(), nullptr}, L"Sketcher.Layer", "图层", layerGroup,
-           controls);
+    AddBox({L"layer", &Pen::layer, LayerChoices(), nullptr}, L"Sketcher.Layer",
+           Tr("图层"_source, "of an entity"), layerGroup, controls);
     connect(&workspace.sketch, &Sketch::changed, this, &PenPanel::Show);
     connect(&workspace.selection, &Selection::changed, this, &PenPanel::Show);
     Show();
@@ -63,7 +64,7 @@ std::vector<PenPanel::Choice> PenPanel::ChoicesOf(const PenPart& part)
 {
     std::vector<Choice> choices;
     for (std::size_t i = 0; i < part.valueNames.size(); ++i)
-        choices.push_back({static_cast<int>(i), part.valueNames[i], part.valueCaptions[i]});
+        choices.push_back({static_cast<int>(i), part.valueNames[i], Tr(part.valueCaptions[i])});
     return choices;
 }
 
@@ -75,14 +76,13 @@ std::vector<PenPanel::Choice> PenPanel::LayerChoices() const
     return choices;
 }
 
-void PenPanel::AddBox(Box box, const wchar_t* id, const char* label, Qtitan::RibbonGroup& group,
+void PenPanel::AddBox(Box box, const wchar_t* id, const QString& label, Qtitan::RibbonGroup& group,
                       ControlHost& controls)
 {
     auto opDefinition = MakeOwner<ComboBoxDefinition>(id);
     for (const Choice& choice : box.choices)
         opDefinition->AddItem(choice.caption);
-    box.pDefinition =
-        PlaceControl(std::move(opDefinition), QString::fromUtf8(label), group, controls);
+    box.pDefinition = PlaceControl(std::move(opDefinition), label, group, controls);
     if (box.pDefinition == nullptr)
         return;
     box.pDefinition->GetControlDefinitionChangeEvent()->Add(this);

@@ -58,7 +58,7 @@ private:
 
     static std::vector<Choice> ChoicesOf(const PenPart& part);
     std::vector<Choice> LayerChoices() const;
-    void AddBox(Box box, const wchar_t* id, const char* label, Qtitan::RibbonGroup& group,
+    void AddBox(Box box, const wchar_t* id, const QString& label, Qtitan::RibbonGroup& group,
                 vesk::ControlHost& controls);
     void Choose(const Box& box);
     void Show();

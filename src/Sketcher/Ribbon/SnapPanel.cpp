@@ -1,5 +1,6 @@
 #include "Ribbon/SnapPanel.h"
 
+#include "Model/UiText.h"
 #include "Ribbon/PlaceControl.h"
 #include "View/SnapMarker.h"
 
@@ -28,7 +29,7 @@ OwnerPtr<CheckBoxGroupDefinition> MakeDefinition(const Snapper& snapper)
     {
         const auto kind = static_cast<Snapper::Kind>(i);
         auto opBox = MakeOwner<CheckBoxDefinition>(BoxIds[i], ToWide(SnapCaption(kind)));
-        opBox->SetTooltip(L"捕捉光标附近的" + ToWide(SnapCaption(kind)));
+        opBox->SetTooltip(ToWide("捕捉光标附近的%1"_tr.arg(SnapCaption(kind))));
         opBox->SetCheckState(snapper.IsOn(kind) ? Checked : 0);
         opDefinition->AddCheckBox(std::move(opBox));
     }
@@ -39,7 +40,7 @@ OwnerPtr<CheckBoxGroupDefinition> MakeDefinition(const Snapper& snapper)
 
 SnapPanel::SnapPanel(Snapper& snapper, Qtitan::RibbonGroup& group, ControlHost& controls)
     : m_snapper(snapper),
-      m_pDefinition(PlaceControl(MakeDefinition(snapper), QStringLiteral("捕捉"), group, controls))
+      m_pDefinition(PlaceControl(MakeDefinition(snapper), "捕捉"_tr, group, controls))
 {
     if (m_pDefinition != nullptr)
         m_pDefinition->GetControlDefinitionChangeEvent()->Add(this);

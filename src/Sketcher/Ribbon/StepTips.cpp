@@ -1,6 +1,7 @@
 #include "Ribbon/StepTips.h"
 
 #include "Model/Sketch.h"
+#include "Model/UiText.h"
 
 #include "HostUi/QtText.h"
 
@@ -24,7 +25,7 @@ void StepTips::Show(const Tip& tip, const std::wstring& step)
     if (tip.pButton == nullptr)
         return;
     const int keys = tip.plain.lastIndexOf(QStringLiteral(" ("));
-    const QString named = tip.pButton->text() + QStringLiteral("：") + vesk::ToQString(step) +
+    const QString named = "%1：%2"_tr.arg(tip.pButton->text(), vesk::ToQString(Tr(step))) +
                           (keys < 0 ? QString() : tip.plain.mid(keys));
     const QString& text = step.empty() ? tip.plain : named;
     // Telling the button the same again would only cost an event, after each of many equal steps.

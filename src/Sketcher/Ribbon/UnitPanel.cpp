@@ -1,5 +1,6 @@
 #include "Ribbon/UnitPanel.h"
 
+#include "Model/UiText.h"
 #include "Ribbon/PlaceControl.h"
 
 #include "Command/ActionManager.h"
@@ -33,7 +34,7 @@ OwnerPtr<RadioButtonGroupDefinition> MakeDefinition()
     for (const Choice& choice : Choices)
     {
         auto opButton = MakeOwner<RadioButtonDefinition>(choice.id, choice.caption);
-        opButton->SetTooltip(L"长度以此单位显示和键入；图形不变");
+        opButton->SetTooltip(L"长度以此单位显示和键入；图形不变"_tr);
         opDefinition->AddRadioButton(std::move(opButton));
     }
     return opDefinition;
@@ -42,8 +43,7 @@ OwnerPtr<RadioButtonGroupDefinition> MakeDefinition()
 }
 
 UnitPanel::UnitPanel(IUiView& view, Qtitan::RibbonGroup& group, ControlHost& controls)
-    : m_view(view),
-      m_pDefinition(PlaceControl(MakeDefinition(), QStringLiteral("单位"), group, controls))
+    : m_view(view), m_pDefinition(PlaceControl(MakeDefinition(), "单位"_tr, group, controls))
 {
     LengthUnit::SetCurrent(Choices[0].unit());
     if (m_pDefinition != nullptr)

@@ -1,12 +1,14 @@
 #include "Settings/Languages.h"
 
+#include "Model/UiText.h"
+
 #include <QDir>
 #include <QLocale>
 
 QVector<Language> FindLanguages(const QString& folder)
 {
     QVector<Language> languages = {
-        {QString(), QStringLiteral("与桌面相同")},
+        {QString(), "与桌面相同"_tr},
         {QStringLiteral("zh"), QStringLiteral("中文")},
     };
     const QString prefix = QStringLiteral("sketcher_");

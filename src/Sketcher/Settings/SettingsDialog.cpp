@@ -1,5 +1,6 @@
 #include "Settings/SettingsDialog.h"
 
+#include "Model/UiText.h"
 #include "View/SnapMarker.h"
 
 #include <QCheckBox>
@@ -48,9 +49,9 @@ BoxChoices ColourChoices()
     const auto choice = [](Settings::Colours colours, const QString& caption) {
         return std::pair<QVariant, QString>(static_cast<int>(colours), caption);
     };
-    return {choice(Settings::Colours::Desktop, QStringLiteral("与桌面相同")),
-            choice(Settings::Colours::Light, QStringLiteral("浅色")),
-            choice(Settings::Colours::Dark, QStringLiteral("深色"))};
+    return {choice(Settings::Colours::Desktop, "与桌面相同"_tr),
+            choice(Settings::Colours::Light, "浅色"_tr),
+            choice(Settings::Colours::Dark, "深色"_tr)};
 }
 
 BoxChoices UnitChoices()
@@ -63,7 +64,7 @@ BoxChoices UnitChoices()
 
 BoxChoices SpaceChoices()
 {
-    return {{true, QStringLiteral("确定数值")}, {false, QStringLiteral("键入空格")}};
+    return {{true, "确定数值"_tr}, {false, "键入空格"_tr}};
 }
 
 /// A value that is not among the choices selects the first.
@@ -72,20 +73,13 @@ void Select(QComboBox& box, const QVariant& value)
     box.setCurrentIndex(std::max(0, box.findData(value)));
 }
 
-QLabel* MakeNote(const QString& text)
-{
-    auto* pNote = new QLabel(text);
-    pNote->setEnabled(false);
-    return pNote;
-}
-
 QSpinBox* MakeAutosave()
 {
     auto* pMinutes = new QSpinBox;
     pMinutes->setObjectName(QStringLiteral("Autosave"));
     pMinutes->setRange(0, Settings::GreatestAutosaveMinutes);
-    pMinutes->setSpecialValueText(QStringLiteral("关闭"));
-    pMinutes->setSuffix(QStringLiteral(" 分钟"));
+    pMinutes->setSpecialValueText(Tr("关闭"_source, "off"));
+    pMinutes->setSuffix(" 分钟"_tr);
     return pMinutes;
 }
 
@@ -111,17 +105,16 @@ SettingsDialog::SettingsDialog(const Settings& settings, const QVector<Language>
       m_pAutosave(MakeAutosave()), m_pMessage(MakeSettingsMessage())
 {
     setObjectName(QStringLiteral("SettingsDialog"));
-    setWindowTitle(QStringLiteral("设置"));
+    setWindowTitle("设置"_tr);
     auto* pForm = new QFormLayout;
     pForm->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-    pForm->addRow(QStringLiteral("语言(&L)"), m_pLanguage);
-    pForm->addRow(QString(), MakeNote(QStringLiteral("下次启动时生效")));
-    pForm->addRow(QStringLiteral("颜色(&C)"), m_pColours);
-    pForm->addRow(QStringLiteral("长度单位(&U)"), m_pUnit);
-    pForm->addRow(QStringLiteral("捕捉"), MakeSnaps());
-    pForm->addRow(QStringLiteral("键入数值时，空格键(&S)"), m_pSpace);
-    pForm->addRow(QStringLiteral("日志文件夹(&J)"), MakeFolder(defaultJournalFolder));
-    pForm->addRow(QStringLiteral("自动保存间隔(&A)"), m_pAutosave);
+    pForm->addRow("语言(&L)"_tr, m_pLanguage);
+    pForm->addRow("颜色(&C)"_tr, m_pColours);
+    pForm->addRow("长度单位(&U)"_tr, m_pUnit);
+    pForm->addRow("捕捉"_tr, MakeSnaps());
+    pForm->addRow("键入数值时，空格键(&S)"_tr, m_pSpace);
+    pForm->addRow("日志文件夹(&J)"_tr, MakeFolder(defaultJournalFolder));
+    pForm->addRow("自动保存间隔(&A)"_tr, m_pAutosave);
     auto* pLayout = new QVBoxLayout(this);
     pLayout->addLayout(pForm);
     pLayout->addWidget(m_pMessage);
@@ -154,8 +147,8 @@ void SettingsDialog::accept()
         QDialog::accept();
         return;
     }
-    m_pMessage->setText(info.isDir() && info.isAbsolute() ? QStringLiteral("日志文件夹不可写")
-                                                          : QStringLiteral("日志文件夹不存在"));
+    m_pMessage->setText(info.isDir() && info.isAbsolute() ? "日志文件夹不可写"_tr
+                                                          : "日志文件夹不存在"_tr);
     m_pMessage->show();
     m_pFolder->setFocus();
     m_pFolder->selectAll();
@@ -184,9 +177,9 @@ QWidget* SettingsDialog::MakeFolder(const QString& defaultJournalFolder)
     pLayout->setContentsMargins(0, 0, 0, 0);
     m_pFolder->setObjectName(QStringLiteral("JournalFolder"));
     m_pFolder->setPlaceholderText(QDir::toNativeSeparators(defaultJournalFolder));
-    m_pFolder->setToolTip(QStringLiteral("留空则用 %1").arg(m_pFolder->placeholderText()));
+    m_pFolder->setToolTip("留空则用 %1"_tr.arg(m_pFolder->placeholderText()));
     m_pFolder->setMinimumWidth(m_pFolder->fontMetrics().averageCharWidth() * 36);
-    auto* pBrowse = new QPushButton(QStringLiteral("浏览…"));
+    auto* pBrowse = new QPushButton("浏览…"_tr);
     pBrowse->setObjectName(QStringLiteral("Browse"));
     pBrowse->setAutoDefault(false);
     connect(pBrowse, &QPushButton::clicked, this, &SettingsDialog::OnBrowse);
@@ -201,11 +194,9 @@ QWidget* SettingsDialog::MakeFolder(const QString& defaultJournalFolder)
 QWidget* SettingsDialog::MakeButtons()
 {
     auto* pButtons = new QDialogButtonBox;
-    QPushButton* pAccept =
-        pButtons->addButton(QStringLiteral("确定"), QDialogButtonBox::AcceptRole);
-    pButtons->addButton(QStringLiteral("取消"), QDialogButtonBox::RejectRole);
-    QPushButton* pDefaults =
-        pButtons->addButton(QStringLiteral("恢复默认值"), QDialogButtonBox::ResetRole);
+    QPushButton* pAccept = pButtons->addButton("确定"_tr, QDialogButtonBox::AcceptRole);
+    pButtons->addButton("取消"_tr, QDialogButtonBox::RejectRole);
+    QPushButton* pDefaults = pButtons->addButton("恢复默认值"_tr, QDialogButtonBox::ResetRole);
     pAccept->setObjectName(QStringLiteral("Accept"));
     pAccept->setDefault(true);
     pDefaults->setObjectName(QStringLiteral("Defaults"));
@@ -229,7 +220,7 @@ void SettingsDialog::Show(const Settings& settings)
 
 void SettingsDialog::OnBrowse()
 {
-    auto* pDialog = new QFileDialog(this, QStringLiteral("日志文件夹"), m_pFolder->text());
+    auto* pDialog = new QFileDialog(this, "日志文件夹"_tr, m_pFolder->text());
     pDialog->setAttribute(Qt::WA_DeleteOnClose);
     pDialog->setFileMode(QFileDialog::Directory);
     pDialog->setOption(QFileDialog::ShowDirsOnly);

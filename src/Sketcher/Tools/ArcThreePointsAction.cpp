@@ -1,6 +1,7 @@
 #include "Tools/ArcThreePointsAction.h"
 
 #include "Model/Polar.h"
+#include "Model/UiText.h"
 #include "Model/Workspace.h"
 #include "Tools/ArcConstruction.h"
 #include "Tools/ShapeGraphics.h"
@@ -17,10 +18,10 @@ ArcThreePointsAction::ArcThreePointsAction(Workspace& workspace) : DrawingAction
 std::wstring ArcThreePointsAction::GetViewText() const
 {
     if (!m_start.has_value())
-        return L"三点圆弧：单击起点；Esc 结束";
+        return L"三点圆弧：单击起点；Esc 结束"_tr;
     if (!m_end.has_value())
-        return L"三点圆弧：单击端点；Esc 结束";
-    return L"三点圆弧：单击弧上一点，或键入半径；Esc 结束";
+        return L"三点圆弧：单击端点；Esc 结束"_tr;
+    return L"三点圆弧：单击弧上一点，或键入半径；Esc 结束"_tr;
 }
 
 OwnerPtr<ITemporaryDimensionContext> ArcThreePointsAction::CreateDimensionContext() const

@@ -1,6 +1,7 @@
 #include "Tools/CircleAction.h"
 
 #include "Model/Polar.h"
+#include "Model/UiText.h"
 #include "Model/Workspace.h"
 #include "Tools/ShapeGraphics.h"
 
@@ -13,8 +14,8 @@ CircleAction::CircleAction(Workspace& workspace) : DrawingAction(workspace) {}
 
 std::wstring CircleAction::GetViewText() const
 {
-    return m_centre.has_value() ? L"圆：单击圆上一点，或键入半径；Esc 结束"
-                                : L"圆：单击圆心；Esc 结束";
+    return m_centre.has_value() ? L"圆：单击圆上一点，或键入半径；Esc 结束"_tr
+                                : L"圆：单击圆心；Esc 结束"_tr;
 }
 
 /// Describes the circle by three of its points, the last of them towards the cursor.

@@ -1,6 +1,7 @@
 #include "Tools/DrawingAction.h"
 
 #include "Model/Polar.h"
+#include "Model/UiText.h"
 #include "Model/Workspace.h"
 
 #include "Dimension/InputField.h"
@@ -55,7 +56,7 @@ std::wstring DrawingAction::GetRefusal(InputState field, double value)
     if (other.has_value() && !GetTyped(*other).has_value())
         return {};
     const TypedValues::Trial trial(m_values, field, value);
-    return CanFinish(GetEnd()) ? std::wstring() : L"这个值在这里不起作用，请换一个";
+    return CanFinish(GetEnd()) ? std::wstring() : L"这个值在这里不起作用，请换一个"_tr;
 }
 
 void DrawingAction::OnViewInput(const ActionViewInput&, const TypedValue& typed)

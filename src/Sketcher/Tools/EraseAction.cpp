@@ -1,6 +1,7 @@
 #include "Tools/EraseAction.h"
 
 #include "Model/Picking.h"
+#include "Model/UiText.h"
 #include "Model/Workspace.h"
 #include "Tools/ShapeGraphics.h"
 
@@ -13,7 +14,7 @@ EraseAction::EraseAction(Workspace& workspace) : m_sketch(workspace.sketch) {}
 
 std::wstring EraseAction::GetViewText() const
 {
-    return L"删除：单击要删除的图元；Esc 结束";
+    return L"删除：单击要删除的图元；Esc 结束"_tr;
 }
 
 void EraseAction::OnBegin(IUiView* pView)

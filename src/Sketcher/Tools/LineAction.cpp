@@ -1,5 +1,6 @@
 #include "Tools/LineAction.h"
 
+#include "Model/UiText.h"
 #include "Model/Workspace.h"
 #include "Tools/ShapeGraphics.h"
 
@@ -14,8 +15,8 @@ LineAction::LineAction(Workspace& workspace) : DrawingAction(workspace) {}
 
 std::wstring LineAction::GetViewText() const
 {
-    return m_firstPoint.has_value() ? L"直线：单击下一点，或键入长度（Tab 切换到角度）；Esc 结束"
-                                    : L"直线：单击起点；Esc 结束";
+    return m_firstPoint.has_value() ? L"直线：单击下一点，或键入长度（Tab 切换到角度）；Esc 结束"_tr
+                                    : L"直线：单击起点；Esc 结束"_tr;
 }
 
 OwnerPtr<ITemporaryDimensionContext> LineAction::CreateDimensionContext() const

@@ -2,6 +2,7 @@
 
 #include "Model/Polar.h"
 #include "Model/ShapeTransform.h"
+#include "Model/UiText.h"
 #include "Tools/ShapeGraphics.h"
 
 #include "Graphics/IGraphicsNode.h"
@@ -11,17 +12,19 @@ using namespace vesk;
 namespace
 {
 
-constexpr wchar_t MirrorName[] = L"镜像";
+constexpr const wchar_t* MirrorName = L"镜像"_source;
 
 }
 
 MirrorAction::MirrorAction(Workspace& workspace)
-    : TwoPointAction(workspace, MirrorName, L"镜像轴上的第一点")
+    : TwoPointAction(workspace, {MirrorName, L"单击要镜像的图元"_source,
+                                 L"单击镜像轴上的第一点，或再单击一并镜像的图元"_source,
+                                 L"单击镜像轴上的第一点"_source})
 {}
 
 std::wstring MirrorAction::GetNextText() const
 {
-    return L"单击镜像轴上的第二点，或键入距离（Tab 切换到角度）";
+    return L"单击镜像轴上的第二点，或键入距离（Tab 切换到角度）"_tr;
 }
 
 void MirrorAction::AddPreview(IGraphicsNodeGroup& group) const

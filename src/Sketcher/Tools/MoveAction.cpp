@@ -2,6 +2,7 @@
 
 #include "Model/Polar.h"
 #include "Model/ShapeTransform.h"
+#include "Model/UiText.h"
 #include "Model/Workspace.h"
 #include "Tools/ShapeGraphics.h"
 
@@ -12,20 +13,23 @@ using namespace vesk;
 namespace
 {
 
-constexpr wchar_t MoveName[] = L"移动";
-constexpr wchar_t CopyName[] = L"复制";
+constexpr const wchar_t* MoveName = L"移动"_source;
+constexpr const wchar_t* CopyName = L"复制"_source;
 
 }
 
-MoveAction::MoveAction(Workspace& workspace) : MoveAction(workspace, MoveName) {}
+MoveAction::MoveAction(Workspace& workspace)
+    : MoveAction(workspace, {MoveName, L"单击要移动的图元"_source,
+                             L"单击基点，或再单击一并移动的图元"_source, L"单击基点"_source})
+{}
 
-MoveAction::MoveAction(Workspace& workspace, const std::wstring& name)
-    : TwoPointAction(workspace, name, L"基点")
+MoveAction::MoveAction(Workspace& workspace, const Prompts& prompts)
+    : TwoPointAction(workspace, prompts)
 {}
 
 std::wstring MoveAction::GetNextText() const
 {
-    return L"单击目标点，或键入距离（Tab 切换到角度）";
+    return L"单击目标点，或键入距离（Tab 切换到角度）"_tr;
 }
 
 void MoveAction::AddPreview(IGraphicsNodeGroup& group) const
@@ -60,7 +64,10 @@ Vector3d MoveAction::GetWayTo(const Vector3d& end) const
     return end - GetFirstPoint();
 }
 
-CopyAction::CopyAction(Workspace& workspace) : MoveAction(workspace, CopyName) {}
+CopyAction::CopyAction(Workspace& workspace)
+    : MoveAction(workspace, {CopyName, L"单击要复制的图元"_source,
+                             L"单击基点，或再单击一并复制的图元"_source, L"单击基点"_source})
+{}
 
 bool CopyAction::Apply(const Vector3d& end)
 {

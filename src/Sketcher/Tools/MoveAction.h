@@ -11,7 +11,7 @@ public:
     explicit MoveAction(Workspace& workspace);
 
 protected:
-    MoveAction(Workspace& workspace, const std::wstring& name);
+    MoveAction(Workspace& workspace, const Prompts& prompts);
 
     std::wstring GetNextText() const override;
     void AddPreview(vesk::IGraphicsNodeGroup& group) const override;

@@ -3,6 +3,7 @@
 #include "Model/Picking.h"
 #include "Model/Polar.h"
 #include "Model/ShapeOffset.h"
+#include "Model/UiText.h"
 #include "Model/Workspace.h"
 #include "Tools/ShapeGraphics.h"
 
@@ -21,8 +22,8 @@ OffsetAction::OffsetAction(Workspace& workspace) : DrawingAction(workspace) {}
 std::wstring OffsetAction::GetViewText() const
 {
     return GetSource() != nullptr
-               ? L"偏移：单击偏移后通过的点，或键入距离（光标所在一侧）；Esc 结束"
-               : L"偏移：单击要偏移的图元；Esc 结束";
+               ? L"偏移：单击偏移后通过的点，或键入距离（光标所在一侧）；Esc 结束"_tr
+               : L"偏移：单击要偏移的图元；Esc 结束"_tr;
 }
 
 void OffsetAction::OnMouseMove(const Vector3d& world)
@@ -52,7 +53,7 @@ std::wstring OffsetAction::GetRefusal(InputState field, double value)
         return DrawingAction::GetRefusal(field, value);
     constexpr double Shown = 0.01;
     const double shown = AngleOf(SideOf(pSource->shape, GetCursor()).away);
-    return std::abs(value - shown) < Shown ? std::wstring() : L"偏移的方向由光标所在一侧决定";
+    return std::abs(value - shown) < Shown ? std::wstring() : L"偏移的方向由光标所在一侧决定"_tr;
 }
 
 /// Confirming the angle that is shown confirms the distance.
@@ -142,7 +143,7 @@ bool OffsetAction::Finish(const Vector3d& end)
         pSource != nullptr ? MakeParallel(end) : std::optional<Shape>();
     if (!parallel.has_value())
         return false;
-    GetWorkspace().sketch.Add({{*parallel, pSource->pen}}, L"偏移");
+    GetWorkspace().sketch.Add({{*parallel, pSource->pen}}, L"偏移"_source);
     m_source = 0;
     return true;
 }

@@ -1,5 +1,6 @@
 #include "Tools/RectangleAction.h"
 
+#include "Model/UiText.h"
 #include "Model/Workspace.h"
 #include "Tools/ShapeGraphics.h"
 
@@ -33,8 +34,8 @@ RectangleAction::RectangleAction(Workspace& workspace) : DrawingAction(workspace
 
 std::wstring RectangleAction::GetViewText() const
 {
-    return m_corner.has_value() ? L"矩形：单击对角点，或键入宽度（Tab 切换到高度）；Esc 结束"
-                                : L"矩形：单击第一个角点；Esc 结束";
+    return m_corner.has_value() ? L"矩形：单击对角点，或键入宽度（Tab 切换到高度）；Esc 结束"_tr
+                                : L"矩形：单击第一个角点；Esc 结束"_tr;
 }
 
 OwnerPtr<ITemporaryDimensionContext> RectangleAction::CreateDimensionContext() const

@@ -2,6 +2,7 @@
 
 #include "Model/Polar.h"
 #include "Model/ShapeRotation.h"
+#include "Model/UiText.h"
 #include "Model/Workspace.h"
 #include "Tools/ShapeGraphics.h"
 
@@ -11,7 +12,10 @@
 
 using namespace vesk;
 
-RotateAction::RotateAction(Workspace& workspace) : SelectionAction(workspace, L"旋转", L"旋转中心")
+RotateAction::RotateAction(Workspace& workspace)
+    : SelectionAction(workspace,
+                      {L"旋转"_source, L"单击要旋转的图元"_source,
+                       L"单击旋转中心，或再单击一并旋转的图元"_source, L"单击旋转中心"_source})
 {}
 
 bool RotateAction::IsFinished() const
@@ -34,8 +38,8 @@ bool RotateAction::HasFirstPoint() const
 
 std::wstring RotateAction::GetNextText() const
 {
-    return m_from.has_value() ? L"单击目标方向上的一点，或键入角度（逆时针为正）"
-                              : L"单击起始方向上的一点";
+    return m_from.has_value() ? L"单击目标方向上的一点，或键入角度（逆时针为正）"_tr
+                              : L"单击起始方向上的一点"_tr;
 }
 
 void RotateAction::AddPreview(IGraphicsNodeGroup& group) const
@@ -94,7 +98,8 @@ bool RotateAction::Finish(const Vector3d& end)
         m_from = end;
         return true;
     }
-    m_isFinished = GetWorkspace().sketch.Replace(MakeChanged(TurnBy(GetAngleTo(end))), L"旋转");
+    m_isFinished =
+        GetWorkspace().sketch.Replace(MakeChanged(TurnBy(GetAngleTo(end))), L"旋转"_source);
     return m_isFinished;
 }
 

@@ -1,10 +1,12 @@
 #include "Tools/SelectionAction.h"
 
 #include "Model/Picking.h"
+#include "Model/UiText.h"
 #include "Model/Workspace.h"
 #include "Tools/ShapeGraphics.h"
 
 #include "Graphics/IGraphicsNode.h"
+#include "HostUi/QtText.h"
 #include "Journal/JournalManager.h"
 
 #include <algorithm>
@@ -21,22 +23,22 @@ constexpr std::size_t MostShown = 500;
 
 }
 
-SelectionAction::SelectionAction(Workspace& workspace, std::wstring name, std::wstring firstPoint)
-    : DrawingAction(workspace), m_name(std::move(name)), m_firstPoint(std::move(firstPoint))
+SelectionAction::SelectionAction(Workspace& workspace, const Prompts& prompts)
+    : DrawingAction(workspace), m_prompts(prompts)
 {}
 
 std::wstring SelectionAction::GetViewText() const
 {
     std::wstring next;
     if (IsNothingSelected())
-        next = L"单击要" + m_name + L"的图元";
+        next = Tr(m_prompts.pick);
     else if (TakesEntities())
-        next = L"单击" + m_firstPoint + L"，或再单击一并" + m_name + L"的图元";
+        next = Tr(m_prompts.pickOrPoint);
     else if (!HasFirstPoint())
-        next = L"单击" + m_firstPoint;
+        next = Tr(m_prompts.point);
     else
         next = GetNextText();
-    return m_name + L"：" + next + L"；Esc 结束";
+    return ToWide("%1：%2；Esc 结束"_tr.arg(ToQString(Tr(m_prompts.name)), ToQString(next)));
 }
 
 void SelectionAction::OnBegin(IUiView* pView)

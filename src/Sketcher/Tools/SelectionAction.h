@@ -31,9 +31,17 @@ public:
     Click GetClick() const override;
 
 protected:
-    /// The texts are shown to the user: the name of the action, and what its first point is. The
-    /// workspace is not owned and outlives the action.
-    SelectionAction(Workspace& workspace, std::wstring name, std::wstring firstPoint);
+    /// What is shown to the user: source texts.
+    struct Prompts
+    {
+        const wchar_t* name;
+        const wchar_t* pick;        ///< With nothing selected.
+        const wchar_t* pickOrPoint; ///< While entities and the first point are taken.
+        const wchar_t* point;       ///< While only the first point is.
+    };
+
+    /// The workspace is not owned and outlives the action.
+    SelectionAction(Workspace& workspace, const Prompts& prompts);
 
     using Change = std::function<Shape(const Shape&)>;
     using Shapes = std::vector<std::pair<int, Shape>>;
@@ -66,8 +74,7 @@ private:
     int PickOther(const vesk::Vector3d& world) const;
     bool Pick(const vesk::Vector3d& world, int entity);
 
-    std::wstring m_name;
-    std::wstring m_firstPoint;
+    const Prompts m_prompts;
     bool m_beganWithNothing = false;
 
     /// The entity under the cursor, which a click would select; 0 for none.

@@ -1,5 +1,7 @@
 #include "Tools/ZoomWindowAction.h"
 
+#include "Model/UiText.h"
+
 #include "Graphics/IGraphicsNode.h"
 #include "HostUi/DrawingView.h"
 #include "Journal/JournalManager.h"
@@ -10,8 +12,8 @@ ZoomWindowAction::ZoomWindowAction(DrawingView& view) : m_view(view) {}
 
 std::wstring ZoomWindowAction::GetViewText() const
 {
-    return m_corner.has_value() ? L"窗口缩放：单击对角点；Esc 结束"
-                                : L"窗口缩放：单击第一个角点；Esc 结束";
+    return m_corner.has_value() ? L"窗口缩放：单击对角点；Esc 结束"_tr
+                                : L"窗口缩放：单击第一个角点；Esc 结束"_tr;
 }
 
 void ZoomWindowAction::OnBegin(IUiView*) {}

@@ -3,6 +3,7 @@
 #include "Model/ShapeKind.h"
 #include "Model/ShapeProperty.h"
 #include "Model/SketchContent.h"
+#include "Model/UiText.h"
 
 #include "Dimension/LengthUnit.h"
 #include "Dimension/TemporaryDimensionStyle.h"
@@ -21,7 +22,7 @@ constexpr const wchar_t* MainProperties[] = {L"length", L"angle", L"radius", L"w
 QString DescribeProperty(const ShapeProperty& property, double value)
 {
     const TemporaryDimensionStyle style;
-    const QString caption = ToQString(property.caption);
+    const QString caption = ToQString(Tr(property.caption));
     if (property.isAngle)
         return QStringLiteral("%1 %2°").arg(caption, ToQString(style.FormatAngle(value)));
     return QStringLiteral("%1 %2 %3")
@@ -39,8 +40,7 @@ QString DescribeEntity(const Entity& entity)
         if (const ShapeProperty* pProperty = FindProperty(entity.shape, name))
             dimensions << DescribeProperty(*pProperty, pProperty->get(entity.shape));
     }
-    return QStringLiteral("%1 #%2：%3")
-        .arg(ToQString(KindOf(entity.shape).caption))
+    return "%1 #%2：%3"_tr.arg(ToQString(Tr(KindOf(entity.shape).caption)))
         .arg(entity.id)
-        .arg(dimensions.join(QStringLiteral("，")));
+        .arg(dimensions.join("，"_tr));
 }

@@ -1,5 +1,7 @@
 #include "View/SnapMarker.h"
 
+#include "Model/UiText.h"
+
 #include <QPainter>
 #include <QPointF>
 #include <QPolygonF>
@@ -40,10 +42,9 @@ void PaintShape(QPainter& painter, Snapper::Kind kind)
 
 QString SnapCaption(Snapper::Kind kind)
 {
-    static const QString s_captions[Snapper::KindCount] = {
-        QStringLiteral("端点"), QStringLiteral("中点"), QStringLiteral("圆心"),
-        QStringLiteral("交点"), QStringLiteral("栅格")};
-    return s_captions[kind];
+    constexpr const char* Captions[Snapper::KindCount] = {
+        "端点"_source, "中点"_source, "圆心"_source, "交点"_source, "栅格"_source};
+    return Tr(Captions[kind]);
 }
 
 void PaintSnapMarker(QPainter& painter, Snapper::Kind kind, const QPointF& position)

@@ -18,11 +18,13 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
+#include <QEventLoop>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPointer>
 #include <QProgressBar>
+#include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -318,6 +320,46 @@ private slots:
 
         QTRY_VERIFY(pGroup == nullptr);
         QVERIFY(pBox == nullptr);
+    }
+
+    void allControlsAreToldAndDestroyedAtOnce()
+    {
+        Fixture f;
+        RemovalNotes notes;
+        f.pControls->SetRemovalObserver(&notes);
+        const QPointer<QLabel> pLabel =
+            f.Place<QLabel>(f.pControls->Create(MakeOwner<LabelDefinition>(L"A")));
+        const QPointer<QWidget> pGroup =
+            f.Place<QWidget>(f.pControls->Create(MakeCheckBoxes<ICheckBoxGroupDefinition>()));
+
+        f.pControls->RemoveAll();
+
+        QCOMPARE(notes.ids, (std::vector<std::wstring>{L"A", L"Boxes"}));
+        QVERIFY(pLabel == nullptr);
+        QVERIFY(pGroup == nullptr);
+        QVERIFY(f.pControls->GetDefinitions().empty());
+    }
+
+    void controlsCanBeRemovedInTheOutermostLoopOnly()
+    {
+        bool canInOutermost = false;
+        bool canInNested = true;
+        QTimer::singleShot(0, this, [&] {
+            canInOutermost = ControlHost::CanRemoveAll();
+            QEventLoop nested;
+            QTimer::singleShot(0, &nested, [&] {
+                canInNested = ControlHost::CanRemoveAll();
+                nested.quit();
+            });
+            nested.exec();
+        });
+
+        QEventLoop outermost;
+        QTimer::singleShot(0, &outermost, &QEventLoop::quit);
+        outermost.exec();
+
+        QVERIFY(canInOutermost);
+        QVERIFY(!canInNested);
     }
 
     void theHostRefreshesNothingAfterItsEnd()

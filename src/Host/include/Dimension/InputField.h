@@ -55,8 +55,8 @@ VESK_HOST_API InputMeaning FindInputMeaning(std::int32_t kind);
 
 VESK_HOST_API Quantity QuantityOf(InputState state);
 
-/// What the user interface calls a value: "长度"; empty for IS_None.
-VESK_HOST_API const wchar_t* CaptionOf(InputState state);
+/// What the user interface calls a value, in the user's language: "长度"; empty for IS_None.
+VESK_HOST_API std::wstring CaptionOf(InputState state);
 
 /// What journals call a value: "length", or "none".
 VESK_HOST_API const char* JournalNameOf(InputState state);

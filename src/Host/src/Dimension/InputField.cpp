@@ -6,6 +6,7 @@
 #include "Dimension/RadiusTemporaryDimensionContext.h"
 #include "Dimension/RectangleTemporaryDimensionContext.h"
 #include "Dimension/RotationTemporaryDimensionContext.h"
+#include "Foundation/HostText.h"
 #include "Geometry/Constants.h"
 
 #include <algorithm>
@@ -29,12 +30,12 @@ struct ValueRow
 
 constexpr ValueRow Values[] = {
     {InputState::IS_None, Quantity::Length, "none", L""},
-    {InputState::IS_Length, Quantity::Length, "length", L"长度"},
-    {InputState::IS_Angle, Quantity::Angle, "angle", L"角度"},
-    {InputState::IS_Radius, Quantity::Length, "radius", L"半径"},
-    {InputState::IS_CentralAngle, Quantity::Angle, "centralAngle", L"圆心角"},
-    {InputState::IS_Width, Quantity::Length, "width", L"宽度"},
-    {InputState::IS_Height, Quantity::Length, "height", L"高度"},
+    {InputState::IS_Length, Quantity::Length, "length", L"长度"_source},
+    {InputState::IS_Angle, Quantity::Angle, "angle", L"角度"_source},
+    {InputState::IS_Radius, Quantity::Length, "radius", L"半径"_source},
+    {InputState::IS_CentralAngle, Quantity::Angle, "centralAngle", L"圆心角"_source},
+    {InputState::IS_Width, Quantity::Length, "width", L"宽度"_source},
+    {InputState::IS_Height, Quantity::Length, "height", L"高度"_source},
 };
 
 /// What the handler for a kind of context does with the keys in a field.
@@ -119,9 +120,9 @@ Quantity QuantityOf(InputState state)
     return ValueOf(state).quantity;
 }
 
-const wchar_t* CaptionOf(InputState state)
+std::wstring CaptionOf(InputState state)
 {
-    return ValueOf(state).caption;
+    return TranslateHostText(ValueOf(state).caption);
 }
 
 const char* JournalNameOf(InputState state)

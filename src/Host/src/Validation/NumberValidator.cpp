@@ -1,5 +1,6 @@
 #include "Validation/NumberValidator.h"
 
+#include "Foundation/HostText.h"
 #include "Foundation/Text.h"
 
 #include <array>
@@ -66,7 +67,7 @@ std::wstring FormatNumber(double value)
 
 /// The noun for the number in a tip about the range.
 template <class T>
-constexpr const wchar_t* Noun = std::is_integral_v<T> ? L"整数" : L"数";
+constexpr const wchar_t* Noun = std::is_integral_v<T> ? L"整数"_source : L"数"_source;
 
 }
 
@@ -85,18 +86,20 @@ std::wstring NumberValidator<T>::GetTip() const
         return tip;
     const bool hasBottom = m_bottom > std::numeric_limits<T>::lowest();
     const bool hasTop = m_top < std::numeric_limits<T>::max();
-    const std::wstring noun = Noun<T>;
+    const std::wstring noun = TranslateHostText(Noun<T>);
     if (!hasBottom && !hasTop)
-        return L"请输入一个" + noun;
+        return WithArguments(L"请输入一个%1"_tr, {noun});
     const std::wstring bottom = FormatNumber(m_bottom);
     const std::wstring top = FormatNumber(m_top);
     if (hasBottom && hasTop && m_isBottomInclusive && m_isTopInclusive)
-        return L"请输入 " + bottom + L" 到 " + top + L" 之间的" + noun;
-    const std::wstring above = (m_isBottomInclusive ? L"不小于 " : L"大于 ") + bottom;
-    const std::wstring below = (m_isTopInclusive ? L"不大于 " : L"小于 ") + top;
+        return WithArguments(L"请输入 %1 到 %2 之间的%3"_tr, {bottom, top, noun});
+    const std::wstring above =
+        WithArguments(m_isBottomInclusive ? L"不小于 %1"_tr : L"大于 %1"_tr, {bottom});
+    const std::wstring below =
+        WithArguments(m_isTopInclusive ? L"不大于 %1"_tr : L"小于 %1"_tr, {top});
     if (hasBottom && hasTop)
-        return L"请输入" + above + L" 且" + below + L" 的" + noun;
-    return L"请输入" + (hasBottom ? above : below) + L" 的" + noun;
+        return WithArguments(L"请输入%1 且%2 的%3"_tr, {above, below, noun});
+    return WithArguments(L"请输入%1 的%2"_tr, {hasBottom ? above : below, noun});
 }
 
 template class NumberValidator<int>;

@@ -79,6 +79,13 @@ public:
     /// event loop, with no action running. A control must not be destroyed inside its own signal.
     void Remove(const std::wstring& definitionId);
 
+    /// True in the outermost event loop while no action runs: then controls can be destroyed.
+    static bool CanRemoveAll();
+
+    /// Destroys all controls at once, so that others can be built in their place. Only while
+    /// CanRemoveAll().
+    void RemoveAll();
+
     /// Sets the observer of removed controls; not owned, null for none.
     void SetRemovalObserver(IControlRemovalObserver* pObserver) { m_pRemovalObserver = pObserver; }
 

@@ -10,8 +10,8 @@
 namespace vesk
 {
 
-/// The translations of one locale, from a Qt catalogue `<name>_<locale>.qm`. Installed as the
-/// host's translator while it lives.
+/// The translations of one locale, from a Qt catalogue `<name>_<locale>.qm`. While it lives, it is
+/// the host's translator, and the application's if there is one.
 ///
 /// Without a catalogue for the locale nothing is translated and the source texts are shown.
 class VESK_HOST_UI_API TranslationCatalogue final : public ITranslator
@@ -24,9 +24,15 @@ public:
     TranslationCatalogue(const TranslationCatalogue&) = delete;
     TranslationCatalogue& operator=(const TranslationCatalogue&) = delete;
 
+    /// Loads the catalogue for another locale; the application tells all widgets
+    /// (QEvent::LanguageChange).
+    void SetLocale(const QLocale& locale);
+
     std::wstring Translate(const std::wstring& context, const std::wstring& text) const override;
 
 private:
+    const QString m_folder;
+    const QString m_name;
     QTranslator m_catalogue;
 };
 

@@ -1,5 +1,7 @@
 #include "HostUi/MainWindow.h"
 
+#include "Texts/HostUiText.h"
+
 #include "Command/ActionManager.h"
 #include "Dimension/LengthUnit.h"
 #include "HostUi/DrawingView.h"
@@ -22,9 +24,9 @@ QString TellWhereTheLogIs()
 {
     const std::string path = DebugMessageMgr::GetDebugMessageMgr()->GetLogPath();
     if (path.empty())
-        return QStringLiteral("对话框打开时发生的警告，见标准错误输出");
-    return QStringLiteral("对话框打开时发生的警告，见日志：%1")
-        .arg(QDir::toNativeSeparators(QString::fromStdString(path)));
+        return "对话框打开时发生的警告，见标准错误输出"_tr;
+    return "对话框打开时发生的警告，见日志：%1"_tr.arg(
+        QDir::toNativeSeparators(QString::fromStdString(path)));
 }
 
 }
@@ -126,7 +128,7 @@ void MainWindow::ShowState(const QString& subject, const QString& text, const QS
         texts << state.text;
         tips << state.details;
     }
-    m_pStates->setText(texts.join(QStringLiteral("；")));
+    m_pStates->setText(texts.join("；"_tr));
     m_pStates->setToolTip(tips.join(QLatin1Char('\n')));
     m_pStates->setVisible(!m_states.isEmpty());
 }
@@ -152,7 +154,7 @@ void MainWindow::ShowWarningCount()
 {
     m_isCountStale = false;
     const int count = DebugMessageMgr::GetDebugMessageMgr()->GetUnshownCount();
-    m_pWarningCount->setText(QStringLiteral("未显示的警告：%1").arg(count));
+    m_pWarningCount->setText("未显示的警告：%1"_tr.arg(count));
     m_pWarningCount->setToolTip(TellWhereTheLogIs());
     m_pWarningCount->setVisible(count > 0);
 }

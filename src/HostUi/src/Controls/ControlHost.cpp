@@ -31,6 +31,7 @@
 #include <chrono>
 #include <cstddef>
 #include <initializer_list>
+#include <iterator>
 #include <memory>
 #include <utility>
 
@@ -93,12 +94,6 @@ ControlDefinitionChangeEvent* FindEventThatTellsItems(const IControl& control)
                                             pSource->GetControlDefinitionChangeEvent())
                                       : nullptr;
     return pEvent != nullptr && pEvent->IsTellingItems() ? pEvent : nullptr;
-}
-
-bool IsSafeToDestroy()
-{
-    return QThread::currentThread()->loopLevel() <= 1 &&
-           ActionManager::GetRunningCommandId().empty();
 }
 
 }
@@ -221,6 +216,24 @@ void ControlHost::Remove(const std::wstring& definitionId)
     m_destroyLater.start();
 }
 
+bool ControlHost::CanRemoveAll()
+{
+    return QThread::currentThread()->loopLevel() <= 1 &&
+           ActionManager::GetRunningCommandId().empty();
+}
+
+void ControlHost::RemoveAll()
+{
+    for (const IControlDefinition* pDefinition : GetDefinitions())
+    {
+        if (m_pRemovalObserver != nullptr)
+            m_pRemovalObserver->OnControlRemoved(*pDefinition);
+    }
+    std::move(m_controls.begin(), m_controls.end(), std::back_inserter(m_removed));
+    m_controls.clear();
+    DestroyRemoved();
+}
+
 template <class Definition>
 QWidget* ControlHost::CreateGroup(
     OwnerPtr<IControl> (VeskIControlFactory::*create)(OwnerPtr<Definition>, WindowId),
@@ -264,7 +277,7 @@ void ControlHost::RefreshCommandButton(IControl& control)
 
 void ControlHost::DestroyRemoved()
 {
-    if (!IsSafeToDestroy())
+    if (!CanRemoveAll())
         return;
     m_destroyLater.stop();
     // A control is destroyed before what holds it: a group before its panel.

@@ -2,6 +2,7 @@
 
 #include "Formulas/FormulaEvaluation.h"
 #include "Formulas/FormulaReader.h"
+#include "Texts/HostUiText.h"
 
 #include <array>
 #include <charconv>
@@ -62,21 +63,21 @@ QString DescribeFault(TypedTextFault fault)
     case TypedTextFault::None:
         return {};
     case TypedTextFault::NotANumber:
-        return QStringLiteral("这不是一个数，也不是算式");
+        return "这不是一个数，也不是算式"_tr;
     case TypedTextFault::UnknownName:
-        return QStringLiteral("含有不认识的名称或单位");
+        return "含有不认识的名称或单位"_tr;
     case TypedTextFault::AmbiguousComma:
-        return QStringLiteral("逗号有歧义，小数点请用“.”");
+        return "逗号有歧义，小数点请用“.”"_tr;
     case TypedTextFault::Ambiguous:
-        return QStringLiteral("有歧义，请加括号");
+        return "有歧义，请加括号"_tr;
     case TypedTextFault::MixedUnits:
-        return QStringLiteral("单位不一致，请给每一项写上单位");
+        return "单位不一致，请给每一项写上单位"_tr;
     case TypedTextFault::WrongQuantity:
-        return QStringLiteral("单位与此处的量不符");
+        return "单位与此处的量不符"_tr;
     case TypedTextFault::AngleUnit:
-        return QStringLiteral("角度请以度为单位，如 30d 或 sin(30d)");
+        return "角度请以度为单位，如 30d 或 sin(30d)"_tr;
     case TypedTextFault::NoValue:
-        return QStringLiteral("算不出确定的值");
+        return "算不出确定的值"_tr;
     }
     return {};
 }

@@ -1,5 +1,7 @@
 #include "Input/InputJudge.h"
 
+#include "Texts/HostUiText.h"
+
 #include "Command/IAction.h"
 #include "Command/IActionManager.h"
 #include "Dimension/LengthUnit.h"
@@ -15,8 +17,8 @@ namespace
 
 QString DescribeRange(const Intervald& range)
 {
-    return QStringLiteral("请输入 %1 到 %2 之间的数")
-        .arg(QString::number(range.GetMin(), 'g', 12), QString::number(range.GetMax(), 'g', 12));
+    return "请输入 %1 到 %2 之间的数"_tr.arg(QString::number(range.GetMin(), 'g', 12),
+                                             QString::number(range.GetMax(), 'g', 12));
 }
 
 /// As dimensions show it, without trailing zeros; with a few significant digits if it would round
@@ -70,8 +72,7 @@ bool IsTakenWithSpace(const TypedReading& reading, const InputField& field)
 
 QString DescribeLateUnit(const QString& unit)
 {
-    return QStringLiteral("空格已经确定了数值，其后的“%1”没有采用；撤销（Ctrl+Z）一次即可取回")
-        .arg(unit);
+    return "空格已经确定了数值，其后的“%1”没有采用；撤销（Ctrl+Z）一次即可取回"_tr.arg(unit);
 }
 
 QString DescribeKeys(const InputField& field, bool isTakenWithSpace)
@@ -80,9 +81,11 @@ QString DescribeKeys(const InputField& field, bool isTakenWithSpace)
     if (field.next != InputState::IS_None)
         keys = QStringLiteral("<b>Tab</b>&nbsp;") + ToQString(CaptionOf(field.next)) +
                QStringLiteral(" · ");
-    keys += isTakenWithSpace ? QStringLiteral("<b>Enter</b>/<b>空格</b>&nbsp;确定")
-                             : QStringLiteral("<b>Enter</b>&nbsp;确定");
-    return keys + QStringLiteral(" · <b>Esc</b>&nbsp;取消");
+    keys += QStringLiteral("<b>Enter</b>");
+    if (isTakenWithSpace)
+        keys += QStringLiteral("/<b>") + "空格"_tr + QStringLiteral("</b>");
+    return keys + QStringLiteral("&nbsp;") + "确定"_tr + QStringLiteral(" · <b>Esc</b>&nbsp;") +
+           "取消"_tr;
 }
 
 }

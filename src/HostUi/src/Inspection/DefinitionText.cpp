@@ -1,5 +1,7 @@
 #include "Inspection/DefinitionText.h"
 
+#include "Texts/HostUiText.h"
+
 #include "Control/ICheckBoxGroupDefinition.h"
 #include "Control/IComboBoxDefinition.h"
 #include "Control/ICommandButtonDefinition.h"
@@ -21,7 +23,7 @@ namespace
 
 QString ValueOf(const ICommandButtonDefinition& button)
 {
-    return button.IsChecked() ? QStringLiteral("选中") : QString();
+    return button.IsChecked() ? "选中"_tr : QString();
 }
 
 QString ValueOf(const ILabelDefinition& label)
@@ -65,7 +67,8 @@ QString ValueOf(const IRadioButtonGroupDefinition& group)
 
 QString ValueOf(const ICommandButtonMenuDefinition& menu)
 {
-    return QStringLiteral("%1 项").arg(menu.GetMenuItemDefinitions().size());
+    return TranslateHostUiText("%n 项"_source,
+                               static_cast<int>(menu.GetMenuItemDefinitions().size()));
 }
 
 template <class Definition>
@@ -74,7 +77,7 @@ bool Describe(const IControlDefinition& definition, const char* kind, Definition
     const auto* pDefinition = dynamic_cast<const Definition*>(&definition);
     if (pDefinition == nullptr)
         return false;
-    text = {QString::fromUtf8(kind), ValueOf(*pDefinition)};
+    text = {TranslateHostUiText(kind), ValueOf(*pDefinition)};
     return true;
 }
 
@@ -83,15 +86,15 @@ bool Describe(const IControlDefinition& definition, const char* kind, Definition
 DefinitionText DescribeDefinition(const IControlDefinition& definition)
 {
     DefinitionText text;
-    const bool isKnown = Describe<ICommandButtonDefinition>(definition, "按钮", text) ||
-                         Describe<ILabelDefinition>(definition, "标签", text) ||
-                         Describe<ILineEditDefinition>(definition, "输入框", text) ||
-                         Describe<IComboBoxDefinition>(definition, "下拉框", text) ||
-                         Describe<IProgressBarDefinition>(definition, "进度条", text) ||
-                         Describe<ICheckBoxGroupDefinition>(definition, "复选组", text) ||
-                         Describe<IRadioButtonGroupDefinition>(definition, "单选组", text) ||
-                         Describe<ICommandButtonMenuDefinition>(definition, "菜单", text);
-    return isKnown ? text : DefinitionText{QStringLiteral("其他"), QString()};
+    const bool isKnown = Describe<ICommandButtonDefinition>(definition, "按钮"_source, text) ||
+                         Describe<ILabelDefinition>(definition, "标签"_source, text) ||
+                         Describe<ILineEditDefinition>(definition, "输入框"_source, text) ||
+                         Describe<IComboBoxDefinition>(definition, "下拉框"_source, text) ||
+                         Describe<IProgressBarDefinition>(definition, "进度条"_source, text) ||
+                         Describe<ICheckBoxGroupDefinition>(definition, "复选组"_source, text) ||
+                         Describe<IRadioButtonGroupDefinition>(definition, "单选组"_source, text) ||
+                         Describe<ICommandButtonMenuDefinition>(definition, "菜单"_source, text);
+    return isKnown ? text : DefinitionText{"其他"_tr, QString()};
 }
 
 }

@@ -10,6 +10,7 @@
 #include "HostUi/DimensionInputController.h"
 #include "HostUi/QtText.h"
 #include "Inspection/DefinitionText.h"
+#include "Texts/HostUiText.h"
 
 #include <QApplication>
 #include <QDateTime>
@@ -40,15 +41,15 @@ QString TypeText(int type)
     switch (type)
     {
     case ControlDefinitionChangeEventType::Add:
-        return QStringLiteral("添加");
+        return "添加"_tr;
     case ControlDefinitionChangeEventType::Insert:
-        return QStringLiteral("插入");
+        return "插入"_tr;
     case ControlDefinitionChangeEventType::Delete:
-        return QStringLiteral("删除");
+        return "删除"_tr;
     case ControlDefinitionChangeEventType::Clear:
-        return QStringLiteral("清空");
+        return "清空"_tr;
     case ControlDefinitionChangeEventType::PropertyChanged:
-        return QStringLiteral("属性");
+        return "属性"_tr;
     default:
         return QString::number(type);
     }
@@ -58,18 +59,18 @@ QString InputText(const DimensionInputController& input)
 {
     const TemporaryDimensionMgr& manager = *TemporaryDimensionMgr::GetInstance();
     if (!manager.HasHandler())
-        return QStringLiteral("无");
+        return "无"_tr;
     QStringList parts;
     if (const QLineEdit* pEditor = input.GetActiveEditor())
         parts << QStringLiteral("%1 “%2”").arg(ToQString(CaptionOf(manager.GetInputState())),
                                                pEditor->text());
     else
-        parts << QStringLiteral("等待键入");
+        parts << "等待键入"_tr;
     if (manager.IsRawTextInput())
-        parts << QStringLiteral("原文");
+        parts << "原文"_tr;
     for (const InputState field : manager.GetLocked())
-        parts << QStringLiteral("已锁定 ") + ToQString(CaptionOf(field));
-    return parts.join(QStringLiteral("，"));
+        parts << "已锁定 %1"_tr.arg(ToQString(CaptionOf(field)));
+    return parts.join("，"_tr);
 }
 
 /// Changes a text only if it differs, so that a selection survives.
@@ -115,9 +116,7 @@ Inspector::Inspector(ControlHost& controls, const DimensionInputController& inpu
     m_pDefinitions->setRootIsDecorated(false);
     m_pDefinitions->setUniformRowHeights(true);
     m_pDefinitions->setFrameShape(QFrame::NoFrame);
-    m_pDefinitions->setHeaderLabels({QStringLiteral("定义"), QStringLiteral("种类"),
-                                     QStringLiteral("值"), QStringLiteral("可见"),
-                                     QStringLiteral("可用")});
+    m_pDefinitions->setHeaderLabels({"定义"_tr, "种类"_tr, "值"_tr, "可见"_tr, "可用"_tr});
     m_pEvents->setObjectName(QStringLiteral("InspectorEvents"));
     m_pEvents->setUniformItemSizes(true);
     m_pEvents->setFrameShape(QFrame::NoFrame);
@@ -241,7 +240,7 @@ QString Inspector::Describe(const Event& event)
                    QLatin1String("  ") + TypeText(event.type);
     if (event.index >= 0)
         text += QStringLiteral(" [%1]").arg(event.index);
-    return text + (event.isByUser ? QStringLiteral("  用户") : QStringLiteral("  程序"));
+    return text + QLatin1String("  ") + (event.isByUser ? "用户"_tr : "程序"_tr);
 }
 
 /// Scrolls to the newest event unless the user has scrolled back.
@@ -264,11 +263,10 @@ void Inspector::ShowState()
 {
     const IAction* pAction = IActionManager::CurrentAction();
     const QString action = pAction != nullptr
-                               ? QStringLiteral("%1（%2）")
-                                     .arg(ToQString(ActionManager::GetRunningCommandId()),
-                                          ToQString(pAction->GetViewText()))
-                               : QStringLiteral("无");
-    m_pState->setText(QStringLiteral("动作：%1\n尺寸输入：%2").arg(action, InputText(*m_pInput)));
+                               ? "%1（%2）"_tr.arg(ToQString(ActionManager::GetRunningCommandId()),
+                                                   ToQString(pAction->GetViewText()))
+                               : "无"_tr;
+    m_pState->setText("动作：%1\n尺寸输入：%2"_tr.arg(action, InputText(*m_pInput)));
 }
 
 void Inspector::ShowDefinitions()
@@ -279,7 +277,7 @@ void Inspector::ShowDefinitions()
     while (m_pDefinitions->topLevelItemCount() < static_cast<int>(definitions.size()))
         m_pDefinitions->addTopLevelItem(new QTreeWidgetItem);
 
-    const auto yesOrNo = [](bool is) { return is ? QStringLiteral("是") : QStringLiteral("否"); };
+    const auto yesOrNo = [](bool is) { return is ? "是"_tr : "否"_tr; };
     int row = 0;
     for (const IControlDefinition* pDefinition : definitions)
     {
