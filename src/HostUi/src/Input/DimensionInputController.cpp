@@ -484,8 +484,7 @@ void DimensionInputController::UpdateNotes()
         return;
     }
     const InputField field = Manager().GetInputField();
-    NoteTexts texts;
-    texts.refusal = m_refusal;
+    NoteTexts texts{m_refusal, {}, {}};
     const TypedReading reading = Read(*pEditor, field);
     if (!Manager().IsRawTextInput())
         texts.value = DescribeValue(reading, field.quantity, LengthUnit::GetCurrent());
