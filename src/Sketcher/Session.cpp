@@ -187,6 +187,8 @@ void Session::Rebuild()
     BuildControls();
     m_window.ChooseUnit(unit);
     m_window.GetRibbon()->setCurrentPageIndex(page);
+    if (m_pRecovery != nullptr)
+        m_pRecovery->GetOffer().ShowAnew();
 }
 
 /// All commands of the program.

@@ -186,6 +186,14 @@ void RecoveryOffer::Leave()
     TakeAway();
 }
 
+void RecoveryOffer::ShowAnew()
+{
+    if (m_pBar == nullptr || m_isGoingOn)
+        return;
+    delete m_pBar;
+    ShowFirst();
+}
+
 void RecoveryOffer::TakeAway()
 {
     m_works.erase(m_works.begin());

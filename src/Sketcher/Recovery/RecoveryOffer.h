@@ -58,6 +58,9 @@ public:
     /// Also offers that; it comes first.
     void Add(const UnsavedWork& work);
 
+    /// Builds what is shown anew, in the user's language.
+    void ShowAnew();
+
     const std::vector<UnsavedWork>& GetWorks() const { return m_works; }
 
 signals:

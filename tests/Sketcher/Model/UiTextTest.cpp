@@ -7,6 +7,8 @@
 #include "Support/TestValues.h"
 
 #include <QCoreApplication>
+#include <QEvent>
+#include <QWidget>
 
 using vesk::TranslationCatalogue;
 
@@ -18,6 +20,20 @@ QString Catalogues()
     return QCoreApplication::applicationDirPath() +
            QStringLiteral("/../share/sketcher/translations");
 }
+
+/// Notes a text each time that it hears of another language.
+class Listener final : public QWidget
+{
+public:
+    QStringList heard;
+
+protected:
+    void changeEvent(QEvent* pEvent) override
+    {
+        if (pEvent->type() == QEvent::LanguageChange)
+            heard << "直线"_tr;
+    }
+};
 
 /// The program's texts in a language as long as it lives.
 struct Speaking
@@ -100,6 +116,34 @@ private slots:
 
         QCOMPARE(english, QString("Nothing selected"));
         QCOMPARE("未选图元"_tr, QString("未选图元"));
+    }
+
+    void widgetsAreToldWhenTheTextsHaveChanged_data()
+    {
+        QTest::addColumn<QLocale>("former");
+        QTest::addColumn<QLocale>("locale");
+        QTest::addColumn<QString>("text");
+
+        const QLocale german(QLocale::German);
+        QTest::newRow("to another catalogue") << QLocale(QLocale::English) << german << "Linie";
+        QTest::newRow("to a catalogue") << QLocale::c() << german << "Linie";
+        QTest::newRow("to none") << german << QLocale::c() << "直线";
+    }
+
+    void widgetsAreToldWhenTheTextsHaveChanged()
+    {
+        QFETCH(QLocale, former);
+        QFETCH(QLocale, locale);
+        TranslationCatalogue catalogue(Catalogues(), "sketcher", former);
+        Listener listener;
+        QCoreApplication::processEvents();
+        listener.heard.clear();
+
+        catalogue.SetLocale(locale);
+
+        QTRY_VERIFY(!listener.heard.isEmpty());
+        QTEST(listener.heard.first(), "text");
+        QTEST(listener.heard.last(), "text");
     }
 
     void tablesHoldSourceTexts()

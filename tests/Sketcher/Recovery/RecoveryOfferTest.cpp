@@ -7,6 +7,7 @@
 
 #include "HostCore.h"
 #include "HostUi/MainWindow.h"
+#include "HostUi/TranslationCatalogue.h"
 #include "HostUi/UiApplication.h"
 
 #include <QDateTime>
@@ -126,6 +127,33 @@ private slots:
         const QString text = f.window.findChild<QLabel*>("RecoveryText")->text();
         QVERIFY2(text.contains("Sketcher.Line"), qPrintable(text));
         QVERIFY2(text.endsWith("2 步；另有 1 个"), qPrintable(text));
+    }
+
+    void offerIsShownAnewInAnotherLanguage()
+    {
+        Fixture f;
+        f.AddWork("new.jsonl", 1);
+        f.Search();
+        const vesk::TranslationCatalogue english(QCoreApplication::applicationDirPath() +
+                                                     "/../share/sketcher/translations",
+                                                 "sketcher", QLocale(QLocale::English));
+
+        f.offer.ShowAnew();
+
+        QVERIFY(f.IsShown());
+        QCOMPARE(f.window.findChildren<RecoveryBar*>().size(), 1);
+        QCOMPARE(f.window.findChild<QPushButton*>("RecoveryGoOn")->text(), QString("&Resume"));
+        const QString text = f.window.findChild<QLabel*>("RecoveryText")->text();
+        QVERIFY2(text.endsWith("2 steps"), qPrintable(text));
+    }
+
+    void nothingIsShownAnewIfThereIsNoOffer()
+    {
+        Fixture f;
+
+        f.offer.ShowAnew();
+
+        QVERIFY(!f.IsShown());
     }
 
     void aJournalThatCannotBeReadToItsEndStaysUndecided()
