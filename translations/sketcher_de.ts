@@ -1780,6 +1780,10 @@ Maßeingabe: %2</translation>
             <translation>Journal in anderer Datei</translation>
         </message>
         <message>
+            <source>中文</source>
+            <translation>Deutsch</translation>
+        </message>
+        <message>
             <source>与桌面相同</source>
             <translation>Wie auf dem Desktop</translation>
         </message>

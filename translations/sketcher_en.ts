@@ -1780,6 +1780,10 @@ Dimension input: %2</translation>
             <translation>Journal is another file</translation>
         </message>
         <message>
+            <source>中文</source>
+            <translation>English</translation>
+        </message>
+        <message>
             <source>与桌面相同</source>
             <translation>Same as the desktop</translation>
         </message>

@@ -2,6 +2,8 @@
 
 #include "Support/TestValues.h"
 
+#include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -37,6 +39,18 @@ private slots:
         QCOMPARE(languages.size(), 3);
         QCOMPARE(languages[2].locale, QString("de"));
         QCOMPARE(languages[2].caption, QString("Deutsch"));
+    }
+
+    void aCatalogueNamesItsLanguage()
+    {
+        const QDir programs(QCoreApplication::applicationDirPath());
+
+        const QVector<Language> languages =
+            FindLanguages(programs.filePath("../share/sketcher/translations"));
+
+        QCOMPARE(languages.size(), 4);
+        QCOMPARE(languages[2].caption, QString("Deutsch"));
+        QCOMPARE(languages[3].caption, QString("English"));
     }
 };
 
