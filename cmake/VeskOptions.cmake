@@ -4,6 +4,7 @@ option(VESK_FORMULAS "Evaluate formulas typed for lengths and angles" ON)
 option(VESK_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
 option(VESK_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
 option(VESK_FUZZ "Build the programs of tests/Fuzz (clang only)" OFF)
+option(VESK_PACKAGES "Prepare Debian packages; see scripts/package" OFF)
 
 set(CMAKE_CXX_STANDARD 17)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)

@@ -59,16 +59,25 @@ function(vesk_select_platform_sources variable)
     set(${variable} ${selected} PARENT_SCOPE)
 endfunction()
 
-# vesk_library(<target> ALIAS <Vesk::Name> EXPORT <MACRO> EXPORT_FILE <path below the include root>)
+# What a library exports, on systems where it would also export pieces of the standard library.
+set(vesk_exported "${CMAKE_CURRENT_LIST_DIR}/Exported.map")
+
+# vesk_library(<target> ALIAS <Vesk::Name> COMPONENT <name> EXPORT <MACRO> EXPORT_FILE <path below the include root>)
 #
 # A shared library whose published headers, if any, are in include/ next to its CMakeLists.txt, and whose export macro
-# comes from a generated header.
+# comes from a generated header. It is installed with its component, what programs are built with as Development.
 function(vesk_library target)
-    cmake_parse_arguments(ARG "" "ALIAS;EXPORT;EXPORT_FILE" "" ${ARGN})
+    cmake_parse_arguments(ARG "" "ALIAS;COMPONENT;EXPORT;EXPORT_FILE" "" ${ARGN})
     add_library(${target} SHARED)
     add_library(${ARG_ALIAS} ALIAS ${target})
     string(REGEX REPLACE "^.*::" "" exported "${ARG_ALIAS}")
-    set_target_properties(${target} PROPERTIES EXPORT_NAME ${exported})
+    # Until 1.0 each minor version may break what was built with the one before.
+    set_target_properties(${target} PROPERTIES EXPORT_NAME ${exported} INSTALL_RPATH "$ORIGIN"
+        VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
+    if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
+        target_link_options(${target} PRIVATE "-Wl,--version-script=${vesk_exported}")
+        set_target_properties(${target} PROPERTIES LINK_DEPENDS "${vesk_exported}")
+    endif()
     if(WIN32)
         # The same name with every compiler: whoever loads it at run time knows only the name.
         set_target_properties(${target} PROPERTIES PREFIX "")
@@ -81,12 +90,14 @@ function(vesk_library target)
         "$<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}/include>" "$<BUILD_INTERFACE:${generated}>"
         "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/vesk>")
     install(TARGETS ${target} EXPORT VeskTargets
-        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
-        ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT ${ARG_COMPONENT} NAMELINK_COMPONENT Development
+        RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT ${ARG_COMPONENT}
+        ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT Development)
+    set(folders "${generated}/")
     if(EXISTS "${CMAKE_CURRENT_SOURCE_DIR}/include")
-        install(DIRECTORY include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vesk)
+        list(APPEND folders include/)
     endif()
-    install(DIRECTORY "${generated}/" DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vesk)
+    install(DIRECTORY ${folders} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vesk COMPONENT Development)
 endfunction()
 
 # vesk_test_program(<name> LABEL <unit|scenario|desktop> TESTS <file>... [SOURCES <file>...] [LIBRARIES <target>...]

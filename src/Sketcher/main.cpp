@@ -88,6 +88,8 @@ int main(int argc, char** argv)
     vesk::SurviveFailedWrites();
     QCoreApplication::setApplicationName(QStringLiteral("sketcher"));
     QCoreApplication::setApplicationVersion(QStringLiteral(SKETCHER_VERSION));
+    // By this name a desktop finds the icon of the windows.
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.vesk.Sketcher"));
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     // Otherwise the first window loads OpenGL, in case it will show some: a third of the start.

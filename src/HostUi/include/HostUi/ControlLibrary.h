@@ -15,12 +15,14 @@ namespace vesk
 class VESK_HOST_UI_API ControlLibrary
 {
 public:
-    /// Loads the library from the folder `lib` (on Windows `bin`) next to the program's own folder.
+    /// Loads the library from the folder `lib` (on Windows `bin`) next to the program's own folder
+    /// if the program brings one there, otherwise the one that is installed beside this library.
     ControlLibrary();
     ~ControlLibrary();
     ControlLibrary(const ControlLibrary&) = delete;
     ControlLibrary& operator=(const ControlLibrary&) = delete;
 
+    /// False if there are no controls: nothing else of this object can be used then but GetError.
     bool IsLoaded() const;
 
     /// Why loading failed; empty if it succeeded.
