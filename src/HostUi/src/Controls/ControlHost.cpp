@@ -119,33 +119,31 @@ ControlHost::~ControlHost()
 QWidget* ControlHost::Create(OwnerPtr<CommandButtonDefinition> opDefinition)
 {
     VeskIControlFactory* pFactory = VeskIControlFactory::Get();
-    return pFactory != nullptr ? Adopt(pFactory->CreateQtButton(std::move(opDefinition))) : nullptr;
+    return pFactory != nullptr ? Add(pFactory->CreateQtButton(std::move(opDefinition))) : nullptr;
 }
 
 QWidget* ControlHost::Create(OwnerPtr<ILabelDefinition> opDefinition)
 {
     VeskIControlFactory* pFactory = VeskIControlFactory::Get();
-    return pFactory != nullptr ? Adopt(pFactory->CreateQtLabel(std::move(opDefinition))) : nullptr;
+    return pFactory != nullptr ? Add(pFactory->CreateQtLabel(std::move(opDefinition))) : nullptr;
 }
 
 QWidget* ControlHost::Create(OwnerPtr<ILineEditDefinition> opDefinition)
 {
     VeskIControlFactory* pFactory = VeskIControlFactory::Get();
-    return pFactory != nullptr ? Adopt(pFactory->CreateQtLineEdit(std::move(opDefinition)))
-                               : nullptr;
+    return pFactory != nullptr ? Add(pFactory->CreateQtLineEdit(std::move(opDefinition))) : nullptr;
 }
 
 QWidget* ControlHost::Create(OwnerPtr<IComboBoxDefinition> opDefinition)
 {
     VeskIControlFactory* pFactory = VeskIControlFactory::Get();
-    return pFactory != nullptr ? Adopt(pFactory->CreateQtComboBox(std::move(opDefinition)))
-                               : nullptr;
+    return pFactory != nullptr ? Add(pFactory->CreateQtComboBox(std::move(opDefinition))) : nullptr;
 }
 
 QWidget* ControlHost::Create(OwnerPtr<IProgressBarDefinition> opDefinition)
 {
     VeskIControlFactory* pFactory = VeskIControlFactory::Get();
-    return pFactory != nullptr ? Adopt(pFactory->CreateQtProgressBar(std::move(opDefinition)))
+    return pFactory != nullptr ? Add(pFactory->CreateQtProgressBar(std::move(opDefinition)))
                                : nullptr;
 }
 
@@ -155,7 +153,7 @@ QWidget* ControlHost::Create(OwnerPtr<ICommandButtonMenuDefinition> opDefinition
     if (pFactory == nullptr)
         return nullptr;
     auto* pButton = qobject_cast<QToolButton*>(
-        Adopt(pFactory->CreateQtCommandButtonMenu(std::move(opDefinition))));
+        Add(pFactory->CreateQtCommandButtonMenu(std::move(opDefinition))));
     if (pButton != nullptr && pButton->menu() != nullptr)
         QObject::connect(pButton->menu(), &QMenu::aboutToShow, pButton,
                          [pButton] { WriteMenusInDark(*pButton); });
@@ -170,6 +168,16 @@ QWidget* ControlHost::Create(OwnerPtr<ICheckBoxGroupDefinition> opDefinition)
 QWidget* ControlHost::Create(OwnerPtr<IRadioButtonGroupDefinition> opDefinition)
 {
     return CreateGroup(&VeskIControlFactory::CreateQtRadioButtonGroup, std::move(opDefinition));
+}
+
+QWidget* ControlHost::Add(OwnerPtr<IControl> opControl)
+{
+    auto* pWidget = dynamic_cast<QWidget*>(opControl.Get());
+    if (pWidget == nullptr)
+        return nullptr;
+    WheelGuard::Protect(*pWidget);
+    m_controls.push_back({std::move(opControl), pWidget});
+    return pWidget;
 }
 
 void ControlHost::RefreshControls()
@@ -251,16 +259,6 @@ QWidget* ControlHost::CreateGroup(
     pPanel->DropNativeWindow();
     m_controls.push_back({std::move(opControl), pPanel.get()});
     return pPanel.release();
-}
-
-QWidget* ControlHost::Adopt(OwnerPtr<IControl> opControl)
-{
-    auto* pWidget = dynamic_cast<QWidget*>(opControl.Get());
-    if (pWidget == nullptr)
-        return nullptr;
-    WheelGuard::Protect(*pWidget);
-    m_controls.push_back({std::move(opControl), pWidget});
-    return pWidget;
 }
 
 void ControlHost::RefreshCommandButton(IControl& control)
