@@ -1,6 +1,7 @@
 #include "HostUi/ControlLibrary.h"
 
 #include "HostUi/UiApplication.h"
+#include "Platform/LibraryFolder.h"
 
 #include <QCoreApplication>
 
@@ -11,7 +12,12 @@ ControlLibrary::ControlLibrary()
     : m_library(QCoreApplication::applicationDirPath() +
                 QStringLiteral("/../" VESK_LIBRARY_FOLDER "/VeskUiQtImpl"))
 {
-    m_library.load();
+    // A program that is not installed beside the library uses the one of the package that it links.
+    if (!m_library.load())
+    {
+        m_library.setFileName(FindLibraryFolder() + QStringLiteral("/VeskUiQtImpl"));
+        m_library.load();
+    }
 }
 
 ControlLibrary::~ControlLibrary()
