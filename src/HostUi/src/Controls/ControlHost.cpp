@@ -20,6 +20,8 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QButtonGroup>
+#include <QCursor>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QMenu>
 #include <QPalette>
@@ -54,6 +56,16 @@ void WriteMenusInDark(QToolButton& button)
     }
     for (QMenu* pMenu : button.findChildren<QMenu*>())
         pMenu->setPalette(palette);
+}
+
+/// Tells a button that the mouse has left it while its menu was open: nobody else does, and it
+/// would stay lit.
+void NoteWhereTheMouseIs(QToolButton& button)
+{
+    if (button.rect().contains(button.mapFromGlobal(QCursor::pos())))
+        return;
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(&button, &leave);
 }
 
 /// Holds the buttons of a group.
@@ -154,9 +166,12 @@ QWidget* ControlHost::Create(OwnerPtr<ICommandButtonMenuDefinition> opDefinition
         return nullptr;
     auto* pButton = qobject_cast<QToolButton*>(
         Add(pFactory->CreateQtCommandButtonMenu(std::move(opDefinition))));
-    if (pButton != nullptr && pButton->menu() != nullptr)
-        QObject::connect(pButton->menu(), &QMenu::aboutToShow, pButton,
-                         [pButton] { WriteMenusInDark(*pButton); });
+    if (pButton == nullptr || pButton->menu() == nullptr)
+        return pButton;
+    QObject::connect(pButton->menu(), &QMenu::aboutToShow, pButton,
+                     [pButton] { WriteMenusInDark(*pButton); });
+    QObject::connect(pButton->menu(), &QMenu::aboutToHide, pButton,
+                     [pButton] { NoteWhereTheMouseIs(*pButton); });
     return pButton;
 }
 
