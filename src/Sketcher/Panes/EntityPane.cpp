@@ -48,9 +48,11 @@ EntityPane::EntityPane(Workspace& workspace)
     m_pView->setObjectName(QStringLiteral("Entities"));
     m_pView->setModel(m_pModel);
     const int digit = fontMetrics().horizontalAdvance(QLatin1Char('0'));
-    m_pView->horizontalHeader()->resizeSection(EntityModel::NumberColumn, 7 * digit);
+    m_pView->horizontalHeader()->resizeSection(EntityModel::NumberColumn, 6 * digit);
     m_pView->horizontalHeader()->resizeSection(EntityModel::KindColumn,
-                                               WidestKind(fontMetrics()) + 2 * digit);
+                                               WidestKind(fontMetrics()) + digit);
+    // Gets the rest of the pane.
+    m_pView->horizontalHeader()->resizeSection(EntityModel::SizeColumn, 6 * digit);
 
     auto* pLayout = new QVBoxLayout(this);
     pLayout->setContentsMargins(0, 0, 0, 0);

@@ -6,6 +6,7 @@
 #include "Support/TestValues.h"
 
 #include <QAbstractItemView>
+#include <QScrollBar>
 #include <QSignalSpy>
 
 #include <algorithm>
@@ -331,12 +332,14 @@ private slots:
         constexpr int KindColumn = 1;
         const LongTexts language;
 
-        const Fixture f;
+        Fixture f;
+        f.pPane->resize(300, 300);
 
         const QString kind = f.pList->model()->index(0, KindColumn).data().toString();
         QCOMPARE(kind.size(), 8);
         const int width = f.pList->visualRect(f.pList->model()->index(0, KindColumn)).width();
         QVERIFY(width > f.pList->fontMetrics().horizontalAdvance(kind));
+        QTRY_VERIFY(!f.pList->horizontalScrollBar()->isVisible());
     }
 };
 
