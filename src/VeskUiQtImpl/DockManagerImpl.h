@@ -28,7 +28,11 @@ class VESK_UI_QT_IMPL_API DockManagerImpl : public IDockManager
 public:
     /// The window is not owned.
     explicit DockManagerImpl(IApplicationWindow* pMainWindow);
+
+    /// Refers to the same window and panes.
     DockManagerImpl(const DockManagerImpl& other);
+
+    /// Refers to the window and panes of `other` from now on.
     DockManagerImpl& operator=(const DockManagerImpl& other);
     ~DockManagerImpl() override;
 

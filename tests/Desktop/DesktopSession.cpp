@@ -45,9 +45,10 @@ bool DesktopSession::Start(const QStringList& arguments, const Environment& envi
 
 bool DesktopSession::Launch(const QStringList& arguments, const Environment& environment)
 {
-    const QStringList files = {
-        "--ui-tree", PathOf("ui.json"),    "--journal", PathOf("journal"),
-        "--model",   PathOf("model.json"), "--log",     PathOf("warnings.log")};
+    QStringList files = {"--ui-tree", PathOf("ui.json")};
+    if (m_files == Files::All)
+        files << QStringList{"--journal",          PathOf("journal"), "--model",
+                             PathOf("model.json"), "--log",           PathOf("warnings.log")};
     QFile::remove(PathOf("ui.json"));
     QProcessEnvironment variables = MakeEnvironment(environment);
     variables.insert("DISPLAY", m_display);

@@ -24,10 +24,21 @@ class DesktopSession
 public:
     using Environment = QMap<QString, QString>;
 
+    /// Which files of the session the program is told to write.
+    enum class Files
+    {
+        All,
+        ScreenOnly, ///< Only what is on screen: then the program offers and asks as it does at
+                    ///< home.
+    };
+
     explicit DesktopSession(const QString& display);
     ~DesktopSession();
     DesktopSession(const DesktopSession&) = delete;
     DesktopSession& operator=(const DesktopSession&) = delete;
+
+    /// Sets which files the next start names; initially all.
+    void SetFiles(Files files) { m_files = files; }
 
     /// Starts the program and waits until its window has settled. `arguments` follow those for the
     /// files.
@@ -121,6 +132,7 @@ private:
     void RunProgram(const QStringList& arguments, const QProcessEnvironment& environment);
 
     QString m_display;
+    Files m_files = Files::All;
     QTemporaryDir m_folder;
     InputDriver m_input;
     ChildProcess m_program;

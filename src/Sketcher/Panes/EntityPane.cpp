@@ -1,9 +1,14 @@
 #include "Panes/EntityPane.h"
 
+#include "Model/ShapeKind.h"
+#include "Model/UiText.h"
 #include "Model/Workspace.h"
 #include "Panes/EntityList.h"
 #include "Panes/EntityModel.h"
 
+#include "HostUi/QtText.h"
+
+#include <QFontMetrics>
 #include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QScopedValueRollback>
@@ -23,6 +28,17 @@ std::vector<int> Ascending(std::vector<int> rows)
     return rows;
 }
 
+/// In pixels, in the language of the moment.
+int WidestKind(const QFontMetrics& metrics)
+{
+    int widest = 0;
+    for (const Shape& shape :
+         {Shape(LineShape()), Shape(CircleShape()), Shape(ArcShape()), Shape(RectangleShape())})
+        widest =
+            std::max(widest, metrics.horizontalAdvance(vesk::ToQString(Tr(KindOf(shape).caption))));
+    return widest;
+}
+
 }
 
 EntityPane::EntityPane(Workspace& workspace)
@@ -32,8 +48,11 @@ EntityPane::EntityPane(Workspace& workspace)
     m_pView->setObjectName(QStringLiteral("Entities"));
     m_pView->setModel(m_pModel);
     const int digit = fontMetrics().horizontalAdvance(QLatin1Char('0'));
-    for (const int column : {EntityModel::NumberColumn, EntityModel::KindColumn})
-        m_pView->horizontalHeader()->resizeSection(column, 7 * digit);
+    m_pView->horizontalHeader()->resizeSection(EntityModel::NumberColumn, 6 * digit);
+    m_pView->horizontalHeader()->resizeSection(EntityModel::KindColumn,
+                                               WidestKind(fontMetrics()) + digit);
+    // Gets the rest of the pane.
+    m_pView->horizontalHeader()->resizeSection(EntityModel::SizeColumn, 6 * digit);
 
     auto* pLayout = new QVBoxLayout(this);
     pLayout->setContentsMargins(0, 0, 0, 0);

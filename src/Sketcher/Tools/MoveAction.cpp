@@ -14,7 +14,7 @@ namespace
 {
 
 constexpr const wchar_t* MoveName = L"移动"_source;
-constexpr const wchar_t* CopyName = L"复制"_source;
+constexpr const wchar_t* CopyName = L"复制到"_source;
 
 }
 

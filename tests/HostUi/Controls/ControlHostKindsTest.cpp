@@ -18,6 +18,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
+#include <QCursor>
 #include <QEventLoop>
 #include <QLabel>
 #include <QLineEdit>
@@ -254,6 +255,28 @@ private slots:
             }
         }
         QCOMPARE(pButton->palette().color(QPalette::Text), QColor(Qt::white));
+    }
+
+    void buttonIsLitAfterItsMenuIfTheMouseIsStillThere_data()
+    {
+        QTest::addColumn<bool>("isThere");
+
+        QTest::newRow("there") << true;
+        QTest::newRow("elsewhere") << false;
+    }
+
+    void buttonIsLitAfterItsMenuIfTheMouseIsStillThere()
+    {
+        QFETCH(bool, isThere);
+        Fixture f;
+        auto* pButton = f.Place<QToolButton>(f.pControls->Create(MakeMenu()));
+        pButton->setAttribute(Qt::WA_UnderMouse);
+        const QPoint outside = pButton->rect().bottomRight() + QPoint(50, 50);
+        QCursor::setPos(pButton->mapToGlobal(isThere ? pButton->rect().center() : outside));
+
+        emit pButton->menu()->aboutToHide();
+
+        QCOMPARE(pButton->underMouse(), isThere);
     }
 
     void aButtonIsHiddenWithItsCommand()

@@ -7,6 +7,7 @@
 #include "Control/CheckBoxGroupDefinition.h"
 #include "Control/ComboBoxDefinition.h"
 #include "Control/CommandButtonDefinition.h"
+#include "Control/IControl.h"
 #include "Control/ILabelDefinition.h"
 #include "Control/LabelDefinition.h"
 #include "HostCore.h"
@@ -64,6 +65,30 @@ public:
 private:
     std::function<void()> m_act;
     int m_otherCount = 0;
+};
+
+/// A control of the program's own kind.
+class OwnControl final : public QLabel, public IControl
+{
+public:
+    IControlDefinition* GetControlDefinition() const override { return &m_definition; }
+    void UpdateStatus() override { setEnabled(m_definition.IsEnabled()); }
+
+private:
+    mutable LabelDefinition m_definition{L"Own"};
+};
+
+/// A control without a widget; counts those that exist.
+class BareControl final : public IControl
+{
+public:
+    explicit BareControl(int& count) : m_count(count) { ++m_count; }
+    ~BareControl() override { --m_count; }
+    IControlDefinition* GetControlDefinition() const override { return nullptr; }
+    void UpdateStatus() override {}
+
+private:
+    int& m_count;
 };
 
 OwnerPtr<IAction> Idle(IUiView*, const CommandParameters&)
@@ -258,6 +283,41 @@ private slots:
         }
 
         QCOMPARE(reached, QStringList({"End", "Middle", "Centre"}));
+    }
+
+    void controlOfTheProgramsOwnKindIsRefreshedLikeAnyOther()
+    {
+        auto opControl = MakeOwner<OwnControl>();
+        auto& definition = static_cast<LabelDefinition&>(*opControl->GetControlDefinition());
+        QWidget* pWidget = m_pControls->Add(std::move(opControl));
+        m_pPanel->layout()->addWidget(pWidget);
+        definition.SetEnabled(false);
+
+        m_pControls->RefreshControls();
+
+        QVERIFY(!pWidget->isEnabled());
+        QCOMPARE(m_pControls->GetDefinitions(), std::vector<IControlDefinition*>{&definition});
+    }
+
+    void controlOfTheProgramsOwnKindIsRemovedLikeAnyOther()
+    {
+        const QPointer<QWidget> pWidget = m_pControls->Add(MakeOwner<OwnControl>());
+        m_pPanel->layout()->addWidget(pWidget);
+
+        m_pControls->Remove(L"Own");
+
+        QTRY_VERIFY(pWidget == nullptr);
+        QVERIFY(m_pControls->GetDefinitions().empty());
+    }
+
+    void controlThatIsNoWidgetIsDestroyed()
+    {
+        int count = 0;
+
+        QWidget* pWidget = m_pControls->Add(MakeOwner<BareControl>(count));
+
+        QVERIFY(pWidget == nullptr);
+        QCOMPARE(count, 0);
     }
 
     void unknownControlCannotBeRemoved()

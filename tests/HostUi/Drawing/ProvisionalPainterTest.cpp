@@ -1,4 +1,4 @@
-#include "Drawing/ProvisionalPainter.h"
+#include "HostUi/ProvisionalPainter.h"
 
 #include "Support/HostValues.h"
 #include "Support/TestValues.h"

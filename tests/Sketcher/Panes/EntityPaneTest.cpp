@@ -1,10 +1,12 @@
 #include "Panes/EntityPane.h"
 
+#include "Foundation/TranslatorManager.h"
 #include "Model/Workspace.h"
 #include "RecordedLines.h"
 #include "Support/TestValues.h"
 
 #include <QAbstractItemView>
+#include <QScrollBar>
 #include <QSignalSpy>
 
 #include <algorithm>
@@ -75,6 +77,19 @@ struct Fixture
     std::unique_ptr<EntityPane> pPane;
     QAbstractItemView* pList = nullptr;
     std::unique_ptr<RecordedLines> pLines;
+};
+
+/// A language in which every text is four times as long; installed while it lives.
+class LongTexts final : public vesk::ITranslator
+{
+public:
+    LongTexts() { vesk::TranslatorManager::Get()->SetTranslator(this); }
+    ~LongTexts() override { vesk::TranslatorManager::Get()->SetTranslator(nullptr); }
+
+    std::wstring Translate(const std::wstring&, const std::wstring& text) const override
+    {
+        return text + text + text + text;
+    }
 };
 
 /// How often the list's selection changes during a step.
@@ -310,6 +325,21 @@ private slots:
         QCOMPARE(changesByDrawing, 1);
         f.pList->scrollToBottom();
         QVERIFY(f.IsSeen(Count - 1));
+    }
+
+    void columnOfKindsHasRoomForThemInAnyLanguage()
+    {
+        constexpr int KindColumn = 1;
+        const LongTexts language;
+
+        Fixture f;
+        f.pPane->resize(300, 300);
+
+        const QString kind = f.pList->model()->index(0, KindColumn).data().toString();
+        QCOMPARE(kind.size(), 8);
+        const int width = f.pList->visualRect(f.pList->model()->index(0, KindColumn)).width();
+        QVERIFY(width > f.pList->fontMetrics().horizontalAdvance(kind));
+        QTRY_VERIFY(!f.pList->horizontalScrollBar()->isVisible());
     }
 };
 

@@ -145,7 +145,7 @@ private slots:
         QCOMPARE(f.Count(), std::size_t{7});
         QCOMPARE(ShapeOf(f, 7), Shape(LineShape{{-7, 0, 0}, {33, 0, 0}}));
         QVERIFY(f.IsRepeated(&SelectTwo));
-        QCOMPARE(f.workspace.sketch.GetUndoText(), std::wstring(L"复制"));
+        QCOMPARE(f.workspace.sketch.GetUndoText(), std::wstring(L"复制到"));
         f.workspace.sketch.Undo();
         QCOMPARE(f.Count(), std::size_t{5});
     }
@@ -262,9 +262,10 @@ private slots:
             f.ClickAt(x, 0);
         }
 
-        QCOMPARE(hints, (QStringList{"复制：单击要复制的图元；Esc 结束",
-                                     "复制：单击基点，或再单击一并复制的图元；Esc 结束",
-                                     "复制：单击目标点，或键入距离（Tab 切换到角度）；Esc 结束"}));
+        QCOMPARE(hints,
+                 (QStringList{"复制到：单击要复制的图元；Esc 结束",
+                              "复制到：单击基点，或再单击一并复制的图元；Esc 结束",
+                              "复制到：单击目标点，或键入距离（Tab 切换到角度）；Esc 结束"}));
     }
 
     void theWayAndWhatMovesAreShown()

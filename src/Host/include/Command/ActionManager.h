@@ -34,6 +34,7 @@ class VESK_HOST_API IActionObserver
 public:
     virtual ~IActionObserver() = default;
 
+    /// Called on the GUI thread. May add and remove observers.
     virtual void OnActionChanged() = 0;
 };
 
@@ -86,6 +87,8 @@ public:
 
     /// Pass the cursor position, a click or an Escape in the view to the running action.
     static void ProcessMouseMove(IUiView* pView, const Vector3d& world);
+
+    /// The same for a click.
     static void ProcessClick(IUiView* pView, const Vector3d& world);
 
     /// Drops the action's locked values or, if there are none, ends it.
@@ -117,6 +120,8 @@ public:
 
     /// Adds an observer (not owned), notified until it is removed.
     static void AddObserver(IActionObserver* pObserver);
+
+    /// Removes an observer; an unknown one is ignored.
     static void RemoveObserver(IActionObserver* pObserver);
 };
 

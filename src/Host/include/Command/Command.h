@@ -13,7 +13,11 @@ namespace vesk
 class VESK_HOST_API Command final : public ICommand
 {
 public:
+    /// Does the work in a view, which is null if there is none; returns what ICommand::Execute
+    /// returns.
     using Execution = std::function<OwnerPtr<IAction>(IUiView*, const CommandParameters&)>;
+
+    /// Says whether the command can be started now; called often, so it must be quick.
     using Condition = std::function<bool()>;
 
     /// Whether it runs as an action.
@@ -28,6 +32,8 @@ public:
 
     std::wstring GetCommandId() const override;
     bool IsJournalIdOnly() const override;
+
+    /// What the condition says now.
     bool IsEnabled() const override;
     bool IsVisible() const override;
     bool IsInteractive() const override;
@@ -35,6 +41,8 @@ public:
 
     /// Sets whether the journal record holds the id alone.
     void SetJournalIdOnly(bool isIdOnly);
+
+    /// Sets whether the buttons of the command are shown; initially true.
     void SetVisible(bool isVisible);
 
 private:

@@ -27,6 +27,8 @@ public:
 
     /// Frees the command with that id. Must not be called while the command runs.
     virtual void RemoveCommand(const std::wstring& commandId) = 0;
+
+    /// Frees all commands. Must not be called while one runs.
     virtual void RemoveAllCommands() = 0;
 };
 

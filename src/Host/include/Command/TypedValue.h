@@ -12,9 +12,9 @@ namespace vesk
 /// A value that the user typed for the running action.
 struct TypedValue
 {
-    InputState field = InputState::IS_None;
-    double value = 0.0;       ///< In model units.
-    std::wstring text;        ///< As it was in the editor.
+    InputState field = InputState::IS_None; ///< What was typed.
+    double value = 0.0;                     ///< In model units.
+    std::wstring text;                      ///< As it was in the editor.
     bool isUnchanged = false; ///< The field showed its current value and the user did not edit it.
     bool isCommitted = false; ///< The input has ended; otherwise it goes on in another field.
 };
@@ -22,7 +22,7 @@ struct TypedValue
 /// The content of the editor when its value is committed.
 struct EditorText
 {
-    std::wstring text;
+    std::wstring text;        ///< As it is when the value is committed.
     bool isUnchanged = false; ///< As in TypedValue.
 
     /// The value of the text in model units, rounded only once; converting the delivered value,
@@ -35,6 +35,7 @@ struct EditorText
 class VESK_HOST_API EditorTextScope final
 {
 public:
+    /// Copies the text.
     explicit EditorTextScope(const EditorText& text);
     ~EditorTextScope();
     EditorTextScope(const EditorTextScope&) = delete;

@@ -11,6 +11,7 @@ namespace vesk
 class VESK_HOST_API CheckBoxDefinition : public ControlDefinition<ICheckBoxDefinition>
 {
 public:
+    /// An unchecked box. `id` is what the group's operations call it.
     CheckBoxDefinition(std::wstring id, const std::wstring& caption);
 
     int GetCheckState() const override;
@@ -28,6 +29,7 @@ private:
 class VESK_HOST_API CheckBoxGroupDefinition : public ControlDefinition<ICheckBoxGroupDefinition>
 {
 public:
+    /// `id` never changes; it is the object name of the widget.
     explicit CheckBoxGroupDefinition(std::wstring id);
 
     const std::vector<const ICheckBoxDefinition*>& GetCheckBoxDefinitions() const override;
@@ -36,11 +38,16 @@ public:
     /// The box with that id, owned by the group; null if there is none.
     CheckBoxDefinition* Find(const std::wstring& checkBoxId) const;
 
+    /// Appends a box.
     void AddCheckBox(OwnerPtr<CheckBoxDefinition> opCheckBox);
 
     /// Inserts a box before the one at `index`; at the end it is appended.
     void InsertCheckBox(int index, OwnerPtr<CheckBoxDefinition> opCheckBox);
+
+    /// Removes a box and frees it once all handlers have been notified.
     void DeleteCheckBox(int index);
+
+    /// Removes all boxes; does nothing if there are none.
     void ClearCheckBoxes();
 
 private:

@@ -20,6 +20,7 @@ namespace vesk
 class VESK_HOST_API ComboBoxDefinition : public ControlDefinition<IComboBoxDefinition>
 {
 public:
+    /// `id` never changes; it is the object name of the widget.
     explicit ComboBoxDefinition(std::wstring id);
 
     std::vector<std::wstring> GetItems() const override;
@@ -28,11 +29,16 @@ public:
     void SetCurrentIndex(int index) override;
     int GetCurrentIndex() const override;
 
+    /// Appends an item.
     void AddItem(const std::wstring& text);
 
     /// Inserts an item before the one at `index`; at the end it is appended.
     void InsertItem(int index, const std::wstring& text);
+
+    /// Removes an item; see above for what is current then.
     void DeleteItem(int index);
+
+    /// Removes all items; none is current then.
     void ClearItems();
 
 private:

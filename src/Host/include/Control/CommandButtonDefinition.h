@@ -10,6 +10,7 @@ namespace vesk
 class VESK_HOST_API CommandButtonDefinition : public ControlDefinition<ICommandButtonDefinition>
 {
 public:
+    /// `id` is the object name of the widget, `commandId` the command that a click sends.
     CommandButtonDefinition(std::wstring id, std::wstring commandId);
 
     const std::wstring& GetCommandId() const override;
@@ -18,7 +19,10 @@ public:
     void SetChecked(bool isChecked) override;
     bool IsChecked() const override;
 
+    /// Sets the icon: a file, or a Qt resource.
     void SetIconPath(const std::wstring& iconPath);
+
+    /// Sets the style (see ICommandButtonDefinition::GetButtonStyle); any other number counts as 3.
     void SetButtonStyle(int buttonStyle);
 
 private:

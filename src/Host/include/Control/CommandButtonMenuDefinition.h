@@ -11,10 +11,14 @@ namespace vesk
 class VESK_HOST_API CommandMenuItemDefinition : public ControlDefinition<ICommandMenuItemDefinition>
 {
 public:
+    /// `commandId` is the command that choosing the entry sends.
     CommandMenuItemDefinition(std::wstring id, std::wstring commandId, const std::wstring& caption);
 
     const std::wstring& GetCommandId() const override;
     const std::wstring& GetIconPath() const override;
+
+    /// Sets the icon: a file, or a Qt resource. A menu that shows the entry already does not
+    /// follow.
     void SetIconPath(const std::wstring& iconPath);
 
 private:
@@ -28,10 +32,14 @@ class VESK_HOST_API MenuItemContainerDefinition
     : public ControlDefinition<IMenuItemContainerDefinition>
 {
 public:
+    /// An entry that opens a sub-menu, which is initially empty.
     MenuItemContainerDefinition(std::wstring id, const std::wstring& caption);
 
     const std::wstring& GetIconPath() const override;
     std::vector<const IMenuItemDefinition*> GetMenuItemDefinitions() const override;
+
+    /// Sets the icon: a file, or a Qt resource. A menu that shows the entry already does not
+    /// follow.
     void SetIconPath(const std::wstring& iconPath);
 
     /// A null entry is reported and changes nothing.
@@ -56,12 +64,17 @@ public:
     const std::wstring& GetCommandId() const override;
     const std::wstring& GetIconPath() const override;
     std::vector<const IMenuItemDefinition*> GetMenuItemDefinitions() const override;
+
+    /// Sets the icon of the button: a file, or a Qt resource.
     void SetIconPath(const std::wstring& iconPath);
 
+    /// Appends an entry.
     void AddMenuItem(OwnerPtr<IMenuItemDefinition> opMenuItem);
 
     /// Inserts an entry before the one at `index`; at the end it is appended.
     void InsertMenuItem(int index, OwnerPtr<IMenuItemDefinition> opMenuItem);
+
+    /// Removes all entries; does nothing if there are none.
     void ClearMenuItems();
 
 private:

@@ -14,6 +14,7 @@ namespace vesk
 class VESK_HOST_API ControlDefinitionChangeByUser
 {
 public:
+    /// Begins a scope for the definition with that id.
     explicit ControlDefinitionChangeByUser(const std::wstring& id);
     ~ControlDefinitionChangeByUser();
     ControlDefinitionChangeByUser(const ControlDefinitionChangeByUser&) = delete;
@@ -40,6 +41,7 @@ public:
     LineEditTextChangeFlag(const LineEditTextChangeFlag&) = delete;
     LineEditTextChangeFlag& operator=(const LineEditTextChangeFlag&) = delete;
 
+    /// Set while the user changes a text.
     static bool m_textChangeByUser;
 };
 
@@ -52,6 +54,7 @@ public:
     RadioButtonGroupStateChangeFlag(const RadioButtonGroupStateChangeFlag&) = delete;
     RadioButtonGroupStateChangeFlag& operator=(const RadioButtonGroupStateChangeFlag&) = delete;
 
+    /// Set while the user checks a button.
     static bool m_stateChangeByUser;
 };
 

@@ -29,6 +29,7 @@ class VESK_HOST_API ControlDefinitionChangeEvent
                    IControlDefinitionChangeEventHandler, IControlDefinitionChangeEventArgs>
 {
 public:
+    /// The id is that of the definition whose changes it reports.
     explicit ControlDefinitionChangeEvent(const std::wstring& definitionId);
 
     /// Each of these delivers one change to the handlers; the event may be gone afterwards.

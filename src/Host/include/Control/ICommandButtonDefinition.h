@@ -17,7 +17,11 @@ public:
 
     /// 0 icon only, 1 text only, 2 text beside icon, 3 text under icon, 4 as set by the style.
     virtual int GetButtonStyle() const = 0;
+
+    /// Sets whether the button looks pressed: by convention while the action of its command runs.
     virtual void SetChecked(bool isChecked) = 0;
+
+    /// Whether the button looks pressed; initially false.
     virtual bool IsChecked() const = 0;
 };
 

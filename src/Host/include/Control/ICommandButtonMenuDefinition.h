@@ -28,6 +28,7 @@ public:
 class VESK_HOST_API ICommandMenuItemDefinition : public IMenuItemDefinition
 {
 public:
+    /// The command that choosing the entry sends.
     virtual const std::wstring& GetCommandId() const = 0;
 };
 
@@ -37,6 +38,8 @@ class VESK_HOST_API ICommandButtonMenuDefinition : public IControlDefinition
 public:
     /// The command of the main part; empty if it has none.
     virtual const std::wstring& GetCommandId() const = 0;
+
+    /// A path or resource name of the button's icon; may be empty.
     virtual const std::wstring& GetIconPath() const = 0;
 
     /// The entries of the menu, owned by the definition.

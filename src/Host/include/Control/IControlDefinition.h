@@ -19,9 +19,17 @@ public:
 
     /// Identifies the definition; never changes.
     virtual const std::wstring& GetId() const = 0;
+
+    /// The text shown on the control, in the user's language; may be empty.
     virtual const std::wstring& GetCaption() const = 0;
+
+    /// The tool tip, in the user's language; empty for none.
     virtual const std::wstring& GetTooltip() const = 0;
+
+    /// Whether the control is to be shown.
     virtual bool IsVisible() const = 0;
+
+    /// Whether the user can use the control.
     virtual bool IsEnabled() const = 0;
 };
 

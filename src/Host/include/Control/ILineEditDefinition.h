@@ -28,11 +28,17 @@ class VESK_HOST_API ILineEditDefinition : public IControlDefinition
 public:
     /// One of LineEditInputType.
     virtual int GetInputType() const = 0;
+
+    /// The text as it is, valid or not.
     virtual std::wstring GetText() const = 0;
 
     /// Sets the text; a different text drops the selection.
     virtual void SetText(const std::wstring& text) = 0;
+
+    /// Sets an empty text.
     virtual void ClearText() = 0;
+
+    /// The selected part of the text; empty if nothing is selected.
     virtual std::wstring GetSelectedText() const = 0;
 
     /// Takes ownership of the validator and frees the previous one.

@@ -22,6 +22,9 @@ public:
 
     /// The id of the checked button.
     virtual std::wstring GetCurrentRadioButtonId() const = 0;
+
+    /// Checks the button with that id and no other. An id that no button has unchecks none on
+    /// screen.
     virtual void SetCurrentRadioButtonId(const std::wstring& radioButtonId) = 0;
 };
 

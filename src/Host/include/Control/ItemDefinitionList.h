@@ -40,6 +40,7 @@ public:
     /// `event` belongs to the definition and outlives the list.
     explicit ItemDefinitionList(ControlDefinitionChangeEvent& event) : m_event(event) {}
 
+    /// The number of items.
     int GetCount() const { return static_cast<int>(m_items.size()); }
 
     /// Null if the index is out of range.
@@ -87,6 +88,7 @@ public:
                                   index, caption, pItem, pRemoved);
     }
 
+    /// Removes the item at an index.
     void Delete(int index, const char* function)
     {
         if (!CheckItemIndex(index, GetCount() - 1, function))

@@ -36,7 +36,11 @@ public:
 
     /// Stores whether the user is editing; raises no event. Always returns true.
     bool SetIsEditing(bool isEditing);
+
+    /// What SetIsEditing stored last; initially false.
     bool IsEditing() const;
+
+    /// The decimals with which a number is shown.
     int GetDecimals() const;
 
 private:
@@ -73,7 +77,10 @@ public:
     const ValidatorBase* GetValidator() const override;
     ILineEditEvent* GetLineEditEvent() const override;
 
+    /// The first selected character; 0 if there is no definition.
     int GetSelectionStart() const;
+
+    /// Selects characters; does nothing without a definition.
     void SetSelection(int start, int length);
 
     /// False if there is no definition to store it in.

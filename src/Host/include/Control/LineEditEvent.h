@@ -15,11 +15,14 @@ enum class LineEditEventType : int
     EditingFinished = 0, ///< Return was pressed or the edit lost the focus.
 };
 
+/// Describes the end of editing to a handler. Valid only during the call.
 class VESK_HOST_API LineEditEventArgs
 {
 public:
+    /// Copies the texts.
     LineEditEventArgs(LineEditEventType type, std::wstring id, std::wstring text);
 
+    /// What has happened.
     LineEditEventType GetType() const { return m_type; }
 
     /// The id of the definition.
@@ -34,14 +37,17 @@ private:
     std::wstring m_text;
 };
 
+/// Notified when editing a line edit has finished.
 class VESK_HOST_API ILineEditEventHandler
 {
 public:
     virtual ~ILineEditEventHandler() = default;
 
+    /// Called after the definition was updated. `pArgs` is not owned.
     virtual void On(LineEditEventArgs* pArgs) = 0;
 };
 
+/// The event of one line edit.
 class VESK_HOST_API ILineEditEvent
 {
 public:
@@ -49,6 +55,8 @@ public:
 
     /// Subscribes a handler, which is not owned.
     virtual void Add(ILineEditEventHandler* pHandler) = 0;
+
+    /// Unsubscribes a handler; an unknown one is ignored.
     virtual void Delete(ILineEditEventHandler* pHandler) = 0;
 };
 

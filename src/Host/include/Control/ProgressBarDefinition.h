@@ -10,6 +10,7 @@ namespace vesk
 class VESK_HOST_API ProgressBarDefinition : public ControlDefinition<IProgressBarDefinition>
 {
 public:
+    /// `id` never changes; it is the object name of the widget.
     explicit ProgressBarDefinition(std::wstring id);
 
     int GetValue() const override;
@@ -18,6 +19,8 @@ public:
 
     /// A value below 0 or above 100 is stored, but a bar does not show it.
     void SetValue(int value);
+
+    /// Sets whether the value is shown as a text, too.
     void SetTextVisible(bool isTextVisible);
 
     /// In pixels.

@@ -11,6 +11,7 @@ namespace vesk
 class VESK_HOST_API RadioButtonDefinition : public ControlDefinition<IRadioButtonDefinition>
 {
 public:
+    /// `id` is what the group's operations call it.
     RadioButtonDefinition(std::wstring id, const std::wstring& caption);
 };
 
@@ -22,6 +23,7 @@ class VESK_HOST_API RadioButtonGroupDefinition
     : public ControlDefinition<IRadioButtonGroupDefinition>
 {
 public:
+    /// `id` never changes; it is the object name of the widget.
     explicit RadioButtonGroupDefinition(std::wstring id);
 
     const std::vector<const IRadioButtonDefinition*>& GetRadioButtonDefinitions() const override;
@@ -31,11 +33,16 @@ public:
     /// The button with that id, owned by the group; null if there is none.
     RadioButtonDefinition* Find(const std::wstring& radioButtonId) const;
 
+    /// Appends a button.
     void AddRadioButton(OwnerPtr<RadioButtonDefinition> opRadioButton);
 
     /// Inserts a button before the one at `index`; at the end it is appended.
     void InsertRadioButton(int index, OwnerPtr<RadioButtonDefinition> opRadioButton);
+
+    /// Removes a button and frees it once all handlers have been notified.
     void DeleteRadioButton(int index);
+
+    /// Removes all buttons; does nothing if there are none.
     void ClearRadioButtons();
 
 private:

@@ -32,19 +32,32 @@ public:
     /// The registered factory, null if no control library is loaded. Not owned.
     static VeskIControlFactory* Get();
 
+    /// Creates a tool button; a click sends the command.
     virtual OwnerPtr<IControl> CreateQtButton(OwnerPtr<ICommandButtonDefinition> opDefinition) = 0;
+
+    /// Creates a line edit, whose definition follows what the user types.
     virtual OwnerPtr<IControl> CreateQtLineEdit(OwnerPtr<ILineEditDefinition> opDefinition) = 0;
+
+    /// Creates a label.
     virtual OwnerPtr<IControl> CreateQtLabel(OwnerPtr<ILabelDefinition> opDefinition) = 0;
+
+    /// Creates a tool button with a menu of commands.
     virtual OwnerPtr<IControl>
     CreateQtCommandButtonMenu(OwnerPtr<ICommandButtonMenuDefinition> opDefinition) = 0;
+
+    /// Creates a combo box.
     virtual OwnerPtr<IControl> CreateQtComboBox(OwnerPtr<IComboBoxDefinition> opDefinition) = 0;
+
+    /// Creates a progress bar.
     virtual OwnerPtr<IControl>
     CreateQtProgressBar(OwnerPtr<IProgressBarDefinition> opDefinition) = 0;
 
-    /// The group's buttons become children of the widget with that window id.
+    /// Creates the buttons of a group, which become children of the widget with that window id.
     virtual OwnerPtr<IControl>
     CreateQtRadioButtonGroup(OwnerPtr<IRadioButtonGroupDefinition> opDefinition,
                              WindowId parentWindowId) = 0;
+
+    /// The same for check boxes.
     virtual OwnerPtr<IControl>
     CreateQtCheckBoxGroup(OwnerPtr<ICheckBoxGroupDefinition> opDefinition,
                           WindowId parentWindowId) = 0;

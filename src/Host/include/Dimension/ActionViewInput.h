@@ -27,10 +27,10 @@ struct ActionViewInput
         HeightCommitted = 14,
     };
 
-    std::int32_t kind = 0;
-    double value = 0.0; ///< In the display unit or in degrees; 0 if the text is not a number.
-    std::wstring text;  ///< The text itself, in raw-text mode only.
-    Any extra;
+    std::int32_t kind = 0; ///< One of Kind.
+    double value = 0.0;    ///< In the display unit or in degrees; 0 if the text is not a number.
+    std::wstring text;     ///< The text itself, in raw-text mode only.
+    Any extra;             ///< Not used; for values that are no numbers.
 };
 
 }

@@ -23,12 +23,23 @@ public:
 
     /// Not used: the central angle is all that can be typed.
     Intervald GetFirstValueRange() const override;
+
+    /// In degrees.
     Intervald GetSecondValueRange() const override { return m_angleRange; }
 
+    /// The frame in whose xy plane the arc lies.
     const Coordinate3d& GetCoordinate() const { return m_coordinate; }
+
+    /// The centre of the arc.
     const Vector3d& GetCentre() const { return m_centre; }
+
+    /// Where the arc begins.
     const Vector3d& GetStartPoint() const { return m_start; }
+
+    /// Where the arc ends now.
     const Vector3d& GetEndPoint() const { return m_end; }
+
+    /// Where the cursor is.
     const Vector3d& GetCursorPoint() const { return m_cursor; }
 
     /// Sets the range of the angle, in degrees.

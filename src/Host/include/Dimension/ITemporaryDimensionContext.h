@@ -16,6 +16,8 @@ public:
 
     /// The values that may be typed in the first and the second field.
     virtual Intervald GetFirstValueRange() const = 0;
+
+    /// The same for the second field; unused by kinds with one field.
     virtual Intervald GetSecondValueRange() const = 0;
 
     /// For a value that this kind of context has: whether it can be typed now.

@@ -24,6 +24,9 @@ public:
 
     /// True while a value is being typed.
     virtual bool IsInputting() = 0;
+
+    /// True while the editor has the keyboard; it may be open without, until the window system
+    /// moves it.
     virtual bool HasEditorFocus() = 0;
 
     /// Ends the input without a value and hides the editor.

@@ -24,10 +24,10 @@ enum class Quantity
 /// A field of a provisional dimension: what may be typed in it, and what the keys do in it.
 struct InputField
 {
-    InputState state = InputState::IS_None;
-    Quantity quantity = Quantity::Length;
-    Intervald range{0.0, 0.0}; ///< In the display unit; of angles in degrees.
-    bool takesWithSpace = false;
+    InputState state = InputState::IS_None; ///< Which value it is for; IS_None for no field.
+    Quantity quantity = Quantity::Length;   ///< What the value measures.
+    Intervald range{0.0, 0.0};              ///< In the display unit; of angles in degrees.
+    bool takesWithSpace = false;            ///< Space commits a plain number.
 
     /// The field that Tab goes on to after committing the value; IS_None if Tab commits nothing.
     InputState next = InputState::IS_None;
@@ -36,7 +36,7 @@ struct InputField
 /// The meaning of a delivered input, given its kind (ActionViewInput::Kind).
 struct InputMeaning
 {
-    InputState field = InputState::IS_None;
+    InputState field = InputState::IS_None; ///< Which value; IS_None for an unknown kind.
     bool isCommitted = false; ///< The input has ended; otherwise it goes on in another field.
 };
 

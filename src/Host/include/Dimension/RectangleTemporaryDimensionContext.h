@@ -15,6 +15,7 @@ namespace vesk
 class VESK_HOST_API RectangleTemporaryDimensionContext final : public ITemporaryDimensionContext
 {
 public:
+    /// `opposite` is the cursor. Both are world points, in the xy plane of `coordinate`.
     RectangleTemporaryDimensionContext(const Coordinate3d& coordinate, const Vector3d& corner,
                                        const Vector3d& opposite);
 
@@ -24,8 +25,13 @@ public:
     /// Not used: only lengths can be typed.
     Intervald GetSecondValueRange() const override;
 
+    /// The frame along whose x and y axes the sides are.
     const Coordinate3d& GetCoordinate() const { return m_coordinate; }
+
+    /// The corner where the rectangle begins.
     const Vector3d& GetFirstCorner() const { return m_corner; }
+
+    /// The corner opposite to it now: the cursor.
     const Vector3d& GetOppositeCorner() const { return m_opposite; }
 
     /// Narrows the range of both, in the display unit.

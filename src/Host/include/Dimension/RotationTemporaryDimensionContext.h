@@ -15,16 +15,26 @@ namespace vesk
 class VESK_HOST_API RotationTemporaryDimensionContext final : public ITemporaryDimensionContext
 {
 public:
+    /// `to` is the cursor. All are world points, in the xy plane of `coordinate`.
     RotationTemporaryDimensionContext(const Coordinate3d& coordinate, const Vector3d& centre,
                                       const Vector3d& from, const Vector3d& to);
 
     /// Not used: the angle is all that can be typed.
     Intervald GetFirstValueRange() const override;
+
+    /// Of the rotation, in degrees.
     Intervald GetSecondValueRange() const override { return m_angleRange; }
 
+    /// The frame in whose xy plane the angle is measured.
     const Coordinate3d& GetCoordinate() const { return m_coordinate; }
+
+    /// The centre of the rotation.
     const Vector3d& GetCentre() const { return m_centre; }
+
+    /// The point in whose direction the rotation begins.
     const Vector3d& GetFromPoint() const { return m_from; }
+
+    /// The point in whose direction it ends now: the cursor.
     const Vector3d& GetToPoint() const { return m_to; }
 
     /// Sets the range of the angle, in degrees.

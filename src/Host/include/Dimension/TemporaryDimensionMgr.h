@@ -56,6 +56,8 @@ public:
     /// current context or for a new one that replaces it. Does nothing without a handler or a
     /// context.
     void Regenerate();
+
+    /// The same for a new context, whose ownership it takes.
     void Regenerate(OwnerPtr<ITemporaryDimensionContext> opContext);
 
     /// Ends the input and drops the handler, graphics and locks.
@@ -63,7 +65,12 @@ public:
 
     /// Ends the input, if there is one.
     void EndInput();
+
+    /// True while a value is being typed.
     bool IsInputting() const;
+
+    /// True while there are dimensions: the running action has handed in a context for which there
+    /// is a handler.
     bool HasHandler() const;
 
     /// Passes a key pressed in the view to the handler (codes: ITemporaryDimensionHandler). True if
@@ -83,6 +90,8 @@ public:
     /// The width of the open editor in pixels if it has grown with its text; 0 if it has its
     /// opening width. Clients read it from TemporaryDimensionStyle.
     void SetEditorWidth(int width) { m_editorWidth = width; }
+
+    /// The width set last.
     int GetEditorWidth() const { return m_editorWidth; }
 
     /// The provisional graphics, null if there are none. Not owned; invalid after the next change.
@@ -92,7 +101,11 @@ public:
     /// value passed here, in model units, is shown as given: an angle of 270 degrees is not shown
     /// as the -90 that the points give.
     void SetLocked(InputState field, bool isLocked, std::optional<double> value = std::nullopt);
+
+    /// True for a value that SetLocked has locked.
     bool IsLocked(InputState field) const;
+
+    /// The locked values, in the order of InputState.
     std::vector<InputState> GetLocked() const;
 
     /// The value passed when the field was locked; nothing if none was.

@@ -16,11 +16,15 @@ public:
 
     /// Decimals of the first value (lengths) and of the second (angles).
     int GetFirstValueDecimals() const;
+
+    /// Decimals of the second value (angles).
     int GetSecondValueDecimals() const;
 
     /// Size of the editor in pixels. The width is that of the open editor, which grows with its
     /// text.
     int GetEditorWidth() const;
+
+    /// The height of the editor in pixels.
     int GetEditorHeight() const;
 
     /// A model length in the current display unit.
@@ -28,6 +32,8 @@ public:
 
     /// The text of a length in the display unit, and of an angle in degrees.
     std::wstring FormatLength(double value) const;
+
+    /// The text of an angle in degrees, with that many decimals.
     std::wstring FormatAngle(double value) const;
 };
 

@@ -12,6 +12,7 @@ namespace vesk
 class VESK_HOST_API EmissionScope
 {
 public:
+    /// No slot: no handler is being called.
     static constexpr std::size_t NoPlace = static_cast<std::size_t>(-1);
 
     /// `pInnermost` belongs to the event; it points to this scope until the scope ends.
@@ -27,11 +28,16 @@ public:
     /// Tells all emissions of an event that the event is being destroyed.
     static void EndAll(EmissionScope* pInnermost);
 
+    /// False once the event was destroyed by one of its handlers.
     bool IsEventAlive() const { return m_ppInnermost != nullptr; }
+
+    /// True unless the event is being emitted by a handler of itself.
     bool IsOutermost() const { return m_pOuter == nullptr; }
 
     /// The slot of the handler that is being called.
     std::size_t GetPlace() const { return m_place; }
+
+    /// Sets the slot of the handler that is called next.
     void SetPlace(std::size_t place) { m_place = place; }
 
 private:

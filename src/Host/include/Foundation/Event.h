@@ -23,6 +23,7 @@ template <class TSender, class TEvent, class THandler, class TArgs>
 class Event : public TEvent
 {
 public:
+    /// The class whose event it is.
     using Sender = TSender;
 
     Event() = default;
@@ -54,6 +55,7 @@ protected:
     class Emission final : public EmissionScope
     {
     public:
+        /// Begins an emission of an event.
         explicit Emission(Event& event) : EmissionScope(event.m_pInnermost), m_event(event) {}
 
         ~Emission()

@@ -10,6 +10,7 @@ namespace vesk
 class FirstException
 {
 public:
+    /// Calls `call()`. What it throws is kept if nothing was before, and lost otherwise.
     template <class Call>
     void Catch(Call&& call)
     {
@@ -24,6 +25,7 @@ public:
         }
     }
 
+    /// True if a call has thrown.
     bool IsKept() const { return m_pThrown != nullptr; }
 
     /// Rethrows the kept exception; does nothing if there is none.

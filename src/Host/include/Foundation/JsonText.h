@@ -15,6 +15,7 @@ namespace vesk
 class VESK_HOST_API JsonText
 {
 public:
+    /// In decimal.
     static void AppendNumber(std::string& text, int number);
 
     /// With as many digits as it takes to read back the same double; null if it is not finite.

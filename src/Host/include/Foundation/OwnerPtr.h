@@ -23,6 +23,7 @@ template <class Concrete>
 class OwnerPtrDeleter final : public IOwnerPtrDeleter
 {
 public:
+    /// Does not delete the object unless asked to; null is allowed.
     explicit OwnerPtrDeleter(Concrete* pObject) : m_pObject(pObject) {}
 
     void Delete() override { delete m_pObject; }
@@ -41,6 +42,8 @@ class OwnerPtr
 {
 public:
     OwnerPtr() noexcept = default;
+
+    /// Empty.
     OwnerPtr(std::nullptr_t) noexcept {}
 
     /// Takes ownership of `pObject` (null gives an empty pointer); frees it if that fails.
@@ -63,11 +66,13 @@ public:
         other.m_pObject = nullptr;
     }
 
+    /// Takes over what `other` owns, which is empty afterwards.
     OwnerPtr(OwnerPtr&& other) noexcept
         : m_pObject(std::exchange(other.m_pObject, nullptr)),
           m_pDeleter(std::move(other.m_pDeleter))
     {}
 
+    /// Frees what it owns and takes over what `other` owns, which is empty afterwards.
     OwnerPtr& operator=(OwnerPtr&& other) noexcept
     {
         if (this == &other)
@@ -102,9 +107,16 @@ public:
         return std::exchange(m_pObject, nullptr);
     }
 
+    /// The object, still owned; null if empty.
     T* Get() const noexcept { return m_pObject; }
+
+    /// The object's members. Must not be empty.
     T* operator->() const noexcept { return m_pObject; }
+
+    /// The object. Must not be empty.
     T& operator*() const noexcept { return *m_pObject; }
+
+    /// True unless empty.
     explicit operator bool() const noexcept { return m_pObject != nullptr; }
 
 private:

@@ -16,7 +16,7 @@ public:
     /// Shared with every weak reference; says whether the object still exists.
     struct LifeToken
     {
-        bool isAlive = true;
+        bool isAlive = true; ///< Cleared when the object is destroyed.
     };
 
     /// The object's token, created on first use.
@@ -24,7 +24,11 @@ public:
 
 protected:
     WeakReferenceable() noexcept;
+
+    /// A separate object, to which no weak reference refers.
     WeakReferenceable(const WeakReferenceable&) noexcept;
+
+    /// Keeps the references to this object: they do not move with the value.
     WeakReferenceable& operator=(const WeakReferenceable&) noexcept;
     ~WeakReferenceable();
 
@@ -38,6 +42,8 @@ class WeakReference
 {
 public:
     WeakReference() = default;
+
+    /// Refers to an object, null to none.
     explicit WeakReference(T* pObject)
         : m_pObject(pObject), m_pToken(pObject != nullptr ? pObject->GetLifeToken() : nullptr)
     {}

@@ -18,9 +18,16 @@ public:
     /// contains `yDirection`. Parallel or zero directions give the world axes at `origin`.
     Coordinate3d(const Vector3d& origin, const Vector3d& xDirection, const Vector3d& yDirection);
 
+    /// The origin, in world coordinates.
     const Vector3d& GetOrigin() const { return m_origin; }
+
+    /// The unit vector along x.
     const Vector3d& GetX() const { return m_x; }
+
+    /// The unit vector along y.
     const Vector3d& GetY() const { return m_y; }
+
+    /// The unit vector along z, perpendicular to the drawing plane.
     const Vector3d& GetZ() const { return m_z; }
 
     /// The world point that has these coordinates in this system.

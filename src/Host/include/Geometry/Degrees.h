@@ -13,10 +13,16 @@ namespace vesk
 class VESK_HOST_API Degrees
 {
 public:
+    /// Degrees per radian.
     static constexpr long double PerRadian = 57.295779513082320876798154814105L;
 
+    /// Of any angle; from -1 to 1.
     static double Sine(double degrees);
+
+    /// Of any angle; from -1 to 1.
     static double Cosine(double degrees);
+
+    /// Of any angle; not finite at 90 degrees and every half turn from there.
     static double Tangent(double degrees);
 
     /// From -90 to 90.

@@ -7,9 +7,13 @@ namespace vesk
 class Intervald
 {
 public:
+    /// From `min` to `max`, both included. If `min` is greater, nothing is inside.
     constexpr Intervald(double min, double max) : m_min(min), m_max(max) {}
 
+    /// The lower bound.
     constexpr double GetMin() const { return m_min; }
+
+    /// The upper bound.
     constexpr double GetMax() const { return m_max; }
 
     /// True inside and on the bounds; false for NaN.

@@ -11,6 +11,7 @@ namespace vesk
 /// double.
 using Vector3d = Eigen::Vector3d;
 
+/// Compares points.
 class VESK_HOST_API Vector3dUtils
 {
 public:

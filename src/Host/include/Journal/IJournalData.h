@@ -20,9 +20,16 @@ public:
 class VESK_HOST_API IJournalCommandData : public IJournalData
 {
 public:
+    /// Sets the command that the record is about.
     virtual void SetCommandId(const std::wstring& commandId) = 0;
+
+    /// Sets its parameters; initially there are none.
     virtual void SetCommandParameters(const CommandParameters& parameters) = 0;
+
+    /// The command that the record is about.
     virtual std::wstring GetCommandId() const = 0;
+
+    /// Its parameters; they live as long as the record does not change.
     virtual const CommandParameters& GetCommandParameters() const = 0;
 };
 

@@ -18,6 +18,8 @@ public:
 
     /// The widget, as a pointer to the toolkit's object base class. Not owned.
     virtual void SetUiObject(const Any& uiObject) = 0;
+
+    /// What was set last; without a value if nothing was.
     virtual const Any& GetUiObject() const = 0;
 };
 

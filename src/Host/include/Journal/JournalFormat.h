@@ -12,8 +12,8 @@ namespace vesk
 /// A line of a journal file.
 struct JournalLine
 {
-    std::string text; ///< As it is in the file, without the line terminator.
-    JournalRecord record;
+    std::string text;     ///< As it is in the file, without the line terminator.
+    JournalRecord record; ///< What the line says; meaningless if it could not be read.
 };
 
 /// The journal's file format: one JSON object per line, UTF-8 (docs/journal.md).

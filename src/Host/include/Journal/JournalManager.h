@@ -40,6 +40,7 @@ public:
 class VESK_HOST_API JournalManager : public IJournalManager
 {
 public:
+    /// The journal; it lives as long as the process.
     static JournalManager& GetInstance();
 
     /// Replaces the file at `path` (UTF-8) and restarts numbering. If it cannot be written or
@@ -111,6 +112,8 @@ public:
 
     /// Adds an observer (not owned), notified until it is removed.
     virtual void AddObserver(IJournalObserver* pObserver) = 0;
+
+    /// Removes an observer; an unknown one is ignored.
     virtual void RemoveObserver(IJournalObserver* pObserver) = 0;
 };
 

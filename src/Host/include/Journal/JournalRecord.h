@@ -15,18 +15,19 @@ namespace vesk
 /// The first record of a file, number 0; files of version 1 have none.
 struct HeaderRecord
 {
+    /// The version that this program writes.
     static constexpr int CurrentVersion = 2;
 
-    int version = CurrentVersion;
-    std::wstring program; ///< Name and version of the program that wrote the file.
-    std::wstring time;    ///< When it began, in UTC: "2026-11-21T08:15:30.123Z".
+    int version = CurrentVersion; ///< The version of the format that the file is in.
+    std::wstring program;         ///< Name and version of the program that wrote the file.
+    std::wstring time;            ///< When it began, in UTC: "2026-11-21T08:15:30.123Z".
 };
 
 /// A command is about to run, or to wait for its turn.
 struct CommandRecord
 {
-    std::wstring commandId;
-    CommandParameters parameters;
+    std::wstring commandId;       ///< Which command.
+    CommandParameters parameters; ///< Its parameters; empty if the record has the id alone.
 };
 
 /// A step of an action is finished.
@@ -39,15 +40,15 @@ struct PointRecord
 /// A value was typed.
 struct ValueRecord
 {
-    InputState field = InputState::IS_None;
-    std::wstring text;  ///< As typed.
-    double value = 0.0; ///< In model units.
+    InputState field = InputState::IS_None; ///< Which value.
+    std::wstring text;                      ///< As typed.
+    double value = 0.0;                     ///< In model units.
 };
 
 /// The user selected exactly these entities.
 struct SelectionRecord
 {
-    std::vector<int> entities;
+    std::vector<int> entities; ///< Their ids.
 };
 
 /// A property was set by the user.
@@ -55,19 +56,19 @@ struct PropertyRecord
 {
     std::wstring object;   ///< The object: "drawing", "pen", "selection".
     std::wstring property; ///< The property: "name", "style", "colour", "width", "layer".
-    std::wstring value;
+    std::wstring value;    ///< As text, in the form in which drawing files have it.
 };
 
 /// An undo reverted the last step; `entity` is the one that appeared or disappeared.
 struct UndoRecord
 {
-    int entity = 0;
+    int entity = 0; ///< Its id; of several the first, 0 for none.
 };
 
 /// A redo repeated the step that was undone last; `entity` as for an undo.
 struct RedoRecord
 {
-    int entity = 0;
+    int entity = 0; ///< Its id; of several the first, 0 for none.
 };
 
 /// A step is finished.
@@ -92,10 +93,10 @@ struct EndRecord
 /// command's, a header has 0.
 struct JournalRecord
 {
-    int number = 0;
+    int number = 0; ///< Unique in its file, but for ends.
     std::variant<CommandRecord, PointRecord, ValueRecord, SelectionRecord, PropertyRecord,
                  UndoRecord, EndRecord, HeaderRecord, RedoRecord, MarkRecord, CloseRecord>
-        what;
+        what; ///< The record itself, one of the kinds above.
 };
 
 }

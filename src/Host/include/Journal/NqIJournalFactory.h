@@ -25,6 +25,8 @@ public:
 
     /// Creates a record of the class with that name; empty for an unknown name.
     virtual OwnerPtr<IJournalData> CreateJournalData(const std::wstring& className) = 0;
+
+    /// Creates an announcement of a widget, without the widget.
     virtual OwnerPtr<IJournalUiObject> CreateJournalUiObject() = 0;
 };
 

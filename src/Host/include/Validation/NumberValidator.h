@@ -19,6 +19,8 @@ class NumberValidator : public ValidatorBase
 {
 public:
     NumberValidator() = default;
+
+    /// A range from `bottom` to `top`, each with the bound itself or without.
     NumberValidator(T bottom, T top, std::wstring tip, bool isBottomInclusive, bool isTopInclusive,
                     int decimals)
         : ValidatorBase(std::move(tip)), m_bottom(bottom), m_top(top),
@@ -39,12 +41,14 @@ public:
         return std::isfinite(value) && isAbove && isBelow;
     }
 
+    /// Sets the lower bound.
     void SetBottom(T bottom, bool isInclusive)
     {
         m_bottom = bottom;
         m_isBottomInclusive = isInclusive;
     }
 
+    /// Sets the upper bound.
     void SetTop(T top, bool isInclusive)
     {
         m_top = top;
@@ -54,8 +58,14 @@ public:
     /// The number of decimals with which the value is shown; a typed number is never rejected or
     /// rounded for its decimals.
     void SetDecimals(int decimals) { m_decimals = decimals; }
+
+    /// The number of decimals with which the value is shown.
     int GetDecimals() const { return m_decimals; }
+
+    /// The lower bound.
     T GetBottom() const { return m_bottom; }
+
+    /// The upper bound.
     T GetTop() const { return m_top; }
 
 private:

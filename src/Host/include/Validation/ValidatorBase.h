@@ -12,6 +12,7 @@ namespace vesk
 class VESK_HOST_API ValidatorBase
 {
 public:
+    /// `tip` is what GetTip returns.
     explicit ValidatorBase(std::wstring tip = {}) : m_tip(std::move(tip)) {}
     virtual ~ValidatorBase() = default;
 

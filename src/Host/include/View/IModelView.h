@@ -25,6 +25,8 @@ public:
 
     /// The size of the view in pixels.
     virtual int GetWidth() const = 0;
+
+    /// The height of the view in pixels.
     virtual int GetHeight() const = 0;
 };
 

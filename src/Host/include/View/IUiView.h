@@ -17,6 +17,7 @@ class VESK_HOST_API IUiView
 public:
     virtual ~IUiView() = default;
 
+    /// Unique among the views of the program; never changes.
     virtual std::uint32_t GetId() const = 0;
 
     /// The native window of the view's widget.

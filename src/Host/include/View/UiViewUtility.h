@@ -9,6 +9,7 @@ namespace vesk
 class IModelView;
 class IUiView;
 
+/// Converts between a view's pixels and the world.
 class VESK_HOST_API UiViewUtility
 {
 public:

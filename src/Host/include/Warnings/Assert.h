@@ -21,6 +21,7 @@ VESK_HOST_API void DumpAssertToLog(const std::string& condition, const std::stri
 class VESK_HOST_API AssertHelper
 {
 public:
+    /// The instance of this process; never null.
     static AssertHelper* GetInstance();
 
     /// Writes the failed condition to standard error. Never ends the process.

@@ -8,8 +8,8 @@ namespace vesk
 /// The site of a precondition, and the message for its failure.
 struct CheckSite
 {
-    const char* file;
-    int line;
+    const char* file;       ///< The source file, as the compiler names it.
+    int line;               ///< The line of the check.
     const char* function;   ///< Qualified, like "vesk::QtButton::On".
     const wchar_t* message; ///< The failed condition.
     const wchar_t* person;  ///< Who is responsible for the check.

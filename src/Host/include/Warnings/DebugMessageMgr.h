@@ -11,12 +11,12 @@ namespace vesk
 /// One failed precondition, as reported.
 struct DebugWarning
 {
-    std::string file;
-    int line = 0;
-    std::string function;
-    std::wstring message;
-    std::wstring person;
-    std::wstring date;
+    std::string file;     ///< The source file, as the compiler names it.
+    int line = 0;         ///< The line of the check.
+    std::string function; ///< Qualified, like "vesk::QtButton::On".
+    std::wstring message; ///< The failed condition.
+    std::wstring person;  ///< Who is responsible for the check.
+    std::wstring date;    ///< The day the check was written, "2026-11-21".
 };
 
 class IDebugWarningScheduler;
@@ -24,9 +24,9 @@ class IDebugWarningScheduler;
 /// The warning that the user is being asked about.
 struct ShownDebugWarning
 {
-    std::string function;
-    std::wstring message;
-    int suppressed = 0; ///< The number of warnings raised since it came on screen.
+    std::string function; ///< Of the check that failed.
+    std::wstring message; ///< The failed condition.
+    int suppressed = 0;   ///< The number of warnings raised since it came on screen.
 };
 
 /// Notified of every warning, in the thread that raised it.
@@ -51,6 +51,7 @@ public:
 class VESK_HOST_API DebugMessageMgr
 {
 public:
+    /// The manager; it lives as long as the process. Never null.
     static DebugMessageMgr* GetDebugMessageMgr();
 
     /// Logs the warning, notifies the observers, and shows it. Never throws and never ends the

@@ -56,9 +56,17 @@ public:
     /// widget has no parent yet; the caller gives it one. Null if no control could be created. A
     /// command button is visible and enabled as its command is, and checked while the command runs.
     QWidget* Create(OwnerPtr<CommandButtonDefinition> opDefinition);
+
+    /// The widget is a QLabel.
     QWidget* Create(OwnerPtr<ILabelDefinition> opDefinition);
+
+    /// The widget is a QLineEdit; its definition follows what the user types.
     QWidget* Create(OwnerPtr<ILineEditDefinition> opDefinition);
+
+    /// The widget is a QComboBox.
     QWidget* Create(OwnerPtr<IComboBoxDefinition> opDefinition);
+
+    /// The widget is a QProgressBar.
     QWidget* Create(OwnerPtr<IProgressBarDefinition> opDefinition);
 
     /// The entries of the menu are visible and enabled as their commands are.
@@ -66,7 +74,14 @@ public:
 
     /// The widget is a panel with the buttons of the group side by side.
     QWidget* Create(OwnerPtr<ICheckBoxGroupDefinition> opDefinition);
+
+    /// The same for radio buttons.
     QWidget* Create(OwnerPtr<IRadioButtonGroupDefinition> opDefinition);
+
+    /// Adds a control of the program's own kind, whose ownership it takes, and returns its widget;
+    /// the control must be a QWidget. It is refreshed, found and removed like all others. Null if
+    /// it is none: it is destroyed then.
+    QWidget* Add(OwnerPtr<IControl> opControl);
 
     /// Makes every control adopt the visibility and enabled state of its definition.
     void RefreshControls() override;
@@ -101,7 +116,6 @@ private:
     QWidget* CreateGroup(OwnerPtr<IControl> (VeskIControlFactory::*create)(OwnerPtr<Definition>,
                                                                            WindowId),
                          OwnerPtr<Definition> opDefinition);
-    QWidget* Adopt(OwnerPtr<IControl> opControl);
     void RefreshCommandButton(IControl& control);
     void DestroyRemoved();
 

@@ -65,6 +65,8 @@ public:
 
     /// Whether a strip beside the editor explains its keys. Initially true.
     bool IsKeyStripShown() const { return m_isKeyStripShown; }
+
+    /// Sets whether the strip is shown, at once.
     void SetKeyStripShown(bool isShown)
     {
         m_isKeyStripShown = isShown;
@@ -74,6 +76,8 @@ public:
     /// Whether Space commits a plain number where the kind of dimension allows it; otherwise it is
     /// a blank everywhere. Initially true.
     bool IsSpaceCommitting() const { return m_isSpaceCommitting; }
+
+    /// Sets what Space does, at once.
     void SetSpaceCommitting(bool isCommitting)
     {
         m_isSpaceCommitting = isCommitting;

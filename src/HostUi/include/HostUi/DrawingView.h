@@ -39,7 +39,10 @@ public:
     void Activate() override;
     void Redraw() override;
 
+    /// The text shown last by SetViewText: what the running action expects.
     const QString& GetViewText() const { return m_viewText; }
+
+    /// Where the view looks from; changes with each zoom and pan.
     const ModelView& GetCamera() const { return m_camera; }
 
     /// Shows the box between two world points.
@@ -62,10 +65,13 @@ public:
     void TellCursor();
 
 signals:
+    /// Another text is shown; empty if there is none any more.
     void viewTextChanged(const QString& text);
 
     /// The cursor is at another world point because it or the camera moved; or it left the view.
     void cursorMoved(double x, double y);
+
+    /// The cursor left the view.
     void cursorLeft();
 
 protected:
@@ -89,6 +95,8 @@ protected:
     /// lies before it; UpdateTop repaints the top alone. The rest is kept, if painting it takes
     /// long.
     void SetTop(std::size_t position);
+
+    /// Repaints the top alone, if what lies below it is painted; otherwise everything.
     void UpdateTop();
 
     /// Paints what was added to the model after the last position.
@@ -99,10 +107,14 @@ protected:
 
     /// The cursor while nothing is dragged; UpdateCursor shows another one.
     virtual QCursor GetRestingCursor() const { return Qt::CrossCursor; }
+
+    /// Shows the cursor that GetRestingCursor returns now.
     void UpdateCursor();
 
     /// The user clicked, or pressed Escape, while no action was running.
     virtual void OnFreeClick(const Vector3d& /*world*/, Qt::KeyboardModifiers) {}
+
+    /// The user pressed Escape while no action was running and no input was open.
     virtual void OnFreeEscape() {}
 
     /// The user pressed Return, Enter or Space while no action was running. A key held down counts

@@ -15,6 +15,7 @@ namespace vesk
 class VESK_HOST_UI_API LayoutFile
 {
 public:
+    /// What was found in a file.
     enum class Content
     {
         Layout,
@@ -23,12 +24,14 @@ public:
         Newer, ///< Written by a later version of the program.
     };
 
+    /// What a file holds.
     struct Reading
     {
-        Content content = Content::Missing;
-        QByteArray layout; ///< Empty unless `content` is Layout.
+        Content content = Content::Missing; ///< Whether there is a layout.
+        QByteArray layout;                  ///< Empty unless `content` is Layout.
     };
 
+    /// Reads a file, which remains unchanged.
     static Reading Read(const QString& path);
 
     /// Replaces the file, creating its folder if necessary. A file that is not a layout of this

@@ -23,6 +23,7 @@ class VESK_HOST_UI_API LineEditValidateHelper final : public QObject
     Q_OBJECT
 
 public:
+    /// Becomes a child of the parent.
     explicit LineEditValidateHelper(QObject* pParent);
     ~LineEditValidateHelper() override;
 

@@ -63,6 +63,7 @@ public:
     /// in between, the next call hides all again.
     void ToggleAllHidden();
 
+    /// True while all panes are hidden at once and can be brought back.
     bool IsAllHidden() const { return !m_beforeHiding.isEmpty(); }
 
     /// Brings back floating panes that are out of the user's reach: 64 pixels of the title's width,

@@ -27,7 +27,7 @@ enum class TypedTextFault
 /// The result of reading a text.
 struct TypedReading
 {
-    TypedTextFault fault = TypedTextFault::None;
+    TypedTextFault fault = TypedTextFault::None; ///< Why there is no value; None if there is one.
 
     /// In the display unit, or in degrees for an angle; finite. Zero if there is a fault.
     double value = 0.0;

@@ -20,6 +20,8 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QButtonGroup>
+#include <QCursor>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QMenu>
 #include <QPalette>
@@ -54,6 +56,16 @@ void WriteMenusInDark(QToolButton& button)
     }
     for (QMenu* pMenu : button.findChildren<QMenu*>())
         pMenu->setPalette(palette);
+}
+
+/// Tells a button that the mouse has left it while its menu was open: nobody else does, and it
+/// would stay lit.
+void NoteWhereTheMouseIs(QToolButton& button)
+{
+    if (button.rect().contains(button.mapFromGlobal(QCursor::pos())))
+        return;
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(&button, &leave);
 }
 
 /// Holds the buttons of a group.
@@ -119,33 +131,31 @@ ControlHost::~ControlHost()
 QWidget* ControlHost::Create(OwnerPtr<CommandButtonDefinition> opDefinition)
 {
     VeskIControlFactory* pFactory = VeskIControlFactory::Get();
-    return pFactory != nullptr ? Adopt(pFactory->CreateQtButton(std::move(opDefinition))) : nullptr;
+    return pFactory != nullptr ? Add(pFactory->CreateQtButton(std::move(opDefinition))) : nullptr;
 }
 
 QWidget* ControlHost::Create(OwnerPtr<ILabelDefinition> opDefinition)
 {
     VeskIControlFactory* pFactory = VeskIControlFactory::Get();
-    return pFactory != nullptr ? Adopt(pFactory->CreateQtLabel(std::move(opDefinition))) : nullptr;
+    return pFactory != nullptr ? Add(pFactory->CreateQtLabel(std::move(opDefinition))) : nullptr;
 }
 
 QWidget* ControlHost::Create(OwnerPtr<ILineEditDefinition> opDefinition)
 {
     VeskIControlFactory* pFactory = VeskIControlFactory::Get();
-    return pFactory != nullptr ? Adopt(pFactory->CreateQtLineEdit(std::move(opDefinition)))
-                               : nullptr;
+    return pFactory != nullptr ? Add(pFactory->CreateQtLineEdit(std::move(opDefinition))) : nullptr;
 }
 
 QWidget* ControlHost::Create(OwnerPtr<IComboBoxDefinition> opDefinition)
 {
     VeskIControlFactory* pFactory = VeskIControlFactory::Get();
-    return pFactory != nullptr ? Adopt(pFactory->CreateQtComboBox(std::move(opDefinition)))
-                               : nullptr;
+    return pFactory != nullptr ? Add(pFactory->CreateQtComboBox(std::move(opDefinition))) : nullptr;
 }
 
 QWidget* ControlHost::Create(OwnerPtr<IProgressBarDefinition> opDefinition)
 {
     VeskIControlFactory* pFactory = VeskIControlFactory::Get();
-    return pFactory != nullptr ? Adopt(pFactory->CreateQtProgressBar(std::move(opDefinition)))
+    return pFactory != nullptr ? Add(pFactory->CreateQtProgressBar(std::move(opDefinition)))
                                : nullptr;
 }
 
@@ -155,10 +165,13 @@ QWidget* ControlHost::Create(OwnerPtr<ICommandButtonMenuDefinition> opDefinition
     if (pFactory == nullptr)
         return nullptr;
     auto* pButton = qobject_cast<QToolButton*>(
-        Adopt(pFactory->CreateQtCommandButtonMenu(std::move(opDefinition))));
-    if (pButton != nullptr && pButton->menu() != nullptr)
-        QObject::connect(pButton->menu(), &QMenu::aboutToShow, pButton,
-                         [pButton] { WriteMenusInDark(*pButton); });
+        Add(pFactory->CreateQtCommandButtonMenu(std::move(opDefinition))));
+    if (pButton == nullptr || pButton->menu() == nullptr)
+        return pButton;
+    QObject::connect(pButton->menu(), &QMenu::aboutToShow, pButton,
+                     [pButton] { WriteMenusInDark(*pButton); });
+    QObject::connect(pButton->menu(), &QMenu::aboutToHide, pButton,
+                     [pButton] { NoteWhereTheMouseIs(*pButton); });
     return pButton;
 }
 
@@ -170,6 +183,16 @@ QWidget* ControlHost::Create(OwnerPtr<ICheckBoxGroupDefinition> opDefinition)
 QWidget* ControlHost::Create(OwnerPtr<IRadioButtonGroupDefinition> opDefinition)
 {
     return CreateGroup(&VeskIControlFactory::CreateQtRadioButtonGroup, std::move(opDefinition));
+}
+
+QWidget* ControlHost::Add(OwnerPtr<IControl> opControl)
+{
+    auto* pWidget = dynamic_cast<QWidget*>(opControl.Get());
+    if (pWidget == nullptr)
+        return nullptr;
+    WheelGuard::Protect(*pWidget);
+    m_controls.push_back({std::move(opControl), pWidget});
+    return pWidget;
 }
 
 void ControlHost::RefreshControls()
@@ -251,16 +274,6 @@ QWidget* ControlHost::CreateGroup(
     pPanel->DropNativeWindow();
     m_controls.push_back({std::move(opControl), pPanel.get()});
     return pPanel.release();
-}
-
-QWidget* ControlHost::Adopt(OwnerPtr<IControl> opControl)
-{
-    auto* pWidget = dynamic_cast<QWidget*>(opControl.Get());
-    if (pWidget == nullptr)
-        return nullptr;
-    WheelGuard::Protect(*pWidget);
-    m_controls.push_back({std::move(opControl), pWidget});
-    return pWidget;
 }
 
 void ControlHost::RefreshCommandButton(IControl& control)

@@ -5,8 +5,8 @@
 #include "Command/IActionManager.h"
 #include "Dimension/TemporaryDimensionMgr.h"
 #include "Drawing/ModelPicture.h"
-#include "Drawing/ProvisionalPainter.h"
 #include "HostUi/DimensionInputController.h"
+#include "HostUi/ProvisionalPainter.h"
 #include "HostUi/QtText.h"
 #include "HostUi/ViewPixel.h"
 

@@ -1,4 +1,4 @@
-#include "Drawing/ProvisionalPainter.h"
+#include "HostUi/ProvisionalPainter.h"
 
 #include "HostUi/QtText.h"
 #include "HostUi/ViewPixel.h"

@@ -28,6 +28,7 @@ class QTITAN_EXPORT RibbonBar : public QWidget
     Q_PROPERTY(bool minimized READ isMinimized WRITE setMinimized)
 
 public:
+    /// A ribbon without pages.
     explicit RibbonBar(QWidget* pParent = nullptr);
     ~RibbonBar() override;
 
@@ -36,6 +37,7 @@ public:
     /// Deleting a page removes its tab.
     RibbonPage* addPage(const QString& title);
 
+    /// How many pages there are; each has a tab.
     int pageCount() const;
 
     /// The page at an index from 0; null if there is none.

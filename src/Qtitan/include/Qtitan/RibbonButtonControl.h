@@ -27,6 +27,7 @@ class QTITAN_EXPORT RibbonButtonControl : public QWidget
     Q_OBJECT
 
 public:
+    /// An empty slot, which is hidden.
     explicit RibbonButtonControl(QWidget* pParent = nullptr,
                                  RibbonButtonForm form = RibbonButtonForm::Large);
     ~RibbonButtonControl() override;

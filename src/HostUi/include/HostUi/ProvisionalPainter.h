@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Graphics/IGraphicsNode.h"
+#include "HostUi/HostUiExport.h"
 
 class QPainter;
 class QPalette;
@@ -11,11 +12,12 @@ namespace vesk
 
 class IModelView;
 
-/// Paints graphics nodes into a view, each role in a colour that stands out from the background.
-class ProvisionalPainter final : public IGraphicsNodeVisitor
+/// Paints graphics nodes into a view, each role in a colour that stands out from the background:
+/// what an action would draw now, and the provisional dimensions.
+class VESK_HOST_UI_API ProvisionalPainter final : public IGraphicsNodeVisitor
 {
 public:
-    /// Both outlive the painter.
+    /// The arguments are not owned and outlive this. The background has the palette's Base colour.
     ProvisionalPainter(QPainter& painter, const IModelView& modelView, const QPalette& palette);
 
     void Visit(const IGraphicsLine& line) override;
