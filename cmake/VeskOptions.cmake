@@ -1,6 +1,5 @@
 option(VESK_BUILD_TESTS "Build the tests" ON)
 option(VESK_BUILD_SKETCHER "Build the drawing program" ON)
-option(VESK_FORMULAS "Evaluate formulas typed for lengths and angles" ON)
 option(VESK_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
 option(VESK_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
 option(VESK_FUZZ "Build the programs of tests/Fuzz (clang only)" OFF)

@@ -19,9 +19,6 @@ struct FormulaValue
 /// Evaluates a formula for a field whose lengths are in `unit`. Sums, differences, products,
 /// quotients and integer powers are exact; a function's result is a double. Nothing if there is no
 /// finite value.
-///
-/// In a program built without exact arithmetic only a plain number has a value, and its model value
-/// is rounded twice.
 std::optional<FormulaValue> Evaluate(const CheckedFormula& formula, Quantity quantity,
                                      const LengthUnit& unit);
 
