@@ -3,12 +3,12 @@
 #include "AbruptEnd.h"
 #include "BackgroundWork.h"
 #include "Complaint.h"
-#include "DataFile.h"
 #include "Documents/DocumentCommands.h"
 #include "Help/HelpCommands.h"
 #include "Model/KeptContent.h"
 #include "Model/ModelFile.h"
 #include "Model/UiText.h"
+#include "Model/UserFiles.h"
 #include "OpeningFit.h"
 #include "Output/DrawingExport.h"
 #include "Output/DrawingSource.h"
@@ -32,8 +32,8 @@
 #include <QBuffer>
 #include <QDir>
 #include <QFileInfo>
+#include <QFontDatabase>
 #include <QPixmap>
-#include <QStandardPaths>
 #include <QTimer>
 
 #include <algorithm>
@@ -53,11 +53,17 @@ QString SharedFile(const QString& name)
     return QCoreApplication::applicationDirPath() + QStringLiteral("/../share/sketcher/") + name;
 }
 
-/// The path of the pane layout file, in the user's configuration folder.
+/// Fonts that are delivered with the program, for systems that may have none for its texts.
+void AddFonts()
+{
+    const QDir folder(SharedFile(QStringLiteral("fonts")));
+    for (const QString& file : folder.entryList(QDir::Files))
+        QFontDatabase::addApplicationFont(folder.filePath(file));
+}
+
 QString LayoutPath()
 {
-    return QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) +
-           QStringLiteral("/layout.json");
+    return ConfigurationFile(QStringLiteral("layout.json"));
 }
 
 /// The settings file if somebody is there whose settings it has; a replay, and a program that is
@@ -136,6 +142,7 @@ Session::Session(const Options& options)
       m_languageSwitch(m_translations, [this] { Rebuild(); }),
       m_clipboard(m_workspace, [this](const QString& text) { m_window.ShowNotice(text); })
 {
+    AddFonts();
     LoadPublishConfig(SharedFile(QStringLiteral("publish.ini")));
     m_host.GetViewManager().AddView(&m_window.GetView());
     m_application.SetMainWindow(&m_window);

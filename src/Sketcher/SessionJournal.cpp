@@ -1,7 +1,7 @@
 #include "SessionJournal.h"
 
-#include "DataFile.h"
 #include "Model/KeptContent.h"
+#include "Model/UserFiles.h"
 #include "Options.h"
 #include "Recovery/UnsavedWork.h"
 

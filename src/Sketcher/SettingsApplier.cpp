@@ -1,7 +1,7 @@
 #include "SettingsApplier.h"
 
-#include "DataFile.h"
 #include "Model/UiText.h"
+#include "Model/UserFiles.h"
 #include "Ribbon/CommandEntry.h"
 #include "Settings/Languages.h"
 #include "Settings/SettingsDialog.h"

@@ -13,8 +13,6 @@
 #include <QDir>
 #include <QFileInfo>
 
-#include <csignal>
-
 using vesk::WriteBytes;
 
 /// Whole sittings with drawing files, and their replays.
@@ -111,7 +109,7 @@ private slots:
         MakePart();
         RunningSketcher first({Part()}, m_pFixture->File("tree"));
         QTRY_VERIFY(QFileInfo::exists(m_pFixture->File(".part.vsk.lock")));
-        first.End(SIGKILL);
+        first.Kill();
         Options options = m_pFixture->Draw();
         options.document = Part();
         ScriptedUser user;
@@ -143,7 +141,7 @@ private slots:
         RunningSketcher program({"--journal", Journal(), Part()}, m_pFixture->File("tree"));
         QTRY_VERIFY(QFileInfo::exists(m_pFixture->File(".part.vsk.lock")));
 
-        const Outcome outcome = program.End(SIGTERM);
+        const Outcome outcome = program.Terminate();
 
         QCOMPARE(outcome.code, 0);
         QCOMPARE(outcome.error, QString());

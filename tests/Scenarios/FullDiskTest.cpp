@@ -183,7 +183,7 @@ private slots:
         QFETCH(bool, isByPages);
         {
             RunningSketcher sample({}, m_pFixture->File("ui"));
-            QCOMPARE(sample.End(SIGTERM).code, 0);
+            QCOMPARE(sample.Terminate().code, 0);
         }
         const QByteArray whole = ReadBytes(ScenarioFixture::LayoutFile());
         Shortage shortage(isByPages, m_pFixture->File("home"));
@@ -328,7 +328,8 @@ private slots:
                                 m_pFixture->File("ui"));
         QTRY_VERIFY(nlohmann::json::parse(ReadBytes(m_pFixture->File("ui")))["entities"] == 4);
 
-        const Outcome outcome = program.End(signal);
+        ::kill(static_cast<pid_t>(program.GetProcessId()), signal);
+        const Outcome outcome = program.Wait();
 
         QCOMPARE(outcome.code, 0);
         QCOMPARE(outcome.error, QString());

@@ -5,9 +5,8 @@
 #include "Support/JournalBytes.h"
 #include "Support/TestValues.h"
 
+#include <QAbstractButton>
 #include <QDir>
-
-#include <csignal>
 
 namespace
 {
@@ -93,23 +92,24 @@ private slots:
 
     void aTerminatedProgramEndsInOrderAndAKilledOneDoesNot_data()
     {
-        QTest::addColumn<int>("signal");
-        QTest::addColumn<bool>("isInOrder");
+        QTest::addColumn<bool>("isTerminated");
 
-        QTest::newRow("terminated") << SIGTERM << true;
-        QTest::newRow("killed") << SIGKILL << false;
+        QTest::newRow("terminated") << true;
+        QTest::newRow("killed") << false;
     }
 
     void aTerminatedProgramEndsInOrderAndAKilledOneDoesNot()
     {
-        QFETCH(int, signal);
-        QFETCH(bool, isInOrder);
+        QFETCH(bool, isTerminated);
         RunningSketcher sketcher({"--journal", Journal()}, m_pFixture->File("ui"));
 
-        sketcher.End(signal);
+        if (isTerminated)
+            sketcher.Terminate();
+        else
+            sketcher.Kill();
 
         QCOMPARE(RecordsOf<CloseRecord>(ReadJournal(Journal())).size(),
-                 std::size_t(isInOrder ? 1 : 0));
+                 std::size_t(isTerminated ? 1 : 0));
     }
 
     void aReplayStopsAtTheFirstMarkThatDiffers()
@@ -165,7 +165,7 @@ private slots:
         QVERIFY(QTest::qWaitFor([&ui] { return ReadBytes(ui).contains("\"entities\": 2"); },
                                 vesk::test::PatienceMs));
 
-        QCOMPARE(sketcher.End(SIGTERM).code, 0);
+        QCOMPARE(sketcher.Terminate().code, 0);
         QCOMPARE(ReadBytes(m_pFixture->File("replayed")), ReadBytes(m_pFixture->File("model")));
         QVERIFY2(!QFile::exists(ScenarioFixture::LayoutFile()), "a replay writes no layout");
     }

@@ -5,7 +5,6 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 
-#include <csignal>
 #include <optional>
 
 namespace
@@ -55,6 +54,19 @@ Outcome RunSketcherWithin(int fileSizeLimit, const QStringList& arguments)
 RunningSketcher::RunningSketcher(const QStringList& arguments, const QString& uiTree)
 {
     Start(m_process, arguments + QStringList{QStringLiteral("--ui-tree"), uiTree}, {});
+    WaitFor(uiTree);
+}
+
+RunningSketcher::RunningSketcher(const QString& copy, const QString& uiTree,
+                                 const QStringList& environment)
+{
+    m_process.setEnvironment(QProcess::systemEnvironment() + environment);
+    m_process.start(copy, {QStringLiteral("--ui-tree"), uiTree});
+    WaitFor(uiTree);
+}
+
+void RunningSketcher::WaitFor(const QString& uiTree)
+{
     const auto isThere = [this, &uiTree] {
         return QFileInfo(uiTree).size() > 0 || m_process.state() == QProcess::NotRunning;
     };
@@ -68,9 +80,15 @@ RunningSketcher::~RunningSketcher()
     m_process.waitForFinished();
 }
 
-Outcome RunningSketcher::End(int signal)
+Outcome RunningSketcher::Terminate()
 {
-    ::kill(static_cast<pid_t>(m_process.processId()), signal);
+    m_process.terminate();
+    return Finish(m_process);
+}
+
+Outcome RunningSketcher::Kill()
+{
+    m_process.kill();
     return Finish(m_process);
 }
 

@@ -20,15 +20,25 @@ class RunningSketcher final
 public:
     /// Starts it and waits until `uiTree` reports that its window exists.
     RunningSketcher(const QStringList& arguments, const QString& uiTree);
+
+    /// The same for a copy of the program; `environment` ("NAME=value") is added to the test's.
+    RunningSketcher(const QString& copy, const QString& uiTree, const QStringList& environment);
     ~RunningSketcher();
 
-    /// Sends a signal and returns the result of the run.
-    Outcome End(int signal);
+    /// Asks it to end, as a session manager does, and returns the result of the run.
+    Outcome Terminate();
+
+    /// Ends it without warning, as a crash does.
+    Outcome Kill();
 
     /// Waits until it exits by itself.
     Outcome Wait();
 
+    qint64 GetProcessId() const { return m_process.processId(); }
+
 private:
+    void WaitFor(const QString& uiTree);
+
     QProcess m_process;
 };
 

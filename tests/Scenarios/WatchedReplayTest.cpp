@@ -7,8 +7,6 @@
 #include <QElapsedTimer>
 #include <QRegularExpression>
 
-#include <csignal>
-
 namespace
 {
 
@@ -71,7 +69,7 @@ private slots:
 
         QVERIFY(WaitForEntities(1));
 
-        QCOMPARE(sketcher.End(SIGTERM).code, 0);
+        QCOMPARE(sketcher.Terminate().code, 0);
         QCOMPARE(ReadLines(Replayed()).size(), 1);
     }
 
@@ -124,7 +122,7 @@ private slots:
 
         QVERIFY(WaitForEntities(1));
 
-        QCOMPARE(sketcher.End(SIGTERM).code, 0);
+        QCOMPARE(sketcher.Terminate().code, 0);
     }
 
     void theWindowStaysAtAFailureWhichIsTheExitCode()
@@ -136,7 +134,7 @@ private slots:
 
         QVERIFY(WaitForEntities(2));
 
-        const Outcome outcome = sketcher.End(SIGTERM);
+        const Outcome outcome = sketcher.Terminate();
         QCOMPARE(outcome.code, 3);
         QVERIFY2(outcome.error.contains("the drawing is different"), qPrintable(outcome.error));
     }

@@ -1,8 +1,9 @@
 #include "Documents/RecentFiles.h"
 
+#include "Model/UserFiles.h"
+
 #include <QFileInfo>
 #include <QSettings>
-#include <QStandardPaths>
 
 namespace
 {
@@ -16,9 +17,7 @@ const QString& FilesKey()
 }
 
 RecentFiles::RecentFiles(const QString& path)
-    : m_path(path.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) +
-                                  QStringLiteral("/recent.ini")
-                            : path)
+    : m_path(path.isEmpty() ? ConfigurationFile(QStringLiteral("recent.ini")) : path)
 {}
 
 QStringList RecentFiles::Get() const

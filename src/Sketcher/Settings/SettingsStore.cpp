@@ -1,11 +1,12 @@
 #include "Settings/SettingsStore.h"
 
+#include "Model/UserFiles.h"
+
 #include "Foundation/FileRewriting.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QStandardPaths>
 
 #include <utility>
 
@@ -53,6 +54,5 @@ bool SettingsStore::Set(const Settings& settings)
 
 QString SettingsPath()
 {
-    return QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) +
-           QStringLiteral("/settings.json");
+    return ConfigurationFile(QStringLiteral("settings.json"));
 }
