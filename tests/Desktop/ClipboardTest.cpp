@@ -53,7 +53,7 @@ void ClipboardTest::whatOneProgramCopiesAnotherPastes()
 {
     QVERIFY(DrawThree());
     QVERIFY(PressUntilRecorded({"ctrl+a", "ctrl+c"}, "Sketcher.Copy"));
-    DesktopSession other(Server().GetDisplay());
+    DesktopSession other(Server());
     QVERIFY(other.Start());
 
     QVERIFY(other.Type("", {"ctrl+v"}));
@@ -75,7 +75,7 @@ void ClipboardTest::whatIsCutSurvivesInTheOtherProgram()
     QVERIFY(DrawThree());
     QVERIFY(PressUntilRecorded({"ctrl+a", "ctrl+x"}, "Sketcher.Cut"));
     QVERIFY(Session().WaitForEntities(0));
-    DesktopSession other(Server().GetDisplay());
+    DesktopSession other(Server());
     QVERIFY(other.Start());
     QVERIFY(other.Type("", {"ctrl+v"}));
     QVERIFY(other.WaitForEntities(3));

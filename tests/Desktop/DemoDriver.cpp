@@ -125,7 +125,7 @@ bool Run(const QString& pictures)
     XServer server;
     if (!server.Start())
         return Fail(qPrintable(server.GetError()));
-    DesktopSession session(server.GetDisplay());
+    DesktopSession session(server);
     if (!session.Start())
         return Fail("the program did not start");
     if (!DrawAll(session, pictures))

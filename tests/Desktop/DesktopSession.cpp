@@ -24,7 +24,9 @@ QString ProgramPath()
 
 }
 
-DesktopSession::DesktopSession(const QString& display) : m_display(display), m_input(display) {}
+DesktopSession::DesktopSession(const XServer& server)
+    : m_display(server.GetVariables()), m_input(server.GetDisplay(), server.GetDevices())
+{}
 
 DesktopSession::~DesktopSession()
 {
@@ -50,9 +52,10 @@ bool DesktopSession::Launch(const QStringList& arguments, const Environment& env
         files << QStringList{"--journal",          PathOf("journal"), "--model",
                              PathOf("model.json"), "--log",           PathOf("warnings.log")};
     QFile::remove(PathOf("ui.json"));
-    QProcessEnvironment variables = MakeEnvironment(environment);
-    variables.insert("DISPLAY", m_display);
-    RunProgram(files + arguments, variables);
+    Environment additions = m_display;
+    for (auto addition = environment.begin(); addition != environment.end(); ++addition)
+        additions.insert(addition.key(), addition.value());
+    RunProgram(files + arguments, MakeEnvironment(additions));
     return m_program.waitForStarted();
 }
 

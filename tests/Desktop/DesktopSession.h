@@ -6,6 +6,7 @@
 #include "Support/DrawnLine.h"
 #include "Support/FileBytes.h"
 #include "Support/Polling.h"
+#include "Support/XServer.h"
 
 #include <QMap>
 #include <QTemporaryDir>
@@ -32,7 +33,7 @@ public:
                     ///< home.
     };
 
-    explicit DesktopSession(const QString& display);
+    explicit DesktopSession(const XServer& server);
     ~DesktopSession();
     DesktopSession(const DesktopSession&) = delete;
     DesktopSession& operator=(const DesktopSession&) = delete;
@@ -131,7 +132,7 @@ private:
     QProcessEnvironment MakeEnvironment(const Environment& additions) const;
     void RunProgram(const QStringList& arguments, const QProcessEnvironment& environment);
 
-    QString m_display;
+    Environment m_display; ///< The variables by which programs find it.
     Files m_files = Files::All;
     QTemporaryDir m_folder;
     InputDriver m_input;

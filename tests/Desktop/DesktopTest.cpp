@@ -53,7 +53,7 @@ void DesktopTest::init()
     m_isClosed = false;
     m_isErrorOutputAccepted = false;
     m_areWarningsAccepted = false;
-    m_pSession = std::make_unique<DesktopSession>(m_server.GetDisplay());
+    m_pSession = std::make_unique<DesktopSession>(m_server);
     if (m_pSession->Start())
         return;
     // Qt calls no cleanup after this.

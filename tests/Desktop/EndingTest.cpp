@@ -13,7 +13,7 @@ private slots:
     {
         XServer server;
         QVERIFY2(server.Start(), qPrintable(server.GetError()));
-        DesktopSession session(server.GetDisplay());
+        DesktopSession session(server);
         QVERIFY(session.Start());
         QVERIFY(session.BeginLine());
         QVERIFY(session.ClickView({50, 0}));

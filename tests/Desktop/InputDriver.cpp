@@ -12,6 +12,21 @@ namespace vesk
 namespace
 {
 
+bool Run(const QString& display, const QString& program, const QStringList& arguments,
+         QByteArray* pOutput = nullptr)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("DISPLAY", display);
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.start(program, arguments);
+    if (!process.waitForFinished(PATIENCE_MS))
+        return false;
+    if (pOutput != nullptr)
+        *pOutput = process.readAllStandardOutput();
+    return process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
+}
+
 QString KeyName(QChar character)
 {
     static const QHash<QChar, QString> s_names = {
@@ -24,7 +39,9 @@ QString KeyName(QChar character)
 
 }
 
-InputDriver::InputDriver(QString display) : m_display(std::move(display)) {}
+InputDriver::InputDriver(QString display, QString devices)
+    : m_display(std::move(display)), m_devices(std::move(devices))
+{}
 
 bool InputDriver::Keys(const QStringList& keys, int keysPerSecond) const
 {
@@ -98,27 +115,28 @@ bool InputDriver::Wheel(int steps) const
 bool InputDriver::HasKeyboard(const QString& title) const
 {
     QByteArray name;
-    return Run("xdotool", {"getactivewindow", "getwindowname"}, &name) &&
+    return Ask("xdotool", {"getactivewindow", "getwindowname"}, &name) &&
            QString::fromUtf8(name).trimmed() == title;
 }
 
 QString InputDriver::GetKeyboardOwner() const
 {
     QByteArray number;
-    Run("xdotool", {"getwindowfocus", "-f"}, &number);
+    Ask("xdotool", {"getwindowfocus", "-f"}, &number);
     return QString::fromLatin1(number).trimmed();
 }
 
 bool InputDriver::CloseMainWindow() const
 {
     QByteArray clients;
-    if (!Run("xprop", {"-root", "_NET_CLIENT_LIST"}, &clients))
+    if (!Ask("xprop", {"-root", "_NET_CLIENT_LIST"}, &clients))
         return false;
     const int begin = clients.indexOf("0x");
     if (begin < 0)
         return false;
     const QByteArray window = clients.mid(begin).split(',').first().trimmed();
-    return Xdotool({"windowactivate", "--sync", QString::fromLatin1(window), "key", "alt+F4"});
+    return Ask("xdotool", {"windowactivate", "--sync", QString::fromLatin1(window)}) &&
+           Xdotool({"key", "alt+F4"});
 }
 
 bool InputDriver::ResizeScreen(QSize size) const
@@ -129,15 +147,15 @@ bool InputDriver::ResizeScreen(QSize size) const
                            QString::number(first + 16), QString::number(first + 32)};
     };
     // The server has no physical display, so any timing will do. It may already know the mode.
-    Run("xrandr",
+    Ask("xrandr",
         QStringList{"--newmode", mode, "40"} + numbers(size.width()) + numbers(size.height()));
-    Run("xrandr", {"--addmode", "screen", mode});
-    return Run("xrandr", {"--output", "screen", "--mode", mode});
+    Ask("xrandr", {"--addmode", "screen", mode});
+    return Ask("xrandr", {"--output", "screen", "--mode", mode});
 }
 
 bool InputDriver::TakePicture(const QString& file) const
 {
-    return Run("import", {"-window", "root", file});
+    return Run(m_devices, "import", {"-window", "root", file});
 }
 
 bool InputDriver::HasWindowAt(const QRect& rect) const
@@ -145,7 +163,7 @@ bool InputDriver::HasWindowAt(const QRect& rect) const
     QByteArray windows;
     const QString size = QString("%1x%2+").arg(rect.width()).arg(rect.height());
     const QString place = QString("+%1+%2").arg(rect.x()).arg(rect.y());
-    if (!Run("xwininfo", {"-root", "-tree"}, &windows))
+    if (!Ask("xwininfo", {"-root", "-tree"}, &windows))
         return false;
     for (const QByteArray& line : windows.split('\n'))
     {
@@ -158,44 +176,38 @@ bool InputDriver::HasWindowAt(const QRect& rect) const
 int InputDriver::CountWindows() const
 {
     QByteArray windows;
-    Run("xdotool", {"search", "--onlyvisible", "--class", "sketcher"}, &windows);
+    Ask("xdotool", {"search", "--onlyvisible", "--class", "sketcher"}, &windows);
     return windows.count('\n');
 }
 
 bool InputDriver::WaitForWindowManager() const
 {
+    // A Wayland session passes everything on in order.
+    if (m_devices != m_display)
+        return true;
     // The window manager handles one request after the other: once it has handled this one, it has
     // passed on the click.
     QByteArray before;
-    if (!Run("xdotool", {"get_num_desktops"}, &before))
+    if (!Ask("xdotool", {"get_num_desktops"}, &before))
         return false;
     const QByteArray wanted = before.trimmed() == "2" ? "3" : "2";
     if (!Xdotool({"set_num_desktops", QString::fromLatin1(wanted)}))
         return false;
     return PollUntil([&] {
         QByteArray now;
-        return Run("xdotool", {"get_num_desktops"}, &now) && now.trimmed() == wanted;
+        return Ask("xdotool", {"get_num_desktops"}, &now) && now.trimmed() == wanted;
     });
 }
 
 bool InputDriver::Xdotool(const QStringList& arguments) const
 {
-    return Run("xdotool", arguments);
+    return Run(m_devices, "xdotool", arguments);
 }
 
-bool InputDriver::Run(const QString& program, const QStringList& arguments,
+bool InputDriver::Ask(const QString& program, const QStringList& arguments,
                       QByteArray* pOutput) const
 {
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("DISPLAY", m_display);
-    QProcess process;
-    process.setProcessEnvironment(environment);
-    process.start(program, arguments);
-    if (!process.waitForFinished(PATIENCE_MS))
-        return false;
-    if (pOutput != nullptr)
-        *pOutput = process.readAllStandardOutput();
-    return process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
+    return Run(m_display, program, arguments, pOutput);
 }
 
 }

@@ -13,7 +13,9 @@ namespace vesk
 class InputDriver
 {
 public:
-    explicit InputDriver(QString display = QString());
+    /// Programs show their windows on `display`; the devices are those of another X server if
+    /// that one is nested in it.
+    InputDriver(QString display, QString devices);
 
     /// Presses keys one after the other with no pauses but those of the rate. A text between keys
     /// is passed as single characters: `Keys({Text("125.5"), {"Tab"}, …})` is one stream.
@@ -64,10 +66,11 @@ public:
 private:
     bool WaitForWindowManager() const;
     bool Xdotool(const QStringList& arguments) const;
-    bool Run(const QString& program, const QStringList& arguments,
+    bool Ask(const QString& program, const QStringList& arguments,
              QByteArray* pOutput = nullptr) const;
 
     QString m_display;
+    QString m_devices;
 };
 
 }

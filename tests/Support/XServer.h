@@ -2,12 +2,19 @@
 
 #include "Support/ChildProcess.h"
 
+#include <QMap>
 #include <QString>
+#include <QTemporaryDir>
+
+#include <optional>
 
 namespace vesk
 {
 
 /// A private X server with a window manager, on the first free display number.
+///
+/// With VESK_DESKTOP_SESSION=wayland it shows a Wayland session instead (KWin, nested), which has
+/// an X server of its own for programs.
 class XServer
 {
 public:
@@ -23,8 +30,15 @@ public:
     /// Ends the server under the programs that show something on it.
     void Kill();
 
-    /// For example ":7"; empty before the start.
-    QString GetDisplay() const { return m_display; }
+    /// Where programs show their windows, for example ":7"; empty before the start.
+    QString GetDisplay() const { return m_variables.value("DISPLAY"); }
+
+    /// Where keys, clicks and pictures of the screen are real ones.
+    QString GetDevices() const { return m_display; }
+
+    /// The environment variables by which programs find the session.
+    QMap<QString, QString> GetVariables() const { return m_variables; }
+
     QString GetError() const { return m_error; }
 
     /// Suspends the window manager until it is resumed, as on a busy machine.
@@ -34,10 +48,13 @@ public:
 private:
     bool StartServer();
     bool StartWindowManager();
+    bool StartWayland();
 
     ChildProcess m_server;
     ChildProcess m_windowManager;
     QString m_display;
+    QMap<QString, QString> m_variables;
+    std::optional<QTemporaryDir> m_sockets; ///< Of the Wayland session.
     QString m_error;
 };
 
