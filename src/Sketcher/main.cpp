@@ -1,9 +1,12 @@
 #include "Options.h"
 #include "Session.h"
 
+#include "HostUi/Console.h"
 #include "HostUi/TerminationRequests.h"
+#include "HostUi/WindowSystem.h"
 
 #include <QApplication>
+#include <QSysInfo>
 
 #include <algorithm>
 #include <iostream>
@@ -44,12 +47,13 @@ std::optional<int> Answer(const Options& options)
 /// Messages about the toolkit's own housekeeping that no user can act on: it creates a folder for
 /// the session's sockets if none is set; it queries the window below the cursor, frame by frame,
 /// while the window manager removes one of the frames; it shows a window again that a busy window
-/// manager has mapped only after it was hidden; and an offscreen display does not support
-/// everything that windows request.
+/// manager has mapped only after it was hidden; and neither an offscreen display nor Wayland
+/// supports everything that windows request.
 bool IsHousekeeping(const QString& message)
 {
     return message.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set")) ||
            message.startsWith(QLatin1String("This plugin does not support")) ||
+           message.startsWith(QLatin1String("Wayland does not support")) ||
            message.contains(QLatin1String("setNetWmStateOnUnmappedWindow() called on mapped")) ||
            (message.startsWith(QLatin1String("QXcbConnection: XCB error: 3 (BadWindow)")) &&
             message.contains(QLatin1String("(TranslateCoords)")));
@@ -65,8 +69,9 @@ void PassMessage(QtMsgType type, const QMessageLogContext& context, const QStrin
 void DoWithoutDisplay(const Options& options)
 {
     const auto isSet = [](const char* pName) { return !qEnvironmentVariableIsEmpty(pName); };
-    if (!options.exportFile.isEmpty() && !isSet("DISPLAY") && !isSet("WAYLAND_DISPLAY") &&
-        !isSet("QT_QPA_PLATFORM"))
+    const bool isWindows = QSysInfo::kernelType() == QLatin1String("winnt");
+    if (!isWindows && !options.exportFile.isEmpty() && !isSet("DISPLAY") &&
+        !isSet("WAYLAND_DISPLAY") && !isSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
 }
 
@@ -85,6 +90,7 @@ std::optional<int> AnswerEarly(int argc, char** argv)
 
 int main(int argc, char** argv)
 {
+    vesk::WriteToParentConsole();
     vesk::SurviveFailedWrites();
     QCoreApplication::setApplicationName(QStringLiteral("sketcher"));
     QCoreApplication::setApplicationVersion(QStringLiteral(SKETCHER_VERSION));
@@ -98,6 +104,7 @@ int main(int argc, char** argv)
     if (const std::optional<int> code = AnswerEarly(argc, argv))
         return *code;
 
+    vesk::ChooseWindowSystem();
     const QApplication application(argc, argv);
     const Options options = ParseOptions(QCoreApplication::arguments());
     if (const std::optional<int> code = Answer(options))

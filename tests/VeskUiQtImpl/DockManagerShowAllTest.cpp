@@ -3,6 +3,7 @@
 #include "DockFixture.h"
 #include "Support/TestValues.h"
 
+#include <QAction>
 #include <QLayout>
 #include <QSignalSpy>
 

@@ -11,17 +11,21 @@
 #include "Support/FileBytes.h"
 #include "Support/JournalRecorder.h"
 #include "Support/ScopedVariable.h"
+#include "Support/TestValues.h"
 #include "Support/WarningRecorder.h"
 
 #include "Command/ActionManager.h"
 #include "HostCore.h"
 #include "HostUi/MainWindow.h"
 #include "HostUi/UiApplication.h"
+#include "Journal/JournalFormat.h"
+#include "Journal/JournalManager.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QTemporaryDir>
 
+#include <map>
 #include <memory>
 
 /// A window with a drawing and its document, and a user who answers the dialogs.
@@ -59,6 +63,27 @@ struct DocumentsFixture
     bool OpenSample(const QString& name = "sample.vsk") const
     {
         return QDir().mkpath(QFileInfo(File(name)).path()) && pDocuments->OpenFile(MakeFile(name));
+    }
+
+    /// The end of the command that saved last, as it is in the journal.
+    static vesk::EndRecord EndOfSaving()
+    {
+        std::map<int, vesk::EndRecord> ends;
+        int saving = 0;
+        for (const std::string& line : vesk::JournalManager::GetInstance().GetLastLines())
+        {
+            vesk::JournalRecord record;
+            std::string error;
+            vesk::JournalFormat::FromLine(line, record, error);
+            const auto* pCommand = std::get_if<vesk::CommandRecord>(&record.what);
+            if (pCommand != nullptr && pCommand->commandId == Documents::SaveId)
+                saving = record.number;
+            if (const auto* pEnd = std::get_if<vesk::EndRecord>(&record.what))
+                ends[record.number] = *pEnd;
+        }
+        if (ends.count(saving) == 0)
+            QTest::qFail("the saving has no end", __FILE__, __LINE__);
+        return ends[saving];
     }
 
     void Draw() { sketch.AddLine({0, 0, 0}, {10, 0, 0}); }

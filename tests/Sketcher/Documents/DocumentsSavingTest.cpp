@@ -1,18 +1,12 @@
 #include "Documents/Documents.h"
 
 #include "Documents/DocumentsFixture.h"
-#include "Support/FileSizeLimit.h"
 #include "Support/TestValues.h"
-
-#include "Journal/JournalFormat.h"
-#include "Journal/JournalManager.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QLineEdit>
 #include <QStatusBar>
-
-#include <map>
 
 /// What is saved, and what is asked before.
 class DocumentsSavingTest final : public QObject
@@ -41,7 +35,7 @@ private slots:
                  DocumentFile::ToText(f.sketch.GetContent()));
         QCOMPARE(f.pDocuments->GetDocument().GetName(), QString("part"));
         QVERIFY(!f.pDocuments->IsModified());
-        QVERIFY(!EndOfSaving().isRefused);
+        QVERIFY(!f.EndOfSaving().isRefused);
         QCOMPARE(RecentFiles().Get(), QStringList{f.File("part.vsk")});
         QVERIFY(QFileInfo::exists(f.File(".part.vsk.lock")));
         QCOMPARE(f.pWindow->statusBar()->currentMessage(), "已保存 " + f.File("part.vsk"));
@@ -338,27 +332,6 @@ private slots:
         QVERIFY(vesk::ReadBytes(f.File("sample.vsk")).contains("\"plan\":7"));
     }
 
-    void aFullDiskLeavesTheOldFile()
-    {
-        DocumentsFixture& f = *m_pFixture;
-        QVERIFY(m_pFixture->OpenSample());
-        const QByteArray before = vesk::ReadBytes(f.File("sample.vsk"));
-        f.Draw();
-        f.user.Press("确定");
-
-        {
-            const vesk::FileSizeLimit limit(100);
-            f.Run(L"Sketcher.Save");
-        }
-
-        QCOMPARE(f.user.GetLastText(),
-                 "无法保存“" + f.File("sample.vsk") + "”写入时出错，原文件保持不变。");
-        QCOMPARE(vesk::ReadBytes(f.File("sample.vsk")), before);
-        QVERIFY(f.pDocuments->IsModified());
-        QCOMPARE(QDir(f.folder.path()).entryList(QDir::Files), QStringList{"sample.vsk"});
-        QVERIFY2(EndOfSaving().isRefused, "the journal tells that it was saved");
-    }
-
     void aMissingFolderIsTold()
     {
         DocumentsFixture& f = *m_pFixture;
@@ -384,31 +357,10 @@ private slots:
 
         QCOMPARE(vesk::ReadBytes(path), before);
         QVERIFY(f.pDocuments->IsModified());
-        QVERIFY(EndOfSaving().isRefused);
+        QVERIFY(f.EndOfSaving().isRefused);
     }
 
 private:
-    /// The end of the command that saved last, as it is in the journal.
-    static vesk::EndRecord EndOfSaving()
-    {
-        std::map<int, vesk::EndRecord> ends;
-        int saving = 0;
-        for (const std::string& line : vesk::JournalManager::GetInstance().GetLastLines())
-        {
-            vesk::JournalRecord record;
-            std::string error;
-            vesk::JournalFormat::FromLine(line, record, error);
-            const auto* pCommand = std::get_if<vesk::CommandRecord>(&record.what);
-            if (pCommand != nullptr && pCommand->commandId == Documents::SaveId)
-                saving = record.number;
-            if (const auto* pEnd = std::get_if<vesk::EndRecord>(&record.what))
-                ends[record.number] = *pEnd;
-        }
-        if (ends.count(saving) == 0)
-            QTest::qFail("the saving has no end", __FILE__, __LINE__);
-        return ends[saving];
-    }
-
     std::unique_ptr<DocumentsFixture> m_pFixture;
 };
 

@@ -3,14 +3,12 @@
 #include "Model/Sketch.h"
 
 #include "Support/FileBytes.h"
-#include "Support/FileSizeLimit.h"
 #include "Support/TestValues.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QTemporaryDir>
 
-using vesk::FileSizeLimit;
 using vesk::ReadBytes;
 using vesk::WriteBytes;
 
@@ -89,17 +87,6 @@ private slots:
         QVERIFY(!Snapshot::FindNewest(Journal()).has_value());
         Snapshot::RemoveAll(Journal());
         QCOMPARE(Names(), QStringList(name));
-    }
-
-    void theOlderOneStaysIfANewOneCannotBeWritten()
-    {
-        QVERIFY(Snapshot::Write(Journal(), 9, m_sketch.GetContent()));
-        {
-            const FileSizeLimit limit(20);
-            QVERIFY(!Snapshot::Write(Journal(), 10, m_sketch.GetContent()));
-        }
-
-        QCOMPARE(Snapshot::FindNewest(Journal())->record, 9);
     }
 
     void allAreRemovedTogether()

@@ -1,0 +1,8 @@
+#include "HostUi/Console.h"
+
+namespace vesk
+{
+
+void WriteToParentConsole() {}
+
+}
