@@ -6,14 +6,12 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QGenericPlugin>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMouseEvent>
 #include <QStatusBar>
-#include <QWheelEvent>
-#include <QtTest/qtestkeyboard.h>
-#include <QtTest/qtestmouse.h>
 
 namespace vesk
 {
@@ -59,38 +57,59 @@ bool IsChecked(const QString& button)
     return pButton != nullptr && pButton->isChecked();
 }
 
+void SendMouse(QWidget& widget, QEvent::Type type, const QPoint& position, Qt::MouseButton button)
+{
+    const Qt::MouseButtons held = type == QEvent::MouseButtonPress ? button : Qt::NoButton;
+    QMouseEvent event(type, position, widget.mapToGlobal(position), button, held, Qt::NoModifier);
+    QCoreApplication::sendEvent(&widget, &event);
+}
+
 void MoveTo(QWidget& widget, const QPoint& position)
 {
-    QMouseEvent move(QEvent::MouseMove, position, widget.mapToGlobal(position), Qt::NoButton,
-                     Qt::NoButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(&widget, &move);
+    SendMouse(widget, QEvent::MouseMove, position, Qt::NoButton);
+}
+
+void ClickAt(QWidget& widget, const QPoint& position)
+{
+    SendMouse(widget, QEvent::MouseButtonPress, position, Qt::LeftButton);
+    SendMouse(widget, QEvent::MouseButtonRelease, position, Qt::LeftButton);
 }
 
 void ClickView(const QPoint& position)
 {
-    QWidget& view = *FindWindow()->centralWidget();
-    MoveTo(view, position);
-    QTest::mouseClick(&view, Qt::LeftButton, Qt::NoModifier, position);
+    MoveTo(*FindWindow()->centralWidget(), position);
+    ClickAt(*FindWindow()->centralWidget(), position);
+}
+
+void PressIn(QWidget& widget, int key, const QString& text = QString())
+{
+    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease})
+    {
+        QKeyEvent event(type, key, Qt::NoModifier, text);
+        QCoreApplication::sendEvent(&widget, &event);
+    }
 }
 
 /// Keys arrive in the view until the window system has moved the focus to the editor.
+void Press(Qt::Key key)
+{
+    PressIn(*FindWindow()->centralWidget(), key);
+}
+
 void Type(const QString& text)
 {
     for (const QChar character : text)
-        QTest::sendKeyEvent(QTest::Click, FindWindow()->centralWidget(), Qt::Key(0),
-                            character.toLatin1(), Qt::NoModifier);
-}
-
-void Press(Qt::Key key)
-{
-    QTest::keyClick(FindWindow()->centralWidget(), key);
+        PressIn(*FindWindow()->centralWidget(), character.toUpper().unicode(), character);
 }
 
 ExampleStep Click(const QString& button)
 {
     return {"an enabled button " + button,
             [button] { return Find<QAbstractButton>(button) != nullptr; },
-            [button] { QTest::mouseClick(Find<QAbstractButton>(button), Qt::LeftButton); }};
+            [button] {
+                auto& pressed = *Find<QAbstractButton>(button);
+                ClickAt(pressed, pressed.rect().center());
+            }};
 }
 
 ExampleStep Expect(const QString& what, std::function<bool()> isTrue)
@@ -151,15 +170,14 @@ Steps UseTypedDimensions()
 Steps UseOwnControl()
 {
     const auto hasDial = [] { return Find<QWidget>("Example.Dial") != nullptr; };
-    return {
-        ExpectText("Example.Value", "turn the dial"),
-        {"the dial", hasDial, [] { QTest::keyClick(Find<QWidget>("Example.Dial"), Qt::Key_Up); }},
-        ExpectText("Example.Value", "1, set by you"),
-        Click("Example.Reset"),
-        ExpectText("Example.Value", "0, set by the program"),
-        Expect("a disabled button Example.Reset",
-               [] { return Find<QAbstractButton>("Example.Reset") == nullptr; }),
-        CloseWindow()};
+    return {ExpectText("Example.Value", "turn the dial"),
+            {"the dial", hasDial, [] { PressIn(*Find<QWidget>("Example.Dial"), Qt::Key_Up); }},
+            ExpectText("Example.Value", "1, set by you"),
+            Click("Example.Reset"),
+            ExpectText("Example.Value", "0, set by the program"),
+            Expect("a disabled button Example.Reset",
+                   [] { return Find<QAbstractButton>("Example.Reset") == nullptr; }),
+            CloseWindow()};
 }
 
 Steps UseExistingPlatform()

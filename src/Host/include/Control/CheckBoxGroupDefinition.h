@@ -11,7 +11,7 @@ namespace vesk
 class VESK_HOST_API CheckBoxDefinition : public ControlDefinition<ICheckBoxDefinition>
 {
 public:
-    /// An unchecked box. `id` is what the group's operations call it.
+    /// An unchecked box. `id` never changes; it is the object name of the widget.
     CheckBoxDefinition(std::wstring id, const std::wstring& caption);
 
     int GetCheckState() const override;
@@ -29,7 +29,7 @@ private:
 class VESK_HOST_API CheckBoxGroupDefinition : public ControlDefinition<ICheckBoxGroupDefinition>
 {
 public:
-    /// `id` never changes; it is the object name of the widget.
+    /// `id` never changes. The widgets are the boxes.
     explicit CheckBoxGroupDefinition(std::wstring id);
 
     const std::vector<const ICheckBoxDefinition*>& GetCheckBoxDefinitions() const override;

@@ -11,7 +11,7 @@ namespace vesk
 class VESK_HOST_API RadioButtonDefinition : public ControlDefinition<IRadioButtonDefinition>
 {
 public:
-    /// `id` is what the group's operations call it.
+    /// `id` never changes; it is the object name of the widget.
     RadioButtonDefinition(std::wstring id, const std::wstring& caption);
 };
 
@@ -23,7 +23,7 @@ class VESK_HOST_API RadioButtonGroupDefinition
     : public ControlDefinition<IRadioButtonGroupDefinition>
 {
 public:
-    /// `id` never changes; it is the object name of the widget.
+    /// `id` never changes. The widgets are the buttons.
     explicit RadioButtonGroupDefinition(std::wstring id);
 
     const std::vector<const IRadioButtonDefinition*>& GetRadioButtonDefinitions() const override;
