@@ -1,6 +1,7 @@
 #include "Options.h"
 #include "Session.h"
 
+#include "HostUi/QtVersions.h"
 #include "HostUi/TerminationRequests.h"
 
 #include <QApplication>
@@ -88,8 +89,7 @@ int main(int argc, char** argv)
     vesk::SurviveFailedWrites();
     QCoreApplication::setApplicationName(QStringLiteral("sketcher"));
     QCoreApplication::setApplicationVersion(QStringLiteral(SKETCHER_VERSION));
-    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    vesk::ScaleWithScreens();
     // Otherwise the first window loads OpenGL, in case it will show some: a third of the start.
     QCoreApplication::setAttribute(Qt::AA_ForceRasterWidgets);
     qInstallMessageHandler(&PassMessage);
