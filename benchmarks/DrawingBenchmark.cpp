@@ -110,7 +110,8 @@ public:
 private:
     void SendMouse(QEvent::Type type, const QPointF& place)
     {
-        QMouseEvent event(type, place, Qt::MiddleButton, Qt::MiddleButton, Qt::NoModifier);
+        QMouseEvent event(type, place, view.mapToGlobal(place.toPoint()), Qt::MiddleButton,
+                          Qt::MiddleButton, Qt::NoModifier);
         QCoreApplication::sendEvent(&view, &event);
     }
 

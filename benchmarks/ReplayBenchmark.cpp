@@ -64,8 +64,9 @@ struct ReplayDesk
 void PostByHand(QWidget& widget, const QPointF& position)
 {
     for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease})
-        QCoreApplication::postEvent(&widget, new QMouseEvent(type, position, Qt::LeftButton,
-                                                             Qt::LeftButton, Qt::NoModifier));
+        QCoreApplication::postEvent(&widget,
+                                    new QMouseEvent(type, position, QCursor::pos(), Qt::LeftButton,
+                                                    Qt::LeftButton, Qt::NoModifier));
 }
 
 using Work = std::function<void(ReplayDesk&)>;

@@ -125,7 +125,7 @@ public:
 private:
     void Send(QEvent::Type type, const QPointF& place, Qt::MouseButton button)
     {
-        QMouseEvent event(type, place, button,
+        QMouseEvent event(type, place, window.GetView().mapToGlobal(place.toPoint()), button,
                           type == QEvent::MouseButtonRelease ? Qt::NoButton : button,
                           Qt::NoModifier);
         QCoreApplication::sendEvent(&window.GetView(), &event);

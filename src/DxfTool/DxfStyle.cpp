@@ -78,7 +78,7 @@ QString Unescaped(const QString& text)
     for (int i = 0; i < text.size(); ++i)
     {
         bool isNumber = false;
-        const QStringRef escape = text.midRef(i, EscapeLength);
+        const QString escape = text.mid(i, EscapeLength);
         const int code = escape.startsWith(QLatin1String("\\U+")) && escape.size() == EscapeLength
                              ? escape.mid(3).toInt(&isNumber, 16)
                              : 0;
@@ -92,7 +92,7 @@ QString Unescaped(const QString& text)
 QString Readable(const QString& text)
 {
     QString result;
-    for (const uint code : text.toUcs4())
+    for (const char32_t code : text.toUcs4())
         result += QChar::category(code) == QChar::Other_Control ? QStringLiteral("_")
                                                                 : QString::fromUcs4(&code, 1);
     return result;

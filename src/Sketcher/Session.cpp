@@ -24,6 +24,7 @@
 #include "HostUi/LayoutFile.h"
 #include "HostUi/PublishConfigFile.h"
 #include "HostUi/QtText.h"
+#include "HostUi/QtVersions.h"
 #include "Journal/JournalManager.h"
 #include "Qtitan/RibbonBar.h"
 #include "Warnings/DebugMessageMgr.h"
@@ -383,7 +384,7 @@ int Session::Draw()
         m_isEndDecided = !m_isEndRequested;
     });
     // At the end of the desktop's session nobody is asked: what is not saved is offered afterwards.
-    QGuiApplication::setFallbackSessionManagementEnabled(false);
+    KeepWindowsAtSessionEnd();
     BeginRecovery();
     m_window.showMaximized();
     m_window.GetView().Activate();

@@ -2,6 +2,7 @@
 #include "Session.h"
 
 #include "HostUi/Console.h"
+#include "HostUi/QtVersions.h"
 #include "HostUi/TerminationRequests.h"
 #include "HostUi/WindowSystem.h"
 
@@ -96,8 +97,7 @@ int main(int argc, char** argv)
     QCoreApplication::setApplicationVersion(QStringLiteral(SKETCHER_VERSION));
     // By this name a desktop finds the icon of the windows.
     QGuiApplication::setDesktopFileName(QStringLiteral("org.vesk.Sketcher"));
-    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    vesk::ScaleWithScreens();
     // Otherwise the first window loads OpenGL, in case it will show some: a third of the start.
     QCoreApplication::setAttribute(Qt::AA_ForceRasterWidgets);
     qInstallMessageHandler(&PassMessage);

@@ -18,10 +18,12 @@
 #include "View/IUiManager.h"
 #include "View/IUiView.h"
 
+#include "HostUi/QtVersions.h"
 #include "Qtitan/RibbonButtonControl.h"
 
 #include <QAction>
 #include <QCoreApplication>
+#include <QCursor>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QToolButton>
@@ -88,7 +90,7 @@ struct ReplayTarget
 /// Where a click reaches the action; without a widget if it is in neither a ribbon nor a menu.
 ReplayTarget FindReplayTarget(QAction* pAction)
 {
-    QWidget* pParent = pAction->parentWidget();
+    QWidget* pParent = ParentWidgetOf(*pAction);
     const auto* pRibbonButton = qobject_cast<Qtitan::RibbonButtonControl*>(pParent);
     if (pRibbonButton != nullptr && pRibbonButton->widget() != nullptr)
         return {pRibbonButton->widget(), QPointF(1, 1)};
@@ -100,9 +102,9 @@ ReplayTarget FindReplayTarget(QAction* pAction)
 
 void PostMouseEvent(QEvent::Type type, const ReplayTarget& target)
 {
-    QCoreApplication::postEvent(
-        target.pWidget,
-        new QMouseEvent(type, target.position, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier));
+    QCoreApplication::postEvent(target.pWidget,
+                                new QMouseEvent(type, target.position, QCursor::pos(),
+                                                Qt::LeftButton, Qt::LeftButton, Qt::NoModifier));
 }
 
 }

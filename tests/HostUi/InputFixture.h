@@ -9,6 +9,7 @@
 #include "Dimension/CentralAngleTemporaryDimensionContext.h"
 #include "Dimension/LinearTemporaryDimensionContext.h"
 #include "Dimension/RadiusTemporaryDimensionContext.h"
+#include "Support/ActiveWindow.h"
 #include "Support/HostFixture.h"
 #include "Support/IdleAction.h"
 
@@ -76,7 +77,7 @@ struct InputFixture
                           const Refuse& refuse = nullptr)
         : script(typing)
     {
-        host.window.show();
+        ShowActive(host.window);
         auto opCommand = MakeOwner<Command>(
             L"Test", Command::Kind::Interactive,
             [this, makeContext, refuse](IUiView*, const CommandParameters&) {

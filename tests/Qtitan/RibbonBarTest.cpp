@@ -48,6 +48,39 @@ private slots:
         QCOMPARE(spy.count(), 1);
     }
 
+    void firstPageMakesRoomForItsTab()
+    {
+        RibbonBar bar;
+        const int height = bar.sizeHint().height();
+
+        bar.addPage("草图");
+
+        QVERIFY(bar.sizeHint().height() > height);
+        bar.resize(bar.sizeHint());
+        bar.show();
+        QTRY_COMPARE(bar.findChild<QTabBar*>()->height(), bar.tabRect(0).height());
+        QVERIFY(bar.tabRect(0).height() > 0);
+    }
+
+    void tabUnderTheCursorIsMarked()
+    {
+        // Not where the tabs will appear.
+        QCursor::setPos(QPoint());
+        RibbonFixture f;
+        f.pBar->addPage("View");
+        f.show();
+        auto* pTabs = f.pBar->findChild<QTabBar*>();
+        const QPoint corner = pTabs->tabRect(1).topLeft() + QPoint(3, 3);
+        QCursor::setPos(f.pView->mapToGlobal(f.pView->rect().center()));
+        QTRY_VERIFY(!pTabs->underMouse());
+        const QColor before = drawnColor(*f.pBar, *pTabs, corner);
+
+        QCursor::setPos(pTabs->mapToGlobal(corner));
+        QTRY_VERIFY(drawnColor(*f.pBar, *pTabs, corner) != before);
+        QCursor::setPos(f.pView->mapToGlobal(f.pView->rect().center()));
+        QTRY_COMPARE(drawnColor(*f.pBar, *pTabs, corner), before);
+    }
+
     void choosingAPageShowsItAndTellsOnce()
     {
         RibbonFixture f;

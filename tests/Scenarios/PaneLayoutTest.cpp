@@ -5,6 +5,7 @@
 #include "SketcherProcess.h"
 
 #include "HostUi/LayoutFile.h"
+#include "Support/FileBytes.h"
 #include "Support/TestValues.h"
 
 #include <nlohmann/json.hpp>
@@ -127,6 +128,26 @@ private slots:
         QCOMPARE(next.Run(m_pFixture->Draw()), 0);
 
         RunOnce(*m_pFixture, "11111", QString());
+    }
+
+    void theLayoutThatEitherQtWroteIsRestored_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::newRow("Qt 5") << QStringLiteral(VESK_LAYOUTS "/qt5.json");
+        QTest::newRow("Qt 6") << QStringLiteral(VESK_LAYOUTS "/qt6.json");
+    }
+
+    void theLayoutThatEitherQtWroteIsRestored()
+    {
+        QFETCH(QString, file);
+        Put(vesk::ReadBytes(file));
+
+        ScriptedUser user;
+        user.Until([] { return PaneDriver::Visible() == "10111"; }).Do([] {
+            QVERIFY(PaneDriver::Dock("Journal").IsFloating());
+            QCOMPARE(PaneDriver::Widget("Journal").geometry(), QRect(60, 70, 300, 200));
+        });
+        QCOMPARE(user.Run(m_pFixture->Draw()), 0);
     }
 
     void withoutAFileTheFactoryLayoutStandsAndNothingIsSaid()

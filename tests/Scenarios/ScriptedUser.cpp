@@ -51,7 +51,7 @@ QPoint ArrowOf(const QToolButton& button)
 
 QMenu* MenuOf(const QAction& entry)
 {
-    return qobject_cast<QMenu*>(entry.parentWidget());
+    return qobject_cast<QMenu*>(entry.parent());
 }
 
 void ClickEntry(QMenu& menu, QAction& entry)

@@ -393,8 +393,8 @@ private slots:
     {
         Fixture f;
         SketchView& view = f.window.GetView();
-        QMouseEvent move(QEvent::MouseMove, QPointF(50, 60), Qt::NoButton, Qt::NoButton,
-                         Qt::NoModifier);
+        QMouseEvent move(QEvent::MouseMove, QPointF(50, 60), view.mapToGlobal(QPoint(50, 60)),
+                         Qt::NoButton, Qt::NoButton, Qt::NoModifier);
         QCoreApplication::sendEvent(&view, &move);
         const QSignalSpy units(&f.window, &SketcherWindow::unitChanged);
         const QSignalSpy cursors(&view, &DrawingView::cursorMoved);
@@ -438,8 +438,9 @@ private slots:
         f.workspace.sketch.AddLine({-500, 0, 0}, {500, 0, 0});
         QCOMPARE(pText->text(), QString());
 
-        QMouseEvent move(QEvent::MouseMove, QRectF(view.rect()).center(), Qt::NoButton,
-                         Qt::NoButton, Qt::NoModifier);
+        const QPointF centre = QRectF(view.rect()).center();
+        QMouseEvent move(QEvent::MouseMove, centre, view.mapToGlobal(centre.toPoint()),
+                         Qt::NoButton, Qt::NoButton, Qt::NoModifier);
         QCoreApplication::sendEvent(&view, &move);
         QCOMPARE(pText->text(), QStringLiteral("直线 #1：长度 1000.000 mm，角度 0.00°"));
 

@@ -79,7 +79,7 @@ private slots:
     {
         const ToolkitTexts texts;
 
-        QCOMPARE(QKeySequence(Qt::CTRL + Qt::Key_Delete).toString(QKeySequence::NativeText),
+        QCOMPARE(QKeySequence(Qt::CTRL | Qt::Key_Delete).toString(QKeySequence::NativeText),
                  QStringLiteral("Ctrl+Del"));
         QCOMPARE(QKeySequence(Qt::Key_Open).toString(QKeySequence::NativeText),
                  QStringLiteral("Open"));

@@ -6,10 +6,26 @@
 
 namespace vesk
 {
+namespace
+{
 
-void ChildProcess::setupChildProcess()
+void EndWithParent()
 {
     prctl(PR_SET_PDEATHSIG, SIGKILL);
 }
+
+}
+
+#if QT_VERSION_MAJOR == 5
+void ChildProcess::setupChildProcess()
+{
+    EndWithParent();
+}
+#else
+ChildProcess::ChildProcess()
+{
+    setChildProcessModifier(&EndWithParent);
+}
+#endif
 
 }

@@ -5,6 +5,7 @@
 #include "Support/TestEventLoop.h"
 #include "Support/TestValues.h"
 
+#include "HostUi/QtVersions.h"
 #include "Qtitan/RibbonButtonControl.h"
 
 #include <QAction>
@@ -35,7 +36,7 @@ public:
         const auto* pMouse = dynamic_cast<QMouseEvent*>(pEvent);
         if (pMouse == nullptr)
             return false;
-        notes.push_back({pMouse->type(), pMouse->localPos(), pMouse->button(), pMouse->buttons(),
+        notes.push_back({pMouse->type(), PositionOf(*pMouse), pMouse->button(), pMouse->buttons(),
                          pMouse->modifiers()});
         return true;
     }

@@ -4,8 +4,8 @@
 #include "RibbonColors.h"
 #include "RibbonMetrics.h"
 
-#include <QHoverEvent>
 #include <QPainter>
+#include <QStyleOptionTab>
 
 namespace Qtitan
 {
@@ -53,17 +53,15 @@ void RibbonTabBar::paintEvent(QPaintEvent*)
         paintTab(painter, i);
 }
 
-bool RibbonTabBar::event(QEvent* pEvent)
+// While the bar is hidden, Qt 6 does not tell its layout that it needs another size.
+void RibbonTabBar::tabInserted(int)
 {
-    const QEvent::Type type = pEvent->type();
-    if (type == QEvent::HoverMove || type == QEvent::HoverEnter || type == QEvent::HoverLeave)
-    {
-        const int index = tabAt(static_cast<QHoverEvent*>(pEvent)->pos());
-        if (index != m_hoveredIndex)
-            update();
-        m_hoveredIndex = index;
-    }
-    return QTabBar::event(pEvent);
+    updateGeometry();
+}
+
+void RibbonTabBar::tabRemoved(int)
+{
+    updateGeometry();
 }
 
 void RibbonTabBar::paintTab(QPainter& painter, int index) const
@@ -71,14 +69,17 @@ void RibbonTabBar::paintTab(QPainter& painter, int index) const
     const RibbonColors colors(palette());
     const QRect tab = tabRect(index);
     const bool isCurrent = index == currentIndex();
+    QStyleOptionTab option;
+    initStyleOption(&option, index);
+    const bool isHovered = option.state.testFlag(QStyle::State_MouseOver);
     if (isCurrent && m_isJoinedToPage)
         painter.fillRect(tab, colors.page);
-    else if (index == m_hoveredIndex)
+    else if (isHovered)
         painter.fillRect(tab, colors.hover);
     if (isCurrent)
         painter.fillRect(tab.left(), tab.top(), tab.width(), AccentHeight, colors.accent);
 
-    painter.setPen(isCurrent || index == m_hoveredIndex ? colors.text : colors.quietText);
+    painter.setPen(isCurrent || isHovered ? colors.text : colors.quietText);
     painter.drawText(tab, Qt::AlignCenter | Qt::TextSingleLine, plainCaption(tabText(index)));
     if (!isCurrent || !hasFocus())
         return;

@@ -20,13 +20,13 @@ protected:
     QSize tabSizeHint(int index) const override;
     QSize minimumTabSizeHint(int index) const override;
     void paintEvent(QPaintEvent* pEvent) override;
-    bool event(QEvent* pEvent) override;
+    void tabInserted(int index) override;
+    void tabRemoved(int index) override;
 
 private:
     void paintTab(QPainter& painter, int index) const;
 
     bool m_isJoinedToPage = true;
-    int m_hoveredIndex = -1;
 };
 
 } // namespace Qtitan

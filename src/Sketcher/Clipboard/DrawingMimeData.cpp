@@ -21,7 +21,7 @@ QStringList DrawingMimeData::formats() const
     return types;
 }
 
-QVariant DrawingMimeData::retrieveData(const QString& type, QVariant::Type preferred) const
+QVariant DrawingMimeData::retrieveData(const QString& type, vesk::MimeDataType preferred) const
 {
     if (type == QLatin1String(DrawingType))
         return QByteArray::fromStdString(DocumentFile::ToText(m_content));

@@ -2,6 +2,8 @@
 
 #include "Model/SketchContent.h"
 
+#include "HostUi/QtVersions.h"
+
 #include <QByteArray>
 #include <QMimeData>
 
@@ -28,7 +30,7 @@ public:
     QStringList formats() const override;
 
 protected:
-    QVariant retrieveData(const QString& type, QVariant::Type preferred) const override;
+    QVariant retrieveData(const QString& type, vesk::MimeDataType preferred) const override;
 
 private:
     SketchContent m_content;

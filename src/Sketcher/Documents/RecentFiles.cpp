@@ -4,6 +4,7 @@
 
 #include <QFileInfo>
 #include <QSettings>
+#include <QUrl>
 
 namespace
 {
@@ -12,6 +13,22 @@ const QString& FilesKey()
 {
     static const QString s_key = QStringLiteral("files");
     return s_key;
+}
+
+/// Each file as a URL: the versions of Qt encode letters beyond ASCII in different ways.
+QStringList ToUrls(const QStringList& files)
+{
+    QStringList urls;
+    for (const QString& file : files)
+        urls << QString::fromLatin1(QUrl::fromLocalFile(file).toEncoded());
+    return urls;
+}
+
+/// Earlier programs wrote the path itself.
+QString FileOf(const QString& entry)
+{
+    const QUrl url = QUrl::fromEncoded(entry.toUtf8(), QUrl::StrictMode);
+    return url.isLocalFile() ? url.toLocalFile() : entry;
 }
 
 }
@@ -23,9 +40,10 @@ RecentFiles::RecentFiles(const QString& path)
 QStringList RecentFiles::Get() const
 {
     QStringList files;
-    for (const QString& file :
+    for (const QString& entry :
          QSettings(m_path, QSettings::IniFormat).value(FilesKey()).toStringList())
     {
+        const QString file = FileOf(entry);
         if (QFileInfo(file).isFile() && files.size() < GreatestCount)
             files << file;
     }
@@ -39,5 +57,5 @@ void RecentFiles::Add(const QString& file)
     files.removeAll(full);
     files.prepend(full);
     QSettings(m_path, QSettings::IniFormat)
-        .setValue(FilesKey(), QStringList(files.mid(0, GreatestCount)));
+        .setValue(FilesKey(), ToUrls(files.mid(0, GreatestCount)));
 }

@@ -12,6 +12,7 @@
 
 #include "Command/IAction.h"
 #include "Command/IActionManager.h"
+#include "HostUi/QtVersions.h"
 
 #include <QContextMenuEvent>
 #include <QCoreApplication>
@@ -169,6 +170,12 @@ bool SketchView::eventFilter(QObject* pWatched, QEvent* pEvent)
     return false;
 }
 
+Vector3d SketchView::WorldOf(const QMouseEvent& event) const
+{
+    const QPointF position = PositionOf(event);
+    return GetCamera().ScreenToWorld(position.x(), position.y());
+}
+
 void SketchView::mouseMoveEvent(QMouseEvent* pEvent)
 {
     m_workspace.isDirectionHeld = pEvent->modifiers().testFlag(Qt::ShiftModifier);
@@ -182,7 +189,7 @@ void SketchView::mouseMoveEvent(QMouseEvent* pEvent)
         DropPress();
         return;
     }
-    m_mouse.MoveTo(GetCamera().ScreenToWorld(pEvent->localPos().x(), pEvent->localPos().y()));
+    m_mouse.MoveTo(WorldOf(*pEvent));
     update();
 }
 
@@ -198,7 +205,7 @@ void SketchView::mouseReleaseEvent(QMouseEvent* pEvent)
     if (pEvent->button() != Qt::LeftButton)
         return;
     if (IActionManager::CurrentAction() == nullptr)
-        m_mouse.Release(GetCamera().ScreenToWorld(pEvent->localPos().x(), pEvent->localPos().y()));
+        m_mouse.Release(WorldOf(*pEvent));
     DropPress();
 }
 

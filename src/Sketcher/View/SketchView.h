@@ -65,6 +65,7 @@ private:
     void OnCursorMoved(double x, double y);
     void SetPointed(int entity);
     void DropPress();
+    vesk::Vector3d WorldOf(const QMouseEvent& event) const;
     void SelectBelow(const QPoint& pixel);
     void PaintGrid(QPainter& painter) const;
     void PaintGridLines(QPainter& painter, double step, const QColor& color) const;

@@ -165,6 +165,11 @@ void QtButton::actionEvent(QActionEvent* pEvent)
         setEnabled(false);
 }
 
+void QtButton::checkStateSet()
+{
+    QAbstractButton::checkStateSet();
+}
+
 /// Adopts one part of the action, where a tool button adopts everything again and announces all its
 /// tips as changed. Returns false, having done nothing, if more than that part differs.
 bool QtButton::AdoptOnly(Part part)

@@ -39,6 +39,9 @@ protected:
     /// override keeps a disabled button disabled while On updates the action.
     void actionEvent(QActionEvent* pEvent) override;
 
+    /// Leaves the action alone: that of Qt 6 checks it with the button.
+    void checkStateSet() override;
+
 private:
     enum class Part
     {

@@ -12,6 +12,7 @@
 #include "VeskUiQtImpl/ProcessCommandUtil.h"
 
 #include "HostUi/QtText.h"
+#include "HostUi/QtVersions.h"
 
 #include <QAction>
 #include <QIcon>
@@ -82,7 +83,7 @@ void UpdateItem(const QPointer<QAction>& pAction)
 
 bool LooksLike(const QAction& action, const QAction& other)
 {
-    return action.parentWidget() == other.parentWidget() && action.text() == other.text() &&
+    return ParentWidgetOf(action) == ParentWidgetOf(other) && action.text() == other.text() &&
            action.iconText() == other.iconText();
 }
 

@@ -92,7 +92,7 @@ void JournalFullDiskTest::theFileHoldsWholeLinesWhereverTheDiskEnds()
         {
             Journal().Add(MakeRecord(i));
             QCOMPARE(ReadLinesAfterHeader(Path()),
-                     WholeLinesWithin(std::min(limit, LinesOf(i).size())));
+                     WholeLinesWithin(std::min(limit, int(LinesOf(i).size()))));
             QCOMPARE(Journal().IsKept(), LinesOf(i).size() <= limit);
         }
 

@@ -50,7 +50,7 @@ void WarningLogFullDiskTest::whatWasThereStaysAndTheRestIsTold()
 
         QCOMPARE(Manager().CloseLog(), limit == all);
         QVERIFY(log.Read().startsWith(before));
-        QCOMPARE(log.Read().size(), std::max(before.size(), limit));
+        QCOMPARE(log.Read().size(), std::max(int(before.size()), limit));
     }
 }
 

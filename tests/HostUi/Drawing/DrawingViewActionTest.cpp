@@ -117,7 +117,8 @@ struct ViewFixture
 
     void Move(const QPoint& pixel) const
     {
-        QMouseEvent event(QEvent::MouseMove, pixel, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+        QMouseEvent event(QEvent::MouseMove, pixel, pView->mapToGlobal(pixel), Qt::NoButton,
+                          Qt::NoButton, Qt::NoModifier);
         QCoreApplication::sendEvent(pView, &event);
     }
 

@@ -48,7 +48,8 @@ private:
 
 void SendMouse(QWidget& widget, QEvent::Type type, QPointF position, Qt::MouseButton button)
 {
-    QMouseEvent event(type, position, button, button, Qt::NoModifier);
+    QMouseEvent event(type, position, widget.mapToGlobal(position.toPoint()), button, button,
+                      Qt::NoModifier);
     QCoreApplication::sendEvent(&widget, &event);
 }
 

@@ -1,6 +1,7 @@
 #include "HostUi/InputFixture.h"
 
 #include "Command/IActionManager.h"
+#include "Input/KeptKey.h"
 #include "Support/TestValues.h"
 
 using namespace vesk;
@@ -44,7 +45,7 @@ class KeyWatch final : public QObject
 public:
     KeyWatch() { qApp->installEventFilter(this); }
 
-    std::optional<QKeyEvent> last;
+    std::optional<KeptKey> last;
 
 protected:
     bool eventFilter(QObject* pWatched, QEvent* pEvent) override
@@ -105,11 +106,12 @@ private slots:
         });
 
         QVERIFY(watch.last.has_value());
-        QCOMPARE(watch.last->key(), int(Qt::Key_B));
-        QCOMPARE(watch.last->modifiers(), Qt::KeyboardModifiers(Qt::ShiftModifier));
-        QCOMPARE(watch.last->text(), QString("B"));
-        QVERIFY(watch.last->isAutoRepeat());
-        QCOMPARE(watch.last->count(), 3);
+        const QKeyEvent last = watch.last->ToEvent();
+        QCOMPARE(last.key(), int(Qt::Key_B));
+        QCOMPARE(last.modifiers(), Qt::KeyboardModifiers(Qt::ShiftModifier));
+        QCOMPARE(last.text(), QString("B"));
+        QVERIFY(last.isAutoRepeat());
+        QCOMPARE(last.count(), 3);
     }
 
     void escapeIsTheNextActionsToo()

@@ -240,7 +240,8 @@ private slots:
     void clickAnywhereDecidesBeforeItIsHeard()
     {
         InputFixture f(Linear());
-        QMouseEvent click(QEvent::MouseButtonPress, QPointF(1, 1), Qt::LeftButton, Qt::LeftButton,
+        QMouseEvent click(QEvent::MouseButtonPress, QPointF(1, 1),
+                          f.host.window.mapToGlobal(QPoint(1, 1)), Qt::LeftButton, Qt::LeftButton,
                           Qt::NoModifier);
 
         f.Type("10 c");

@@ -15,7 +15,8 @@ namespace
 
 void MoveCursor(QWidget& widget, const QPoint& point)
 {
-    QMouseEvent move(QEvent::MouseMove, point, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QMouseEvent move(QEvent::MouseMove, point, widget.mapToGlobal(point), Qt::NoButton,
+                     Qt::NoButton, Qt::NoModifier);
     QCoreApplication::sendEvent(&widget, &move);
 }
 

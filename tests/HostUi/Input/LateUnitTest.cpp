@@ -31,11 +31,11 @@ QStringList Type(LateUnit& unit, const QString& text)
     return whole;
 }
 
-QString TextOf(const std::vector<QKeyEvent>& keys)
+QString TextOf(const std::vector<KeptKey>& keys)
 {
     QString text;
-    for (const QKeyEvent& key : keys)
-        text += key.text();
+    for (const KeptKey& key : keys)
+        text += key.ToEvent().text();
     return text;
 }
 
@@ -125,15 +125,22 @@ private slots:
     {
         LateUnit unit;
         unit.Begin();
-        unit.Take(Press('C', Qt::ShiftModifier));
+        unit.Take(
+            QKeyEvent(QEvent::KeyPress, Qt::Key_C, Qt::ShiftModifier, 54, 67, 1, "C", true, 2));
 
-        const std::vector<QKeyEvent> keys = unit.End();
+        const std::vector<KeptKey> keys = unit.End();
 
         QCOMPARE(keys.size(), std::size_t(1));
-        QCOMPARE(keys[0].type(), QEvent::KeyPress);
-        QCOMPARE(keys[0].key(), int(Qt::Key_C));
-        QCOMPARE(keys[0].modifiers(), Qt::KeyboardModifiers(Qt::ShiftModifier));
-        QCOMPARE(keys[0].text(), QString("C"));
+        const QKeyEvent key = keys[0].ToEvent();
+        QCOMPARE(key.type(), QEvent::KeyPress);
+        QCOMPARE(key.key(), int(Qt::Key_C));
+        QCOMPARE(key.modifiers(), Qt::KeyboardModifiers(Qt::ShiftModifier));
+        QCOMPARE(key.nativeScanCode(), quint32(54));
+        QCOMPARE(key.nativeVirtualKey(), quint32(67));
+        QCOMPARE(key.nativeModifiers(), quint32(1));
+        QCOMPARE(key.text(), QString("C"));
+        QVERIFY(key.isAutoRepeat());
+        QCOMPARE(key.count(), 2);
         QVERIFY(unit.End().empty());
     }
 

@@ -372,7 +372,8 @@ private slots:
         const QWidget* pLists = pTree->parentWidget();
         QCOMPARE(pLists->geometry().topLeft(), QPoint(0, pState->height()));
         QCOMPARE(pLists->geometry().bottomRight(), f.pInspector->rect().bottomRight());
-        QVERIFY(pTree->mapToGlobal({}).x() < f.EventList()->mapToGlobal({}).x());
+        const QPoint corner;
+        QVERIFY(pTree->mapToGlobal(corner).x() < f.EventList()->mapToGlobal(corner).x());
     }
 
     void aGroupShowsTheStatesOfItsBoxes()

@@ -277,7 +277,8 @@ void PaneLayoutTest::aRestoredPaneKeepsAUsableSizeInASmallWindow()
     for (const char* name : {"A", "B", "D", "E", "F"})
     {
         QVERIFY2(small.Pane(name)->width() >= 160, name);
-        QVERIFY2(small.Pane(name)->height() >= 80, name);
+        // The height of its title depends on the font.
+        QVERIFY2(small.Pane(name)->widget()->height() >= 60, name);
     }
     QVERIFY(small.window.centralWidget()->width() >= 300);
 }

@@ -319,7 +319,8 @@ void PaneReachTest::aDraggedPaneGetsItsSizeWhenItIsLetGo()
     Mouse(pPane, QEvent::MouseMove, held - QPoint(0, 200));
     Run::Settle();
     QVERIFY(pPane->isFloating());
-    QCOMPARE(pPane->width(), width);
+    // Qt 6 counts a frame of a few pixels.
+    QVERIFY2(qAbs(pPane->width() - width) < 8, qPrintable(QString::number(pPane->width())));
     Mouse(pPane, QEvent::MouseMove, held - QPoint(0, 350));
     Mouse(pPane, QEvent::MouseButtonRelease, held - QPoint(0, 350));
     Run::Settle();

@@ -8,6 +8,8 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 
+#include <algorithm>
+
 class RecentFilesTest final : public QObject
 {
     Q_OBJECT
@@ -43,6 +45,28 @@ private slots:
         RecentFiles(List()).Add(MakeFile("a"));
 
         QCOMPARE(RecentFiles(List()).Get(), QStringList{MakeFile("a")});
+    }
+
+    void theListIsPlainAscii()
+    {
+        RecentFiles(List()).Add(MakeFile("a"));
+
+        const QByteArray list = vesk::ReadBytes(List());
+        QVERIFY(list.contains("file://"));
+        QVERIFY2(!list.contains('\\'), list.constData());
+        QVERIFY2(std::all_of(list.begin(), list.end(), [](char byte) { return byte > 0; }),
+                 list.constData());
+    }
+
+    void theListOfAnEarlierProgramIsRead()
+    {
+        const QString path = MakeFile("a");
+        const QString other = MakeFile("b");
+        const auto escaped = [](QString file) { return file.replace("ü", "\\xfc").toLatin1(); };
+        QVERIFY(vesk::WriteBytes(List(), "[General]\nfiles=\"" + escaped(path) + "\", \"" +
+                                             escaped(other) + "\"\n"));
+
+        QCOMPARE(RecentFiles(List()).Get(), (QStringList{path, other}));
     }
 
     void aFileThatIsGoneIsLeftOut()

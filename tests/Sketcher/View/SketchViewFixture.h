@@ -74,7 +74,8 @@ struct SketchViewFixture
                      Qt::MouseButton button, Qt::MouseButtons buttons,
                      Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
-        QMouseEvent event(type, place, button, buttons, modifiers);
+        QMouseEvent event(type, place, widget.mapToGlobal(place.toPoint()), button, buttons,
+                          modifiers);
         QCoreApplication::sendEvent(&widget, &event);
     }
 

@@ -1,5 +1,6 @@
 #include "Command/ActionManager.h"
 #include "Dimension/TemporaryDimensionMgr.h"
+#include "Support/ActiveWindow.h"
 #include "Support/TestValues.h"
 #include "TemporaryDimensionHandlersImpl/LifetimeFixture.h"
 
@@ -13,7 +14,7 @@ struct InputFixture
     explicit InputFixture(const KindRules& rules)
         : pView(std::make_unique<TestView>(2, &host.window))
     {
-        host.window.show();
+        ShowActive(host.window);
         host.core.GetViewManager().AddView(pView.get());
         host.core.GetViewManager().SetCurrentView(pView.get());
         host.actionLog.createContext = rules.pCreateContext;

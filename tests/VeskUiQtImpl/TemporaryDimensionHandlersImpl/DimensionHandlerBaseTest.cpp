@@ -1,3 +1,4 @@
+#include "Support/ActiveWindow.h"
 #include "Support/HostFixture.h"
 #include "Support/HostValues.h"
 #include "Support/Platform/InputMethod.h"
@@ -75,7 +76,7 @@ public:
 
 struct Fixture
 {
-    Fixture() { host.window.show(); }
+    Fixture() { ShowActive(host.window); }
 
     HostFixture host;
 };

@@ -125,12 +125,12 @@ std::vector<Key> AllKeys(Door door)
           Qt::ShiftModifier | Qt::AltModifier | Qt::ControlModifier})
     {
         for (const int code : AllCodes())
-            keys.push_back({code, modifiers, QString(QChar(code)), false});
+            keys.push_back({code, modifiers, QString(QChar(static_cast<ushort>(code))), false});
     }
     if (door == Door::View)
         return keys;
     for (const int code : AllCodes())
-        keys.push_back({code, Qt::NoModifier, QString(QChar(code)), true});
+        keys.push_back({code, Qt::NoModifier, QString(QChar(static_cast<ushort>(code))), true});
     return keys;
 }
 

@@ -76,10 +76,17 @@ bool QObject::event(QEvent* pEvent)
     return Next<bool (*)(QObject*, QEvent*)>("_ZN7QObject5eventEP6QEvent")(this, pEvent);
 }
 
+// That of Qt 6 is inline and calls another.
+#if QT_VERSION_MAJOR == 5
 void QObject::setObjectName(const QString& name)
+#else
+void QObject::doSetObjectName(const QString& name)
+#endif
 {
+    const char* const pSymbol = QT_VERSION_MAJOR == 5 ? "_ZN7QObject13setObjectNameERK7QString"
+                                                      : "_ZN7QObject15doSetObjectNameERK7QString";
     NoteOf(this, "name " + name);
-    Next<void (*)(QObject*, const QString&)>("_ZN7QObject13setObjectNameERK7QString")(this, name);
+    Next<void (*)(QObject*, const QString&)>(pSymbol)(this, name);
 }
 
 void QWidget::setWindowFlags(Qt::WindowFlags flags)

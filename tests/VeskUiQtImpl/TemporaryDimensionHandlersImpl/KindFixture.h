@@ -5,6 +5,7 @@
 #include "Dimension/ITemporaryDimensionHandler.h"
 #include "Graphics/IGraphicsNode.h"
 #include "HostUi/LineEditValidateHelper.h"
+#include "Support/ActiveWindow.h"
 #include "Support/HostFixture.h"
 #include "Support/MemberAccess.h"
 #include "VeskUiQtImpl/TemporaryDimensionHandlersImpl/TemporaryDimensionHandler.h"
@@ -27,7 +28,7 @@ struct KindFixture
     explicit KindFixture(OwnerPtr<ITemporaryDimensionContext> opGiven)
         : opContext(std::move(opGiven))
     {
-        host.window.show();
+        ShowActive(host.window);
         opHandler = CreateHandler();
         opHandler->GenerateGraphics(opContext.Get());
     }

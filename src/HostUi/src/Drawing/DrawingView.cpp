@@ -8,6 +8,7 @@
 #include "HostUi/DimensionInputController.h"
 #include "HostUi/ProvisionalPainter.h"
 #include "HostUi/QtText.h"
+#include "HostUi/QtVersions.h"
 #include "HostUi/ViewPixel.h"
 
 #include <QCoreApplication>
@@ -215,11 +216,11 @@ void DrawingView::leaveEvent(QEvent* pEvent)
 
 void DrawingView::mouseMoveEvent(QMouseEvent* pEvent)
 {
-    m_cursor = pEvent->localPos();
+    m_cursor = PositionOf(*pEvent);
     if (m_drag == Drag::Pan)
     {
-        const QPointF moved = pEvent->localPos() - m_dragPosition;
-        m_dragPosition = pEvent->localPos();
+        const QPointF moved = PositionOf(*pEvent) - m_dragPosition;
+        m_dragPosition = PositionOf(*pEvent);
         m_camera.Pan(moved.x(), moved.y());
         OnCameraChanged();
         return;
@@ -233,7 +234,7 @@ void DrawingView::mousePressEvent(QMouseEvent* pEvent)
     if (pEvent->button() == Qt::MiddleButton)
     {
         m_drag = Drag::Pan;
-        m_dragPosition = pEvent->localPos();
+        m_dragPosition = PositionOf(*pEvent);
         UpdateCursor();
     }
     if (pEvent->button() == Qt::LeftButton)
@@ -399,7 +400,8 @@ void DrawingView::OnSliceDue()
 void DrawingView::OnClick(const QMouseEvent& event)
 {
     setFocus(Qt::MouseFocusReason);
-    const Vector3d world = m_camera.ScreenToWorld(event.localPos().x(), event.localPos().y());
+    const QPointF position = PositionOf(event);
+    const Vector3d world = m_camera.ScreenToWorld(position.x(), position.y());
     if (m_input.GetActiveEditor() != nullptr && !ActionManager::IsCommandWaiting())
     {
         ActionManager::ProcessMouseMove(this, world);

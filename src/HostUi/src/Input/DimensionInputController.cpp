@@ -13,6 +13,7 @@
 #include "Input/EditorWidth.h"
 #include "Input/EscapeKey.h"
 #include "Input/InputJudge.h"
+#include "Input/KeptKey.h"
 #include "Input/KeyCode.h"
 #include "Input/KeyTarget.h"
 #include "Input/LateUnit.h"
@@ -386,8 +387,11 @@ bool DimensionInputController::KeepsForUnit(const QKeyEvent& event)
 /// Delivers the keys that were kept for a unit but are not one.
 void DimensionInputController::EndLateUnit()
 {
-    for (QKeyEvent& key : m_pLateUnit->End())
-        OnViewKey(key);
+    for (const KeptKey& key : m_pLateUnit->End())
+    {
+        QKeyEvent event = key.ToEvent();
+        OnViewKey(event);
+    }
 }
 
 /// Returns the model value and puts its number into the editor; only selects a rejected text.
@@ -417,10 +421,8 @@ void DimensionInputController::HoldKey(QKeyEvent& event)
         return;
     }
     const QPointer<DimensionInputController> pSelf(this);
-    const QKeyEvent kept(event.type(), event.key(), event.modifiers(), event.text(),
-                         event.isAutoRepeat(), static_cast<ushort>(event.count()));
-    ActionManager::HoldInput([pSelf, kept] {
-        QKeyEvent again(kept);
+    ActionManager::HoldInput([pSelf, kept = KeptKey(event)] {
+        QKeyEvent again = kept.ToEvent();
         if (pSelf != nullptr)
             pSelf->OnViewKey(again);
     });

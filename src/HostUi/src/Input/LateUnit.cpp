@@ -2,8 +2,6 @@
 
 #include "Formulas/FormulaUnits.h"
 
-#include <QKeyEvent>
-
 #include <utility>
 
 namespace vesk
@@ -36,7 +34,7 @@ bool LateUnit::Take(const QKeyEvent& event)
     return false;
 }
 
-std::vector<QKeyEvent> LateUnit::End()
+std::vector<KeptKey> LateUnit::End()
 {
     m_isAwaited = false;
     m_text.clear();

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "Input/KeptKey.h"
+
 #include <QString>
 
 #include <vector>
-
-class QKeyEvent;
 
 namespace vesk
 {
@@ -32,14 +32,14 @@ public:
     const QString& GetText() const { return m_text; }
 
     /// Stops awaiting a unit and returns the keys that belong to none, in order.
-    std::vector<QKeyEvent> End();
+    std::vector<KeptKey> End();
 
 private:
     bool m_isAwaited = false;
     QString m_text;
 
     /// The keys that do not form a whole unit yet.
-    std::vector<QKeyEvent> m_kept;
+    std::vector<KeptKey> m_kept;
 };
 
 }

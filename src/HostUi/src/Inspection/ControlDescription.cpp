@@ -1,5 +1,7 @@
 #include "Inspection/ControlDescription.h"
 
+#include "HostUi/QtVersions.h"
+
 #include <QAbstractButton>
 #include <QAction>
 #include <QComboBox>
@@ -72,7 +74,7 @@ void DescribeWidget(const QWidget& widget, Json& control)
 /// The position of an action on screen. Only entries of an open menu have one.
 void DescribePlace(QAction& action, Json& control)
 {
-    for (const QWidget* pWidget : action.associatedWidgets())
+    for (const QWidget* pWidget : WidgetsOf(action))
     {
         const auto* pMenu = qobject_cast<const QMenu*>(pWidget);
         if (!action.isVisible() || !IsOnScreen(*pWidget))
@@ -85,7 +87,7 @@ void DescribePlace(QAction& action, Json& control)
 
 void DescribeAction(QAction& action, Json& control)
 {
-    control["enabled"] = action.isEnabled() && IsReachable(action.parentWidget());
+    control["enabled"] = action.isEnabled() && IsReachable(ParentWidgetOf(action));
     DescribePlace(action, control);
 }
 

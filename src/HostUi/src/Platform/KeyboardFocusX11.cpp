@@ -1,7 +1,8 @@
 #include "Platform/KeyboardFocus.h"
 
+#include "Platform/XConnection.h"
+
 #include <QWindow>
-#include <QX11Info>
 
 #include <xcb/xcb.h>
 
@@ -25,7 +26,7 @@ Focus AskForFocus(xcb_connection_t* pConnection)
 
 void MoveKeyboard(const QWindow& from, const QWindow& to)
 {
-    xcb_connection_t* pConnection = QX11Info::isPlatformX11() ? QX11Info::connection() : nullptr;
+    xcb_connection_t* pConnection = GetXConnection();
     if (pConnection == nullptr || !to.isExposed())
         return;
     const Focus pFocus = AskForFocus(pConnection);

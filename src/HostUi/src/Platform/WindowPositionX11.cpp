@@ -1,8 +1,9 @@
 #include "Platform/WindowPosition.h"
 
+#include "Platform/XConnection.h"
+
 #include <QScreen>
 #include <QWindow>
-#include <QX11Info>
 
 #include <xcb/xcb.h>
 
@@ -25,9 +26,8 @@ Geometry AskForGeometry(xcb_connection_t* pConnection, const QWindow& window)
     return {xcb_get_geometry_reply(pConnection, cookie, nullptr), &std::free};
 }
 
-Place AskForPlace(xcb_connection_t* pConnection, const QWindow& window)
+Place AskForPlace(xcb_connection_t* pConnection, const QWindow& window, xcb_window_t root)
 {
-    const auto root = static_cast<xcb_window_t>(QX11Info::appRootWindow());
     const xcb_translate_coordinates_cookie_t cookie = xcb_translate_coordinates(
         pConnection, static_cast<xcb_window_t>(window.winId()), root, 0, 0);
     return {xcb_translate_coordinates_reply(pConnection, cookie, nullptr), &std::free};
@@ -40,20 +40,18 @@ QPoint PositionOf(const QWindow& window)
     return corner + (window.position() - corner) * window.devicePixelRatio();
 }
 
-/// What a window manager sends when it has moved a window without changing its size.
-void SendConfigureNotify(xcb_connection_t* pConnection, const QWindow& window, QPoint position)
+/// What a window manager sends when it has moved a window without changing its size, which is
+/// that of the geometry: from the toolkit's it cannot be told at every scale.
+void SendConfigureNotify(xcb_connection_t* pConnection, const QWindow& window, QPoint position,
+                         const xcb_get_geometry_reply_t& geometry)
 {
-    // Its size as it is: from the toolkit's it cannot be told at every scale.
-    const Geometry pGeometry = AskForGeometry(pConnection, window);
-    if (pGeometry == nullptr)
-        return;
     xcb_configure_notify_event_t event{};
     event.response_type = XCB_CONFIGURE_NOTIFY;
     event.event = event.window = static_cast<xcb_window_t>(window.winId());
     event.x = static_cast<std::int16_t>(position.x());
     event.y = static_cast<std::int16_t>(position.y());
-    event.width = pGeometry->width;
-    event.height = pGeometry->height;
+    event.width = geometry.width;
+    event.height = geometry.height;
     xcb_send_event(pConnection, 0, event.window, XCB_EVENT_MASK_STRUCTURE_NOTIFY,
                    reinterpret_cast<const char*>(&event));
     xcb_flush(pConnection);
@@ -63,14 +61,18 @@ void SendConfigureNotify(xcb_connection_t* pConnection, const QWindow& window, Q
 
 void TellPosition(const QWindow& window)
 {
-    xcb_connection_t* pConnection = QX11Info::isPlatformX11() ? QX11Info::connection() : nullptr;
-    const Place pPlace =
-        pConnection != nullptr ? AskForPlace(pConnection, window) : Place(nullptr, &std::free);
+    xcb_connection_t* pConnection = GetXConnection();
+    if (pConnection == nullptr)
+        return;
+    const Geometry pGeometry = AskForGeometry(pConnection, window);
+    if (pGeometry == nullptr)
+        return;
+    const Place pPlace = AskForPlace(pConnection, window, pGeometry->root);
     if (pPlace == nullptr)
         return;
     const QPoint position(pPlace->dst_x, pPlace->dst_y);
     if (position != PositionOf(window))
-        SendConfigureNotify(pConnection, window, position);
+        SendConfigureNotify(pConnection, window, position, *pGeometry);
 }
 
 }
