@@ -215,7 +215,7 @@ void SketcherWindow::AddShortcut(const CommandEntry& entry, const std::wstring& 
 bool SketcherWindow::IsTyping() const
 {
     const auto* pField = qobject_cast<const QLineEdit*>(QApplication::focusWidget());
-    return (pField != nullptr && !pField->isReadOnly()) || m_input.GetActiveEditor() != nullptr;
+    return (pField != nullptr && !pField->isReadOnly()) || m_input.GetOpenField() != nullptr;
 }
 
 /// Adds a button with a menu and returns it; null if it could not be created.

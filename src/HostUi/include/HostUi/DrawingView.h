@@ -155,6 +155,7 @@ private:
     Drag m_drag = Drag::None;
     std::optional<QPointF> m_cursor; ///< In pixels; nothing while it is elsewhere.
     QPointF m_dragPosition;
+    const QEvent* m_pForwarded = nullptr; ///< What the view passes to a field; not owned.
     QPointer<QWidget> m_pWatchedWindow;
     bool m_hasScale = false;
     bool m_isPaintedAtOnce = false;

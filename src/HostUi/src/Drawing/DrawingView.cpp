@@ -9,6 +9,7 @@
 #include "HostUi/DimensionInputController.h"
 #include "HostUi/QtText.h"
 #include "HostUi/ViewPixel.h"
+#include "Input/MemberScope.h"
 
 #include <QCoreApplication>
 #include <QKeyEvent>
@@ -170,13 +171,15 @@ void DrawingView::changeEvent(QEvent* pEvent)
 
 bool DrawingView::event(QEvent* pEvent)
 {
-    // While the window system has not moved the keyboard yet, the editor says which keys it needs.
-    QLineEdit* pEditor =
-        pEvent->type() == QEvent::ShortcutOverride ? m_input.GetActiveEditor() : nullptr;
-    if (pEditor == nullptr)
+    // While the window system has not moved the keyboard yet, the field says which keys it needs.
+    QLineEdit* pField =
+        pEvent->type() == QEvent::ShortcutOverride ? m_input.GetOpenField() : nullptr;
+    // What a field in the view does not need comes back here.
+    if (pField == nullptr || pEvent == m_pForwarded)
         return QWidget::event(pEvent);
+    const MemberScope<const QEvent> forwarded(*this, m_pForwarded, pEvent);
     pEvent->ignore();
-    QCoreApplication::sendEvent(pEditor, pEvent);
+    QCoreApplication::sendEvent(pField, pEvent);
     return true;
 }
 
