@@ -146,6 +146,11 @@ void SketchView::OnFreeConfirm()
     emit repeatRequested();
 }
 
+double SketchView::GetCursorStep() const
+{
+    return GridStep(GetCamera().GetWorldPerPixel());
+}
+
 void SketchView::contextMenuEvent(QContextMenuEvent* pEvent)
 {
     if (IActionManager::CurrentAction() != nullptr || m_mouse.IsPressed())

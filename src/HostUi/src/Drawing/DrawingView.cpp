@@ -1,9 +1,11 @@
 #include "HostUi/DrawingView.h"
 
+#include "Accessibility/AccessibleTexts.h"
 #include "Command/ActionManager.h"
 #include "Command/IAction.h"
 #include "Command/IActionManager.h"
 #include "Dimension/TemporaryDimensionMgr.h"
+#include "Drawing/CursorWalk.h"
 #include "Drawing/ModelPicture.h"
 #include "Drawing/ProvisionalPainter.h"
 #include "HostUi/DimensionInputController.h"
@@ -26,11 +28,10 @@ namespace vesk
 namespace
 {
 
-bool IsConfirmation(const QKeyEvent& event)
+/// False for what the view sends itself.
+bool IsOfMouse(const QMouseEvent& event)
 {
-    const int key = event.key();
-    const bool isPlain = !(event.modifiers() & ~Qt::KeypadModifier) && !event.isAutoRepeat();
-    return isPlain && (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space);
+    return event.source() != Qt::MouseEventSynthesizedByApplication;
 }
 
 }
@@ -44,6 +45,7 @@ DrawingView::DrawingView(std::uint32_t id, DimensionInputController& input, QWid
     setMouseTracking(true);
     setCursor(Qt::CrossCursor);
     setMinimumSize(300, 200);
+    SetAccessibleRole(*this, QAccessible::Canvas);
     // The host identifies views by their native window.
     winId();
 }
@@ -114,14 +116,14 @@ void DrawingView::TellCursor()
 {
     if (!m_cursor.has_value())
         return;
-    const Vector3d world = m_camera.ScreenToWorld(m_cursor->x(), m_cursor->y());
+    const Vector3d world = ToWorld(*m_cursor);
     emit cursorMoved(world.x(), world.y());
 }
 
 void DrawingView::PassCursor()
 {
     if (m_cursor.has_value())
-        ActionManager::ProcessMouseMove(this, m_camera.ScreenToWorld(m_cursor->x(), m_cursor->y()));
+        ActionManager::ProcessMouseMove(this, ToWorld(*m_cursor));
 }
 
 QPointF DrawingView::ToPixel(const Vector3d& world) const
@@ -197,27 +199,25 @@ bool DrawingView::focusNextPrevChild(bool isNext)
     return IActionManager::CurrentAction() == nullptr && QWidget::focusNextPrevChild(isNext);
 }
 
-void DrawingView::keyPressEvent(QKeyEvent* pEvent)
-{
-    if (m_input.OnViewKey(*pEvent))
-        return;
-    if (pEvent->key() == Qt::Key_Escape)
-        OnFreeEscape();
-    else if (IsConfirmation(*pEvent) && IActionManager::CurrentAction() == nullptr)
-        OnFreeConfirm();
-    else
-        QWidget::keyPressEvent(pEvent);
-}
-
 void DrawingView::leaveEvent(QEvent* pEvent)
 {
-    m_cursor.reset();
-    emit cursorLeft();
+    if (!m_walked.has_value())
+    {
+        m_cursor.reset();
+        emit cursorLeft();
+    }
     QWidget::leaveEvent(pEvent);
 }
 
 void DrawingView::mouseMoveEvent(QMouseEvent* pEvent)
 {
+    if (IsOfMouse(*pEvent))
+    {
+        // The toolkit sends moves also when something else has moved.
+        if (m_walked.has_value() && pEvent->globalPos() == m_restingMouse)
+            return;
+        EndWalk();
+    }
     m_cursor = pEvent->localPos();
     if (m_drag == Drag::Pan)
     {
@@ -233,6 +233,8 @@ void DrawingView::mouseMoveEvent(QMouseEvent* pEvent)
 
 void DrawingView::mousePressEvent(QMouseEvent* pEvent)
 {
+    if (IsOfMouse(*pEvent))
+        EndWalk();
     if (pEvent->button() == Qt::MiddleButton)
     {
         m_drag = Drag::Pan;
@@ -273,6 +275,8 @@ void DrawingView::paintEvent(QPaintEvent*)
     if (const IGraphicsNodeGroup* pDimensions = TemporaryDimensionMgr::GetInstance()->GetGraphics())
         pDimensions->Accept(provisional);
     PaintOverlay(painter);
+    if (m_walked.has_value())
+        PaintWalkedCursor(painter, ToPixel(*m_walked), palette());
 }
 
 void DrawingView::resizeEvent(QResizeEvent*)
@@ -301,6 +305,7 @@ void DrawingView::wheelEvent(QWheelEvent* pEvent)
 {
     constexpr double StepsPerDoubling = 480.0;
     const double factor = std::pow(2.0, pEvent->angleDelta().y() / StepsPerDoubling);
+    EndWalk();
     m_cursor = pEvent->position();
     m_camera.ZoomAbout(pEvent->position().x(), pEvent->position().y(), factor);
     OnCameraChanged();
@@ -309,6 +314,8 @@ void DrawingView::wheelEvent(QWheelEvent* pEvent)
 
 void DrawingView::OnCameraChanged()
 {
+    if (m_walked.has_value())
+        m_cursor = ToPixel(*m_walked);
     ActionManager::RenewViewInput(this);
     m_isCameraMoved = true;
     m_nextSlice.stop();
@@ -402,7 +409,7 @@ void DrawingView::OnSliceDue()
 void DrawingView::OnClick(const QMouseEvent& event)
 {
     setFocus(Qt::MouseFocusReason);
-    const Vector3d world = m_camera.ScreenToWorld(event.localPos().x(), event.localPos().y());
+    const Vector3d world = ToWorld(event.localPos());
     if (m_input.GetActiveEditor() != nullptr && !ActionManager::IsCommandWaiting())
     {
         ActionManager::ProcessMouseMove(this, world);
