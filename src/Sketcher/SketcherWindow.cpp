@@ -12,6 +12,7 @@
 #include "Ribbon/UnitPanel.h"
 #include "View/EntityText.h"
 #include "View/SketchView.h"
+#include "View/ViewDescription.h"
 
 #include "Control/CommandButtonDefinition.h"
 #include "Control/CommandButtonMenuDefinition.h"
@@ -90,6 +91,7 @@ void PostStatusRefresh()
 
 SketcherWindow::SketcherWindow(Workspace& workspace, DimensionInputController& input)
     : m_workspace(workspace), m_input(input), m_pView(new SketchView(workspace, input, this)),
+      m_pDescription(new ViewDescription(workspace, *m_pView)),
       m_ribbonFocus(*GetRibbon(), *m_pView, input), m_pPointed(new QLabel)
 {
     LoadIcons();
@@ -117,6 +119,8 @@ void SketcherWindow::BuildControls(const std::vector<CommandEntry>& commands, Co
         m_pContextMenu = std::make_unique<ContextMenu>(commands, *m_pView);
     m_panels.push_back(std::make_unique<StepTips>(m_workspace.sketch, *this));
     controls.RefreshControls();
+    m_pDescription->Update();
+    m_pPointed->setAccessibleDescription("光标处的图元"_tr);
     OnSketchChanged();
     ShowPointed();
 }
