@@ -6,6 +6,7 @@
 #include "Ribbon/CommandTable.h"
 #include "Ribbon/ContextMenu.h"
 #include "Ribbon/DrawingPanel.h"
+#include "Ribbon/KeyTips.h"
 #include "Ribbon/PenPanel.h"
 #include "Ribbon/SnapPanel.h"
 #include "Ribbon/StepTips.h"
@@ -113,6 +114,7 @@ void SketcherWindow::BuildControls(const std::vector<CommandEntry>& commands, Co
     GetRibbon()->setCurrentPageIndex(1);
     BuildButtons(commands, pages, controls);
     BuildPanels(pages.drawing, controls);
+    AssignKeyTips(*GetRibbon());
     BuildProgress(controls);
     // It translates its entries when it opens, and knows which tool was the last.
     if (m_pContextMenu == nullptr)

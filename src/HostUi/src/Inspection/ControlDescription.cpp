@@ -1,5 +1,7 @@
 #include "Inspection/ControlDescription.h"
 
+#include "Qtitan/RibbonBar.h"
+
 #include <QAbstractButton>
 #include <QAction>
 #include <QComboBox>
@@ -126,6 +128,9 @@ Json DescribeControl(QObject& object)
     if (auto* pAction = qobject_cast<QAction*>(&object))
         DescribeAction(*pAction, control);
     control["checked"] = CheckedOf(object);
+    const QString keyTip = object.property(Qtitan::KeyTipProperty).toString();
+    if (!keyTip.isEmpty())
+        control["keyTip"] = keyTip.toStdString();
     return control;
 }
 
