@@ -1,5 +1,6 @@
 #include "HostUi/MainWindow.h"
 
+#include "Application/FocusAreas.h"
 #include "Texts/HostUiText.h"
 
 #include "Command/ActionManager.h"
@@ -66,6 +67,7 @@ MainWindow::MainWindow()
     m_pStates->setMinimumWidth(1);
     m_pStates->hide();
 
+    new FocusAreas(*this);
     // The host identifies windows by their native window.
     winId();
     SetMainWindow(this);
