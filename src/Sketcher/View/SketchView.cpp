@@ -158,9 +158,12 @@ void SketchView::contextMenuEvent(QContextMenuEvent* pEvent)
         DrawingView::contextMenuEvent(pEvent);
         return;
     }
-    if (pEvent->reason() == QContextMenuEvent::Mouse)
-        SelectBelow(pEvent->pos());
-    emit menuRequested(pEvent->globalPos());
+    const bool isOfMouse = pEvent->reason() == QContextMenuEvent::Mouse;
+    const bool isAtCursor = !isOfMouse && IsWalking();
+    const QPoint place = isAtCursor ? ToPixel(GetWalked()).toPoint() : pEvent->pos();
+    if (isOfMouse || isAtCursor)
+        SelectBelow(place);
+    emit menuRequested(isAtCursor ? mapToGlobal(place) : pEvent->globalPos());
 }
 
 /// Shift may be released in the editor of a value.

@@ -17,6 +17,15 @@ struct WalkFixture : SketchViewFixture
         QCoreApplication::sendEvent(&view, &event);
     }
 
+    /// Unlike the moves of the fixture it says where the mouse is on the screen.
+    void MoveMouse(const QPoint& way)
+    {
+        const QPoint place = QCursor::pos() + way;
+        QMouseEvent event(QEvent::MouseMove, view.mapFromGlobal(place), place, Qt::NoButton,
+                          Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&view, &event);
+    }
+
     QPointF Cursor() const
     {
         const QList<QVariant> last = moves.isEmpty() ? QList<QVariant>{0, 0} : moves.last();
@@ -110,6 +119,53 @@ private slots:
         QCOMPARE(f.workspace.selection.GetIds(), (std::vector<int>{second, first}));
     }
 
+    void shiftAndSpaceBeginABoxThatTheNextSpaceEnds()
+    {
+        WalkFixture f;
+        const int inside = f.workspace.sketch.AddLine({5, 5, 0}, {15, 5, 0});
+        f.workspace.sketch.AddLine({5, 5, 0}, {150, 5, 0});
+        f.Type(Qt::Key_Left);
+
+        f.Type(Qt::Key_Space, Qt::ShiftModifier);
+        for (int i = 0; i < 3; ++i)
+            f.Type(Qt::Key_Right);
+        f.Type(Qt::Key_Up);
+        f.Type(Qt::Key_Space);
+
+        QCOMPARE(f.workspace.selection.GetIds(), std::vector<int>{inside});
+        f.Type(Qt::Key_Right);
+        QCOMPARE(f.workspace.selection.GetIds(), std::vector<int>{inside});
+    }
+
+    void escapeDropsTheBox()
+    {
+        WalkFixture f;
+        f.workspace.sketch.AddLine({5, 5, 0}, {15, 5, 0});
+        f.Type(Qt::Key_Left);
+        f.Type(Qt::Key_Space, Qt::ShiftModifier);
+        f.Type(Qt::Key_Right);
+
+        f.Type(Qt::Key_Escape);
+        f.Type(Qt::Key_Right);
+        f.Type(Qt::Key_Up);
+
+        QVERIFY(f.workspace.selection.IsEmpty());
+    }
+
+    void menuKeyIsAboutWhatTheCursorPointsAt()
+    {
+        WalkFixture f;
+        const int line = f.workspace.sketch.AddLine({10, -50, 0}, {10, 50, 0});
+        const QSignalSpy menus(&f.view, &SketchView::menuRequested);
+        f.Type(Qt::Key_Right);
+
+        QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(1, 1));
+        QCoreApplication::sendEvent(&f.view, &event);
+
+        QCOMPARE(f.workspace.selection.GetIds(), std::vector<int>{line});
+        QCOMPARE(menus.at(0).at(0).toPoint(), f.view.mapToGlobal(f.PlaceOf(10, 0).toPoint()));
+    }
+
     void spaceRunsTheLastToolAgainOtherwise_data()
     {
         QTest::addColumn<bool>("hasWalked");
@@ -130,7 +186,7 @@ private slots:
         if (isEscaped)
             f.Type(Qt::Key_Escape);
         else if (hasWalked)
-            f.MoveTo(50, 50);
+            f.MoveMouse(QPoint(50, 50));
 
         f.Type(Qt::Key_Space);
 
@@ -142,11 +198,8 @@ private slots:
     {
         WalkFixture f;
         f.Type(Qt::Key_Right);
-        const QPointF place = f.view.mapFromGlobal(QCursor::pos());
 
-        QMouseEvent event(QEvent::MouseMove, place, QCursor::pos(), Qt::NoButton, Qt::NoButton,
-                          Qt::NoModifier);
-        QCoreApplication::sendEvent(&f.view, &event);
+        f.MoveMouse(QPoint(0, 0));
         QEvent leave(QEvent::Leave);
         QCoreApplication::sendEvent(&f.view, &leave);
 

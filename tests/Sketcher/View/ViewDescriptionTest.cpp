@@ -78,7 +78,7 @@ private slots:
     {
         DescriptionFixture f;
         f.workspace.sketch.AddLine({10, -50, 0}, {10, 50, 0});
-        f.MoveTo(-20, 5);
+        f.MoveTo(-20, 4);
         QVERIFY(!f.Get().contains("X"));
 
         f.Press(Qt::Key_Right);

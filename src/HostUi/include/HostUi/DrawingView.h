@@ -26,7 +26,8 @@ class ModelPicture;
 ///
 /// The arrow keys move the cursor, from grid point to grid point, with Shift by a tenth of that;
 /// the picture follows it. From then on Space is a click there, until Escape or until the mouse
-/// moves. Ctrl with an arrow moves the picture, the keys for zooming magnify it.
+/// moves. Shift+Space presses, and the next Space lets go: the arrows between them drag. Ctrl with
+/// an arrow moves the picture, the keys for zooming magnify it.
 class VESK_HOST_UI_API DrawingView : public QWidget, public IUiView
 {
     Q_OBJECT
@@ -175,6 +176,7 @@ private:
     Drag m_drag = Drag::None;
     std::optional<QPointF> m_cursor;  ///< In pixels; nothing while it is elsewhere.
     std::optional<Vector3d> m_walked; ///< Where the arrow keys have put the cursor.
+    bool m_isButtonHeld = false;      ///< By Shift+Space.
     QPoint m_restingMouse;            ///< Where the mouse was then, on the screen.
     QPointF m_dragPosition;
     const QEvent* m_pForwarded = nullptr; ///< What the view passes to a field; not owned.

@@ -8,6 +8,7 @@
 #include <QPointer>
 
 #include <algorithm>
+#include <utility>
 
 namespace vesk
 {
@@ -88,17 +89,22 @@ bool DrawingView::Walk(const QKeyEvent& event)
 
 bool DrawingView::IsPick(const QKeyEvent& event) const
 {
-    const bool isPlain = !(event.modifiers() & ~Qt::ControlModifier);
+    const bool isPlain = !(event.modifiers() & ~(Qt::ControlModifier | Qt::ShiftModifier));
     return m_walked.has_value() && isPlain && event.key() == Qt::Key_Space && !event.isAutoRepeat();
 }
 
-/// Clicks at the cursor; the view may be gone after the press.
+/// Clicks at the cursor; with Shift only presses, so that the next Space ends a drag. The view may
+/// be gone after the press.
 void DrawingView::Pick(Qt::KeyboardModifiers modifiers)
 {
     const QPointer<DrawingView> pSelf(this);
-    SendMouse(QEvent::MouseButtonPress, Qt::LeftButton, modifiers);
-    if (pSelf != nullptr && m_walked.has_value())
-        SendMouse(QEvent::MouseButtonRelease, Qt::LeftButton, modifiers);
+    const bool isHeldBefore = std::exchange(m_isButtonHeld, false);
+    m_isButtonHeld = !isHeldBefore && modifiers.testFlag(Qt::ShiftModifier) &&
+                     IActionManager::CurrentAction() == nullptr;
+    if (!isHeldBefore)
+        SendMouse(QEvent::MouseButtonPress, Qt::LeftButton, modifiers & Qt::ControlModifier);
+    if (pSelf != nullptr && m_walked.has_value() && !m_isButtonHeld)
+        SendMouse(QEvent::MouseButtonRelease, Qt::LeftButton, modifiers & Qt::ControlModifier);
 }
 
 void DrawingView::EndWalk()
@@ -106,6 +112,7 @@ void DrawingView::EndWalk()
     if (!m_walked.has_value())
         return;
     m_walked.reset();
+    m_isButtonHeld = false;
     update();
 }
 
@@ -129,8 +136,8 @@ void DrawingView::SendMouse(QEvent::Type type, Qt::MouseButton button,
 {
     const QPointF pixel = ToPixel(*m_walked);
     const QPointF onScreen = mapToGlobal(QPoint(0, 0)) + pixel;
-    const Qt::MouseButtons pressed =
-        type == QEvent::MouseButtonPress ? Qt::MouseButtons(button) : Qt::NoButton;
+    const bool isPressed = type == QEvent::MouseButtonPress || m_isButtonHeld;
+    const Qt::MouseButtons pressed = isPressed ? Qt::LeftButton : Qt::NoButton;
     QMouseEvent event(type, pixel, mapTo(window(), QPoint(0, 0)) + pixel, onScreen, button, pressed,
                       modifiers, Qt::MouseEventSynthesizedByApplication);
     QCoreApplication::sendEvent(this, &event);
