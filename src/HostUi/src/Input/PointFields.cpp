@@ -40,8 +40,8 @@ int PlaceBeside(int cursor, int size, int room)
 PointFields::PointFields(QWidget& view) : QFrame(&view), m_pUnit(new QLabel(this))
 {
     setObjectName(QStringLiteral("PointFields"));
-    setAutoFillBackground(true);
-    setFrameShape(QFrame::Box);
+    setStyleSheet(QStringLiteral("#PointFields { background: palette(window); "
+                                 "border: 1px solid palette(highlight); border-radius: 4px }"));
     setCursor(Qt::ArrowCursor);
     auto* pLayout = new QHBoxLayout(this);
     pLayout->setContentsMargins(6, 3, 6, 3);
