@@ -33,12 +33,12 @@ bool IsSeen(const QWidget& area)
 
 FocusAreas::FocusAreas(QMainWindow& window) : QObject(&window), m_window(window)
 {
-    AddKey(Qt::Key_F6, 1);
-    AddKey(Qt::SHIFT + Qt::Key_F6, -1);
+    AddKey(QStringLiteral("F6"), 1);
+    AddKey(QStringLiteral("Shift+F6"), -1);
     connect(qApp, &QApplication::focusChanged, this, &FocusAreas::OnFocusChanged);
 }
 
-void FocusAreas::AddKey(int key, int step)
+void FocusAreas::AddKey(const QString& key, int step)
 {
     auto* pShortcut = new QShortcut(QKeySequence(key), &m_window);
     pShortcut->setContext(Qt::ApplicationShortcut);
@@ -51,7 +51,7 @@ void FocusAreas::Go(int step)
     const auto current = std::find_if(areas.begin(), areas.end(), [](const QWidget* pArea) {
         return Contains(*pArea, QApplication::focusWidget());
     });
-    const int count = areas.size();
+    const int count = static_cast<int>(areas.size());
     const int from = current != areas.end() ? static_cast<int>(current - areas.begin()) : 0;
     for (int i = 1; i < count; ++i)
     {

@@ -22,7 +22,7 @@ public:
     explicit FocusAreas(QMainWindow& window);
 
 private:
-    void AddKey(int key, int step);
+    void AddKey(const QString& key, int step);
     void Go(int step);
     QList<QWidget*> FindAreas() const;
     QWidget* FindTarget(QWidget& area) const;
