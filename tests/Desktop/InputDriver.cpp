@@ -15,10 +15,10 @@ namespace
 QString KeyName(QChar character)
 {
     static const QHash<QChar, QString> s_names = {
-        {'.', "period"}, {',', "comma"},      {'-', "minus"},      {'+', "plus"},
-        {' ', "space"},  {'(', "parenleft"},  {')', "parenright"}, {'*', "asterisk"},
-        {'/', "slash"},  {'_', "underscore"}, {'=', "equal"},      {'\'', "apostrophe"},
-        {':', "colon"},  {'"', "quotedbl"},   {'^', "asciicircum"}};
+        {'.', "period"}, {',', "comma"},      {'-', "minus"},       {'+', "plus"},
+        {' ', "space"},  {'(', "parenleft"},  {')', "parenright"},  {'*', "asterisk"},
+        {'/', "slash"},  {'_', "underscore"}, {'=', "equal"},       {'\'', "apostrophe"},
+        {':', "colon"},  {'"', "quotedbl"},   {'^', "asciicircum"}, {'@', "at"}};
     return s_names.value(character, QString(character));
 }
 
