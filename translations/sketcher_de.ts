@@ -671,6 +671,14 @@ Maßeingabe: %2</translation>
             <translation>Klickt am Cursor, bis Esc gedrückt oder die Maus bewegt wird</translation>
         </message>
         <message>
+            <source>Shift+空格</source>
+            <translation>Umschalt+Leertaste</translation>
+        </message>
+        <message>
+            <source>开始框选，再按空格结束</source>
+            <translation>Beginnt dort einen Auswahlrahmen; die nächste Leertaste beendet ihn</translation>
+        </message>
+        <message>
             <source>放大、缩小</source>
             <translation>Vergrößern, verkleinern</translation>
         </message>

@@ -671,6 +671,14 @@ Dimension input: %2</translation>
             <translation>Clicks at the cursor, until Esc or until the mouse moves</translation>
         </message>
         <message>
+            <source>Shift+空格</source>
+            <translation>Shift+Space</translation>
+        </message>
+        <message>
+            <source>开始框选，再按空格结束</source>
+            <translation>Begins a selection box there; the next Space ends it</translation>
+        </message>
+        <message>
             <source>放大、缩小</source>
             <translation>Zoom in, zoom out</translation>
         </message>
