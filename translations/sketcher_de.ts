@@ -79,6 +79,14 @@
             <translation>Warnungen bei geöffnetem Dialog: siehe Protokoll %1</translation>
         </message>
         <message>
+            <source>提示</source>
+            <translation>Hinweis</translation>
+        </message>
+        <message>
+            <source>光标位置</source>
+            <translation>Cursorposition</translation>
+        </message>
+        <message>
             <source>；</source>
             <translation>; </translation>
         </message>
@@ -119,6 +127,10 @@
             <translation>Ergibt keinen bestimmten Wert</translation>
         </message>
         <message>
+            <source>还没有上一点，不能用“@”</source>
+            <translation>Es gibt noch keinen letzten Punkt, auf den sich „@“ beziehen könnte</translation>
+        </message>
+        <message>
             <source>请输入 %1 到 %2 之间的数</source>
             <translation>Zahl von %1 bis %2 eingeben</translation>
         </message>
@@ -137,6 +149,14 @@
         <message>
             <source>取消</source>
             <translation>Abbrechen</translation>
+        </message>
+        <message>
+            <source>%1 坐标</source>
+            <translation>%1-Koordinate</translation>
+        </message>
+        <message>
+            <source>这个点在这里不起作用，请换一个</source>
+            <translation>Dieser Punkt bewirkt hier nichts; bitte einen anderen eingeben</translation>
         </message>
         <message>
             <source>选中</source>
@@ -635,6 +655,38 @@ Maßeingabe: %2</translation>
             <translation>Verschiebt den Ausschnitt</translation>
         </message>
         <message>
+            <source>方向键</source>
+            <translation>Pfeiltasten</translation>
+        </message>
+        <message>
+            <source>光标移到下一栅格点，按 Shift 移十分之一；按 Ctrl 移动画面</source>
+            <translation>Cursor zum nächsten Rasterpunkt, mit Umschalt um ein Zehntel; mit Strg das Bild verschieben</translation>
+        </message>
+        <message>
+            <source>方向键之后的空格</source>
+            <translation>Leertaste nach einer Pfeiltaste</translation>
+        </message>
+        <message>
+            <source>在光标处单击，直到按 Esc 或移动鼠标</source>
+            <translation>Klickt am Cursor, bis Esc gedrückt oder die Maus bewegt wird</translation>
+        </message>
+        <message>
+            <source>Shift+空格</source>
+            <translation>Umschalt+Leertaste</translation>
+        </message>
+        <message>
+            <source>开始框选，再按空格结束</source>
+            <translation>Beginnt dort einen Auswahlrahmen; die nächste Leertaste beendet ihn</translation>
+        </message>
+        <message>
+            <source>放大、缩小</source>
+            <translation>Vergrößern, verkleinern</translation>
+        </message>
+        <message>
+            <source>转到下一区域或上一区域：图纸、面板、功能区</source>
+            <translation>Zum nächsten oder vorigen Bereich: Zeichnung, Paletten, Menüband</translation>
+        </message>
+        <message>
             <source>数字</source>
             <translation>Ziffern</translation>
         </message>
@@ -649,6 +701,14 @@ Maßeingabe: %2</translation>
         <message>
             <source>确定数值</source>
             <translation>Übernimmt den Wert</translation>
+        </message>
+        <message>
+            <source>点的坐标</source>
+            <translation>Koordinaten eines Punkts</translation>
+        </message>
+        <message>
+            <source>工具要点时键入数：Tab 转到另一坐标，Enter 确定；数前加 @ 从上一点算起</source>
+            <translation>Zahl eingeben, wo ein Werkzeug einen Punkt verlangt: Tab wechselt zur anderen Koordinate, Enter übernimmt; ein @ davor zählt ab dem letzten Punkt</translation>
         </message>
         <message>
             <source>空格</source>
@@ -677,6 +737,10 @@ Maßeingabe: %2</translation>
         <message>
             <source>键入数值</source>
             <translation>Werte eingeben</translation>
+        </message>
+        <message>
+            <source>不用鼠标</source>
+            <translation>Ohne Maus</translation>
         </message>
         <message>
             <source>可以键入</source>
@@ -1877,6 +1941,10 @@ Maßeingabe: %2</translation>
             <translation>Skizze</translation>
         </message>
         <message>
+            <source>光标处的图元</source>
+            <translation>Objekt am Cursor</translation>
+        </message>
+        <message>
             <source>线条</source>
             <translation>Linien</translation>
         </message>
@@ -2137,24 +2205,24 @@ Trotzdem löschen?</translation>
             <translation>&lt;b&gt;Der Name „%1“ lässt sich nicht verwenden.&lt;/b&gt;&lt;p&gt;Kürzeren Namen oder Namen ohne Satzzeichen verwenden.</translation>
         </message>
         <message>
-            <source>圆心圆弧：单击圆心；Esc 结束</source>
-            <translation>Mittelpunktbogen: Mittelpunkt klicken; Esc beendet</translation>
+            <source>圆心圆弧：单击圆心，或键入坐标；Esc 结束</source>
+            <translation>Mittelpunktbogen: Mittelpunkt klicken oder Koordinaten eingeben; Esc beendet</translation>
         </message>
         <message>
-            <source>圆心圆弧：单击起点；Esc 结束</source>
-            <translation>Mittelpunktbogen: Startpunkt klicken; Esc beendet</translation>
+            <source>圆心圆弧：单击起点，或键入坐标；Esc 结束</source>
+            <translation>Mittelpunktbogen: Startpunkt klicken oder Koordinaten eingeben; Esc beendet</translation>
         </message>
         <message>
             <source>圆心圆弧：单击端点，或键入圆心角（逆时针为正）；Esc 结束</source>
             <translation>Mittelpunktbogen: Endpunkt klicken oder Zentriwinkel eingeben (gegen den Uhrzeigersinn positiv); Esc beendet</translation>
         </message>
         <message>
-            <source>三点圆弧：单击起点；Esc 结束</source>
-            <translation>3-Punkt-Bogen: Startpunkt klicken; Esc beendet</translation>
+            <source>三点圆弧：单击起点，或键入坐标；Esc 结束</source>
+            <translation>3-Punkt-Bogen: Startpunkt klicken oder Koordinaten eingeben; Esc beendet</translation>
         </message>
         <message>
-            <source>三点圆弧：单击端点；Esc 结束</source>
-            <translation>3-Punkt-Bogen: Endpunkt klicken; Esc beendet</translation>
+            <source>三点圆弧：单击端点，或键入坐标；Esc 结束</source>
+            <translation>3-Punkt-Bogen: Endpunkt klicken oder Koordinaten eingeben; Esc beendet</translation>
         </message>
         <message>
             <source>三点圆弧：单击弧上一点，或键入半径；Esc 结束</source>
@@ -2165,8 +2233,8 @@ Trotzdem löschen?</translation>
             <translation>Kreis: Kreispunkt klicken oder Radius eingeben; Esc beendet</translation>
         </message>
         <message>
-            <source>圆：单击圆心；Esc 结束</source>
-            <translation>Kreis: Mittelpunkt klicken; Esc beendet</translation>
+            <source>圆：单击圆心，或键入坐标；Esc 结束</source>
+            <translation>Kreis: Mittelpunkt klicken oder Koordinaten eingeben; Esc beendet</translation>
         </message>
         <message>
             <source>这个值在这里不起作用，请换一个</source>
@@ -2181,8 +2249,8 @@ Trotzdem löschen?</translation>
             <translation>Linie: nächsten Punkt klicken oder Länge eingeben (Tab für den Winkel); Esc beendet</translation>
         </message>
         <message>
-            <source>直线：单击起点；Esc 结束</source>
-            <translation>Linie: Startpunkt klicken; Esc beendet</translation>
+            <source>直线：单击起点，或键入坐标；Esc 结束</source>
+            <translation>Linie: Startpunkt klicken oder Koordinaten eingeben; Esc beendet</translation>
         </message>
         <message>
             <source>单击要镜像的图元</source>
@@ -2209,8 +2277,8 @@ Trotzdem löschen?</translation>
             <translation>Basispunkt klicken oder weitere Objekte anklicken</translation>
         </message>
         <message>
-            <source>单击基点</source>
-            <translation>Basispunkt klicken</translation>
+            <source>单击基点，或键入坐标</source>
+            <translation>Basispunkt klicken oder Koordinaten eingeben</translation>
         </message>
         <message>
             <source>单击目标点，或键入距离（Tab 切换到角度）</source>
@@ -2241,8 +2309,8 @@ Trotzdem löschen?</translation>
             <translation>Rechteck: gegenüberliegende Ecke klicken oder Breite eingeben (Tab für die Höhe); Esc beendet</translation>
         </message>
         <message>
-            <source>矩形：单击第一个角点；Esc 结束</source>
-            <translation>Rechteck: erste Ecke klicken; Esc beendet</translation>
+            <source>矩形：单击第一个角点，或键入坐标；Esc 结束</source>
+            <translation>Rechteck: erste Ecke klicken oder Koordinaten eingeben; Esc beendet</translation>
         </message>
         <message>
             <source>单击要旋转的图元</source>
@@ -2253,28 +2321,28 @@ Trotzdem löschen?</translation>
             <translation>Drehpunkt klicken oder weitere Objekte anklicken</translation>
         </message>
         <message>
-            <source>单击旋转中心</source>
-            <translation>Drehpunkt klicken</translation>
+            <source>单击旋转中心，或键入坐标</source>
+            <translation>Drehpunkt klicken oder Koordinaten eingeben</translation>
         </message>
         <message>
             <source>单击目标方向上的一点，或键入角度（逆时针为正）</source>
             <translation>Punkt in der neuen Richtung klicken oder Winkel eingeben (gegen den Uhrzeigersinn positiv)</translation>
         </message>
         <message>
-            <source>单击起始方向上的一点</source>
-            <translation>Punkt in der Ausgangsrichtung klicken</translation>
+            <source>单击起始方向上的一点，或键入坐标</source>
+            <translation>Punkt in der Ausgangsrichtung klicken oder Koordinaten eingeben</translation>
         </message>
         <message>
             <source>%1：%2；Esc 结束</source>
             <translation>%1: %2; Esc beendet</translation>
         </message>
         <message>
-            <source>窗口缩放：单击对角点；Esc 结束</source>
-            <translation>Fensterzoom: gegenüberliegende Ecke klicken; Esc beendet</translation>
+            <source>窗口缩放：单击对角点，或键入坐标；Esc 结束</source>
+            <translation>Fensterzoom: gegenüberliegende Ecke klicken oder Koordinaten eingeben; Esc beendet</translation>
         </message>
         <message>
-            <source>窗口缩放：单击第一个角点；Esc 结束</source>
-            <translation>Fensterzoom: erste Ecke klicken; Esc beendet</translation>
+            <source>窗口缩放：单击第一个角点，或键入坐标；Esc 结束</source>
+            <translation>Fensterzoom: erste Ecke klicken oder Koordinaten eingeben; Esc beendet</translation>
         </message>
         <message>
             <source>%1 #%2：%3</source>
@@ -2299,6 +2367,14 @@ Trotzdem löschen?</translation>
         <message>
             <source>栅格</source>
             <translation>Raster</translation>
+        </message>
+        <message>
+            <source>；</source>
+            <translation>; </translation>
+        </message>
+        <message>
+            <source>X %1，Y %2 %3</source>
+            <translation>X %1, Y %2 %3</translation>
         </message>
     </context>
     <context>

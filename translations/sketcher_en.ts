@@ -79,6 +79,14 @@
             <translation>Warnings raised while a dialog was open: see the log %1</translation>
         </message>
         <message>
+            <source>提示</source>
+            <translation>Prompt</translation>
+        </message>
+        <message>
+            <source>光标位置</source>
+            <translation>Cursor position</translation>
+        </message>
+        <message>
             <source>；</source>
             <translation>; </translation>
         </message>
@@ -119,6 +127,10 @@
             <translation>Has no definite value</translation>
         </message>
         <message>
+            <source>还没有上一点，不能用“@”</source>
+            <translation>There is no last point yet for “@” to count from</translation>
+        </message>
+        <message>
             <source>请输入 %1 到 %2 之间的数</source>
             <translation>Enter a number from %1 to %2</translation>
         </message>
@@ -137,6 +149,14 @@
         <message>
             <source>取消</source>
             <translation>Cancel</translation>
+        </message>
+        <message>
+            <source>%1 坐标</source>
+            <translation>%1 coordinate</translation>
+        </message>
+        <message>
+            <source>这个点在这里不起作用，请换一个</source>
+            <translation>This point has no effect here; type another</translation>
         </message>
         <message>
             <source>选中</source>
@@ -635,6 +655,38 @@ Dimension input: %2</translation>
             <translation>Pans</translation>
         </message>
         <message>
+            <source>方向键</source>
+            <translation>Arrow keys</translation>
+        </message>
+        <message>
+            <source>光标移到下一栅格点，按 Shift 移十分之一；按 Ctrl 移动画面</source>
+            <translation>Move the cursor to the next grid point, with Shift by a tenth; with Ctrl move the picture</translation>
+        </message>
+        <message>
+            <source>方向键之后的空格</source>
+            <translation>Space after an arrow key</translation>
+        </message>
+        <message>
+            <source>在光标处单击，直到按 Esc 或移动鼠标</source>
+            <translation>Clicks at the cursor, until Esc or until the mouse moves</translation>
+        </message>
+        <message>
+            <source>Shift+空格</source>
+            <translation>Shift+Space</translation>
+        </message>
+        <message>
+            <source>开始框选，再按空格结束</source>
+            <translation>Begins a selection box there; the next Space ends it</translation>
+        </message>
+        <message>
+            <source>放大、缩小</source>
+            <translation>Zoom in, zoom out</translation>
+        </message>
+        <message>
+            <source>转到下一区域或上一区域：图纸、面板、功能区</source>
+            <translation>To the next or the previous area: drawing, panes, ribbon</translation>
+        </message>
+        <message>
             <source>数字</source>
             <translation>Digits</translation>
         </message>
@@ -649,6 +701,14 @@ Dimension input: %2</translation>
         <message>
             <source>确定数值</source>
             <translation>Commits the value</translation>
+        </message>
+        <message>
+            <source>点的坐标</source>
+            <translation>Coordinates of a point</translation>
+        </message>
+        <message>
+            <source>工具要点时键入数：Tab 转到另一坐标，Enter 确定；数前加 @ 从上一点算起</source>
+            <translation>Type a number where a tool asks for a point: Tab goes to the other coordinate, Enter accepts; an @ before it counts from the last point</translation>
         </message>
         <message>
             <source>空格</source>
@@ -677,6 +737,10 @@ Dimension input: %2</translation>
         <message>
             <source>键入数值</source>
             <translation>Typing values</translation>
+        </message>
+        <message>
+            <source>不用鼠标</source>
+            <translation>Without the mouse</translation>
         </message>
         <message>
             <source>可以键入</source>
@@ -1877,6 +1941,10 @@ Dimension input: %2</translation>
             <translation>Sketch</translation>
         </message>
         <message>
+            <source>光标处的图元</source>
+            <translation>Entity at the cursor</translation>
+        </message>
+        <message>
             <source>线条</source>
             <translation>Pen</translation>
         </message>
@@ -2137,24 +2205,24 @@ Delete it all the same?</translation>
             <translation>&lt;b&gt;The name “%1” cannot be used.&lt;/b&gt;&lt;p&gt;Use a shorter one, or one without punctuation.</translation>
         </message>
         <message>
-            <source>圆心圆弧：单击圆心；Esc 结束</source>
-            <translation>Centre arc: click the centre; Esc ends</translation>
+            <source>圆心圆弧：单击圆心，或键入坐标；Esc 结束</source>
+            <translation>Centre arc: click the centre or type its coordinates; Esc ends</translation>
         </message>
         <message>
-            <source>圆心圆弧：单击起点；Esc 结束</source>
-            <translation>Centre arc: click the start; Esc ends</translation>
+            <source>圆心圆弧：单击起点，或键入坐标；Esc 结束</source>
+            <translation>Centre arc: click the start or type its coordinates; Esc ends</translation>
         </message>
         <message>
             <source>圆心圆弧：单击端点，或键入圆心角（逆时针为正）；Esc 结束</source>
             <translation>Centre arc: click the end, or type the central angle (counter-clockwise positive); Esc ends</translation>
         </message>
         <message>
-            <source>三点圆弧：单击起点；Esc 结束</source>
-            <translation>3-point arc: click the start; Esc ends</translation>
+            <source>三点圆弧：单击起点，或键入坐标；Esc 结束</source>
+            <translation>3-point arc: click the start or type its coordinates; Esc ends</translation>
         </message>
         <message>
-            <source>三点圆弧：单击端点；Esc 结束</source>
-            <translation>3-point arc: click the end; Esc ends</translation>
+            <source>三点圆弧：单击端点，或键入坐标；Esc 结束</source>
+            <translation>3-point arc: click the end or type its coordinates; Esc ends</translation>
         </message>
         <message>
             <source>三点圆弧：单击弧上一点，或键入半径；Esc 结束</source>
@@ -2165,8 +2233,8 @@ Delete it all the same?</translation>
             <translation>Circle: click a point on it, or type the radius; Esc ends</translation>
         </message>
         <message>
-            <source>圆：单击圆心；Esc 结束</source>
-            <translation>Circle: click the centre; Esc ends</translation>
+            <source>圆：单击圆心，或键入坐标；Esc 结束</source>
+            <translation>Circle: click the centre or type its coordinates; Esc ends</translation>
         </message>
         <message>
             <source>这个值在这里不起作用，请换一个</source>
@@ -2181,8 +2249,8 @@ Delete it all the same?</translation>
             <translation>Line: click the next point, or type the length (Tab for the angle); Esc ends</translation>
         </message>
         <message>
-            <source>直线：单击起点；Esc 结束</source>
-            <translation>Line: click the start; Esc ends</translation>
+            <source>直线：单击起点，或键入坐标；Esc 结束</source>
+            <translation>Line: click the start or type its coordinates; Esc ends</translation>
         </message>
         <message>
             <source>单击要镜像的图元</source>
@@ -2209,8 +2277,8 @@ Delete it all the same?</translation>
             <translation>click the base point, or more entities to move</translation>
         </message>
         <message>
-            <source>单击基点</source>
-            <translation>click the base point</translation>
+            <source>单击基点，或键入坐标</source>
+            <translation>click the base point or type its coordinates</translation>
         </message>
         <message>
             <source>单击目标点，或键入距离（Tab 切换到角度）</source>
@@ -2241,8 +2309,8 @@ Delete it all the same?</translation>
             <translation>Rectangle: click the opposite corner, or type the width (Tab for the height); Esc ends</translation>
         </message>
         <message>
-            <source>矩形：单击第一个角点；Esc 结束</source>
-            <translation>Rectangle: click the first corner; Esc ends</translation>
+            <source>矩形：单击第一个角点，或键入坐标；Esc 结束</source>
+            <translation>Rectangle: click the first corner or type its coordinates; Esc ends</translation>
         </message>
         <message>
             <source>单击要旋转的图元</source>
@@ -2253,28 +2321,28 @@ Delete it all the same?</translation>
             <translation>click the centre, or more entities to rotate</translation>
         </message>
         <message>
-            <source>单击旋转中心</source>
-            <translation>click the centre</translation>
+            <source>单击旋转中心，或键入坐标</source>
+            <translation>click the centre or type its coordinates</translation>
         </message>
         <message>
             <source>单击目标方向上的一点，或键入角度（逆时针为正）</source>
             <translation>click a point in the new direction, or type the angle (counter-clockwise positive)</translation>
         </message>
         <message>
-            <source>单击起始方向上的一点</source>
-            <translation>click a point in the present direction</translation>
+            <source>单击起始方向上的一点，或键入坐标</source>
+            <translation>click a point in the present direction or type its coordinates</translation>
         </message>
         <message>
             <source>%1：%2；Esc 结束</source>
             <translation>%1: %2; Esc ends</translation>
         </message>
         <message>
-            <source>窗口缩放：单击对角点；Esc 结束</source>
-            <translation>Zoom window: click the opposite corner; Esc ends</translation>
+            <source>窗口缩放：单击对角点，或键入坐标；Esc 结束</source>
+            <translation>Zoom window: click the opposite corner or type its coordinates; Esc ends</translation>
         </message>
         <message>
-            <source>窗口缩放：单击第一个角点；Esc 结束</source>
-            <translation>Zoom window: click the first corner; Esc ends</translation>
+            <source>窗口缩放：单击第一个角点，或键入坐标；Esc 结束</source>
+            <translation>Zoom window: click the first corner or type its coordinates; Esc ends</translation>
         </message>
         <message>
             <source>%1 #%2：%3</source>
@@ -2299,6 +2367,14 @@ Delete it all the same?</translation>
         <message>
             <source>栅格</source>
             <translation>Grid</translation>
+        </message>
+        <message>
+            <source>；</source>
+            <translation>; </translation>
+        </message>
+        <message>
+            <source>X %1，Y %2 %3</source>
+            <translation>X %1, Y %2 %3</translation>
         </message>
     </context>
     <context>

@@ -6,12 +6,14 @@
 #include "Ribbon/CommandTable.h"
 #include "Ribbon/ContextMenu.h"
 #include "Ribbon/DrawingPanel.h"
+#include "Ribbon/KeyTips.h"
 #include "Ribbon/PenPanel.h"
 #include "Ribbon/SnapPanel.h"
 #include "Ribbon/StepTips.h"
 #include "Ribbon/UnitPanel.h"
 #include "View/EntityText.h"
 #include "View/SketchView.h"
+#include "View/ViewDescription.h"
 
 #include "Control/CommandButtonDefinition.h"
 #include "Control/CommandButtonMenuDefinition.h"
@@ -90,6 +92,7 @@ void PostStatusRefresh()
 
 SketcherWindow::SketcherWindow(Workspace& workspace, DimensionInputController& input)
     : m_workspace(workspace), m_input(input), m_pView(new SketchView(workspace, input, this)),
+      m_pDescription(new ViewDescription(workspace, *m_pView)),
       m_ribbonFocus(*GetRibbon(), *m_pView, input), m_pPointed(new QLabel)
 {
     LoadIcons();
@@ -111,12 +114,15 @@ void SketcherWindow::BuildControls(const std::vector<CommandEntry>& commands, Co
     GetRibbon()->setCurrentPageIndex(1);
     BuildButtons(commands, pages, controls);
     BuildPanels(pages.drawing, controls);
+    AssignKeyTips(*GetRibbon());
     BuildProgress(controls);
     // It translates its entries when it opens, and knows which tool was the last.
     if (m_pContextMenu == nullptr)
         m_pContextMenu = std::make_unique<ContextMenu>(commands, *m_pView);
     m_panels.push_back(std::make_unique<StepTips>(m_workspace.sketch, *this));
     controls.RefreshControls();
+    m_pDescription->Update();
+    m_pPointed->setAccessibleDescription("光标处的图元"_tr);
     OnSketchChanged();
     ShowPointed();
 }
@@ -215,7 +221,7 @@ void SketcherWindow::AddShortcut(const CommandEntry& entry, const std::wstring& 
 bool SketcherWindow::IsTyping() const
 {
     const auto* pField = qobject_cast<const QLineEdit*>(QApplication::focusWidget());
-    return (pField != nullptr && !pField->isReadOnly()) || m_input.GetActiveEditor() != nullptr;
+    return (pField != nullptr && !pField->isReadOnly()) || m_input.GetOpenField() != nullptr;
 }
 
 /// Adds a button with a menu and returns it; null if it could not be created.

@@ -17,6 +17,7 @@ class QToolButton;
 class SketchView;
 class SnapPanel;
 class UnitPanel;
+class ViewDescription;
 struct CommandEntry;
 struct Workspace;
 
@@ -101,6 +102,7 @@ private:
     Workspace& m_workspace;
     const vesk::DimensionInputController& m_input;
     SketchView* m_pView;
+    ViewDescription* m_pDescription;
     vesk::RibbonFocus m_ribbonFocus;
     QString m_documentName;
     QLabel* m_pPointed; ///< What is under the cursor, in the status bar.

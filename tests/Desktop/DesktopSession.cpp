@@ -206,6 +206,19 @@ bool DesktopSession::WaitForNoEditor()
     return WaitFor([](const UiTree& tree) { return !tree.FindEditor(); });
 }
 
+bool DesktopSession::WaitForPoint(const QString& x, const QString& y)
+{
+    return WaitFor([&](const UiTree& tree) {
+        const QJsonValue point = tree.GetJson()["point"];
+        return point["x"].toString() == x && point["y"].toString() == y && point.isObject();
+    });
+}
+
+bool DesktopSession::WaitForNoPoint()
+{
+    return WaitFor([](const UiTree& tree) { return tree.GetJson()["point"].isNull(); });
+}
+
 void DesktopSession::SaveEvidence(const QString& folder)
 {
     QDir(folder).removeRecursively();

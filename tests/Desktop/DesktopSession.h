@@ -111,6 +111,10 @@ public:
     bool WaitForEditor(const QString& text);
     bool WaitForNoEditor();
 
+    /// Wait until a point with these texts is being typed, or none is.
+    bool WaitForPoint(const QString& x, const QString& y);
+    bool WaitForNoPoint();
+
     /// The screen contents when they were last read.
     const UiTree& Tree() const { return m_tree; }
 

@@ -1,6 +1,8 @@
 #include "Desktop/DesktopTest.h"
 
 #include <QCoreApplication>
+#include <QJsonArray>
+#include <QJsonDocument>
 
 namespace vesk
 {
@@ -8,6 +10,18 @@ namespace vesk
 QVector<DrawnLine> DesktopTest::CloseAndReadLines()
 {
     return CloseProgram() ? Session().Lines() : QVector<DrawnLine>();
+}
+
+QVector<QPointF> DesktopTest::ReadCorners()
+{
+    const QByteArray model = ReadBytes(Session().PathOf("model.json"));
+    QVector<QPointF> corners;
+    for (const QJsonValue entity : QJsonDocument::fromJson(model)["entities"].toArray())
+    {
+        for (const QJsonValue corner : entity["corners"].toArray())
+            corners << QPointF(corner.toArray()[0].toDouble(), corner.toArray()[1].toDouble());
+    }
+    return corners;
 }
 
 bool DesktopTest::DrawsOneLine(double length, std::optional<double> angle)
@@ -54,7 +68,7 @@ void DesktopTest::init()
     m_isErrorOutputAccepted = false;
     m_areWarningsAccepted = false;
     m_pSession = std::make_unique<DesktopSession>(m_server);
-    if (m_pSession->Start())
+    if (m_pSession->Start({}, PrepareEnvironment()))
         return;
     // Qt calls no cleanup after this.
     SaveEvidence();

@@ -28,6 +28,9 @@ protected:
     /// Closes the program and returns the lines of its drawing; empty if it did not exit cleanly.
     QVector<DrawnLine> CloseAndReadLines();
 
+    /// The corners of all drawn rectangles, in order, after the program has exited.
+    QVector<QPointF> ReadCorners();
+
     /// Waits for the only line, closes the program and compares the line with what was typed; the
     /// angle only if there is one.
     bool DrawsOneLine(double length, std::optional<double> angle = {});
@@ -43,6 +46,9 @@ protected:
 
     /// This function has raised warnings and checks the log itself.
     void AcceptWarnings() { m_areWarningsAccepted = true; }
+
+    /// Called before each program starts: what it finds in its environment besides the rest.
+    virtual DesktopSession::Environment PrepareEnvironment() { return {}; }
 
     /// A number from the environment, for runs longer than the default.
     static int CountFromEnvironment(const char* name, int everyday);

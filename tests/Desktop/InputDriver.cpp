@@ -30,10 +30,10 @@ bool Run(const QString& display, const QString& program, const QStringList& argu
 QString KeyName(QChar character)
 {
     static const QHash<QChar, QString> s_names = {
-        {'.', "period"}, {',', "comma"},      {'-', "minus"},      {'+', "plus"},
-        {' ', "space"},  {'(', "parenleft"},  {')', "parenright"}, {'*', "asterisk"},
-        {'/', "slash"},  {'_', "underscore"}, {'=', "equal"},      {'\'', "apostrophe"},
-        {':', "colon"},  {'"', "quotedbl"},   {'^', "asciicircum"}};
+        {'.', "period"}, {',', "comma"},      {'-', "minus"},       {'+', "plus"},
+        {' ', "space"},  {'(', "parenleft"},  {')', "parenright"},  {'*', "asterisk"},
+        {'/', "slash"},  {'_', "underscore"}, {'=', "equal"},       {'\'', "apostrophe"},
+        {':', "colon"},  {'"', "quotedbl"},   {'^', "asciicircum"}, {'@', "at"}};
     return s_names.value(character, QString(character));
 }
 

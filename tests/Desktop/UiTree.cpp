@@ -68,19 +68,10 @@ std::optional<UiControl> UiTree::FindControl(const QString& id) const
 
 QString UiTree::GetKeyTip(const QString& id) const
 {
-    const QString tips = QStringLiteral("123456789ABCDEFGHIJKLMNOPQRSTUVWXYZ");
-    const int viewTop = FindView().value_or(UiView()).rect.top();
-    int index = 0;
     for (const QJsonValue value : m_root["controls"].toArray())
     {
-        const UiControl control = ToControl(value.toObject());
-        const bool isInRibbon = !control.rect.isEmpty() && control.rect.bottom() < viewTop;
-        if (!isInRibbon || !control.isVisible || !control.isEnabled ||
-            control.className == "vesk::QtLabel")
-            continue;
-        if (control.id == id)
-            return tips.mid(index, 1);
-        ++index;
+        if (value["id"].toString() == id && !value["keyTip"].isUndefined())
+            return value["keyTip"].toString();
     }
     return {};
 }

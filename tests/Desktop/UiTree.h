@@ -59,8 +59,7 @@ public:
     /// The control with that id; empty if there is none.
     std::optional<UiControl> FindControl(const QString& id) const;
 
-    /// The key tip that the ribbon shows on a control: digits, then letters, counted from the left,
-    /// skipping unusable controls. Empty if the control has none.
+    /// The key tip that the ribbon shows on a control; empty if it has none of its own.
     QString GetKeyTip(const QString& id) const;
 
     /// The entry of an open menu with that command; empty while it is not on screen.

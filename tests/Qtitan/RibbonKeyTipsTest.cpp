@@ -61,6 +61,30 @@ private slots:
         QCOMPARE(f.tips(), QStringList());
     }
 
+    void fixedTipStaysWhateverTheOthersHave()
+    {
+        TipsFixture f;
+        f.pArc->setProperty(KeyTipProperty, "L");
+        f.pEdit->setProperty(KeyTipProperty, "7");
+
+        f.type(Qt::Key_Alt);
+        f.type(Qt::Key_1);
+
+        QCOMPARE(f.tips(), (QStringList{"1", "L", "7"}));
+    }
+
+    void fixedTipOfAnUnusableControlIsNobodyElses()
+    {
+        TipsFixture f;
+        f.pArc->setProperty(KeyTipProperty, "1");
+        f.pArc->setEnabled(false);
+
+        f.type(Qt::Key_Alt);
+        f.type(Qt::Key_1);
+
+        QCOMPARE(f.tips(), (QStringList{"L", "2"}));
+    }
+
     void tipsStandOverTheirTabs()
     {
         TipsFixture f;

@@ -202,10 +202,12 @@ private slots:
         QTest::addColumn<QLocale>("locale");
         QTest::addColumn<QString>("prompt");
 
-        QTest::newRow("English") << QLocale(QLocale::English) << "Line: click the start; Esc ends";
-        QTest::newRow("German") << QLocale(QLocale::German)
-                                << "Linie: Startpunkt klicken; Esc beendet";
-        QTest::newRow("C") << QLocale::c() << "直线：单击起点；Esc 结束";
+        QTest::newRow("English") << QLocale(QLocale::English)
+                                 << "Line: click the start or type its coordinates; Esc ends";
+        QTest::newRow("German")
+            << QLocale(QLocale::German)
+            << "Linie: Startpunkt klicken oder Koordinaten eingeben; Esc beendet";
+        QTest::newRow("C") << QLocale::c() << "直线：单击起点，或键入坐标；Esc 结束";
     }
 
     void promptsSpeakTheLanguage()

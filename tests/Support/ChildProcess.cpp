@@ -16,6 +16,16 @@ void EndWithParent()
 
 }
 
+void ChildProcess::End()
+{
+    if (state() == QProcess::NotRunning)
+        return;
+    terminate();
+    if (!waitForFinished(3000))
+        kill();
+    waitForFinished();
+}
+
 #if QT_VERSION_MAJOR == 5
 void ChildProcess::setupChildProcess()
 {

@@ -11,27 +11,10 @@
 namespace vesk
 {
 
-namespace
-{
-
-void End(QProcess& process)
-{
-    if (process.state() == QProcess::NotRunning)
-        return;
-    process.terminate();
-    if (!process.waitForFinished(3000))
-    {
-        process.kill();
-        process.waitForFinished();
-    }
-}
-
-}
-
 XServer::~XServer()
 {
-    End(m_windowManager);
-    End(m_server);
+    m_windowManager.End();
+    m_server.End();
 }
 
 bool XServer::Start()

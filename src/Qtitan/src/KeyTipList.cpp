@@ -33,15 +33,29 @@ QStringList allKeys()
     return keys;
 }
 
-/// Grants wishes first, each to the first tip that has it, then assigns the free keys in order.
+/// Whether a free key was taken for a tip.
+bool take(KeyTip& tip, const QString& key, QStringList& free)
+{
+    if (key.isEmpty() || !free.removeOne(key))
+        return false;
+    tip.keys = key;
+    return true;
+}
+
+/// Grants fixed keys first, then wishes, each to the first tip that has it, then assigns the free
+/// keys in order. A fixed key is nobody else's, even while its control cannot be used.
 /// Tips left over when the keys run out get none.
-void assignKeys(KeyTipList& tips)
+void assignKeys(KeyTipList& tips, const QStringList& reserved)
 {
     QStringList free = allKeys();
     for (KeyTip& tip : tips)
+        take(tip, tip.fixed, free);
+    for (const QString& key : reserved)
+        free.removeOne(key);
+    for (KeyTip& tip : tips)
     {
-        if (!tip.wish.isNull() && free.removeOne(QString(tip.wish)))
-            tip.keys = tip.wish;
+        if (tip.keys.isEmpty() && !tip.wish.isNull())
+            take(tip, QString(tip.wish), free);
     }
     for (KeyTip& tip : tips)
     {
@@ -96,7 +110,7 @@ KeyTipList keyTipsOfTabs(const RibbonBar& bar)
         tip.centre = QPoint(bar.tabRect(i).center().x(), bar.tabRect(i).bottom() + 3);
         tips.push_back(tip);
     }
-    assignKeys(tips);
+    assignKeys(tips, {});
     return tips;
 }
 
@@ -106,18 +120,23 @@ KeyTipList keyTipsOfPage(const RibbonBar& bar, const RibbonPage& page)
     const QRect shown(page.mapTo(const_cast<RibbonBar*>(&bar), QPoint()), page.size());
     KeyTipList tips;
     const QList<QWidget*> controls = controlsInOrder(page);
+    QStringList reserved;
     for (QWidget* pTarget : controls)
     {
+        const QString fixed = pTarget->property(KeyTipProperty).toString();
+        if (!fixed.isEmpty())
+            reserved.append(fixed);
         if (!pTarget->isVisible() || !pTarget->isEnabled())
             continue;
         KeyTip tip;
         tip.pTarget = pTarget;
+        tip.fixed = fixed;
         tip.wish = mnemonicOf(captionOf(*pTarget, labels));
         tip.centre = badgeCentre(*pTarget, bar);
         if (shown.contains(tip.centre))
             tips.push_back(tip);
     }
-    assignKeys(tips);
+    assignKeys(tips, reserved);
     return tips;
 }
 

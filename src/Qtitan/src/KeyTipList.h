@@ -16,6 +16,7 @@ class RibbonPage;
 struct KeyTip
 {
     QString keys;
+    QString fixed; ///< The key that it has whatever the others have.
     QChar wish;
     int tab = -1;
     QPointer<QWidget> pTarget;

@@ -27,12 +27,24 @@ QVector<HelpRow> MouseRows()
     };
 }
 
+QVector<HelpRow> WalkingRows()
+{
+    return {
+        {"方向键"_tr, "光标移到下一栅格点，按 Shift 移十分之一；按 Ctrl 移动画面"_tr},
+        {"方向键之后的空格"_tr, "在光标处单击，直到按 Esc 或移动鼠标"_tr},
+        {"Shift+空格"_tr, "开始框选，再按空格结束"_tr},
+        {QStringLiteral("Ctrl++ / Ctrl+-"), "放大、缩小"_tr},
+        {QStringLiteral("F6 / Shift+F6"), "转到下一区域或上一区域：图纸、面板、功能区"_tr},
+    };
+}
+
 QVector<HelpRow> TypingRows()
 {
     return {
         {"数字"_tr, "工具运行时键入长度、半径或角度"_tr},
         {QStringLiteral("Tab"), "锁定此值，转到另一个值"_tr},
         {QStringLiteral("Enter"), "确定数值"_tr},
+        {"点的坐标"_tr, "工具要点时键入数：Tab 转到另一坐标，Enter 确定；数前加 @ 从上一点算起"_tr},
         {"空格"_tr, "键入的是数时确定（可在设置中改为键入空格）"_tr},
         {QStringLiteral("Esc"), "依次取消键入、解除锁定、结束工具、取消选取"_tr},
         {"Alt 或 F10"_tr, "显示功能区的按键"_tr},
@@ -80,6 +92,7 @@ QVector<HelpRow> ToRows(const QVector<TypedExample>& examples)
 QString MakeHelpPage(const std::vector<CommandEntry>& commands)
 {
     return ToTable("鼠标"_tr, MouseRows()) + ToTable("键入数值"_tr, TypingRows()) +
+           ToTable("不用鼠标"_tr, WalkingRows()) +
            ToTable("可以键入"_tr, ToRows(AcceptedExamples())) +
            ToTable("不会猜测，因此不接受"_tr, ToRows(RejectedExamples())) +
            ToTable("命令"_tr, CommandRows(commands));

@@ -183,7 +183,9 @@ QVariant LayerModel::headerData(int section, Qt::Orientation orientation, int ro
 {
     if (orientation != Qt::Horizontal)
         return {};
-    if (role == Qt::ToolTipRole)
+    // The mark of the current layer has no header to be seen.
+    const bool isUnseen = role == Qt::AccessibleTextRole && section == CurrentColumn;
+    if (role == Qt::ToolTipRole || isUnseen)
         return Tr(ColumnAt(section).toolTip);
     return role == Qt::DisplayRole ? Tr(ColumnAt(section).header) : QVariant();
 }

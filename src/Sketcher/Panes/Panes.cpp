@@ -15,6 +15,7 @@
 #include "HostUi/QtText.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QAction>
 #include <QDockWidget>
 #include <QMenu>
@@ -64,6 +65,16 @@ void NameDockButtons(QWidget& window)
          QDockWidget::tr("Undocks and re-attaches the dock widget"));
     Name(window, "qt_dockwidget_closebutton", QDockWidget::tr("Close"),
          QDockWidget::tr("Closes the dock widget"));
+}
+
+/// A list has no caption of its own: the title of its pane says what is in it.
+void NameLists(IWidget* pContent, const std::wstring& title)
+{
+    const auto* pWidget = dynamic_cast<QWidget*>(pContent);
+    if (pWidget == nullptr)
+        return;
+    for (QAbstractItemView* pList : pWidget->findChildren<QAbstractItemView*>())
+        pList->setAccessibleName(ToQString(title));
 }
 
 /// In the order of the menu.
@@ -174,7 +185,10 @@ void Panes::Fill()
     m_docks.GetDock(LayersName)->SetWidget(MakeOwner<LayerPane>(m_workspace));
     m_docks.GetDock(InspectorName)->SetWidget(std::move(opInspector));
     for (const PanePlace& place : FactoryPlaces())
+    {
         m_docks.GetDock(place.name)->SetTitle(Tr(TitleOf(place.name)));
+        NameLists(m_docks.GetDock(place.name)->GetWidget(), Tr(TitleOf(place.name)));
+    }
     NameDockButtons(m_window);
     Refresh();
 }

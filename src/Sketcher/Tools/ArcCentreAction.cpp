@@ -17,9 +17,9 @@ ArcCentreAction::ArcCentreAction(Workspace& workspace) : DrawingAction(workspace
 std::wstring ArcCentreAction::GetViewText() const
 {
     if (!m_centre.has_value())
-        return L"圆心圆弧：单击圆心；Esc 结束"_tr;
+        return L"圆心圆弧：单击圆心，或键入坐标；Esc 结束"_tr;
     if (!m_start.has_value())
-        return L"圆心圆弧：单击起点；Esc 结束"_tr;
+        return L"圆心圆弧：单击起点，或键入坐标；Esc 结束"_tr;
     return L"圆心圆弧：单击端点，或键入圆心角（逆时针为正）；Esc 结束"_tr;
 }
 

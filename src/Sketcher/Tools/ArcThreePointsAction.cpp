@@ -18,9 +18,9 @@ ArcThreePointsAction::ArcThreePointsAction(Workspace& workspace) : DrawingAction
 std::wstring ArcThreePointsAction::GetViewText() const
 {
     if (!m_start.has_value())
-        return L"三点圆弧：单击起点；Esc 结束"_tr;
+        return L"三点圆弧：单击起点，或键入坐标；Esc 结束"_tr;
     if (!m_end.has_value())
-        return L"三点圆弧：单击端点；Esc 结束"_tr;
+        return L"三点圆弧：单击端点，或键入坐标；Esc 结束"_tr;
     return L"三点圆弧：单击弧上一点，或键入半径；Esc 结束"_tr;
 }
 

@@ -15,7 +15,7 @@ CircleAction::CircleAction(Workspace& workspace) : DrawingAction(workspace) {}
 std::wstring CircleAction::GetViewText() const
 {
     return m_centre.has_value() ? L"圆：单击圆上一点，或键入半径；Esc 结束"_tr
-                                : L"圆：单击圆心；Esc 结束"_tr;
+                                : L"圆：单击圆心，或键入坐标；Esc 结束"_tr;
 }
 
 /// Describes the circle by three of its points, the last of them towards the cursor.

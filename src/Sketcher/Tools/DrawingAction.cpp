@@ -47,6 +47,15 @@ void DrawingAction::OnClick(const Vector3d& world)
         EndStep(GetEnd());
 }
 
+bool DrawingAction::OnPoint(const Vector3d& world)
+{
+    if (!ReplayPoint(world, std::nullopt))
+        return false;
+    m_cursor = world;
+    m_workspace.snapper.Release();
+    return true;
+}
+
 std::wstring DrawingAction::GetRefusal(InputState field, double value)
 {
     if (!Expects(field))

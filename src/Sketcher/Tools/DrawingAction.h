@@ -12,13 +12,16 @@ struct Workspace;
 ///
 /// A step ends where the user clicks, or at the point given by committed values. A value locked
 /// with Tab holds, wherever the cursor moves, until the step ends, Escape drops it or its field is
-/// emptied. A finished step is recorded: its values, then its point.
+/// emptied. A finished step is recorded: its values, then its point. After a point given by its
+/// coordinates the cursor rests there until it moves, wherever the mouse is.
 class DrawingAction : public vesk::IAction
 {
 public:
     void OnBegin(vesk::IUiView* pView) override;
     void OnMouseMove(const vesk::Vector3d& world) override;
     void OnClick(const vesk::Vector3d& world) override;
+    bool TakesPoint() const override { return !HasValues(); }
+    bool OnPoint(const vesk::Vector3d& world) override;
     std::wstring GetRefusal(vesk::InputState field, double value) override;
     void OnViewInput(const vesk::ActionViewInput& input, const vesk::TypedValue& typed) override;
     void OnValueFreed(vesk::InputState field) override;

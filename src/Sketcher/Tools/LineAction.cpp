@@ -16,7 +16,7 @@ LineAction::LineAction(Workspace& workspace) : DrawingAction(workspace) {}
 std::wstring LineAction::GetViewText() const
 {
     return m_firstPoint.has_value() ? L"直线：单击下一点，或键入长度（Tab 切换到角度）；Esc 结束"_tr
-                                    : L"直线：单击起点；Esc 结束"_tr;
+                                    : L"直线：单击起点，或键入坐标；Esc 结束"_tr;
 }
 
 OwnerPtr<ITemporaryDimensionContext> LineAction::CreateDimensionContext() const

@@ -19,8 +19,9 @@ constexpr const wchar_t* CopyName = L"复制到"_source;
 }
 
 MoveAction::MoveAction(Workspace& workspace)
-    : MoveAction(workspace, {MoveName, L"单击要移动的图元"_source,
-                             L"单击基点，或再单击一并移动的图元"_source, L"单击基点"_source})
+    : MoveAction(workspace,
+                 {MoveName, L"单击要移动的图元"_source, L"单击基点，或再单击一并移动的图元"_source,
+                  L"单击基点，或键入坐标"_source})
 {}
 
 MoveAction::MoveAction(Workspace& workspace, const Prompts& prompts)
@@ -65,8 +66,9 @@ Vector3d MoveAction::GetWayTo(const Vector3d& end) const
 }
 
 CopyAction::CopyAction(Workspace& workspace)
-    : MoveAction(workspace, {CopyName, L"单击要复制的图元"_source,
-                             L"单击基点，或再单击一并复制的图元"_source, L"单击基点"_source})
+    : MoveAction(workspace,
+                 {CopyName, L"单击要复制的图元"_source, L"单击基点，或再单击一并复制的图元"_source,
+                  L"单击基点，或键入坐标"_source})
 {}
 
 bool CopyAction::Apply(const Vector3d& end)

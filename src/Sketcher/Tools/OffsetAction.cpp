@@ -45,6 +45,11 @@ void OffsetAction::OnClick(const Vector3d& world)
         ReplayPoint(world, m_hovered);
 }
 
+bool OffsetAction::TakesPoint() const
+{
+    return GetSource() != nullptr && DrawingAction::TakesPoint();
+}
+
 /// The angle is only shown: the cursor's side gives it.
 std::wstring OffsetAction::GetRefusal(InputState field, double value)
 {

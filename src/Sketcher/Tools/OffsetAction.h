@@ -19,6 +19,7 @@ public:
     std::wstring GetViewText() const override;
     void OnMouseMove(const vesk::Vector3d& world) override;
     void OnClick(const vesk::Vector3d& world) override;
+    bool TakesPoint() const override;
     std::wstring GetRefusal(vesk::InputState field, double value) override;
     void OnViewInput(const vesk::ActionViewInput& input, const vesk::TypedValue& typed) override;
     bool ReplayPoint(const vesk::Vector3d& world, const std::optional<int>& entity) override;

@@ -35,7 +35,7 @@ RectangleAction::RectangleAction(Workspace& workspace) : DrawingAction(workspace
 std::wstring RectangleAction::GetViewText() const
 {
     return m_corner.has_value() ? L"矩形：单击对角点，或键入宽度（Tab 切换到高度）；Esc 结束"_tr
-                                : L"矩形：单击第一个角点；Esc 结束"_tr;
+                                : L"矩形：单击第一个角点，或键入坐标；Esc 结束"_tr;
 }
 
 OwnerPtr<ITemporaryDimensionContext> RectangleAction::CreateDimensionContext() const

@@ -13,9 +13,9 @@
 using namespace vesk;
 
 RotateAction::RotateAction(Workspace& workspace)
-    : SelectionAction(workspace,
-                      {L"旋转"_source, L"单击要旋转的图元"_source,
-                       L"单击旋转中心，或再单击一并旋转的图元"_source, L"单击旋转中心"_source})
+    : SelectionAction(workspace, {L"旋转"_source, L"单击要旋转的图元"_source,
+                                  L"单击旋转中心，或再单击一并旋转的图元"_source,
+                                  L"单击旋转中心，或键入坐标"_source})
 {}
 
 bool RotateAction::IsFinished() const
@@ -39,7 +39,7 @@ bool RotateAction::HasFirstPoint() const
 std::wstring RotateAction::GetNextText() const
 {
     return m_from.has_value() ? L"单击目标方向上的一点，或键入角度（逆时针为正）"_tr
-                              : L"单击起始方向上的一点"_tr;
+                              : L"单击起始方向上的一点，或键入坐标"_tr;
 }
 
 void RotateAction::AddPreview(IGraphicsNodeGroup& group) const

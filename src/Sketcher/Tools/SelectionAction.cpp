@@ -64,6 +64,11 @@ void SelectionAction::OnClick(const Vector3d& world)
         DrawingAction::OnClick(world);
 }
 
+bool SelectionAction::TakesPoint() const
+{
+    return !IsNothingSelected() && DrawingAction::TakesPoint();
+}
+
 bool SelectionAction::ReplayPoint(const Vector3d& world, const std::optional<int>& entity)
 {
     if (entity.has_value())

@@ -26,6 +26,7 @@ public:
     void OnBegin(vesk::IUiView* pView) override;
     void OnMouseMove(const vesk::Vector3d& world) override;
     void OnClick(const vesk::Vector3d& world) override;
+    bool TakesPoint() const override;
     bool ReplayPoint(const vesk::Vector3d& world, const std::optional<int>& entity) override;
     vesk::OwnerPtr<vesk::IGraphicsNodeGroup> CreateRubberBand() const override;
     Click GetClick() const override;

@@ -12,8 +12,8 @@ ZoomWindowAction::ZoomWindowAction(DrawingView& view) : m_view(view) {}
 
 std::wstring ZoomWindowAction::GetViewText() const
 {
-    return m_corner.has_value() ? L"窗口缩放：单击对角点；Esc 结束"_tr
-                                : L"窗口缩放：单击第一个角点；Esc 结束"_tr;
+    return m_corner.has_value() ? L"窗口缩放：单击对角点，或键入坐标；Esc 结束"_tr
+                                : L"窗口缩放：单击第一个角点，或键入坐标；Esc 结束"_tr;
 }
 
 void ZoomWindowAction::OnBegin(IUiView*) {}

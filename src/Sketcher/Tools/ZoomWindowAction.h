@@ -20,6 +20,7 @@ public:
     void OnBegin(vesk::IUiView* pView) override;
     void OnMouseMove(const vesk::Vector3d& world) override;
     void OnClick(const vesk::Vector3d& world) override;
+    bool TakesPoint() const override { return true; }
     bool IsFinished() const override;
     vesk::OwnerPtr<vesk::IGraphicsNodeGroup> CreateRubberBand() const override;
     bool ReplayPoint(const vesk::Vector3d& world, const std::optional<int>& entity) override;

@@ -147,6 +147,11 @@ void SketchView::OnFreeConfirm()
     emit repeatRequested();
 }
 
+double SketchView::GetCursorStep() const
+{
+    return GridStep(GetCamera().GetWorldPerPixel());
+}
+
 void SketchView::contextMenuEvent(QContextMenuEvent* pEvent)
 {
     if (IActionManager::CurrentAction() != nullptr || m_mouse.IsPressed())
@@ -154,9 +159,12 @@ void SketchView::contextMenuEvent(QContextMenuEvent* pEvent)
         DrawingView::contextMenuEvent(pEvent);
         return;
     }
-    if (pEvent->reason() == QContextMenuEvent::Mouse)
-        SelectBelow(pEvent->pos());
-    emit menuRequested(pEvent->globalPos());
+    const bool isOfMouse = pEvent->reason() == QContextMenuEvent::Mouse;
+    const bool isAtCursor = !isOfMouse && IsWalking();
+    const QPoint place = isAtCursor ? ToPixel(GetWalked()).toPoint() : pEvent->pos();
+    if (isOfMouse || isAtCursor)
+        SelectBelow(place);
+    emit menuRequested(isAtCursor ? mapToGlobal(place) : pEvent->globalPos());
 }
 
 /// Shift may be released in the editor of a value.

@@ -51,6 +51,7 @@ protected:
     void OnFreeClick(const vesk::Vector3d& world, Qt::KeyboardModifiers modifiers) override;
     void OnFreeEscape() override;
     void OnFreeConfirm() override;
+    double GetCursorStep() const override;
     QCursor GetRestingCursor() const override;
 
     void contextMenuEvent(QContextMenuEvent* pEvent) override;

@@ -106,6 +106,19 @@ class LayerPaneTest final : public QObject
     Q_OBJECT
 
 private slots:
+    void everyColumnHasANameForScreenReaders()
+    {
+        Fixture f;
+        const QAbstractItemModel& model = *f.View().model();
+
+        const QVariant mark =
+            model.headerData(LayerModel::CurrentColumn, Qt::Horizontal, Qt::AccessibleTextRole);
+
+        QVERIFY(mark.toString().contains("当前图层"));
+        QCOMPARE(model.headerData(LayerModel::NameColumn, Qt::Horizontal, Qt::AccessibleTextRole),
+                 QVariant());
+    }
+
     void thePaneMayGoWhileALayerChanges_data()
     {
         QTest::addColumn<QString>("button");

@@ -325,8 +325,8 @@ private slots:
         const std::wstring third = f.action.GetViewText();
         f.ClickAt(10, 25);
 
-        QVERIFY(first.find(L"单击圆心；") != std::wstring::npos);
-        QVERIFY(second.find(L"单击起点；") != std::wstring::npos);
+        QVERIFY(first.find(L"单击圆心，") != std::wstring::npos);
+        QVERIFY(second.find(L"单击起点，") != std::wstring::npos);
         QVERIFY(third.find(L"单击端点，") != std::wstring::npos);
         QCOMPARE(f.action.GetViewText(), first);
     }

@@ -397,8 +397,8 @@ private slots:
         const std::wstring third = f.action.GetViewText();
         f.ClickAt(0, 5);
 
-        QVERIFY(first.find(L"单击起点；") != std::wstring::npos);
-        QVERIFY(second.find(L"单击端点；") != std::wstring::npos);
+        QVERIFY(first.find(L"单击起点，") != std::wstring::npos);
+        QVERIFY(second.find(L"单击端点，") != std::wstring::npos);
         QVERIFY(third.find(L"单击弧上一点，") != std::wstring::npos);
         QCOMPARE(f.action.GetViewText(), first);
     }

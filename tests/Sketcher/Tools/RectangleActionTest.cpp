@@ -49,6 +49,66 @@ private slots:
         QVERIFY(f.IsRepeated());
     }
 
+    void pointGivenByItsCoordinatesIsUsedAsItIs()
+    {
+        Fixture f;
+        f.workspace.snapper.SetOn(Snapper::Grid, true);
+        f.Begin();
+        f.MoveTo(-500, -300);
+
+        QVERIFY(f.action.OnPoint({10.25, 20.5, 0}));
+        QVERIFY(f.action.OnPoint({-30.75, 70, 0}));
+
+        QCOMPARE(f.Drawn<RectangleShape>().corners,
+                 (Corners{Vector3d(10.25, 20.5, 0), Vector3d(-30.75, 20.5, 0),
+                          Vector3d(-30.75, 70, 0), Vector3d(10.25, 70, 0)}));
+        QVERIFY(f.IsRepeated());
+    }
+
+    void sizesTypedAfterItGoRightAndUpWhereverTheMouseIs()
+    {
+        Fixture f;
+        f.Begin();
+        f.MoveTo(-500, -300);
+        f.action.OnPoint({10, 20, 0});
+
+        f.Type(ActionViewInput::WidthEntered, 120);
+        f.Type(ActionViewInput::HeightCommitted, 80);
+
+        QCOMPARE(f.Drawn<RectangleShape>().corners,
+                 (Corners{Vector3d(10, 20, 0), Vector3d(130, 20, 0), Vector3d(130, 100, 0),
+                          Vector3d(10, 100, 0)}));
+        QVERIFY(f.IsRepeated());
+    }
+
+    void pointIsNotTakenWhileAValueIsLocked()
+    {
+        Fixture f;
+        f.Begin();
+        f.ClickAt(10, 20);
+        QVERIFY(f.action.TakesPoint());
+
+        f.Type(ActionViewInput::WidthEntered, 120);
+
+        QVERIFY(!f.action.TakesPoint());
+    }
+
+    void pointThatCannotBeUsedChangesNothing()
+    {
+        Fixture f;
+        f.Begin();
+        f.ClickAt(10, 20);
+        f.MoveTo(60, 70);
+        const std::size_t records = f.records.size();
+
+        QVERIFY(!f.action.OnPoint({10, 50, 0}));
+
+        QCOMPARE(f.Count(), std::size_t{0});
+        QCOMPARE(f.records.size(), records);
+        f.Type(ActionViewInput::WidthCommitted, 5);
+        QCOMPARE(f.Drawn<RectangleShape>().corners[2], Vector3d(15, 70, 0));
+    }
+
     void typedSizesGoIntoTheQuadrantOfTheCursor_data()
     {
         QTest::addColumn<double>("cursorX");

@@ -91,6 +91,10 @@ public:
     /// The same for a click.
     static void ProcessClick(IUiView* pView, const Vector3d& world);
 
+    /// Passes a point given by its coordinates to the running action. Returns false if it has no
+    /// use for it. The action and the caller may be gone afterwards.
+    static bool ProcessPoint(IUiView* pView, const Vector3d& world);
+
     /// Drops the action's locked values or, if there are none, ends it.
     static void ProcessEscape(IUiView* pView);
 

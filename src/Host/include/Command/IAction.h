@@ -38,6 +38,13 @@ public:
     /// The user clicked at a world point.
     virtual void OnClick(const Vector3d& world) = 0;
 
+    /// Whether a point given by its coordinates would be used now as a click there would.
+    virtual bool TakesPoint() const { return false; }
+
+    /// The user gave a point by its coordinates, while TakesPoint is true: unlike that of a click
+    /// it is used as it is. Returns false if it cannot be used here; nothing has changed then.
+    virtual bool OnPoint(const Vector3d& world) { return ReplayPoint(world, std::nullopt); }
+
     /// Why a typed value cannot be used now, shown to the user in its field before the value is
     /// committed; empty if it can be used. The value is in model units. Has no side effects.
     virtual std::wstring GetRefusal(InputState /*field*/, double /*value*/) { return {}; }

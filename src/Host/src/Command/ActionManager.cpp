@@ -127,6 +127,14 @@ void ActionManager::ProcessClick(IUiView* /*pView*/, const Vector3d& world)
         Runner().OperateStep([&world](IAction& action) { action.OnClick(world); });
 }
 
+bool ActionManager::ProcessPoint(IUiView* /*pView*/, const Vector3d& world)
+{
+    bool isUsed = false;
+    Runner().OperateStep(
+        [&](IAction& action) { isUsed = action.TakesPoint() && action.OnPoint(world); });
+    return isUsed;
+}
+
 void ActionManager::ProcessEscape(IUiView* /*pView*/)
 {
     if (HoldInput([] { ProcessEscape(nullptr); }))

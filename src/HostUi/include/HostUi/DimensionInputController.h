@@ -22,6 +22,7 @@ namespace vesk
 class EditorNotes;
 class EscapeKey;
 class LateUnit;
+class PointInput;
 struct InputField;
 struct TypedReading;
 
@@ -35,6 +36,10 @@ struct TypedReading;
 /// Space that committed the value is dropped, and the view text says so. Installed while it lives.
 ///
 /// The editor is as wide as its text needs. Closing its window ends the input instead.
+///
+/// A point can be typed, too: where the action takes one (`IAction::TakesPoint`), a character that
+/// can begin a number, and no dimension uses, opens two fields beside the cursor; an `@` does so
+/// also while there are dimensions. A click in the view closes them.
 class VESK_HOST_UI_API DimensionInputController final : public QObject,
                                                         public IJournalObserver,
                                                         public ITemporaryDimensionHandlerAccess
@@ -56,7 +61,20 @@ public:
     /// The editor while a value is being typed in it; else null.
     QLineEdit* GetActiveEditor() const;
 
-    /// Why the text was rejected; empty if it was not.
+    /// Where the user types now: that editor, or the field of a coordinate; else null.
+    QLineEdit* GetOpenField() const;
+
+    /// The texts of a point that is being typed, and why one of them was rejected; nothing if none
+    /// is.
+    struct TypedPoint
+    {
+        QString x;
+        QString y;
+        QString message;
+    };
+    std::optional<TypedPoint> GetTypedPoint() const;
+
+    /// Why the text in the editor was rejected; empty if it was not.
     QString GetMessage() const;
 
     /// The value of the editor's text in the display unit, in range or not; nothing if it has no
@@ -95,11 +113,10 @@ protected:
     bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
 
 private:
-    class Delivery;
-
     void NoteCursor(const QObject* pWatched, const QEvent& event);
     void NoteClick(QObject* pWatched, const QEvent& event);
     void NoteOtherKey(const QEvent& event);
+    bool FilterPointEvent(QEvent& event);
     bool FilterEditorEvent(QEvent& event);
     bool FilterEditorKey(QKeyEvent& event);
     bool CommitsWithSpace(const TypedReading& reading, const InputField& field) const;
@@ -110,7 +127,7 @@ private:
     void EndLateUnit();
     std::optional<double> Accept(QLineEdit& editor, const InputField& field);
     void HoldKey(QKeyEvent& event);
-    bool OpenInput(const QKeyEvent& event);
+    bool OpenInput(QKeyEvent& event);
     void OnEditorHidden();
     void OnTextEdited();
     void FitEditor();
@@ -121,6 +138,7 @@ private:
     std::unique_ptr<EditorNotes> m_pNotes;
     std::unique_ptr<EscapeKey> m_pEscape;
     std::unique_ptr<LateUnit> m_pLateUnit;
+    std::unique_ptr<PointInput> m_pPoint;
 
     /// The window that was clicked last since the editor was hidden.
     QPointer<QWidget> m_pClicked;

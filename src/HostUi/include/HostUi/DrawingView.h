@@ -5,6 +5,7 @@
 #include "View/ModelView.h"
 
 #include <QCursor>
+#include <QEvent>
 #include <QPointer>
 #include <QTimer>
 #include <QWidget>
@@ -22,6 +23,11 @@ class ModelPicture;
 /// Base of drawing views: camera, keys and clicks of the running action, provisional graphics.
 ///
 /// The middle button pans, the wheel zooms about the cursor. The derived class paints the model.
+///
+/// The arrow keys move the cursor, from grid point to grid point, with Shift by a tenth of that;
+/// the picture follows it. From then on Space is a click there, until Escape or until the mouse
+/// moves. Shift+Space presses, and the next Space lets go: the arrows between them drag. Ctrl with
+/// an arrow moves the picture, the keys for zooming magnify it.
 class VESK_HOST_UI_API DrawingView : public QWidget, public IUiView
 {
     Q_OBJECT
@@ -60,6 +66,10 @@ public:
 
     /// True if the view was painted since its last change and shows the whole model as it is.
     bool IsWhole() const;
+
+    /// Whether the arrow keys move the cursor, and the world point to which they have moved it.
+    bool IsWalking() const { return m_walked.has_value(); }
+    const Vector3d& GetWalked() const { return *m_walked; }
 
     /// Emits cursorMoved again if the cursor is in the view, because what it points at has changed.
     void TellCursor();
@@ -117,8 +127,11 @@ protected:
     /// The user pressed Escape while no action was running and no input was open.
     virtual void OnFreeEscape() {}
 
-    /// The user pressed Return, Enter or Space while no action was running. A key held down counts
-    /// once.
+    /// The distance between the grid points on which the arrow keys put the cursor, in model units.
+    virtual double GetCursorStep() const;
+
+    /// The user pressed Return, Enter or, if it is no click, Space while no action was running. A
+    /// key held down counts once.
     virtual void OnFreeConfirm() {}
 
     /// Passes the cursor, if it is in the view, to the running action again, because what it means
@@ -150,6 +163,14 @@ private:
         Pan,
     };
 
+    bool MovePicture(const QKeyEvent& event);
+    bool Walk(const QKeyEvent& event);
+    bool IsPick(const QKeyEvent& event) const;
+    void Pick(Qt::KeyboardModifiers modifiers);
+    void EndWalk();
+    void BringIntoView(const Vector3d& world);
+    void SendMouse(QEvent::Type type, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
+    Vector3d ToWorld(const QPointF& pixel) const;
     void OnCameraChanged();
     QTransform TakePictureMove();
     void FollowCamera();
@@ -165,8 +186,12 @@ private:
     mutable ModelView m_camera;
     QString m_viewText;
     Drag m_drag = Drag::None;
-    std::optional<QPointF> m_cursor; ///< In pixels; nothing while it is elsewhere.
+    std::optional<QPointF> m_cursor;  ///< In pixels; nothing while it is elsewhere.
+    std::optional<Vector3d> m_walked; ///< Where the arrow keys have put the cursor.
+    bool m_isButtonHeld = false;      ///< By Shift+Space.
+    QPoint m_restingMouse;            ///< Where the mouse was then, on the screen.
     QPointF m_dragPosition;
+    const QEvent* m_pForwarded = nullptr; ///< What the view passes to a field; not owned.
     QPointer<QWidget> m_pWatchedWindow;
     bool m_hasScale = false;
     bool m_isPaintedAtOnce = false;

@@ -64,9 +64,11 @@ signals:
     void closeAccepted();
 
 protected:
+    void changeEvent(QEvent* pEvent) override;
     void closeEvent(QCloseEvent* pEvent) override;
 
 private:
+    void NameLabels();
     void OnCursorMoved(double x, double y);
     void ShowWarningCount();
 

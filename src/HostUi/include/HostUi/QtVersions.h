@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 #include <QList>
 #include <QMouseEvent>
+#include <QPoint>
 #include <QPointF>
 #include <QVariant>
 #include <QWidget>
@@ -48,6 +49,16 @@ inline QPointF PositionOf(const QMouseEvent& event)
     return event.localPos();
 #else
     return event.position();
+#endif
+}
+
+/// Where it is on the screens.
+inline QPoint GlobalPositionOf(const QMouseEvent& event)
+{
+#if QT_VERSION_MAJOR == 5
+    return event.globalPos();
+#else
+    return event.globalPosition().toPoint();
 #endif
 }
 

@@ -18,6 +18,7 @@ class QEventLoop;
 namespace vesk
 {
 
+class AccessibleObjects;
 class ClosedPopupKeys;
 
 /// The application on Qt: posted events, the event loop of actions, the user-interface services.
@@ -67,6 +68,7 @@ private:
     IDockManager* m_pDockManager = nullptr;
     QEventLoop* m_pActionLoop = nullptr;
     std::unique_ptr<ClosedPopupKeys> m_pPopupKeys;
+    std::unique_ptr<AccessibleObjects> m_pAccessibleObjects;
 
     /// Widgets that received a paint event and may still be painting.
     std::vector<QPointer<QWidget>> m_painted;

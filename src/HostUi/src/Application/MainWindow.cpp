@@ -1,5 +1,6 @@
 #include "HostUi/MainWindow.h"
 
+#include "Application/FocusAreas.h"
 #include "Texts/HostUiText.h"
 
 #include "Command/ActionManager.h"
@@ -66,6 +67,7 @@ MainWindow::MainWindow()
     m_pStates->setMinimumWidth(1);
     m_pStates->hide();
 
+    new FocusAreas(*this);
     // The host identifies windows by their native window.
     winId();
     SetMainWindow(this);
@@ -99,10 +101,25 @@ void MainWindow::OnDebugWarning(const DebugWarning&)
 void MainWindow::SetDrawingView(DrawingView* pView)
 {
     setCentralWidget(pView);
+    NameLabels();
     connect(pView, &DrawingView::viewTextChanged, m_pHint, &QLabel::setText);
     connect(pView, &DrawingView::viewTextChanged, m_pHint, &QLabel::setToolTip);
     connect(pView, &DrawingView::cursorMoved, this, &MainWindow::OnCursorMoved);
     connect(pView, &DrawingView::cursorLeft, m_pCursor, &QLabel::clear);
+}
+
+/// What each of the labels is about; its text is its name.
+void MainWindow::NameLabels()
+{
+    m_pHint->setAccessibleDescription("提示"_tr);
+    m_pCursor->setAccessibleDescription("光标位置"_tr);
+}
+
+void MainWindow::changeEvent(QEvent* pEvent)
+{
+    if (pEvent->type() == QEvent::LanguageChange)
+        NameLabels();
+    QMainWindow::changeEvent(pEvent);
 }
 
 void MainWindow::AddBar(QWidget* pBar)

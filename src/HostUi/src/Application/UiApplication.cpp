@@ -1,5 +1,6 @@
 #include "HostUi/UiApplication.h"
 
+#include "Accessibility/AccessibleObjects.h"
 #include "Application/ClosedPopupKeys.h"
 #include "Warnings/DebugMessageMgr.h"
 
@@ -53,7 +54,9 @@ bool IsPainting(const QPointer<QWidget>& pWidget)
 
 }
 
-UiApplication::UiApplication() : m_pPopupKeys(std::make_unique<ClosedPopupKeys>())
+UiApplication::UiApplication()
+    : m_pPopupKeys(std::make_unique<ClosedPopupKeys>()),
+      m_pAccessibleObjects(std::make_unique<AccessibleObjects>())
 {
     IApplication::Set(this);
     IUiManager::Set(this);

@@ -116,11 +116,11 @@ void RibbonFocus::GiveBack()
         QGuiApplication::applicationState() != Qt::ApplicationActive)
         return;
     m_view.Activate();
-    QLineEdit* pEditor = m_input.GetActiveEditor();
-    if (pEditor == nullptr)
+    QLineEdit* pField = m_input.GetOpenField();
+    if (pField == nullptr)
         return;
-    pEditor->activateWindow();
-    pEditor->setFocus(Qt::OtherFocusReason);
+    pField->activateWindow();
+    pField->setFocus(Qt::OtherFocusReason);
 }
 
 }

@@ -1,15 +1,18 @@
 #include "HostUi/DrawingView.h"
 
+#include "Accessibility/AccessibleTexts.h"
 #include "Command/ActionManager.h"
 #include "Command/IAction.h"
 #include "Command/IActionManager.h"
 #include "Dimension/TemporaryDimensionMgr.h"
+#include "Drawing/CursorWalk.h"
 #include "Drawing/ModelPicture.h"
 #include "HostUi/DimensionInputController.h"
 #include "HostUi/ProvisionalPainter.h"
 #include "HostUi/QtText.h"
 #include "HostUi/QtVersions.h"
 #include "HostUi/ViewPixel.h"
+#include "Input/MemberScope.h"
 
 #include <QCoreApplication>
 #include <QKeyEvent>
@@ -26,11 +29,10 @@ namespace vesk
 namespace
 {
 
-bool IsConfirmation(const QKeyEvent& event)
+/// False for what the view sends itself.
+bool IsOfMouse(const QMouseEvent& event)
 {
-    const int key = event.key();
-    const bool isPlain = !(event.modifiers() & ~Qt::KeypadModifier) && !event.isAutoRepeat();
-    return isPlain && (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space);
+    return event.source() != Qt::MouseEventSynthesizedByApplication;
 }
 
 }
@@ -44,6 +46,7 @@ DrawingView::DrawingView(std::uint32_t id, DimensionInputController& input, QWid
     setMouseTracking(true);
     setCursor(Qt::CrossCursor);
     setMinimumSize(300, 200);
+    SetAccessibleRole(*this, QAccessible::Canvas);
     // The host identifies views by their native window.
     winId();
 }
@@ -114,14 +117,14 @@ void DrawingView::TellCursor()
 {
     if (!m_cursor.has_value())
         return;
-    const Vector3d world = m_camera.ScreenToWorld(m_cursor->x(), m_cursor->y());
+    const Vector3d world = ToWorld(*m_cursor);
     emit cursorMoved(world.x(), world.y());
 }
 
 void DrawingView::PassCursor()
 {
     if (m_cursor.has_value())
-        ActionManager::ProcessMouseMove(this, m_camera.ScreenToWorld(m_cursor->x(), m_cursor->y()));
+        ActionManager::ProcessMouseMove(this, ToWorld(*m_cursor));
 }
 
 QPointF DrawingView::ToPixel(const Vector3d& world) const
@@ -171,13 +174,15 @@ void DrawingView::changeEvent(QEvent* pEvent)
 
 bool DrawingView::event(QEvent* pEvent)
 {
-    // While the window system has not moved the keyboard yet, the editor says which keys it needs.
-    QLineEdit* pEditor =
-        pEvent->type() == QEvent::ShortcutOverride ? m_input.GetActiveEditor() : nullptr;
-    if (pEditor == nullptr)
+    // While the window system has not moved the keyboard yet, the field says which keys it needs.
+    QLineEdit* pField =
+        pEvent->type() == QEvent::ShortcutOverride ? m_input.GetOpenField() : nullptr;
+    // What a field in the view does not need comes back here.
+    if (pField == nullptr || pEvent == m_pForwarded)
         return QWidget::event(pEvent);
+    const MemberScope<const QEvent> forwarded(*this, m_pForwarded, pEvent);
     pEvent->ignore();
-    QCoreApplication::sendEvent(pEditor, pEvent);
+    QCoreApplication::sendEvent(pField, pEvent);
     return true;
 }
 
@@ -195,27 +200,25 @@ bool DrawingView::focusNextPrevChild(bool isNext)
     return IActionManager::CurrentAction() == nullptr && QWidget::focusNextPrevChild(isNext);
 }
 
-void DrawingView::keyPressEvent(QKeyEvent* pEvent)
-{
-    if (m_input.OnViewKey(*pEvent))
-        return;
-    if (pEvent->key() == Qt::Key_Escape)
-        OnFreeEscape();
-    else if (IsConfirmation(*pEvent) && IActionManager::CurrentAction() == nullptr)
-        OnFreeConfirm();
-    else
-        QWidget::keyPressEvent(pEvent);
-}
-
 void DrawingView::leaveEvent(QEvent* pEvent)
 {
-    m_cursor.reset();
-    emit cursorLeft();
+    if (!m_walked.has_value())
+    {
+        m_cursor.reset();
+        emit cursorLeft();
+    }
     QWidget::leaveEvent(pEvent);
 }
 
 void DrawingView::mouseMoveEvent(QMouseEvent* pEvent)
 {
+    if (IsOfMouse(*pEvent))
+    {
+        // The toolkit sends moves also when something else has moved.
+        if (m_walked.has_value() && GlobalPositionOf(*pEvent) == m_restingMouse)
+            return;
+        EndWalk();
+    }
     m_cursor = PositionOf(*pEvent);
     if (m_drag == Drag::Pan)
     {
@@ -231,6 +234,8 @@ void DrawingView::mouseMoveEvent(QMouseEvent* pEvent)
 
 void DrawingView::mousePressEvent(QMouseEvent* pEvent)
 {
+    if (IsOfMouse(*pEvent))
+        EndWalk();
     if (pEvent->button() == Qt::MiddleButton)
     {
         m_drag = Drag::Pan;
@@ -271,6 +276,8 @@ void DrawingView::paintEvent(QPaintEvent*)
     if (const IGraphicsNodeGroup* pDimensions = TemporaryDimensionMgr::GetInstance()->GetGraphics())
         pDimensions->Accept(provisional);
     PaintOverlay(painter);
+    if (m_walked.has_value())
+        PaintWalkedCursor(painter, ToPixel(*m_walked), palette());
 }
 
 void DrawingView::resizeEvent(QResizeEvent*)
@@ -299,6 +306,7 @@ void DrawingView::wheelEvent(QWheelEvent* pEvent)
 {
     constexpr double StepsPerDoubling = 480.0;
     const double factor = std::pow(2.0, pEvent->angleDelta().y() / StepsPerDoubling);
+    EndWalk();
     m_cursor = pEvent->position();
     m_camera.ZoomAbout(pEvent->position().x(), pEvent->position().y(), factor);
     OnCameraChanged();
@@ -307,6 +315,8 @@ void DrawingView::wheelEvent(QWheelEvent* pEvent)
 
 void DrawingView::OnCameraChanged()
 {
+    if (m_walked.has_value())
+        m_cursor = ToPixel(*m_walked);
     ActionManager::RenewViewInput(this);
     m_isCameraMoved = true;
     m_nextSlice.stop();
@@ -400,8 +410,7 @@ void DrawingView::OnSliceDue()
 void DrawingView::OnClick(const QMouseEvent& event)
 {
     setFocus(Qt::MouseFocusReason);
-    const QPointF position = PositionOf(event);
-    const Vector3d world = m_camera.ScreenToWorld(position.x(), position.y());
+    const Vector3d world = ToWorld(PositionOf(event));
     if (m_input.GetActiveEditor() != nullptr && !ActionManager::IsCommandWaiting())
     {
         ActionManager::ProcessMouseMove(this, world);

@@ -1,5 +1,6 @@
 #include "HostUi/DimensionInputController.h"
 
+#include "Accessibility/AccessibleTexts.h"
 #include "Command/ActionManager.h"
 #include "Command/IActionManager.h"
 #include "Command/TypedValue.h"
@@ -12,12 +13,14 @@
 #include "Input/EditorNotes.h"
 #include "Input/EditorWidth.h"
 #include "Input/EscapeKey.h"
+#include "Input/HeldKey.h"
 #include "Input/InputJudge.h"
-#include "Input/KeptKey.h"
 #include "Input/KeyCode.h"
 #include "Input/KeyTarget.h"
 #include "Input/LateUnit.h"
+#include "Input/MemberScope.h"
 #include "Input/NoteLayout.h"
+#include "Input/PointInput.h"
 #include "Input/TextCollector.h"
 #include "Journal/IJournalUiObject.h"
 #include "View/IUiDocumentViewManager.h"
@@ -46,15 +49,6 @@ QWidget* CurrentViewWidget()
     return pView != nullptr ? QWidget::find(pView->GetWindowId()) : nullptr;
 }
 
-/// Delivers a held Escape: ends the input or, if there is none, goes to the action.
-void TakeEscape()
-{
-    if (Manager().IsInputting())
-        Manager().EndInput();
-    else
-        ActionManager::ProcessEscape(UiDocumentViewManager::FindCurrentView());
-}
-
 TypedReading Read(const QLineEdit& editor, const InputField& field)
 {
     return ReadTypedText(editor.text(), field.quantity, LengthUnit::GetCurrent());
@@ -62,32 +56,11 @@ TypedReading Read(const QLineEdit& editor, const InputField& field)
 
 }
 
-/// Marks a judged key as being delivered to the handler, so that it is not judged again.
-class DimensionInputController::Delivery
-{
-public:
-    Delivery(DimensionInputController& controller, const QEvent& event) : m_pController(&controller)
-    {
-        controller.m_pDelivered = &event;
-    }
-
-    ~Delivery()
-    {
-        if (m_pController != nullptr)
-            m_pController->m_pDelivered = nullptr;
-    }
-
-    Delivery(const Delivery&) = delete;
-    Delivery& operator=(const Delivery&) = delete;
-
-private:
-    QPointer<DimensionInputController> m_pController;
-};
-
 DimensionInputController::DimensionInputController()
     : m_pNotes(std::make_unique<EditorNotes>()), m_pEscape(std::make_unique<EscapeKey>()),
-      m_pLateUnit(std::make_unique<LateUnit>())
+      m_pLateUnit(std::make_unique<LateUnit>()), m_pPoint(std::make_unique<PointInput>(*m_pEscape))
 {
+    connect(m_pPoint.get(), &PointInput::changed, this, &DimensionInputController::UpdateNotes);
     JournalManager::GetInstance().AddObserver(this);
     Manager().SetHandlerAccess(this);
     qApp->installEventFilter(this);
@@ -108,10 +81,10 @@ bool DimensionInputController::OnViewKey(QKeyEvent& event)
         HoldKey(event);
         return true;
     }
-    if (QLineEdit* pEditor = GetActiveEditor())
+    if (QLineEdit* pField = GetOpenField())
     {
         m_pClicked.clear();
-        QCoreApplication::sendEvent(pEditor, &event);
+        QCoreApplication::sendEvent(pField, &event);
         // A key that the editor ignores would also be offered to the window.
         event.accept();
         return true;
@@ -142,6 +115,19 @@ bool DimensionInputController::Commit()
 QLineEdit* DimensionInputController::GetActiveEditor() const
 {
     return Manager().IsInputting() ? qobject_cast<QLineEdit*>(m_pEditor) : nullptr;
+}
+
+QLineEdit* DimensionInputController::GetOpenField() const
+{
+    QLineEdit* pEditor = GetActiveEditor();
+    return pEditor != nullptr ? pEditor : m_pPoint->GetField();
+}
+
+std::optional<DimensionInputController::TypedPoint> DimensionInputController::GetTypedPoint() const
+{
+    if (m_pPoint->GetField() == nullptr)
+        return std::nullopt;
+    return TypedPoint{m_pPoint->GetText(0), m_pPoint->GetText(1), m_pPoint->GetRefusal()};
 }
 
 QString DimensionInputController::GetMessage() const
@@ -210,6 +196,8 @@ bool DimensionInputController::eventFilter(QObject* pWatched, QEvent* pEvent)
     NoteCursor(pWatched, *pEvent);
     NoteClick(pWatched, *pEvent);
     NoteOtherKey(*pEvent);
+    if (pWatched == m_pPoint->GetField() && pWatched != nullptr)
+        return FilterPointEvent(*pEvent);
     return pWatched == m_pEditor && pWatched != nullptr && FilterEditorEvent(*pEvent);
 }
 
@@ -222,9 +210,11 @@ void DimensionInputController::NoteCursor(const QObject* pWatched, const QEvent&
     m_cursor.reset();
     if (isMouse)
         m_cursor = static_cast<const QMouseEvent&>(event).pos();
+    m_pPoint->MoveTo(m_cursor);
 }
 
-/// Any click decides about letters that may become a unit, before it is delivered.
+/// Any click decides about letters that may become a unit, before it is delivered. One in the view
+/// gives the point that was being typed.
 void DimensionInputController::NoteClick(QObject* pWatched, const QEvent& event)
 {
     if (event.type() != QEvent::MouseButtonPress && event.type() != QEvent::MouseButtonDblClick)
@@ -232,6 +222,9 @@ void DimensionInputController::NoteClick(QObject* pWatched, const QEvent& event)
     if (const auto* pWidget = qobject_cast<QWidget*>(pWatched))
         m_pClicked = pWidget->window();
     EndLateUnit();
+    const bool isLeft = static_cast<const QMouseEvent&>(event).button() == Qt::LeftButton;
+    if (isLeft && pWatched == CurrentViewWidget())
+        m_pPoint->Close();
 }
 
 /// So does a key that is a shortcut, which the view never receives.
@@ -242,6 +235,14 @@ void DimensionInputController::NoteOtherKey(const QEvent& event)
     const auto& key = static_cast<const QKeyEvent&>(event);
     if (!IsModifierKey(key) && !m_pLateUnit->CanTake(key))
         EndLateUnit();
+}
+
+bool DimensionInputController::FilterPointEvent(QEvent& event)
+{
+    const bool isHeld = event.type() == QEvent::KeyPress && ActionManager::IsCommandWaiting();
+    if (isHeld)
+        HoldKey(static_cast<QKeyEvent&>(event));
+    return isHeld;
 }
 
 bool DimensionInputController::FilterEditorEvent(QEvent& event)
@@ -345,7 +346,8 @@ void DimensionInputController::TakeValue(QLineEdit& editor, QKeyEvent& event,
     }
     m_isTextTyped = m_isTextTyped && event.key() != Qt::Key_Tab;
     const EditorTextScope text(typed);
-    const Delivery delivery(*this, event);
+    // So that it is not judged again when the editor receives it.
+    const MemberScope<const QEvent> delivered(*this, m_pDelivered, &event);
     QCoreApplication::sendEvent(&editor, &event);
 }
 
@@ -412,25 +414,22 @@ std::optional<double> DimensionInputController::Accept(QLineEdit& editor, const 
 /// Holds a key that is meant for a command that has not begun yet.
 void DimensionInputController::HoldKey(QKeyEvent& event)
 {
-    event.accept();
-    if (event.key() == Qt::Key_Escape)
-    {
-        // Checked now, because its release will not wait.
-        if (m_pEscape->Press(event))
-            ActionManager::HoldInput(&TakeEscape);
-        return;
-    }
     const QPointer<DimensionInputController> pSelf(this);
-    ActionManager::HoldInput([pSelf, kept = KeptKey(event)] {
-        QKeyEvent again = kept.ToEvent();
+    vesk::HoldKey(event, *m_pEscape, [pSelf](QKeyEvent& held) {
         if (pSelf != nullptr)
-            pSelf->OnViewKey(again);
+            pSelf->OnViewKey(held);
     });
 }
 
 /// False for a key that cannot open an input.
-bool DimensionInputController::OpenInput(const QKeyEvent& event)
+bool DimensionInputController::OpenInput(QKeyEvent& event)
 {
+    QWidget* pView = CurrentViewWidget();
+    if (pView != nullptr && PointInput::IsBegunBy(event))
+    {
+        m_pPoint->Open(*pView, m_cursor, event);
+        return true;
+    }
     const int virtualKey = ToVirtualKey(event);
     const Qt::KeyboardModifiers modifiers = event.modifiers();
     if (virtualKey != 0)
@@ -478,13 +477,13 @@ void DimensionInputController::FitEditor()
 
 void DimensionInputController::UpdateNotes()
 {
-    const QLineEdit* pEditor = GetActiveEditor();
+    QLineEdit* pEditor = GetActiveEditor();
     QWidget* pView = CurrentViewWidget();
+    if (pView != nullptr && m_pPoint->GetField() != nullptr)
+        return m_pNotes->Show(*pView, {pView->size(), m_pPoint->GetRect(), m_cursor, {}},
+                              m_pPoint->GetNotes(m_isKeyStripShown));
     if (pEditor == nullptr || pView == nullptr || !pEditor->isVisible())
-    {
-        m_pNotes->Hide();
-        return;
-    }
+        return m_pNotes->Hide();
     const InputField field = Manager().GetInputField();
     NoteTexts texts{m_refusal, {}, {}};
     const TypedReading reading = Read(*pEditor, field);
@@ -492,6 +491,8 @@ void DimensionInputController::UpdateNotes()
         texts.value = DescribeValue(reading, field.quantity, LengthUnit::GetCurrent());
     if (m_isKeyStripShown)
         texts.keys = DescribeKeys(field, CommitsWithSpace(reading, field));
+    SetAccessibleTexts(*pEditor, ToQString(CaptionOf(field.state)),
+                       m_refusal.isEmpty() ? texts.value : m_refusal);
     const QPoint corner = pView->mapFromGlobal(pEditor->mapToGlobal(QPoint(0, 0)));
     if (!m_texts.has_value())
         m_texts = FindDimensionTexts(*UiDocumentViewManager::FindCurrentView(), *pView);

@@ -1,5 +1,7 @@
 #include "Input/EditorNotes.h"
 
+#include "Accessibility/AccessibleTexts.h"
+
 #include <algorithm>
 #include <vector>
 
@@ -13,15 +15,20 @@ struct NoteKind
 {
     const char* name;
     const char* colours;
+    bool isAlert;
 };
 
 /// In the order in which they are placed.
 constexpr NoteKind Kinds[] = {
-    {"InputValue", "background: palette(base); color: palette(text); "
-                   "border: 1px solid palette(highlight)"},
-    {"InputRefusal", "background: #b03a37; color: white"},
-    {"InputKeys", "background: palette(window); color: palette(window-text); "
-                  "border: 1px solid palette(mid)"},
+    {"InputValue",
+     "background: palette(base); color: palette(text); "
+     "border: 1px solid palette(highlight)",
+     false},
+    {"InputRefusal", "background: #b03a37; color: white", true},
+    {"InputKeys",
+     "background: palette(window); color: palette(window-text); "
+     "border: 1px solid palette(mid)",
+     false},
 };
 
 /// The first is placed beside the editor, the others below it.
@@ -33,6 +40,9 @@ QLabel* MakeNote(const NoteKind& kind, QWidget& view)
     pNote->setObjectName(QLatin1String(kind.name));
     pNote->setAttribute(Qt::WA_TransparentForMouseEvents);
     pNote->setFocusPolicy(Qt::NoFocus);
+    // Screen readers say at once what appears as an alert.
+    if (kind.isAlert)
+        SetAccessibleRole(*pNote, QAccessible::AlertMessage);
     pNote->setStyleSheet(
         QStringLiteral("QLabel { %1; border-radius: 4px; padding: 2px 6px }").arg(kind.colours));
     return pNote;
@@ -107,7 +117,11 @@ bool EditorNotes::Prepare(Note& note, std::size_t kind, const QString& text, QWi
         note.sizes.clear();
     }
     if (note.pLabel->text() != text)
+    {
         note.pLabel->setText(text);
+        if (Kinds[kind].isAlert)
+            note.pLabel->setAccessibleName(text);
+    }
     return true;
 }
 

@@ -15,12 +15,6 @@ namespace vesk
 namespace
 {
 
-QString DescribeRange(const Intervald& range)
-{
-    return "请输入 %1 到 %2 之间的数"_tr.arg(QString::number(range.GetMin(), 'g', 12),
-                                             QString::number(range.GetMax(), 'g', 12));
-}
-
 /// As dimensions show it, without trailing zeros; with a few significant digits if it would round
 /// to zero.
 QString Round(double value, Quantity quantity)
@@ -35,6 +29,12 @@ QString Round(double value, Quantity quantity)
     return QString(text).remove(s_lastZeros);
 }
 
+}
+
+QString DescribeRange(const Intervald& range)
+{
+    return "请输入 %1 到 %2 之间的数"_tr.arg(QString::number(range.GetMin(), 'g', 12),
+                                             QString::number(range.GetMax(), 'g', 12));
 }
 
 InputVerdict JudgeInput(const QString& text, const InputField& field, const LengthUnit& unit)
@@ -77,10 +77,14 @@ QString DescribeLateUnit(const QString& unit)
 
 QString DescribeKeys(const InputField& field, bool isTakenWithSpace)
 {
+    return DescribeKeys(ToQString(CaptionOf(field.next)), isTakenWithSpace);
+}
+
+QString DescribeKeys(const QString& next, bool isTakenWithSpace)
+{
     QString keys;
-    if (field.next != InputState::IS_None)
-        keys = QStringLiteral("<b>Tab</b>&nbsp;") + ToQString(CaptionOf(field.next)) +
-               QStringLiteral(" · ");
+    if (!next.isEmpty())
+        keys = QStringLiteral("<b>Tab</b>&nbsp;") + next + QStringLiteral(" · ");
     keys += QStringLiteral("<b>Enter</b>");
     if (isTakenWithSpace)
         keys += QStringLiteral("/<b>") + "空格"_tr + QStringLiteral("</b>");

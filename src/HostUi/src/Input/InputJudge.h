@@ -25,6 +25,9 @@ struct InputVerdict
     std::optional<double> modelValue;
 };
 
+/// The message about a number out of range.
+QString DescribeRange(const Intervald& range);
+
 /// Judges a text. Only numbers in the field's range are ever accepted.
 InputVerdict JudgeInput(const QString& text, const InputField& field, const LengthUnit& unit);
 
@@ -43,7 +46,9 @@ bool IsTakenWithSpace(const TypedReading& reading, const InputField& field);
 QString DescribeLateUnit(const QString& unit);
 
 /// What the keys do in a field: "Tab 角度 · Enter 确定 · Esc 取消", the keys in bold. Includes
-/// Space where it commits the value.
+/// Space where it commits the value. Of a field of a point only the caption of the next is known,
+/// empty if there is none.
 QString DescribeKeys(const InputField& field, bool isTakenWithSpace);
+QString DescribeKeys(const QString& next, bool isTakenWithSpace);
 
 }

@@ -1,6 +1,7 @@
 #include "Inspection/ControlDescription.h"
 
 #include "HostUi/QtVersions.h"
+#include "Qtitan/RibbonBar.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -128,6 +129,9 @@ Json DescribeControl(QObject& object)
     if (auto* pAction = qobject_cast<QAction*>(&object))
         DescribeAction(*pAction, control);
     control["checked"] = CheckedOf(object);
+    const QString keyTip = object.property(Qtitan::KeyTipProperty).toString();
+    if (!keyTip.isEmpty())
+        control["keyTip"] = keyTip.toStdString();
     return control;
 }
 

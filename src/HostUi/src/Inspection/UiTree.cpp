@@ -74,6 +74,19 @@ Json DescribeEditor(const DimensionInputController& input)
             {"message", Utf8(input.GetMessage())}};
 }
 
+Json DescribePoint(const DimensionInputController& input)
+{
+    const std::optional<DimensionInputController::TypedPoint> point = input.GetTypedPoint();
+    if (!point.has_value())
+        return nullptr;
+    return {{"x", Utf8(point->x)},
+            {"y", Utf8(point->y)},
+            {"field", Utf8(input.GetOpenField()->objectName())},
+            {"rect", DescribeRect(*input.GetOpenField(), input.GetOpenField()->rect())},
+            {"focus", input.GetOpenField()->hasFocus()},
+            {"message", Utf8(point->message)}};
+}
+
 /// The prompt shown for the current view.
 std::string DescribeHint()
 {
@@ -114,6 +127,7 @@ std::string DescribeUi(const DimensionInputController& input, int entityCount)
     return Json{{"controls", controls},
                 {"views", views},
                 {"editor", DescribeEditor(input)},
+                {"point", DescribePoint(input)},
                 {"action", commandId.empty() ? Json(nullptr) : Json(commandId)},
                 {"hint", DescribeHint()},
                 {"entities", entityCount},

@@ -12,6 +12,10 @@ namespace Qtitan
 class RibbonPage;
 class RibbonTabBar;
 
+/// The dynamic property with the key tip of a control, a letter or a digit from 1. Controls without
+/// one get digits, then letters, that are free, in their order.
+constexpr char KeyTipProperty[] = "KeyTip";
+
 /// A row of page tabs with the current page below it; as high as its content, at any width. Colours
 /// come from the palette and follow its changes.
 ///
