@@ -180,7 +180,7 @@ bool SketchView::eventFilter(QObject* pWatched, QEvent* pEvent)
 
 Vector3d SketchView::WorldOf(const QMouseEvent& event) const
 {
-    const QPointF position = PositionOf(event);
+    const QPointF position = vesk::PositionOf(event);
     return GetCamera().ScreenToWorld(position.x(), position.y());
 }
 
