@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QLineEdit>
+#include <QLocale>
 
 #include <chrono>
 #include <utility>
@@ -47,6 +48,7 @@ void LanguageSwitch::Try()
     if (IsDisturbing())
         return;
     m_retry.stop();
+    QLocale::setDefault(m_locale);
     m_catalogue.SetLocale(m_locale);
     m_rebuild();
 }

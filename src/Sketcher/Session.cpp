@@ -74,9 +74,12 @@ QString SettingsToRead(const Options& options)
     return options.task == Options::Task::Replay || !IsAttended() ? QString() : SettingsPath();
 }
 
-QLocale LocaleOf(const Settings& settings)
+/// The user's locale, unless another language is chosen: the country decides how numbers are
+/// written.
+QLocale LocaleOf(const Settings& settings, const QLocale& users)
 {
-    return settings.language.isEmpty() ? QLocale() : QLocale(settings.language);
+    const QLocale chosen(settings.language);
+    return settings.language.isEmpty() || chosen.language() == users.language() ? users : chosen;
 }
 
 SessionJournal JournalOf(const Options& options, const Settings& settings)
@@ -135,7 +138,7 @@ Session::Session(const Options& options)
     : m_options(options), m_settings(SettingsToRead(options), SettingsPath()),
       m_journal(JournalOf(options, m_settings.Get())),
       m_translations(SharedFile(QStringLiteral("translations")), QStringLiteral("sketcher"),
-                     LocaleOf(m_settings.Get())),
+                     LocaleOf(m_settings.Get(), m_locale)),
       m_window(m_workspace, m_input), m_pDocks(std::make_unique<DockManagerImpl>(&m_window)),
       m_output(m_workspace, m_window, MakeOutputRunner()),
       m_import(m_workspace, m_window, MakeOutputRunner()),
@@ -144,6 +147,7 @@ Session::Session(const Options& options)
       m_clipboard(m_workspace, [this](const QString& text) { m_window.ShowNotice(text); })
 {
     AddFonts();
+    QLocale::setDefault(LocaleOf(m_settings.Get(), m_locale));
     LoadPublishConfig(SharedFile(QStringLiteral("publish.ini")));
     m_host.GetViewManager().AddView(&m_window.GetView());
     m_application.SetMainWindow(&m_window);
@@ -166,7 +170,7 @@ Session::Session(const Options& options)
     QObject::connect(&m_settings, &SettingsStore::changed, &m_languageSwitch,
                      [this](const Settings& before) {
                          if (m_settings.Get().language != before.language)
-                             m_languageSwitch.Set(LocaleOf(m_settings.Get()));
+                             m_languageSwitch.Set(LocaleOf(m_settings.Get(), m_locale));
                      });
     if (!m_options.uiTree.isEmpty())
         m_pUiTree = std::make_unique<UiTreeWriter>(m_options.uiTree, m_input, [this] {
@@ -235,6 +239,7 @@ Session::~Session()
     m_application.SetMainWindow(nullptr);
     m_host.GetViewManager().RemoveView(&m_window.GetView());
     DebugMessageMgr::GetDebugMessageMgr()->CloseLog();
+    QLocale::setDefault(m_locale);
 }
 
 int Session::Run()
@@ -321,8 +326,9 @@ bool Session::OpenFiles()
     if (!isDone)
         Complain(error);
     if (!m_journal.GetSecured().isEmpty())
-        m_window.ShowState(QStringLiteral("secured"), "原日志未保存，已移入恢复文件夹"_tr,
-                           m_journal.GetSecured());
+        m_window.ShowState(
+            QStringLiteral("secured"), [] { return "原日志未保存，已移入恢复文件夹"_tr; },
+            [path = m_journal.GetSecured()] { return path; });
     return isDone;
 }
 
@@ -336,8 +342,9 @@ bool Session::OpenLog()
     if (isNamed)
         Complain("cannot write " + path.toStdString());
     else
-        m_window.ShowState(QStringLiteral("log"), "警告未记录"_tr,
-                           "无法写入警告日志 %1"_tr.arg(path));
+        m_window.ShowState(
+            QStringLiteral("log"), [] { return "警告未记录"_tr; },
+            [path] { return "无法写入警告日志 %1"_tr.arg(path); });
     return !isNamed;
 }
 
@@ -376,8 +383,9 @@ int Session::Draw()
     ObeyTerminationRequests();
     RestoreLayout();
     if (!IsWritable(LayoutPath()))
-        m_window.ShowState(QStringLiteral("layout"), "面板布局不会保存"_tr,
-                           "无法写入 %1"_tr.arg(LayoutPath()));
+        m_window.ShowState(
+            QStringLiteral("layout"), [] { return "面板布局不会保存"_tr; },
+            [] { return "无法写入 %1"_tr.arg(LayoutPath()); });
     m_pKeeping = std::make_unique<KeepingMonitor>(m_window);
     QObject::connect(&m_window, &MainWindow::closeAccepted, &m_window, [this] {
         SaveLayout();

@@ -99,6 +99,7 @@ private:
 
     const Options m_options;
     SettingsStore m_settings;
+    const QLocale m_locale; ///< The user's, if no language is chosen.
     SessionJournal m_journal;
     std::vector<vesk::JournalRecord> m_records;
     std::map<std::wstring, std::function<bool(const vesk::CommandParameters&)>> m_possibilities;

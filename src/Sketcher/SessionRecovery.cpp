@@ -118,9 +118,12 @@ RecoveryOffer::Result SessionRecovery::GoOn(const UnsavedWork& work)
         return RecoveryOffer::Result::Cancelled;
     if (result->failure.empty())
         return RecoveryOffer::Result::Done;
-    m_window.ShowState(QStringLiteral("reading"),
-                       "第 %1 条记录无法重做，其后的操作没有恢复"_tr.arg(result->failedNumber),
-                       QString::fromStdString(result->failure));
+    m_window.ShowState(
+        QStringLiteral("reading"),
+        [number = result->failedNumber] {
+            return "第 %1 条记录无法重做，其后的操作没有恢复"_tr.arg(number);
+        },
+        [reason = QString::fromStdString(result->failure)] { return reason; });
     return RecoveryOffer::Result::Partly;
 }
 

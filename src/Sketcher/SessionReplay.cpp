@@ -139,8 +139,9 @@ void Session::ShowReplay()
     ObeyTerminationRequests();
     // Without a journal there is nothing that could fail to be kept.
     if (m_options.journal.isEmpty())
-        m_window.ShowState(QStringLiteral("replay"), "仅供查看"_tr,
-                           "在此窗口中所做的操作不会保存"_tr);
+        m_window.ShowState(
+            QStringLiteral("replay"), [] { return "仅供查看"_tr; },
+            [] { return "在此窗口中所做的操作不会保存"_tr; });
     else
         m_pKeeping = std::make_unique<KeepingMonitor>(m_window);
     m_window.show();
@@ -197,10 +198,12 @@ int Session::GetLastNumber() const
 void Session::ShowFailure(const JournalReplayResult& result)
 {
     const QString much = QStringLiteral("%1 / %2").arg(result.repeatedCount).arg(m_records.size());
-    const QString text = "第 %1 条记录无法重做，已恢复 %2 条"_tr.arg(result.failedNumber).arg(much);
+    const auto text = [number = result.failedNumber, much] {
+        return "第 %1 条记录无法重做，已恢复 %2 条"_tr.arg(number).arg(much);
+    };
     const QString reason = QString::fromStdString(result.failure);
-    m_window.ShowState(QStringLiteral("reading"), text, reason);
-    m_window.ShowNotice(text + "（%1）"_tr.arg(reason));
+    m_window.ShowState(QStringLiteral("reading"), text, [reason] { return reason; });
+    m_window.ShowNotice(text() + "（%1）"_tr.arg(reason));
 }
 
 void Session::ShowOtherJournal(const QString& path)
@@ -209,5 +212,7 @@ void Session::ShowOtherJournal(const QString& path)
         return;
     Complain(m_options.journal.toStdString() + " is left unchanged; the journal continues in " +
              path.toStdString());
-    m_window.ShowState(QStringLiteral("other journal"), "日志改存于另一文件"_tr, path);
+    m_window.ShowState(
+        QStringLiteral("other journal"), [] { return "日志改存于另一文件"_tr; },
+        [path] { return path; });
 }

@@ -21,6 +21,7 @@
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QSpinBox>
+#include <QTableView>
 #include <QTextBrowser>
 
 namespace
@@ -240,6 +241,7 @@ private slots:
         QFETCH(QString, title);
         ScriptedUser user;
         user.DrawLine(0, 0, 50, 20).Click("Sketcher.Unit.cm").Click("Sketcher.Snap.Grid");
+        user.Click("Sketcher.Help").Click("Sketcher.About");
 
         user.Do([language] { ChooseLanguage(language); })
             .Until([title] { return ScriptedUser::FindWindow()->windowTitle() == title; })
@@ -253,6 +255,48 @@ private slots:
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
         QCOMPARE(Model().size(), 1);
         VerifyReplay();
+    }
+
+    void numbersAreWrittenAsInTheCountry_data()
+    {
+        QTest::addColumn<QLocale>("users");
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("expected");
+
+        const QLocale swiss(QLocale::German, QLocale::Switzerland);
+        QTest::newRow("the user's") << QLocale(QLocale::German) << QString() << "1234,500";
+        QTest::newRow("the chosen language's") << QLocale::c() << "de"
+                                               << "1234,500";
+        QTest::newRow("the country's") << swiss << "de"
+                                       << "1234.500";
+        QTest::newRow("another language's") << QLocale(QLocale::German) << "en"
+                                            << "1234.500";
+    }
+
+    void numbersAreWrittenAsInTheCountry()
+    {
+        QFETCH(QLocale, users);
+        QFETCH(QString, language);
+        const ScopedLocale locale(users);
+        ScriptedUser user;
+        QString shown;
+
+        if (!language.isEmpty())
+            user.Do([language] { ChooseLanguage(language); });
+        user.Until([language] {
+            const QString title = ScriptedUser::FindWindow()->windowTitle();
+            return title.startsWith(language == "en" ? "Untitled" : "Unbenannt");
+        });
+        user.Click("Sketcher.Line").ClickAt(0, 0).Type("1234.5").Press(Qt::Key_Return);
+        user.Press(Qt::Key_Escape).UntilRunning(QString()).Do([&shown] {
+            const auto* pList = ScriptedUser::FindWindow()->findChild<QTableView*>("Entities");
+            shown = pList->model()->index(0, pList->model()->columnCount() - 1).data().toString();
+        });
+
+        QCOMPARE(user.Run(m_pFixture->Draw()), 0);
+        QFETCH(QString, expected);
+        QVERIFY2(shown.contains(expected), qPrintable(shown));
+        QVERIFY2(QLocale() == users, "the former locale is not restored");
     }
 
     void journalPaneKeepsItsRecords()

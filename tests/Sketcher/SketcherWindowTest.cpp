@@ -459,7 +459,7 @@ private slots:
         QVERIFY(!pBar->isVisible());
         QCOMPARE(pBar->toolTip(), QStringLiteral("正在进行的操作的进度；Esc 取消"));
 
-        f.window.ShowState("test", "state", {});
+        f.window.ShowState("test", [] { return QString("state"); });
         f.window.GetProgress()->SetVisible(true);
         f.controls->RefreshControls();
 

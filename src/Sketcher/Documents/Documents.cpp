@@ -438,10 +438,20 @@ void Documents::NoteLock()
 {
     const bool isUnlocked = m_document.pLock != nullptr && !m_document.isReadOnly &&
                             m_document.pLock->GetState() == DocumentLock::State::Impossible;
-    m_window.ShowState(QStringLiteral("document lock"), isUnlocked ? "文件未加锁"_tr : QString(),
-                       "文件夹中无法建立锁文件，其他程序不会知道该文件已打开"_tr);
-    m_window.ShowState(QStringLiteral("read-only"), m_document.isReadOnly ? "只读"_tr : QString(),
-                       "该文件已在另一个程序中打开，更改只能另存为其他文件"_tr);
+    const QString lock = QStringLiteral("document lock");
+    if (isUnlocked)
+        m_window.ShowState(
+            lock, [] { return "文件未加锁"_tr; },
+            [] { return "文件夹中无法建立锁文件，其他程序不会知道该文件已打开"_tr; });
+    else
+        m_window.RemoveState(lock);
+    const QString readOnly = QStringLiteral("read-only");
+    if (m_document.isReadOnly)
+        m_window.ShowState(
+            readOnly, [] { return "只读"_tr; },
+            [] { return "该文件已在另一个程序中打开，更改只能另存为其他文件"_tr; });
+    else
+        m_window.RemoveState(readOnly);
 }
 
 void Documents::OnSketchChanged()

@@ -13,8 +13,8 @@ namespace
 {
 
 /// Shows the window of that name, a new one unless it is open; it does not block the others.
-void ShowText(const QString& name, const QString& title, const QString& html, const QSize& size,
-              QWidget& parent)
+void ShowText(const QString& name, const TextWindow::Told& title, const TextWindow::Told& html,
+              const QSize& size, QWidget& parent)
 {
     auto* pText = parent.findChild<TextWindow*>(name);
     if (pText == nullptr)
@@ -54,11 +54,14 @@ std::vector<CommandEntry> MakeHelpCommands(const std::vector<CommandEntry>& comm
     std::vector<CommandEntry> listed = commands;
     listed.push_back(MakeHelpCommand({}));
     const auto help = [&window, listed] {
-        ShowText(QStringLiteral("Help"), "帮助"_tr, MakeHelpPage(listed), QSize(620, 640), window);
+        ShowText(
+            QStringLiteral("Help"), [] { return "帮助"_tr; },
+            [listed] { return MakeHelpPage(listed); }, QSize(620, 640), window);
     };
     const auto about = [&window] {
-        ShowText(QStringLiteral("About"), "关于 Sketcher"_tr, MakeAboutPage(), QSize(560, 400),
-                 window);
+        ShowText(
+            QStringLiteral("About"), [] { return "关于 Sketcher"_tr; }, &MakeAboutPage,
+            QSize(560, 400), window);
     };
     return {MakeHelpCommand(help), MakeAboutCommand(about)};
 }

@@ -6,6 +6,7 @@
 #include "Model/UiText.h"
 
 #include "Dimension/LengthUnit.h"
+#include "HostUi/NumberText.h"
 #include "HostUi/QtText.h"
 
 #include <algorithm>
@@ -31,7 +32,7 @@ QString SizeOf(const Shape& shape)
         if (const ShapeProperty* pProperty = FindProperty(shape, name))
             sizes << QStringLiteral("%1 %2").arg(
                 ToQString(Tr(pProperty->caption)),
-                QString::number(unit.ToShown(pProperty->get(shape)), 'f', 3));
+                ToLocalText(unit.ToShown(pProperty->get(shape)), 3));
     }
     return sizes.join("，"_tr);
 }

@@ -15,10 +15,13 @@
 
 #include <QCloseEvent>
 #include <QLabel>
+#include <QLocale>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QStatusBar>
 #include <QTimer>
 
+#include <functional>
 #include <string>
 #include <utility>
 
@@ -49,6 +52,11 @@ public:
 private:
     int& m_endCount;
 };
+
+std::function<QString()> Telling(const QString& text)
+{
+    return [text] { return text; };
+}
 
 struct Fixture
 {
@@ -134,7 +142,7 @@ private slots:
     {
         Fixture f;
         f.window.resize(1200, 700);
-        f.window.ShowState("journal", "not kept", {});
+        f.window.ShowState("journal", Telling("not kept"));
         f.Label("WarningCount")->setText("1");
         f.Label("WarningCount")->show();
         QCoreApplication::processEvents();
@@ -256,12 +264,12 @@ private slots:
     {
         Fixture f;
 
-        f.window.ShowState("journal", "not kept", "cannot write /journal");
+        f.window.ShowState("journal", Telling("not kept"), Telling("cannot write /journal"));
         QVERIFY(f.States()->isVisible());
         QCOMPARE(f.States()->text(), QString("not kept"));
         QCOMPARE(f.States()->toolTip(), QString("cannot write /journal"));
 
-        f.window.ShowState("journal", {}, {});
+        f.window.RemoveState("journal");
         QVERIFY(!f.States()->isVisible());
         QCOMPARE(f.States()->text(), QString());
     }
@@ -269,16 +277,44 @@ private slots:
     void subjectsStandBesideOneAnother()
     {
         Fixture f;
-        f.window.ShowState("a", "first", "first tip");
-        f.window.ShowState("b", "second", "second tip");
+        f.window.ShowState("a", Telling("first"), Telling("first tip"));
+        f.window.ShowState("b", Telling("second"), Telling("second tip"));
 
-        f.window.ShowState("a", "third", "third tip");
+        f.window.ShowState("a", Telling("third"), Telling("third tip"));
         QCOMPARE(f.States()->text(), QStringLiteral("third；second"));
         QCOMPARE(f.States()->toolTip(), QString("third tip\nsecond tip"));
 
-        f.window.ShowState("a", {}, "nobody sees it");
+        f.window.RemoveState("a");
         QCOMPARE(f.States()->text(), QString("second"));
         QCOMPARE(f.States()->toolTip(), QString("second tip"));
+    }
+
+    void statesAreToldAnewInAnotherLanguage()
+    {
+        Fixture f;
+        QString language = "one";
+        f.window.ShowState(
+            "a", [&language] { return language + " text"; },
+            [&language] { return language + " tip"; });
+
+        language = "another";
+        QEvent change(QEvent::LanguageChange);
+        QCoreApplication::sendEvent(&f.window, &change);
+
+        QCOMPARE(f.States()->text(), QString("another text"));
+        QCOMPARE(f.States()->toolTip(), QString("another tip"));
+    }
+
+    void theCursorIsShownInTheNumbersOfTheLocale()
+    {
+        Fixture f;
+        PlainView* pView = f.AddView();
+        QLocale::setDefault(QLocale(QLocale::German));
+        const auto restored = qScopeGuard([] { QLocale::setDefault(QLocale::c()); });
+
+        emit pView->cursorMoved(1234.5, -0.25);
+
+        QCOMPARE(f.Label("CursorPosition")->text(), QString("X 1234,500   Y -0,250   mm"));
     }
 
     void aLongStateDoesNotWidenTheWindow()
@@ -287,7 +323,7 @@ private slots:
         f.window.resize(700, 500);
         const int least = f.window.minimumSizeHint().width();
 
-        f.window.ShowState("journal", QString(2000, 'x'), {});
+        f.window.ShowState("journal", Telling(QString(2000, 'x')));
         QCoreApplication::processEvents();
 
         QVERIFY(f.window.minimumSizeHint().width() <= least + 20);

@@ -9,6 +9,7 @@
 #include <QString>
 
 #include <atomic>
+#include <functional>
 
 class QLabel;
 
@@ -55,9 +56,15 @@ public:
     /// Shows a text in the status bar for a few seconds.
     void ShowNotice(const QString& text);
 
-    /// Shows a short text in the status bar until it is replaced, with the details as its tool tip.
-    /// There is one text per subject; an empty one removes it.
-    void ShowState(const QString& subject, const QString& text, const QString& details);
+    /// Tells a text in the user's language; asked again when that changes.
+    using Told = std::function<QString()>;
+
+    /// Shows a short text in the status bar until it is replaced or removed, with the details, if
+    /// there are any, as its tool tip. There is one text per subject.
+    void ShowState(const QString& subject, Told text, Told details = {});
+
+    /// Does nothing if there is no text for that subject.
+    void RemoveState(const QString& subject);
 
 signals:
     /// The window is about to close; the panes are still in position.
@@ -71,6 +78,7 @@ private:
     void NameLabels();
     void OnCursorMoved(double x, double y);
     void ShowWarningCount();
+    void ShowStates();
 
     Qtitan::RibbonBar* m_pRibbon;
     QLabel* m_pHint;
@@ -78,8 +86,8 @@ private:
 
     struct State
     {
-        QString text;
-        QString details;
+        Told text;
+        Told details;
     };
 
     /// The lasting texts of the status bar, by subject.

@@ -6,6 +6,7 @@
 #include "Command/ActionManager.h"
 #include "Dimension/LengthUnit.h"
 #include "HostUi/DrawingView.h"
+#include "HostUi/NumberText.h"
 #include "HostUi/QtText.h"
 #include "Qtitan/RibbonBar.h"
 
@@ -14,6 +15,8 @@
 #include <QLabel>
 #include <QStatusBar>
 #include <QVBoxLayout>
+
+#include <utility>
 
 namespace vesk
 {
@@ -133,21 +136,39 @@ void MainWindow::ShowNotice(const QString& text)
     statusBar()->showMessage(text, DurationMs);
 }
 
-void MainWindow::ShowState(const QString& subject, const QString& text, const QString& details)
+void MainWindow::ShowState(const QString& subject, Told text, Told details)
+{
+    m_states[subject] = {std::move(text), std::move(details)};
+    ShowStates();
+}
+
+void MainWindow::RemoveState(const QString& subject)
 {
     m_states.remove(subject);
-    if (!text.isEmpty())
-        m_states[subject] = {text, details};
+    ShowStates();
+}
+
+void MainWindow::ShowStates()
+{
     QStringList texts;
     QStringList tips;
-    for (const State& state : m_states)
+    for (const State& state : std::as_const(m_states))
     {
-        texts << state.text;
-        tips << state.details;
+        texts << state.text();
+        tips << (state.details ? state.details() : QString());
     }
     m_pStates->setText(texts.join("；"_tr));
     m_pStates->setToolTip(tips.join(QLatin1Char('\n')));
     m_pStates->setVisible(!m_states.isEmpty());
+}
+
+void MainWindow::changeEvent(QEvent* pEvent)
+{
+    QMainWindow::changeEvent(pEvent);
+    if (pEvent->type() != QEvent::LanguageChange)
+        return;
+    ShowStates();
+    ShowWarningCount();
 }
 
 void MainWindow::closeEvent(QCloseEvent* pEvent)
@@ -162,9 +183,8 @@ void MainWindow::OnCursorMoved(double x, double y)
 {
     const LengthUnit& unit = LengthUnit::GetCurrent();
     m_pCursor->setText(QStringLiteral("X %1   Y %2   %3")
-                           .arg(unit.ToShown(x), 0, 'f', 3)
-                           .arg(unit.ToShown(y), 0, 'f', 3)
-                           .arg(ToQString(unit.GetSymbol())));
+                           .arg(ToLocalText(unit.ToShown(x), 3), ToLocalText(unit.ToShown(y), 3),
+                                ToQString(unit.GetSymbol())));
 }
 
 void MainWindow::ShowWarningCount()
