@@ -390,10 +390,7 @@ bool DimensionInputController::KeepsForUnit(const QKeyEvent& event)
 void DimensionInputController::EndLateUnit()
 {
     for (const KeptKey& key : m_pLateUnit->End())
-    {
-        QKeyEvent event = key.ToEvent();
-        OnViewKey(event);
-    }
+        key.Deliver([this](QKeyEvent& event) { OnViewKey(event); });
 }
 
 /// Returns the model value and puts its number into the editor; only selects a rejected text.

@@ -34,10 +34,7 @@ void HoldKey(QKeyEvent& event, EscapeKey& escape, const std::function<void(QKeyE
             ActionManager::HoldInput(&TakeEscape);
         return;
     }
-    ActionManager::HoldInput([deliver, kept = KeptKey(event)] {
-        QKeyEvent again = kept.ToEvent();
-        deliver(again);
-    });
+    ActionManager::HoldInput([deliver, kept = KeptKey(event)] { kept.Deliver(deliver); });
 }
 
 }

@@ -23,6 +23,14 @@ public:
                          m_text, m_isAutoRepeat, m_count);
     }
 
+    /// `take` receives the event.
+    template <typename Take>
+    void Deliver(Take take) const
+    {
+        QKeyEvent event = ToEvent();
+        take(event);
+    }
+
 private:
     QEvent::Type m_type;
     int m_key;
