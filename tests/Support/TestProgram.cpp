@@ -44,6 +44,8 @@ int TestEntry::Main(int argc, char* argv[])
         return 2;
     }
     SpareOffscreenWindows();
+    // Tests operate the toolkit's own dialogs, which are the same on every system.
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     for (int i = 1; i < argc; ++i)
         argv[i] = argv[i + 1];
     return found->second(argc - 1, argv);
