@@ -25,6 +25,13 @@ protected:
     std::size_t PaintModel(QPainter&, const QRectF&, std::size_t begin) override { return begin; }
 };
 
+/// An action that takes points.
+class PointTakingAction final : public IdleAction
+{
+public:
+    bool TakesPoint() const override { return true; }
+};
+
 /// A window with a ribbon, a view and a check box.
 struct RibbonFocusFixture
 {
@@ -71,6 +78,20 @@ struct RibbonFocusFixture
         Command* pCommand = opCommand.Get();
         ICommandManager::Get()->AddCommand(std::move(opCommand));
         ActionManager::ProcessCommand(pView, pCommand, {}, nullptr);
+    }
+
+    /// Begins an action that takes points, and types the beginning of one. Returns its field.
+    QLineEdit* TypePoint()
+    {
+        auto opCommand = MakeOwner<Command>(L"Point", Command::Kind::Interactive,
+                                            [](IUiView*, const CommandParameters&) {
+                                                return OwnerPtr<IAction>(new PointTakingAction);
+                                            });
+        Command* pCommand = opCommand.Get();
+        ICommandManager::Get()->AddCommand(std::move(opCommand));
+        ActionManager::ProcessCommand(pView, pCommand, {}, nullptr);
+        QTest::keyClick(pView, '5');
+        return input.GetOpenField();
     }
 
     QLineEdit* OpenEditor()

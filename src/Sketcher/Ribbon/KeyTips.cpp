@@ -3,6 +3,7 @@
 #include "Qtitan/RibbonBar.h"
 #include "Qtitan/RibbonPage.h"
 
+#include <QVariant>
 #include <QWidget>
 
 namespace

@@ -78,6 +78,38 @@ private:
     }
 
 private slots:
+    void fieldOfAPointGetsTheKeyboardBack()
+    {
+        Fixture f;
+        QCheckBox* pBox = f.Place(new QCheckBox("box"));
+        QLineEdit* pField = f.TypePoint();
+        QVERIFY(pField != nullptr);
+
+        QTest::mouseClick(pBox, Qt::LeftButton);
+
+        QTRY_VERIFY(pField->hasFocus());
+        QVERIFY(pBox->isChecked());
+        QCOMPARE(pField->text(), QString("5"));
+    }
+
+    void shortcutsWorkWhileAPointIsTyped()
+    {
+        Fixture f;
+        QLineEdit* pField = f.TypePoint();
+
+        for (QWidget* pWidget : {static_cast<QWidget*>(pField), static_cast<QWidget*>(f.pView)})
+        {
+            QKeyEvent wanted(QEvent::ShortcutOverride, Qt::Key_L, Qt::ControlModifier);
+            wanted.ignore();
+            QCoreApplication::sendEvent(pWidget, &wanted);
+            QVERIFY(!wanted.isAccepted());
+            QKeyEvent typed(QEvent::ShortcutOverride, Qt::Key_1, Qt::NoModifier, "1");
+            typed.ignore();
+            QCoreApplication::sendEvent(pWidget, &typed);
+            QVERIFY(typed.isAccepted());
+        }
+    }
+
     void aClickLeavesTheKeyboardWithTheView_data() { AddControls(); }
 
     void aClickLeavesTheKeyboardWithTheView()

@@ -25,6 +25,7 @@ private slots:
     void aViewIsToldWithWhatItShows();
     void anOpenEditorIsToldWithItsValue();
     void aTextWithoutAValueIsToldWithTheReason();
+    void aPointBeingTypedIsTold();
     void lockedValuesAreTold();
     void theHintIsThatOfTheCurrentView();
     void theRunningActionIsTold();
@@ -103,6 +104,26 @@ void UiTreeTest::aTextWithoutAValueIsToldWithTheReason()
     QVERIFY(editor["value"].is_null());
     QVERIFY(!f.input.GetMessage().isEmpty());
     QCOMPARE(editor["message"], Json(f.input.GetMessage().toStdString()));
+}
+
+void UiTreeTest::aPointBeingTypedIsTold()
+{
+    RibbonFocusFixture f;
+    QVERIFY(Tell(f.input)["point"].is_null());
+    QTest::keyClick(f.TypePoint(), Qt::Key_Tab);
+    QTest::keyClicks(f.input.GetOpenField(), "x");
+    QTest::keyClick(f.input.GetOpenField(), Qt::Key_Return);
+
+    const Json tree = Tell(f.input);
+
+    QVERIFY(tree["editor"].is_null());
+    QCOMPARE(tree["point"], Json({{"x", "5"},
+                                  {"y", "x"},
+                                  {"field", "PointY"},
+                                  {"rect", PlaceOf(*f.input.GetOpenField())},
+                                  {"focus", true},
+                                  {"message", f.input.GetTypedPoint()->message.toStdString()}}));
+    QVERIFY(!f.input.GetTypedPoint()->message.isEmpty());
 }
 
 void UiTreeTest::lockedValuesAreTold()

@@ -118,13 +118,6 @@ void MainWindow::NameLabels()
     m_pCursor->setAccessibleDescription("光标位置"_tr);
 }
 
-void MainWindow::changeEvent(QEvent* pEvent)
-{
-    if (pEvent->type() == QEvent::LanguageChange)
-        NameLabels();
-    QMainWindow::changeEvent(pEvent);
-}
-
 void MainWindow::AddBar(QWidget* pBar)
 {
     menuWidget()->layout()->addWidget(pBar);
@@ -167,6 +160,7 @@ void MainWindow::changeEvent(QEvent* pEvent)
     QMainWindow::changeEvent(pEvent);
     if (pEvent->type() != QEvent::LanguageChange)
         return;
+    NameLabels();
     ShowStates();
     ShowWarningCount();
 }
