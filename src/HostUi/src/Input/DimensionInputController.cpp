@@ -13,7 +13,6 @@
 #include "Input/EditorWidth.h"
 #include "Input/EscapeKey.h"
 #include "Input/InputJudge.h"
-#include "Input/KeptKey.h"
 #include "Input/KeyCode.h"
 #include "Input/KeyTarget.h"
 #include "Input/LateUnit.h"
@@ -24,7 +23,6 @@
 #include "View/IUiView.h"
 
 #include <QGuiApplication>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
 
