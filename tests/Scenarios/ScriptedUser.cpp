@@ -82,7 +82,8 @@ ScriptedUser& ScriptedUser::Click(const QString& controlId)
 {
     Until([controlId] {
         const QAbstractButton* pButton = FindButton(controlId);
-        return pButton != nullptr && pButton->isEnabled();
+        // One that was made just now has no size until its layout is done.
+        return pButton != nullptr && pButton->isEnabled() && !pButton->size().isEmpty();
     });
     return Do([controlId] { QTest::mouseClick(FindButton(controlId), Qt::LeftButton); });
 }

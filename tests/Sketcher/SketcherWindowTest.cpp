@@ -438,8 +438,7 @@ private slots:
         f.workspace.sketch.AddLine({-500, 0, 0}, {500, 0, 0});
         QCOMPARE(pText->text(), QString());
 
-        const QPointF centre = QRectF(view.rect()).center();
-        QMouseEvent move(QEvent::MouseMove, centre, view.mapToGlobal(centre.toPoint()),
+        QMouseEvent move(QEvent::MouseMove, QRectF(view.rect()).center(), QCursor::pos(),
                          Qt::NoButton, Qt::NoButton, Qt::NoModifier);
         QCoreApplication::sendEvent(&view, &move);
         QCOMPARE(pText->text(), QStringLiteral("直线 #1：长度 1000.000 mm，角度 0.00°"));

@@ -117,7 +117,8 @@ struct SketchViewFixture
 
     void OpenMenuAt(double x, double y)
     {
-        QContextMenuEvent event(QContextMenuEvent::Mouse, PlaceOf(x, y).toPoint());
+        const QPoint place = PlaceOf(x, y).toPoint();
+        QContextMenuEvent event(QContextMenuEvent::Mouse, place, view.mapToGlobal(place));
         QCoreApplication::sendEvent(&view, &event);
     }
 

@@ -29,9 +29,12 @@ inline void ScaleWithScreens()
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
 #endif
-    // Qt 6 would not round, Qt 5 does unless it is told.
+    // Qt 6 would not round, nor keep the size of texts where it rounds up: Qt 5 does both.
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::Round);
+    constexpr char TextPolicy[] = "QT_DPI_ADJUSTMENT_POLICY";
+    if (qEnvironmentVariableIsEmpty(TextPolicy))
+        qputenv(TextPolicy, "AdjustUpOnly");
 }
 
 /// Keeps Qt 5 from closing the windows when the desktop's session ends; Qt 6 never does.

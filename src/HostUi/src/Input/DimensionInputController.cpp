@@ -27,7 +27,6 @@
 #include "View/IUiView.h"
 
 #include <QGuiApplication>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
 
