@@ -41,8 +41,8 @@ QString LinkTo(const QString& folder)
 
 }
 
-Photographer::Photographer(const QString& display, const Look& look, const QString& folder)
-    : m_display(display), m_folder(folder), m_session(display),
+Photographer::Photographer(const XServer& server, const Look& look, const QString& folder)
+    : m_display(server.GetDisplay()), m_folder(folder), m_session(server),
       m_home(LinkTo(m_session.PathOf(QString())))
 {
     m_session.Input().ResizeScreen(Screen);

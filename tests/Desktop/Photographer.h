@@ -28,7 +28,7 @@ public:
         QString colours;  ///< "light" or "dark".
     };
 
-    Photographer(const QString& display, const Look& look, const QString& folder);
+    Photographer(const XServer& server, const Look& look, const QString& folder);
     ~Photographer();
     Photographer(const Photographer&) = delete;
     Photographer& operator=(const Photographer&) = delete;

@@ -275,7 +275,7 @@ void TakeLayers(Photographer& user)
 /// Where pictures are taken, and in which language.
 struct Studio
 {
-    QString display;
+    const XServer& server;
     QString language;
     QString folder;
 };
@@ -283,7 +283,7 @@ struct Studio
 /// A second program opens the drawing that a first one has open.
 bool TakeLock(const Studio& studio, const QString& drawing)
 {
-    Photographer second(studio.display, {studio.language, "light"}, studio.folder);
+    Photographer second(studio.server, {studio.language, "light"}, studio.folder);
     second.StartPlain({drawing});
     second.WaitForDialog();
     second.TakeWindow("question-locked");
@@ -293,7 +293,7 @@ bool TakeLock(const Studio& studio, const QString& drawing)
 
 bool TakeDrawings(const Studio& studio)
 {
-    Photographer user(studio.display, {studio.language, "light"}, studio.folder);
+    Photographer user(studio.server, {studio.language, "light"}, studio.folder);
     const QString drawing = user.PathOf("plate.vsk");
     TakeDrawing(user, drawing);
     TakeLayers(user);
@@ -306,7 +306,7 @@ bool TakeDrawings(const Studio& studio)
 /// What is offered after the program was killed.
 bool TakeRecovery(const Studio& studio)
 {
-    Photographer user(studio.display, {studio.language, "light"}, studio.folder);
+    Photographer user(studio.server, {studio.language, "light"}, studio.folder);
     user.StartPlain();
     DrawPlate(user);
     user.Kill();
@@ -318,7 +318,7 @@ bool TakeRecovery(const Studio& studio)
 
 bool TakeWarning(const Studio& studio)
 {
-    Photographer user(studio.display, {studio.language, "light"}, studio.folder);
+    Photographer user(studio.server, {studio.language, "light"}, studio.folder);
     user.Start({"--raise-warnings", "plain"});
     user.WaitForDialog();
     user.TakeWindow("warning");
@@ -328,7 +328,7 @@ bool TakeWarning(const Studio& studio)
 
 bool TakeDark(const Studio& studio)
 {
-    Photographer user(studio.display, {studio.language, "dark"}, studio.folder);
+    Photographer user(studio.server, {studio.language, "dark"}, studio.folder);
     user.Start();
     DrawPlate(user);
     user.Press({"ctrl+a"});
@@ -347,7 +347,7 @@ bool Run(const QString& language, const QString& folder)
         std::fprintf(stderr, "pictures: %s\n", qPrintable(server.GetError()));
         return false;
     }
-    const Studio studio{server.GetDisplay(), language, folder};
+    const Studio studio{server, language, folder};
     return TakeDrawings(studio) && TakeRecovery(studio) && TakeWarning(studio) && TakeDark(studio);
 }
 
