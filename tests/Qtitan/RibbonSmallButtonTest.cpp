@@ -87,13 +87,13 @@ class RibbonSmallButtonTest final : public QObject
     Q_OBJECT
 
 private slots:
-#if QT_VERSION_MAJOR == 5
-    // Qt 6 always uses such pixmaps.
     void initTestCase()
     {
+#if QT_VERSION_MAJOR == 5
+        // Qt 6 always uses such pixmaps.
         QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-    }
 #endif
+    }
 
     void controlHoldsTheButtonInItsForm()
     {
