@@ -47,7 +47,12 @@ struct PageFixture : RibbonFixture
         qApp->notify(window->windowHandle(), &event);
     }
 
-    bool isLastWhole() const { return pLast->visibleRegion().boundingRect() == pLast->rect(); }
+    static bool isWhole(const QToolButton& button)
+    {
+        return button.visibleRegion().boundingRect() == button.rect();
+    }
+
+    bool isLastWhole() const { return isWhole(*pLast); }
 
     QToolButton* pFirst = nullptr;
     QToolButton* pLast = nullptr;
@@ -142,6 +147,43 @@ private slots:
     void focusBringsItsControlIntoView()
     {
         const PageFixture f(250);
+
+        f.pLast->setFocus(Qt::TabFocusReason);
+
+        QTRY_VERIFY(f.isLastWhole());
+    }
+
+    void pageThatIsReadFromTheRightBeginsThere()
+    {
+        const PageFixture f(250);
+
+        f.window->setLayoutDirection(Qt::RightToLeft);
+
+        QTRY_VERIFY(f.arrow(Qt::LeftArrow)->isVisible());
+        QVERIFY(!f.arrow(Qt::RightArrow)->isVisible());
+        QTRY_VERIFY(PageFixture::isWhole(*f.pFirst));
+    }
+
+    void arrowReachesTheLastControlFromTheRight()
+    {
+        const PageFixture f(250);
+        f.window->setLayoutDirection(Qt::RightToLeft);
+        QToolButton* pArrow = f.arrow(Qt::LeftArrow);
+        QTRY_VERIFY(pArrow->isVisible());
+
+        QTest::mouseClick(pArrow, Qt::LeftButton);
+        QTRY_VERIFY(f.arrow(Qt::RightArrow)->isVisible());
+        for (int clicks = 0; clicks < 10 && pArrow->isVisible(); ++clicks)
+            QTest::mouseClick(pArrow, Qt::LeftButton);
+
+        QTRY_VERIFY(f.isLastWhole());
+    }
+
+    void focusBringsItsControlIntoViewFromTheRight()
+    {
+        const PageFixture f(250);
+        f.window->setLayoutDirection(Qt::RightToLeft);
+        QTRY_VERIFY(PageFixture::isWhole(*f.pFirst));
 
         f.pLast->setFocus(Qt::TabFocusReason);
 

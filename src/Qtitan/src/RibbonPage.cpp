@@ -11,6 +11,7 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QPainter>
+#include <QStyle>
 #include <QWheelEvent>
 
 namespace Qtitan
@@ -35,8 +36,9 @@ RibbonPage::RibbonPage(const QString& title, QWidget* pParent)
     m_pGroups->setContentsMargins(2, 0, 2, 1);
     m_pGroups->setSpacing(0);
     m_pGroups->addStretch();
-    connect(m_pLeft, &QToolButton::clicked, this, [this] { scrollTo(m_offset - width() / 2); });
-    connect(m_pRight, &QToolButton::clicked, this, [this] { scrollTo(m_offset + width() / 2); });
+    const auto step = [this] { return isRightToLeft() ? -width() / 2 : width() / 2; };
+    connect(m_pLeft, &QToolButton::clicked, this, [this, step] { scrollTo(m_offset - step()); });
+    connect(m_pRight, &QToolButton::clicked, this, [this, step] { scrollTo(m_offset + step()); });
     connect(qApp, &QApplication::focusChanged, this, &RibbonPage::OnFocusChanged);
 }
 
@@ -58,10 +60,11 @@ void RibbonPage::ensureVisible(const QWidget& widget)
 {
     if (!m_pContent->isAncestorOf(&widget))
         return;
-    const int left = widget.mapTo(m_pContent, QPoint()).x();
+    const QRect place(widget.mapTo(m_pContent, QPoint()), widget.size());
+    const int start = QStyle::visualRect(layoutDirection(), m_pContent->rect(), place).left();
     // An arrow may cover either end, so keep the widget clear of both.
-    const int firstOffset = left + widget.width() + RibbonMetrics::ArrowWidth - width();
-    const int lastOffset = left - RibbonMetrics::ArrowWidth;
+    const int firstOffset = start + widget.width() + RibbonMetrics::ArrowWidth - width();
+    const int lastOffset = start - RibbonMetrics::ArrowWidth;
     scrollTo(qMin(qMax(m_offset, firstOffset), lastOffset));
 }
 
@@ -77,6 +80,8 @@ QSize RibbonPage::minimumSizeHint() const
 
 bool RibbonPage::event(QEvent* pEvent)
 {
+    if (pEvent->type() == QEvent::LayoutDirectionChange)
+        arrange();
     if (pEvent->type() == QEvent::LayoutRequest)
     {
         updateGeometry();
@@ -140,9 +145,11 @@ void RibbonPage::arrange()
 void RibbonPage::scrollTo(int offset)
 {
     m_offset = qBound(0, offset, maximumOffset());
-    m_pContent->setGeometry(-m_offset, 0, qMax(width(), m_pContent->sizeHint().width()), height());
-    m_pLeft->setVisible(m_offset > 0);
-    m_pRight->setVisible(m_offset < maximumOffset());
+    const QRect content(-m_offset, 0, qMax(width(), m_pContent->sizeHint().width()), height());
+    m_pContent->setGeometry(QStyle::visualRect(layoutDirection(), rect(), content));
+    const bool isMirrored = isRightToLeft();
+    (isMirrored ? m_pRight : m_pLeft)->setVisible(m_offset > 0);
+    (isMirrored ? m_pLeft : m_pRight)->setVisible(m_offset < maximumOffset());
     m_pLeft->raise();
     m_pRight->raise();
 }
