@@ -1,5 +1,6 @@
 #include "HostUi/WindowSystem.h"
 
+#include <QByteArray>
 #include <QtGlobal>
 
 namespace vesk
