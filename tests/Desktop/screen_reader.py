@@ -58,8 +58,16 @@ def children(node):
     return filter(None, (node.get_child_at_index(i) for i in range(node.get_child_count())))
 
 
+def ask(question, *arguments):
+    """The answer; None if what is asked has gone. The desktop lists a program for a while after its end."""
+    try:
+        return question(*arguments)
+    except GLib.Error:
+        return None
+
+
 def programs():
-    return [child for child in children(Atspi.get_desktop(0)) if child.get_name() == PROGRAM]
+    return [child for child in children(Atspi.get_desktop(0)) if ask(child.get_name) == PROGRAM]
 
 
 def find(node, wanted):
@@ -76,7 +84,7 @@ def find(node, wanted):
 
 def find_anywhere(wanted):
     for program in programs():
-        found = find(program, wanted)
+        found = ask(find, program, wanted)
         if found:
             return found
     return None
@@ -116,11 +124,7 @@ def on_request(channel, _condition):
     if not line:
         loop.quit()
         return False
-    try:
-        result = answer(json.loads(line))
-    except GLib.Error:
-        result = None  # An object has gone while it was looked at.
-    print(json.dumps(result), flush=True)
+    print(json.dumps(ask(answer, json.loads(line))), flush=True)
     return True
 
 
