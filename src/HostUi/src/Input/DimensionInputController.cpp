@@ -19,7 +19,6 @@
 #include "Input/KeyTarget.h"
 #include "Input/LateUnit.h"
 #include "Input/MemberScope.h"
-#include "Input/NoteLayout.h"
 #include "Input/PointInput.h"
 #include "Input/TextCollector.h"
 #include "Journal/IJournalUiObject.h"
@@ -67,6 +66,8 @@ DimensionInputController::DimensionInputController()
 
 DimensionInputController::~DimensionInputController()
 {
+    if (qApp != nullptr) // The windows that go with this still send events.
+        qApp->removeEventFilter(this);
     Manager().SetHandlerAccess(nullptr);
     JournalManager::GetInstance().RemoveObserver(this);
 }
