@@ -64,14 +64,15 @@ public:
     /// Where the user types now: that editor, or the field of a coordinate; else null.
     QLineEdit* GetOpenField() const;
 
-    /// The texts of a point that is being typed, and why one of them was rejected; nothing if none
-    /// is.
+    /// A point that is being typed.
     struct TypedPoint
     {
-        QString x;
-        QString y;
-        QString message;
+        QString x;       ///< The text in the field of the first coordinate.
+        QString y;       ///< The text in the field of the second one.
+        QString message; ///< Why one of them was rejected; empty if none was.
     };
+
+    /// The point that is being typed; nothing if none is.
     std::optional<TypedPoint> GetTypedPoint() const;
 
     /// Why the text in the editor was rejected; empty if it was not.

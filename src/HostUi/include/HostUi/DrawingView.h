@@ -67,8 +67,11 @@ public:
     /// True if the view was painted since its last change and shows the whole model as it is.
     bool IsWhole() const;
 
-    /// Whether the arrow keys move the cursor, and the world point to which they have moved it.
+    /// True from an arrow key on until Escape or a move of the mouse: the arrow keys move the
+    /// cursor.
     bool IsWalking() const { return m_walked.has_value(); }
+
+    /// The world point to which they have moved it; only while `IsWalking`.
     const Vector3d& GetWalked() const { return *m_walked; }
 
     /// Emits cursorMoved again if the cursor is in the view, because what it points at has changed.
