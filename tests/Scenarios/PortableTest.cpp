@@ -26,8 +26,10 @@ public:
         for (const QString& part : {QStringLiteral("lib"), QStringLiteral("share")})
             QFile::link(QFileInfo(built.filePath(part)).canonicalFilePath(),
                         root.filePath(QStringLiteral("program/") + part));
+        // Many have one, for other things.
+        root.mkpath(QStringLiteral("program/data"));
         if (hasData)
-            root.mkpath(QStringLiteral("program/data"));
+            root.mkpath(QStringLiteral("program/sketcher-data"));
     }
 
     QString Program() const { return m_folder.filePath(QStringLiteral("program/bin/sketcher")); }
@@ -63,8 +65,8 @@ private slots:
         const Outcome outcome = program.Run();
 
         QCOMPARE(outcome.code, 0);
-        QVERIFY(program.Has("program/data/layout.json"));
-        QVERIFY(program.Has("program/data/journals"));
+        QVERIFY(program.Has("program/sketcher-data/layout.json"));
+        QVERIFY(program.Has("program/sketcher-data/journals"));
         QVERIFY(!program.Has("home"));
     }
 
@@ -75,7 +77,8 @@ private slots:
         const Outcome outcome = program.Run();
 
         QCOMPARE(outcome.code, 0);
-        QVERIFY(!program.Has("program/data"));
+        QVERIFY(!program.Has("program/sketcher-data"));
+        QVERIFY(!program.Has("program/data/layout.json"));
         QVERIFY(program.Has("home/.config/sketcher/layout.json"));
         QVERIFY(program.Has("home/.local/share/sketcher/journals"));
     }

@@ -10,7 +10,8 @@ namespace
 /// The user's folder of this kind, or the one that is carried along with the program.
 QString FolderOf(QStandardPaths::StandardLocation kind)
 {
-    const QDir carried(QCoreApplication::applicationDirPath() + QStringLiteral("/../data"));
+    const QDir carried(QCoreApplication::applicationDirPath() +
+                       QStringLiteral("/../sketcher-data"));
     return carried.exists() ? QDir::cleanPath(carried.path())
                             : QStandardPaths::writableLocation(kind);
 }

@@ -6,6 +6,7 @@
 #include "View/SketchView.h"
 
 #include "Dimension/LengthUnit.h"
+#include "HostUi/NumberText.h"
 #include "HostUi/QtText.h"
 
 #include <QStringList>
@@ -64,9 +65,9 @@ QString ViewDescription::DescribeCursor() const
 {
     const LengthUnit& unit = LengthUnit::GetCurrent();
     const vesk::Vector3d cursor = m_view.GetWalked();
-    QString text = "X %1，Y %2 %3"_tr.arg(unit.ToShown(cursor.x()), 0, 'f', 3)
-                       .arg(unit.ToShown(cursor.y()), 0, 'f', 3)
-                       .arg(vesk::ToQString(unit.GetSymbol()));
+    const QString text = "X %1，Y %2 %3"_tr.arg(vesk::ToLocalText(unit.ToShown(cursor.x()), 3),
+                                                vesk::ToLocalText(unit.ToShown(cursor.y()), 3),
+                                                vesk::ToQString(unit.GetSymbol()));
     const Entity* pPointed = m_workspace.sketch.Find(m_view.GetPointed());
     return pPointed != nullptr ? text + "，"_tr + DescribeEntity(*pPointed) : text;
 }

@@ -13,8 +13,6 @@ namespace vesk
 namespace
 {
 
-constexpr QLatin1Char Relative('@');
-
 /// What was read from the text after an `@`; that alone is no distance from the last point.
 TypedReading ReadDistance(const QString& text, const LengthUnit& unit)
 {
@@ -34,7 +32,7 @@ CoordinateVerdict JudgeCoordinate(const QString& text, const std::optional<doubl
                                   const LengthUnit& unit)
 {
     const QString typed = text.trimmed();
-    const bool isRelative = typed.startsWith(Relative);
+    const bool isRelative = typed.startsWith(RelativeMark);
     if (isRelative && !last.has_value())
         return Reject("还没有上一点，不能用“@”"_tr);
     const TypedReading reading = isRelative ? ReadDistance(typed.mid(1).trimmed(), unit)

@@ -9,6 +9,9 @@ namespace vesk
 
 class LengthUnit;
 
+/// Before a value it counts from the last point.
+constexpr QLatin1Char RelativeMark('@');
+
 /// The verdict on a text typed for a coordinate of a point.
 struct CoordinateVerdict
 {

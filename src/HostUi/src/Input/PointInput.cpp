@@ -24,8 +24,6 @@ namespace vesk
 namespace
 {
 
-constexpr QLatin1Char RelativeMark('@');
-
 bool TakesPoint()
 {
     const IAction* pAction = IActionManager::CurrentAction();
