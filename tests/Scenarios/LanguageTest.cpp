@@ -104,12 +104,7 @@ QStringList ChineseTexts()
 
 bool IsDialogOpen()
 {
-    for (const QWidget* pWidget : QApplication::topLevelWidgets())
-    {
-        if (pWidget->isVisible() && qobject_cast<const QDialog*>(pWidget) != nullptr)
-            return true;
-    }
-    return false;
+    return ScriptedUser::FindDialog() != nullptr;
 }
 
 void CloseDialogs()

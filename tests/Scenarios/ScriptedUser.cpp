@@ -10,6 +10,7 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
+#include <QDialog>
 #include <QLabel>
 #include <QMenu>
 #include <QMouseEvent>
@@ -269,6 +270,17 @@ QString ScriptedUser::States()
 SketchView* ScriptedUser::FindView()
 {
     return &FindWindow()->GetView();
+}
+
+QDialog* ScriptedUser::FindDialog()
+{
+    for (QWidget* pWidget : QApplication::topLevelWidgets())
+    {
+        auto* pDialog = qobject_cast<QDialog*>(pWidget);
+        if (pDialog != nullptr && pDialog->isVisible())
+            return pDialog;
+    }
+    return nullptr;
 }
 
 QAbstractButton* ScriptedUser::FindButton(const QString& controlId)

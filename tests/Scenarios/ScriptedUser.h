@@ -16,6 +16,7 @@
 class QAbstractButton;
 class QAction;
 class QComboBox;
+class QDialog;
 class QToolButton;
 class SketchView;
 class SketcherWindow;
@@ -91,6 +92,8 @@ public:
     /// The window and its view, inside a step.
     static SketcherWindow* FindWindow();
     static SketchView* FindView();
+    /// The dialog that is open; null if none is.
+    static QDialog* FindDialog();
     static QAbstractButton* FindButton(const QString& controlId);
     static QToolButton* FindMenuButton(const QString& controlId);
     static QComboBox* FindBox(const QString& controlId);

@@ -117,6 +117,10 @@ Inspector::Inspector(ControlHost& controls, const DimensionInputController& inpu
     m_pDefinitions->setUniformRowHeights(true);
     m_pDefinitions->setFrameShape(QFrame::NoFrame);
     m_pDefinitions->setHeaderLabels({"定义"_tr, "种类"_tr, "值"_tr, "可见"_tr, "可用"_tr});
+    // In a narrow pane the columns are too narrow for their names.
+    QTreeWidgetItem* pHeader = m_pDefinitions->headerItem();
+    for (int column = 0; column < pHeader->columnCount(); ++column)
+        pHeader->setToolTip(column, pHeader->text(column));
     m_pEvents->setObjectName(QStringLiteral("InspectorEvents"));
     m_pEvents->setUniformItemSizes(true);
     m_pEvents->setFrameShape(QFrame::NoFrame);

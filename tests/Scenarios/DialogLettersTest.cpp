@@ -1,0 +1,90 @@
+#include "ScenarioTest.h"
+#include "ScriptedUser.h"
+
+#include "Support/ScopedVariable.h"
+#include "Support/TestValues.h"
+
+#include <QAbstractButton>
+#include <QDialog>
+#include <QKeySequence>
+#include <QLabel>
+#include <QLocale>
+
+namespace
+{
+
+QString LetterOf(const QString& text)
+{
+    return QKeySequence::mnemonic(text).toString();
+}
+
+/// The keys that the controls of a dialog have by a letter of their texts.
+QStringList LettersOf(const QWidget& dialog)
+{
+    QStringList letters;
+    for (const auto* pButton : dialog.findChildren<QAbstractButton*>())
+    {
+        if (pButton->isVisible())
+            letters << LetterOf(pButton->text());
+    }
+    for (const auto* pLabel : dialog.findChildren<QLabel*>())
+    {
+        if (pLabel->isVisible() && pLabel->buddy() != nullptr)
+            letters << LetterOf(pLabel->text());
+    }
+    letters.removeAll(QString());
+    letters.sort();
+    return letters;
+}
+
+}
+
+/// The letters that are underlined in dialogs.
+class DialogLettersTest final : public ScenarioTest
+{
+    Q_OBJECT
+
+private slots:
+    void eachLetterBelongsToOneControl_data()
+    {
+        QTest::addColumn<QLocale>("locale");
+        QTest::addColumn<QString>("command");
+
+        for (const QLocale& locale :
+             {QLocale(QLocale::English), QLocale(QLocale::German), QLocale::c()})
+        {
+            for (const char* command : {"Settings", "Open", "SaveAs", "Print", "Export", "Import"})
+                QTest::addRow("%s, %s", command, qPrintable(locale.name()))
+                    << locale << QString("Sketcher.") + command;
+        }
+    }
+
+    void eachLetterBelongsToOneControl()
+    {
+        QFETCH(QLocale, locale);
+        QFETCH(QString, command);
+        const ScopedVariable attended("VESK_UNATTENDED", {});
+        const QLocale former;
+        QLocale::setDefault(locale);
+        QStringList letters;
+        ScriptedUser user;
+        user.DrawLine(0, 0, 50, 20);
+
+        user.Do([command] { ScriptedUser::FindButton(command)->click(); })
+            .Until([] { return ScriptedUser::FindDialog() != nullptr; })
+            .Do([&letters] { letters = LettersOf(*ScriptedUser::FindDialog()); })
+            .Do([] { ScriptedUser::FindDialog()->reject(); });
+
+        const int code = user.Run(m_pFixture->Draw());
+        QLocale::setDefault(former);
+        QCOMPARE(code, 0);
+        QVERIFY(!letters.isEmpty());
+        qWarning() << letters;
+        QStringList once = letters;
+        once.removeDuplicates();
+        QCOMPARE(letters.join(' '), once.join(' '));
+    }
+};
+
+VESK_TESTS(DialogLettersTest);
+#include "DialogLettersTest.moc"
