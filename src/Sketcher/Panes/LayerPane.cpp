@@ -108,7 +108,7 @@ QWidget* LayerPane::MakeButtons()
     pRow->setSpacing(2);
     pRow->addWidget(
         MakeButton(QStringLiteral("NewLayer"), "新建"_tr, "新建图层"_tr, &LayerPane::OnNew));
-    m_pRemove = MakeButton(QStringLiteral("RemoveLayer"), "删除"_tr,
+    m_pRemove = MakeButton(QStringLiteral("RemoveLayer"), Tr("删除"_source, "layer"),
                            "删除所选图层；基础图层和有图元的图层不能删除"_tr, &LayerPane::OnRemove);
     m_pMakeCurrent = MakeButton(QStringLiteral("MakeLayerCurrent"), "设为当前"_tr,
                                 "新图元画在所选图层上"_tr, &LayerPane::OnMakeCurrent);

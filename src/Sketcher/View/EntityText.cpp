@@ -7,6 +7,7 @@
 
 #include "Dimension/LengthUnit.h"
 #include "Dimension/TemporaryDimensionStyle.h"
+#include "HostUi/NumberText.h"
 #include "HostUi/QtText.h"
 
 #include <QStringList>
@@ -24,9 +25,10 @@ QString DescribeProperty(const ShapeProperty& property, double value)
     const TemporaryDimensionStyle style;
     const QString caption = ToQString(Tr(property.caption));
     if (property.isAngle)
-        return QStringLiteral("%1 %2°").arg(caption, ToQString(style.FormatAngle(value)));
+        return QStringLiteral("%1 %2°").arg(caption,
+                                            ToLocalText(value, style.GetSecondValueDecimals()));
     return QStringLiteral("%1 %2 %3")
-        .arg(caption, ToQString(style.FormatLength(style.ToShown(value))),
+        .arg(caption, ToLocalText(style.ToShown(value), style.GetFirstValueDecimals()),
              ToQString(LengthUnit::GetCurrent().GetSymbol()));
 }
 

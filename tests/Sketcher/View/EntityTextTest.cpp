@@ -5,6 +5,8 @@
 
 #include "Dimension/LengthUnit.h"
 
+#include <QLocale>
+
 using vesk::LengthUnit;
 
 Q_DECLARE_METATYPE(Shape)
@@ -39,6 +41,17 @@ private slots:
         QFETCH(QString, text);
 
         QCOMPARE(DescribeEntity({7, shape, {}}), text);
+    }
+
+    void numbersAreWrittenAsInTheLocale()
+    {
+        const QLocale former;
+        QLocale::setDefault(QLocale(QLocale::German));
+
+        const QString text = DescribeEntity({7, LineShape{{10, 0, 0}, {40, 40, 0}}, {}});
+
+        QLocale::setDefault(former);
+        QCOMPARE(text, QStringLiteral("直线 #7：长度 50,000 mm，角度 53,13°"));
     }
 
     void lengthsAreInTheUnitThatIsShown()
