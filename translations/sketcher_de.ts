@@ -291,6 +291,46 @@ Maßeingabe: %2</translation>
             <source>否</source>
             <translation>Nein</translation>
         </message>
+        <message>
+            <source>浮动(&amp;F)</source>
+            <translation>Lös&amp;en</translation>
+        </message>
+        <message>
+            <source>关闭(&amp;C)</source>
+            <translation>S&amp;chließen</translation>
+        </message>
+        <message>
+            <source>移到左侧(&amp;L)</source>
+            <translation>Nach &amp;links</translation>
+        </message>
+        <message>
+            <source>移到右侧(&amp;R)</source>
+            <translation>Nach &amp;rechts</translation>
+        </message>
+        <message>
+            <source>移到上方(&amp;T)</source>
+            <translation>Nach &amp;oben</translation>
+        </message>
+        <message>
+            <source>移到下方(&amp;B)</source>
+            <translation>Nach &amp;unten</translation>
+        </message>
+        <message>
+            <source>加宽(&amp;W)</source>
+            <translation>&amp;Breiter</translation>
+        </message>
+        <message>
+            <source>缩窄(&amp;N)</source>
+            <translation>&amp;Schmaler</translation>
+        </message>
+        <message>
+            <source>加高(&amp;A)</source>
+            <translation>&amp;Höher</translation>
+        </message>
+        <message>
+            <source>减低(&amp;S)</source>
+            <translation>&amp;Niedriger</translation>
+        </message>
     </context>
     <context>
         <name>Sketcher</name>
@@ -685,6 +725,10 @@ Maßeingabe: %2</translation>
         <message>
             <source>转到下一区域或上一区域：图纸、面板、功能区</source>
             <translation>Zum nächsten oder vorigen Bereich: Zeichnung, Paletten, Menüband</translation>
+        </message>
+        <message>
+            <source>打开所在面板的菜单：浮动、移动、改变大小、关闭</source>
+            <translation>Öffnet das Menü der Palette, die die Tastatur hat: lösen, verschieben, Größe ändern, schließen</translation>
         </message>
         <message>
             <source>数字</source>
@@ -1373,6 +1417,11 @@ Maßeingabe: %2</translation>
         <message>
             <source>图层 %1</source>
             <translation>Layer %1</translation>
+        </message>
+        <message>
+            <source>删除</source>
+            <comment>layer</comment>
+            <translation>Entfernen</translation>
         </message>
         <message>
             <source>删除所选图层；基础图层和有图元的图层不能删除</source>

@@ -291,6 +291,46 @@ Dimension input: %2</translation>
             <source>否</source>
             <translation>No</translation>
         </message>
+        <message>
+            <source>浮动(&amp;F)</source>
+            <translation>&amp;Float</translation>
+        </message>
+        <message>
+            <source>关闭(&amp;C)</source>
+            <translation>&amp;Close</translation>
+        </message>
+        <message>
+            <source>移到左侧(&amp;L)</source>
+            <translation>Move to the &amp;left</translation>
+        </message>
+        <message>
+            <source>移到右侧(&amp;R)</source>
+            <translation>Move to the &amp;right</translation>
+        </message>
+        <message>
+            <source>移到上方(&amp;T)</source>
+            <translation>Move to the &amp;top</translation>
+        </message>
+        <message>
+            <source>移到下方(&amp;B)</source>
+            <translation>Move to the &amp;bottom</translation>
+        </message>
+        <message>
+            <source>加宽(&amp;W)</source>
+            <translation>&amp;Wider</translation>
+        </message>
+        <message>
+            <source>缩窄(&amp;N)</source>
+            <translation>&amp;Narrower</translation>
+        </message>
+        <message>
+            <source>加高(&amp;A)</source>
+            <translation>T&amp;aller</translation>
+        </message>
+        <message>
+            <source>减低(&amp;S)</source>
+            <translation>&amp;Shorter</translation>
+        </message>
     </context>
     <context>
         <name>Sketcher</name>
@@ -685,6 +725,10 @@ Dimension input: %2</translation>
         <message>
             <source>转到下一区域或上一区域：图纸、面板、功能区</source>
             <translation>To the next or the previous area: drawing, panes, ribbon</translation>
+        </message>
+        <message>
+            <source>打开所在面板的菜单：浮动、移动、改变大小、关闭</source>
+            <translation>Opens the menu of the pane that has the keyboard: float, move, resize, close</translation>
         </message>
         <message>
             <source>数字</source>
@@ -1373,6 +1417,11 @@ Dimension input: %2</translation>
         <message>
             <source>图层 %1</source>
             <translation>Layer %1</translation>
+        </message>
+        <message>
+            <source>删除</source>
+            <comment>layer</comment>
+            <translation>Remove</translation>
         </message>
         <message>
             <source>删除所选图层；基础图层和有图元的图层不能删除</source>

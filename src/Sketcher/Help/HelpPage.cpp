@@ -35,6 +35,7 @@ QVector<HelpRow> WalkingRows()
         {"Shift+空格"_tr, "开始框选，再按空格结束"_tr},
         {QStringLiteral("Ctrl++ / Ctrl+-"), "放大、缩小"_tr},
         {QStringLiteral("F6 / Shift+F6"), "转到下一区域或上一区域：图纸、面板、功能区"_tr},
+        {QStringLiteral("Alt+-"), "打开所在面板的菜单：浮动、移动、改变大小、关闭"_tr},
     };
 }
 

@@ -77,4 +77,5 @@ void RecoveryBar::Offer(const UnsavedWork& work, const QString& caption, int oth
         text += Tr("；另有 %n 个"_source, others);
     m_pText->setText(text);
     m_pText->setToolTip(text);
+    setAccessibleName(text);
 }

@@ -13,6 +13,7 @@
 #include "Support/IdleAction.h"
 #include "Support/TestValues.h"
 
+#include <QAccessible>
 #include <QCloseEvent>
 #include <QLabel>
 #include <QLocale>
@@ -136,6 +137,27 @@ private slots:
         QTRY_VERIFY(top(pBar) + pBar->height() <= top(pView));
         delete pBar;
         QTRY_VERIFY(top(f.window.GetRibbon()) + f.window.GetRibbon()->height() >= top(pView) - 1);
+    }
+
+    void aBarIsAnAlert()
+    {
+        Fixture f;
+        auto* pBar = new QWidget;
+
+        f.window.AddBar(pBar);
+
+        QCOMPARE(QAccessible::queryAccessibleInterface(pBar)->role(), QAccessible::AlertMessage);
+    }
+
+    void aNoticeIsTheNameOfTheStatusBar()
+    {
+        Fixture f;
+
+        f.window.ShowNotice("saved");
+        QCOMPARE(f.window.statusBar()->accessibleName(), QString("saved"));
+        f.window.statusBar()->clearMessage();
+
+        QCOMPARE(f.window.statusBar()->accessibleName(), QString());
     }
 
     void theStatusBarIsInItsOrder()

@@ -65,6 +65,7 @@ private slots:
         QFETCH(QString, text);
         QCOMPARE(bar.findChild<QLabel*>("RecoveryText")->text(), text);
         QCOMPARE(bar.findChild<QLabel*>("RecoveryText")->toolTip(), text);
+        QCOMPARE(bar.accessibleName(), text);
     }
 
     void damageIsSaid()

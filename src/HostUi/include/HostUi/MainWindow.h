@@ -50,10 +50,12 @@ public:
     void SetDrawingView(DrawingView* pView);
 
     /// Adds a bar below the ribbon, for an offer that nobody has to answer. The window becomes its
-    /// Qt parent; hide or destroy the bar when it is no longer needed.
+    /// Qt parent; hide or destroy the bar when it is no longer needed. Screen readers take it for
+    /// an alert, and say its accessible name when it appears.
     void AddBar(QWidget* pBar);
 
-    /// Shows a text in the status bar for a few seconds.
+    /// Shows a text in the status bar for a few seconds; for screen readers it is the name of the
+    /// status bar as long.
     void ShowNotice(const QString& text);
 
     /// Tells a text in the user's language; asked again when that changes.

@@ -1,5 +1,6 @@
 #include "HostUi/MainWindow.h"
 
+#include "Accessibility/AccessibleTexts.h"
 #include "Application/FocusAreas.h"
 #include "Texts/HostUiText.h"
 
@@ -70,6 +71,8 @@ MainWindow::MainWindow()
     m_pStates->setMinimumWidth(1);
     m_pStates->hide();
 
+    connect(statusBar(), &QStatusBar::messageChanged, this,
+            [this](const QString& text) { SetAccessibleTexts(*statusBar(), text, {}); });
     new FocusAreas(*this);
     // The host identifies windows by their native window.
     winId();
@@ -120,6 +123,8 @@ void MainWindow::NameLabels()
 
 void MainWindow::AddBar(QWidget* pBar)
 {
+    // Screen readers say at once what appears as an alert.
+    SetAccessibleRole(*pBar, QAccessible::AlertMessage);
     menuWidget()->layout()->addWidget(pBar);
 }
 

@@ -1,6 +1,7 @@
 #include "HostUi/PaneLayout.h"
 
 #include "HostUi/QtText.h"
+#include "Panes/PaneMenu.h"
 #include "Panes/PanePosition.h"
 #include "Panes/PaneReach.h"
 
@@ -89,6 +90,7 @@ PaneLayout::PaneLayout(QMainWindow& window, IDockManager& docks, std::vector<Pan
     : m_window(window), m_docks(docks), m_places(std::move(places))
 {
     Prepare();
+    new PaneMenu(window, this);
     // One change emits several signals; only after the last is every screen in position.
     m_reachCheck.setSingleShot(true);
     connect(&m_reachCheck, &QTimer::timeout, this, &PaneLayout::BringFloatingIntoReach);
