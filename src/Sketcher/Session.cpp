@@ -12,6 +12,7 @@
 #include "OpeningFit.h"
 #include "Output/DrawingExport.h"
 #include "Output/DrawingSource.h"
+#include "QuitWithoutClosing.h"
 #include "Recovery/RecoverContent.h"
 #include "Ribbon/CommandTable.h"
 #include "VeskUiQtImpl/DockManagerImpl.h"
@@ -393,6 +394,7 @@ int Session::Draw()
     });
     // At the end of the desktop's session nobody is asked: what is not saved is offered afterwards.
     KeepWindowsAtSessionEnd();
+    const QuitWithoutClosing quitting;
     BeginRecovery();
     m_window.showMaximized();
     m_window.GetView().Activate();

@@ -90,7 +90,8 @@ struct PointFixture
 
     void SendMouse(QEvent::Type type, QPoint pixel, Qt::MouseButton button)
     {
-        QMouseEvent event(type, pixel, button, button, Qt::NoModifier);
+        QMouseEvent event(type, pixel, host.view.mapToGlobal(pixel), button, button,
+                          Qt::NoModifier);
         QCoreApplication::sendEvent(&host.view, &event);
     }
 

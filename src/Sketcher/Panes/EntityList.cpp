@@ -1,9 +1,11 @@
 #include "Panes/EntityList.h"
 
 #include <QEvent>
+#include <QFontMetricsF>
 #include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QScrollBar>
+#include <QtMath>
 
 EntityList::EntityList()
 {
@@ -62,5 +64,6 @@ void EntityList::changeEvent(QEvent* pEvent)
 
 void EntityList::FitRows()
 {
-    verticalHeader()->setDefaultSectionSize(fontMetrics().height());
+    // With Qt 6 a line of text need not be a whole number of pixels high.
+    verticalHeader()->setDefaultSectionSize(qCeil(QFontMetricsF(font(), this).height()));
 }

@@ -63,18 +63,8 @@ LayerModel::LayerModel(const Sketch& sketch, QObject* pParent)
 
 void LayerModel::Refresh()
 {
-    const std::vector<Layer>& next = m_sketch.GetLayers();
-    const bool isSameSet = std::equal(m_layers.begin(), m_layers.end(), next.begin(), next.end(),
-                                      [](const Layer& a, const Layer& b) { return a.id == b.id; });
-    if (!isSameSet)
-    {
-        beginResetModel();
-        m_layers = next;
-        m_currentLayer = m_sketch.GetCurrentPen().layer;
-        endResetModel();
-        return;
-    }
-    const std::vector<Layer> before = std::exchange(m_layers, next);
+    FitRows(m_sketch.GetLayers());
+    const std::vector<Layer> before = std::exchange(m_layers, m_sketch.GetLayers());
     const int currentBefore = std::exchange(m_currentLayer, m_sketch.GetCurrentPen().layer);
     // Only rows that differ: a name that is being typed in another stays.
     for (int row = 0; row < rowCount(); ++row)
@@ -150,6 +140,9 @@ QVariant LayerModel::data(const QModelIndex& index, int role) const
 
 bool LayerModel::setData(const QModelIndex& index, const QVariant& value, int role)
 {
+    // The toolkit offers what was typed for a layer when its row is about to go, too.
+    if (m_sketch.FindLayer(GetLayer(index.row()).id) == nullptr)
+        return false;
     if (index.column() == NameColumn && role == Qt::EditRole)
     {
         const std::wstring name = ToWide(value.toString().trimmed());
@@ -188,6 +181,34 @@ QVariant LayerModel::headerData(int section, Qt::Orientation orientation, int ro
     if (role == Qt::ToolTipRole || isUnseen)
         return Tr(ColumnAt(section).toolTip);
     return role == Qt::DisplayRole ? Tr(ColumnAt(section).header) : QVariant();
+}
+
+/// Removes and inserts rows until there is one for each layer; both are in the order of ids. Rows
+/// that stay are not touched, nor is the name that is being typed in one of them.
+void LayerModel::FitRows(const std::vector<Layer>& next)
+{
+    int row = 0;
+    for (const Layer& layer : next)
+    {
+        while (row < rowCount() && GetLayer(row).id < layer.id)
+            DropRow(row);
+        if (row == rowCount() || GetLayer(row).id != layer.id)
+        {
+            beginInsertRows(QModelIndex(), row, row);
+            m_layers.insert(m_layers.begin() + row, layer);
+            endInsertRows();
+        }
+        ++row;
+    }
+    while (row < rowCount())
+        DropRow(row);
+}
+
+void LayerModel::DropRow(int row)
+{
+    beginRemoveRows(QModelIndex(), row, row);
+    m_layers.erase(m_layers.begin() + row);
+    endRemoveRows();
 }
 
 QVariant LayerModel::GetText(const Layer& layer, int column) const

@@ -30,8 +30,8 @@ public:
     /// The sketch is not owned and outlives the model.
     LayerModel(const Sketch& sketch, QObject* pParent);
 
-    /// Updates the rows from the drawing. While no layer is added or removed, rows are kept, and
-    /// only those that differ are said to have changed.
+    /// Updates the rows from the drawing. The row of a layer that is still there is kept, and said
+    /// to have changed only if it differs.
     void Refresh();
 
     const Layer& GetLayer(int row) const { return m_layers[static_cast<std::size_t>(row)]; }
@@ -55,6 +55,8 @@ signals:
     void answered(const QString& refusal);
 
 private:
+    void FitRows(const std::vector<Layer>& next);
+    void DropRow(int row);
     QVariant GetText(const Layer& layer, int column) const;
 
     const Sketch& m_sketch;

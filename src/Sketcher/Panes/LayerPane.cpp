@@ -206,12 +206,14 @@ void LayerPane::MakeCurrent(int layerId)
     OnAnswered(QString());
 }
 
-/// Selects a layer; nothing if there is none with that id.
+/// Selects a layer, or none if there is none with that id.
 void LayerPane::Select(int layerId)
 {
     const int row = m_pModel->GetRow(layerId);
     if (row >= 0)
         m_pView->setCurrentIndex(m_pModel->index(row, LayerModel::NameColumn));
+    else
+        m_pView->clearSelection();
 }
 
 void LayerPane::ShowPossible()

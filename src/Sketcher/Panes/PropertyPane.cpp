@@ -33,13 +33,17 @@ PropertyPane::PropertyPane(Workspace& workspace, ControlHost& controls)
 {
     m_pTitle->setObjectName(QStringLiteral("PropertyTitle"));
     auto* pForm = new QWidget;
-    auto* pRows = new QFormLayout(pForm);
+    auto* pColumn = new QVBoxLayout(pForm);
+    auto* pRows = new QFormLayout;
     // Hidden rows keep their spacing.
     pRows->setVerticalSpacing(2);
     pRows->addRow(m_pTitle);
     for (const ShapeProperty& property : AllProperties())
         AddRow(property, controls, *pRows);
-    pRows->addRow(m_pMessage);
+    pColumn->addLayout(pRows);
+    // Not in the form: with a wrapped text in it, Qt 6 writes beyond its data when rows are hidden.
+    pColumn->addWidget(m_pMessage);
+    pColumn->addStretch();
 
     auto* pScroll = new QScrollArea;
     pScroll->setWidget(pForm);

@@ -1,5 +1,6 @@
 #include "Settings/DarkStyle.h"
 
+#include <QGuiApplication>
 #include <QIcon>
 #include <QPainter>
 #include <QPalette>
@@ -71,6 +72,6 @@ QIcon DarkStyle::standardIcon(StandardPixmap standard, const QStyleOption* pOpti
     const bool isClosing = standard == SP_TitleBarCloseButton;
     if (!isClosing && standard != SP_TitleBarNormalButton)
         return QProxyStyle::standardIcon(standard, pOption, pWidget);
-    const QPalette palette = pOption != nullptr ? pOption->palette : QPalette();
-    return MakeTitleIcon(isClosing, palette.color(QPalette::WindowText));
+    // The palette of the option is the pane's, which Qt 6 sets only later than the style.
+    return MakeTitleIcon(isClosing, QGuiApplication::palette().color(QPalette::WindowText));
 }

@@ -51,10 +51,14 @@ int main(int argc, char* argv[])
     controls.RefreshControls();
     window.show();
 
-    QTimer::singleShot(0, pButton, &QAbstractButton::click);
+    bool isShown = false;
+    QTimer::singleShot(0, pButton, [pButton, &isShown] {
+        isShown = pButton->isVisible();
+        pButton->click();
+    });
     QTimer::singleShot(0, &qtApplication, &QApplication::quit);
     QApplication::exec();
     std::printf("button \"%s\" shown: %d, commands run: %d\n", qPrintable(pButton->text()),
-                pButton->isVisible() ? 1 : 0, count);
-    return pButton->isVisible() && count == 1 ? 0 : 3;
+                isShown ? 1 : 0, count);
+    return isShown && count == 1 ? 0 : 3;
 }

@@ -110,6 +110,20 @@ private slots:
         QVERIFY(IMainWindow::GetMainWindow() == nullptr);
     }
 
+    void theHostFindsItAndItsViewAfterItIsClosed()
+    {
+        Fixture f;
+        const PlainView* pView = f.AddView();
+        f.window.show();
+
+        QVERIFY(f.window.close());
+
+        QCOMPARE(QWidget::find(f.window.GetWindowId()), static_cast<QWidget*>(&f.window));
+        QCOMPARE(QWidget::find(f.window.GetWinId()), static_cast<QWidget*>(&f.window));
+        QCOMPARE(QWidget::find(pView->GetWindowId()), static_cast<const QWidget*>(pView));
+        QVERIFY(!f.window.isVisible());
+    }
+
     void theRibbonStandsAboveTheView()
     {
         Fixture f;

@@ -13,6 +13,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPointer>
+#include <QStringList>
 #include <QToolButton>
 #include <QTreeView>
 
@@ -78,6 +80,16 @@ struct Fixture
     }
 
     const Layer& Walls() const { return *workspace.sketch.FindLayer(walls); }
+
+    /// Types a name for the layer "walls", without finishing it.
+    QLineEdit* TypeName(const QString& name) const
+    {
+        View().setCurrentIndex(Cell(1, LayerModel::NameColumn));
+        View().edit(Cell(1, LayerModel::NameColumn));
+        auto* pField = View().viewport()->findChild<QLineEdit*>();
+        QTest::keyClicks(pField, name);
+        return pField;
+    }
 
     /// Gives the layer "walls" another name by typing.
     void Rename(const QString& name) const
@@ -239,6 +251,65 @@ private slots:
         QCOMPARE(pField->text(), QString("doo"));
     }
 
+    void aNameBeingTypedSurvivesThatAnotherLayerIsAddedOrRemoved_data()
+    {
+        QTest::addColumn<bool>("isRemoved");
+
+        QTest::newRow("added") << false;
+        QTest::newRow("removed") << true;
+    }
+
+    void aNameBeingTypedSurvivesThatAnotherLayerIsAddedOrRemoved()
+    {
+        QFETCH(bool, isRemoved);
+        Fixture f;
+        const int third = f.workspace.sketch.AddLayer(L"third");
+        f.pPane->UpdateStatus();
+        const QPointer<QLineEdit> pField = f.TypeName("doors");
+
+        if (isRemoved)
+            f.workspace.sketch.RemoveLayer(third);
+        else
+            f.workspace.sketch.AddLayer(L"fourth");
+        f.pPane->UpdateStatus();
+
+        QVERIFY(pField != nullptr && pField->isVisible());
+        QTest::keyClick(pField, Qt::Key_Return);
+        QTRY_COMPARE(f.Walls().name, std::wstring(L"doors"));
+    }
+
+    void aNameBeingTypedIsTakenWhenAnotherLayerIsMade()
+    {
+        Fixture f;
+        f.TypeName("doors");
+
+        f.Button("NewLayer").click();
+
+        QTRY_COMPARE(f.Walls().name, std::wstring(L"doors"));
+        QCOMPARE(f.Row(2), QStringLiteral("图层 1 visible"));
+    }
+
+    void aLayerMayGoWhileItsNameIsBeingTyped()
+    {
+        Fixture f;
+        f.workspace.sketch.Undo(); // The line.
+        f.pPane->UpdateStatus();
+        const QPointer<QLineEdit> pField = f.TypeName("doors");
+        s_messages.clear();
+        const QtMessageHandler former = qInstallMessageHandler(&LayerPaneTest::Note);
+
+        f.workspace.sketch.RemoveLayer(f.walls);
+        f.pPane->UpdateStatus();
+        QTest::qWait(0);
+
+        qInstallMessageHandler(former);
+        QCOMPARE(s_messages, QStringList());
+        QTRY_VERIFY(pField == nullptr);
+        QCOMPARE(f.View().model()->rowCount(), 1);
+        QVERIFY(f.host.journal.GetCommands().empty());
+        QVERIFY(!f.Message().isVisible());
+    }
+
     void theSameNameIsNoCommand()
     {
         Fixture f;
@@ -365,6 +436,22 @@ private slots:
         QCOMPARE(f.Walls().colour, 1);
     }
 
+    void afterTheSelectedLayerHasGoneNoneIsSelected()
+    {
+        Fixture f;
+        f.workspace.sketch.AddLayer(L"third");
+        const int fourth = f.workspace.sketch.AddLayer(L"fourth");
+        f.pPane->UpdateStatus();
+        f.Click(2, LayerModel::NameColumn);
+
+        f.Button("RemoveLayer").click();
+
+        QCOMPARE(f.View().model()->rowCount(), 3);
+        QVERIFY(f.workspace.sketch.FindLayer(L"fourth")->id == fourth);
+        QVERIFY(!f.View().selectionModel()->hasSelection());
+        QVERIFY(!f.Button("RemoveLayer").isEnabled());
+    }
+
     void theSelectedLayerStaysSelected()
     {
         Fixture f;
@@ -376,6 +463,15 @@ private slots:
         QCOMPARE(f.View().selectionModel()->selectedRows().size(), 1);
         QCOMPARE(f.View().selectionModel()->selectedRows().front().row(), 1);
     }
+
+private:
+    static void Note(QtMsgType, const QMessageLogContext&, const QString& message)
+    {
+        if (message.startsWith("QAbstractItemView"))
+            s_messages << message;
+    }
+
+    inline static QStringList s_messages;
 };
 
 VESK_TESTS(LayerPaneTest);

@@ -159,7 +159,8 @@ private slots:
         const QSignalSpy menus(&f.view, &SketchView::menuRequested);
         f.Type(Qt::Key_Right);
 
-        QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(1, 1));
+        QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(1, 1),
+                                f.view.mapToGlobal(QPoint(1, 1)));
         QCoreApplication::sendEvent(&f.view, &event);
 
         QCOMPARE(f.workspace.selection.GetIds(), std::vector<int>{line});

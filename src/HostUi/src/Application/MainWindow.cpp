@@ -86,14 +86,15 @@ MainWindow::~MainWindow()
     SetMainWindow(nullptr);
 }
 
+/// Created anew if there is none: Qt 6 destroys the native window of a window that is closed.
 WindowId MainWindow::GetWindowId() const
 {
-    return internalWinId();
+    return winId();
 }
 
 WindowId MainWindow::GetWinId() const
 {
-    return internalWinId();
+    return winId();
 }
 
 /// Called in any thread, before the warning is counted: the event loop reads the count, once for

@@ -58,9 +58,10 @@ std::uint32_t DrawingView::GetId() const
     return m_id;
 }
 
+/// Created anew if there is none: Qt 6 destroys the native windows in a window that is closed.
 WindowId DrawingView::GetWindowId() const
 {
-    return internalWinId();
+    return winId();
 }
 
 IModelView* DrawingView::GetModelView() const
