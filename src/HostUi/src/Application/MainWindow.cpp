@@ -23,6 +23,9 @@ namespace vesk
 namespace
 {
 
+/// Small enough for any screen, and large enough for ribbon, drawing and status bar without panes.
+constexpr QSize Least(480, 400);
+
 /// Explains where to find the warnings that were not shown.
 QString TellWhereTheLogIs()
 {
@@ -71,6 +74,7 @@ MainWindow::MainWindow()
     m_pStates->hide();
 
     new FocusAreas(*this);
+    setMinimumSize(Least);
     // The host identifies windows by their native window.
     winId();
     SetMainWindow(this);
