@@ -1929,6 +1929,14 @@ Maßeingabe: %2</translation>
             <translation>Die Einstellungen lassen sich nicht speichern: %1</translation>
         </message>
         <message>
+            <source>折叠功能区</source>
+            <translation>Menüband einklappen</translation>
+        </message>
+        <message>
+            <source>只显示功能区的选项卡，或恢复显示</source>
+            <translation>Nur die Reiter des Menübands zeigen oder wieder alles</translation>
+        </message>
+        <message>
             <source>语言、颜色、单位、捕捉、按键和日志</source>
             <translation>Sprache, Farben, Einheit, Fang, Tasten und Journal</translation>
         </message>

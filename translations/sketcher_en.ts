@@ -1929,6 +1929,14 @@ Dimension input: %2</translation>
             <translation>Cannot save the settings: %1</translation>
         </message>
         <message>
+            <source>折叠功能区</source>
+            <translation>Fold ribbon</translation>
+        </message>
+        <message>
+            <source>只显示功能区的选项卡，或恢复显示</source>
+            <translation>Show only the tabs of the ribbon, or all of it again</translation>
+        </message>
+        <message>
             <source>语言、颜色、单位、捕捉、按键和日志</source>
             <translation>Language, colours, unit, snaps, keys and journal</translation>
         </message>

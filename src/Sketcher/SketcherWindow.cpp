@@ -53,6 +53,9 @@ namespace
 /// Drawing tools are used all day.
 constexpr const wchar_t* LargeGroup = L"绘图"_source;
 
+/// The style of a button without a caption.
+constexpr int IconOnly = 0;
+
 using Groups = std::map<std::wstring, Qtitan::RibbonGroup*>;
 
 /// Adds the groups of the start page that the commands use, from left to right; others may follow.
@@ -79,6 +82,8 @@ OwnerPtr<CommandButtonDefinition> MakeDefinition(const CommandEntry& entry)
     opDefinition->SetTooltip(entry.GetToolTip());
     opDefinition->SetIconPath(entry.iconPath);
     opDefinition->SetVisible(false);
+    if (entry.group == TabRow)
+        opDefinition->SetButtonStyle(IconOnly);
     return opDefinition;
 }
 
@@ -179,6 +184,11 @@ void SketcherWindow::BuildButtons(const std::vector<CommandEntry>& commands, con
     {
         if (entry.group.empty())
             continue;
+        if (entry.group == TabRow)
+        {
+            AddTabRowButton(entry, controls);
+            continue;
+        }
         Qtitan::RibbonPage& page = entry.isOnStartPage ? pages.start : pages.drawing;
         Qtitan::RibbonGroup*& pGroup = (entry.isOnStartPage ? startGroups : groups)[entry.group];
         if (pGroup == nullptr)
@@ -195,6 +205,15 @@ void SketcherWindow::BuildButtons(const std::vector<CommandEntry>& commands, con
     }
     AddMenu(MakeZoomMenu(commands), *groups[L"视图"_source], controls);
     m_pPaneButton = AddMenu(MakePaneMenu(commands), *groups[L"面板"_source], controls);
+}
+
+void SketcherWindow::AddTabRowButton(const CommandEntry& entry, ControlHost& controls)
+{
+    auto* pButton = qobject_cast<QToolButton*>(controls.Create(MakeDefinition(entry)));
+    if (pButton == nullptr)
+        return;
+    GetRibbon()->addTabRowButton(pButton);
+    AddShortcut(entry, entry.keys, *pButton, controls);
 }
 
 void SketcherWindow::AddShortcut(const CommandEntry& entry, const std::wstring& keys,

@@ -25,6 +25,9 @@ struct Settings
     QString language;
     Colours colours = Colours::Desktop;
 
+    /// Whether only the tabs of the ribbon are shown. Kept when the window closes.
+    bool isRibbonFolded = false;
+
     /// The symbol of the unit in which lengths are shown and typed at start.
     QString unit = QStringLiteral("mm");
 

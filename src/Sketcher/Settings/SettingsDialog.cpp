@@ -99,7 +99,8 @@ QLabel* MakeSettingsMessage()
 
 SettingsDialog::SettingsDialog(const Settings& settings, const QVector<Language>& languages,
                                const QString& defaultJournalFolder, QWidget* pParent)
-    : QDialog(pParent), m_pLanguage(MakeBox("Language", LanguageChoices(languages))),
+    : QDialog(pParent), m_given(settings),
+      m_pLanguage(MakeBox("Language", LanguageChoices(languages))),
       m_pColours(MakeBox("Colours", ColourChoices())), m_pUnit(MakeBox("Unit", UnitChoices())),
       m_pSpace(MakeBox("Space", SpaceChoices())), m_pFolder(new QLineEdit),
       m_pAutosave(MakeAutosave()), m_pMessage(MakeSettingsMessage())
@@ -125,7 +126,7 @@ SettingsDialog::SettingsDialog(const Settings& settings, const QVector<Language>
 
 Settings SettingsDialog::Get() const
 {
-    Settings settings;
+    Settings settings = m_given;
     settings.language = m_pLanguage->currentData().toString();
     settings.colours = static_cast<Settings::Colours>(m_pColours->currentData().toInt());
     settings.unit = m_pUnit->currentData().toString();
