@@ -22,6 +22,7 @@
 #include "Foundation/UpdateCtrlStatusEvent.h"
 #include "HostUi/ControlHost.h"
 #include "HostUi/DimensionInputController.h"
+#include "HostUi/ElidedLabel.h"
 #include "HostUi/QtText.h"
 #include "Qtitan/RibbonBar.h"
 #include "Qtitan/RibbonGroup.h"
@@ -29,7 +30,6 @@
 
 #include <QApplication>
 #include <QIcon>
-#include <QLabel>
 #include <QLineEdit>
 #include <QShortcut>
 #include <QStatusBar>
@@ -98,7 +98,7 @@ void PostStatusRefresh()
 SketcherWindow::SketcherWindow(Workspace& workspace, DimensionInputController& input)
     : m_workspace(workspace), m_input(input), m_pView(new SketchView(workspace, input, this)),
       m_pDescription(new ViewDescription(workspace, *m_pView)),
-      m_ribbonFocus(*GetRibbon(), *m_pView, input), m_pPointed(new QLabel)
+      m_ribbonFocus(*GetRibbon(), *m_pView, input), m_pPointed(new ElidedLabel)
 {
     LoadIcons();
     setWindowIcon(QIcon(QStringLiteral(":/icons/sketcher.svg")));
@@ -292,8 +292,6 @@ void SketcherWindow::BuildPointedText()
     constexpr int Margin = 6;
     m_pPointed->setObjectName(QStringLiteral("Pointed"));
     m_pPointed->setContentsMargins(Margin, 0, Margin, 0);
-    // The window does not grow for it.
-    m_pPointed->setMinimumWidth(1);
     statusBar()->insertPermanentWidget(1, m_pPointed);
     connect(m_pView, &SketchView::pointedChanged, this, &SketcherWindow::ShowPointed);
     connect(this, &SketcherWindow::unitChanged, this, &SketcherWindow::ShowPointed);
@@ -303,6 +301,7 @@ void SketcherWindow::ShowPointed()
 {
     const Entity* pEntity = m_workspace.sketch.Find(m_pView->GetPointed());
     m_pPointed->setText(pEntity != nullptr ? DescribeEntity(*pEntity) : QString());
+    m_pPointed->setToolTip(m_pPointed->text());
 }
 
 void SketcherWindow::OnSketchChanged()

@@ -179,7 +179,7 @@ QWidget* SettingsDialog::MakeFolder(const QString& defaultJournalFolder)
     m_pFolder->setObjectName(QStringLiteral("JournalFolder"));
     m_pFolder->setPlaceholderText(QDir::toNativeSeparators(defaultJournalFolder));
     m_pFolder->setToolTip("留空则用 %1"_tr.arg(m_pFolder->placeholderText()));
-    m_pFolder->setMinimumWidth(m_pFolder->fontMetrics().averageCharWidth() * 36);
+    m_pFolder->setMinimumWidth(m_pFolder->fontMetrics().averageCharWidth() * 24);
     auto* pBrowse = new QPushButton("浏览…"_tr);
     pBrowse->setObjectName(QStringLiteral("Browse"));
     pBrowse->setAutoDefault(false);

@@ -6,6 +6,7 @@
 #include "Command/ActionManager.h"
 #include "Dimension/LengthUnit.h"
 #include "HostUi/DrawingView.h"
+#include "HostUi/ElidedLabel.h"
 #include "HostUi/NumberText.h"
 #include "HostUi/QtText.h"
 #include "Qtitan/RibbonBar.h"
@@ -39,8 +40,9 @@ QString TellWhereTheLogIs()
 }
 
 MainWindow::MainWindow()
-    : m_pRibbon(new Qtitan::RibbonBar(this)), m_pHint(new QLabel(this)),
-      m_pCursor(new QLabel(this)), m_pStates(new QLabel(this)), m_pWarningCount(new QLabel(this))
+    : m_pRibbon(new Qtitan::RibbonBar(this)), m_pHint(new ElidedLabel(this)),
+      m_pCursor(new QLabel(this)), m_pStates(new ElidedLabel(this)),
+      m_pWarningCount(new QLabel(this))
 {
     auto* pTop = new QWidget(this);
     auto* pTopLayout = new QVBoxLayout(pTop);
@@ -59,7 +61,7 @@ MainWindow::MainWindow()
     m_pHint->setText(QStringLiteral("汉"));
     m_pHint->setMinimumHeight(m_pHint->sizeHint().height());
     m_pHint->clear();
-    // The window does not grow for a long hint.
+    // It gets what the others leave, so that they do not move when it changes.
     m_pHint->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_pCursor->setContentsMargins(Margin, 0, Margin, 0);
     statusBar()->addWidget(m_pHint, 1);
@@ -69,8 +71,6 @@ MainWindow::MainWindow()
     m_pWarningCount->setObjectName(QStringLiteral("WarningCount"));
     m_pWarningCount->hide();
     m_pStates->setObjectName(QStringLiteral("States"));
-    // The window does not grow for it; the tool tip shows what does not fit.
-    m_pStates->setMinimumWidth(1);
     m_pStates->hide();
 
     new FocusAreas(*this);
