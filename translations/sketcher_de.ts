@@ -1860,6 +1860,10 @@ Maßeingabe: %2</translation>
             <translation>Dunkel</translation>
         </message>
         <message>
+            <source>高对比度</source>
+            <translation>Hoher Kontrast</translation>
+        </message>
+        <message>
             <source>键入空格</source>
             <translation>Gibt ein Leerzeichen ein</translation>
         </message>

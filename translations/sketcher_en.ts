@@ -1860,6 +1860,10 @@ Dimension input: %2</translation>
             <translation>Dark</translation>
         </message>
         <message>
+            <source>高对比度</source>
+            <translation>High contrast</translation>
+        </message>
+        <message>
             <source>键入空格</source>
             <translation>Types a space</translation>
         </message>

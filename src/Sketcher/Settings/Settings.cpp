@@ -11,7 +11,7 @@ using nlohmann::json;
 namespace
 {
 
-constexpr const char* ColourNames[] = {"desktop", "light", "dark"};
+constexpr const char* ColourNames[] = {"desktop", "light", "dark", "contrast"};
 constexpr const char* UnitNames[] = {"mm", "cm", "m", "inch"};
 
 /// In the order of the kinds.

@@ -16,6 +16,7 @@ struct Settings
         Desktop, ///< As the desktop has them.
         Light,
         Dark,
+        HighContrast, ///< White on black.
     };
 
     static constexpr int GreatestAutosaveMinutes = 120;

@@ -50,8 +50,8 @@ BoxChoices ColourChoices()
         return std::pair<QVariant, QString>(static_cast<int>(colours), caption);
     };
     return {choice(Settings::Colours::Desktop, "与桌面相同"_tr),
-            choice(Settings::Colours::Light, "浅色"_tr),
-            choice(Settings::Colours::Dark, "深色"_tr)};
+            choice(Settings::Colours::Light, "浅色"_tr), choice(Settings::Colours::Dark, "深色"_tr),
+            choice(Settings::Colours::HighContrast, "高对比度"_tr)};
 }
 
 BoxChoices UnitChoices()
@@ -90,7 +90,7 @@ QLabel* MakeSettingsMessage()
     pMessage->setWordWrap(true);
     pMessage->setMargin(4);
     pMessage->setStyleSheet(
-        QStringLiteral("background: #b03a37; color: white; border-radius: 4px"));
+        QStringLiteral("background: #992f2c; color: white; border-radius: 4px"));
     pMessage->hide();
     return pMessage;
 }
