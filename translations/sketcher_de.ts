@@ -1909,6 +1909,10 @@ Maßeingabe: %2</translation>
             <translation>Dunkel</translation>
         </message>
         <message>
+            <source>高对比度</source>
+            <translation>Hoher Kontrast</translation>
+        </message>
+        <message>
             <source>键入空格</source>
             <translation>Gibt ein Leerzeichen ein</translation>
         </message>
@@ -1976,6 +1980,14 @@ Maßeingabe: %2</translation>
         <message>
             <source>无法保存设置：%1</source>
             <translation>Die Einstellungen lassen sich nicht speichern: %1</translation>
+        </message>
+        <message>
+            <source>折叠功能区</source>
+            <translation>Menüband einklappen</translation>
+        </message>
+        <message>
+            <source>只显示功能区的选项卡，或恢复显示</source>
+            <translation>Nur die Reiter des Menübands zeigen oder wieder alles</translation>
         </message>
         <message>
             <source>语言、颜色、单位、捕捉、按键和日志</source>

@@ -1909,6 +1909,10 @@ Dimension input: %2</translation>
             <translation>Dark</translation>
         </message>
         <message>
+            <source>高对比度</source>
+            <translation>High contrast</translation>
+        </message>
+        <message>
             <source>键入空格</source>
             <translation>Types a space</translation>
         </message>
@@ -1976,6 +1980,14 @@ Dimension input: %2</translation>
         <message>
             <source>无法保存设置：%1</source>
             <translation>Cannot save the settings: %1</translation>
+        </message>
+        <message>
+            <source>折叠功能区</source>
+            <translation>Fold ribbon</translation>
+        </message>
+        <message>
+            <source>只显示功能区的选项卡，或恢复显示</source>
+            <translation>Show only the tabs of the ribbon, or all of it again</translation>
         </message>
         <message>
             <source>语言、颜色、单位、捕捉、按键和日志</source>

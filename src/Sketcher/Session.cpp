@@ -220,7 +220,8 @@ std::vector<CommandEntry> Session::MakeCommands()
     add(m_import.MakeCommands());
     add(MakeDocumentCommands(*m_pDocuments));
     add(m_clipboard.MakeCommands());
-    add({MakeRecoverCommand(m_workspace.sketch), m_settingsApplier.MakeCommand()});
+    add({MakeRecoverCommand(m_workspace.sketch), m_settingsApplier.MakeFoldCommand(),
+         m_settingsApplier.MakeCommand()});
     add(MakeHelpCommands(commands, m_window));
     for (const CommandEntry& entry : commands)
     {
@@ -367,6 +368,13 @@ void Session::SaveLayout()
         m_unwritten << LayoutPath();
 }
 
+/// Only somebody whose settings were read has them changed.
+void Session::KeepRibbon()
+{
+    if (!SettingsToRead(m_options).isEmpty() && !m_settingsApplier.KeepRibbon())
+        m_unwritten << SettingsPath();
+}
+
 /// Ends the program as closing the window does; dialogs and menus close too.
 void Session::ObeyTerminationRequests()
 {
@@ -390,6 +398,7 @@ int Session::Draw()
     m_pKeeping = std::make_unique<KeepingMonitor>(m_window);
     QObject::connect(&m_window, &MainWindow::closeAccepted, &m_window, [this] {
         SaveLayout();
+        KeepRibbon();
         m_isEndDecided = !m_isEndRequested;
     });
     // At the end of the desktop's session nobody is asked: what is not saved is offered afterwards.

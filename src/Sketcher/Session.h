@@ -79,6 +79,7 @@ private:
     void ObeyVersion();
     void RestoreLayout();
     void SaveLayout();
+    void KeepRibbon();
     void ObeyTerminationRequests();
     int Draw();
     void OpenDocument();

@@ -10,6 +10,7 @@
 
 #include "HostUi/DimensionInputController.h"
 #include "HostUi/QtText.h"
+#include "Qtitan/RibbonBar.h"
 
 #include <QFileInfo>
 
@@ -27,6 +28,8 @@ void SettingsApplier::Apply(const Settings& before)
     const Settings settings = m_store.Get();
     m_appearance.Set(settings.colours);
     m_input.SetSpaceCommitting(settings.isSpaceCommitting);
+    if (settings.isRibbonFolded != before.isRibbonFolded)
+        m_window.GetRibbon()->setMinimized(settings.isRibbonFolded);
     if (settings.unit != before.unit)
         m_window.ChooseUnit(ToWide(settings.unit));
     if (settings.snaps != before.snaps)
@@ -44,6 +47,26 @@ void SettingsApplier::ShowDialog()
             m_window.ShowNotice("无法保存设置：%1"_tr.arg(m_store.GetPath()));
     });
     pDialog->open();
+}
+
+bool SettingsApplier::KeepRibbon()
+{
+    Settings settings = m_store.Get();
+    settings.isRibbonFolded = m_window.GetRibbon()->isMinimized();
+    return m_store.Set(settings);
+}
+
+CommandEntry SettingsApplier::MakeFoldCommand()
+{
+    const auto fold = [this] {
+        Qtitan::RibbonBar& ribbon = *m_window.GetRibbon();
+        ribbon.setMinimized(!ribbon.isMinimized());
+    };
+    return CommandEntry::Plain(L"Sketcher.FoldRibbon", L"折叠功能区"_source, fold)
+        .WithIcon(L"ribbon-fold")
+        .WithToolTip(L"只显示功能区的选项卡，或恢复显示"_source)
+        .WithKeys(L"Ctrl+F1")
+        .InGroup(TabRow);
 }
 
 CommandEntry SettingsApplier::MakeCommand()

@@ -32,6 +32,12 @@ public:
     /// Opens the dialog, in front if it is open.
     void ShowDialog();
 
+    /// Stores whether the ribbon is folded. Returns false if the file cannot be written.
+    bool KeepRibbon();
+
+    /// The command `Sketcher.FoldRibbon`.
+    CommandEntry MakeFoldCommand();
+
     /// The command `Sketcher.Settings`.
     CommandEntry MakeCommand();
 

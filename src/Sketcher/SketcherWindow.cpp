@@ -22,6 +22,7 @@
 #include "Foundation/UpdateCtrlStatusEvent.h"
 #include "HostUi/ControlHost.h"
 #include "HostUi/DimensionInputController.h"
+#include "HostUi/ElidedLabel.h"
 #include "HostUi/QtText.h"
 #include "Qtitan/RibbonBar.h"
 #include "Qtitan/RibbonGroup.h"
@@ -29,7 +30,6 @@
 
 #include <QApplication>
 #include <QIcon>
-#include <QLabel>
 #include <QLineEdit>
 #include <QShortcut>
 #include <QStatusBar>
@@ -52,6 +52,9 @@ namespace
 
 /// Drawing tools are used all day.
 constexpr const wchar_t* LargeGroup = L"绘图"_source;
+
+/// The style of a button without a caption.
+constexpr int IconOnly = 0;
 
 using Groups = std::map<std::wstring, Qtitan::RibbonGroup*>;
 
@@ -79,6 +82,8 @@ OwnerPtr<CommandButtonDefinition> MakeDefinition(const CommandEntry& entry)
     opDefinition->SetTooltip(entry.GetToolTip());
     opDefinition->SetIconPath(entry.iconPath);
     opDefinition->SetVisible(false);
+    if (entry.group == TabRow)
+        opDefinition->SetButtonStyle(IconOnly);
     return opDefinition;
 }
 
@@ -93,7 +98,7 @@ void PostStatusRefresh()
 SketcherWindow::SketcherWindow(Workspace& workspace, DimensionInputController& input)
     : m_workspace(workspace), m_input(input), m_pView(new SketchView(workspace, input, this)),
       m_pDescription(new ViewDescription(workspace, *m_pView)),
-      m_ribbonFocus(*GetRibbon(), *m_pView, input), m_pPointed(new QLabel)
+      m_ribbonFocus(*GetRibbon(), *m_pView, input), m_pPointed(new ElidedLabel)
 {
     LoadIcons();
     setWindowIcon(QIcon(QStringLiteral(":/icons/sketcher.svg")));
@@ -179,6 +184,11 @@ void SketcherWindow::BuildButtons(const std::vector<CommandEntry>& commands, con
     {
         if (entry.group.empty())
             continue;
+        if (entry.group == TabRow)
+        {
+            AddTabRowButton(entry, controls);
+            continue;
+        }
         Qtitan::RibbonPage& page = entry.isOnStartPage ? pages.start : pages.drawing;
         Qtitan::RibbonGroup*& pGroup = (entry.isOnStartPage ? startGroups : groups)[entry.group];
         if (pGroup == nullptr)
@@ -195,6 +205,15 @@ void SketcherWindow::BuildButtons(const std::vector<CommandEntry>& commands, con
     }
     AddMenu(MakeZoomMenu(commands), *groups[L"视图"_source], controls);
     m_pPaneButton = AddMenu(MakePaneMenu(commands), *groups[L"面板"_source], controls);
+}
+
+void SketcherWindow::AddTabRowButton(const CommandEntry& entry, ControlHost& controls)
+{
+    auto* pButton = qobject_cast<QToolButton*>(controls.Create(MakeDefinition(entry)));
+    if (pButton == nullptr)
+        return;
+    GetRibbon()->addTabRowButton(pButton);
+    AddShortcut(entry, entry.keys, *pButton, controls);
 }
 
 void SketcherWindow::AddShortcut(const CommandEntry& entry, const std::wstring& keys,
@@ -273,8 +292,6 @@ void SketcherWindow::BuildPointedText()
     constexpr int Margin = 6;
     m_pPointed->setObjectName(QStringLiteral("Pointed"));
     m_pPointed->setContentsMargins(Margin, 0, Margin, 0);
-    // The window does not grow for it.
-    m_pPointed->setMinimumWidth(1);
     statusBar()->insertPermanentWidget(1, m_pPointed);
     connect(m_pView, &SketchView::pointedChanged, this, &SketcherWindow::ShowPointed);
     connect(this, &SketcherWindow::unitChanged, this, &SketcherWindow::ShowPointed);
@@ -284,6 +301,7 @@ void SketcherWindow::ShowPointed()
 {
     const Entity* pEntity = m_workspace.sketch.Find(m_pView->GetPointed());
     m_pPointed->setText(pEntity != nullptr ? DescribeEntity(*pEntity) : QString());
+    m_pPointed->setToolTip(m_pPointed->text());
 }
 
 void SketcherWindow::OnSketchChanged()

@@ -88,6 +88,7 @@ private:
 
     void BuildButtons(const std::vector<CommandEntry>& commands, const Pages& pages,
                       vesk::ControlHost& controls);
+    void AddTabRowButton(const CommandEntry& entry, vesk::ControlHost& controls);
     void AddShortcut(const CommandEntry& entry, const std::wstring& keys, QToolButton& button,
                      vesk::ControlHost& controls);
     bool IsTyping() const;

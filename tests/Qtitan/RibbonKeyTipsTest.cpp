@@ -367,7 +367,7 @@ private slots:
         QVERIFY(f.pView->pressedKeys.contains(Qt::Key_5));
     }
 
-    void keyOfATabRestoresAMinimisedRibbon()
+    void keyOfATabOpensItsPageInAMinimisedRibbon()
     {
         TipsFixture f;
         f.pBar->setMinimized(true);
@@ -375,7 +375,8 @@ private slots:
 
         f.type(Qt::Key_1);
 
-        QVERIFY(!f.pBar->isMinimized());
+        QVERIFY(f.pBar->isMinimized());
+        QVERIFY(f.pPage->isVisible());
         QCOMPARE(f.tips(), s_pageTips);
     }
 

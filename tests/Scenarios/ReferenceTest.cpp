@@ -48,10 +48,10 @@ QString RowsOf(const QMenu& menu)
     return rows;
 }
 
-QString RowsOf(const Qtitan::RibbonGroup& group)
+QString RowsOf(const QList<QAbstractButton*>& buttons)
 {
     QString rows;
-    for (const auto* pButton : group.findChildren<QAbstractButton*>())
+    for (const auto* pButton : buttons)
     {
         const auto* pToolButton = qobject_cast<const QToolButton*>(pButton);
         if (!pButton->property("IsDefinition").toBool())
@@ -63,21 +63,26 @@ QString RowsOf(const Qtitan::RibbonGroup& group)
     return rows;
 }
 
-/// All commands of the ribbon, with a table for each group.
+QString TableOf(const QString& rows)
+{
+    return QStringLiteral("\n| command | keys | what it does | id |\n|---|---|---|---|\n") + rows;
+}
+
+/// All commands of the ribbon, with a table for the row of the tabs and for each group.
 QString CommandTables()
 {
-    QString tables;
     const Qtitan::RibbonBar& ribbon = *ScriptedUser::FindWindow()->GetRibbon();
+    const QList<QAbstractButton*> besideTheTabs =
+        ribbon.findChildren<QAbstractButton*>(QString(), Qt::FindDirectChildrenOnly);
+    QString tables = QStringLiteral("\n## Beside the tabs\n") + TableOf(RowsOf(besideTheTabs));
     for (int i = 0; i < ribbon.pageCount(); ++i)
     {
         tables += QStringLiteral("\n## The page %1\n").arg(ribbon.page(i)->title());
         for (const auto* pGroup : ribbon.page(i)->findChildren<Qtitan::RibbonGroup*>())
         {
-            const QString rows = RowsOf(*pGroup);
+            const QString rows = RowsOf(pGroup->findChildren<QAbstractButton*>());
             if (!rows.isEmpty())
-                tables += QStringLiteral("\n### %1\n\n| command | keys | what it does | id |\n"
-                                         "|---|---|---|---|\n%2")
-                              .arg(pGroup->title(), rows);
+                tables += QStringLiteral("\n### %1\n").arg(pGroup->title()) + TableOf(rows);
         }
     }
     return tables;

@@ -229,6 +229,14 @@ ScriptedUser& ScriptedUser::Until(std::function<bool()> condition)
 int ScriptedUser::Run(const Options& options)
 {
     Session session(options);
+    // Without a display the screen has 800 x 600 pixels: panes would give way.
+    m_steps.push_front([] {
+        constexpr QSize Large(1200, 900);
+        const bool isLarge = FindWindow()->size() == Large;
+        if (!isLarge)
+            FindWindow()->resize(Large);
+        return isLarge;
+    });
     Schedule();
     return session.Run();
 }

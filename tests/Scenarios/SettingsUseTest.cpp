@@ -13,16 +13,23 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
+#include <QFile>
 #include <QPushButton>
 
 namespace
 {
 
 const QString s_line = QStringLiteral("Sketcher.Line");
+const QString s_fold = QStringLiteral("Sketcher.FoldRibbon");
 
 bool IsInputting()
 {
     return vesk::TemporaryDimensionMgr::GetInstance()->IsInputting();
+}
+
+bool IsRibbonShown()
+{
+    return ScriptedUser::FindButton(s_line)->isVisible();
 }
 
 bool IsChecked(const char* id)
@@ -70,6 +77,55 @@ private slots:
         });
         user.Click(s_line).ClickAt(0, 0).Type("10 ").Do([] { QVERIFY(IsInputting()); });
         user.Press(Qt::Key_Return).Do([] { QVERIFY(!IsInputting()); });
+
+        QCOMPARE(user.Run(m_pFixture->Draw()), 0);
+    }
+
+    void foldedRibbonIsFoldedInTheNextSession()
+    {
+        const ScopedVariable attended("VESK_UNATTENDED", QStringLiteral("0"));
+        ScriptedUser user;
+        user.Do([] { QVERIFY(IsRibbonShown()); }).Click(s_fold).Do([] {
+            QVERIFY(!IsRibbonShown());
+        });
+        QCOMPARE(user.Run(m_pFixture->Draw()), 0);
+
+        ScriptedUser next;
+        next.Do([] { QVERIFY(!IsRibbonShown()); });
+        next.Press(Qt::Key_F1, Qt::ControlModifier).Do([] { QVERIFY(IsRibbonShown()); });
+        QCOMPARE(next.Run(m_pFixture->Draw()), 0);
+
+        QVERIFY(!SettingsStore(SettingsPath(), SettingsPath()).Get().isRibbonFolded);
+        VerifyReplay();
+    }
+
+    void programThatIsDrivenKeepsNoFolding()
+    {
+        ScriptedUser user;
+        user.Click(s_fold).Do([] { QVERIFY(!IsRibbonShown()); });
+
+        QCOMPARE(user.Run(m_pFixture->Draw()), 0);
+
+        QVERIFY(!QFile::exists(SettingsPath()));
+    }
+
+    void anotherLanguageLeavesTheRibbonFolded()
+    {
+        const ScopedVariable attended("VESK_UNATTENDED", QStringLiteral("0"));
+        ScriptedUser user;
+        user.Click(s_fold).Do([] { ScriptedUser::FindButton("Sketcher.Settings")->click(); });
+        user.Until(
+            [] { return ScriptedUser::FindWindow()->findChild<SettingsDialog*>() != nullptr; });
+        user.Do([] {
+            auto* pDialog = ScriptedUser::FindWindow()->findChild<SettingsDialog*>();
+            auto* pBox = pDialog->findChild<QComboBox*>("Language");
+            pBox->setCurrentIndex(pBox->findData("de"));
+            pDialog->findChild<QPushButton*>("Accept")->click();
+        });
+        user.Until(
+            [] { return ScriptedUser::FindWindow()->windowTitle().startsWith("Unbenannt"); });
+        user.Do([] { QVERIFY(!IsRibbonShown()); });
+        user.Click(s_fold).Do([] { QVERIFY(IsRibbonShown()); });
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
     }

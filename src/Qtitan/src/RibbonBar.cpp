@@ -4,27 +4,36 @@
 #include "Qtitan/RibbonPage.h"
 #include "RibbonColors.h"
 #include "RibbonKeyTips.h"
+#include "RibbonOpening.h"
 #include "RibbonTabBar.h"
 
+#include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QStackedWidget>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace Qtitan
 {
 
 RibbonBar::RibbonBar(QWidget* pParent)
-    : QWidget(pParent), m_pTabs(new RibbonTabBar(this)), m_pPages(new QStackedWidget(this))
+    : QWidget(pParent), m_pTabs(new RibbonTabBar(this)), m_pTabRow(new QHBoxLayout),
+      m_pPages(new QStackedWidget(this)), m_pOpening(new RibbonOpening(*this))
 {
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     auto* pLayout = new QVBoxLayout(this);
     pLayout->setContentsMargins(0, 0, 0, 1);
     pLayout->setSpacing(0);
-    pLayout->addWidget(m_pTabs);
+    pLayout->addLayout(m_pTabRow);
+    m_pTabRow->addWidget(m_pTabs, 1);
+    m_pTabs->installEventFilter(this);
     pLayout->addWidget(m_pPages);
     m_pPages->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 
     connect(m_pTabs, &QTabBar::currentChanged, this, &RibbonBar::OnCurrentTabChanged);
+    connect(m_pTabs, &QTabBar::tabBarClicked, this, &RibbonBar::OnTabClicked);
+    connect(m_pOpening, &RibbonOpening::ended, this, &RibbonBar::closePage);
     connect(m_pTabs, &QTabBar::tabBarDoubleClicked, this, &RibbonBar::OnTabDoubleClicked);
     connect(m_pPages, &QStackedWidget::widgetRemoved, this, &RibbonBar::OnPageRemoved);
     new RibbonKeyTips(*this);
@@ -46,6 +55,8 @@ RibbonPage* RibbonBar::addPage(const QString& title)
     const int index =
         m_pTabs->addTab(QString(caption).replace(QLatin1Char('&'), QLatin1String("&&")));
     m_pTabs->setAccessibleTabName(index, caption);
+    // A layout within another is told only while it is shown.
+    m_pTabRow->invalidate();
     return pPage;
 }
 
@@ -71,13 +82,65 @@ void RibbonBar::setCurrentPageIndex(int index)
 
 bool RibbonBar::isMinimized() const
 {
-    return m_pPages->isHidden();
+    return m_isMinimized;
 }
 
 void RibbonBar::setMinimized(bool minimized)
 {
-    m_pPages->setVisible(!minimized);
-    m_pTabs->setJoinedToPage(!minimized);
+    closePage();
+    m_isMinimized = minimized;
+    showPages();
+}
+
+void RibbonBar::openPage()
+{
+    m_pOpening->setActive(m_isMinimized);
+    showPages();
+}
+
+void RibbonBar::closePage()
+{
+    m_pOpening->setActive(false);
+    showPages();
+}
+
+void RibbonBar::addTabRowButton(QToolButton* pButton)
+{
+    m_pTabRow->addWidget(pButton);
+}
+
+/// The keys that open a list open the page, too.
+bool RibbonBar::eventFilter(QObject* pWatched, QEvent* pEvent)
+{
+    if (pWatched != m_pTabs)
+        return QWidget::eventFilter(pWatched, pEvent);
+    m_isDoubleClick = pEvent->type() == QEvent::MouseButtonDblClick;
+    if (!m_isMinimized || pEvent->type() != QEvent::KeyPress)
+        return false;
+    const int key = static_cast<const QKeyEvent*>(pEvent)->key();
+    const bool isOpening = key == Qt::Key_Down || key == Qt::Key_Space || key == Qt::Key_Return ||
+                           key == Qt::Key_Enter;
+    if (isOpening)
+        openPage();
+    return isOpening;
+}
+
+/// The toolkit counts the second press of a double-click as another click.
+void RibbonBar::OnTabClicked(int index)
+{
+    if (m_isDoubleClick || index < 0)
+        return;
+    if (index == currentPageIndex() && m_pOpening->isActive())
+        closePage();
+    else
+        openPage();
+}
+
+void RibbonBar::showPages()
+{
+    const bool isShown = !m_isMinimized || m_pOpening->isActive();
+    m_pPages->setVisible(isShown);
+    m_pTabs->setJoinedToPage(isShown);
 }
 
 QRect RibbonBar::tabRect(int index) const

@@ -152,6 +152,7 @@ bool RibbonKeyTips::onKeyPressWhileOff(const QKeyEvent& event)
     if (event.modifiers() != Qt::AltModifier || page < 0 || page > 8 || page >= m_bar.pageCount())
         return false;
     m_heldKey = event.key();
+    m_bar.openPage();
     m_bar.setCurrentPageIndex(page);
     return true;
 }
@@ -268,7 +269,7 @@ void RibbonKeyTips::activate(const KeyTip& tip)
     if (tip.tab >= 0)
     {
         const QPointer<RibbonKeyTips> pSelf(this);
-        m_bar.setMinimized(false);
+        m_bar.openPage();
         m_bar.setCurrentPageIndex(tip.tab);
         if (pSelf != nullptr)
             showControls();
@@ -294,6 +295,8 @@ void RibbonKeyTips::activateButton(QAbstractButton& button)
     }
     // A page's own buttons scroll it; any other may run a command that destroys everything here.
     const bool isScrollButton = qobject_cast<RibbonPage*>(button.parentWidget()) != nullptr;
+    if (!isScrollButton)
+        QMetaObject::invokeMethod(&m_bar, &RibbonBar::closePage, Qt::QueuedConnection);
     button.click();
     if (isScrollButton)
         showControls();

@@ -10,7 +10,7 @@ QLabel* MakeRefusalMessage(const QString& name)
     pMessage->setWordWrap(true);
     pMessage->setMargin(4);
     pMessage->setStyleSheet(
-        QStringLiteral("background: #b03a37; color: white; border-radius: 4px"));
+        QStringLiteral("background: #992f2c; color: white; border-radius: 4px"));
     pMessage->hide();
     return pMessage;
 }

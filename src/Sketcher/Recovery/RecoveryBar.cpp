@@ -3,8 +3,9 @@
 #include "Model/UiText.h"
 #include "Recovery/UnsavedWork.h"
 
+#include "HostUi/ElidedLabel.h"
+
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QPushButton>
 #include <QStringList>
 
@@ -20,17 +21,14 @@ QString TimeText(const QDateTime& time)
 
 }
 
-RecoveryBar::RecoveryBar(QWidget* pParent) : QFrame(pParent), m_pText(new QLabel)
+RecoveryBar::RecoveryBar(QWidget* pParent) : QFrame(pParent), m_pText(new vesk::ElidedLabel)
 {
     setObjectName(QStringLiteral("RecoveryBar"));
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::ToolTipBase);
     setForegroundRole(QPalette::ToolTipText);
     m_pText->setObjectName(QStringLiteral("RecoveryText"));
-    m_pText->setTextFormat(Qt::PlainText);
     m_pText->setForegroundRole(QPalette::ToolTipText);
-    // The window does not grow for it; the tool tip shows what does not fit.
-    m_pText->setMinimumWidth(1);
 
     auto* pLayout = new QHBoxLayout(this);
     constexpr int Margin = 6;

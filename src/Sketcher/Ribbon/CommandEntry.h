@@ -12,6 +12,9 @@ namespace vesk
 class CommandParameters;
 }
 
+/// In place of a ribbon group: the row of the ribbon's tabs.
+constexpr wchar_t TabRow[] = L"TabRow";
+
 /// A command of the program: what it does and where it is shown.
 ///
 /// Built by chaining: `CommandEntry::Plain(id, caption, undo).InGroup(L"编辑"_source)`. Captions,

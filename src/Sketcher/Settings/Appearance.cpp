@@ -1,6 +1,9 @@
 #include "Settings/Appearance.h"
 
 #include "Settings/DarkStyle.h"
+#include "Settings/HighContrastStyle.h"
+
+#include "HostUi/Contrast.h"
 
 #include <QApplication>
 #include <QStyle>
@@ -48,6 +51,38 @@ const ColourScheme& DarkScheme()
     return s_scheme;
 }
 
+/// With a style that draws its edges in the colours light and dark.
+const ColourScheme& HighContrastScheme()
+{
+    static const ColourScheme s_scheme = {
+        QColor(0x00, 0x00, 0x00), QColor(0x00, 0x00, 0x00), QColor(0x00, 0x00, 0x00),
+        QColor(0xff, 0xff, 0xff), QColor(0xa8, 0xe0, 0xa8), QColor(0x00, 0x00, 0x00),
+        QColor(0x1a, 0xeb, 0xff), QColor(0x00, 0x00, 0x00), QColor(0xff, 0xff, 0x00),
+        QColor(0x00, 0x00, 0x00), QColor(0xff, 0xff, 0xff), QColor(0xff, 0xff, 0xff),
+    };
+    return s_scheme;
+}
+
+/// The colours of a look, and the style that draws in them.
+struct Look
+{
+    const ColourScheme& scheme;
+    QString style;
+};
+
+Look LookOf(Settings::Colours colours)
+{
+    switch (colours)
+    {
+    case Settings::Colours::Dark:
+        return {DarkScheme(), QString::fromLatin1(DarkStyle::Name)};
+    case Settings::Colours::HighContrast:
+        return {HighContrastScheme(), QString::fromLatin1(HighContrastStyle::Name)};
+    default:
+        return {LightScheme(), QStringLiteral("fusion")};
+    }
+}
+
 QPalette ToPalette(const ColourScheme& scheme)
 {
     QPalette palette(scheme.button, scheme.window);
@@ -67,6 +102,11 @@ QPalette ToPalette(const ColourScheme& scheme)
     palette.setColor(QPalette::ToolTipBase, scheme.toolTip);
     palette.setColor(QPalette::Light, scheme.light);
     palette.setColor(QPalette::Dark, scheme.dark);
+    if (vesk::IsHighContrast(palette))
+    {
+        for (const auto role : {QPalette::Midlight, QPalette::Mid, QPalette::Shadow})
+            palette.setColor(role, scheme.dark);
+    }
     return palette;
 }
 
@@ -94,11 +134,11 @@ void Appearance::Set(Settings::Colours colours)
         QToolTip::setPalette(m_desktopToolTips);
         return;
     }
-    const bool isDark = colours == Settings::Colours::Dark;
-    const QPalette palette = ToPalette(isDark ? DarkScheme() : LightScheme());
+    const Look look = LookOf(colours);
+    const QPalette palette = ToPalette(look.scheme);
     // Panes ask the style for their icons only once, when it is set.
     QApplication::setPalette(palette);
-    SetStyle(isDark ? QString::fromLatin1(DarkStyle::Name) : QStringLiteral("fusion"));
+    SetStyle(look.style);
     QToolTip::setPalette(palette);
 }
 
@@ -108,6 +148,8 @@ void Appearance::SetStyle(const QString& name)
         return;
     if (name == QLatin1String(DarkStyle::Name))
         QApplication::setStyle(new DarkStyle);
+    else if (name == QLatin1String(HighContrastStyle::Name))
+        QApplication::setStyle(new HighContrastStyle);
     else
         QApplication::setStyle(name);
 }

@@ -1,10 +1,10 @@
 #include "Settings/DarkStyle.h"
 
-#include <QGuiApplication>
+#include "Settings/TitleIcon.h"
+
 #include <QIcon>
 #include <QPainter>
 #include <QPalette>
-#include <QPixmap>
 #include <QStyleOption>
 
 namespace
@@ -22,32 +22,6 @@ void DrawFrame(QPainter& painter, const QStyleOption& option, bool isRound)
     else
         painter.drawRect(frame);
     painter.restore();
-}
-
-/// A cross, or two windows one behind the other.
-QIcon MakeTitleIcon(bool isClosing, const QColor& colour)
-{
-    constexpr int Side = 10;
-    QIcon icon;
-    for (const int scale : {1, 2})
-    {
-        QPixmap picture(Side * scale, Side * scale);
-        picture.setDevicePixelRatio(scale);
-        picture.fill(Qt::transparent);
-        QPainter painter(&picture);
-        painter.setRenderHint(QPainter::Antialiasing, isClosing);
-        painter.setPen(colour);
-        if (isClosing)
-            painter.drawLines({QLineF(2, 2, 8, 8), QLineF(2, 8, 8, 2)});
-        else
-            painter.drawPolyline(
-                QVector<QPointF>{{3.5, 3.5}, {3.5, 1.5}, {8.5, 1.5}, {8.5, 6.5}, {6.5, 6.5}});
-        if (!isClosing)
-            painter.drawRect(QRectF(1.5, 3.5, 5, 5));
-        painter.end();
-        icon.addPixmap(picture);
-    }
-    return icon;
 }
 
 }
@@ -69,9 +43,6 @@ void DarkStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* pOpt
 QIcon DarkStyle::standardIcon(StandardPixmap standard, const QStyleOption* pOption,
                               const QWidget* pWidget) const
 {
-    const bool isClosing = standard == SP_TitleBarCloseButton;
-    if (!isClosing && standard != SP_TitleBarNormalButton)
-        return QProxyStyle::standardIcon(standard, pOption, pWidget);
-    // The palette of the option is the pane's, which Qt 6 sets only later than the style.
-    return MakeTitleIcon(isClosing, QGuiApplication::palette().color(QPalette::WindowText));
+    const QIcon icon = MakeTitleIcon(standard);
+    return icon.isNull() ? QProxyStyle::standardIcon(standard, pOption, pWidget) : icon;
 }

@@ -11,7 +11,7 @@ using nlohmann::json;
 namespace
 {
 
-constexpr const char* ColourNames[] = {"desktop", "light", "dark"};
+constexpr const char* ColourNames[] = {"desktop", "light", "dark", "contrast"};
 constexpr const char* UnitNames[] = {"mm", "cm", "m", "inch"};
 
 /// In the order of the kinds.
@@ -79,7 +79,8 @@ bool operator==(const Settings& a, const Settings& b)
 {
     return a.language == b.language && a.colours == b.colours && a.unit == b.unit &&
            a.snaps == b.snaps && a.isSpaceCommitting == b.isSpaceCommitting &&
-           a.journalFolder == b.journalFolder && a.autosaveMinutes == b.autosaveMinutes;
+           a.journalFolder == b.journalFolder && a.autosaveMinutes == b.autosaveMinutes &&
+           a.isRibbonFolded == b.isRibbonFolded;
 }
 
 Settings SettingsFromText(const std::string& text)
@@ -97,6 +98,7 @@ Settings SettingsFromText(const std::string& text)
         settings.snaps[i] = TruthOf(snaps != object.end() && snaps->is_object() ? *snaps : noSnaps,
                                     SnapNames[i], settings.snaps[i]);
     settings.isSpaceCommitting = TruthOf(object, "spaceCommits", settings.isSpaceCommitting);
+    settings.isRibbonFolded = TruthOf(object, "ribbonFolded", settings.isRibbonFolded);
     settings.journalFolder = TextOf(object, "journalFolder", settings.journalFolder);
     settings.formerJournalFolders = ListOf(object, "formerJournalFolders");
     settings.autosaveMinutes = NumberOf(
@@ -116,6 +118,7 @@ std::string ToText(const Settings& settings, const std::string& formerText)
     for (std::size_t i = 0; i < settings.snaps.size(); ++i)
         snaps[SnapNames[i]] = settings.snaps[i];
     object["spaceCommits"] = settings.isSpaceCommitting;
+    object["ribbonFolded"] = settings.isRibbonFolded;
     object["journalFolder"] = settings.journalFolder.toStdString();
     json& former = object["formerJournalFolders"] = json::array();
     for (const QString& folder : settings.formerJournalFolders)

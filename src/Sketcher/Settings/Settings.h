@@ -16,6 +16,7 @@ struct Settings
         Desktop, ///< As the desktop has them.
         Light,
         Dark,
+        HighContrast, ///< White on black.
     };
 
     static constexpr int GreatestAutosaveMinutes = 120;
@@ -24,6 +25,9 @@ struct Settings
     /// program starts.
     QString language;
     Colours colours = Colours::Desktop;
+
+    /// Whether only the tabs of the ribbon are shown. Kept when the window closes.
+    bool isRibbonFolded = false;
 
     /// The symbol of the unit in which lengths are shown and typed at start.
     QString unit = QStringLiteral("mm");

@@ -50,8 +50,8 @@ BoxChoices ColourChoices()
         return std::pair<QVariant, QString>(static_cast<int>(colours), caption);
     };
     return {choice(Settings::Colours::Desktop, "与桌面相同"_tr),
-            choice(Settings::Colours::Light, "浅色"_tr),
-            choice(Settings::Colours::Dark, "深色"_tr)};
+            choice(Settings::Colours::Light, "浅色"_tr), choice(Settings::Colours::Dark, "深色"_tr),
+            choice(Settings::Colours::HighContrast, "高对比度"_tr)};
 }
 
 BoxChoices UnitChoices()
@@ -90,7 +90,7 @@ QLabel* MakeSettingsMessage()
     pMessage->setWordWrap(true);
     pMessage->setMargin(4);
     pMessage->setStyleSheet(
-        QStringLiteral("background: #b03a37; color: white; border-radius: 4px"));
+        QStringLiteral("background: #992f2c; color: white; border-radius: 4px"));
     pMessage->hide();
     return pMessage;
 }
@@ -99,7 +99,8 @@ QLabel* MakeSettingsMessage()
 
 SettingsDialog::SettingsDialog(const Settings& settings, const QVector<Language>& languages,
                                const QString& defaultJournalFolder, QWidget* pParent)
-    : QDialog(pParent), m_pLanguage(MakeBox("Language", LanguageChoices(languages))),
+    : QDialog(pParent), m_given(settings),
+      m_pLanguage(MakeBox("Language", LanguageChoices(languages))),
       m_pColours(MakeBox("Colours", ColourChoices())), m_pUnit(MakeBox("Unit", UnitChoices())),
       m_pSpace(MakeBox("Space", SpaceChoices())), m_pFolder(new QLineEdit),
       m_pAutosave(MakeAutosave()), m_pMessage(MakeSettingsMessage())
@@ -125,7 +126,7 @@ SettingsDialog::SettingsDialog(const Settings& settings, const QVector<Language>
 
 Settings SettingsDialog::Get() const
 {
-    Settings settings;
+    Settings settings = m_given;
     settings.language = m_pLanguage->currentData().toString();
     settings.colours = static_cast<Settings::Colours>(m_pColours->currentData().toInt());
     settings.unit = m_pUnit->currentData().toString();
@@ -178,7 +179,7 @@ QWidget* SettingsDialog::MakeFolder(const QString& defaultJournalFolder)
     m_pFolder->setObjectName(QStringLiteral("JournalFolder"));
     m_pFolder->setPlaceholderText(QDir::toNativeSeparators(defaultJournalFolder));
     m_pFolder->setToolTip("留空则用 %1"_tr.arg(m_pFolder->placeholderText()));
-    m_pFolder->setMinimumWidth(m_pFolder->fontMetrics().averageCharWidth() * 36);
+    m_pFolder->setMinimumWidth(m_pFolder->fontMetrics().averageCharWidth() * 24);
     auto* pBrowse = new QPushButton("浏览…"_tr);
     pBrowse->setObjectName(QStringLiteral("Browse"));
     pBrowse->setAutoDefault(false);

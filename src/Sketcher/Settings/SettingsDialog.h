@@ -35,6 +35,7 @@ private:
     void Show(const Settings& settings);
     void OnBrowse();
 
+    const Settings m_given; ///< For what is chosen elsewhere.
     QComboBox* m_pLanguage;
     QComboBox* m_pColours;
     QComboBox* m_pUnit;

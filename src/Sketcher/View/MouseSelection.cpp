@@ -4,6 +4,7 @@
 #include "Model/Picking.h"
 #include "Model/Workspace.h"
 
+#include "HostUi/Contrast.h"
 #include "HostUi/DrawingView.h"
 #include "HostUi/ViewPixel.h"
 
@@ -51,7 +52,8 @@ void MouseSelection::Paint(QPainter& painter) const
     if (!IsDragged())
         return;
     const bool isWindow = m_press->IsToTheRight();
-    const QColor colour = isWindow ? QColor(0x2f, 0x7d, 0xe1) : QColor(0x2e, 0x9e, 0x4f);
+    const QColor customary = isWindow ? QColor(0x2f, 0x7d, 0xe1) : QColor(0x2e, 0x9e, 0x4f);
+    const QColor colour = vesk::Legible(customary, m_view.palette());
     QColor fill = colour;
     fill.setAlpha(40);
     painter.save();

@@ -2,6 +2,8 @@
 
 #include "Model/Sketch.h"
 
+#include "HostUi/Contrast.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
@@ -12,8 +14,8 @@ double WidthOnScreen(const LineWidth& width)
     return std::max(1.0, std::round(width.millimetres / MillimetresPerPixel));
 }
 
-ScreenPens::ScreenPens(const Sketch& sketch, const QColor& textColour)
-    : m_sketch(sketch), m_textColour(textColour)
+ScreenPens::ScreenPens(const Sketch& sketch, const QPalette& palette)
+    : m_sketch(sketch), m_palette(palette)
 {}
 
 const QPen* ScreenPens::Find(const Pen& pen)
@@ -34,7 +36,7 @@ QPen ScreenPens::Make(const Pen& pen, const Layer& layer) const
     const int index = pen.colour != 0 ? pen.colour : layer.colour;
     const QColor& colour = LineColours()[static_cast<std::size_t>(index)].colour;
     // Round caps take three times as long to paint.
-    return {colour.isValid() ? colour : m_textColour,
+    return {colour.isValid() ? vesk::Legible(colour, m_palette) : m_palette.color(QPalette::Text),
             WidthOnScreen(LineWidths()[static_cast<std::size_t>(pen.width)]),
             LineStyles()[static_cast<std::size_t>(pen.style)].style, Qt::SquareCap};
 }

@@ -2,7 +2,7 @@
 
 #include "Model/Pen.h"
 
-#include <QColor>
+#include <QPalette>
 #include <QPen>
 
 #include <optional>
@@ -20,9 +20,9 @@ double WidthOnScreen(const LineWidth& width);
 class ScreenPens final
 {
 public:
-    /// The text colour stands for the default colour of layers. The sketch is not owned and
-    /// outlives the pens.
-    ScreenPens(const Sketch& sketch, const QColor& textColour);
+    /// The palette's text colour stands for the default colour of layers; other colours are changed
+    /// as far as needed to be told from its Base. The sketch is not owned and outlives the pens.
+    ScreenPens(const Sketch& sketch, const QPalette& palette);
 
     /// How entities with that pen are painted; null if their layer is hidden. Valid until the next
     /// call.
@@ -32,7 +32,7 @@ private:
     QPen Make(const Pen& pen, const Layer& layer) const;
 
     const Sketch& m_sketch;
-    const QColor m_textColour;
+    const QPalette m_palette;
 
     /// The pen that was asked for last, and the answer.
     std::optional<Pen> m_last;

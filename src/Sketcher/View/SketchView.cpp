@@ -12,6 +12,7 @@
 
 #include "Command/IAction.h"
 #include "Command/IActionManager.h"
+#include "HostUi/Contrast.h"
 #include "HostUi/QtVersions.h"
 
 #include <QContextMenuEvent>
@@ -107,7 +108,7 @@ std::size_t SketchView::PaintModel(QPainter& painter, const QRectF& area, std::s
 void SketchView::PaintOverlay(QPainter& painter)
 {
     if (const std::optional<Snapper::Caught>& caught = m_workspace.snapper.GetCaught())
-        PaintSnapMarker(painter, caught->kind, ToPixel(caught->point));
+        PaintSnapMarker(painter, caught->kind, ToPixel(caught->point), palette());
     m_mouse.Paint(painter);
 }
 
@@ -326,7 +327,7 @@ Area SketchView::ToWorld(const QRectF& pixels) const
 /// Paints some of the entities, from an id on, and returns the id after them.
 int SketchView::PaintEntities(QPainter& painter, const QRectF& visible, int first)
 {
-    ScreenPens pens(m_workspace.sketch, palette().color(QPalette::Text));
+    ScreenPens pens(m_workspace.sketch, palette());
     const auto begin = m_visible.From(first, ToWorld(visible));
     const auto end = begin + std::min(m_visible.End() - begin, MostPainted);
     for (auto entity = begin; entity != end; ++entity)
@@ -352,7 +353,8 @@ void SketchView::PaintSelected(QPainter& painter, const QRectF& visible, const E
 {
     constexpr double BandWidth = 7.0;
     constexpr double GripSize = 7.0;
-    QColor band = palette().color(QPalette::Highlight);
+    const QColor highlight = vesk::Legible(palette().color(QPalette::Highlight), palette());
+    QColor band = highlight;
     band.setAlpha(110);
     PaintShape(painter, QPen(band, BandWidth, Qt::SolidLine, Qt::RoundCap), entity.shape,
                GetCamera(), visible);
@@ -363,6 +365,6 @@ void SketchView::PaintSelected(QPainter& painter, const QRectF& visible, const E
     {
         QRectF box(0.0, 0.0, GripSize, GripSize);
         box.moveCenter(ToPixel(grip));
-        painter.fillRect(box, palette().color(QPalette::Highlight));
+        painter.fillRect(box, highlight);
     }
 }

@@ -36,6 +36,9 @@ public:
 
     void OnActionChanged() override;
 
+    /// What panes leave to the drawing: otherwise they give way.
+    QSize minimumSizeHint() const override { return {400, 300}; }
+
 signals:
     /// The cursor points at another entity, or that entity has changed.
     void pointedChanged();

@@ -2,6 +2,8 @@
 
 #include "Model/UiText.h"
 
+#include "HostUi/Contrast.h"
+
 #include <QPainter>
 #include <QPointF>
 #include <QPolygonF>
@@ -47,9 +49,10 @@ QString SnapCaption(Snapper::Kind kind)
     return Tr(Captions[kind]);
 }
 
-void PaintSnapMarker(QPainter& painter, Snapper::Kind kind, const QPointF& position)
+void PaintSnapMarker(QPainter& painter, Snapper::Kind kind, const QPointF& position,
+                     const QPalette& palette)
 {
-    const QColor ink(0x2e, 0x9e, 0x4f);
+    const QColor ink = vesk::Legible(QColor(0x2e, 0x9e, 0x4f), palette);
     painter.save();
     painter.translate(position);
     painter.setBrush(Qt::NoBrush);

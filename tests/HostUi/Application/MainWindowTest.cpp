@@ -363,7 +363,7 @@ private slots:
         QCoreApplication::processEvents();
 
         QVERIFY(f.window.minimumSizeHint().width() <= least + 20);
-        QCOMPARE(f.States()->minimumWidth(), 1);
+        QCOMPARE(f.States()->minimumSizeHint().width(), 1);
         QCOMPARE(f.window.width(), 700);
     }
 };

@@ -1,5 +1,7 @@
 #include "HostUi/ProvisionalPainter.h"
 
+#include "HostUi/Contrast.h"
+
 #include "Support/HostValues.h"
 #include "Support/TestValues.h"
 #include "View/ModelView.h"
@@ -103,6 +105,9 @@ private slots:
         QFETCH(QColor, base);
         QFETCH(QColor, colour);
         QFETCH(double, width);
+        QPalette palette(Qt::white);
+        palette.setColor(QPalette::Base, base);
+        colour = Legible(colour, palette);
         const auto opLine = IGraphicsLine::Create({-50, 0, 0}, {50, 0, 0}, role);
         const auto opArc = IGraphicsArc::Create({0, 0, 0}, {1, 0, 0}, {0, 1, 0}, 50.0, 1.0, role);
         const auto opText = IGraphicsText::Create({0, 0, 0}, L"8", role);

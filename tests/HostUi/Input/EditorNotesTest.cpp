@@ -289,7 +289,7 @@ private slots:
         QTest::addColumn<QColor>("ground");
 
         const QPalette palette;
-        QTest::newRow("refusal") << QByteArray("InputRefusal") << QColor("#b03a37");
+        QTest::newRow("refusal") << QByteArray("InputRefusal") << QColor("#992f2c");
         QTest::newRow("value") << QByteArray("InputValue") << palette.color(QPalette::Base);
         QTest::newRow("keys") << QByteArray("InputKeys") << palette.color(QPalette::Window);
     }

@@ -60,6 +60,7 @@ private slots:
 
         QTest::newRow("light") << Settings::Colours::Light;
         QTest::newRow("dark") << Settings::Colours::Dark;
+        QTest::newRow("high contrast") << Settings::Colours::HighContrast;
     }
 
     void textCanBeRead()

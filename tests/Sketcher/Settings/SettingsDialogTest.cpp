@@ -98,6 +98,17 @@ private slots:
         QVERIFY(f.dialog.isVisible());
     }
 
+    void whatIsChosenElsewhereStays()
+    {
+        Settings settings;
+        settings.isRibbonFolded = true;
+        const Fixture f(settings);
+
+        f.Get<QPushButton>("Defaults").click();
+
+        QVERIFY(f.dialog.Get().isRibbonFolded);
+    }
+
     void autosaveCanBeSwitchedOff()
     {
         Fixture f{Settings()};

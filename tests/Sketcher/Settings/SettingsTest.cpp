@@ -18,6 +18,7 @@ Settings Others()
     settings.isSpaceCommitting = false;
     settings.journalFolder = QStringLiteral("/日志");
     settings.autosaveMinutes = 0;
+    settings.isRibbonFolded = true;
     return settings;
 }
 
@@ -40,6 +41,7 @@ private slots:
         QVERIFY(settings.isSpaceCommitting);
         QCOMPARE(settings.journalFolder, QString());
         QCOMPARE(settings.autosaveMinutes, 5);
+        QVERIFY(!settings.isRibbonFolded);
     }
 
     void whatIsWrittenIsRead_data()
@@ -63,7 +65,7 @@ private slots:
         QTest::addColumn<QString>("field");
 
         for (const char* field : {"language", "colours", "unit", "snaps", "spaceCommits",
-                                  "journalFolder", "autosaveMinutes"})
+                                  "journalFolder", "autosaveMinutes", "ribbonFolded"})
             QTest::newRow(field) << field;
     }
 

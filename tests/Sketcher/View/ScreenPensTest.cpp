@@ -1,5 +1,6 @@
 #include "View/ScreenPens.h"
 
+#include "HostUi/Contrast.h"
 #include "Model/Sketch.h"
 #include "Support/TestValues.h"
 
@@ -7,6 +8,14 @@ namespace
 {
 
 const QColor s_ink(1, 2, 3);
+
+QPalette OnWhite()
+{
+    QPalette palette(QColor(0xf0, 0xf0, 0xf0));
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::Text, s_ink);
+    return palette;
+}
 
 int IndexOfColour(const std::wstring& name)
 {
@@ -65,7 +74,7 @@ private slots:
         QFETCH(double, millimetres);
         QFETCH(double, pixels);
         const Sketch sketch;
-        ScreenPens pens(sketch, s_ink);
+        ScreenPens pens(sketch, OnWhite());
         Pen pen;
         pen.width = IndexOfWidth(millimetres);
 
@@ -75,7 +84,7 @@ private slots:
     void theStyleIsThePens()
     {
         const Sketch sketch;
-        ScreenPens pens(sketch, s_ink);
+        ScreenPens pens(sketch, OnWhite());
         Pen pen;
         pen.style = 1;
 
@@ -85,7 +94,7 @@ private slots:
     void theColourIsThePensElseTheLayersElseTheTexts()
     {
         const Fixture f;
-        ScreenPens pens(f.sketch, s_ink);
+        ScreenPens pens(f.sketch, OnWhite());
         Pen pen;
         const auto colour = [&pens, &pen] { return pens.Find(pen)->color(); };
 
@@ -93,7 +102,39 @@ private slots:
         pen.layer = f.layer.id;
         QCOMPARE(colour(), LineColours()[std::size_t(f.layer.colour)].colour);
         pen.colour = IndexOfColour(L"blue");
-        QCOMPARE(colour(), LineColours()[std::size_t(pen.colour)].colour);
+        QCOMPARE(colour(), vesk::Legible(LineColours()[std::size_t(pen.colour)].colour, OnWhite()));
+    }
+
+    void eachColourCanBeToldFromTheBackground_data()
+    {
+        QTest::addColumn<QColor>("base");
+        QTest::addColumn<QColor>("window");
+        QTest::addColumn<double>("least");
+
+        const QColor grey(0x80, 0x80, 0x80);
+        QTest::newRow("light") << QColor(Qt::white) << grey << 4.5;
+        QTest::newRow("dark") << QColor(0x1b, 0x1c, 0x1f) << grey << 4.5;
+        QTest::newRow("white on black") << QColor(Qt::black) << QColor(Qt::black) << 7.0;
+        QTest::newRow("black on white") << QColor(Qt::white) << QColor(Qt::white) << 7.0;
+    }
+
+    void eachColourCanBeToldFromTheBackground()
+    {
+        QFETCH(QColor, base);
+        QFETCH(QColor, window);
+        QFETCH(double, least);
+        const Sketch sketch;
+        QPalette palette(window, window);
+        palette.setColor(QPalette::Base, base);
+        palette.setColor(QPalette::Text, base == Qt::white ? Qt::black : Qt::white);
+        ScreenPens pens(sketch, palette);
+
+        for (int i = 0; i < static_cast<int>(LineColours().size()); ++i)
+        {
+            Pen pen;
+            pen.colour = i;
+            QVERIFY(vesk::ContrastOf(pens.Find(pen)->color(), base) >= least);
+        }
     }
 
     void aHiddenLayerHasNoPen()
@@ -101,7 +142,7 @@ private slots:
         Fixture f;
         f.layer.isVisible = false;
         f.sketch.SetLayer(f.layer);
-        ScreenPens pens(f.sketch, s_ink);
+        ScreenPens pens(f.sketch, OnWhite());
         Pen hidden;
         hidden.layer = f.layer.id;
 
@@ -115,7 +156,7 @@ private slots:
         Fixture f;
         f.layer.isLocked = true;
         f.sketch.SetLayer(f.layer);
-        ScreenPens pens(f.sketch, s_ink);
+        ScreenPens pens(f.sketch, OnWhite());
         Pen locked;
         locked.layer = f.layer.id;
 

@@ -110,7 +110,7 @@ QImage PlainPicture(SketchViewFixture& f, const std::vector<Sketch::PenShape>& s
     f.workspace.sketch.Redo();
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
-    ScreenPens pens(f.workspace.sketch, Qt::black);
+    ScreenPens pens(f.workspace.sketch, f.view.palette());
     for (const auto& [shape, pen] : shapes)
         PaintShape(painter, *pens.Find(pen), shape, f.view.GetCamera(),
                    QRectF(f.view.rect()).adjusted(-8, -8, 8, 8));

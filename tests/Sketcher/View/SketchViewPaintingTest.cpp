@@ -1,5 +1,6 @@
 #include "View/SketchViewFixture.h"
 
+#include "HostUi/Contrast.h"
 #include "Model/Pen.h"
 #include "Support/TestValues.h"
 
@@ -126,7 +127,7 @@ private slots:
 
         f.workspace.sketch.Add(s_level);
 
-        QCOMPARE(f.ColourAt(5, LineY), colour);
+        QCOMPARE(f.ColourAt(5, LineY), Legible(colour, f.view.palette()));
     }
 
     void aLineHasTheStyleOfItsPen_data()
@@ -192,7 +193,7 @@ private slots:
 
         f.workspace.sketch.SetLayer(layer);
 
-        QCOMPARE(f.ColourAt(5, LineY), LineColours()[4].colour);
+        QCOMPARE(f.ColourAt(5, LineY), vesk::Legible(LineColours()[4].colour, f.view.palette()));
     }
 
     void aHiddenLayerIsNotPainted()

@@ -43,6 +43,9 @@ public:
     IModelView* GetModelView() const override;
     void SetViewText(const std::wstring& text) override;
     void Activate() override;
+
+    /// The least size in which dimensions keep editor and cursor apart.
+    QSize minimumSizeHint() const override;
     void Redraw() override;
 
     /// The text shown last by SetViewText: what the running action expects.

@@ -12,6 +12,7 @@
 #include <QSet>
 #include <QTimer>
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -21,6 +22,8 @@ class QScreen;
 
 namespace vesk
 {
+
+class PaneRetreat;
 
 /// The position of a pane in the default layout.
 struct PanePlace
@@ -38,6 +41,11 @@ struct PanePlace
 /// save. A floating pane always stays within the user's reach, even after a screen shrinks or
 /// disappears, and floats at a size of its own. A docked pane stays wide and high enough to be
 /// usable.
+///
+/// If the window may become smaller than its panes and the least size of its central widget (its
+/// minimum size is set), panes give way: they are hidden, the last default position first, and are
+/// shown again when the window is large enough. The pane that was shown last stays. A saved layout
+/// contains those that have given way.
 class VESK_HOST_UI_API PaneLayout final : public QObject
 {
     Q_OBJECT
@@ -101,6 +109,7 @@ private:
     QMainWindow& m_window;
     IDockManager& m_docks;
     std::vector<PanePlace> m_places;
+    std::unique_ptr<PaneRetreat> m_pRetreat;
 
     /// The layout from before ToggleAllHidden hid all panes; empty otherwise.
     QByteArray m_beforeHiding;

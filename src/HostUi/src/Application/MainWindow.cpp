@@ -7,6 +7,7 @@
 #include "Command/ActionManager.h"
 #include "Dimension/LengthUnit.h"
 #include "HostUi/DrawingView.h"
+#include "HostUi/ElidedLabel.h"
 #include "HostUi/NumberText.h"
 #include "HostUi/QtText.h"
 #include "Qtitan/RibbonBar.h"
@@ -24,6 +25,9 @@ namespace vesk
 namespace
 {
 
+/// Small enough for any screen, and large enough for ribbon, drawing and status bar without panes.
+constexpr QSize Least(480, 400);
+
 /// Explains where to find the warnings that were not shown.
 QString TellWhereTheLogIs()
 {
@@ -37,8 +41,9 @@ QString TellWhereTheLogIs()
 }
 
 MainWindow::MainWindow()
-    : m_pRibbon(new Qtitan::RibbonBar(this)), m_pHint(new QLabel(this)),
-      m_pCursor(new QLabel(this)), m_pStates(new QLabel(this)), m_pWarningCount(new QLabel(this))
+    : m_pRibbon(new Qtitan::RibbonBar(this)), m_pHint(new ElidedLabel(this)),
+      m_pCursor(new QLabel(this)), m_pStates(new ElidedLabel(this)),
+      m_pWarningCount(new QLabel(this))
 {
     auto* pTop = new QWidget(this);
     auto* pTopLayout = new QVBoxLayout(pTop);
@@ -57,7 +62,7 @@ MainWindow::MainWindow()
     m_pHint->setText(QStringLiteral("汉"));
     m_pHint->setMinimumHeight(m_pHint->sizeHint().height());
     m_pHint->clear();
-    // The window does not grow for a long hint.
+    // It gets what the others leave, so that they do not move when it changes.
     m_pHint->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_pCursor->setContentsMargins(Margin, 0, Margin, 0);
     statusBar()->addWidget(m_pHint, 1);
@@ -67,13 +72,12 @@ MainWindow::MainWindow()
     m_pWarningCount->setObjectName(QStringLiteral("WarningCount"));
     m_pWarningCount->hide();
     m_pStates->setObjectName(QStringLiteral("States"));
-    // The window does not grow for it; the tool tip shows what does not fit.
-    m_pStates->setMinimumWidth(1);
     m_pStates->hide();
 
     connect(statusBar(), &QStatusBar::messageChanged, this,
             [this](const QString& text) { SetAccessibleTexts(*statusBar(), text, {}); });
     new FocusAreas(*this);
+    setMinimumSize(Least);
     // The host identifies windows by their native window.
     winId();
     SetMainWindow(this);

@@ -45,13 +45,17 @@ DrawingView::DrawingView(std::uint32_t id, DimensionInputController& input, QWid
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     setCursor(Qt::CrossCursor);
-    setMinimumSize(300, 200);
     SetAccessibleRole(*this, QAccessible::Canvas);
     // The host identifies views by their native window.
     winId();
 }
 
 DrawingView::~DrawingView() = default;
+
+QSize DrawingView::minimumSizeHint() const
+{
+    return {300, 200};
+}
 
 std::uint32_t DrawingView::GetId() const
 {

@@ -1,5 +1,6 @@
 #include "HostUi/ProvisionalPainter.h"
 
+#include "HostUi/Contrast.h"
 #include "HostUi/QtText.h"
 #include "HostUi/ViewPixel.h"
 #include "Input/TextCollector.h"
@@ -87,7 +88,7 @@ void ProvisionalPainter::SetPen(GraphicsRole role)
 {
     const Pen& pen = PenOf(role);
     const bool isDark = m_palette.color(QPalette::Base).lightness() < 128;
-    m_painter.setPen(QPen(isDark ? pen.onDark : pen.onLight, pen.width));
+    m_painter.setPen(QPen(Legible(isDark ? pen.onDark : pen.onLight, m_palette), pen.width));
 }
 
 }

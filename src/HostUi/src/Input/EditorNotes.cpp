@@ -24,7 +24,7 @@ constexpr NoteKind Kinds[] = {
      "background: palette(base); color: palette(text); "
      "border: 1px solid palette(highlight)",
      false},
-    {"InputRefusal", "background: #b03a37; color: white", true},
+    {"InputRefusal", "background: #992f2c; color: white", true},
     {"InputKeys",
      "background: palette(window); color: palette(window-text); "
      "border: 1px solid palette(mid)",

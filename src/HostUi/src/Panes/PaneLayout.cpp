@@ -4,6 +4,7 @@
 #include "Panes/PaneMenu.h"
 #include "Panes/PanePosition.h"
 #include "Panes/PaneReach.h"
+#include "Panes/PaneRetreat.h"
 
 #include <QCursor>
 #include <QDataStream>
@@ -79,6 +80,20 @@ bool Names(const QByteArray& state, const QDockWidget& pane)
     return state.contains(name);
 }
 
+/// The size of a pane in its default position, as far as that tells it.
+QSize SizeOf(const PanePlace& place)
+{
+    return AcrossOf(place.area) == Qt::Horizontal ? QSize(place.extent, 0) : QSize(0, place.extent);
+}
+
+QStringList NamesOf(const std::vector<PanePlace>& places)
+{
+    QStringList names;
+    for (const PanePlace& place : places)
+        names.append(ToQString(place.name));
+    return names;
+}
+
 /// Qt bypasses the window manager while it drags a pane.
 bool IsDragged(const QDockWidget& pane)
 {
@@ -88,8 +103,10 @@ bool IsDragged(const QDockWidget& pane)
 }
 
 PaneLayout::PaneLayout(QMainWindow& window, IDockManager& docks, std::vector<PanePlace> places)
-    : m_window(window), m_docks(docks), m_places(std::move(places))
+    : m_window(window), m_docks(docks), m_places(std::move(places)),
+      m_pRetreat(std::make_unique<PaneRetreat>(window))
 {
+    m_pRetreat->SetPanes(NamesOf(m_places));
     Prepare();
     new PaneMenu(window, this);
     // One change emits several signals; only after the last is every screen in position.
@@ -117,7 +134,7 @@ QByteArray PaneLayout::Save()
     QByteArray layout;
     QDataStream stream(&layout, QIODevice::WriteOnly);
     stream.setVersion(StreamVersion);
-    stream << m_window.saveState(StateVersion) << places;
+    stream << m_window.saveState(StateVersion) << places << m_pRetreat->Save();
     return layout;
 }
 
@@ -132,7 +149,9 @@ bool PaneLayout::Restore(const QByteArray& layout)
 
 void PaneLayout::RestoreDefault()
 {
+    const PaneRetreat::Pause pause(*m_pRetreat);
     Prepare();
+    m_pRetreat->Restore({});
     std::map<DockArea, QList<QDockWidget*>> areas;
     for (const PanePlace& place : m_places)
     {
@@ -142,6 +161,7 @@ void PaneLayout::RestoreDefault()
         pWidget->setFloating(false);
         m_window.addDockWidget(ToQt(place.area), pWidget);
         pWidget->show();
+        m_pRetreat->SetSize(pWidget->objectName(), SizeOf(place));
         if (QDockWidget* pFront = FindWidget(place.tabWith))
             m_window.tabifyDockWidget(pFront, pWidget);
         else
@@ -168,6 +188,7 @@ void PaneLayout::ToggleAllHidden()
         return;
     }
     const QByteArray before = Save();
+    m_pRetreat->Restore({});
     for (const Pane& pane : FindPanes())
         pane.pDock->Hide();
     m_beforeHiding = before;
@@ -192,10 +213,15 @@ bool PaneLayout::eventFilter(QObject* pWatched, QEvent* pEvent)
         QTimer::singleShot(0, this, &PaneLayout::EndDrag);
     if (pEvent->type() == QEvent::Resize)
         NoteSize(static_cast<QDockWidget&>(*pWatched));
+    if (pEvent->type() == QEvent::Resize)
+        m_pRetreat->OnPaneResized();
     if (pEvent->type() == QEvent::LayoutRequest)
         KeepUsable(static_cast<QDockWidget&>(*pWatched));
     if (pEvent->type() == QEvent::ShowToParent)
+    {
         m_beforeHiding.clear();
+        m_pRetreat->OnPaneShown(static_cast<QDockWidget&>(*pWatched));
+    }
     if (pEvent->type() == QEvent::ShowToParent || pEvent->type() == QEvent::HideToParent)
         emit visibilityChanged();
     return QObject::eventFilter(pWatched, pEvent);
@@ -239,6 +265,8 @@ void PaneLayout::Prepare()
         pane.pWidget->installEventFilter(this);
         connect(pane.pWidget, &QDockWidget::topLevelChanged, this, &PaneLayout::OnFloated,
                 Qt::UniqueConnection);
+        connect(pane.pWidget, &QDockWidget::dockLocationChanged, m_pRetreat.get(),
+                &PaneRetreat::OnPaneMoved, Qt::UniqueConnection);
         PanePosition::Watch(*pane.pWidget);
         KeepUsable(*pane.pWidget);
         m_named.emplace_back(pane.pWidget);
@@ -301,14 +329,19 @@ void PaneLayout::NoteSize(const QDockWidget& pane)
 
 bool PaneLayout::Apply(const QByteArray& layout)
 {
+    const PaneRetreat::Pause pause(*m_pRetreat);
     Prepare();
     QByteArray state;
     QMap<QString, QRect> places;
+    QByteArray retreat;
     QDataStream stream(layout);
     stream.setVersion(StreamVersion);
     stream >> state >> places;
     if (stream.status() != QDataStream::Ok)
         return false;
+    // Former versions of the program have not written it.
+    if (!stream.atEnd())
+        stream >> retreat;
     // The toolkit would leave them where they are, beside those that it moves.
     for (const PanePlace& place : m_places)
     {
@@ -321,6 +354,7 @@ bool PaneLayout::Apply(const QByteArray& layout)
     PlaceLost();
     PlaceFloating(places);
     BringFloatingIntoReach();
+    m_pRetreat->Restore(retreat);
     return true;
 }
 

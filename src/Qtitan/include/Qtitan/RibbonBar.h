@@ -4,11 +4,14 @@
 
 #include <QWidget>
 
+class QHBoxLayout;
 class QStackedWidget;
+class QToolButton;
 
 namespace Qtitan
 {
 
+class RibbonOpening;
 class RibbonPage;
 class RibbonTabBar;
 
@@ -59,6 +62,19 @@ public:
     /// Hides or shows everything below the tabs. A double-click on a tab does the same.
     void setMinimized(bool minimized);
 
+    /// Shows the current page of a minimised ribbon until one of its buttons is clicked, or the
+    /// user presses Escape or turns to something else; a click elsewhere in the window only closes
+    /// it. A click on a tab does the same; another one on that tab closes the page. Does nothing if
+    /// the ribbon is not minimised.
+    void openPage();
+
+    /// Closes the page that openPage has opened; does nothing if there is none.
+    void closePage();
+
+    /// Adds a button at the end of the row of tabs, where it is seen even if the ribbon is
+    /// minimised. The ribbon becomes its parent; it may be deleted at any time.
+    void addTabRowButton(QToolButton* pButton);
+
     /// The tab of a page in this widget's coordinates; empty if there is no such page.
     QRect tabRect(int index) const;
 
@@ -68,6 +84,7 @@ signals:
     void currentPageChanged(int index);
 
 protected:
+    bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
     void paintEvent(QPaintEvent* pEvent) override;
 
 private:
@@ -75,8 +92,15 @@ private:
     void OnTabDoubleClicked(int index);
     void OnPageRemoved(int index);
 
+    void OnTabClicked(int index);
+    void showPages();
+
     RibbonTabBar* m_pTabs;
+    QHBoxLayout* m_pTabRow;
     QStackedWidget* m_pPages;
+    bool m_isMinimized = false;
+    bool m_isDoubleClick = false; ///< While a tab handles one.
+    RibbonOpening* m_pOpening;
 };
 
 } // namespace Qtitan
