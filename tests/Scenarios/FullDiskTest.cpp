@@ -181,10 +181,9 @@ private slots:
     void theLayoutIsOldOrNew()
     {
         QFETCH(bool, isByPages);
-        {
-            RunningSketcher sample({}, m_pFixture->File("ui"));
-            QCOMPARE(sample.Terminate().code, 0);
-        }
+        ScriptedUser first;
+        first.Until([] { return ScriptedUser::FindWindow()->isVisible(); });
+        QCOMPARE(first.Run(Options()), 0);
         const QByteArray whole = ReadBytes(ScenarioFixture::LayoutFile());
         Shortage shortage(isByPages, m_pFixture->File("home"));
         if (!shortage.IsPossible())
