@@ -28,7 +28,7 @@ public:
     void AddRoom(const QRectF& room);
 
     std::uint32_t GetId() const override { return 1; }
-    vesk::WindowId GetWindowId() const override { return internalWinId(); }
+    vesk::WindowId GetWindowId() const override { return winId(); }
     vesk::IModelView* GetModelView() const override { return &m_mapping; }
     void SetViewText(const std::wstring& text) override;
     void Activate() override { setFocus(); }

@@ -212,11 +212,11 @@ void PaneTest::aPaneDraggedOutOfTheBottomFloatsAtASizeOfItsOwn()
     QVERIFY(Session().Input().Drag(held, QPoint(held.x(), 420)));
     QVERIFY(WaitForPane(s_journal, "floating", true));
 
-    QVERIFY(Session().WaitFor(
-        [](const UiTree& tree) { return RectOf(FindPane(tree, s_journal)).width() == 480; }));
-    const QRect floating = RectOf(Pane(s_journal));
-    QVERIFY(floating.contains(QPoint(held.x(), 420)));
-    QCOMPARE(floating.height(), docked.height());
+    QVERIFY(Session().WaitFor([&held](const UiTree& tree) {
+        const QRect floating = RectOf(FindPane(tree, s_journal));
+        return floating.width() == 480 && floating.contains(QPoint(held.x(), 420));
+    }));
+    QCOMPARE(RectOf(Pane(s_journal)).height(), docked.height());
 }
 
 /// Makes the screen smaller during its lifetime.
@@ -237,9 +237,10 @@ void PaneTest::aFloatingPaneComesIntoReachWhenTheScreenShrinks()
     const QRect docked = RectOf(Pane(s_journal));
     QVERIFY(Session().Input().Drag(QPoint(docked.right() - 120, docked.top() + 9),
                                    QPoint(docked.right() - 300, 600)));
-    QVERIFY(Session().WaitFor(
-        [](const UiTree& tree) { return RectOf(FindPane(tree, s_journal)).width() == 480; }));
-    QVERIFY(RectOf(Pane(s_journal)).right() > 800);
+    QVERIFY(Session().WaitFor([](const UiTree& tree) {
+        const QRect floating = RectOf(FindPane(tree, s_journal));
+        return floating.width() == 480 && floating.right() > 800;
+    }));
 
     const SmallScreen screen(Session().Input(), QSize(800, 600));
     QVERIFY(screen.isSet);

@@ -26,6 +26,12 @@ const QColor s_white(255, 255, 255);
 constexpr int LineY = 35;
 const LineShape s_level{{-63, LineY, 0}, {63, LineY, 0}};
 
+/// Shows the whole drawing at once, however busy the machine is.
+struct Fixture : SketchViewFixture
+{
+    Fixture() { view.PaintAtOnce(); }
+};
+
 /// A colour painted over the strong lines of the grid.
 QColor OverGrid(const QColor& colour)
 {
@@ -81,7 +87,7 @@ private slots:
     void theAxesCrossTheWholeView()
     {
         QFETCH(QPoint, centre);
-        SketchViewFixture f;
+        Fixture f;
         const Vector3d middle(centre.x(), centre.y(), 0);
         f.view.Fit(middle, middle);
 
@@ -122,7 +128,7 @@ private slots:
     {
         QFETCH(int, index);
         QFETCH(QColor, colour);
-        SketchViewFixture f;
+        Fixture f;
         f.workspace.sketch.SetCurrentPen(&Pen::colour, index);
 
         f.workspace.sketch.Add(s_level);
@@ -145,7 +151,7 @@ private slots:
     {
         QFETCH(int, index);
         QFETCH(int, style);
-        SketchViewFixture f;
+        Fixture f;
         f.workspace.sketch.SetCurrentPen(&Pen::style, index);
 
         f.workspace.sketch.Add(s_level);
@@ -169,7 +175,7 @@ private slots:
     {
         QFETCH(int, index);
         QFETCH(int, reach);
-        SketchViewFixture f;
+        Fixture f;
         f.workspace.sketch.SetCurrentPen(&Pen::width, index);
 
         f.workspace.sketch.Add(s_level);
@@ -186,7 +192,7 @@ private slots:
 
     void aLineWithoutAColourHasItsLayers()
     {
-        SketchViewFixture f;
+        Fixture f;
         f.workspace.sketch.Add(s_level);
         Layer layer;
         layer.colour = 4;
@@ -198,7 +204,7 @@ private slots:
 
     void aHiddenLayerIsNotPainted()
     {
-        SketchViewFixture f;
+        Fixture f;
         f.workspace.sketch.Add(s_level);
         Layer layer;
         layer.isVisible = false;
@@ -212,7 +218,7 @@ private slots:
 
     void slantedLinesAreSmooth()
     {
-        SketchViewFixture f;
+        Fixture f;
 
         f.workspace.sketch.AddLine({-33, 11, 0}, {38, 27, 0});
 
@@ -229,7 +235,7 @@ private slots:
 
     void aChangeOfTheDrawingIsShown()
     {
-        SketchViewFixture f;
+        Fixture f;
         QCOMPARE(f.ColourAt(5, LineY), s_white);
 
         f.workspace.sketch.Add(s_level);
@@ -241,7 +247,7 @@ private slots:
 
     void aBandLiesBelowWhatIsSelected()
     {
-        SketchViewFixture f;
+        Fixture f;
         const int id = f.workspace.sketch.Add(s_level);
         f.workspace.sketch.AddLine({-63, -LineY, 0}, {63, -LineY, 0});
         QCOMPARE(f.ColourAt(5, LineY + 3), s_white);
@@ -258,7 +264,7 @@ private slots:
 
     void whatIsSelectedNoMoreHasNoBand()
     {
-        SketchViewFixture f;
+        Fixture f;
         const int id = f.workspace.sketch.Add(s_level);
         f.workspace.selection.Select({id});
         QCOMPARE(f.ColourAt(5, LineY + 3), s_band);
@@ -291,7 +297,7 @@ private slots:
     {
         QFETCH(Shape, shape);
         QFETCH(QPoint, grip);
-        SketchViewFixture f;
+        Fixture f;
         const int id = f.workspace.sketch.Add(shape);
 
         f.workspace.selection.Select({id});
@@ -311,7 +317,7 @@ private slots:
 
     void aBandRunsOverTheEdgeOfTheView()
     {
-        SketchViewFixture f;
+        Fixture f;
         const int level = f.workspace.sketch.AddLine({-500, 35, 0}, {500, 35, 0});
         const int upright = f.workspace.sketch.AddLine({45, -500, 0}, {45, 500, 0});
 
