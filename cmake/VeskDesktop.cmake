@@ -28,5 +28,6 @@ if(VESK_RSVG_CONVERT)
         install(FILES "${picture}" RENAME ${id}.png
             DESTINATION ${icons}/${size}x${size}/apps COMPONENT Sketcher)
     endforeach()
-    add_custom_target(sketcher_icons ALL DEPENDS ${pictures})
+    add_custom_target(sketcher_icons DEPENDS ${pictures})
+    add_dependencies(sketcher sketcher_icons)
 endif()

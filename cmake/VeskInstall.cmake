@@ -29,7 +29,7 @@ vesk_install_pc(vesk-ui-qt-impl DESCRIPTION "The control library, for programs t
 
 set(folder ${CMAKE_INSTALL_DATADIR}/doc/vesk)
 install(FILES README.md CONTRIBUTING.md DESTINATION ${folder} COMPONENT Documentation)
-install(DIRECTORY docs DESTINATION ${folder} COMPONENT Documentation)
+install(DIRECTORY docs examples DESTINATION ${folder} COMPONENT Documentation PATTERN build EXCLUDE)
 if(NOT VESK_PACKAGES)  # Debian packages have copyright files and changelogs of their own.
     install(FILES CHANGELOG.md LICENSE DESTINATION ${folder} COMPONENT Documentation)
     install(DIRECTORY LICENSES DESTINATION ${folder} COMPONENT Documentation)

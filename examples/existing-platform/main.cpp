@@ -13,6 +13,7 @@
 #include <HostCore.h>
 #include <HostUi/ControlLibrary.h>
 #include <HostUi/DimensionInputController.h>
+#include <HostUi/TranslationCatalogue.h>
 
 #include <QApplication>
 #include <QMainWindow>
@@ -61,6 +62,7 @@ int main(int argc, char* argv[])
 {
     const QApplication qtApplication(argc, argv);
     HostCore host;
+    const TranslationCatalogue translations;
     const ControlLibrary library;
     if (!library.IsLoaded())
     {

@@ -53,7 +53,7 @@ int main(int argc, char* argv[])
 
     auto opLabel = MakeOwner<LabelDefinition>(L"Example.Clicks");
     LabelDefinition& label = *opLabel;
-    label.SetCaption(L"not clicked yet");
+    label.SetCaption(L"clicks: 0");
     label.SetVisible(false);
     pGroup->addWidget(controls.Create(std::move(opLabel)));
     label.SetVisible(true);

@@ -14,6 +14,7 @@
 #include <HostUi/DimensionInputController.h>
 #include <HostUi/MainWindow.h>
 #include <HostUi/RibbonFocus.h>
+#include <HostUi/TranslationCatalogue.h>
 #include <HostUi/UiApplication.h>
 #include <Journal/JournalManager.h>
 #include <Qtitan/RibbonBar.h>
@@ -63,6 +64,7 @@ int main(int argc, char* argv[])
 {
     const QApplication qtApplication(argc, argv);
     HostCore host;
+    const TranslationCatalogue translations;
     UiApplication application;
     const ControlLibrary library;
     if (!library.IsLoaded())

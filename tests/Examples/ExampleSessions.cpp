@@ -139,9 +139,9 @@ ExampleStep CloseWindow()
 
 Steps UseFirstControl()
 {
-    return {ExpectText("Example.Clicks", "not clicked yet"), Click("Example.Count"),
-            ExpectText("Example.Clicks", "clicks: 1"),       Click("Example.Count"),
-            ExpectText("Example.Clicks", "clicks: 2"),       CloseWindow()};
+    return {ExpectText("Example.Clicks", "clicks: 0"), Click("Example.Count"),
+            ExpectText("Example.Clicks", "clicks: 1"), Click("Example.Count"),
+            ExpectText("Example.Clicks", "clicks: 2"), CloseWindow()};
 }
 
 Steps UseTypedDimensions()

@@ -12,6 +12,9 @@ class TranslationCatalogueTest : public QObject
 
 private slots:
     void textsOfTheCatalogueAreTranslated();
+    void textsOfTheLibraryAreInIt_data();
+    void textsOfTheLibraryAreInIt();
+    void textsOfTheDrawingProgramAreNotInTheLibrary();
     void otherTextsStand_data();
     void otherTextsStand();
     void localesWithoutACatalogueKeepTheSourceTexts_data();
@@ -33,6 +36,50 @@ void TranslationCatalogueTest::textsOfTheCatalogueAreTranslated()
     const TranslationCatalogue catalogue(m_folder, m_name, QLocale(QLocale::German));
 
     QCOMPARE(Translate(L"VeskUiQtImpl", L"忽略一次"), std::wstring(L"Einmal übergehen"));
+}
+
+void TranslationCatalogueTest::textsOfTheLibraryAreInIt_data()
+{
+    QTest::addColumn<QLocale>("locale");
+    QTest::addColumn<QString>("context");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("translation");
+
+    const QLocale english(QLocale::English);
+    const QLocale german(QLocale::German, QLocale::Austria);
+    QTest::newRow("host") << english << "Host"
+                          << "长度"
+                          << "Length";
+    QTest::newRow("its Qt side") << english << "HostUi"
+                                 << "取消"
+                                 << "Cancel";
+    QTest::newRow("control library") << english << "VeskUiQtImpl"
+                                     << "忽略一次"
+                                     << "Ignore once";
+    QTest::newRow("German") << german << "Host"
+                            << "长度"
+                            << "Länge";
+    QTest::newRow("C") << QLocale::c() << "Host"
+                       << "长度"
+                       << "长度";
+}
+
+void TranslationCatalogueTest::textsOfTheLibraryAreInIt()
+{
+    QFETCH(QLocale, locale);
+    QFETCH(QString, context);
+    QFETCH(QString, text);
+    QFETCH(QString, translation);
+    const TranslationCatalogue catalogue(locale);
+
+    QCOMPARE(Translate(context.toStdWString(), text.toStdWString()), translation.toStdWString());
+}
+
+void TranslationCatalogueTest::textsOfTheDrawingProgramAreNotInTheLibrary()
+{
+    const TranslationCatalogue catalogue{QLocale(QLocale::English)};
+
+    QCOMPARE(Translate(L"Sketcher", L"直线"), std::wstring(L"直线"));
 }
 
 void TranslationCatalogueTest::otherTextsStand_data()

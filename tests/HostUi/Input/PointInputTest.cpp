@@ -159,6 +159,25 @@ private slots:
         QCOMPARE(f.points.points, std::vector<Vector3d>{Vector3d(15, 27, 0)});
     }
 
+    void markThatIsThereMayBeTypedAgain()
+    {
+        PointFixture f;
+        JournalManager::GetInstance().Add(PointRecord{Vector3d(5, 7, 0), {}});
+
+        f.Type("@10").Press(Qt::Key_Tab).Type("@20");
+
+        QCOMPARE(f.Y(), QStringLiteral("@20"));
+    }
+
+    void markAfterANumberIsAnyCharacter()
+    {
+        PointFixture f;
+
+        f.Type("10@");
+
+        QCOMPARE(f.X(), QStringLiteral("10@"));
+    }
+
     void pickedEntityIsNoLastPoint()
     {
         PointFixture f;

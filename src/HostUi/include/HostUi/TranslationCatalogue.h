@@ -17,7 +17,11 @@ namespace vesk
 class VESK_HOST_UI_API TranslationCatalogue final : public ITranslator
 {
 public:
-    /// Loads the catalogue from a folder.
+    /// Loads the catalogue that is in this library: the texts that the host and the control library
+    /// show, in English and German. Their source texts are Chinese.
+    explicit TranslationCatalogue(const QLocale& locale = QLocale());
+
+    /// Loads the catalogue of a program from a folder.
     TranslationCatalogue(const QString& folder, const QString& name,
                          const QLocale& locale = QLocale());
     ~TranslationCatalogue() override;

@@ -7,6 +7,10 @@
 namespace vesk
 {
 
+TranslationCatalogue::TranslationCatalogue(const QLocale& locale)
+    : TranslationCatalogue(QStringLiteral(":/vesk/translations"), QStringLiteral("vesk"), locale)
+{}
+
 TranslationCatalogue::TranslationCatalogue(const QString& folder, const QString& name,
                                            const QLocale& locale)
     : m_folder(folder), m_name(name)

@@ -184,7 +184,8 @@ bool PointInput::FilterKey(const QKeyEvent& event)
         Take();
         return true;
     default:
-        return false;
+        // The mark that the field begins with may be typed, too.
+        return event.text() == RelativeMark && GetField()->text() == RelativeMark;
     }
 }
 
