@@ -412,7 +412,7 @@ void DrawingViewActionTest::itIsLaidOutForDrawing()
     const ViewFixture f;
 
     QCOMPARE(f.pView->focusPolicy(), Qt::StrongFocus);
-    QCOMPARE(f.pView->minimumSize(), QSize(300, 200));
+    QCOMPARE(f.pView->minimumSizeHint(), QSize(300, 200));
     QVERIFY(f.pView->hasMouseTracking());
     QVERIFY(f.pView->internalWinId() != 0);
     QCOMPARE(f.pView->GetWindowId(), WindowId(f.pView->internalWinId()));
