@@ -1,5 +1,6 @@
 #include "Platform/DesktopWish.h"
 
+#include <QDBusAbstractInterface>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCall>
@@ -7,14 +8,11 @@
 #include <QDBusVariant>
 #include <QVariant>
 
-#include <utility>
-
 namespace
 {
 
 constexpr char Service[] = "org.freedesktop.portal.Desktop";
 constexpr char Path[] = "/org/freedesktop/portal/desktop";
-constexpr char Interface[] = "org.freedesktop.portal.Settings";
 constexpr char Namespace[] = "org.freedesktop.appearance";
 constexpr char ColourScheme[] = "color-scheme";
 constexpr char ContrastKey[] = "contrast";
@@ -30,8 +28,23 @@ uint Unpack(QVariant value)
     return value.toUInt();
 }
 
-/// Reads the settings of the desktop, which every desktop that has such settings offers to programs
-/// on the session's bus in the same way.
+/// The settings of the desktop, which every desktop that has such settings offers to programs on
+/// the session's bus in the same way.
+class Portal final : public QDBusAbstractInterface
+{
+    Q_OBJECT
+
+public:
+    Portal()
+        : QDBusAbstractInterface(Service, Path, "org.freedesktop.portal.Settings",
+                                 QDBusConnection::sessionBus(), nullptr)
+    {}
+
+signals:
+    /// Named as on the bus.
+    void SettingChanged(const QString& space, const QString& key, const QDBusVariant& value);
+};
+
 class PortalReader final : public QObject
 {
     Q_OBJECT
@@ -39,26 +52,22 @@ class PortalReader final : public QObject
 public:
     explicit PortalReader(DesktopWish& wish) : m_wish(wish)
     {
-        QDBusConnection bus = QDBusConnection::sessionBus();
-        bus.connect(Service, Path, Interface, "SettingChanged", this,
-                    SLOT(OnChanged(QString, QString, QDBusVariant)));
+        connect(&m_portal, &Portal::SettingChanged, this, &PortalReader::OnChanged);
         for (const char* key : {ColourScheme, ContrastKey})
-            Ask(bus, QLatin1String(key));
+            Ask(QLatin1String(key));
     }
 
-private slots:
+private:
     void OnChanged(const QString& space, const QString& key, const QDBusVariant& value)
     {
         if (space == QLatin1String(Namespace))
             Take(key, Unpack(value.variant()));
     }
 
-private:
-    void Ask(const QDBusConnection& bus, const QString& key)
+    void Ask(const QString& key)
     {
-        QDBusMessage call = QDBusMessage::createMethodCall(Service, Path, Interface, "Read");
-        call << QString::fromLatin1(Namespace) << key;
-        auto* pAnswer = new QDBusPendingCallWatcher(bus.asyncCall(call), this);
+        auto* pAnswer = new QDBusPendingCallWatcher(
+            m_portal.asyncCall(QStringLiteral("Read"), QString::fromLatin1(Namespace), key), this);
         connect(pAnswer, &QDBusPendingCallWatcher::finished, this, [this, pAnswer, key] {
             pAnswer->deleteLater();
             const QDBusMessage answer = pAnswer->reply();
@@ -76,6 +85,7 @@ private:
     }
 
     DesktopWish& m_wish;
+    Portal m_portal;
 };
 
 }
