@@ -390,6 +390,8 @@ void Session::ObeyTerminationRequests()
 int Session::Draw()
 {
     ObeyTerminationRequests();
+    if (IsAttended())
+        m_settingsApplier.FollowDesktop();
     RestoreLayout();
     if (!IsWritable(LayoutPath()))
         m_window.ShowState(

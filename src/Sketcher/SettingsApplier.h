@@ -29,6 +29,9 @@ public:
     /// Applies the settings that differ from these.
     void Apply(const Settings& before);
 
+    /// From now on colours as the desktop has them follow the desktop.
+    void FollowDesktop() { m_appearance.FollowDesktop(); }
+
     /// Opens the dialog, in front if it is open.
     void ShowDialog();
 

@@ -25,7 +25,7 @@ public:
     struct Look
     {
         QString language; ///< "en", or empty for the source texts.
-        QString colours;  ///< "light" or "dark".
+        QString colours;  ///< As the settings name them.
     };
 
     Photographer(const XServer& server, const Look& look, const QString& folder);

@@ -326,13 +326,14 @@ bool TakeWarning(const Studio& studio)
     return user.HasSucceeded();
 }
 
-bool TakeDark(const Studio& studio)
+/// The plate in colours that are chosen in the settings.
+bool TakeColours(const Studio& studio, const QString& colours, const QString& name)
 {
-    Photographer user(studio.server, {studio.language, "dark"}, studio.folder);
+    Photographer user(studio.server, {studio.language, colours}, studio.folder);
     user.Start();
     DrawPlate(user);
     user.Press({"ctrl+a"});
-    user.Take("dark");
+    user.Take(name);
     user.End();
     return user.HasSucceeded();
 }
@@ -348,7 +349,8 @@ bool Run(const QString& language, const QString& folder)
         return false;
     }
     const Studio studio{server, language, folder};
-    return TakeDrawings(studio) && TakeRecovery(studio) && TakeWarning(studio) && TakeDark(studio);
+    return TakeDrawings(studio) && TakeRecovery(studio) && TakeWarning(studio) &&
+           TakeColours(studio, "dark", "dark") && TakeColours(studio, "contrast", "high-contrast");
 }
 
 }

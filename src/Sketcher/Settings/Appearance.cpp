@@ -4,6 +4,7 @@
 #include "Settings/HighContrastStyle.h"
 
 #include "HostUi/Contrast.h"
+#include "Platform/DesktopWish.h"
 
 #include <QApplication>
 #include <QStyle>
@@ -113,19 +114,52 @@ QPalette ToPalette(const ColourScheme& scheme)
 }
 
 Appearance::Appearance()
-    : m_desktopStyle(QApplication::style()->objectName()), m_desktopToolTips(QToolTip::palette())
+    : m_desktopStyle(QApplication::style()->objectName()),
+      m_desktopPalette(QApplication::palette()), m_desktopToolTips(QToolTip::palette())
 {}
 
 Appearance::~Appearance()
 {
+    m_pWish.reset();
     Set(Settings::Colours::Desktop);
 }
 
 void Appearance::Set(Settings::Colours colours)
 {
-    if (colours == m_colours)
-        return;
     m_colours = colours;
+    Apply();
+}
+
+void Appearance::FollowDesktop()
+{
+    m_pWish = std::make_unique<DesktopWish>();
+    QObject::connect(m_pWish.get(), &DesktopWish::changed, m_pWish.get(), [this] { Apply(); });
+    Apply();
+}
+
+void Appearance::Apply()
+{
+    const Settings::Colours colours = FindColours();
+    if (colours == m_shown)
+        return;
+    m_shown = colours;
+    Show(colours);
+}
+
+/// The colours that are to be shown. The palette of a desktop that the toolkit knows is dark, or of
+/// high contrast, already.
+Settings::Colours Appearance::FindColours() const
+{
+    if (m_colours != Settings::Colours::Desktop || m_pWish == nullptr)
+        return m_colours;
+    if (m_pWish->IsHighContrast() && !vesk::IsHighContrast(m_desktopPalette))
+        return Settings::Colours::HighContrast;
+    const bool isLight = m_desktopPalette.color(QPalette::Base).lightness() >= 128;
+    return m_pWish->IsDark() && isLight ? Settings::Colours::Dark : m_colours;
+}
+
+void Appearance::Show(Settings::Colours colours)
+{
     if (colours == Settings::Colours::Desktop)
     {
         SetStyle(m_desktopStyle);

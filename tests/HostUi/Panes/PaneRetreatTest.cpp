@@ -1,6 +1,8 @@
 #include "HostUi/PaneRun.h"
 #include "Support/TestValues.h"
 
+#include <QMouseEvent>
+
 #include <algorithm>
 #include <cstdlib>
 
@@ -130,6 +132,42 @@ private slots:
         QVERIFY(AreAlike(run.Places(), before));
         QVERIFY(!run.Pane("C")->visibleRegion().isEmpty());
         QVERIFY(run.Pane("A")->visibleRegion().isEmpty());
+    }
+
+    void clickInASmallWindowChangesNothing()
+    {
+        SmallRun run;
+        run.window.resizeDocks({run.Pane("A")}, {310}, Qt::Horizontal);
+        SmallRun::SettleAll();
+        run.Resize(800, 900);
+        QVERIFY(run.Pane("A")->width() < 310);
+
+        QTest::mouseClick(&run.window, Qt::LeftButton, {}, QPoint(2, 2));
+        run.Resize(1200, 900);
+
+        QCOMPARE(run.Pane("A")->width(), 310);
+    }
+
+    void separatorThatIsDraggedInASmallWindowStays()
+    {
+        SmallRun run;
+        run.Resize(800, 900);
+        const QPoint separator = run.Pane("A")->geometry().topRight() + QPoint(3, 50);
+        const int before = run.Pane("A")->width();
+
+        QTest::mousePress(&run.window, Qt::LeftButton, {}, separator);
+        QMouseEvent move(QEvent::MouseMove, separator - QPoint(20, 0),
+                         run.window.mapToGlobal(separator - QPoint(20, 0)), Qt::NoButton,
+                         Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&run.window, &move);
+        SmallRun::SettleAll();
+        QTest::mouseRelease(&run.window, Qt::LeftButton, {}, separator - QPoint(20, 0));
+        QVERIFY(run.Pane("A")->width() < before);
+        const int dragged = run.Pane("A")->width();
+        run.Resize(480, 350);
+        run.Resize(1200, 900);
+
+        QCOMPARE(run.Pane("A")->width(), dragged);
     }
 
     void panesComeBackOneByOne()

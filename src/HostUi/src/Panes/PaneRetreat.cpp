@@ -119,12 +119,19 @@ void PaneRetreat::OnPaneShown(const QDockWidget& pane)
         group.names.removeAll(m_shownLast);
 }
 
-/// While panes are smaller than they are to be, only what the user does counts, which ends with a
-/// release of the mouse over a separator.
+/// While panes are smaller than they are to be, only what the user does with a separator counts.
 void PaneRetreat::OnPaneResized()
 {
     if (m_pauses == 0 && !m_isSqueezed && m_window.size() == m_checkedSize)
         NoteSizes();
+}
+
+QMap<QString, QSize> PaneRetreat::SizesInFront() const
+{
+    QMap<QString, QSize> sizes;
+    for (const QDockWidget* pPane : FindInFront())
+        sizes[pPane->objectName()] = pPane->size();
+    return sizes;
 }
 
 /// What the panes have now is what they are to have.
@@ -144,7 +151,10 @@ bool PaneRetreat::eventFilter(QObject* pWatched, QEvent* pEvent)
     // The layout gets the event first.
     if (type == QEvent::Resize || type == QEvent::LayoutRequest || type == QEvent::Show)
         Check();
-    if (type == QEvent::MouseButtonRelease)
+    // A click on a separator, or anywhere in the window, resizes nothing.
+    if (type == QEvent::MouseButtonPress)
+        m_pressedSizes = SizesInFront();
+    if (type == QEvent::MouseButtonRelease && SizesInFront() != m_pressedSizes)
         NoteSizes();
     return QObject::eventFilter(pWatched, pEvent);
 }
@@ -291,8 +301,12 @@ void PaneRetreat::GiveWay(const QList<QDockWidget*>& panes, Qt::Orientation orie
         least = least.expandedTo(pPane->minimumSizeHint());
     }
     const QSize before = LeastSize();
-    for (QDockWidget* pPane : panes)
-        pPane->hide();
+    // Whoever is told of it may destroy another one.
+    for (const QString& name : std::as_const(group.names))
+    {
+        if (QDockWidget* pPane = Find(name))
+            pPane->hide();
+    }
     group.room = before - LeastSize();
     // Something else may need as much. They would come back at once.
     if (orientation == Qt::Horizontal)
@@ -306,7 +320,7 @@ void PaneRetreat::GiveWay(const QList<QDockWidget*>& panes, Qt::Orientation orie
 bool PaneRetreat::ComeBack()
 {
     const QSize shown = LeastSize();
-    for (int i = m_groups.size() - 1; i >= 0; --i)
+    for (int i = static_cast<int>(m_groups.size()) - 1; i >= 0; --i)
     {
         const QSize wanted = shown + m_groups[i].room;
         if (wanted.boundedTo(m_window.size()) != wanted)

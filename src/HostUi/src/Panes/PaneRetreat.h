@@ -78,6 +78,7 @@ private:
     bool Arrange();
     bool IsSqueezed() const;
     void NoteSizes();
+    QMap<QString, QSize> SizesInFront() const;
     void RestoreSizes();
     bool IsTooSmall(Qt::Orientation orientation) const;
     bool GiveWay(Qt::Orientation orientation);
@@ -103,6 +104,7 @@ private:
 
     /// The sizes that panes are to have where there is room for them, by name.
     QMap<QString, QSize> m_sizes;
+    QMap<QString, QSize> m_pressedSizes; ///< When the mouse was pressed.
     QString m_shownLast;
     QSize m_checkedSize; ///< Of the window when all was in order last.
     bool m_areSomeBack = false;
