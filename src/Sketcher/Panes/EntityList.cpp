@@ -4,6 +4,7 @@
 #include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QScrollBar>
+#include <QStyleOptionViewItem>
 
 EntityList::EntityList()
 {
@@ -62,5 +63,11 @@ void EntityList::changeEvent(QEvent* pEvent)
 
 void EntityList::FitRows()
 {
-    verticalHeader()->setDefaultSectionSize(fontMetrics().height());
+    QStyleOptionViewItem row;
+    row.initFrom(this);
+    row.font = font();
+    row.features = QStyleOptionViewItem::HasDisplay;
+    row.text = QStringLiteral("0");
+    const QSize size = style()->sizeFromContents(QStyle::CT_ItemViewItem, &row, {}, this);
+    verticalHeader()->setDefaultSectionSize(size.height());
 }
