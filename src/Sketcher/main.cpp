@@ -48,13 +48,14 @@ std::optional<int> Answer(const Options& options)
 /// Messages about the toolkit's own housekeeping that no user can act on: it creates a folder for
 /// the session's sockets if none is set; it queries the window below the cursor, frame by frame,
 /// while the window manager removes one of the frames; it shows a window again that a busy window
-/// manager has mapped only after it was hidden; and neither an offscreen display nor Wayland
-/// supports everything that windows request.
+/// manager has mapped only after it was hidden; and neither an offscreen display nor Wayland nor
+/// Wine supports everything that windows request.
 bool IsHousekeeping(const QString& message)
 {
     return message.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set")) ||
            message.startsWith(QLatin1String("This plugin does not support")) ||
            message.startsWith(QLatin1String("Wayland does not support")) ||
+           message.startsWith(QLatin1String("EnableNonClientDpiScaling() failed")) ||
            message.contains(QLatin1String("setNetWmStateOnUnmappedWindow() called on mapped")) ||
            (message.startsWith(QLatin1String("QXcbConnection: XCB error: 3 (BadWindow)")) &&
             message.contains(QLatin1String("(TranslateCoords)")));

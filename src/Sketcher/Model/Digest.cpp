@@ -13,12 +13,13 @@
 #include <cstddef>
 #include <cstring>
 #include <memory>
+#include <mutex>
 
 namespace
 {
 
 /// Computes SHA-256 of short texts. Preparing that takes longer than computing it, so one is kept
-/// for all texts of a thread.
+/// for all texts.
 class Hasher
 {
 public:
@@ -45,7 +46,11 @@ private:
 
 Digest::Words HashOf(const std::string& bytes)
 {
-    thread_local Hasher s_hasher;
+    // Not one for each thread: mingw frees the memory of a thread's objects before it destroys
+    // them.
+    static Hasher s_hasher;
+    static std::mutex s_mutex;
+    const std::lock_guard lock(s_mutex);
     return s_hasher.Hash(bytes);
 }
 

@@ -1,11 +1,10 @@
 #include "Panes/EntityList.h"
 
 #include <QEvent>
-#include <QFontMetricsF>
 #include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QScrollBar>
-#include <QtMath>
+#include <QStyleOptionViewItem>
 
 EntityList::EntityList()
 {
@@ -64,6 +63,11 @@ void EntityList::changeEvent(QEvent* pEvent)
 
 void EntityList::FitRows()
 {
-    // With Qt 6 a line of text need not be a whole number of pixels high.
-    verticalHeader()->setDefaultSectionSize(qCeil(QFontMetricsF(font(), this).height()));
+    QStyleOptionViewItem row;
+    row.initFrom(this);
+    row.font = font();
+    row.features = QStyleOptionViewItem::HasDisplay;
+    row.text = QStringLiteral("0");
+    const QSize size = style()->sizeFromContents(QStyle::CT_ItemViewItem, &row, {}, this);
+    verticalHeader()->setDefaultSectionSize(size.height());
 }
