@@ -46,8 +46,8 @@ private:
     }
 
     /// A display without a screen cannot do everything windows ask of it, and says so. Qt 6 also
-    /// says so when the user is faster than Return, which closes the editor of a cell only from the
-    /// event loop: what was typed has been taken when another row was chosen.
+    /// complains if a cell that Return is to close, which it does from the event loop, was closed
+    /// before by the choice of another row. What was typed there has been taken by then.
     static bool IsOfTheToolkit(const QString& message)
     {
         const QString late =
