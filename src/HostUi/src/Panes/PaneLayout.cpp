@@ -80,10 +80,11 @@ bool Names(const QByteArray& state, const QDockWidget& pane)
     return state.contains(name);
 }
 
-/// The size of a pane in its default position, as far as that tells it.
+/// The size that a pane certainly has in its default position. Of the height at top or bottom, tabs
+/// take a part.
 QSize SizeOf(const PanePlace& place)
 {
-    return AcrossOf(place.area) == Qt::Horizontal ? QSize(place.extent, 0) : QSize(0, place.extent);
+    return AcrossOf(place.area) == Qt::Horizontal ? QSize(place.extent, 0) : QSize(0, 0);
 }
 
 QStringList NamesOf(const std::vector<PanePlace>& places)
