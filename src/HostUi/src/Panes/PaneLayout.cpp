@@ -9,6 +9,7 @@
 #include <QDockWidget>
 #include <QEvent>
 #include <QGuiApplication>
+#include <QIODevice>
 #include <QLayout>
 #include <QMainWindow>
 #include <QScreen>
