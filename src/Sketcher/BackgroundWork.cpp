@@ -3,10 +3,14 @@
 #include "ReadingMonitor.h"
 
 #include <QApplication>
+#include <QScopeGuard>
+#include <QThread>
 
 #include <chrono>
 #include <cstddef>
+#include <functional>
 #include <future>
+#include <memory>
 
 namespace
 {
@@ -19,7 +23,12 @@ void RunUnder(ReadingMonitor& monitor, WorkProgress& progress,
 {
     constexpr std::chrono::milliseconds PauseBetweenLooks(10);
     constexpr std::size_t Whole = 1000;
-    std::future<void> result = std::async(std::launch::async, [&] { work(progress); });
+    std::packaged_task<void()> task([&] { work(progress); });
+    std::future<void> result = task.get_future();
+    // One of the toolkit's: in any other its timers cannot run, and on Windows a process has one.
+    const std::unique_ptr<QThread> pThread(QThread::create(std::ref(task)));
+    pThread->start();
+    const auto waiting = qScopeGuard([&pThread] { pThread->wait(); });
     while (result.wait_for(PauseBetweenLooks) != std::future_status::ready)
     {
         const auto done = static_cast<std::size_t>(progress.GetShare() * Whole);

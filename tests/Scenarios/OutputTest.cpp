@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDialog>
+#include <QDir>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -75,7 +76,7 @@ private slots:
     {
         ScenarioTest::init();
         m_pPath = std::make_unique<ScopedVariable>("PATH", QCoreApplication::applicationDirPath() +
-                                                               QStringLiteral("/../bin:") +
+                                                               "/../bin" + QDir::listSeparator() +
                                                                qEnvironmentVariable("PATH"));
     }
 

@@ -1,4 +1,6 @@
 #include "SketcherProcess.h"
+#include "Support/Platform/FileLinks.h"
+#include "Support/Platform/UserFolders.h"
 #include "Support/TestValues.h"
 
 #include <QCoreApplication>
@@ -6,6 +8,8 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
+
+#include <filesystem>
 
 namespace vesk
 {
@@ -22,10 +26,13 @@ public:
         const QDir built(QCoreApplication::applicationDirPath() + QStringLiteral("/.."));
         QDir root(m_folder.path());
         root.mkpath(QStringLiteral("program/bin"));
-        QFile::copy(built.filePath(QStringLiteral("bin/sketcher")), Program());
+        // Windows has the libraries beside the program.
+        const QDir programs(built.filePath("bin"));
+        for (const QString& file : programs.entryList({"sketcher", "sketcher.exe", "*.dll"}))
+            QFile::copy(programs.filePath(file), root.filePath("program/bin/" + file));
         for (const QString& part : {QStringLiteral("lib"), QStringLiteral("share")})
-            QFile::link(QFileInfo(built.filePath(part)).canonicalFilePath(),
-                        root.filePath(QStringLiteral("program/") + part));
+            LinkOrCopy(QFileInfo(built.filePath(part)).canonicalFilePath(),
+                       root.filePath(QStringLiteral("program/") + part));
         // Many have one, for other things.
         root.mkpath(QStringLiteral("program/data"));
         if (hasData)
@@ -37,9 +44,9 @@ public:
     /// Opens the window and ends the program as a session manager does.
     Outcome Run() const
     {
-        const QStringList environment = {QStringLiteral("HOME=") + m_folder.filePath("home"),
-                                         QStringLiteral("XDG_CONFIG_HOME="),
-                                         QStringLiteral("XDG_DATA_HOME=")};
+        QStringList environment;
+        for (const auto& [pName, value] : Home().variables)
+            environment << QLatin1String(pName) + '=' + value;
         RunningSketcher program(Program(), m_folder.filePath(QStringLiteral("ui.json")),
                                 environment);
         return program.Terminate();
@@ -47,7 +54,16 @@ public:
 
     bool Has(const QString& path) const { return QFileInfo::exists(m_folder.filePath(path)); }
 
+    test::UserFolders Home() const { return test::UserFolders::Below(m_folder.filePath("home")); }
+
 private:
+    static void LinkOrCopy(const QString& source, const QString& target)
+    {
+        if (!test::MakeLink(source, target))
+            std::filesystem::copy(source.toStdString(), target.toStdString(),
+                                  std::filesystem::copy_options::recursive);
+    }
+
     QTemporaryDir m_folder;
 };
 
@@ -79,8 +95,8 @@ private slots:
         QCOMPARE(outcome.code, 0);
         QVERIFY(!program.Has("program/sketcher-data"));
         QVERIFY(!program.Has("program/data/layout.json"));
-        QVERIFY(program.Has("home/.config/sketcher/layout.json"));
-        QVERIFY(program.Has("home/.local/share/sketcher/journals"));
+        QVERIFY(QFileInfo::exists(program.Home().configuration + "/sketcher/layout.json"));
+        QVERIFY(QFileInfo::exists(program.Home().data + "/sketcher/journals"));
     }
 };
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Options.h"
-#include "Support/ScopedVariable.h"
+#include "Support/MovedUserFolders.h"
 #include "Warnings/DebugMessageMgr.h"
 
 #include <QString>
@@ -36,7 +36,6 @@ public:
 private:
     QTemporaryDir m_folder;
     // Neither the user's own files nor those of another test are used.
-    ScopedVariable m_config{"XDG_CONFIG_HOME", File(QStringLiteral("config"))};
-    ScopedVariable m_data{"XDG_DATA_HOME", File(QStringLiteral("data"))};
+    vesk::test::MovedUserFolders m_userFolders{m_folder.path()};
     QStringList m_warnings;
 };

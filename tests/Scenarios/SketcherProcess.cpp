@@ -30,7 +30,10 @@ Outcome Finish(QProcess& process)
     if (process.state() != QProcess::NotRunning && !process.waitForFinished(vesk::test::PatienceMs))
         return {};
     const bool isEnded = process.exitStatus() == QProcess::NormalExit;
-    return {isEnded ? process.exitCode() : -1, QString::fromUtf8(process.readAllStandardError())};
+    QString error = QString::fromUtf8(process.readAllStandardError());
+    // Lines end so on Windows.
+    error.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    return {isEnded ? process.exitCode() : -1, error};
 }
 
 }

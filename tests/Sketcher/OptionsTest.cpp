@@ -1,5 +1,6 @@
 #include "Options.h"
 
+#include "Support/Platform/FileLinks.h"
 #include "Support/TestValues.h"
 
 #include <QDir>
@@ -112,7 +113,8 @@ private slots:
         QTemporaryDir folder;
         QFile file(folder.filePath("file"));
         QVERIFY(file.open(QIODevice::WriteOnly));
-        QVERIFY(file.link(folder.filePath("link")));
+        if (name == "link" && !vesk::test::MakeLink(file.fileName(), folder.filePath(name)))
+            QSKIP(vesk::test::NoLinks);
         std::filesystem::create_hard_link(file.fileName().toStdString(),
                                           folder.filePath("hard").toStdString());
         const QString other = name == "none" ? folder.filePath("none") : file.fileName();

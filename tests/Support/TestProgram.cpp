@@ -1,5 +1,7 @@
 #include "Support/TestValues.h"
 
+#include <QLocale>
+
 #include <cstring>
 #include <iostream>
 #include <map>
@@ -46,6 +48,8 @@ int TestEntry::Main(int argc, char* argv[])
     SpareOffscreenWindows();
     // Tests operate the toolkit's own dialogs, which are the same on every system.
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    // No user of Windows has this locale, which the environment of the tests asks for elsewhere.
+    QLocale::setDefault(QLocale::c());
     for (int i = 1; i < argc; ++i)
         argv[i] = argv[i + 1];
     return found->second(argc - 1, argv);

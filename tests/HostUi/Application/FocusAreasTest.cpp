@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QDockWidget>
 #include <QLineEdit>
+#include <QVBoxLayout>
 
 namespace vesk
 {

@@ -10,7 +10,7 @@
 #include "Support/DialogUser.h"
 #include "Support/FileBytes.h"
 #include "Support/JournalRecorder.h"
-#include "Support/ScopedVariable.h"
+#include "Support/MovedUserFolders.h"
 #include "Support/TestValues.h"
 #include "Support/WarningRecorder.h"
 
@@ -89,7 +89,7 @@ struct DocumentsFixture
     void Draw() { sketch.AddLine({0, 0, 0}, {10, 0, 0}); }
 
     QTemporaryDir folder;
-    ScopedVariable config{"XDG_CONFIG_HOME", folder.filePath("config")};
+    vesk::test::MovedUserFolders userFolders{folder.path()};
     vesk::test::WarningRecorder warnings;
     vesk::HostCore core;
     vesk::UiApplication application;

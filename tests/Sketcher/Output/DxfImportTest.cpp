@@ -1,31 +1,24 @@
 #include "Output/DxfImport.h"
 
 #include "Support/FileBytes.h"
+#include "Support/Platform/SpecialFiles.h"
 #include "Support/ScopedVariable.h"
 #include "Support/TestValues.h"
 
 #include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QTemporaryDir>
 
 namespace
 {
 
-/// A script in the place of vesk-dxf.
+/// StandInDxfTool.cpp in the place of vesk-dxf.
 class ToolFixture
 {
 public:
-    explicit ToolFixture(const QByteArray& script)
-        : m_path("PATH", m_folder.path() + ":/usr/bin:/bin")
-    {
-        const QString tool = m_folder.filePath("vesk-dxf");
-        m_isReady = QFileInfo("/bin/sh").isExecutable() &&
-                    vesk::WriteBytes(tool, "#!/bin/sh\n" + script + '\n');
-        QFile::setPermissions(tool, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    }
-
-    bool CanRun() const { return m_isReady; }
+    explicit ToolFixture(const char* manner)
+        : m_path("PATH", QCoreApplication::applicationDirPath() + "/stand-in"),
+          m_manner("VESK_STAND_IN", manner)
+    {}
 
     QString MakeFile() const { return MakeFile(m_folder); }
 
@@ -39,7 +32,7 @@ public:
 private:
     QTemporaryDir m_folder;
     ScopedVariable m_path;
-    bool m_isReady = false;
+    ScopedVariable m_manner;
 };
 
 }
@@ -105,29 +98,24 @@ private slots:
 
     void aToolThatMisbehavesIsAFault_data()
     {
-        QTest::addColumn<QByteArray>("script");
         QTest::addColumn<OutputFault>("fault");
 
-        QTest::newRow("killed") << QByteArray("kill -9 $$") << OutputFault::DxfToolFailed;
-        QTest::newRow("rubbish") << QByteArray("echo rubbish") << OutputFault::DxfToolFailed;
-        QTest::newRow("nothing") << QByteArray("exit 0") << OutputFault::DxfToolFailed;
-        QTest::newRow("unknown code") << QByteArray("exit 99") << OutputFault::DxfToolFailed;
-        QTest::newRow("wrong arguments") << QByteArray("exit 1") << OutputFault::DxfToolFailed;
-        QTest::newRow("not dxf") << QByteArray("exit 2") << OutputFault::NotDxf;
-        QTest::newRow("too large") << QByteArray("exit 3") << OutputFault::DxfTooLarge;
-        QTest::newRow("no unit") << QByteArray("exit 4") << OutputFault::NoDxfUnit;
-        QTest::newRow("messages without end")
-            << QByteArray("exec yes '{\"kind\":\"progress\",\"share\":null}' >&2")
-            << OutputFault::DxfToolFailed;
-        QTest::newRow("reads nothing") << QByteArray("exec <&-; exit 2") << OutputFault::NotDxf;
+        QTest::newRow("crash") << OutputFault::DxfToolFailed;
+        QTest::newRow("rubbish") << OutputFault::DxfToolFailed;
+        QTest::newRow("0") << OutputFault::DxfToolFailed;
+        QTest::newRow("99") << OutputFault::DxfToolFailed;
+        QTest::newRow("1") << OutputFault::DxfToolFailed;
+        QTest::newRow("2") << OutputFault::NotDxf;
+        QTest::newRow("3") << OutputFault::DxfTooLarge;
+        QTest::newRow("4") << OutputFault::NoDxfUnit;
+        QTest::newRow("messages without end") << OutputFault::DxfToolFailed;
+        QTest::newRow("reads nothing") << OutputFault::NotDxf;
     }
 
     void aToolThatMisbehavesIsAFault()
     {
-        QFETCH(QByteArray, script);
         QFETCH(OutputFault, fault);
-        const ToolFixture f(script);
-        QVERIFY(f.CanRun());
+        const ToolFixture f(QTest::currentDataTag());
 
         const DxfImport result = ImportDxf(f.MakeFile(), QString(), [](double) { return true; });
 
@@ -137,8 +125,7 @@ private slots:
 
     void aToolThatHangsIsStopped()
     {
-        const ToolFixture f("exec sleep 600");
-        QVERIFY(f.CanRun());
+        const ToolFixture f("hangs");
 
         const DxfImport result = ImportDxf(f.MakeFile(), QString(), [](double) { return false; });
 
@@ -159,7 +146,7 @@ private slots:
         QTest::addColumn<QString>("path");
         QTest::newRow("missing") << "/nonexistent/a.dxf";
         QTest::newRow("folder") << QDir::tempPath();
-        QTest::newRow("device") << "/dev/zero";
+        QTest::newRow("device") << vesk::test::EndlessDevice();
     }
 
     void whatIsNotARegularFileIsNotRead()

@@ -1,0 +1,16 @@
+#include "Support/Platform/FileLinks.h"
+
+#include <QFile>
+#include <QTest>
+
+namespace vesk::test
+{
+
+bool MakeLink(const QString& target, const QString& path)
+{
+    if (!QFile::link(target, path))
+        QTest::qFail("a link cannot be created", __FILE__, __LINE__);
+    return true;
+}
+
+}
