@@ -44,7 +44,7 @@ void Canvas::paintEvent(QPaintEvent*)
     painter.save();
     painter.translate(0, height());
     painter.scale(1.0 / CanvasMapping::Scale, -1.0 / CanvasMapping::Scale);
-    painter.setPen(QPen(palette().color(QPalette::Text), 0));  // a pixel wide at any scale
+    painter.setPen(QPen(palette().color(QPalette::Text), 0)); // a pixel wide at any scale
     for (const QRectF& room : m_rooms)
         painter.drawRect(room);
     painter.restore();

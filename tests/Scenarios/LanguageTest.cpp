@@ -283,13 +283,16 @@ private slots:
             return title.startsWith(language == "en" ? "Untitled" : "Unbenannt");
         });
         user.Click("Sketcher.Line").ClickAt(0, 0).Type("1234.5").Press(Qt::Key_Return);
-        user.Press(Qt::Key_Escape).UntilRunning(QString()).Do([&shown] {
+        user.Press(Qt::Key_Escape).UntilRunning(QString());
+        QFETCH(QString, expected);
+        // The list is built anew when the language changes, which waits until the tool has ended.
+        user.Until([&shown, expected] {
             const auto* pList = ScriptedUser::FindWindow()->findChild<QTableView*>("Entities");
             shown = pList->model()->index(0, pList->model()->columnCount() - 1).data().toString();
+            return shown.contains(expected);
         });
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
-        QFETCH(QString, expected);
         QVERIFY2(shown.contains(expected), qPrintable(shown));
         QVERIFY2(QLocale() == users, "the former locale is not restored");
     }
