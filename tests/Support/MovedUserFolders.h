@@ -2,10 +2,10 @@
 
 #include "Support/Platform/UserFolders.h"
 #include "Support/ScopedVariable.h"
+#include "Support/TestValues.h"
 
 #include <QDir>
 #include <QStandardPaths>
-#include <QTest>
 
 #include <list>
 

@@ -1,6 +1,7 @@
+#include "Platform/DesktopWishOther.h"
+
 #include "Platform/DesktopWish.h"
 
-#include <QDBusAbstractInterface>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCall>
@@ -8,11 +9,14 @@
 #include <QDBusVariant>
 #include <QVariant>
 
+#include <memory>
+
 namespace
 {
 
 constexpr char Service[] = "org.freedesktop.portal.Desktop";
 constexpr char Path[] = "/org/freedesktop/portal/desktop";
+constexpr char Interface[] = "org.freedesktop.portal.Settings";
 constexpr char Namespace[] = "org.freedesktop.appearance";
 constexpr char ColourScheme[] = "color-scheme";
 constexpr char ContrastKey[] = "contrast";
@@ -28,73 +32,49 @@ uint Unpack(QVariant value)
     return value.toUInt();
 }
 
-/// The settings of the desktop, which every desktop that has such settings offers to programs on
-/// the session's bus in the same way.
-class Portal final : public QDBusAbstractInterface
+}
+
+DesktopPortal::DesktopPortal()
+    : QDBusAbstractInterface(Service, Path, Interface, QDBusConnection::sessionBus(), nullptr)
+{}
+
+DesktopPortalReader::DesktopPortalReader(DesktopWish& wish) : m_wish(wish)
 {
-    Q_OBJECT
+    connect(&m_portal, &DesktopPortal::SettingChanged, this, &DesktopPortalReader::OnChanged);
+    for (const char* key : {ColourScheme, ContrastKey})
+        Ask(QLatin1String(key));
+}
 
-public:
-    Portal()
-        : QDBusAbstractInterface(Service, Path, "org.freedesktop.portal.Settings",
-                                 QDBusConnection::sessionBus(), nullptr)
-    {}
-
-signals:
-    /// Named as on the bus.
-    void SettingChanged(const QString& space, const QString& key, const QDBusVariant& value);
-};
-
-class PortalReader final : public QObject
+void DesktopPortalReader::OnChanged(const QString& space, const QString& key,
+                                    const QDBusVariant& value)
 {
-    Q_OBJECT
+    if (space == QLatin1String(Namespace))
+        Take(key, Unpack(value.variant()));
+}
 
-public:
-    explicit PortalReader(DesktopWish& wish) : m_wish(wish)
-    {
-        connect(&m_portal, &Portal::SettingChanged, this, &PortalReader::OnChanged);
-        for (const char* key : {ColourScheme, ContrastKey})
-            Ask(QLatin1String(key));
-    }
+void DesktopPortalReader::Ask(const QString& key)
+{
+    auto* pAnswer = new QDBusPendingCallWatcher(
+        m_portal.asyncCall(QStringLiteral("Read"), QString::fromLatin1(Namespace), key), this);
+    connect(pAnswer, &QDBusPendingCallWatcher::finished, this, [this, pAnswer, key] {
+        pAnswer->deleteLater();
+        const QDBusMessage answer = pAnswer->reply();
+        if (answer.type() == QDBusMessage::ReplyMessage)
+            Take(key, Unpack(answer.arguments().value(0)));
+    });
+}
 
-private:
-    void OnChanged(const QString& space, const QString& key, const QDBusVariant& value)
-    {
-        if (space == QLatin1String(Namespace))
-            Take(key, Unpack(value.variant()));
-    }
-
-    void Ask(const QString& key)
-    {
-        auto* pAnswer = new QDBusPendingCallWatcher(
-            m_portal.asyncCall(QStringLiteral("Read"), QString::fromLatin1(Namespace), key), this);
-        connect(pAnswer, &QDBusPendingCallWatcher::finished, this, [this, pAnswer, key] {
-            pAnswer->deleteLater();
-            const QDBusMessage answer = pAnswer->reply();
-            if (answer.type() == QDBusMessage::ReplyMessage)
-                Take(key, Unpack(answer.arguments().value(0)));
-        });
-    }
-
-    void Take(const QString& key, uint value)
-    {
-        if (key == QLatin1String(ColourScheme))
-            m_wish.SetDark(value == Asked);
-        else if (key == QLatin1String(ContrastKey))
-            m_wish.SetHighContrast(value == Asked);
-    }
-
-    DesktopWish& m_wish;
-    Portal m_portal;
-};
-
+void DesktopPortalReader::Take(const QString& key, uint value)
+{
+    if (key == QLatin1String(ColourScheme))
+        m_wish.SetDark(value == Asked);
+    else if (key == QLatin1String(ContrastKey))
+        m_wish.SetHighContrast(value == Asked);
 }
 
 DesktopWish::DesktopWish()
 {
     // Without an address the toolkit would start a bus.
     if (!qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS"))
-        m_pSource = std::make_unique<PortalReader>(*this);
+        m_pSource = std::make_unique<DesktopPortalReader>(*this);
 }
-
-#include "DesktopWishOther.moc"

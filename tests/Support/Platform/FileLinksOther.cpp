@@ -1,7 +1,8 @@
 #include "Support/Platform/FileLinks.h"
 
+#include "Support/TestValues.h"
+
 #include <QFile>
-#include <QTest>
 
 namespace vesk::test
 {
