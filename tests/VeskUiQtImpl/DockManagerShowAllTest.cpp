@@ -6,6 +6,7 @@
 #include <QAction>
 #include <QLayout>
 #include <QSignalSpy>
+#include <QStyle>
 
 #include <memory>
 #include <stdexcept>
@@ -347,7 +348,8 @@ void DockManagerShowAllTest::aPaneMayDestroyAnother()
     f.manager.ShowAllDockPane();
 
     QVERIFY(f.window.layout()->isEnabled());
-    QCOMPARE(f.Widget(L"c")->geometry().top(), f.Widget(L"a")->geometry().bottom() + 7);
+    const int separator = f.window.style()->pixelMetric(QStyle::PM_DockWidgetSeparatorExtent);
+    QCOMPARE(f.Widget(L"c")->geometry().top(), f.Widget(L"a")->geometry().bottom() + 1 + separator);
 }
 
 void DockManagerShowAllTest::aPaneMayDestroyWhatIsNoPane()
