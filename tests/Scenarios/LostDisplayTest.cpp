@@ -5,6 +5,7 @@
 
 #include "Recovery/UnsavedWork.h"
 
+#include "HostUi/TerminationRequests.h"
 #include "Support/TestValues.h"
 #include "Support/XServer.h"
 
@@ -22,6 +23,8 @@ constexpr char ReadyVariable[] = "VESK_LOST_READY";
 /// The session whose display goes away while it does that.
 [[noreturn]] void DrawUntilLost(const QString& during)
 {
+    // As the program does: it may be writing to the display when that goes.
+    vesk::SurviveFailedWrites();
     ScriptedUser user;
     user.DrawLine(0, 0, 50, 0);
     DoHalf(user, during);

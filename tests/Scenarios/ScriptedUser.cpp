@@ -229,10 +229,12 @@ ScriptedUser& ScriptedUser::Until(std::function<bool()> condition)
 int ScriptedUser::Run(const Options& options)
 {
     Session session(options);
-    // Without a display the screen has 800 x 600 pixels: panes would give way.
+    // Without a display the screen has 800 x 600 pixels: panes would give way. On a larger one, a
+    // window manager keeps the window as large as the screen.
     m_steps.push_front([] {
         constexpr QSize Large(1200, 900);
-        const bool isLarge = FindWindow()->size() == Large;
+        const QSize size = FindWindow()->size();
+        const bool isLarge = size.expandedTo(Large) == size;
         if (!isLarge)
             FindWindow()->resize(Large);
         return isLarge;
