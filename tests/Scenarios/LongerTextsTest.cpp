@@ -14,6 +14,7 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QDockWidget>
+#include <QFileInfo>
 #include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
@@ -39,6 +40,12 @@ QString PlainText(const QString& text)
 bool IsInTip(const QString& tip, const QString& text)
 {
     return !text.isEmpty() && PlainText(tip).contains(PlainText(text));
+}
+
+/// A folder's path is as long as its user made it.
+bool IsUsersOwn(const QString& text)
+{
+    return QFileInfo(text).isAbsolute();
 }
 
 int WidthOf(const QWidget& widget, const QString& text)
@@ -75,8 +82,9 @@ QStringList CutTextsOf(const QComboBox& box)
     QStringList cut;
     for (int i = 0; i < box.count(); ++i)
     {
-        if (WidthOf(box, box.itemText(i)) > room)
-            cut << box.itemText(i);
+        const QString text = box.itemText(i);
+        if (WidthOf(box, text) > room && !IsUsersOwn(text))
+            cut << text;
     }
     return cut;
 }
