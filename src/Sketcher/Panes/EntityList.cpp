@@ -1,5 +1,7 @@
 #include "Panes/EntityList.h"
 
+#include "Panes/TextCellDelegate.h"
+
 #include <QEvent>
 #include <QHeaderView>
 #include <QItemSelectionModel>
@@ -23,6 +25,7 @@ EntityList::EntityList()
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setMinimumSectionSize(1);
+    setItemDelegate(new TextCellDelegate(this));
     FitRows();
 }
 

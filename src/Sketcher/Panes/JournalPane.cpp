@@ -2,6 +2,7 @@
 
 #include "Model/UiText.h"
 #include "Panes/JournalModel.h"
+#include "Panes/TextCellDelegate.h"
 
 #include "Journal/JournalManager.h"
 
@@ -30,6 +31,7 @@ JournalPane::JournalPane()
     m_pView->setObjectName(QStringLiteral("JournalRecords"));
     m_pView->setModel(m_pModel);
     m_pView->setUniformItemSizes(true);
+    m_pView->setItemDelegate(new TextCellDelegate(m_pView));
     m_pView->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_pView->setFrameShape(QFrame::NoFrame);
 
