@@ -5,7 +5,7 @@
 /// The site of a precondition of this library, for `vesk::Check`. `function` is the qualified name
 /// of the function.
 #define VESK_SITE(function, message)                                                               \
-    ::vesk::CheckSite                                                                              \
-    {                                                                                              \
-        __FILE__, __LINE__, function, message, L"vesk-ui", L"2026-11-21"                           \
+    [&] {                                                                                          \
+        return ::vesk::CheckSite{                                                                  \
+            __FILE__, __LINE__, function, message, L"vesk-ui", L"2026-11-21"};                     \
     }

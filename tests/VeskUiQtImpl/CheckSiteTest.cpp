@@ -21,7 +21,7 @@ private slots:
 void CheckSiteTest::aSiteTellsWhereItStands()
 {
     const int line = __LINE__ + 1;
-    const CheckSite site = VESK_SITE("vesk::QtButton::On", L"pArgs为空");
+    const CheckSite site = VESK_SITE("vesk::QtButton::On", L"pArgs为空")();
 
     QCOMPARE(QByteArray(site.file), QByteArray(__FILE__));
     QCOMPARE(site.line, line);

@@ -45,6 +45,7 @@ class CheckTest : public QObject
 private slots:
     void aTrueConditionIsReturnedSilently();
     void aFalseConditionIsReturnedAndReported();
+    void aSiteIsMadeForAFailureOnly();
 };
 
 void CheckTest::aTrueConditionIsReturnedSilently()
@@ -72,6 +73,24 @@ void CheckTest::aFalseConditionIsReturnedAndReported()
     QCOMPARE(warning.message, std::wstring(L"pArgs为空"));
     QCOMPARE(warning.person, std::wstring(L"vesk-ui"));
     QCOMPARE(warning.date, std::wstring(L"2026-11-21"));
+}
+
+void CheckTest::aSiteIsMadeForAFailureOnly()
+{
+    const Recorder recorder;
+    int made = 0;
+    const auto makeSite = [&made] {
+        ++made;
+        return Site;
+    };
+
+    QVERIFY(Check(true, makeSite));
+    QCOMPARE(made, 0);
+
+    QVERIFY(!Check(false, makeSite));
+    QCOMPARE(made, 1);
+    QCOMPARE(recorder.GetWarnings().size(), std::size_t{1});
+    QCOMPARE(recorder.GetWarnings().front().line, Site.line);
 }
 
 }

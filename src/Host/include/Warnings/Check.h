@@ -20,13 +20,22 @@ struct CheckSite
 VESK_HOST_API void ReportFailure(const CheckSite& site);
 
 /// Reports `site` as a debug warning when `condition` is false, and returns `condition`.
-///
-/// The caller itself returns from the function, so that every exit is visible in the code: `if
-/// (!Check(pArgs != nullptr, VESK_SITE("vesk::QtButton::On", L"pArgs为空"))) return;`
 inline bool Check(bool condition, const CheckSite& site)
 {
     if (!condition)
         ReportFailure(site);
+    return condition;
+}
+
+/// The same for the site that `makeSite()` returns, which costs nothing unless it is reported.
+///
+/// The caller itself returns from the function, so that every exit is visible in the code: `if
+/// (!Check(pArgs != nullptr, VESK_SITE("vesk::QtButton::On", L"pArgs为空"))) return;`
+template <class MakeSite>
+bool Check(bool condition, const MakeSite& makeSite)
+{
+    if (!condition)
+        ReportFailure(makeSite());
     return condition;
 }
 

@@ -149,9 +149,9 @@ void ControlDefinitionChangeEvent::TellWaiting(Telling& telling, FirstException&
 
 void ControlDefinitionChangeEvent::EmitProperty(bool isByUser)
 {
-    const std::wstring noCaption;
-    ChangeEventArgs args(ControlDefinitionChangeEventType::PropertyChanged, -1, noCaption, nullptr,
-                         isByUser);
+    static const std::wstring s_noCaption;
+    ChangeEventArgs args(ControlDefinitionChangeEventType::PropertyChanged, -1, s_noCaption,
+                         nullptr, isByUser);
     Emit(&args);
 }
 
