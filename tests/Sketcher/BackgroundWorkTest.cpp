@@ -14,6 +14,7 @@
 #include <QMimeData>
 #include <QPushButton>
 #include <QTimer>
+#include <QVector>
 #include <QtTest/qtestspontaneevent.h>
 
 #include <atomic>
@@ -33,6 +34,35 @@ struct WindowFixture
 
     QMainWindow window;
     vesk::ProgressBarDefinition progress{L"progress"};
+};
+
+/// What a progress bar shows while the window lives: each value above zero once.
+class ShownValue final : public QObject
+{
+public:
+    explicit ShownValue(const vesk::ProgressBarDefinition& bar) : m_bar(bar) { startTimer(0); }
+
+    /// In the other thread: reports the progress until it is shown.
+    void AdvanceTo(int percent, WorkProgress& progress) const
+    {
+        while (m_last != percent && progress.Advance(percent / 100.0))
+            std::this_thread::yield();
+    }
+
+    QVector<int> whileVisible;
+
+protected:
+    void timerEvent(QTimerEvent*) override
+    {
+        const int value = m_bar.GetValue();
+        if (!m_bar.IsVisible() || value == 0 || m_last.exchange(value) == value)
+            return;
+        whileVisible.append(value);
+    }
+
+private:
+    const vesk::ProgressBarDefinition& m_bar;
+    std::atomic<int> m_last{0};
 };
 
 /// Counts what is dragged over it and dropped.
@@ -65,23 +95,29 @@ private slots:
     void theWindowLivesMeanwhile()
     {
         WindowFixture f;
-        std::atomic<bool> isAnswered{false};
-        int shown = -1;
-        QTimer::singleShot(200, &f.window, [&] {
-            shown = f.progress.IsVisible() ? f.progress.GetValue() : -1;
-            isAnswered = true;
-        });
+        ShownValue shown(f.progress);
 
-        const bool isWhole =
-            RunInBackground(f.window, &f.progress, [&isAnswered](WorkProgress& progress) {
-                progress.Advance(0.25);
-                WaitFor(isAnswered, progress);
-            });
+        const bool isWhole = RunInBackground(
+            f.window, &f.progress, [&](WorkProgress& progress) { shown.AdvanceTo(25, progress); });
 
         QVERIFY(isWhole);
-        QCOMPARE(shown, 25);
+        QCOMPARE(shown.whileVisible, QVector<int>{25});
         QVERIFY(!f.progress.IsVisible());
         QVERIFY(f.window.menuWidget()->isEnabled());
+    }
+
+    void progressGrowsWithTheWork()
+    {
+        WindowFixture f;
+        ShownValue shown(f.progress);
+
+        RunInBackground(f.window, &f.progress, [&](WorkProgress& progress) {
+            for (const int percent : {10, 40, 80})
+                shown.AdvanceTo(percent, progress);
+        });
+
+        QCOMPARE(shown.whileVisible, (QVector<int>{10, 40, 80}));
+        QCOMPARE(f.progress.GetValue(), 0);
     }
 
     void workIsDoneInAnotherThread()
