@@ -1,3 +1,4 @@
+#include "RecoveryUser.h"
 #include "ScenarioTest.h"
 #include "ScriptedUser.h"
 
@@ -78,8 +79,41 @@ private slots:
         const int code = user.Run(m_pFixture->Draw());
         QLocale::setDefault(former);
         QCOMPARE(code, 0);
+        VerifyOnce(letters);
+    }
+
+    void eachLetterOfTheQuestionToSaveBelongsToOneControl_data()
+    {
+        QTest::addColumn<QLocale>("locale");
+
+        QTest::newRow("English") << QLocale(QLocale::English);
+        QTest::newRow("German") << QLocale(QLocale::German);
+        QTest::newRow("Chinese") << QLocale::c();
+    }
+
+    void eachLetterOfTheQuestionToSaveBelongsToOneControl()
+    {
+        QFETCH(QLocale, locale);
+        const ScopedVariable attended("VESK_UNATTENDED", {});
+        const QLocale former;
+        QLocale::setDefault(locale);
+        QStringList letters;
+        ScriptedUser user;
+        user.DrawLine(0, 0, 50, 20);
+        OpenDialog(user, "Sketcher.New");
+
+        user.Do([&letters] { letters = LettersOf(*FindQuestion()); }).Do(&Discard);
+
+        const int code = user.Run(Options());
+        QLocale::setDefault(former);
+        QCOMPARE(code, 0);
+        VerifyOnce(letters);
+    }
+
+private:
+    static void VerifyOnce(const QStringList& letters)
+    {
         QVERIFY(!letters.isEmpty());
-        qWarning() << letters;
         QStringList once = letters;
         once.removeDuplicates();
         QCOMPARE(letters.join(' '), once.join(' '));

@@ -1,4 +1,5 @@
 #include "LongerTexts.h"
+#include "RecoveryUser.h"
 #include "ScenarioTest.h"
 #include "ScriptedUser.h"
 #include "Settings/SettingsDialog.h"
@@ -234,6 +235,19 @@ private slots:
             .Do([] { ScriptedUser::FindDialog()->reject(); });
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
+    }
+
+    void nothingInTheQuestionToSaveIsCut()
+    {
+        const ScopedVariable attended("VESK_UNATTENDED", {});
+        ScriptedUser user;
+        Start(user);
+        user.DrawLine(0, 0, 50, 20);
+        OpenDialog(user, "Sketcher.New");
+
+        user.Do([] { QCOMPARE(CutTexts(), QString()); }).Do(&Discard);
+
+        QCOMPARE(user.Run(Options()), 0);
     }
 
 private:

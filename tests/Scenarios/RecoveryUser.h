@@ -78,6 +78,17 @@ inline QStringList Undecided()
     return journals;
 }
 
+/// Answers the question with "do not save".
+inline void Discard()
+{
+    const QMessageBox& question = *FindQuestion();
+    for (QAbstractButton* pButton : question.buttons())
+    {
+        if (question.buttonRole(pButton) == QMessageBox::DestructiveRole)
+            return pButton->click();
+    }
+}
+
 /// Answers with "do not save" whenever it is asked.
 class Discarder final : public QObject
 {
@@ -87,14 +98,8 @@ public:
 protected:
     void timerEvent(QTimerEvent*) override
     {
-        const QMessageBox* pQuestion = FindQuestion();
-        if (pQuestion == nullptr)
-            return;
-        for (QAbstractButton* pButton : pQuestion->buttons())
-        {
-            if (pQuestion->buttonRole(pButton) == QMessageBox::DestructiveRole)
-                return pButton->click();
-        }
+        if (FindQuestion() != nullptr)
+            Discard();
     }
 };
 
