@@ -547,8 +547,8 @@ Maßeingabe: %2</translation>
             <translation>Die Datei wurde mit einer neueren Programmversion gespeichert und lässt sich nur mit dieser öffnen.</translation>
         </message>
         <message>
-            <source>文件第 %1 行有错误（%2）。文件保持原样。</source>
-            <translation>Fehler in Zeile %1 der Datei (%2). Die Datei bleibt unverändert.</translation>
+            <source>文件第 %1 行有错误。文件保持原样。</source>
+            <translation>Fehler in Zeile %1 der Datei. Die Datei bleibt unverändert.</translation>
         </message>
         <message>
             <source>文件夹不存在。</source>
@@ -1524,6 +1524,10 @@ Maßeingabe: %2</translation>
         <message>
             <source>选择 %1</source>
             <translation>Auswählen %1</translation>
+        </message>
+        <message>
+            <source>%1 “%2” = %3</source>
+            <translation>%1 „%2“ = %3</translation>
         </message>
         <message>
             <source>撤销 #%1</source>

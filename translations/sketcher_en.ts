@@ -547,8 +547,8 @@ Dimension input: %2</translation>
             <translation>The file was saved by a newer version of the program; open it with that version.</translation>
         </message>
         <message>
-            <source>文件第 %1 行有错误（%2）。文件保持原样。</source>
-            <translation>Line %1 of the file is wrong (%2). The file is left as it is.</translation>
+            <source>文件第 %1 行有错误。文件保持原样。</source>
+            <translation>Line %1 of the file is wrong. The file is left as it is.</translation>
         </message>
         <message>
             <source>文件夹不存在。</source>
@@ -1524,6 +1524,10 @@ Dimension input: %2</translation>
         <message>
             <source>选择 %1</source>
             <translation>Select %1</translation>
+        </message>
+        <message>
+            <source>%1 “%2” = %3</source>
+            <translation>%1 “%2” = %3</translation>
         </message>
         <message>
             <source>撤销 #%1</source>

@@ -22,8 +22,7 @@ QString DamageOf(const DocumentReading& reading)
 {
     if (reading.outcome == DocumentReading::Outcome::Newer)
         return "该文件由更新版本的程序保存，请用新版本打开。"_tr;
-    return "文件第 %1 行有错误（%2）。文件保持原样。"_tr.arg(reading.line)
-        .arg(QString::fromStdString(reading.error));
+    return "文件第 %1 行有错误。文件保持原样。"_tr.arg(reading.line);
 }
 
 /// The best guess at why a file could not be written.

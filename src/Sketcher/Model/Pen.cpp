@@ -8,15 +8,28 @@ namespace
 {
 
 template <class Value>
-PenPart MakePart(const std::wstring& name, int Pen::*member, const std::vector<Value>& values)
+PenPart MakePart(const std::wstring& name, int Pen::*member, const std::vector<Value>& values,
+                 std::wstring (*getCaption)(std::size_t))
 {
-    PenPart part{name, member, {}, {}};
+    PenPart part{name, member, {}, getCaption};
     for (const Value& value : values)
-    {
         part.valueNames.push_back(value.name);
-        part.valueCaptions.push_back(value.caption);
-    }
     return part;
+}
+
+std::wstring CaptionOfStyle(std::size_t index)
+{
+    return Tr(LineStyles()[index].caption);
+}
+
+std::wstring CaptionOfColour(std::size_t index)
+{
+    return Tr(LineColours()[index].caption);
+}
+
+std::wstring CaptionOfWidth(std::size_t index)
+{
+    return QStringLiteral("%L1 mm").arg(LineWidths()[index].millimetres).toStdWString();
 }
 
 }
@@ -49,9 +62,8 @@ const std::vector<LineColour>& LineColours()
 const std::vector<LineWidth>& LineWidths()
 {
     static const std::vector<LineWidth> s_widths = {
-        {L"0.13", L"0.13 mm", 0.13}, {L"0.18", L"0.18 mm", 0.18}, {L"0.25", L"0.25 mm", 0.25},
-        {L"0.35", L"0.35 mm", 0.35}, {L"0.5", L"0.5 mm", 0.5},    {L"0.7", L"0.7 mm", 0.7},
-        {L"1", L"1 mm", 1.0},        {L"1.4", L"1.4 mm", 1.4},    {L"2", L"2 mm", 2.0},
+        {L"0.13", 0.13}, {L"0.18", 0.18}, {L"0.25", 0.25}, {L"0.35", 0.35}, {L"0.5", 0.5},
+        {L"0.7", 0.7},   {L"1", 1.0},     {L"1.4", 1.4},   {L"2", 2.0},
     };
     return s_widths;
 }
@@ -72,9 +84,9 @@ std::optional<int> PenPart::Find(const std::wstring& valueName) const
 const std::vector<PenPart>& PenParts()
 {
     static const std::vector<PenPart> s_parts = {
-        MakePart(L"style", &Pen::style, LineStyles()),
-        MakePart(L"colour", &Pen::colour, LineColours()),
-        MakePart(L"width", &Pen::width, LineWidths()),
+        MakePart(L"style", &Pen::style, LineStyles(), &CaptionOfStyle),
+        MakePart(L"colour", &Pen::colour, LineColours(), &CaptionOfColour),
+        MakePart(L"width", &Pen::width, LineWidths(), &CaptionOfWidth),
     };
     return s_parts;
 }

@@ -2,6 +2,7 @@
 
 #include <QColor>
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <vector>
@@ -33,9 +34,8 @@ struct LineColour
 
 struct LineWidth
 {
-    std::wstring name;    ///< In journals and files: the width in millimetres, such as "0.25".
-    std::wstring caption; ///< On screen; a source text.
-    double millimetres;   ///< On paper.
+    std::wstring name;  ///< In journals and files: the width in millimetres, such as "0.25".
+    double millimetres; ///< On paper.
 };
 
 /// All styles, colours and widths; a new drawing starts with those of a default Pen.
@@ -49,7 +49,9 @@ struct PenPart
     std::wstring name;
     int Pen::*member;
     std::vector<std::wstring> valueNames;
-    std::vector<std::wstring> valueCaptions;
+
+    /// What the value of that index is called on screen, in the language of the moment.
+    std::wstring (*getCaption)(std::size_t index);
 
     /// The value of that name; nothing if there is none.
     std::optional<int> Find(const std::wstring& valueName) const;

@@ -81,9 +81,9 @@ QString DescribeRecord(const JournalRecord& record)
             [](const CommandRecord& command) { return CommandText(command); },
             [](const PointRecord& point) { return PointText(point); },
             [](const ValueRecord& value) {
-                return QStringLiteral("%1 “%2” = %3")
-                    .arg(ToQString(CaptionOf(value.field)), Shortened(ToQString(value.text)),
-                         NumberText(value.value));
+                return "%1 “%2” = %3"_tr.arg(ToQString(CaptionOf(value.field)),
+                                             Shortened(ToQString(value.text)),
+                                             NumberText(value.value));
             },
             [](const SelectionRecord& selection) { return SelectionText(selection); },
             [](const PropertyRecord& property) {

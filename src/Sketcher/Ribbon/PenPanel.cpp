@@ -64,7 +64,7 @@ std::vector<PenPanel::Choice> PenPanel::ChoicesOf(const PenPart& part)
 {
     std::vector<Choice> choices;
     for (std::size_t i = 0; i < part.valueNames.size(); ++i)
-        choices.push_back({static_cast<int>(i), part.valueNames[i], Tr(part.valueCaptions[i])});
+        choices.push_back({static_cast<int>(i), part.valueNames[i], part.getCaption(i)});
     return choices;
 }
 

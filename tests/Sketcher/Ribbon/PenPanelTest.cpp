@@ -12,6 +12,7 @@
 #include "Support/TestValues.h"
 
 #include <QComboBox>
+#include <QLocale>
 
 #include <memory>
 #include <optional>
@@ -149,6 +150,18 @@ private slots:
 
         QVERIFY(lines.Get().isEmpty());
         QCOMPARE(f.Box("Sketcher.Layer").currentText(), QString("0"));
+    }
+
+    void widthsAreWrittenAsTheLocaleWritesNumbers()
+    {
+        const QLocale former;
+        QLocale::setDefault(QLocale::German);
+        const Fixture f;
+
+        const QString shown = f.Box("Sketcher.LineWidth").currentText();
+
+        QLocale::setDefault(former);
+        QCOMPARE(shown, QString("0,25 mm"));
     }
 };
 
