@@ -700,7 +700,7 @@ Maßeingabe: %2</translation>
         </message>
         <message>
             <source>光标移到下一栅格点，按 Shift 移十分之一；按 Ctrl 移动画面</source>
-            <translation>Cursor zum nächsten Rasterpunkt, mit Umschalt um ein Zehntel; mit Strg das Bild verschieben</translation>
+            <translation>Cursor zum nächsten Rasterpunkt, mit Shift um ein Zehntel; mit Ctrl das Bild verschieben</translation>
         </message>
         <message>
             <source>方向键之后的空格</source>
@@ -712,7 +712,7 @@ Maßeingabe: %2</translation>
         </message>
         <message>
             <source>Shift+空格</source>
-            <translation>Umschalt+Leertaste</translation>
+            <translation>Shift+Leertaste</translation>
         </message>
         <message>
             <source>开始框选，再按空格结束</source>
