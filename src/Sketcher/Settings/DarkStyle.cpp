@@ -1,8 +1,5 @@
 #include "Settings/DarkStyle.h"
 
-#include "Settings/TitleIcon.h"
-
-#include <QIcon>
 #include <QPainter>
 #include <QPalette>
 #include <QStyleOption>
@@ -26,23 +23,13 @@ void DrawFrame(QPainter& painter, const QStyleOption& option, bool isRound)
 
 }
 
-DarkStyle::DarkStyle() : QProxyStyle(QStringLiteral("fusion"))
-{
-    setObjectName(QLatin1String(Name));
-}
+DarkStyle::DarkStyle() : TitleIconStyle(QLatin1String(Name), QStringLiteral("fusion")) {}
 
 void DarkStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* pOption,
                               QPainter* pPainter, const QWidget* pWidget) const
 {
-    QProxyStyle::drawPrimitive(element, pOption, pPainter, pWidget);
+    TitleIconStyle::drawPrimitive(element, pOption, pPainter, pWidget);
     const bool isRound = element == PE_IndicatorRadioButton;
     if (isRound || element == PE_IndicatorCheckBox || element == PE_IndicatorItemViewItemCheck)
         DrawFrame(*pPainter, *pOption, isRound);
-}
-
-QIcon DarkStyle::standardIcon(StandardPixmap standard, const QStyleOption* pOption,
-                              const QWidget* pWidget) const
-{
-    const QIcon icon = MakeTitleIcon(standard);
-    return icon.isNull() ? QProxyStyle::standardIcon(standard, pOption, pWidget) : icon;
 }

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <QProxyStyle>
+#include "Settings/TitleIconStyle.h"
 
-/// The toolkit's own style, with what it draws black or not at all on dark colours in the colours
-/// of the palette: the frames of check and radio buttons, and the buttons in the titles of panes.
-class DarkStyle final : public QProxyStyle
+/// The toolkit's own style, with the frames of check and radio buttons, which it draws black, in a
+/// colour of the palette.
+class DarkStyle final : public TitleIconStyle
 {
     Q_OBJECT
 
@@ -14,7 +14,5 @@ public:
     DarkStyle();
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption* pOption, QPainter* pPainter,
-                       const QWidget* pWidget) const override;
-    QIcon standardIcon(StandardPixmap standard, const QStyleOption* pOption,
                        const QWidget* pWidget) const override;
 };

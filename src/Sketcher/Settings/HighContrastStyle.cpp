@@ -1,14 +1,11 @@
 #include "Settings/HighContrastStyle.h"
 
-#include "Settings/TitleIcon.h"
-
 #include <QPainter>
 #include <QStyleOption>
 
-HighContrastStyle::HighContrastStyle() : QProxyStyle(QStringLiteral("windows"))
-{
-    setObjectName(QLatin1String(Name));
-}
+HighContrastStyle::HighContrastStyle()
+    : TitleIconStyle(QLatin1String(Name), QStringLiteral("windows"))
+{}
 
 void HighContrastStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* pOption,
                                       QPainter* pPainter, const QWidget* pWidget) const
@@ -16,7 +13,7 @@ void HighContrastStyle::drawPrimitive(PrimitiveElement element, const QStyleOpti
     // A box around each text of the status bar tells nothing.
     if (element == PE_FrameStatusBarItem)
         return;
-    QProxyStyle::drawPrimitive(element, pOption, pPainter, pWidget);
+    TitleIconStyle::drawPrimitive(element, pOption, pPainter, pWidget);
     if (element != PE_IndicatorDockWidgetResizeHandle)
         return;
     QRect line = pOption->rect;
@@ -26,16 +23,10 @@ void HighContrastStyle::drawPrimitive(PrimitiveElement element, const QStyleOpti
     pPainter->fillRect(line, pOption->palette.color(QPalette::WindowText));
 }
 
-QIcon HighContrastStyle::standardIcon(StandardPixmap standard, const QStyleOption* pOption,
-                                      const QWidget* pWidget) const
-{
-    const QIcon icon = MakeTitleIcon(standard);
-    return icon.isNull() ? QProxyStyle::standardIcon(standard, pOption, pWidget) : icon;
-}
-
 int HighContrastStyle::styleHint(StyleHint hint, const QStyleOption* pOption,
                                  const QWidget* pWidget, QStyleHintReturn* pReturned) const
 {
-    return hint == SH_EtchDisabledText ? 0
-                                       : QProxyStyle::styleHint(hint, pOption, pWidget, pReturned);
+    return hint == SH_EtchDisabledText
+               ? 0
+               : TitleIconStyle::styleHint(hint, pOption, pWidget, pReturned);
 }

@@ -1,6 +1,7 @@
-#include "Settings/TitleIcon.h"
+#include "Settings/TitleIconStyle.h"
 
 #include <QGuiApplication>
+#include <QIcon>
 #include <QPainter>
 #include <QPalette>
 #include <QPixmap>
@@ -36,10 +37,16 @@ QIcon Draw(bool isClosing, const QColor& colour)
 
 }
 
-QIcon MakeTitleIcon(QStyle::StandardPixmap standard)
+TitleIconStyle::TitleIconStyle(const QString& name, const QString& base) : QProxyStyle(base)
 {
-    const bool isClosing = standard == QStyle::SP_TitleBarCloseButton;
-    if (!isClosing && standard != QStyle::SP_TitleBarNormalButton)
-        return {};
+    setObjectName(name);
+}
+
+QIcon TitleIconStyle::standardIcon(StandardPixmap standard, const QStyleOption* pOption,
+                                   const QWidget* pWidget) const
+{
+    const bool isClosing = standard == SP_TitleBarCloseButton;
+    if (!isClosing && standard != SP_TitleBarNormalButton)
+        return QProxyStyle::standardIcon(standard, pOption, pWidget);
     return Draw(isClosing, QGuiApplication::palette().color(QPalette::WindowText));
 }
