@@ -34,8 +34,8 @@ macro(vesk_compile_in_batches)
 endmacro()
 
 # Leaves in a list of sources one file of each Platform/<Name><System>.cpp: that of the target's window system, Windows or
-# X11, or else the one for all others. Each is compiled alone, for the headers of a system define macros with everyday
-# names.
+# X11, or else the one for all others; the header of the same name, if there is one, goes with it. Each is compiled alone,
+# for the headers of a system define macros with everyday names.
 function(vesk_select_platform_sources variable)
     if(WIN32)
         set(system Windows)
@@ -52,7 +52,8 @@ function(vesk_select_platform_sources variable)
             if(source STREQUAL chosen)
                 set_source_files_properties("${source}" PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
             else()
-                list(REMOVE_ITEM selected "${source}")
+                string(REGEX REPLACE "cpp$" "h" header "${source}")
+                list(REMOVE_ITEM selected "${source}" "${header}")
             endif()
         endif()
     endforeach()

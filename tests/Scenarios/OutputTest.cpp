@@ -23,10 +23,11 @@
 namespace
 {
 
-/// Two lines and a text, in no unit.
-const QByteArray s_dxf = "0\nSECTION\n2\nENTITIES\n0\nLINE\n8\naxes\n10\n1\n20\n2\n11\n3\n21\n4\n"
-                         "0\nLINE\n8\n0\n10\n5\n20\n5\n11\n7\n21\n8\n0\nTEXT\n8\n0\n1\nx\n"
-                         "0\nENDSEC\n0\nEOF\n";
+/// Two lines and a text, in no unit. The comment is what some programs take for the end of a text.
+const QByteArray s_dxf =
+    "0\nSECTION\n2\nENTITIES\n999\n\x1a\n0\nLINE\n8\naxes\n10\n1\n20\n2\n11\n3\n21\n4\n"
+    "0\nLINE\n8\n0\n10\n5\n20\n5\n11\n7\n21\n8\n0\nTEXT\n8\n0\n1\nx\n"
+    "0\nENDSEC\n0\nEOF\n";
 
 template <class Dialog>
 Dialog* Opened()

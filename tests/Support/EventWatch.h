@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAbstractEventDispatcher>
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QEvent>
@@ -39,13 +40,23 @@ public:
 
     bool eventFilter(QObject* pWatched, QEvent* pEvent) override
     {
-        if (m_pDriver == nullptr || pWatched->parent() != m_pDriver)
+        const bool isDrivers = m_pDriver != nullptr && pWatched->parent() == m_pDriver;
+        if (!isDrivers && !IsOnItsWay(pWatched, *pEvent))
             m_events << QMetaEnum::fromType<QEvent::Type>().valueToKey(pEvent->type()) +
                             QStringLiteral(" to ") + pWatched->metaObject()->className();
         return false;
     }
 
 private:
+    /// On Windows the event dispatcher is told by an event that a timer is due, also by one of the
+    /// driver. The timer's own event, which follows, is what counts.
+    static bool IsOnItsWay(const QObject* pWatched, const QEvent& event)
+    {
+        const bool isTimer =
+            event.type() == QEvent::Timer || event.type() == QEvent::ZeroTimerEvent;
+        return isTimer && pWatched == QAbstractEventDispatcher::instance();
+    }
+
     const QObject* m_pDriver;
     QElapsedTimer m_clock;
     QStringList m_events;

@@ -95,6 +95,29 @@ private slots:
         QVERIFY(ComesToRest());
     }
 
+    void timersDoNotWakeIt_data()
+    {
+        QTest::addColumn<QEvent::Type>("type");
+
+        QTest::newRow("due") << QEvent::Timer;
+        QTest::newRow("announced, as on Windows") << QEvent::ZeroTimerEvent;
+    }
+
+    void timersDoNotWakeIt()
+    {
+        QFETCH(QEvent::Type, type);
+        Fixture f;
+        QVERIFY(ComesToRest());
+        const Ticks ticks;
+        QObject receiver;
+
+        QEvent event(type);
+        QCoreApplication::sendEvent(&receiver, &event);
+        LetTimePass();
+
+        QCOMPARE(ticks.count, 0);
+    }
+
     void itRefreshesWhileOneEventFollowsAnother()
     {
         Fixture f;

@@ -186,10 +186,11 @@ void Inspector::hideEvent(QHideEvent* pEvent)
 }
 
 /// Every change follows some event, or is a change event. Timers do not count: what they change
-/// causes other events, and two watchers with timers would wake each other for ever.
+/// causes other events, and two watchers with timers would wake each other for ever. On Windows
+/// a timer without an interval is announced by another event.
 bool Inspector::eventFilter(QObject* pWatched, QEvent* pEvent)
 {
-    if (pEvent->type() != QEvent::Timer)
+    if (pEvent->type() != QEvent::Timer && pEvent->type() != QEvent::ZeroTimerEvent)
         RefreshSoon();
     return QWidget::eventFilter(pWatched, pEvent);
 }
