@@ -94,6 +94,7 @@ private slots:
                 ScriptedUser::FindWindow()->resizeDocks({&PaneDriver::Widget("Entities")}, {270},
                                                         Qt::Horizontal);
             })
+            .Until([] { return PaneDriver::Widget("Journal").width() == 270; })
             .Do([&] {
                 before = PaneDriver::Widget("Journal").geometry();
                 window = ScriptedUser::FindWindow()->size();

@@ -45,14 +45,17 @@ private:
             s_messages << message;
     }
 
-    /// A display without a screen cannot do everything windows ask of it, and says so. Qt 6 also
-    /// complains if a cell that Return is to close, which it does from the event loop, was closed
-    /// before by the choice of another row. What was typed there has been taken by then.
+    /// A display without a screen cannot do everything windows ask of it, and says so; nor can
+    /// Wine. Qt 6 also complains if a cell that Return is to close, which it does from the event
+    /// loop, was closed before by the choice of another row. What was typed there has been taken by
+    /// then.
     static bool IsOfTheToolkit(const QString& message)
     {
         const QString late =
             "QAbstractItemView::%1 called with an editor that does not belong to this view";
         return message.startsWith("This plugin does not support") ||
+               (message.startsWith("EnableNonClientDpiScaling()") &&
+                message.endsWith("(Call not implemented.)")) ||
                (QT_VERSION_MAJOR == 6 &&
                 (message == late.arg("commitData") || message == late.arg("closeEditor")));
     }

@@ -41,12 +41,16 @@ bool Fits(const QSize& size)
     return size.boundedTo(Screen) == size;
 }
 
-void Resize(const QSize& size)
+/// Waits until the content follows: with a real screen, only when the system tells of the new size.
+void Resize(ScriptedUser& user, const QSize& size)
 {
-    SketcherWindow& window = *ScriptedUser::FindWindow();
-    window.resize(size);
-    QCoreApplication::sendPostedEvents();
-    QCOMPARE(window.size(), size);
+    user.Do([size] { ScriptedUser::FindWindow()->resize(size); });
+    user.Until([size] {
+        const SketcherWindow& window = *ScriptedUser::FindWindow();
+        const QRect content = window.layout()->geometry();
+        return window.size() == size &&
+               QPoint(size.width(), size.height()) == content.bottomRight() + QPoint(1, 1);
+    });
 }
 
 }
@@ -76,10 +80,10 @@ private slots:
         QLocale::setDefault(locale);
         ScriptedUser user;
 
-        user.Do([] {
-            for (const QSize size : {QSize(800, 560), Screen, QSize(480, 400)})
-            {
-                Resize(size);
+        for (const QSize size : {QSize(800, 560), Screen, QSize(480, 400)})
+        {
+            Resize(user, size);
+            user.Do([size] {
                 const SketcherWindow& window = *ScriptedUser::FindWindow();
                 const QRect inside = window.rect();
                 QVERIFY(inside.contains(window.menuWidget()->geometry()));
@@ -90,8 +94,8 @@ private slots:
                         window.centralWidget()->geometry().top());
                 QVERIFY(window.centralWidget()->geometry().bottom() <
                         window.statusBar()->geometry().top());
-            }
-        });
+            });
+        }
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
     }
@@ -112,8 +116,8 @@ private slots:
         QFETCH(QSize, least);
         ScriptedUser user;
 
-        user.Do([window, least] {
-            Resize(window);
+        Resize(user, window);
+        user.Do([least] {
             const QSize view = ScriptedUser::FindView()->size();
             QVERIFY2(view.expandedTo(least) == view, qPrintable(TextOf(view)));
         });
@@ -123,17 +127,18 @@ private slots:
 
     void panesComeBackWithTheRoom()
     {
+        constexpr QSize Large(1200, 900);
+        QRect view;
         ScriptedUser user;
 
-        user.Do([] {
-            SketcherWindow& window = *ScriptedUser::FindWindow();
-            const QSize before = window.size();
-            const QRect view = window.centralWidget()->geometry();
-            Resize(Screen);
-            QVERIFY(window.centralWidget()->geometry() != view);
-            Resize(before);
-            QCOMPARE(window.centralWidget()->geometry(), view);
-        });
+        Resize(user, Large);
+        user.Do([&view] { view = ScriptedUser::FindWindow()->centralWidget()->geometry(); });
+        Resize(user, Screen);
+        user.Do(
+            [&view] { QVERIFY(ScriptedUser::FindWindow()->centralWidget()->geometry() != view); });
+        Resize(user, Large);
+        user.Do(
+            [&view] { QCOMPARE(ScriptedUser::FindWindow()->centralWidget()->geometry(), view); });
 
         QCOMPARE(user.Run(m_pFixture->Draw()), 0);
     }
@@ -154,8 +159,8 @@ private slots:
         ScriptedUser user;
         const QString text(300, QStringLiteral("汉").at(0));
 
+        Resize(user, size);
         user.Do([size, text] {
-            Resize(size);
             SketcherWindow& window = *ScriptedUser::FindWindow();
             const QRect view = window.centralWidget()->geometry();
             const QSize least = window.layout()->totalMinimumSize();
