@@ -148,6 +148,8 @@ private slots:
         SmallRun run;
         run.Pane("C")->hide();
         run.Pane("C")->show();
+        run.Pane("A")->raise();
+        SmallRun::SettleAll();
 
         run.Resize(450, 900);
 

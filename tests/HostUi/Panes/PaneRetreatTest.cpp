@@ -2,6 +2,7 @@
 #include "Support/TestValues.h"
 
 #include <QDataStream>
+#include <QMap>
 #include <QMouseEvent>
 
 namespace vesk::test
@@ -210,20 +211,6 @@ private slots:
         QVERIFY(run.Pane("D")->isVisible());
         QVERIFY(run.Pane("F")->isVisible());
         QCOMPARE(run.Docked(), QString());
-    }
-
-    void paneBehindATabHasTheSizeOfTheOneInFront()
-    {
-        SmallRun run;
-        run.window.resizeDocks({run.Pane("A")}, {310}, Qt::Horizontal);
-        SmallRun::SettleAll();
-        run.Resize(800, 900);
-
-        run.Pane("C")->raise();
-        SmallRun::SettleAll();
-        run.Resize(1200, 900);
-
-        QCOMPARE(run.Pane("C")->width(), 310);
     }
 
     void paneInAnotherAreaHasASizeOfItsOwn()
