@@ -58,6 +58,30 @@ private slots:
         QCOMPARE(window.closings, 0);
         QVERIFY(window.isVisible());
     }
+
+    void otherEventsAndOtherObjectsEndNothing_data()
+    {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<bool>("isProgram");
+
+        QTest::newRow("another event") << int(QEvent::User) << true;
+        QTest::newRow("another object") << int(QEvent::Quit) << false;
+    }
+
+    void otherEventsAndOtherObjectsEndNothing()
+    {
+        QFETCH(int, type);
+        QFETCH(bool, isProgram);
+        QObject other;
+        const QuitWithoutClosing quitting;
+        QTimer::singleShot(0, qApp, [=, &other] {
+            QEvent event(static_cast<QEvent::Type>(type));
+            QCoreApplication::sendEvent(isProgram ? qApp : &other, &event);
+        });
+        QTimer::singleShot(1, qApp, [] { QCoreApplication::exit(7); });
+
+        QCOMPARE(QApplication::exec(), 7);
+    }
 };
 
 VESK_TESTS(QuitWithoutClosingTest);

@@ -53,7 +53,7 @@ bool RibbonOpening::eventFilter(QObject* pWatched, QEvent* pEvent)
     if (type == QEvent::MouseButtonRelease && m_isClickElsewhere)
     {
         m_done.start(0);
-        return true;
+        return isOfWindow(widget);
     }
     if (isKey(*pEvent, QEvent::KeyPress, Qt::Key_Escape) &&
         QApplication::activePopupWidget() == nullptr)
@@ -76,6 +76,11 @@ bool RibbonOpening::isOfRibbon(const QWidget& widget) const
     return pWidget != nullptr;
 }
 
+bool RibbonOpening::isOfWindow(const QWidget& widget) const
+{
+    return widget.window() == m_bar.window();
+}
+
 /// True if the event makes a button act, or closes a list or menu.
 bool RibbonOpening::isDone(const QWidget& widget, const QEvent& event) const
 {
@@ -90,12 +95,8 @@ bool RibbonOpening::isDone(const QWidget& widget, const QEvent& event) const
 bool RibbonOpening::onPress(const QWidget& widget)
 {
     // One on a list or menu is no click elsewhere, nor one that only closes it.
-    if (isOfRibbon(widget) || QApplication::activePopupWidget() != nullptr)
-        return false;
-    m_isClickElsewhere = widget.window() == m_bar.window();
-    if (!m_isClickElsewhere)
-        m_done.start(0);
-    return m_isClickElsewhere;
+    m_isClickElsewhere = !isOfRibbon(widget) && QApplication::activePopupWidget() == nullptr;
+    return m_isClickElsewhere && isOfWindow(widget);
 }
 
 void RibbonOpening::onFocusChanged(QWidget*, QWidget* pNow)

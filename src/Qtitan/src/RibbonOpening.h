@@ -31,6 +31,7 @@ signals:
 
 private:
     bool isOfRibbon(const QWidget& widget) const;
+    bool isOfWindow(const QWidget& widget) const;
     bool isDone(const QWidget& widget, const QEvent& event) const;
     bool onPress(const QWidget& widget);
     void onFocusChanged(QWidget* pOld, QWidget* pNow);

@@ -5,7 +5,12 @@
 #include <QHBoxLayout>
 #include <QImage>
 #include <QPainter>
+#include <QStyle>
+#include <QStyleFactory>
 #include <QWidget>
+
+#include <functional>
+#include <memory>
 
 namespace vesk::test
 {
@@ -33,7 +38,15 @@ int LastInk(const QImage& picture)
     return -1;
 }
 
+using Change = std::function<void(QLabel&)>;
+
 }
+}
+
+Q_DECLARE_METATYPE(vesk::test::Change)
+
+namespace vesk::test
+{
 
 /// A label that shows as much of its text as fits.
 class ElidedLabelTest final : public QObject
@@ -48,6 +61,7 @@ private slots:
         for (QLabel* pLabel : {static_cast<QLabel*>(&label), &plain})
         {
             pLabel->setText(s_text);
+            pLabel->setAlignment(Qt::AlignCenter);
             pLabel->resize(900, 30);
         }
 
@@ -55,14 +69,35 @@ private slots:
         QCOMPARE(label.sizeHint(), plain.sizeHint());
     }
 
+    void textThatDoesNotFitEndsInAnEllipsis_data()
+    {
+        QTest::addColumn<Change>("change");
+
+        QTest::newRow("plain") << Change([](QLabel&) {});
+        QTest::newRow("disabled") << Change([](QLabel& label) { label.setEnabled(false); });
+        QTest::newRow("disabled, etched") << Change([](QLabel& label) {
+            static const std::unique_ptr<QStyle> s_pStyle(QStyleFactory::create("windows"));
+            label.setStyle(s_pStyle.get());
+            label.setEnabled(false);
+        });
+        QTest::newRow("in another colour")
+            << Change([](QLabel& label) { label.setForegroundRole(QPalette::Highlight); });
+        QTest::newRow("right to left")
+            << Change([](QLabel& label) { label.setLayoutDirection(Qt::RightToLeft); });
+    }
+
     void textThatDoesNotFitEndsInAnEllipsis()
     {
+        QFETCH(Change, change);
         ElidedLabel label;
         label.setText(s_text);
-        ElidedLabel shorter;
+        QLabel shorter;
         shorter.setText(label.fontMetrics().elidedText(s_text, Qt::ElideRight, 120));
-        label.resize(120, 30);
-        shorter.resize(120, 30);
+        for (QLabel* pLabel : {static_cast<QLabel*>(&label), &shorter})
+        {
+            pLabel->resize(120, 30);
+            change(*pLabel);
+        }
 
         const QImage picture = PictureOf(label);
 
@@ -111,6 +146,7 @@ private slots:
         window.layout()->activate();
 
         QCOMPARE(window.minimumSizeHint().width(), least);
+        QCOMPARE(pLabel->minimumSizeHint().height(), QLabel("x").minimumSizeHint().height());
     }
 };
 

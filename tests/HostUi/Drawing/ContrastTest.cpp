@@ -62,7 +62,15 @@ private slots:
         QTest::newRow("white on black") << PaletteOf(black, black, white) << true;
         QTest::newRow("black on white") << PaletteOf(white, white, black) << true;
         QTest::newRow("grey windows") << PaletteOf(white, QColor(0xef, 0xef, 0xef), black) << false;
-        QTest::newRow("grey text") << PaletteOf(white, white, QColor(0x50, 0x50, 0x50)) << false;
+        QPalette greyGround = PaletteOf(white, white, black);
+        greyGround.setColor(QPalette::Window, QColor(0xef, 0xef, 0xef));
+        QTest::newRow("grey ground") << greyGround << false;
+        QPalette greyButtons = PaletteOf(white, white, black);
+        greyButtons.setColor(QPalette::Button, QColor(0xef, 0xef, 0xef));
+        QTest::newRow("grey buttons") << greyButtons << false;
+        QTest::newRow("nearly white on nearly black")
+            << PaletteOf(QColor(8, 8, 8), QColor(8, 8, 8), QColor(0xf0, 0xf0, 0xf0)) << true;
+        QTest::newRow("grey text") << PaletteOf(white, white, QColor(0x2a, 0x2a, 0x2a)) << false;
     }
 
     void highContrastIsOneBackgroundAndItsOpposite()
@@ -113,6 +121,26 @@ private slots:
 
         QVERIFY(ContrastOf(colour, palette.color(QPalette::Base)) >= least);
         QCOMPARE(colour.alpha(), 120);
+    }
+
+    void itIsChangedNoMoreThanItMustBe_data()
+    {
+        QTest::addColumn<QColor>("paper");
+
+        QTest::newRow("light") << QColor(Qt::white);
+        QTest::newRow("dark") << QColor(0x1b, 0x1c, 0x1f);
+    }
+
+    void itIsChangedNoMoreThanItMustBe()
+    {
+        QFETCH(QColor, paper);
+        const QPalette palette = PaletteOf(paper, QColor(0x60, 0x60, 0x60), Qt::red);
+        const QColor ink = paper == Qt::white ? QColor(0xff, 0x90, 0x30) : QColor(0x20, 0x40, 0x90);
+
+        const QColor colour = Legible(ink, palette);
+
+        QVERIFY(ContrastOf(colour, paper) < 5.0);
+        QVERIFY(std::abs(colour.hue() - ink.hue()) <= 5);
     }
 };
 

@@ -11,6 +11,8 @@
 #include <QMenu>
 #include <QPointer>
 
+#include <memory>
+
 namespace vesk
 {
 
@@ -51,6 +53,13 @@ struct MenuFixture
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Minus, Qt::AltModifier);
     }
 
+    /// As the widget under the mouse passes it on to the window.
+    void RightClick(const QPoint& place)
+    {
+        QContextMenuEvent click(QContextMenuEvent::Mouse, place, window.mapToGlobal(place));
+        QCoreApplication::sendEvent(&window, &click);
+    }
+
     /// Opens the menu by its key and chooses an entry by its letter.
     void Choose(char letter) const
     {
@@ -71,7 +80,20 @@ struct MenuFixture
     }
 
     QMainWindow window;
-    PaneMenu menu{window, nullptr};
+    std::unique_ptr<PaneMenu> pMenu = std::make_unique<PaneMenu>(window, nullptr);
+};
+
+/// Destroys what is closed.
+class Deleter final : public QObject
+{
+protected:
+    bool eventFilter(QObject* pWatched, QEvent* pEvent) override
+    {
+        if (pEvent->type() != QEvent::Close)
+            return false;
+        delete pWatched;
+        return true;
+    }
 };
 
 }
@@ -136,6 +158,28 @@ private slots:
 
         QVERIFY(!pane.isFloating());
         QCOMPARE(fixture.window.dockWidgetArea(&pane), Qt::LeftDockWidgetArea);
+    }
+
+    void floatingPaneIsDockedByTheSameEntry()
+    {
+        MenuFixture fixture;
+        QDockWidget& pane = fixture.Pane("upper");
+        fixture.window.tabifyDockWidget(&pane, &fixture.Pane("lower"));
+        pane.raise();
+        pane.widget()->setFocus();
+        fixture.PressKey();
+        QVERIFY(fixture.Entry("浮动")->isCheckable());
+        QVERIFY(!fixture.Entry("浮动")->isChecked());
+        QTest::keyClick(fixture.Menu(), 'f');
+        QTRY_COMPARE(QApplication::focusWidget(), pane.widget());
+
+        fixture.PressKey();
+        QVERIFY(fixture.Entry("浮动")->isChecked());
+        QTest::keyClick(fixture.Menu(), 'f');
+
+        QVERIFY(!pane.isFloating());
+        QTRY_COMPARE(QApplication::focusWidget(), pane.widget());
+        QVERIFY(!pane.visibleRegion().isEmpty());
     }
 
     void paneGetsMoreRoomOrLess_data()
@@ -210,29 +254,117 @@ private slots:
         QCOMPARE(fixture.Menu(), nullptr);
     }
 
+    void keyDoesNothingInPanesOfAWindowWithin()
+    {
+        MenuFixture fixture;
+        auto* pInner = new QMainWindow;
+        auto* pPane = new QDockWidget(pInner);
+        pPane->setWidget(new QListWidget);
+        pInner->addDockWidget(Qt::LeftDockWidgetArea, pPane);
+        fixture.window.setCentralWidget(pInner);
+        QCoreApplication::processEvents();
+        pPane->widget()->setFocus();
+        QCOMPARE(QApplication::focusWidget(), pPane->widget());
+
+        fixture.PressKey();
+
+        QCOMPARE(fixture.Menu(), nullptr);
+    }
+
+    void keyIsFreeOnceTheMenusAreGone()
+    {
+        MenuFixture fixture;
+        fixture.pMenu.reset();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        fixture.PressKey();
+        QCOMPARE(fixture.Menu(), nullptr);
+
+        fixture.pMenu = std::make_unique<PaneMenu>(fixture.window, nullptr);
+        fixture.PressKey();
+
+        QVERIFY(fixture.Menu() != nullptr);
+    }
+
+    void keyOpensTheMenuAtThePane()
+    {
+        const MenuFixture fixture;
+        fixture.Pane("right").widget()->setFocus();
+
+        fixture.PressKey();
+
+        QCOMPARE(fixture.Menu()->pos(), fixture.Pane("right").mapToGlobal(QPoint()));
+    }
+
     void titleThatIsRightClickedOpensTheMenu_data()
     {
+        QTest::addColumn<QString>("place");
         QTest::addColumn<bool>("isTitle");
 
-        QTest::newRow("title") << true;
-        QTest::newRow("content") << false;
+        QTest::newRow("title") << "title" << true;
+        QTest::newRow("title of a pane without content") << "empty" << true;
+        QTest::newRow("content") << "plain" << false;
+        QTest::newRow("part of the content") << "list" << false;
+        QTest::newRow("view") << "view" << false;
     }
 
     void titleThatIsRightClickedOpensTheMenu()
     {
-        QFETCH(bool, isTitle);
+        QFETCH(QString, place);
         MenuFixture fixture;
         QDockWidget& pane = fixture.Pane("right");
-        const QPoint place = isTitle ? QPoint(20, 3) : pane.widget()->geometry().center();
-        const QPoint inWindow = pane.mapTo(&fixture.window, place);
-        QContextMenuEvent click(QContextMenuEvent::Mouse, inWindow,
-                                fixture.window.mapToGlobal(inWindow));
+        if (place == "empty")
+            delete pane.widget();
+        if (place == "plain")
+            pane.setWidget(new QWidget);
+        QCoreApplication::processEvents();
+        QWidget* pWidget = place == "view" ? fixture.window.centralWidget() : pane.widget();
+        const bool isTitle = place == "title" || place == "empty";
+        const QPoint click = isTitle ? pane.mapTo(&fixture.window, QPoint(20, 3))
+                                     : pWidget->mapTo(&fixture.window, pWidget->rect().center());
 
-        PaneMenu& filter = fixture.menu;
-        const bool isTaken = static_cast<QObject&>(filter).eventFilter(&fixture.window, &click);
+        fixture.RightClick(click);
 
-        QCOMPARE(isTaken, isTitle);
-        QCOMPARE(fixture.Menu() != nullptr, isTitle);
+        QTEST(fixture.Menu() != nullptr, "isTitle");
+        if (isTitle)
+        {
+            QCOMPARE(fixture.Menu()->pos(), fixture.window.mapToGlobal(click));
+            QCOMPARE(QApplication::activePopupWidget(), fixture.Menu());
+        }
+    }
+
+    void otherEventsOfTheWindowOpenNothing()
+    {
+        MenuFixture fixture;
+        const QPoint title = fixture.Pane("right").mapTo(&fixture.window, QPoint(20, 3));
+
+        QTest::mouseMove(&fixture.window, title);
+
+        QCOMPARE(fixture.Menu(), nullptr);
+    }
+
+    void choiceWithoutTheKeyboardAnywhereGivesItToNobody()
+    {
+        MenuFixture fixture;
+        QApplication::focusWidget()->clearFocus();
+        fixture.RightClick(fixture.Pane("right").mapTo(&fixture.window, QPoint(20, 3)));
+
+        QTest::keyClick(fixture.Menu(), 'l');
+
+        QCOMPARE(fixture.window.dockWidgetArea(&fixture.Pane("right")), Qt::LeftDockWidgetArea);
+        QCOMPARE(QApplication::focusWidget(), nullptr);
+    }
+
+    void paneMayBeDestroyedByWhatIsChosen()
+    {
+        const MenuFixture fixture;
+        const QPointer<QDockWidget> pPane = &fixture.Pane("upper");
+        Deleter deleter;
+        pPane->installEventFilter(&deleter);
+
+        fixture.PressKey();
+        QTest::keyClick(fixture.Menu(), 'c');
+
+        QVERIFY(pPane == nullptr);
     }
 
     void menuGoesWithItsPane()
@@ -244,7 +376,7 @@ private slots:
 
         delete &fixture.Pane("upper");
 
-        QVERIFY(pMenu == nullptr);
+        QTRY_VERIFY(pMenu == nullptr);
     }
 };
 

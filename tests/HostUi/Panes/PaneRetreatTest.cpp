@@ -1,80 +1,28 @@
-#include "HostUi/PaneRun.h"
+#include "HostUi/SmallPaneRun.h"
 #include "Support/TestValues.h"
 
+#include <QDataStream>
+#include <QMap>
 #include <QMouseEvent>
-
-#include <algorithm>
-#include <cstdlib>
 
 namespace vesk::test
 {
 namespace
 {
 
-/// A drawing that needs 400 x 300.
-class Centre final : public QWidget
+/// A layout with another part that tells which panes have given way.
+QByteArray WithRetreat(const QByteArray& layout, const QByteArray& retreat)
 {
-public:
-    QSize minimumSizeHint() const override { return {400, 300}; }
-};
-
-/// A run whose window may be as small as the user likes, at first with room for all panes.
-struct SmallRun : Run
-{
-    SmallRun()
-    {
-        window.setMinimumSize(100, 100);
-        window.setCentralWidget(new Centre);
-        pLayout->RestoreDefault();
-        Resize(1200, 900);
-    }
-
-    void Resize(int width, int height)
-    {
-        window.resize(width, height);
-        SettleAll();
-    }
-
-    /// Until the panes are arranged for the window, in as many steps as it takes.
-    static void SettleAll()
-    {
-        for (int i = 0; i < 5; ++i)
-            Settle();
-    }
-
-    /// The names of the panes that take room in the window.
-    QString Docked()
-    {
-        QString names;
-        for (const char* name : {"A", "B", "C", "D", "E", "F"})
-        {
-            if (!Pane(name)->isHidden() && !Pane(name)->isFloating())
-                names += QLatin1String(name);
-        }
-        return names;
-    }
-
-    /// Where those are that are in front when C is.
-    QList<QRect> Places()
-    {
-        QList<QRect> places;
-        for (const char* name : {"B", "C", "D", "E", "F"})
-            places << Pane(name)->geometry();
-        return places;
-    }
-
-    QSize CentreSize() const { return window.centralWidget()->size(); }
-};
-
-/// The toolkit rounds when panes share the height of their area.
-bool AreAlike(const QList<QRect>& places, const QList<QRect>& others)
-{
-    return std::equal(places.begin(), places.end(), others.begin(), others.end(),
-                      [](const QRect& place, const QRect& other) {
-                          return place.left() == other.left() && place.width() == other.width() &&
-                                 std::abs(place.top() - other.top()) <= 1 &&
-                                 std::abs(place.height() - other.height()) <= 1;
-                      });
+    QByteArray state;
+    QMap<QString, QRect> places;
+    QDataStream in(layout);
+    in.setVersion(QDataStream::Qt_5_12);
+    in >> state >> places;
+    QByteArray changed;
+    QDataStream out(&changed, QIODevice::WriteOnly);
+    out.setVersion(QDataStream::Qt_5_12);
+    out << state << places << retreat;
+    return changed;
 }
 
 }
@@ -112,6 +60,35 @@ private slots:
         QCOMPARE(run.Docked(), docked);
         if (size.width() >= 400 && size.height() >= 300)
             QCOMPARE(run.CentreSize().expandedTo(QSize(400, 300)), run.CentreSize());
+    }
+
+    void panesGiveWayAndComeBackAtOnce()
+    {
+        SmallRun run;
+
+        run.window.resize(480, 350);
+        QCOMPARE(run.Docked(), QString());
+
+        run.window.resize(1200, 900);
+        QCOMPARE(run.Docked(), QString("ABCDEF"));
+    }
+
+    void sharesComeBackThoughAPaneHadTheAreaToItself()
+    {
+        SmallRun run;
+        run.Pane("F")->hide();
+        for (const char* name : {"A", "B"})
+            run.Pane(name)->widget()->setMinimumHeight(200);
+        run.window.resizeDocks({run.Pane("A"), run.Pane("B")}, {480, 240}, Qt::Vertical);
+        SmallRun::SettleAll();
+        const int height = run.Pane("B")->height();
+        QVERIFY(height < 300);
+
+        run.Resize(1200, 420);
+        QCOMPARE(run.Docked(), QString("BDE"));
+        run.Resize(1200, 900);
+
+        QVERIFY(std::abs(run.Pane("B")->height() - height) <= 1);
     }
 
     void allComesBackAsItWas()
@@ -225,31 +202,112 @@ private slots:
     void floatingPanesDoNotGiveWay()
     {
         SmallRun run;
+        run.Pane("D")->setFloating(true);
         run.Pane("F")->setFloating(true);
         Run::Settle();
 
         run.Resize(480, 350);
 
+        QVERIFY(run.Pane("D")->isVisible());
         QVERIFY(run.Pane("F")->isVisible());
         QCOMPARE(run.Docked(), QString());
     }
 
+    void paneInAnotherAreaHasASizeOfItsOwn()
+    {
+        SmallRun run;
+        run.Pane("E")->hide();
+        run.window.resizeDocks({run.Pane("A")}, {310}, Qt::Horizontal);
+        SmallRun::SettleAll();
+        run.Resize(800, 900);
+        QVERIFY(run.Pane("A")->width() < 310);
+
+        run.window.addDockWidget(Qt::TopDockWidgetArea, run.Pane("D"));
+        SmallRun::SettleAll();
+        const int height = run.Pane("D")->height();
+        run.Resize(1200, 950);
+
+        QCOMPARE(run.Pane("D")->height(), height);
+    }
+
+    void windowStaysAnimated()
+    {
+        SmallRun run;
+        run.window.setAnimated(true);
+
+        run.Resize(480, 350);
+        run.Resize(1200, 900);
+
+        QVERIFY(run.window.isAnimated());
+    }
+
+    void theLayoutOfASmallWindowHoldsAllPanes_data()
+    {
+        QTest::addColumn<QSize>("size");
+
+        QTest::newRow("panes have given way") << QSize(480, 350);
+        QTest::newRow("panes are smaller") << QSize(800, 900);
+    }
+
     void theLayoutOfASmallWindowHoldsAllPanes()
     {
+        QFETCH(QSize, size);
         SmallRun run;
         run.window.resizeDocks({run.Pane("A")}, {310}, Qt::Horizontal);
         run.Pane("C")->raise();
         Run::Settle();
         const QList<QRect> before = run.Places();
-        run.Resize(480, 350);
+        run.Resize(size.width(), size.height());
         const QByteArray saved = run.pLayout->Save();
 
         SmallRun other;
         QVERIFY(other.pLayout->Restore(saved));
-        other.Resize(1200, 900);
+        SmallRun::SettleAll();
 
         QCOMPARE(other.Docked(), QString("ABCDEF"));
         QVERIFY(AreAlike(other.Places(), before));
+    }
+
+    void damagedPartOfALayoutIsForgotten_data()
+    {
+        QTest::addColumn<QByteArray>("part");
+
+        QTest::newRow("empty") << QByteArray();
+        QTest::newRow("too short") << QByteArray("\0\0\0\1", 4);
+        QTest::newRow("too many") << QByteArray("\x7f\xff\xff\xff", 4);
+    }
+
+    void damagedPartOfALayoutIsForgotten()
+    {
+        QFETCH(QByteArray, part);
+        SmallRun other;
+        other.Pane("D")->hide();
+        other.Pane("E")->hide();
+        const QByteArray damaged = WithRetreat(other.pLayout->Save(), part);
+        SmallRun run;
+        run.Resize(700, 900);
+        QCOMPARE(run.Docked(), QString("ABCF"));
+
+        QVERIFY(run.pLayout->Restore(damaged));
+        run.Resize(1200, 900);
+
+        QCOMPARE(run.Docked(), QString("ABCF"));
+    }
+
+    void panesOfALayoutWithoutSizesComeBackAsTheyWere()
+    {
+        SmallRun other;
+        other.window.resizeDocks({other.Pane("A")}, {310}, Qt::Horizontal);
+        SmallRun::SettleAll();
+        SmallRun run;
+
+        QVERIFY(run.pLayout->Restore(WithRetreat(other.pLayout->Save(), {})));
+        SmallRun::SettleAll();
+        QCOMPARE(run.Pane("A")->width(), 310);
+        run.Resize(800, 900);
+        run.Resize(1200, 900);
+
+        QCOMPARE(run.Pane("A")->width(), 310);
     }
 
     void theFactoryLayoutGivesWayToo()

@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QHeaderView>
 #include <QImage>
 #include <QPalette>
 #include <QStyle>
@@ -40,6 +41,7 @@ void Fill(QTableWidget& table)
                                "Ångström قائمة 长",
                                "",
                                "7",
+                               "a (ق)",
                                "first\nsecond"};
     table.setRowCount(2);
     table.setColumnCount(texts.size());
@@ -49,7 +51,7 @@ void Fill(QTableWidget& table)
         for (int row = 0; row < 2; ++row)
             table.setItem(row, column, new QTableWidgetItem(texts[column]));
     }
-    table.resize(600, 120);
+    table.resize(700, 120);
     table.setWordWrap(false);
 }
 
@@ -89,7 +91,13 @@ void TextCellDelegateTest::cellsLookAsTheStylePaintsThem_data()
         {"plain", [](QTableWidget&) {}},
         {"selected", [](QTableWidget& table) { table.selectRow(0); }},
         {"one selected cell", [](QTableWidget& table) { table.item(1, 0)->setSelected(true); }},
-        {"with the focus", [](QTableWidget& table) { table.setCurrentCell(0, 2); }},
+        {"with the focus",
+         [](QTableWidget& table) {
+             table.activateWindow();
+             QVERIFY(QTest::qWaitForWindowActive(&table, vesk::test::PatienceMs));
+             table.setFocus();
+             table.setCurrentCell(0, 2);
+         }},
         {"right to left", [](QTableWidget& table) { table.setLayoutDirection(Qt::RightToLeft); }},
         {"behind another window",
          [](QTableWidget& table) {
@@ -106,7 +114,11 @@ void TextCellDelegateTest::cellsLookAsTheStylePaintsThem_data()
          [](QTableWidget& table) {
              table.item(0, 2)->setTextAlignment(Qt::AlignRight | Qt::AlignBottom);
          }},
-        {"low rows", [](QTableWidget& table) { table.setRowHeight(0, 9); }},
+        {"low rows",
+         [](QTableWidget& table) {
+             table.verticalHeader()->setMinimumSectionSize(9);
+             table.setRowHeight(0, 9);
+         }},
         {"large font",
          [](QTableWidget& table) {
              QFont font = table.font();

@@ -11,6 +11,7 @@
 #include <QDBusVariant>
 #include <QDBusVirtualObject>
 #include <QMap>
+#include <QPalette>
 #include <QProcess>
 #include <QSignalSpy>
 
@@ -60,11 +61,11 @@ public:
         if (call.member() != "Read" || call.arguments().value(0) != QString(AppearanceSpace))
             return false;
         const QString key = call.arguments().value(1).toString();
-        // Two variants, one in the other, as desktops do.
+        // Two variants, one in the other, as desktops do. What an error says is no value.
         if (m_values.contains(key))
             bus.send(call.createReply(Packed(Packed(m_values[key]))));
         else
-            bus.send(call.createErrorReply(QDBusError::InvalidArgs, key));
+            bus.send(call.createErrorReply(QDBusError::InvalidArgs, "1"));
         return true;
     }
 
@@ -117,17 +118,6 @@ private slots:
         QVERIFY(m_bus.waitForFinished());
     }
 
-    void withoutABusNothingIsAskedFor()
-    {
-        const ScopedVariable none("DBUS_SESSION_BUS_ADDRESS", QString());
-        m_pDesktop->Set("color-scheme", 1);
-
-        const DesktopWish wish;
-
-        QVERIFY(!wish.IsDark());
-        QVERIFY(!wish.IsHighContrast());
-    }
-
     void desktopIsAsked_data()
     {
         QTest::addColumn<QString>("key");
@@ -152,6 +142,22 @@ private slots:
         QTRY_VERIFY(wish.IsDark() == isDark && wish.IsHighContrast() == isHighContrast);
     }
 
+    /// The toolkit keeps the connection of a wish before.
+    void withoutABusNothingIsAskedFor()
+    {
+        auto pNone = std::make_unique<ScopedVariable>("DBUS_SESSION_BUS_ADDRESS", QString());
+        const DesktopWish wish;
+        pNone.reset();
+        m_pDesktop->Set("color-scheme", 1);
+        m_pDesktop->Set("contrast", 1);
+        const DesktopWish asked;
+
+        QTRY_VERIFY(asked.IsDark() && asked.IsHighContrast());
+
+        QVERIFY(!wish.IsDark());
+        QVERIFY(!wish.IsHighContrast());
+    }
+
     void changeIsTold()
     {
         m_pDesktop->Set("color-scheme", 1);
@@ -160,12 +166,19 @@ private slots:
         const QSignalSpy changes(&wish, &DesktopWish::changed);
 
         m_pDesktop->Change(AppearanceSpace, "color-scheme", 1);
-        m_pDesktop->Change("org.example", "color-scheme", 0);
-        m_pDesktop->Change(AppearanceSpace, "accent-color", 0);
+        m_pDesktop->Change("org.example", "contrast", 1);
+        m_pDesktop->Change(AppearanceSpace, "accent-color", 1);
+        m_pDesktop->Change(AppearanceSpace, "contrast", 2);
         m_pDesktop->Change(AppearanceSpace, "color-scheme", 2);
 
         QTRY_VERIFY(!wish.IsDark());
         QCOMPARE(changes.count(), 1);
+        m_pDesktop->Change(AppearanceSpace, "contrast", 1);
+        m_pDesktop->Change(AppearanceSpace, "contrast", 1);
+        m_pDesktop->Change(AppearanceSpace, "color-scheme", 1);
+        QTRY_VERIFY(wish.IsDark());
+        QVERIFY(wish.IsHighContrast());
+        QCOMPARE(changes.count(), 3);
     }
 
     void programFollows()
@@ -184,6 +197,47 @@ private slots:
         m_pDesktop->Change(AppearanceSpace, "contrast", 0);
         m_pDesktop->Change(AppearanceSpace, "color-scheme", 0);
         QTRY_VERIFY(!IsDarkShown());
+    }
+
+    void desktopsColoursComeBackAtTheEnd()
+    {
+        m_pDesktop->Set("color-scheme", 1);
+        auto pAppearance = std::make_unique<Appearance>();
+        pAppearance->FollowDesktop();
+        QTRY_VERIFY(IsDarkShown());
+
+        pAppearance.reset();
+
+        QVERIFY(!IsDarkShown());
+    }
+
+    void paletteThatTheToolkitKnowsStays_data()
+    {
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QPalette>("palette");
+
+        QPalette contrast(Qt::white);
+        contrast.setColor(QPalette::Base, Qt::white);
+        contrast.setColor(QPalette::Text, Qt::black);
+        QTest::newRow("dark") << "color-scheme" << QPalette(QColor(0x20, 0x30, 0x40));
+        QTest::newRow("high contrast") << "contrast" << contrast;
+    }
+
+    void paletteThatTheToolkitKnowsStays()
+    {
+        QFETCH(QString, key);
+        QFETCH(QPalette, palette);
+        m_pDesktop->Set(key, 1);
+        QApplication::setPalette(palette);
+        Appearance appearance;
+
+        appearance.FollowDesktop();
+        const DesktopWish asked;
+        QTRY_VERIFY(asked.IsDark() || asked.IsHighContrast());
+
+        const QColor base = QApplication::palette().color(QPalette::Base);
+        QApplication::setPalette(QPalette());
+        QCOMPARE(base, palette.color(QPalette::Base));
     }
 
     void coloursThatTheUserHasChosenStay()

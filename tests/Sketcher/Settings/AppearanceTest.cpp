@@ -1,11 +1,14 @@
 #include "Settings/Appearance.h"
 
 #include "Settings/DarkStyle.h"
+#include "Settings/HighContrastStyle.h"
 
+#include "HostUi/Contrast.h"
 #include "Support/TestValues.h"
 
 #include <QApplication>
 #include <QPalette>
+#include <QPointer>
 #include <QStyle>
 #include <QToolTip>
 
@@ -41,6 +44,8 @@ class AppearanceTest final : public QObject
     Q_OBJECT
 
 private slots:
+    void init() { QApplication::setPalette(QPalette()); }
+
     void lightIsLightAndDarkIsDark()
     {
         Appearance appearance;
@@ -77,8 +82,97 @@ private slots:
         QVERIFY(contrast(QPalette::WindowText, QPalette::Window) >= 7.0);
         QVERIFY(contrast(QPalette::ButtonText, QPalette::Button) >= 7.0);
         QVERIFY(contrast(QPalette::ToolTipText, QPalette::ToolTipBase) >= 7.0);
+        QVERIFY(contrast(QPalette::Text, QPalette::AlternateBase) >= 7.0);
         QVERIFY(contrast(QPalette::Link, QPalette::Base) >= 4.5);
+        QVERIFY(contrast(QPalette::LinkVisited, QPalette::Base) >= 4.5);
         QVERIFY(contrast(QPalette::HighlightedText, QPalette::Highlight) >= 3.0);
+    }
+
+    void whatIsDisabledIsFaint_data() { textCanBeRead_data(); }
+
+    void whatIsDisabledIsFaint()
+    {
+        QFETCH(Settings::Colours, colours);
+        Appearance appearance;
+        appearance.Set(colours);
+        const QPalette palette = QApplication::palette();
+        const QColor paper = palette.color(QPalette::Base);
+        const QColor text = palette.color(QPalette::Text);
+
+        for (const QColor& faint : {palette.color(QPalette::Disabled, QPalette::Text),
+                                    palette.color(QPalette::Disabled, QPalette::WindowText),
+                                    palette.color(QPalette::Disabled, QPalette::ButtonText),
+                                    palette.color(QPalette::Disabled, QPalette::Highlight),
+                                    palette.color(QPalette::PlaceholderText)})
+        {
+            QCOMPARE(faint.alpha(), 255);
+            QVERIFY(Contrast(faint, paper) >= 2.0);
+            QVERIFY(Contrast(faint, paper) < Contrast(text, paper) - 1.0);
+        }
+        QVERIFY(palette.color(QPalette::Disabled, QPalette::Highlight) !=
+                palette.color(QPalette::Highlight));
+    }
+
+    void allEdgesAreSeenInHighContrast()
+    {
+        Appearance appearance;
+        appearance.Set(Settings::Colours::HighContrast);
+        const QPalette palette = QApplication::palette();
+
+        QVERIFY(vesk::IsHighContrast(palette));
+        for (const auto role :
+             {QPalette::Light, QPalette::Midlight, QPalette::Mid, QPalette::Dark, QPalette::Shadow})
+            QVERIFY(Contrast(palette.color(role), palette.color(QPalette::Window)) >= 7.0);
+    }
+
+    void eachLookHasItsStyle_data()
+    {
+        QTest::addColumn<Settings::Colours>("colours");
+        QTest::addColumn<QString>("style");
+
+        QTest::newRow("light") << Settings::Colours::Light << "fusion";
+        QTest::newRow("dark") << Settings::Colours::Dark << QString(DarkStyle::Name);
+        QTest::newRow("high contrast")
+            << Settings::Colours::HighContrast << QString(HighContrastStyle::Name);
+    }
+
+    void eachLookHasItsStyle()
+    {
+        QFETCH(Settings::Colours, colours);
+        QApplication::setStyle(QStringLiteral("windows"));
+        Appearance appearance;
+
+        appearance.Set(colours);
+
+        QTEST(QApplication::style()->objectName(), "style");
+    }
+
+    void coloursThatAreShownAreNotSetAgain()
+    {
+        QApplication::setStyle(QStringLiteral("fusion"));
+        const QPointer<QStyle> pStyle = QApplication::style();
+        Appearance appearance;
+
+        appearance.Set(Settings::Colours::Light);
+        QVERIFY(pStyle != nullptr);
+        QApplication::setPalette(QPalette(Qt::red));
+        appearance.Set(Settings::Colours::Light);
+
+        QCOMPARE(QApplication::palette().color(QPalette::Button), QColor(Qt::red));
+    }
+
+    void toolTipsHaveTheColoursOfAll()
+    {
+        const QPalette before = QToolTip::palette();
+        Appearance appearance;
+
+        appearance.Set(Settings::Colours::Dark);
+        QVERIFY(QToolTip::palette().color(QPalette::ToolTipBase).lightness() < 96);
+        QVERIFY(QToolTip::palette().color(QPalette::ToolTipText).lightness() > 192);
+
+        appearance.Set(Settings::Colours::Desktop);
+        QCOMPARE(QToolTip::palette().color(QPalette::ToolTipBase),
+                 before.color(QPalette::ToolTipBase));
     }
 
     void theDesktopsColoursComeBack_data()

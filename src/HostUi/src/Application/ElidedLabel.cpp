@@ -27,7 +27,7 @@ void ElidedLabel::paintEvent(QPaintEvent* pEvent)
     }
     QPainter painter(this);
     style()->drawItemText(&painter, room, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
-                          palette(), isEnabled(), shown, foregroundRole());
+                          palette(), isEnabled(), shown);
 }
 
 }

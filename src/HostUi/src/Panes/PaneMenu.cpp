@@ -55,15 +55,13 @@ PaneMenu::PaneMenu(QMainWindow& window, QObject* pParent) : QObject(pParent), m_
 {
     window.installEventFilter(this);
     auto* pKey = new QShortcut(QKeySequence(QStringLiteral("Alt+-")), &window);
-    // Also in panes that float.
-    pKey->setContext(Qt::ApplicationShortcut);
     connect(pKey, &QShortcut::activated, this, &PaneMenu::OnKey);
     connect(this, &QObject::destroyed, pKey, &QObject::deleteLater);
 }
 
 bool PaneMenu::eventFilter(QObject* pWatched, QEvent* pEvent)
 {
-    if (pWatched != &m_window || pEvent->type() != QEvent::ContextMenu)
+    if (pEvent->type() != QEvent::ContextMenu)
         return QObject::eventFilter(pWatched, pEvent);
     const auto& event = static_cast<const QContextMenuEvent&>(*pEvent);
     QWidget* pHit = m_window.childAt(event.pos());
@@ -86,8 +84,10 @@ void PaneMenu::OnKey()
 
 void PaneMenu::Open(QDockWidget& pane, const QPoint& position)
 {
-    // A child of the pane: it must not outlive it.
-    auto* pMenu = new QMenu(&pane);
+    // Not a child of the pane: what is chosen may destroy that, and the toolkit still uses the menu
+    // afterwards.
+    auto* pMenu = new QMenu(&m_window);
+    connect(&pane, &QObject::destroyed, pMenu, &QMenu::close);
     pMenu->setObjectName(QStringLiteral("PaneMenu"));
     pMenu->setAttribute(Qt::WA_DeleteOnClose);
     if (pane.features() & QDockWidget::DockWidgetFloatable)
