@@ -57,8 +57,7 @@ private slots:
 
         QTest::newRow("damaged") << QByteArray("{\n\"format\":}")
                                  << "文件第 2 行有错误。文件保持原样。";
-        QTest::newRow("empty") << QByteArray()
-                               << "文件第 1 行有错误。文件保持原样。";
+        QTest::newRow("empty") << QByteArray() << "文件第 1 行有错误。文件保持原样。";
         QTest::newRow("newer") << QByteArray("{\"format\":\"vesk-drawing\",\"version\":2}")
                                << "该文件由更新版本的程序保存，请用新版本打开。";
     }
