@@ -64,21 +64,16 @@ private slots:
     {
         QFETCH(QLocale, locale);
         QFETCH(QString, command);
-        const ScopedVariable attended("VESK_UNATTENDED", {});
-        const QLocale former;
-        QLocale::setDefault(locale);
-        QStringList letters;
         ScriptedUser user;
-        user.DrawLine(0, 0, 50, 20);
+        QStringList letters;
 
+        user.DrawLine(0, 0, 50, 20);
         user.Do([command] { ScriptedUser::FindButton(command)->click(); })
             .Until([] { return ScriptedUser::FindDialog() != nullptr; })
             .Do([&letters] { letters = LettersOf(*ScriptedUser::FindDialog()); })
             .Do([] { ScriptedUser::FindDialog()->reject(); });
 
-        const int code = user.Run(m_pFixture->Draw());
-        QLocale::setDefault(former);
-        QCOMPARE(code, 0);
+        QCOMPARE(RunIn(locale, user, m_pFixture->Draw()), 0);
         VerifyOnce(letters);
     }
 
@@ -94,23 +89,29 @@ private slots:
     void eachLetterOfTheQuestionToSaveBelongsToOneControl()
     {
         QFETCH(QLocale, locale);
-        const ScopedVariable attended("VESK_UNATTENDED", {});
-        const QLocale former;
-        QLocale::setDefault(locale);
-        QStringList letters;
         ScriptedUser user;
+        QStringList letters;
+
         user.DrawLine(0, 0, 50, 20);
         OpenDialog(user, "Sketcher.New");
-
         user.Do([&letters] { letters = LettersOf(*FindQuestion()); }).Do(&Discard);
 
-        const int code = user.Run(Options());
-        QLocale::setDefault(former);
-        QCOMPARE(code, 0);
+        QCOMPARE(RunIn(locale, user, Options()), 0);
         VerifyOnce(letters);
     }
 
 private:
+    /// Runs an attended session in the language of a locale.
+    static int RunIn(const QLocale& locale, ScriptedUser& user, const Options& options)
+    {
+        const ScopedVariable attended("VESK_UNATTENDED", {});
+        const QLocale former;
+        QLocale::setDefault(locale);
+        const int code = user.Run(options);
+        QLocale::setDefault(former);
+        return code;
+    }
+
     static void VerifyOnce(const QStringList& letters)
     {
         QVERIFY(!letters.isEmpty());
